@@ -1,0 +1,76 @@
+# Build helpers: one small static library for each platform folder, one library for the plain
+# modules of the eight subsystem folders, one for their windows.
+
+add_library(vestrola_options INTERFACE)
+target_include_directories(vestrola_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(vestrola_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+target_compile_definitions(vestrola_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+if(VESTROLA_WERROR)
+  target_compile_options(vestrola_options INTERFACE -Werror)
+endif()
+if(VESTROLA_SANITIZE)
+  target_compile_options(vestrola_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                    -fno-omit-frame-pointer)
+  target_link_options(vestrola_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(VESTROLA_FUZZ)
+  target_compile_options(vestrola_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# vestrola_platform(<folder> SOURCES ... LIBRARIES ...): static library vestrola_<folder>
+function(vestrola_platform name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(vestrola_${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(vestrola_${name} PUBLIC vestrola_options Qt6::Core ${ARG_LIBRARIES})
+endfunction()
+
+# vestrola_modules(SOURCES...): plain routines and records of one subsystem folder (no widgets)
+function(vestrola_modules)
+  target_sources(vestrola_modules PRIVATE ${ARGN})
+endfunction()
+
+# vestrola_windows(SOURCES...): windows, and the modules that touch them, of one subsystem folder
+function(vestrola_windows)
+  target_sources(vestrola_windows PRIVATE ${ARGN})
+endfunction()
+
+# vestrola_gtest(<name> SOURCES ... LIBRARIES ...): a GoogleTest program with a QCoreApplication
+function(vestrola_gtest name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE vestrola_options vestrola_test_main GTest::gtest ${ARG_LIBRARIES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
+                                             SHARED_DIR="${CMAKE_SOURCE_DIR}/../shared"
+                                             TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# vestrola_qtest(<name> SOURCES ... LIBRARIES ...): a Qt Test program with real widgets, offscreen
+function(vestrola_qtest name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE vestrola_options Qt6::Test ${ARG_LIBRARIES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
+                                             TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+# vestrola_fuzz(<name> SOURCES ... LIBRARIES ...): a libFuzzer target when fuzzing is built; otherwise a
+# program that replays its seed corpus tests/fuzz/corpus/<name>, run as a test
+function(vestrola_fuzz name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE vestrola_options ${ARG_LIBRARIES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  if(VESTROLA_FUZZ)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  else()
+    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/fuzz/replay_main.cpp)
+    add_test(NAME ${name}_corpus COMMAND ${name} ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus/${name})
+    set_tests_properties(${name}_corpus PROPERTIES TIMEOUT 300)
+  endif()
+endfunction()
