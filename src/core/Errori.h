@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/Status.h"
+
+/// The standard Italian text of an error number, used where a failure brings no text of its own.
+QString testoErrore(ErrorCode codice);

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+#include <utility>
+
+#include "platform/Status.h"
+
+/// The program's three ways of meeting a failure:
+///   unguarded: the procedure has no handling; esigi() and fallisci() throw a Fallimento, which the nearest
+///              carry-on caller takes, or else the window event that started it all (see Evento.h), which shows it and
+///              ends the program;
+///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number and text
+///              are remembered and the next statement runs;
+///   fall back: ripiega() gives a defined result instead.
+/// Nothing else in the program catches or throws.
+
+/// A failed statement on its way up.
+class Fallimento : public std::exception {
+  public:
+    Fallimento(int numero, QString testo);
+    int numero() const { return m_numero; }
+    const QString& testo() const { return m_testo; }
+    const char* what() const noexcept override { return m_utf8.constData(); }
+
+  private:
+    int m_numero;
+    QString m_testo;
+    QByteArray m_utf8;
+};
+
+/// Throws; an empty text stands for the number's standard text (Errori.h).
+[[noreturn]] void fallisci(ErrorCode codice, const QString& testo = {});
+
+/// Throws unless the platform call succeeded.
+void esigi(const Status& stato);
+template <class T>
+T esigi(Result<T> risultato) {
+    esigi(risultato.status());
+    return std::move(risultato).value();
+}
+
+/// State of one carry-on procedure: the last failure since azzera().
+class Prosegui {
+  public:
+    /// Runs one statement; true when it went through. What it would have set keeps its value otherwise, provided
+    /// that the assignment is the statement's last act.
+    template <class Istruzione>
+    bool operator()(Istruzione&& istruzione) {
+        try {
+            std::forward<Istruzione>(istruzione)();
+            return true;
+        } catch (const Fallimento& fallimento) {
+            m_numero = fallimento.numero();
+            m_testo = fallimento.testo();
+            return false;
+        }
+    }
+
+    int numero() const { return m_numero; }
+    const QString& testo() const { return m_testo; }
+    void azzera() {
+        m_numero = 0;
+        m_testo.clear();
+    }
+
+  private:
+    int m_numero = 0;
+    QString m_testo;
+};
+
+/// The result of `calcolo`, or `valore` when it fails.
+template <class T, class Calcolo>
+T ripiega(T valore, Calcolo&& calcolo) {
+    try {
+        return std::forward<Calcolo>(calcolo)();
+    } catch (const Fallimento&) {
+        return valore;
+    }
+}

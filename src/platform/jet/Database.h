@@ -1,0 +1,133 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/jet/TableDefinition.h"
+#include "platform/jet/Value.h"
+#include "platform/Status.h"
+
+namespace jet {
+
+/// Identity of a row: the page and slot of its original place. It never changes while the row lives.
+struct RowId {
+    uint32_t page = 0;
+    uint8_t slot = 0;
+    bool operator==(const RowId&) const = default;
+    auto operator<=>(const RowId&) const = default;
+
+    int64_t toInteger() const { return (static_cast<int64_t>(page) << 8) | slot; }
+    static RowId fromInteger(int64_t value) {
+        return {static_cast<uint32_t>(value >> 8), static_cast<uint8_t>(value & 0xff)};
+    }
+};
+
+/// A table of the catalogue.
+struct CatalogEntry {
+    enum class Kind { Local, Linked, Query };
+    QString name;
+    Kind kind = Kind::Local;
+    bool system = false;
+    uint32_t definitionPage = 0;
+};
+
+/// A row's bytes seen through its table's definition. Borrowed: valid until the next call on the Database.
+class RowView {
+  public:
+    RowView() = default;
+    RowView(const TableDefinition* definition, std::span<const uint8_t> bytes)
+        : m_definition(definition), m_bytes(bytes) {}
+
+    const TableDefinition& definition() const { return *m_definition; }
+    std::span<const uint8_t> bytes() const { return m_bytes; }
+
+    bool isNull(size_t column) const;
+    /// The column's value decoded; memo and OLE values are those stored in the row's own bytes only, so use
+    /// Table::value() for them. Damaged rows give Null for what cannot be read.
+    Value value(size_t column) const;
+    /// Fast paths. text() appends the UTF-8 form to `out` and returns false for Null.
+    bool text(size_t column, std::string& out) const;
+    int64_t integer(size_t column) const;
+    bool yesNo(size_t column) const;
+
+  private:
+    const TableDefinition* m_definition = nullptr;
+    std::span<const uint8_t> m_bytes;
+};
+
+class Database;
+
+/// Rows and indexes of one local table of an open database. Owned by the Database; valid as long as it is open.
+class Table {
+  public:
+    const TableDefinition& definition() const;
+
+    /// Calls `visit` for each row in page order until it returns false. Only reading is allowed meanwhile.
+    Status scan(const std::function<bool(RowId, const RowView&)>& visit);
+    /// The row of that identity; no row there is an empty optional.
+    Result<std::optional<RowView>> row(RowId id);
+    /// One value, following memo and OLE values to their pages.
+    Result<Value> value(RowId id, size_t column);
+    /// The row with that number in the primary key, found through the index. Only for tables with longPrimaryKey().
+    Result<std::optional<RowId>> findByPrimaryKey(int32_t key);
+
+    /// Why no row of this table may be changed, or success. Looks at everything that could not be kept right:
+    /// indexes on other than one long, columns that are not understood, enforced relations, read-only files.
+    Status writable();
+    /// Takes the next auto-number for a row that will be inserted; it is burnt if the row is not.
+    Result<int32_t> takeAutoNumber();
+    /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null gets the
+    /// next number. Only between begin() and commit().
+    Result<RowId> insert(std::span<const Value> values);
+    /// Changes the columns named by position. Only between begin() and commit().
+    Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
+    Status erase(RowId id);
+};
+
+/// A Jet file. Every read outside a transaction sees the file as it is on disk: refresh() tells whether it was
+/// changed by somebody else since the last call and drops what was cached if so.
+class Database {
+  public:
+    struct Options {
+        QString password;
+        bool readOnly = false;
+    };
+
+    /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a missing
+    /// or unreadable file, a file that is no Jet 4 database, one that is truncated, or a wrong password.
+    static Result<std::unique_ptr<Database>> open(const QString& path, const Options& options);
+    static Result<std::unique_ptr<Database>> open(const QString& path) { return open(path, {}); }
+    ~Database();
+
+    const QString& path() const;
+    /// Tables of the catalogue by name (system tables included and marked).
+    Result<std::vector<CatalogEntry>> catalog();
+    /// A local table by name, case ignored. Linked tables and queries are refused.
+    Result<Table*> table(QStringView name);
+
+    /// Makes sure that what is cached agrees with the file. The value is true when the file had been changed from
+    /// outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
+    Result<bool> refresh();
+
+    /// Starts a transaction: takes the write lock (bounded wait) and opens the rollback journal. Nothing is written to
+    /// the file before the journal is synced.
+    Status begin();
+    /// Makes the transaction durable: after it returns success the changes survive a crash.
+    Status commit();
+    /// Puts the file back to what it was at begin().
+    void rollback();
+    bool inTransaction() const;
+};
+
+/// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their primary keys and
+/// field properties) to `path`. Fails when the file exists.
+Status createEmptyDatabase(const QString& path);
+
+}  // namespace jet

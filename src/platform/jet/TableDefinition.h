@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "platform/jet/Value.h"
+
+namespace jet {
+
+/// One column of a table. Positions in `TableDefinition::columns` are display positions, the order of SELECT *.
+struct Column {
+    QString name;
+    Type type = Type::Long;
+    uint16_t number = 0;         ///< addresses the null mask of a row; deleted columns leave gaps
+    uint16_t variableIndex = 0;  ///< place in a row's list of variable values
+    uint16_t displayPosition = 0;
+    uint16_t fixedOffset = 0;  ///< place in a row's fixed area
+    uint16_t length = 0;       ///< in bytes; characters are half of it for text
+    bool fixed = false;
+    bool autoNumber = false;
+    bool compressed = false;  ///< text may be written in the compressed form
+};
+
+/// One real index.
+struct Index {
+    struct Part {
+        uint16_t column = 0;  ///< column number, not position
+        bool ascending = true;
+    };
+    QString name;  ///< of the first logical index over it
+    std::vector<Part> parts;
+    uint32_t rootPage = 0;
+    uint32_t mapPointer = 0;  ///< owned-pages map: low byte row, page above it
+    bool unique = false;
+    bool ignoreNulls = false;
+    bool required = false;
+    bool primaryKey = false;
+};
+
+/// What a table's definition pages tell. Read by Database; never changed in memory by its users.
+struct TableDefinition {
+    QString name;
+    uint32_t page = 0;  ///< first definition page, also the table's id
+    std::vector<Column> columns;
+    std::vector<Index> indexes;
+    uint16_t maxColumns = 0;
+    uint16_t variableColumns = 0;
+    uint32_t ownedMap = 0;
+    uint32_t roomMap = 0;
+    bool enforcedRelation = false;  ///< a foreign key that would have to be enforced on writing
+
+    /// Position of the column of that name, case ignored.
+    std::optional<size_t> find(QStringView columnName) const;
+    /// Position of the one column of the primary key, when it is a single ascending long.
+    std::optional<size_t> longPrimaryKey() const;
+};
+
+}  // namespace jet

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace jet {
+
+/// Column types as they stand in a table definition.
+enum class Type : uint8_t {
+    YesNo = 1,
+    Byte = 2,
+    Integer = 3,
+    Long = 4,
+    Currency = 5,
+    Single = 6,
+    Double = 7,
+    Date = 8,
+    Binary = 9,
+    Text = 10,
+    Ole = 11,
+    Memo = 12,
+    Guid = 15,
+    Numeric = 16,
+};
+
+using Bytes = std::vector<uint8_t>;
+
+/// Days since 1899-12-30, the time of day in the fraction.
+struct Date {
+    double days = 0;
+    bool operator==(const Date&) const = default;
+};
+
+/// Amount in ten-thousandths.
+struct Currency {
+    int64_t tenThousandths = 0;
+    bool operator==(const Currency&) const = default;
+};
+
+/// One value of a row. std::monostate is Null, which is distinct from the empty text.
+///   yes/no: bool · byte, integer, long: int64_t · single, double: double · date: Date · currency: Currency
+///   text, memo: std::string in UTF-8 · everything else: the raw Bytes
+using Value = std::variant<std::monostate, bool, int64_t, double, Date, Currency, std::string, Bytes>;
+
+}  // namespace jet
