@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include "platform/mail/AddrSpec.h"
+
+namespace mail {
+
+/// One file that goes with every message of a run.
+struct Attachment {
+    QString path;
+    QString name;  ///< as the recipient sees it; may hold any character
+};
+
+/// The values of one message to one recipient, as the user or the database gave them: nothing needs to be
+/// checked or cleaned beforehand. Texts may hold any character and any kind of line end.
+struct MessageData {
+    QString fromName;
+    QString fromAddress;
+    QString toName;
+    QString toAddress;
+    QString subject;
+    QString bodyHtml;      ///< personalised; empty: the message has no HTML part
+    QString bodyText;      ///< personalised visible text of bodyHtml; empty: the message has no text part
+    QString templateHtml;  ///< the body before personalisation: only local images that it names are embedded
+    int priority = 3;      ///< 1 high, 5 low, anything else normal
+    QVector<Attachment> attachments;
+};
+
+/// A message ready for the wire.
+struct ComposedMessage {
+    Mailbox from;
+    Mailbox to;
+    QByteArray data;  ///< the whole message, lines ended by CR LF, the last one too; dots are not yet stuffed
+    QByteArray messageId;        ///< with its angle brackets, as in the header
+    bool needsSmtputf8 = false;  ///< a local part is not ASCII; otherwise all of `data` is 7-bit
+};
+
+}  // namespace mail
