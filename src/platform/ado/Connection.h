@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace ado {
+
+/// An open connection to one database file, told by its connection text. It keeps the text, not the file: the
+/// file is opened and read once by open(), so that its errors are known, and is afterwards reached like any
+/// other through the shared pool of open files.
+class Connection {
+  public:
+    /// Fails for a text that cannot be understood, a missing, unreadable, damaged or foreign file, a wrong
+    /// password. The text of the failure can be shown to the user.
+    Status open(const QString& connectionText);
+    void close() { m_text.clear(); }
+    bool isOpen() const { return !m_text.isEmpty(); }
+    const QString& text() const { return m_text; }
+
+  private:
+    QString m_text;
+};
+
+/// Lets go of every open database file. For the moment before a file is replaced or removed; whatever comes
+/// after opens it again. Recordsets that are still open keep their file until they are closed.
+void closeAll();
+
+}  // namespace ado

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace ado {
+
+/// What a connection text names: `Provider = Microsoft.Jet.OLEDB.4.0; Data Source = <path>`, optionally with
+/// `Jet OLEDB:Database Password`.
+struct ConnectionText {
+    QString path;  ///< literally as written, relative paths included
+    QString password;
+
+    /// Keys are compared without case; blanks around keys, equal signs and values do not count; a value may
+    /// stand in single or double quotes, doubled inside; empty parts (";;", a closing ";") are passed over;
+    /// the last of two equal keys holds. User name, mode and the like are accepted and ignored. Fails with
+    /// SyntaxError for what is no list of "key = value", NotSupported for another provider, FileNotFound when
+    /// no data source is named.
+    static Result<ConnectionText> parse(const QString& text);
+};
+
+}  // namespace ado

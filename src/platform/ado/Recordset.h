@@ -1,0 +1,89 @@
+#pragma once
+
+#include <memory>
+#include <QString>
+#include <QStringView>
+
+#include "platform/ado/Connection.h"
+#include "platform/ado/Value.h"
+#include "platform/Status.h"
+
+namespace ado {
+
+enum class CursorType { ForwardOnly = 0, Keyset = 1, Static = 3 };
+enum class CursorLocation { Server = 2, Client = 3 };
+enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
+
+/// The rows of one SELECT statement, with a current row.
+///
+/// Rows are found step by step as they are asked for, and a field is decoded when it is read; `SELECT * FROM
+/// table` with any WHERE and ORDER BY keeps only the identities of the rows it has passed. Such a recordset
+/// shows rows as they are now: a changed field shows its new value, reading a row that was deleted since
+/// fails with NoCurrentRecord, rows inserted by others are not seen. Rows that are equal in the sort columns
+/// come in the same order each time. No lock is held between two calls.
+class Recordset {
+  public:
+    Recordset();
+    ~Recordset();
+    Recordset(Recordset&&) noexcept;
+    Recordset& operator=(Recordset&&) noexcept;
+
+    /// Names the database, and opens it so that a missing or foreign file is told here.
+    Status setActiveConnection(const QString& connectionText);
+    Status setActiveConnection(const Connection& connection) {
+        return setActiveConnection(connection.text());
+    }
+    /// Default: forward only, server, read only. Location makes no difference to what is seen.
+    void setCursorType(CursorType type);
+    void setCursorLocation(CursorLocation location);
+    void setLockType(LockType type);
+    /// One SELECT statement in the dialect of the database.
+    void setSource(const QString& statement);
+
+    /// Runs the source; the first row is the current one, or both isBof() and isEof() are true. Fails with
+    /// SyntaxError, TableNotFound, ItemNotFound (unknown column), NotSupported (refused statement) or an
+    /// error of the file.
+    Status open();
+    /// Lets go of the rows; changes that were not posted are dropped.
+    void close();
+    bool isOpen() const;
+
+    bool isBof() const;
+    bool isEof() const;
+    /// NoCurrentRecord when there is no row at all.
+    Status moveFirst();
+    /// Past the last row is isEof(); one step more is NoCurrentRecord. A change that was not posted is posted
+    /// first.
+    Status moveNext() { return move(1); }
+    Status move(qint64 rows);
+    /// The number of rows; -1 for a forward-only cursor and where it cannot be told.
+    qint64 recordCount();
+
+    int fieldCount() const;
+    /// Empty for an index that does not exist.
+    QString fieldName(int index) const;
+    /// A field of the current row, or of the row being added. Fails with ItemNotFound for an unknown column
+    /// (names are compared without case), NoCurrentRecord at the beginning and end marks.
+    Result<Value> value(QStringView name) const;
+    Result<Value> value(int index) const;
+
+    /// The following need an optimistic or pessimistic lock and `SELECT * FROM table …` on a table whose
+    /// primary key is a number; otherwise they fail with NotSupported.
+    ///
+    /// Changes a field of the current row, or of the row being added; nothing is written before update().
+    Status setValue(QStringView name, const Value& value);
+    /// Begins a new row. Its auto-number is fixed and can be read at once; it is burnt if the row is never
+    /// posted.
+    Status addNew();
+    /// Posts what was changed, durably. A row that was added is the current one afterwards. On failure
+    /// nothing is written and the change stays pending.
+    Status update();
+    /// Drops what was changed since the last update().
+    void cancelUpdate();
+
+  private:
+    struct Data;
+    std::unique_ptr<Data> m_data;
+};
+
+}  // namespace ado

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <utility>
+
+#include "platform/jet/Value.h"
+#include "platform/Status.h"
+
+namespace ado {
+
+/// One field of a row, as a Recordset hands it out and takes it. Null is a value of its own, distinct from
+/// the empty text.
+class Value {
+  public:
+    enum class Type { Null, YesNo, Integer, Real, Currency, Date, Text, Binary };
+
+    Value() = default;  ///< Null
+    Value(bool yesNo) : m_value(yesNo) {}
+    Value(int number) : m_value(static_cast<int64_t>(number)) {}
+    Value(qint64 number) : m_value(static_cast<int64_t>(number)) {}
+    Value(double number) : m_value(number) {}
+    Value(const QString& text) : m_value(text.toStdString()) {}
+    Value(const char*) = delete;  // would silently become a yes/no
+    explicit Value(jet::Value value) : m_value(std::move(value)) {}
+
+    Type type() const;
+    bool isNull() const { return type() == Type::Null; }
+
+    /// The value as a user of `locale` writes it: texts as they are, a yes/no as "Vero" or "Falso" in Italian
+    /// and "True" or "False" elsewhere, numbers without grouping, currencies and dates in the locale's form
+    /// (a date without time of day shows only the date). Fails with InvalidNull for Null, TypeMismatch for
+    /// binary data.
+    Result<QString> toText(const QLocale& locale = QLocale()) const;
+    /// The same with the empty text for whatever has no text.
+    QString toTextOrEmpty(const QLocale& locale = QLocale()) const;
+    /// True is -1; fractions round to the nearest, halves to even; texts are read as plain numbers. Fails
+    /// with InvalidNull, TypeMismatch or Overflow.
+    Result<qint64> toInteger() const;
+    /// Every number but 0 is true; texts have to be a number, "Vero", "Falso", "True" or "False". Fails like
+    /// toInteger().
+    Result<bool> toBool() const;
+
+    const jet::Value& raw() const { return m_value; }
+    bool operator==(const Value&) const = default;
+
+  private:
+    jet::Value m_value;
+};
+
+}  // namespace ado
