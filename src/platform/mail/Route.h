@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+namespace mail {
+
+/// Where and how a message is handed over. Two messages may share a connection when their routes are equal.
+struct Route {
+    QString host;
+    quint16 port = 25;           ///< 465 is TLS from the start (RFC 8314), any other port STARTTLS (RFC 3207)
+    quint16 localPort = 0;       ///< 0: any
+    bool greetWithHelo = false;  ///< HELO instead of EHLO: no extensions
+    /// False: TLS is used whenever it is offered, its certificate has to be good, and there is no way back to
+    /// plain text. True: TLS is taken as it comes, unverified, and left out when it cannot be had.
+    bool opportunisticTls = false;
+    QString certificateFolder;  ///< its *.pem files are trusted besides the system's; empty: none
+    bool login = false;
+    QString user;
+    QString password;
+
+    bool operator==(const Route&) const = default;
+};
+
+}  // namespace mail

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace mail {
+
+/// The mechanisms that can be used, the strongest first.
+QByteArrayList saslMechanisms();
+
+/// One login by one mechanism (RFC 4422). All tokens are bare bytes; their base64 form is the dialogue's
+/// affair.
+class SaslExchange {
+  public:
+    /// `mechanism` is one of saslMechanisms(). Fails (TypeMismatch) when user or password hold a NUL.
+    static Result<SaslExchange> start(const QByteArray& mechanism, const QString& user,
+                                      const QString& password, const QString& host);
+    SaslExchange(SaslExchange&&) noexcept;
+    SaslExchange& operator=(SaslExchange&&) noexcept;
+    ~SaslExchange();
+
+    /// True for a mechanism in which the client speaks first: step() of an empty challenge gives that token.
+    bool clientFirst() const;
+
+    /// The answer to a challenge. Fails (NotSupported) when the challenge is not acceptable: malformed, or a
+    /// server that could not prove that it knows the password.
+    Result<QByteArray> step(const QByteArray& challenge);
+
+    /// All steps are done and, where the mechanism has it, the server has proved itself.
+    bool complete() const;
+
+  private:
+    struct State;
+    explicit SaslExchange(std::unique_ptr<State> state);
+    std::unique_ptr<State> m_state;
+};
+
+}  // namespace mail

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+namespace mail {
+
+/// What a server answered (RFC 5321 4.2).
+struct SmtpReply {
+    int code = 0;     ///< 200 to 599
+    QByteArray text;  ///< without the codes; the lines of a reply of several are parted by LF
+
+    bool positive() const { return code / 100 == 2; }
+    bool intermediate() const { return code / 100 == 3; }
+};
+
+/// Longest line that is taken, line end included: well above the 512 octets of RFC 5321 4.5.3.1.5.
+inline constexpr qsizetype maxReplyLine = 4096;
+/// Most octets of one reply with all its lines.
+inline constexpr qsizetype maxReplySize = 32768;
+
+struct ReplyParse {
+    enum class State {
+        Incomplete,  ///< so far right, more bytes are needed
+        Complete,    ///< `reply` and `next` are set
+        Malformed,   ///< no code, a NUL, or more than the limits allow
+    };
+    State state = State::Incomplete;
+    SmtpReply reply;
+    qsizetype next = 0;  ///< offset of the first byte behind the reply
+};
+
+/// Reads the reply that starts at `offset` of `bytes`. A line ends at CR LF or at a lone LF. Where the lines
+/// of one reply bear different codes, the last one counts.
+ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset);
+
+/// `text` in one line without control characters, as it can be shown or logged.
+QString printable(QByteArrayView text);
+
+}  // namespace mail

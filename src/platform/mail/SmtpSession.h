@@ -1,0 +1,142 @@
+#pragma once
+
+#include <optional>
+#include <QList>
+#include <QObject>
+#include <QSslSocket>
+#include <QTimer>
+
+#include "platform/mail/Message.h"
+#include "platform/mail/Route.h"
+#include "platform/mail/Sasl.h"
+#include "platform/mail/SmtpReply.h"
+#include "platform/mail/Transcript.h"
+
+namespace mail {
+
+/// What became of a message.
+struct DeliveryOutcome {
+    bool delivered = false;
+    int code = 0;  ///< the server's reply code, 0 without an answer
+    QString text;  ///< what the server said, or (Italian) what went wrong
+};
+
+/// Service extensions that a server offered in its answer to EHLO (RFC 5321 4.1.1.1).
+struct SmtpExtensions {
+    bool pipelining = false;    ///< RFC 2920
+    bool size = false;          ///< RFC 1870
+    bool eightBitMime = false;  ///< RFC 6152
+    bool smtputf8 = false;      ///< RFC 6531
+    bool startTls = false;      ///< RFC 3207
+    QByteArrayList auth;        ///< RFC 4954; in capitals
+
+    /// `text` is the text of a reply to EHLO; its first line is the greeting.
+    static SmtpExtensions read(const QByteArray& text);
+};
+
+/// One SMTP connection that is kept between messages.
+///
+/// Steps of a connection: greeting, EHLO (HELO where that is refused), STARTTLS and EHLO again, AUTH; then
+/// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. A refused
+/// message leaves the connection in place: the next one is preceded by RSET. A kept connection that turns out
+/// to be dead or answers 421 before MAIL was accepted is opened anew, once.
+class SmtpSession : public QObject {
+    Q_OBJECT
+  public:
+    explicit SmtpSession(Transcript& transcript, QObject* parent = nullptr);
+    ~SmtpSession() override;
+
+    /// Starts a delivery; none may be running. finished() follows, possibly from within this call.
+    /// `timeoutMs` bounds the time without progress.
+    void deliver(const Route& route, const ComposedMessage& message, int timeoutMs);
+
+    /// Drops the running delivery and its connection without any signal.
+    void abandon();
+
+  Q_SIGNALS:
+    /// The delivery has ended; a new one may be started at once.
+    void finished(const mail::DeliveryOutcome& outcome);
+
+  private:
+    /// The command, or the stage, that a reply belongs to.
+    enum class Step { Greeting, Ehlo, Helo, StartTls, Auth, Reset, Mail, Recipient, Data, EmptyBody, Body };
+
+    // SmtpSession.cpp: life of a connection and of a delivery
+    void open();
+    void dropConnection();
+    void quit();
+    void lost(int code, const QString& why);
+    void refuse(const SmtpReply& reply);
+    void conclude(const DeliveryOutcome& outcome);
+    void progress();
+    void onSocketError(QAbstractSocket::SocketError error);
+    void onTimeout();
+
+    // SmtpSession_dialogue.cpp: replies and what they lead to
+    void onReadyRead();
+    void onReply(Step step, const SmtpReply& reply);
+    void onHello(Step step, const SmtpReply& reply);
+    void onEnvelopeReply(Step step, const SmtpReply& reply);
+    void onDataReply(const SmtpReply& reply);
+    void onBodyReply(const SmtpReply& reply);
+    void command(Step step, const QByteArray& line);
+    void writeCommands();
+    void hello();
+    void afterHello();
+    void startTransaction();
+    void sendEnvelope();
+    void feedBody();
+    QByteArray envelopeCommand(Step step) const;
+    QByteArray greetingName() const;
+    bool inputLeft() const;
+
+    // SmtpSession_security.cpp: TLS and login
+    void prepareTls();
+    void startTls();
+    void onStartTlsReply(const SmtpReply& reply);
+    void onEncrypted();
+    void startLogin();
+    void tryNextMechanism();
+    void onAuthReply(const SmtpReply& reply);
+
+    Transcript& m_transcript;
+    Route m_route;
+    QSslSocket* m_socket = nullptr;
+    QTimer m_stall;  ///< ends a delivery without progress
+    QTimer m_idle;   ///< closes a connection that is not used
+
+    // state of the connection
+    bool m_ready = false;      ///< set up, messages can be sent
+    bool m_heloOnly = false;   ///< EHLO is not used: as told, or since it was refused
+    bool m_plainOnly = false;  ///< no (further) attempt at TLS
+    bool m_handshaking = false;
+    bool m_authenticated = false;
+    bool m_needsReset = false;  ///< the last message was refused
+    bool m_bound = false;       ///< the local port was asked for
+    bool m_tlsSeen = false;     ///< the route's server has offered TLS before
+    SmtpExtensions m_extensions;
+    QByteArray m_input;
+    qsizetype m_inputRead = 0;
+    QByteArray m_output;
+    QList<Step> m_expected;  ///< steps whose replies are outstanding
+    QList<Step> m_plan;      ///< steps of the envelope that are still to be sent
+
+    // login under way
+    QByteArrayList m_mechanisms;
+    std::optional<SaslExchange> m_exchange;
+    QByteArray m_heldResponse;  ///< first token, while it is not known to have been taken
+    bool m_initialResponse = true;
+    int m_authSteps = 0;
+
+    // delivery under way
+    bool m_busy = false;
+    bool m_reused = false;  ///< on a connection that was kept
+    bool m_mailAccepted = false;
+    bool m_refused = false;
+    DeliveryOutcome m_refusal;
+    ComposedMessage m_message;
+    qsizetype m_fed = 0;      ///< octets of the message that were written
+    bool m_bodyDone = false;  ///< the final point was written
+};
+
+}  // namespace mail

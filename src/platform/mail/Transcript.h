@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QFile>
+#include <QString>
+
+namespace mail {
+
+/// The support log (.xt1): UTF-8 text, lines ended by CR LF, each "date time direction text" in local time.
+/// Directions: ">" to the server, "<" from the server, "*" a remark of the program. It is appended to.
+///
+/// A log that cannot be opened or written is left out silently: it never harms a delivery.
+class Transcript {
+  public:
+    /// Writes to `path` from now on; an empty path ends the log.
+    void setFile(const QString& path);
+
+    bool active() const { return m_file.isOpen(); }
+
+    /// Texts that must never be written: a line from the server that holds one of them is left out but for
+    /// its reply code.
+    void setSecrets(const QByteArrayList& secrets) { m_secrets = secrets; }
+    void addSecret(const QByteArray& secret);
+
+    void sent(QByteArrayView line);
+    void received(int code, QByteArrayView text);
+    void remark(const QString& text);
+    /// `text` came from the server and goes into a remark.
+    QString withoutSecrets(const QString& text) const;
+    /// Hands what was written to the system.
+    void flush();
+
+  private:
+    void line(char direction, QByteArrayView text);
+    bool holdsSecret(QByteArrayView text) const;
+
+    QFile m_file;
+    QByteArrayList m_secrets;
+};
+
+}  // namespace mail
