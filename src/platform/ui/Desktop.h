@@ -1,0 +1,11 @@
+#pragma once
+
+class QApplication;
+
+namespace ui {
+
+/// What every program of ours sets up before its first window: the drawing style, the compiled-in icons, the
+/// toolkit's own texts in Italian (where they are installed). Call once, after the application object.
+void setUpDesktop(QApplication& application);
+
+}  // namespace ui

@@ -1,0 +1,128 @@
+#include "platform/ui/FileDialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "platform/ui/Unattended.h"
+
+namespace ui {
+
+namespace {
+
+QList<std::optional<QString>> answers;
+QList<FileDialog::Shown> record;
+
+QString withSuffix(const QString& path, const QString& suffix) {
+    if (suffix.isEmpty() || QFileInfo(path).fileName().contains('.')) return path;
+    return path + '.' + suffix;
+}
+
+std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& asked) {
+    dialog.setObjectName("fileDialog");
+    dialog.setWindowTitle(asked.title);
+    dialog.setNameFilters(FileDialog::nameFilters(asked.filter));
+    // The suffix is added, and the question about an existing file put, outside the dialog: a desktop's own
+    // dialog would look at the name before it has its suffix.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+bool mayReplace(const QString& path) {
+    QMessageBox question(QMessageBox::Warning, QFileDialog::tr("Save As"),
+                         QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(path),
+                         QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    question.setTextFormat(Qt::PlainText);
+    question.setDefaultButton(QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
+}
+
+std::optional<QString> openByUser(const FileDialog::Shown& asked) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return runDialog(dialog, asked);
+}
+
+std::optional<QString> saveByUser(const FileDialog::Shown& asked, FileDialog::Existing existing) {
+    const QString suffix = FileDialog::defaultSuffix(asked.filter);
+    QString start;
+    for (;;) {
+        QFileDialog dialog(QApplication::activeWindow());
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        if (!start.isEmpty()) dialog.selectFile(start);
+        const auto answer = runDialog(dialog, asked);
+        if (!answer) return std::nullopt;
+        start = withSuffix(*answer, suffix);
+        if (existing == FileDialog::Existing::Accept || !QFileInfo::exists(start) || mayReplace(start))
+            return start;
+    }
+}
+
+std::optional<QString> queuedAnswer(const FileDialog::Shown& asked) {
+    if (answers.isEmpty()) failUnanswered("file dialog", qUtf8Printable(asked.title));
+    auto answer = answers.takeFirst();
+    if (answer && asked.save) answer = withSuffix(*answer, FileDialog::defaultSuffix(asked.filter));
+    return answer;
+}
+
+}  // namespace
+
+std::optional<QString> FileDialog::open(const QString& title, const QString& filter) {
+    Shown asked{false, title, filter, std::nullopt};
+    asked.answer = unattended() ? queuedAnswer(asked) : openByUser(asked);
+    record.append(asked);
+    return asked.answer;
+}
+
+std::optional<QString> FileDialog::save(const QString& title, const QString& filter, Existing existing) {
+    Shown asked{true, title, filter, std::nullopt};
+    asked.answer = unattended() ? queuedAnswer(asked) : saveByUser(asked, existing);
+    record.append(asked);
+    return asked.answer;
+}
+
+QStringList FileDialog::nameFilters(const QString& filter) {
+    const QStringList pieces = filter.split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        const QString description = pieces[i].trimmed();
+        const QString patterns = QString(pieces[i + 1]).replace(';', ' ').simplified();
+        const QString bracketed = '(' + patterns + ')';
+        filters << (description.endsWith(bracketed) ? description
+                                                    : QString(description + ' ' + bracketed).trimmed());
+    }
+    return filters;
+}
+
+QString FileDialog::defaultSuffix(const QString& filter) {
+    const QString pattern = filter.section('|', 1, 1).section(';', 0, 0).trimmed();
+    const QString suffix = pattern.section('.', -1);
+    return pattern.contains('.') && !suffix.contains('*') ? suffix : QString();
+}
+
+void FileDialog::queue(const QString& path) {
+    answers.append(path);
+}
+
+void FileDialog::queueCancel() {
+    answers.append(std::nullopt);
+}
+
+int FileDialog::queued() {
+    return static_cast<int>(answers.size());
+}
+
+const QList<FileDialog::Shown>& FileDialog::shown() {
+    return record;
+}
+
+void FileDialog::reset() {
+    answers.clear();
+    record.clear();
+}
+
+}  // namespace ui

@@ -1,0 +1,83 @@
+#include "platform/ui/MessageDialog.h"
+
+#include <QApplication>
+
+#include "platform/ui/Unattended.h"
+
+namespace ui {
+
+namespace {
+
+QList<int> answers;
+QList<MessageDialog::Shown> record;
+
+QMessageBox::Icon iconOf(int style) {
+    switch (style & 0xf0) {
+        case 16:
+            return QMessageBox::Critical;
+        case 32:
+            return QMessageBox::Question;
+        case 64:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+QMessageBox::StandardButtons buttonsOf(int style) {
+    return (style & 0x0f) == 4 ? QMessageBox::Yes | QMessageBox::No
+                               : QMessageBox::StandardButtons(QMessageBox::Ok);
+}
+
+int queuedAnswer(const MessageDialog::Shown& box) {
+    if (answers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
+    const int answer = answers.takeFirst();
+    const bool offered = box.buttons == QMessageBox::StandardButtons(QMessageBox::Ok)
+                             ? answer == MessageDialog::Ok
+                             : answer == MessageDialog::Yes || answer == MessageDialog::No;
+    if (!offered) failUnanswered("message box that has no such button", qUtf8Printable(box.text));
+    return answer;
+}
+
+int answerOfUser(const MessageDialog::Shown& box) {
+    QMessageBox dialog(box.icon, box.title, QString(box.text).replace("\r\n", "\n"), box.buttons,
+                       QApplication::activeWindow());
+    dialog.setObjectName("messageDialog");
+    dialog.setTextFormat(Qt::PlainText);
+    switch (dialog.exec()) {
+        case QMessageBox::Yes:
+            return MessageDialog::Yes;
+        case QMessageBox::No:
+            return MessageDialog::No;
+        default:
+            return MessageDialog::Ok;
+    }
+}
+
+}  // namespace
+
+int MessageDialog::show(const QString& text, int style, const QString& title) {
+    Shown box{text, style, title, iconOf(style), buttonsOf(style), Ok};
+    box.answer = unattended() ? queuedAnswer(box) : answerOfUser(box);
+    record.append(box);
+    return box.answer;
+}
+
+void MessageDialog::queue(int answer) {
+    answers.append(answer);
+}
+
+int MessageDialog::queued() {
+    return static_cast<int>(answers.size());
+}
+
+const QList<MessageDialog::Shown>& MessageDialog::shown() {
+    return record;
+}
+
+void MessageDialog::reset() {
+    answers.clear();
+    record.clear();
+}
+
+}  // namespace ui

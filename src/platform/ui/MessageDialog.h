@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+#include <QMessageBox>
+#include <QString>
+
+namespace ui {
+
+/// The one way to show a message box. Boxes are modal; the text is plain text whatever it holds.
+class MessageDialog {
+  public:
+    /// What the user sees, by the number that the program's texts are written with: low bits for the buttons
+    /// (0 OK, 4 Yes and No), then the icon (16 stop, 32 question, 64 information).
+    enum Style : int { Plain = 0, Stop = 16, AskQuestion = 36, Notice = 64, AskNotice = 68 };
+    enum Answer : int { Ok = 1, Yes = 6, No = 7 };
+
+    /// A box as it was shown.
+    struct Shown {
+        QString text;
+        int style = Plain;
+        QString title;
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
+        QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+        int answer = Ok;
+    };
+
+    /// Shows a box over the active window and waits for its answer. Lines are separated by CR LF. Closing a
+    /// box of Yes and No by Esc answers No.
+    static int show(const QString& text, int style, const QString& title);
+
+    /// For unattended runs: the answer of the next box that is not answered yet. A box that meets an empty
+    /// queue ends the program, so that a run never hangs; so does an answer that the box does not offer.
+    static void queue(int answer);
+    static int queued();
+    /// Every box since the last reset(), answered by a person or from the queue.
+    static const QList<Shown>& shown();
+    static void reset();
+};
+
+}  // namespace ui

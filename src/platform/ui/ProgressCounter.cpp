@@ -1,0 +1,95 @@
+#include "platform/ui/ProgressCounter.h"
+
+#include <QAccessibleWidget>
+#include <QLocale>
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+
+class AccessibleCounter : public QAccessibleWidget, public QAccessibleValueInterface {
+  public:
+    explicit AccessibleCounter(ProgressCounter* counter)
+        : QAccessibleWidget(counter, QAccessible::ProgressBar) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Value) return widget()->locale().toString(counter()->value(), 'f', 0);
+        return QAccessibleWidget::text(kind);
+    }
+    QVariant currentValue() const override { return counter()->value(); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return counter()->maximum(); }
+    QVariant minimumValue() const override { return 0.0; }
+    QVariant minimumStepSize() const override { return 1.0; }
+
+  private:
+    ProgressCounter* counter() const { return static_cast<ProgressCounter*>(widget()); }
+};
+
+QAccessibleInterface* accessibleCounter(const QString&, QObject* object) {
+    auto* counter = qobject_cast<ProgressCounter*>(object);
+    return counter ? new AccessibleCounter(counter) : nullptr;
+}
+
+}  // namespace
+
+ProgressCounter::ProgressCounter(QWidget* parent) : QWidget(parent) {
+    static const bool installed = (QAccessible::installFactory(accessibleCounter), true);
+    Q_UNUSED(installed)
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ProgressCounter::setMaximum(double maximum) {
+    m_maximum = maximum;
+    update();
+}
+
+void ProgressCounter::setValue(double value) {
+    if (value == m_value) return;
+    m_value = value;
+    update();
+    QAccessibleValueChangeEvent event(this, value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ProgressCounter::setBarColor(const QColor& color) {
+    m_barColor = color;
+    update();
+}
+
+QSize ProgressCounter::sizeHint() const {
+    return {160, 18};
+}
+
+QSize ProgressCounter::minimumSizeHint() const {
+    return {80, 18};
+}
+
+double ProgressCounter::share() const {
+    return m_maximum > 0 ? qBound(0.0, m_value / m_maximum, 1.0) : 0.0;
+}
+
+void ProgressCounter::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(frame, 2, 2);
+
+    QRectF bar = frame.adjusted(1.5, 1.5, -1.5, -1.5);
+    bar.setWidth(bar.width() * share());
+    if (bar.width() <= 0) return;
+    if (layoutDirection() == Qt::RightToLeft) bar.moveRight(frame.right() - 1.5);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_barColor.isValid() ? m_barColor
+                                          : palette().color(QPalette::Active, QPalette::Highlight));
+    painter.drawRoundedRect(bar, 1, 1);
+}
+
+}  // namespace ui

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace ui {
+
+/// A progress bar that is also a counter: it holds its value and its maximum as they were given, also outside
+/// the range from 0 to the maximum; only the drawing is clamped. It shows no text. Assistive programs see a
+/// progress bar with its value and range.
+class ProgressCounter : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double value READ value WRITE setValue)
+
+  public:
+    explicit ProgressCounter(QWidget* parent = nullptr);
+
+    double maximum() const { return m_maximum; }
+    void setMaximum(double maximum);
+    double value() const { return m_value; }
+    void setValue(double value);
+
+    /// Colour of the filled part; the palette's highlight colour where none was set.
+    void setBarColor(const QColor& color);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    /// The filled share of the bar, 0 to 1.
+    double share() const;
+
+    double m_maximum = 100;
+    double m_value = 0;
+    QColor m_barColor;
+};
+
+}  // namespace ui

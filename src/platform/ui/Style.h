@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ui {
+
+/// Fusion with the few changes that the program's look needs: flat disabled texts, and a visible focus rim in
+/// the palette's highlight colour.
+class Style : public QProxyStyle {
+    Q_OBJECT
+
+  public:
+    Style();
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
+
+}  // namespace ui

@@ -1,0 +1,202 @@
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/ui/Desktop.h"
+#include "platform/ui/FileDialog.h"
+#include "platform/ui/MessageDialog.h"
+#include "platform/ui/ProgressCounter.h"
+#include "platform/ui/Unattended.h"
+
+using ui::FileDialog;
+using ui::MessageDialog;
+
+namespace {
+
+/// Runs `look` on the message box that the next event-loop turn finds on the screen.
+void atNextBox(std::function<void(QMessageBox*)> look) {
+    QTimer::singleShot(0, qApp, [look] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        look(box);
+    });
+}
+
+}  // namespace
+
+class TestUi : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        ui::setUnattended(true);
+        MessageDialog::reset();
+        FileDialog::reset();
+    }
+
+    void boxIconAndButtonsFollowTheStyleNumber_data() {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("plain") << 0 << int(QMessageBox::NoIcon) << int(QMessageBox::Ok) << 1;
+        QTest::newRow("notice") << 64 << int(QMessageBox::Information) << int(QMessageBox::Ok) << 1;
+        QTest::newRow("stop") << 16 << int(QMessageBox::Critical) << int(QMessageBox::Ok) << 1;
+        QTest::newRow("confirm") << 68 << int(QMessageBox::Information)
+                                 << int(QMessageBox::Yes | QMessageBox::No) << 6;
+        QTest::newRow("delete") << 36 << int(QMessageBox::Question) << int(QMessageBox::Yes | QMessageBox::No)
+                                << 7;
+    }
+    void boxIconAndButtonsFollowTheStyleNumber() {
+        QFETCH(int, style);
+        QFETCH(int, icon);
+        QFETCH(int, buttons);
+        QFETCH(int, answer);
+        MessageDialog::queue(answer);
+        QCOMPARE(MessageDialog::show("Prima riga.\r\nContinuare?", style, "Attenzione"), answer);
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        const auto& box = MessageDialog::shown().constFirst();
+        QCOMPARE(box.text, "Prima riga.\r\nContinuare?");
+        QCOMPARE(box.title, "Attenzione");
+        QCOMPARE(int(box.icon), icon);
+        QCOMPARE(int(box.buttons), buttons);
+        QCOMPARE(MessageDialog::queued(), 0);
+    }
+
+    void realBoxShowsPlainTextAndItalianButtons() {
+        ui::setUnattended(false);
+        atNextBox([](QMessageBox* box) {
+            QCOMPARE(box->text(), QString("<b>Prima</b>\nContinuare?"));
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+            QCOMPARE(box->windowTitle(), "Attenzione");
+            QCOMPARE(box->icon(), QMessageBox::Information);
+            QCOMPARE(box->button(QMessageBox::Yes)->text().remove('&'), "Sì");
+            box->button(QMessageBox::Yes)->click();
+        });
+        QCOMPARE(MessageDialog::show("<b>Prima</b>\r\nContinuare?", 68, "Attenzione"), 6);
+    }
+
+    void escapeAnswersNo() {
+        ui::setUnattended(false);
+        atNextBox([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
+        QCOMPARE(MessageDialog::show("Continuare?", 68, "Attenzione"), 7);
+    }
+
+    void filterWithAndWithoutClosingBar() {
+        QCOMPARE(FileDialog::nameFilters("Database Mailing List *.mdb|*.mdb|"),
+                 QStringList{"Database Mailing List *.mdb (*.mdb)"});
+        QCOMPARE(FileDialog::nameFilters("Database Mailing List *.mdb|*.mdb"),
+                 QStringList{"Database Mailing List *.mdb (*.mdb)"});
+        QCOMPARE(FileDialog::nameFilters("Message File (*.mss)|*.mss"), QStringList{"Message File (*.mss)"});
+        QCOMPARE(FileDialog::nameFilters(" (*.xt1)|*.xt1|"), QStringList{"(*.xt1)"});
+        QCOMPARE(FileDialog::nameFilters("A|*.a;*.b|B|*.c|"), (QStringList{"A (*.a *.b)", "B (*.c)"}));
+        QCOMPARE(FileDialog::nameFilters(""), QStringList());
+    }
+
+    void defaultSuffixIsTheFirstPatterns() {
+        QCOMPARE(FileDialog::defaultSuffix("Message File (*.mss)|*.mss"), "mss");
+        QCOMPARE(FileDialog::defaultSuffix(" (*.xt1)|*.xt1|"), "xt1");
+        QCOMPARE(FileDialog::defaultSuffix("Tutti|*.*|"), "");
+        QCOMPARE(FileDialog::defaultSuffix(""), "");
+    }
+
+    void saveAddsTheSuffixToABareName() {
+        FileDialog::queue("/tmp/registro");
+        FileDialog::queue("/tmp.d/registro.txt");
+        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|"), "/tmp/registro.xt1");
+        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|"), "/tmp.d/registro.txt");
+        QVERIFY(FileDialog::shown().constFirst().save);
+    }
+
+    void cancelGivesNothing() {
+        FileDialog::queueCancel();
+        QVERIFY(!FileDialog::open("Apri", "Message File (*.mss)|*.mss").has_value());
+        const auto& asked = FileDialog::shown().constFirst();
+        QCOMPARE(asked.title, "Apri");
+        QCOMPARE(asked.filter, "Message File (*.mss)|*.mss");
+        QVERIFY(!asked.save);
+        QVERIFY(!asked.answer);
+    }
+
+    void counterHoldsValuesAsTheyAre() {
+        ui::ProgressCounter counter;
+        counter.setMaximum(3);
+        counter.setValue(-1.5);
+        QCOMPARE(counter.value(), -1.5);
+        counter.setValue(7);
+        QCOMPARE(counter.value(), 7.0);
+        QCOMPARE(counter.maximum(), 3.0);
+        counter.setMaximum(0);
+        QCOMPARE(counter.value(), 7.0);
+    }
+
+    void counterDrawsItsShareClamped_data() {
+        QTest::addColumn<double>("maximum");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("filled");
+        QTest::newRow("empty") << 4.0 << 0.0 << 0;
+        QTest::newRow("half") << 4.0 << 2.0 << 100;
+        QTest::newRow("full") << 4.0 << 4.0 << 200;
+        QTest::newRow("beyond") << 4.0 << 9.0 << 200;
+        QTest::newRow("below") << 4.0 << -9.0 << 0;
+        QTest::newRow("no range") << 0.0 << 3.0 << 0;
+    }
+    void counterDrawsItsShareClamped() {
+        QFETCH(double, maximum);
+        QFETCH(double, value);
+        QFETCH(int, filled);
+        ui::ProgressCounter counter;
+        counter.resize(200, 18);
+        counter.setBarColor(Qt::red);
+        counter.setMaximum(maximum);
+        counter.setValue(value);
+        const QImage picture = counter.grab().toImage();
+        int red = 0;
+        for (int x = 0; x < 200; ++x)
+            red += picture.pixelColor(x, 9).red() > 250 && picture.pixelColor(x, 9).green() < 5;
+        QVERIFY2(qAbs(red - filled) <= 5, qPrintable(QString::number(red)));
+    }
+
+    void counterIsAProgressBarWithValueAndRangeToAssistivePrograms() {
+        ui::ProgressCounter counter;
+        counter.setAccessibleName("Email inviate");
+        counter.setMaximum(20);
+        counter.setValue(5);
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&counter);
+        QVERIFY(face);
+        QCOMPARE(face->role(), QAccessible::ProgressBar);
+        QCOMPARE(face->text(QAccessible::Name), "Email inviate");
+        QVERIFY(face->valueInterface());
+        QCOMPARE(face->valueInterface()->currentValue().toDouble(), 5.0);
+        QCOMPARE(face->valueInterface()->maximumValue().toDouble(), 20.0);
+    }
+
+    void everyIconIsCompiledInAndDraws() {
+        for (const char* name : {"application-exit", "document-send", "media-playback-stop"}) {
+            const QIcon icon = QIcon::fromTheme(name);
+            for (const int size : {16, 22}) {
+                const QImage picture =
+                    icon.pixmap(size, size).toImage().convertToFormat(QImage::Format_ARGB32);
+                bool drawn = false;
+                for (int y = 0; y < picture.height(); ++y)
+                    for (int x = 0; x < picture.width(); ++x)
+                        drawn |= qAlpha(picture.pixel(x, y)) > 0;
+                QVERIFY2(drawn, name);
+            }
+        }
+        QVERIFY(QFile::exists(":/icons/vestrola/COPYING"));
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    ui::setUpDesktop(application);
+    TestUi test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_ui.moc"
