@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <QByteArray>
+#include <QString>
+
+/// The 8-bit text of the program's files: Windows-1252 on every machine. The five bytes that the code page
+/// leaves undefined (81 8D 8F 90 9D) stand for U+0081, U+008D, U+008F, U+0090 and U+009D in both directions,
+/// so that each byte has a character of its own and any file survives reading and writing.
+namespace text {
+
+/// The byte of a character, or none where the code page does not hold it.
+std::optional<std::uint8_t> ansiCode(char32_t character);
+
+/// Takes the first character off a text that is not empty: one UTF-16 unit, or two where they are a pair.
+char32_t takeCharacter(QStringView& text);
+
+char16_t ansiCharacter(std::uint8_t code);
+
+QString fromAnsi(QByteArrayView bytes);
+
+/// A character outside the code page becomes one "?", also where it takes two UTF-16 units.
+QByteArray toAnsi(QStringView text);
+
+}  // namespace text

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace text {
+
+/// The text without the blanks (U+0020, nothing else) at both ends. The result looks into the given text.
+QStringView trimBlanks(QStringView text);
+
+}  // namespace text

@@ -1,0 +1,124 @@
+#include "platform/text/TextFile.h"
+
+#include <QFileInfo>
+
+#include "platform/text/AnsiCodec.h"
+
+namespace text {
+
+namespace {
+
+constexpr qsizetype blockSize = 64 * 1024;
+
+Status pathAccess() {
+    return {ErrorCode::PathAccess, QStringLiteral("Errore di accesso al percorso/file")};
+}
+Status deviceIo() {
+    return {ErrorCode::DeviceIo, QStringLiteral("Errore di I/O del dispositivo")};
+}
+
+qsizetype findLineEnd(QByteArrayView bytes, LineEnds ends) {
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] == '\r' || (bytes[i] == '\n' && ends == LineEnds::Any)) return i;
+    }
+    return bytes.size();
+}
+
+}  // namespace
+
+Status openForInput(QFile& file, const QString& path) {
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.exists()) {
+        return {ErrorCode::FileNotFound, QStringLiteral("Impossibile trovare il file")};
+    }
+    if (!info.isFile()) return pathAccess();
+    file.setFileName(path);
+    return file.open(QIODevice::ReadOnly) ? Status() : pathAccess();
+}
+
+Status LineReader::open(const QString& path, LineEnds ends) {
+    if (m_file.isOpen()) m_file.close();
+    m_block.clear();
+    m_position = 0;
+    m_ends = ends;
+    m_status = openForInput(m_file, path);
+    return m_status;
+}
+
+// Makes at least one byte available; false at the end of the file or after a failure.
+bool LineReader::fill() {
+    if (m_position < m_block.size()) return true;
+    if (!m_file.isOpen() || !m_status.ok()) return false;
+    m_block.resize(blockSize);
+    m_position = 0;
+    const qint64 count = m_file.read(m_block.data(), blockSize);
+    m_block.resize(qMax<qint64>(count, 0));
+    if (count < 0) m_status = deviceIo();
+    return count > 0;
+}
+
+bool LineReader::atEnd() {
+    return !fill();
+}
+
+bool LineReader::nextLine(QString& line) {
+    if (!fill()) return false;
+    QByteArray bytes;
+    while (fill()) {
+        const QByteArrayView rest = QByteArrayView(m_block).sliced(m_position);
+        const qsizetype length = findLineEnd(rest, m_ends);
+        if (bytes.size() + length > longestLine) {
+            m_status = deviceIo();
+            m_block.clear();
+            return false;
+        }
+        bytes.append(rest.data(), length);
+        m_position += length;
+        if (length == rest.size()) continue;
+        const bool carriageReturn = rest[length] == '\r';
+        ++m_position;
+        if (carriageReturn && fill() && m_block[m_position] == '\n') ++m_position;
+        break;
+    }
+    if (!m_status.ok()) return false;
+    line = fromAnsi(bytes);
+    return true;
+}
+
+Status LineReader::readLine(QString& line) {
+    if (nextLine(line)) return {};
+    if (!m_status.ok()) return m_status;
+    return {ErrorCode::InputPastEnd, QStringLiteral("Input oltre la fine del file")};
+}
+
+TextWriter::~TextWriter() {
+    if (m_file.isOpen()) m_file.close();
+}
+
+Status TextWriter::open(const QString& path, WriteMode mode, FileAccess access) {
+    if (m_file.isOpen()) m_file.close();
+    m_file.setFileName(path);
+    const QIODevice::OpenMode flags = mode == WriteMode::Append ? QIODevice::Append : QIODevice::WriteOnly;
+    const QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+    const bool opened = access == FileAccess::OwnerOnly
+                            ? m_file.open(flags, ownerOnly) && m_file.setPermissions(ownerOnly)
+                            : m_file.open(flags);
+    if (opened) return {};
+    m_file.close();
+    return pathAccess();
+}
+
+Status TextWriter::print(QStringView line) {
+    const QByteArray bytes = toAnsi(line) + "\r\n";
+    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) return deviceIo();
+    return {};
+}
+
+Status TextWriter::close() {
+    if (!m_file.isOpen()) return deviceIo();
+    const bool flushed = m_file.flush();
+    m_file.close();
+    return flushed && m_file.error() == QFileDevice::NoError ? Status() : deviceIo();
+}
+
+}  // namespace text

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+#include "platform/Status.h"
+
+/// 8-bit text files, line by line. The bytes are Windows-1252 (AnsiCodec.h).
+namespace text {
+
+/// Opens an ordinary file for reading. FileNotFound where there is none; PathAccess for a folder, a device, a
+/// pipe (which could block or never end) and whatever the user may not read.
+Status openForInput(QFile& file, const QString& path);
+
+/// What ends a line when reading.
+enum class LineEnds {
+    CarriageReturn,  ///< CR or CR LF; a lone LF is a character of the line
+    Any,             ///< CR, LF or CR LF
+};
+
+/// Reads a file forward, one line at a time, holding no more of it than one line and one block. The end of
+/// the file ends a last line that has no line end; there is no empty line behind a final line end. Closes the
+/// file with itself.
+class LineReader {
+  public:
+    /// A line with more bytes than this ends the reading with DeviceIo.
+    static constexpr qsizetype longestLine = 64 * 1024 * 1024;
+
+    Status open(const QString& path, LineEnds ends);
+
+    /// True when no line is left, or when nothing is open.
+    bool atEnd();
+
+    /// The next line without its end: false, with `line` as it was, at the end of the file or after a
+    /// failure.
+    bool nextLine(QString& line);
+
+    /// The next line as a statement that must succeed: InputPastEnd at the end of the file, DeviceIo when the
+    /// file cannot be read on. `line` keeps its content then.
+    Status readLine(QString& line);
+
+    /// The failure that ended nextLine(), if it was one.
+    const Status& status() const { return m_status; }
+
+  private:
+    bool fill();
+
+    QFile m_file;
+    QByteArray m_block;
+    qsizetype m_position = 0;
+    LineEnds m_ends = LineEnds::Any;
+    Status m_status;
+};
+
+enum class WriteMode {
+    Output,  ///< starts with an empty file
+    Append,  ///< goes on behind what is there
+};
+
+/// Who may open a file that the writer creates.
+enum class FileAccess {
+    Default,    ///< what the user's settings say
+    OwnerOnly,  ///< its owner alone; also applied to a file that is already there
+};
+
+/// Writes lines that end in CR LF. What was written stays when a later line fails. Closes the file with
+/// itself, but only close() tells whether the last lines arrived.
+class TextWriter {
+  public:
+    ~TextWriter();
+
+    Status open(const QString& path, WriteMode mode, FileAccess access = FileAccess::Default);
+    Status print(QStringView line);
+    Status close();
+
+  private:
+    QFile m_file;
+};
+
+}  // namespace text
