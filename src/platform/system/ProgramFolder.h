@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/Status.h"
+
+/// The folder in which the program keeps its files: language texts and start log in the folder itself,
+/// everything else in its subfolder "data".
+namespace sys {
+
+/// The program folder, ending in "/". Decided at the first call and kept:
+///   1. what setProgramFolder() or the environment variable VESTROLA_FOLDER says;
+///   2. the folder of the program itself, where it can be written and is not an installed copy (a portable
+///   copy, the
+///      build tree);
+///   3. the user's own folder "vestrola" under the XDG data home.
+/// In cases 2 and 3 a folder without "data" is filled from the templates; a failure of that leaves it as it
+/// is.
+QString programFolder();
+
+/// Replaces the folder; an empty text has it decided anew at the next call.
+void setProgramFolder(const QString& folder);
+
+/// Where an installed program finds its templates: "../share/vestrola/templates" as seen from its own folder,
+/// without ending "/".
+QString installedTemplates(const QString& applicationFolder);
+
+/// Cases 2 and 3 for a program in `applicationFolder` and a user with the data home `userData`; no ending
+/// "/".
+QString chooseProgramFolder(const QString& applicationFolder, const QString& userData);
+
+/// Fills a program folder without "data" with copies of the files of `templates` and of its subfolder "data".
+/// All copies are made for their owner only, since addresses and passwords will go there. "data" comes last
+/// and at once, so that an interrupted first start is made good by the next one. Files that are already there
+/// are kept.
+Status fillProgramFolder(const QString& folder, const QString& templates);
+
+}  // namespace sys

@@ -1,0 +1,16 @@
+#include "platform/system/Shell.h"
+
+#include <QProcess>
+#include <QUrl>
+
+namespace sys {
+
+Status openAddress(const QString& address) {
+    const QString scheme = QUrl(address).scheme();
+    const bool known = scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
+                       scheme == QLatin1String("mailto") || scheme == QLatin1String("file");
+    if (known && QProcess::startDetached(QStringLiteral("xdg-open"), {address})) return {};
+    return {ErrorCode::PathAccess, QStringLiteral("Impossibile aprire ") + address};
+}
+
+}  // namespace sys
