@@ -1,0 +1,15 @@
+#include "core/bError.h"
+
+#include "core/bImpostazioni.h"
+#include "core/Fallimento.h"
+#include "platform/system/Clock.h"
+#include "platform/text/DateText.h"
+#include "platform/text/TextFile.h"
+
+void ScriviInizioLog() {
+    Prosegui prosegui;
+    text::TextWriter file;
+    prosegui([&] { esigi(file.open(PercorsoApp() + QStringLiteral("Error.txt"), text::WriteMode::Output)); });
+    prosegui([&] { esigi(file.print(u"Inizio applicazione: " + text::dateTimeText(sys::clock().now()))); });
+    prosegui([&] { esigi(file.close()); });
+}

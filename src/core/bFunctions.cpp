@@ -1,0 +1,76 @@
+#include "core/bFunctions.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include "core/Fallimento.h"
+#include "platform/ado/Catalog.h"
+#include "platform/ado/Connection.h"
+#include "platform/system/Shell.h"
+#include "platform/text/Blanks.h"
+#include "platform/text/TextFile.h"
+
+bool ApriShell(const QString& destinazione) {
+    Prosegui prosegui;
+    return prosegui([&] { esigi(sys::openAddress(destinazione)); });
+}
+
+bool FileEsiste(const QString& percorso) {
+    return ripiega(false, [&] {
+        QFile file;
+        esigi(text::openForInput(file, percorso));
+        return true;
+    });
+}
+
+bool EmailValida(const QString& testo) {
+    static const QRegularExpression modello(
+        QStringLiteral("\\A([A-Za-z0-9_.=-]+@[A-Za-z0-9_.-]+\\.[A-Za-z0-9_]{2,4})\\z"));
+    return modello.match(testo).hasMatch();
+}
+
+std::uint32_t ColoreDaHex(const QString& testo) {
+    std::uint32_t colore = 0;
+    Prosegui prosegui;
+    prosegui([&] {
+        QString cifre = testo.toUpper();
+        cifre.remove(u'#');
+        bool numero = false;
+        const std::uint32_t valore =
+            QString(cifre.right(2) + cifre.mid(2, 2) + cifre.left(2)).toUInt(&numero, 16);
+        if (!numero) fallisci(ErrorCode::TypeMismatch);
+        colore = valore;
+    });
+    return colore;
+}
+
+QString HexDaColore(std::uint32_t colore) {
+    const QString cifre = (QStringLiteral("000000") + QString::number(colore, 16).toUpper()).right(6);
+    return u'#' + cifre.right(2) + cifre.mid(2, 2) + cifre.left(2);
+}
+
+QString PulisciValore(const QString& testo) {
+    QString valore = testo;
+    valore.remove(u'"').remove(u'\'');
+    return text::trimBlanks(valore).toString();
+}
+
+QString NomeDaPercorso(const QString& percorso) {
+    return percorso.mid(qMax(percorso.lastIndexOf(u'\\'), percorso.lastIndexOf(u'/')) + 1);
+}
+
+bool VerificaDatabase(const QString& percorso) {
+    ado::Connection connessione;
+    esigi(connessione.open(QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + percorso +
+                           u';'));
+    ado::Catalog catalogo;
+    catalogo.setActiveConnection(connessione);
+    bool destinatari = false;
+    bool gruppi = false;
+    for (const ado::Catalog::TableEntry& tabella : esigi(catalogo.tables())) {
+        const QString nome = tabella.name.toLower();
+        if (nome == QLatin1String("tb_destinatari")) destinatari = true;
+        if (nome == QLatin1String("tb_gruppi")) gruppi = true;
+    }
+    return destinatari && gruppi;
+}

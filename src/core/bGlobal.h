@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <QString>
+
+/// State that lives as long as the program. Apart from the texts of bVAR there is no other global state.
+
+/// Full path of the recipient database.
+inline QString percorsoDB;
+
+/// First part of every connection text; set by the start.
+inline QString prefissoConnDB;
+
+/// prefissoConnDB followed by percorsoDB: what every access to the database starts from. No connection is
+/// kept.
+inline QString connDB;
+
+/// A node of the group tree as the rest of the program knows it.
+struct Nodo {
+    QString Key;  ///< "K" and the group's number, "K0" for the root
+    QString Text;
+};
+
+/// The node that is current, if any. It goes on answering after its group was deleted.
+inline std::optional<Nodo> nodoCorrente;
+
+/// Work buffer of the placement routines, in twips.
+inline float posLeft = 0;
+inline float posTop = 0;
+inline float posWidth = 0;
+inline float posHeight = 0;
+inline std::int16_t posWindowState = 0;

@@ -1,0 +1,12 @@
+#include "core/bImpostazioni.h"
+
+#include "platform/system/ProgramFolder.h"
+
+QString PercorsoApp() {
+    const QString cartella = sys::programFolder();
+    return cartella.endsWith(u'/') ? cartella : cartella + u'/';
+}
+
+QString cartellaDati() {
+    return PercorsoApp() + QStringLiteral("data/");
+}

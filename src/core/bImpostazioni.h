@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// The program folder, ending in "/". File names are appended as they stand.
+QString PercorsoApp();
+
+/// The folder "data" of the program folder, ending in "/".
+QString cartellaDati();
