@@ -1,0 +1,52 @@
+#include "send/Personalizza.h"
+
+const std::array<QString, numeroSegnaposto> colonneSegnaposto{
+    QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),
+    QStringLiteral("ind"),    QStringLiteral("cap"),    QStringLiteral("loc"),    QStringLiteral("prov"),
+    QStringLiteral("tel"),    QStringLiteral("fax"),    QStringLiteral("campo1"), QStringLiteral("campo2"),
+    QStringLiteral("campo3"), QStringLiteral("campo4"), QStringLiteral("campo5"), QStringLiteral("campo6"),
+    QStringLiteral("campo7"), QStringLiteral("campo8"), QStringLiteral("campo9")};
+
+namespace {
+
+const QString segno = QStringLiteral(":::");
+
+}  // namespace
+
+LeggiColonna ColonneDi(const ado::Recordset& destinatari) {
+    return [&destinatari](const QString& colonna) -> Result<std::optional<QString>> {
+        const Result<ado::Value> valore = destinatari.value(colonna);
+        if (!valore.ok()) return valore.status();
+        if (valore.value().isNull()) return std::optional<QString>();
+        const Result<QString> testo = valore.value().toText();
+        if (!testo.ok()) return testo.status();
+        return std::optional<QString>(testo.value());
+    };
+}
+
+ValoriSegnaposto LeggiValori(const LeggiColonna& leggi) {
+    ValoriSegnaposto valori;
+    for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
+        const Result<std::optional<QString>> letto = leggi(colonneSegnaposto[i]);
+        if (letto.ok()) valori[i] = letto.value();
+    }
+    return valori;
+}
+
+QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
+    for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
+        if (valori[i]) modello.replace(segno + colonneSegnaposto[i] + segno, *valori[i]);
+    }
+    return modello;
+}
+
+Result<QString> NomeDestinatario(const LeggiColonna& leggi) {
+    QString nome;
+    for (const QString& colonna : {QStringLiteral("rgs"), QStringLiteral("nom"), QStringLiteral("email")}) {
+        const Result<std::optional<QString>> letto = leggi(colonna);
+        if (!letto.ok()) return letto.status();
+        nome = letto.value().value_or(QString());
+        if (!nome.isEmpty()) break;
+    }
+    return nome;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <QString>
+
+#include "platform/ado/Recordset.h"
+#include "platform/Status.h"
+
+/// Personalisation: the fields of a recipient's row in place of ":::column:::".
+
+inline constexpr std::size_t numeroSegnaposto = 19;
+
+/// The columns that have a placeholder, in the order in which they are applied.
+extern const std::array<QString, numeroSegnaposto> colonneSegnaposto;
+
+/// Reads a column of the current row as text: no value for Null, a failure for a column that is missing or
+/// where there is no row.
+using LeggiColonna = std::function<Result<std::optional<QString>>(const QString& colonna)>;
+
+/// Reads from the current row of a recordset, which must outlive the reader.
+LeggiColonna ColonneDi(const ado::Recordset& destinatari);
+
+/// The texts for the placeholders of one row, in the order of colonneSegnaposto. None for a column that is
+/// Null or cannot be read: its placeholder stays in the text.
+using ValoriSegnaposto = std::array<std::optional<QString>, numeroSegnaposto>;
+
+ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
+
+/// The template with the placeholders replaced one after the other, each everywhere in one pass, exactly and
+/// as the value stands. A value that holds a later placeholder is therefore replaced further, one that holds
+/// an earlier one is not.
+QString Personalizza(QString modello, const ValoriSegnaposto& valori);
+
+/// The name shown for the recipient: the first of "rgs", "nom" and "email" that is not empty, Null counting
+/// as empty; the last one in any case. Fails where a column cannot be read.
+Result<QString> NomeDestinatario(const LeggiColonna& leggi);
