@@ -6,12 +6,9 @@
 /// visible text come out. Page scripts do not run and nothing is loaded.
 ///
 /// Any text is a document: it is read as the HTML standard tells browsers to (missing tags supplied, wrong
-/// ones mended). Elements nested too deeply for any reader are flattened; the bound is maximumDepth.
+/// ones mended). A text whose reading would take unbounded time or memory is read without its tags.
 class HtmlDocument {
   public:
-    /// Nesting down to which the normal form follows the parser's tree. Browsers stop at the same depth.
-    static constexpr int maximumDepth = 512;
-
     void setDocumentHTML(const QString& html);
 
     /// The normal form: the parsed document written by the serialisation rules of the HTML standard. Lines

@@ -1,0 +1,108 @@
+#include "platform/html/ParseTree.h"
+
+#include <csetjmp>
+#include <ctime>
+
+namespace {
+
+constexpr std::size_t memoryAtLeast = std::size_t{64} << 20;
+constexpr std::size_t memoryPerByte = 200;
+constexpr double secondsAtLeast = 2;
+constexpr double secondsPerByte = 1e-6;
+constexpr unsigned allocationsBetweenLooksAtTheClock = 64;
+
+double processorSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// Serves the parser's memory and leaves the parse by longjmp when a bound is reached. That is safe because
+/// only C code stands in between and all it holds is memory of the pool.
+struct Guard {
+    std::pmr::memory_resource* pool;
+    std::size_t bytesLeft;
+    double deadline;
+    unsigned allocations = 0;
+    std::jmp_buf exceeded{};
+};
+
+// A block starts with its own size, which the pool wants back
+constexpr std::size_t blockHeader = alignof(std::max_align_t);
+
+void* allocate(void* userData, std::size_t size) {
+    auto* guard = static_cast<Guard*>(userData);
+    const std::size_t whole = size + blockHeader;
+    const bool late =
+        ++guard->allocations % allocationsBetweenLooksAtTheClock == 0 && processorSeconds() > guard->deadline;
+    if (late || whole > guard->bytesLeft) std::longjmp(guard->exceeded, 1);
+    guard->bytesLeft -= whole;
+    auto* block = static_cast<std::byte*>(guard->pool->allocate(whole, blockHeader));
+    *reinterpret_cast<std::size_t*>(block) = whole;
+    return block + blockHeader;
+}
+
+void deallocate(void* userData, void* pointer) {
+    if (pointer == nullptr) return;
+    auto* guard = static_cast<Guard*>(userData);
+    auto* block = static_cast<std::byte*>(pointer) - blockHeader;
+    const std::size_t whole = *reinterpret_cast<std::size_t*>(block);
+    guard->bytesLeft += whole;
+    guard->pool->deallocate(block, whole, blockHeader);
+}
+
+const GumboNode* parseWithin(Guard& guard, const QByteArray& text) {
+    GumboOptions options = kGumboDefaultOptions;
+    options.allocator = allocate;
+    options.deallocator = deallocate;
+    options.userdata = &guard;
+    options.max_errors = 0;
+    if (setjmp(guard.exceeded) != 0) return nullptr;
+    return gumbo_parse_with_options(&options, text.constData(), static_cast<std::size_t>(text.size()))
+        ->document;
+}
+
+QByteArray withoutTags(const QByteArray& text) {
+    QByteArray plain;
+    plain.reserve(text.size());
+    bool inTag = false;
+    for (const char c : text) {
+        if (c == '<') inTag = true;
+        if (!inTag) plain += c;
+        if (c == '>') inTag = false;
+    }
+    return plain;
+}
+
+}  // namespace
+
+ParseTree::ParseTree(const QByteArray& utf8) : m_text(utf8) {
+    if (!parse()) {
+        m_text = withoutTags(utf8);
+        m_memory.release();
+        parse();
+    }
+}
+
+bool ParseTree::parse() {
+    const auto length = static_cast<std::size_t>(m_text.size());
+    Guard guard{&m_memory, memoryAtLeast + memoryPerByte * length,
+                processorSeconds() + secondsAtLeast + secondsPerByte * static_cast<double>(length)};
+    m_document = parseWithin(guard, m_text);
+    return m_document != nullptr;
+}
+
+const GumboVector& childrenOf(const GumboNode& node) {
+    if (node.type == GUMBO_NODE_DOCUMENT) return node.v.document.children;
+    const GumboElement* element = elementOf(node);
+    return element != nullptr ? element->children : kGumboEmptyVector;
+}
+
+const GumboElement* elementOf(const GumboNode& node) {
+    return node.type == GUMBO_NODE_ELEMENT || node.type == GUMBO_NODE_TEMPLATE ? &node.v.element : nullptr;
+}
+
+bool isHtmlElement(const GumboNode& node, GumboTag tag) {
+    const GumboElement* element = elementOf(node);
+    return element != nullptr && element->tag == tag && element->tag_namespace == GUMBO_NAMESPACE_HTML;
+}
