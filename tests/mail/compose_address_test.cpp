@@ -91,9 +91,9 @@ TEST(AddrSpec, ControlCharactersAreRefusedAnywhere) {
     const QString control =
         QString(QChar(0)) + u'\r' + u'\n' + u'\t' + QChar(0x7F) + QChar(0x85) + QChar(0x2028);
     for (const QChar c : control) {
-        EXPECT_EQ(addressOf(QString("a@example.it") + c), "refused") << c.unicode();
-        EXPECT_EQ(addressOf(c + QString("a@example.it")), "refused") << c.unicode();
-        EXPECT_EQ(addressOf(QString("\"a") + c + "\"@example.it"), "refused") << c.unicode();
+        EXPECT_EQ(addressOf(QString("a@example.it") + c), "refused") << int(c.unicode());
+        EXPECT_EQ(addressOf(c + QString("a@example.it")), "refused") << int(c.unicode());
+        EXPECT_EQ(addressOf(QString("\"a") + c + "\"@example.it"), "refused") << int(c.unicode());
     }
     EXPECT_EQ(addressOf("a@example.it\r\nBcc: b@example.it"), "refused");
 }
