@@ -75,8 +75,10 @@ class DeliveryControl : public QObject {
     void SendError(int code, const QString& text);
 
   private:
+    MessageData data() const;
     void finish(const DeliveryOutcome& outcome);
     void report();
+    void log(const QString& outcome);
     Route route() const;
 
     Transcript m_transcript;

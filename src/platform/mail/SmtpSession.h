@@ -9,6 +9,7 @@
 #include "platform/mail/Message.h"
 #include "platform/mail/Route.h"
 #include "platform/mail/Sasl.h"
+#include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
 #include "platform/mail/Transcript.h"
 
@@ -19,19 +20,6 @@ struct DeliveryOutcome {
     bool delivered = false;
     int code = 0;  ///< the server's reply code, 0 without an answer
     QString text;  ///< what the server said, or (Italian) what went wrong
-};
-
-/// Service extensions that a server offered in its answer to EHLO (RFC 5321 4.1.1.1).
-struct SmtpExtensions {
-    bool pipelining = false;    ///< RFC 2920
-    bool size = false;          ///< RFC 1870
-    bool eightBitMime = false;  ///< RFC 6152
-    bool smtputf8 = false;      ///< RFC 6531
-    bool startTls = false;      ///< RFC 3207
-    QByteArrayList auth;        ///< RFC 4954; in capitals
-
-    /// `text` is the text of a reply to EHLO; its first line is the greeting.
-    static SmtpExtensions read(const QByteArray& text);
 };
 
 /// One SMTP connection that is kept between messages.
@@ -61,25 +49,34 @@ class SmtpSession : public QObject {
     /// The command, or the stage, that a reply belongs to.
     enum class Step { Greeting, Ehlo, Helo, StartTls, Auth, Reset, Mail, Recipient, Data, EmptyBody, Body };
 
+    enum class LocalPort { AsTold, Any };
+
     // SmtpSession.cpp: life of a connection and of a delivery
-    void open();
+    void open(LocalPort localPort = LocalPort::AsTold);
     void dropConnection();
     void quit();
     void lost(int code, const QString& why);
-    void refuse(const SmtpReply& reply);
+    void fail(int code, const QString& why);
     void conclude(const DeliveryOutcome& outcome);
     void progress();
+    void onConnected();
+    void onTaken();
     void onSocketError(QAbstractSocket::SocketError error);
     void onTimeout();
+    bool implicitTls() const;
 
-    // SmtpSession_dialogue.cpp: replies and what they lead to
+    // SmtpSession_dialogue.cpp: commands, replies and what they lead to
     void onReadyRead();
     void onReply(Step step, const SmtpReply& reply);
     void onHello(Step step, const SmtpReply& reply);
     void onEnvelopeReply(Step step, const SmtpReply& reply);
     void onDataReply(const SmtpReply& reply);
     void onBodyReply(const SmtpReply& reply);
+    void reject(const SmtpReply& reply);
+    void refuse(const SmtpReply& reply);
+    void settleRefusal();
     void command(Step step, const QByteArray& line);
+    void command(Step step, const QByteArray& line, const QByteArray& shown);
     void writeCommands();
     void hello();
     void afterHello();
@@ -89,15 +86,19 @@ class SmtpSession : public QObject {
     QByteArray envelopeCommand(Step step) const;
     QByteArray greetingName() const;
     bool inputLeft() const;
+    bool allTaken() const;
 
     // SmtpSession_security.cpp: TLS and login
+    bool wantsTls() const;
+    bool missesTls() const;
     void prepareTls();
-    void startTls();
     void onStartTlsReply(const SmtpReply& reply);
     void onEncrypted();
+    QString handshakeFailure() const;
     void startLogin();
-    void tryNextMechanism();
+    void startMechanism();
     void onAuthReply(const SmtpReply& reply);
+    void onChallenge(const QByteArray& text);
 
     Transcript& m_transcript;
     Route m_route;
@@ -108,11 +109,12 @@ class SmtpSession : public QObject {
     // state of the connection
     bool m_ready = false;      ///< set up, messages can be sent
     bool m_heloOnly = false;   ///< EHLO is not used: as told, or since it was refused
-    bool m_plainOnly = false;  ///< no (further) attempt at TLS
+    bool m_plainOnly = false;  ///< the handshake has failed before
+    bool m_startTlsRefused = false;
     bool m_handshaking = false;
     bool m_authenticated = false;
     bool m_needsReset = false;  ///< the last message was refused
-    bool m_bound = false;       ///< the local port was asked for
+    bool m_bound = false;       ///< connecting from the local port that was asked for
     bool m_tlsSeen = false;     ///< the route's server has offered TLS before
     SmtpExtensions m_extensions;
     QByteArray m_input;
@@ -124,8 +126,8 @@ class SmtpSession : public QObject {
     // login under way
     QByteArrayList m_mechanisms;
     std::optional<SaslExchange> m_exchange;
-    QByteArray m_heldResponse;  ///< first token, while it is not known to have been taken
-    bool m_initialResponse = true;
+    QByteArray m_firstResponse;     ///< first token of a mechanism in which the client begins
+    bool m_initialResponse = true;  ///< it goes out with the AUTH command
     int m_authSteps = 0;
 
     // delivery under way
@@ -135,8 +137,8 @@ class SmtpSession : public QObject {
     bool m_refused = false;
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
-    qsizetype m_fed = 0;      ///< octets of the message that were written
-    bool m_bodyDone = false;  ///< the final point was written
+    qsizetype m_fed = 0;     ///< octets of the message that were written
+    bool m_feeding = false;  ///< the body is going out, the final point was not written yet
 };
 
 }  // namespace mail

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace mail {
+
+/// The next piece of `data`, from `offset` on, as it travels behind DATA: a line that begins with a dot gets
+/// a second one (RFC 5321 4.5.2). At most `limit` octets of `data` are taken (limit > 0) and `offset` moves
+/// behind them. The pieces one after the other are the same whatever the limits are.
+QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype limit);
+
+}  // namespace mail

@@ -1,0 +1,88 @@
+#include "platform/mail/Sasl.h"
+
+#include <gsasl.h>
+#include <utility>
+
+namespace mail {
+
+namespace {
+
+/// The library's context: made once, it holds no state of any login.
+Gsasl* context() {
+    static Gsasl* const shared = [] {
+        Gsasl* made = nullptr;
+        return gsasl_init(&made) == GSASL_OK ? made : nullptr;
+    }();
+    return shared;
+}
+
+Status failure(int code) {
+    return {ErrorCode::NotSupported,
+            QStringLiteral("Autenticazione non riuscita: %1").arg(QString::fromUtf8(gsasl_strerror(code)))};
+}
+
+}  // namespace
+
+struct SaslExchange::State {
+    Gsasl_session* session = nullptr;
+    bool clientFirst = false;
+    bool complete = false;
+
+    State() = default;
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+    ~State() {
+        if (session) gsasl_finish(session);
+    }
+};
+
+SaslExchange::SaslExchange(std::unique_ptr<State> state) : m_state(std::move(state)) {}
+SaslExchange::SaslExchange(SaslExchange&&) noexcept = default;
+SaslExchange& SaslExchange::operator=(SaslExchange&&) noexcept = default;
+SaslExchange::~SaslExchange() = default;
+
+QByteArrayList saslMechanisms() {
+    return {"SCRAM-SHA-256", "CRAM-MD5", "PLAIN", "LOGIN"};
+}
+
+Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QString& user,
+                                         const QString& password, const QString& host) {
+    if (user.contains(QChar::Null) || password.contains(QChar::Null))
+        return Status(ErrorCode::TypeMismatch,
+                      QStringLiteral("Il nome utente o la password contengono un carattere non ammesso."));
+    auto state = std::make_unique<State>();
+    int code = context() ? gsasl_client_start(context(), mechanism.constData(), &state->session)
+                         : GSASL_MALLOC_ERROR;
+    const std::pair<Gsasl_property, QString> values[] = {{GSASL_AUTHID, user},
+                                                         {GSASL_PASSWORD, password},
+                                                         {GSASL_SERVICE, QStringLiteral("smtp")},
+                                                         {GSASL_HOSTNAME, host}};
+    for (const auto& [property, value] : values) {
+        if (code == GSASL_OK) code = gsasl_property_set(state->session, property, value.toUtf8().constData());
+    }
+    if (code != GSASL_OK) return failure(code);
+    state->clientFirst = mechanism == "PLAIN" || mechanism.startsWith("SCRAM-");
+    return SaslExchange(std::move(state));
+}
+
+bool SaslExchange::clientFirst() const {
+    return m_state->clientFirst;
+}
+
+Result<QByteArray> SaslExchange::step(const QByteArray& challenge) {
+    char* output = nullptr;
+    size_t size = 0;
+    const int code =
+        gsasl_step(m_state->session, challenge.constData(), size_t(challenge.size()), &output, &size);
+    if (code != GSASL_OK && code != GSASL_NEEDS_MORE) return failure(code);
+    m_state->complete = code == GSASL_OK;
+    const QByteArray answer(output, qsizetype(size));
+    gsasl_free(output);
+    return answer;
+}
+
+bool SaslExchange::complete() const {
+    return m_state->complete;
+}
+
+}  // namespace mail

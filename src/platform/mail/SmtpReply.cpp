@@ -1,0 +1,60 @@
+#include "platform/mail/SmtpReply.h"
+
+namespace mail {
+
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Code at the head of a line, 0 where there is none.
+int codeOf(QByteArrayView line) {
+    if (line.size() < 3 || line[0] < '2' || line[0] > '5' || !isDigit(line[1]) || !isDigit(line[2])) return 0;
+    if (line.size() > 3 && line[3] != ' ' && line[3] != '-') return 0;
+    return (line[0] - '0') * 100 + (line[1] - '0') * 10 + (line[2] - '0');
+}
+
+}  // namespace
+
+ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset) {
+    ReplyParse parse;
+    for (qsizetype at = offset;;) {
+        const qsizetype end = bytes.indexOf('\n', at);
+        const qsizetype size = (end < 0 ? bytes.size() : end + 1) - at;
+        if (size > maxReplyLine || at + size - offset > maxReplySize) {
+            parse.state = ReplyParse::State::Malformed;
+            return parse;
+        }
+        if (end < 0) return parse;
+
+        QByteArrayView line = bytes.sliced(at, end - at);
+        if (line.endsWith('\r')) line.chop(1);
+        const int code = codeOf(line);
+        if (code == 0 || line.contains('\0')) {
+            parse.state = ReplyParse::State::Malformed;
+            return parse;
+        }
+        at = end + 1;
+        if (!parse.reply.text.isNull()) parse.reply.text += '\n';
+        parse.reply.text += line.size() > 4 ? line.sliced(4) : QByteArrayView("");
+        if (line.size() > 3 && line[3] == '-') continue;
+
+        parse.state = ReplyParse::State::Complete;
+        parse.reply.code = code;
+        parse.next = at;
+        return parse;
+    }
+}
+
+QString printable(QByteArrayView text) {
+    QString shown = QString::fromUtf8(text);
+    for (QChar& c : shown) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+            c == QChar::ParagraphSeparator)
+            c = u' ';
+    }
+    return shown;
+}
+
+}  // namespace mail

@@ -1,0 +1,275 @@
+// The dialogue of a session: commands, replies and what they lead to.
+#include <algorithm>
+#include <QHostAddress>
+#include <QHostInfo>
+#include <utility>
+
+#include "platform/mail/DotStuffing.h"
+#include "platform/mail/SmtpSession.h"
+
+namespace mail {
+
+namespace {
+
+/// Octets of a body that are handed to the socket at a time. Messages below this size go out in one write,
+/// with their final point.
+constexpr qsizetype bodyPiece = 128 * 1024;
+
+bool isHostName(const QString& name) {
+    return name.contains(u'.') && !name.startsWith(u'.') && !name.endsWith(u'.') &&
+           std::all_of(name.begin(), name.end(), [](QChar c) {
+               return c.unicode() < 128 && (c.isLetterOrNumber() || c == u'.' || c == u'-');
+           });
+}
+
+}  // namespace
+
+void SmtpSession::onReadyRead() {
+    QSslSocket* const socket = m_socket;
+    m_input += socket->readAll();
+    // A reply can end the connection, and through finished() start the next delivery.
+    while (m_socket == socket && !m_expected.isEmpty() && !m_handshaking) {
+        const ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
+        if (parse.state == ReplyParse::State::Incomplete) break;
+        if (parse.state == ReplyParse::State::Malformed) {
+            const qsizetype shown = std::min<qsizetype>(m_input.size() - m_inputRead, 200);
+            m_transcript.remark(QStringLiteral("Risposta non valida"));
+            lost(0, QStringLiteral("Risposta del server non valida: %1")
+                        .arg(printable(QByteArrayView(m_input).sliced(m_inputRead, shown))));
+            return;
+        }
+        m_inputRead = parse.next;
+        progress();
+        onReply(m_expected.takeFirst(), parse.reply);
+    }
+    if (m_socket != socket) return;
+    if (m_expected.isEmpty() && !m_handshaking && inputLeft()) {
+        // Said without having been asked: at best a farewell, and nothing that follows could be trusted.
+        const ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
+        m_transcript.received(parse.reply.code, parse.reply.text);
+        lost(parse.reply.code == 421 ? 421 : 0, printable(parse.reply.text));
+        return;
+    }
+    m_input.remove(0, m_inputRead);
+    m_inputRead = 0;
+}
+
+bool SmtpSession::inputLeft() const {
+    return m_inputRead < m_input.size() || m_socket->bytesAvailable() > 0;
+}
+
+void SmtpSession::onReply(Step step, const SmtpReply& reply) {
+    const bool challenge = step == Step::Auth && reply.intermediate();
+    m_transcript.received(reply.code, challenge ? QByteArrayView("(omesso)") : QByteArrayView(reply.text));
+    if (reply.code == 421) {
+        lost(reply.code, printable(reply.text));
+        return;
+    }
+    switch (step) {
+        case Step::Greeting:
+            if (reply.positive())
+                hello();
+            else
+                reject(reply);
+            break;
+        case Step::Ehlo:
+        case Step::Helo:
+            onHello(step, reply);
+            break;
+        case Step::StartTls:
+            onStartTlsReply(reply);
+            break;
+        case Step::Auth:
+            onAuthReply(reply);
+            break;
+        case Step::Reset:
+        case Step::Mail:
+        case Step::Recipient:
+            onEnvelopeReply(step, reply);
+            break;
+        case Step::Data:
+            onDataReply(reply);
+            break;
+        case Step::EmptyBody:
+            settleRefusal();
+            break;
+        case Step::Body:
+            onBodyReply(reply);
+            break;
+    }
+}
+
+void SmtpSession::command(Step step, const QByteArray& line) {
+    command(step, line, line);
+}
+
+void SmtpSession::command(Step step, const QByteArray& line, const QByteArray& shown) {
+    m_transcript.sent(shown);
+    m_output += line;
+    m_output += "\r\n";
+    m_expected.append(step);
+}
+
+void SmtpSession::writeCommands() {
+    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
+    socket->write(std::exchange(m_output, {}));
+    socket->flush();
+}
+
+QByteArray SmtpSession::greetingName() const {
+    const QString name = QHostInfo::localHostName();
+    if (isHostName(name)) return name.toLatin1();
+    QHostAddress address = m_socket->localAddress();
+    address.setScopeId({});
+    bool isIpv4 = false;
+    const quint32 ipv4 = address.toIPv4Address(&isIpv4);
+    if (isIpv4) return '[' + QHostAddress(ipv4).toString().toLatin1() + ']';
+    return "[IPv6:" + address.toString().toLatin1() + ']';
+}
+
+void SmtpSession::hello() {
+    m_extensions = {};
+    command(m_heloOnly ? Step::Helo : Step::Ehlo, (m_heloOnly ? "HELO " : "EHLO ") + greetingName());
+    writeCommands();
+}
+
+void SmtpSession::onHello(Step step, const SmtpReply& reply) {
+    if (reply.positive()) {
+        if (step == Step::Ehlo) m_extensions = SmtpExtensions::read(reply.text);
+        afterHello();
+    } else if (step == Step::Ehlo && reply.code >= 500) {
+        m_heloOnly = true;
+        hello();
+    } else {
+        reject(reply);
+    }
+}
+
+void SmtpSession::afterHello() {
+    if (wantsTls()) {
+        m_tlsSeen = m_tlsSeen || m_extensions.startTls;
+        command(Step::StartTls, "STARTTLS");
+        writeCommands();
+    } else if (missesTls()) {
+        conclude({false, 0, QStringLiteral("Il server non offre più la connessione TLS.")});
+    } else if (m_route.login && !m_authenticated) {
+        startLogin();
+    } else {
+        m_ready = true;
+        startTransaction();
+    }
+}
+
+void SmtpSession::startTransaction() {
+    if (m_message.needsSmtputf8 && !m_extensions.smtputf8) {
+        conclude({false, 0, QStringLiteral("Il server non accetta indirizzi con caratteri internazionali.")});
+        return;
+    }
+    m_plan = {Step::Mail, Step::Recipient, Step::Data};
+    if (m_needsReset) m_plan.prepend(Step::Reset);
+    sendEnvelope();
+}
+
+void SmtpSession::sendEnvelope() {
+    do {
+        const Step step = m_plan.takeFirst();
+        command(step, envelopeCommand(step));
+    } while (m_extensions.pipelining && !m_plan.isEmpty());
+    writeCommands();
+}
+
+QByteArray SmtpSession::envelopeCommand(Step step) const {
+    if (step == Step::Reset) return "RSET";
+    if (step == Step::Data) return "DATA";
+    if (step == Step::Recipient) return "RCPT TO:<" + m_message.to.address() + '>';
+    QByteArray line = "MAIL FROM:<" + m_message.from.address() + '>';
+    if (m_extensions.size) line += " SIZE=" + QByteArray::number(m_message.data.size());
+    if (m_extensions.eightBitMime) line += " BODY=8BITMIME";
+    if (m_message.needsSmtputf8) line += " SMTPUTF8";
+    return line;
+}
+
+void SmtpSession::onEnvelopeReply(Step step, const SmtpReply& reply) {
+    if (reply.intermediate() || (step == Step::Reset && !reply.positive())) {
+        lost(reply.code, printable(reply.text));
+        return;
+    }
+    if (reply.positive()) {
+        if (step == Step::Reset) m_needsReset = false;
+        if (step == Step::Mail) m_mailAccepted = m_needsReset = true;
+    } else {
+        refuse(reply);
+    }
+    if (m_refused)
+        settleRefusal();
+    else if (m_expected.isEmpty())
+        sendEnvelope();
+}
+
+void SmtpSession::refuse(const SmtpReply& reply) {
+    if (m_refused) return;
+    m_refused = true;
+    m_refusal = {false, reply.code, printable(reply.text)};
+}
+
+void SmtpSession::reject(const SmtpReply& reply) {
+    conclude({false, reply.code, printable(reply.text)});
+}
+
+void SmtpSession::settleRefusal() {
+    if (!m_expected.isEmpty()) return;
+    m_plan.clear();
+    conclude(m_refusal);
+}
+
+void SmtpSession::onDataReply(const SmtpReply& reply) {
+    if (reply.positive()) {
+        // No answer to DATA: replies and commands are out of step, and what answered MAIL is not known.
+        m_mailAccepted = false;
+        lost(
+            0,
+            QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)));
+    } else if (!reply.intermediate()) {
+        refuse(reply);
+        settleRefusal();
+    } else if (m_refused) {
+        // The server waits for a message whose sender or recipient it has refused: it gets an empty one
+        // (RFC 2920 3.1), which it has nobody to give to.
+        m_output = ".\r\n";
+        m_expected.append(Step::EmptyBody);
+        writeCommands();
+    } else {
+        m_transcript.sent(QStringLiteral("(messaggio: %1 byte)").arg(m_message.data.size()).toLatin1());
+        m_expected.append(Step::Body);
+        m_fed = 0;
+        m_feeding = true;
+        feedBody();
+    }
+}
+
+void SmtpSession::feedBody() {
+    QSslSocket* const socket = m_socket;
+    while (m_socket == socket && m_feeding && allTaken()) {
+        QByteArray piece = stuffedPiece(m_message.data, m_fed, bodyPiece);
+        m_feeding = m_fed < m_message.data.size();
+        if (!m_feeding) piece += m_message.data.endsWith("\r\n") ? ".\r\n" : "\r\n.\r\n";
+        socket->write(piece);
+        socket->flush();
+    }
+}
+
+bool SmtpSession::allTaken() const {
+    return m_socket->bytesToWrite() + m_socket->encryptedBytesToWrite() == 0;
+}
+
+void SmtpSession::onBodyReply(const SmtpReply& reply) {
+    const bool complete = !m_feeding && allTaken();
+    const bool delivered = reply.positive() && complete;
+    m_needsReset = !delivered;
+    const DeliveryOutcome outcome{delivered, reply.code, printable(reply.text)};
+    // A server that answers before the end, or asks for more behind it, is no longer in step.
+    if (!complete || reply.intermediate()) dropConnection();
+    conclude(outcome);
+}
+
+}  // namespace mail

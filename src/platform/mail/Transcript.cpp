@@ -1,0 +1,65 @@
+#include "platform/mail/Transcript.h"
+
+#include <algorithm>
+#include <QDateTime>
+
+#include "platform/mail/SmtpReply.h"
+
+namespace mail {
+
+void Transcript::setFile(const QString& path) {
+    if (m_file.isOpen() && m_file.fileName() == path) return;
+    m_file.close();
+    if (path.isEmpty()) return;
+    m_file.setFileName(path);
+    m_file.open(QIODevice::WriteOnly | QIODevice::Append);
+}
+
+void Transcript::addSecret(const QByteArray& secret) {
+    if (!secret.isEmpty() && !m_secrets.contains(secret)) m_secrets.append(secret);
+}
+
+bool Transcript::holdsSecret(QByteArrayView text) const {
+    return std::any_of(m_secrets.begin(), m_secrets.end(),
+                       [&](const QByteArray& secret) { return text.contains(QByteArrayView(secret)); });
+}
+
+QString Transcript::withoutSecrets(const QString& text) const {
+    return holdsSecret(text.toUtf8()) ? QStringLiteral("(omesso)") : text;
+}
+
+void Transcript::sent(QByteArrayView text) {
+    if (active()) line('>', text);
+}
+
+void Transcript::received(int code, QByteArrayView text) {
+    if (!active()) return;
+    const QByteArray number = QByteArray::number(code);
+    if (holdsSecret(text)) {
+        line('<', number + " (omesso)");
+        return;
+    }
+    for (qsizetype at = 0; at <= text.size();) {
+        qsizetype end = text.indexOf('\n', at);
+        const bool last = end < 0;
+        if (last) end = text.size();
+        line('<', number + (last ? ' ' : '-') + text.sliced(at, end - at).toByteArray());
+        at = end + 1;
+    }
+}
+
+void Transcript::remark(const QString& text) {
+    if (active()) line('*', text.toUtf8());
+}
+
+void Transcript::line(char direction, QByteArrayView text) {
+    const QByteArray time =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toLatin1();
+    m_file.write(time + ' ' + direction + ' ' + printable(text).toUtf8() + "\r\n");
+}
+
+void Transcript::flush() {
+    if (active()) m_file.flush();
+}
+
+}  // namespace mail
