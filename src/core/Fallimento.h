@@ -18,19 +18,22 @@
 /// A failed statement on its way up.
 class Fallimento : public std::exception {
   public:
-    Fallimento(int numero, QString testo);
+    Fallimento(int numero, QString testo, QString sorgente = {});
     int numero() const { return m_numero; }
     const QString& testo() const { return m_testo; }
+    /// The module that failed, where it names itself.
+    const QString& sorgente() const { return m_sorgente; }
     const char* what() const noexcept override { return m_utf8.constData(); }
 
   private:
     int m_numero;
     QString m_testo;
+    QString m_sorgente;
     QByteArray m_utf8;
 };
 
 /// Throws; an empty text stands for the number's standard text (Errori.h).
-[[noreturn]] void fallisci(ErrorCode codice, const QString& testo = {});
+[[noreturn]] void fallisci(ErrorCode codice, const QString& testo = {}, const QString& sorgente = {});
 
 /// Throws unless the platform call succeeded.
 void esigi(const Status& stato);
