@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <QByteArray>
+
+#include "platform/Status.h"
+
+namespace dns {
+
+/// One question and one answer over UDP (RFC 1035, 4.2.1). The socket is connected: only datagrams of the
+/// server that was asked arrive, and a port that nobody serves is told at once. It is closed with the object.
+/// All waiting blocks the thread. Every failure is DeviceIo with the system's reason.
+class UdpQuery {
+  public:
+    /// How long receive() waits before it repeats the question, and how long once more after that.
+    static constexpr std::chrono::milliseconds usualWait{5000};
+
+    explicit UdpQuery(std::chrono::milliseconds wait = usualWait);
+    ~UdpQuery();
+    UdpQuery(const UdpQuery&) = delete;
+    UdpQuery& operator=(const UdpQuery&) = delete;
+
+    /// False when the system gave no socket; nothing can be sent then.
+    bool isOpen() const { return m_socket >= 0; }
+
+    /// Sends the question. `address` is an IPv4 address in host byte order.
+    Status send(std::uint32_t address, std::uint16_t port, const QByteArray& question);
+
+    /// The first datagram that arrives, cut to `longest` bytes. The question is sent once more when the wait
+    /// ends without any.
+    Result<QByteArray> receive(qsizetype longest);
+
+  private:
+    int m_socket;
+    std::chrono::milliseconds m_wait;
+    QByteArray m_question;
+};
+
+}  // namespace dns
