@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+"""Sends the sample newsletter to the sample recipients through a local mail server and holds what arrived against what
+should have.
+
+    demo.py BUILD_FOLDER OUTPUT_FOLDER
+
+Leaves in the output folder: messages/*.eml as received, the program folder vestrola/ with data/data.mdb after the run,
+transcript.xt1 and send-window.png. Ends with 1 if anything is not as it should be.
+"""
+import csv
+import email
+import email.policy
+import hashlib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+HERE = pathlib.Path(__file__).resolve().parent
+NULL = "\\N"
+FIELDS = ["rgs", "nom", "email", "piva", "ind", "cap", "loc", "prov", "campo1", "campo2"]
+
+
+def recipients():
+    with open(HERE / "recipients.tsv", encoding="utf-8", newline="") as file:
+        return list(csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE))
+
+
+def personalised(text, row):
+    """The placeholders that must be gone, and the ones that stay because the field is Null."""
+    for name in FIELDS:
+        if row[name] != NULL:
+            text = text.replace(f":::{name}:::", row[name])
+    return text
+
+
+class Report:
+    def __init__(self):
+        self.problems = []
+
+    def check(self, condition, text):
+        if not condition:
+            self.problems.append(text)
+        return condition
+
+
+def catch_all(folder):
+    server = subprocess.Popen([sys.executable, str(HERE / "catch_all.py"), str(folder)], stdout=subprocess.PIPE, text=True)
+    line = server.stdout.readline()
+    if not line.startswith("port "):
+        raise SystemExit("the catch-all server did not start")
+    return server, line.split()[1]
+
+
+def send(build, output):
+    environment = dict(os.environ)
+    if not environment.get("DISPLAY") and not environment.get("WAYLAND_DISPLAY"):
+        environment["QT_QPA_PLATFORM"] = "offscreen"
+    messages = output / "messages"
+    server, port = catch_all(messages)
+    try:
+        program = output / "vestrola"
+        made = subprocess.run([str(build / "demo" / "demo_make"), str(program), port], env={**environment,
+                              "QT_QPA_PLATFORM": "offscreen"}, stdout=subprocess.PIPE, text=True, check=True)
+        message = made.stdout.strip()
+        subprocess.run([str(build / "demo" / "demo_send"), str(program), message, str(output / "transcript.xt1"),
+                        str(output / "send-window.png")], env=environment, check=True, timeout=300)
+        return pathlib.Path(message)
+    finally:
+        server.terminate()
+        server.wait()
+
+
+def check_message(report, raw, rows, attachment):
+    """Returns the row of the table for one received message."""
+    message = email.message_from_bytes(raw, policy=email.policy.default)
+    to = message["X-Envelope-To"]
+    row = rows.get(to)
+    if not report.check(row is not None, f"a message for {to}, who was not selected"):
+        return [to, "?", "", ""]
+    who = f"message for {to}"
+    defects = [defect for part in message.walk() for defect in part.defects]
+    report.check(not defects, f"{who}: malformed: {defects}")
+    subject = personalised(":::nom:::, le novità d’autunno per :::rgs::: (codice :::campo1:::)", row)
+    report.check(message["Subject"] == subject, f"{who}: subject is {message['Subject']!r}, not {subject!r}")
+    name = next(row[field] for field in ("rgs", "nom", "email") if row[field] not in ("", NULL))
+    addresses = message["To"].addresses
+    report.check(len(addresses) == 1 and addresses[0].display_name == name and addresses[0].addr_spec == to,
+                 f"{who}: To is {message['To']}")
+    html = message.get_body(("html",)).get_content()
+    text = message.get_body(("plain",)).get_content()
+    for kind, content in (("HTML", html), ("text", text)):
+        left = set(re.findall(r":::(\w+):::", content))
+        expected = {field for field in FIELDS if row[field] == NULL}
+        report.check(left == expected, f"{who}: {kind} part keeps placeholders {left}, expected {expected}")
+        report.check(row["rgs"] in content, f"{who}: {kind} part lacks the name {row['rgs']!r}")
+    pictures = [part for part in message.walk() if part.get_content_type() == "image/png"]
+    report.check(len(pictures) == 1 and f"cid:{pictures[0]['Content-ID'].strip('<>')}" in html,
+                 f"{who}: the picture is not embedded")
+    files = list(message.iter_attachments())
+    report.check(len(files) == 1 and files[0].get_filename() == attachment.name
+                 and files[0].get_content() == attachment.read_bytes(), f"{who}: the attachment did not arrive whole")
+    return [to, name, message["Subject"], f"{len(raw):,}".replace(",", ".")]
+
+
+def check_database(report, path, rows):
+    exported = subprocess.run(["mdb-export", str(path), "tb_destinatari"], stdout=subprocess.PIPE, text=True, check=True)
+    after = {row["email"]: row for row in csv.DictReader(exported.stdout.splitlines())}
+    report.check(len(after) == len(rows), f"the database holds {len(after)} recipients, not {len(rows)}")
+    for row in rows:
+        left = after.get(row["email"], {}).get("sel")
+        report.check(left == "0", f"{row['email']} has sel {left} after the run")
+    journals = list(path.parent.glob("*-journal"))
+    report.check(not journals, f"a journal was left behind: {journals}")
+
+
+def print_table(head, lines):
+    widths = [max(len(line[i]) for line in [head, *lines]) for i in range(len(head))]
+    widths = [min(width, limit) for width, limit in zip(widths, (36, 28, 56, 9))]
+    show = lambda line: "  ".join(cell[:width].ljust(width) for cell, width in zip(line, widths)).rstrip()
+    print(show(head))
+    print("  ".join("-" * width for width in widths))
+    for line in lines:
+        print(show(line))
+
+
+def main():
+    build, output = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
+    shutil.rmtree(output, ignore_errors=True)
+    output.mkdir(parents=True)
+    message = send(build, output)
+    report = Report()
+    rows = recipients()
+    selected = {row["email"]: row for row in rows if row["sel"] == "1"}
+    attachment = next(message.parent.glob("*.pdf"))
+    received = sorted((output / "messages").glob("*.eml"))
+    lines = [check_message(report, file.read_bytes(), selected, attachment) for file in received]
+    report.check(sorted(line[0] for line in lines) == sorted(selected), "not every selected recipient got one copy")
+    check_database(report, output / "vestrola" / "data" / "data.mdb", rows)
+    transcript = (output / "transcript.xt1").read_text(encoding="utf-8")
+    report.check(all(address in transcript for address in selected), "the transcript lacks recipients")
+    report.check((output / "send-window.png").stat().st_size > 0, "there is no picture of the window")
+
+    print_table(["recipient", "name", "subject", "bytes"], lines)
+    digest = hashlib.sha256(attachment.read_bytes()).hexdigest()[:12]
+    print(f"\n{len(lines)} messages arrived for {len(selected)} selected recipients of {len(rows)}; attachment {digest}; "
+          f"message file {message.stat().st_size} bytes")
+    print(f"look at {os.path.relpath(output)}/: messages/*.eml, vestrola/data/data.mdb, transcript.xt1, send-window.png")
+    for problem in report.problems:
+        print("PROBLEM:", problem)
+    return 1 if report.problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

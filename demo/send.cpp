@@ -1,0 +1,96 @@
+// Drives the program's own windows through one run, as a user would with the mouse: opens the send window
+// from the main window's menu, picks the message and a log, starts, waits for the end, closes.
+//
+//     demo_send FOLDER MESSAGE.mss LOG.xt1 SCREENSHOT.png
+//
+// FOLDER is the program folder. LOG and SCREENSHOT may be "-" for none. Ends with 0 when the run came to its
+// end.
+#include <cstdio>
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QTest>
+#include <QTimer>
+
+#include "core/bMain.h"
+#include "core/Finestre.h"
+#include "core/Prodotto.h"
+#include "platform/system/ProgramFolder.h"
+#include "platform/ui/Desktop.h"
+#include "platform/ui/FileDialog.h"
+#include "platform/ui/Unattended.h"
+#include "send/frmInvia.h"
+#include "shell/frmMain.h"
+
+namespace {
+
+template <class Control>
+Control* find(QWidget& window, const char* name) {
+    auto* control = window.findChild<Control*>(name);
+    if (!control) qFatal("no control %s", name);
+    return control;
+}
+
+void click(QWidget& window, const char* name) {
+    auto* button = find<QAbstractButton>(window, name);
+    // A check box takes the click on its box, not in the middle of the row that it fills.
+    const QPoint place =
+        qobject_cast<QCheckBox*>(button) ? QPoint(10, button->height() / 2) : button->rect().center();
+    QTest::mouseClick(button, Qt::LeftButton, {}, place);
+}
+
+/// The run is over when the start button can be pressed again.
+void waitForEnd(QWidget& window) {
+    auto* start = find<QAbstractButton>(window, "cmdInvia");
+    while (!start->isEnabled())
+        QTest::qWait(20);
+}
+
+struct Choices {
+    QString message;
+    QString log;
+    QString screenshot;
+};
+
+void runOnce(const Choices& choices) {
+    frmInvia& window = finestre::Invia();
+    if (!window.isVisible()) qFatal("the send window is not open");
+    ui::FileDialog::queue(choices.message);
+    click(window, "cmdFile");
+    if (choices.log != "-") {
+        ui::FileDialog::queue(choices.log);
+        click(window, "chkLog");
+    }
+    click(window, "cmdInvia");
+    waitForEnd(window);
+    if (choices.screenshot != "-" && !window.grab().save(choices.screenshot))
+        qFatal("cannot write the screenshot");
+    click(window, "cmdChiudi");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 5) {
+        std::fprintf(stderr, "usage: demo_send FOLDER MESSAGE.mss LOG.xt1 SCREENSHOT.png\n");
+        return 2;
+    }
+    QApplication::setApplicationName(prodotto::nome());
+    QLocale::setDefault(QLocale("it_IT"));
+    sys::setProgramFolder(arguments[1]);
+    ui::setUnattended(true);
+    ui::setUpDesktop(application);
+    SubMain();
+    const Choices choices{arguments[2], arguments[3], arguments[4]};
+    QTimer::singleShot(0, [&choices] {
+        auto* command = finestre::Main().findChild<QAction*>("cmdInvia");
+        if (!command) qFatal("the main window has no command cmdInvia");
+        QTimer::singleShot(0, [&choices] { runOnce(choices); });
+        command->trigger();
+        QApplication::exit(0);
+    });
+    return QApplication::exec();
+}

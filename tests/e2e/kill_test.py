@@ -1,0 +1,136 @@
+#!/usr/bin/env python3
+"""Kills the program in the middle of a run, twenty times, and starts it again: nobody is lost, and each kill serves at most
+one recipient twice.
+
+    kill_test.py BUILD_FOLDER [KILLS]
+
+Each run is killed with SIGKILL a random moment after the server took its first message of that run, so that the kills
+spread over the time between the delivery, the change in the database and the next delivery.
+"""
+import csv
+import os
+import pathlib
+import random
+import re
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+SEED = 20260715
+
+
+def wait_for(condition, seconds, what):
+    end = time.monotonic() + seconds
+    while not condition():
+        if time.monotonic() > end:
+            raise SystemExit(f"FAILED: waited {seconds} s for {what}")
+        time.sleep(0.002)
+
+
+class Stage:
+    """A sample folder with its catch-all server."""
+
+    def __init__(self, build, work):
+        self.build, self.program, self.messages = build, work / "vestrola", work / "messages"
+        self.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+        self.server = subprocess.Popen([sys.executable, str(ROOT / "demo" / "catch_all.py"), str(self.messages)],
+                                       stdout=subprocess.PIPE, text=True)
+        port = self.server.stdout.readline().split()[1]
+        made = subprocess.run([str(build / "demo" / "demo_make"), str(self.program), port], env=self.environment,
+                              stdout=subprocess.PIPE, text=True, check=True)
+        self.message = made.stdout.strip()
+        self.database = self.program / "data" / "data.mdb"
+
+    def received(self):
+        """Recipients in the order of arrival."""
+        files = sorted(self.messages.glob("*.eml"))
+        return [re.search(rb"X-Envelope-To: (.*)\r\n", file.read_bytes()).group(1).decode() for file in files]
+
+    def start(self):
+        return subprocess.Popen([str(self.build / "demo" / "demo_send"), str(self.program), self.message, "-", "-"],
+                                env=self.environment)
+
+    def close(self):
+        self.server.terminate()
+        self.server.wait()
+
+
+def selected_recipients():
+    with open(ROOT / "demo" / "recipients.tsv", encoding="utf-8", newline="") as file:
+        return [row["email"] for row in csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE) if row["sel"] == "1"]
+
+
+def fail(text):
+    raise SystemExit(f"FAILED: {text}")
+
+
+def play(stage, kills, moment):
+    """Up to `kills` killed runs over one folder, then one to the end; returns how many were killed."""
+    wanted = selected_recipients()
+    done = 0
+    while done < kills:
+        before = stage.received()
+        if len(set(before)) >= len(wanted) - 1:
+            break
+        run = stage.start()
+        wait_for(lambda: len(stage.received()) > len(before) or run.poll() is not None, 60, "the first message of a run")
+        if run.poll() is not None:
+            fail(f"a run ended by itself with {run.returncode}")
+        time.sleep(moment.uniform(0, 0.06))
+        run.kill()
+        run.wait()
+        done += 1
+        time.sleep(0.05)  # what was under way at the kill may still reach the server
+        again = [address for address in stage.received()[len(before):] if address in before]
+        if len(again) > 1:
+            fail(f"one kill served more than one recipient twice: {again}")
+    before = stage.received()
+    last = stage.start()
+    if last.wait(timeout=120) != 0:
+        fail(f"the last run ended with {last.returncode}")
+    arrived = stage.received()
+    again = [address for address in arrived[len(before):] if address in before]
+    if len(again) > 1:
+        fail(f"the last kill served more than one recipient twice: {again}")
+    if set(arrived) != set(wanted):
+        fail(f"never served: {set(wanted) - set(arrived)}, served unasked: {set(arrived) - set(wanted)}")
+    exported = subprocess.run(["mdb-export", str(stage.database), "tb_destinatari"], stdout=subprocess.PIPE, text=True,
+                              check=True)
+    left = [row["email"] for row in csv.DictReader(exported.stdout.splitlines()) if row["sel"] != "0"]
+    if left:
+        fail(f"still selected at the end: {left}")
+    return done, len(arrived) - len(wanted)
+
+
+def check_pages(database):
+    checker = ROOT.parent / "shared" / "tools" / "jetfsck.py"
+    if not checker.exists():
+        print("skipped: the outside page checker is not there")
+        return
+    if subprocess.run([sys.executable, str(checker), "fsck", str(database)]).returncode != 0:
+        fail("the page checker has findings")
+
+
+def main():
+    build = pathlib.Path(sys.argv[1]).resolve()
+    kills = int(sys.argv[2]) if len(sys.argv) > 2 else 20
+    moment = random.Random(SEED)
+    killed = twice = 0
+    while killed < kills:
+        with tempfile.TemporaryDirectory() as folder:
+            stage = Stage(build, pathlib.Path(folder))
+            try:
+                more, extra = play(stage, kills - killed, moment)
+                check_pages(stage.database)
+            finally:
+                stage.close()
+        killed += more
+        twice += extra
+    print(f"{killed} runs killed, nobody lost, {twice} served twice")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
