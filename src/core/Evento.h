@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "core/Fallimento.h"
+
+/// The edge between the program and the toolkit: every handler of a window event runs inside evento(). A
+/// failure that no procedure on the way took stops here: it is shown and the program ends. Nothing is ever
+/// thrown across the toolkit's event loop, nested loops of modal windows and of the send engine's wait
+/// included, since each handler has its own edge.
+
+/// Ends the program at once, with the given exit status: no window gets its own unload, nothing is saved.
+[[noreturn]] void TerminaProgramma(int stato = 1);
+
+/// For tests: what runs instead of the end of the process. The handler that called TerminaProgramma is left
+/// all the same, up to its evento(). An empty function puts the real end back.
+void sostituisciTermine(std::function<void(int stato)> termine);
+
+/// What TerminaProgramma throws under a replaced end, on its way to evento(). Nothing else may catch it.
+struct ProgrammaTerminato {
+    int stato;
+};
+
+/// Shows the failure ("Errore N:", an empty line, its text) and ends the program.
+[[noreturn]] void mostraEtermina(const Fallimento& fallimento);
+
+/// False while a failure is on show: the program is about to end and takes no further events.
+bool accettaEventi();
+
+/// Runs one event handler.
+template <class Gestore>
+void evento(Gestore&& gestore) {
+    if (!accettaEventi()) return;
+    try {
+        try {
+            std::forward<Gestore>(gestore)();
+        } catch (const Fallimento& fallimento) {
+            mostraEtermina(fallimento);
+        }
+    } catch (const ProgrammaTerminato&) {
+    }
+}
