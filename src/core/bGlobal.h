@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <QString>
@@ -31,3 +32,6 @@ inline float posTop = 0;
 inline float posWidth = 0;
 inline float posHeight = 0;
 inline std::int16_t posWindowState = 0;
+
+/// The palette that follows the desktop's colour scheme; set only by ImpostaColoriTema. Red in the low byte.
+inline std::array<std::uint32_t, 25> coloriTema{};

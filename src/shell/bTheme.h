@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <QPalette>
+#include <QString>
+
+class QWidget;
+
+/// The colours that follow the desktop's colour scheme. A colour value has red in its low byte. The palette
+/// is coloriTema (bGlobal.h); RilevaTema fills it and dresses the program in it.
+
+/// Finds the desktop's colour scheme, fills the palette and gives the scheme's name. Every window calls it
+/// first in its load. Without a theme service, or after a failure on the way, the scheme is "Classic".
+QString RilevaTema(QWidget* finestra);
+
+/// Fills the palette with the colours of a scheme: "Classic", "NormalColor", "Metallic" or "HomeStead". Any
+/// other name leaves it as it was.
+void ImpostaColoriTema(const QString& nome);
+
+/// Colour 1 over colour 2: quota 0 gives colour 2, 255 gives colour 1. Halves go to the even number.
+std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int quota);
+
+/// The widget colours that follow from coloriTema.
+QPalette tavolozzaTema();
+
+/// An entry of coloriTema.
+QColor coloreTema(int indice);
