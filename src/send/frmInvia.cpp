@@ -1,0 +1,256 @@
+#include "send/frmInvia.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/Evento.h"
+#include "lang/bVAR.h"
+#include "message/MessaggioMss.h"
+#include "platform/mail/DeliveryControl.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/FileDialog.h"
+#include "platform/ui/ProgressCounter.h"
+#include "shell/bTheme.h"
+
+namespace {
+
+constexpr int margine = 12;
+constexpr int spazio = 8;
+
+QString senzaSegni(QString testo) {
+    return testo.remove('&').remove(':');
+}
+
+}  // namespace
+
+frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
+    setObjectName("frmInvia");
+    setWindowTitle(" Invia messaggi");
+    RilevaTema(this);
+    CreaControlli();
+    DisponiControlli();
+    CollegaEtichette();
+    CollegaEventi();
+    resize(QSize(600, 340).expandedTo(sizeHint()));
+}
+
+void frmInvia::CreaControlli() {
+    const auto nomina = [this](auto* controllo, const char* nome) {
+        controllo->setParent(this);
+        controllo->setObjectName(nome);
+        return controllo;
+    };
+    const auto pulsante = [&](const char* nome, const char* testo, const char* icona) {
+        auto* controllo = nomina(new QPushButton(testo), nome);
+        if (icona) controllo->setIcon(QIcon::fromTheme(icona));
+        controllo->setAutoDefault(false);
+        return controllo;
+    };
+    const auto casella = [&](const char* nome, const char* testo = "") {
+        auto* controllo = nomina(new QLineEdit(testo), nome);
+        controllo->setMinimumHeight(26);
+        return controllo;
+    };
+    const auto elenco = [&](const char* nome) {
+        auto* controllo = nomina(new QComboBox, nome);
+        controllo->setMinimumHeight(26);
+        return controllo;
+    };
+    const auto etichetta = [&](const char* nome, const char* testo) {
+        return nomina(new QLabel(testo), nome);
+    };
+    // In the order in which the keyboard goes round them.
+    lblFile = etichetta("lblFile", "File messaggio da inviare:");
+    txtFile = casella("txtFile");
+    cmdFile = pulsante("cmdFile", "...", nullptr);
+    lblMittente = etichetta("lblMittente", "Account mittente:");
+    cmbAccount = elenco("cmbAccount");
+    lblPausa = etichetta("lblPausa", "Pausa:");
+    cmbPausa = elenco("cmbPausa");
+    lblTimeOut = etichetta("lblTimeOut", "Timeout:");
+    cmbTimeout = elenco("cmbTimeout");
+    chkBlocco = nomina(new QCheckBox("Non inviare più di"), "chkBlocco");
+    txtBloccoNum = casella("txtBloccoNum", "50");
+    lblBlocco1 = etichetta("lblBlocco1", "email ogni");
+    txtBloccoMin = casella("txtBloccoMin", "5");
+    lblBlocco2 = etichetta("lblBlocco2", "minuti.");
+    chkLog = nomina(new QCheckBox("Crea File per assistenza."), "chkLog");
+    lblDaInviare = etichetta("lblDaInviare", "Email da inviare:");
+    prgDaInviare = nomina(new ui::ProgressCounter, "prgDaInviare");
+    lblFallite = etichetta("lblFallite", "Email non inviate:");
+    prgFallite = nomina(new ui::ProgressCounter, "prgFallite");
+    lblInviate = etichetta("lblInviate", "Email inviate:");
+    prgInviate = nomina(new ui::ProgressCounter, "prgInviate");
+    cmdInvia = pulsante("cmdInvia", "&Invia messaggi", "document-send");
+    cmdFerma = pulsante("cmdFerma", "&Ferma invio", "media-playback-stop");
+    cmdChiudi = pulsante("cmdChiudi", "&Chiudi", nullptr);
+    SMTP = nomina(new mail::DeliveryControl, "SMTP");
+    tmr = nomina(new QTimer, "tmr");
+
+    txtBloccoNum->setEnabled(false);
+    txtBloccoMin->setEnabled(false);
+    cmdFerma->setEnabled(false);
+    cmdInvia->setDefault(true);
+}
+
+void frmInvia::DisponiControlli() {
+    auto* riga = new QFrame(this);
+    riga->setFrameShape(QFrame::HLine);
+    riga->setFrameShadow(QFrame::Plain);
+    riga->setForegroundRole(QPalette::Mid);
+
+    auto* comandi = new QHBoxLayout;
+    comandi->setSpacing(spazio);
+    comandi->addStretch();
+    for (QPushButton* pulsante : {cmdInvia, cmdFerma, cmdChiudi}) {
+        pulsante->setMinimumSize(100, 28);
+        if (pulsante == cmdChiudi) comandi->addSpacing(margine);
+        comandi->addWidget(pulsante);
+    }
+
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(margine, margine, margine, margine);
+    finestra->setSpacing(margine);
+    finestra->addLayout(DisponiScelte());
+    finestra->addWidget(riga);
+    finestra->addLayout(DisponiContatori());
+    finestra->addStretch();
+    finestra->addLayout(comandi);
+}
+
+QGridLayout* frmInvia::DisponiScelte() {
+    cmdFile->setMinimumHeight(26);
+    cmdFile->setMaximumWidth(cmdFile->fontMetrics().horizontalAdvance("...") + 28);
+    auto* file = new QHBoxLayout;
+    file->setSpacing(spazio);
+    file->addWidget(txtFile, 1);
+    file->addWidget(cmdFile);
+
+    auto* tempi = new QHBoxLayout;
+    tempi->setSpacing(spazio);
+    tempi->addWidget(cmbPausa);
+    tempi->addSpacing(2 * margine);
+    tempi->addWidget(lblTimeOut);
+    tempi->addWidget(cmbTimeout);
+    tempi->addStretch();
+    for (QComboBox* elenco : {cmbPausa, cmbTimeout})
+        elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+
+    auto* blocco = new QHBoxLayout;
+    blocco->setSpacing(spazio);
+    blocco->addWidget(chkBlocco);
+    blocco->addWidget(txtBloccoNum);
+    blocco->addWidget(lblBlocco1);
+    blocco->addWidget(txtBloccoMin);
+    blocco->addWidget(lblBlocco2);
+    blocco->addStretch();
+    for (QLineEdit* casella : {txtBloccoNum, txtBloccoMin}) {
+        casella->setMaximumWidth(casella->fontMetrics().horizontalAdvance("000000") + 12);
+        casella->setAlignment(Qt::AlignRight);
+    }
+
+    auto* scelte = new QGridLayout;
+    scelte->setSpacing(spazio);
+    scelte->setColumnStretch(1, 1);
+    scelte->addWidget(lblFile, 0, 0);
+    scelte->addLayout(file, 0, 1);
+    scelte->addWidget(lblMittente, 1, 0);
+    scelte->addWidget(cmbAccount, 1, 1);
+    scelte->addWidget(lblPausa, 2, 0);
+    scelte->addLayout(tempi, 2, 1);
+    scelte->addLayout(blocco, 3, 0, 1, 2);
+    scelte->addWidget(chkLog, 4, 0, 1, 2);
+    return scelte;
+}
+
+QGridLayout* frmInvia::DisponiContatori() {
+    prgFallite->setBarColor(QColor(176, 42, 42));
+    prgInviate->setBarColor(QColor(46, 107, 52));
+    auto* contatori = new QGridLayout;
+    contatori->setSpacing(spazio);
+    contatori->setHorizontalSpacing(margine);
+    contatori->setColumnStretch(1, 1);
+    contatori->addWidget(lblDaInviare, 0, 0);
+    contatori->addWidget(prgDaInviare, 0, 1);
+    contatori->addWidget(lblFallite, 1, 0);
+    contatori->addWidget(prgFallite, 1, 1);
+    contatori->addWidget(lblInviate, 2, 0);
+    contatori->addWidget(prgInviate, 2, 1);
+    return contatori;
+}
+
+void frmInvia::CollegaEtichette() {
+    const auto collega = [](QLabel* etichetta, QWidget* controllo) {
+        etichetta->setBuddy(controllo);
+        controllo->setAccessibleName(senzaSegni(etichetta->text()));
+    };
+    collega(lblFile, txtFile);
+    collega(lblMittente, cmbAccount);
+    collega(lblPausa, cmbPausa);
+    collega(lblTimeOut, cmbTimeout);
+    collega(lblBlocco1, txtBloccoMin);
+    collega(lblBlocco2, txtBloccoMin);
+    collega(lblDaInviare, prgDaInviare);
+    collega(lblFallite, prgFallite);
+    collega(lblInviate, prgInviate);
+    cmdFile->setAccessibleName("Sfoglia il messaggio");
+    txtBloccoNum->setAccessibleName("Numero massimo di email");
+    txtBloccoMin->setAccessibleName("Intervallo in minuti");
+    for (QAbstractButton* pulsante :
+         std::initializer_list<QAbstractButton*>{chkBlocco, chkLog, cmdInvia, cmdFerma, cmdChiudi})
+        pulsante->setAccessibleName(senzaSegni(pulsante->text()));
+}
+
+void frmInvia::CollegaEventi() {
+    const auto alClick = [this](QAbstractButton* pulsante, void (frmInvia::*gestore)()) {
+        connect(pulsante, &QAbstractButton::clicked, this,
+                [this, gestore] { evento([&] { (this->*gestore)(); }); });
+    };
+    alClick(cmdFile, &frmInvia::cmdFile_Click);
+    alClick(cmdInvia, &frmInvia::cmdInvia_Click);
+    alClick(cmdFerma, &frmInvia::cmdFerma_Click);
+    alClick(cmdChiudi, &frmInvia::cmdChiudi_Click);
+    connect(chkBlocco, &QCheckBox::toggled, this, [this] { evento([&] { chkBlocco_Click(); }); });
+    connect(tmr, &QTimer::timeout, this, [this] { evento([&] { tmr_Timer(); }); });
+    connect(SMTP, &mail::DeliveryControl::SendDone, this, [this] { mailInviata = true; });
+    connect(SMTP, &mail::DeliveryControl::SendError, this, [this] { mailFallita = true; });
+}
+
+/// The labels' column holds seven figures from the start, so that the bars never move during a run.
+void frmInvia::AllargaEtichette() {
+    const QString cifre = ' ' + text::formatGrouped(9999999);
+    int larghezza = 0;
+    for (QLabel* etichetta : {lblDaInviare, lblFallite, lblInviate}) {
+        const QString nome = etichetta->text().left(etichetta->text().indexOf(':') + 1);
+        larghezza = qMax(larghezza, etichetta->fontMetrics().horizontalAdvance(nome + cifre));
+    }
+    lblDaInviare->setMinimumWidth(larghezza);
+}
+
+void frmInvia::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmInvia::chkBlocco_Click() {
+    txtBloccoNum->setEnabled(chkBlocco->isChecked());
+    txtBloccoMin->setEnabled(chkBlocco->isChecked());
+}
+
+void frmInvia::cmdChiudi_Click() {
+    hide();
+}
+
+void frmInvia::cmdFile_Click() {
+    const auto percorso = ui::FileDialog::open(bVAR::goApriEmail, "Message File (*.mss)|*.mss");
+    if (!percorso) fallisci(ErrorCode::CancelSelected);
+    goDHTML.setDocumentHTML(LeggiCorpoMss(*percorso));
+    txtFile->setText(*percorso);
+    cmdInvia->setDefault(true);
+}

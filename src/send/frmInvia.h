@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QDialog>
+
+#include "accounts/AccountFile.h"
+#include "core/Fallimento.h"
+#include "platform/html/HtmlDocument.h"
+#include "send/Limiti.h"
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTimer;
+namespace mail {
+class DeliveryControl;
+}
+namespace ui {
+class ProgressCounter;
+}
+
+/// The send window: its set-up and the engine that walks the selection, one recipient for each tick of `tmr`.
+///
+/// The column "sel" of the recipients is the queue: a delivered recipient leaves it, a failed one stays and
+/// is stepped over by counting. The counters of a run are the values of the three bars; the run is over when
+/// the to-do bar reaches zero or after a stop. docs/architecture.md shows the states of a run.
+class frmInvia : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmInvia(QWidget* parent = nullptr);
+
+    /// Counts the selected recipients and sets the bars and their labels to the start of a run. Unguarded.
+    void SetPrgBar();
+    /// Fills the three lists. Unguarded.
+    void CaricaDati();
+
+    /// The window is left by cmdChiudi only: Esc has no effect.
+    void reject() override {}
+
+  protected:
+    void closeEvent(QCloseEvent* chiusura) override;
+
+  private:
+    // frmInvia.cpp: the window
+    void CreaControlli();
+    void DisponiControlli();
+    QGridLayout* DisponiScelte();
+    QGridLayout* DisponiContatori();
+    void CollegaEtichette();
+    void CollegaEventi();
+    void AllargaEtichette();
+    void chkBlocco_Click();
+    void cmdChiudi_Click();
+    void cmdFile_Click();
+
+    // frmInvia_imposta.cpp: lists, checks and the preparation of a run
+    void CaricaAccount();
+    void CaricaPausa();
+    void CaricaTimeout();
+    void cmdInvia_Click();
+    bool ControllaScelte();
+    void LeggiMessaggio(Prosegui& prosegui);
+    void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);
+
+    // frmInvia_tick.cpp: the engine
+    void tmr_Timer();
+    qint32 LeggiDestinatario(Prosegui& prosegui);
+    void ScegliStrada(Prosegui& prosegui, int indiceAccount);
+    void AttendiEsito();
+    void ContaInviata(Prosegui& prosegui, qint32 idDestinatario);
+    void ContaFallita();
+    void cmdFerma_Click();
+    void AbilitaControlli(bool valore);
+    void AggiornaDaInviare(double n);
+    void AggiornaFallite(double n);
+    void AggiornaInviate(double n);
+
+    // frmInvia_limiti.cpp: pause, time-out and log
+    void ImpostaPausa(Prosegui& prosegui);
+    void ImpostaTimeout(Prosegui& prosegui);
+    bool ChiediLog();
+
+    QLabel* lblFile;
+    QLineEdit* txtFile;
+    QPushButton* cmdFile;
+    QLabel* lblMittente;
+    QComboBox* cmbAccount;
+    QLabel* lblPausa;
+    QComboBox* cmbPausa;
+    QLabel* lblTimeOut;
+    QComboBox* cmbTimeout;
+    QCheckBox* chkBlocco;
+    QLineEdit* txtBloccoNum;
+    QLabel* lblBlocco1;
+    QLineEdit* txtBloccoMin;
+    QLabel* lblBlocco2;
+    QCheckBox* chkLog;
+    QLabel* lblDaInviare;
+    ui::ProgressCounter* prgDaInviare;
+    QLabel* lblFallite;
+    ui::ProgressCounter* prgFallite;
+    QLabel* lblInviate;
+    ui::ProgressCounter* prgInviate;
+    QPushButton* cmdInvia;
+    QPushButton* cmdFerma;
+    QPushButton* cmdChiudi;
+    HtmlDocument goDHTML;
+    mail::DeliveryControl* SMTP;
+    QTimer* tmr;
+
+    TabellaAccount account;
+
+    // The run. The window stays loaded between runs, so each field keeps its value until it is set again.
+    bool fermaInvio = false;
+    bool mailInviata = false;
+    bool mailFallita = false;
+    qint32 saltaRecord = 0;  ///< rows to step over at the head of the selection: the failures of this run
+    QString corpoHtml;
+    QString CorpoTesto;
+    QString oggettoMail;
+    LimiteBlocco limite;
+};

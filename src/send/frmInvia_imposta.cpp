@@ -1,0 +1,136 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/bFunctions.h"
+#include "core/bImpostazioni.h"
+#include "lang/bVAR.h"
+#include "message/MessaggioMss.h"
+#include "platform/mail/DeliveryControl.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/MessageDialog.h"
+#include "platform/ui/ProgressCounter.h"
+#include "send/frmInvia.h"
+#include "send/Porta.h"
+#include "send/Selezione.h"
+
+using ui::MessageDialog;
+
+void frmInvia::SetPrgBar() {
+    ado::Recordset rs = RecordsetSelezione();
+    const auto conto = static_cast<double>(ContaSelezionati(rs));
+    for (ui::ProgressCounter* contatore : {prgDaInviare, prgFallite, prgInviate})
+        contatore->setMaximum(conto);
+    prgDaInviare->setValue(conto);
+    prgFallite->setValue(0);
+    prgInviate->setValue(0);
+    AllargaEtichette();
+    AggiornaDaInviare(conto);
+    AggiornaFallite(0);
+    AggiornaInviate(0);
+}
+
+void frmInvia::CaricaDati() {
+    CaricaAccount();
+    CaricaPausa();
+    CaricaTimeout();
+    cmdInvia->setDefault(true);
+    txtFile->setFocus();
+}
+
+void frmInvia::CaricaAccount() {
+    cmbAccount->clear();
+    const bool letto = ::CaricaAccount(
+        cartellaDati() + "Account.imp", account,
+        [this](const Account& uno, int numero) { cmbAccount->addItem(VoceAccount(uno), numero); });
+    // The list takes its first entry by itself; the one to choose is the account numbered 0.
+    if (letto)
+        cmbAccount->setCurrentIndex(cmbAccount->findText(VoceAccount(account.front()), Qt::MatchExactly));
+}
+
+void frmInvia::CaricaPausa() {
+    cmbPausa->clear();
+    for (const char* voce : {"0.0 ", "0.5 ", "1.0 ", "1.5 ", "2.0 ", "2.5 ", "3.0 ", "3.5 ", "4.0 ", "4.5 ",
+                             "5.0 ", "10 ", "20 ", "30 ", "60 "})
+        cmbPausa->addItem(voce + bVAR::goSecondi);
+    cmbPausa->setCurrentIndex(0);
+}
+
+void frmInvia::CaricaTimeout() {
+    cmbTimeout->clear();
+    // Two blanks behind the 5: the value is read back from the first three characters.
+    for (const char* voce : {"5  ", "10 ", "20 ", "30 ", "60 "})
+        cmbTimeout->addItem(voce + bVAR::goSecondi);
+    cmbTimeout->setCurrentIndex(0);
+}
+
+void frmInvia::cmdInvia_Click() {
+    Prosegui prosegui;
+    if (!ControllaScelte()) return;
+    limite.bloccoAttivo = chkBlocco->isChecked();
+    if (chkLog->isChecked() && !ChiediLog()) return;
+    AbilitaControlli(false);
+    prosegui([&] { SetPrgBar(); });
+    ImpostaPausa(prosegui);
+    saltaRecord = 0;
+    fermaInvio = false;
+    const int indiceAccount = cmbAccount->currentData().toInt();
+    if (!FileEsiste(txtFile->text())) {
+        // The controls stay locked: cmdFerma is the way to go on.
+        MessageDialog::show("Il File messaggio è stato eliminato o spostato.", MessageDialog::Notice,
+                            "Attenzione");
+        return;
+    }
+    LeggiMessaggio(prosegui);
+    corpoHtml = goDHTML.documentHTML();
+    CorpoTesto = goDHTML.bodyInnerText();
+    ImpostaConsegna(prosegui, indiceAccount);
+    limite.avvia(txtBloccoMin->text(), txtBloccoNum->text());
+    tmr->start();
+}
+
+bool frmInvia::ControllaScelte() {
+    const auto avvisa = [](const QString& testo) {
+        MessageDialog::show(testo, MessageDialog::Notice, bVAR::Attenzione);
+        return false;
+    };
+    if (txtFile->text().right(3).toLower() != "mss")
+        return avvisa("Selezionare un messaggio prima di continuare.");
+    if (cmbAccount->currentIndex() < 0) return avvisa("Creare un mittente per inviare i messaggi.");
+    if (!chkBlocco->isChecked()) return true;
+    if (!text::isNumeric(txtBloccoNum->text()))
+        return avvisa("Inserire il numero di messaggi massimo da inviare entro [X] minuti.");
+    if (!text::isNumeric(txtBloccoMin->text()))
+        return avvisa("Inserire l'intervallo in minuti per l'invio massimo di [X] email.");
+    return true;
+}
+
+void frmInvia::LeggiMessaggio(Prosegui& prosegui) {
+    LettoreMss lettore(txtFile->text());
+    prosegui([&] { oggettoMail = lettore.oggetto(); });
+    prosegui([&] { SMTP->Priority = NumeroPriorita(lettore.priorita()); });
+    SMTP->Attachments.Clear();
+    while (const auto allegato = lettore.allegato()) {
+        if (allegato->presente) {
+            SMTP->Attachments.Add(allegato->percorso, allegato->nome);
+        } else {
+            MessageDialog::show(AvvisoAllegatoMancante(allegato->nome), MessageDialog::Notice, "Attenzione");
+        }
+    }
+    // The body goes out as it stood when the file was picked; what the file holds now is not looked at.
+    lettore.corpo();
+}
+
+void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
+    const Account& mittente = account.at(indiceAccount);
+    SMTP->FromAddress = mittente.txtEmail;
+    SMTP->FromName = mittente.txtNomeVisual;
+    SMTP->HeloMode = mittente.cmbSaluto == "EHLO" ? 0 : 1;
+    prosegui([&] { SMTP->OutPort = NumeroPorta(mittente.txtOutPort); });
+    ImpostaTimeout(prosegui);
+    SMTP->BodyFormat = 1;
+    SMTP->TemplateHtml = corpoHtml;
+    SMTP->CertificateFolder = cartellaDati() + "certificati";
+}

@@ -1,0 +1,172 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/bGlobal.h"
+#include "platform/ado/Command.h"
+#include "platform/mail/DeliveryControl.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/ProgressCounter.h"
+#include "send/frmInvia.h"
+#include "send/Personalizza.h"
+#include "send/Porta.h"
+#include "send/Selezione.h"
+
+namespace {
+
+/// The caption up to and including its first colon, a blank, the number.
+void AggiornaEtichetta(QLabel* etichetta, double n) {
+    const QString testo = etichetta->text();
+    etichetta->setText(testo.left(testo.indexOf(':') + 1) + ' ' + text::formatGrouped(n));
+}
+
+}  // namespace
+
+/// One recipient: read his row, hand his copy over, wait for the outcome, count it, arm the timer for the
+/// next one. The row is read on a recordset that is closed before the delivery starts; a failure of any
+/// statement leaves what it would have set as it was and never ends the run.
+void frmInvia::tmr_Timer() {
+    Prosegui prosegui;
+    const int indiceAccount = cmbAccount->currentData().toInt();
+    tmr->stop();  // the only guard against a second tick
+
+    SMTP->BodyHtml = corpoHtml;
+    SMTP->BodyText = CorpoTesto;
+    SMTP->Subject = oggettoMail;
+    const qint32 idDestinatario = LeggiDestinatario(prosegui);
+
+    QCoreApplication::processEvents();
+    mailInviata = false;
+    mailFallita = false;
+    ScegliStrada(prosegui, indiceAccount);
+    SMTP->Send();
+    AttendiEsito();
+
+    if (mailInviata) {
+        ContaInviata(prosegui, idDestinatario);
+    } else {
+        ContaFallita();
+    }
+    prgDaInviare->setValue(prgDaInviare->value() - 1);
+    AggiornaDaInviare(prgDaInviare->value());
+
+    if (prgDaInviare->value() > 0 && !fermaInvio) {
+        limite.applica();
+        tmr->start();
+    } else {
+        AbilitaControlli(true);
+    }
+}
+
+/// Personalises the message for the recipient that is next and gives his number; 0 where it cannot be read.
+qint32 frmInvia::LeggiDestinatario(Prosegui& prosegui) {
+    qint32 idDestinatario = 0;
+    ado::Recordset rs;
+    prosegui([&] { rs = RecordsetSelezione(); });
+    rs.setSource(
+        "SELECT * FROM [tb_destinatari] WHERE [sel] = True "
+        "ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind ASC;");
+    prosegui([&] { esigi(rs.open()); });
+    prosegui([&] { esigi(rs.move(saltaRecord)); });
+
+    const LeggiColonna leggi = [&rs](const QString& colonna) -> Result<std::optional<QString>> {
+        const auto valore = rs.value(colonna);
+        if (!valore.ok()) return valore.status();
+        if (valore.value().isNull()) return std::optional<QString>();
+        auto testo = valore.value().toText();
+        if (!testo.ok()) return testo.status();
+        return std::optional(std::move(testo).value());
+    };
+    const ValoriSegnaposto valori = LeggiValori(leggi);
+    for (QString* testo : {&SMTP->BodyHtml, &SMTP->BodyText, &SMTP->Subject})
+        *testo = Personalizza(*testo, valori);
+
+    prosegui([&] { SMTP->ToAddress = esigi(esigi(rs.value(u"email")).toText()); });
+    prosegui([&] { SMTP->ToName = esigi(NomeDestinatario(leggi)); });
+    prosegui([&] { idDestinatario = static_cast<qint32>(esigi(esigi(rs.value(u"id")).toInteger())); });
+    rs.close();
+    return idDestinatario;
+}
+
+void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
+    const Account& mittente = account.at(indiceAccount);
+    const auto numero = [](const QString& testo) { return text::numberFromText(testo); };
+
+    const auto usaSMTP = numero(mittente.chkUsaSMTP);
+    const bool diretta = usaSMTP.ok() && usaSMTP.value() == 0;
+    SMTP->OpportunisticTls = diretta;
+    if (diretta) {
+        // Without a mail exchanger there is no host, and the delivery fails.
+        SMTP->ServerName.clear();
+        SMTP->ServerPort = 25;
+    } else {
+        SMTP->ServerName = mittente.txtServerSMTP;
+        prosegui([&] { SMTP->ServerPort = NumeroPorta(mittente.txtServerPORT); });
+    }
+    const auto autentica = numero(mittente.chkAutentick);
+    SMTP->UseAuth = !diretta && autentica.ok() && autentica.value() == 1;
+    SMTP->UserName = SMTP->UseAuth ? mittente.txtUsername : QString();
+    SMTP->UserPassword = SMTP->UseAuth ? mittente.txtPassword : QString();
+}
+
+/// Turns the event loop between its tests, so that the window lives and the outcome arrives in either order.
+void frmInvia::AttendiEsito() {
+    while (!mailInviata && !fermaInvio && !mailFallita)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void frmInvia::ContaInviata(Prosegui& prosegui, qint32 idDestinatario) {
+    prgInviate->setValue(prgInviate->value() + 1);
+    AggiornaInviate(prgInviate->value());
+    prosegui([&] {
+        ado::Command cmd;
+        esigi(cmd.setActiveConnection(connDB));
+        cmd.setCommandTimeout(0);
+        cmd.setPrepared(false);
+        cmd.setCommandText("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = " +
+                           QString::number(idDestinatario) + ';');
+        esigi(cmd.execute());
+    });
+}
+
+void frmInvia::ContaFallita() {
+    saltaRecord += 1;
+    prgFallite->setValue(prgFallite->value() + 1);
+    AggiornaFallite(prgFallite->value());
+}
+
+void frmInvia::cmdFerma_Click() {
+    SMTP->Abort();
+    fermaInvio = true;
+    AbilitaControlli(true);
+}
+
+void frmInvia::AbilitaControlli(bool valore) {
+    const bool fuocoSuFerma = cmdFerma->hasFocus();
+    for (QWidget* controllo : std::initializer_list<QWidget*>{chkLog, txtFile, cmdFile, cmbAccount, cmbPausa,
+                                                              cmbTimeout, chkBlocco, cmdChiudi, cmdInvia})
+        controllo->setEnabled(valore);
+    // The focus goes where the next step is, before its button is taken away.
+    QPushButton* prossimo = valore ? cmdChiudi : cmdFerma;
+    if (!valore) cmdFerma->setEnabled(true);
+    prossimo->setDefault(true);
+    if (!valore || fuocoSuFerma) prossimo->setFocus();
+    if (valore) cmdFerma->setEnabled(false);
+}
+
+void frmInvia::AggiornaDaInviare(double n) {
+    AggiornaEtichetta(lblDaInviare, n);
+}
+
+void frmInvia::AggiornaFallite(double n) {
+    AggiornaEtichetta(lblFallite, n);
+}
+
+void frmInvia::AggiornaInviate(double n) {
+    AggiornaEtichetta(lblInviate, n);
+}
