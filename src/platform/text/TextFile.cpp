@@ -100,12 +100,10 @@ Status TextWriter::open(const QString& path, WriteMode mode, FileAccess access) 
     m_file.setFileName(path);
     const QIODevice::OpenMode flags = mode == WriteMode::Append ? QIODevice::Append : QIODevice::WriteOnly;
     const QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
-    const bool opened = access == FileAccess::OwnerOnly
-                            ? m_file.open(flags, ownerOnly) && m_file.setPermissions(ownerOnly)
-                            : m_file.open(flags);
-    if (opened) return {};
-    m_file.close();
-    return pathAccess();
+    if (access == FileAccess::Default) return m_file.open(flags) ? Status() : pathAccess();
+    if (!m_file.open(flags, ownerOnly)) return pathAccess();
+    m_file.setPermissions(ownerOnly);  // an older file may belong to somebody else: then it stays as it is
+    return {};
 }
 
 Status TextWriter::print(QStringView line) {

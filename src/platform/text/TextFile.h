@@ -60,7 +60,7 @@ enum class WriteMode {
 /// Who may open a file that the writer creates.
 enum class FileAccess {
     Default,    ///< what the user's settings say
-    OwnerOnly,  ///< its owner alone; also applied to a file that is already there
+    OwnerOnly,  ///< its owner alone; a file that is already there is narrowed too, where the user may
 };
 
 /// Writes lines that end in CR LF. What was written stays when a later line fails. Closes the file with
