@@ -31,6 +31,7 @@ enum class ErrorCode : int {
     UnrecognizedFormat = 3343,
     DamagedDatabase = 3049,
     CancelSelected = 32755,
+    Timeout = -2147217871,
 };
 
 /// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user as

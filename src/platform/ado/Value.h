@@ -18,10 +18,12 @@ class Value {
     Value() = default;  ///< Null
     Value(bool yesNo) : m_value(yesNo) {}
     Value(int number) : m_value(static_cast<int64_t>(number)) {}
-    Value(qint64 number) : m_value(static_cast<int64_t>(number)) {}
+    Value(long number) : m_value(static_cast<int64_t>(number)) {}
+    Value(long long number) : m_value(static_cast<int64_t>(number)) {}
     Value(double number) : m_value(number) {}
     Value(const QString& text) : m_value(text.toStdString()) {}
-    Value(const char*) = delete;  // would silently become a yes/no
+    template <class T>
+    Value(const T*) = delete;  // would silently become a yes/no
     explicit Value(jet::Value value) : m_value(std::move(value)) {}
 
     Type type() const;

@@ -1,0 +1,18 @@
+#include "platform/ado/Connection.h"
+
+#include "platform/ado/Session.h"
+
+namespace ado {
+
+Status Connection::open(const QString& connectionText) {
+    const auto session = Session::open(connectionText);
+    if (!session.ok()) return session.status();
+    m_text = connectionText;
+    return {};
+}
+
+void closeAll() {
+    Session::closeAll();
+}
+
+}  // namespace ado

@@ -1,0 +1,143 @@
+#include "platform/ado/JetTable.h"
+
+#include <algorithm>
+
+namespace ado {
+
+namespace {
+
+Status rowGone() {
+    return {ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato.")};
+}
+
+}  // namespace
+
+Result<jet::Table*> JetTable::table() {
+    if (!m_table) {
+        const Result<jet::Table*> found = m_database.table(m_definition.name);
+        if (!found.ok()) return found.status();
+        m_table = found.value();
+    }
+    return m_table;
+}
+
+Result<bool> JetTable::read(jet::RowId id, jet::Bytes& bytes) {
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return source.status();
+    const Result<std::optional<jet::RowView>> row = source.value()->row(id);
+    if (!row.ok()) return row.status();
+    if (!row.value()) return false;
+    bytes.assign(row.value()->bytes().begin(), row.value()->bytes().end());
+    return true;
+}
+
+Result<jet::Value> JetTable::longValue(jet::RowId id, size_t column) {
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return source.status();
+    return source.value()->value(id, column);
+}
+
+Result<std::optional<jet::RowId>> JetTable::findByPrimaryKey(int32_t key) {
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return source.status();
+    return source.value()->findByPrimaryKey(key);
+}
+
+Result<std::shared_ptr<const RowOrder>> JetTable::order(const OrderSpec& spec) {
+    const auto known =
+        std::find_if(m_orders.begin(), m_orders.end(), [&](const auto& o) { return o->spec() == spec; });
+    if (known != m_orders.end()) {
+        std::rotate(known, known + 1, m_orders.end());
+        return std::shared_ptr<const RowOrder>(m_orders.back());
+    }
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return source.status();
+    auto made = std::make_shared<RowOrder>(spec);
+    const Status status = made->fill(*source.value());
+    if (!status.ok()) return status;
+    if (m_orders.size() == keptOrders) m_orders.erase(m_orders.begin());
+    m_orders.push_back(made);
+    return std::shared_ptr<const RowOrder>(made);
+}
+
+Status JetTable::writable() {
+    const Result<jet::Table*> target = table();
+    return target.ok() ? target.value()->writable() : target.status();
+}
+
+Result<int32_t> JetTable::takeAutoNumber() {
+    const Result<jet::Table*> target = table();
+    if (!target.ok()) return target.status();
+    return target.value()->takeAutoNumber();
+}
+
+Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
+    const Result<jet::Table*> target = table();
+    if (!target.ok()) return target.status();
+    Result<jet::RowId> id = target.value()->insert(values);
+    if (!id.ok() || m_orders.empty()) return id;
+    const Result<std::optional<jet::RowView>> row = target.value()->row(id.value());
+    if (!row.ok()) return row.status();
+    if (!row.value()) return rowGone();
+    for (const auto& order : m_orders)
+        order->add(order->keyOf(*row.value()), id.value());
+    return id;
+}
+
+Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes) {
+    const Result<jet::Table*> target = table();
+    if (!target.ok()) return target.status();
+    for (const auto& [column, value] : changes)
+        if (m_definition.columns[column].autoNumber)
+            return {ErrorCode::NotSupported,
+                    QStringLiteral("Il campo contatore \"%1\" non può essere modificato.")
+                        .arg(m_definition.columns[column].name)};
+    std::vector<std::pair<RowOrder*, std::string>> moved;
+    Result<std::optional<jet::RowView>> row = target.value()->row(id);
+    if (!row.ok()) return row.status();
+    if (!row.value()) return rowGone();
+    for (const auto& order : m_orders)
+        if (std::any_of(changes.begin(), changes.end(),
+                        [&](const auto& c) { return order->spec().uses(c.first); }))
+            moved.emplace_back(order.get(), order->keyOf(*row.value()));
+    const Status status = target.value()->update(id, changes);
+    if (!status.ok() || moved.empty()) return status;
+    row = target.value()->row(id);
+    if (!row.ok()) return row.status();
+    if (!row.value()) return rowGone();
+    for (const auto& [order, key] : moved) {
+        order->remove(key, id);
+        order->add(order->keyOf(*row.value()), id);
+    }
+    return {};
+}
+
+Status JetTable::erase(jet::RowId id) {
+    const Result<jet::Table*> target = table();
+    if (!target.ok()) return target.status();
+    const Result<std::optional<jet::RowView>> row = target.value()->row(id);
+    if (!row.ok()) return row.status();
+    if (!row.value()) return rowGone();
+    for (const auto& order : m_orders)
+        order->remove(order->keyOf(*row.value()), id);
+    return target.value()->erase(id);
+}
+
+void JetTable::forget() {
+    m_table = nullptr;
+    m_orders.clear();
+}
+
+bool JetTable::stillTheSame() {
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return false;
+    const auto& now = source.value()->definition().columns;
+    return std::equal(now.begin(), now.end(), m_definition.columns.begin(), m_definition.columns.end(),
+                      [](const jet::Column& a, const jet::Column& b) {
+                          return a.name == b.name && a.type == b.type && a.number == b.number &&
+                                 a.length == b.length && a.variableIndex == b.variableIndex &&
+                                 a.fixedOffset == b.fixedOffset;
+                      });
+}
+
+}  // namespace ado

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/ado/RowOrder.h"
+#include "platform/jet/Database.h"
+
+namespace ado {
+
+/// One table of an open database as statements and recordsets use it: its rows, and the orders of them that
+/// were asked for. An order is made by one walk over the table and afterwards follows each row that is
+/// written through here; it is forgotten when the file was changed by somebody else or a transaction was
+/// undone.
+class JetTable {
+  public:
+    /// `table` belongs to `database`, which outlives this.
+    JetTable(jet::Database& database, const jet::Table& table)
+        : m_database(database), m_definition(table.definition()) {}
+
+    const jet::TableDefinition& definition() const { return m_definition; }
+
+    /// The bytes of a row, to be seen through definition(). False when there is no such row (any more).
+    Result<bool> read(jet::RowId id, jet::Bytes& bytes);
+    /// One value of a row that does not lie in its bytes (memo, OLE).
+    Result<jet::Value> longValue(jet::RowId id, size_t column);
+    Result<std::optional<jet::RowId>> findByPrimaryKey(int32_t key);
+    /// All rows in that order. What is handed out stays as it is written on, and valid, until the next write.
+    Result<std::shared_ptr<const RowOrder>> order(const OrderSpec& spec);
+
+    Status writable();
+    Result<int32_t> takeAutoNumber();
+    Result<jet::RowId> insert(std::span<const jet::Value> values);
+    Status update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes);
+    Status erase(jet::RowId id);
+
+    /// Drops everything that was learnt from the file.
+    void forget();
+    /// Whether the file still holds the table with the same columns.
+    bool stillTheSame();
+
+  private:
+    Result<jet::Table*> table();
+
+    static constexpr size_t keptOrders = 8;
+
+    jet::Database& m_database;
+    jet::TableDefinition m_definition;
+    jet::Table* m_table = nullptr;                    ///< null until it is needed
+    std::vector<std::shared_ptr<RowOrder>> m_orders;  ///< the most recently used one last
+};
+
+}  // namespace ado

@@ -1,0 +1,298 @@
+#include "platform/ado/Recordset.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/ado/FieldValue.h"
+#include "platform/ado/Rows.h"
+
+namespace ado {
+
+namespace {
+
+Status noCurrentRecord() {
+    return {ErrorCode::NoCurrentRecord, QStringLiteral("Nessun record corrente.")};
+}
+
+Status notOpen() {
+    return {ErrorCode::NotSupported, QStringLiteral("Operazione non consentita se l'oggetto è chiuso.")};
+}
+
+Status notUpdatable() {
+    return {ErrorCode::NotSupported, QStringLiteral("Il recordset corrente non supporta l'aggiornamento.")};
+}
+
+Status unknownField(const QString& name) {
+    return {ErrorCode::ItemNotFound, QStringLiteral("Impossibile trovare il campo \"%1\".").arg(name)};
+}
+
+using Changes = std::vector<std::pair<size_t, jet::Value>>;
+
+/// Gives `column` its new value, in place of one that was set before.
+void setChange(Changes& changes, size_t column, jet::Value value) {
+    const auto known =
+        std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });
+    if (known != changes.end()) {
+        known->second = std::move(value);
+    } else {
+        changes.emplace_back(column, std::move(value));
+    }
+}
+
+}  // namespace
+
+struct Recordset::Data {
+    QString connection;
+    CursorType cursorType = CursorType::ForwardOnly;
+    LockType lockType = LockType::ReadOnly;
+    QString source;
+
+    std::shared_ptr<Session> session;
+    std::unique_ptr<Rows> rows;  ///< null when closed
+    size_t current = 0;  ///< one before the first is not needed: movement is forward or back to the first
+    bool beforeFirst = false;
+    bool adding = false;
+    Changes changes;
+
+    jet::RowId loadedRow;  ///< whose bytes `bytes` holds
+    jet::Bytes bytes;
+    bool loaded = false;
+
+    bool onRow() const { return rows && !beforeFirst && current < rows->known(); }
+    bool pending() const { return adding || !changes.empty(); }
+    void drop() {
+        adding = false;
+        changes.clear();
+    }
+    Status load();
+    Result<Value> field(size_t column);
+    Status updatable() const;
+    Status post();
+    std::optional<size_t> find(QStringView name) const;
+};
+
+Recordset::Recordset() : m_data(std::make_unique<Data>()) {}
+Recordset::~Recordset() = default;
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+
+Status Recordset::setActiveConnection(const QString& connectionText) {
+    m_data->connection = connectionText;
+    return Session::open(connectionText).status();
+}
+
+void Recordset::setCursorType(CursorType type) {
+    m_data->cursorType = type;
+}
+void Recordset::setCursorLocation(CursorLocation) {}
+void Recordset::setLockType(LockType type) {
+    m_data->lockType = type;
+}
+void Recordset::setSource(const QString& statement) {
+    m_data->source = statement;
+}
+
+Status Recordset::open() {
+    close();
+    const auto session = Session::open(m_data->connection);
+    if (!session.ok()) return session.status();
+    const Result<StatementText> statement = StatementText::read(m_data->source);
+    if (!statement.ok()) return statement.status();
+    if (statement.value().verb != StatementText::Verb::Select)
+        return {ErrorCode::NotSupported, QStringLiteral("L'origine di un recordset deve essere una SELECT.")};
+    auto rows = Rows::run(session.value(), statement.value());
+    if (!rows.ok()) return rows.status();
+    if (Status status = rows.value()->reach(1); !status.ok()) return status;
+    m_data->session = session.value();
+    m_data->rows = std::move(rows).value();
+    m_data->current = 0;
+    m_data->beforeFirst = false;
+    m_data->loaded = false;
+    return {};
+}
+
+void Recordset::close() {
+    m_data->drop();
+    m_data->rows.reset();
+    m_data->session.reset();
+}
+
+bool Recordset::isOpen() const {
+    return m_data->rows != nullptr;
+}
+
+bool Recordset::isBof() const {
+    return !m_data->rows || m_data->beforeFirst || m_data->rows->known() == 0;
+}
+bool Recordset::isEof() const {
+    return !m_data->rows || (!m_data->beforeFirst && !m_data->onRow());
+}
+
+Status Recordset::moveFirst() {
+    if (!isOpen()) return notOpen();
+    if (m_data->pending())
+        if (Status status = update(); !status.ok()) return status;
+    if (m_data->rows->known() == 0) return noCurrentRecord();
+    m_data->current = 0;
+    m_data->beforeFirst = false;
+    m_data->loaded = false;
+    return {};
+}
+
+Status Recordset::move(qint64 rows) {
+    Data& data = *m_data;
+    if (!isOpen()) return notOpen();
+    if (data.pending())
+        if (Status status = update(); !status.ok()) return status;
+    if (rows == 0) return {};
+    if ((rows > 0 && isEof()) || (rows < 0 && isBof())) return noCurrentRecord();
+    if (Status status = data.session->refresh(); !status.ok()) return status;
+    data.loaded = false;
+    const qint64 from = data.beforeFirst ? -1 : static_cast<qint64>(data.current);
+    if (rows < 0 && -rows > from) {
+        data.beforeFirst = true;
+        return {};
+    }
+    const auto target = static_cast<size_t>(from + rows);
+    if (Status status = data.rows->reach(target + 1); !status.ok()) return status;
+    data.beforeFirst = false;
+    data.current = std::min(target, data.rows->known());
+    return {};
+}
+
+qint64 Recordset::recordCount() {
+    if (!isOpen() || m_data->cursorType == CursorType::ForwardOnly) return -1;
+    if (!m_data->session->refresh().ok() || !m_data->rows->finish().ok()) return -1;
+    return static_cast<qint64>(m_data->rows->known());
+}
+
+int Recordset::fieldCount() const {
+    return isOpen() ? static_cast<int>(m_data->rows->names().size()) : 0;
+}
+
+QString Recordset::fieldName(int index) const {
+    return index >= 0 && index < fieldCount() ? m_data->rows->names()[static_cast<size_t>(index)] : QString();
+}
+
+std::optional<size_t> Recordset::Data::find(QStringView name) const {
+    const auto& names = rows->names();
+    const auto found = std::find_if(names.begin(), names.end(), [&](const QString& n) {
+        return name.compare(n, Qt::CaseInsensitive) == 0;
+    });
+    if (found == names.end()) return std::nullopt;
+    return static_cast<size_t>(found - names.begin());
+}
+
+Status Recordset::Data::load() {
+    const jet::RowId id = rows->id(current);
+    if (loaded && loadedRow == id) return {};
+    const Result<bool> found = rows->table()->read(id, bytes);
+    if (!found.ok()) return found.status();
+    loaded = found.value();
+    loadedRow = id;
+    if (!loaded) return {ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato.")};
+    return {};
+}
+
+Result<Value> Recordset::Data::field(size_t column) {
+    const auto change =
+        std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });
+    if (change != changes.end()) return Value(change->second);
+    if (adding)
+        return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
+    if (!onRow()) return noCurrentRecord();
+    if (!rows->table()) return rows->values(current)[column];
+    if (Status status = load(); !status.ok()) return status;
+    const jet::TableDefinition& definition = rows->table()->definition();
+    const jet::Type type = definition.columns[column].type;
+    if (type != jet::Type::Memo && type != jet::Type::Ole)
+        return Value(jet::RowView(&definition, bytes).value(column));
+    Result<jet::Value> value = rows->table()->longValue(loadedRow, column);
+    if (!value.ok()) return value.status();
+    return Value(std::move(value).value());
+}
+
+Result<Value> Recordset::value(QStringView name) const {
+    if (!isOpen()) return notOpen();
+    const std::optional<size_t> column = m_data->find(name);
+    if (!column) return unknownField(name.toString());
+    return m_data->field(*column);
+}
+
+Result<Value> Recordset::value(int index) const {
+    if (!isOpen()) return notOpen();
+    if (index < 0 || index >= fieldCount()) return unknownField(QString::number(index));
+    return m_data->field(static_cast<size_t>(index));
+}
+
+Status Recordset::Data::updatable() const {
+    if (!rows) return notOpen();
+    if (lockType == LockType::ReadOnly || !rows->table() || !rows->table()->definition().longPrimaryKey())
+        return notUpdatable();
+    return rows->table()->writable();
+}
+
+Status Recordset::setValue(QStringView name, const Value& value) {
+    Data& data = *m_data;
+    if (Status status = data.updatable(); !status.ok()) return status;
+    const std::optional<size_t> column = data.find(name);
+    if (!column) return unknownField(name.toString());
+    if (!data.adding && !data.onRow()) return noCurrentRecord();
+    Result<jet::Value> fitted = fitToColumn(value.raw(), data.rows->table()->definition().columns[*column]);
+    if (!fitted.ok()) return fitted.status();
+    setChange(data.changes, *column, std::move(fitted).value());
+    return {};
+}
+
+Status Recordset::addNew() {
+    Data& data = *m_data;
+    if (Status status = data.updatable(); !status.ok()) return status;
+    if (data.pending())
+        if (Status status = update(); !status.ok()) return status;
+    if (Status status = data.session->refresh(); !status.ok()) return status;
+    const auto& columns = data.rows->table()->definition().columns;
+    Changes fixed;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        if (!columns[i].autoNumber) continue;
+        const Result<int32_t> number = data.rows->table()->takeAutoNumber();
+        if (!number.ok()) return number.status();
+        fixed.emplace_back(i, static_cast<int64_t>(number.value()));
+    }
+    data.changes = std::move(fixed);
+    data.adding = true;
+    return {};
+}
+
+Status Recordset::Data::post() {
+    if (!adding) return rows->table()->update(rows->id(current), changes);
+    std::vector<jet::Value> values;
+    for (const jet::Column& column : rows->table()->definition().columns)
+        values.push_back(column.type == jet::Type::YesNo ? jet::Value(false) : jet::Value());
+    for (const auto& [column, value] : changes)
+        values[column] = value;
+    const Result<jet::RowId> id = rows->table()->insert(values);
+    if (!id.ok()) return id.status();
+    loadedRow = id.value();
+    return {};
+}
+
+Status Recordset::update() {
+    Data& data = *m_data;
+    if (Status status = data.updatable(); !status.ok()) return status;
+    if (!data.pending()) return data.onRow() ? Status() : noCurrentRecord();
+    if (Status status = data.session->write([&] { return data.post(); }); !status.ok()) return status;
+    if (data.adding) {
+        data.rows->append(data.loadedRow);
+        data.current = data.rows->known() - 1;
+        data.beforeFirst = false;
+    }
+    data.drop();
+    data.loaded = false;
+    return {};
+}
+
+void Recordset::cancelUpdate() {
+    m_data->drop();
+}
+
+}  // namespace ado

@@ -1,0 +1,91 @@
+#include "platform/ado/Rows.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace ado {
+
+namespace {
+
+/// A name for a row's identity that no column of the table hides.
+const char* identityName(const jet::TableDefinition& table) {
+    for (const char* name : {"rowid", "oid", "_rowid_"})
+        if (!table.find(QString::fromLatin1(name))) return name;
+    return nullptr;
+}
+
+}  // namespace
+
+Result<std::unique_ptr<Rows>> Rows::run(std::shared_ptr<Session> session, const StatementText& statement) {
+    const Result<JetTable*> table = session->table(statement.table);
+    if (!table.ok()) return table.status();
+    std::unique_ptr<Rows> rows(new Rows(session));
+    QByteArray sql = statement.sql;
+    const jet::TableDefinition& definition = table.value()->definition();
+    if (const char* identity = identityName(definition); identity && statement.star) {
+        rows->m_table = table.value();
+        sql.replace(*statement.star, 1, identity);
+        for (const jet::Column& column : definition.columns)
+            rows->m_names.push_back(column.name);
+    }
+    Result<Prepared> prepared = session->prepare(sql);
+    if (!prepared.ok()) return prepared.status();
+    rows->m_statement = std::move(prepared).value();
+    if (!rows->m_table)
+        for (int i = 0; i < sqlite3_column_count(rows->m_statement.get()); ++i)
+            rows->m_names.push_back(QString::fromUtf8(sqlite3_column_name(rows->m_statement.get(), i)));
+    session->enlist(rows.get());
+    return rows;
+}
+
+Rows::~Rows() {
+    m_session->delist(this);
+}
+
+Status Rows::reach(size_t count) {
+    while (m_statement && known() < count) {
+        const int code = sqlite3_step(m_statement.get());
+        if (code == SQLITE_DONE) {
+            m_statement.reset();
+            break;
+        }
+        if (code != SQLITE_ROW) {
+            Status failure = m_session->takeFailure();
+            m_statement.reset();
+            return failure;
+        }
+        if (m_table) {
+            m_ids.push_back(jet::RowId::fromInteger(sqlite3_column_int64(m_statement.get(), 0)));
+            continue;
+        }
+        std::vector<Value>& row = m_values.emplace_back();
+        for (size_t i = 0; i < m_names.size(); ++i)
+            row.push_back(valueOf(static_cast<int>(i)));
+    }
+    return {};
+}
+
+Value Rows::valueOf(int column) const {
+    sqlite3_stmt* statement = m_statement.get();
+    const char* declared = sqlite3_column_decltype(statement, column);
+    const auto is = [&](const char* type) { return declared && std::strcmp(declared, type) == 0; };
+    const int type = sqlite3_column_type(statement, column);
+    if (type == SQLITE_NULL) return {};
+    if (is("YESNO")) return sqlite3_column_int(statement, column) != 0;
+    if (is("DATE")) return Value(jet::Value(jet::Date{sqlite3_column_double(statement, column)}));
+    if (is("CURRENCY")) {
+        const double amount = sqlite3_column_double(statement, column);
+        return Value(jet::Value(jet::Currency{std::llround(amount * 10000)}));
+    }
+    if (type == SQLITE_INTEGER) return static_cast<qint64>(sqlite3_column_int64(statement, column));
+    if (type == SQLITE_FLOAT) return sqlite3_column_double(statement, column);
+    const auto size = static_cast<size_t>(sqlite3_column_bytes(statement, column));
+    if (type == SQLITE_TEXT) {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+        return Value(jet::Value(std::string(text, size)));
+    }
+    const auto* bytes = static_cast<const uint8_t*>(sqlite3_column_blob(statement, column));
+    return Value(jet::Value(jet::Bytes(bytes, bytes + size)));
+}
+
+}  // namespace ado

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/ado/Session.h"
+#include "platform/ado/Value.h"
+
+namespace ado {
+
+/// The rows of one SELECT, found step by step. Where the statement is `SELECT * FROM table …` only the
+/// identities of the rows are kept, otherwise their values.
+class Rows {
+  public:
+    static Result<std::unique_ptr<Rows>> run(std::shared_ptr<Session> session,
+                                             const StatementText& statement);
+    ~Rows();
+    Rows(const Rows&) = delete;
+    Rows& operator=(const Rows&) = delete;
+
+    /// The table whose rows these are; null when only values are kept.
+    JetTable* table() const { return m_table; }
+    const std::vector<QString>& names() const { return m_names; }
+
+    /// Steps on until `count` rows are known or there are no more.
+    Status reach(size_t count);
+    /// Passes all rows that are left. From then on nothing that is written makes a difference.
+    Status finish() { return reach(static_cast<size_t>(-1)); }
+
+    size_t known() const { return m_table ? m_ids.size() : m_values.size(); }
+    jet::RowId id(size_t row) const { return m_ids[row]; }
+    const std::vector<Value>& values(size_t row) const { return m_values[row]; }
+    /// A row that was added through the recordset, behind all others.
+    void append(jet::RowId id) { m_ids.push_back(id); }
+
+  private:
+    explicit Rows(std::shared_ptr<Session> session) : m_session(std::move(session)) {}
+    Value valueOf(int column) const;
+
+    std::shared_ptr<Session> m_session;
+    JetTable* m_table = nullptr;
+    Prepared m_statement;  ///< null when all rows are known
+    std::vector<QString> m_names;
+    std::vector<jet::RowId> m_ids;
+    std::vector<std::vector<Value>> m_values;
+};
+
+}  // namespace ado

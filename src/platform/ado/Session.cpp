@@ -1,0 +1,208 @@
+#include "platform/ado/Session.h"
+
+#include <algorithm>
+#include <array>
+#include <QFileInfo>
+
+#include "platform/ado/ConnectionText.h"
+#include "platform/ado/JetModule.h"
+#include "platform/ado/Rows.h"
+#include "platform/jet/GeneralOrder.h"
+
+namespace ado {
+
+namespace {
+
+struct PoolEntry {
+    QString key;
+    std::shared_ptr<Session> session;
+};
+
+constexpr size_t pooledSessions = 4;
+
+/// The most recently used one last.
+std::vector<PoolEntry>& pool() {
+    static std::vector<PoolEntry> entries;
+    return entries;
+}
+
+int compareTexts(void*, int leftSize, const void* left, int rightSize, const void* right) {
+    return jet::compareGeneral({static_cast<const char*>(left), static_cast<size_t>(leftSize)},
+                               {static_cast<const char*>(right), static_cast<size_t>(rightSize)});
+}
+
+/// The Italian words for what SQLite says about a statement.
+Status statementFailure(const QString& message) {
+    constexpr QLatin1String unknownColumn("no such column: ");
+    constexpr QLatin1String notInTable(" has no column named ");
+    QString column;
+    if (message.startsWith(unknownColumn)) column = message.mid(unknownColumn.size());
+    if (const auto at = message.indexOf(notInTable); at >= 0) column = message.mid(at + notInTable.size());
+    if (!column.isEmpty())
+        return {ErrorCode::ItemNotFound, QStringLiteral("Impossibile trovare il campo \"%1\".").arg(column)};
+    if (message.startsWith(QLatin1String("near \"")) ||
+        message.startsWith(QLatin1String("unrecognized token")))
+        return {ErrorCode::SyntaxError, QStringLiteral("Errore di sintassi nell'istruzione SQL vicino a %1.")
+                                            .arg(message.section(u'"', 1, 1))};
+    if (message.contains(QLatin1String(" values for ")))
+        return {ErrorCode::SyntaxError,
+                QStringLiteral("Il numero dei valori non corrisponde al numero dei campi di destinazione.")};
+    if (message == QLatin1String("not authorized") || message.startsWith(QLatin1String("access to ")) ||
+        message.startsWith(QLatin1String("not authorized to use function")))
+        return {ErrorCode::NotSupported, QStringLiteral("Istruzione SQL non ammessa.")};
+    return {ErrorCode::SyntaxError, QStringLiteral("Istruzione SQL non valida.")};
+}
+
+}  // namespace
+
+Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
+    const Result<ConnectionText> parsed = ConnectionText::parse(connectionText);
+    if (!parsed.ok()) return parsed.status();
+    const ConnectionText& target = parsed.value();
+    const QString canonical = QFileInfo(target.path).canonicalFilePath();
+    const QString key = canonical + QChar(0) + target.password;
+    auto& entries = pool();
+    const auto known =
+        std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return entry.key == key; });
+    if (known != entries.end()) {
+        if (!canonical.isEmpty() && known->session->refresh().ok()) {
+            std::rotate(known, known + 1, entries.end());
+            return entries.back().session;
+        }
+        entries.erase(known);
+    }
+    jet::Database::Options options;
+    options.password = target.password;
+    auto database = jet::Database::open(canonical.isEmpty() ? target.path : canonical, options);
+    if (!database.ok()) return database.status();
+    std::shared_ptr<Session> session(new Session(std::move(database).value()));
+    if (Status status = session->start(); !status.ok()) return status;
+    if (entries.size() == pooledSessions) entries.erase(entries.begin());
+    entries.push_back({key, session});
+    return session;
+}
+
+void Session::closeAll() {
+    pool().clear();
+}
+
+Session::~Session() {
+    sqlite3_close(m_sqlite);
+}
+
+Status Session::start() {
+    const auto works = [](int code) { return code == SQLITE_OK; };
+    const bool ready = works(sqlite3_open(":memory:", &m_sqlite)) &&
+                       works(sqlite3_create_module(m_sqlite, "jet", &jetModule, this)) &&
+                       works(sqlite3_create_collation(m_sqlite, "JET", SQLITE_UTF8, nullptr, compareTexts));
+    if (!ready) return {ErrorCode::DeviceIo, QStringLiteral("Impossibile avviare il motore SQL.")};
+    sqlite3_db_config(m_sqlite, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(m_sqlite, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_limit(m_sqlite, SQLITE_LIMIT_ATTACHED, 0);
+    sqlite3_limit(m_sqlite, SQLITE_LIMIT_EXPR_DEPTH, 200);
+    return {};
+}
+
+Status Session::refresh() {
+    const Result<bool> changed = m_database->refresh();
+    if (!changed.ok()) return changed.status();
+    if (changed.value()) {
+        forget();
+        m_outdated = m_outdated || !std::all_of(m_tables.begin(), m_tables.end(), [](const auto& table) {
+                         return table.second->stillTheSame();
+                     });
+    }
+    if (m_outdated)
+        return {ErrorCode::TableNotFound, QStringLiteral("La struttura del database è stata modificata.")};
+    return {};
+}
+
+void Session::forget() {
+    for (auto& [name, table] : m_tables)
+        table->forget();
+}
+
+Result<JetTable*> Session::table(const QString& name) {
+    const std::string key = name.toLower().toStdString();
+    if (const auto known = m_tables.find(key); known != m_tables.end()) return known->second.get();
+    if (name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
+        return Status(ErrorCode::NotSupported,
+                      QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
+    const Result<jet::Table*> found = m_database->table(name);
+    if (!found.ok()) return found.status();
+    auto table = std::make_unique<JetTable>(*m_database, *found.value());
+    if (Status status = declare(*table); !status.ok()) return status;
+    return (m_tables[key] = std::move(table)).get();
+}
+
+Status Session::declare(JetTable& table) {
+    const QByteArray name = QString(table.definition().name).replace(u'"', QLatin1String("\"\"")).toUtf8();
+    m_declaring = &table;
+    const int code =
+        sqlite3_exec(m_sqlite, "CREATE VIRTUAL TABLE \"" + name + "\" USING jet", nullptr, nullptr, nullptr);
+    m_declaring = nullptr;
+    if (code == SQLITE_OK) return {};
+    return {ErrorCode::NotSupported,
+            QStringLiteral("La tabella \"%1\" non può essere usata nelle istruzioni SQL.")
+                .arg(table.definition().name)};
+}
+
+int Session::authorize(void* client, int action, const char* first, const char* second, const char* database,
+                       const char*) {
+    const auto& session = *static_cast<const Session*>(client);
+    switch (action) {
+        case SQLITE_SELECT:
+            return SQLITE_OK;
+        case SQLITE_READ:
+        case SQLITE_INSERT:
+        case SQLITE_UPDATE:
+        case SQLITE_DELETE: {
+            const std::string name = QString::fromUtf8(first).toLower().toStdString();
+            return (!database || std::string_view(database) == "main") && session.m_tables.count(name) != 0
+                       ? SQLITE_OK
+                       : SQLITE_DENY;
+        }
+        case SQLITE_FUNCTION:
+            return std::string_view(second) == "count" ? SQLITE_OK : SQLITE_DENY;
+        default:
+            return SQLITE_DENY;
+    }
+}
+
+Result<Prepared> Session::prepare(const QByteArray& sql) {
+    sqlite3_stmt* statement = nullptr;
+    const char* tail = nullptr;
+    sqlite3_set_authorizer(m_sqlite, authorize, this);
+    const int code =
+        sqlite3_prepare_v2(m_sqlite, sql.constData(), static_cast<int>(sql.size()), &statement, &tail);
+    sqlite3_set_authorizer(m_sqlite, nullptr, nullptr);
+    Prepared prepared(statement);
+    if (code != SQLITE_OK) return takeFailure();
+    if (!statement) return Status(ErrorCode::SyntaxError, QStringLiteral("Istruzione SQL non valida."));
+    return prepared;
+}
+
+Status Session::write(const std::function<Status()>& work) {
+    for (Rows* reader : m_readers)
+        if (Status status = reader->finish(); !status.ok()) return status;
+    if (Status status = m_database->begin(); !status.ok()) return status;
+    Status status = refresh();
+    if (status.ok()) status = work();
+    if (status.ok()) status = m_database->commit();
+    if (status.ok()) return status;
+    if (m_database->inTransaction()) m_database->rollback();
+    forget();
+    return status;
+}
+
+int Session::fail(Status failure) {
+    m_failure = std::move(failure);
+    return SQLITE_ERROR;
+}
+
+Status Session::takeFailure() {
+    if (!m_failure.ok()) return std::exchange(m_failure, Status());
+    return statementFailure(QString::fromUtf8(sqlite3_errmsg(m_sqlite)));
+}
+
+}  // namespace ado

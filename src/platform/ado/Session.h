@@ -1,0 +1,83 @@
+#pragma once
+
+#include <sqlite3.h>
+#include <functional>
+#include <map>
+#include <memory>
+#include <QString>
+#include <vector>
+
+#include "platform/ado/JetTable.h"
+#include "platform/ado/StatementText.h"
+#include "platform/jet/Database.h"
+#include "platform/Status.h"
+
+namespace ado {
+
+class Rows;
+
+struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using Prepared = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+/// An open database file together with the SQLite connection that runs statements on it. Sessions are kept in
+/// a small pool, so that a recordset or command that names its database by text finds it open, with its pages
+/// and orders.
+class Session {
+  public:
+    /// The session of the file that `connectionText` names, in agreement with the file as it is now.
+    static Result<std::shared_ptr<Session>> open(const QString& connectionText);
+    /// Empties the pool. A session that is in use lives on until its last user lets go of it.
+    static void closeAll();
+    ~Session();
+
+    jet::Database& database() { return *m_database; }
+
+    /// Brings what is remembered in line with the file. Fails when the file cannot be reached or a table that
+    /// is in use has got other columns: then the session is of no use any more and the pool replaces it.
+    Status refresh();
+
+    /// A local table of the user's by name, without regard to case, known to SQLite from here on.
+    Result<JetTable*> table(const QString& name);
+    /// Compiles one statement. Whatever is not reading, inserting, changing or deleting rows of known tables
+    /// is refused.
+    Result<Prepared> prepare(const QByteArray& sql);
+
+    /// Runs `work` as one transaction: durable when it succeeds, undone when it fails.
+    Status write(const std::function<Status()>& work);
+
+    /// Open recordsets, so that they can pass all their rows before a write moves them.
+    void enlist(Rows* rows) { m_readers.push_back(rows); }
+    void delist(Rows* rows) { std::erase(m_readers, rows); }
+
+    /// What went wrong inside a callback of SQLite, which can only hand on a number.
+    int fail(Status failure);
+    /// The failure of the call to SQLite that has just returned an error.
+    Status takeFailure();
+
+    /// For the callbacks of the virtual tables.
+    JetTable* declaring() const { return m_declaring; }
+    void countChange() { ++m_changes; }
+    qint64 takeChanges() { return std::exchange(m_changes, 0); }
+    sqlite3* sqlite() const { return m_sqlite; }
+
+  private:
+    explicit Session(std::unique_ptr<jet::Database> database) : m_database(std::move(database)) {}
+    Status start();
+    Status declare(JetTable& table);
+    void forget();
+    static int authorize(void* session, int action, const char* first, const char* second,
+                         const char* database, const char* trigger);
+
+    std::unique_ptr<jet::Database> m_database;
+    sqlite3* m_sqlite = nullptr;
+    std::map<std::string, std::unique_ptr<JetTable>> m_tables;  ///< by lower-case name
+    std::vector<Rows*> m_readers;
+    JetTable* m_declaring = nullptr;
+    Status m_failure;
+    qint64 m_changes = 0;
+    bool m_outdated = false;
+};
+
+}  // namespace ado

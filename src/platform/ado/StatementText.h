@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <QByteArray>
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace ado {
+
+/// One statement as it was given, with what has to be known before SQLite compiles it.
+///
+/// Only the shapes that work on one table are let through: a single SELECT, INSERT … VALUES, INSERT … SELECT,
+/// UPDATE or DELETE. So a text can cost at most one walk over its table, and a value that slipped out of its
+/// quotes cannot reach anything else. What may be touched inside that frame is checked again while the
+/// statement is compiled.
+struct StatementText {
+    enum class Verb { Select, Insert, Update, Delete };
+
+    Verb verb = Verb::Select;
+    QByteArray sql;    ///< UTF-8, as given
+    QString table;     ///< the one that is read, or written
+    QString readFrom;  ///< the table that an INSERT … SELECT reads, else empty
+    /// Offset of the asterisk in `SELECT * FROM table …`, where rows can be told by their identities.
+    std::optional<qsizetype> star;
+
+    /// Fails with SyntaxError or NotSupported. Comments, parameters, more than one statement and texts beyond
+    /// 64,000 characters are refused.
+    static Result<StatementText> read(const QString& text);
+};
+
+}  // namespace ado

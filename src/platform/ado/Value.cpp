@@ -1,0 +1,165 @@
+#include "platform/ado/Value.h"
+
+#include <cmath>
+#include <limits>
+#include <QDate>
+#include <QTime>
+
+namespace ado {
+
+namespace {
+
+const Status nullValue{ErrorCode::InvalidNull, QStringLiteral("Uso non valido di Null.")};
+const Status mismatch{ErrorCode::TypeMismatch, QStringLiteral("Tipo non corrispondente.")};
+const Status overflow{ErrorCode::Overflow, QStringLiteral("Overflow.")};
+
+/// As many digits as the number needs: a single that was widened shows those of the single.
+QString realText(double number, const QLocale& locale) {
+    if (std::fabs(number) < 1e15 && number == std::trunc(number)) return locale.toString(number, 'f', 0);
+    const auto narrow = static_cast<float>(number);
+    if (static_cast<double>(narrow) == number)
+        for (int digits = 1; digits <= std::numeric_limits<float>::max_digits10; ++digits)
+            if (QString::number(number, 'g', digits).toFloat() == narrow)
+                return locale.toString(number, 'G', digits);
+    return locale.toString(number, 'G', 15);
+}
+
+QString currencyText(int64_t tenThousandths, const QLocale& locale) {
+    const auto magnitude = tenThousandths < 0 ? 0 - static_cast<uint64_t>(tenThousandths)
+                                              : static_cast<uint64_t>(tenThousandths);
+    QString text = locale.toString(static_cast<qulonglong>(magnitude / 10000));
+    if (tenThousandths < 0) text.prepend(locale.negativeSign());
+    QString decimals = QStringLiteral("%1").arg(magnitude % 10000, 4, 10, QLatin1Char('0'));
+    while (decimals.endsWith(QLatin1Char('0')))
+        decimals.chop(1);
+    return decimals.isEmpty() ? text : text + locale.decimalPoint() + decimals;
+}
+
+Result<QString> dateText(double days, const QLocale& locale) {
+    constexpr double firstDay = -657434;  // 100-01-01
+    constexpr double lastDay = 2958466;   // behind 9999-12-31
+    constexpr int secondsOfDay = 24 * 60 * 60;
+    if (!(days >= firstDay && days < lastDay)) return mismatch;
+    auto wholeDays = static_cast<qint64>(days);
+    auto seconds =
+        static_cast<int>(std::lround(std::fabs(days - static_cast<double>(wholeDays)) * secondsOfDay));
+    if (seconds == secondsOfDay) {
+        seconds = 0;
+        ++wholeDays;
+    }
+    QString dateFormat = locale.dateFormat(QLocale::ShortFormat);
+    if (!dateFormat.contains(QLatin1String("yyyy")))
+        dateFormat.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    QString timeFormat = locale.timeFormat(QLocale::LongFormat);
+    timeFormat.remove(QLatin1Char('t'));
+    const QString date = locale.toString(QDate(1899, 12, 30).addDays(wholeDays), dateFormat);
+    const QString time = locale.toString(QTime(0, 0).addSecs(seconds), timeFormat).trimmed();
+    if (seconds == 0) return date;
+    return wholeDays == 0 ? time : date + QLatin1Char(' ') + time;
+}
+
+Result<qint64> rounded(double number) {
+    const double whole = std::nearbyint(number);
+    if (!(std::fabs(whole) < 9.2e18)) return overflow;
+    return static_cast<qint64>(whole);
+}
+
+Result<double> numberOf(const std::string& text) {
+    bool ok = false;
+    const double number = QString::fromStdString(text).trimmed().toDouble(&ok);
+    if (!ok) return mismatch;
+    return number;
+}
+
+}  // namespace
+
+Value::Type Value::type() const {
+    constexpr Type types[] = {Type::Null,     Type::YesNo, Type::Integer, Type::Real,
+                              Type::Currency, Type::Date,  Type::Text,    Type::Binary};
+    return types[m_value.index()];
+}
+
+Result<QString> Value::toText(const QLocale& userLocale) const {
+    QLocale locale = userLocale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    switch (type()) {
+        case Type::Null:
+            return nullValue;
+        case Type::YesNo:
+            if (locale.language() == QLocale::Italian)
+                return std::get<bool>(m_value) ? QStringLiteral("Vero") : QStringLiteral("Falso");
+            return std::get<bool>(m_value) ? QStringLiteral("True") : QStringLiteral("False");
+        case Type::Integer:
+            return locale.toString(static_cast<qlonglong>(std::get<int64_t>(m_value)));
+        case Type::Real:
+            return realText(std::get<double>(m_value), locale);
+        case Type::Currency:
+            return currencyText(std::get<jet::Currency>(m_value).tenThousandths, locale);
+        case Type::Date:
+            return dateText(std::get<jet::Date>(m_value).days, locale);
+        case Type::Text:
+            return QString::fromStdString(std::get<std::string>(m_value));
+        case Type::Binary:
+            break;
+    }
+    return mismatch;
+}
+
+QString Value::toTextOrEmpty(const QLocale& locale) const {
+    const Result<QString> text = toText(locale);
+    return text.ok() ? text.value() : QString();
+}
+
+Result<qint64> Value::toInteger() const {
+    switch (type()) {
+        case Type::Null:
+            return nullValue;
+        case Type::YesNo:
+            return std::get<bool>(m_value) ? -1 : 0;
+        case Type::Integer:
+            return static_cast<qint64>(std::get<int64_t>(m_value));
+        case Type::Real:
+            return rounded(std::get<double>(m_value));
+        case Type::Currency:
+            return rounded(static_cast<double>(std::get<jet::Currency>(m_value).tenThousandths) / 10000);
+        case Type::Date:
+            return rounded(std::get<jet::Date>(m_value).days);
+        case Type::Text: {
+            const Result<double> number = numberOf(std::get<std::string>(m_value));
+            if (!number.ok()) return number.status();
+            return rounded(number.value());
+        }
+        case Type::Binary:
+            break;
+    }
+    return mismatch;
+}
+
+Result<bool> Value::toBool() const {
+    switch (type()) {
+        case Type::Text: {
+            const QString text = QString::fromStdString(std::get<std::string>(m_value)).trimmed();
+            const auto is = [&](const char* word) {
+                return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+            };
+            if (is("Vero") || is("True")) return true;
+            if (is("Falso") || is("False")) return false;
+            const Result<double> number = numberOf(text.toStdString());
+            if (!number.ok()) return number.status();
+            return number.value() != 0;
+        }
+        case Type::Real:
+            return std::get<double>(m_value) != 0;
+        case Type::Currency:
+            return std::get<jet::Currency>(m_value).tenThousandths != 0;
+        case Type::Date:
+            return std::get<jet::Date>(m_value).days != 0;
+        default: {
+            const Result<qint64> number = toInteger();
+            if (!number.ok()) return number.status();
+            return number.value() != 0;
+        }
+    }
+}
+
+}  // namespace ado
