@@ -6,8 +6,8 @@
 namespace {
 
 constexpr std::size_t memoryAtLeast = std::size_t{64} << 20;
-constexpr std::size_t memoryPerByte = 200;
-constexpr double secondsAtLeast = 2;
+constexpr std::size_t memoryPerByte = 100;
+constexpr double secondsAtLeast = 1;
 constexpr double secondsPerByte = 1e-6;
 constexpr unsigned allocationsBetweenLooksAtTheClock = 64;
 
