@@ -10,6 +10,8 @@ void ScriviInizioLog() {
     Prosegui prosegui;
     text::TextWriter file;
     prosegui([&] { esigi(file.open(PercorsoApp() + QStringLiteral("Error.txt"), text::WriteMode::Output)); });
-    prosegui([&] { esigi(file.print(u"Inizio applicazione: " + text::dateTimeText(sys::clock().now()))); });
+    prosegui([&] {
+        esigi(file.print(QStringLiteral("Inizio applicazione: ") + text::dateTimeText(sys::clock().now())));
+    });
     prosegui([&] { esigi(file.close()); });
 }
