@@ -1,0 +1,111 @@
+#include "send/Personalizza.h"
+
+#include <map>
+
+#include "support/Vectors.h"
+
+namespace {
+
+/// A row: a column that is absent is missing from the table, one without a value is Null.
+using Row = std::map<QString, std::optional<QString>>;
+
+LeggiColonna readerOf(Row row) {
+    return [row = std::move(row)](const QString& column) -> Result<std::optional<QString>> {
+        const auto found = row.find(column);
+        if (found == row.end()) return Status(ErrorCode::ItemNotFound, QStringLiteral("no such column"));
+        return found->second;
+    };
+}
+
+Row rowOf(const QJsonObject& object) {
+    Row row;
+    for (const QString& column : object.keys()) {
+        row[column] =
+            object[column].isNull() ? std::nullopt : std::optional<QString>(object[column].toString());
+    }
+    return row;
+}
+
+QString personalized(const QString& text, const Row& row) {
+    return Personalizza(text, LeggiValori(readerOf(row)));
+}
+
+QString nameOf(const Row& row) {
+    const Result<QString> name = NomeDestinatario(readerOf(row));
+    EXPECT_TRUE(name.ok());
+    return name.ok() ? name.value() : QStringLiteral("failed");
+}
+
+}  // namespace
+
+TEST(Personalisation, GivesTheTextsOfTheVectors) {
+    for (const QJsonValue vector : vectorsOf(QStringLiteral("send/placeholders.json"))) {
+        SCOPED_TRACE(vector[QLatin1String("name")].toString().toStdString());
+        Row row = rowOf(vector[QLatin1String("row")].toObject());
+        for (const QJsonValue column : vector[QLatin1String("missing_columns")].toArray())
+            row.erase(column.toString());
+        const ValoriSegnaposto values = LeggiValori(readerOf(row));
+        EXPECT_EQ(Personalizza(vector[QLatin1String("corpoHtml")].toString(), values),
+                  vector[QLatin1String("BodyHtml")].toString());
+        EXPECT_EQ(Personalizza(vector[QLatin1String("CorpoTesto")].toString(), values),
+                  vector[QLatin1String("BodyText")].toString());
+        EXPECT_EQ(Personalizza(vector[QLatin1String("oggettoMail")].toString(), values),
+                  vector[QLatin1String("Subject")].toString());
+    }
+}
+
+TEST(Personalisation, PlaceholderUsedTwiceIsReplacedInBothPlaces) {
+    EXPECT_EQ(personalized(QStringLiteral(":::nom:::, sì :::nom:::"), {{"nom", "Ada"}}),
+              QStringLiteral("Ada, sì Ada"));
+}
+
+TEST(Personalisation, NullKeepsThePlaceholderAndTheEmptyTextRemovesIt) {
+    EXPECT_EQ(personalized(QStringLiteral("a:::nom:::b"), {{"nom", std::nullopt}}),
+              QStringLiteral("a:::nom:::b"));
+    EXPECT_EQ(personalized(QStringLiteral("a:::nom:::b"), {{"nom", QString()}}), QStringLiteral("ab"));
+}
+
+TEST(Personalisation, MissingColumnKeepsThePlaceholderAndTheOthersGoOn) {
+    EXPECT_EQ(personalized(QStringLiteral(":::rgs::: :::nom:::"), {{"nom", "Ada"}}),
+              QStringLiteral(":::rgs::: Ada"));
+}
+
+TEST(Personalisation, LaterPlaceholderInAValueIsExpandedAnEarlierOneIsNot) {
+    EXPECT_EQ(personalized(QStringLiteral(":::rgs:::"), {{"rgs", ":::nom:::"}, {"nom", "Ada"}}),
+              QStringLiteral("Ada"));
+    EXPECT_EQ(personalized(QStringLiteral(":::nom:::"), {{"rgs", "Ditta"}, {"nom", ":::rgs:::"}}),
+              QStringLiteral(":::rgs:::"));
+}
+
+TEST(Personalisation, CapitalLetterMakesItNoPlaceholder) {
+    EXPECT_EQ(personalized(QStringLiteral(":::Nom::: :::NOM:::"), {{"nom", "Ada"}}),
+              QStringLiteral(":::Nom::: :::NOM:::"));
+}
+
+TEST(Personalisation, ThereIsNoTenthField) {
+    EXPECT_EQ(personalized(QStringLiteral(":::campo10:::"), {{"campo1", "uno"}, {"campo10", "dieci"}}),
+              QStringLiteral(":::campo10:::"));
+}
+
+TEST(Personalisation, OrderIsThatOfTheColumns) {
+    const std::array<const char*, numeroSegnaposto> order{
+        "rgs",    "nom",    "email",  "piva",   "ind",    "cap",    "loc",    "prov",   "tel",   "fax",
+        "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
+    for (std::size_t i = 0; i < order.size(); ++i)
+        EXPECT_EQ(colonneSegnaposto[i], QLatin1String(order[i]));
+}
+
+TEST(RecipientName, IsChosenAsTheVectorsSay) {
+    for (const QJsonValue vector : vectorsOf(QStringLiteral("send/toname.json"))) {
+        EXPECT_EQ(nameOf(rowOf(vector[QLatin1String("row")].toObject())),
+                  vector[QLatin1String("ToName")].toString());
+    }
+}
+
+TEST(RecipientName, NothingAtAllIsTheEmptyName) {
+    EXPECT_EQ(nameOf({{"rgs", QString()}, {"nom", std::nullopt}, {"email", std::nullopt}}), QString());
+}
+
+TEST(RecipientName, FailsWhereThereIsNoRow) {
+    EXPECT_EQ(NomeDestinatario(readerOf({})).status().code(), ErrorCode::ItemNotFound);
+}
