@@ -1,0 +1,52 @@
+#include <QDir>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include "core/bError.h"
+#include "platform/system/Clock.h"
+#include "platform/system/ProgramFolder.h"
+#include "support/Vectors.h"
+
+namespace {
+
+class ErrorLog : public testing::Test {
+  protected:
+    void SetUp() override {
+        sys::setProgramFolder(m_folder.path());
+        QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+        sys::clock().now = [this] { return time; };
+    }
+    void TearDown() override {
+        sys::setProgramFolder({});
+        QLocale::setDefault(m_before);
+        sys::clock() = sys::systemClock();
+    }
+    QString path() const { return m_folder.filePath(QStringLiteral("Error.txt")); }
+
+    QDateTime time{QDate(2026, 3, 9), QTime(7, 5, 8)};
+
+  private:
+    QTemporaryDir m_folder;
+    QLocale m_before;
+};
+
+}  // namespace
+
+TEST_F(ErrorLog, HoldsOneLineWithTheTimeOfTheStart) {
+    ScriviInizioLog();
+    EXPECT_EQ(bytesOf(path()), QByteArray("Inizio applicazione: 09/03/26 07:05:08\r\n"));
+}
+
+TEST_F(ErrorLog, SecondStartLeavesASingleLineOfItsOwn) {
+    ScriviInizioLog();
+    time = time.addSecs(3600);
+    ScriviInizioLog();
+    EXPECT_EQ(bytesOf(path()), QByteArray("Inizio applicazione: 09/03/26 08:05:08\r\n"));
+}
+
+TEST_F(ErrorLog, FileThatCannotBeWrittenIsPassedOver) {
+    ASSERT_TRUE(QDir().mkpath(path()));
+    EXPECT_NO_THROW(ScriviInizioLog());
+    sys::setProgramFolder(QStringLiteral("/nonexistent"));
+    EXPECT_NO_THROW(ScriviInizioLog());
+}

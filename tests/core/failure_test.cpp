@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include "core/Errori.h"
+#include "core/Fallimento.h"
+
+TEST(Failure, UnguardedStatementThrowsNumberAndText) {
+    try {
+        esigi(Status(ErrorCode::FileNotFound, QStringLiteral("manca")));
+        FAIL();
+    } catch (const Fallimento& failure) {
+        EXPECT_EQ(failure.numero(), 53);
+        EXPECT_EQ(failure.testo(), QStringLiteral("manca"));
+        EXPECT_STREQ(failure.what(), "manca");
+    }
+}
+
+TEST(Failure, WithoutATextItBringsTheStandardOne) {
+    try {
+        fallisci(ErrorCode::TypeMismatch);
+    } catch (const Fallimento& failure) {
+        EXPECT_EQ(failure.testo(), QStringLiteral("Tipo non corrispondente"));
+    }
+    EXPECT_FALSE(testoErrore(static_cast<ErrorCode>(12345)).isEmpty());
+}
+
+TEST(Failure, SuccessHandsTheValueOn) {
+    EXPECT_NO_THROW(esigi(Status()));
+    EXPECT_EQ(esigi(Result<int>(5)), 5);
+}
+
+TEST(Failure, CarryOnKeepsTheTargetRemembersAndGoesOn) {
+    Prosegui prosegui;
+    int target = 1;
+    EXPECT_FALSE(prosegui(
+        [&] { target = esigi(Result<int>(Status(ErrorCode::Overflow, QStringLiteral("troppo")))); }));
+    EXPECT_EQ(target, 1);
+    EXPECT_TRUE(prosegui([&] { target = 2; }));
+    EXPECT_EQ(target, 2);
+    EXPECT_EQ(prosegui.numero(), 6) << "a later success does not clear it";
+    EXPECT_EQ(prosegui.testo(), QStringLiteral("troppo"));
+    prosegui.azzera();
+    EXPECT_EQ(prosegui.numero(), 0);
+    EXPECT_TRUE(prosegui.testo().isEmpty());
+}
+
+TEST(Failure, NearestCarryOnCallerTakesIt) {
+    Prosegui outer;
+    bool behind = false;
+    outer([&] {
+        Prosegui inner;
+        inner([] { fallisci(ErrorCode::Overflow); });
+        behind = true;
+        fallisci(ErrorCode::TypeMismatch);
+    });
+    EXPECT_TRUE(behind);
+    EXPECT_EQ(outer.numero(), 13);
+}
+
+TEST(Failure, FallBackGivesTheDefault) {
+    EXPECT_EQ(ripiega(7, []() -> int { fallisci(ErrorCode::Overflow); }), 7);
+    EXPECT_EQ(ripiega(7, [] { return 8; }), 8);
+}

@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include "core/bImpostazioni.h"
+#include "platform/system/ProgramFolder.h"
+
+TEST(Paths, EndInOneSeparatorSoThatNamesAreAppended) {
+    sys::setProgramFolder(QStringLiteral("/opt/vestrola"));
+    EXPECT_EQ(PercorsoApp(), QStringLiteral("/opt/vestrola/"));
+    EXPECT_EQ(cartellaDati(), QStringLiteral("/opt/vestrola/data/"));
+    sys::setProgramFolder(QStringLiteral("/opt/vestrola/"));
+    EXPECT_EQ(PercorsoApp(), QStringLiteral("/opt/vestrola/"));
+    sys::setProgramFolder(QStringLiteral("/"));
+    EXPECT_EQ(PercorsoApp(), QStringLiteral("/"));
+    sys::setProgramFolder({});
+}
