@@ -1,5 +1,7 @@
 #include "send/Personalizza.h"
 
+#include <bitset>
+
 const std::array<QString, numeroSegnaposto> colonneSegnaposto{
     QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),
     QStringLiteral("ind"),    QStringLiteral("cap"),    QStringLiteral("loc"),    QStringLiteral("prov"),
@@ -10,6 +12,24 @@ const std::array<QString, numeroSegnaposto> colonneSegnaposto{
 namespace {
 
 const QString segno = QStringLiteral(":::");
+
+QString segnaposto(std::size_t i) {
+    return segno + colonneSegnaposto[i] + segno;
+}
+
+// Which placeholders stand in the text: one quick pass, where a search for each would cost nineteen.
+std::bitset<numeroSegnaposto> presentiIn(QStringView testo) {
+    std::bitset<numeroSegnaposto> presenti;
+    for (auto posto = testo.indexOf(u':'); posto >= 0; posto = testo.indexOf(u':', posto + 1)) {
+        if (!testo.sliced(posto).startsWith(segno)) continue;
+        const QStringView nome = testo.sliced(posto + segno.size());
+        for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
+            const QString& colonna = colonneSegnaposto[i];
+            if (nome.startsWith(colonna) && nome.sliced(colonna.size()).startsWith(segno)) presenti.set(i);
+        }
+    }
+    return presenti;
+}
 
 }  // namespace
 
@@ -34,8 +54,12 @@ ValoriSegnaposto LeggiValori(const LeggiColonna& leggi) {
 }
 
 QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
+    auto presenti = presentiIn(modello);
     for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
-        if (valori[i]) modello.replace(segno + colonneSegnaposto[i] + segno, *valori[i]);
+        if (!presenti[i] || !valori[i]) continue;
+        modello.replace(segnaposto(i), *valori[i]);
+        presenti =
+            presentiIn(modello);  // the value may have brought others, or made one with the text around it
     }
     return modello;
 }

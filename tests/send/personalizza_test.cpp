@@ -109,3 +109,9 @@ TEST(RecipientName, NothingAtAllIsTheEmptyName) {
 TEST(RecipientName, FailsWhereThereIsNoRow) {
     EXPECT_EQ(NomeDestinatario(readerOf({})).status().code(), ErrorCode::ItemNotFound);
 }
+
+TEST(Personalisation, TextOfNothingButColonsTakesTimeInProportion) {
+    const QString colons(100'000, u':');
+    EXPECT_EQ(personalized(colons + QStringLiteral("rgs") + colons, {{"rgs", QString()}}),
+              colons.chopped(3) + colons.chopped(3));
+}
