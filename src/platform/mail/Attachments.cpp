@@ -1,0 +1,57 @@
+#include "platform/mail/Attachments.h"
+
+#include <algorithm>
+#include <QFile>
+
+#include "platform/mail/FilePart.h"
+
+namespace mail {
+namespace {
+
+constexpr qint64 largestFile = qint64{512} << 20;
+
+Status unusable(ErrorCode code, const Attachment& file, const QString& why) {
+    return {code, QStringLiteral("L'allegato %1 %2.").arg(file.name.isEmpty() ? file.path : file.name, why)};
+}
+
+Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp) {
+    if (!stamp.exists()) return unusable(ErrorCode::FileNotFound, file, QStringLiteral("non esiste"));
+    if (stamp.size > largestFile)
+        return unusable(ErrorCode::RecordTooLarge, file, QStringLiteral("è troppo grande"));
+    QFile source(file.path);
+    if (!source.open(QIODevice::ReadOnly)) {
+        return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
+    }
+    const QByteArray content = source.read(largestFile);
+    if (source.error() != QFile::NoError) {
+        return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
+    }
+    return attachmentPart(file.name.isEmpty() ? file.path : file.name, content);
+}
+
+}  // namespace
+
+Status Attachments::follow(const QVector<Attachment>& list) {
+    std::vector<Known> known;
+    std::vector<QByteArray> parts;
+    for (const Attachment& file : list) {
+        const FileStamp stamp = FileStamp::of(file.path);
+        const auto same = std::find_if(m_known.begin(), m_known.end(), [&](const Known& candidate) {
+            return candidate.file.path == file.path && candidate.file.name == file.name &&
+                   candidate.stamp == stamp;
+        });
+        if (same != m_known.end() && stamp.exists()) {
+            parts.push_back(m_parts[static_cast<std::size_t>(same - m_known.begin())]);
+        } else {
+            auto part = encode(file, stamp);
+            if (!part.ok()) return part.status();
+            parts.push_back(std::move(part).value());
+        }
+        known.push_back({file, stamp});
+    }
+    m_known = std::move(known);
+    m_parts = std::move(parts);
+    return {};
+}
+
+}  // namespace mail

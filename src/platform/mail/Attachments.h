@@ -1,0 +1,31 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/mail/FileStamp.h"
+#include "platform/mail/Message.h"
+
+namespace mail {
+
+/// The encoded attachments of the last message, so that a file is read and encoded once for as long as
+/// messages name it and it does not change.
+class Attachments {
+  public:
+    /// Brings the parts in line with the list. Fails when a file is missing, cannot be read or is too large
+    /// for any server (FileNotFound, PathAccess, RecordTooLarge); the text names the attachment.
+    Status follow(const QVector<Attachment>& list);
+
+    /// One complete part for each attachment of the list, in its order.
+    const std::vector<QByteArray>& parts() const { return m_parts; }
+
+  private:
+    struct Known {
+        Attachment file;
+        FileStamp stamp;
+    };
+
+    std::vector<Known> m_known;  // same order as m_parts
+    std::vector<QByteArray> m_parts;
+};
+
+}  // namespace mail

@@ -1,0 +1,128 @@
+#include "platform/mail/Composer.h"
+
+#include <algorithm>
+#include <QUrl>
+
+#include "platform/mail/Attachments.h"
+#include "platform/mail/BodyParts.h"
+#include "platform/mail/HeaderText.h"
+#include "platform/mail/HtmlReferences.h"
+#include "platform/mail/Identity.h"
+#include "platform/mail/LocalImages.h"
+#include "platform/system/Clock.h"
+
+namespace mail {
+namespace {
+
+constexpr qsizetype longestLink = 900;  // it cannot be folded, and a line has at most 998 octets
+
+QByteArray mailLink(const Mailbox& sender) {
+    return "mailto:" + sender.localPart.toPercentEncoding("!$'*+") + '@' + sender.domain +
+           "?subject=unsubscribe";
+}
+
+// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty
+QByteArray wireLink(const QByteArray& address) {
+    if (address.isEmpty() || address.size() > longestLink) return {};
+    const QByteArray link = QUrl(QString::fromUtf8(address)).toEncoded();
+    const bool stands = link.size() <= longestLink && std::all_of(link.begin(), link.end(), [](char c) {
+                            return c > 0x20 && c < 0x7F && c != '<' && c != '>';
+                        });
+    return stands ? link : QByteArray();
+}
+
+void appendPriority(QByteArray& out, int priority) {
+    if (priority == 1) {
+        out += "X-Priority: 1 (Highest)\r\nPriority: urgent\r\nImportance: high\r\n";
+    } else if (priority == 5) {
+        out += "X-Priority: 5 (Lowest)\r\nPriority: non-urgent\r\nImportance: low\r\n";
+    }
+}
+
+struct Change {
+    const HtmlReferences::Place* place;
+    QByteArray text;
+};
+
+QByteArray changed(const QByteArray& html, std::vector<Change> changes) {
+    if (changes.empty()) return html;
+    std::sort(changes.begin(), changes.end(),
+              [](const Change& a, const Change& b) { return a.place->from < b.place->from; });
+    QByteArray out;
+    out.reserve(html.size() + static_cast<qsizetype>(changes.size()) * 64);
+    qsizetype from = 0;
+    for (const Change& change : changes) {
+        out.append(html.constData() + from, change.place->from - from);
+        out += change.text;
+        from = change.place->from + change.place->length;
+    }
+    return out.append(html.constData() + from, html.size() - from);
+}
+
+// Brings the declared encoding in line and lets the images that travel along be found in the message
+void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& images) {
+    std::vector<Change> changes;
+    std::vector<bool> used(images.images().size());
+    for (const auto& place : references.charsets)
+        changes.push_back({&place, "utf-8"});
+    for (const auto& place : references.images) {
+        const int found = images.find(place.value);
+        if (found < 0) continue;
+        const auto index = static_cast<std::size_t>(found);
+        used[index] = true;
+        changes.push_back({&place, "cid:" + images.images()[index].contentId});
+    }
+    body.html = changed(body.html, std::move(changes));
+    for (std::size_t i = 0; i < used.size(); ++i) {
+        if (used[i]) body.images.push_back(images.images()[i].part);
+    }
+}
+
+}  // namespace
+
+struct Composer::State {
+    Attachments attachments;
+    LocalImages images;
+    UniqueWords words;
+};
+
+Composer::Composer() : m_state(std::make_unique<State>()) {}
+Composer::~Composer() = default;
+
+Result<ComposedMessage> Composer::compose(const MessageData& message) {
+    const auto from = parseAddrSpec(message.fromAddress);
+    if (!from.ok()) return from.status();
+    const auto to = parseAddrSpec(message.toAddress);
+    if (!to.ok()) return to.status();
+    const Status attached = m_state->attachments.follow(message.attachments);
+    if (!attached.ok()) return attached;
+    m_state->images.follow(message.templateHtml);
+
+    Body body{message.bodyText.toUtf8(), message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
+    const HtmlReferences references = findReferences(body.html);
+    adaptHtml(body, references, m_state->images);
+
+    const QDateTime now = sys::clock().now();
+    const QByteArray word = m_state->words.next(now);
+    QByteArray link = wireLink(references.unsubscribe);
+    if (link.isEmpty()) link = mailLink(from.value());
+
+    ComposedMessage composed;
+    composed.from = from.value();
+    composed.to = to.value();
+    composed.needsSmtputf8 = composed.from.needsSmtputf8 || composed.to.needsSmtputf8;
+    composed.messageId = '<' + word + '@' + composed.from.domain + '>';
+    QByteArray& out = composed.data;
+    out += foldedHeader("From", namedAddress(message.fromName, composed.from.address()));
+    out += foldedHeader("To", namedAddress(message.toName, composed.to.address()));
+    out += foldedHeader("Subject", unstructuredText(message.subject));
+    out += foldedHeader("Date", dateText(now));
+    out += foldedHeader("Message-ID", composed.messageId);
+    out += foldedHeader("List-Unsubscribe", '<' + link + '>');
+    appendPriority(out, message.priority);
+    out += "MIME-Version: 1.0\r\n";
+    appendBody(out, body, word);
+    return composed;
+}
+
+}  // namespace mail

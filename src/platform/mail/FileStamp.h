@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace mail {
+
+/// What tells one state of a file from another without reading it.
+struct FileStamp {
+    qint64 size = -1;         ///< -1: there is no such ordinary file
+    qint64 changedAtMs = -1;  ///< milliseconds since 1970
+
+    bool exists() const { return size >= 0; }
+    bool operator==(const FileStamp&) const = default;
+
+    static FileStamp of(const QString& path);
+};
+
+}  // namespace mail

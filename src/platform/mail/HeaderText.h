@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace mail {
+
+/// One line of text: CR, LF, NUL and every other control or line separator become one blank each.
+QString singleLine(QString text);
+
+/// Value of an unstructured header such as Subject (RFC 5322 3.6.5): plain ASCII where that says it all, else
+/// encoded words in UTF-8 (RFC 2047) that carry the whole text, so that no blank is lost between them. Not
+/// yet folded.
+QByteArray unstructuredText(const QString& text);
+
+/// Value of an address header: the name as atoms, quoted string or encoded words, and the address. An empty
+/// name leaves the bare address.
+QByteArray namedAddress(const QString& name, const QByteArray& address);
+
+/// The header line with its line end, folded before blanks so that lines have at most 78 octets (RFC
+/// 5322 2.1.1) wherever a blank allows it.
+QByteArray foldedHeader(const QByteArray& name, const QByteArray& value);
+
+}  // namespace mail

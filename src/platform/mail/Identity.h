@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+
+namespace mail {
+
+/// Date of a message with its numeric zone (RFC 5322 3.3), in English whatever the user's language.
+QByteArray dateText(const QDateTime& when);
+
+/// Source of words that no other message anywhere bears: time, 64 random bits for each object and a running
+/// number. Only letters and digits of ASCII and points, so that a word may stand in a Message-ID and in a
+/// boundary.
+class UniqueWords {
+  public:
+    UniqueWords();
+    QByteArray next(const QDateTime& now);
+
+  private:
+    QByteArray m_random;
+    quint64 m_count = 0;
+};
+
+}  // namespace mail

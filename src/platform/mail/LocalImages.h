@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <vector>
+
+#include "platform/mail/FileStamp.h"
+
+namespace mail {
+
+/// The images on this machine that a template names, ready to travel inside messages.
+///
+/// Only the template is asked, never a personalised body: no value of a recipient can name a file that is
+/// then read. A file is taken when its first bytes are those of a PNG, JPEG, GIF, BMP or WebP image and the
+/// images taken so far, in the template's order, stay within 10 MB together.
+class LocalImages {
+  public:
+    struct Image {
+        QByteArray contentId;  ///< without angle brackets
+        QByteArray part;       ///< the complete part
+    };
+
+    /// Looks again at the files if the template or one of them has changed.
+    void follow(const QString& templateHtml);
+
+    const std::vector<Image>& images() const { return m_images; }
+
+    /// Place in images() of what an address of the template stands for; -1 for anything else.
+    int find(const QByteArray& address) const { return m_places.value(address, -1); }
+
+  private:
+    struct Seen {
+        QString path;
+        FileStamp stamp;
+    };
+
+    bool isCurrent(const QString& templateHtml) const;
+    int take(const QString& path, qint64& room);
+
+    QString m_template;
+    std::vector<Seen> m_seen;
+    std::vector<Image> m_images;
+    QHash<QByteArray, int> m_places;
+};
+
+}  // namespace mail

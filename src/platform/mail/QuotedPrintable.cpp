@@ -1,0 +1,112 @@
+#include "platform/mail/QuotedPrintable.h"
+
+#include <array>
+#include <cstring>
+
+namespace mail {
+namespace {
+
+constexpr int lineRoom = 75;  // one less than the limit: room for the "=" of a soft line break
+
+enum class Kind : unsigned char { Literal, Blank, LineEnd, Encoded };
+
+constexpr std::array<Kind, 256> kinds = [] {
+    std::array<Kind, 256> table{};
+    table.fill(Kind::Encoded);
+    for (int c = '!'; c <= '~'; ++c)
+        table[static_cast<std::size_t>(c)] = Kind::Literal;
+    table['='] = Kind::Encoded;
+    table[' '] = table['\t'] = table['\0'] = Kind::Blank;
+    table['\r'] = table['\n'] = Kind::LineEnd;
+    return table;
+}();
+
+Kind kindOf(char c) {
+    return kinds[static_cast<unsigned char>(c)];
+}
+
+/// Writes into room that is large enough for the whole text.
+class Writer {
+  public:
+    explicit Writer(char* to) : m_to(to) {}
+
+    void literal(char c) {
+        makeRoom(1);
+        *m_to++ = c;
+        ++m_column;
+    }
+
+    void encoded(char c) {
+        static constexpr char digits[] = "0123456789ABCDEF";
+        const auto value = static_cast<unsigned char>(c);
+        makeRoom(3);
+        *m_to++ = '=';
+        *m_to++ = digits[value >> 4];
+        *m_to++ = digits[value & 15];
+        m_column += 3;
+    }
+
+    void lineEnd() {
+        *m_to++ = '\r';
+        *m_to++ = '\n';
+        m_column = 0;
+    }
+
+    bool breaksBefore(int length) const { return m_column + length > lineRoom; }
+    bool startsLine() const { return m_column == 0 || breaksBefore(1); }
+    char* end() const { return m_to; }
+
+  private:
+    void makeRoom(int length) {
+        if (!breaksBefore(length)) return;
+        *m_to++ = '=';
+        lineEnd();
+    }
+
+    char* m_to;
+    int m_column = 0;
+};
+
+bool mustNotStartLine(const char* at, const char* end) {
+    return *at == '.' || (end - at >= 5 && std::memcmp(at, "From ", 5) == 0);
+}
+
+}  // namespace
+
+void appendQuotedPrintable(QByteArray& out, const QByteArray& text) {
+    const qsizetype before = out.size();
+    // each octet three, and three more for a soft line break behind each 24 of them
+    out.resize(before + text.size() * 3 + text.size() / 8 + 8);
+    Writer writer(out.data() + before);
+    const char* const end = text.constData() + text.size();
+    for (const char* at = text.constData(); at != end; ++at) {
+        switch (kindOf(*at)) {
+            case Kind::Literal:
+                if (writer.startsLine() && mustNotStartLine(at, end)) {
+                    writer.encoded(*at);
+                } else {
+                    writer.literal(*at);
+                }
+                break;
+            case Kind::Blank: {
+                const char blank = *at == '\0' ? ' ' : *at;
+                if (at + 1 == end || kindOf(at[1]) == Kind::LineEnd) {
+                    writer.encoded(blank);
+                } else {
+                    writer.literal(blank);
+                }
+                break;
+            }
+            case Kind::LineEnd:
+                if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
+                writer.lineEnd();
+                break;
+            case Kind::Encoded:
+                writer.encoded(*at);
+                break;
+        }
+    }
+    out.resize(writer.end() - out.constData());
+}
+
+}  // namespace mail
