@@ -188,6 +188,11 @@ TEST(NormalForm, ReopenedElementsThatGrowWithTheSquareKeepTheText) {
     EXPECT_TRUE(body(html + ":::nom:::").endsWith(":::nom:::"));
 }
 
+TEST(NormalForm, DocumentThatTripsTheParserKeepsTheText) {
+    EXPECT_TRUE(normalForm("<table><math><mo></><![CDATA[a]]>:::nom:::").contains(":::nom:::"));
+    expectBody("<p>x", "<p>x</p>");
+}
+
 TEST(NormalForm, LargeDocumentIsWhole) {
     const QString paragraph = QStringLiteral("<p class=\"x\">Ciao <b>:::nom:::</b>, perché no?</p>\n");
     const QString html = paragraph.repeated(60000);

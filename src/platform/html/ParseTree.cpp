@@ -1,6 +1,7 @@
 #include "platform/html/ParseTree.h"
 
 #include <csetjmp>
+#include <csignal>
 #include <ctime>
 
 namespace {
@@ -17,14 +18,43 @@ double processorSeconds() {
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-/// Serves the parser's memory and leaves the parse by longjmp when a bound is reached. That is safe because
-/// only C code stands in between and all it holds is memory of the pool.
+/// Serves the parser's memory and leaves the parse by a long jump when a bound is reached or when one of the
+/// parser's own assertions fails. That is safe because only C code stands in between and all it holds is
+/// memory of the pool.
 struct Guard {
     std::pmr::memory_resource* pool;
     std::size_t bytesLeft;
     double deadline;
     unsigned allocations = 0;
-    std::jmp_buf exceeded{};
+    sigjmp_buf givenUp{};
+};
+
+thread_local Guard* runningGuard = nullptr;
+
+void leaveParse(int signal) {
+    if (runningGuard != nullptr) siglongjmp(runningGuard->givenUp, 1);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+/// While it lives, a failed assertion of the parser ends the parse instead of the program.
+class AssertionNet {
+  public:
+    explicit AssertionNet(Guard& guard) {
+        runningGuard = &guard;
+        struct sigaction action {};
+        action.sa_handler = leaveParse;
+        sigaction(SIGABRT, &action, &m_before);
+    }
+    ~AssertionNet() {
+        sigaction(SIGABRT, &m_before, nullptr);
+        runningGuard = nullptr;
+    }
+    AssertionNet(const AssertionNet&) = delete;
+    AssertionNet& operator=(const AssertionNet&) = delete;
+
+  private:
+    struct sigaction m_before {};
 };
 
 // A block starts with its own size, which the pool wants back
@@ -32,10 +62,11 @@ constexpr std::size_t blockHeader = alignof(std::max_align_t);
 
 void* allocate(void* userData, std::size_t size) {
     auto* guard = static_cast<Guard*>(userData);
-    const std::size_t whole = size + blockHeader;
+    // a multiple of the alignment, or the pool may cut unaligned blocks
+    const std::size_t whole = (size + 2 * blockHeader - 1) / blockHeader * blockHeader;
     const bool late =
         ++guard->allocations % allocationsBetweenLooksAtTheClock == 0 && processorSeconds() > guard->deadline;
-    if (late || whole > guard->bytesLeft) std::longjmp(guard->exceeded, 1);
+    if (late || whole > guard->bytesLeft) siglongjmp(guard->givenUp, 1);
     guard->bytesLeft -= whole;
     auto* block = static_cast<std::byte*>(guard->pool->allocate(whole, blockHeader));
     *reinterpret_cast<std::size_t*>(block) = whole;
@@ -57,7 +88,7 @@ const GumboNode* parseWithin(Guard& guard, const QByteArray& text) {
     options.deallocator = deallocate;
     options.userdata = &guard;
     options.max_errors = 0;
-    if (setjmp(guard.exceeded) != 0) return nullptr;
+    if (sigsetjmp(guard.givenUp, 1) != 0) return nullptr;
     return gumbo_parse_with_options(&options, text.constData(), static_cast<std::size_t>(text.size()))
         ->document;
 }
@@ -88,6 +119,7 @@ bool ParseTree::parse() {
     const auto length = static_cast<std::size_t>(m_text.size());
     Guard guard{&m_memory, memoryAtLeast + memoryPerByte * length,
                 processorSeconds() + secondsAtLeast + secondsPerByte * static_cast<double>(length)};
+    const AssertionNet net(guard);
     m_document = parseWithin(guard, m_text);
     return m_document != nullptr;
 }
