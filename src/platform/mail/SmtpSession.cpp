@@ -4,6 +4,8 @@
 #include <QNetworkProxy>
 #include <utility>
 
+#include "platform/mail/TcpState.h"
+
 namespace mail {
 
 namespace {
@@ -62,8 +64,9 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, in
     m_refused = false;
     m_message = message;
     m_idle.stop();
-    m_stall.setInterval(timeoutMs);
-    m_stall.start();
+    m_timeoutMs = timeoutMs;
+    m_outstanding = 0;
+    m_stall.start(m_timeoutMs);
 
     m_reused =
         m_ready && route == m_route && !inputLeft() && m_socket->state() == QAbstractSocket::ConnectedState;
@@ -128,6 +131,7 @@ void SmtpSession::onConnected() {
 }
 
 void SmtpSession::dropConnection() {
+    const bool midMessage = m_feeding;
     m_ready = m_handshaking = m_feeding = false;
     m_idle.stop();
     m_expected.clear();
@@ -137,6 +141,7 @@ void SmtpSession::dropConnection() {
     m_inputRead = 0;
     m_exchange.reset();
     if (!m_socket) return;
+    if (midMessage) resetOnClose(int(m_socket->socketDescriptor()));
     QSslSocket* const socket = std::exchange(m_socket, nullptr);
     socket->disconnect(this);
     socket->abort();
@@ -160,7 +165,9 @@ void SmtpSession::quit() {
 }
 
 void SmtpSession::progress() {
-    if (m_busy) m_stall.start();
+    if (!m_busy) return;
+    m_outstanding = unacknowledgedOctets(int(m_socket->socketDescriptor()));
+    m_stall.start(m_timeoutMs);
 }
 
 void SmtpSession::onTaken() {
@@ -169,6 +176,17 @@ void SmtpSession::onTaken() {
 }
 
 void SmtpSession::onTimeout() {
+    if (m_outstanding > 0 && m_socket) {
+        // Large buffers of the system tell of progress late: the time counts from the last acknowledgement.
+        const int descriptor = int(m_socket->socketDescriptor());
+        const int outstanding = unacknowledgedOctets(descriptor);
+        const int quietMs = msSinceAcknowledgement(descriptor);
+        if (outstanding < m_outstanding && quietMs < m_timeoutMs) {
+            m_outstanding = outstanding;
+            m_stall.start(m_timeoutMs - quietMs);
+            return;
+        }
+    }
     dropConnection();
     fail(0, QStringLiteral("Tempo scaduto: il server non risponde."));
 }

@@ -67,6 +67,7 @@ class SmtpSession : public QObject {
 
     // SmtpSession_dialogue.cpp: commands, replies and what they lead to
     void onReadyRead();
+    void onUnexpectedInput();
     void onReply(Step step, const SmtpReply& reply);
     void onHello(Step step, const SmtpReply& reply);
     void onEnvelopeReply(Step step, const SmtpReply& reply);
@@ -135,6 +136,8 @@ class SmtpSession : public QObject {
     bool m_reused = false;  ///< on a connection that was kept
     bool m_mailAccepted = false;
     bool m_refused = false;
+    int m_timeoutMs = 0;
+    int m_outstanding = 0;  ///< octets that were not acknowledged when there last was progress
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
     qsizetype m_fed = 0;     ///< octets of the message that were written

@@ -44,14 +44,23 @@ void SmtpSession::onReadyRead() {
     }
     if (m_socket != socket) return;
     if (m_expected.isEmpty() && !m_handshaking && inputLeft()) {
-        // Said without having been asked: at best a farewell, and nothing that follows could be trusted.
-        const ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
-        m_transcript.received(parse.reply.code, parse.reply.text);
-        lost(parse.reply.code == 421 ? 421 : 0, printable(parse.reply.text));
+        onUnexpectedInput();
         return;
     }
     m_input.remove(0, m_inputRead);
     m_inputRead = 0;
+}
+
+void SmtpSession::onUnexpectedInput() {
+    // Said without having been asked: at best a farewell, and no later reply could be trusted to be the right
+    // one.
+    const SmtpReply reply = parseSmtpReply(m_input, m_inputRead).reply;
+    m_transcript.received(reply.code, reply.text);
+    lost(reply.code == 421 ? 421 : 0, reply.code == 421
+                                          ? printable(reply.text)
+                                          : QStringLiteral("Risposta del server inattesa: %1 %2")
+                                                .arg(reply.code)
+                                                .arg(printable(reply.text)));
 }
 
 bool SmtpSession::inputLeft() const {
@@ -111,6 +120,10 @@ void SmtpSession::command(Step step, const QByteArray& line, const QByteArray& s
 }
 
 void SmtpSession::writeCommands() {
+    if (inputLeft()) {
+        onUnexpectedInput();
+        return;
+    }
     QSslSocket* const socket = m_socket;  // a failure takes m_socket away
     socket->write(std::exchange(m_output, {}));
     socket->flush();
@@ -238,6 +251,8 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
         m_output = ".\r\n";
         m_expected.append(Step::EmptyBody);
         writeCommands();
+    } else if (inputLeft()) {
+        onUnexpectedInput();
     } else {
         m_transcript.sent(QStringLiteral("(messaggio: %1 byte)").arg(m_message.data.size()).toLatin1());
         m_expected.append(Step::Body);

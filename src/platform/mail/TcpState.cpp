@@ -1,0 +1,28 @@
+#include "platform/mail/TcpState.h"
+
+#include <linux/sockios.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+
+namespace mail {
+
+int unacknowledgedOctets(int descriptor) {
+    int octets = 0;
+    return ::ioctl(descriptor, SIOCOUTQ, &octets) == 0 ? octets : 0;
+}
+
+int msSinceAcknowledgement(int descriptor) {
+    tcp_info info{};
+    socklen_t size = sizeof info;
+    if (::getsockopt(descriptor, IPPROTO_TCP, TCP_INFO, &info, &size) != 0) return 0;
+    return int(info.tcpi_last_ack_recv);
+}
+
+void resetOnClose(int descriptor) {
+    const linger atOnce{1, 0};
+    ::setsockopt(descriptor, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+}
+
+}  // namespace mail
