@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QList>
+#include <QSemaphore>
+#include <QThread>
+#include <string>
+
+#include "support/TestCertificates.h"
+
+class QSslSocket;
+
+namespace testing_support {
+
+/// An SMTP server on loopback that plays written dialogues, one for each connection, in a thread of its own.
+///
+/// The lines of a dialogue:
+///   S: text      sends the line
+///   S- text      sends the text without a line end; \r \n \0 stand for the control characters
+///   S. text      sends the line octet by octet
+///   C: pattern   expects a line; "*" stands for any text
+///   BODY         reads a message up to the final point and keeps it
+///   READ n       reads n octets
+///   EMPTY        expects that nothing more has come
+///   TLS          becomes the server's side of a TLS handshake
+///   TLSFAIL      as TLS, and expects the handshake to fail
+///   WAIT         waits until the client closes
+///   HOLD         does nothing until the client closes, not even read
+///   PAUSE n      waits n milliseconds
+///   DROP         closes
+///   RESET        closes with a reset
+/// A dialogue that has ended is closed.
+class ScriptedServer : public QThread {
+  public:
+    explicit ScriptedServer(QList<QByteArrayList> dialogues, TlsIdentity identity = TlsIdentity(),
+                            quint16 port = 0);
+    ~ScriptedServer() override;
+
+    quint16 port() const { return m_port; }
+
+    /// Waits until every dialogue was played and gives what went otherwise than written; empty: nothing.
+    std::string remainder();
+
+    // After remainder():
+    const QByteArrayList& bodies() const { return m_bodies; }  ///< as received, dots still stuffed
+    const QByteArrayList& lines() const { return m_lines; }    ///< that matched a C: line
+    const QList<quint16>& peerPorts() const { return m_peerPorts; }
+
+  protected:
+    void run() override;
+
+  private:
+    struct Unexpected {
+        QByteArray text;
+    };
+    void play(const QByteArrayList& dialogue);
+    void step(const QByteArray& line);
+    void send(const QByteArray& bytes);
+    void receive();
+    QByteArray takeLine();
+    void expect(const QByteArray& pattern);
+    void takeBody();
+    void waitForEnd();
+    void close(bool reset);
+
+    const QList<QByteArrayList> m_dialogues;
+    const TlsIdentity m_identity;
+    quint16 m_port;
+    QSemaphore m_listening;
+    QSslSocket* m_socket = nullptr;
+    QByteArray m_input;
+    QByteArray m_problem;
+    QByteArrayList m_bodies;
+    QByteArrayList m_lines;
+    QList<quint16> m_peerPorts;
+};
+
+}  // namespace testing_support
