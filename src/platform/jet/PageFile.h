@@ -1,0 +1,110 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/jet/Format.h"
+#include "platform/jet/Header.h"
+#include "platform/jet/Journal.h"
+#include "platform/jet/OsFile.h"
+
+namespace jet {
+
+/// The pages of a Jet file: bounded cache, locks against other processes, and transactions through the
+/// rollback journal. All members throw Failure.
+///
+/// Locks are advisory locks on the database file: shared while something is read, exclusive in a transaction.
+/// Waiting is bounded; then FileInUse. A cached page is trusted only as long as device, inode, size and
+/// modification time of the file at the path are what they were when the lock was last held.
+class PageFile {
+  public:
+    struct Limits {
+        size_t cachedPages = 8192;
+        size_t changedPages = 8192;  ///< more are written ahead of the commit
+        int lockWaitMs = 5000;
+    };
+
+    /// Opens the file, rolls a journal back, checks page 0.
+    PageFile(std::string path, bool readOnly, const Limits& limits);
+    ~PageFile();
+    PageFile(const PageFile&) = delete;
+
+    const Header& header() const { return m_header; }
+    bool readOnly() const { return m_readOnly; }
+    /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
+    uint64_t generation() const { return m_generation; }
+    uint32_t pageCount() const { return m_pageCount; }
+
+    /// Reading happens between these two; they may be nested.
+    void beginRead();
+    void endRead();
+    /// Page n. The bytes stay as long as the pointer is held.
+    PagePtr page(uint32_t n);
+
+    void beginWrite();
+    bool writing() const { return m_writing; }
+    /// Page n for changing, valid until the end of the statement (endStatement). Its original goes to the
+    /// journal.
+    Page& change(uint32_t n);
+    /// A new zeroed page at the end of the file.
+    uint32_t append();
+    /// Writes changed pages ahead if there are too many. Between two statements of a transaction.
+    void endStatement();
+    void commit();
+    void rollback() noexcept;
+
+  private:
+    void open();
+    void readHeader();
+    void lock(OsFile& file, OsFile::Lock lock) const;
+    void lockCurrent(OsFile::Lock lock);
+    void unlock();
+    void recover();
+    void refreshState();
+    void dropCache();
+    void refuseIfOpenElsewhere() const;
+    void keep(uint32_t n, std::shared_ptr<Page> page);
+    void evict();
+    void writeChanged();
+
+    struct Slot {
+        std::shared_ptr<Page> page;
+        bool used = false;  ///< since the clock's hand last passed
+    };
+
+    std::string m_path;
+    Limits m_limits;
+    bool m_wantReadOnly;
+    bool m_readOnly = false;
+    OsFile m_file;
+    FileState m_state;
+    Header m_header;
+    uint32_t m_pageCount = 0;
+    uint64_t m_generation = 1;
+    int m_readers = 0;
+
+    std::vector<Slot> m_cache;  // by page number
+    size_t m_cached = 0;
+    size_t m_hand = 0;
+
+    Journal m_journal;
+    bool m_writing = false;
+    bool m_pagesWritten = false;  // step 4 has begun
+    uint32_t m_originalPages = 0;
+    std::vector<bool> m_journaled;
+    std::map<uint32_t, std::shared_ptr<Page>> m_changed;
+};
+
+/// Holds the shared lock for a stretch of reading.
+class Reading {
+  public:
+    explicit Reading(PageFile& file) : m_file(file) { m_file.beginRead(); }
+    ~Reading() { m_file.endRead(); }
+    Reading(const Reading&) = delete;
+
+  private:
+    PageFile& m_file;
+};
+
+}  // namespace jet
