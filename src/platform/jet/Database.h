@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QString>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <QString>
 #include <span>
 #include <string>
 #include <utility>
@@ -63,10 +63,20 @@ class RowView {
 };
 
 class Database;
+struct Engine;
+struct TableState;
 
-/// Rows and indexes of one local table of an open database. Owned by the Database; valid as long as it is open.
+/// Rows and indexes of one local table of an open database. Owned by the Database; valid as long as it is
+/// open and refresh() has not answered true. Failures are those of Database, and besides:
+///   FileInUse when another program changed the table's structure since refresh()
+///   NoCurrentRecord when a row that is to be changed does not exist
+/// A change that fails because of its values leaves the transaction as it was. After any other failure
+/// (damage, disk) the transaction can only be undone, and commit() does that.
 class Table {
   public:
+    ~Table();
+    Table(const Table&) = delete;
+    Table& operator=(const Table&) = delete;
     const TableDefinition& definition() const;
 
     /// Calls `visit` for each row in page order until it returns false. Only reading is allowed meanwhile.
@@ -75,36 +85,67 @@ class Table {
     Result<std::optional<RowView>> row(RowId id);
     /// One value, following memo and OLE values to their pages.
     Result<Value> value(RowId id, size_t column);
-    /// The row with that number in the primary key, found through the index. Only for tables with longPrimaryKey().
+    /// The row with that number in the primary key, found through the index. Only for tables with
+    /// longPrimaryKey().
     Result<std::optional<RowId>> findByPrimaryKey(int32_t key);
 
-    /// Why no row of this table may be changed, or success. Looks at everything that could not be kept right:
-    /// indexes on other than one long, columns that are not understood, enforced relations, read-only files.
+    /// Why no row may be inserted or deleted, or success. Looks at everything that could not be kept right:
+    /// indexes on other than one long, columns that are not understood, enforced relations, system tables,
+    /// read-only files.
     Status writable();
-    /// Takes the next auto-number for a row that will be inserted; it is burnt if the row is not.
+    /// Why these columns (by position) of existing rows may not be changed, or success. Less than writable()
+    /// asks for: an index that cannot be kept matters only when one of its columns changes.
+    Status updatable(std::span<const size_t> columns);
+    /// Takes the next auto-number for a row that will be inserted; it is burnt if the row is not. Outside a
+    /// transaction it is a transaction of its own.
     Result<int32_t> takeAutoNumber();
-    /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null gets the
-    /// next number. Only between begin() and commit().
+    /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null
+    /// gets the next number; a greater one raises the counter. Only between begin() and commit(). Failures of
+    /// values, naming the column: TypeMismatch, Overflow, FieldTooSmall, ValueRequired, RecordTooLarge,
+    /// DuplicateKey, NotSupported (memo and OLE other than Null).
+    /// Taken for a column: yes/no: bool, or a number that is not 0 · whole numbers: int64_t, or bool as -1
+    /// and 0 · single, double: double or int64_t · everything else the alternative that reading gives.
     Result<RowId> insert(std::span<const Value> values);
-    /// Changes the columns named by position. Only between begin() and commit().
+    /// Changes the columns named by position; values as for insert(). Columns that already hold the value do
+    /// not count. An auto-number cannot be changed. Only between begin() and commit().
     Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
+    /// Deletes a row. What its memo and OLE values hold on other pages stays behind as lost room.
+    /// Only between begin() and commit().
     Status erase(RowId id);
+
+  private:
+    friend class Database;
+    explicit Table(std::unique_ptr<TableState> state);
+    std::unique_ptr<TableState> m_state;
 };
 
-/// A Jet file. Every read outside a transaction sees the file as it is on disk: refresh() tells whether it was
-/// changed by somebody else since the last call and drops what was cached if so.
+/// A Jet file. Every read outside a transaction sees the file as it is on disk, also when another process has
+/// changed or replaced it in between; refresh() tells the caller whether that happened.
+///
+/// Other processes are kept out by an advisory lock on the file: shared while a call reads, exclusive from
+/// begin() to commit() or rollback(). Waiting for it is bounded; then FileInUse. Two Databases in one process
+/// exclude each other as well, so share one.
+///
+/// Failures: FileNotFound, PathAccess, UnrecognizedFormat, InvalidPassword, FileInUse, ReadOnlyDatabase,
+/// DeviceIo, DamagedDatabase (what is told contradicts itself), NotSupported (what cannot be kept right,
+/// refused before the file is touched). One thread at a time.
 class Database {
   public:
     struct Options {
         QString password;
         bool readOnly = false;
+        int lockWaitMs = 5000;      ///< longest wait for another process
+        size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides
     };
 
-    /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a missing
-    /// or unreadable file, a file that is no Jet 4 database, one that is truncated, or a wrong password.
+    /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a
+    /// missing or unreadable file, a file that is no Jet 4 database, one that is truncated, or a wrong
+    /// password.
     static Result<std::unique_ptr<Database>> open(const QString& path, const Options& options);
     static Result<std::unique_ptr<Database>> open(const QString& path) { return open(path, {}); }
-    ~Database();
+    ~Database();  ///< a transaction that is open is undone
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
 
     const QString& path() const;
     /// Tables of the catalogue by name (system tables included and marked).
@@ -112,22 +153,43 @@ class Database {
     /// A local table by name, case ignored. Linked tables and queries are refused.
     Result<Table*> table(QStringView name);
 
-    /// Makes sure that what is cached agrees with the file. The value is true when the file had been changed from
-    /// outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
+    /// Makes sure that what is cached agrees with the file. The value is true when the file had been changed
+    /// from outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
     Result<bool> refresh();
 
-    /// Starts a transaction: takes the write lock (bounded wait) and opens the rollback journal. Nothing is written to
-    /// the file before the journal is synced.
+    /// Starts a transaction: takes the write lock (bounded wait). The rollback journal is opened with the
+    /// first change; nothing is written to the file before it is synced. Refused (FileInUse) as well while
+    /// another program holds the NAME.ldb beside the file.
     Status begin();
-    /// Makes the transaction durable: after it returns success the changes survive a crash.
+    /// Makes the transaction durable: after it returns success the changes survive a crash. After a failure
+    /// the file is as it was at begin().
     Status commit();
     /// Puts the file back to what it was at begin().
     void rollback();
     bool inTransaction() const;
+
+  private:
+    friend class ReadScope;
+    explicit Database(std::unique_ptr<Engine> engine);
+    std::unique_ptr<Engine> m_engine;
 };
 
-/// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their primary keys and
-/// field properties) to `path`. Fails when the file exists.
+/// Keeps writers out for a stretch of reading, so that several calls see one state of the file and cost one
+/// lock. Look at status() first; without success the calls lock for themselves.
+class ReadScope {
+  public:
+    explicit ReadScope(Database& database);
+    ~ReadScope();
+    ReadScope(const ReadScope&) = delete;
+    const Status& status() const { return m_status; }
+
+  private:
+    Database& m_database;
+    Status m_status;
+};
+
+/// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their
+/// primary keys and field properties) to `path`. Fails when the file exists.
 Status createEmptyDatabase(const QString& path);
 
 }  // namespace jet

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QString>
 #include <cstdint>
 #include <optional>
+#include <QString>
 #include <vector>
 
 #include "platform/jet/Value.h"
 
 namespace jet {
 
-/// One column of a table. Positions in `TableDefinition::columns` are display positions, the order of SELECT *.
+/// One column of a table. Positions in `TableDefinition::columns` are display positions, the order of SELECT
+/// *.
 struct Column {
     QString name;
     Type type = Type::Long;
@@ -18,8 +19,9 @@ struct Column {
     uint16_t displayPosition = 0;
     uint16_t fixedOffset = 0;  ///< place in a row's fixed area
     uint16_t length = 0;       ///< in bytes; characters are half of it for text
-    bool fixed = false;
+    bool fixed = false;        ///< stored in the fixed area, else among the variable values
     bool autoNumber = false;
+    bool autoGuid = false;
     bool compressed = false;  ///< text may be written in the compressed form
 };
 
@@ -43,6 +45,7 @@ struct Index {
 struct TableDefinition {
     QString name;
     uint32_t page = 0;  ///< first definition page, also the table's id
+    bool system = false;
     std::vector<Column> columns;
     std::vector<Index> indexes;
     uint16_t maxColumns = 0;

@@ -1,0 +1,181 @@
+#include "platform/jet/Database.h"
+
+#include <algorithm>
+
+#include <QFile>
+
+#include "platform/jet/DefinitionReader.h"
+#include "platform/jet/Engine.h"
+#include "platform/jet/UsageMap.h"
+
+namespace jet {
+
+namespace {
+
+CatalogEntry::Kind kindOf(int64_t type) {
+    return type == 1   ? CatalogEntry::Kind::Local
+           : type == 5 ? CatalogEntry::Kind::Query
+                       : CatalogEntry::Kind::Linked;
+}
+
+bool isListed(int64_t type) {
+    return type == 1 || type == 4 || type == 5 || type == 6;
+}
+
+std::vector<CatalogEntry> readCatalog(PageFile& file) {
+    const TableDefinition objects =
+        parseDefinition(readDefinition(file, catalogPage), QStringLiteral("MSysObjects"), catalogPage);
+    const auto column = [&](const char16_t* name) {
+        const std::optional<size_t> found = objects.find(name);
+        if (!found) failDamaged(QStringLiteral("il catalogo non è leggibile"));
+        return *found;
+    };
+    const size_t id = column(u"Id");
+    const size_t name = column(u"Name");
+    const size_t type = column(u"Type");
+    const size_t flags = column(u"Flags");
+
+    std::vector<CatalogEntry> entries;
+    std::string text;
+    RowStore(file, objects).scan([&](RowId, std::span<const uint8_t> bytes) {
+        const RowView row(&objects, bytes);
+        const int64_t kind = row.integer(type);
+        if (!isListed(kind)) return true;
+        text.clear();
+        row.text(name, text);
+        CatalogEntry entry;
+        entry.name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        entry.kind = kindOf(kind);
+        entry.system =
+            (row.integer(flags) & 0x80000002) != 0 || entry.name.startsWith(u"MSys", Qt::CaseInsensitive);
+        entry.definitionPage = static_cast<uint32_t>(row.integer(id)) & 0xFFFFFF;
+        entries.push_back(std::move(entry));
+        return true;
+    });
+    std::stable_sort(entries.begin(), entries.end(), [](const CatalogEntry& a, const CatalogEntry& b) {
+        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+    });
+    return entries;
+}
+
+const std::vector<CatalogEntry>& currentCatalog(Engine& engine) {
+    if (engine.catalogGeneration != engine.file.generation()) {
+        engine.catalog = readCatalog(engine.file);
+        engine.catalogGeneration = engine.file.generation();
+    }
+    return engine.catalog;
+}
+
+}  // namespace
+
+Engine::Engine(QString shownPath, const Database::Options& options)
+    : path(std::move(shownPath)),
+      file(QFile::encodeName(path).toStdString(), options.readOnly,
+           {options.cachedPages, options.cachedPages, options.lockWaitMs}) {}
+
+Database::Database(std::unique_ptr<Engine> engine) : m_engine(std::move(engine)) {}
+
+Database::~Database() = default;
+
+Result<std::unique_ptr<Database>> Database::open(const QString& path, const Options& options) {
+    return guarded([&]() -> Result<std::unique_ptr<Database>> {
+        auto engine = std::make_unique<Engine>(path, options);
+        const QString& wanted = engine->file.header().password;
+        if (!wanted.isEmpty() && wanted != options.password)
+            fail(ErrorCode::InvalidPassword,
+                 QStringLiteral("Password non valida per il database \"%1\".").arg(path));
+        const Reading reading(engine->file);
+        if (GlobalMap(engine->file).reachesBehindFile())
+            failDamaged(QStringLiteral("il file \"%1\" è troncato").arg(path));
+        (void)currentCatalog(*engine);
+        engine->toldGeneration = engine->file.generation();
+        return std::unique_ptr<Database>(new Database(std::move(engine)));
+    });
+}
+
+const QString& Database::path() const {
+    return m_engine->path;
+}
+
+Result<std::vector<CatalogEntry>> Database::catalog() {
+    return guarded([&]() -> Result<std::vector<CatalogEntry>> {
+        const Reading reading(m_engine->file);
+        return currentCatalog(*m_engine);
+    });
+}
+
+Result<Table*> Database::table(QStringView name) {
+    return guarded([&]() -> Result<Table*> {
+        const Reading reading(m_engine->file);
+        const CatalogEntry* other = nullptr;
+        for (const CatalogEntry& entry : currentCatalog(*m_engine)) {
+            if (name.compare(entry.name, Qt::CaseInsensitive) != 0) continue;
+            if (entry.kind != CatalogEntry::Kind::Local) {
+                other = &entry;
+                continue;
+            }
+            std::unique_ptr<Table>& table = m_engine->tables[entry.definitionPage];
+            if (!table)
+                table.reset(
+                    new Table(std::make_unique<TableState>(*m_engine, entry.name, entry.definitionPage)));
+            return table.get();
+        }
+        if (other)
+            fail(ErrorCode::NotSupported,
+                 other->kind == CatalogEntry::Kind::Linked
+                     ? QStringLiteral("La tabella \"%1\" è collegata a un altro file.").arg(other->name)
+                     : QStringLiteral("\"%1\" è una query, non una tabella.").arg(other->name));
+        fail(ErrorCode::TableNotFound, QStringLiteral("Impossibile trovare la tabella \"%1\".").arg(name));
+    });
+}
+
+Result<bool> Database::refresh() {
+    return guarded([&]() -> Result<bool> {
+        const Reading reading(m_engine->file);
+        if (m_engine->toldGeneration == m_engine->file.generation()) return false;
+        m_engine->toldGeneration = m_engine->file.generation();
+        m_engine->tables.clear();
+        return true;
+    });
+}
+
+Status Database::begin() {
+    return guarded([&]() -> Status {
+        m_engine->file.beginWrite();
+        m_engine->doom = {};
+        return {};
+    });
+}
+
+Status Database::commit() {
+    if (!inTransaction()) return {ErrorCode::NotSupported, QStringLiteral("Nessuna transazione è in corso.")};
+    if (!m_engine->doom.ok()) {
+        rollback();
+        return m_engine->doom;
+    }
+    return guarded([&]() -> Status {
+        m_engine->file.commit();
+        return {};
+    });
+}
+
+void Database::rollback() {
+    if (inTransaction()) m_engine->file.rollback();
+}
+
+bool Database::inTransaction() const {
+    return m_engine->file.writing();
+}
+
+ReadScope::ReadScope(Database& database) : m_database(database) {
+    m_status = guarded([&]() -> Status {
+        database.m_engine->file.beginRead();
+        return {};
+    });
+}
+
+ReadScope::~ReadScope() {
+    if (m_status.ok()) m_database.m_engine->file.endRead();
+}
+
+}  // namespace jet

@@ -1,0 +1,166 @@
+#include "platform/jet/DefinitionReader.h"
+
+#include <algorithm>
+
+#include "platform/jet/Failure.h"
+
+namespace jet {
+
+namespace {
+
+// A definition of 255 columns and 32 indexes with the longest names stays below this.
+constexpr size_t maxDefinitionPages = 64;
+
+// Bounds-checked reading of a definition from left to right.
+class Cursor {
+  public:
+    Cursor(std::span<const uint8_t> bytes, size_t at, uint32_t page)
+        : m_bytes(bytes), m_at(at), m_page(page) {}
+
+    const uint8_t* take(size_t length) {
+        if (length > m_bytes.size() - m_at)
+            failDamaged(QStringLiteral("la definizione della tabella a pagina %1 è incompleta").arg(m_page));
+        const uint8_t* p = m_bytes.data() + m_at;
+        m_at += length;
+        return p;
+    }
+
+    QString takeName() {
+        const size_t length = load16(take(2)) / 2;
+        const uint8_t* p = take(2 * length);
+        QString name(static_cast<qsizetype>(length), QChar(u' '));
+        for (size_t i = 0; i < length; ++i)
+            name[static_cast<qsizetype>(i)] = QChar(load16(p + 2 * i));
+        return name;
+    }
+
+  private:
+    std::span<const uint8_t> m_bytes;
+    size_t m_at;
+    uint32_t m_page;
+};
+
+Column parseColumn(const uint8_t* p) {
+    Column column;
+    column.type = static_cast<Type>(p[0]);
+    column.number = load16(p + 5);
+    column.variableIndex = load16(p + 7);
+    column.displayPosition = load16(p + 9);
+    const uint8_t flags = p[15];
+    column.fixed = flags & 0x01;
+    column.autoNumber = flags & 0x04;
+    column.autoGuid = flags & 0x40;
+    column.compressed = p[16] & 0x01;
+    column.fixedOffset = load16(p + 21);
+    column.length = load16(p + 23);
+    return column;
+}
+
+Index parseIndex(const uint8_t* p) {
+    Index index;
+    for (size_t i = 0; i < 10; ++i) {
+        const uint8_t* part = p + 4 + 3 * i;
+        if (load16(part) != 0xFFFF) index.parts.push_back({load16(part), part[2] != 0});
+    }
+    index.mapPointer = load32(p + 34);
+    index.rootPage = load32(p + 38);
+    const uint8_t flags = p[46];
+    index.unique = flags & 0x01;
+    index.ignoreNulls = flags & 0x02;
+    index.required = flags & 0x08;
+    return index;
+}
+
+}  // namespace
+
+std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
+    std::vector<uint8_t> block;
+    uint32_t next = page;
+    for (size_t pages = 0; pages == 0 || next != 0; ++pages) {
+        const PagePtr bytes = file.page(next);
+        if ((*bytes)[0] != DefinitionPage)
+            failDamaged(QStringLiteral("la pagina %1 non è la definizione di una tabella").arg(next));
+        if (pages == maxDefinitionPages)
+            failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non finisce").arg(page));
+        block.insert(block.end(), bytes->begin() + (pages == 0 ? 0 : definition::joined), bytes->end());
+        next = load32(bytes->data() + definition::next);
+    }
+    return block;
+}
+
+TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page) {
+    TableDefinition table;
+    table.name = name;
+    table.page = page;
+    const uint8_t* p = block.data();
+    table.system = p[definition::kind] == 'S';
+    table.maxColumns = load16(p + definition::maxColumns);
+    table.variableColumns = load16(p + definition::variableColumns);
+    table.ownedMap = load32(p + definition::ownedMap);
+    table.roomMap = load32(p + definition::roomMap);
+    const size_t columns = load16(p + definition::columns);
+    const size_t logicalIndexes = load32(p + definition::logicalIndexes);
+    const size_t realIndexes = load32(p + definition::realIndexes);
+    const auto absurd = [&](size_t count, size_t each) { return count > block.size() / each; };
+    if (absurd(columns, definition::columnLength) || absurd(realIndexes, definition::realIndexLength) ||
+        absurd(logicalIndexes, definition::logicalIndexLength))
+        failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non è leggibile").arg(page));
+
+    Cursor cursor(block, definition::indexCounts, page);
+    cursor.take(realIndexes * definition::indexCountLength);
+    for (size_t i = 0; i < columns; ++i)
+        table.columns.push_back(parseColumn(cursor.take(definition::columnLength)));
+    for (Column& column : table.columns) {
+        column.name = cursor.takeName();
+        if (column.number >= table.maxColumns ||
+            (!column.fixed && column.type != Type::YesNo && column.variableIndex >= table.variableColumns))
+            failDamaged(
+                QStringLiteral("un campo della tabella a pagina %1 non ha posto nelle righe").arg(page));
+    }
+    for (size_t i = 0; i < realIndexes; ++i)
+        table.indexes.push_back(parseIndex(cursor.take(definition::realIndexLength)));
+
+    std::vector<size_t> realOf(logicalIndexes);
+    for (size_t i = 0; i < logicalIndexes; ++i) {
+        const uint8_t* logical = cursor.take(definition::logicalIndexLength);
+        realOf[i] = load32(logical + 8);
+        const uint32_t otherTable = load32(logical + 17);
+        const uint8_t kind = logical[23];
+        if (realOf[i] >= realIndexes)
+            failDamaged(QStringLiteral("un indice della tabella a pagina %1 non esiste").arg(page));
+        if (kind == 1) table.indexes[realOf[i]].primaryKey = true;
+        if (kind == 2 || otherTable != 0) table.enforcedRelation = true;
+    }
+    for (size_t i = 0; i < logicalIndexes; ++i) {
+        const QString logicalName = cursor.takeName();
+        if (table.indexes[realOf[i]].name.isEmpty()) table.indexes[realOf[i]].name = logicalName;
+    }
+    std::stable_sort(table.columns.begin(), table.columns.end(), [](const Column& a, const Column& b) {
+        return std::pair(a.displayPosition, a.number) < std::pair(b.displayPosition, b.number);
+    });
+    return table;
+}
+
+void clearCounters(std::vector<uint8_t>& block) {
+    std::fill_n(block.begin() + definition::rowCount, 8, uint8_t{0});
+    const size_t counts =
+        std::min<size_t>(load32(&block[definition::realIndexes]), 255) * definition::indexCountLength;
+    std::fill_n(block.begin() + definition::indexCounts, counts, uint8_t{0});
+}
+
+std::optional<size_t> TableDefinition::find(QStringView columnName) const {
+    for (size_t i = 0; i < columns.size(); ++i)
+        if (columnName.compare(columns[i].name, Qt::CaseInsensitive) == 0) return i;
+    return std::nullopt;
+}
+
+std::optional<size_t> TableDefinition::longPrimaryKey() const {
+    for (const Index& index : indexes) {
+        if (!index.primaryKey || index.parts.size() != 1 || !index.parts[0].ascending) continue;
+        for (size_t i = 0; i < columns.size(); ++i)
+            if (columns[i].number == index.parts[0].column && columns[i].type == Type::Long) return i;
+    }
+    return std::nullopt;
+}
+
+}  // namespace jet

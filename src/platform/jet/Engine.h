@@ -1,0 +1,47 @@
+#pragma once
+
+#include <map>
+#include <optional>
+
+#include "platform/jet/Database.h"
+#include "platform/jet/Failure.h"
+#include "platform/jet/PageFile.h"
+#include "platform/jet/RowStore.h"
+
+namespace jet {
+
+/// What a Database and its Tables share.
+struct Engine {
+    Engine(QString shownPath, const Database::Options& options);
+
+    QString path;
+    PageFile file;
+    uint64_t toldGeneration = 0;  ///< of the file, when refresh() last answered
+    std::vector<CatalogEntry> catalog;
+    uint64_t catalogGeneration = 0;
+    std::map<uint32_t, std::unique_ptr<Table>> tables;  ///< by definition page
+    Status doom;                                        ///< why the transaction cannot be committed any more
+};
+
+struct TableState {
+    TableState(Engine& sharedEngine, const QString& name, uint32_t page);
+
+    /// Makes sure that the definition still is the file's. Throws Failure if another program has changed it.
+    void ensureCurrent();
+    /// The counters in the definition.
+    int32_t lastAutoNumber();
+    void setAutoNumber(int32_t last);
+    void addToRowCount(int change);
+    void addToKeyCount(size_t index, int change);
+
+    Engine& engine;
+    PageFile& file;
+    Bytes structure;  ///< the definition's bytes without its counters
+    TableDefinition definition;
+    uint64_t generation;
+    RowStore rows;
+    bool autoNumberChecked = false;  ///< the counter is not below the greatest key
+    PagePtr borrowed;                ///< page of the row that row() handed out
+};
+
+}  // namespace jet

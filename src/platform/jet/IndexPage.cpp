@@ -1,0 +1,154 @@
+#include "platform/jet/IndexPage.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "platform/jet/Failure.h"
+
+namespace jet {
+
+IndexPage::IndexPage(const Page& page, uint32_t number, uint32_t owner) {
+    const uint8_t* p = page.data();
+    const auto damaged = [&] {
+        failDamaged(QStringLiteral("la pagina di indice %1 non è leggibile").arg(number));
+    };
+    if ((p[0] != NodePage && p[0] != LeafPage) || load32(p + index::owner) != owner) damaged();
+    leaf = p[0] == LeafPage;
+    previous = load32(p + index::previous);
+    next = load32(p + index::next);
+    tail = load32(p + index::tail);
+    level = p[index::level];
+    const size_t prefix = load16(p + index::prefix);
+    const size_t least = 1 + index::rowIdLength + (leaf ? 0 : index::childLength);
+
+    size_t from = 0;
+    for (size_t i = 0; i < index::entries - index::mask; ++i) {
+        for (unsigned rest = p[index::mask + i]; rest != 0; rest &= rest - 1) {
+            const size_t to = 8 * i + static_cast<size_t>(std::countr_zero(rest));
+            if (to > index::room || to == from) damaged();
+            const size_t shared = m_ends.empty() ? 0 : prefix;
+            if (shared > 0 && m_ends.front() < prefix) damaged();
+            if (shared + to - from < least) damaged();
+            // The first entry lies in m_bytes itself, which may move while it grows.
+            const size_t at = m_bytes.size();
+            m_bytes.resize(at + shared + to - from);
+            std::copy_n(m_bytes.begin(), shared, m_bytes.begin() + static_cast<ptrdiff_t>(at));
+            std::copy_n(p + index::entries + from, to - from,
+                        m_bytes.begin() + static_cast<ptrdiff_t>(at + shared));
+            m_ends.push_back(static_cast<uint32_t>(m_bytes.size()));
+            from = to;
+        }
+    }
+    if (!leaf && m_ends.empty() && tail == 0) damaged();
+}
+
+std::span<const uint8_t> IndexPage::entry(size_t i) const {
+    return std::span(m_bytes).subspan(start(i), m_ends[i] - start(i));
+}
+
+std::span<const uint8_t> IndexPage::keyAndRow(size_t i) const {
+    const auto whole = entry(i);
+    return leaf ? whole : whole.first(whole.size() - index::childLength);
+}
+
+uint32_t IndexPage::child(size_t i) const {
+    if (i >= count()) return tail;
+    return load32Big(m_bytes.data() + m_ends[i] - index::childLength);
+}
+
+size_t IndexPage::lowerBound(std::span<const uint8_t> wanted) const {
+    size_t low = 0;
+    size_t high = count();
+    while (low < high) {
+        const size_t middle = (low + high) / 2;
+        if (compareEntries(keyAndRow(middle), wanted) < 0)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+void IndexPage::insert(size_t i, std::span<const uint8_t> entry) {
+    const std::vector<uint8_t> own(entry.begin(), entry.end());  // may come from this very page
+    const size_t at = start(i);
+    m_bytes.insert(m_bytes.begin() + static_cast<ptrdiff_t>(at), own.begin(), own.end());
+    m_ends.insert(m_ends.begin() + static_cast<ptrdiff_t>(i), static_cast<uint32_t>(at));
+    for (size_t k = i; k < m_ends.size(); ++k)
+        m_ends[k] += static_cast<uint32_t>(own.size());
+}
+
+void IndexPage::erase(size_t i) {
+    const size_t at = start(i);
+    const uint32_t length = static_cast<uint32_t>(m_ends[i] - at);
+    m_bytes.erase(m_bytes.begin() + static_cast<ptrdiff_t>(at),
+                  m_bytes.begin() + static_cast<ptrdiff_t>(at + length));
+    m_ends.erase(m_ends.begin() + static_cast<ptrdiff_t>(i));
+    for (size_t k = i; k < m_ends.size(); ++k)
+        m_ends[k] -= length;
+}
+
+void IndexPage::moveTail(size_t i, IndexPage& other) {
+    for (size_t k = i; k < count(); ++k)
+        other.insert(other.count(), entry(k));
+    m_bytes.resize(start(i));
+    m_ends.resize(i);
+}
+
+// Entries rise, so what first and last share all share. Like other programs, a leaf takes its prefix only
+// when it would be too full without.
+size_t IndexPage::prefix() const {
+    if (!leaf || m_bytes.size() <= index::room) return 0;
+    const auto first = entry(0);
+    const auto last = entry(count() - 1);
+    const size_t most = std::min(first.size(), last.size());
+    return static_cast<size_t>(
+        std::mismatch(first.begin(), first.begin() + static_cast<ptrdiff_t>(most), last.begin()).first -
+        first.begin());
+}
+
+size_t IndexPage::storedSize() const {
+    return count() == 0 ? 0 : m_bytes.size() - prefix() * (count() - 1);
+}
+
+bool IndexPage::fits() const {
+    return storedSize() <= index::room;
+}
+
+void IndexPage::store(Page& page, uint32_t owner) const {
+    page.fill(0);
+    uint8_t* p = page.data();
+    p[0] = leaf ? LeafPage : NodePage;
+    p[1] = 1;
+    store16(p + index::freeBytes, static_cast<uint32_t>(index::room - storedSize()));
+    store32(p + index::owner, owner);
+    store32(p + index::previous, previous);
+    store32(p + index::next, next);
+    store32(p + index::tail, tail);
+    store16(p + index::prefix, static_cast<uint32_t>(prefix()));
+    p[index::level] = level;
+    const size_t shared = prefix();
+    size_t at = 0;
+    for (size_t i = 0; i < count(); ++i) {
+        const auto own = entry(i).subspan(i == 0 ? 0 : shared);
+        std::copy(own.begin(), own.end(), p + index::entries + at);
+        at += own.size();
+        p[index::mask + at / 8] |= static_cast<uint8_t>(1u << (at % 8));
+    }
+}
+
+int compareEntries(std::span<const uint8_t> a, std::span<const uint8_t> b) {
+    const size_t most = std::min(a.size(), b.size());
+    const int order = most == 0 ? 0 : std::memcmp(a.data(), b.data(), most);
+    if (order != 0) return order;
+    return a.size() < b.size() ? -1 : a.size() > b.size();
+}
+
+std::vector<uint8_t> nodeEntry(std::span<const uint8_t> keyAndRow, uint32_t child) {
+    std::vector<uint8_t> entry(keyAndRow.begin(), keyAndRow.end());
+    entry.resize(entry.size() + index::childLength);
+    store32Big(entry.data() + entry.size() - index::childLength, child);
+    return entry;
+}
+
+}  // namespace jet

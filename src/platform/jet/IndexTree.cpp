@@ -1,0 +1,289 @@
+#include "platform/jet/IndexTree.h"
+
+#include <algorithm>
+
+#include "platform/jet/Failure.h"
+#include "platform/jet/UsageMap.h"
+
+namespace jet {
+
+namespace {
+
+// Deeper than any index of a 2 GB file: whoever gets here goes round in circles.
+constexpr size_t maxDepth = 20;
+
+Bytes entryOf(std::span<const uint8_t> key, RowId row) {
+    Bytes entry(key.begin(), key.end());
+    entry.push_back(static_cast<uint8_t>(row.page >> 16));
+    entry.push_back(static_cast<uint8_t>(row.page >> 8));
+    entry.push_back(static_cast<uint8_t>(row.page));
+    entry.push_back(row.slot);
+    return entry;
+}
+
+Bytes copyOf(std::span<const uint8_t> bytes) {
+    return {bytes.begin(), bytes.end()};
+}
+
+RowId rowOf(std::span<const uint8_t> keyAndRow) {
+    const uint8_t* p = keyAndRow.data() + keyAndRow.size() - index::rowIdLength;
+    return {load24Big(p), p[3]};
+}
+
+}  // namespace
+
+IndexPage IndexTree::load(uint32_t number) const {
+    return IndexPage(*m_file.page(number), number, m_definition.page);
+}
+
+void IndexTree::store(uint32_t number, const IndexPage& page) {
+    if (!page.fits()) failDamaged(QStringLiteral("la pagina di indice %1 è troppo piena").arg(number));
+    page.store(m_file.change(number), m_definition.page);
+}
+
+// Changes `previous` or `next` of a page and leaves all else as it is.
+void IndexTree::link(uint32_t number, size_t field, uint32_t value) {
+    (void)load(number);
+    store32(&m_file.change(number)[field], value);
+}
+
+uint32_t IndexTree::takePage() {
+    const uint32_t number = GlobalMap(m_file).take();
+    if (m_index.mapPointer != 0) UsageMap(m_file, m_index.mapPointer).set(number, true);
+    return number;
+}
+
+void IndexTree::givePage(uint32_t number) {
+    if (m_index.mapPointer != 0) UsageMap(m_file, m_index.mapPointer).set(number, false);
+    GlobalMap(m_file).give(number);
+}
+
+// From the root to the leaf where `wanted` is or would be.
+IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
+    Path path;
+    uint32_t number = m_index.rootPage;
+    while (path.size() < maxDepth) {
+        const IndexPage page = load(number);
+        if (page.leaf) {
+            path.push_back({number, 0});
+            return path;
+        }
+        size_t at = page.lowerBound(wanted);
+        if (at == page.count() && page.tail == 0)
+            failDamaged(QStringLiteral("la pagina di indice %1 non ha un ultimo ramo").arg(number));
+        path.push_back({number, at});
+        number = page.child(at);
+    }
+    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+}
+
+// Other programs store nodes with a prefix. Those on the way that are too full without one are cut up first.
+IndexTree::Path IndexTree::descendForChange(std::span<const uint8_t> wanted) {
+    for (;;) {
+        const Path path = descend(wanted);
+        const auto tooFull = std::find_if(path.begin(), path.end(),
+                                          [this](const Step& step) { return !load(step.number).fits(); });
+        if (tooFull == path.end()) return path;
+        place(path, static_cast<size_t>(tooFull - path.begin()), load(tooFull->number), false);
+    }
+}
+
+std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
+    const Bytes wanted = entryOf(key, {});
+    uint32_t number = descend(wanted).back().number;
+    for (uint32_t hops = 0; hops <= m_file.pageCount(); ++hops) {
+        const IndexPage leaf = load(number);
+        const size_t at = leaf.lowerBound(wanted);
+        if (at < leaf.count()) {
+            const auto found = leaf.keyAndRow(at);
+            const auto foundKey = found.first(found.size() - index::rowIdLength);
+            if (!std::equal(foundKey.begin(), foundKey.end(), key.begin(), key.end())) return std::nullopt;
+            return rowOf(found);
+        }
+        if (leaf.next == 0) return std::nullopt;
+        number = leaf.next;
+    }
+    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+}
+
+std::optional<Bytes> IndexTree::lastKey() const {
+    uint32_t number = m_index.rootPage;
+    for (size_t depth = 0; depth < maxDepth; ++depth) {
+        const IndexPage page = load(number);
+        if (!page.leaf) {
+            number = page.tail != 0 ? page.tail : page.child(page.count() - 1);
+            continue;
+        }
+        if (page.count() == 0) return std::nullopt;
+        const auto last = page.keyAndRow(page.count() - 1);
+        return copyOf(last.first(last.size() - index::rowIdLength));
+    }
+    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+}
+
+void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
+    const Bytes entry = entryOf(key, row);
+    const Path path = descendForChange(entry);
+    IndexPage leaf = load(path.back().number);
+    const size_t at = leaf.lowerBound(entry);
+    if (at < leaf.count() && compareEntries(leaf.keyAndRow(at), entry) == 0)
+        failDamaged(QStringLiteral("un indice di \"%1\" contiene già la riga").arg(m_definition.name));
+    leaf.insert(at, entry);
+    const bool atEnd = leaf.next == 0 && at + 1 == leaf.count();
+    place(path, path.size() - 1, std::move(leaf), atEnd);
+}
+
+// Cuts a page that is too full into pages that are not. At the right end of the index all but the last
+// entries stay together, since more are likely to follow; elsewhere a page is halved.
+std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, bool atEnd) {
+    if (page.fits()) return {{std::move(page), std::move(greatest)}};
+    const size_t count = page.count();
+    if (count < 4) failDamaged(QStringLiteral("le voci di un indice sono troppo lunghe"));
+    IndexPage right;
+    right.leaf = page.leaf;
+    right.level = page.level;
+    right.tail = page.tail;
+    Bytes middle;
+    if (page.leaf) {
+        const size_t at = atEnd ? count - 1 : count / 2;
+        page.moveTail(at, right);
+        middle = copyOf(page.keyAndRow(at - 1));
+    } else {
+        // The entry at the cut moves up; its child becomes the left page's tail.
+        const size_t at = atEnd ? count - 2 : count / 2;
+        page.moveTail(at + 1, right);
+        middle = copyOf(page.keyAndRow(at));
+        page.tail = page.child(at);
+        page.erase(at);
+    }
+    std::vector<Part> parts = divide(std::move(page), std::move(middle), false);
+    std::vector<Part> rest = divide(std::move(right), std::move(greatest), false);
+    std::move(rest.begin(), rest.end(), std::back_inserter(parts));
+    return parts;
+}
+
+// Stores a changed page, cut up if it has become too full.
+void IndexTree::place(const Path& path, size_t depth, IndexPage page, bool atEnd) {
+    const uint32_t number = path[depth].number;
+    if (page.fits()) return store(number, page);
+    const uint32_t next = page.next;
+    const uint32_t previous = page.previous;
+    const uint8_t level = page.leaf ? uint8_t{0} : std::max<uint8_t>(page.level, 1);
+    std::vector<Part> parts = divide(std::move(page), {}, atEnd);
+    if (depth == 0) return growRoot(std::move(parts), static_cast<uint8_t>(level + 1));
+
+    std::vector<uint32_t> numbers{number};
+    while (numbers.size() < parts.size())
+        numbers.push_back(takePage());
+    for (size_t i = 0; i < parts.size(); ++i) {
+        parts[i].page.previous = i == 0 ? previous : numbers[i - 1];
+        parts[i].page.next = i + 1 < parts.size() ? numbers[i + 1] : next;
+        store(numbers[i], parts[i].page);
+    }
+    if (next != 0) link(next, index::previous, numbers.back());
+    // The last part takes the old page's place above; the others are listed before it.
+    const Step& above = path[depth - 1];
+    IndexPage parent = load(above.number);
+    if (above.child < parent.count()) {
+        const Bytes greatest = copyOf(parent.keyAndRow(above.child));
+        parent.erase(above.child);
+        parent.insert(above.child, nodeEntry(greatest, numbers.back()));
+    } else {
+        parent.tail = numbers.back();
+    }
+    for (size_t i = 0; i + 1 < parts.size(); ++i)
+        parent.insert(above.child + i, nodeEntry(parts[i].greatest, numbers[i]));
+    const bool parentAtEnd = atEnd && parent.next == 0;
+    place(path, depth - 1, std::move(parent), parentAtEnd);
+}
+
+// Rule T4.
+void IndexTree::growRoot(std::vector<Part> parts, uint8_t level) {
+    std::vector<uint32_t> numbers;
+    while (numbers.size() < parts.size())
+        numbers.push_back(takePage());
+    IndexPage root;
+    root.leaf = false;
+    root.level = level;
+    root.tail = numbers.back();
+    for (size_t i = 0; i < parts.size(); ++i) {
+        parts[i].page.previous = i == 0 ? 0 : numbers[i - 1];
+        parts[i].page.next = i + 1 < parts.size() ? numbers[i + 1] : 0;
+        store(numbers[i], parts[i].page);
+        if (i + 1 < parts.size()) root.insert(i, nodeEntry(parts[i].greatest, numbers[i]));
+    }
+    store(m_index.rootPage, root);
+}
+
+void IndexTree::erase(std::span<const uint8_t> key, RowId row) {
+    const Bytes entry = entryOf(key, row);
+    const Path path = descendForChange(entry);
+    const size_t depth = path.size() - 1;
+    IndexPage leaf = load(path[depth].number);
+    const size_t at = leaf.lowerBound(entry);
+    if (at == leaf.count() || compareEntries(leaf.keyAndRow(at), entry) != 0)
+        failDamaged(QStringLiteral("in un indice di \"%1\" manca una riga").arg(m_definition.name));
+    leaf.erase(at);
+    if (leaf.count() == 0 && depth > 0) {
+        removeEmpty(path, depth);
+        shrinkRoot();
+        return;
+    }
+    const bool wasLast = at == leaf.count() && at > 0;
+    const Bytes greatest = wasLast ? copyOf(leaf.keyAndRow(at - 1)) : Bytes();
+    // Without an entry the common prefix can only become longer, so the leaf fits.
+    store(path[depth].number, leaf);
+    if (wasLast) greatestChanged(path, depth, greatest);
+}
+
+// Rule T2, upwards from the page at `depth`, whose greatest entry is another one now.
+void IndexTree::greatestChanged(const Path& path, size_t depth, const Bytes& greatest) {
+    for (; depth > 0; --depth) {
+        const Step& above = path[depth - 1];
+        IndexPage parent = load(above.number);
+        if (above.child >= parent.count()) continue;  // the tail: it is the parent's greatest as well
+        parent.erase(above.child);
+        parent.insert(above.child, nodeEntry(greatest, path[depth].number));
+        return place(path, depth - 1, std::move(parent), false);
+    }
+}
+
+// Takes out the page at `depth`, below which nothing is left.
+void IndexTree::removeEmpty(const Path& path, size_t depth) {
+    const uint32_t number = path[depth].number;
+    const IndexPage page = load(number);
+    if (page.previous != 0) link(page.previous, index::next, page.next);
+    if (page.next != 0) link(page.next, index::previous, page.previous);
+    givePage(number);
+
+    const Step& above = path[depth - 1];
+    IndexPage parent = load(above.number);
+    if (above.child < parent.count()) {
+        parent.erase(above.child);
+        return store(above.number, parent);
+    }
+    if (parent.count() == 0) {
+        if (depth > 1) return removeEmpty(path, depth - 1);
+        return store(m_index.rootPage, IndexPage());
+    }
+    const size_t last = parent.count() - 1;
+    const Bytes greatest = copyOf(parent.keyAndRow(last));
+    parent.tail = parent.child(last);
+    parent.erase(last);
+    store(above.number, parent);
+    greatestChanged(path, depth - 1, greatest);
+}
+
+// Rule T4.
+void IndexTree::shrinkRoot() {
+    for (;;) {
+        const IndexPage root = load(m_index.rootPage);
+        if (root.leaf || root.count() > 0) return;
+        IndexPage child = load(root.tail);
+        child.previous = child.next = 0;
+        givePage(root.tail);
+        store(m_index.rootPage, child);
+    }
+}
+
+}  // namespace jet

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/jet/Database.h"
+#include "platform/jet/IndexPage.h"
+#include "platform/jet/PageFile.h"
+
+namespace jet {
+
+/// One index of a table as a tree of pages over whole keys. Knows nothing of how a key is made of values.
+/// Members throw Failure.
+///
+/// Rules that every change keeps:
+///   T1 entries rise strictly, by key and row id, over the whole index
+///   T2 a node lists each child but the last with the greatest entry below it; the last child is its tail
+///   T3 pages of one level are chained in order, both ways
+///   T4 the root keeps its page number: when it is full, its content goes to new pages below it, and when
+///   only a
+///      tail is left, that child's content comes up
+///   T5 the index's map holds just the pages of the tree
+class IndexTree {
+  public:
+    IndexTree(PageFile& file, const TableDefinition& definition, const Index& index)
+        : m_file(file), m_definition(definition), m_index(index) {}
+
+    /// Row of the first entry with exactly that key.
+    std::optional<RowId> find(std::span<const uint8_t> key) const;
+    /// Greatest key of the index.
+    std::optional<Bytes> lastKey() const;
+    void insert(std::span<const uint8_t> key, RowId row);
+    void erase(std::span<const uint8_t> key, RowId row);
+
+  private:
+    /// A page on the way down: which child was taken (count() of the page = its tail).
+    struct Step {
+        uint32_t number = 0;
+        size_t child = 0;
+    };
+    using Path = std::vector<Step>;
+    struct Part {
+        IndexPage page;
+        Bytes greatest;
+    };
+
+    IndexPage load(uint32_t number) const;
+    void store(uint32_t number, const IndexPage& page);
+    uint32_t takePage();
+    void givePage(uint32_t number);
+    void link(uint32_t number, size_t field, uint32_t value);
+    Path descend(std::span<const uint8_t> wanted) const;
+    Path descendForChange(std::span<const uint8_t> wanted);
+    void place(const Path& path, size_t depth, IndexPage page, bool atEnd);
+    void growRoot(std::vector<Part> parts, uint8_t level);
+    void greatestChanged(const Path& path, size_t depth, const Bytes& greatest);
+    void removeEmpty(const Path& path, size_t depth);
+    void shrinkRoot();
+    static std::vector<Part> divide(IndexPage page, Bytes greatest, bool atEnd);
+
+    PageFile& m_file;
+    const TableDefinition& m_definition;
+    const Index& m_index;
+};
+
+}  // namespace jet

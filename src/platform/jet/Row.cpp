@@ -1,0 +1,179 @@
+#include "platform/jet/Row.h"
+
+#include <algorithm>
+
+#include "platform/jet/Failure.h"
+#include "platform/jet/Format.h"
+#include "platform/jet/ValueCodec.h"
+
+namespace jet {
+
+namespace {
+
+size_t maskLength(size_t columns) {
+    return (columns + 7) / 8;
+}
+
+// The parts of a stored row.
+struct Parts {
+    std::span<const uint8_t> row;
+    size_t columns = 0;
+    size_t maskAt = 0;
+    size_t variables = 0;
+    bool valid = false;
+
+    Parts(const TableDefinition& definition, std::span<const uint8_t> bytes) : row(bytes) {
+        if (row.size() < 3) return;
+        columns = load16(row.data());
+        const size_t mask = maskLength(columns);
+        if (row.size() < 2 + mask) return;
+        maskAt = row.size() - mask;
+        if (definition.variableColumns > 0) {
+            if (maskAt < 4) return;
+            variables = load16(&row[maskAt - 2]);
+            // count, offsets and their number must find room
+            if (2 + 2 * (variables + 2) > maskAt) return;
+        }
+        valid = true;
+    }
+
+    // Entry k of the offsets; k up to `variables`.
+    size_t offset(size_t k) const { return load16(&row[maskAt - 2 - 2 * (k + 1)]); }
+    size_t offsetsAt() const { return maskAt - 2 - 2 * (variables + 1); }
+    bool mask(size_t number) const {
+        return number < columns && row[maskAt + number / 8] >> (number % 8) & 1;
+    }
+};
+
+std::span<const uint8_t> variable(const Parts& parts, size_t k) {
+    if (k >= parts.variables) return {};
+    const size_t start = parts.offset(k);
+    const size_t end = parts.offset(k + 1);
+    if (start < 2 || start > end || end > parts.offsetsAt()) return {};
+    return parts.row.subspan(start, end - start);
+}
+
+}  // namespace
+
+bool maskBit(const Column& column, std::span<const uint8_t> row) {
+    if (row.size() < 3) return false;
+    const size_t columns = load16(row.data());
+    const size_t mask = maskLength(columns);
+    if (column.number >= columns || row.size() < 2 + mask) return false;
+    return row[row.size() - mask + column.number / 8] >> (column.number % 8) & 1;
+}
+
+StoredField storedField(const TableDefinition& definition, const Column& column,
+                        std::span<const uint8_t> row) {
+    const Parts parts(definition, row);
+    if (!parts.valid || !parts.mask(column.number)) return {};
+    if (!column.fixed) {
+        if (column.variableIndex >= parts.variables) return {};
+        return {false, variable(parts, column.variableIndex)};
+    }
+    const size_t length = fixedLength(column);
+    const size_t start = size_t{2} + column.fixedOffset;
+    if (start + length > parts.maskAt) return {};
+    return {false, row.subspan(start, length)};
+}
+
+Row::Row(const TableDefinition& definition) : m_definition(&definition) {
+    size_t fixed = 0;
+    for (const Column& column : definition.columns)
+        if (column.fixed) fixed = std::max(fixed, column.fixedOffset + fixedLength(column));
+    m_fixed.resize(fixed);
+    m_variable.resize(definition.variableColumns);
+    m_mask.resize(maskLength(definition.maxColumns));
+}
+
+Row::Row(const TableDefinition& definition, std::span<const uint8_t> bytes) : Row(definition) {
+    const Parts parts(definition, bytes);
+    const auto damaged = [&] {
+        failDamaged(QStringLiteral("una riga di \"%1\" non è leggibile").arg(definition.name));
+    };
+    if (!parts.valid || parts.columns > definition.maxColumns) damaged();
+    const size_t fixedEnd = definition.variableColumns > 0 ? parts.offset(0) : parts.maskAt;
+    if (fixedEnd < 2 || fixedEnd > parts.maskAt) damaged();
+    const size_t stored = fixedEnd - 2;
+    if (m_fixed.size() < stored) m_fixed.resize(stored);
+    std::copy_n(bytes.begin() + 2, stored, m_fixed.begin());
+    if (m_variable.size() < parts.variables) m_variable.resize(parts.variables);
+    for (size_t k = 0; k < parts.variables; ++k) {
+        if (parts.offset(k) > parts.offset(k + 1) || parts.offset(k + 1) > parts.offsetsAt()) damaged();
+        const auto value = variable(parts, k);
+        m_variable[k].assign(value.begin(), value.end());
+    }
+    std::copy(bytes.begin() + static_cast<ptrdiff_t>(parts.maskAt), bytes.end(), m_mask.begin());
+}
+
+bool Row::isNull(const Column& column) const {
+    return (m_mask[column.number / 8] >> (column.number % 8) & 1) == 0;
+}
+
+std::optional<int32_t> Row::longValue(const Column& column) const {
+    if (isNull(column)) return std::nullopt;
+    if (column.fixed) return static_cast<int32_t>(load32(&m_fixed[column.fixedOffset]));
+    const Bytes& stored = m_variable[column.variableIndex];
+    if (stored.size() < 4) return std::nullopt;
+    return static_cast<int32_t>(load32(stored.data()));
+}
+
+void Row::setMask(const Column& column, bool present) {
+    const uint8_t bit = static_cast<uint8_t>(1u << (column.number % 8));
+    if (present)
+        m_mask[column.number / 8] |= bit;
+    else
+        m_mask[column.number / 8] &= static_cast<uint8_t>(~bit);
+}
+
+bool Row::set(const Column& column, const Value& value) {
+    const bool wasNull = isNull(column);
+    if (column.type == Type::YesNo) {
+        const bool yes = yesNoValue(column, value);
+        setMask(column, yes);
+        return yes == wasNull;
+    }
+    const std::optional<Bytes> encoded = encodeValue(column, value);
+    setMask(column, encoded.has_value());
+    if (column.fixed) {
+        if (!encoded) return !wasNull;  // the bytes in the fixed area have no meaning now
+        const auto place = m_fixed.begin() + column.fixedOffset;
+        const bool same = !wasNull && std::equal(encoded->begin(), encoded->end(), place);
+        std::copy(encoded->begin(), encoded->end(), place);
+        return !same;
+    }
+    Bytes& place = m_variable[column.variableIndex];
+    const Bytes now = encoded.value_or(Bytes());
+    const bool same = wasNull == !encoded && place == now;
+    place = now;
+    return !same;
+}
+
+std::vector<uint8_t> Row::bytes() const {
+    std::vector<uint8_t> out(2);
+    store16(out.data(), m_definition->maxColumns);
+    out.insert(out.end(), m_fixed.begin(), m_fixed.end());
+    if (m_definition->variableColumns > 0) {
+        std::vector<size_t> offsets;
+        for (const Bytes& value : m_variable) {
+            offsets.push_back(out.size());
+            out.insert(out.end(), value.begin(), value.end());
+        }
+        offsets.push_back(out.size());
+        size_t at = out.size();
+        out.resize(out.size() + 2 * offsets.size() + 2);
+        for (size_t k = offsets.size(); k-- > 0; at += 2)
+            store16(&out[at], static_cast<uint32_t>(offsets[k]));
+        store16(&out[at], static_cast<uint32_t>(m_variable.size()));
+    }
+    out.insert(out.end(), m_mask.begin(), m_mask.end());
+    if (out.size() > data::maxRow)
+        fail(ErrorCode::RecordTooLarge,
+             QStringLiteral("Il record è troppo grande per la tabella \"%1\" (%2 byte; al massimo %3).")
+                 .arg(m_definition->name)
+                 .arg(out.size())
+                 .arg(data::maxRow));
+    return out;
+}
+
+}  // namespace jet

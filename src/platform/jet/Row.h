@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "platform/jet/TableDefinition.h"
+
+namespace jet {
+
+/// A row taken apart, for changing and writing. Row layout:
+///   u16 column count · fixed area · variable values · u16 offsets, backwards, one more than values ·
+///   u16 number of variable values · null mask, bit c = column number c is not Null
+/// The offsets and their number are missing in tables without variable columns. A yes/no column is its mask
+/// bit.
+class Row {
+  public:
+    /// A row of that table in which everything is Null.
+    explicit Row(const TableDefinition& definition);
+    /// Takes stored bytes apart, keeping also what belongs to columns that are not understood or no longer
+    /// there. Throws Failure when the row contradicts itself.
+    Row(const TableDefinition& definition, std::span<const uint8_t> bytes);
+
+    bool isNull(const Column& column) const;
+    /// The value of a long, nothing for Null.
+    std::optional<int32_t> longValue(const Column& column) const;
+    /// Stores a value; false when nothing changed by it. Throws Failure, naming the column, for a value that
+    /// the column cannot hold.
+    bool set(const Column& column, const Value& value);
+    /// The bytes to store. Throws Failure (RecordTooLarge) beyond what a row may hold.
+    std::vector<uint8_t> bytes() const;
+
+  private:
+    void setMask(const Column& column, bool present);
+
+    const TableDefinition* m_definition;
+    std::vector<uint8_t> m_fixed;
+    std::vector<Bytes> m_variable;
+    std::vector<uint8_t> m_mask;
+};
+
+/// Stored bytes of one column in a row, for reading only.
+struct StoredField {
+    bool null = true;
+    std::span<const uint8_t> bytes = {};
+};
+/// Null for whatever the row does not hold or what lies outside it.
+StoredField storedField(const TableDefinition& definition, const Column& column,
+                        std::span<const uint8_t> row);
+/// The mask bit of a column.
+bool maskBit(const Column& column, std::span<const uint8_t> row);
+
+/// Bytes that a column takes in the fixed area.
+size_t fixedLength(const Column& column);
+/// Value of stored bytes. Bytes too short for their type are Null.
+Value decodeValue(const Column& column, std::span<const uint8_t> bytes);
+
+}  // namespace jet

@@ -1,0 +1,162 @@
+#include "platform/jet/RowStore.h"
+
+#include "platform/jet/DataPages.h"
+#include "platform/jet/Failure.h"
+#include "platform/jet/UsageMap.h"
+
+namespace jet {
+
+namespace {
+
+// A page with less room than this that could not take a row leaves the map of pages with room; it returns
+// when it has so much again. Other programs leave out pages with up to 371 free bytes.
+constexpr size_t roomWorthKeeping = 372;
+
+// So many pages with some room are tried before a new one is taken.
+constexpr int pagesTried = 16;
+
+void storePointer(Page& page, RowId slot, RowId body) {
+    const std::span<uint8_t> bytes = rowBytes(page, slot.page, slot.slot);
+    bytes[0] = body.slot;
+    store24(&bytes[1], body.page);
+}
+
+}  // namespace
+
+DataPageView RowStore::view(const Page& page, uint32_t number) const {
+    const DataPageView view(page, number);
+    if (view.owner() != m_definition.page)
+        failDamaged(QStringLiteral("la pagina %1 non appartiene alla tabella \"%2\"")
+                        .arg(number)
+                        .arg(m_definition.name));
+    return view;
+}
+
+RowStore::Stored RowStore::body(RowId id, std::span<const uint8_t> pointer) const {
+    if (pointer.size() < 4)
+        failDamaged(QStringLiteral("la riga %1 della pagina %2 non dice dove è").arg(id.slot).arg(id.page));
+    const RowId place{load24(&pointer[1]), pointer[0]};
+    PagePtr bodyPage = m_file.page(place.page);
+    const DataPageView rows = view(*bodyPage, place.page);
+    if (rows.flags(place.slot) != data::notARow)
+        failDamaged(QStringLiteral("la riga %1 della pagina %2 si è persa").arg(id.slot).arg(id.page));
+    const std::span<const uint8_t> bytes = rows.bytes(place.slot);
+    return {std::move(bodyPage), bytes, place};
+}
+
+void RowStore::scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const {
+    UsageMap(m_file, m_definition.ownedMap).forEach([&](uint32_t number) {
+        const PagePtr page = m_file.page(number);
+        const DataPageView rows = view(*page, number);
+        for (size_t slot = 0; slot < rows.count(); ++slot) {
+            const uint16_t flags = rows.flags(slot);
+            if ((flags & data::notARow) != 0) continue;
+            const RowId id{number, static_cast<uint8_t>(slot)};
+            const std::span<const uint8_t> bytes = rows.bytes(slot);
+            const bool more =
+                (flags & data::pointer) != 0 ? visit(id, body(id, bytes).bytes) : visit(id, bytes);
+            if (!more) return false;
+        }
+        return true;
+    });
+}
+
+std::optional<RowStore::Stored> RowStore::find(RowId id) const {
+    if (id.page >= m_file.pageCount()) return std::nullopt;
+    PagePtr page = m_file.page(id.page);
+    if ((*page)[0] != DataPage || load32(&(*page)[data::owner]) != m_definition.page) return std::nullopt;
+    const DataPageView rows(*page, id.page);
+    const uint16_t flags = rows.flags(id.slot);
+    if (id.slot >= rows.count() || (flags & data::notARow) != 0) return std::nullopt;
+    const std::span<const uint8_t> bytes = rows.bytes(id.slot);
+    if ((flags & data::pointer) != 0) return body(id, bytes);
+    return Stored{std::move(page), bytes, id};
+}
+
+std::optional<uint32_t> RowStore::pageWithRoom(size_t length) {
+    UsageMap room(m_file, m_definition.roomMap);
+    if (m_lastPage != 0 && room.contains(m_lastPage)) {
+        const PagePtr page = m_file.page(m_lastPage);
+        if (view(*page, m_lastPage).fits(length)) return m_lastPage;
+    }
+
+    std::optional<uint32_t> found;
+    std::vector<uint32_t> full;
+    int tried = 0;
+    room.forEach([&](uint32_t number) {
+        const PagePtr page = m_file.page(number);
+        const DataPageView rows = view(*page, number);
+        if (rows.fits(length)) {
+            found = number;
+            return false;
+        }
+        if (rows.freeBytes() < roomWorthKeeping || rows.count() >= data::maxSlots) full.push_back(number);
+        return ++tried < pagesTried;
+    });
+    for (uint32_t number : full)
+        room.set(number, false);
+    return found;
+}
+
+RowId RowStore::put(std::span<const uint8_t> row, uint16_t flags) {
+    std::optional<uint32_t> number = pageWithRoom(row.size());
+    if (!number) {
+        number = GlobalMap(m_file).take();
+        makeDataPage(m_file.change(*number), m_definition.page);
+        UsageMap(m_file, m_definition.ownedMap).set(*number, true);
+        UsageMap(m_file, m_definition.roomMap).set(*number, true);
+    }
+    m_lastPage = *number;
+    return {*number, appendRow(m_file.change(*number), *number, row, flags)};
+}
+
+// False when the page has no room for the longer row.
+bool RowStore::replaceAt(RowId place, std::span<const uint8_t> row, uint16_t flags) {
+    const PagePtr page = m_file.page(place.page);
+    const DataPageView rows = view(*page, place.page);
+    const size_t oldLength = rows.bytes(place.slot).size();
+    if (row.size() > oldLength + rows.freeBytes()) return false;
+    Page& changed = m_file.change(place.page);
+    if (row.size() != oldLength) resizeRow(changed, place.page, place.slot, row.size(), flags);
+    const std::span<uint8_t> bytes = rowBytes(changed, place.page, place.slot);
+    std::copy(row.begin(), row.end(), bytes.begin());
+    if (row.size() < oldLength) noteRoom(place.page);
+    return true;
+}
+
+void RowStore::update(RowId id, std::span<const uint8_t> row) {
+    const std::optional<Stored> old = find(id);
+    if (!old) failDamaged(QStringLiteral("una riga di \"%1\" è sparita").arg(m_definition.name));
+    const bool moved = old->place != id;
+    if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
+    const RowId body = put(row, data::notARow);
+    if (moved) {
+        remove(old->place);
+    } else {
+        resizeRow(m_file.change(id.page), id.page, id.slot, 4, data::pointer);
+        noteRoom(id.page);
+    }
+    storePointer(m_file.change(id.page), id, body);
+}
+
+void RowStore::erase(RowId id) {
+    const std::optional<Stored> old = find(id);
+    if (!old) failDamaged(QStringLiteral("una riga di \"%1\" è sparita").arg(m_definition.name));
+    if (old->place != id) remove(old->place);
+    remove(id);
+}
+
+void RowStore::remove(RowId place) {
+    resizeRow(m_file.change(place.page), place.page, place.slot, 0, data::deleted);
+    noteRoom(place.page);
+}
+
+// Room has returned on a page.
+void RowStore::noteRoom(uint32_t number) {
+    const PagePtr page = m_file.page(number);
+    const DataPageView rows = view(*page, number);
+    if (rows.freeBytes() >= roomWorthKeeping && rows.count() < data::maxSlots)
+        UsageMap(m_file, m_definition.roomMap).set(number, true);
+}
+
+}  // namespace jet

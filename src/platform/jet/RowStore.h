@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+
+#include "platform/jet/Database.h"
+#include "platform/jet/DataPages.h"
+#include "platform/jet/PageFile.h"
+
+namespace jet {
+
+/// Rows of one table as bytes on data pages: where they lie, how they move. Knows nothing of columns and
+/// indexes. Members throw Failure.
+///
+/// A row's identity is the slot where it was first put. When it no longer fits there, its body goes to
+/// another page (slot flag 0x8000) and the slot keeps 4 bytes that point to it (flag 0x4000). There is never
+/// more than one hop.
+class RowStore {
+  public:
+    RowStore(PageFile& file, const TableDefinition& definition) : m_file(file), m_definition(definition) {}
+
+    /// Calls `visit` for each row in page order until it returns false.
+    void scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const;
+
+    /// Bytes of a row, valid as long as the page is held.
+    struct Stored {
+        PagePtr page;
+        std::span<const uint8_t> bytes;
+        RowId place;  ///< where the bytes lie: the row's identity, or its body's place when it has moved
+    };
+    std::optional<Stored> find(RowId id) const;
+
+    RowId insert(std::span<const uint8_t> row) { return put(row, 0); }
+    /// Replaces the bytes of a row that exists, where they are if there is room.
+    void update(RowId id, std::span<const uint8_t> row);
+    void erase(RowId id);
+    /// Drops what was remembered, after pages were changed by somebody else.
+    void forget() { m_lastPage = 0; }
+
+  private:
+    DataPageView view(const Page& page, uint32_t number) const;
+    Stored body(RowId id, std::span<const uint8_t> pointer) const;
+    RowId put(std::span<const uint8_t> row, uint16_t flags);
+    std::optional<uint32_t> pageWithRoom(size_t length);
+    void remove(RowId place);
+    void noteRoom(uint32_t number);
+    bool replaceAt(RowId place, std::span<const uint8_t> row, uint16_t flags);
+
+    PageFile& m_file;
+    const TableDefinition& m_definition;
+    uint32_t m_lastPage = 0;  ///< took the last new row; tried first
+};
+
+}  // namespace jet

@@ -1,0 +1,54 @@
+#include "platform/jet/Database.h"
+#include "platform/jet/Format.h"
+#include "platform/jet/JetText.h"
+#include "platform/jet/Row.h"
+
+namespace jet {
+
+bool RowView::isNull(size_t column) const {
+    const Column& c = m_definition->columns[column];
+    return c.type != Type::YesNo && storedField(*m_definition, c, m_bytes).null;
+}
+
+bool RowView::yesNo(size_t column) const {
+    return maskBit(m_definition->columns[column], m_bytes);
+}
+
+int64_t RowView::integer(size_t column) const {
+    const Column& c = m_definition->columns[column];
+    const StoredField field = storedField(*m_definition, c, m_bytes);
+    if (field.null || field.bytes.size() < fixedLength(c)) return 0;
+    switch (c.type) {
+        case Type::Byte:
+            return field.bytes[0];
+        case Type::Integer:
+            return static_cast<int16_t>(load16(field.bytes.data()));
+        case Type::Long:
+            return static_cast<int32_t>(load32(field.bytes.data()));
+        default:
+            return 0;
+    }
+}
+
+bool RowView::text(size_t column, std::string& out) const {
+    const StoredField field = storedField(*m_definition, m_definition->columns[column], m_bytes);
+    if (!field.null) appendUtf8(field.bytes, out);
+    return !field.null;
+}
+
+Value RowView::value(size_t column) const {
+    const Column& c = m_definition->columns[column];
+    if (c.type == Type::YesNo) return maskBit(c, m_bytes);
+    const StoredField field = storedField(*m_definition, c, m_bytes);
+    if (field.null) return {};
+    if (c.type == Type::Memo || c.type == Type::Ole) {
+        // 12 bytes: length, place, pointer; the bytes themselves only follow at place 2.
+        if (field.bytes.size() < 12 || field.bytes[3] >> 6 != 2) return {};
+        const size_t length = load32(field.bytes.data()) & 0x3FFFFFFF;
+        const auto rest = field.bytes.subspan(12);
+        return decodeValue(c, rest.first(std::min(rest.size(), length)));
+    }
+    return decodeValue(c, field.bytes);
+}
+
+}  // namespace jet

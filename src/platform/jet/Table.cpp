@@ -1,0 +1,93 @@
+#include <algorithm>
+
+#include "platform/jet/DefinitionReader.h"
+#include "platform/jet/Engine.h"
+#include "platform/jet/IndexTree.h"
+#include "platform/jet/Key.h"
+#include "platform/jet/LongValue.h"
+#include "platform/jet/Row.h"
+
+namespace jet {
+
+Table::Table(std::unique_ptr<TableState> state) : m_state(std::move(state)) {}
+
+Table::~Table() = default;
+
+TableState::TableState(Engine& sharedEngine, const QString& name, uint32_t page)
+    : engine(sharedEngine),
+      file(sharedEngine.file),
+      structure(readDefinition(file, page)),
+      definition(parseDefinition(structure, name, page)),
+      generation(file.generation()),
+      rows(file, definition) {
+    clearCounters(structure);
+}
+
+void TableState::ensureCurrent() {
+    if (generation == file.generation()) return;
+    Bytes now = readDefinition(file, definition.page);
+    clearCounters(now);
+    if (now != structure)
+        fail(ErrorCode::FileInUse,
+             QStringLiteral("La struttura della tabella \"%1\" è stata cambiata da un altro programma.")
+                 .arg(definition.name));
+    generation = file.generation();
+    rows.forget();
+    autoNumberChecked = false;
+}
+
+const TableDefinition& Table::definition() const {
+    return m_state->definition;
+}
+
+Status Table::scan(const std::function<bool(RowId, const RowView&)>& visit) {
+    return guarded([&]() -> Status {
+        const Reading reading(m_state->file);
+        m_state->ensureCurrent();
+        m_state->rows.scan([&](RowId id, std::span<const uint8_t> bytes) {
+            return visit(id, RowView(&m_state->definition, bytes));
+        });
+        return {};
+    });
+}
+
+Result<std::optional<RowView>> Table::row(RowId id) {
+    using Answer = Result<std::optional<RowView>>;
+    return guarded([&]() -> Answer {
+        const Reading reading(m_state->file);
+        m_state->ensureCurrent();
+        std::optional<RowStore::Stored> stored = m_state->rows.find(id);
+        if (!stored) return std::optional<RowView>();
+        m_state->borrowed = std::move(stored->page);
+        return std::optional(RowView(&m_state->definition, stored->bytes));
+    });
+}
+
+Result<Value> Table::value(RowId id, size_t column) {
+    return guarded([&]() -> Result<Value> {
+        const Reading reading(m_state->file);
+        m_state->ensureCurrent();
+        const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
+        if (!stored) fail(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+        const Column& c = m_state->definition.columns[column];
+        if (c.type != Type::Memo && c.type != Type::Ole)
+            return RowView(&m_state->definition, stored->bytes).value(column);
+        const StoredField field = storedField(m_state->definition, c, stored->bytes);
+        if (field.null) return Value();
+        return decodeValue(c, readLongValue(m_state->file, field.bytes));
+    });
+}
+
+Result<std::optional<RowId>> Table::findByPrimaryKey(int32_t key) {
+    return guarded([&]() -> Result<std::optional<RowId>> {
+        const Reading reading(m_state->file);
+        m_state->ensureCurrent();
+        for (const Index& index : m_state->definition.indexes)
+            if (index.primaryKey && m_state->definition.longPrimaryKey())
+                return IndexTree(m_state->file, m_state->definition, index).find(longKey(key, true));
+        fail(ErrorCode::NotSupported, QStringLiteral("La tabella \"%1\" non ha una chiave primaria numerica.")
+                                          .arg(m_state->definition.name));
+    });
+}
+
+}  // namespace jet

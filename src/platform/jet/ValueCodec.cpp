@@ -1,0 +1,208 @@
+#include "platform/jet/ValueCodec.h"
+
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include "platform/jet/Failure.h"
+#include "platform/jet/Format.h"
+#include "platform/jet/JetText.h"
+#include "platform/jet/Row.h"
+
+namespace jet {
+
+namespace {
+
+template <class Wanted>
+const Wanted& expect(const Column& column, const Value& value) {
+    if (const Wanted* wanted = std::get_if<Wanted>(&value)) return *wanted;
+    fail(ErrorCode::TypeMismatch,
+         QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".").arg(column.name));
+}
+
+int64_t integerIn(const Column& column, const Value& value, int64_t least, int64_t greatest) {
+    const bool* truth = std::get_if<bool>(&value);
+    const int64_t number = truth ? -int64_t{*truth} : expect<int64_t>(column, value);
+    if (number < least || number > greatest)
+        fail(ErrorCode::Overflow,
+             QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+    return number;
+}
+
+double realOf(const Column& column, const Value& value) {
+    if (const int64_t* number = std::get_if<int64_t>(&value)) return static_cast<double>(*number);
+    return expect<double>(column, value);
+}
+
+Bytes littleEndian(uint64_t bits, size_t length) {
+    Bytes bytes(length);
+    for (size_t i = 0; i < length; ++i)
+        bytes[i] = static_cast<uint8_t>(bits >> (8 * i));
+    return bytes;
+}
+
+Bytes singleBytes(const Column& column, double number) {
+    if (std::isfinite(number) && std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+        fail(ErrorCode::Overflow,
+             QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+    return littleEndian(std::bit_cast<uint32_t>(static_cast<float>(number)), 4);
+}
+
+Bytes textBytes(const Column& column, const std::string& utf8) {
+    const std::u16string text = toUtf16(utf8);
+    if (text.size() > column.length / 2u)
+        fail(ErrorCode::FieldTooSmall,
+             QStringLiteral("Il campo \"%1\" è troppo piccolo per il testo (al massimo %2 caratteri).")
+                 .arg(column.name)
+                 .arg(column.length / 2));
+    if (std::optional<Bytes> bytes = encodeText(text, column.compressed)) return std::move(*bytes);
+    fail(ErrorCode::NotSupported,
+         QStringLiteral("Il testo del campo \"%1\" contiene caratteri che il database non può conservare.")
+             .arg(column.name));
+}
+
+Bytes rawBytes(const Column& column, const Value& value) {
+    const Bytes& bytes = expect<Bytes>(column, value);
+    const bool exact = column.fixed || column.type == Type::Guid || column.type == Type::Numeric;
+    const size_t wanted = exact && column.type != Type::Binary ? fixedLength(column) : column.length;
+    if (bytes.size() > wanted || (exact && bytes.size() != wanted))
+        fail(ErrorCode::FieldTooSmall,
+             QStringLiteral("Il campo \"%1\" non può contenere %2 byte.").arg(column.name).arg(bytes.size()));
+    return bytes;
+}
+
+}  // namespace
+
+size_t fixedLength(const Column& column) {
+    switch (column.type) {
+        case Type::YesNo:
+            return 0;
+        case Type::Byte:
+            return 1;
+        case Type::Integer:
+            return 2;
+        case Type::Long:
+        case Type::Single:
+            return 4;
+        case Type::Currency:
+        case Type::Double:
+        case Type::Date:
+            return 8;
+        case Type::Guid:
+            return 16;
+        case Type::Numeric:
+            return 17;
+        default:
+            return column.length;
+    }
+}
+
+bool isWritable(const Column& column, QString& why) {
+    switch (column.type) {
+        case Type::Memo:
+            why = QStringLiteral("è di tipo memo");
+            return false;
+        case Type::Ole:
+            why = QStringLiteral("contiene un oggetto OLE");
+            return false;
+        case Type::Text:
+            why = QStringLiteral("è un testo di lunghezza fissa");
+            return !column.fixed;
+        case Type::YesNo:
+        case Type::Byte:
+        case Type::Integer:
+        case Type::Long:
+        case Type::Currency:
+        case Type::Single:
+        case Type::Double:
+        case Type::Date:
+        case Type::Binary:
+        case Type::Guid:
+        case Type::Numeric:
+            return true;
+    }
+    why = QStringLiteral("è di un tipo sconosciuto (%1)").arg(static_cast<int>(column.type));
+    return false;
+}
+
+bool yesNoValue(const Column& column, const Value& value) {
+    if (std::holds_alternative<std::monostate>(value)) return false;
+    if (const int64_t* number = std::get_if<int64_t>(&value)) return *number != 0;
+    return expect<bool>(column, value);
+}
+
+std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
+    if (std::holds_alternative<std::monostate>(value)) return std::nullopt;
+    switch (column.type) {
+        case Type::Byte:
+            return littleEndian(static_cast<uint64_t>(integerIn(column, value, 0, 255)), 1);
+        case Type::Integer:
+            return littleEndian(static_cast<uint64_t>(integerIn(column, value, -32768, 32767)), 2);
+        case Type::Long:
+            return littleEndian(
+                static_cast<uint64_t>(integerIn(column, value, std::numeric_limits<int32_t>::min(),
+                                                std::numeric_limits<int32_t>::max())),
+                4);
+        case Type::Currency:
+            return littleEndian(static_cast<uint64_t>(expect<Currency>(column, value).tenThousandths), 8);
+        case Type::Single:
+            return singleBytes(column, realOf(column, value));
+        case Type::Double:
+            return littleEndian(std::bit_cast<uint64_t>(realOf(column, value)), 8);
+        case Type::Date:
+            return littleEndian(std::bit_cast<uint64_t>(expect<Date>(column, value).days), 8);
+        case Type::Text:
+            return textBytes(column, expect<std::string>(column, value));
+        case Type::Binary:
+        case Type::Guid:
+        case Type::Numeric:
+            return rawBytes(column, value);
+        default:
+            break;
+    }
+    QString why;
+    (void)isWritable(column, why);
+    fail(ErrorCode::NotSupported,
+         QStringLiteral("Il campo \"%1\" %2: non può essere modificato.").arg(column.name, why));
+}
+
+Value decodeValue(const Column& column, std::span<const uint8_t> bytes) {
+    const uint8_t* p = bytes.data();
+    switch (column.type) {
+        case Type::Text:
+        case Type::Memo: {
+            std::string text;
+            appendUtf8(bytes, text);
+            return text;
+        }
+        case Type::Byte:
+        case Type::Integer:
+        case Type::Long:
+        case Type::Currency:
+        case Type::Single:
+        case Type::Double:
+        case Type::Date:
+            if (bytes.size() < fixedLength(column)) return {};
+            break;
+        default:
+            return Bytes(bytes.begin(), bytes.end());
+    }
+    switch (column.type) {
+        case Type::Byte:
+            return int64_t{p[0]};
+        case Type::Integer:
+            return int64_t{static_cast<int16_t>(load16(p))};
+        case Type::Long:
+            return int64_t{static_cast<int32_t>(load32(p))};
+        case Type::Currency:
+            return Currency{static_cast<int64_t>(load64(p))};
+        case Type::Single:
+            return static_cast<double>(std::bit_cast<float>(load32(p)));
+        case Type::Date:
+            return Date{std::bit_cast<double>(load64(p))};
+        default:
+            return std::bit_cast<double>(load64(p));
+    }
+}
+
+}  // namespace jet

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/jet/TableDefinition.h"
+
+namespace jet {
+
+/// Bytes to store for a value, nothing for Null. Throws Failure for a value that the column cannot hold:
+/// another type (TypeMismatch), a number out of range (Overflow), text or bytes too long (FieldTooSmall), or
+/// a column that cannot be written (NotSupported); the text names the column.
+std::optional<Bytes> encodeValue(const Column& column, const Value& value);
+/// The value of a yes/no column; Null is False.
+bool yesNoValue(const Column& column, const Value& value);
+
+/// Whether the engine can store values in the column. If not, `why` completes "Il campo … ".
+bool isWritable(const Column& column, QString& why);
+
+}  // namespace jet
