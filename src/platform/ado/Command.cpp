@@ -56,7 +56,9 @@ Result<qint64> Command::execute() {
         if (const auto found = session.table(source); !found.ok()) return found.status();
     const Result<Prepared> prepared = session.prepare(statement.value().sql);
     if (!prepared.ok()) return prepared.status();
-    if (Status status = target.value()->writable(); !status.ok()) return status;
+    const bool changing = statement.value().verb == StatementText::Verb::Update;
+    if (Status status = changing ? target.value()->updatable({}) : target.value()->writable(); !status.ok())
+        return status;
     session.takeChanges();
     const Status status = session.write([&]() -> Status {
         const Deadline deadline(session.sqlite(), m_timeout);

@@ -317,13 +317,15 @@ int update(sqlite3_vtab* base, int count, sqlite3_value** arguments, sqlite3_int
     Status status;
     if (count == 1) {
         status = table.rows->erase(old);
-    } else if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
+    } else if (sqlite3_value_type(arguments[0]) == SQLITE_NULL &&
+               sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
         status = insertRow(*table.rows, arguments + 2);
-    } else if (sqlite3_value_int64(arguments[0]) == sqlite3_value_int64(arguments[1])) {
+    } else if (sqlite3_value_type(arguments[0]) != SQLITE_NULL &&
+               sqlite3_value_int64(arguments[0]) == sqlite3_value_int64(arguments[1])) {
         status = updateRow(*table.rows, old, arguments + 2);
     } else {
-        status = Status(ErrorCode::NotSupported,
-                        QStringLiteral("L'identità di un record non può essere modificata."));
+        status =
+            Status(ErrorCode::NotSupported, QStringLiteral("L'identità di un record non può essere scelta."));
     }
     if (!status.ok()) return table.session->fail(status);
     table.session->countChange();

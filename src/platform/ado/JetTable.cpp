@@ -65,6 +65,11 @@ Status JetTable::writable() {
     return target.ok() ? target.value()->writable() : target.status();
 }
 
+Status JetTable::updatable(std::span<const size_t> columns) {
+    const Result<jet::Table*> target = table();
+    return target.ok() ? target.value()->updatable(columns) : target.status();
+}
+
 Result<int32_t> JetTable::takeAutoNumber() {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
@@ -87,11 +92,6 @@ Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
 Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
-    for (const auto& [column, value] : changes)
-        if (m_definition.columns[column].autoNumber)
-            return {ErrorCode::NotSupported,
-                    QStringLiteral("Il campo contatore \"%1\" non può essere modificato.")
-                        .arg(m_definition.columns[column].name)};
     std::vector<std::pair<RowOrder*, std::string>> moved;
     Result<std::optional<jet::RowView>> row = target.value()->row(id);
     if (!row.ok()) return row.status();

@@ -30,6 +30,7 @@ class JetTable {
     Result<std::shared_ptr<const RowOrder>> order(const OrderSpec& spec);
 
     Status writable();
+    Status updatable(std::span<const size_t> columns);
     Result<int32_t> takeAutoNumber();
     Result<jet::RowId> insert(std::span<const jet::Value> values);
     Status update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes);

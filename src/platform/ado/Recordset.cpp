@@ -49,21 +49,23 @@ struct Recordset::Data {
 
     std::shared_ptr<Session> session;
     std::unique_ptr<Rows> rows;  ///< null when closed
-    size_t current = 0;  ///< one before the first is not needed: movement is forward or back to the first
+    size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
-    bool adding = false;
+    jet::Bytes bytes;      ///< of the current row, where rows are told by their identities
+    bool present = false;  ///< false: it was deleted since it was found
+
     Changes changes;
+    bool adding = false;
+    jet::RowId added;  ///< the row that was posted last
 
-    jet::RowId loadedRow;  ///< whose bytes `bytes` holds
-    jet::Bytes bytes;
-    bool loaded = false;
-
+    /// Whether there is a current row; it may have been deleted.
     bool onRow() const { return rows && !beforeFirst && current < rows->known(); }
     bool pending() const { return adding || !changes.empty(); }
     void drop() {
         adding = false;
         changes.clear();
     }
+    Status goTo(size_t row);
     Status load();
     Result<Value> field(size_t column);
     Status updatable() const;
@@ -102,13 +104,11 @@ Status Recordset::open() {
         return {ErrorCode::NotSupported, QStringLiteral("L'origine di un recordset deve essere una SELECT.")};
     auto rows = Rows::run(session.value(), statement.value());
     if (!rows.ok()) return rows.status();
-    if (Status status = rows.value()->reach(1); !status.ok()) return status;
     m_data->session = session.value();
     m_data->rows = std::move(rows).value();
-    m_data->current = 0;
-    m_data->beforeFirst = false;
-    m_data->loaded = false;
-    return {};
+    Status status = m_data->goTo(0);
+    if (!status.ok()) close();
+    return status;
 }
 
 void Recordset::close() {
@@ -124,6 +124,7 @@ bool Recordset::isOpen() const {
 bool Recordset::isBof() const {
     return !m_data->rows || m_data->beforeFirst || m_data->rows->known() == 0;
 }
+
 bool Recordset::isEof() const {
     return !m_data->rows || (!m_data->beforeFirst && !m_data->onRow());
 }
@@ -133,10 +134,7 @@ Status Recordset::moveFirst() {
     if (m_data->pending())
         if (Status status = update(); !status.ok()) return status;
     if (m_data->rows->known() == 0) return noCurrentRecord();
-    m_data->current = 0;
-    m_data->beforeFirst = false;
-    m_data->loaded = false;
-    return {};
+    return m_data->goTo(0);
 }
 
 Status Recordset::move(qint64 rows) {
@@ -146,18 +144,12 @@ Status Recordset::move(qint64 rows) {
         if (Status status = update(); !status.ok()) return status;
     if (rows == 0) return {};
     if ((rows > 0 && isEof()) || (rows < 0 && isBof())) return noCurrentRecord();
-    if (Status status = data.session->refresh(); !status.ok()) return status;
-    data.loaded = false;
     const qint64 from = data.beforeFirst ? -1 : static_cast<qint64>(data.current);
     if (rows < 0 && -rows > from) {
         data.beforeFirst = true;
         return {};
     }
-    const auto target = static_cast<size_t>(from + rows);
-    if (Status status = data.rows->reach(target + 1); !status.ok()) return status;
-    data.beforeFirst = false;
-    data.current = std::min(target, data.rows->known());
-    return {};
+    return data.goTo(static_cast<size_t>(from + rows));
 }
 
 qint64 Recordset::recordCount() {
@@ -183,14 +175,23 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
     return static_cast<size_t>(found - names.begin());
 }
 
+/// Makes that row the current one, or the end mark when there are not so many.
+Status Recordset::Data::goTo(size_t row) {
+    const jet::ReadScope reading(session->database());
+    if (!reading.status().ok()) return reading.status();
+    if (Status status = session->refresh(); !status.ok()) return status;
+    if (Status status = rows->reach(row + 1); !status.ok()) return status;
+    current = std::min(row, rows->known());
+    beforeFirst = false;
+    return load();
+}
+
 Status Recordset::Data::load() {
-    const jet::RowId id = rows->id(current);
-    if (loaded && loadedRow == id) return {};
-    const Result<bool> found = rows->table()->read(id, bytes);
+    present = false;
+    if (!onRow() || !rows->table()) return {};
+    const Result<bool> found = rows->table()->read(rows->id(current), bytes);
     if (!found.ok()) return found.status();
-    loaded = found.value();
-    loadedRow = id;
-    if (!loaded) return {ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato.")};
+    present = found.value();
     return {};
 }
 
@@ -202,12 +203,12 @@ Result<Value> Recordset::Data::field(size_t column) {
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
-    if (Status status = load(); !status.ok()) return status;
+    if (!present) return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const jet::Type type = definition.columns[column].type;
     if (type != jet::Type::Memo && type != jet::Type::Ole)
         return Value(jet::RowView(&definition, bytes).value(column));
-    Result<jet::Value> value = rows->table()->longValue(loadedRow, column);
+    Result<jet::Value> value = rows->table()->longValue(rows->id(current), column);
     if (!value.ok()) return value.status();
     return Value(std::move(value).value());
 }
@@ -229,7 +230,7 @@ Status Recordset::Data::updatable() const {
     if (!rows) return notOpen();
     if (lockType == LockType::ReadOnly || !rows->table() || !rows->table()->definition().longPrimaryKey())
         return notUpdatable();
-    return rows->table()->writable();
+    return {};
 }
 
 Status Recordset::setValue(QStringView name, const Value& value) {
@@ -237,7 +238,11 @@ Status Recordset::setValue(QStringView name, const Value& value) {
     if (Status status = data.updatable(); !status.ok()) return status;
     const std::optional<size_t> column = data.find(name);
     if (!column) return unknownField(name.toString());
-    if (!data.adding && !data.onRow()) return noCurrentRecord();
+    if (!data.adding) {
+        if (!data.onRow()) return noCurrentRecord();
+        const size_t changed = *column;
+        if (Status status = data.rows->table()->updatable({&changed, 1}); !status.ok()) return status;
+    }
     Result<jet::Value> fitted = fitToColumn(value.raw(), data.rows->table()->definition().columns[*column]);
     if (!fitted.ok()) return fitted.status();
     setChange(data.changes, *column, std::move(fitted).value());
@@ -250,6 +255,7 @@ Status Recordset::addNew() {
     if (data.pending())
         if (Status status = update(); !status.ok()) return status;
     if (Status status = data.session->refresh(); !status.ok()) return status;
+    if (Status status = data.rows->table()->writable(); !status.ok()) return status;
     const auto& columns = data.rows->table()->definition().columns;
     Changes fixed;
     for (size_t i = 0; i < columns.size(); ++i) {
@@ -265,14 +271,15 @@ Status Recordset::addNew() {
 
 Status Recordset::Data::post() {
     if (!adding) return rows->table()->update(rows->id(current), changes);
-    std::vector<jet::Value> values;
-    for (const jet::Column& column : rows->table()->definition().columns)
-        values.push_back(column.type == jet::Type::YesNo ? jet::Value(false) : jet::Value());
+    const auto& columns = rows->table()->definition().columns;
+    std::vector<jet::Value> values(columns.size());
+    for (size_t i = 0; i < columns.size(); ++i)
+        if (columns[i].type == jet::Type::YesNo) values[i] = false;
     for (const auto& [column, value] : changes)
         values[column] = value;
     const Result<jet::RowId> id = rows->table()->insert(values);
     if (!id.ok()) return id.status();
-    loadedRow = id.value();
+    added = id.value();
     return {};
 }
 
@@ -282,13 +289,12 @@ Status Recordset::update() {
     if (!data.pending()) return data.onRow() ? Status() : noCurrentRecord();
     if (Status status = data.session->write([&] { return data.post(); }); !status.ok()) return status;
     if (data.adding) {
-        data.rows->append(data.loadedRow);
+        data.rows->append(data.added);
         data.current = data.rows->known() - 1;
         data.beforeFirst = false;
     }
     data.drop();
-    data.loaded = false;
-    return {};
+    return data.load();
 }
 
 void Recordset::cancelUpdate() {

@@ -18,9 +18,10 @@ enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 ///
 /// Rows are found step by step as they are asked for, and a field is decoded when it is read; `SELECT * FROM
 /// table` with any WHERE and ORDER BY keeps only the identities of the rows it has passed. Such a recordset
-/// shows rows as they are now: a changed field shows its new value, reading a row that was deleted since
-/// fails with NoCurrentRecord, rows inserted by others are not seen. Rows that are equal in the sort columns
-/// come in the same order each time. No lock is held between two calls.
+/// shows a row as it was at the moment when it became the current one: fields that were changed since the
+/// recordset was opened show their new value, a row that was deleted since fails with NoCurrentRecord when it
+/// is read, rows inserted since are not seen. Rows that are equal in the sort columns come in the same order
+/// each time. No lock is held between two calls.
 class Recordset {
   public:
     Recordset();

@@ -43,6 +43,9 @@ Rows::~Rows() {
 }
 
 Status Rows::reach(size_t count) {
+    if (!m_statement || known() >= count) return {};
+    const jet::ReadScope reading(m_session->database());
+    if (!reading.status().ok()) return reading.status();
     while (m_statement && known() < count) {
         const int code = sqlite3_step(m_statement.get());
         if (code == SQLITE_DONE) {

@@ -125,11 +125,11 @@ void Session::forget() {
 Result<JetTable*> Session::table(const QString& name) {
     const std::string key = name.toLower().toStdString();
     if (const auto known = m_tables.find(key); known != m_tables.end()) return known->second.get();
-    if (name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
-        return Status(ErrorCode::NotSupported,
-                      QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
     const Result<jet::Table*> found = m_database->table(name);
     if (!found.ok()) return found.status();
+    if (found.value()->definition().system)
+        return Status(ErrorCode::NotSupported,
+                      QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
     auto table = std::make_unique<JetTable>(*m_database, *found.value());
     if (Status status = declare(*table); !status.ok()) return status;
     return (m_tables[key] = std::move(table)).get();

@@ -160,6 +160,11 @@ bool clausesOnly(const Reader& reader) {
            !reader.restHas({"SELECT", "FROM", "JOIN", "UNION", "INTERSECT", "EXCEPT", "WITH", "RETURNING"});
 }
 
+/// The same for a statement that changes rows: these are chosen, not ordered or counted.
+bool conditionOnly(const Reader& reader) {
+    return clausesOnly(reader) && !reader.restHas({"ORDER", "LIMIT", "GROUP"});
+}
+
 /// `list FROM table clauses`, behind the word SELECT.
 bool readSelect(Reader& reader, QString& table, std::optional<qsizetype>* star) {
     Reader whole = reader;
@@ -181,11 +186,11 @@ bool readStatement(Reader& reader, StatementText& statement) {
     if (reader.take("UPDATE")) {
         statement.verb = Verb::Update;
         return reader.takeName(statement.table) && reader.take("SET") &&
-               !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING"});
+               !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING", "ORDER", "LIMIT"});
     }
     if (reader.take("DELETE")) {
         statement.verb = Verb::Delete;
-        return reader.take("FROM") && reader.takeName(statement.table) && clausesOnly(reader);
+        return reader.take("FROM") && reader.takeName(statement.table) && conditionOnly(reader);
     }
     if (!reader.take("INSERT") || !reader.take("INTO") || !reader.takeName(statement.table)) return false;
     statement.verb = Verb::Insert;

@@ -74,8 +74,9 @@ Result<double> numberOf(const std::string& text) {
 }  // namespace
 
 Value::Type Value::type() const {
-    constexpr Type types[] = {Type::Null,     Type::YesNo, Type::Integer, Type::Real,
-                              Type::Currency, Type::Date,  Type::Text,    Type::Binary};
+    // in the order of the alternatives of jet::Value
+    constexpr Type types[] = {Type::Null, Type::YesNo,    Type::Integer, Type::Real,
+                              Type::Date, Type::Currency, Type::Text,    Type::Binary};
     return types[m_value.index()];
 }
 

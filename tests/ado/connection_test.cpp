@@ -1,0 +1,171 @@
+#include <unistd.h>
+#include <QDir>
+
+#include "TestDatabase.h"
+
+namespace {
+
+class ConnectionTest : public ado::TestDatabase {
+  protected:
+    static Status tryOpen(const QString& file) { return ado::Connection().open(ado::connectionTo(file)); }
+    QString write(const char* name, const QByteArray& bytes) const {
+        QFile file(inFolder(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    QByteArray content() const {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+};
+
+}  // namespace
+
+TEST_F(ConnectionTest, OpensAndClosesAnExistingFile) {
+    ado::Connection open;
+    EXPECT_TRUE(open.open(connection + QLatin1Char(';')).ok());
+    EXPECT_TRUE(open.isOpen());
+    open.close();
+    EXPECT_FALSE(open.isOpen());
+}
+
+TEST_F(ConnectionTest, AMissingFileIsToldByItsName) {
+    const Status status = tryOpen(inFolder("manca.mdb"));
+    EXPECT_EQ(status.code(), ErrorCode::FileNotFound);
+    EXPECT_TRUE(status.text().contains(QStringLiteral("manca.mdb"))) << ado::words(status);
+    EXPECT_FALSE(QFile::exists(inFolder("manca.mdb")));
+}
+
+TEST_F(ConnectionTest, WhatIsNoDatabaseIsRefusedAndUntouched) {
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("x"), QByteArray("testo semplice\r\n").repeated(1000),
+          QByteArray(8192, '\0'), QByteArray("SQLite format 3\0", 16).repeated(512)}) {
+        const QString file = write("altro.mdb", bytes);
+        EXPECT_FALSE(tryOpen(file).ok()) << bytes.left(16).constData();
+        QFile after(file);
+        ASSERT_TRUE(after.open(QIODevice::ReadOnly));
+        EXPECT_EQ(after.readAll(), bytes);
+    }
+    EXPECT_FALSE(tryOpen(QDir::tempPath()).ok());
+}
+
+TEST_F(ConnectionTest, ATruncatedFileIsRefused) {
+    const QString file = write("corto.mdb", content().left(5000));
+    EXPECT_FALSE(tryOpen(file).ok());
+}
+
+TEST_F(ConnectionTest, AnUnreadableFileIsRefused) {
+    if (geteuid() == 0) {
+        std::printf("skipped: the administrator can read every file\n");
+        return;
+    }
+    ASSERT_TRUE(QFile::setPermissions(path, QFileDevice::Permissions()));
+    EXPECT_EQ(tryOpen(path).code(), ErrorCode::PathAccess);
+}
+
+TEST_F(ConnectionTest, ADamagedTableEndsInAnErrorAndAnUntouchedFile) {
+    for (int i = 0; i < 50; ++i)
+        run("INSERT INTO tb_destinatari (id_grp, rgs) VALUES (1, 'Ditta')");
+    ado::closeAll();
+    QByteArray bytes = content();
+    constexpr int pageSize = 4096;
+    for (int page = 16; page < bytes.size() / pageSize; ++page)
+        for (int i = 0; i < pageSize; ++i)
+            bytes[page * pageSize + i] = static_cast<char>(i * 37 + page);
+    const QString file = write("rovinato.mdb", bytes);
+    connection = ado::connectionTo(file);
+    ado::Recordset rows;
+    ASSERT_TRUE(rows.setActiveConnection(connection).ok());
+    rows.setSource(QStringLiteral("SELECT * FROM tb_destinatari"));
+    EXPECT_FALSE(rows.open().ok());
+    EXPECT_NE(failure("UPDATE tb_destinatari SET sel = True"), ErrorCode::None);
+    QFile after(file);
+    ASSERT_TRUE(after.open(QIODevice::ReadOnly));
+    EXPECT_EQ(after.readAll(), bytes);
+}
+
+TEST_F(ConnectionTest, ARelativePathIsTakenFromTheWorkingFolder) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QFileInfo(path).path()));
+    EXPECT_TRUE(tryOpen(QFileInfo(path).fileName()).ok());
+    QDir::setCurrent(before);
+}
+
+TEST_F(ConnectionTest, TwoSpellingsOfOnePathShareTheirChanges) {
+    auto rows = open("SELECT * FROM tb_gruppi");
+    connection =
+        ado::connectionTo(QFileInfo(path).path() + QStringLiteral("/./") + QFileInfo(path).fileName());
+    run("INSERT INTO tb_gruppi (nome) VALUES ('a')");
+    EXPECT_EQ(open("SELECT * FROM tb_gruppi").recordCount(), 1);
+}
+
+TEST_F(ConnectionTest, AReplacedFileIsSeenByTheNextStatement) {
+    run("INSERT INTO tb_gruppi (nome) VALUES ('vecchio')");
+    const QString other = inFolder("altra.mdb");
+    ASSERT_TRUE(jet::createEmptyDatabase(other).ok());
+    EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "vecchio");
+    ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
+    EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "");
+    run("INSERT INTO tb_gruppi (nome) VALUES ('nuovo')");
+    EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "nuovo");
+}
+
+TEST_F(ConnectionTest, ARemovedFileIsMissedByTheNextStatement) {
+    run("INSERT INTO tb_gruppi (nome) VALUES ('a')");
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(failure("UPDATE tb_gruppi SET nome = 'b'"), ErrorCode::FileNotFound);
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(ConnectionTest, TheCatalogueListsTablesByNameAndColumnsByPosition) {
+    ado::Connection open;
+    ASSERT_TRUE(open.open(connection).ok());
+    ado::Catalog catalog;
+    catalog.setActiveConnection(open);
+    const auto tables = catalog.tables();
+    ASSERT_TRUE(tables.ok()) << ado::words(tables.status());
+    QStringList names;
+    for (const auto& table : tables.value())
+        if (table.kind == ado::Catalog::Kind::Table) names << table.name;
+    EXPECT_EQ(names, QStringList({QStringLiteral("tb_destinatari"), QStringLiteral("tb_gruppi")}));
+    EXPECT_EQ(tables.value().size(), 6u);
+    const auto columns = catalog.columns(QStringLiteral("TB_DESTINATARI"));
+    ASSERT_TRUE(columns.ok()) << ado::words(columns.status());
+    ASSERT_EQ(columns.value().size(), 22u);
+    EXPECT_EQ(columns.value()[0].name, QStringLiteral("id"));
+    EXPECT_TRUE(columns.value()[0].autoNumber);
+    EXPECT_EQ(columns.value()[8].name, QStringLiteral("prov"));
+    EXPECT_EQ(columns.value()[8].size, 2);
+    EXPECT_EQ(columns.value()[21].type, jet::Type::YesNo);
+    EXPECT_EQ(catalog.columns(QStringLiteral("manca")).status().code(), ErrorCode::TableNotFound);
+}
+
+TEST_F(ConnectionTest, APasswordIsAskedForEachTime) {
+    const QString file = QStringLiteral(SHARED_DIR "/mdb/mr-V2000_with-password.mdb");
+    if (!QFile::exists(file)) {
+        std::printf("skipped: the sample file with a password is not at hand\n");
+        return;
+    }
+    EXPECT_EQ(tryOpen(file).code(), ErrorCode::InvalidPassword);
+    EXPECT_EQ(ado::Connection()
+                  .open(ado::connectionTo(file) + QStringLiteral(";;Jet OLEDB:Database Password=sbagliata"))
+                  .code(),
+              ErrorCode::InvalidPassword);
+}
+
+TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {
+    std::vector<ado::Recordset> open_;
+    for (int i = 0; i < 7; ++i) {
+        const QString file = inFolder(qPrintable(QStringLiteral("lista%1.mdb").arg(i)));
+        ASSERT_TRUE(jet::createEmptyDatabase(file).ok());
+        connection = ado::connectionTo(file);
+        run(QStringLiteral("INSERT INTO tb_gruppi (nome) VALUES ('%1'), ('x')").arg(i));
+        open_.push_back(open("SELECT * FROM tb_gruppi"));
+    }
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(open_[static_cast<size_t>(i)].value(u"nome").value(), ado::Value(QString::number(i)));
+        EXPECT_EQ(open_[static_cast<size_t>(i)].recordCount(), 2);
+    }
+}

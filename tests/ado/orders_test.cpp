@@ -1,0 +1,209 @@
+#include <algorithm>
+#include <array>
+#include <map>
+#include <random>
+
+#include "platform/jet/GeneralOrder.h"
+#include "TestDatabase.h"
+
+namespace {
+
+const char* const queue =
+    "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind "
+    "ASC;";
+
+class OrdersTest : public ado::TestDatabase {
+  protected:
+    /// Many recipients in one transaction of the engine, with few different names so that many are equal.
+    void fill(int count) {
+        auto database = jet::Database::open(path);
+        ASSERT_TRUE(database.ok()) << ado::words(database.status());
+        auto table = database.value()->table(u"tb_destinatari");
+        ASSERT_TRUE(table.ok());
+        ASSERT_TRUE(database.value()->begin().ok());
+        std::mt19937 random(7);
+        for (int i = 0; i < count; ++i) {
+            std::vector<jet::Value> values(22);
+            values[1] = int64_t{1 + i % 3};
+            for (const size_t column : {2, 3, 5, 7, 11})
+                values[column] = name(random);
+            values[21] = i % 4 != 0;
+            const auto id = table.value()->insert(values);
+            ASSERT_TRUE(id.ok()) << ado::words(id.status());
+        }
+        const Status status = database.value()->commit();
+        ASSERT_TRUE(status.ok()) << ado::words(status);
+    }
+
+    static jet::Value name(std::mt19937& random) {
+        constexpr std::array names = {"Rossi",      "ROSSI", "Ross\u00ec", "D'Angelo",
+                                      "De-Angelis", "",      "Zorzi",      "Bianchi s.r.l."};
+        const size_t choice = random() % (names.size() + 1);
+        return choice < names.size() ? jet::Value(std::string(names[choice])) : jet::Value();
+    }
+
+    std::vector<qint64> ids(const char* statement) const {
+        std::vector<qint64> result;
+        ado::Recordset rows = open(statement);
+        while (!rows.isEof()) {
+            result.push_back(rows.value(u"id").value().toInteger().value());
+            EXPECT_TRUE(rows.moveNext().ok());
+        }
+        return result;
+    }
+
+    /// What a recordset has to give, computed from the rows of the file without any order that was kept.
+    std::vector<qint64> expected(int selected, int group) const {
+        using Key = std::pair<std::vector<std::string>, jet::RowId>;
+        std::vector<std::pair<Key, qint64>> rows;
+        auto database = jet::Database::open(path);
+        EXPECT_TRUE(database.ok());
+        auto table = database.value()->table(u"tb_destinatari");
+        EXPECT_TRUE(table.ok());
+        const Status status = table.value()->scan([&](jet::RowId id, const jet::RowView& row) {
+            if (selected >= 0 && row.yesNo(21) != (selected == 1)) return true;
+            if (group >= 0 && row.integer(1) != group) return true;
+            std::vector<std::string> key;
+            const std::vector<size_t> columns =
+                group >= 0 ? std::vector<size_t>{2} : std::vector<size_t>{2, 11, 3, 7, 5};
+            for (const size_t column : columns) {
+                std::string text;
+                std::string part;
+                if (row.text(column, text)) {
+                    part = "+";
+                    jet::appendSortKey(part, text);
+                }
+                key.push_back(part);
+            }
+            rows.push_back({{key, id}, row.integer(0)});
+            return true;
+        });
+        EXPECT_TRUE(status.ok());
+        std::sort(rows.begin(), rows.end());
+        std::vector<qint64> result;
+        for (const auto& row : rows)
+            result.push_back(row.second);
+        return result;
+    }
+};
+
+}  // namespace
+
+TEST_F(OrdersTest, OneTickAfterAnotherServesTheListInOrderAndSkipsTheFailed) {
+    fill(200);
+    const std::vector<qint64> order = ids(queue);
+    ASSERT_EQ(order, expected(1, -1));
+    std::vector<qint64> served;
+    int failed = 0;
+    for (size_t tick = 0; tick < order.size(); ++tick) {
+        ado::Recordset rows = open(queue);
+        ASSERT_TRUE(rows.move(failed).ok());
+        const auto id = rows.value(u"id");
+        ASSERT_TRUE(id.ok()) << ado::words(id.status());
+        served.push_back(id.value().toInteger().value());
+        rows.close();
+        if (tick % 3 == 1) {
+            ++failed;
+        } else {
+            EXPECT_EQ(run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;")
+                              .arg(served.back())),
+                      1);
+        }
+    }
+    EXPECT_EQ(served, order);
+    EXPECT_EQ(open("SELECT * FROM [tb_destinatari] WHERE sel = True ;").recordCount(), failed);
+}
+
+TEST_F(OrdersTest, AHundredThousandRowsKeepTheirOrderThroughRandomChanges) {
+    fill(100000);
+    ASSERT_EQ(ids(queue), expected(1, -1));
+    const char* groupListing = "SELECT * FROM tb_destinatari WHERE id_grp = 2 ORDER BY rgs ASC;";
+    ASSERT_EQ(ids(groupListing), expected(-1, 2));
+    std::mt19937 random(11);
+    for (int i = 0; i < 300; ++i) {
+        const auto id = 1 + random() % 100000;
+        switch (random() % 5) {
+            case 0:
+                run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(id));
+                break;
+            case 1:
+                run(QStringLiteral("UPDATE [tb_destinatari] SET sel = True, rgs = 'Mario''s', nom = Null "
+                                   "WHERE id = %1 ;")
+                        .arg(id));
+                break;
+            case 2:
+                run(QStringLiteral("DELETE FROM [tb_destinatari] WHERE id = %1 ;").arg(id));
+                break;
+            case 3:
+                run(QStringLiteral("INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs) VALUES (2, True, "
+                                   "'x%1@y.it', 'Ross')")
+                        .arg(id));
+                break;
+            default:
+                run(QStringLiteral("UPDATE [tb_destinatari] SET id_grp = 2 WHERE id = %1 ;").arg(id));
+        }
+    }
+    const std::vector<qint64> kept = ids(queue);
+    const std::vector<qint64> keptGroup = ids(groupListing);
+    EXPECT_EQ(kept, expected(1, -1));
+    EXPECT_EQ(keptGroup, expected(-1, 2));
+    ado::closeAll();
+    EXPECT_EQ(ids(queue), kept);
+    EXPECT_EQ(ids(groupListing), keptGroup);
+    EXPECT_EQ(open("SELECT * FROM [tb_destinatari] WHERE sel = True ;").recordCount(),
+              static_cast<qint64>(kept.size()));
+}
+
+TEST_F(OrdersTest, WhatAnotherProgramWritesIsSeenByTheNextRecordset) {
+    fill(50);
+    const std::vector<qint64> before = ids(queue);
+    auto other = jet::Database::open(path);
+    ASSERT_TRUE(other.ok());
+    auto table = other.value()->table(u"tb_destinatari");
+    ASSERT_TRUE(table.ok());
+    const auto row = table.value()->findByPrimaryKey(static_cast<int32_t>(before[0]));
+    ASSERT_TRUE(row.ok() && row.value());
+    ASSERT_TRUE(other.value()->begin().ok());
+    const std::pair<size_t, jet::Value> change{21, false};
+    ASSERT_TRUE(table.value()->update(*row.value(), {&change, 1}).ok());
+    ASSERT_TRUE(other.value()->commit().ok());
+    const std::vector<qint64> after = ids(queue);
+    EXPECT_EQ(after, std::vector<qint64>(before.begin() + 1, before.end()));
+    run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(after[0]));
+    EXPECT_EQ(ids(queue), std::vector<qint64>(before.begin() + 2, before.end()));
+}
+
+TEST_F(OrdersTest, ARecordsetThatIsOpenOutlivesAChangeFromOutside) {
+    fill(50);
+    ado::Recordset rows = open(queue);
+    const std::vector<qint64> before = ids(queue);
+    auto other = jet::Database::open(path);
+    ASSERT_TRUE(other.ok());
+    auto table = other.value()->table(u"tb_destinatari");
+    ASSERT_TRUE(table.ok());
+    const auto row = table.value()->findByPrimaryKey(static_cast<int32_t>(before[1]));
+    ASSERT_TRUE(row.ok() && row.value());
+    ASSERT_TRUE(other.value()->begin().ok());
+    ASSERT_TRUE(table.value()->erase(*row.value()).ok());
+    ASSERT_TRUE(other.value()->commit().ok());
+    ASSERT_TRUE(rows.moveNext().ok());
+    EXPECT_EQ(rows.value(u"id").status().code(), ErrorCode::NoCurrentRecord);
+    ASSERT_TRUE(rows.moveNext().ok());
+    EXPECT_EQ(rows.value(u"id").value().toInteger().value(), before[2]);
+}
+
+TEST_F(OrdersTest, ManyDifferentOrdersOfOneTableAreAllRight) {
+    fill(300);
+    const char* columns[] = {"rgs", "nom", "ind", "loc", "email", "id_grp", "sel", "id", "cap", "prov"};
+    std::map<std::string, std::vector<qint64>> first;
+    for (int round = 0; round < 2; ++round) {
+        for (const char* column : columns) {
+            const std::string statement =
+                std::string("SELECT * FROM tb_destinatari ORDER BY ") + column + " DESC, id ASC";
+            const std::vector<qint64> rows = ids(statement.c_str());
+            EXPECT_EQ(rows.size(), 300u) << statement;
+            if (round == 0) first[column] = rows;
+            EXPECT_EQ(rows, first[column]) << statement;
+        }
+    }
+}

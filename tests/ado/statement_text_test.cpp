@@ -1,0 +1,129 @@
+#include "platform/ado/StatementText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using ado::StatementText;
+using Verb = StatementText::Verb;
+
+ErrorCode failure(const std::string& text) {
+    return StatementText::read(QString::fromStdString(text)).status().code();
+}
+
+StatementText accepted(const char* text) {
+    const auto result = StatementText::read(QString::fromUtf8(text));
+    EXPECT_TRUE(result.ok()) << text << ": " << result.status().text().toStdString();
+    return result.ok() ? result.value() : StatementText();
+}
+
+}  // namespace
+
+TEST(StatementText, FindsTheTableOfEachKindOfStatement) {
+    const struct {
+        const char* text;
+        Verb verb;
+        const char* table;
+        const char* readFrom;
+    } rows[] = {
+        {"SELECT * FROM [tb_gruppi] WHERE id_up = 0 ORDER BY nome ASC;", Verb::Select, "tb_gruppi", ""},
+        {"select nome from tb_gruppi", Verb::Select, "tb_gruppi", ""},
+        {"SELECT * FROM [Tabella con blanks] ;", Verb::Select, "Tabella con blanks", ""},
+        {"SELECT * FROM Citt\u00e0", Verb::Select, "Citt\u00e0", ""},
+        {"UPDATE [tb_destinatari] SET sel = True;", Verb::Update, "tb_destinatari", ""},
+        {"DELETE FROM [tb_gruppi] WHERE id = 3 ;", Verb::Delete, "tb_gruppi", ""},
+        {"INSERT INTO [tb_gruppi] (nome) VALUES ('SELECT; -- FROM /* x')", Verb::Insert, "tb_gruppi", ""},
+        {"INSERT INTO a (id_grp,rgs) SELECT 7 as id_grp, rgs FROM b WHERE id_grp = 2 ;", Verb::Insert, "a",
+         "b"},
+    };
+    for (const auto& row : rows) {
+        const StatementText statement = accepted(row.text);
+        EXPECT_EQ(statement.verb, row.verb) << row.text;
+        EXPECT_EQ(statement.table.toStdString(), row.table) << row.text;
+        EXPECT_EQ(statement.readFrom.toStdString(), row.readFrom) << row.text;
+    }
+}
+
+TEST(StatementText, KnowsWhereRowsCanBeToldByTheirIdentities) {
+    EXPECT_EQ(accepted("SELECT * FROM [t] ;").star, 7);
+    EXPECT_EQ(accepted("SELECT * FROM t WHERE a = 5 ORDER BY b ASC, c DESC").star, 7);
+    EXPECT_FALSE(accepted("SELECT a FROM t").star);
+    EXPECT_FALSE(accepted("SELECT *, a FROM t").star);
+    EXPECT_FALSE(accepted("SELECT count(*) FROM t").star);
+    EXPECT_FALSE(accepted("SELECT * FROM t ORDER BY 1").star);
+    EXPECT_FALSE(accepted("SELECT * FROM t GROUP BY a").star);
+    EXPECT_FALSE(accepted("INSERT INTO t SELECT * FROM t").star);
+}
+
+TEST(StatementText, TextBehindTheFirstStatementIsRefused) {
+    for (const char* text : {"DELETE FROM t; DELETE FROM u", "SELECT * FROM t;;", "SELECT * FROM t; x",
+                             "; SELECT * FROM t", "INSERT INTO t (a) VALUES ('x'); DELETE FROM t;"})
+        EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+}
+
+TEST(StatementText, CommentsAndParametersAreRefused) {
+    for (const char* text : {"SELECT * FROM t -- x", "SELECT * FROM t /* x */", "SELECT * FROM t /* x",
+                             "/**/SELECT 1", "SELECT * FROM t WHERE a = ?", "SELECT * FROM t WHERE a = :b",
+                             "SELECT * FROM t WHERE a = @b", "SELECT * FROM t WHERE a = $b"})
+        EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+    EXPECT_EQ(failure(std::string("SELECT * FROM t\0", 16)), ErrorCode::NotSupported);
+}
+
+TEST(StatementText, OtherKindsOfStatementsAreRefused) {
+    for (const char* text :
+         {"CREATE TABLE x (a)", "DROP TABLE t", "ALTER TABLE t ADD b", "ATTACH 'x' AS y", "DETACH y",
+          "PRAGMA page_size", "BEGIN", "COMMIT", "ROLLBACK", "SAVEPOINT x", "VACUUM", "REINDEX", "ANALYZE",
+          "EXPLAIN SELECT * FROM t", "REPLACE INTO t (a) VALUES (1)", "WITH x AS (SELECT 1) SELECT * FROM x",
+          "VALUES (1)", "(SELECT * FROM t)"})
+        EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+}
+
+TEST(StatementText, MoreThanOneSourceOfRowsIsRefused) {
+    for (const char* text : {"SELECT * FROM t, u",
+                             "SELECT * FROM t JOIN u",
+                             "SELECT * FROM t NATURAL JOIN u",
+                             "SELECT * FROM t AS a",
+                             "SELECT * FROM t a",
+                             "SELECT * FROM main.t",
+                             "SELECT * FROM (SELECT * FROM t)",
+                             "SELECT * FROM f('x')",
+                             "SELECT * FROM t WHERE a IN (SELECT a FROM u)",
+                             "SELECT (SELECT 1) FROM t",
+                             "SELECT * FROM t UNION SELECT * FROM u",
+                             "SELECT * FROM t WHERE a = 1 UNION SELECT 1",
+                             "SELECT 1",
+                             "SELECT * FROM",
+                             "SELECT * FROM 'sqlite_master'",
+                             "UPDATE t SET a = (SELECT b FROM u)",
+                             "UPDATE t SET a = 1 FROM u",
+                             "UPDATE OR IGNORE t SET a = 1",
+                             "UPDATE t SET a = 1 RETURNING *",
+                             "DELETE FROM t WHERE a IN (SELECT a FROM u)",
+                             "DELETE FROM t RETURNING a",
+                             "DELETE t",
+                             "INSERT OR REPLACE INTO t (a) VALUES (1)",
+                             "INSERT INTO t (a) VALUES ((SELECT b FROM u))",
+                             "INSERT INTO t (a) SELECT a FROM u, v",
+                             "INSERT INTO t (a) SELECT a FROM u UNION SELECT 1",
+                             "INSERT INTO t (a) VALUES (1) ON CONFLICT DO NOTHING",
+                             "INSERT INTO t (a) SELECT 1",
+                             "INSERT INTO t",
+                             "INSERT INTO main.t (a) VALUES (1)",
+                             "INSERT INTO t (a) VALUES (1) RETURNING a"})
+        EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+}
+
+TEST(StatementText, WhatIsNotClosedIsASyntaxError) {
+    for (const char* text : {"", "   ", ";", "SELECT * FROM [t", "INSERT INTO t (a) VALUES ('D'Amico')",
+                             "INSERT INTO t (a) VALUES ('x", "SELECT * FROM \"t\"", "SELECT * FROM `t`"})
+        EXPECT_EQ(failure(text), ErrorCode::SyntaxError) << text;
+}
+
+TEST(StatementText, TheLongestRecipientPassesAndAnEndlessTextDoesNot) {
+    std::string longest = "INSERT INTO t (a) VALUES (";
+    for (int i = 0; i < 19; ++i)
+        longest += "'" + std::string(510, '\'') + "', ";
+    EXPECT_EQ(failure(longest + "'')"), ErrorCode::None);
+    EXPECT_EQ(failure("SELECT * FROM t WHERE a = '" + std::string(64000, 'x') + "'"),
+              ErrorCode::NotSupported);
+}
