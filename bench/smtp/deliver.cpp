@@ -1,0 +1,85 @@
+// deliver <host> <port> <messages> <octets>: composes personalised messages of about that size and delivers
+// them one after the other over one delivery control, as the send window does. Prints one line of JSON.
+#include <cstdio>
+#include <cstdlib>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include "platform/mail/DeliveryControl.h"
+
+namespace {
+
+/// A newsletter of about `octets` as HTML, with a place for the recipient's name in each paragraph.
+QString newsletter(qsizetype octets) {
+    QString html = QStringLiteral("<html><head><title>Notizie</title></head><body>\n");
+    while (html.size() < octets)
+        html +=
+            QStringLiteral("<p>Gentile :::nom:::, l'offerta di questa settimana vale in ogni negozio.</p>\n");
+    return html + QStringLiteral("</body></html>");
+}
+
+class Run : public QObject {
+  public:
+    Run(const QString& host, quint16 port, int messages, qsizetype octets) : m_left(messages) {
+        m_smtp.ServerName = host;
+        m_smtp.ServerPort = port;
+        m_smtp.FromName = QStringLiteral("Notizie");
+        m_smtp.FromAddress = QStringLiteral("notizie@mittente.example");
+        // The text part takes a share of the whole.
+        m_html = newsletter(octets * 85 / 100);
+        m_text = QStringLiteral("Gentile :::nom:::, le offerte di questa settimana.\n")
+                     .repeated(int(octets / 500));
+        m_smtp.TemplateHtml = m_html;
+        connect(&m_smtp, &mail::DeliveryControl::SendDone, this, &Run::next);
+        connect(&m_smtp, &mail::DeliveryControl::SendError, this, [](int code, const QString& text) {
+            std::fprintf(stderr, "%d %s\n", code, qPrintable(text));
+            QCoreApplication::exit(1);
+        });
+        m_clock.start();
+    }
+
+    void next() {
+        if (m_left-- == 0) {
+            QCoreApplication::quit();
+            return;
+        }
+        const QString name = QStringLiteral("Rossi %1").arg(m_left);
+        const auto personal = [&name](QString text) {
+            return text.replace(QStringLiteral(":::nom:::"), name);
+        };
+        m_smtp.BodyHtml = personal(m_html);
+        m_smtp.BodyText = personal(m_text);
+        m_smtp.Subject = personal(QStringLiteral("Notizie per :::nom:::"));
+        m_smtp.ToName = name;
+        m_smtp.ToAddress = QStringLiteral("rossi%1@cliente.example").arg(m_left);
+        m_smtp.Send();
+    }
+
+    double seconds() const { return double(m_clock.nsecsElapsed()) / 1e9; }
+
+  private:
+    mail::DeliveryControl m_smtp;
+    QString m_html;
+    QString m_text;
+    QElapsedTimer m_clock;
+    int m_left;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    if (argc != 5) {
+        std::fprintf(stderr, "deliver <host> <port> <messages> <octets>\n");
+        return 2;
+    }
+    const int messages = std::atoi(argv[3]);
+    Run run(QString::fromLocal8Bit(argv[1]), quint16(std::atoi(argv[2])), messages, std::atoi(argv[4]));
+    run.next();
+    const int status = application.exec();
+    const double seconds = run.seconds();
+    std::printf("{\"messages\": %d, \"seconds\": %.6f, \"perSecond\": %.1f}\n", messages, seconds,
+                messages / seconds);
+    return status;
+}

@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+"""Composing and delivering over one kept session, against smtp-source with messages of the same size.
+
+    run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
+
+Both sides send to the same smtp-sink, in turns; the medians count. smtp-source sends one canned message again and again
+over one connection (-d); ours composes each message for its recipient.
+"""
+import contextlib
+import json
+import os
+import pathlib
+import socket
+import subprocess
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
+import tools  # noqa: E402
+
+SIZE = 10240
+
+
+def free_port():
+    with socket.socket() as probe:
+        probe.bind(("127.0.0.1", 0))
+        return probe.getsockname()[1]
+
+
+@contextlib.contextmanager
+def sink(work):
+    program, environment = tools.unpacked("postfix", "smtp-sink", work)
+    port = free_port()
+    user = ["-u", "nobody"] if os.geteuid() == 0 else []
+    process = subprocess.Popen([str(program), *user, f"127.0.0.1:{port}", "100"], env=environment)
+    try:
+        for _ in range(200):
+            with contextlib.suppress(OSError), socket.create_connection(("127.0.0.1", port), 1):
+                break
+            time.sleep(0.05)
+        yield port
+    finally:
+        process.terminate()
+        process.wait()
+
+
+def deliver(build, port, count):
+    """Messages a second, as our program measures them: without its start."""
+    done = subprocess.run([str(build / "bench/smtp/bench_smtp_deliver"), "127.0.0.1", str(port), str(count), str(SIZE)],
+                          stdout=subprocess.PIPE, text=True, check=True)
+    return json.loads(done.stdout)["perSecond"]
+
+
+def source(work, port, count):
+    """Messages a second of the peer; the cost of its start, an empty run, is taken off."""
+    program, environment = tools.unpacked("postfix", "smtp-source", work)
+
+    def seconds(messages):
+        start = time.perf_counter()
+        subprocess.run([str(program), "-d", "-s", "1", "-m", str(messages), "-l", str(SIZE), f"127.0.0.1:{port}"],
+                       env=environment, check=True)
+        return time.perf_counter() - start
+
+    return (count - 1) / max(seconds(count) - seconds(1), 1e-9)
+
+
+@contextlib.contextmanager
+def delayed(build, port, flights):
+    """A line to `port` that delays 10 ms each way; the number of flights towards the server goes to `flights`."""
+    proxy = subprocess.Popen([str(build / "bench/smtp/bench_smtp_delay_proxy"), str(port), "10"], text=True,
+                             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+    try:
+        yield int(proxy.stdout.readline())
+    finally:
+        proxy.stdin.close()
+        flights.append(int(proxy.stdout.readline()))
+        proxy.wait()
+
+
+def record(name, ours, peers, goal):
+    ratio = tools.median(ours) / tools.median(peers)
+    return {"name": name, "value": tools.median(ours), "unit": "messages/s", "peer": "smtp-source -d",
+            "ratio": ratio, "goal": goal, "met": ratio >= goal}
+
+
+def main():
+    build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 7
+    records = []
+    with sink(work) as port:
+        ours, peers = [], []
+        for _ in range(rounds):
+            ours.append(deliver(build, port, 2000))
+            peers.append(source(work, port, 2000))
+        records.append(record("deliver 2,000 messages of 10 KB", ours, peers, 1.0))
+
+        ours, peers, flights = [], [], []
+        count = 100
+        for _ in range(3):
+            with delayed(build, port, flights) as line:
+                ours.append(deliver(build, line, count))
+            with delayed(build, port, []) as line:
+                peers.append(source(work, line, count))
+        records.append(record("deliver over a line of 10 ms each way", ours, peers, 1.7))
+        # The greeting is followed by EHLO, and the last message by QUIT: two flights that belong to no message.
+        trips = (tools.median(flights) - 2) / count
+        records.append({"name": "round trips a message", "value": trips, "unit": "round trips",
+                        "peer": "two", "ratio": 2 / trips, "goal": 1.0, "met": trips <= 2})
+    print(json.dumps(records))
+
+
+if __name__ == "__main__":
+    main()
