@@ -165,13 +165,12 @@ void SmtpSession::quit() {
 }
 
 void SmtpSession::progress() {
-    if (!m_busy) return;
-    m_outstanding = unacknowledgedOctets(int(m_socket->socketDescriptor()));
-    m_stall.start(m_timeoutMs);
+    if (m_busy) m_stall.start(m_timeoutMs);
 }
 
 void SmtpSession::onTaken() {
     progress();
+    m_outstanding = unacknowledgedOctets(int(m_socket->socketDescriptor()));
     if (m_feeding) feedBody();
 }
 

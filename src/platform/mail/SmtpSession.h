@@ -137,7 +137,7 @@ class SmtpSession : public QObject {
     bool m_mailAccepted = false;
     bool m_refused = false;
     int m_timeoutMs = 0;
-    int m_outstanding = 0;  ///< octets that were not acknowledged when there last was progress
+    int m_outstanding = 0;  ///< octets that were not acknowledged when the system last took some
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
     qsizetype m_fed = 0;     ///< octets of the message that were written
