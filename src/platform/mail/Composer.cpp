@@ -21,8 +21,10 @@ QByteArray mailLink(const Mailbox& sender) {
            "?subject=unsubscribe";
 }
 
-// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty
-QByteArray wireLink(const QByteArray& address) {
+// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty.
+// Line ends and tabs inside an address mean nothing in HTML.
+QByteArray wireLink(QByteArray address) {
+    address.removeIf([](char c) { return c == '\r' || c == '\n' || c == '\t'; });
     if (address.isEmpty() || address.size() > longestLink) return {};
     const QByteArray link = QUrl(QString::fromUtf8(address)).toEncoded();
     const bool stands = link.size() <= longestLink && std::all_of(link.begin(), link.end(), [](char c) {

@@ -36,13 +36,14 @@ QString bareName(const QString& name) {
     return bare.isEmpty() ? QStringLiteral("file") : bare;
 }
 
-// Letters without their accents, "_" for whatever else old readers stumble over
+// Letters without their accents, "_" for whatever old readers and file systems stumble over
 QByteArray asciiName(const QString& name) {
     QByteArray plain;
     for (const QChar c : name.normalized(QString::NormalizationForm_KD)) {
         if (c.isMark() || c.isLowSurrogate()) continue;
-        const char16_t code = c.unicode();
-        plain += code < 0x20 || code >= 0x7F || code == '"' || code == '\\' ? '_' : static_cast<char>(code);
+        const bool known =
+            c.unicode() < 0x80 && (c.isLetterOrNumber() || QStringView(u" !#$&'()+,-.;@_").contains(c));
+        plain += known ? static_cast<char>(c.unicode()) : '_';
     }
     if (plain.size() <= fallbackLimit) return plain;
     const qsizetype dot = plain.lastIndexOf('.');
@@ -50,11 +51,13 @@ QByteArray asciiName(const QString& name) {
     return plain.left(fallbackLimit - suffix.size()) + suffix;
 }
 
-void setParameter(GMimeParamList* list, const char* name, const QByteArray& value) {
-    g_mime_param_list_set_parameter(list, name, value.constData());
-    GMimeParam* parameter = g_mime_param_list_get_parameter(list, name);
-    g_mime_param_set_charset(parameter, "utf-8");
-    g_mime_param_set_encoding_method(parameter, GMIME_PARAM_ENCODING_METHOD_RFC2231);
+// The library's own way to write a long name splits characters between lines, so the value goes in ready-made
+void setDisposition(GMimePart* part, const char* disposition, const QString& fileName) {
+    g_mime_object_set_disposition(GMIME_OBJECT(part), disposition);
+    GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(part));
+    const QByteArray value = QByteArray(" ") + disposition + parameter("filename", fileName) + "\r\n";
+    g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, "Content-Disposition"),
+                                value.constData());
 }
 
 QByteArray wireText(GMimePart* part) {
@@ -76,15 +79,10 @@ QByteArray filePart(const QString& givenName, const QByteArray& type, const char
     const Ref<GMimePart> part(
         g_mime_part_new_with_type(type.left(slash).constData(), type.mid(slash + 1).constData()));
 
-    GMimeParamList* typeParameters =
-        g_mime_content_type_get_parameters(g_mime_object_get_content_type(GMIME_OBJECT(part.get())));
-    if (charset != nullptr) setParameter(typeParameters, "charset", charset);
-    setParameter(typeParameters, "name", asciiName(name));
-
-    const Ref<GMimeContentDisposition> place(g_mime_content_disposition_new());
-    g_mime_content_disposition_set_disposition(place.get(), disposition);
-    setParameter(g_mime_content_disposition_get_parameters(place.get()), "filename", name.toUtf8());
-    g_mime_object_set_content_disposition(GMIME_OBJECT(part.get()), place.get());
+    GMimeContentType* contentType = g_mime_object_get_content_type(GMIME_OBJECT(part.get()));
+    if (charset != nullptr) g_mime_content_type_set_parameter(contentType, "charset", charset);
+    g_mime_content_type_set_parameter(contentType, "name", asciiName(name).constData());
+    setDisposition(part.get(), disposition, name);
     if (!contentId.isEmpty()) g_mime_object_set_content_id(GMIME_OBJECT(part.get()), contentId.constData());
 
     const Ref<GMimeStream> stream(

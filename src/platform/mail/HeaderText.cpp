@@ -3,16 +3,18 @@
 #include <algorithm>
 #include <cstring>
 #include <string_view>
+#include <vector>
 
 namespace mail {
 namespace {
 
 constexpr qsizetype lineLimit = 78;
 // Below the 75 that RFC 2047 allows, so that the first word fits behind each header's name
-constexpr qsizetype wordLimit = 64;
+constexpr qsizetype wordLimit = 69;
 constexpr std::string_view qOpening = "=?utf-8?Q?";
 constexpr std::string_view bOpening = "=?utf-8?B?";
 constexpr std::string_view closing = "?=";
+constexpr qsizetype sectionLimit = 60;  // of a parameter's value
 constexpr qsizetype payloadLimit = wordLimit - static_cast<qsizetype>(qOpening.size() + closing.size());
 
 // What may stand for itself in an encoded word anywhere in a header (RFC 2047 5, rule 3)
@@ -141,6 +143,27 @@ QByteArray namedAddress(const QString& name, const QByteArray& address) {
         phrase = quoted(phrase);
     }
     return phrase + " <" + address + '>';
+}
+
+QByteArray parameter(const QByteArray& name, const QString& value) {
+    const QByteArray utf8 = singleLine(value).toUtf8();
+    const QByteArray opening = ";\r\n " + name;
+    if (isPlain(utf8) && utf8.size() <= sectionLimit) return opening + '=' + quoted(utf8);
+
+    std::vector<QByteArray> sections{"utf-8''"};
+    for (qsizetype at = 0; at < utf8.size();) {
+        const qsizetype length = characterLength(utf8, at);
+        const QByteArray character = utf8.mid(at, length).toPercentEncoding({}, "~");
+        if (sections.back().size() + character.size() > sectionLimit) sections.emplace_back();
+        sections.back() += character;
+        at += length;
+    }
+    if (sections.size() == 1) return opening + "*=" + sections.front();
+    QByteArray out;
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        out += opening + '*' + QByteArray::number(i) + "*=" + sections[i];
+    }
+    return out;
 }
 
 QByteArray foldedHeader(const QByteArray& name, const QByteArray& value) {

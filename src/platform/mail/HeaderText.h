@@ -17,6 +17,11 @@ QByteArray unstructuredText(const QString& text);
 /// name leaves the bare address.
 QByteArray namedAddress(const QString& name, const QByteArray& address);
 
+/// A parameter that follows a header's value, on lines of its own: ";", line end, blank, name and value. A
+/// value that is short and plain ASCII stands as quoted string, any other by RFC 2231 in UTF-8, in sections
+/// where one line cannot hold it; no character is split between sections.
+QByteArray parameter(const QByteArray& name, const QString& value);
+
 /// The header line with its line end, folded before blanks so that lines have at most 78 octets (RFC
 /// 5322 2.1.1) wherever a blank allows it.
 QByteArray foldedHeader(const QByteArray& name, const QByteArray& value);

@@ -1,5 +1,6 @@
 #include "platform/mail/QuotedPrintable.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -25,6 +26,10 @@ Kind kindOf(char c) {
     return kinds[static_cast<unsigned char>(c)];
 }
 
+bool isInnerBlank(const char* at, const char* end) {
+    return *at == ' ' && at + 1 != end && kindOf(at[1]) == Kind::Literal;
+}
+
 /// Writes into room that is large enough for the whole text.
 class Writer {
   public:
@@ -44,6 +49,18 @@ class Writer {
         *m_to++ = digits[value >> 4];
         *m_to++ = digits[value & 15];
         m_column += 3;
+    }
+
+    /// Copies what follows `at` for as long as it stands for itself and the line has room; gives the last
+    /// copied place.
+    const char* literals(const char* at, const char* end) {
+        char* to = m_to;
+        const char* const last = at + std::min<std::ptrdiff_t>(lineRoom - m_column, end - at - 1);
+        while (at < last && (kindOf(at[1]) == Kind::Literal || isInnerBlank(at + 1, end)))
+            *to++ = *++at;
+        m_column += static_cast<int>(to - m_to);
+        m_to = to;
+        return at;
     }
 
     void lineEnd() {
@@ -86,6 +103,7 @@ void appendQuotedPrintable(QByteArray& out, const QByteArray& text) {
                     writer.encoded(*at);
                 } else {
                     writer.literal(*at);
+                    at = writer.literals(at, end);
                 }
                 break;
             case Kind::Blank: {

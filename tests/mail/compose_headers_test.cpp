@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTimeZone>
+
+#include "mail/compose_support.h"
+#include "platform/mail/HeaderText.h"
+#include "platform/mail/Identity.h"
+#include "platform/system/Clock.h"
+
+using namespace compose;
+
+namespace {
+
+TEST(ComposeHeaders, EachNecessaryHeaderStandsOnce) {
+    EXPECT_EQ(complaintAbout(wire(plainMessage())).toStdString(), "");
+    EXPECT_EQ(header(wire(plainMessage()), "MIME-Version"), "1.0");
+}
+
+TEST(ComposeHeaders, AutoSubmittedIsNotSet) {
+    EXPECT_TRUE(headers(wire(plainMessage()), "Auto-Submitted").empty());
+}
+
+TEST(ComposeHeaders, PlainValuesStandAsTheyAre) {
+    const QByteArray message = wire(plainMessage());
+    EXPECT_EQ(header(message, "From"), "Orto Facile <info@orto.example>");
+    EXPECT_EQ(header(message, "To"), "Mario Rossi <m.rossi@example.it>");
+    EXPECT_EQ(header(message, "Subject"), "Le novita di maggio");
+}
+
+TEST(ComposeHeaders, EmptyNameLeavesTheBareAddress) {
+    auto message = plainMessage();
+    message.fromName.clear();
+    message.toName = "   ";
+    EXPECT_EQ(header(wire(message), "From"), "info@orto.example");
+    EXPECT_EQ(header(wire(message), "To"), "m.rossi@example.it");
+}
+
+TEST(ComposeHeaders, EmptySubjectKeepsItsHeader) {
+    auto message = plainMessage();
+    message.subject.clear();
+    EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
+    EXPECT_EQ(header(wire(message), "Subject"), "");
+}
+
+TEST(ComposeHeaders, NameWithSpecialCharactersIsQuoted) {
+    EXPECT_EQ(mail::namedAddress("Rossi, Mario", "a@b.it"), "\"Rossi, Mario\" <a@b.it>");
+    EXPECT_EQ(mail::namedAddress("Il \"Re\" \\", "a@b.it"), "\"Il \\\"Re\\\" \\\\\" <a@b.it>");
+    EXPECT_EQ(mail::namedAddress("c@d.it", "a@b.it"), "\"c@d.it\" <a@b.it>");
+    EXPECT_EQ(mail::namedAddress("O'Neil & figli", "a@b.it"), "O'Neil & figli <a@b.it>");
+}
+
+TEST(ComposeHeaders, AccentedTextBecomesEncodedWords) {
+    EXPECT_EQ(mail::unstructuredText(QStringLiteral("Perché non ora")), "=?utf-8?Q?Perch=C3=A9_non_ora?=");
+    EXPECT_EQ(mail::unstructuredText(QStringLiteral("日本")), "=?utf-8?B?5pel5pys?=");
+}
+
+TEST(ComposeHeaders, TextThatLooksEncodedIsEncoded) {
+    EXPECT_EQ(mail::unstructuredText("=?x?q?y?="), "=?utf-8?B?PT94P3E/eT89?=");
+}
+
+TEST(ComposeHeaders, BlanksThatFoldingWouldLoseAreEncoded) {
+    EXPECT_EQ(mail::unstructuredText(" x"), "=?utf-8?Q?_x?=");
+    EXPECT_EQ(mail::unstructuredText("x "), "=?utf-8?Q?x_?=");
+    EXPECT_EQ(mail::unstructuredText("x  y"), "=?utf-8?Q?x__y?=");
+}
+
+TEST(ComposeHeaders, EncodedWordsSplitNoCharacter) {
+    for (const QByteArray& word : mail::unstructuredText(QStringLiteral("👍é").repeated(200)).split(' ')) {
+        EXPECT_LE(word.size(), 75);
+        ASSERT_TRUE(word.startsWith("=?utf-8?B?") && word.endsWith("?="));
+        const QByteArray content = QByteArray::fromBase64(word.mid(10).chopped(2));
+        EXPECT_EQ(QString::fromUtf8(content).toUtf8(), content);
+        EXPECT_FALSE(QString::fromUtf8(content).contains(QChar::ReplacementCharacter));
+    }
+}
+
+TEST(ComposeHeaders, LongTextIsFoldedBeforeBlanks) {
+    auto message = plainMessage();
+    message.subject = QString("parole e ancora parole ").repeated(60).trimmed();
+    EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
+    EXPECT_EQ(header(wire(message), "Subject"), message.subject.toLatin1());
+}
+
+TEST(ComposeHeaders, LongWordIsEncodedSoThatItCanBeFolded) {
+    auto message = plainMessage();
+    message.subject = QString(5000, 'x');
+    message.toName = QString(2000, 'y');
+    EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
+}
+
+TEST(ComposeHeaders, LineEndsAndNulBecomeBlanksAndAddNoHeader) {
+    auto message = plainMessage();
+    const QString attack =
+        QString("x\r\nBcc: spia@example.it\nX-A: b\rX-C: d") + QChar(0) + "e" + QChar(0x2028) + "f";
+    message.subject = attack;
+    message.toName = attack;
+    message.fromName = attack;
+    const QByteArray data = wire(message);
+    EXPECT_EQ(complaintAbout(data).toStdString(), "");
+    EXPECT_TRUE(headers(data, "Bcc").empty());
+    EXPECT_TRUE(headers(data, "X-A").empty());
+    EXPECT_EQ(mail::singleLine(attack).toStdString(), "x  Bcc: spia@example.it X-A: b X-C: d e f");
+}
+
+TEST(ComposeHeaders, AddressThatIsNotOneAddressIsRefused) {
+    for (const char* address : {"", "a@b.it, c@d.it", "a@b.it\r\nBcc: c@d.it", "Mario <a@b.it>"}) {
+        auto message = plainMessage();
+        message.toAddress = address;
+        EXPECT_FALSE(mail::Composer().compose(message).ok()) << address;
+        message = plainMessage();
+        message.fromAddress = address;
+        EXPECT_FALSE(mail::Composer().compose(message).ok()) << address;
+    }
+}
+
+TEST(ComposeHeaders, InternationalDomainsAreALabelsEverywhere) {
+    auto message = plainMessage();
+    message.fromAddress = QStringLiteral("info@caffè.example");
+    message.toAddress = QStringLiteral("mario@città.example");
+    const auto composed = mail::Composer().compose(message);
+    ASSERT_TRUE(composed.ok());
+    EXPECT_FALSE(composed.value().needsSmtputf8);
+    EXPECT_EQ(header(composed.value().data, "From"), "Orto Facile <info@xn--caff-8oa.example>");
+    EXPECT_EQ(composed.value().to.address(), "mario@xn--citt-3na.example");
+    EXPECT_TRUE(composed.value().messageId.endsWith("@xn--caff-8oa.example>"));
+}
+
+TEST(ComposeHeaders, NonAsciiLocalPartNeedsSmtputf8) {
+    auto message = plainMessage();
+    message.toAddress = QStringLiteral("mario.però@example.it");
+    const auto composed = mail::Composer().compose(message);
+    ASSERT_TRUE(composed.ok());
+    EXPECT_TRUE(composed.value().needsSmtputf8);
+    EXPECT_EQ(header(composed.value().data, "To"),
+              QStringLiteral("Mario Rossi <mario.però@example.it>").toUtf8());
+}
+
+TEST(ComposeHeaders, DateHasNumericZone) {
+    const QDateTime when(QDate(2005, 3, 7), QTime(9, 5, 3), Qt::OffsetFromUTC, 3600 + 1800);
+    EXPECT_EQ(mail::dateText(when), "Mon, 7 Mar 2005 09:05:03 +0130");
+    EXPECT_EQ(mail::dateText(when.toUTC()), "Mon, 7 Mar 2005 07:35:03 +0000");
+    EXPECT_EQ(mail::dateText(when.toOffsetFromUtc(-12600)), "Mon, 7 Mar 2005 04:05:03 -0330");
+}
+
+TEST(ComposeHeaders, DateIsTheProgramsClock) {
+    const auto before = sys::clock();
+    sys::clock().now = [] {
+        return QDateTime(QDate(2004, 12, 31), QTime(23, 59, 59), Qt::OffsetFromUTC, 7200);
+    };
+    EXPECT_EQ(header(wire(plainMessage()), "Date"), "Fri, 31 Dec 2004 23:59:59 +0200");
+    sys::clock() = before;
+}
+
+TEST(ComposeHeaders, MessageIdBearsTheSendersDomain) {
+    mail::Composer composer;
+    const auto composed = composer.compose(plainMessage());
+    ASSERT_TRUE(composed.ok());
+    EXPECT_EQ(header(composed.value().data, "Message-ID"), composed.value().messageId);
+    const QRegularExpression form("\\A<[a-z0-9]+(\\.[a-z0-9]+)*@orto\\.example>\\z");
+    EXPECT_TRUE(form.match(QString::fromLatin1(composed.value().messageId)).hasMatch());
+}
+
+TEST(ComposeHeaders, MillionIdentifiersAreUnique) {
+    const QDateTime now = QDateTime::currentDateTime();
+    QSet<QByteArray> seen;
+    seen.reserve(1000000);
+    for (int source = 0; source < 4; ++source) {
+        mail::UniqueWords words;
+        for (int i = 0; i < 250000; ++i)
+            seen.insert(words.next(now));
+    }
+    EXPECT_EQ(seen.size(), 1000000);
+}
+
+TEST(ComposeHeaders, EachMessageOfARunHasItsOwnMessageId) {
+    QSet<QByteArray> seen;
+    mail::Composer first;
+    mail::Composer second;
+    for (int i = 0; i < 500; ++i) {
+        seen.insert(first.compose(plainMessage()).value().messageId);
+        seen.insert(second.compose(plainMessage()).value().messageId);
+    }
+    EXPECT_EQ(seen.size(), 1000);
+}
+
+TEST(ComposeHeaders, PriorityStandsInThreeHeaders) {
+    auto message = plainMessage();
+    message.priority = 1;
+    EXPECT_EQ(header(wire(message), "X-Priority"), "1 (Highest)");
+    EXPECT_EQ(header(wire(message), "Importance"), "high");
+    EXPECT_EQ(header(wire(message), "Priority"), "urgent");
+    message.priority = 5;
+    EXPECT_EQ(header(wire(message), "X-Priority"), "5 (Lowest)");
+    EXPECT_EQ(header(wire(message), "Importance"), "low");
+    EXPECT_EQ(header(wire(message), "Priority"), "non-urgent");
+}
+
+TEST(ComposeHeaders, NormalPriorityIsNotMentioned) {
+    for (const int priority : {3, 0, 2, 4, -1, 6}) {
+        auto message = plainMessage();
+        message.priority = priority;
+        EXPECT_TRUE(headers(wire(message), "X-Priority").empty());
+        EXPECT_TRUE(headers(wire(message), "Importance").empty());
+        EXPECT_TRUE(headers(wire(message), "Priority").empty());
+    }
+}
+
+QByteArray unsubscribeOf(const QString& html) {
+    auto message = plainMessage();
+    message.bodyHtml = html;
+    const QByteArray data = wire(message);
+    EXPECT_EQ(complaintAbout(data).toStdString(), "");
+    return header(data, "List-Unsubscribe");
+}
+
+TEST(ComposeHeaders, UnsubscribingIsAMailToTheSender) {
+    EXPECT_EQ(unsubscribeOf("<a href='http://x.it'>x</a>"), "<mailto:info@orto.example?subject=unsubscribe>");
+    auto message = plainMessage();
+    message.fromAddress = "\"a b?c\"@orto.example";
+    EXPECT_EQ(header(wire(message), "List-Unsubscribe"),
+              "<mailto:%22a%20b%3Fc%22@orto.example?subject=unsubscribe>");
+}
+
+TEST(ComposeHeaders, MarkedLinkTakesThePlaceOfTheMail) {
+    EXPECT_EQ(unsubscribeOf("<a rel=\"nofollow Unsubscribe\" href=\"https://x.it/u?a=1&amp;b=2\">x</a>"),
+              "<https://x.it/u?a=1&b=2>");
+    EXPECT_EQ(
+        unsubscribeOf("<A HREF=mailto:via@x.it REL=unsubscribe>x</A><a rel=unsubscribe href=http://y.it>"),
+        "<mailto:via@x.it>");
+}
+
+TEST(ComposeHeaders, MarkedLinkThatCannotStandInAHeaderIsPassedOver) {
+    const QByteArray mail = "<mailto:info@orto.example?subject=unsubscribe>";
+    EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe href='javascript:x()'>x</a>"), mail);
+    EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe>x</a>"), mail);
+    EXPECT_EQ(unsubscribeOf("<!-- <a rel=unsubscribe href='http://x.it'> -->"), mail);
+    EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe href='http://x.it/" + QString(2000, 'x') + "'>x</a>"), mail);
+}
+
+TEST(ComposeHeaders, MarkedLinkAddsNoHeader) {
+    const QByteArray link = unsubscribeOf("<a rel=unsubscribe href='https://x.it/a\r\nBcc: b@c.it> <'>x</a>");
+    EXPECT_TRUE(link.startsWith('<') && link.endsWith('>')) << link.toStdString();
+    EXPECT_EQ(link.count('<'), 1);
+    EXPECT_FALSE(link.contains(' '));
+    EXPECT_FALSE(link.contains("%0D"));
+    EXPECT_EQ(unsubscribeOf(QStringLiteral("<a rel=unsubscribe href='https://x.it/perché no'>x</a>")),
+              "<https://x.it/perch%C3%A9%20no>");
+}
+
+}  // namespace

@@ -1,0 +1,299 @@
+// Composes messages out of ordinary and hostile values and lets Python's e-mail parser, under its strict
+// policy, tell what it reads in them.
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "mail/compose_support.h"
+#include "platform/mail/HeaderText.h"
+
+using namespace compose;
+
+namespace {
+
+constexpr int messagesOfTheLoop = 600;
+
+// Line ends as they travel, NUL as a blank
+QString asSent(QString text) {
+    text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
+    return QString::fromUtf8(text.toUtf8());
+}
+
+class Values {
+  public:
+    explicit Values(quint32 seed) : m_random(seed) {}
+
+    int below(int bound) { return static_cast<int>(m_random.bounded(bound)); }
+
+    QString text(int most) {
+        static const QStringList pieces = {
+            "a",
+            "parola",
+            " ",
+            "  ",
+            "è",
+            "Niccolò",
+            "👍",
+            "日本",
+            "é̀",
+            "=?utf-8?q?x?=",
+            "=",
+            "?=",
+            "_",
+            "\"",
+            "\\",
+            "<",
+            ">",
+            "@",
+            ",",
+            ";",
+            ":",
+            "(",
+            ")",
+            "[",
+            "]",
+            ".",
+            "\r\n",
+            "\r",
+            "\n",
+            "\t",
+            "--",
+            "--=_",
+            "=_",
+            "\r\nBcc: x@y.it",
+            "\r\n\r\n",
+            "\r\n.\r\n",
+            "From ",
+            "\nFrom ",
+            ":::nom:::",
+            "&amp;",
+            "<img src='/etc/passwd'>",
+            "<a rel=unsubscribe href='http://x.it/\r\nA: b'>",
+            "<meta charset=x>",
+            "<!--",
+            "-->",
+            "<style>",
+            "\u00A0",
+            "\u2028",
+            "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"};
+        QString made;
+        for (int i = below(most + 1); i > 0; --i) {
+            const int kind = below(20);
+            if (kind == 0) {
+                made += QChar(below(0x20));
+            } else if (kind == 1) {
+                made += QChar(below(0xD800));
+            } else if (kind == 2) {
+                made += QChar(0xD800 + below(0x800));
+            } else {
+                made += pieces[below(static_cast<int>(pieces.size()))];
+            }
+        }
+        return made;
+    }
+
+    QString address() {
+        static const QStringList addresses = {"m.rossi@example.it", "o'neil+list@sub.example.it",
+                                              "\"a b\"@example.it", "x@città.example", "a@[192.0.2.1]"};
+        return addresses[below(static_cast<int>(addresses.size()))];
+    }
+
+  private:
+    QRandomGenerator m_random;
+};
+
+class ReadByPython : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        if (QStandardPaths::findExecutable("python3").isEmpty()) GTEST_SKIP() << "python3 is not installed";
+        makeFile(m_folder.filePath("logo.png"), pngContent(300));
+        makeFile(m_folder.filePath("allegato"), QByteArray("\0\r\n.\r\nFrom x", 13));
+    }
+
+    void add(const mail::MessageData& message) {
+        const auto composed = m_composer.compose(message);
+        ASSERT_TRUE(composed.ok()) << composed.status().text().toStdString();
+        EXPECT_EQ(complaintAbout(composed.value().data).toStdString(), "")
+            << composed.value().data.toStdString();
+        m_sent.push_back(message);
+        m_composed.push_back(composed.value());
+    }
+
+    // What Python understood of each message, in order
+    QJsonArray read() {
+        QByteArray all;
+        for (const auto& composed : m_composed)
+            all += QByteArray::number(composed.data.size()) + '\n' + composed.data;
+        QProcess python;
+        python.start("python3",
+                     {TEST_DATA_DIR "/../mail/check_message.py", makeFile(m_folder.filePath("all"), all)});
+        EXPECT_TRUE(python.waitForFinished(200000));
+        EXPECT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
+        const QJsonArray results = QJsonDocument::fromJson(python.readAllStandardOutput()).array();
+        EXPECT_EQ(static_cast<std::size_t>(results.size()), m_sent.size());
+        return results;
+    }
+
+    void expectAllRead() {
+        const QJsonArray results = read();
+        for (std::size_t i = 0; i < m_sent.size() && !HasFailure(); ++i) {
+            expectRead(m_sent[i], m_composed[i], results[static_cast<qsizetype>(i)].toObject());
+            if (HasFailure()) std::fputs(m_composed[i].data.constData(), stderr);
+        }
+    }
+
+    static QString text(const QString& value) { return QString::fromUtf8(mail::singleLine(value).toUtf8()); }
+
+    static void expectName(const QJsonObject& address, const QString& name) {
+        EXPECT_EQ(address["count"].toInt(), 1);
+        const QString expected = text(name).trimmed().isEmpty() ? QString() : text(name);
+        EXPECT_EQ(address["name"].toString().toStdString(), expected.toStdString());
+    }
+
+    void expectRead(const mail::MessageData& sent, const mail::ComposedMessage& composed,
+                    const QJsonObject& read) {
+        ASSERT_FALSE(read.contains("failure")) << read["failure"].toString().toStdString();
+        EXPECT_EQ(QJsonDocument(read["defects"].toArray()).toJson(QJsonDocument::Compact).toStdString(),
+                  "[]");
+        expectName(read["from"].toObject(), sent.fromName);
+        expectName(read["to"].toObject(), sent.toName);
+        EXPECT_EQ(read["to"].toObject()["address"].toString().toUtf8().toStdString(),
+                  composed.to.address().toStdString());
+        EXPECT_EQ(read["subject"].toString().toStdString(), text(sent.subject).toStdString());
+        EXPECT_EQ(read["message_id"].toString().toUtf8(), composed.messageId);
+        EXPECT_TRUE(read["unsubscribe"].toString().startsWith("<"));
+        expectContent(sent, read["leaves"].toArray());
+    }
+
+    static void expectContent(const mail::MessageData& sent, const QJsonArray& leaves) {
+        qsizetype next = 0;
+        const bool hasHtml = !sent.bodyHtml.toUtf8().trimmed().isEmpty();
+        const bool hasText = !sent.bodyText.toUtf8().trimmed().isEmpty() || !hasHtml;
+        if (hasText) {
+            EXPECT_EQ(leaves[next]["type"].toString(), "text/plain");
+            expectText(leaves[next++]["text"].toString(), asSent(sent.bodyText));
+        }
+        if (hasHtml) {
+            EXPECT_EQ(leaves[next]["type"].toString(), "text/html");
+            const QString html = leaves[next++]["text"].toString();
+            if (!sent.bodyHtml.contains("<meta") && !sent.bodyHtml.contains("logo.png")) {
+                expectText(html, asSent(sent.bodyHtml));
+            }
+        }
+        while (next < leaves.size() && leaves[next]["type"] == "image/png") {
+            EXPECT_EQ(leaves[next++]["hex"].toString(), QString::fromLatin1(pngContent(300).toHex()));
+        }
+        EXPECT_EQ(leaves.size() - next, sent.attachments.size());
+        for (const auto& attachment : sent.attachments) {
+            const QJsonObject part = leaves[next++].toObject();
+            EXPECT_EQ(part["disposition"].toString(), "attachment");
+            EXPECT_EQ(part["encoding"].toString(), "base64");
+            EXPECT_EQ(part["hex"].toString(),
+                      "000d0a2e0d0a46726f6d2078" + QString(part["hex"].toString().mid(24)));
+            EXPECT_FALSE(part["filename"].toString().contains('/'));
+            if (!attachment.name.contains('/') && !attachment.name.contains('\\') &&
+                attachment.name.size() < 40) {
+                EXPECT_EQ(part["filename"].toString().toStdString(),
+                          text(attachment.name).trimmed().toStdString());
+            }
+        }
+    }
+
+    // A message that is one text alone ends with a line end, whatever the text does
+    static void expectText(QString read, QString sent) {
+        if (read.endsWith("\r\n") && !sent.endsWith("\r\n")) read.chop(2);
+        EXPECT_EQ(read.toStdString(), sent.toStdString());
+    }
+
+    QTemporaryDir m_folder;
+    mail::Composer m_composer;
+    std::vector<mail::MessageData> m_sent;
+    std::vector<mail::ComposedMessage> m_composed;
+};
+
+TEST_F(ReadByPython, OrdinaryValuesComeBack) {
+    for (const QString& value :
+         {QString(), QString("Mario Rossi"), QStringLiteral("Niccolò Però, s.r.l."),
+          QStringLiteral("🎉 Perché no? 👨‍👩‍👧‍👦"), QString(" blanks  inside "),
+          QStringLiteral("è").repeated(700), QString("lunga riga ").repeated(200), QString(3000, 'x'),
+          QString("\"quoted\" \\ <a@b.it>, (c); [d]"), QString("=?utf-8?B?eA==?= =?x?q?y?=")}) {
+        auto message = plainMessage();
+        message.fromName = message.toName = message.subject = message.bodyText = value;
+        message.bodyHtml = "<p>" + value + "</p>";
+        add(message);
+    }
+    expectAllRead();
+}
+
+TEST_F(ReadByPython, HostileValuesComeBackAsText) {
+    Values values(20050307);
+    for (int i = 0; i < messagesOfTheLoop; ++i) {
+        mail::MessageData message;
+        message.fromName = values.text(12);
+        message.fromAddress = values.address();
+        message.toName = values.text(12);
+        message.toAddress = values.address();
+        message.subject = values.text(i % 10 == 0 ? 300 : 15);
+        message.bodyText = values.text(60);
+        message.bodyHtml = values.text(120);
+        message.priority = values.below(6);
+        if (i % 3 == 0) {
+            message.templateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
+            message.bodyHtml.prepend(message.templateHtml);
+        }
+        if (i % 4 == 0)
+            message.attachments.push_back({m_folder.filePath("allegato"), values.text(6) + "x.bin"});
+        if (i % 8 == 0)
+            message.attachments.push_back({m_folder.filePath("allegato"), QStringLiteral("però.dat")});
+        add(message);
+        if (HasFailure()) break;
+    }
+    expectAllRead();
+}
+
+TEST_F(ReadByPython, LayersStandInsideEachOther) {
+    auto message = plainMessage();
+    message.bodyHtml = message.templateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
+    message.attachments = {{m_folder.filePath("allegato"), "a.pdf"}};
+    add(message);
+    const QJsonArray results = read();
+    EXPECT_EQ(QJsonDocument(results[0]["tree"].toArray()).toJson(QJsonDocument::Compact).toStdString(),
+              "[\"multipart/mixed\",[\"multipart/related\",[\"multipart/alternative\",\"text/plain\",\"text/"
+              "html\"],"
+              "\"image/png\"],\"application/pdf\"]");
+}
+
+TEST_F(ReadByPython, FileNamesComeBack) {
+    auto message = plainMessage();
+    const QStringList names = {"listino.pdf",
+                               "con blanks.pdf",
+                               QStringLiteral("città è già 👍.pdf"),
+                               QStringLiteral("però ").repeated(30) + ".txt",
+                               QString(150, 'x') + ".zip",
+                               "a'b\"c;d=e.zip",
+                               "100%.zip",
+                               "utf-8''x.zip"};
+    for (const QString& name : names)
+        message.attachments.push_back({m_folder.filePath("allegato"), name});
+    add(message);
+    const QJsonArray results = read();
+    const QJsonArray leaves = results[0]["leaves"].toArray();
+    ASSERT_EQ(leaves.size(), names.size() + 2);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(leaves[i + 2]["filename"].toString().toStdString(), names[i].toStdString());
+        const QString plain = leaves[i + 2]["plain_name"].toString();
+        EXPECT_FALSE(plain.isEmpty());
+        for (const QChar c : plain)
+            EXPECT_LT(c.unicode(), 0x7F);
+    }
+    EXPECT_EQ(QJsonDocument(results[0]["defects"].toArray()).toJson(QJsonDocument::Compact).toStdString(),
+              "[]");
+}
+
+}  // namespace
