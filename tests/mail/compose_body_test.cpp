@@ -166,25 +166,32 @@ std::vector<std::string> imagesIn(const QByteArray& html) {
 using Values = std::vector<std::string>;
 
 TEST(HtmlReferences, ImagesBackgroundsAndStylesAreFound) {
-    EXPECT_EQ(imagesIn("<IMG alt='>' SRC=a.png><img/src='b c'/><img src=\"d&amp;e\">"),
-              (Values{"a.png", "b c", "d&e"}));
-    EXPECT_EQ(imagesIn("<body background=a><td class=x background='b'>"), (Values{"a", "b"}));
-    EXPECT_EQ(imagesIn("<p style=\"background:url(&quot;a b&quot;) x; c: URL( 'd' )\"><i style='e:url(f)'>"),
-              (Values{"a b", "d", "f"}));
-    EXPECT_EQ(imagesIn("<style>p { background: url(\"a\") } i { b: url(c) }</style><img src=d>"),
-              (Values{"a", "c", "d"}));
+    EXPECT_EQ(imagesIn("<IMG alt='>' SRC=/a.png><img/src='/b c'/><img src=\" \\d&amp;e \">"),
+              (Values{"/a.png", "/b c", "\\d&e"}));
+    EXPECT_EQ(imagesIn("<body background=/a><td class=x background='FILE:b'>"), (Values{"/a", "FILE:b"}));
+    EXPECT_EQ(
+        imagesIn("<p style=\"background:url(&quot;/a b&quot;) x; c: URL( '/d' )\"><i style='e:url(/f )'>"),
+        (Values{"/a b", "/d", "/f"}));
+    EXPECT_EQ(imagesIn("<style>p { background: url(\"/a\") } i { b: url(/c) }</style><img src=/d>"),
+              (Values{"/a", "/c", "/d"}));
+    EXPECT_EQ(imagesIn("<i style='a:url(/url(/b)'><i style='a:url(/c'>"), (Values{"/url(/b"}));
+}
+
+TEST(HtmlReferences, AddressesElsewhereAreNotMentioned) {
+    EXPECT_EQ(
+        imagesIn("<img src=http://x.it/a><img src=a.png><img src='data:image/png;base64,xx'><img src=''>"),
+        Values{});
 }
 
 TEST(HtmlReferences, FirstOfTwoAttributesCounts) {
-    EXPECT_EQ(imagesIn("<img src=a src=b>"), (Values{"a"}));
+    EXPECT_EQ(imagesIn("<img src=/a src=/b>"), (Values{"/a"}));
 }
 
 TEST(HtmlReferences, CommentsScriptsAndTextAreNoTags) {
-    EXPECT_EQ(
-        imagesIn(
-            "<!--<img src=a>--><script>'<img src=b>'</script><textarea><img src=c></textarea>&lt;img src=d>"),
-        Values{});
-    EXPECT_EQ(imagesIn("<title></tit<img src=a></title><img src=b>"), (Values{"b"}));
+    EXPECT_EQ(imagesIn("<!--<img src=/a>--><script>'<img src=/b>'</script><textarea><img "
+                       "src=/c></textarea>&lt;img src=/d>"),
+              Values{});
+    EXPECT_EQ(imagesIn("<title></tit<img src=/a></title><img src=/b>"), (Values{"/b"}));
 }
 
 }  // namespace

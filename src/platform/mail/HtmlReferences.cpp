@@ -105,6 +105,10 @@ class Reader {
                 ++m_at;
             }
         }
+        // the attributes of one tag may stand in any order
+        const auto inOrder = [](const auto& a, const auto& b) { return a.from < b.from; };
+        std::sort(m_found.images.begin(), m_found.images.end(), inOrder);
+        std::sort(m_found.charsets.begin(), m_found.charsets.end(), inOrder);
         return std::move(m_found);
     }
 
@@ -192,9 +196,9 @@ class Reader {
 
     void use(const Tag& tag) {
         if (!tag.style.empty()) findStyleImages(tag.style);
-        if (!tag.background.empty()) add(m_found.images, tag.background);
+        addImage(trimmed(tag.background));
         if (sameText(tag.name, "img"sv)) {
-            if (!tag.src.empty()) add(m_found.images, tag.src);
+            addImage(trimmed(tag.src));
         } else if (sameText(tag.name, "meta"sv)) {
             useMeta(tag);
         } else if (sameText(tag.name, "a"sv) || sameText(tag.name, "area"sv)) {
@@ -240,23 +244,30 @@ class Reader {
     }
 
     void findStyleImages(string_view style) {
-        std::size_t at = 0;
-        while ((at = findText(style, "url("sv, at)) != style.npos) {
-            at += 4;
-            string_view rest = style.substr(at);
-            const std::size_t blanks = rest.size() - trimmed(rest).size();
-            rest = trimmed(rest);
-            std::size_t length = rest.find(')');
+        while (true) {
+            const std::size_t at = findText(style, "url("sv, 0);
+            if (at == style.npos) return;
+            style = style.substr(at + 4);
+            while (!style.empty() && isBlank(style.front()))
+                style.remove_prefix(1);
+            string_view end = ")"sv;
             for (const string_view quote : {"\""sv, "'"sv, "&quot;"sv, "&#39;"sv, "&apos;"sv}) {
-                if (!startsWith(rest, quote)) continue;
-                rest.remove_prefix(quote.size());
-                length = rest.find(quote);
+                if (!startsWith(style, quote)) continue;
+                style.remove_prefix(quote.size());
+                end = quote;
                 break;
             }
-            if (length == rest.npos) return;
-            add(m_found.images, trimmed(rest.substr(0, length)));
-            at += blanks;
+            const std::size_t length = style.find(end);
+            if (length == style.npos) return;
+            addImage(trimmed(style.substr(0, length)));
+            style.remove_prefix(length);
         }
+    }
+
+    void addImage(string_view address) {
+        const bool mayBeLocal =
+            startsWith(address, "/"sv) || startsWith(address, "\\"sv) || startsWith(address, "file:"sv);
+        if (mayBeLocal) add(m_found.images, address);
     }
 
     void add(std::vector<HtmlReferences::Place>& places, string_view text) {

@@ -1,0 +1,26 @@
+// Whatever a body holds, the places found in it lie inside it, in order and apart.
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+#include "platform/mail/HtmlReferences.h"
+
+namespace {
+
+void check(const std::vector<mail::HtmlReferences::Place>& places, qsizetype size) {
+    qsizetype end = 0;
+    for (const auto& place : places) {
+        if (place.from < end || place.length < 0 || place.from + place.length > size) std::abort();
+        end = place.from + place.length;
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const QByteArray html(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    const auto references = mail::findReferences(html);
+    check(references.images, html.size());
+    check(references.charsets, html.size());
+    return 0;
+}
