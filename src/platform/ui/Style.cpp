@@ -1,7 +1,9 @@
 #include "platform/ui/Style.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTreeView>
 
 namespace ui {
 
@@ -13,6 +15,11 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         case SH_EtchDisabledText:
         case SH_DitherDisabledText:
             return 0;
+        case SH_ItemView_ShowDecorationSelected:
+            // The selection of a tree leaves the branch out.
+            return qobject_cast<const QTreeView*>(widget)
+                       ? 0
+                       : QProxyStyle::styleHint(hint, option, widget, data);
         default:
             return QProxyStyle::styleHint(hint, option, widget, data);
     }
@@ -28,6 +35,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
             return 16;
         case PM_ToolBarIconSize:
             return 22;
+        case PM_FocusFrameHMargin:
+        case PM_DockWidgetTitleMargin:
+            return 5;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -35,14 +45,17 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
-    if (element != PE_FrameFocusRect) {
+    const bool pointedTool = element == PE_PanelButtonTool && (option->state & State_AutoRaise) &&
+                             (option->state & State_MouseOver) && (option->state & State_Enabled);
+    if (element != PE_FrameFocusRect && !pointedTool) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
-    painter->setBrush(Qt::NoBrush);
+    // A tool button under the pointer looks like a menu entry under it.
+    painter->setBrush(pointedTool ? QApplication::palette("QMenu").brush(QPalette::Highlight) : Qt::NoBrush);
     painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     painter->restore();
 }

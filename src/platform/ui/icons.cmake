@@ -2,8 +2,35 @@
 # :/icons/vestrola at sizes 16 and 22, with the theme's licence. A name that the theme lacks stops the configuration.
 set(VESTROLA_ICON_NAMES
   application-exit
+  application-vnd.ms-access
+  document-edit
+  document-open
+  document-save-as
   document-send
-  media-playback-stop)
+  edit-clear-all
+  edit-copy
+  edit-delete
+  edit-rename
+  edit-select-all
+  edit-select-none
+  folder
+  folder-new
+  folder-open
+  globe
+  go-top
+  help-about
+  help-contents
+  languages
+  list-add-user
+  list-remove-user
+  mail-message
+  mail-message-new
+  media-playback-stop
+  resource-group
+  server-database
+  text-csv
+  user-properties
+  view-pim-contacts)
 
 set(breeze_dir /usr/share/icons/breeze CACHE PATH "Breeze icon theme, the source of the compiled-in icons")
 set(breeze_licence /usr/share/doc/breeze-icon-theme/copyright CACHE FILEPATH "licence of the Breeze icon theme")

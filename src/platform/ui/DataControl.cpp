@@ -1,0 +1,12 @@
+#include "platform/ui/DataControl.h"
+
+namespace ui {
+
+Status DataControl::Refresh() {
+    Result<ado::Snapshot> rows = ado::Snapshot::take(m_connectionString, m_recordSource);
+    if (!rows.ok()) return rows.status();
+    Q_EMIT refreshed(rows.value());
+    return {};
+}
+
+}  // namespace ui

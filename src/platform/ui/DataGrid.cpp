@@ -1,0 +1,148 @@
+#include "platform/ui/DataGrid.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QPainter>
+
+#include "platform/ui/DataGridPaint.h"
+
+namespace ui {
+
+namespace {
+
+constexpr int lineHeight = 24;
+constexpr int designWidth = 100;
+
+}  // namespace
+
+DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
+    setHorizontalHeader(new DataGridHeader(this));
+    setModel(m_model);
+    setItemDelegate(new DataGridDelegate(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    viewport()->setMouseTracking(true);
+    horizontalHeader()->viewport()->setMouseTracking(true);
+    horizontalHeader()->viewport()->installEventFilter(this);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+        if (!m_applyingWidths && width > 0)
+            m_widths[static_cast<size_t>(m_model->sourceColumn(column))] = width;
+    });
+    m_lineColor = palette().color(QPalette::Mid);
+    m_fixedColor = palette().color(QPalette::Window);
+    applyFont();
+}
+
+void DataGrid::setDataSource(DataControl* source) {
+    connect(source, &DataControl::refreshed, this, &DataGrid::fill);
+}
+
+void DataGrid::fill(ado::Snapshot& rows) {
+    const int column = Col();
+    m_model->setSnapshot(std::move(rows));
+    m_widths.resize(static_cast<size_t>(m_model->columnCount()), designWidth);
+    applyWidths();
+    Q_EMIT afterDataRefresh();
+    int current = column;
+    while (current < m_model->columnCount() && isColumnHidden(current))
+        ++current;
+    setCurrentIndex(m_model->index(0, current));
+    scrollToTop();
+}
+
+void DataGrid::setCellChecked(int state) {
+    if (m_model->isCheckColumn(Col()))
+        setTextMatrix(Row(), Col(), state == 1 ? QStringLiteral("True") : QStringLiteral("False"));
+}
+
+void DataGrid::setColWidth(int column, int width) {
+    if (column < 0 || column >= m_model->columnCount()) return;
+    m_widths[static_cast<size_t>(m_model->sourceColumn(column))] = width;
+    applyWidths();
+}
+
+void DataGrid::setColPosition(int column, int position) {
+    m_model->moveGridColumn(column, position);
+    applyWidths();
+}
+
+void DataGrid::applyWidths() {
+    m_applyingWidths = true;
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        const int width = m_widths[static_cast<size_t>(m_model->sourceColumn(column))];
+        setColumnHidden(column, width <= 0);
+        if (width > 0) setColumnWidth(column, width);
+    }
+    m_applyingWidths = false;
+}
+
+void DataGrid::applyFont() {
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(qMax(lineHeight, fontMetrics().height() + 6));
+}
+
+void DataGrid::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) applyFont();
+}
+
+void DataGrid::setLineColor(const QColor& color) {
+    m_lineColor = color;
+    update();
+}
+
+void DataGrid::setFixedColor(const QColor& color) {
+    m_fixedColor = color;
+    update();
+}
+
+void DataGrid::setRole(QPalette::ColorRole role, const QColor& color) {
+    QPalette changed = palette();
+    changed.setColor(role, color);
+    setPalette(changed);
+}
+
+void DataGrid::setBackColor(const QColor& color) {
+    setRole(QPalette::Base, color);
+}
+
+void DataGrid::setAlternateBackColor(const QColor& color) {
+    setRole(QPalette::AlternateBase, color);
+}
+
+void DataGrid::setEmptyText(const QString& text) {
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+    // Without the keyboard focus the current row keeps a shade only.
+    if (!hasFocus()) option->state &= ~QStyle::State_Active;
+}
+
+void DataGrid::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (Rows() > 1) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                     m_emptyText);
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect rim;
+    rim.initFrom(this);
+    rim.rect = viewport()->rect();
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rim, &painter, this);
+}
+
+}  // namespace ui

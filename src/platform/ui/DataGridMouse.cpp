@@ -1,0 +1,86 @@
+// Clicks, keys and drags of the grid.
+#include <QApplication>
+#include <QDrag>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QMouseEvent>
+
+#include "platform/ui/DataGrid.h"
+
+namespace ui {
+
+QString DataGrid::rowMimeType() {
+    return QStringLiteral("application/x-vestrola-row");
+}
+
+void DataGrid::mousePressEvent(QMouseEvent* event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    m_pressed = event->button() == Qt::LeftButton ? cell : QModelIndex();
+    m_pressedAt = m_pointer = event->position().toPoint();
+    // A press beside the rows leaves the current one alone.
+    if (cell.isValid()) QTableView::mousePressEvent(event);
+}
+
+void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const QPersistentModelIndex pressed = std::exchange(m_pressed, {});
+    if (event->button() == Qt::LeftButton && pressed.isValid() &&
+        indexAt(event->position().toPoint()) == pressed)
+        Q_EMIT click();
+    Q_EMIT mouseUp(event->button(), event->globalPosition().toPoint());
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    m_pressed = QModelIndex();
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !cell.isValid()) return;
+    setCurrentIndex(cell);
+    Q_EMIT dblClick();
+}
+
+void DataGrid::mouseMoveEvent(QMouseEvent* event) {
+    // With the button down the toolkit would move the selection along; here it means a drag.
+    m_pointer = event->position().toPoint();
+    if (!(event->buttons() & Qt::LeftButton)) QTableView::mouseMoveEvent(event);
+    Q_EMIT mouseMove(event->buttons());
+}
+
+void DataGrid::keyPressEvent(QKeyEvent* event) {
+    const int box = m_model->firstCheckColumn();
+    if (event->key() != Qt::Key_Space || box < 0 || Row() == 0) {
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    const int column = Col();
+    setCurrentIndex(currentIndex().siblingAtColumn(box));
+    Q_EMIT click();
+    setCurrentIndex(currentIndex().siblingAtColumn(column));
+}
+
+bool DataGrid::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == horizontalHeader()->viewport()) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (event->type() == QEvent::MouseMove) Q_EMIT mouseMove(Qt::NoButton);
+        if (event->type() == QEvent::MouseButtonRelease)
+            Q_EMIT mouseUp(mouse->button(), mouse->globalPosition().toPoint());
+    }
+    return QTableView::eventFilter(watched, event);
+}
+
+void DataGrid::Drag() {
+    if (!m_pressed.isValid() ||
+        (m_pointer - m_pressedAt).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_pressed = QModelIndex();
+    QRect row = visualRect(currentIndex());
+    row.setLeft(0);
+    row.setRight(viewport()->width() - 1);
+    auto* content = new QMimeData;
+    content->setData(rowMimeType(), {});
+    auto* drag = new QDrag(this);
+    drag->setMimeData(content);
+    drag->setPixmap(viewport()->grab(row.intersected(QRect(0, 0, 320, viewport()->height()))));
+    drag->exec(Qt::MoveAction);
+}
+
+}  // namespace ui

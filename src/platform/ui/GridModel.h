@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QHash>
+#include <QStringList>
+#include <vector>
+
+#include "platform/ado/Snapshot.h"
+
+namespace ui {
+
+/// What a DataGrid shows: a snapshot of rows, with the few cells that were written by hand over it. Rows and
+/// columns are numbered as the grid numbers them: row 0 is the heading row (which the toolkit's own row
+/// numbers leave out), column 0 the fixed leading column. Numbers that do not exist give an empty text and
+/// are otherwise ignored.
+class GridModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Takes over new rows. The columns are those of the table, in its order, behind the leading one, headed
+    /// by their names.
+    void setSnapshot(ado::Snapshot rows);
+    /// Empties all cells and headings.
+    void clearTexts();
+    void truncate(int rows);
+    void removeGridRow(int row);
+    void moveGridColumn(int from, int to);
+
+    int gridRows() const { return static_cast<int>(m_rows.size()) + 1; }
+    QString text(int row, int column) const;
+    void setText(int row, int column, const QString& text);
+    /// Columns of yes/no are shown as check boxes.
+    bool isCheckColumn(int column) const;
+    /// -1 when there is none.
+    int firstCheckColumn() const;
+    bool isChecked(int row, int column) const;
+    /// Which column this was before columns were moved.
+    int sourceColumn(int column) const { return m_order[static_cast<size_t>(column)]; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  private:
+    bool exists(int row, int column) const;
+    quint64 cell(int row, int column) const;
+    ado::Value value(int row, int column) const;
+
+    ado::Snapshot m_rows;
+    bool m_blank = false;      ///< clearTexts() was called since the last fill
+    std::vector<int> m_order;  ///< source column at each position
+    QStringList m_headings;    ///< by source column
+    QHash<quint64, QString> m_written;
+};
+
+}  // namespace ui

@@ -1,0 +1,121 @@
+// Clicks, keys and drags of the tree.
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+
+#include "platform/ui/DataGrid.h"
+#include "platform/ui/GroupTreeItem.h"
+
+namespace ui {
+
+namespace {
+
+const QString nodeMimeType = QStringLiteral("application/x-vestrola-node");
+
+}  // namespace
+
+void GroupTree::clickNode(const GroupNodeRef& node) {
+    m_lastClicked = node;
+    Q_EMIT nodeClick(node);
+    Q_EMIT click();
+}
+
+void GroupTree::mousePressEvent(QMouseEvent* event) {
+    const QPoint position = event->position().toPoint();
+    const GroupNodeRef node = HitTest(position);
+    const bool onBranch = node && position.x() < visualItemRect(node->m_item).left();
+    m_pressed = nullptr;
+    m_pressedEmptySpace = !node && event->button() == Qt::LeftButton;
+    if (!node) return;
+    if (onBranch || event->button() == Qt::LeftButton) {
+        if (!onBranch) m_pressed = node;
+        QTreeWidget::mousePressEvent(event);
+    } else if (event->button() == Qt::RightButton) {
+        setFocus(Qt::MouseFocusReason);
+        setSelectedItem(node);
+        clickNode(node);
+    }
+}
+
+void GroupTree::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        const GroupNodeRef pressed = std::exchange(m_pressed, nullptr);
+        if (pressed && pressed->m_item && HitTest(event->position().toPoint()) == pressed) {
+            clickNode(pressed);
+        } else if (pressed) {
+            setSelectedItem(m_lastClicked);
+        } else if (std::exchange(m_pressedEmptySpace, false)) {
+            Q_EMIT click();
+        }
+    }
+    Q_EMIT mouseUp(event->button(), event->globalPosition().toPoint());
+}
+
+void GroupTree::mouseMoveEvent(QMouseEvent* event) {
+    QTreeWidget::mouseMoveEvent(event);
+    Q_EMIT mouseMove();
+}
+
+void GroupTree::keyPressEvent(QKeyEvent* event) {
+    const QTreeWidgetItem* before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    const bool again =
+        state() != EditingState &&
+        (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space);
+    QTreeWidgetItem* now = currentItem();
+    if (!now || (now == before && !again)) return;
+    setCurrentItem(now);
+    clickNode(static_cast<GroupTreeItem*>(now)->node());
+    event->accept();
+}
+
+void GroupTree::startDrag(Qt::DropActions) {
+    const GroupNodeRef dragged = std::exchange(m_pressed, nullptr);
+    if (!dragged) return;
+    const QRect area = visualItemRect(dragged->m_item);
+    auto* content = new QMimeData;
+    content->setData(nodeMimeType, {});
+    auto* drag = new QDrag(this);
+    drag->setMimeData(content);
+    drag->setPixmap(viewport()->grab(area.intersected(viewport()->rect())));
+    setSelectedItem(m_lastClicked);
+    drag->exec(Qt::MoveAction);
+}
+
+bool GroupTree::accepts(const QDropEvent* event) const {
+    // Only drags of this program: a row of another one is not the row that its own grid shows as current.
+    return event->source() && (event->mimeData()->hasFormat(nodeMimeType) ||
+                               event->mimeData()->hasFormat(DataGrid::rowMimeType()));
+}
+
+void GroupTree::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(accepts(event));
+}
+
+void GroupTree::dragMoveEvent(QDragMoveEvent* event) {
+    QTreeWidget::dragMoveEvent(event);
+    event->setAccepted(accepts(event));
+    if (event->isAccepted()) Q_EMIT draggedOver(HitTest(event->position().toPoint()));
+}
+
+void GroupTree::dragLeaveEvent(QDragLeaveEvent* event) {
+    QTreeWidget::dragLeaveEvent(event);
+    Q_EMIT draggedOver(nullptr);
+}
+
+void GroupTree::dropEvent(QDropEvent* event) {
+    QDragLeaveEvent over;
+    QTreeWidget::dragLeaveEvent(&over);
+    if (!accepts(event)) return;
+    event->acceptProposedAction();
+    const GroupNodeRef node = HitTest(event->position().toPoint());
+    if (event->mimeData()->hasFormat(nodeMimeType)) {
+        Q_EMIT nodeDropped(node);
+    } else {
+        Q_EMIT rowDropped(node);
+    }
+}
+
+}  // namespace ui
