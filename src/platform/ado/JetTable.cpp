@@ -76,9 +76,16 @@ Result<int32_t> JetTable::takeAutoNumber() {
     return target.value()->takeAutoNumber();
 }
 
+/// Before a row moves in the orders for which `affected` is true.
+template <class Affected>
+void JetTable::countMove(Affected affected) {
+    if (++m_moves > mostMoves) std::erase_if(m_orders, [&](const auto& order) { return affected(*order); });
+}
+
 Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
+    countMove([](const RowOrder&) { return true; });
     Result<jet::RowId> id = target.value()->insert(values);
     if (!id.ok() || m_orders.empty()) return id;
     const Result<std::optional<jet::RowView>> row = target.value()->row(id.value());
@@ -92,17 +99,24 @@ Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
 Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
+    const auto affected = [&](const RowOrder& order) {
+        return std::any_of(changes.begin(), changes.end(),
+                           [&](const auto& change) { return order.spec().uses(change.first); });
+    };
+    countMove(affected);
     std::vector<std::pair<RowOrder*, std::string>> moved;
-    Result<std::optional<jet::RowView>> row = target.value()->row(id);
-    if (!row.ok()) return row.status();
-    if (!row.value()) return rowGone();
     for (const auto& order : m_orders)
-        if (std::any_of(changes.begin(), changes.end(),
-                        [&](const auto& c) { return order->spec().uses(c.first); }))
-            moved.emplace_back(order.get(), order->keyOf(*row.value()));
+        if (affected(*order)) moved.emplace_back(order.get(), std::string());
+    if (!moved.empty()) {
+        const Result<std::optional<jet::RowView>> row = target.value()->row(id);
+        if (!row.ok()) return row.status();
+        if (!row.value()) return rowGone();
+        for (auto& [order, key] : moved)
+            key = order->keyOf(*row.value());
+    }
     const Status status = target.value()->update(id, changes);
     if (!status.ok() || moved.empty()) return status;
-    row = target.value()->row(id);
+    const Result<std::optional<jet::RowView>> row = target.value()->row(id);
     if (!row.ok()) return row.status();
     if (!row.value()) return rowGone();
     for (const auto& [order, key] : moved) {
@@ -115,11 +129,14 @@ Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Va
 Status JetTable::erase(jet::RowId id) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
-    const Result<std::optional<jet::RowView>> row = target.value()->row(id);
-    if (!row.ok()) return row.status();
-    if (!row.value()) return rowGone();
-    for (const auto& order : m_orders)
-        order->remove(order->keyOf(*row.value()), id);
+    countMove([](const RowOrder&) { return true; });
+    if (!m_orders.empty()) {
+        const Result<std::optional<jet::RowView>> row = target.value()->row(id);
+        if (!row.ok()) return row.status();
+        if (!row.value()) return rowGone();
+        for (const auto& order : m_orders)
+            order->remove(order->keyOf(*row.value()), id);
+    }
     return target.value()->erase(id);
 }
 

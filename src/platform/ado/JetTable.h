@@ -36,6 +36,8 @@ class JetTable {
     Status update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes);
     Status erase(jet::RowId id);
 
+    /// A statement begins. One that moves very many rows drops the orders it would have to mend.
+    void beginStatement() { m_moves = 0; }
     /// Drops everything that was learnt from the file.
     void forget();
     /// Whether the file still holds the table with the same columns.
@@ -43,13 +45,17 @@ class JetTable {
 
   private:
     Result<jet::Table*> table();
+    template <class Affected>
+    void countMove(Affected affected);
 
     static constexpr size_t keptOrders = 8;
+    static constexpr int mostMoves = 4000;  ///< about where mending costs as much as making anew
 
     jet::Database& m_database;
     jet::TableDefinition m_definition;
     jet::Table* m_table = nullptr;                    ///< null until it is needed
     std::vector<std::shared_ptr<RowOrder>> m_orders;  ///< the most recently used one last
+    int m_moves = 0;                                  ///< of rows in orders, in this statement
 };
 
 }  // namespace ado

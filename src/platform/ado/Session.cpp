@@ -186,6 +186,8 @@ Status Session::write(const std::function<Status()>& work) {
     for (Rows* reader : m_readers)
         if (Status status = reader->finish(); !status.ok()) return status;
     if (Status status = m_database->begin(); !status.ok()) return status;
+    for (auto& [name, table] : m_tables)
+        table->beginStatement();
     Status status = refresh();
     if (status.ok()) status = work();
     if (status.ok()) status = m_database->commit();

@@ -23,6 +23,8 @@ Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& st
     if (!session.ok()) return session.status();
     const Result<StatementText> text = StatementText::read(statement);
     if (!text.ok()) return text.status();
+    const jet::ReadScope reading(session.value()->database());
+    if (!reading.status().ok()) return reading.status();
     auto run = text.value().verb == StatementText::Verb::Select
                    ? Rows::run(session.value(), text.value())
                    : Status(ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una SELECT."));
