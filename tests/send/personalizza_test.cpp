@@ -1,7 +1,9 @@
 #include "send/Personalizza.h"
 
 #include <map>
+#include <QTemporaryDir>
 
+#include "platform/jet/Database.h"
 #include "support/Vectors.h"
 
 namespace {
@@ -114,4 +116,33 @@ TEST(Personalisation, TextOfNothingButColonsTakesTimeInProportion) {
     const QString colons(100'000, u':');
     EXPECT_EQ(personalized(colons + QStringLiteral("rgs") + colons, {{"rgs", QString()}}),
               colons.chopped(3) + colons.chopped(3));
+}
+
+TEST(RecipientColumns, AreReadFromTheCurrentRow) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("data.mdb"));
+    ASSERT_TRUE(jet::createEmptyDatabase(path).ok());
+    const QString connection = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + path;
+    ado::Recordset rows;
+    ASSERT_TRUE(rows.setActiveConnection(connection).ok());
+    rows.setCursorType(ado::CursorType::Keyset);
+    rows.setLockType(ado::LockType::Optimistic);
+    rows.setSource(QStringLiteral("SELECT * FROM [tb_destinatari];"));
+    ASSERT_TRUE(rows.open().ok());
+    const LeggiColonna read = ColonneDi(rows);
+    EXPECT_FALSE(read(QStringLiteral("rgs")).ok()) << "there is no row yet";
+
+    ASSERT_TRUE(rows.addNew().ok());
+    ASSERT_TRUE(rows.setValue(u"rgs", QStringLiteral("Società Perù")).ok());
+    ASSERT_TRUE(rows.setValue(u"nom", QString()).ok());
+    ASSERT_TRUE(rows.update().ok());
+    EXPECT_EQ(read(QStringLiteral("rgs")).value(), QStringLiteral("Società Perù"));
+    EXPECT_EQ(read(QStringLiteral("nom")).value(), QString());
+    EXPECT_EQ(read(QStringLiteral("loc")).value(), std::nullopt);
+    EXPECT_EQ(read(QStringLiteral("id")).value(), QStringLiteral("1"));
+    EXPECT_EQ(read(QStringLiteral("campo10")).status().code(), ErrorCode::ItemNotFound);
+    EXPECT_EQ(Personalizza(QStringLiteral(":::rgs:::|:::nom:::|:::loc:::"), LeggiValori(read)),
+              QStringLiteral("Società Perù||:::loc:::"));
+    rows.close();
+    ado::closeAll();
 }
