@@ -132,7 +132,7 @@ class Table {
 class Database {
   public:
     struct Options {
-        QString password;
+        QString password = {};
         bool readOnly = false;
         int lockWaitMs = 5000;      ///< longest wait for another process
         size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides

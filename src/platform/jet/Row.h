@@ -50,9 +50,4 @@ StoredField storedField(const TableDefinition& definition, const Column& column,
 /// The mask bit of a column.
 bool maskBit(const Column& column, std::span<const uint8_t> row);
 
-/// Bytes that a column takes in the fixed area.
-size_t fixedLength(const Column& column);
-/// Value of stored bytes. Bytes too short for their type are Null.
-Value decodeValue(const Column& column, std::span<const uint8_t> bytes);
-
 }  // namespace jet

@@ -2,6 +2,7 @@
 #include "platform/jet/Format.h"
 #include "platform/jet/JetText.h"
 #include "platform/jet/Row.h"
+#include "platform/jet/ValueCodec.h"
 
 namespace jet {
 

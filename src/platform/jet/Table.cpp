@@ -6,6 +6,7 @@
 #include "platform/jet/Key.h"
 #include "platform/jet/LongValue.h"
 #include "platform/jet/Row.h"
+#include "platform/jet/ValueCodec.h"
 
 namespace jet {
 

@@ -7,7 +7,6 @@
 #include "platform/jet/Failure.h"
 #include "platform/jet/Format.h"
 #include "platform/jet/JetText.h"
-#include "platform/jet/Row.h"
 
 namespace jet {
 

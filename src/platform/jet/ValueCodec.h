@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "platform/jet/TableDefinition.h"
 
@@ -15,5 +16,10 @@ bool yesNoValue(const Column& column, const Value& value);
 
 /// Whether the engine can store values in the column. If not, `why` completes "Il campo … ".
 bool isWritable(const Column& column, QString& why);
+
+/// Bytes that a column takes in the fixed area.
+size_t fixedLength(const Column& column);
+/// Value of stored bytes. Bytes too short for their type are Null.
+Value decodeValue(const Column& column, std::span<const uint8_t> bytes);
 
 }  // namespace jet

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <QTemporaryDir>
+#include <string>
+#include <vector>
+
+#include "platform/jet/Database.h"
+#include "support/JetChecker.h"
+
+/// A folder of its own and the ways into the engine that the tests share. Failures end the running test.
+class JetTest : public ::testing::Test {
+  protected:
+    using Row = std::vector<jet::Value>;
+    using Rows = std::map<jet::RowId, Row>;
+    using DatabasePtr = std::unique_ptr<jet::Database>;
+
+    QString path(const char* name = "data.mdb") const { return m_folder.filePath(QString::fromUtf8(name)); }
+    static std::string local(const QString& path) { return path.toStdString(); }
+
+    /// A fresh empty database, opened.
+    DatabasePtr create(const QString& file) {
+        const Status status = jet::createEmptyDatabase(file);
+        if (!status.ok()) throw std::runtime_error(status.text().toStdString());
+        return open(file);
+    }
+    static DatabasePtr open(const QString& file, const jet::Database::Options& options = {}) {
+        auto database = jet::Database::open(file, options);
+        if (!database.ok()) throw std::runtime_error(database.status().text().toStdString());
+        return std::move(database).value();
+    }
+    static jet::Table& table(jet::Database& database, QStringView name = u"tb_destinatari") {
+        auto found = database.table(name);
+        if (!found.ok()) throw std::runtime_error(found.status().text().toStdString());
+        return *found.value();
+    }
+    static Rows rowsOf(jet::Table& table) {
+        Rows rows;
+        const size_t columns = table.definition().columns.size();
+        const Status status = table.scan([&](jet::RowId id, const jet::RowView& view) {
+            Row row;
+            for (size_t i = 0; i < columns; ++i)
+                row.push_back(view.value(i));
+            rows[id] = std::move(row);
+            return true;
+        });
+        if (!status.ok()) throw std::runtime_error(status.text().toStdString());
+        return rows;
+    }
+    static std::string bytesOf(const QString& file) {
+        std::ifstream in(local(file), std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    static void writeBytes(const QString& file, const std::string& bytes) {
+        std::ofstream out(local(file), std::ios::binary | std::ios::trunc);
+        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+    /// A recipient with the given name in `rgs`, in group 1.
+    static Row recipient(const jet::Table& table, const std::string& name) {
+        Row row(table.definition().columns.size());
+        row[1] = int64_t{1};
+        row[2] = name;
+        row.back() = true;
+        return row;
+    }
+    static jet::RowId insert(jet::Table& table, const Row& row) {
+        auto id = table.insert(row);
+        if (!id.ok()) throw std::runtime_error(id.status().text().toStdString());
+        return id.value();
+    }
+    static void expectSound(const QString& file) {
+        EXPECT_EQ(checkJetFile(local(file)), std::vector<std::string>()) << local(file);
+    }
+    /// A sample file of the shared folder, or an empty path with a note when the folder is not there.
+    static std::string sample(const char* name) {
+        const std::string file = std::string(SHARED_DIR "/mdb/") + name;
+        if (std::filesystem::exists(file)) return file;
+        std::printf("[ SAMPLES  ] %s is not here: its part of the test was skipped\n", file.c_str());
+        return {};
+    }
+
+    QTemporaryDir m_folder;
+};
+
+#define EXPECT_OK(call)                                    \
+    do {                                                   \
+        const auto& outcome_ = (call);                     \
+        EXPECT_TRUE(outcome_.ok()) << jetTextOf(outcome_); \
+    } while (false)
+#define EXPECT_FAILS(expected, call)                                     \
+    do {                                                                 \
+        const auto& outcome_ = (call);                                   \
+        EXPECT_EQ(jetCodeOf(outcome_), expected) << jetTextOf(outcome_); \
+    } while (false)
+
+inline std::string jetTextOf(const Status& status) {
+    return status.text().toStdString();
+}
+inline ErrorCode jetCodeOf(const Status& status) {
+    return status.code();
+}
+template <class T>
+std::string jetTextOf(const Result<T>& result) {
+    return result.status().text().toStdString();
+}
+template <class T>
+ErrorCode jetCodeOf(const Result<T>& result) {
+    return result.status().code();
+}
