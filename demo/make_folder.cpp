@@ -55,6 +55,7 @@ qint64 addGroup(const QString& name) {
 void fillDatabase(const QString& path) {
     esigi(jet::createEmptyDatabase(path));
     CambiaPercorsoDBase(path);
+    CaricaPercorsoDBase();
     const QStringList lines =
         readText(QStringLiteral(DEMO_DIR "/recipients.tsv")).split('\n', Qt::SkipEmptyParts);
     const QStringList columns = lines.first().split('\t');
