@@ -9,7 +9,7 @@ if(VESTROLA_WERROR)
   target_compile_options(vestrola_options INTERFACE -Werror)
 endif()
 if(VESTROLA_SANITIZE)
-  target_compile_options(vestrola_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+  target_compile_options(vestrola_options INTERFACE -O1 -g1 -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                     -fno-omit-frame-pointer)
   target_link_options(vestrola_options INTERFACE -fsanitize=address,undefined)
 endif()
@@ -17,10 +17,12 @@ if(VESTROLA_FUZZ)
   target_compile_options(vestrola_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# vestrola_platform(<folder> SOURCES ... LIBRARIES ...): static library vestrola_<folder>
+# vestrola_platform(<folder> [MOC] SOURCES ... LIBRARIES ...): static library vestrola_<folder>; MOC where a class
+# has signals
 function(vestrola_platform name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "MOC" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(vestrola_${name} STATIC ${ARG_SOURCES})
+  set_target_properties(vestrola_${name} PROPERTIES AUTOMOC ${ARG_MOC})
   target_link_libraries(vestrola_${name} PUBLIC vestrola_options Qt6::Core ${ARG_LIBRARIES})
 endfunction()
 
@@ -51,6 +53,7 @@ endfunction()
 function(vestrola_qtest name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE vestrola_options Qt6::Test ${ARG_LIBRARIES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
