@@ -1,0 +1,260 @@
+#include <QAccessible>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "platform/ui/Desktop.h"
+#include "platform/ui/PropertyList.h"
+
+using ui::PropertyList;
+
+namespace {
+
+/// A dialog with a list of two groups and a default button, as a form has it.
+struct Form {
+    QDialog dialog;
+    PropertyList* list = new PropertyList;
+    QPushButton* save = new QPushButton("Salva");
+    int saved = 0;
+
+    Form() {
+        auto* column = new QVBoxLayout(&dialog);
+        column->addWidget(list);
+        column->addWidget(save);
+        save->setDefault(true);
+        QObject::connect(save, &QPushButton::clicked, &dialog, [this] { ++saved; });
+        list->addGroup("Main", "Dati");
+        list->addBoolean("Spedire", "Send", "Da spedire");
+        list->addText("Email", "Email", "Indirizzo (max 255 caratteri)");
+        list->addText("Provincia", "Provincia", "Sigla (max 2 caratteri)");
+        list->addGroup("Altro", "Altro");
+        list->addText("Campo1", "Campo 1", "Campo libero 1");
+        list->addColour("Sfondo", "Sfondo", "Colore dello sfondo");
+        dialog.resize(400, 400);
+        dialog.show();
+        dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        list->setFocus();
+    }
+    QTreeWidget* view() { return list->findChild<QTreeWidget*>(); }
+    QLineEdit* editor() { return view()->viewport()->findChild<QLineEdit*>(); }
+    QString current() { return view()->currentItem()->text(0); }
+    QString description() { return list->findChild<QLabel*>()->text(); }
+    QPoint cell(const char* caption, int column) {
+        QTreeWidgetItem* item = view()->findItems(caption, Qt::MatchExactly).constFirst();
+        return view()->visualRect(view()->indexFromItem(item, column)).center();
+    }
+    /// Keys go to the cell that is open, as the window system sends them.
+    void type(Qt::Key key, const QString& text = {}) {
+        QWidget* target = editor() ? static_cast<QWidget*>(editor()) : view();
+        QTest::sendKeyEvent(QTest::Click, target, key, text, Qt::NoModifier);
+        QCoreApplication::processEvents();
+    }
+};
+
+}  // namespace
+
+class TestPropertyList : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void keysAreComparedWithoutCase() {
+        Form f;
+        QVERIFY(f.list->Item("email"));
+        QCOMPARE(f.list->Item("EMAIL"), f.list->Item("Email"));
+        QCOMPARE(f.list->Item("altro")->Caption(), "Altro");
+        QVERIFY(!f.list->Item("Nessuno"));
+    }
+
+    void captionShowsAtOnce() {
+        Form f;
+        f.list->Item("Email")->setCaption("Posta");
+        QCOMPARE(f.list->Item("Email")->Caption(), "Posta");
+        QCOMPARE(f.view()->topLevelItem(2)->text(0), "Posta");
+        f.list->Item("altro")->setCaption("Other");
+        QCOMPARE(f.view()->topLevelItem(4)->text(0), "Other");
+    }
+
+    void valuesKeepTheirKind() {
+        Form f;
+        QCOMPARE(f.list->Item("Spedire")->Value(), QVariant(false));
+        QCOMPARE(f.list->Item("Email")->Value(), QVariant(QString()));
+        f.list->Item("Spedire")->setValue(true);
+        f.list->Item("Email")->setValue("a@b.it");
+        f.list->Item("Sfondo")->setValue(0x0000ffu);
+        QCOMPARE(f.list->Item("Spedire")->Value(), QVariant(true));
+        QCOMPARE(f.list->Item("Email")->Value(), QVariant("a@b.it"));
+        QCOMPARE(f.list->Item("Sfondo")->Value(), QVariant(0x0000ffu));
+        QCOMPARE(f.view()->topLevelItem(6)->text(1), "#ff0000");
+        f.list->Item("Email")->setValue("");
+        QCOMPARE(f.list->Item("Email")->Value(), QVariant(""));
+    }
+
+    void typingStartsEditingAndCountsAtOnce() {
+        Form f;
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_X, "x");
+        QVERIFY(f.editor());
+        QCOMPARE(f.editor()->text(), "x");
+        f.type(Qt::Key_Egrave, QString::fromUtf8("è"));
+        QCOMPARE(f.list->Item("Email")->Value().toString(), QString::fromUtf8("xè"));
+    }
+
+    void typedTextIsNeverCut() {
+        Form f;
+        f.list->setCurrentItem("Provincia");
+        for (const QString letter : {"B", "L", "U"})
+            f.type(Qt::Key_unknown, letter);
+        QCOMPARE(f.list->Item("Provincia")->Value().toString(), "BLU");
+    }
+
+    void returnAndTabCommitAndGoDownOverGroups_data() {
+        QTest::addColumn<int>("key");
+        QTest::newRow("return") << int(Qt::Key_Return);
+        QTest::newRow("enter") << int(Qt::Key_Enter);
+        QTest::newRow("tab") << int(Qt::Key_Tab);
+    }
+    void returnAndTabCommitAndGoDownOverGroups() {
+        QFETCH(int, key);
+        Form f;
+        f.list->setCurrentItem("Provincia");
+        f.type(Qt::Key_B, "B");
+        f.type(Qt::Key(key));
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.current(), "Campo 1");
+        QCOMPARE(f.list->Item("Provincia")->Value().toString(), "B");
+        QCOMPARE(f.saved, 0);
+        QVERIFY(f.view()->hasFocus());
+    }
+
+    void returnReachesTheDefaultButtonWhenNoCellIsOpen() {
+        Form f;
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_Return);
+        QCOMPARE(f.saved, 1);
+    }
+
+    void tabLeavesTheListWhenNoCellIsOpen() {
+        Form f;
+        f.list->setCurrentItem("Email");
+        QTest::keyClick(f.view(), Qt::Key_Tab);
+        QVERIFY(f.save->hasFocus());
+    }
+
+    void escapeGivesTheOldValueBackAndLeavesTheCellOnly() {
+        Form f;
+        f.list->Item("Email")->setValue("prima");
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_X, "x");
+        QCOMPARE(f.list->Item("Email")->Value().toString(), "x");
+        f.type(Qt::Key_Escape);
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.list->Item("Email")->Value().toString(), "prima");
+        QCOMPARE(f.current(), "Email");
+        QVERIFY(f.dialog.isVisible());
+    }
+
+    void valueWrittenWhileItsCellIsOpenShowsThere() {
+        Form f;
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_X, "x");
+        f.list->Item("Email")->setValue("pulito");
+        QCOMPARE(f.editor()->text(), "pulito");
+    }
+
+    void leavingAnOpenCellByAClickElsewhereKeepsWhatWasTyped() {
+        Form f;
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_X, "x");
+        f.save->setFocus();
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.list->Item("Email")->Value().toString(), "x");
+        QCOMPARE(f.current(), "Email");
+    }
+
+    void spaceAndClickToggleAYesNo() {
+        Form f;
+        f.list->setCurrentItem("Spedire");
+        f.type(Qt::Key_Space, " ");
+        QCOMPARE(f.list->Item("Spedire")->Value(), QVariant(true));
+        // anywhere in the cell, not on the little box only
+        QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, f.cell("Send", 1));
+        QCOMPARE(f.list->Item("Spedire")->Value(), QVariant(false));
+        QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, f.cell("Send", 0));
+        QCOMPARE(f.list->Item("Spedire")->Value(), QVariant(false));
+    }
+
+    void arrowsSkipGroupsAndTheDescriptionFollows() {
+        Form f;
+        f.list->setCurrentItem("Provincia");
+        QCOMPARE(f.description(), "Sigla (max 2 caratteri)");
+        f.type(Qt::Key_Down);
+        QCOMPARE(f.current(), "Campo 1");
+        QCOMPARE(f.description(), "Campo libero 1");
+        f.type(Qt::Key_Up);
+        QCOMPARE(f.current(), "Provincia");
+    }
+
+    void clickOnACaptionMakesItsValueCurrent() {
+        Form f;
+        QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, f.cell("Email", 0));
+        QCOMPARE(f.current(), "Email");
+        QCOMPARE(f.view()->currentColumn(), 1);
+        f.type(Qt::Key_X, "x");
+        QCOMPARE(f.list->Item("Email")->Value().toString(), "x");
+    }
+
+    void colourIsTypedInHexAndNonsenseIsIgnored() {
+        Form f;
+        f.list->Item("Sfondo")->setValue(0x112233u);
+        f.list->setCurrentItem("Sfondo");
+        for (const QChar letter : QString("#00FF80"))
+            f.type(Qt::Key_unknown, letter);
+        f.type(Qt::Key_Return);
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.list->Item("Sfondo")->Value().toUInt(), 0x80ff00u);
+        f.list->setCurrentItem("Sfondo");
+        for (const QChar letter : QString("rosso"))
+            f.type(Qt::Key_unknown, letter);
+        f.type(Qt::Key_Return);
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.list->Item("Sfondo")->Value().toUInt(), 0x80ff00u);
+    }
+
+    void swatchIsDrawnInTheColour() {
+        Form f;
+        f.list->Item("Sfondo")->setValue(0x0000ffu);
+        QCoreApplication::processEvents();
+        const QRect cell = f.view()->visualRect(f.view()->model()->index(6, 1));
+        const QImage picture = f.view()->viewport()->grab(cell).toImage();
+        QCOMPARE(picture.pixelColor(6 + 12, cell.height() / 2), QColor(Qt::red));
+    }
+
+    void itemsAreNamedByCaptionWithTheValueAsText() {
+        Form f;
+        f.list->Item("Email")->setValue("a@b.it");
+        QAccessibleInterface* table = QAccessible::queryAccessibleInterface(f.view());
+        QVERIFY(table->tableInterface());
+        QAccessibleInterface* cell = table->tableInterface()->cellAt(2, 1);
+        QVERIFY(cell);
+        QCOMPARE(cell->text(QAccessible::Name), "Email");
+        QCOMPARE(cell->text(QAccessible::Description), "a@b.it");
+        QVERIFY(table->tableInterface()->cellAt(1, 1)->state().checkable);
+        f.list->setCurrentItem("Email");
+        f.type(Qt::Key_X, "x");
+        QCOMPARE(f.editor()->accessibleName(), "Email");
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    ui::setUpDesktop(application);
+    TestPropertyList test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "propertylist_test.moc"
