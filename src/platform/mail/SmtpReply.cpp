@@ -35,8 +35,8 @@ ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset) {
             parse.state = ReplyParse::State::Malformed;
             return parse;
         }
+        if (at != offset) parse.reply.text += '\n';
         at = end + 1;
-        if (!parse.reply.text.isNull()) parse.reply.text += '\n';
         parse.reply.text += line.size() > 4 ? line.sliced(4) : QByteArrayView("");
         if (line.size() > 3 && line[3] == '-') continue;
 
