@@ -96,6 +96,10 @@ void SmtpSession::open(LocalPort localPort) {
     m_transcript.setSecrets({});
     if (m_route.login) m_transcript.addSecret(m_route.password.toUtf8());
 
+    const bool bind = localPort == LocalPort::AsTold && m_route.localPort != 0;
+    m_bound = bind && m_socket->bind(QHostAddress::Any, m_route.localPort, QAbstractSocket::ReuseAddressHint);
+    if (bind && !m_bound) noteLocalPortTaken();
+
     connect(m_socket, &QSslSocket::readyRead, this, &SmtpSession::onReadyRead);
     connect(m_socket, &QSslSocket::errorOccurred, this, &SmtpSession::onSocketError);
     connect(m_socket, &QSslSocket::connected, this, &SmtpSession::onConnected);
@@ -110,10 +114,12 @@ void SmtpSession::open(LocalPort localPort) {
                             .arg(m_route.host)
                             .arg(m_route.port)
                             .arg(implicitTls() ? QStringLiteral(" (TLS)") : QString()));
-    m_bound = localPort == LocalPort::AsTold && m_route.localPort != 0 &&
-              m_socket->bind(QHostAddress::Any, m_route.localPort, QAbstractSocket::ReuseAddressHint);
     m_expected = {Step::Greeting};
     m_socket->connectToHost(m_route.host, m_route.port);
+}
+
+void SmtpSession::noteLocalPortTaken() {
+    m_transcript.remark(QStringLiteral("Porta locale %1 non disponibile").arg(m_route.localPort));
 }
 
 bool SmtpSession::implicitTls() const {
@@ -198,7 +204,7 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
         if (m_socket != socket) return;
     }
     if (m_bound && isLocalPortError(error)) {
-        m_transcript.remark(QStringLiteral("Porta locale %1 non disponibile").arg(m_route.localPort));
+        noteLocalPortTaken();
         dropConnection();
         open(LocalPort::Any);
         return;

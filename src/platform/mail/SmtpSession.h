@@ -63,6 +63,7 @@ class SmtpSession : public QObject {
     void onTaken();
     void onSocketError(QAbstractSocket::SocketError error);
     void onTimeout();
+    void noteLocalPortTaken();
     bool implicitTls() const;
 
     // SmtpSession_dialogue.cpp: commands, replies and what they lead to
