@@ -1,0 +1,315 @@
+// The delivery control as the send window uses it: sending, stopping, hostile values, the support log.
+#include <QFile>
+#include <QTcpServer>
+#include <QTemporaryDir>
+
+#include "mail/smtp_fixture.h"
+
+using testing_support::ScriptedServer;
+
+namespace {
+
+TEST(DeliveryControl, EmptyServerNameIsAnError) {
+    Client client(25);
+    for (const char* name : {"", "   "}) {
+        client.smtp.ServerName = QString::fromLatin1(name);
+        const Heard heard = client.send();
+        EXPECT_FALSE(heard.done);
+        EXPECT_EQ(heard.code, 0);
+        EXPECT_FALSE(heard.text.isEmpty());
+    }
+}
+
+TEST(DeliveryControl, PortZeroIsAnError) {
+    Client client(0);
+    EXPECT_FALSE(client.send().done);
+}
+
+TEST(DeliveryControl, HostThatDoesNotExistIsAnError) {
+    Client client(25);
+    client.smtp.ServerName = QStringLiteral("non-esiste.invalid");
+    EXPECT_FALSE(client.send().done);
+}
+
+TEST(DeliveryControl, RefusedConnectionIsAnError) {
+    QTcpServer unused;
+    ASSERT_TRUE(unused.listen(QHostAddress::LocalHost));
+    const quint16 port = unused.serverPort();
+    unused.close();
+    Client client(port);
+    const Heard heard = client.send();
+    EXPECT_FALSE(heard.done);
+    EXPECT_TRUE(heard.text.contains(QStringLiteral("rifiutata"))) << qPrintable(heard.text);
+}
+
+/// Nothing listens for connections at the address of a refused message: it must end before connecting.
+TEST(DeliveryControl, AddressThatIsNotOnePlainAddressEndsBeforeConnecting) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    Client client(server.serverPort());
+    const char* const bad[] = {"",
+                               "rossi",
+                               "@example.it",
+                               "rossi@",
+                               "a@example.it,b@example.it",
+                               "a@example.it b@example.it",
+                               "Rossi <rossi@example.it>",
+                               "<rossi@example.it>",
+                               "rossi@example.it\r\nRCPT TO:<altro@example.it>",
+                               "rossi@example.it>\r\nDATA",
+                               "rossi@example.it> NOTIFY=NEVER",
+                               "\"rossi\r\n\"@example.it",
+                               "gruppo: rossi@example.it;"};
+    for (const char* address : bad) {
+        client.smtp.ToAddress = QString::fromLatin1(address);
+        const Heard heard = client.send();
+        EXPECT_FALSE(heard.done) << address;
+        EXPECT_EQ(heard.code, 0) << address;
+    }
+    client.smtp.ToAddress = QStringLiteral("rossi@example.it");
+    client.smtp.FromAddress = QStringLiteral("mittente@example.it>\r\nRCPT TO:<altro@example.it");
+    EXPECT_FALSE(client.send().done);
+    EXPECT_FALSE(server.waitForNewConnection(50));
+}
+
+TEST(DeliveryControl, LineBreaksInAnyValueAddNoCommandAndNoHeader) {
+    const QString hostile =
+        QStringLiteral("x\r\nRSET\r\n.\r\nMAIL FROM:<a@b>\r\nBcc: altro@example.it\n\r") + QChar::Null;
+    ScriptedServer server({hello + message + message});
+    Client client(server.port());
+    client.smtp.FromName = client.smtp.ToName = client.smtp.Subject = hostile;
+    EXPECT_TRUE(client.send().done);
+    client.smtp.BodyText = client.smtp.BodyHtml = hostile;
+    EXPECT_TRUE(client.send().done);
+    ASSERT_EQ(server.remainder(), "");
+    for (const QByteArray& body : server.bodies()) {
+        const QByteArray headers = body.left(body.indexOf("\r\n\r\n"));
+        EXPECT_FALSE(headers.contains("\r\nBcc:"));
+        EXPECT_FALSE(headers.contains("\r\nRSET"));
+        EXPECT_FALSE(body.contains('\0'));
+    }
+}
+
+TEST(DeliveryControl, BodyOfDotsArrivesAsItIs) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.BodyHtml.clear();
+    client.smtp.BodyText = QStringLiteral(".\n..\n.\r\n.");
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+    for (const QByteArray& line : server.bodies().at(0).split('\n'))
+        EXPECT_FALSE(line.startsWith('.') && !line.startsWith("..")) << line.constData();
+}
+
+TEST(DeliveryControl, AbortWithoutADeliveryDoesNothing) {
+    Client client(25);
+    client.smtp.Abort();
+    client.turn();
+    EXPECT_TRUE(client.heard.isEmpty());
+}
+
+TEST(DeliveryControl, AbortEndsTheDeliveryBeforeItReturns) {
+    const QByteArrayList whole = hello + message;
+    for (qsizetype lines = 0; lines <= whole.size() - 1; ++lines) {
+        ScriptedServer server({whole.mid(0, lines) + QByteArrayList{"WAIT"}, hello + message});
+        Client client(server.port());
+        client.smtp.Send();
+        client.turn(30);
+        ASSERT_TRUE(client.heard.isEmpty()) << lines;
+        client.smtp.Abort();
+        ASSERT_EQ(client.heard.size(), 1) << lines;
+        EXPECT_FALSE(client.heard[0].done);
+        EXPECT_EQ(client.heard[0].code, 0);
+        client.smtp.Abort();
+        client.turn();
+        EXPECT_EQ(client.heard.size(), 1) << lines;
+        EXPECT_TRUE(client.send().done) << lines;
+        EXPECT_EQ(server.remainder(), "") << lines;
+    }
+}
+
+TEST(DeliveryControl, AbortRightBehindSend) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.ServerName.clear();
+    client.smtp.Send();
+    client.smtp.Abort();
+    EXPECT_EQ(client.heard.size(), 1);
+    client.turn();
+    EXPECT_EQ(client.heard.size(), 1);
+    client.smtp.ServerName = QStringLiteral("127.0.0.1");
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, SendOverARunningMessageDropsThatOneSilently) {
+    const QByteArrayList whole = hello + message;
+    for (qsizetype lines = 0; lines <= whole.size() - 1; ++lines) {
+        ScriptedServer server({whole.mid(0, lines) + QByteArrayList{"WAIT"}, hello + message});
+        Client client(server.port());
+        client.smtp.Send();
+        client.turn(30);
+        EXPECT_TRUE(client.send().done) << lines;
+        EXPECT_EQ(server.remainder(), "") << lines;
+    }
+}
+
+TEST(DeliveryControl, SendOverAnErrorThatIsStillToComeDropsIt) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.ServerName.clear();
+    client.smtp.Send();
+    client.smtp.ServerName = QStringLiteral("127.0.0.1");
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, NextMessageMayBeSentFromTheHandlerOfTheLast) {
+    ScriptedServer server({hello + message + message + message});
+    Client client(server.port());
+    int left = 2;
+    QObject::connect(&client.smtp, &mail::DeliveryControl::SendDone, [&] {
+        if (left-- > 0) client.smtp.Send();
+    });
+    client.smtp.Send();
+    for (int turns = 0; client.heard.size() < 3 && turns < 2000; ++turns)
+        client.turn(5);
+    EXPECT_EQ(client.heard.size(), 3);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, ValuesAreThoseOfTheMomentOfSend) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.Send();
+    client.smtp.ToAddress = QStringLiteral("altro@example.it");
+    client.smtp.ServerName.clear();
+    client.waitForOutcome();
+    EXPECT_TRUE(client.heard.first().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+quint16 freePort() {
+    QTcpServer probe;
+    probe.listen(QHostAddress::LocalHost);
+    return probe.serverPort();
+}
+
+TEST(DeliveryControl, OutPortIsTheLocalPort) {
+    const quint16 port = freePort();
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.OutPort = port;
+    EXPECT_TRUE(client.send().done);
+    ASSERT_EQ(server.remainder(), "");
+    EXPECT_EQ(server.peerPorts(), QList<quint16>{port});
+}
+
+TEST(DeliveryControl, OutPortThatIsTakenIsReplacedByAnyOther) {
+    QTcpServer taken;
+    ASSERT_TRUE(taken.listen(QHostAddress::Any));
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.OutPort = taken.serverPort();
+    EXPECT_TRUE(client.send().done);
+    ASSERT_EQ(server.remainder(), "");
+    EXPECT_NE(server.peerPorts(), QList<quint16>{taken.serverPort()});
+}
+
+TEST(DeliveryControl, OutPortServesOneConnectionAfterTheOther) {
+    const quint16 port = freePort();
+    ScriptedServer server({hello + message, hello + message, hello + message});
+    Client client(server.port());
+    client.smtp.OutPort = port;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(client.send().done) << i;
+        client.turn(30);
+    }
+    EXPECT_EQ(server.remainder(), "");
+}
+
+class SupportLog : public testing::Test {
+  protected:
+    QString path() const { return m_folder.filePath(QStringLiteral("assistenza.xt1")); }
+
+    static QByteArray contents(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SupportLog, TellsTheDialogueAndTheOutcome) {
+    ScriptedServer server({hello + message + QByteArrayList{"C: MAIL*", "S: 550 non gradito", "WAIT"}});
+    {
+        Client client(server.port());
+        client.smtp.LogFile = path();
+        client.smtp.LogEnabled = true;
+        client.smtp.BodyText = QStringLiteral("testo riservato");
+        EXPECT_TRUE(client.send().done);
+        EXPECT_FALSE(client.send().done);
+    }
+    const QByteArray log = contents(path());
+    for (const char* part :
+         {"* Connessione a 127.0.0.1, porta ", "< 220 ready", "> EHLO ", "> RCPT TO:<rossi@example.it>",
+          "> (messaggio: ", "Destinatario rossi@example.it, Message-ID <", ", consegnato: 250 taken, ",
+          ", non consegnato: 550 non gradito, "})
+        EXPECT_TRUE(log.contains(part)) << part << '\n' << log.constData();
+    EXPECT_FALSE(log.contains("riservato"));
+    for (const QByteArray& line : log.split('\n'))
+        EXPECT_TRUE(line.isEmpty() || line.endsWith('\r')) << line.constData();
+}
+
+TEST_F(SupportLog, IsAppendedTo) {
+    QFile old(path());
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("riga di prima\r\n");
+    old.close();
+    Client client(25);
+    client.smtp.ServerName.clear();
+    client.smtp.LogFile = path();
+    client.smtp.LogEnabled = true;
+    client.send();
+    EXPECT_TRUE(contents(path()).startsWith("riga di prima\r\n"));
+    EXPECT_TRUE(contents(path()).contains("non consegnato"));
+}
+
+TEST_F(SupportLog, IsKeptOnlyWhileItIsEnabled) {
+    Client client(25);
+    client.smtp.ServerName.clear();
+    client.smtp.LogFile = path();
+    client.send();
+    EXPECT_FALSE(QFile::exists(path()));
+    client.smtp.LogEnabled = true;
+    client.send();
+    const QByteArray log = contents(path());
+    EXPECT_FALSE(log.isEmpty());
+    client.smtp.LogEnabled = false;
+    client.send();
+    EXPECT_EQ(contents(path()), log);
+}
+
+TEST_F(SupportLog, ThatCannotBeOpenedHarmsNothing) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.LogFile = m_folder.filePath(QStringLiteral("no/such/folder.xt1"));
+    client.smtp.LogEnabled = true;
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST_F(SupportLog, HostileTextStaysInItsLine) {
+    ScriptedServer server({QByteArrayList{"S- 554 no\\n", "C: QUIT"}});
+    Client client(server.port());
+    client.smtp.LogFile = path();
+    client.smtp.LogEnabled = true;
+    client.smtp.ToAddress = QStringLiteral("rossi@example.it\r\n2000-01-01 00:00:00.000 * falso");
+    client.send();
+    EXPECT_FALSE(contents(path()).contains("\n2000-01-01"));
+    client.smtp.ToAddress = QStringLiteral("rossi@example.it");
+    client.send();
+    EXPECT_EQ(server.remainder(), "");
+}
+
+}  // namespace

@@ -1,0 +1,44 @@
+#include "support/PrivateNetwork.h"
+
+#include <fcntl.h>
+#include <net/if.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <string>
+
+namespace testing_support {
+
+namespace {
+
+bool write(const char* path, const std::string& text) {
+    const int file = ::open(path, O_WRONLY);
+    if (file < 0) return false;
+    const bool written = ::write(file, text.data(), text.size()) == ssize_t(text.size());
+    ::close(file);
+    return written;
+}
+
+bool raiseLoopback() {
+    const int any = ::socket(AF_INET, SOCK_DGRAM, 0);
+    ifreq request{};
+    std::strcpy(request.ifr_name, "lo");
+    request.ifr_flags = IFF_UP | IFF_RUNNING;
+    const bool up = any >= 0 && ::ioctl(any, SIOCSIFFLAGS, &request) == 0;
+    ::close(any);
+    return up;
+}
+
+}  // namespace
+
+bool enterPrivateNetwork() {
+    const std::string user = std::to_string(::getuid()), group = std::to_string(::getgid());
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0) return false;
+    return write("/proc/self/setgroups", "deny") && write("/proc/self/uid_map", "0 " + user + " 1") &&
+           write("/proc/self/gid_map", "0 " + group + " 1") && raiseLoopback();
+}
+
+}  // namespace testing_support
