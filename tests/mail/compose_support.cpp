@@ -81,10 +81,10 @@ std::vector<QByteArray> headers(const QByteArray& message, const QByteArray& nam
     std::vector<QByteArray> values;
     QByteArray block = headerBlock(message);
     block.replace("\r\n ", " ").replace("\r\n\t", "\t");
-    for (const QByteArray& line : block.split('\n')) {
+    for (const QByteArray& line : block.replace("\r\n", "\n").split('\n')) {
         const qsizetype colon = line.indexOf(':');
         if (colon >= 0 && line.left(colon).compare(name, Qt::CaseInsensitive) == 0) {
-            values.push_back(line.mid(colon + 2).chopped(line.endsWith('\r') ? 1 : 0));
+            values.push_back(line.mid(colon + 2));
         }
     }
     return values;
