@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "platform/ui/GroupTree.h"
+
+/// The group window, docked in the pane "dckGruppi": one tree over the table of groups. The tree drives the
+/// grid, never the reverse.
+///
+/// A level of the tree is loaded when its parent is clicked or dropped upon, and never again; nothing may be
+/// added under a node whose level was not loaded.
+class frmGruppi : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit frmGruppi(QWidget* parent = nullptr);
+
+    /// Builds the tree anew from the database. When the database cannot be used the user is asked for another
+    /// one, until the tree is there; a refusal, or a file that is no recipient database, ends the program.
+    void CaricaGruppiINI();
+    /// What a click on the tree does: loads the children of the selected node and fills the grid with the
+    /// current one. Does nothing more from the point on where something fails.
+    void TREEClick();
+
+    /// Adds a node for the group as the last child of a node. Unguarded.
+    void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
+    /// Name of the pop-up menu that belongs to the tree at this moment; empty for none.
+    QString MenuOra() const;
+
+    ui::GroupTree* const TREE;
+
+  private:
+    bool CaricaPrimoLivello();
+    void ChiediAltroDatabase();
+    void CaricaSottogruppi(const QString& chiave);
+
+    // frmGruppi_eventi.cpp
+    void CollegaEventi();
+    void TREENodeClick(const ui::GroupNodeRef& nodo);
+    void TREEMouseUp(Qt::MouseButton pulsante, const QPoint& punto);
+    void TREEAfterLabelEdit(const QString& testo, bool* annulla);
+    void TREEDragDrop(const ui::GroupNodeRef& nodo);
+    void TREEOLEDragDrop(const ui::GroupNodeRef& nodo);
+
+    QString chiaveNodo;          ///< key of the node last clicked: the group that a drag moves
+    QString chiaveDestinazione;  ///< key of the node under a group drop
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+namespace ado {
+class Command;
+class Recordset;
+}  // namespace ado
+
+/// The group commands of the pop-up menus. They act on nodoCorrente, with the recordset and the command that
+/// the main window has prepared for the event. Unguarded.
+namespace comandiGruppo {
+
+/// A new group inside the current one.
+void Nuovo(ado::Recordset& rs);
+/// A copy of the group beside it, with its members but not its subgroups.
+void Copia(ado::Recordset& rs, ado::Command& comando);
+/// Deletes the group and its members, after a question; refused while it has subgroups.
+void Elimina(ado::Command& comando);
+/// Opens the selected node's name for editing.
+void Rinomina();
+/// Makes the group one of the top level.
+void Testa(ado::Recordset& rs);
+/// Deletes the members of the group, after a question.
+void SvuotaCartella(ado::Command& comando);
+
+/// Select for sending, or deselect, the members of the group or all recipients.
+void SelAllGRP(ado::Command& comando);
+void SelNotGRP(ado::Command& comando);
+void SelAllDB(ado::Command& comando);
+void SelNotDB(ado::Command& comando);
+
+}  // namespace comandiGruppo

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+/// The group's number in the key of its node, as statements need it: the key without its first letter. The
+/// root reads as "0", which is what groups of the top level have for a parent.
+QString NumeroNodo(const QString& chiave);
+
+/// The number of nodoCorrente. Unguarded: fails while no node was ever clicked.
+QString NumeroNodoCorrente();
