@@ -13,7 +13,7 @@
 ///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number and text
 ///              are remembered and the next statement runs;
 ///   fall back: ripiega() gives a defined result instead.
-/// Nothing else in the program catches or throws.
+/// Above the platform nothing else catches or throws.
 
 /// A failed statement on its way up.
 class Fallimento : public std::exception {
