@@ -1,0 +1,276 @@
+// The index on a long: splits, tails, emptied leaves, foreign forms.
+#include <algorithm>
+#include <numeric>
+#include <random>
+
+#include "jet/JetFixture.h"
+#include "platform/jet/Engine.h"
+#include "platform/jet/IndexPage.h"
+#include "platform/jet/IndexTree.h"
+#include "platform/jet/Key.h"
+
+using namespace jet;
+
+class IndexTest : public JetTest {
+  protected:
+    IndexTest() : database(create(path())) {}
+
+    void insertIds(const std::vector<int32_t>& ids) {
+        Table& groups = table(*database, u"tb_gruppi");
+        EXPECT_OK(database->begin());
+        for (int32_t id : ids)
+            insert(groups, {int64_t{id}, int64_t{0}, std::string("g")});
+        EXPECT_OK(database->commit());
+    }
+    void eraseIds(const std::vector<int32_t>& ids) {
+        Table& groups = table(*database, u"tb_gruppi");
+        EXPECT_OK(database->begin());
+        for (int32_t id : ids) {
+            const auto row = groups.findByPrimaryKey(id);
+            ASSERT_TRUE(row.ok() && row.value()) << id;
+            EXPECT_OK(groups.erase(*row.value()));
+        }
+        EXPECT_OK(database->commit());
+    }
+    void expectFound(int32_t id) {
+        Table& groups = table(*database, u"tb_gruppi");
+        const auto row = groups.findByPrimaryKey(id);
+        ASSERT_TRUE(row.ok() && row.value()) << id;
+        EXPECT_EQ(groups.row(*row.value()).value()->integer(0), id);
+    }
+    uint8_t rootType() { return static_cast<uint8_t>(bytesOf(path())[18 * 4096]); }
+
+    static std::vector<int32_t> numbers(int32_t from, int32_t to) {
+        std::vector<int32_t> ids(static_cast<size_t>(to - from));
+        std::iota(ids.begin(), ids.end(), from);
+        return ids;
+    }
+
+    DatabasePtr database;
+};
+
+TEST_F(IndexTest, HundredThousandAscendingKeys) {
+    insertIds(numbers(1, 100001));
+    for (int32_t id : {1, 2, 500, 50000, 99999, 100000})
+        expectFound(id);
+    EXPECT_FALSE(table(*database, u"tb_gruppi").findByPrimaryKey(100001).value().has_value());
+    EXPECT_FALSE(table(*database, u"tb_gruppi").findByPrimaryKey(0).value().has_value());
+    expectSound(path());
+}
+
+TEST_F(IndexTest, HundredThousandRandomKeys) {
+    std::mt19937 random(11);
+    std::vector<int32_t> ids = numbers(-50000, 50000);
+    std::shuffle(ids.begin(), ids.end(), random);
+    insertIds(ids);
+    for (int32_t id : {-50000, -1, 0, 1, 49999})
+        expectFound(id);
+    expectSound(path());
+    std::shuffle(ids.begin(), ids.end(), random);
+    eraseIds({ids.begin(), ids.begin() + 60000});
+    expectSound(path());
+    expectFound(ids[60000]);
+    eraseIds({ids.begin() + 60000, ids.end()});
+    expectSound(path());
+    EXPECT_EQ(rootType(), LeafPage) << "the emptied index did not come back to one leaf";
+    EXPECT_TRUE(rowsOf(table(*database, u"tb_gruppi")).empty());
+}
+
+TEST_F(IndexTest, DescendingInsertion) {
+    std::vector<int32_t> ids = numbers(1, 20001);
+    std::reverse(ids.begin(), ids.end());
+    insertIds(ids);
+    expectSound(path());
+    for (int32_t id : {1, 777, 20000})
+        expectFound(id);
+}
+
+TEST_F(IndexTest, EmptiedLeavesAreGivenBackAndUsedAgain) {
+    insertIds(numbers(1, 20001));
+    eraseIds(numbers(1, 15001));
+    expectSound(path());
+    const size_t before = bytesOf(path()).size();
+    eraseIds(numbers(15001, 20001));
+    expectSound(path());
+    insertIds(numbers(30001, 32001));
+    expectSound(path());
+    EXPECT_EQ(bytesOf(path()).size(), before);
+}
+
+TEST_F(IndexTest, TailIsKeptWhenTheRightEndIsErased) {
+    insertIds(numbers(1, 5001));
+    std::vector<int32_t> ids = numbers(1001, 5001);
+    std::reverse(ids.begin(), ids.end());
+    for (size_t i = 0; i < ids.size(); i += 500) {
+        eraseIds({ids.begin() + static_cast<long>(i), ids.begin() + static_cast<long>(i + 500)});
+        expectSound(path());
+    }
+    insertIds(numbers(6001, 9001));
+    expectSound(path());
+    expectFound(1000);
+    expectFound(9000);
+}
+
+TEST_F(IndexTest, RootPageNumberNeverChanges) {
+    insertIds(numbers(1, 30001));
+    EXPECT_EQ(rootType(), NodePage);
+    database = open(path());
+    EXPECT_EQ(table(*database, u"tb_gruppi").definition().indexes[0].rootPage, 18u);
+}
+
+// A tree over a bare page file, so that keys of any shape and pages of other writers can be tried.
+class TreeTest : public JetTest {
+  protected:
+    TreeTest() {
+        create(path()).reset();
+        file = std::make_unique<PageFile>(local(path()), false, PageFile::Limits{});
+        file->beginWrite();
+        definition.name = QStringLiteral("prova");
+        definition.page = 16;
+        index.rootPage = 18;
+        index.mapPointer = 17 << 8 | 2;
+    }
+    ~TreeTest() override { file->rollback(); }
+
+    IndexTree tree() { return IndexTree(*file, definition, index); }
+
+    // All entries by the leaf chain; checks order, chain, tails and greatest entries on the way.
+    std::vector<Bytes> entries() {
+        std::vector<Bytes> all;
+        std::vector<uint32_t> leaves;
+        walk(index.rootPage, all, leaves);
+        for (size_t i = 1; i < all.size(); ++i)
+            EXPECT_LT(all[i - 1], all[i]);
+        for (size_t i = 0; i < leaves.size(); ++i) {
+            const IndexPage leaf(*file->page(leaves[i]), leaves[i], definition.page);
+            EXPECT_EQ(leaf.next, i + 1 < leaves.size() ? leaves[i + 1] : 0);
+            EXPECT_EQ(leaf.previous, i > 0 ? leaves[i - 1] : 0);
+        }
+        return all;
+    }
+    void walk(uint32_t number, std::vector<Bytes>& all, std::vector<uint32_t>& leaves) {
+        const IndexPage page(*file->page(number), number, definition.page);
+        if (page.leaf) {
+            leaves.push_back(number);
+            for (size_t i = 0; i < page.count(); ++i)
+                all.emplace_back(page.entry(i).begin(), page.entry(i).end());
+            return;
+        }
+        for (size_t i = 0; i <= page.count(); ++i) {
+            walk(page.child(i), all, leaves);
+            if (i < page.count()) {
+                const auto greatest = page.keyAndRow(i);
+                EXPECT_TRUE(
+                    std::equal(greatest.begin(), greatest.end(), all.back().begin(), all.back().end()));
+            }
+        }
+    }
+
+    std::unique_ptr<PageFile> file;
+    TableDefinition definition;
+    Index index;
+};
+
+TEST_F(TreeTest, RandomKeysOfManyLengthsAgreeWithASet) {
+    std::mt19937 random(5);
+    std::set<std::pair<Bytes, RowId>> expected;
+    for (int step = 0; step < 20000; ++step) {
+        if (random() % 100 < 60 || expected.empty()) {
+            Bytes key(1 + random() % 200);
+            for (uint8_t& byte : key)
+                byte = static_cast<uint8_t>(1 + random() % 3);
+            key.push_back(0);  // no key is the beginning of another
+            const RowId row{static_cast<uint32_t>(random() % 1000 + 1), static_cast<uint8_t>(random() % 200)};
+            if (!expected.emplace(key, row).second) continue;
+            tree().insert(key, row);
+        } else {
+            auto chosen = expected.lower_bound({Bytes(2, static_cast<uint8_t>(1 + random() % 3)), {}});
+            if (chosen == expected.end()) chosen = expected.begin();
+            std::advance(chosen, std::min<long>(random() % 20, std::distance(chosen, expected.end()) - 1));
+            tree().erase(chosen->first, chosen->second);
+            expected.erase(chosen);
+        }
+    }
+    EXPECT_EQ(entries().size(), expected.size());
+    for (const auto& [key, row] : expected)
+        ASSERT_TRUE(tree().find(key).has_value());
+    while (!expected.empty()) {
+        tree().erase(expected.begin()->first, expected.begin()->second);
+        expected.erase(expected.begin());
+    }
+    EXPECT_TRUE(entries().empty());
+}
+
+TEST_F(TreeTest, ManyEqualKeysShareALongPrefix) {
+    const Bytes key = longKey(1, true);
+    for (uint32_t page = 1; page <= 40; ++page)
+        for (uint32_t slot = 0; slot < 250; ++slot)
+            tree().insert(key, {page, static_cast<uint8_t>(slot)});
+    EXPECT_EQ(entries().size(), 10000u);
+    // A key that shares nothing with the others, into leaves that are only as full as their prefix allows.
+    tree().insert(longKey(-1000000, true), {1, 0});
+    tree().insert(longKey(2000000000, true), {1, 0});
+    EXPECT_EQ(entries().size(), 10002u);
+    for (uint32_t page = 1; page <= 40; ++page)
+        for (uint32_t slot = 0; slot < 250; ++slot)
+            tree().erase(key, {page, static_cast<uint8_t>(slot)});
+    EXPECT_EQ(entries().size(), 2u);
+}
+
+TEST_F(TreeTest, NodesWithAPrefixAreReadAndCutUpWhenChanged) {
+    for (int32_t i = 0; i < 400000; i += 4)
+        tree().insert(longKey(i, true), {5, 1});
+    // Rewrite each node as another writer would, with a prefix; make one fuller than it could be without.
+    const std::vector<Bytes> before = entries();
+    const IndexPage root(*file->page(index.rootPage), index.rootPage, definition.page);
+    ASSERT_FALSE(root.leaf);
+    ASSERT_GT(root.count(), 100u);
+    Page& page = file->change(index.rootPage);
+    const size_t shared = 2;  // 7F 80
+    std::fill(page.begin() + index::mask, page.end(), uint8_t{0});
+    store16(&page[index::prefix], shared);
+    size_t at = 0;
+    for (size_t i = 0; i < root.count(); ++i) {
+        const auto own = root.entry(i).subspan(i == 0 ? 0 : shared);
+        ASSERT_LE(at + own.size(), index::room);
+        std::copy(own.begin(), own.end(), page.begin() + static_cast<long>(index::entries + at));
+        at += own.size();
+        page[index::mask + at / 8] |= static_cast<uint8_t>(1u << at % 8);
+    }
+    store16(&page[index::freeBytes], static_cast<uint32_t>(index::room - at));
+    EXPECT_EQ(entries(), before);
+    for (int32_t i = 1; i < 4000; i += 4)
+        tree().insert(longKey(i, true), {5, 1});
+    for (int32_t i = 100000; i < 120000; i += 4)
+        tree().erase(longKey(i, true), {5, 1});
+    EXPECT_EQ(entries().size(), before.size() + 1000 - 5000);
+}
+
+TEST_F(TreeTest, EraseOfAnEntryThatIsMissingIsDamage) {
+    tree().insert(longKey(1, true), {5, 1});
+    EXPECT_THROW(tree().erase(longKey(1, true), {5, 2}), Failure);
+    EXPECT_THROW(tree().erase(longKey(2, true), {5, 1}), Failure);
+    EXPECT_THROW(tree().insert(longKey(1, true), {5, 1}), Failure);
+}
+
+TEST(IndexPage, LeafTakesAPrefixOnlyWhenItNeedsOne) {
+    IndexPage leaf;
+    for (uint8_t i = 0; i < 100; ++i)
+        leaf.insert(i, Bytes{0x7F, 0x80, 0, 0, i, 0, 0, 5, 1});
+    Page page;
+    leaf.store(page, 16);
+    EXPECT_EQ(load16(&page[index::prefix]), 0);
+    while (leaf.fits() && leaf.count() < 600) {
+        const size_t n = leaf.count();
+        leaf.insert(n,
+                    Bytes{0x7F, 0x80, 0, static_cast<uint8_t>(n >> 8), static_cast<uint8_t>(n), 0, 0, 5, 1});
+    }
+    ASSERT_EQ(leaf.count(), 600u);
+    leaf.store(page, 16);
+    EXPECT_EQ(load16(&page[index::prefix]), 3);
+    const IndexPage again(page, 21, 16);
+    ASSERT_EQ(again.count(), leaf.count());
+    for (size_t i = 0; i < leaf.count(); ++i)
+        EXPECT_TRUE(std::equal(leaf.entry(i).begin(), leaf.entry(i).end(), again.entry(i).begin(),
+                               again.entry(i).end()));
+}

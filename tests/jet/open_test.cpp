@@ -1,0 +1,379 @@
+// Opening: what is refused and how, and that a file which is only looked at stays as it is.
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <bit>
+#include <random>
+
+#include "jet/JetFixture.h"
+#include "platform/jet/EmptyDatabase.h"
+#include "platform/jet/Header.h"
+
+using namespace jet;
+
+class OpenTest : public JetTest {
+  protected:
+    // The file is refused with that error and a text, and not touched.
+    void expectRefused(ErrorCode code, const std::string& bytes) {
+        writeBytes(path(), bytes);
+        const auto outcome = Database::open(path());
+        EXPECT_FAILS(code, outcome);
+        EXPECT_FALSE(outcome.status().text().isEmpty());
+        EXPECT_EQ(bytesOf(path()), bytes);
+        EXPECT_FALSE(std::filesystem::exists(local(path()) + "-journal"));
+    }
+    std::string emptyBytes() {
+        std::string bytes;
+        for (const Page& page : emptyDatabase(EmptyContent::WithProperties))
+            bytes.append(reinterpret_cast<const char*>(page.data()), pageSize);
+        return bytes;
+    }
+    // The empty database with page 0 changed under its mask.
+    template <class Change>
+    std::string withHeader(Change&& change) {
+        std::vector<Page> pages = emptyDatabase(EmptyContent::WithProperties);
+        maskHeader(pages[0]);
+        change(pages[0]);
+        maskHeader(pages[0]);
+        std::string bytes;
+        for (const Page& page : pages)
+            bytes.append(reinterpret_cast<const char*>(page.data()), pageSize);
+        return bytes;
+    }
+    std::string withPassword(const QString& password) {
+        return withHeader([&](Page& page) {
+            for (qsizetype i = 0; i < password.size(); ++i) {
+                page[header::password + 2 * static_cast<size_t>(i)] ^=
+                    static_cast<uint8_t>(password[i].unicode());
+                page[header::password + 2 * static_cast<size_t>(i) + 1] ^=
+                    static_cast<uint8_t>(password[i].unicode() >> 8);
+            }
+        });
+    }
+};
+
+TEST_F(OpenTest, MissingFileIsNotFound) {
+    const auto outcome = Database::open(path());
+    EXPECT_FAILS(ErrorCode::FileNotFound, outcome);
+    EXPECT_TRUE(outcome.status().text().contains(path()));
+    EXPECT_FAILS(ErrorCode::FileNotFound,
+                 Database::open(m_folder.filePath(QStringLiteral("nessuna/data.mdb"))));
+}
+
+TEST_F(OpenTest, FolderAndPipeAreNoFiles) {
+    EXPECT_FAILS(ErrorCode::PathAccess, Database::open(m_folder.path()));
+    ASSERT_EQ(::mkfifo(local(path("pipe.mdb")).c_str(), 0600), 0);
+    EXPECT_FAILS(ErrorCode::PathAccess, Database::open(path("pipe.mdb")));
+}
+
+TEST_F(OpenTest, UnreadableFileIsAnAccessFailure) {
+    create(path()).reset();
+    ASSERT_EQ(::chmod(local(path()).c_str(), 0), 0);
+    ASSERT_EQ(::chmod(local(m_folder.path()).c_str(), 0755), 0);
+    // A process that is not the administrator's, whom nothing is forbidden.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::getuid() == 0 && ::setuid(65534) != 0) ::_exit(2);
+        ::_exit(Database::open(path()).status().code() == ErrorCode::PathAccess ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(OpenTest, FileThatIsNoDatabaseIsNotRecognised) {
+    expectRefused(ErrorCode::UnrecognizedFormat, "");
+    expectRefused(ErrorCode::UnrecognizedFormat, "abc");
+    expectRefused(ErrorCode::UnrecognizedFormat, std::string(100000, 'x'));
+    expectRefused(ErrorCode::UnrecognizedFormat, std::string(8192, '\0'));
+}
+
+TEST_F(OpenTest, OtherAccessFormatsAreNamed) {
+    std::string bytes = emptyBytes();
+    bytes[header::version] = 0;
+    expectRefused(ErrorCode::UnrecognizedFormat, bytes);
+    EXPECT_TRUE(Database::open(path()).status().text().contains(QStringLiteral("Access 97")));
+    bytes[header::version] = 2;
+    expectRefused(ErrorCode::UnrecognizedFormat, bytes);
+    bytes.replace(header::engineName, 15, "Standard ACE DB");
+    expectRefused(ErrorCode::UnrecognizedFormat, bytes);
+    EXPECT_TRUE(Database::open(path()).status().text().contains(QStringLiteral(".accdb")));
+}
+
+TEST_F(OpenTest, TruncatedFileIsDamagedWhereverItIsCut) {
+    const std::string whole = emptyBytes();
+    for (size_t length : {size_t{24}, size_t{100}, size_t{4095}})
+        expectRefused(ErrorCode::DamagedDatabase, whole.substr(0, length));
+    for (size_t length = 4096; length < whole.size(); length += 2048)
+        expectRefused(ErrorCode::DamagedDatabase, whole.substr(0, length));
+}
+
+TEST_F(OpenTest, PasswordIsAskedFor) {
+    writeBytes(path(), withPassword(QStringLiteral("Segreta€")));
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path()));
+    EXPECT_FAILS(ErrorCode::InvalidPassword,
+                 Database::open(path(), {.password = QStringLiteral("segreta€")}));
+    const auto wrong = Database::open(path(), {.password = QStringLiteral("sbagliata")});
+    EXPECT_FALSE(wrong.status().text().contains(QStringLiteral("sbagliata")));
+    EXPECT_OK(Database::open(path(), {.password = QStringLiteral("Segreta€")}));
+}
+
+TEST_F(OpenTest, PasswordOfTwentyCharactersFillsItsField) {
+    const QString longest = QStringLiteral("12345678901234567890");
+    writeBytes(path(), withPassword(longest));
+    EXPECT_OK(Database::open(path(), {.password = longest}));
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path(), {.password = longest.left(19)}));
+}
+
+TEST_F(OpenTest, PasswordGivenToAFileWithoutOneIsIgnored) {
+    writeBytes(path(), emptyBytes());
+    EXPECT_OK(Database::open(path(), {.password = QStringLiteral("qualcosa")}));
+}
+
+TEST_F(OpenTest, EncodedFileIsReadButNotWritten) {
+    const uint32_t key = 0x12345678;
+    std::string bytes = withHeader([&](Page& page) { store32(&page[header::pageKey], key); });
+    for (size_t n = 1; n < bytes.size() / pageSize; ++n) {
+        uint8_t pageKey[4];
+        store32(pageKey, key ^ static_cast<uint32_t>(n));
+        rc4(pageKey, std::span(reinterpret_cast<uint8_t*>(bytes.data()) + n * pageSize, pageSize));
+    }
+    writeBytes(path(), bytes);
+    DatabasePtr database = open(path());
+    EXPECT_EQ(table(*database).definition().columns.size(), 22u);
+    EXPECT_FAILS(ErrorCode::NotSupported, table(*database).writable());
+    EXPECT_FAILS(ErrorCode::NotSupported, database->begin());
+    EXPECT_FAILS(ErrorCode::NotSupported, table(*database).takeAutoNumber());
+    database.reset();
+    EXPECT_EQ(bytesOf(path()), bytes);
+}
+
+TEST_F(OpenTest, ReadOnlyDatabaseRefusesEveryWrite) {
+    create(path()).reset();
+    const std::string before = bytesOf(path());
+    DatabasePtr database = open(path(), {.readOnly = true});
+    EXPECT_FAILS(ErrorCode::ReadOnlyDatabase, database->begin());
+    EXPECT_FAILS(ErrorCode::ReadOnlyDatabase, table(*database).writable());
+    EXPECT_FAILS(ErrorCode::ReadOnlyDatabase, table(*database).takeAutoNumber());
+    EXPECT_EQ(bytesOf(path()), before);
+}
+
+TEST_F(OpenTest, CatalogueListsTablesAndMarksSystemOnes) {
+    DatabasePtr database = create(path());
+    const auto catalog = database->catalog();
+    ASSERT_TRUE(catalog.ok());
+    std::vector<std::string> system;
+    std::vector<std::string> user;
+    for (const CatalogEntry& entry : catalog.value()) {
+        EXPECT_EQ(entry.kind, CatalogEntry::Kind::Local);
+        (entry.system ? system : user).push_back(entry.name.toStdString());
+    }
+    EXPECT_EQ(system,
+              (std::vector<std::string>{"MSysACEs", "MSysObjects", "MSysQueries", "MSysRelationships"}));
+    EXPECT_EQ(user, (std::vector<std::string>{"tb_destinatari", "tb_gruppi"}));
+}
+
+TEST_F(OpenTest, TableIsFoundWithoutRegardToCase) {
+    DatabasePtr database = create(path());
+    EXPECT_EQ(&table(*database, u"TB_Gruppi"), &table(*database, u"tb_gruppi"));
+    EXPECT_FAILS(ErrorCode::TableNotFound, database->table(u"tb_altro"));
+}
+
+TEST_F(OpenTest, NewDatabaseReplacesNothing) {
+    writeBytes(path(), "mio");
+    EXPECT_FAILS(ErrorCode::PathAccess, createEmptyDatabase(path()));
+    EXPECT_EQ(bytesOf(path()), "mio");
+    EXPECT_FAILS(ErrorCode::FileNotFound,
+                 createEmptyDatabase(m_folder.filePath(QStringLiteral("nessuna/data.mdb"))));
+}
+
+TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {
+    create(path()).reset();
+    const std::string before = bytesOf(path());
+    const auto time = std::filesystem::last_write_time(local(path()));
+    {
+        DatabasePtr database = open(path());
+        rowsOf(table(*database));
+        EXPECT_OK(database->begin());
+        EXPECT_OK(database->commit());  // nothing was changed
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_EQ(std::filesystem::last_write_time(local(path())), time);
+}
+
+// Everything that a hostile file can do is answered by an error or by rows, soon and without a crash.
+class DamageTest : public OpenTest {
+  protected:
+    static constexpr int rows = 120;
+
+    std::string sample() {
+        DatabasePtr database = create(path("sample.mdb"));
+        Table& recipients = table(*database);
+        EXPECT_OK(database->begin());
+        std::vector<RowId> ids;
+        for (int i = 0; i < rows; ++i)
+            ids.push_back(insert(recipients, recipient(recipients, "nome " + std::to_string(i))));
+        for (int i = 0; i < rows; i += 3) {
+            const std::pair<size_t, Value> grow{12, std::string(150, 'x')};
+            EXPECT_OK(recipients.update(ids[static_cast<size_t>(i)], std::span(&grow, 1)));
+        }
+        EXPECT_OK(database->commit());
+        database.reset();
+        return bytesOf(path("sample.mdb"));
+    }
+
+    // Uses the file in every way. Returns whether all of it succeeded.
+    bool use() {
+        auto database = Database::open(path());
+        if (!database.ok()) return false;
+        bool fine = true;
+        const auto catalog = database.value()->catalog();
+        if (!catalog.ok()) return false;
+        for (const CatalogEntry& entry : catalog.value()) {
+            auto found = database.value()->table(entry.name);
+            if (!found.ok()) {
+                fine = false;
+                continue;
+            }
+            Table& t = *found.value();
+            size_t seen = 0;
+            std::vector<RowId> some;
+            fine &= t.scan([&](RowId id, const RowView& view) {
+                         for (size_t i = 0; i < t.definition().columns.size(); ++i)
+                             (void)view.value(i);
+                         if (some.size() < 3) some.push_back(id);
+                         return ++seen < 100000;
+                     }).ok();
+            for (RowId id : some)
+                for (size_t i = 0; i < t.definition().columns.size(); ++i)
+                    fine &= t.value(id, i).ok();
+            if (t.definition().longPrimaryKey()) fine &= t.findByPrimaryKey(5).ok();
+        }
+        fine &= write(*database.value());
+        return fine;
+    }
+    bool write(Database& database) {
+        auto found = database.table(u"tb_destinatari");
+        if (!found.ok() || !database.begin().ok()) return false;
+        Table& t = *found.value();
+        bool fine = true;
+        std::vector<RowId> some;
+        (void)t.scan([&](RowId id, const RowView&) {
+            some.push_back(id);
+            return some.size() < 4;
+        });
+        if (t.definition().columns.size() == 22) {
+            fine &= t.insert(recipient(t, "nuovo")).ok();
+            for (RowId id : some) {
+                const std::pair<size_t, Value> grow{13, std::string(250, 'y')};
+                fine &= t.update(id, std::span(&grow, 1)).ok();
+            }
+            if (!some.empty()) fine &= t.erase(some.back()).ok();
+        }
+        return database.commit().ok() && fine;
+    }
+};
+
+TEST_F(DamageTest, FlippedBytesNeverCrashOrHang) {
+    const std::string whole = sample();
+    writeBytes(path(), whole);
+    ASSERT_TRUE(use());
+    std::mt19937 random(20240611);
+    int failures = 0;
+    for (int round = 0; round < 1500; ++round) {
+        std::string bytes = whole;
+        const int flips = 1 + static_cast<int>(random() % 8);
+        const size_t page = random() % (bytes.size() / 4096);
+        for (int i = 0; i < flips; ++i) {
+            // Mostly near the start of a page, where counts and pointers stand.
+            const size_t at = page * 4096 + (random() % 3 ? random() % 96 : random() % 4096);
+            bytes[at] = static_cast<char>(random() % 4 ? random() : 0xFF);
+        }
+        writeBytes(path(), bytes);
+        failures += use() ? 0 : 1;
+    }
+    EXPECT_GT(failures, 150) << "the damage was hardly met";
+}
+
+TEST_F(DamageTest, PagesThatTradePlacesNeverCrashOrHang) {
+    const std::string whole = sample();
+    std::mt19937 random(7);
+    for (int round = 0; round < 300; ++round) {
+        std::string bytes = whole;
+        const size_t pages = bytes.size() / 4096;
+        const size_t a = 1 + random() % (pages - 1);
+        const size_t b = 1 + random() % (pages - 1);
+        bytes.replace(a * 4096, 4096, whole, b * 4096, 4096);
+        writeBytes(path(), bytes);
+        use();
+    }
+}
+
+TEST_F(DamageTest, DefinitionThatPointsToItselfIsDamaged) {
+    std::string bytes = sample();
+    bytes.replace(19 * 4096 + 4, 4, std::string("\x13\0\0\0", 4));
+    writeBytes(path(), bytes);
+    DatabasePtr database = open(path());
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, database->table(u"tb_destinatari"));
+}
+
+TEST_F(DamageTest, MovedRowThatPointsToItselfIsDamaged) {
+    std::string bytes = sample();
+    // The first moved row of the first data page: its pointer is turned to itself.
+    const size_t page = 23 * 4096;
+    for (size_t slot = 0; slot < 200; ++slot) {
+        const auto* raw = reinterpret_cast<const uint8_t*>(bytes.data()) + page + 14 + 2 * slot;
+        if ((load16(raw) & 0xC000) != 0x4000) continue;
+        const size_t at = page + (load16(raw) & 0x1FFF);
+        bytes[at] = static_cast<char>(slot);
+        bytes[at + 1] = 23;
+        bytes[at + 2] = bytes[at + 3] = 0;
+        writeBytes(path(), bytes);
+        DatabasePtr database = open(path());
+        EXPECT_FAILS(ErrorCode::DamagedDatabase,
+                     table(*database).scan([](RowId, const RowView&) { return true; }));
+        return;
+    }
+    FAIL() << "no moved row in the sample";
+}
+
+TEST_F(DamageTest, IndexThatGoesRoundInCirclesIsDamaged) {
+    DatabasePtr database = create(path());
+    EXPECT_OK(database->begin());
+    for (int i = 0; i < 2000; ++i)
+        insert(table(*database), recipient(table(*database), "x"));
+    EXPECT_OK(database->commit());
+    database.reset();
+    std::string bytes = bytesOf(path());
+    ASSERT_EQ(bytes[21 * 4096], 3) << "the root is no node";
+    bytes.replace(21 * 4096 + 20, 4, std::string("\x15\0\0\0", 4));
+    writeBytes(path(), bytes);
+    database = open(path());
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, table(*database).findByPrimaryKey(2000));
+    EXPECT_OK(database->begin());
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, table(*database).insert(recipient(table(*database), "y")));
+    database->rollback();
+    EXPECT_EQ(bytesOf(path()), bytes);
+}
+
+TEST_F(DamageTest, FailureInTheMiddleOfAChangeUndoesTheTransaction) {
+    std::string bytes = sample();
+    bytes[21 * 4096 + 4] = 77;  // the index root belongs to somebody else
+    writeBytes(path(), bytes);
+    DatabasePtr database = open(path());
+    Table& recipients = table(*database);
+    std::vector<RowId> ids;
+    EXPECT_OK(recipients.scan([&](RowId id, const RowView&) {
+        ids.push_back(id);
+        return true;
+    }));
+    EXPECT_OK(database->begin());
+    const std::pair<size_t, Value> name{2, std::string("prima")};
+    EXPECT_OK(recipients.update(ids[0], std::span(&name, 1)));
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, recipients.erase(ids[1]));
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, recipients.update(ids[0], std::span(&name, 1)));
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, database->commit());
+    EXPECT_FALSE(database->inTransaction());
+    EXPECT_EQ(bytesOf(path()), bytes);
+}
