@@ -148,11 +148,52 @@ TEST_F(ConnectionTest, APasswordIsAskedForEachTime) {
         std::printf("skipped: the sample file with a password is not at hand\n");
         return;
     }
+    const auto with = [&](const char* password) {
+        return ado::connectionTo(file) + QStringLiteral(";;Jet OLEDB:Database Password=") +
+               QLatin1String(password);
+    };
     EXPECT_EQ(tryOpen(file).code(), ErrorCode::InvalidPassword);
-    EXPECT_EQ(ado::Connection()
-                  .open(ado::connectionTo(file) + QStringLiteral(";;Jet OLEDB:Database Password=sbagliata"))
-                  .code(),
-              ErrorCode::InvalidPassword);
+    ado::Connection open_;
+    EXPECT_TRUE(open_.open(with("password")).ok());
+    EXPECT_EQ(open_.open(with("Password")).code(), ErrorCode::InvalidPassword);
+    EXPECT_EQ(tryOpen(file).code(), ErrorCode::InvalidPassword);
+    connection = with("password");
+    EXPECT_EQ(open("SELECT * FROM [Table1] ;").recordCount(), 3);
+}
+
+TEST_F(ConnectionTest, EveryTableOfTheSampleFilesIsReadThroughItsStatement) {
+    const QDir samples(QStringLiteral(SHARED_DIR "/mdb"));
+    int tables = 0;
+    for (const QFileInfo& file : samples.entryInfoList({QStringLiteral("*.mdb")}, QDir::Files)) {
+        ado::Connection open_;
+        if (!open_.open(ado::connectionTo(file.filePath())).ok()) continue;
+        connection = open_.text();
+        ado::Catalog catalog;
+        catalog.setActiveConnection(open_);
+        const auto entries = catalog.tables();
+        ASSERT_TRUE(entries.ok()) << ado::words(entries.status());
+        for (const auto& entry : entries.value()) {
+            if (entry.kind != ado::Catalog::Kind::Table || entry.name.contains(QLatin1Char(']'))) continue;
+            const auto columns = catalog.columns(entry.name);
+            ASSERT_TRUE(columns.ok()) << ado::words(columns.status());
+            auto rows = open(QStringLiteral("SELECT * FROM [%1] ;").arg(entry.name));
+            ASSERT_EQ(rows.fieldCount(), static_cast<int>(columns.value().size()));
+            qint64 count = 0;
+            for (; !rows.isEof(); ++count) {
+                for (int i = 0; i < rows.fieldCount(); ++i)
+                    EXPECT_TRUE(rows.value(i).ok()) << entry.name.toStdString() << i;
+                ASSERT_TRUE(rows.moveNext().ok());
+            }
+            EXPECT_EQ(open(QStringLiteral("SELECT count(*) FROM [%1]").arg(entry.name)).value(0).value(),
+                      ado::Value(count));
+            ++tables;
+        }
+    }
+    if (tables == 0) {
+        std::printf("skipped: the sample files are not at hand\n");
+        return;
+    }
+    EXPECT_GE(tables, 50);
 }
 
 TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {

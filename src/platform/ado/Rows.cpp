@@ -43,7 +43,7 @@ Rows::~Rows() {
 }
 
 Status Rows::reach(size_t count) {
-    if (!m_statement || known() >= count) return {};
+    if (!m_statement || known() >= count) return m_failure;
     const jet::ReadScope reading(m_session->database());
     if (!reading.status().ok()) return reading.status();
     while (m_statement && known() < count) {
@@ -53,9 +53,9 @@ Status Rows::reach(size_t count) {
             break;
         }
         if (code != SQLITE_ROW) {
-            Status failure = m_session->takeFailure();
+            m_failure = m_session->takeFailure();
             m_statement.reset();
-            return failure;
+            return m_failure;
         }
         if (m_table) {
             m_ids.push_back(jet::RowId::fromInteger(sqlite3_column_int64(m_statement.get(), 0)));

@@ -22,10 +22,14 @@ class Rows {
     JetTable* table() const { return m_table; }
     const std::vector<QString>& names() const { return m_names; }
 
-    /// Steps on until `count` rows are known or there are no more.
+    /// Steps on until `count` rows are known or there are no more. What makes a statement fail does so for
+    /// good.
     Status reach(size_t count);
     /// Passes all rows that are left. From then on nothing that is written makes a difference.
     Status finish() { return reach(static_cast<size_t>(-1)); }
+
+    /// Whether no further step will read the table.
+    bool ended() const { return m_statement == nullptr; }
 
     size_t known() const { return m_table ? m_ids.size() : m_values.size(); }
     jet::RowId id(size_t row) const { return m_ids[row]; }
@@ -39,7 +43,8 @@ class Rows {
 
     std::shared_ptr<Session> m_session;
     JetTable* m_table = nullptr;
-    Prepared m_statement;  ///< null when all rows are known
+    Prepared m_statement;  ///< null when all rows are known, or a step has failed
+    Status m_failure;
     std::vector<QString> m_names;
     std::vector<jet::RowId> m_ids;
     std::vector<std::vector<Value>> m_values;

@@ -65,7 +65,9 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
     const auto known =
         std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return entry.key == key; });
     if (known != entries.end()) {
-        if (!canonical.isEmpty() && known->session->refresh().ok()) {
+        const Status status = known->session->refresh();
+        if (status.code() == ErrorCode::FileInUse) return status;
+        if (status.ok()) {
             std::rotate(known, known + 1, entries.end());
             return entries.back().session;
         }
@@ -184,7 +186,7 @@ Result<Prepared> Session::prepare(const QByteArray& sql) {
 
 Status Session::write(const std::function<Status()>& work) {
     for (Rows* reader : m_readers)
-        if (Status status = reader->finish(); !status.ok()) return status;
+        if (Status status = reader->finish(); !reader->ended()) return status;
     if (Status status = m_database->begin(); !status.ok()) return status;
     for (auto& [name, table] : m_tables)
         table->beginStatement();

@@ -25,6 +25,7 @@ Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& st
     if (!text.ok()) return text.status();
     const jet::ReadScope reading(session.value()->database());
     if (!reading.status().ok()) return reading.status();
+    if (Status status = session.value()->refresh(); !status.ok()) return status;
     auto run = text.value().verb == StatementText::Verb::Select
                    ? Rows::run(session.value(), text.value())
                    : Status(ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una SELECT."));
