@@ -136,7 +136,7 @@ class ReadByPython : public ::testing::Test {
                      {TEST_DATA_DIR "/../mail/check_message.py", makeFile(m_folder.filePath("all"), all)});
         EXPECT_TRUE(python.waitForFinished(200000));
         EXPECT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
-        const QJsonArray results = QJsonDocument::fromJson(python.readAllStandardOutput()).array();
+        QJsonArray results = QJsonDocument::fromJson(python.readAllStandardOutput()).array();
         EXPECT_EQ(static_cast<std::size_t>(results.size()), m_sent.size());
         return results;
     }
@@ -206,7 +206,7 @@ class ReadByPython : public ::testing::Test {
     }
 
     // A message that is one text alone ends with a line end, whatever the text does
-    static void expectText(QString read, QString sent) {
+    static void expectText(QString read, const QString& sent) {
         if (read.endsWith("\r\n") && !sent.endsWith("\r\n")) read.chop(2);
         EXPECT_EQ(read.toStdString(), sent.toStdString());
     }

@@ -86,7 +86,7 @@ QByteArray tagName(const GumboElement& element) {
 }
 
 QByteArray attributeName(const GumboAttribute& attribute) {
-    const QByteArray name(attribute.name);
+    QByteArray name(attribute.name);
     switch (attribute.attr_namespace) {
         case GUMBO_ATTR_NAMESPACE_XLINK:
             return "xlink:" + name;

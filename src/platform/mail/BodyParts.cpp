@@ -53,7 +53,7 @@ class Layers {
     }
 
     QByteArray open(const char* subtype, char letter, const QByteArray& parameters = {}) {
-        const QByteArray boundary = QByteArray("=_") + letter + '.' + m_word;
+        QByteArray boundary = QByteArray("=_") + letter + '.' + m_word;
         m_out += "Content-Type: multipart/";
         m_out += subtype;
         m_out += parameters + ";\r\n boundary=\"" + boundary + "\"\r\n\r\n";
