@@ -38,7 +38,7 @@ frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     DisponiControlli();
     CollegaEtichette();
     CollegaEventi();
-    resize(QSize(600, 340).expandedTo(sizeHint()));
+    resize(600, 340);
 }
 
 void frmInvia::CreaControlli() {
@@ -157,7 +157,8 @@ QGridLayout* frmInvia::DisponiScelte() {
     }
 
     auto* scelte = new QGridLayout;
-    scelte->setSpacing(spazio);
+    scelte->setHorizontalSpacing(spazio);
+    scelte->setVerticalSpacing(margine);
     scelte->setColumnStretch(1, 1);
     scelte->addWidget(lblFile, 0, 0);
     scelte->addLayout(file, 0, 1);
@@ -174,8 +175,7 @@ QGridLayout* frmInvia::DisponiContatori() {
     prgFallite->setBarColor(QColor(176, 42, 42));
     prgInviate->setBarColor(QColor(46, 107, 52));
     auto* contatori = new QGridLayout;
-    contatori->setSpacing(spazio);
-    contatori->setHorizontalSpacing(margine);
+    contatori->setSpacing(margine);
     contatori->setColumnStretch(1, 1);
     contatori->addWidget(lblDaInviare, 0, 0);
     contatori->addWidget(prgDaInviare, 0, 1);
@@ -229,7 +229,8 @@ void frmInvia::AllargaEtichette() {
     int larghezza = 0;
     for (QLabel* etichetta : {lblDaInviare, lblFallite, lblInviate}) {
         const QString nome = etichetta->text().left(etichetta->text().indexOf(':') + 1);
-        larghezza = qMax(larghezza, etichetta->fontMetrics().horizontalAdvance(nome + cifre));
+        larghezza =
+            qMax(larghezza, etichetta->fontMetrics().size(Qt::TextShowMnemonic, nome + cifre).width());
     }
     lblDaInviare->setMinimumWidth(larghezza);
 }

@@ -38,6 +38,7 @@ void frmInvia::CaricaDati() {
     CaricaTimeout();
     cmdInvia->setDefault(true);
     txtFile->setFocus();
+    resize(size().expandedTo(sizeHint()));
 }
 
 void frmInvia::CaricaAccount() {
