@@ -1,0 +1,191 @@
+// How the windows look: nothing is cut, also with longer texts and larger fonts; names and order for
+// assistive programs and the keyboard. With VESTROLA_SHOTS set to a folder, pictures of the windows are left
+// there.
+#include <QAccessible>
+#include <QDir>
+
+#include "core/Finestre.h"
+#include "core/Prodotto.h"
+#include "platform/ui/Desktop.h"
+#include "shell/frmMain.h"
+#include "support/SendStage.h"
+
+using namespace testing_support;
+
+namespace {
+
+void keepPicture(QWidget& window, const QString& name) {
+    const QString folder = qEnvironmentVariable("VESTROLA_SHOTS");
+    if (!folder.isEmpty()) QDir().mkpath(folder);
+    if (!folder.isEmpty() && !window.grab().save(folder + '/' + name + ".png")) qFatal("no picture");
+}
+
+/// A text a third longer, with its mnemonic and its colon in place.
+QString longer(const QString& text) {
+    const qsizetype end = text.contains(':') ? text.indexOf(':') : text.size();
+    return QString(text).insert(end, QString(text.size() / 3 + 1, 'm'));
+}
+
+void stretchTexts(frmInvia& window) {
+    for (auto* label : window.findChildren<QLabel*>())
+        label->setText(longer(label->text()));
+    for (auto* button : window.findChildren<QAbstractButton*>())
+        if (button->objectName() != "cmdFile") button->setText(longer(button->text()));
+    window.SetPrgBar();
+}
+
+}  // namespace
+
+class TestLook : public QObject {
+    Q_OBJECT
+
+    void verifyNothingIsCut(QWidget& window) {
+        for (const auto* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->parentWidget() != &window) continue;
+            const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+            QVERIFY2(window.rect().contains(place), qPrintable(widget->objectName()));
+            const bool text = qobject_cast<const QLabel*>(widget) ||
+                              qobject_cast<const QAbstractButton*>(widget) ||
+                              qobject_cast<const QComboBox*>(widget);
+            if (!text || widget->objectName() == "cmdFile") continue;
+            QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(widget->objectName()));
+            QVERIFY2(widget->height() >= widget->sizeHint().height(), qPrintable(widget->objectName()));
+        }
+    }
+
+  private Q_SLOTS:
+    void sendWindowOpensAtItsSizeWithNothingCut() {
+        SendStage stage({"a@x.it"});
+        QCOMPARE(stage.window->size(), QSize(600, 340).expandedTo(stage.window->sizeHint()));
+        verifyNothingIsCut(*stage.window);
+        keepPicture(*stage.window, "invia");
+    }
+
+    void sendWindowWithTextsAThirdLongerGrowsAndCutsNothing() {
+        SendStage stage({"a@x.it"});
+        stretchTexts(*stage.window);
+        stage.open();
+        QTest::qWait(20);
+        verifyNothingIsCut(*stage.window);
+        QVERIFY(stage.window->width() <= 800);
+        keepPicture(*stage.window, "invia_lunghi");
+    }
+
+    void sendWindowWithALargeFontCutsNothing() {
+        const QFont before = QApplication::font();
+        QFont large = before;
+        large.setPointSizeF(14);
+        QApplication::setFont(large);
+        SendStage stage({"a@x.it"});
+        verifyNothingIsCut(*stage.window);
+        keepPicture(*stage.window, "invia_14pt");
+        QApplication::setFont(before);
+    }
+
+    void pictureOfARunUnderWay() {
+        SendStage stage(QList<SampleFolder::Columns>(8, {{"email", "a@x.it"}}));
+        stage.pick();
+        stage.click("chkBlocco");
+        int taken = 0;
+        QObject::connect(&stage.sink, &SmtpSink::attempted, [&] {
+            ++taken;
+            stage.sink.treat("a@x.it", taken % 2 ? SmtpSink::Treatment::Refuse : SmtpSink::Treatment::Accept);
+            if (taken == 6) keepPicture(*stage.window, "invia_corsa");
+        });
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        keepPicture(*stage.window, "invia_fine");
+    }
+
+    void fieldsAndButtonsHaveTheirSizes() {
+        SendStage stage({"a@x.it"});
+        for (const char* name :
+             {"txtFile", "cmbAccount", "cmbPausa", "cmbTimeout", "txtBloccoNum", "txtBloccoMin"})
+            QVERIFY2(stage.control<QWidget>(name)->height() >= 26, name);
+        for (const char* name : {"cmdInvia", "cmdFerma", "cmdChiudi"}) {
+            QVERIFY2(stage.control<QWidget>(name)->width() >= 100, name);
+            QVERIFY2(stage.control<QWidget>(name)->height() >= 28, name);
+        }
+        QCOMPARE(stage.control<QWidget>("cmdChiudi")->geometry().right(), stage.window->width() - 13);
+        QCOMPARE(stage.control<QWidget>("cmdChiudi")->geometry().bottom(), stage.window->height() - 13);
+    }
+
+    void barsStandStillWhileTheFiguresGrow() {
+        SendStage stage({"a@x.it"});
+        const QRect before = stage.control<QWidget>("prgFallite")->geometry();
+        stage.control<QLabel>("lblFallite")->setText("Email non inviate: 9.999.999");
+        QTest::qWait(20);
+        QCOMPARE(stage.control<QWidget>("prgFallite")->geometry(), before);
+    }
+
+    void everyControlHasANameForAssistivePrograms() {
+        SendStage stage({"a@x.it"});
+        const QHash<const char*, const char*> names{{"txtFile", "File messaggio da inviare"},
+                                                    {"cmdFile", "Sfoglia il messaggio"},
+                                                    {"cmbAccount", "Account mittente"},
+                                                    {"cmbPausa", "Pausa"},
+                                                    {"cmbTimeout", "Timeout"},
+                                                    {"chkBlocco", "Non inviare più di"},
+                                                    {"txtBloccoNum", "Numero massimo di email"},
+                                                    {"txtBloccoMin", "Intervallo in minuti"},
+                                                    {"chkLog", "Crea File per assistenza."},
+                                                    {"prgDaInviare", "Email da inviare"},
+                                                    {"prgFallite", "Email non inviate"},
+                                                    {"prgInviate", "Email inviate"},
+                                                    {"cmdInvia", "Invia messaggi"},
+                                                    {"cmdFerma", "Ferma invio"},
+                                                    {"cmdChiudi", "Chiudi"}};
+        for (auto it = names.begin(); it != names.end(); ++it) {
+            auto* control = stage.control<QWidget>(it.key());
+            QCOMPARE(control->accessibleName(), it.value());
+            // A list tells its current entry as its name; assistive programs find its label by the relation.
+            if (qobject_cast<QComboBox*>(control)) continue;
+            QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), it.value());
+        }
+        for (const auto* label : stage.window->findChildren<QLabel*>())
+            QVERIFY2(label->buddy(), qPrintable(label->objectName()));
+    }
+
+    void tabGoesTopToBottom() {
+        SendStage stage({"a@x.it"});
+        stage.click("chkBlocco");
+        stage.control<QWidget>("txtFile")->setFocus();
+        QStringList order;
+        for (int i = 0; i < 11; ++i) {
+            order << stage.window->focusWidget()->objectName();
+            QTest::keyClick(stage.window->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(order,
+                 (QStringList{"txtFile", "cmdFile", "cmbAccount", "cmbPausa", "cmbTimeout", "chkBlocco",
+                              "txtBloccoNum", "txtBloccoMin", "chkLog", "cmdInvia", "cmdChiudi"}));
+    }
+
+    void mnemonicsAreDistinct() {
+        SendStage stage({"a@x.it"});
+        QStringList letters;
+        for (const auto* button : stage.window->findChildren<QAbstractButton*>()) {
+            const qsizetype at = button->text().indexOf('&');
+            if (at >= 0) letters << button->text().mid(at + 1, 1).toLower();
+        }
+        QCOMPARE(letters.size(), 3);
+        QCOMPARE(QSet<QString>(letters.begin(), letters.end()).size(), 3);
+    }
+
+    void pictureOfTheMainWindow() {
+        SendStage stage({"a@x.it"});
+        TitoloPrincipale();
+        finestre::Main().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&finestre::Main()));
+        keepPicture(finestre::Main(), "principale");
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(prodotto::nome());
+    ui::setUpDesktop(application);
+    TestLook test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_gui_look.moc"

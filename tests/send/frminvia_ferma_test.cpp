@@ -1,0 +1,161 @@
+// A stop in each state of a run, and what may happen before the tick that it leaves pending.
+#include "support/SendStage.h"
+
+using namespace testing_support;
+
+class TestFrmInviaFerma : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void stopWhileTheTimerCountsSendsOnceMoreAndCountsItAsFailed() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        QVERIFY(stage.timer().isActive());
+        stage.click("cmdFerma");
+        QVERIFY(stage.timer().isActive());
+        QVERIFY(stage.enabled("cmdInvia"));
+        QVERIFY(!stage.enabled("cmdFerma"));
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+        // The message was handed over all the same.
+        QTRY_COMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+    }
+
+    void outcomeAfterThatStopComesLateAndChangesNothing() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        stage.click("cmdFerma");
+        QVERIFY(stage.waitForEnd());
+        QTRY_COMPARE(stage.sink.messages().size(), 1);
+        QTest::qWait(50);
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+    }
+
+    void stopTakenWhileATickPreparesStillSendsThatRecipient() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.start();
+        EventWatch beforeTick(&stage.timer(), QEvent::Timer, [&] {
+            QMetaObject::invokeMethod(stage.control<QPushButton>("cmdFerma"), "click", Qt::QueuedConnection);
+        });
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
+        QCOMPARE(stage.smtp().ToAddress, "a@x.it");
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+    }
+
+    void stopDuringADeliveryAbortsItAndCountsItAsFailed() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        QObject::connect(
+            &stage.sink, &SmtpSink::attempted, &stage.sink, [&] { stage.click("cmdFerma"); },
+            Qt::QueuedConnection);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
+        QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+        QVERIFY(stage.enabled("cmdChiudi"));
+        QVERIFY(!stage.timer().isActive());
+    }
+
+    void stopTogetherWithTheOutcomeCountsAsDeliveredAndEndsTheRun() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, [&] { stage.click("cmdFerma"); });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{1, 0, 1}));
+        QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+        QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
+    }
+
+    void stopBeforeTheEndOfATickLeavesTheBlockStepOut() {
+        TestClock clock;
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.click("chkBlocco");
+        stage.control<QLineEdit>("txtBloccoNum")->setText("1");
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, [&] { stage.click("cmdFerma"); });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{1, 0, 1}));
+        QCOMPARE(clock.slept(), 0);
+    }
+
+    void stopPressedDuringTheBlockWaitIsTakenOnlyAfterIt() {
+        TestClock clock;
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        stage.click("chkBlocco");
+        stage.control<QLineEdit>("txtBloccoNum")->setText("1");
+        stage.control<QLineEdit>("txtBloccoMin")->setText("1");
+        bool pressed = false;
+        bool takenDuringTheWait = false;
+        clock.onSleep([&] {
+            if (!pressed)
+                QMetaObject::invokeMethod(stage.control<QPushButton>("cmdFerma"), "click",
+                                          Qt::QueuedConnection);
+            pressed = true;
+            takenDuringTheWait |= stage.enabled("cmdInvia");
+        });
+        QVERIFY(stage.run());
+        QVERIFY(pressed);
+        QVERIFY(!takenDuringTheWait);
+        QCOMPARE(clock.slept(), 60000);
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 1}));
+    }
+
+    void newRunBeforeThePendingTickSimplyTakesItOver() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        stage.click("cmdFerma");
+        QVERIFY(stage.timer().isActive());
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void pendingTickRunsWithTheWindowHidden() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        stage.click("cmdFerma");
+        stage.click("cmdChiudi");
+        QVERIFY(!stage.window->isVisible());
+        QCOMPARE(stage.counters(), (QList<double>{2, 0, 0}));
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
+        QVERIFY(!stage.window->isVisible());
+    }
+
+    void stopWithNoRunIsForgottenByTheNextStart() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        stage.click("cmdFerma");
+        QVERIFY(stage.waitForEnd());
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void windowLivesDuringADelivery() {
+        SendStage stage({"a@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        bool repainted = false;
+        QObject::connect(&stage.sink, &SmtpSink::attempted, &stage.sink, [&] {
+            EventWatch* watch = new EventWatch(stage.window.get(), QEvent::Paint, [&] { repainted = true; });
+            watch->setParent(stage.window.get());
+            stage.window->update();
+            QTimer::singleShot(50, stage.window.get(), [&] { stage.click("cmdFerma"); });
+        });
+        QVERIFY(stage.run());
+        QVERIFY(repainted);
+    }
+};
+
+QTEST_MAIN(TestFrmInviaFerma)
+#include "frminvia_ferma_test.moc"

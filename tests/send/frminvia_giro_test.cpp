@@ -1,0 +1,270 @@
+// The walk over the selection: order, outcomes, personalisation, the route of each recipient, failures in
+// mid-run.
+#include <QFile>
+
+#include "accounts/bBinary.h"
+#include "core/bImpostazioni.h"
+#include "support/SendStage.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+namespace {
+
+void writeAccount(const QString& line) {
+    QFile file(cartellaDati() + "Account.imp");
+    if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write Account.imp");
+    file.write(TestoInBit(line).toLatin1() + "\r\n");
+}
+
+}  // namespace
+
+class TestFrmInviaGiro : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void deliveredRecipientsLeaveTheSelectionAndNothingIsSaidAtTheEnd() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it", "c@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 3}));
+        QCOMPARE(stage.label("lblDaInviare"), "Email da inviare: 0");
+        QCOMPARE(stage.label("lblFallite"), "Email non inviate: 0");
+        QCOMPARE(stage.label("lblInviate"), "Email inviate: 3");
+        QCOMPARE(SampleFolder::selected(), QStringList());
+        QVERIFY(MessageDialog::shown().isEmpty());
+        for (const char* name : {"chkLog", "txtFile", "cmdFile", "cmbAccount", "cmbPausa", "cmbTimeout",
+                                 "chkBlocco", "cmdChiudi", "cmdInvia"})
+            QVERIFY2(stage.enabled(name), name);
+        QVERIFY(!stage.enabled("cmdFerma"));
+        QVERIFY(!stage.timer().isActive());
+    }
+
+    void failedRecipientIsSteppedOverAndStaysSelected() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        stage.sink.treat("b@x.it", SmtpSink::Treatment::Refuse);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it", "c@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
+    }
+
+    void lastRecipientFailingEndsTheRunToo() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("b@x.it", SmtpSink::Treatment::RefuseData);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
+    }
+
+    void failuresOfAnEarlierRunAreTriedAgainInTheirPlace() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
+        stage.sink.treat("c@x.it", SmtpSink::Treatment::Refuse);
+        QVERIFY(stage.run());
+        stage.sink.treat("c@x.it", SmtpSink::Treatment::Accept);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it", "c@x.it", "a@x.it", "c@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+    }
+
+    void droppedLineFailsOneRecipientAndTheNextIsServed() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Drop);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+    }
+
+    void serverThatStopsAnsweringFailsAfterTheTimeoutAndTheNextIsServed() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().TimeoutSecs, qint16(5));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(stage.sink.messages().constFirst().recipient, "b@x.it");
+    }
+
+    void rowsAreServedByTheFiveSortColumns() {
+        SendStage stage(
+            QList<SampleFolder::Columns>{{{"rgs", "b"}, {"email", "1@x.it"}},
+                                         {{"rgs", "A"}, {"email", "3@x.it"}, {"nom", "z"}},
+                                         {{"rgs", "a"}, {"email", "2@x.it"}},
+                                         {{"rgs", "à"}, {"email", "4@x.it"}},
+                                         {{"rgs", "a"}, {"email", "3@x.it"}, {"nom", "m"}, {"loc", "y"}},
+                                         {{"rgs", "a"}, {"email", "3@x.it"}, {"nom", "m"}, {"loc", "x"}}});
+        QVERIFY(stage.run());
+        QStringList order;
+        for (const auto& message : stage.sink.messages())
+            order << QString::fromUtf8(message.recipient);
+        QCOMPARE(order, (QStringList{"2@x.it", "3@x.it", "3@x.it", "3@x.it", "4@x.it", "1@x.it"}));
+    }
+
+    void twoRowsWithTheSameAddressBothGetACopy() {
+        SendStage stage({"a@x.it", "a@x.it"});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.messages().size(), 2);
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+    }
+
+    void eachCopyIsPersonalisedFromTheTemplates() {
+        SendStage stage(
+            QList<SampleFolder::Columns>{{{"rgs", "Alfa"}, {"nom", "Anna"}, {"email", "a@x.it"}},
+                                         {{"rgs", "Beta"}, {"nom", "Bruno"}, {"email", "b@x.it"}}});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.header(0, "Subject"), "Alfa");
+        QCOMPARE(stage.header(1, "Subject"), "Beta");
+        QVERIFY(stage.sink.messages()[1].data.contains("Gentile Bruno"));
+        QVERIFY(!stage.sink.messages()[1].data.contains("Anna"));
+    }
+
+    void nullColumnLeavesItsPlaceholderAndAnEmptyOneRemovesIt() {
+        SendStage stage(QList<SampleFolder::Columns>{{{"rgs", "A"}, {"nom", QString()}, {"email", "a@x.it"}},
+                                                     {{"rgs", "B"}, {"nom", ""}, {"email", "b@x.it"}}});
+        QVERIFY(stage.run());
+        QVERIFY(stage.sink.messages()[0].data.contains("Gentile :::nom:::"));
+        QVERIFY(!stage.sink.messages()[1].data.contains(":::nom:::"));
+    }
+
+    void displayNameIsTheFirstOfCompanyNameAddressThatIsNotEmpty() {
+        SendStage stage(
+            QList<SampleFolder::Columns>{{{"rgs", QString()}, {"nom", QString()}, {"email", "1@x.it"}},
+                                         {{"rgs", ""}, {"nom", "Nome"}, {"email", "2@x.it"}},
+                                         {{"rgs", "Ragione"}, {"nom", "Nome"}, {"email", "3@x.it"}}});
+        QStringList names;
+        QObject::connect(&stage.sink, &SmtpSink::attempted, [&] { names << stage.smtp().ToName; });
+        QVERIFY(stage.run());
+        QCOMPARE(names, (QStringList{"1@x.it", "Nome", "Ragione"}));
+    }
+
+    void emptyAddressIsAttemptedFailsAndStaysSelected() {
+        SendStage stage({"", "b@x.it"});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{""});
+    }
+
+    void nullAddressKeepsThePreviousRecipients() {
+        SendStage stage(QList<SampleFolder::Columns>{{{"rgs", "A"}, {"email", "a@x.it"}},
+                                                     {{"rgs", "B"}, {"email", QString()}}});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "a@x.it"}));
+        QCOMPARE(stage.header(1, "Subject"), "B");
+    }
+
+    void databaseThatVanishesInMidRunSendsTheTemplateToThePreviousRecipient() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.onMessage([&](const SmtpSink::Message&) { stage.folder.hideDatabase(); });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "a@x.it"}));
+        QCOMPARE(stage.header(1, "Subject"), ":::rgs:::");
+        QVERIFY(stage.sink.messages()[1].data.contains(":::nom:::"));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QVERIFY(MessageDialog::shown().isEmpty());
+        stage.folder.showDatabase();
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+    }
+
+    void updateThatFailsIsSwallowedAndTheSameRowIsServedAgain() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        bool first = true;
+        stage.sink.onMessage([&](const SmtpSink::Message&) {
+            if (first) stage.folder.hideDatabase();
+            first = false;
+        });
+        QTimer back;
+        QObject::connect(&back, &QTimer::timeout, [&] {
+            if (stage.counter("prgInviate") < 1) return;
+            stage.folder.showDatabase();
+            back.stop();
+        });
+        back.start(1);
+        stage.pick();
+        stage.click("cmdInvia");  // the pause of 200 ms lets the database come back between the two ticks
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "a@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
+    }
+
+    void lateOutcomeOfAnEarlierMessageIsWipedBeforeTheNextSend() {
+        SendStage stage({"a@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
+        stage.pick();
+        stage.start();
+        Q_EMIT stage.smtp().SendDone();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+    }
+
+    void bothOutcomesCountAsDelivered() {
+        SendStage stage({"a@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError,
+                         [&] { Q_EMIT stage.smtp().SendDone(); });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void rowsSelectedDuringARunDoNotChangeTheCounts() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        bool first = true;
+        stage.sink.onMessage([&](const SmtpSink::Message&) {
+            if (first) stage.folder.addRecipient({{"rgs", "Z"}, {"email", "z@x.it"}});
+            first = false;
+        });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"z@x.it"});
+    }
+
+    void serverRouteTakesHostPortAndLoginOfTheAccount() {
+        SendStage stage({"a@x.it"});
+        writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|1|utente|segreta|EHLO|0|1").arg(stage.sink.port()));
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().ServerName, "127.0.0.1");
+        QCOMPARE(stage.smtp().ServerPort, stage.sink.port());
+        QVERIFY(stage.smtp().UseAuth);
+        QCOMPARE(stage.smtp().UserName, "utente");
+        QCOMPARE(stage.smtp().UserPassword, "segreta");
+        QVERIFY(!stage.smtp().OpportunisticTls);
+    }
+
+    void accountWithoutLoginClearsTheLoginOfAnEarlierRun() {
+        SendStage stage({"a@x.it"});
+        writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|0|utente|segreta|EHLO|0|1").arg(stage.sink.port()));
+        stage.window->CaricaDati();
+        stage.smtp().UseAuth = true;
+        stage.smtp().UserName = "prima";
+        stage.smtp().UserPassword = "prima";
+        QVERIFY(stage.run());
+        QVERIFY(!stage.smtp().UseAuth);
+        QCOMPARE(stage.smtp().UserName, "");
+        QCOMPARE(stage.smtp().UserPassword, "");
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
+    }
+
+    void directRouteIgnoresServerPortUserAndPasswordButNotGreetingAndOutgoingPort() {
+        SendStage stage({"nessuno"});
+        writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|1|utente|segreta|EHLO|4243|0").arg(stage.sink.port()));
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QVERIFY(stage.sink.attempts().isEmpty());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(int(stage.smtp().ServerPort), 25);
+        QVERIFY(!stage.smtp().UseAuth);
+        QCOMPARE(stage.smtp().UserName, "");
+        QCOMPARE(stage.smtp().UserPassword, "");
+        QCOMPARE(stage.smtp().HeloMode, 0);
+        QCOMPARE(int(stage.smtp().OutPort), 4243);
+        QCOMPARE(SampleFolder::selected(), QStringList{"nessuno"});
+    }
+};
+
+QTEST_MAIN(TestFrmInviaGiro)
+#include "frminvia_giro_test.moc"

@@ -1,0 +1,227 @@
+// Pause, time-out and block limit of a run, and its log.
+#include <QFile>
+
+#include "lang/bVAR.h"
+#include "support/SendStage.h"
+
+using namespace testing_support;
+using ui::FileDialog;
+using ui::MessageDialog;
+
+namespace {
+
+QStringList addresses(int count) {
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list << QString("r%1@x.it").arg(i);
+    return list;
+}
+
+}  // namespace
+
+class TestFrmInviaLimiti : public QObject {
+    Q_OBJECT
+
+    void useBlock(SendStage& stage, const QString& number, const QString& minutes) {
+        stage.click("chkBlocco");
+        stage.control<QLineEdit>("txtBloccoNum")->setText(number);
+        stage.control<QLineEdit>("txtBloccoMin")->setText(minutes);
+    }
+
+  private Q_SLOTS:
+    void everyPauseGivesItsInterval_data() {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<int>("interval");
+        const int intervals[] = {200,  500,  1000, 1500,  2000,  2500,  3000, 3500,
+                                 4000, 4500, 5000, 10000, 20000, 30000, 60000};
+        int entry = 0;
+        for (const int interval : intervals)
+            QTest::newRow(qPrintable(QString::number(interval))) << entry++ << interval;
+    }
+    void everyPauseGivesItsInterval() {
+        QFETCH(int, entry);
+        QFETCH(int, interval);
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.control<QComboBox>("cmbPausa")->setCurrentIndex(entry);
+        stage.click("cmdInvia");
+        QCOMPARE(stage.timer().interval(), interval);
+    }
+
+    void everyTimeoutGoesToTheDelivery_data() {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<int>("seconds");
+        int entry = 0;
+        for (const int seconds : {5, 10, 20, 30, 60})
+            QTest::newRow(qPrintable(QString::number(seconds))) << entry++ << seconds;
+    }
+    void everyTimeoutGoesToTheDelivery() {
+        QFETCH(int, entry);
+        QFETCH(int, seconds);
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.control<QComboBox>("cmbTimeout")->setCurrentIndex(entry);
+        stage.click("cmdInvia");
+        QCOMPARE(int(stage.smtp().TimeoutSecs), seconds);
+    }
+
+    void pausesAreReadWithoutALanguageToo() {
+        SendStage stage({"a@x.it"});
+        bVAR::goSecondi.clear();
+        stage.window->CaricaDati();
+        stage.pick();
+        stage.control<QComboBox>("cmbPausa")->setCurrentIndex(11);
+        stage.click("cmdInvia");
+        QCOMPARE(stage.timer().interval(), 10000);
+        QCOMPARE(int(stage.smtp().TimeoutSecs), 5);
+    }
+
+    void limitReachedWaitsOutTheWindowAndStartsANewOne() {
+        TestClock clock;
+        SendStage stage(addresses(7));
+        useBlock(stage, "3", "5");
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 7}));
+        QCOMPARE(clock.slept(), 600000);  // behind the third and the sixth
+    }
+
+    void failedRecipientsCountToo() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        for (const char* one : {"r0@x.it", "r1@x.it"})
+            stage.sink.treat(one, SmtpSink::Treatment::Refuse);
+        useBlock(stage, "2", "1");
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 2, 1}));
+        QCOMPARE(clock.slept(), 60000);
+    }
+
+    void limitOfOneAndOfNoneWaitBehindEveryMessage_data() {
+        QTest::addColumn<QString>("number");
+        QTest::newRow("one") << "1";
+        QTest::newRow("none") << "0";
+    }
+    void limitOfOneAndOfNoneWaitBehindEveryMessage() {
+        QFETCH(QString, number);
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, number, "1");
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 120000);
+    }
+
+    void noWaitBehindTheLastMessage() {
+        TestClock clock;
+        SendStage stage(addresses(2));
+        useBlock(stage, "2", "1");
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 0);
+    }
+
+    void zeroMinutesHardlyLimit() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, "1", "0");
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 0);
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 3}));
+    }
+
+    void fractionOfMinutesIsReadAsTheUserWritesItAndOfMessagesIsRounded() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, "1,6", "2,5");
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 150000);
+    }
+
+    void windowThatRunsOutBelowTheLimitEndsTheLimiting() {
+        TestClock clock;
+        SendStage stage(addresses(6));
+        useBlock(stage, "2", "1");
+        bool first = true;
+        stage.sink.onMessage([&](const SmtpSink::Message&) {
+            if (first) clock.advance(61);
+            first = false;
+        });
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 0);
+    }
+
+    void uncheckedBoxDoesNotLimit() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, "1", "1");
+        stage.click("chkBlocco");
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 0);
+    }
+
+    void logIsAskedForWithTheCaptionOfItsBox() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.click("chkLog");
+        FileDialog::queue(stage.folder.path("registro"));
+        stage.start();
+        const auto& asked = FileDialog::shown().constLast();
+        QVERIFY(asked.save);
+        QCOMPARE(asked.title, "Crea File per assistenza.");
+        QCOMPARE(asked.filter, "File assistenza (*.xt1)|*.xt1|");
+        QCOMPARE(stage.smtp().LogFile, stage.folder.path("registro.xt1"));
+        QVERIFY(stage.smtp().LogEnabled);
+        QVERIFY(stage.waitForEnd());
+        QFile log(stage.folder.path("registro.xt1"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QVERIFY(log.readAll().contains("a@x.it"));
+    }
+
+    void cancellingTheLogLeavesEverythingUntouched() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.smtp().LogFile = "prima";
+        stage.smtp().LogEnabled = true;
+        stage.click("chkLog");
+        stage.folder.addRecipient({{"rgs", "Z"}, {"email", "z@x.it"}});
+        FileDialog::queueCancel();
+        stage.click("cmdInvia");
+        QCOMPARE(stage.smtp().LogFile, "");
+        QVERIFY(!stage.smtp().LogEnabled);
+        QVERIFY(!stage.timer().isActive());
+        QCOMPARE(stage.counters(), (QList<double>{1, 0, 0}));
+        QVERIFY(stage.enabled("cmdInvia"));
+        QVERIFY(!stage.enabled("cmdFerma"));
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void logOfAnEarlierRunStaysOnWithTheBoxUnchecked() {
+        SendStage stage({"a@x.it"});
+        stage.smtp().LogFile = stage.folder.path("prima.xt1");
+        stage.smtp().LogEnabled = true;
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().LogFile, stage.folder.path("prima.xt1"));
+        QVERIFY(stage.smtp().LogEnabled);
+        QVERIFY(QFile::exists(stage.folder.path("prima.xt1")));
+    }
+
+    void earlierLogIsTakenWithoutAQuestionAndContinued() {
+        SendStage stage({"a@x.it"});
+        QFile log(stage.folder.path("vecchio.xt1"));
+        QVERIFY(log.open(QIODevice::WriteOnly));
+        log.write("riga di prima\r\n");
+        log.close();
+        stage.pick();
+        stage.click("chkLog");
+        FileDialog::queue(log.fileName());
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray text = log.readAll();
+        QVERIFY(text.startsWith("riga di prima"));
+        QVERIFY(text.contains("a@x.it"));
+    }
+};
+
+QTEST_MAIN(TestFrmInviaLimiti)
+#include "frminvia_limiti_test.moc"

@@ -1,0 +1,119 @@
+#include "support/SampleFolder.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "core/bGlobal.h"
+#include "core/bImpostazioni.h"
+#include "core/Fallimento.h"
+#include "platform/ado/Recordset.h"
+#include "platform/jet/Database.h"
+#include "platform/system/ProgramFolder.h"
+#include "store/percorsoDBase.h"
+#include "store/Schema.h"
+
+namespace testing_support {
+
+namespace {
+
+jet::Value cell(const schema::Colonna& column, const SampleFolder::Columns& columns) {
+    const QString name = QString::fromUtf16(column.nome.data(), static_cast<qsizetype>(column.nome.size()));
+    if (column.tipo == schema::Tipo::Contatore) return {};
+    if (column.tipo == schema::Tipo::Lungo) return int64_t{1};
+    if (column.tipo == schema::Tipo::SiNo) return columns.value(name, "1") == "1";
+    const QString text = columns.value(name, QLatin1String(""));
+    return text.isNull() ? jet::Value() : jet::Value(text.toStdString());
+}
+
+}  // namespace
+
+SampleFolder::SampleFolder() {
+    QDir(m_dir.path()).mkdir("data");
+    sys::setProgramFolder(m_dir.path() + '/');
+    esigi(jet::createEmptyDatabase(database()));
+    auto file = esigi(jet::Database::open(database()));
+    esigi(file->begin());
+    const jet::Value group[] = {{}, int64_t{0}, std::string("Clienti")};
+    esigi(esigi(file->table(u"tb_gruppi"))->insert(group));
+    esigi(file->commit());
+    CambiaPercorsoDBase(database());
+    CaricaPercorsoDBase();
+    QFile accounts(cartellaDati() + "Account.imp");
+    if (!accounts.open(QIODevice::WriteOnly)) qFatal("cannot write Account.imp");
+}
+
+SampleFolder::~SampleFolder() {
+    ado::closeAll();
+    sys::setProgramFolder({});
+}
+
+int SampleFolder::addRecipients(const QList<Columns>& recipients) {
+    auto file = esigi(jet::Database::open(database()));
+    jet::Table* table = esigi(file->table(u"tb_destinatari"));
+    esigi(file->begin());
+    int first = 0;
+    for (const Columns& columns : recipients) {
+        std::vector<jet::Value> row;
+        for (const schema::Colonna& column : schema::colonneDestinatari)
+            row.push_back(cell(column, columns));
+        const int number = esigi(table->takeAutoNumber());
+        if (first == 0) first = number;
+        row[0] = int64_t{number};
+        esigi(table->insert(row));
+    }
+    esigi(file->commit());
+    return first;
+}
+
+QStringList SampleFolder::selected() {
+    ado::Recordset rows;
+    esigi(rows.setActiveConnection(connDB));
+    rows.setSource(
+        "SELECT * FROM [tb_destinatari] WHERE [sel] = True "
+        "ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind ASC;");
+    esigi(rows.open());
+    QStringList addresses;
+    for (; !rows.isEof(); esigi(rows.moveNext()))
+        addresses << esigi(rows.value(u"email")).toTextOrEmpty();
+    return addresses;
+}
+
+Account SampleFolder::loopbackAccount(quint16 port) {
+    Account account;
+    account.txtNomeVisual = "Klukla";
+    account.txtEmail = "info@klukla.example";
+    account.txtServerSMTP = "127.0.0.1";
+    account.txtServerPORT = QString::number(port);
+    account.chkAutentick = "0";
+    account.cmbSaluto = "EHLO";
+    account.txtOutPort = "0";
+    account.chkUsaSMTP = "1";
+    return account;
+}
+
+void SampleFolder::addAccount(const Account& account) {
+    NuovoAccount(cartellaDati() + "Account.imp", m_accounts, account);
+}
+
+QString SampleFolder::writeMessage(const QString& name, const MessaggioMss& message) const {
+    ScriviMessaggio(path(name), message);
+    return path(name);
+}
+
+QString SampleFolder::writeMessage() const {
+    MessaggioMss message;
+    message.Oggetto = ":::rgs:::";
+    message.Priorita = "NR";
+    message.CorpoHTML = "<html><body><p>Gentile :::nom:::</p></body></html>";
+    return writeMessage("prova.mss", message);
+}
+
+void SampleFolder::hideDatabase() {
+    QFile::rename(database(), database() + ".via");
+}
+
+void SampleFolder::showDatabase() {
+    QFile::rename(database() + ".via", database());
+}
+
+}  // namespace testing_support

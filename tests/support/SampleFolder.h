@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "accounts/AccountFile.h"
+#include "message/MessaggioMss.h"
+
+namespace testing_support {
+
+/// A program folder in a temporary place, made the program's own by the constructor: an empty database with
+/// the group "Clienti", no account. The destructor lets go of the database and gives the program its former
+/// folder back.
+class SampleFolder {
+  public:
+    SampleFolder();
+    ~SampleFolder();
+    SampleFolder(const SampleFolder&) = delete;
+    SampleFolder& operator=(const SampleFolder&) = delete;
+
+    /// Absolute path of a file in the folder.
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+    QString database() const { return path("data/data.mdb"); }
+
+    /// Columns of a recipient by name. Those that are not named are empty texts; a QString without a value
+    /// (isNull) is Null. "sel" is "1" unless named.
+    using Columns = QHash<QString, QString>;
+    /// Adds recipients to the group, in one transaction. Gives the number of the first one.
+    int addRecipients(const QList<Columns>& recipients);
+    int addRecipient(const Columns& columns) { return addRecipients({columns}); }
+
+    /// Addresses of the recipients that are selected, in the order of sending.
+    static QStringList selected();
+
+    /// Appends an account that sends through 127.0.0.1:port. `chkUsaSMTP` and the like can be changed
+    /// beforehand.
+    static Account loopbackAccount(quint16 port);
+    void addAccount(const Account& account);
+
+    /// Writes a message file; gives its path.
+    QString writeMessage(const QString& name, const MessaggioMss& message) const;
+    /// Subject ":::rgs:::", body "Gentile :::nom:::", normal priority, no attachment.
+    QString writeMessage() const;
+
+    /// Takes the database away and puts it back.
+    void hideDatabase();
+    void showDatabase();
+
+  private:
+    QTemporaryDir m_dir;
+    TabellaAccount m_accounts;
+};
+
+}  // namespace testing_support

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QStringList>
+#include <QTcpServer>
+
+class QTcpSocket;
+
+namespace testing_support {
+
+/// A catch-all SMTP server on loopback that runs on the test's own event loop: it takes every message, except
+/// from recipients that it was told to treat otherwise. No TLS, no login.
+class SmtpSink : public QObject {
+    Q_OBJECT
+
+  public:
+    enum class Treatment {
+        Accept,
+        Refuse,      ///< 550 at RCPT
+        RefuseData,  ///< 452 behind the message
+        Hang,        ///< never answers RCPT
+        Drop,        ///< closes the connection at RCPT
+    };
+
+    struct Message {
+        QByteArray recipient;
+        QByteArray sender;
+        QByteArray data;  ///< dots unstuffed, without the final point
+    };
+
+    SmtpSink();
+    ~SmtpSink() override;
+
+    quint16 port() const { return m_server.serverPort(); }
+    void treat(const QByteArray& recipient, Treatment treatment) { m_treatments[recipient] = treatment; }
+    /// Runs before a message is answered.
+    void onMessage(std::function<void(const Message&)> action) { m_onMessage = std::move(action); }
+
+    const QList<Message>& messages() const { return m_messages; }
+    /// Recipients in the order in which they were tried, refused ones included.
+    const QStringList& attempts() const { return m_attempts; }
+    /// First greeting of each connection: "EHLO" or "HELO".
+    const QList<QByteArray>& greetings() const { return m_greetings; }
+
+  Q_SIGNALS:
+    void attempted(const QString& recipient);
+
+  private:
+    struct Session {
+        QByteArray input;
+        Message message;
+        bool inData = false;
+    };
+
+    void accept();
+    void read(QTcpSocket* socket);
+    void takeLine(QTcpSocket* socket, Session& session, const QByteArray& line);
+    void takeRecipient(QTcpSocket* socket, Session& session, const QByteArray& recipient);
+    void takeData(QTcpSocket* socket, Session& session, const QByteArray& line);
+
+    QTcpServer m_server;
+    QHash<QTcpSocket*, Session> m_sessions;
+    QHash<QByteArray, Treatment> m_treatments;
+    std::function<void(const Message&)> m_onMessage;
+    QList<Message> m_messages;
+    QStringList m_attempts;
+    QList<QByteArray> m_greetings;
+};
+
+}  // namespace testing_support
