@@ -3,7 +3,7 @@
 #include <poll.h>
 #include <sys/socket.h>
 
-#include <QElapsedTimer>
+#include <algorithm>
 #include <QRegularExpression>
 #include <QSslConfiguration>
 #include <QSslSocket>
@@ -67,6 +67,8 @@ void ScriptedServer::run() {
             m_socket = &socket;
             socket.setSocketDescriptor(listener.descriptors.takeFirst());
             socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+            // What a dialogue does not read stays with the system.
+            socket.setReadBufferSize(65536);
             m_peerPorts.append(socket.peerPort());
             m_input.clear();
             play(m_dialogues[i]);
@@ -177,9 +179,16 @@ void ScriptedServer::expect(const QByteArray& pattern) {
 }
 
 void ScriptedServer::takeBody() {
-    while (!m_input.startsWith(".\r\n") && !m_input.contains("\r\n.\r\n"))
+    qsizetype searched = 0, end = 0;
+    while (!m_input.startsWith(".\r\n")) {
+        const qsizetype found = m_input.indexOf("\r\n.\r\n", searched);
+        if (found >= 0) {
+            end = found + 2;
+            break;
+        }
+        searched = std::max<qsizetype>(m_input.size() - 4, 0);
         receive();
-    const qsizetype end = m_input.startsWith(".\r\n") ? 0 : m_input.indexOf("\r\n.\r\n") + 2;
+    }
     m_bodies.append(m_input.left(end));
     m_input.remove(0, end + 3);
 }

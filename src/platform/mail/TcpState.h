@@ -10,8 +10,8 @@ int unacknowledgedOctets(int descriptor);
 /// Milliseconds since the other side last acknowledged something.
 int msSinceAcknowledgement(int descriptor);
 
-/// Closing will throw away what is not acknowledged yet and reset the connection, instead of going on to serve
-/// a server that does not read.
+/// Closing will throw away what is not acknowledged yet and reset the connection, instead of going on to
+/// serve a server that does not read.
 void resetOnClose(int descriptor);
 
 }  // namespace mail
