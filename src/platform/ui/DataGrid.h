@@ -41,6 +41,8 @@ class DataGrid : public QTableView {
     void RemoveItem(int row) { m_model->removeGridRow(row); }
     /// In pixels; 0 hides the column.
     void setColWidth(int column, int width);
+    /// Widths of all columns in the table's order, the leading one first; for use before the first fill.
+    void setColWidths(std::vector<int> widths) { m_widths = std::move(widths); }
     /// Moves a column; those between move up by one.
     void setColPosition(int column, int position);
 
@@ -59,8 +61,6 @@ class DataGrid : public QTableView {
     /// unless the button went down on a row and the pointer has come far enough since; then when the drag is
     /// over.
     void Drag();
-    /// Type of what is dragged. It has no content: it means the current row of the grid that is its source.
-    static QString rowMimeType();
 
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 

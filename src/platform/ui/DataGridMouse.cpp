@@ -2,16 +2,12 @@
 #include <QApplication>
 #include <QDrag>
 #include <QHeaderView>
-#include <QMimeData>
 #include <QMouseEvent>
 
 #include "platform/ui/DataGrid.h"
+#include "platform/ui/DataGridDrag.h"
 
 namespace ui {
-
-QString DataGrid::rowMimeType() {
-    return QStringLiteral("application/x-vestrola-row");
-}
 
 void DataGrid::mousePressEvent(QMouseEvent* event) {
     const QModelIndex cell = indexAt(event->position().toPoint());
@@ -75,10 +71,8 @@ void DataGrid::Drag() {
     QRect row = visualRect(currentIndex());
     row.setLeft(0);
     row.setRight(viewport()->width() - 1);
-    auto* content = new QMimeData;
-    content->setData(rowMimeType(), {});
     auto* drag = new QDrag(this);
-    drag->setMimeData(content);
+    drag->setMimeData(dragContent(Dragged::Row));
     drag->setPixmap(viewport()->grab(row.intersected(QRect(0, 0, 320, viewport()->height()))));
     drag->exec(Qt::MoveAction);
 }

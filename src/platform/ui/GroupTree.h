@@ -113,7 +113,6 @@ class GroupTree : public QTreeWidget {
 
     GroupTreeItem* itemOf(const QString& key) const;
     void clickNode(const GroupNodeRef& node);
-    bool accepts(const QDropEvent* event) const;
     void finishLabelEdit(const QModelIndex& index, const QString& text);
 
     std::map<QString, GroupTreeItem*> m_items;

@@ -1,19 +1,12 @@
 // Clicks, keys and drags of the tree.
 #include <QDrag>
 #include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 
-#include "platform/ui/DataGrid.h"
+#include "platform/ui/DataGridDrag.h"
 #include "platform/ui/GroupTreeItem.h"
 
 namespace ui {
-
-namespace {
-
-const QString nodeMimeType = QStringLiteral("application/x-vestrola-node");
-
-}  // namespace
 
 void GroupTree::clickNode(const GroupNodeRef& node) {
     m_lastClicked = node;
@@ -75,28 +68,20 @@ void GroupTree::startDrag(Qt::DropActions) {
     const GroupNodeRef dragged = std::exchange(m_pressed, nullptr);
     if (!dragged) return;
     const QRect area = visualItemRect(dragged->m_item);
-    auto* content = new QMimeData;
-    content->setData(nodeMimeType, {});
     auto* drag = new QDrag(this);
-    drag->setMimeData(content);
+    drag->setMimeData(dragContent(Dragged::Node));
     drag->setPixmap(viewport()->grab(area.intersected(viewport()->rect())));
     setSelectedItem(m_lastClicked);
     drag->exec(Qt::MoveAction);
 }
 
-bool GroupTree::accepts(const QDropEvent* event) const {
-    // Only drags of this program: a row of another one is not the row that its own grid shows as current.
-    return event->source() && (event->mimeData()->hasFormat(nodeMimeType) ||
-                               event->mimeData()->hasFormat(DataGrid::rowMimeType()));
-}
-
 void GroupTree::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(accepts(event));
+    event->setAccepted(draggedIn(event->mimeData()) != Dragged::Nothing);
 }
 
 void GroupTree::dragMoveEvent(QDragMoveEvent* event) {
     QTreeWidget::dragMoveEvent(event);
-    event->setAccepted(accepts(event));
+    event->setAccepted(draggedIn(event->mimeData()) != Dragged::Nothing);
     if (event->isAccepted()) Q_EMIT draggedOver(HitTest(event->position().toPoint()));
 }
 
@@ -108,10 +93,11 @@ void GroupTree::dragLeaveEvent(QDragLeaveEvent* event) {
 void GroupTree::dropEvent(QDropEvent* event) {
     QDragLeaveEvent over;
     QTreeWidget::dragLeaveEvent(&over);
-    if (!accepts(event)) return;
+    const Dragged what = draggedIn(event->mimeData());
+    if (what == Dragged::Nothing) return;
     event->acceptProposedAction();
     const GroupNodeRef node = HitTest(event->position().toPoint());
-    if (event->mimeData()->hasFormat(nodeMimeType)) {
+    if (what == Dragged::Node) {
         Q_EMIT nodeDropped(node);
     } else {
         Q_EMIT rowDropped(node);
