@@ -283,6 +283,8 @@ TEST_F(RecordsetTest, ComparingANumberWithSomethingElseFindsNothing) {
     EXPECT_EQ(column("SELECT * FROM tb_gruppi WHERE id IN (1, 2, 1)", "id"), "1");
     EXPECT_EQ(column("SELECT * FROM tb_gruppi WHERE id_up IN (0, 5) AND nome = 'A' ORDER BY nome", "id"),
               "1");
+    EXPECT_EQ(column("SELECT * FROM tb_gruppi WHERE id = 1 OR id_up = 0 ORDER BY nome", "id"), "1");
+    EXPECT_EQ(column("SELECT nome, count(*) AS n FROM tb_gruppi GROUP BY nome ORDER BY nome", "n"), "1");
 }
 
 TEST_F(RecordsetTest, AMissingColumnOrTableFailsAtOpening) {
