@@ -1,16 +1,64 @@
 #include "core/Finestre.h"
 
+#include <QPointer>
+
 #include "send/frmInvia.h"
+#include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "store/frmDestinatario.h"
 
-// The instances are never destroyed: the program ends without unloading its windows.
+// The program ends without unloading its windows, so nothing here is destroyed at the end.
 
-frmMain& finestre::Main() {
-    static auto* finestra = new frmMain;
+namespace {
+
+QPointer<frmMain> principale;
+QPointer<frmSplash> apertura;
+
+/// A window that stands over the main one and belongs to it.
+template <class Finestra>
+Finestra& dialogo() {
+    static QPointer<Finestra> finestra;
+    if (!finestra) finestra = new Finestra(&finestre::Main());
     return *finestra;
 }
 
+}  // namespace
+
+frmMain& finestre::Main() {
+    if (!principale) {
+        principale = new frmMain;
+        principale->Carica();
+    }
+    return *principale;
+}
+
 frmInvia& finestre::Invia() {
-    static auto* finestra = new frmInvia(&Main());
-    return *finestra;
+    return dialogo<frmInvia>();
+}
+
+frmDestinatario& finestre::Destinatario() {
+    return dialogo<frmDestinatario>();
+}
+
+frmInfoSu& finestre::InfoSu() {
+    return dialogo<frmInfoSu>();
+}
+
+frmSplash& finestre::Splash() {
+    if (!apertura) {
+        apertura = new frmSplash;
+        apertura->Carica();
+    }
+    return *apertura;
+}
+
+void finestre::ScaricaSplash() {
+    delete apertura;
+    if (principale) principale->setEnabled(true);
+}
+
+void finestre::dimentica() {
+    delete apertura;
+    delete principale;
 }

@@ -1,13 +1,28 @@
 #pragma once
 
+class frmDestinatario;
+class frmInfoSu;
 class frmInvia;
 class frmMain;
+class frmSplash;
 
 /// The references of the windows: each window exists once, is created when it is first named and is kept for
 /// the whole run, so that a window that is only hidden keeps its content for the next opening.
 namespace finestre {
 
+/// The first mention creates the window and runs its load. A load that fails leaves the window where it got
+/// to.
 ::frmMain& Main();
 ::frmInvia& Invia();
+::frmDestinatario& Destinatario();
+::frmInfoSu& InfoSu();
+
+/// The splash is the one window that is unloaded: a later mention loads it again.
+::frmSplash& Splash();
+/// Unloads the splash; from then on the main window is enabled.
+void ScaricaSplash();
+
+/// For tests: destroys every window, so that the next mention begins anew.
+void dimentica();
 
 }  // namespace finestre

@@ -7,3 +7,15 @@ QString prodotto::nome() {
 QString prodotto::versione() {
     return QStringLiteral("Ver. " VESTROLA_VERSION);
 }
+
+QString prodotto::paginaWeb() {
+    return QStringLiteral("https://www.quintara.example/");
+}
+
+QString prodotto::indirizzoPosta() {
+    return QStringLiteral("info@quintara.example");
+}
+
+QString prodotto::collegamentoPosta() {
+    return QStringLiteral("mailto:") + indirizzoPosta();
+}

@@ -10,4 +10,9 @@ QString nome();
 /// "Ver. 3.0.2130": major, minor and revision as plain numbers.
 QString versione();
 
+/// The maker's web site, and the maker's mail address as people read it and as a link.
+QString paginaWeb();
+QString indirizzoPosta();
+QString collegamentoPosta();
+
 }  // namespace prodotto

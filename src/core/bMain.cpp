@@ -1,21 +1,26 @@
 #include "core/bMain.h"
 
-#include <QApplication>
-
 #include "core/bError.h"
+#include "core/CentraForm.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
+#include "core/Puntatore.h"
 #include "shell/frmMain.h"
+#include "shell/frmSplash.h"
 #include "store/percorsoDBase.h"
 
 void SubMain() {
     Prosegui prosegui;
     ScriviInizioLog();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    PuntatoreAttesa();
     CaricaPercorsoDBase();
     // Naming the main window creates and loads it before the caption is stored.
     prosegui([] { TitoloPrincipale(); });
+    // The splash stays on top while the main window comes up.
+    prosegui([] { CentraForm(finestre::Splash()); });
     prosegui([] { finestre::Main().show(); });
     prosegui([] { TitoloPrincipale(); });
-    QApplication::restoreOverrideCursor();
+    prosegui([] { finestre::Splash().hide(); });
+    prosegui([] { finestre::ScaricaSplash(); });
+    PuntatorePredefinito();
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <QApplication>
 #include <string_view>
+#include <utility>
 
 #include "core/bGlobal.h"
 
@@ -53,15 +54,6 @@ QColor colore(std::uint32_t valore) {
     return QColor(valore & 0xff, (valore >> 8) & 0xff, (valore >> 16) & 0xff);
 }
 
-/// Entry `sopra` over entry `sotto`.
-QColor misto(int sopra, int sotto, int quota) {
-    return colore(MescolaColori(coloriTema[sopra], coloriTema[sotto], quota));
-}
-
-QColor mistoSuBianco(int sopra, int quota) {
-    return colore(MescolaColori(coloriTema[sopra], valore(255, 255, 255), quota));
-}
-
 void ImpostaTestiDisattivati(QPalette& tavolozza) {
     const QColor testo = misto(20, 0, 120);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -86,7 +78,10 @@ QPalette tavolozzaMenu() {
     return tavolozza;
 }
 
+/// Windows that are shown already are painted anew by each change, so an unchanged palette is left alone.
 void VestiProgramma() {
+    static decltype(coloriTema) vestito{};
+    if (std::exchange(vestito, coloriTema) == coloriTema) return;
     QApplication::setPalette(tavolozzaTema());
     const QPalette menu = tavolozzaMenu();
     QApplication::setPalette(menu, "QMenu");
@@ -153,4 +148,12 @@ QPalette tavolozzaTema() {
 
 QColor coloreTema(int indice) {
     return colore(coloriTema[indice]);
+}
+
+QColor misto(int sopra, int sotto, int quota) {
+    return colore(MescolaColori(coloriTema[sopra], coloriTema[sotto], quota));
+}
+
+QColor mistoSuBianco(int sopra, int quota) {
+    return colore(MescolaColori(coloriTema[sopra], valore(255, 255, 255), quota));
 }

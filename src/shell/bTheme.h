@@ -25,3 +25,8 @@ QPalette tavolozzaTema();
 
 /// An entry of coloriTema.
 QColor coloreTema(int indice);
+
+/// Entry `sopra` over entry `sotto`, as MescolaColori mixes them.
+QColor misto(int sopra, int sotto, int quota);
+/// Entry `sopra` over white.
+QColor mistoSuBianco(int sopra, int quota);

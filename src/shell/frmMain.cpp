@@ -1,42 +1,108 @@
 #include "shell/frmMain.h"
 
 #include <QCloseEvent>
-#include <QMenuBar>
 
+#include "core/bGlobal.h"
+#include "core/bImpostazioni.h"
+#include "core/CentraForm.h"
 #include "core/Evento.h"
 #include "core/Finestre.h"
+#include "core/Posizione.h"
 #include "core/Prodotto.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DataControl.h"
+#include "platform/ui/DataGrid.h"
 #include "shell/bTheme.h"
+#include "shell/frmSplash.h"
+#include "store/frmGruppi.h"
+#include "store/griglia.h"
 
-frmMain::frmMain() {
+namespace {
+
+QString fileDisposizione() {
+    return cartellaDati() + "LayoutMain.imp";
+}
+
+}  // namespace
+
+frmMain::frmMain()
+    : barre(new ui::CommandBars(this)),
+      pannelli(this),
+      destinatari(new ui::DataGrid),
+      dati(new ui::DataControl(this)) {
     setObjectName("frmMain");
-    RilevaTema(this);
+    destinatari->setObjectName("grd");
+    destinatari->setAccessibleName("Destinatari");
+    destinatari->setDataSource(dati);
+    dati->setObjectName("Adodc");
+    setCentralWidget(destinatari);
+    CreaComandi();
     CreaMenu();
+    CreaBarre();
+    CreaBarraStato();
+    pannelli.addPane("dckGruppi", "Gruppi mailing", Qt::LeftDockWidgetArea, 230);
     resize(1080, 640);
 }
 
-void frmMain::CreaMenu() {
-    menuBar()->setObjectName("Menu");
-    QMenu* mnuFile = menuBar()->addMenu("&File");
-    mnuFile->setObjectName("mnuFile");
-    const auto comando = [this, mnuFile](const char* nome, const char* testo, const char* descrizione,
-                                         const char* icona) {
-        QAction* azione = mnuFile->addAction(QIcon::fromTheme(icona), testo);
-        azione->setObjectName(nome);
-        azione->setStatusTip(descrizione);
-        connect(azione, &QAction::triggered, this,
-                [this, azione] { evento([&] { ComandoPremuto(azione->objectName()); }); });
-        return azione;
-    };
-    comando("cmdInvia", "&Invia messaggi", "Invia i messaggi", "document-send")
-        ->setShortcut(Qt::CTRL | Qt::Key_Return);
-    mnuFile->addSeparator();
-    comando("cmdEsci", "&Esci", "Esci dal programma", "application-exit")->setShortcut(Qt::CTRL | Qt::Key_Q);
+void frmMain::Carica() {
+    griglia::Collega(*this);
+    CentraForm(finestre::Splash());
+    SvuotaGriglia();
+    RilevaTema(this);
+    ImpostaColoriGriglia();
+    // Without a layout that can be read the bars and panes stand as they were designed.
+    static_cast<void>(pannelli.loadLayout(fileDisposizione()));
+    CaricaPosizioneForm(*this);
+    TitoloPrincipale();
+    CaricaGruppi();
+    finestre::ScaricaSplash();
+}
+
+void frmMain::CaricaGruppi() {
+    auto* gruppi = new frmGruppi;
+    pannelli.DockWindows("dckGruppi")->setContent(gruppi);
+    gruppi->CaricaGruppiINI();
+    CreaGiroFuoco(*gruppi);
+    AggiornaComandi();
+}
+
+frmGruppi& frmMain::Gruppi() {
+    QWidget* contenuto = pannelli.DockWindows("dckGruppi")->content();
+    if (!contenuto) fallisci(ErrorCode::ItemNotFound);
+    return static_cast<frmGruppi&>(*contenuto);
+}
+
+void frmMain::SvuotaGriglia() {
+    destinatari->Clear();
+    destinatari->setRows(1);
+    AggiornaComandi();
+}
+
+void frmMain::ImpostaColoriGriglia() {
+    destinatari->setLineColor(coloreTema(24));
+    destinatari->setFixedColor(coloreTema(0));
 }
 
 void frmMain::closeEvent(QCloseEvent* chiusura) {
-    evento([] { TerminaProgramma(0); });
     chiusura->ignore();
+    evento([this] {
+        static_cast<void>(pannelli.saveLayout(fileDisposizione()));
+        SalvaPosizioneForm(*this);
+        TerminaProgramma(0);
+    });
+}
+
+void frmMain::resizeEvent(QResizeEvent* dimensione) {
+    QMainWindow::resizeEvent(dimensione);
+    evento([this] {
+        RilevaTema(this);
+        ImpostaColoriGriglia();
+    });
+}
+
+void frmMain::changeEvent(QEvent* cambiamento) {
+    QMainWindow::changeEvent(cambiamento);
+    if (cambiamento->type() == QEvent::ActivationChange) evento([this] { AggiornaData(); });
 }
 
 void TitoloPrincipale() {

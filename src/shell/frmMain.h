@@ -1,30 +1,97 @@
 #pragma once
 
+#include <optional>
 #include <QMainWindow>
 
-namespace ado {
-class Recordset;
-}
+#include "platform/ado/Command.h"
+#include "platform/ado/Recordset.h"
+#include "platform/ui/DockPanes.h"
 
-/// The main window: the doorway to everything else. All of its commands come through ComandoPremuto.
+class frmGruppi;
+namespace ui {
+class CommandBars;
+class DataControl;
+class DataGrid;
+}  // namespace ui
+
+/// What every command has at hand, used or not; it is gone when the command is done, so that no cursor
+/// outlives it.
+struct AccessoComando {
+    ado::Recordset rs;     ///< static cursor, server side, optimistic lock, on connDB
+    ado::Command comando;  ///< text, no time-out, not prepared, on connDB
+};
+
+/// The main window: the doorway to everything else. It holds the menus and bars, the grid of recipients and
+/// the pane of the groups. All of its commands come through ComandoPremuto.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
     frmMain();
 
+    /// The load of the window, run once by the first mention (finestre::Main): splash, theme, layout,
+    /// language, placement, group tree. Unguarded: what stands behind a failed step does not run.
+    void Carica();
+
+    ui::CommandBars& Commands() { return *barre; }
+    ui::DockPanes& DockWindows() { return pannelli; }
+    ui::DataGrid& grd() { return *destinatari; }
+    ui::DataControl& Adodc() { return *dati; }
+    /// The group window, reached through its pane. Fails when the load did not get that far.
+    frmGruppi& Gruppi();
+
     /// Runs the command of that name; a name that is not known has no effect. Unguarded. While one command
     /// runs, further ones are ignored.
     void ComandoPremuto(const QString& nome);
 
+    /// The open dialog for a recipient database; empty when it was cancelled.
+    static std::optional<QString> ChiediDatabase();
+    /// Makes another database the current one: path file, connection text, and an empty grid that is bound to
+    /// it.
+    void CambiaDatabase(const QString& percorso);
+    /// The grid without rows; it stays so until a group is clicked.
+    void SvuotaGriglia();
+    /// Turns the commands that stand on a bar and in a pop-up menu on or off. To be called after nodoCorrente
+    /// or the rows of the grid have changed.
+    void AggiornaComandi();
+
   protected:
-    /// Every way of closing the window ends the program.
+    /// Every way of closing the window ends the program: layout and placement are saved, no other window is
+    /// asked.
     void closeEvent(QCloseEvent* chiusura) override;
+    void resizeEvent(QResizeEvent* dimensione) override;
+    void changeEvent(QEvent* cambiamento) override;
 
   private:
+    // frmMain_barre.cpp: menus, bars, status bar
+    void CreaComandi();
     void CreaMenu();
-    void cmdInvia(ado::Recordset& rs);
+    void CreaBarre();
+    void CreaBarraStato();
+    /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars.
+    void CreaGiroFuoco(frmGruppi& gruppi);
+    void AggiornaData();
 
+    // frmMain_comandi.cpp
+    struct RigaComando;
+    static const RigaComando tabellaComandi[];
+    using Accesso = std::optional<AccessoComando>;
+    void cmdMailingSalva(Accesso& accesso);
+    void cmdMailingApri(Accesso& accesso);
+    void cmdInvia(Accesso& accesso);
+    void cmdHelpGuida();
+
+    // frmMain_database.cpp
+    void ApriDatabase();
+    void SalvaDatabase();
+
+    void CaricaGruppi();
+    void ImpostaColoriGriglia();
+
+    ui::CommandBars* barre;
+    ui::DockPanes pannelli;
+    ui::DataGrid* destinatari;
+    ui::DataControl* dati;
     bool comandoInCorso = false;
 };
 

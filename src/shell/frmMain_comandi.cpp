@@ -1,27 +1,125 @@
+// The one handler of all commands.
+#include <algorithm>
+#include <iterator>
 #include <QScopedValueRollback>
+#include <QUrl>
 
+#include "core/bFunctions.h"
+#include "core/bGlobal.h"
+#include "core/Fallimento.h"
 #include "core/Finestre.h"
+#include "core/Prodotto.h"
 #include "lang/bVAR.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/ui/MessageDialog.h"
 #include "send/frmInvia.h"
 #include "send/Selezione.h"
+#include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
+#include "store/frmGruppi_comandi.h"
+#include "store/griglia.h"
+
+struct frmMain::RigaComando {
+    const char* nome;
+    void (*esegui)(frmMain& finestra, Accesso& accesso);
+};
+
+namespace {
+
+using Accesso = std::optional<AccessoComando>;
+
+/// A command that needs nothing but the prepared command, or the prepared recordset.
+template <void (*routine)(ado::Command&)>
+void conComando(frmMain&, Accesso& accesso) {
+    routine(accesso->comando);
+}
+template <void (*routine)(ado::Recordset&)>
+void conRecordset(frmMain&, Accesso& accesso) {
+    routine(accesso->rs);
+}
+template <void (*routine)()>
+void solo(frmMain&, Accesso&) {
+    routine();
+}
+
+}  // namespace
+
+// The first equal name decides. The editor and the imports have no window yet.
+const frmMain::RigaComando frmMain::tabellaComandi[] = {
+    {"cmdFileAccount", [](frmMain&, Accesso&) {}},
+    {"cmdEsci", [](frmMain& finestra, Accesso&) { finestra.close(); }},
+    {"cmdEditor", [](frmMain&, Accesso&) {}},
+    {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
+    {"cmdMailingApri", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingApri(accesso); }},
+    {"cmdMailingImpTXT", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpOE", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpMSO", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpDB", [](frmMain&, Accesso&) {}},
+    {"cmdInvia", [](frmMain& finestra, Accesso& accesso) { finestra.cmdInvia(accesso); }},
+    {"cmdPopMailingHead", conRecordset<comandiGruppo::Testa>},
+    {"cmdPopMailingDel", conComando<comandiGruppo::Elimina>},
+    {"cmdPopMailingCopia",
+     [](frmMain&, Accesso& accesso) { comandiGruppo::Copia(accesso->rs, accesso->comando); }},
+    {"cmdPopMailingRinomina", solo<comandiGruppo::Rinomina>},
+    {"cmdPopMailingNew", conRecordset<comandiGruppo::Nuovo>},
+    {"cmdPopMailingSelAllGRP", conComando<comandiGruppo::SelAllGRP>},
+    {"cmdPopMailingSelNotGRP", conComando<comandiGruppo::SelNotGRP>},
+    {"cmdPopMailingSelAllDB", conComando<comandiGruppo::SelAllDB>},
+    {"cmdPopMailingSelNotDB", conComando<comandiGruppo::SelNotDB>},
+    {"cmdPopMailingUserNew", solo<comandiDestinatario::Nuovo>},
+    {"cmdPopMailingUserMod", solo<comandiDestinatario::Modifica>},
+    {"cmdPopMailingUserDel", conComando<comandiDestinatario::Elimina>},
+    {"cmdPopMailingSvuotaCartella", conComando<comandiGruppo::SvuotaCartella>},
+    {"cmdHelpGuida", [](frmMain& finestra, Accesso&) { finestra.cmdHelpGuida(); }},
+    {"cmdHelpHomePage", [](frmMain&, Accesso&) { ApriShell(prodotto::paginaWeb()); }},
+    {"cmdHelpInviaMail", [](frmMain&, Accesso&) { ApriShell(prodotto::collegamentoPosta()); }},
+    {"cmdHelpInfoSu", [](frmMain&, Accesso&) { finestre::InfoSu().exec(); }},
+};
+
+namespace {
+
+AccessoComando creaAccesso() {
+    AccessoComando accesso{RecordsetSelezione(), {}};
+    esigi(accesso.comando.setActiveConnection(connDB));
+    accesso.comando.setCommandTimeout(0);
+    accesso.comando.setPrepared(false);
+    return accesso;
+}
+
+}  // namespace
 
 void frmMain::ComandoPremuto(const QString& nome) {
     if (comandoInCorso) return;
     const QScopedValueRollback inCorso(comandoInCorso, true);
 
-    // Every command has a recordset of its own, used or not; it is gone when the command is done.
-    ado::Recordset rs = RecordsetSelezione();
-    if (nome == "cmdEsci") {
-        close();
-    } else if (nome == "cmdInvia") {
-        cmdInvia(rs);
-    }
+    Accesso accesso = creaAccesso();
+    const auto riga = std::find_if(std::begin(tabellaComandi), std::end(tabellaComandi),
+                                   [&](const RigaComando& r) { return nome == QLatin1String(r.nome); });
+    if (riga != std::end(tabellaComandi)) riga->esegui(*this, accesso);
+    AggiornaComandi();
 }
 
-void frmMain::cmdInvia(ado::Recordset& rs) {
-    if (ContaSelezionati(rs) < 1) {
+void frmMain::cmdMailingSalva(Accesso& accesso) {
+    accesso.reset();
+    SalvaDatabase();
+}
+
+void frmMain::cmdMailingApri(Accesso& accesso) {
+    const int risposta = ui::MessageDialog::show(
+        "Il percorso del database che verrà aperto diventerà quello di default per i prossimi avii.\r\n"
+        "Il database deve stare in una cartella sicura e non potrà essere rinominato o spostato durante "
+        "l'esecuzione per programma.\r\n"
+        "La cartella contentente il database dovrà avere i permessi di scrittura altrimenti il software non "
+        "funzionerà.\r\n"
+        "Continuare?",
+        ui::MessageDialog::AskNotice, "Attenzione");
+    if (risposta != ui::MessageDialog::Yes) return;
+    accesso.reset();
+    ApriDatabase();
+}
+
+void frmMain::cmdInvia(Accesso& accesso) {
+    if (ContaSelezionati(accesso->rs) < 1) {
         ui::MessageDialog::show(bVAR::AddDestinatario, ui::MessageDialog::Notice, bVAR::Attenzione);
         return;
     }
@@ -29,4 +127,8 @@ void frmMain::cmdInvia(ado::Recordset& rs) {
     invio.SetPrgBar();
     invio.CaricaDati();
     invio.exec();
+}
+
+void frmMain::cmdHelpGuida() {
+    ApriShell(QUrl::fromLocalFile(sys::helpPage()).toString());
 }

@@ -44,6 +44,14 @@ QString installedTemplates(const QString& applicationFolder) {
     return QDir::cleanPath(applicationFolder + QStringLiteral("/../share/vestrola/templates"));
 }
 
+QString helpPage() {
+    const QString application = QCoreApplication::applicationDirPath();
+    const QString beside = application + QStringLiteral("/help/index.html");
+    return QFileInfo::exists(beside)
+               ? beside
+               : QDir::cleanPath(application + QStringLiteral("/../share/vestrola/help/index.html"));
+}
+
 QString chooseProgramFolder(const QString& applicationFolder, const QString& userData) {
     const bool installed = QFileInfo(installedTemplates(applicationFolder)).isDir();
     if (!installed && QFileInfo(applicationFolder).isWritable()) return applicationFolder;

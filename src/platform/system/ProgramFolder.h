@@ -25,6 +25,10 @@ void setProgramFolder(const QString& folder);
 /// without ending "/".
 QString installedTemplates(const QString& applicationFolder);
 
+/// The first page of the help: in the folder "help" beside the program, or where an installed program has it
+/// ("../share/vestrola/help" as seen from its own folder).
+QString helpPage();
+
 /// Cases 2 and 3 for a program in `applicationFolder` and a user with the data home `userData`; no ending
 /// "/".
 QString chooseProgramFolder(const QString& applicationFolder, const QString& userData);

@@ -1,0 +1,16 @@
+#pragma once
+
+class QWidget;
+
+/// Where a window stood at the end of the last run: the file "<name of the window>.imp" in the data folder.
+/// docs/formats/posizione.md shows its lines. Positions are twips, 15 to a pixel. Both routines work through
+/// the one buffer posLeft … posWindowState, which is never reset: what a file does not tell is what the
+/// buffer holds.
+
+/// Puts a window where its file says. Passes over every failure; a file that is missing, or damaged so that
+/// nothing was ever read, leaves the window at its design place.
+void CaricaPosizioneForm(QWidget& finestra);
+
+/// Writes a window's file. The state is always that of the main window; a rectangle goes into the buffer only
+/// while that state is normal, so that a maximised window keeps the rectangle that was read. Unguarded.
+void SalvaPosizioneForm(const QWidget& finestra);

@@ -1,0 +1,13 @@
+#include "core/Puntatore.h"
+
+#include <QApplication>
+
+void PuntatoreAttesa() {
+    PuntatorePredefinito();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void PuntatorePredefinito() {
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+}

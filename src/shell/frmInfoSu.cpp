@@ -1,0 +1,59 @@
+#include "shell/frmInfoSu.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "core/bFunctions.h"
+#include "core/Evento.h"
+#include "core/Prodotto.h"
+#include "platform/ui/LinkLabel.h"
+#include "shell/bTheme.h"
+#include "shell/Insegna.h"
+
+frmInfoSu::frmInfoSu(QWidget* parent) : QDialog(parent) {
+    setObjectName("frmInfoSu");
+    setWindowTitle("Info su...");
+    RilevaTema(this);
+    QVBoxLayout* colonna = CreaInsegna(*this);
+    colonna->addSpacing(16);
+    CreaCollegamento(*colonna, "Link", prodotto::paginaWeb(), prodotto::paginaWeb());
+    CreaCollegamento(*colonna, "MailTo", prodotto::indirizzoPosta(), prodotto::collegamentoPosta());
+    colonna->addStretch();
+    resize(QSize(420, 240).expandedTo(sizeHint()));
+}
+
+void frmInfoSu::CreaCollegamento(QVBoxLayout& colonna, const char* nome, const QString& testo,
+                                 const QString& destinazione) {
+    auto* collegamento = new ui::LinkLabel(testo);
+    collegamento->setObjectName(nome);
+    colonna.addWidget(collegamento);
+    connect(collegamento, &ui::LinkLabel::activated, this, [destinazione] {
+        evento([&] {
+            Prosegui prosegui;
+            prosegui([&] { ApriShell(destinazione); });
+        });
+    });
+}
+
+void frmInfoSu::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmInfoSu::mouseReleaseEvent(QMouseEvent*) {
+    hide();
+}
+
+void frmInfoSu::keyPressEvent(QKeyEvent* tasto) {
+    const auto chiavi = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space};
+    if (std::find(chiavi.begin(), chiavi.end(), tasto->key()) == chiavi.end())
+        QDialog::keyPressEvent(tasto);
+    else
+        hide();
+}
+
+void frmInfoSu::showEvent(QShowEvent* mostra) {
+    QDialog::showEvent(mostra);
+    // Return hides the window unless the user has gone to a link.
+    setFocus();
+}

@@ -1,0 +1,168 @@
+// The commands of the main window and where they stand: menus, tool bars, pop-up menus, status bar.
+#include <QLocale>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QToolBar>
+#include <vector>
+
+#include "core/Evento.h"
+#include "platform/system/Clock.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DataGrid.h"
+#include "shell/frmMain.h"
+#include "store/frmGruppi.h"
+#include "store/griglia.h"
+
+namespace {
+
+using Tasti = QList<QKeySequence>;
+constexpr auto dalMenu = ui::CommandDesign::Scope::Popup;
+
+// In the order of the menus. A command with keys of `dalMenu` hears them only where a pop-up offers it.
+std::vector<ui::CommandDesign> comandiDeiMenu() {
+    return {
+        {"cmdFileAccount", "Imposta &Account", "Imposta Account", "user-properties",
+         Tasti{Qt::CTRL | Qt::Key_Comma}},
+        {"cmdInvia", "&Invia messaggi", "Invia i messaggi", "document-send",
+         Tasti{Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
+        {"cmdEsci", "&Esci", "Esci dal programma", "application-exit", Tasti{Qt::CTRL | Qt::Key_Q}},
+        {"cmdEditor", "Editor Messaggi", "Editor messaggi", "mail-message-new", Tasti{Qt::CTRL | Qt::Key_N}},
+        {"cmdMailingApri", "&Apri Mailing List", "Apri Mailing List", "document-open",
+         Tasti{Qt::CTRL | Qt::Key_O}},
+        {"cmdMailingSalva", "&Salva Mailing List", "Salva Mailing List", "document-save-as",
+         Tasti{Qt::CTRL | Qt::SHIFT | Qt::Key_S}},
+        {"cmdMailingImpTXT", "Importa Mailing List da file di &testo",
+         "Importa Mailing List da file di testo", "text-csv", Tasti{Qt::CTRL | Qt::Key_I}},
+        {"cmdMailingImpOE", "Importa Mailing List da &Outlook Express",
+         "Importa Mailing List da Outlook Express", "view-pim-contacts"},
+        {"cmdMailingImpMSO", "Importa Mailing List da &Microsoft Outlook",
+         "Importa Mailing List da Microsoft Outlook", "resource-group"},
+        {"cmdMailingImpDB", "Importa Mailing List da Microsoft A&ccess",
+         "Importa Mailing List da Microsoft Access", "application-vnd.ms-access"},
+        {"cmdHelpGuida", "xxx Guida in linea", "Guida in linea", "help-contents", Tasti{Qt::Key_F1}},
+        {"cmdHelpHomePage", "Visita la &home page di Quintara", "Visita la Home Page", "globe"},
+        {"cmdHelpInviaMail", "Invia una &email a Quintara", "Invia una Email", "mail-message"},
+        {"cmdHelpInfoSu", "&Info su...", "Info su...", "help-about"},
+    };
+}
+
+std::vector<ui::CommandDesign> comandiDeiGruppi() {
+    return {
+        {"cmdPopMailingHead", "Imposta come cartella principale", "Imposta come cartella principale",
+         "go-top"},
+        {"cmdPopMailingDel", "Elimina cartella", "Elimina cartella", "edit-delete", Tasti{Qt::Key_Delete},
+         dalMenu},
+        {"cmdPopMailingCopia", "Copia cartella nello stesso livello", "Copia cartella nello stesso livello",
+         "edit-copy", Tasti{Qt::CTRL | Qt::Key_D}, dalMenu},
+        {"cmdPopMailingRinomina", "Rinomina cartella", "Rinomina cartella", "edit-rename", Tasti{Qt::Key_F2},
+         dalMenu},
+        {"cmdPopMailingNew", "Nuova cartella dentro questo livello", "Nuova cartella dentro questo livello",
+         "folder-new", Tasti{Qt::CTRL | Qt::SHIFT | Qt::Key_N}, dalMenu},
+        {"cmdPopMailingSelAllDB", "Seleziona l'intero database", "Seleziona l'intero database",
+         "edit-select-all", Tasti{Qt::CTRL | Qt::Key_A}, dalMenu},
+        {"cmdPopMailingSelNotDB", "Deseleziona l'intero database", "Deseleziona l'intero database",
+         "edit-select-none", Tasti{Qt::CTRL | Qt::SHIFT | Qt::Key_A}, dalMenu},
+        {"cmdPopMailingSelAllGRP", "Seleziona tutti i destinatari della cartella",
+         "Seleziona tutti i destinatari della cartella", "edit-select-all", Tasti{Qt::CTRL | Qt::Key_A},
+         dalMenu},
+        {"cmdPopMailingSelNotGRP", "Deseleziona tutti i destinatari della cartella",
+         "Deseleziona tutti i destinatari della cartella", "edit-select-none",
+         Tasti{Qt::CTRL | Qt::SHIFT | Qt::Key_A}, dalMenu},
+        {"cmdPopMailingSvuotaCartella", "Svuota cartella", "Svuota cartella", "edit-clear-all"},
+    };
+}
+
+std::vector<ui::CommandDesign> comandiDeiDestinatari() {
+    return {
+        {"cmdPopMailingUserNew", "Nuovo destinatario in questa cartella",
+         "Nuovo destinatario in questa cartella", "list-add-user", Tasti{Qt::Key_Insert}, dalMenu},
+        {"cmdPopMailingUserMod", "Modifica destinatario", "Modifica destinatario", "document-edit",
+         Tasti{Qt::Key_Return, Qt::Key_Enter}, dalMenu},
+        {"cmdPopMailingUserDel", "Elimina destinatario", "Elimina destinatario", "list-remove-user",
+         Tasti{Qt::Key_Delete}, dalMenu},
+    };
+}
+
+}  // namespace
+
+void frmMain::CreaComandi() {
+    for (const auto& comandi : {comandiDeiMenu(), comandiDeiGruppi(), comandiDeiDestinatari()})
+        for (const ui::CommandDesign& comando : comandi)
+            barre->addCommand(comando);
+    connect(barre, &ui::CommandBars::commandStarted, this,
+            [this](const QString& nome) { evento([&] { ComandoPremuto(nome); }); });
+    connect(barre, &ui::CommandBars::commandPointed, this,
+            [this](const QString&, const QString& descrizione) {
+                evento([&] { barre->GetStatic("stcHelp")->setText(descrizione); });
+            });
+}
+
+void frmMain::CreaMenu() {
+    barre->addMenu("mnuFile", "&File", "File", {"cmdFileAccount", "cmdInvia", "|", "cmdEsci"});
+    barre->addMenu("mnuEditor", "&Editor", "Editor", {"cmdEditor"});
+    barre->addMenu("mnuMailing", "&Mailing", "Mailing",
+                   {"cmdMailingApri", "cmdMailingSalva", "|", "cmdMailingImpTXT", "cmdMailingImpOE",
+                    "cmdMailingImpMSO", "cmdMailingImpDB"});
+    barre->addMenu("mnuHelp", "&Help", "Help",
+                   {"cmdHelpGuida", "|", "cmdHelpHomePage", "cmdHelpInviaMail", "|", "cmdHelpInfoSu"});
+    barre->addListMenu("mnuLingua", "&Lingua", "Lingua", "cmdLang");
+    barre->addMenuBar("Menu", {"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp"});
+
+    barre->addMenu("popMailing", "", "",
+                   {"cmdPopMailingNew", "cmdPopMailingCopia", "cmdPopMailingDel", "cmdPopMailingRinomina",
+                    "cmdPopMailingHead", "|", "cmdPopMailingUserNew", "|", "cmdPopMailingSelAllGRP",
+                    "cmdPopMailingSelNotGRP", "|", "cmdPopMailingSvuotaCartella"});
+    barre->addMenu("popMailingHead", "", "",
+                   {"cmdPopMailingNew", "|", "cmdPopMailingSelAllDB", "cmdPopMailingSelNotDB"});
+    barre->addMenu("popMailingGRD", "", "",
+                   {"cmdPopMailingUserNew", "cmdPopMailingUserMod", "cmdPopMailingUserDel", "|",
+                    "cmdPopMailingSelAllGRP", "cmdPopMailingSelNotGRP", "|", "cmdPopMailingSvuotaCartella"});
+}
+
+// In the order of the work: recipients, message, sending.
+void frmMain::CreaBarre() {
+    barre->addToolBar("Mailing",
+                      {"cmdMailingApri", "cmdMailingSalva", "|", "cmdPopMailingNew", "cmdPopMailingUserNew",
+                       "|", "cmdMailingImpTXT", "cmdMailingImpOE", "cmdMailingImpMSO", "cmdMailingImpDB"},
+                      Qt::ToolButtonIconOnly);
+    barre->addToolBar("Editor", {"cmdEditor"}, Qt::ToolButtonTextBesideIcon);
+    barre->addToolBar("Send", {"cmdFileAccount", "cmdInvia"}, Qt::ToolButtonTextBesideIcon);
+}
+
+void frmMain::CreaBarraStato() {
+    statusBar()->setObjectName("StatusBar");
+    barre->addStatic("stcHelp", "Pronto...", 1);
+    barre->addProgress("stcProgress", "Avanzamento");
+    barre->addStatic("stcData", {}, 0);
+    AggiornaData();
+}
+
+void frmMain::AggiornaData() {
+    barre->GetStatic("stcData")->setText(QLocale().toString(sys::clock().now().date(), QLocale::LongFormat));
+}
+
+/// The two commands of the pop-up menus that stand on a bar as well are off wherever no pop-up offers them,
+/// so that they never meet an empty nodoCorrente.
+void frmMain::AggiornaComandi() {
+    auto* gruppi = static_cast<frmGruppi*>(pannelli.DockWindows("dckGruppi")->content());
+    const QString menuAlbero = gruppi ? gruppi->MenuOra() : QString();
+    const bool daGriglia = !menuAlbero.isEmpty() && !griglia::MenuOra().isEmpty();
+    barre->GetToolButton("cmdPopMailingNew")->setEnabled(!menuAlbero.isEmpty());
+    barre->GetToolButton("cmdPopMailingUserNew")->setEnabled(menuAlbero == "popMailing" || daGriglia);
+}
+
+void frmMain::CreaGiroFuoco(frmGruppi& gruppi) {
+    setTabOrder(gruppi.TREE, destinatari);
+    auto* giro = new QShortcut(Qt::Key_F6, this);
+    connect(giro, &QShortcut::activated, this, [this, &gruppi] {
+        evento([&] {
+            if (gruppi.TREE->hasFocus())
+                destinatari->setFocus(Qt::ShortcutFocusReason);
+            else if (destinatari->hasFocus())
+                barre->focusBars();
+            else
+                gruppi.TREE->setFocus(Qt::ShortcutFocusReason);
+        });
+    });
+}
