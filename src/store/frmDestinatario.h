@@ -10,8 +10,8 @@ namespace ui {
 class PropertyList;
 }
 
-/// The form in which one recipient is added to the current group or the recipient of the grid's current row is
-/// edited. Whoever shows it sets the captions, the two numbers and `modo` beforehand.
+/// The form in which one recipient is added to the current group or the recipient of the grid's current row
+/// is edited. Whoever shows it sets the captions, the two numbers and `modo` beforehand.
 class frmDestinatario : public QDialog {
     Q_OBJECT
 

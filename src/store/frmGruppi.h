@@ -5,6 +5,10 @@
 
 #include "platform/ui/GroupTree.h"
 
+namespace ado {
+class Recordset;
+}
+
 /// The group window, docked in the pane "dckGruppi": one tree over the table of groups. The tree drives the
 /// grid, never the reverse.
 ///
@@ -25,7 +29,8 @@ class frmGruppi : public QWidget {
 
     /// Adds a node for the group as the last child of a node. Unguarded.
     void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
-    /// Name of the pop-up menu that belongs to the tree at this moment; empty for none.
+    /// Name of the pop-up menu whose commands can be had without the mouse at this moment; empty for none,
+    /// also where the current node has left the tree.
     QString MenuOra() const;
 
     ui::GroupTree* const TREE;
@@ -33,7 +38,9 @@ class frmGruppi : public QWidget {
   private:
     bool CaricaPrimoLivello();
     void ChiediAltroDatabase();
+    QString MenuDelNodo() const;
     void CaricaSottogruppi(const QString& chiave);
+    void CaricaLivello(ado::Recordset& rs, const QString& chiavePadre);
 
     // frmGruppi_eventi.cpp
     void CollegaEventi();

@@ -7,8 +7,8 @@ class Command;
 }
 class frmMain;
 
-/// The recipient grid of the main window: how it is filled, and what a user does in it. It has no model of its
-/// own: each write goes to the table as a statement, and the cell on the screen is changed to match.
+/// The recipient grid of the main window: how it is filled, and what a user does in it. It has no model of
+/// its own: each write goes to the table as a statement, and the cell on the screen is changed to match.
 namespace griglia {
 
 /// Gives the grid its first widths, its events and its pop-up menu. Once, when the main window has its grid,

@@ -1,0 +1,119 @@
+#include "store/frmGruppi.h"
+
+#include <QVBoxLayout>
+
+#include "core/bFunctions.h"
+#include "core/bGlobal.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "core/Puntatore.h"
+#include "platform/ado/Recordset.h"
+#include "platform/ui/MessageDialog.h"
+#include "shell/frmMain.h"
+#include "store/griglia.h"
+#include "store/nodo.h"
+
+namespace {
+
+ado::Recordset LivelloDi(const QString& numero) {
+    ado::Recordset rs;
+    esigi(rs.setActiveConnection(connDB));
+    rs.setCursorType(ado::CursorType::ForwardOnly);
+    rs.setCursorLocation(ado::CursorLocation::Server);
+    rs.setLockType(ado::LockType::ReadOnly);
+    rs.setSource("SELECT * FROM [tb_gruppi] WHERE id_up = " + numero + " ORDER BY nome ASC;");
+    esigi(rs.open());
+    return rs;
+}
+
+}  // namespace
+
+frmGruppi::frmGruppi(QWidget* parent) : QWidget(parent), TREE(new ui::GroupTree(this)) {
+    setObjectName("frmGruppi");
+    setWindowTitle("Gruppi mailing");
+    TREE->setObjectName("TREE");
+    TREE->setAccessibleName("Gruppi mailing");
+    TREE->setFrameShape(QFrame::NoFrame);
+    TREE->setImage("Mailing", "server-database");
+    TREE->setImage("Close", "folder");
+    TREE->setImage("Open", "folder-open");
+    TREE->setEmptyText("Nuova cartella: tasto destro sulla radice");
+    auto* area = new QVBoxLayout(this);
+    area->setContentsMargins(0, 0, 0, 0);
+    area->addWidget(TREE);
+    CollegaEventi();
+}
+
+void frmGruppi::AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome) {
+    esigi(TREE->Add(chiavePadre, 'K' + id, nome, "Close", "Open"));
+}
+
+void frmGruppi::CaricaLivello(ado::Recordset& rs, const QString& chiavePadre) {
+    for (; !rs.isEof(); esigi(rs.moveNext()))
+        AggiungiNodo(chiavePadre, esigi(rs.value(u"id")).toTextOrEmpty(),
+                     esigi(rs.value(u"nome")).toTextOrEmpty());
+}
+
+void frmGruppi::CaricaGruppiINI() {
+    while (!CaricaPrimoLivello())
+        ChiediAltroDatabase();
+}
+
+bool frmGruppi::CaricaPrimoLivello() {
+    Prosegui prosegui;
+    TREE->Clear();
+    prosegui([this] {
+        ado::Recordset rs = LivelloDi("0");
+        esigi(TREE->Add({}, "K0", "Database Mailing", "Mailing", "Mailing"));
+        CaricaLivello(rs, "K0");
+        esigi(TREE->Expand("K0"));
+    });
+    return prosegui.numero() == 0;
+}
+
+void frmGruppi::ChiediAltroDatabase() {
+    ui::MessageDialog::show(
+        "Impossibile trovare il database.\r\nCaricare un'altro database prima di continuare.",
+        ui::MessageDialog::Stop, "Attenzione");
+    const auto percorso = frmMain::ChiediDatabase();
+    if (!percorso) {
+        ui::MessageDialog::show(
+            "Si è scelto di non continuare.\r\n"
+            "Impossibile utilizzare il programma senza un Database valido.",
+            ui::MessageDialog::Stop, "Attenzione");
+        TerminaProgramma();
+    }
+    PuntatoreAttesa();
+    if (!ripiega(false, [&] { return VerificaDatabase(*percorso); })) {
+        ui::MessageDialog::show("Formato file errato", ui::MessageDialog::Notice, "Attenzione");
+        TerminaProgramma();
+    }
+    finestre::Main().CambiaDatabase(*percorso);
+    PuntatorePredefinito();
+}
+
+void frmGruppi::CaricaSottogruppi(const QString& chiave) {
+    const ui::GroupNodeRef nodo = TREE->Node(chiave);
+    if (!nodo) fallisci(ErrorCode::ItemNotFound);
+    ado::Recordset rs = LivelloDi(NumeroNodo(chiave));
+    if (nodo->Children() == 0) CaricaLivello(rs, chiave);
+}
+
+void frmGruppi::TREEClick() {
+    Prosegui prosegui;
+    prosegui([this] {
+        const ui::GroupNodeRef scelto = TREE->SelectedItem();
+        if (!scelto) fallisci(ErrorCode::ItemNotFound);
+        CaricaSottogruppi(scelto->Key());
+        griglia::RiempiGriglia();
+    });
+}
+
+QString frmGruppi::MenuDelNodo() const {
+    if (TREE->Count() == 0 || !nodoCorrente) return {};
+    return nodoCorrente->Key == "K0" ? QStringLiteral("popMailingHead") : QStringLiteral("popMailing");
+}
+
+QString frmGruppi::MenuOra() const {
+    return nodoCorrente && TREE->Node(nodoCorrente->Key) ? MenuDelNodo() : QString();
+}

@@ -1,0 +1,102 @@
+// What the user does to the tree.
+#include "core/bGlobal.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "platform/ado/Command.h"
+#include "platform/ado/Recordset.h"
+#include "platform/ui/CommandBars.h"
+#include "shell/frmMain.h"
+#include "store/frmGruppi.h"
+#include "store/griglia.h"
+#include "store/nodo.h"
+
+namespace {
+
+/// Changes one column of one group. A recordset carries the value, so a quote in a name is harmless.
+void ScriviGruppo(const QString& chiave, QStringView colonna, const ado::Value& valore) {
+    ado::Recordset rs;
+    esigi(rs.setActiveConnection(connDB));
+    rs.setCursorType(ado::CursorType::Static);
+    rs.setCursorLocation(ado::CursorLocation::Server);
+    rs.setLockType(ado::LockType::Optimistic);
+    rs.setSource("SELECT * FROM [tb_gruppi] WHERE id = " + NumeroNodo(chiave) + " ORDER BY nome ASC;");
+    esigi(rs.open());
+    esigi(rs.setValue(colonna, valore));
+    esigi(rs.update());
+}
+
+}  // namespace
+
+void frmGruppi::CollegaEventi() {
+    using ui::GroupTree;
+    const auto alClick = [this](void (frmGruppi::*gestore)(const ui::GroupNodeRef&)) {
+        return [this, gestore](const ui::GroupNodeRef& nodo) { evento([&] { (this->*gestore)(nodo); }); };
+    };
+    connect(TREE, &GroupTree::nodeClick, this, alClick(&frmGruppi::TREENodeClick));
+    connect(TREE, &GroupTree::rowDropped, this, alClick(&frmGruppi::TREEDragDrop));
+    connect(TREE, &GroupTree::nodeDropped, this, alClick(&frmGruppi::TREEOLEDragDrop));
+    connect(TREE, &GroupTree::draggedOver, TREE, &GroupTree::setDropHighlight);
+    connect(TREE, &GroupTree::click, this, [this] { evento([this] { TREEClick(); }); });
+    connect(TREE, &GroupTree::beforeLabelEdit, this,
+            [this](bool* annulla) { *annulla = chiaveNodo == "K0"; });
+    connect(TREE, &GroupTree::afterLabelEdit, this, [this](const QString& testo, bool* annulla) {
+        evento([&] { TREEAfterLabelEdit(testo, annulla); });
+    });
+    connect(TREE, &GroupTree::mouseMove, this, [] {
+        evento([] { finestre::Main().Commands().GetStatic("stcHelp")->setText("Mailing List"); });
+    });
+    connect(TREE, &GroupTree::mouseUp, this, [this](Qt::MouseButton pulsante, const QPoint& punto) {
+        evento([&] { TREEMouseUp(pulsante, punto); });
+    });
+    finestre::Main().Commands().offerPopup(TREE, [this] { return MenuOra(); });
+}
+
+void frmGruppi::TREENodeClick(const ui::GroupNodeRef& nodo) {
+    TREE->setDropHighlight(nodo);
+    chiaveNodo = nodo->Key();
+    nodoCorrente = Nodo{nodo->Key(), nodo->Text()};
+}
+
+void frmGruppi::TREEMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
+    const QString menu = MenuDelNodo();
+    if (pulsante == Qt::RightButton && !menu.isEmpty()) finestre::Main().Commands().showPopup(menu, punto);
+}
+
+void frmGruppi::TREEAfterLabelEdit(const QString& testo, bool* annulla) {
+    if (chiaveNodo == "K0" || testo.isEmpty()) {
+        *annulla = true;
+        return;
+    }
+    // The node shows the new name only if the table has it.
+    *annulla = true;
+    ScriviGruppo(chiaveNodo, u"nome", testo);
+    *annulla = false;
+    if (nodoCorrente && nodoCorrente->Key == chiaveNodo) nodoCorrente->Text = testo;
+}
+
+/// A recipient came from the grid.
+void frmGruppi::TREEDragDrop(const ui::GroupNodeRef& nodo) {
+    if (!nodo) fallisci(ErrorCode::ItemNotFound);
+    nodoCorrente = Nodo{nodo->Key(), nodo->Text()};
+    ado::Command comando;
+    esigi(comando.setActiveConnection(connDB));
+    comando.setCommandTimeout(0);
+    comando.setCommandText("UPDATE [tb_destinatari] SET id_grp = " + NumeroNodoCorrente() +
+                           " WHERE id = " + griglia::idCorrente() + " ;");
+    esigi(comando.execute());
+    TREEClick();
+}
+
+/// A group came from this tree: the one last clicked, whatever was dragged. The tree refuses to put a node
+/// below itself, and the table is reached only after that.
+void frmGruppi::TREEOLEDragDrop(const ui::GroupNodeRef& nodo) {
+    if (!nodo) return;
+    Prosegui prosegui;
+    prosegui([&] {
+        CaricaSottogruppi(nodo->Key());
+        chiaveDestinazione = nodo->Key();
+        if (chiaveNodo.isEmpty() || chiaveNodo == chiaveDestinazione) return;
+        esigi(TREE->Move(chiaveNodo, chiaveDestinazione));
+        ScriviGruppo(chiaveNodo, u"id_up", NumeroNodo(chiaveDestinazione).toInt());
+    });
+}

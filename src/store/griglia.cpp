@@ -1,0 +1,138 @@
+#include "store/griglia.h"
+
+#include <QScopeGuard>
+
+#include "core/bGlobal.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "core/Puntatore.h"
+#include "lang/bVAR.h"
+#include "platform/ado/Command.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DataControl.h"
+#include "platform/ui/DataGrid.h"
+#include "shell/frmMain.h"
+#include "store/nodo.h"
+
+namespace {
+
+// The grid's columns, once they were rearranged after a fill.
+constexpr int colonnaId = 1;
+constexpr int colonnaSel = 2;
+constexpr int colonnaEmail = 3;
+constexpr int primaColonnaTradotta = 5;
+
+ui::DataGrid& grd() {
+    return finestre::Main().grd();
+}
+
+/// Headings of the columns from primaColonnaTradotta on.
+QStringList IntestazioniTradotte() {
+    return {
+        bVAR::xxxRagioneSociale, bVAR::xxxNome,      bVAR::xxxPIva,     bVAR::xxxIndirizzo, bVAR::xxxCAP,
+        bVAR::xxxLocalita,       bVAR::xxxProvincia, bVAR::xxxTelefono, bVAR::xxxFax,       bVAR::xxxCampo1,
+        bVAR::xxxCampo2,         bVAR::xxxCampo3,    bVAR::xxxCampo4,   bVAR::xxxCampo5,    bVAR::xxxCampo6,
+        bVAR::xxxCampo7,         bVAR::xxxCampo8,    bVAR::xxxCampo9};
+}
+
+void Aggiorna() {
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    esigi(finestre::Main().Adodc().Refresh());
+}
+
+/// The columns have come in the table's order.
+void grd_AfterDataRefresh() {
+    for (const int colonna : {0, 1, 2})
+        grd().setColWidth(colonna, 0);
+    grd().setColPosition(22, colonnaSel);
+    grd().setColPosition(13, colonnaEmail);
+    grd().setTextMatrix(0, colonnaSel, "Send");
+    grd().setTextMatrix(0, colonnaEmail, "Email");
+    int colonna = primaColonnaTradotta;
+    for (const QString& testo : IntestazioniTradotte())
+        grd().setTextMatrix(0, colonna++, testo);
+    grd().setEmptyText("Nessun destinatario in questa cartella");
+    finestre::Main().AggiornaComandi();
+}
+
+/// The cell changes first and the table second; nothing is read back.
+void grd_Click() {
+    if (grd().Row() < 1 || grd().Col() != colonnaSel) return;
+    ado::Command comando;
+    esigi(comando.setActiveConnection(connDB));
+    comando.setCommandTimeout(0);
+    comando.setPrepared(true);
+    const QString id = griglia::idCorrente();
+    if (grd().CellChecked() == 2) {
+        grd().setCellChecked(1);
+        comando.setCommandText("UPDATE [tb_destinatari] SET sel = True WHERE id = " + id + " ;");
+    } else {
+        grd().setCellChecked(2);
+        comando.setCommandText("UPDATE [tb_destinatari] SET sel = False WHERE id = " + id + " ;");
+    }
+    esigi(comando.execute());
+}
+
+void grd_DblClick() {
+    if (grd().Row() >= 1 && grd().Col() != colonnaSel) comandiDestinatario::Modifica();
+}
+
+void grd_MouseMove(Qt::MouseButtons pulsanti) {
+    finestre::Main().Commands().GetStatic("stcHelp")->setText("Email presenti: " +
+                                                              text::formatGrouped(grd().Rows() - 1));
+    if (pulsanti & Qt::LeftButton && grd().Row() > 0) grd().Drag();
+}
+
+void grd_MouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
+    if (pulsante == Qt::RightButton && grd().Rows() > 1)
+        finestre::Main().Commands().showPopup("popMailingGRD", punto);
+}
+
+}  // namespace
+
+void griglia::Collega(frmMain& principale) {
+    using ui::DataGrid;
+    DataGrid* grd = &principale.grd();
+    // In the order of the table, behind the leading column: id, id_grp, rgs, nom, piva, ind, cap, loc, prov,
+    // tel, fax, email, campo1 to campo9, sel.
+    grd->setColWidths({0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
+                       230, 120, 120, 120, 120, 120, 120, 120, 120, 120, 56});
+    QObject::connect(grd, &DataGrid::afterDataRefresh, grd, [] { evento(grd_AfterDataRefresh); });
+    QObject::connect(grd, &DataGrid::click, grd, [] { evento(grd_Click); });
+    QObject::connect(grd, &DataGrid::dblClick, grd, [] { evento(grd_DblClick); });
+    QObject::connect(grd, &DataGrid::mouseMove, grd,
+                     [](Qt::MouseButtons pulsanti) { evento([&] { grd_MouseMove(pulsanti); }); });
+    QObject::connect(grd, &DataGrid::mouseUp, grd, [](Qt::MouseButton pulsante, const QPoint& punto) {
+        evento([&] { grd_MouseUp(pulsante, punto); });
+    });
+    principale.Commands().offerPopup(grd, MenuOra);
+}
+
+void griglia::RiempiGriglia() {
+    finestre::Main().SvuotaGriglia();
+    ui::DataControl& Adodc = finestre::Main().Adodc();
+    Adodc.setConnectionString(connDB);
+    Adodc.setRecordSource("SELECT * FROM tb_destinatari WHERE id_grp = " + NumeroNodoCorrente() +
+                          " ORDER BY rgs ASC;");
+    Aggiorna();
+}
+
+void griglia::RinfrescaGriglia() {
+    finestre::Main().SvuotaGriglia();
+    Aggiorna();
+}
+
+QString griglia::idCorrente() {
+    const QString id = grd().TextMatrix(grd().Row(), colonnaId);
+    // Anything else (the heading, an emptied cell) would turn the statement it goes into to other rows.
+    bool numero = false;
+    static_cast<void>(id.toLong(&numero));
+    if (!numero) fallisci(ErrorCode::TypeMismatch);
+    return id;
+}
+
+QString griglia::MenuOra() {
+    return grd().Rows() > 1 ? QStringLiteral("popMailingGRD") : QString();
+}

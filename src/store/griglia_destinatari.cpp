@@ -1,0 +1,55 @@
+// The commands on one recipient.
+#include <QLabel>
+#include <QLineEdit>
+
+#include "core/Fallimento.h"
+#include "core/Finestre.h"
+#include "lang/bVAR.h"
+#include "platform/ado/Command.h"
+#include "platform/ui/DataGrid.h"
+#include "platform/ui/MessageDialog.h"
+#include "shell/frmMain.h"
+#include "store/frmDestinatario.h"
+#include "store/griglia.h"
+#include "store/nodo.h"
+
+namespace {
+
+frmDestinatario& Intitola(const QString& titolo) {
+    frmDestinatario& finestra = finestre::Destinatario();
+    finestra.setWindowTitle(titolo + ' ');
+    finestra.lbl->setText(titolo);
+    return finestra;
+}
+
+}  // namespace
+
+void comandiDestinatario::Nuovo() {
+    frmDestinatario& finestra = Intitola(bVAR::varAddDestinatario);
+    finestra.txtIDgroup->setText(NumeroNodoCorrente());
+    finestra.txtIDuser->setText("0");
+    finestra.PulisciCampi();
+    finestra.modo = 0;
+    finestra.exec();
+}
+
+void comandiDestinatario::Modifica() {
+    frmDestinatario& finestra = Intitola(bVAR::varModDestinatario);
+    const QString id = griglia::idCorrente();
+    finestra.txtIDgroup->setText(NumeroNodoCorrente());
+    finestra.txtIDuser->setText(id);
+    finestra.CaricaUser(id.toInt());
+    finestra.modo = 1;
+    finestra.exec();
+}
+
+void comandiDestinatario::Elimina(ado::Command& comando) {
+    using ui::MessageDialog;
+    if (MessageDialog::show("Sicuro di voler cancellare questo destinatario?\r\nOperazione irreversibile.",
+                            MessageDialog::AskNotice, "Attenzione") != MessageDialog::Yes)
+        return;
+    comando.setCommandText("DELETE FROM [tb_destinatari] WHERE id = " + griglia::idCorrente() + " ;");
+    esigi(comando.execute());
+    ui::DataGrid& grd = finestre::Main().grd();
+    grd.RemoveItem(grd.Row());
+}
