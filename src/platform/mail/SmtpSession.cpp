@@ -66,7 +66,7 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, in
     m_idle.stop();
     m_timeoutMs = timeoutMs;
     m_outstanding = 0;
-    m_stall.start(m_timeoutMs);
+    progress();
 
     m_reused =
         m_ready && route == m_route && !inputLeft() && m_socket->state() == QAbstractSocket::ConnectedState;
@@ -181,19 +181,19 @@ void SmtpSession::onTaken() {
 }
 
 void SmtpSession::onTimeout() {
-    if (m_outstanding > 0 && m_socket) {
-        // Large buffers of the system tell of progress late: the time counts from the last acknowledgement.
-        const int descriptor = int(m_socket->socketDescriptor());
-        const int outstanding = unacknowledgedOctets(descriptor);
-        const int quietMs = msSinceAcknowledgement(descriptor);
-        if (outstanding < m_outstanding && quietMs < m_timeoutMs) {
-            m_outstanding = outstanding;
-            m_stall.start(m_timeoutMs - quietMs);
-            return;
-        }
-    }
+    if (m_socket && isTaking(int(m_socket->socketDescriptor()))) return;
     dropConnection();
     fail(0, QStringLiteral("Tempo scaduto: il server non risponde."));
+}
+
+bool SmtpSession::isTaking(int descriptor) {
+    // Large buffers of the system tell of progress late: the time counts from the last acknowledgement.
+    const int outstanding = unacknowledgedOctets(descriptor);
+    const int quietMs = msSinceAcknowledgement(descriptor);
+    if (outstanding >= m_outstanding || quietMs >= m_timeoutMs) return false;
+    m_outstanding = outstanding;
+    m_stall.start(m_timeoutMs - quietMs);
+    return true;
 }
 
 void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {

@@ -63,6 +63,7 @@ class SmtpSession : public QObject {
     void onTaken();
     void onSocketError(QAbstractSocket::SocketError error);
     void onTimeout();
+    bool isTaking(int descriptor);
     void noteLocalPortTaken();
     bool implicitTls() const;
 
