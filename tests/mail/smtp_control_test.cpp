@@ -189,6 +189,53 @@ TEST(DeliveryControl, ValuesAreThoseOfTheMomentOfSend) {
     EXPECT_EQ(server.remainder(), "");
 }
 
+TEST(DeliveryControl, EventLoopThatWasHeldIsNoTimeout) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.TimeoutSecs = 1;
+    client.smtp.Send();
+    QThread::msleep(1500);
+    client.waitForOutcome();
+    EXPECT_TRUE(client.heard.first().done) << qPrintable(client.heard.first().text);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, AbortAndSendInTheMiddleOfALargeMessage) {
+    const QByteArrayList stuck =
+        hello + message.mid(0, message.indexOf("S: 354 go ahead") + 1) + QByteArrayList{"READ 1000", "HOLD"};
+    ScriptedServer server({stuck, stuck, hello + message});
+    Client client(server.port());
+    const QString shortText = client.smtp.BodyText;
+    client.smtp.BodyText = QString(20000000, u'x');
+    client.smtp.Send();
+    client.turn(100);
+    client.smtp.Abort();
+    EXPECT_EQ(client.heard.size(), 1);
+    client.smtp.Send();
+    client.turn(100);
+    client.smtp.BodyText = shortText;
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, AttachmentThatCannotBeReadIsAnError) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    Client client(server.serverPort());
+    client.smtp.Attachments.Add(QStringLiteral("/no/such/file.pdf"), QStringLiteral("file.pdf"));
+    EXPECT_FALSE(client.send().done);
+    EXPECT_FALSE(server.waitForNewConnection(50));
+}
+
+TEST(DeliveryControl, ClearedAttachmentsAreGone) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.Attachments.Add(QStringLiteral("/no/such/file.pdf"), QStringLiteral("file.pdf"));
+    client.smtp.Attachments.Clear();
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
 quint16 freePort() {
     QTcpServer probe;
     probe.listen(QHostAddress::LocalHost);

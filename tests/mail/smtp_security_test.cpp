@@ -161,6 +161,20 @@ TEST_F(SmtpTls, SilenceInTheHandshakeEndsInTheTimeout) {
     EXPECT_EQ(server.remainder(), "");
 }
 
+TEST_F(SmtpTls, AbortInTheHandshakeEndsTheDelivery) {
+    ScriptedServer server(
+        {offer + QByteArrayList{"S: 220 go ahead", "WAIT"}, startTls + helloAgain + message},
+        TestCertificates::get().good());
+    Client client(server.port());
+    prepare(client);
+    client.smtp.Send();
+    client.turn(100);
+    client.smtp.Abort();
+    EXPECT_EQ(client.heard.size(), 1);
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
 TEST_F(SmtpTls, DropInTheHandshakeIsAFailure) {
     ScriptedServer server({offer + QByteArrayList{"S: 220 go ahead", "DROP"}});
     Client client(server.port());

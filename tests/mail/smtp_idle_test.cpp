@@ -1,0 +1,15 @@
+// A program of its own, since it lasts longer than the half minute for which a connection is kept.
+#include "mail/smtp_fixture.h"
+
+using testing_support::ScriptedServer;
+
+TEST(SmtpSession, ConnectionThatIsNotUsedIsClosedWithQuit) {
+    // Whatever the first dialogue still waits for when the message is taken can only come from the idle
+    // client.
+    ScriptedServer server({hello + message + QByteArrayList{"C: QUIT", "S: 221 bye"}, hello + message});
+    Client client(server.port());
+    EXPECT_TRUE(client.send().done);
+    client.turn(31000);
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
