@@ -1,0 +1,178 @@
+#include "jet/OutsideReaders.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <stdexcept>
+#include <vector>
+
+using namespace jet;
+
+namespace {
+
+// Marks that stand in no sample's text.
+const std::string fieldEnd = "~|F|~";
+const std::string rowEnd = "~|R|~";
+const std::string nullMark = "~|N|~";
+
+std::string run(const QString& program, const QStringList& arguments, int* exitCode) {
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000)) throw std::runtime_error("cannot run " + program.toStdString());
+    *exitCode = process.exitCode();
+    return process.readAllStandardOutput().toStdString();
+}
+
+std::vector<std::string> split(const std::string& text, const std::string& end) {
+    std::vector<std::string> parts;
+    size_t from = 0;
+    for (size_t at; (at = text.find(end, from)) != std::string::npos; from = at + end.size())
+        parts.push_back(text.substr(from, at - from));
+    parts.push_back(text.substr(from));
+    return parts;
+}
+
+std::string numberText(double number, Type type) {
+    char buffer[64];
+    std::snprintf(buffer, sizeof buffer, type == Type::Single ? "%.6g" : "%.14g", number);
+    return buffer;
+}
+
+// Whole seconds since 1899-12-30. The time of day counts forward also before that day.
+std::string dateText(double days) {
+    const double whole = std::trunc(days);
+    return std::to_string(std::llround(whole * 86400 + std::abs(days - whole) * 86400));
+}
+
+std::string dateText(const std::string& iso) {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    if (std::sscanf(iso.c_str(), "%d-%d-%d %d:%d:%d", &year, &month, &day, &hour, &minute, &second) != 6)
+        return "no date: " + iso;
+    using namespace std::chrono;
+    const auto date = sys_days(std::chrono::year(year) / month / day);
+    const auto first = sys_days(std::chrono::year(1899) / 12 / 30);
+    return std::to_string((date - first).count() * 86400LL + hour * 3600 + minute * 60 + second);
+}
+
+std::string comparable(const Value& value, Type type) {
+    if (std::holds_alternative<std::monostate>(value)) return nullMark;
+    if (const bool* yes = std::get_if<bool>(&value)) return *yes ? "1" : "0";
+    if (const int64_t* number = std::get_if<int64_t>(&value)) return std::to_string(*number);
+    if (const double* number = std::get_if<double>(&value)) return numberText(*number, type);
+    if (const Date* date = std::get_if<Date>(&value)) return dateText(date->days);
+    if (const Currency* amount = std::get_if<Currency>(&value))
+        return numberText(static_cast<double>(amount->tenThousandths) / 10000, type);
+    // The other reader does not tell an empty text from Null.
+    if (const std::string* text = std::get_if<std::string>(&value)) return text->empty() ? nullMark : *text;
+    return std::to_string(std::get<Bytes>(value).size()) + " bytes";
+}
+
+std::string comparable(const std::string& text, Type type) {
+    if (text.empty() || text == nullMark) return nullMark;
+    switch (type) {
+        case Type::Single:
+        case Type::Double:
+        case Type::Currency:
+            return numberText(std::strtod(text.c_str(), nullptr), type);
+        case Type::Date:
+            return dateText(text);
+        default:
+            return text;
+    }
+}
+
+// Kinds that both readers give in a form that can be compared.
+bool isCompared(Type type) {
+    return type != Type::Ole && type != Type::Binary && type != Type::Guid && type != Type::Numeric &&
+           static_cast<int>(type) <= static_cast<int>(Type::Memo);
+}
+
+}  // namespace
+
+std::optional<std::string> sharedCheckerFindings(const QString& file) {
+    const QString checker = QStringLiteral(SHARED_DIR "/tools/jetfsck.py");
+    if (!QFile::exists(checker)) {
+        std::printf("[ SKIPPED  ] %s is not here\n", qPrintable(checker));
+        return std::nullopt;
+    }
+    int exitCode = 0;
+    const std::string output =
+        run(QStringLiteral("python3"), {checker, QStringLiteral("fsck"), file}, &exitCode);
+    return exitCode == 0 ? std::string() : output + "exit code " + std::to_string(exitCode);
+}
+
+std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file, const TableDefinition& table) {
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("mdb-export"));
+    if (program.isEmpty()) {
+        std::printf("[ SKIPPED  ] mdb-export is not installed\n");
+        return std::nullopt;
+    }
+    const auto text = [](const std::string& s) { return QString::fromStdString(s); };
+    int exitCode = 0;
+    const std::string output =
+        run(program,
+            {QStringLiteral("-H"), QStringLiteral("-Q"), QStringLiteral("-b"), QStringLiteral("strip"),
+             QStringLiteral("-d"), text(fieldEnd), QStringLiteral("-R"), text(rowEnd), QStringLiteral("-0"),
+             text(nullMark), QStringLiteral("-D"), QStringLiteral("%Y-%m-%d %H:%M:%S"), QStringLiteral("-T"),
+             QStringLiteral("%Y-%m-%d %H:%M:%S"), file, table.name},
+            &exitCode);
+    if (exitCode != 0) throw std::runtime_error("mdb-export failed on " + table.name.toStdString());
+    // It gives the columns in the order of the definition, which is that of their numbers in users' tables.
+    std::vector<const Column*> columns;
+    for (const Column& column : table.columns)
+        columns.push_back(&column);
+    std::sort(columns.begin(), columns.end(),
+              [](const Column* a, const Column* b) { return a->number < b->number; });
+    std::multiset<std::string> rows;
+    for (const std::string& row : split(output, rowEnd)) {
+        if (row.empty()) continue;
+        const std::vector<std::string> fields = split(row, fieldEnd);
+        std::string line;
+        for (size_t i = 0; i < columns.size(); ++i)
+            if (isCompared(columns[i]->type))
+                line += (i < fields.size() ? comparable(fields[i], columns[i]->type) : "missing") + "|";
+        rows.insert(line);
+    }
+    return rows;
+}
+
+std::multiset<std::string> engineRows(Table& table) {
+    const TableDefinition& definition = table.definition();
+    std::vector<size_t> order(definition.columns.size());
+    for (size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+        return definition.columns[a].number < definition.columns[b].number;
+    });
+    std::multiset<std::string> rows;
+    const Status status = table.scan([&](RowId id, const RowView&) {
+        std::string line;
+        for (size_t i : order) {
+            const Type type = definition.columns[i].type;
+            if (!isCompared(type)) continue;
+            const auto value = table.value(id, i);
+            line +=
+                (value.ok() ? comparable(value.value(), type) : value.status().text().toStdString()) + "|";
+        }
+        rows.insert(line);
+        return true;
+    });
+    if (!status.ok()) throw std::runtime_error(status.text().toStdString());
+    return rows;
+}
+
+std::string firstDifference(const std::multiset<std::string>& got,
+                            const std::multiset<std::string>& expected) {
+    const auto [a, b] = std::mismatch(got.begin(), got.end(), expected.begin(), expected.end());
+    if (a == got.end() && b == expected.end()) return {};
+    return "got " + (a == got.end() ? std::string("nothing") : *a) + "\nexpected " +
+           (b == expected.end() ? std::string("nothing") : *b);
+}
