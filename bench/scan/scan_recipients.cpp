@@ -1,0 +1,101 @@
+// scan_recipients --make FILE [ROWS]  writes a database with that many recipients (100,000), in one
+// transaction scan_recipients --scan FILE         opens it, reads every column of every recipient as UTF-8,
+// prints the counts
+//
+// The second is what is held against `mdb-export FILE tb_destinatari`, as whole processes on the same file.
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "platform/jet/Database.h"
+
+namespace {
+
+int failed(const Status& status) {
+    std::fprintf(stderr, "scan_recipients: %s\n", qPrintable(status.text()));
+    return 1;
+}
+
+// Values as a real list has them: most fields short and plain, some accents, some empty, some Null.
+std::vector<jet::Value> recipient(size_t n) {
+    static const char* towns[] = {"Roma",   "Milano", "L'Aquila", "Forlì", "Cantù", "San Donà di Piave",
+                                  "Bolzano"};
+    static const char* provinces[] = {"RM", "MI", "AQ", "FC", "CO", "VE", "BZ"};
+    static const char* names[] = {"Giulia Bianchi", "Niccolò D'Amico", "Anna Maria Però", "Luca Rossi"};
+    const std::string number = std::to_string(n);
+    std::vector<jet::Value> row(22);
+    row[1] = static_cast<int64_t>(n % 12 + 1);
+    row[2] = "Azienda " + number + (n % 3 ? " S.r.l." : " & C. – società agricola");
+    row[3] = std::string(names[n % 4]);
+    row[4] = std::string("IT0") + std::to_string(1000000000 + n);
+    row[5] = "Via della Libertà " + std::to_string(n % 300) + ", scala B, interno " + std::to_string(n % 40);
+    row[6] = std::to_string(10000 + n % 90000);
+    row[7] = std::string(towns[n % 7]);
+    row[8] = std::string(provinces[n % 7]);
+    row[9] = "06 " + std::to_string(5000000 + n % 4000000);
+    if (n % 5) row[10] = "06 " + std::to_string(6000000 + n % 3000000);
+    row[11] = "contatto" + number + "@azienda" + std::to_string(n % 5000) + ".example";
+    row[12] = "Cliente dal " + std::to_string(1990 + n % 30);
+    row[13] = std::string(n % 2 ? "Listino A" : "");
+    if (n % 4 == 0) row[14] = "Nota: preferisce essere contattato al mattino, codice " + number;
+    row[21] = n % 2 == 0;
+    return row;
+}
+
+int make(const QString& path, size_t rows) {
+    if (const Status status = jet::createEmptyDatabase(path); !status.ok()) return failed(status);
+    auto opened = jet::Database::open(path);
+    if (!opened.ok()) return failed(opened.status());
+    jet::Database& database = *opened.value();
+    auto table = database.table(u"tb_destinatari");
+    if (!table.ok()) return failed(table.status());
+    if (const Status status = database.begin(); !status.ok()) return failed(status);
+    for (size_t n = 0; n < rows; ++n)
+        if (auto id = table.value()->insert(recipient(n)); !id.ok()) return failed(id.status());
+    if (const Status status = database.commit(); !status.ok()) return failed(status);
+    return 0;
+}
+
+int scan(const QString& path) {
+    auto opened = jet::Database::open(path);
+    if (!opened.ok()) return failed(opened.status());
+    auto found = opened.value()->table(u"tb_destinatari");
+    if (!found.ok()) return failed(found.status());
+    jet::Table& table = *found.value();
+    const auto& columns = table.definition().columns;
+    size_t rows = 0;
+    size_t bytes = 0;
+    size_t nulls = 0;
+    std::string text;
+    const Status status = table.scan([&](jet::RowId, const jet::RowView& row) {
+        ++rows;
+        for (size_t i = 0; i < columns.size(); ++i) {
+            text.clear();
+            if (columns[i].type == jet::Type::Text) {
+                if (!row.text(i, text)) ++nulls;
+            } else if (columns[i].type == jet::Type::YesNo) {
+                text = row.yesNo(i) ? "1" : "0";
+            } else if (row.isNull(i)) {
+                ++nulls;
+            } else {
+                text = std::to_string(row.integer(i));
+            }
+            bytes += text.size();
+        }
+        return true;
+    });
+    if (!status.ok()) return failed(status);
+    std::printf("%zu rows, %zu bytes of UTF-8, %zu Null values\n", rows, bytes, nulls);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc >= 3 && std::strcmp(argv[1], "--make") == 0)
+        return make(QString::fromLocal8Bit(argv[2]), argc > 3 ? std::strtoul(argv[3], nullptr, 10) : 100000);
+    if (argc == 3 && std::strcmp(argv[1], "--scan") == 0) return scan(QString::fromLocal8Bit(argv[2]));
+    std::fprintf(stderr, "usage: scan_recipients --make FILE [ROWS] | --scan FILE\n");
+    return 2;
+}
