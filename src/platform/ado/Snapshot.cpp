@@ -1,5 +1,6 @@
 #include "platform/ado/Snapshot.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "platform/ado/Rows.h"
@@ -9,10 +10,11 @@ namespace ado {
 namespace {
 
 // A row stands in one block, behind its length in two bytes.
-constexpr int blockBits = 17;
+constexpr int blockBits = 16;
 constexpr size_t blockSize = size_t{1} << blockBits;
 constexpr size_t lengthSize = sizeof(uint16_t);
-constexpr size_t mostBlocks = size_t{1} << (32 - blockBits);
+constexpr size_t mostBlocks = (size_t{1} << (32 - blockBits)) - 1;
+constexpr uint32_t noRow = 0xffffffff;
 
 }  // namespace
 
@@ -38,41 +40,54 @@ Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& st
 
     Snapshot snapshot;
     snapshot.m_definition = std::make_shared<jet::TableDefinition>(rows.table()->definition());
-    snapshot.m_rows.reserve(rows.known());
-    std::vector<size_t> memos;
-    for (size_t i = 0; i < snapshot.columns().size(); ++i)
-        if (snapshot.columns()[i].type == jet::Type::Memo) memos.push_back(i);
-    jet::Bytes bytes;
-    for (size_t i = 0; i < rows.known(); ++i) {
-        const Result<bool> found = rows.table()->read(rows.id(i), bytes);
-        if (!found.ok()) return found.status();
-        if (!found.value()) continue;
-        if (Status status = snapshot.append(bytes); !status.ok()) return status;
-        for (const size_t column : memos) {
-            Result<jet::Value> memo = rows.table()->longValue(rows.id(i), column);
-            if (!memo.ok()) return memo.status();
-            snapshot.m_memos[{snapshot.m_rows.back(), column}] = std::move(memo).value();
-        }
-    }
+    snapshot.m_rows.resize(rows.known(), noRow);
+    if (Status status = snapshot.copy(rows); !status.ok()) return status;
+    std::erase(snapshot.m_rows, noRow);
     return snapshot;
 }
 
-Status Snapshot::append(std::span<const uint8_t> bytes) {
+Status Snapshot::copy(const Rows& rows) {
+    std::vector<size_t> memos;
+    for (size_t i = 0; i < columns().size(); ++i)
+        if (columns()[i].type == jet::Type::Memo) memos.push_back(i);
+    // In the order in which they stand in the file, so that each page is visited once.
+    std::vector<std::pair<jet::RowId, uint32_t>> places(rows.known());
+    for (size_t i = 0; i < places.size(); ++i)
+        places[i] = {rows.id(i), static_cast<uint32_t>(i)};
+    std::sort(places.begin(), places.end());
+    jet::Bytes bytes;
+    for (const auto& [id, row] : places) {
+        const Result<bool> found = rows.table()->read(id, bytes);
+        if (!found.ok()) return found.status();
+        if (!found.value()) continue;
+        const Result<uint32_t> place = append(bytes);
+        if (!place.ok()) return place.status();
+        m_rows[row] = place.value();
+        for (const size_t column : memos) {
+            Result<jet::Value> memo = rows.table()->longValue(id, column);
+            if (!memo.ok()) return memo.status();
+            m_memos[{place.value(), column}] = std::move(memo).value();
+        }
+    }
+    return {};
+}
+
+Result<uint32_t> Snapshot::append(std::span<const uint8_t> bytes) {
     const auto length = static_cast<uint16_t>(bytes.size());
-    if (length != bytes.size())
-        return {ErrorCode::RecordTooLarge, QStringLiteral("Il record è troppo lungo.")};
+    if (bytes.size() > blockSize - lengthSize)
+        return Status(ErrorCode::RecordTooLarge, QStringLiteral("Il record è troppo lungo."));
     if (m_blocks.empty() || m_used + lengthSize + length > blockSize) {
         if (m_blocks.size() == mostBlocks)
-            return {ErrorCode::RecordTooLarge, QStringLiteral("Troppi record per essere mostrati.")};
+            return Status(ErrorCode::RecordTooLarge, QStringLiteral("Troppi record per essere mostrati."));
         m_blocks.push_back(std::make_unique_for_overwrite<uint8_t[]>(blockSize));
         m_used = 0;
     }
     uint8_t* place = m_blocks.back().get() + m_used;
     std::memcpy(place, &length, lengthSize);
     if (length) std::memcpy(place + lengthSize, bytes.data(), length);
-    m_rows.push_back(static_cast<uint32_t>((m_blocks.size() - 1) << blockBits | m_used));
+    const auto begin = static_cast<uint32_t>((m_blocks.size() - 1) << blockBits | m_used);
     m_used += lengthSize + length;
-    return {};
+    return begin;
 }
 
 jet::RowView Snapshot::view(size_t row) const {

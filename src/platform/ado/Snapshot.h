@@ -11,6 +11,8 @@
 
 namespace ado {
 
+class Rows;
+
 /// The rows of a `SELECT * FROM table …` as they were at one moment, kept as the bytes in which they stand in
 /// the file and decoded when they are read. Nothing that happens to the database afterwards changes it. It
 /// costs six bytes a row beyond the rows themselves.
@@ -36,7 +38,9 @@ class Snapshot {
     void clear();
 
   private:
-    Status append(std::span<const uint8_t> bytes);
+    Status copy(const Rows& rows);
+    /// Gives where the row begins.
+    Result<uint32_t> append(std::span<const uint8_t> bytes);
     jet::RowView view(size_t row) const;
 
     std::shared_ptr<const jet::TableDefinition> m_definition;
