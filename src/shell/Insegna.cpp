@@ -19,6 +19,7 @@ QLabel* etichetta(const char* nome, const QString& testo) {
     auto* nuova = new QLabel(testo);
     nuova->setObjectName(nome);
     nuova->setTextFormat(Qt::PlainText);
+    nuova->setMargin(4);
     return nuova;
 }
 
@@ -41,8 +42,8 @@ QVBoxLayout* CreaInsegna(QWidget& finestra) {
     colora(*lblVersion, QPalette::WindowText, misto(20, 0, 165));
 
     auto* colonna = new QVBoxLayout;
-    colonna->setContentsMargins(24, 24, 24, 24);
-    colonna->setSpacing(8);
+    colonna->setContentsMargins(20, 20, 20, 20);
+    colonna->setSpacing(0);
     colonna->addWidget(lblApplication);
     colonna->addWidget(lblVersion);
 
@@ -50,6 +51,6 @@ QVBoxLayout* CreaInsegna(QWidget& finestra) {
     fila->setContentsMargins(0, 0, 0, 0);
     fila->setSpacing(0);
     fila->addWidget(riga);
-    fila->addLayout(colonna);
+    fila->addLayout(colonna, 1);
     return colonna;
 }

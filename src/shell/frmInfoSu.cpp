@@ -27,7 +27,7 @@ void frmInfoSu::CreaCollegamento(QVBoxLayout& colonna, const char* nome, const Q
                                  const QString& destinazione) {
     auto* collegamento = new ui::LinkLabel(testo);
     collegamento->setObjectName(nome);
-    colonna.addWidget(collegamento);
+    colonna.addWidget(collegamento, 0, Qt::AlignLeft);
     connect(collegamento, &ui::LinkLabel::activated, this, [destinazione] {
         evento([&] {
             Prosegui prosegui;

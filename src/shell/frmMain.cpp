@@ -49,7 +49,7 @@ void frmMain::Carica() {
     CentraForm(finestre::Splash());
     SvuotaGriglia();
     RilevaTema(this);
-    ImpostaColoriGriglia();
+    ImpostaColori();
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
     CaricaPosizioneForm(*this);
@@ -63,6 +63,7 @@ void frmMain::CaricaGruppi() {
     pannelli.DockWindows("dckGruppi")->setContent(gruppi);
     gruppi->CaricaGruppiINI();
     CreaGiroFuoco(*gruppi);
+    gruppi->TREE->setFocus();
     AggiornaComandi();
 }
 
@@ -75,7 +76,18 @@ frmGruppi& frmMain::Gruppi() {
 void frmMain::SvuotaGriglia() {
     destinatari->Clear();
     destinatari->setRows(1);
+    destinatari->setEmptyText("Scegliere una cartella");
     AggiornaComandi();
+}
+
+void frmMain::ImpostaColori() {
+    ImpostaColoriGriglia();
+    destinatari->setBackColor(mistoSuBianco(0, 10));
+    destinatari->setAlternateBackColor(mistoSuBianco(0, 50));
+    ui::ProgressCounter& stcProgress = *barre->GetProgress("stcProgress");
+    QPalette tavolozza = stcProgress.palette();
+    tavolozza.setColor(QPalette::Base, coloreTema(0));
+    stcProgress.setPalette(tavolozza);
 }
 
 void frmMain::ImpostaColoriGriglia() {

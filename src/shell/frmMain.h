@@ -86,6 +86,8 @@ class frmMain : public QMainWindow {
     void SalvaDatabase();
 
     void CaricaGruppi();
+    void ImpostaColori();
+    /// The two colours of the grid that follow a change of the desktop's colours.
     void ImpostaColoriGriglia();
 
     ui::CommandBars* barre;

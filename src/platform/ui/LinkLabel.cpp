@@ -50,7 +50,6 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setForegroundRole(QPalette::Link);
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setMargin(4);
     QFont underlined = font();
     underlined.setUnderline(true);
