@@ -41,6 +41,9 @@ void frmInvia::tmr_Timer() {
     const qint32 idDestinatario = LeggiDestinatario(prosegui);
 
     QCoreApplication::processEvents();
+    // A stop and a new start may just have been taken: this tick is then the new run's first, and it re-arms
+    // the timer.
+    tmr->stop();
     mailInviata = false;
     mailFallita = false;
     ScegliStrada(prosegui, indiceAccount);
@@ -147,7 +150,7 @@ void frmInvia::cmdFerma_Click() {
 }
 
 void frmInvia::AbilitaControlli(bool valore) {
-    const bool fuocoSuFerma = cmdFerma->hasFocus();
+    const bool fuocoSuFerma = focusWidget() == cmdFerma;  // also while another program is in front
     for (QWidget* controllo : std::initializer_list<QWidget*>{chkLog, txtFile, cmdFile, cmbAccount, cmbPausa,
                                                               cmbTimeout, chkBlocco, cmdChiudi, cmdInvia})
         controllo->setEnabled(valore);

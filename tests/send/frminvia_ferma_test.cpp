@@ -117,6 +117,21 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
+    void stopAndNewStartWithinATickLetNoSecondTickInto() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        stage.pick();
+        stage.start();
+        EventWatch beforeTick(&stage.timer(), QEvent::Timer, [&] {
+            for (const char* name : {"cmdFerma", "cmdInvia"})
+                QMetaObject::invokeMethod(stage.control<QPushButton>(name), "click", Qt::QueuedConnection);
+        });
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+    }
+
     void pendingTickRunsWithTheWindowHidden() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();

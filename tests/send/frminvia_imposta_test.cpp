@@ -490,6 +490,18 @@ class TestFrmInviaImposta : public QObject {
         QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdChiudi"));
         QVERIFY(stage.control<QPushButton>("cmdChiudi")->isDefault());
     }
+
+    void focusMovesOnAtTheEndAlsoWhileAnotherWindowIsInFront() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdChiudi"));
+    }
 };
 
 QTEST_MAIN(TestFrmInviaImposta)
