@@ -1,8 +1,11 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QFileDialog>
 #include <QIcon>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -110,6 +113,58 @@ class TestUi : public QObject {
         QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|"), "/tmp/registro.xt1");
         QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|"), "/tmp.d/registro.txt");
         QVERIFY(FileDialog::shown().constFirst().save);
+    }
+
+    void saveAsksBeforeItTakesAnExistingFileAndAsksForAnotherOnNo() {
+        ui::setUnattended(false);
+        QTemporaryDir folder;
+        const QString path = folder.filePath("copia.mdb");
+        QFile(path).open(QIODevice::WriteOnly);
+        int questions = 0;
+        std::function<void()> chooseFile;
+        const auto answer = [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            QVERIFY(box->text().contains(path));
+            const bool again = ++questions == 1;
+            if (again) QTimer::singleShot(0, qApp, chooseFile);
+            box->button(again ? QMessageBox::No : QMessageBox::Yes)->click();
+        };
+        chooseFile = [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), "Salva");
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder.filePath("copia"));
+            QTimer::singleShot(0, qApp, answer);
+            QMetaObject::invokeMethod(dialog, "accept");
+        };
+        QTimer::singleShot(0, qApp, chooseFile);
+        QCOMPARE(FileDialog::save("Salva", "Database Mailing List *.mdb|*.mdb"), path);
+        QCOMPARE(questions, 2);
+    }
+
+    void existingFileIsTakenWithoutAQuestionWhereTheCallerContinuesIt() {
+        ui::setUnattended(false);
+        QTemporaryDir folder;
+        const QString path = folder.filePath("registro.xt1");
+        QFile(path).open(QIODevice::WriteOnly);
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|", FileDialog::Existing::Accept), path);
+    }
+
+    void realDialogThatIsCancelledGivesNothing() {
+        ui::setUnattended(false);
+        QTimer::singleShot(0, qApp, [] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->reject();
+        });
+        QVERIFY(!FileDialog::open("Apri", "Message File (*.mss)|*.mss").has_value());
     }
 
     void cancelGivesNothing() {
