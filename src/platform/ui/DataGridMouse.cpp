@@ -54,11 +54,11 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
 }
 
 bool DataGrid::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == horizontalHeader()->viewport()) {
+    if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseMove)
+        Q_EMIT mouseMove(Qt::NoButton);
+    if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseButtonRelease) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
-        if (event->type() == QEvent::MouseMove) Q_EMIT mouseMove(Qt::NoButton);
-        if (event->type() == QEvent::MouseButtonRelease)
-            Q_EMIT mouseUp(mouse->button(), mouse->globalPosition().toPoint());
+        Q_EMIT mouseUp(mouse->button(), mouse->globalPosition().toPoint());
     }
     return QTableView::eventFilter(watched, event);
 }
