@@ -46,6 +46,18 @@ constexpr std::array schemi{
              {0, 0, 0},       {141, 141, 141}, {96, 128, 88},   {244, 247, 222}, {151, 160, 123}}}},
 };
 
+/// By the number of the system colour.
+constexpr std::array ruoliDiSistema{
+    QPalette::Window,      QPalette::Window,          QPalette::Highlight,  QPalette::Mid,
+    QPalette::Window,      QPalette::Base,            QPalette::Shadow,     QPalette::WindowText,
+    QPalette::Text,        QPalette::HighlightedText, QPalette::Window,     QPalette::Window,
+    QPalette::Dark,        QPalette::Highlight,       QPalette::HighlightedText, QPalette::Button,
+    QPalette::Mid,         QPalette::Mid,             QPalette::ButtonText, QPalette::WindowText,
+    QPalette::Light,       QPalette::Shadow,          QPalette::Midlight,   QPalette::ToolTipText,
+    QPalette::ToolTipBase, QPalette::Window,          QPalette::Link,       QPalette::Highlight,
+    QPalette::Mid,         QPalette::Highlight,       QPalette::Window,
+};
+
 constexpr std::uint32_t valore(int rosso, int verde, int blu) {
     return static_cast<std::uint32_t>(rosso | (verde << 8) | (blu << 16));
 }
@@ -91,7 +103,7 @@ void VestiProgramma() {
 }  // namespace
 
 QString RilevaTema(QWidget*) {
-    const QString nome = QStringLiteral("Classic");
+    QString nome = QStringLiteral("Classic");
     ImpostaColoriTema(nome);
     VestiProgramma();
     return nome;
@@ -108,7 +120,19 @@ void ImpostaColoriTema(const QString& nome) {
     }
 }
 
+std::uint32_t TraduciColore(std::uint32_t valore) {
+    constexpr std::uint32_t nessuno = 0xffffffff;
+    constexpr std::uint32_t deiColoriDiSistema = 0x80000000;
+    if (valore < 0x03000000) return valore;
+    const std::uint32_t numero = valore - deiColoriDiSistema;
+    if (valore < deiColoriDiSistema || numero >= ruoliDiSistema.size()) return nessuno;
+    const QColor colore = QApplication::palette().color(ruoliDiSistema[numero]);
+    return ::valore(colore.red(), colore.green(), colore.blue());
+}
+
 std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int quota) {
+    colore1 = TraduciColore(colore1);
+    colore2 = TraduciColore(colore2);
     std::uint32_t risultato = 0;
     for (const int spostamento : {0, 8, 16}) {
         const double c1 = (colore1 >> spostamento) & 0xff;
