@@ -1,6 +1,7 @@
-// scan_recipients --make FILE [ROWS]  writes a database with that many recipients (100,000), in one
-// transaction scan_recipients --scan FILE         opens it, reads every column of every recipient as UTF-8,
-// prints the counts
+// scan_recipients --make FILE [ROWS]
+//     writes a database with that many recipients (100,000), in one transaction
+// scan_recipients --scan FILE
+//     opens it, reads every column of every recipient as UTF-8, prints the counts
 //
 // The second is what is held against `mdb-export FILE tb_destinatari`, as whole processes on the same file.
 #include <cstdio>

@@ -21,23 +21,27 @@ IndexPage::IndexPage(const Page& page, uint32_t number, uint32_t owner) {
     const size_t prefix = load16(p + index::prefix);
     const size_t least = 1 + index::rowIdLength + (leaf ? 0 : index::childLength);
 
-    size_t from = 0;
-    for (size_t i = 0; i < index::entries - index::mask; ++i) {
-        for (unsigned rest = p[index::mask + i]; rest != 0; rest &= rest - 1) {
-            const size_t to = 8 * i + static_cast<size_t>(std::countr_zero(rest));
-            if (to > index::room || to == from) damaged();
-            const size_t shared = m_ends.empty() ? 0 : prefix;
-            if (shared > 0 && m_ends.front() < prefix) damaged();
-            if (shared + to - from < least) damaged();
-            // The first entry lies in m_bytes itself, which may move while it grows.
-            const size_t at = m_bytes.size();
-            m_bytes.resize(at + shared + to - from);
-            std::copy_n(m_bytes.begin(), shared, m_bytes.begin() + static_cast<ptrdiff_t>(at));
-            std::copy_n(p + index::entries + from, to - from,
-                        m_bytes.begin() + static_cast<ptrdiff_t>(at + shared));
-            m_ends.push_back(static_cast<uint32_t>(m_bytes.size()));
-            from = to;
-        }
+    for (size_t i = 0; i < index::entries - index::mask; ++i)
+        for (unsigned rest = p[index::mask + i]; rest != 0; rest &= rest - 1)
+            m_ends.push_back(static_cast<uint32_t>(8 * i) + static_cast<uint32_t>(std::countr_zero(rest)));
+    if (!m_ends.empty() && (m_ends.back() > index::room || m_ends.front() < std::max(least, prefix)))
+        damaged();
+
+    // Each end becomes the end of the whole entry; from the second on that is longer by the prefix.
+    const size_t stored = m_ends.empty() ? 0 : m_ends.back();
+    m_bytes.resize(stored + prefix * (m_ends.empty() ? 0 : m_ends.size() - 1));
+    const uint8_t* from = p + index::entries;
+    size_t end = 0;
+    size_t at = 0;
+    for (uint32_t& entryEnd : m_ends) {
+        const size_t shared = at == 0 ? 0 : prefix;
+        const size_t own = entryEnd - end;
+        if (shared + own < least) damaged();
+        std::memcpy(&m_bytes[at], m_bytes.data(), shared);
+        std::memcpy(&m_bytes[at + shared], from + end, own);
+        end = entryEnd;
+        at += shared + own;
+        entryEnd = static_cast<uint32_t>(at);
     }
     if (!leaf && m_ends.empty() && tail == 0) damaged();
 }

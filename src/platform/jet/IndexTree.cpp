@@ -63,16 +63,13 @@ IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
     Path path;
     uint32_t number = m_index.rootPage;
     while (path.size() < maxDepth) {
-        const IndexPage page = load(number);
-        if (page.leaf) {
-            path.push_back({number, 0});
-            return path;
-        }
-        size_t at = page.lowerBound(wanted);
-        if (at == page.count() && page.tail == 0)
+        path.push_back({number, load(number)});
+        Step& step = path.back();
+        if (step.page.leaf) return path;
+        step.child = step.page.lowerBound(wanted);
+        if (step.child == step.page.count() && step.page.tail == 0)
             failDamaged(QStringLiteral("la pagina di indice %1 non ha un ultimo ramo").arg(number));
-        path.push_back({number, at});
-        number = page.child(at);
+        number = step.page.child(step.child);
     }
     failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
 }
@@ -80,19 +77,18 @@ IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
 // Other programs store nodes with a prefix. Those on the way that are too full without one are cut up first.
 IndexTree::Path IndexTree::descendForChange(std::span<const uint8_t> wanted) {
     for (;;) {
-        const Path path = descend(wanted);
-        const auto tooFull = std::find_if(path.begin(), path.end(),
-                                          [this](const Step& step) { return !load(step.number).fits(); });
+        Path path = descend(wanted);
+        const auto tooFull =
+            std::find_if(path.begin(), path.end(), [](const Step& step) { return !step.page.fits(); });
         if (tooFull == path.end()) return path;
-        place(path, static_cast<size_t>(tooFull - path.begin()), load(tooFull->number), false);
+        place(path, static_cast<size_t>(tooFull - path.begin()), tooFull->page, false);
     }
 }
 
 std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
     const Bytes wanted = entryOf(key, {});
-    uint32_t number = descend(wanted).back().number;
+    IndexPage leaf = std::move(descend(wanted).back().page);
     for (uint32_t hops = 0; hops <= m_file.pageCount(); ++hops) {
-        const IndexPage leaf = load(number);
         const size_t at = leaf.lowerBound(wanted);
         if (at < leaf.count()) {
             const auto found = leaf.keyAndRow(at);
@@ -101,7 +97,7 @@ std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
             return rowOf(found);
         }
         if (leaf.next == 0) return std::nullopt;
-        number = leaf.next;
+        leaf = load(leaf.next);
     }
     failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
 }
@@ -123,8 +119,8 @@ std::optional<Bytes> IndexTree::lastKey() const {
 
 void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     const Bytes entry = entryOf(key, row);
-    const Path path = descendForChange(entry);
-    IndexPage leaf = load(path.back().number);
+    Path path = descendForChange(entry);
+    IndexPage leaf = std::move(path.back().page);
     const size_t at = leaf.lowerBound(entry);
     if (at < leaf.count() && compareEntries(leaf.keyAndRow(at), entry) == 0)
         failDamaged(QStringLiteral("un indice di \"%1\" contiene già la riga").arg(m_definition.name));
@@ -217,9 +213,9 @@ void IndexTree::growRoot(std::vector<Part> parts, uint8_t level) {
 
 void IndexTree::erase(std::span<const uint8_t> key, RowId row) {
     const Bytes entry = entryOf(key, row);
-    const Path path = descendForChange(entry);
+    Path path = descendForChange(entry);
     const size_t depth = path.size() - 1;
-    IndexPage leaf = load(path[depth].number);
+    IndexPage& leaf = path[depth].page;
     const size_t at = leaf.lowerBound(entry);
     if (at == leaf.count() || compareEntries(leaf.keyAndRow(at), entry) != 0)
         failDamaged(QStringLiteral("in un indice di \"%1\" manca una riga").arg(m_definition.name));

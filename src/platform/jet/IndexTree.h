@@ -33,9 +33,11 @@ class IndexTree {
     void erase(std::span<const uint8_t> key, RowId row);
 
   private:
-    /// A page on the way down: which child was taken (count() of the page = its tail).
+    /// A page on the way down, as it is in the file, and which child was taken (count() of the page = its
+    /// tail).
     struct Step {
         uint32_t number = 0;
+        IndexPage page;
         size_t child = 0;
     };
     using Path = std::vector<Step>;

@@ -30,55 +30,58 @@ void appendCodePoint(char32_t c, std::string& out) {
     }
 }
 
-// Joins surrogates while units arrive one by one.
-class Utf8Sink {
-  public:
-    explicit Utf8Sink(std::string& out) : m_out(out) {}
-    ~Utf8Sink() { flush(); }
-
-    void add(char32_t unit) {
-        if (m_high != 0 && unit >= 0xDC00 && unit < 0xE000) {
-            appendCodePoint(0x10000 + ((m_high - 0xD800) << 10) + (unit - 0xDC00), m_out);
-            m_high = 0;
-            return;
+// UTF-16LE. Lone surrogates and half a unit at the end are replaced.
+void appendUnits(std::span<const uint8_t> bytes, std::string& out) {
+    const size_t end = bytes.size() / 2 * 2;
+    for (size_t i = 0; i < end; i += 2) {
+        char32_t c = load16(&bytes[i]);
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+            continue;
         }
-        flush();
-        if (unit >= 0xD800 && unit < 0xDC00)
-            m_high = unit;
-        else
-            appendCodePoint(unit >= 0xDC00 && unit < 0xE000 ? replacement : unit, m_out);
+        if (c >= 0xD800 && c < 0xE000) {
+            const char32_t low = i + 2 < end ? load16(&bytes[i + 2]) : 0;
+            const bool pair = c < 0xDC00 && low >= 0xDC00 && low < 0xE000;
+            c = pair ? 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00) : replacement;
+            if (pair) i += 2;
+        }
+        appendCodePoint(c, out);
     }
+    if (end < bytes.size()) appendCodePoint(replacement, out);
+}
 
-  private:
-    void flush() {
-        if (m_high != 0) appendCodePoint(replacement, m_out);
-        m_high = 0;
+// How many bytes from the start are 01 to 7F: nearly all that there is to read, so eight at a time.
+size_t asciiRun(std::span<const uint8_t> bytes) {
+    constexpr uint64_t ones = 0x0101010101010101u;
+    constexpr uint64_t highs = 0x8080808080808080u;
+    size_t length = 0;
+    for (uint64_t word; length + 8 <= bytes.size(); length += 8) {
+        std::memcpy(&word, &bytes[length], 8);
+        if (((word | (word - ones)) & highs) != 0) break;  // a high bit, or a borrow from a zero
     }
-    std::string& m_out;
-    char32_t m_high = 0;
-};
+    while (length < bytes.size() && static_cast<uint8_t>(bytes[length] - 1) < 0x7F)
+        ++length;
+    return length;
+}
 
 void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
-    // Nearly every value is one run of ASCII.
-    size_t ascii = 0;
-    while (ascii < bytes.size() && static_cast<uint8_t>(bytes[ascii] - 1) < 0x7F)
-        ++ascii;
-    out.append(reinterpret_cast<const char*>(bytes.data()), ascii);
-    Utf8Sink sink(out);
-    bool single = true;
-    for (size_t i = ascii; i < bytes.size();) {
-        if (bytes[i] == 0) {
-            single = !single;
-            ++i;
-        } else if (single) {
-            sink.add(bytes[i++]);
-        } else if (i + 1 < bytes.size()) {
-            sink.add(load16(&bytes[i]));
-            i += 2;
-        } else {
-            sink.add(replacement);
-            ++i;
+    for (;;) {
+        const size_t ascii = asciiRun(bytes);
+        out.append(reinterpret_cast<const char*>(bytes.data()), ascii);
+        if (ascii == bytes.size()) return;
+        const uint8_t byte = bytes[ascii];
+        bytes = bytes.subspan(ascii + 1);
+        if (byte != 0) {
+            appendCodePoint(byte, out);
+            continue;
         }
+        // Two bytes each, up to a zero byte where a character would begin.
+        size_t length = 0;
+        while (length < bytes.size() && bytes[length] != 0)
+            length += 2;
+        appendUnits(bytes.first(std::min(length, bytes.size())), out);
+        if (length >= bytes.size()) return;
+        bytes = bytes.subspan(length + 1);
     }
 }
 
@@ -87,11 +90,7 @@ void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
 void appendUtf8(std::span<const uint8_t> stored, std::string& out) {
     if (stored.size() >= 2 && stored[0] == 0xFF && stored[1] == 0xFE)
         return appendCompressed(stored.subspan(2), out);
-    Utf8Sink sink(out);
-    size_t i = 0;
-    for (; i + 1 < stored.size(); i += 2)
-        sink.add(load16(&stored[i]));
-    if (i < stored.size()) sink.add(replacement);
+    appendUnits(stored, out);
 }
 
 std::u16string toUtf16(std::string_view utf8) {
