@@ -1,0 +1,131 @@
+#include "lang/bLANG.h"
+
+#include <limits>
+
+#include "core/bImpostazioni.h"
+#include "core/Fallimento.h"
+#include "platform/text/TextFile.h"
+
+namespace {
+
+constexpr qsizetype lunghezzaMarcatore = 8;  ///< of "[<NOME>]" and of "[<LNG1>]"
+constexpr qsizetype inizioSezione = 10;      ///< behind the marker stand two characters that are not read
+
+QString percorsoTesti() {
+    return PercorsoApp() + QStringLiteral("LANG.lng");
+}
+
+QString percorsoScelta() {
+    return PercorsoApp() + QStringLiteral("LANGz.lng");
+}
+
+/// Hands each line to `riga`, up to the end of the file.
+template <class Riga>
+void perOgniRiga(const QString& percorso, Riga&& riga) {
+    text::LineReader file;
+    esigi(file.open(percorso, text::LineEnds::Any));
+    QString testo;
+    while (file.nextLine(testo))
+        riga(testo);
+    esigi(file.status());
+}
+
+QString linguaInUso() {
+    text::LineReader file;
+    QString nome;
+    esigi(file.open(percorsoScelta(), text::LineEnds::Any));
+    esigi(file.readLine(nome));
+    return nome;
+}
+
+/// All other lines are comments.
+bool conta(const QString& riga) {
+    return riga.size() >= lunghezzaMarcatore && riga[0] == u'[' && riga[lunghezzaMarcatore - 1] == u']';
+}
+
+bool dichiaraLingua(const QString& riga) {
+    return riga.startsWith(QLatin1String("[<LNG"));
+}
+
+bool apreSezione(const QString& riga) {
+    const QStringView tipo = QStringView(riga).mid(1, 6);
+    return tipo == u"<FORM>" || tipo == u"<MDLO>";
+}
+
+/// Where a marker begins, counted from 1; 0 where it is missing.
+qsizetype posto(const QString& riga, const QString& marcatore) {
+    return riga.indexOf(marcatore) + 1;
+}
+
+QString marcatoreLingua(int numero) {
+    return QStringLiteral("[<LNG%1>]").arg(numero);
+}
+
+/// What stands between two markers, given by where they begin. A missing marker makes the length negative.
+QString traMarcatori(const QString& riga, qsizetype primo, qsizetype secondo) {
+    const qsizetype inizio = primo + lunghezzaMarcatore;
+    if (secondo < inizio) fallisci(ErrorCode::SubscriptOutOfRange);
+    return riga.mid(inizio - 1, secondo - inizio);
+}
+
+/// The texts of a line in all languages. A "|" inside a text counts as the border of two.
+QStringList testiDellaRiga(const QString& riga) {
+    QString uniti;
+    qsizetype primo = posto(riga, marcatoreLingua(1));
+    for (int lingua = 1; lingua <= bLANG::numeroLingue; ++lingua) {
+        const qsizetype secondo = posto(riga, marcatoreLingua(lingua + 1));
+        uniti += traMarcatori(riga, primo, secondo) + u'|';
+        primo = secondo;
+    }
+    if (uniti.isEmpty()) fallisci(ErrorCode::SubscriptOutOfRange);
+    uniti.chop(1);
+    return uniti.split(u'|');
+}
+
+}  // namespace
+
+void bLANG::ElencaLingue(QStringList& voci) {
+    voci.clear();
+    perOgniRiga(percorsoTesti(), [&](const QString& riga) {
+        if (!conta(riga) || !dichiaraLingua(riga)) return;
+        voci += riga.mid(lunghezzaMarcatore);
+        if (numeroLingue == std::numeric_limits<std::int16_t>::max()) fallisci(ErrorCode::Overflow);
+        ++numeroLingue;
+    });
+    const QString inUso = linguaInUso();
+    for (qsizetype i = 0; i < voci.size(); ++i) {
+        if (voci[i] != inUso) continue;
+        voci[i] = QStringLiteral(">> ") + inUso + QStringLiteral(" <<");
+        linguaScelta = static_cast<std::int16_t>(i + 1);
+    }
+}
+
+void bLANG::ScriviLinguaInUso(const QString& nome) {
+    text::TextWriter file;
+    esigi(file.open(percorsoScelta(), text::WriteMode::Output));
+    esigi(file.print(nome));
+    esigi(file.close());
+}
+
+bool bLANG::eSegnata(const QString& voce) {
+    return voce.startsWith(QLatin1String(">>"));
+}
+
+void bLANG::LeggiTesti(const std::function<Destinazione(const QString& chiave)>& destinazione) {
+    QString sezione;
+    perOgniRiga(percorsoTesti(), [&](const QString& riga) {
+        if (!conta(riga)) return;
+        if (apreSezione(riga)) {
+            sezione = riga.mid(inizioSezione);
+            return;
+        }
+        if (dichiaraLingua(riga)) return;
+        const QString chiave =
+            traMarcatori(riga, posto(riga, QStringLiteral("[<NOME>]")), posto(riga, marcatoreLingua(1)));
+        const QStringList testi = testiDellaRiga(riga);
+        if (const Destinazione assegna = destinazione(sezione + u'.' + chiave)) {
+            if (linguaScelta < 1 || linguaScelta > testi.size()) fallisci(ErrorCode::SubscriptOutOfRange);
+            assegna(testi[linguaScelta - 1]);
+        }
+    });
+}
