@@ -1,0 +1,79 @@
+// The window around a run: how it is left and opened again, where focus and default button go.
+#include "support/SendStage.h"
+
+using namespace testing_support;
+
+class TestFrmInviaFinestra : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void windowIsLeftByItsOwnButtonOnly() {
+        SendStage stage({"a@x.it"});
+        QVERIFY(!stage.window->close());
+        QVERIFY(stage.window->isVisible());
+        QTest::keyClick(stage.window.get(), Qt::Key_Escape);
+        QVERIFY(stage.window->isVisible());
+        stage.pick();
+        stage.click("cmdInvia");
+        QVERIFY(!stage.enabled("cmdChiudi"));
+        QVERIFY(!stage.window->close());
+        QTest::keyClick(stage.window.get(), Qt::Key_Escape);
+        QVERIFY(stage.window->isVisible());
+        QVERIFY(stage.waitForEnd());
+        stage.click("cmdChiudi");
+        QVERIFY(!stage.window->isVisible());
+    }
+
+    void reopeningShowsTheSelectionAsTheRunLeftItAndKeepsTheChoices() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        stage.sink.treat("b@x.it", SmtpSink::Treatment::Refuse);
+        stage.click("chkBlocco");
+        stage.control<QLineEdit>("txtBloccoNum")->setText("40");
+        stage.control<QComboBox>("cmbTimeout")->setCurrentIndex(3);
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 2}));
+        stage.click("cmdChiudi");
+        stage.open();
+        QCOMPARE(stage.counters(), (QList<double>{1, 0, 0}));
+        QCOMPARE(stage.label("lblDaInviare"), "Email da inviare: 1");
+        QVERIFY(stage.control<QLineEdit>("txtFile")->text().endsWith("prova.mss"));
+        QVERIFY(stage.control<QCheckBox>("chkBlocco")->isChecked());
+        QCOMPARE(stage.control<QLineEdit>("txtBloccoNum")->text(), "40");
+        QCOMPARE(stage.control<QComboBox>("cmbTimeout")->currentIndex(), 0);
+        stage.sink.treat("b@x.it", SmtpSink::Treatment::Accept);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void focusAndDefaultButtonFollowTheRun() {
+        SendStage stage({"a@x.it"});
+        QVERIFY(stage.control<QPushButton>("cmdInvia")->isDefault());
+        stage.pick();
+        stage.window->activateWindow();
+        stage.control<QLineEdit>("txtFile")->setFocus();
+        QTest::keyClick(stage.control<QLineEdit>("txtFile"), Qt::Key_Return);
+        QVERIFY(stage.timer().isActive());
+        QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdFerma"));
+        QVERIFY(stage.control<QPushButton>("cmdFerma")->isDefault());
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdChiudi"));
+        QVERIFY(stage.control<QPushButton>("cmdChiudi")->isDefault());
+    }
+
+    void focusMovesOnAtTheEndAlsoWhileAnotherWindowIsInFront() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.click("cmdInvia");
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdChiudi"));
+    }
+};
+
+QTEST_MAIN(TestFrmInviaFinestra)
+#include "frminvia_finestra_test.moc"
