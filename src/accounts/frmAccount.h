@@ -1,0 +1,98 @@
+#pragma once
+
+#include <array>
+#include <QDialog>
+
+#include "accounts/AccountFile.h"
+
+class ElencoAccount;
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QPushButton;
+
+/// The account window: sender accounts are made, changed and deleted here, each at the press of a button,
+/// which writes the account file at once. The window reads the file when it is created and is only hidden
+/// afterwards, so that list and table live until the program ends.
+///
+/// A list position is taken as an index of the table. The two part after the only account was deleted and
+/// another one was made, since the table never becomes empty.
+class frmAccount : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// Unguarded: fails where the account file cannot be read.
+    explicit frmAccount(QWidget* parent = nullptr);
+
+    /// The window is left by cmdChiudi only: Esc has no effect.
+    void reject() override {}
+
+  protected:
+    void closeEvent(QCloseEvent* chiusura) override;
+    void showEvent(QShowEvent* mostra) override;
+    bool eventFilter(QObject* oggetto, QEvent* accaduto) override;
+
+  private:
+    // frmAccount_aspetto.cpp: controls and layout
+    void CreaControlli();
+    void CreaCaselle();
+    void CreaMenu();
+    void DisponiControlli();
+    QWidget* DisponiTestata();
+    QGridLayout* DisponiModulo();
+    void DisponiServer(QGridLayout& modulo, int riga);
+    QWidget* DisponiAvanzate();
+    void ColoraControlli();
+    void CollegaEtichette();
+
+    // frmAccount.cpp: what the controls do
+    void CollegaEventi();
+    void lstAccount_Click();
+    void chkAutentick_Click();
+    void chkAvanzate_Click();
+    void chkUsaSMTP_Click();
+    void cmdChiudi_Click();
+    void MostraMenu(const QPoint& punto);
+    void ScegliPredefinito();
+    static void SelezionaTesto(QLineEdit& casella);
+
+    // frmAccount_archivio.cpp: the accounts
+    void CaricaAccount();
+    bool ValidaAccount();
+    void TogliSeparatori();
+    void EliminaAccount(int indice);
+    void AzzeraControlli();
+    Account LeggiControlli() const;
+    void cmdNuovo_Click();
+    void cmdModifica_Click();
+
+    ElencoAccount* lstAccount;
+    QLineEdit* txtNomeVisual;
+    QLineEdit* txtEmail;
+    QCheckBox* chkUsaSMTP;
+    QLineEdit* txtServerSMTP;
+    QLineEdit* txtServerPORT;
+    QCheckBox* chkAutentick;
+    QLineEdit* txtUsername;
+    QLineEdit* txtPassword;
+    QCheckBox* chkAvanzate;
+    QComboBox* cmbSaluto;
+    QLineEdit* txtOutPort;
+    QPushButton* cmdNuovo;
+    QPushButton* cmdModifica;
+    QPushButton* cmdChiudi;
+    QMenu* mnuElenco;
+    QAction* mnuElimina;
+    QWidget* pic;
+    /// 0 the help text, 1 heads the list, 2 and 3 name and hint of txtNomeVisual, 4 and 5 of txtEmail,
+    /// 6 cmbSaluto, 7 and 8 txtServerSMTP, 9 txtServerPORT, 10 txtUsername, 11 txtPassword, 12 txtOutPort.
+    /// Their object names are "lbl(0)" to "lbl(12)".
+    std::array<QLabel*, 13> lbl;
+
+    TabellaAccount account;
+    QLineEdit* appenaPremuta = nullptr;  ///< the box that takes the focus by the mouse press under way
+};

@@ -1,0 +1,111 @@
+// The accounts behind the window: reading, checking and writing them.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "accounts/frmAccount.h"
+#include "accounts/frmAccount_elenco.h"
+#include "core/bFunctions.h"
+#include "core/bImpostazioni.h"
+#include "core/Fallimento.h"
+#include "lang/bVAR.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/MessageDialog.h"
+
+namespace {
+
+QString percorsoAccount() {
+    return cartellaDati() + "Account.imp";
+}
+
+}  // namespace
+
+void frmAccount::CaricaAccount() {
+    ::CaricaAccount(percorsoAccount(), account,
+                    [this](const Account& uno, int) { lstAccount->addItem(VoceAccount(uno)); });
+}
+
+bool frmAccount::ValidaAccount() {
+    QString errori;
+    const auto segnala = [&errori](const QString& testo) { errori += testo + "\r\n"; };
+    if (txtNomeVisual->text().isEmpty()) segnala(bVAR::accNomeVisual);
+    if (!EmailValida(txtEmail->text())) segnala(bVAR::accEmailCorretta);
+    if (chkUsaSMTP->isChecked()) {
+        if (txtServerSMTP->text().isEmpty()) segnala(bVAR::accServerSMTP);
+        if (!text::isNumeric(txtServerPORT->text())) segnala(bVAR::accPort);
+        const bool senzaNome = txtUsername->text().isEmpty() || txtPassword->text().isEmpty();
+        if (chkAutentick->isChecked() && senzaNome) segnala(bVAR::accAutenticazione);
+    }
+    if (errori.isEmpty()) return true;
+    ui::MessageDialog::show(bVAR::ImpossibileContinuare + "\r\n\r\n" + errori, ui::MessageDialog::Notice,
+                            bVAR::Attenzione);
+    return false;
+}
+
+void frmAccount::TogliSeparatori() {
+    for (QLineEdit* casella :
+         {txtNomeVisual, txtEmail, txtServerSMTP, txtServerPORT, txtUsername, txtPassword})
+        casella->setText(casella->text().remove('|'));
+}
+
+Account frmAccount::LeggiControlli() const {
+    const auto valore = [](const QCheckBox* casella) { return casella->isChecked() ? "1" : "0"; };
+    Account letto;
+    letto.txtNomeVisual = txtNomeVisual->text();
+    letto.txtEmail = txtEmail->text();
+    letto.txtServerSMTP = txtServerSMTP->text();
+    letto.txtServerPORT = txtServerPORT->text();
+    letto.chkAutentick = valore(chkAutentick);
+    letto.txtUsername = txtUsername->text();
+    letto.txtPassword = txtPassword->text();
+    letto.cmbSaluto = cmbSaluto->currentText();
+    letto.txtOutPort = txtOutPort->text();
+    letto.chkUsaSMTP = valore(chkUsaSMTP);
+    return letto;
+}
+
+void frmAccount::cmdNuovo_Click() {
+    if (!ValidaAccount()) return;
+    TogliSeparatori();
+    Prosegui prosegui;
+    const Account nuovo = LeggiControlli();
+    const int numero = NuovoAccount(percorsoAccount(), account, nuovo);
+    lstAccount->addItem(VoceAccount(nuovo));
+    // A list that is shorter than the table has no such position: the choice stays as it is.
+    if (numero >= lstAccount->count()) return;
+    lstAccount->setListIndex(numero);
+    prosegui([this] { lstAccount_Click(); });
+}
+
+void frmAccount::cmdModifica_Click() {
+    if (!ValidaAccount()) return;
+    TogliSeparatori();
+    const int posizione = lstAccount->ListIndex();
+    const Account valori = LeggiControlli();
+    if (QListWidgetItem* voce = lstAccount->item(posizione)) voce->setText(VoceAccount(valori));
+    ModificaAccount(percorsoAccount(), account, lstAccount->count(), posizione, valori);
+}
+
+/// With entries but none chosen, the first account leaves the table and the file while the list keeps all its
+/// entries: each step that fails for the position -1 is passed over.
+void frmAccount::EliminaAccount(int indice) {
+    Prosegui prosegui;
+    ::EliminaAccount(percorsoAccount(), account, lstAccount->count(), indice);
+    if (indice >= 0) lstAccount->RemoveItem(indice);
+    const int rimaste = lstAccount->count();
+    lstAccount->setListIndex(indice + 1 <= rimaste ? indice : rimaste - 1);
+    prosegui([this] { lstAccount_Click(); });
+    cmdModifica->setEnabled(rimaste >= 1);
+    if (rimaste == 0) AzzeraControlli();
+}
+
+void frmAccount::AzzeraControlli() {
+    for (QLineEdit* casella : {txtNomeVisual, txtEmail, txtServerSMTP, txtUsername, txtPassword})
+        casella->clear();
+    txtServerPORT->setText("25");
+    chkAutentick->setChecked(false);
+    cmbSaluto->setCurrentIndex(0);
+    txtOutPort->setText("0");
+    chkUsaSMTP->setChecked(true);
+}

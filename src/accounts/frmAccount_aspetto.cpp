@@ -1,0 +1,272 @@
+// The look of the account window: its controls, their places and their colours.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+
+#include "accounts/frmAccount.h"
+#include "accounts/frmAccount_elenco.h"
+#include "shell/bTheme.h"
+
+namespace {
+
+constexpr int margine = 12;
+constexpr int spazio = 8;
+constexpr int altezzaCasella = 26;
+
+QString senzaSegni(QString testo) {
+    return testo.remove('&').remove(':');
+}
+
+void coloraSfondo(QWidget* controllo, int indice) {
+    QPalette tavolozza = controllo->palette();
+    tavolozza.setColor(QPalette::Window, coloreTema(indice));
+    controllo->setPalette(tavolozza);
+    controllo->setAutoFillBackground(true);
+}
+
+template <class Controllo>
+Controllo* nomina(Controllo* controllo, const QString& nome) {
+    controllo->setObjectName(nome);
+    return controllo;
+}
+
+}  // namespace
+
+void frmAccount::CreaControlli() {
+    const char* const testi[] = {
+        "Quando si invia un messaggio di posta elettronica, il nome del mittente viene visualizzato nel "
+        "campo "
+        "Da del messaggio in uscita. Digitare il nome come si desidera venga visualizzato in tale campo e "
+        "l'email da utilizzare per spedire i messaggi",
+        "Account presenti:",
+        "Nome visualizzato:",
+        "Ad esempio: Klukla",
+        "Email:",
+        "Ad esempio: nome@dominio.it",
+        "Saluto:",
+        "Server SMTP:",
+        "Ad esempio: mail.serversmtp.com",
+        "PORTA",
+        "Username:",
+        "Password:",
+        "Porta di uscita:"};
+    for (std::size_t i = 0; i < lbl.size(); ++i)
+        lbl[i] = nomina(new QLabel(testi[i], this), QString("lbl(%1)").arg(i));
+    pic = nomina(new QWidget(this), "pic");
+    // In the order in which the keyboard goes round them.
+    lstAccount = nomina(new ElencoAccount(this), "lstAccount");
+    CreaCaselle();
+    const auto pulsante = [this](const char* nome, const char* testo) {
+        auto* nuovo = nomina(new QPushButton(testo, this), nome);
+        nuovo->setAutoDefault(false);
+        nuovo->setMinimumSize(100, 28);
+        return nuovo;
+    };
+    cmdNuovo = pulsante("cmdNuovo", "&Nuovo Account");
+    cmdModifica = pulsante("cmdModifica", "&Modifica Account");
+    cmdChiudi = pulsante("cmdChiudi", "&Chiudi");
+    cmdModifica->setEnabled(false);
+    CreaMenu();
+}
+
+void frmAccount::CreaCaselle() {
+    const auto casella = [this](const char* nome, int limite, const char* testo = "") {
+        auto* nuova = nomina(new QLineEdit(testo, this), nome);
+        nuova->setMaxLength(limite);
+        nuova->setMinimumHeight(altezzaCasella);
+        return nuova;
+    };
+    const auto porta = [&](const char* nome, const char* testo) {
+        auto* nuova = casella(nome, 5, testo);
+        nuova->setAlignment(Qt::AlignCenter);
+        nuova->setFixedWidth(qMax(64, nuova->fontMetrics().horizontalAdvance("00000") + 2 * margine));
+        return nuova;
+    };
+    const auto spunta = [this](const char* nome, const char* testo) {
+        auto* nuova = nomina(new QCheckBox(testo, this), nome);
+        nuova->setMinimumHeight(24);
+        return nuova;
+    };
+    txtNomeVisual = casella("txtNomeVisual", 50);
+    txtEmail = casella("txtEmail", 255);
+    chkUsaSMTP = spunta("chkUsaSMTP", "Utilizza un server SMTP per l'invio dei messaggi.");
+    chkUsaSMTP->setChecked(true);
+    txtServerSMTP = casella("txtServerSMTP", 255);
+    txtServerPORT = porta("txtServerPORT", "25");
+    chkAutentick = spunta("chkAutentick", "Autenticazione del Server necessaria.");
+    txtUsername = casella("txtUsername", 255);
+    txtPassword = casella("txtPassword", 255);
+    txtPassword->setEchoMode(QLineEdit::Password);
+    chkAvanzate = spunta("chkAvanzate", "Avanzate");
+    cmbSaluto = nomina(new QComboBox(this), "cmbSaluto");
+    cmbSaluto->addItems({"EHLO", "HELO"});
+    cmbSaluto->setMinimumHeight(altezzaCasella);
+    txtOutPort = porta("txtOutPort", "0");
+    chkAutentick_Click();
+    chkAvanzate_Click();
+}
+
+void frmAccount::CreaMenu() {
+    mnuElenco = nomina(new QMenu("Elenco", this), "mnuElenco");
+    mnuElimina = nomina(mnuElenco->addAction("&Elimina Account"), "mnuElimina");
+}
+
+void frmAccount::ColoraControlli() {
+    for (QWidget* controllo : std::initializer_list<QWidget*>{this, chkUsaSMTP, chkAutentick})
+        coloraSfondo(controllo, 0);
+    for (QWidget* controllo : std::initializer_list<QWidget*>{chkAvanzate, pic})
+        coloraSfondo(controllo, 24);
+    for (std::size_t indice : {3, 5, 8}) {
+        QPalette tavolozza = lbl[indice]->palette();
+        tavolozza.setColor(QPalette::WindowText, misto(20, 0, 165));
+        lbl[indice]->setPalette(tavolozza);
+    }
+}
+
+void frmAccount::DisponiControlli() {
+    auto* elenco = new QVBoxLayout;
+    elenco->setSpacing(spazio / 2);
+    elenco->addWidget(lbl[1]);
+    elenco->addWidget(lstAccount, 1);
+    lstAccount->setFixedWidth(210);
+
+    auto* modulo = new QVBoxLayout;
+    modulo->setSpacing(0);
+    modulo->addLayout(DisponiModulo());
+    modulo->addStretch();
+    auto* corpo = new QHBoxLayout;
+    corpo->setContentsMargins(margine, margine, margine, margine);
+    corpo->setSpacing(16);
+    corpo->addLayout(elenco);
+    corpo->addLayout(modulo, 1);
+
+    auto* comandi = new QHBoxLayout;
+    comandi->setContentsMargins(margine, 0, margine, margine);
+    comandi->setSpacing(spazio);
+    comandi->addWidget(cmdNuovo);
+    comandi->addWidget(cmdModifica);
+    comandi->addStretch();
+    comandi->addWidget(cmdChiudi);
+
+    auto* linea = new QFrame(this);
+    linea->setFrameShape(QFrame::HLine);
+    linea->setFrameShadow(QFrame::Plain);
+    linea->setForegroundRole(QPalette::Mid);
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(0, 0, 0, 0);
+    finestra->setSpacing(0);
+    finestra->addWidget(DisponiTestata());
+    finestra->addWidget(linea);
+    finestra->addLayout(corpo, 1);
+    finestra->addLayout(comandi);
+}
+
+QWidget* frmAccount::DisponiTestata() {
+    pic->setFixedWidth(56);
+    auto* img = nomina(new QLabel(pic), "img");
+    img->setPixmap(QIcon::fromTheme("user-properties").pixmap(32));
+    auto* quadro = new QVBoxLayout(pic);
+    quadro->setContentsMargins(0, 0, 0, 0);
+    quadro->addWidget(img, 0, Qt::AlignCenter);
+
+    auto* testata = new QWidget(this);
+    coloraSfondo(testata, 1);
+    auto* riga = new QHBoxLayout(testata);
+    riga->setContentsMargins(0, 0, 0, 0);
+    riga->setSpacing(0);
+    riga->addWidget(pic);
+    riga->addWidget(lbl[0], 1);
+    lbl[0]->setWordWrap(true);
+    lbl[0]->setContentsMargins(margine, spazio, margine, spazio);
+    return testata;
+}
+
+/// Labels in one column, fields in the other, each hint 1 below its field.
+QGridLayout* frmAccount::DisponiModulo() {
+    auto* modulo = new QGridLayout;
+    modulo->setHorizontalSpacing(spazio);
+    modulo->setVerticalSpacing(0);
+    modulo->setColumnStretch(1, 1);
+    int riga = 0;
+    const auto stacca = [&](int quanto) { modulo->setRowMinimumHeight(riga++, quanto); };
+    const auto campo = [&](QLabel* etichetta, QWidget* casella, QLabel* esempio) {
+        modulo->addWidget(etichetta, riga, 0);
+        if (casella) modulo->addWidget(casella, riga, 1);
+        ++riga;
+        if (!esempio) return;
+        esempio->setContentsMargins(2, 1, 0, 0);
+        modulo->addWidget(esempio, riga++, 1);
+    };
+    campo(lbl[2], txtNomeVisual, lbl[3]);
+    stacca(spazio);
+    campo(lbl[4], txtEmail, lbl[5]);
+    stacca(spazio);
+    modulo->addWidget(chkUsaSMTP, riga++, 0, 1, 2);
+    stacca(spazio / 2);
+    DisponiServer(*modulo, riga);
+    campo(lbl[7], nullptr, lbl[8]);
+    stacca(spazio);
+    modulo->addWidget(chkAutentick, riga++, 0, 1, 2);
+    stacca(spazio / 2);
+    campo(lbl[10], txtUsername, nullptr);
+    stacca(spazio);
+    campo(lbl[11], txtPassword, nullptr);
+    stacca(spazio);
+    modulo->addWidget(DisponiAvanzate(), riga++, 0, 1, 2);
+    stacca(spazio);
+    auto* saluto = new QHBoxLayout;
+    saluto->setSpacing(spazio);
+    saluto->addWidget(cmbSaluto);
+    saluto->addSpacing(margine);
+    saluto->addWidget(lbl[12]);
+    saluto->addWidget(txtOutPort);
+    saluto->addStretch();
+    modulo->addWidget(lbl[6], riga, 0);
+    modulo->addLayout(saluto, riga, 1);
+    return modulo;
+}
+
+void frmAccount::DisponiServer(QGridLayout& modulo, int riga) {
+    auto* server = new QHBoxLayout;
+    server->setSpacing(spazio);
+    server->addWidget(txtServerSMTP, 1);
+    server->addWidget(lbl[9]);
+    server->addWidget(txtServerPORT);
+    modulo.addLayout(server, riga, 1);
+}
+
+QWidget* frmAccount::DisponiAvanzate() {
+    auto* fascia = new QWidget(this);
+    coloraSfondo(fascia, 24);
+    fascia->setMinimumHeight(28);
+    auto* riga = new QHBoxLayout(fascia);
+    riga->setContentsMargins(6, 2, 6, 2);
+    riga->addWidget(chkAvanzate);
+    return fascia;
+}
+
+/// Names for assistive programs, from the captions as they stand.
+void frmAccount::CollegaEtichette() {
+    const auto collega = [this](std::size_t indice, QWidget* controllo, int esempio = -1) {
+        lbl[indice]->setBuddy(controllo);
+        controllo->setAccessibleName(senzaSegni(lbl[indice]->text()));
+        if (esempio >= 0) controllo->setAccessibleDescription(lbl[static_cast<std::size_t>(esempio)]->text());
+    };
+    collega(1, lstAccount);
+    collega(2, txtNomeVisual, 3);
+    collega(4, txtEmail, 5);
+    collega(6, cmbSaluto);
+    collega(7, txtServerSMTP, 8);
+    collega(9, txtServerPORT);
+    collega(10, txtUsername);
+    collega(11, txtPassword);
+    collega(12, txtOutPort);
+    for (QAbstractButton* pulsante : std::initializer_list<QAbstractButton*>{
+             chkUsaSMTP, chkAutentick, chkAvanzate, cmdNuovo, cmdModifica, cmdChiudi})
+        pulsante->setAccessibleName(senzaSegni(pulsante->text()));
+}

@@ -1,0 +1,83 @@
+#include "accounts/frmAccount_elenco.h"
+
+#include <QContextMenuEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+
+ElencoAccount::ElencoAccount(QWidget* parent) : QListWidget(parent) {
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+}
+
+int ElencoAccount::ListIndex() const {
+    const QModelIndexList scelte = selectionModel()->selectedIndexes();
+    return scelte.isEmpty() ? -1 : scelte.first().row();
+}
+
+void ElencoAccount::setListIndex(int posizione) {
+    const QSignalBlocker silenzio(this);
+    clearSelection();
+    setCurrentRow(posizione);
+}
+
+void ElencoAccount::RemoveItem(int posizione) {
+    const QSignalBlocker silenzio(this);
+    delete takeItem(posizione);
+    clearSelection();
+    setCurrentIndex({});
+}
+
+void ElencoAccount::selectionChanged(const QItemSelection& scelte, const QItemSelection& lasciate) {
+    QListWidget::selectionChanged(scelte, lasciate);
+    Q_EMIT Click();
+}
+
+QItemSelectionModel::SelectionFlags ElencoAccount::selectionCommand(const QModelIndex& indice,
+                                                                    const QEvent* evento) const {
+    const auto comando = QListWidget::selectionCommand(indice, evento);
+    return comando & QItemSelectionModel::Select ? comando : QItemSelectionModel::NoUpdate;
+}
+
+void ElencoAccount::mousePressEvent(QMouseEvent* pressione) {
+    if (pressione->button() == Qt::RightButton) {
+        Q_EMIT MenuRichiesto(pressione->globalPosition().toPoint());
+        return;
+    }
+    const int prima = ListIndex();
+    QListWidget::mousePressEvent(pressione);
+    const bool suVoce = itemAt(pressione->position().toPoint()) != nullptr;
+    if (pressione->button() == Qt::LeftButton && suVoce && ListIndex() == prima) Q_EMIT Click();
+}
+
+// The mouse has had its menu at the press.
+void ElencoAccount::contextMenuEvent(QContextMenuEvent* richiesta) {
+    if (richiesta->reason() != QContextMenuEvent::Keyboard) return;
+    const QListWidgetItem* voce = item(ListIndex());
+    const QPoint punto = voce ? visualItemRect(voce).bottomLeft() : QPoint();
+    Q_EMIT MenuRichiesto(viewport()->mapToGlobal(punto));
+}
+
+void ElencoAccount::keyPressEvent(QKeyEvent* tasto) {
+    // Code 2 is the code of a mouse button, which counts as a key here.
+    constexpr int codiceDue = 2;
+    if (tasto->key() == Qt::Key_Delete || tasto->key() == codiceDue)
+        Q_EMIT EliminaPremuto();
+    else
+        QListWidget::keyPressEvent(tasto);
+}
+
+void ElencoAccount::focusInEvent(QFocusEvent* fuoco) {
+    QListWidget::focusInEvent(fuoco);
+    // Qt makes the first entry current, and the first arrow key would step over it.
+    if (ListIndex() < 0) selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+}
+
+void ElencoAccount::paintEvent(QPaintEvent* disegno) {
+    QListWidget::paintEvent(disegno);
+    if (count() > 0) return;
+    QPainter pennello(viewport());
+    pennello.setPen(palette().color(QPalette::PlaceholderText));
+    pennello.drawText(viewport()->rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                      "Nessun account: compilare e premere Nuovo Account");
+}
