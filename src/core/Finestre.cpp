@@ -2,6 +2,8 @@
 
 #include <QPointer>
 
+#include "accounts/frmAccount.h"
+#include "lang/bLANG.h"
 #include "send/frmInvia.h"
 #include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
@@ -33,6 +35,10 @@ frmMain& finestre::Main() {
     return *principale;
 }
 
+frmAccount& finestre::Account() {
+    return dialogo<frmAccount>();
+}
+
 frmInvia& finestre::Invia() {
     return dialogo<frmInvia>();
 }
@@ -61,4 +67,6 @@ void finestre::ScaricaSplash() {
 void finestre::dimentica() {
     delete apertura;
     delete principale;
+    bLANG::numeroLingue = 0;
+    bLANG::linguaScelta = 0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+class frmAccount;
 class frmDestinatario;
 class frmInfoSu;
 class frmInvia;
@@ -13,6 +14,7 @@ namespace finestre {
 /// The first mention creates the window and runs its load. A load that fails leaves the window where it got
 /// to.
 ::frmMain& Main();
+::frmAccount& Account();
 ::frmInvia& Invia();
 ::frmDestinatario& Destinatario();
 ::frmInfoSu& InfoSu();

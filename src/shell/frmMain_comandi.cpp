@@ -4,11 +4,13 @@
 #include <QScopedValueRollback>
 #include <QUrl>
 
+#include "accounts/frmAccount.h"
 #include "core/bFunctions.h"
 #include "core/bGlobal.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "core/Prodotto.h"
+#include "lang/bLANG_applica.h"
 #include "lang/bVAR.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/MessageDialog.h"
@@ -46,7 +48,7 @@ void solo(frmMain&, Accesso&) {
 
 // The first equal name decides. The editor and the imports have no window yet.
 const frmMain::RigaComando frmMain::tabellaComandi[] = {
-    {"cmdFileAccount", [](frmMain&, Accesso&) {}},
+    {"cmdFileAccount", [](frmMain&, Accesso&) { finestre::Account().exec(); }},
     {"cmdEsci", [](frmMain& finestra, Accesso&) { finestra.close(); }},
     {"cmdEditor", [](frmMain&, Accesso&) {}},
     {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
@@ -74,6 +76,7 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdHelpHomePage", [](frmMain&, Accesso&) { ApriShell(prodotto::paginaWeb()); }},
     {"cmdHelpInviaMail", [](frmMain&, Accesso&) { ApriShell(prodotto::collegamentoPosta()); }},
     {"cmdHelpInfoSu", [](frmMain&, Accesso&) { finestre::InfoSu().exec(); }},
+    {"cmdLang", solo<CambiaLingua>},
 };
 
 namespace {

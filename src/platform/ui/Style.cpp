@@ -15,6 +15,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         case SH_EtchDisabledText:
         case SH_DitherDisabledText:
             return 0;
+        case SH_LineEdit_PasswordCharacter:
+            return u'*';
         case SH_ItemView_ShowDecorationSelected:
             // The selection of a tree leaves the branch out.
             return qobject_cast<const QTreeView*>(widget)

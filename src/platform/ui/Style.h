@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Fusion with the few changes that the program's look needs: flat disabled texts, and a visible focus rim in
-/// the palette's highlight colour.
+/// Fusion with the few changes that the program's look needs: flat disabled texts, a visible focus rim in the
+/// palette's highlight colour, and "*" for each character of a password.
 class Style : public QProxyStyle {
     Q_OBJECT
 
