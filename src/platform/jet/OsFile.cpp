@@ -39,8 +39,12 @@ QString shown(const std::string& path) {
                                     .arg(name, QString::fromLocal8Bit(std::strerror(error))));
 }
 
-void proceed(const DiskStep& step, const char* doing) {
-    if (ask(step) != DiskStep::Outcome::Proceed) failIo(doing, step.path, EIO);
+// Whether the step is to be done.
+bool proceed(const DiskStep& step, const char* doing) {
+    const DiskStep::Outcome outcome = ask(step);
+    if (outcome == DiskStep::Outcome::Fail || outcome == DiskStep::Outcome::Half)
+        failIo(doing, step.path, EIO);
+    return outcome == DiskStep::Outcome::Proceed;
 }
 
 FileState toState(const struct stat& s) {
@@ -72,7 +76,7 @@ bool fileState(const std::string& path, FileState& state) {
 }
 
 OsFile::OsFile(const std::string& path, Access access) : m_path(path) {
-    if (access == Access::Create) proceed({DiskStep::Kind::Create, m_path}, "creazione");
+    if (access == Access::Create) (void)proceed({DiskStep::Kind::Create, m_path}, "creazione");
     // O_NONBLOCK: opening a pipe by mistake must not hang.
     const int mode = access == Access::Read ? O_RDONLY : O_RDWR;
     const int creation = access == Access::Create ? O_CREAT | O_EXCL : 0;
@@ -120,19 +124,27 @@ size_t OsFile::read(uint64_t offset, std::span<uint8_t> bytes) const {
 }
 
 void OsFile::write(uint64_t offset, std::span<const uint8_t> bytes) {
-    const DiskStep::Outcome outcome = ask({DiskStep::Kind::Write, m_path, offset, bytes});
-    if (outcome == DiskStep::Outcome::Half) writeAll(m_fd, offset, bytes.first(bytes.size() / 2), m_path);
-    if (outcome != DiskStep::Outcome::Proceed) failIo("scrittura", m_path, EIO);
-    writeAll(m_fd, offset, bytes, m_path);
+    switch (ask({DiskStep::Kind::Write, m_path, offset, bytes})) {
+        case DiskStep::Outcome::Proceed:
+            return writeAll(m_fd, offset, bytes, m_path);
+        case DiskStep::Outcome::Skip:
+            return;
+        case DiskStep::Outcome::Half:
+            writeAll(m_fd, offset, bytes.first(bytes.size() / 2), m_path);
+            break;
+        case DiskStep::Outcome::Fail:
+            break;
+    }
+    failIo("scrittura", m_path, EIO);
 }
 
 void OsFile::truncate(uint64_t size) {
-    proceed({DiskStep::Kind::Truncate, m_path, size}, "accorciamento");
+    if (!proceed({DiskStep::Kind::Truncate, m_path, size}, "accorciamento")) return;
     if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0) failIo("accorciamento", m_path, errno);
 }
 
 void OsFile::sync() {
-    proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione");
+    if (!proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione")) return;
     if (::fdatasync(m_fd) != 0) failIo("sincronizzazione", m_path, errno);
 }
 
@@ -171,12 +183,12 @@ bool OsFile::exists(const std::string& path) {
 }
 
 void OsFile::remove(const std::string& path) {
-    proceed({DiskStep::Kind::Remove, path}, "cancellazione");
+    if (!proceed({DiskStep::Kind::Remove, path}, "cancellazione")) return;
     if (::unlink(path.c_str()) != 0 && errno != ENOENT) failIo("cancellazione", path, errno);
 }
 
 void OsFile::syncFolderOf(const std::string& path) {
-    proceed({DiskStep::Kind::SyncFolder, path}, "sincronizzazione");
+    if (!proceed({DiskStep::Kind::SyncFolder, path}, "sincronizzazione")) return;
     const size_t slash = path.rfind('/');
     const std::string folder = slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
     const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

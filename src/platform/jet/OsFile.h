@@ -11,7 +11,9 @@ namespace jet {
 /// one.
 struct DiskStep {
     enum class Kind { Create, Write, Sync, Truncate, Remove, SyncFolder };
-    enum class Outcome { Proceed, Fail, Half };  ///< Half: half of a write is done, then it fails
+    /// Half: half of a write is done, then it fails. Skip: nothing is done and success is told, as by a disk
+    /// that does not keep its word.
+    enum class Outcome { Proceed, Fail, Half, Skip };
     Kind kind;
     const std::string& path;
     uint64_t offset = 0;                  ///< of a write; the new size of a truncation
