@@ -9,6 +9,7 @@
 #include "core/Finestre.h"
 #include "core/Posizione.h"
 #include "core/Prodotto.h"
+#include "lang/bLANG_applica.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
@@ -52,6 +53,7 @@ void frmMain::Carica() {
     ImpostaColori();
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
+    CaricaLingua();
     CaricaPosizioneForm(*this);
     TitoloPrincipale();
     CaricaGruppi();

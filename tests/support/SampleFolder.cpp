@@ -25,6 +25,12 @@ jet::Value cell(const schema::Colonna& column, const SampleFolder::Columns& colu
     return text.isNull() ? jet::Value() : jet::Value(text.toStdString());
 }
 
+void write(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
 }  // namespace
 
 SampleFolder::SampleFolder() {
@@ -38,8 +44,10 @@ SampleFolder::SampleFolder() {
     esigi(file->commit());
     CambiaPercorsoDBase(database());
     CaricaPercorsoDBase();
-    QFile accounts(cartellaDati() + "Account.imp");
-    if (!accounts.open(QIODevice::WriteOnly)) qFatal("cannot write Account.imp");
+    write(cartellaDati() + "Account.imp", {});
+    write(path("LANG.lng"),
+          "[<LNG1>]Italiano\r\n[<MDLO>]: bVAR\r\n[<NOME>]Lingua[<LNG1>]&Lingua[<LNG2>]\r\n");
+    write(path("LANGz.lng"), "Italiano\r\n");
 }
 
 SampleFolder::~SampleFolder() {

@@ -12,8 +12,8 @@
 namespace testing_support {
 
 /// A program folder in a temporary place, made the program's own by the constructor: an empty database with
-/// the group "Clienti", no account. The destructor lets go of the database and gives the program its former
-/// folder back.
+/// the group "Clienti", no account, a language file that leaves the windows' own texts. The destructor lets
+/// go of the database and gives the program its former folder back.
 class SampleFolder {
   public:
     SampleFolder();

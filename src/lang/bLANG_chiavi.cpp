@@ -1,0 +1,225 @@
+#include "lang/bLANG_chiavi.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QHash>
+#include <QLabel>
+
+#include "accounts/frmAccount.h"
+#include "core/Fallimento.h"
+#include "core/Finestre.h"
+#include "lang/bVAR.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DockPanes.h"
+#include "platform/ui/PropertyList.h"
+#include "send/frmInvia.h"
+#include "shell/frmMain.h"
+#include "store/frmDestinatario.h"
+
+namespace {
+
+struct Variabile {
+    const char* nome;
+    QString* testo;
+};
+
+constexpr Variabile variabili[] = {
+    {"Attenzione", &bVAR::Attenzione},
+    {"Lingua", &bVAR::Lingua},
+    {"ChangeLang01", &bVAR::ChangeLang01},
+    {"ImpossibileContinuare", &bVAR::ImpossibileContinuare},
+    {"accNomeVisual", &bVAR::accNomeVisual},
+    {"accEmailCorretta", &bVAR::accEmailCorretta},
+    {"accServerSMTP", &bVAR::accServerSMTP},
+    {"accPort", &bVAR::accPort},
+    {"accAutenticazione", &bVAR::accAutenticazione},
+    {"goSecondi", &bVAR::goSecondi},
+    {"AddDestinatario", &bVAR::AddDestinatario},
+    {"goApriEmail", &bVAR::goApriEmail},
+    {"goEmailDiOutlook", &bVAR::goEmailDiOutlook},
+    {"AzzeraMailing", &bVAR::AzzeraMailing},
+    {"FileAssistenza", &bVAR::FileAssistenza},
+    {"DestInserisciEmail", &bVAR::DestInserisciEmail},
+    {"xxxCAP", &bVAR::xxxCAP},
+    {"DestAggiungiDestinatario", &bVAR::DestAggiungiDestinatario},
+    {"DestInserireEmailCorretta", &bVAR::DestInserireEmailCorretta},
+    {"MailingSalvata", &bVAR::MailingSalvata},
+    {"MailingSalva", &bVAR::MailingSalva},
+    {"MailingImporta", &bVAR::MailingImporta},
+    {"MailingOpen", &bVAR::MailingOpen},
+    {"xxxRagioneSociale", &bVAR::xxxRagioneSociale},
+    {"xxxNome", &bVAR::xxxNome},
+    {"xxxPIva", &bVAR::xxxPIva},
+    {"xxxIndirizzo", &bVAR::xxxIndirizzo},
+    {"xxxLocalita", &bVAR::xxxLocalita},
+    {"xxxProvincia", &bVAR::xxxProvincia},
+    {"xxxTelefono", &bVAR::xxxTelefono},
+    {"xxxFax", &bVAR::xxxFax},
+    {"xxxCampo1", &bVAR::xxxCampo1},
+    {"xxxCampo2", &bVAR::xxxCampo2},
+    {"xxxCampo3", &bVAR::xxxCampo3},
+    {"xxxCampo4", &bVAR::xxxCampo4},
+    {"xxxCampo5", &bVAR::xxxCampo5},
+    {"xxxCampo6", &bVAR::xxxCampo6},
+    {"xxxCampo7", &bVAR::xxxCampo7},
+    {"xxxCampo8", &bVAR::xxxCampo8},
+    {"xxxCampo9", &bVAR::xxxCampo9},
+    {"varModDestinatario", &bVAR::varModDestinatario},
+    {"varTitlePropBody", &bVAR::varTitlePropBody},
+    {"varAddDestinatario", &bVAR::varAddDestinatario},
+};
+
+/// Commands of the main window: each has a caption and a description.
+constexpr const char* pulsantiMain[] = {
+    "cmdFileAccount",
+    "cmdInvia",
+    "cmdEsci",
+    "cmdMailingApri",
+    "cmdMailingSalva",
+    "cmdMailingImpTXT",
+    "cmdMailingImpOE",
+    "cmdMailingImpMSO",
+    "cmdHelpGuida",
+    "cmdHelpHomePage",
+    "cmdHelpInviaMail",
+    "cmdHelpInfoSu",
+    "cmdMailingImpDB",
+    "cmdPopMailingHead",
+    "cmdPopMailingDel",
+    "cmdPopMailingCopia",
+    "cmdPopMailingRinomina",
+    "cmdPopMailingNew",
+    "cmdPopMailingSelAllDB",
+    "cmdPopMailingSelNotDB",
+    "cmdPopMailingSelAllGRP",
+    "cmdPopMailingSelNotGRP",
+    "cmdPopMailingUserNew",
+    "cmdPopMailingUserMod",
+    "cmdPopMailingUserDel",
+    "cmdPopMailingSvuotaCartella",
+};
+constexpr const char* menuMain[] = {"mnuFile", "mnuMailing", "mnuHelp"};
+
+/// A window, how it is reached, and its controls that have a caption.
+struct Finestra {
+    const char* nome;
+    QWidget& (*istanza)();
+    bool conTitolo;  ///< whether the window's own caption has a key
+    std::initializer_list<const char*> didascalie;
+};
+
+const Finestra finestreTradotte[] = {
+    {"frmAccount",
+     []() -> QWidget& { return finestre::Account(); },
+     true,
+     {"lbl(0)",       "lbl(1)",      "lbl(2)",    "lbl(3)",   "lbl(4)",      "lbl(5)",    "lbl(6)",
+      "lbl(7)",       "lbl(8)",      "lbl(9)",    "lbl(10)",  "lbl(11)",     "lbl(12)",   "chkUsaSMTP",
+      "chkAutentick", "chkAvanzate", "cmdChiudi", "cmdNuovo", "cmdModifica", "mnuElimina"}},
+    {"frmInvia",
+     []() -> QWidget& { return finestre::Invia(); },
+     true,
+     {"lblFile", "lblMittente", "lblPausa", "lblTimeOut", "lblDaInviare", "lblFallite", "lblInviate",
+      "chkLog", "chkBlocco", "lblBlocco1", "lblBlocco2", "cmdChiudi", "cmdFerma", "cmdInvia"}},
+    {"frmDestinatario",
+     []() -> QWidget& { return finestre::Destinatario(); },
+     false,
+     {"cmdAnnulla", "cdmSalva"}},
+};
+
+QString senzaSegni(QString testo) {
+    return testo.remove('&').remove(':');
+}
+
+/// Sets the caption. The name for assistive programs follows, of the control itself or of the one that a
+/// label belongs to, where it was the caption.
+template <class Controllo>
+void impostaDidascalia(Controllo& controllo, QWidget* nominato, const QString& testo) {
+    const bool segue = nominato && nominato->accessibleName() == senzaSegni(controllo.text());
+    controllo.setText(testo);
+    if (segue) nominato->setAccessibleName(senzaSegni(testo));
+}
+
+void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& testo) {
+    if (auto* pulsante = finestra.findChild<QAbstractButton*>(nome))
+        impostaDidascalia(*pulsante, pulsante, testo);
+    else if (auto* etichetta = finestra.findChild<QLabel*>(nome))
+        impostaDidascalia(*etichetta, etichetta->buddy(), testo);
+    else if (auto* voce = finestra.findChild<QAction*>(nome))
+        voce->setText(testo);
+    else
+        fallisci(ErrorCode::ItemNotFound);
+}
+
+using Chiavi = QHash<QString, bLANG::Destinazione>;
+
+void aggiungiVariabili(Chiavi& chiavi) {
+    for (const Variabile& variabile : variabili)
+        chiavi[QStringLiteral("bVAR.%1").arg(variabile.nome)] = [variabile](const QString& testo) {
+            *variabile.testo = testo;
+        };
+}
+
+/// The two keys of a button or menu of the main window.
+void aggiungiComando(Chiavi& chiavi, const QString& genere, const char* nome,
+                     ui::Command* (ui::CommandBars::*trova)(const QString&) const) {
+    const QString inizio = QStringLiteral("frmMain.Dks.Commands.%1(\"%2\").").arg(genere, nome);
+    chiavi[inizio + "Caption"] = [nome, trova](const QString& testo) {
+        (finestre::Main().Commands().*trova)(nome)->setCaption(testo);
+    };
+    chiavi[inizio + "Description"] = [nome, trova](const QString& testo) {
+        (finestre::Main().Commands().*trova)(nome)->setDescription(testo);
+    };
+}
+
+void aggiungiMain(Chiavi& chiavi) {
+    for (const char* nome : pulsantiMain)
+        aggiungiComando(chiavi, "GetToolButton", nome, &ui::CommandBars::GetToolButton);
+    for (const char* nome : menuMain)
+        aggiungiComando(chiavi, "GetPopupMenu", nome, &ui::CommandBars::GetPopupMenu);
+    chiavi[R"(frmMain.Dks.Commands.GetStatic("stcHelp").Text)"] = [](const QString& testo) {
+        finestre::Main().Commands().GetStatic("stcHelp")->setText(testo);
+    };
+    chiavi[R"(frmMain.Dks.DockWindows("dckGruppi").Caption)"] = [](const QString& testo) {
+        finestre::Main().DockWindows().DockWindows("dckGruppi")->setCaption(testo);
+    };
+}
+
+void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra) {
+    for (const char* nome : finestra.didascalie)
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = [istanza = finestra.istanza,
+                                                                            nome](const QString& testo) {
+            impostaDidascalia(istanza(), nome, testo);
+        };
+    if (finestra.conTitolo)
+        chiavi[QStringLiteral("%1.Caption").arg(finestra.nome)] =
+            [istanza = finestra.istanza](const QString& testo) { istanza().setWindowTitle(testo); };
+}
+
+void aggiungiGruppiDestinatario(Chiavi& chiavi) {
+    for (const char* voce : {"Datidestinatario", "altro"})
+        chiavi[QStringLiteral("frmDestinatario.prp.Item(\"%1\").Caption").arg(voce)] =
+            [voce](const QString& testo) { finestre::Destinatario().prp->Item(voce)->setCaption(testo); };
+}
+
+const Chiavi& tutteLeChiavi() {
+    static const Chiavi chiavi = [] {
+        Chiavi nuove;
+        aggiungiVariabili(nuove);
+        aggiungiMain(nuove);
+        for (const Finestra& finestra : finestreTradotte)
+            aggiungiFinestra(nuove, finestra);
+        aggiungiGruppiDestinatario(nuove);
+        return nuove;
+    }();
+    return chiavi;
+}
+
+}  // namespace
+
+bLANG::Destinazione bLANG::DestinazioneDi(const QString& chiave) {
+    return tutteLeChiavi().value(chiave);
+}
+
+QStringList bLANG::ChiaviNote() {
+    return tutteLeChiavi().keys();
+}
