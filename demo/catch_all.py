@@ -78,7 +78,9 @@ class Session:
         self.counter[0] += 1
         envelope = f"X-Envelope-From: {self.sender.group(1)}\r\nX-Envelope-To: {', '.join(self.recipients)}\r\n"
         name = self.folder / f"{self.counter[0]:03d}.eml"
-        name.write_bytes(envelope.encode("utf-8") + b"".join(lines))
+        unfinished = name.with_suffix(".part")
+        unfinished.write_bytes(envelope.encode("utf-8") + b"".join(lines))
+        unfinished.rename(name)  # whoever watches the folder meets whole messages only
         self.sender, self.recipients = None, []
         self.say(f"250 kept as {name.name}")
 
