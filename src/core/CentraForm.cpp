@@ -8,8 +8,13 @@ void CentraForm(QWidget& finestra) {
     if (!finestra.windowFlags().testFlag(Qt::WindowStaysOnTopHint))
         finestra.setWindowFlag(Qt::WindowStaysOnTopHint);
     finestra.setAttribute(Qt::WA_ShowWithoutActivating);
-    const QRect schermo = finestra.screen()->geometry();
-    finestra.move(schermo.x() + (schermo.width() - finestra.width()) / 2,
-                  schermo.y() + (schermo.height() - finestra.height()) / 2);
+    const auto centra = [&finestra] {
+        const QRect schermo = finestra.screen()->geometry();
+        const QSize libero = schermo.size() - finestra.frameGeometry().size();
+        finestra.move(schermo.x() + libero.width() / 2, schermo.y() + libero.height() / 2);
+    };
+    // Only a window that is shown knows how wide its frame is; one without a frame does not jump.
+    centra();
     finestra.show();
+    centra();
 }

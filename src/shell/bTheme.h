@@ -17,7 +17,13 @@ QString RilevaTema(QWidget* finestra);
 /// other name leaves it as it was.
 void ImpostaColoriTema(const QString& nome);
 
-/// Colour 1 over colour 2: quota 0 gives colour 2, 255 gives colour 1. Halves go to the even number.
+/// The colour that a colour value stands for: itself, or for 0x80000000 plus a number the system colour of
+/// that number (those that office programs number from 0, scroll bar, to 30, menu bar). -1, that is
+/// 0xffffffff, for a value that is neither.
+std::uint32_t TraduciColore(std::uint32_t valore);
+
+/// Colour 1 over colour 2, system colours included: quota 0 gives colour 2, 255 gives colour 1. Halves go to
+/// the even number.
 std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int quota);
 
 /// The widget colours that follow from coloriTema.

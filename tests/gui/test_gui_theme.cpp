@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <QFile>
 #include <QTest>
 
 #include "core/bGlobal.h"
@@ -39,31 +41,27 @@ class TestTheme : public QObject {
         QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(212, 208, 200));
     }
 
-    void eachSchemeFillsAllEntries_data() {
-        QTest::addColumn<QString>("scheme");
-        QTest::addColumn<quint32>("first");
-        QTest::addColumn<quint32>("entry9");
-        QTest::addColumn<quint32>("last");
-        QTest::newRow("Classic") << "Classic" << rgb(212, 208, 200) << rgb(245, 244, 242)
-                                 << rgb(128, 128, 128);
-        QTest::newRow("NormalColor") << "NormalColor" << rgb(196, 218, 250) << rgb(221, 236, 254)
-                                     << rgb(144, 153, 174);
-        QTest::newRow("Metallic") << "Metallic" << rgb(243, 243, 247) << rgb(243, 244, 250)
-                                  << rgb(155, 154, 179);
-        QTest::newRow("HomeStead") << "HomeStead" << rgb(242, 241, 228) << rgb(244, 247, 222)
-                                   << rgb(151, 160, 123);
-    }
     void eachSchemeFillsAllEntries() {
-        QFETCH(QString, scheme);
-        QFETCH(quint32, first);
-        QFETCH(quint32, entry9);
-        QFETCH(quint32, last);
-        ImpostaColoriTema(scheme);
-        QCOMPARE(coloriTema[0], first);
-        QCOMPARE(coloriTema[1], rgb(255, 255, 255));
-        QCOMPARE(coloriTema[9], entry9);
-        QCOMPARE(coloriTema[20], 0u);
-        QCOMPARE(coloriTema[24], last);
+        const QStringList names{"Classic", "NormalColor", "Metallic", "HomeStead"};
+        QFile table(TEST_DATA_DIR "/theme/schemes.tsv");
+        QVERIFY(table.open(QIODevice::ReadOnly));
+        int rows = 0;
+        for (; !table.atEnd(); ++rows) {
+            const QStringList cells = QString::fromUtf8(table.readLine()).trimmed().split('\t');
+            QCOMPARE(cells.size(), 5);
+            for (int scheme = 0; scheme < 4; ++scheme) {
+                const QStringList parts = cells[scheme + 1].split(',');
+                ImpostaColoriTema(names[scheme]);
+                QCOMPARE(coloriTema[cells[0].toUInt()],
+                         rgb(parts[0].toInt(), parts[1].toInt(), parts[2].toInt()));
+            }
+        }
+        QCOMPARE(rows, 25);
+    }
+
+    void beforeTheFirstCallEveryEntryIsBlack() {
+        QCOMPARE(std::count(coloriTema.begin(), coloriTema.end(), 0u), 25);
+        QCOMPARE(coloreTema(0), QColor(0, 0, 0));
     }
 
     void unknownSchemeLeavesThePaletteAsItWas() {
@@ -83,6 +81,26 @@ class TestTheme : public QObject {
         const auto two = rgb(200, 100, 0);
         QCOMPARE(MescolaColori(one, two, 0), two);
         QCOMPARE(MescolaColori(one, two, 255), one);
+    }
+
+    void plainColoursStandForThemselvesAndSystemColoursForTheDesktops() {
+        QApplication::setPalette(QPalette(QColor(10, 20, 30), QColor(40, 50, 60)));
+        QCOMPARE(TraduciColore(rgb(1, 2, 3)), rgb(1, 2, 3));
+        const auto of = [](QPalette::ColorRole role) {
+            const QColor color = QApplication::palette().color(role);
+            return rgb(color.red(), color.green(), color.blue());
+        };
+        QCOMPARE(TraduciColore(0x80000005), of(QPalette::Base));
+        QCOMPARE(TraduciColore(0x8000000f), of(QPalette::Button));
+        QCOMPARE(TraduciColore(0x8000000d), of(QPalette::Highlight));
+        QCOMPARE(MescolaColori(0x80000008, 0, 255), of(QPalette::Text));
+    }
+
+    void whatIsNoColourTranslatesToMinusOne() {
+        QCOMPARE(TraduciColore(0x8000001f), 0xffffffffu);
+        QCOMPARE(TraduciColore(0x80010000), 0xffffffffu);
+        QCOMPARE(TraduciColore(0x03000000), 0xffffffffu);
+        QCOMPARE(TraduciColore(0xffffffff), 0xffffffffu);
     }
 
     void mixingTakesTheNearestWholeNumber() {

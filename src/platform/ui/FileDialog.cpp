@@ -1,10 +1,10 @@
 #include "platform/ui/FileDialog.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "platform/ui/DialogOwner.h"
 #include "platform/ui/Unattended.h"
 
 namespace ui {
@@ -33,14 +33,14 @@ std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& a
 bool mayReplace(const QString& path) {
     QMessageBox question(QMessageBox::Warning, QFileDialog::tr("Save As"),
                          QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(path),
-                         QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+                         QMessageBox::Yes | QMessageBox::No, dialogOwner());
     question.setTextFormat(Qt::PlainText);
     question.setDefaultButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }
 
 std::optional<QString> openByUser(const FileDialog::Shown& asked) {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(dialogOwner());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return runDialog(dialog, asked);
@@ -50,7 +50,7 @@ std::optional<QString> saveByUser(const FileDialog::Shown& asked, FileDialog::Ex
     const QString suffix = FileDialog::defaultSuffix(asked.filter);
     QString start;
     for (;;) {
-        QFileDialog dialog(QApplication::activeWindow());
+        QFileDialog dialog(dialogOwner());
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         if (!start.isEmpty()) dialog.selectFile(start);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/ui/DialogOwner.h"
 #include "platform/ui/Unattended.h"
 
 namespace ui {
@@ -41,7 +42,7 @@ int queuedAnswer(const MessageDialog::Shown& box) {
 
 int answerOfUser(const MessageDialog::Shown& box) {
     QMessageBox dialog(box.icon, box.title, QString(box.text).replace("\r\n", "\n"), box.buttons,
-                       QApplication::activeWindow());
+                       dialogOwner());
     dialog.setObjectName("messageDialog");
     dialog.setTextFormat(Qt::PlainText);
     switch (dialog.exec()) {

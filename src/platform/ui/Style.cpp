@@ -45,6 +45,12 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     }
 }
 
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const {
+    const QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
+    return type == CT_ToolButton ? wanted.expandedTo({30, 30}) : wanted;
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
     const bool pointedTool = element == PE_PanelButtonTool && (option->state & State_AutoRaise) &&

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Fusion with the few changes that the program's look needs: flat disabled texts, a visible focus rim in the
-/// palette's highlight colour, and "*" for each character of a password.
+/// Fusion with the few changes that the program's look needs: flat disabled texts, tool buttons that are easy
+/// to hit, a visible focus rim in the palette's highlight colour, and "*" for each character of a password.
 class Style : public QProxyStyle {
     Q_OBJECT
 
@@ -14,6 +14,8 @@ class Style : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };

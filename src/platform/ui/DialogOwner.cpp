@@ -1,0 +1,11 @@
+#include "platform/ui/DialogOwner.h"
+
+#include <QApplication>
+#include <QWidget>
+
+QWidget* ui::dialogOwner() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) return window;
+    return nullptr;
+}
