@@ -1,0 +1,220 @@
+// The tree: how it is built, what a click does, labels and pop-up menus.
+#include <QLineEdit>
+
+#include "store/griglia_stage.h"
+
+using namespace testing_support;
+
+class TestGruppiAlbero : public QObject {
+    Q_OBJECT
+
+    static QLineEdit* editor(StoreStage& stage) { return stage.tree().viewport()->findChild<QLineEdit*>(); }
+    static void typeLabel(StoreStage& stage, const QString& text) {
+        QLineEdit* line = editor(stage);
+        QVERIFY(line);
+        line->setText(text);
+        QTest::keyClick(line, Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+
+  private Q_SLOTS:
+    void emptyTableGivesTheRootAloneExpanded() {
+        StoreStage stage;
+        StoreStage::run("DELETE FROM [tb_gruppi];");
+        QCOMPARE(stage.tree().Count(), 1);
+        const ui::GroupNodeRef root = stage.tree().Node("K0");
+        QCOMPARE(root->Text(), "Database Mailing");
+        QVERIFY(stage.tree().topLevelItem(0)->isExpanded());
+        QVERIFY(!nodoCorrente);
+    }
+
+    void formFillsItsPaneWithTheTree() {
+        StoreStage stage;
+        QCOMPARE(stage.groups().windowTitle(), "Gruppi mailing");
+        QCOMPARE(stage.window().DockWindows().DockWindows("dckGruppi")->content(), &stage.groups());
+        stage.window().resize(900, 700);
+        QTest::qWait(0);
+        QCOMPARE(stage.tree().geometry(), stage.groups().rect());
+        QCOMPARE(stage.tree().objectName(), "TREE");
+    }
+
+    void topLevelComesSortedByName() {
+        StoreStage stage;
+        stage.addGroup(0, "Agenzie");
+        const int z = stage.addGroup(0, "Zeta");
+        stage.addGroup(z, "Sotto");
+        stage.addGroup(0, "bianchi");
+        QCOMPARE(stage.shape(), "Database Mailing(Agenzie, bianchi, Clienti, Zeta)");
+    }
+
+    void keyOfAGroupIsKAndItsNumber() {
+        StoreStage stage;
+        const int id = stage.addGroup(0, "Zeta");
+        QCOMPARE(stage.tree().Node("K" + QString::number(id))->Text(), "Zeta");
+    }
+
+    void clickLoadsOneLevelAndFillsTheGrid() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.addGroup(1, "A");
+        stage.addGroup(b, "Sotto B");
+        stage.addRecipient(1, "Zeta");
+        stage.addRecipient(1, "Alfa");
+        stage.addRecipient(b, "Altro");
+        stage.clickNode("K1");
+        QCOMPARE(stage.shape("K1"), "Clienti(A, B)");
+        QCOMPARE(stage.columnOfGrid(5), QStringList({"Alfa", "Zeta"}));
+        QCOMPARE(nodoCorrente->Key, "K1");
+        QCOMPARE(nodoCorrente->Text, "Clienti");
+        QCOMPARE(stage.tree().DropHighlight()->Key(), "K1");
+    }
+
+    void levelIsNeverLoadedAgain() {
+        StoreStage stage;
+        stage.addGroup(1, "A");
+        stage.clickNode("K1");
+        stage.addGroup(1, "Nuova da altri");
+        stage.clickNode("K1");
+        QCOMPARE(stage.shape("K1"), "Clienti(A)");
+        stage.groups().CaricaGruppiINI();
+        stage.clickNode("K1");
+        QCOMPARE(stage.shape("K1"), "Clienti(A, Nuova da altri)");
+    }
+
+    void clickOnTheRootLoadsNothingTwiceAndShowsRecipientsWithoutAGroup() {
+        StoreStage stage;
+        stage.addRecipient(0, "Senza gruppo");
+        stage.clickNode("K0");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Senza gruppo"));
+    }
+
+    void clickIntoEmptySpaceRepeatsTheClickOnTheSelectedNode() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.addRecipient(1, "Nuovo");
+        mouse::click(&stage.tree(), stage.emptySpace());
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Nuovo"));
+        QCOMPARE(nodoCorrente->Key, "K1");
+    }
+
+    void clickIntoEmptySpaceBeforeAnyOtherDoesNothing() {
+        StoreStage stage;
+        mouse::click(&stage.tree(), stage.emptySpace());
+        QVERIFY(!nodoCorrente);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void clickWithoutDatabaseLeavesSilently() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        stage.folder.hideDatabase();
+        stage.clickNode("K0");
+        stage.folder.showDatabase();
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(ui::MessageDialog::shown().isEmpty());
+        QCOMPARE(nodoCorrente->Key, "K0");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+    }
+
+    void pointerOverTheTreeNamesItInTheStatusBar() {
+        StoreStage stage;
+        mouse::move(&stage.tree(), stage.at("K1"));
+        QCOMPARE(stage.help(), "Mailing List");
+    }
+
+    void rightClickOpensTheMenuOfTheNode_data() {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("menu");
+        QTest::newRow("root") << "K0"
+                              << "popMailingHead";
+        QTest::newRow("group") << "K1"
+                               << "popMailing";
+    }
+    void rightClickOpensTheMenuOfTheNode() {
+        QFETCH(QString, key);
+        QFETCH(QString, menu);
+        StoreStage stage;
+        stage.clickNode(key, Qt::RightButton);
+        QCOMPARE(nodoCorrente->Key, key);
+        QCOMPARE(stage.takePopup(), menu);
+    }
+
+    void rightClickIntoEmptySpaceOpensTheMenuOfTheNodeLastClicked() {
+        StoreStage stage;
+        mouse::click(&stage.tree(), stage.emptySpace(), Qt::RightButton);
+        QCOMPARE(stage.takePopup(), QString());
+        stage.clickNode("K1");
+        mouse::click(&stage.tree(), stage.emptySpace(), Qt::RightButton);
+        QCOMPARE(stage.takePopup(), "popMailing");
+    }
+
+    void leftClickOpensNoMenu() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        QCOMPARE(stage.takePopup(), QString());
+    }
+
+    void labelOfTheRootCannotBeChanged() {
+        StoreStage stage;
+        stage.clickNode("K0");
+        stage.command("cmdPopMailingRinomina");
+        QVERIFY(!editor(stage));
+    }
+
+    void renamedNodeKeepsItsPlace() {
+        StoreStage stage;
+        stage.addGroup(0, "Beta");
+        stage.addGroup(0, "Delta");
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        typeLabel(stage, "Zeta");
+        QCOMPARE(stage.shape(), "Database Mailing(Beta, Zeta, Delta)");
+        QCOMPARE(StoreStage::look("SELECT nome FROM [tb_gruppi] WHERE id = 1;"), "Zeta");
+        QCOMPARE(nodoCorrente->Text, "Zeta");
+    }
+
+    void nameWithAnApostropheIsStoredAsTyped() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        typeLabel(stage, "L'Aquila \"e\" ''dintorni''");
+        QCOMPARE(StoreStage::look("SELECT nome FROM [tb_gruppi] WHERE id = 1;"),
+                 "L'Aquila \"e\" ''dintorni''");
+    }
+
+    void emptyNameWritesNothing() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        typeLabel(stage, "");
+        QCOMPARE(StoreStage::look("SELECT nome FROM [tb_gruppi] WHERE id = 1;"), "Clienti");
+        QCOMPARE(stage.tree().Node("K1")->Text(), "Clienti");
+    }
+
+    void nameThatTheColumnCannotHoldEndsTheProgram() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
+        typeLabel(stage, QString(300, 'x'));
+        QVERIFY(stage.failure().startsWith("Errore 3163:"));
+        QCOMPARE(stage.ends, QList<int>{1});
+        QCOMPARE(StoreStage::look("SELECT nome FROM [tb_gruppi] WHERE id = 1;"), "Clienti");
+        QCOMPARE(stage.tree().Node("K1")->Text(), "Clienti");
+    }
+
+    void renameOfAGroupThatWentAwayEndsTheProgram() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        StoreStage::run("DELETE FROM [tb_gruppi] WHERE id = 1;");
+        stage.command("cmdPopMailingRinomina");
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
+        typeLabel(stage, "Altro");
+        QVERIFY(stage.failure().startsWith("Errore 3021:"));
+    }
+};
+
+QTEST_MAIN(TestGruppiAlbero)
+#include "gruppi_albero_test.moc"

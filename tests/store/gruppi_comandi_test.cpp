@@ -1,0 +1,277 @@
+// The group commands of the pop-up menus.
+#include <QLineEdit>
+
+#include "store/griglia_stage.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+class TestGruppiComandi : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void newGroupStandsLastUntilTheNextRebuild() {
+        StoreStage stage;
+        stage.addGroup(1, "Zeta");
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingNew");
+        QCOMPARE(stage.shape("K1"), "Clienti(Zeta, Nuovo gruppo)");
+        const QString id = StoreStage::look("SELECT id FROM [tb_gruppi] WHERE nome = 'Nuovo gruppo';");
+        QCOMPARE(stage.tree().Node('K' + id)->Text(), "Nuovo gruppo");
+        QCOMPARE(StoreStage::look("SELECT id_up FROM [tb_gruppi] WHERE id = " + id + " ;"), "1");
+        QCOMPARE(stage.tree().SelectedItem()->Key(), "K1");
+        QVERIFY(!stage.tree().viewport()->findChild<QLineEdit*>());
+        stage.groups().CaricaGruppiINI();
+        stage.clickNode("K1");
+        QCOMPARE(stage.shape("K1"), "Clienti(Nuovo gruppo, Zeta)");
+    }
+
+    void newGroupInTheRootHasTheParentZero() {
+        StoreStage stage;
+        stage.clickNode("K0");
+        stage.command("cmdPopMailingNew");
+        stage.command("cmdPopMailingNew");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, Nuovo gruppo, Nuovo gruppo)");
+        QCOMPARE(StoreStage::count("tb_gruppi", "nome = 'Nuovo gruppo' AND id_up = 0"), 2);
+    }
+
+    void copyTakesMembersWithAllTheirDataButNoSubgroups() {
+        StoreStage stage;
+        stage.addGroup(1, "Sotto");
+        stage.folder.addRecipients({{{"rgs", "L'Aquila s.r.l."},
+                                     {"nom", "Anna"},
+                                     {"piva", "123"},
+                                     {"ind", "Via Roma"},
+                                     {"cap", "67100"},
+                                     {"loc", "L'Aquila"},
+                                     {"prov", "AQ"},
+                                     {"tel", "1"},
+                                     {"fax", "2"},
+                                     {"email", "a@x.it"},
+                                     {"campo1", "uno"},
+                                     {"campo9", "nove"},
+                                     {"sel", "0"}},
+                                    {{"rgs", "Beta"}, {"sel", "1"}}});
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingCopia");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(Sotto), Clienti_Copia)");
+        const QString id = StoreStage::look("SELECT id FROM [tb_gruppi] WHERE nome = 'Clienti_Copia';");
+        QCOMPARE(StoreStage::look("SELECT id_up FROM [tb_gruppi] WHERE id = " + id + " ;"), "0");
+        const QStringList columns{"rgs", "nom", "piva",  "ind",    "cap",    "loc",    "prov",
+                                  "tel", "fax", "email", "campo1", "campo5", "campo9", "sel"};
+        for (const QString& name : columns) {
+            const QString rows = "SELECT * FROM [tb_destinatari] WHERE id_grp = %1 ORDER BY rgs ASC;";
+            QCOMPARE(StoreStage::column(rows.arg(id), name), StoreStage::column(rows.arg(1), name));
+        }
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = " + id), 2);
+        QCOMPARE(StoreStage::count("tb_gruppi", "id_up = " + id), 0);
+    }
+
+    void secondCopyHasTheNameOfTheFirst() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingCopia");
+        stage.command("cmdPopMailingCopia");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, Clienti_Copia, Clienti_Copia)");
+    }
+
+    void copyOfARenamedGroupHasItsNewName() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        auto* label = stage.tree().viewport()->findChild<QLineEdit*>();
+        QVERIFY(label);
+        label->setText("D'Este");
+        QTest::keyClick(label, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        stage.command("cmdPopMailingCopia");
+        QCOMPARE(stage.shape(), "Database Mailing(D'Este, D'Este_Copia)");
+    }
+
+    void copyOfASubgroupStandsBesideIt() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.clickNode("K1");
+        stage.clickNode("K" + QString::number(b));
+        stage.command("cmdPopMailingCopia");
+        QCOMPARE(stage.shape("K1"), "Clienti(B, B_Copia)");
+        QCOMPARE(StoreStage::look("SELECT id_up FROM [tb_gruppi] WHERE nome = 'B_Copia';"), "1");
+    }
+
+    void groupWithSubgroupsIsNotDeleted() {
+        StoreStage stage;
+        stage.addGroup(1, "Sotto");
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.command("cmdPopMailingDel");
+        QVERIFY(
+            stage.oneBox("Impossibile eliminare questo gruppo.\r\n"
+                         "Eliminare tutti i sottogruppi prima di continuare.",
+                         64));
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        QVERIFY(stage.tree().Node("K1"));
+    }
+
+    void deleteAsksAndKeepsTheGroupOnNo() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::No);
+        stage.command("cmdPopMailingDel");
+        QVERIFY(
+            stage.oneBox("Sicuro di voler eliminare questo gruppo?\r\n"
+                         "Tutti i destinatari appartenenti a questo gruppo saranno cancellati.",
+                         36));
+        QCOMPARE(StoreStage::count("tb_gruppi", "id = 1"), 1);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+    }
+
+    void deleteTakesTheMembersAlongAndLeavesTheGridAsItIs() {
+        StoreStage stage;
+        const int other = stage.addGroup(0, "Altro");
+        stage.addRecipient(1, "Alfa");
+        stage.addRecipient(other, "Beta");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingDel");
+        QCOMPARE(StoreStage::count("tb_gruppi", "id = 1"), 0);
+        QCOMPARE(StoreStage::column("SELECT * FROM [tb_destinatari];", "rgs"), QStringList("Beta"));
+        QCOMPARE(stage.shape(), "Database Mailing(Altro)");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void currentNodeStillNamesTheDeletedGroupUntilTheNextClick() {
+        StoreStage stage;
+        const int other = stage.addGroup(0, "Altro");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingDel");
+        QCOMPARE(nodoCorrente->Key, "K1");
+        QCOMPARE(nodoCorrente->Text, "Clienti");
+        stage.clickNode("K" + QString::number(other));
+        QCOMPARE(nodoCorrente->Text, "Altro");
+    }
+
+    void keysDoNothingWhileTheCurrentGroupIsADeletedOne() {
+        StoreStage stage;
+        stage.addGroup(0, "Altro");
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        MessageDialog::queue(MessageDialog::Yes);
+        QTest::keyClick(&stage.tree(), Qt::Key_Delete);
+        QTest::keyClick(&stage.tree(), Qt::Key_Delete);
+        QTest::keyClick(&stage.tree(), Qt::Key_F2);
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QCOMPARE(stage.shape(), "Database Mailing(Altro)");
+        QVERIFY(!stage.window().Commands().GetToolButton("cmdPopMailingNew")->isEnabled());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupBecomesOneOfTheTopLevel() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        const QString key = "K" + QString::number(b);
+        stage.addGroup(b, "Sotto");
+        stage.clickNode("K1");
+        stage.clickNode(key);
+        stage.command("cmdPopMailingHead");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, B(Sotto))");
+        QCOMPARE(StoreStage::look("SELECT id_up FROM [tb_gruppi] WHERE nome = 'B';"), "0");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void rootAsTopLevelGroupChangesNothing() {
+        StoreStage stage;
+        stage.clickNode("K0");
+        stage.command("cmdPopMailingHead");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void emptyingAsksThenDeletesTheMembersOnly() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.addRecipient(1, "Alfa");
+        stage.addRecipient(b, "Beta");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::No);
+        stage.command("cmdPopMailingSvuotaCartella");
+        QVERIFY(
+            stage.oneBox("Sicuro di voler svuotare questa cartella?\r\n"
+                         "Tutti i destinatari verranno cancellati.\r\n"
+                         "Operazione irreversibile.",
+                         68));
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingSvuotaCartella");
+        QCOMPARE(StoreStage::column("SELECT * FROM [tb_destinatari];", "rgs"), QStringList("Beta"));
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(B))");
+        QCOMPARE(stage.grd().Rows(), 1);
+    }
+
+    void selectionOfAGroupLeavesItsSubgroupsAlone() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.addRecipient(1, "Alfa", "a@x.it", false);
+        stage.addRecipient(b, "Beta", "b@x.it", false);
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingSelAllGRP");
+        QCOMPARE(SampleFolder::selected(), QStringList("a@x.it"));
+        QCOMPARE(stage.columnOfGrid(2), QStringList("Vero"));
+        stage.command("cmdPopMailingSelNotGRP");
+        QCOMPARE(SampleFolder::selected(), QStringList());
+        QCOMPARE(stage.columnOfGrid(2), QStringList("Falso"));
+    }
+
+    void selectionOfTheDatabaseReachesGroupsThatAreNotShown() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa", "a@x.it", false);
+        stage.addRecipient(b, "Beta", "b@x.it", false);
+        stage.clickNode("K1");
+        stage.clickNode("K0");
+        stage.command("cmdPopMailingSelAllDB");
+        QCOMPARE(SampleFolder::selected(), QStringList({"a@x.it", "b@x.it"}));
+        stage.command("cmdPopMailingSelNotDB");
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void selectionRedrawsTheGroupOnTheScreen() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa", "a@x.it", false);
+        stage.addRecipient(b, "Beta", "b@x.it", false);
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingSelAllDB");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        QCOMPARE(stage.columnOfGrid(2), QStringList("Vero"));
+    }
+
+    void commandWithoutDatabaseEndsTheProgram() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        stage.folder.hideDatabase();
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.command("cmdPopMailingSelAllDB");
+        stage.folder.showDatabase();
+        QVERIFY(!stage.failure().isEmpty());
+        QCOMPARE(stage.ends, QList<int>{1});
+    }
+
+    void keysOfTheTreeDoWhatItsMenuOffers() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa", "a@x.it", false);
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(SampleFolder::selected(), QStringList("a@x.it"));
+        QTest::keyClick(&stage.tree(), Qt::Key_D, Qt::ControlModifier);
+        QTest::keyClick(&stage.tree(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(Nuovo gruppo), Clienti_Copia)");
+    }
+};
+
+QTEST_MAIN(TestGruppiComandi)
+#include "gruppi_comandi_test.moc"

@@ -1,0 +1,195 @@
+// Drag and drop: recipients and groups onto the tree.
+#include "store/griglia_stage.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+class TestGruppiTrascina : public QObject {
+    Q_OBJECT
+
+    static QString parentOf(const QString& name) {
+        return StoreStage::look("SELECT id_up FROM [tb_gruppi] WHERE nome = '" + name + "';");
+    }
+
+  private Q_SLOTS:
+    void recipientGoesToTheGroupItWasDroppedOn() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa");
+        const int beta = stage.addRecipient(1, "Beta");
+        stage.clickNode("K1");
+        stage.clickCell(2, 5);
+        stage.dropRow(stage.at("K" + QString::number(b)));
+        QCOMPARE(StoreStage::count("tb_destinatari", QString("id_grp = %1 AND id = %2").arg(b).arg(beta)), 1);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Beta"));
+        QCOMPARE(nodoCorrente->Text, "B");
+        QCOMPARE(stage.tree().SelectedItem()->Key(), "K1");
+    }
+
+    void dropOfARecipientLoadsTheLevelOfTheSelectedNode() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        stage.addGroup(1, "Sotto");
+        stage.addGroup(b, "Sotto B");
+        stage.dropRow(stage.at("K" + QString::number(b)));
+        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti(Sotto))");
+    }
+
+    void recipientDroppedOnTheRootBelongsToNoGroup() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        stage.dropRow(stage.at("K0"));
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 0"), 1);
+        stage.clickNode("K1");
+        QCOMPARE(stage.grd().Rows(), 1);
+        stage.clickNode("K0");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+    }
+
+    void recipientDroppedOnEmptySpaceEndsTheProgram() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.dropRow(stage.emptySpace());
+        QVERIFY(!stage.failure().isEmpty());
+        QCOMPARE(MessageDialog::shown()[0].style, 16);
+        QCOMPARE(stage.ends, QList<int>{1});
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+    }
+
+    void recipientDroppedWithoutDatabaseEndsTheProgram() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        const QPoint root = stage.at("K0");
+        stage.folder.hideDatabase();
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.dropRow(root);
+        stage.folder.showDatabase();
+        QCOMPARE(stage.ends, QList<int>{1});
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+    }
+
+    void dragOfARowMarksTheNodeUnderThePointer() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        const std::unique_ptr<QMimeData> row(ui::dragContent(ui::Dragged::Row));
+        mouse::dragOver(&stage.tree(), stage.at("K0"), row.get());
+        QCOMPARE(stage.tree().DropHighlight()->Key(), "K0");
+        mouse::dragOver(&stage.tree(), stage.emptySpace(), row.get());
+        QVERIFY(!stage.tree().DropHighlight());
+    }
+
+    void movingTheGridsPointerWithTheButtonDownDragsItsRow() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        QCOMPARE(mouse::startDrag(&stage.grd(), stage.cell(1, 5)), 1);
+    }
+
+    void groupGoesIntoTheOneItWasDroppedOn() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addGroup(b, "Sotto B");
+        stage.clickNode("K1");
+        stage.dropNode(stage.at("K" + QString::number(b)));
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B, Clienti))");
+        QCOMPARE(parentOf("Clienti"), QString::number(b));
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupThatMovesIsTheOneLastClicked() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        const int c = stage.addGroup(0, "C");
+        stage.clickNode("K" + QString::number(c));
+        mouse::startDrag(&stage.tree(), stage.at("K" + QString::number(b)));
+        mouse::release(&stage.tree(), stage.at("K" + QString::number(b)));
+        stage.dropNode(stage.at("K1"));
+        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti(C))");
+        QCOMPARE(parentOf("C"), "1");
+        QCOMPARE(parentOf("B"), "0");
+    }
+
+    void groupDroppedOnTheRootComesToTheTopLevel() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.clickNode("K1");
+        stage.clickNode("K" + QString::number(b));
+        stage.dropNode(stage.at("K0"));
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, B)");
+        QCOMPARE(parentOf("B"), "0");
+    }
+
+    void groupDroppedOnItselfChangesNothing() {
+        StoreStage stage;
+        stage.addGroup(0, "B");
+        stage.clickNode("K1");
+        stage.dropNode(stage.at("K1"));
+        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti)");
+        QCOMPARE(parentOf("Clienti"), "0");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupDroppedOnItsOwnDescendantChangesNothingSilently() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        const int c = stage.addGroup(b, "C");
+        stage.clickNode("K1");
+        stage.clickNode("K" + QString::number(b));
+        stage.clickNode("K1");
+        for (const int below : {b, c})
+            stage.dropNode(stage.at("K" + QString::number(below)));
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(B(C)))");
+        QCOMPARE(parentOf("Clienti"), "0");
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(MessageDialog::shown().isEmpty());
+    }
+
+    void draggedRootChangesNothingSilently() {
+        StoreStage stage;
+        stage.clickNode("K0");
+        stage.dropNode(stage.at("K1"));
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupDroppedOnEmptySpaceChangesNothing() {
+        StoreStage stage;
+        const int b = stage.addGroup(1, "B");
+        stage.clickNode("K1");
+        stage.clickNode("K" + QString::number(b));
+        stage.dropNode(stage.emptySpace());
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(B))");
+        QCOMPARE(parentOf("B"), "1");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupDroppedBeforeAnyClickOnlyLoadsTheLevel() {
+        StoreStage stage;
+        stage.addGroup(1, "B");
+        stage.dropNode(stage.at("K1"));
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti(B))");
+    }
+
+    void groupDroppedWithoutDatabaseLeavesSilently() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.clickNode("K1");
+        const QPoint target = stage.at("K" + QString::number(b));
+        stage.folder.hideDatabase();
+        stage.dropNode(target);
+        stage.folder.showDatabase();
+        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti)");
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(MessageDialog::shown().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestGruppiTrascina)
+#include "gruppi_trascina_test.moc"
