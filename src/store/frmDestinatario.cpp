@@ -34,6 +34,7 @@ frmDestinatario::frmDestinatario(QWidget* parent)
     txtIDgroup->setObjectName("txtIDgroup");
     lbl->setObjectName("lbl");
     prp->setObjectName("prp");
+    prp->focusProxy()->setAccessibleName("Dati del destinatario");
     cdmSalva->setObjectName("cdmSalva");
     cmdAnnulla->setObjectName("cmdAnnulla");
     txtIDuser->hide();
