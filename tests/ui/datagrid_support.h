@@ -75,7 +75,9 @@ class DragCounter : public QObject {
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        drags += event->type() == QEvent::ChildAdded;
+        // The style's animations are children as well.
+        drags += event->type() == QEvent::ChildAdded &&
+                 !static_cast<QChildEvent*>(event)->child()->inherits("QAbstractAnimation");
         return false;
     }
 };
