@@ -12,6 +12,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/ProgressCounter.h"
+#include "send/bMXQuery.h"
 #include "send/frmInvia.h"
 #include "send/Personalizza.h"
 #include "send/Porta.h"
@@ -105,7 +106,8 @@ void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
     SMTP->OpportunisticTls = diretta;
     if (diretta) {
         // Without a mail exchanger there is no host, and the delivery fails.
-        SMTP->ServerName.clear();
+        prosegui([&] { MXQuery(DominioDi(SMTP->ToAddress)); });
+        SMTP->ServerName = bestMX;
         SMTP->ServerPort = 25;
     } else {
         SMTP->ServerName = mittente.txtServerSMTP;

@@ -1,9 +1,14 @@
 // The walk over the selection: order, outcomes, personalisation, the route of each recipient, failures in
 // mid-run.
+#include <future>
 #include <QFile>
+#include <QScopedValueRollback>
+#include <QUdpSocket>
+#include <thread>
 
 #include "accounts/bBinary.h"
 #include "core/bImpostazioni.h"
+#include "send/bMXQuery.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;
@@ -16,6 +21,53 @@ void writeAccount(const QString& line) {
     if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write Account.imp");
     file.write(TestoInBit(line).toLatin1() + "\r\n");
 }
+
+/// The program's name server while it lives: answers one query, on a thread of its own since a look-up holds
+/// the program's, with one exchanger of that name or with none.
+class NameServer {
+  public:
+    explicit NameServer(const QByteArray& exchanger)
+        : m_servers(dnsServers, {"127.0.0.1"}), m_count(dnsCount, 1), m_port(reteDNS.porta) {
+        std::promise<quint16> port;
+        std::future<quint16> bound = port.get_future();
+        m_thread = std::thread([this, exchanger, &port] { serve(exchanger, port); });
+        reteDNS.porta = bound.get();
+    }
+    ~NameServer() { stop(); }
+
+    /// The query that came; empty if none did.
+    QByteArray stop() {
+        if (m_thread.joinable()) m_thread.join();
+        return m_query;
+    }
+
+  private:
+    void serve(const QByteArray& exchanger, std::promise<quint16>& port) {
+        QUdpSocket socket;
+        if (!socket.bind(QHostAddress::LocalHost, 0)) qFatal("no port for the name server");
+        port.set_value(socket.localPort());
+        if (!socket.waitForReadyRead(10000)) return;
+        m_query.resize(static_cast<qsizetype>(socket.pendingDatagramSize()));
+        QHostAddress from;
+        quint16 fromPort = 0;
+        socket.readDatagram(m_query.data(), m_query.size(), &from, &fromPort);
+        QByteArray reply = m_query.chopped(1);
+        if (!exchanger.isEmpty()) {
+            reply[2] = '\x81';
+            reply[7] = 1;  // one answer: MX, preference 10, a name of one label
+            const auto length = static_cast<char>(exchanger.size());
+            reply += QByteArray::fromHex("c00c000f000100000e1000") + static_cast<char>(length + 4) +
+                     QByteArray::fromHex("000a") + length + exchanger + '\0';
+        }
+        socket.writeDatagram(reply, from, fromPort);
+    }
+
+    QScopedValueRollback<QStringList> m_servers;
+    QScopedValueRollback<int> m_count;
+    QScopedValueRollback<std::uint16_t> m_port;
+    std::thread m_thread;
+    QByteArray m_query;
+};
 
 }  // namespace
 
@@ -251,18 +303,46 @@ class TestFrmInviaGiro : public QObject {
 
     void directRouteIgnoresServerPortUserAndPasswordButNotGreetingAndOutgoingPort() {
         SendStage stage({"nessuno"});
+        const NameServer names("");
         writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|1|utente|segreta|EHLO|4243|0").arg(stage.sink.port()));
         stage.window->CaricaDati();
         QVERIFY(stage.run());
         QVERIFY(stage.sink.attempts().isEmpty());
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(stage.smtp().ServerName, "");
         QCOMPARE(int(stage.smtp().ServerPort), 25);
         QVERIFY(!stage.smtp().UseAuth);
         QCOMPARE(stage.smtp().UserName, "");
         QCOMPARE(stage.smtp().UserPassword, "");
         QCOMPARE(stage.smtp().HeloMode, 0);
         QCOMPARE(int(stage.smtp().OutPort), 4243);
+        QVERIFY(stage.smtp().OpportunisticTls);
         QCOMPARE(SampleFolder::selected(), QStringList{"nessuno"});
+    }
+
+    // An address without "@" is a domain as a whole.
+    void directRouteAsksForTheWholeTextOfAnAddressWithoutAtSign() {
+        SendStage stage({"nessuno"});
+        NameServer names("");
+        writeAccount("0|Z|z@x.it||25|0|||EHLO|0|0");
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QVERIFY(names.stop().contains(QByteArray("\x07nessuno")));
+    }
+
+    void directRouteLeadsToTheMailExchangerOfTheRecipientsDomain() {
+        SendStage stage({"anna@dominio.example"});
+        NameServer names("0.0.0.1");  // an address that cannot be reached
+        writeAccount("0|Z|z@x.it|127.0.0.1|1|0|||EHLO|0|0");
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().ServerName, "0.0.0.1");
+        QVERIFY(
+            names.stop().contains(QByteArray("\x07"
+                                             "dominio\x07"
+                                             "example")));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"anna@dominio.example"});
     }
 };
 
