@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -60,7 +61,8 @@ void frmAccount::showEvent(QShowEvent* mostra) {
     QDialog::showEvent(mostra);
     // The captions may have changed since the last opening.
     CollegaEtichette();
-    resize(size().expandedTo(sizeHint()));
+    const int larghezza = qMax(width(), sizeHint().width());
+    resize(larghezza, qMax(height(), layout()->totalHeightForWidth(larghezza)));
     if (lstAccount->count() > 0)
         lstAccount->setFocus();
     else

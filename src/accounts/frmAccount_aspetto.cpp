@@ -26,6 +26,7 @@ void coloraSfondo(QWidget* controllo, int indice) {
     QPalette tavolozza = controllo->palette();
     tavolozza.setColor(QPalette::Window, coloreTema(indice));
     controllo->setPalette(tavolozza);
+    controllo->setBackgroundRole(QPalette::Window);
     controllo->setAutoFillBackground(true);
 }
 

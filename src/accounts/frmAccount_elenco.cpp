@@ -1,13 +1,38 @@
 #include "accounts/frmAccount_elenco.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+namespace {
+
+/// Rows of one height, no wider than the list: what is cut can be read in the tool tip.
+class Righe : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& aspetto, const QModelIndex& indice) const override {
+        return {0, qMax(24, QStyledItemDelegate::sizeHint(aspetto, indice).height())};
+    }
+    bool helpEvent(QHelpEvent* richiesta, QAbstractItemView* elenco, const QStyleOptionViewItem&,
+                   const QModelIndex& indice) override {
+        // Escaped: an account's name is never taken for markup.
+        const QString testo = indice.data().toString().toHtmlEscaped();
+        QToolTip::showText(richiesta->globalPos(), "<span>" + testo + "</span>", elenco->viewport());
+        return true;
+    }
+};
+
+}  // namespace
 
 ElencoAccount::ElencoAccount(QWidget* parent) : QListWidget(parent) {
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
+    setItemDelegate(new Righe(this));
 }
 
 int ElencoAccount::ListIndex() const {
@@ -35,6 +60,7 @@ void ElencoAccount::selectionChanged(const QItemSelection& scelte, const QItemSe
 
 QItemSelectionModel::SelectionFlags ElencoAccount::selectionCommand(const QModelIndex& indice,
                                                                     const QEvent* evento) const {
+    if (!indice.isValid()) return QItemSelectionModel::NoUpdate;
     const auto comando = QListWidget::selectionCommand(indice, evento);
     return comando & QItemSelectionModel::Select ? comando : QItemSelectionModel::NoUpdate;
 }

@@ -1,0 +1,296 @@
+// What the account window shows before anybody touches it: texts, limits, states, colours, order and room.
+#include <QAccessible>
+#include <QDir>
+
+#include "accounts/frmaccount_stage.h"
+#include "core/bGlobal.h"
+#include "shell/bTheme.h"
+
+using namespace testing_support;
+
+namespace {
+
+const QStringList accounts{
+    "0|Klukla|info@klukla.example.it|mail.klukla.example.it|25|1|klukla|segreto|EHLO|0|1",
+    "1|Ufficio commerciale|commerciale@klukla.example.it||25|0|||HELO|2500|0",
+    "2|Newsletter|news@klukla.example.it|smtp.klukla.example.it|587|1|news|parola|EHLO|0|1"};
+
+void keepPicture(QWidget& window, const QString& name) {
+    const QString folder = qEnvironmentVariable("VESTROLA_SHOTS");
+    if (folder.isEmpty()) return;
+    if (!QDir().mkpath(folder) || !window.grab().save(folder + '/' + name + ".png")) qFatal("no picture");
+}
+
+/// A text a third longer, with its mnemonic and its colon in place.
+QString longer(const QString& text) {
+    const qsizetype end = text.contains(':') ? text.indexOf(':') : text.size();
+    return QString(text).insert(end, QString(text).remove('&').left(text.size() / 3 + 1));
+}
+
+}  // namespace
+
+class TestFrmAccountAspetto : public QObject {
+    Q_OBJECT
+
+    void verifyNothingIsCut(const QWidget& window) {
+        for (const auto* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->objectName().isEmpty()) continue;
+            if (widget->window() != &window || widget->objectName().startsWith("qt_")) continue;
+            const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+            QVERIFY2(window.rect().contains(place), qPrintable(widget->objectName()));
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            if (label && label->wordWrap()) {
+                QVERIFY2(label->height() >= label->heightForWidth(label->width()), "help text");
+            } else if (label || qobject_cast<const QAbstractButton*>(widget) ||
+                       qobject_cast<const QComboBox*>(widget)) {
+                QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(widget->objectName()));
+                QVERIFY2(widget->height() >= widget->sizeHint().height(), qPrintable(widget->objectName() + QString(" %1 %2").arg(widget->height()).arg(widget->sizeHint().height())));
+            }
+        }
+    }
+
+  private Q_SLOTS:
+    void textsOfTheDesign() {
+        const AccountStage stage;
+        QCOMPARE(stage.window->windowTitle(), " Impostazioni Account");
+        const char* const labels[] = {
+            "Quando si invia un messaggio di posta elettronica, il nome del mittente viene visualizzato nel "
+            "campo Da del messaggio in uscita. Digitare il nome come si desidera venga visualizzato in tale "
+            "campo e l'email da utilizzare per spedire i messaggi",
+            "Account presenti:",
+            "Nome visualizzato:",
+            "Ad esempio: Klukla",
+            "Email:",
+            "Ad esempio: nome@dominio.it",
+            "Saluto:",
+            "Server SMTP:",
+            "Ad esempio: mail.serversmtp.com",
+            "PORTA",
+            "Username:",
+            "Password:",
+            "Porta di uscita:"};
+        for (size_t i = 0; i < std::size(labels); ++i)
+            QCOMPARE(stage.control<QLabel>(QString("lbl(%1)").arg(i))->text(), labels[i]);
+        const auto text = [&](const char* name) { return stage.control<QAbstractButton>(name)->text(); };
+        QCOMPARE(text("chkUsaSMTP"), "Utilizza un server SMTP per l'invio dei messaggi.");
+        QCOMPARE(text("chkAutentick"), "Autenticazione del Server necessaria.");
+        QCOMPARE(text("chkAvanzate"), "Avanzate");
+        QCOMPARE(text("cmdNuovo"), "&Nuovo Account");
+        QCOMPARE(text("cmdModifica"), "&Modifica Account");
+        QCOMPARE(text("cmdChiudi"), "&Chiudi");
+        QCOMPARE(stage.control<QMenu>("mnuElenco")->title(), "Elenco");
+        QCOMPARE(stage.control<QAction>("mnuElimina")->text(), "&Elimina Account");
+        QCOMPARE(stage.control<QMenu>("mnuElenco")->actions().size(), 1);
+    }
+
+    void valuesOfTheDesign() {
+        const AccountStage stage;
+        for (const char* name : {"txtNomeVisual", "txtEmail", "txtServerSMTP", "txtUsername", "txtPassword"})
+            QCOMPARE(stage.text(name), "");
+        QCOMPARE(stage.text("txtServerPORT"), "25");
+        QCOMPARE(stage.text("txtOutPort"), "0");
+        QVERIFY(stage.checked("chkUsaSMTP"));
+        QVERIFY(!stage.checked("chkAutentick"));
+        QVERIFY(!stage.checked("chkAvanzate"));
+        const auto* greeting = stage.control<QComboBox>("cmbSaluto");
+        QCOMPARE(greeting->count(), 2);
+        QCOMPARE(greeting->itemText(0), "EHLO");
+        QCOMPARE(greeting->itemText(1), "HELO");
+        QCOMPARE(greeting->currentIndex(), 0);
+        QVERIFY(!greeting->isEditable());
+        QCOMPARE(stage.list().ListIndex(), -1);
+    }
+
+    void limitsOfTheBoxes() {
+        const AccountStage stage;
+        const QHash<const char*, int> limits{
+            {"txtNomeVisual", 50}, {"txtEmail", 255},    {"txtServerSMTP", 255}, {"txtServerPORT", 5},
+            {"txtUsername", 255},  {"txtPassword", 255}, {"txtOutPort", 5}};
+        for (auto it = limits.begin(); it != limits.end(); ++it)
+            QCOMPARE(stage.control<QLineEdit>(it.key())->maxLength(), it.value());
+        for (const char* name : {"txtServerPORT", "txtOutPort"})
+            QCOMPARE(stage.control<QLineEdit>(name)->alignment() & Qt::AlignHorizontal_Mask,
+                     Qt::AlignHCenter);
+    }
+
+    void stateOfAFreshWindow() {
+        const AccountStage stage(accounts);
+        for (const char* name : {"cmdModifica", "cmbSaluto", "txtOutPort", "lbl(6)", "lbl(12)", "lbl(10)",
+                                 "lbl(11)", "txtUsername", "txtPassword"})
+            QVERIFY2(!stage.enabled(name), name);
+        for (const char* name :
+             {"lstAccount", "txtNomeVisual", "txtEmail", "chkUsaSMTP", "txtServerSMTP", "txtServerPORT",
+              "lbl(7)", "chkAutentick", "chkAvanzate", "cmdNuovo", "cmdChiudi"})
+            QVERIFY2(stage.enabled(name), name);
+        QCOMPARE(stage.list().ListIndex(), -1);
+    }
+
+    void passwordIsShownAsStars() {
+        AccountStage stage;
+        stage.check("chkAutentick", true);
+        auto* box = stage.control<QLineEdit>("txtPassword");
+        box->setFocus();
+        QTest::keyClicks(box, "segreto");
+        QCOMPARE(box->text(), "segreto");
+        QCOMPARE(box->displayText(), "*******");
+    }
+
+    void coloursComeFromThePalette() {
+        const AccountStage stage;
+        const auto back = [](const QWidget* widget) { return widget->palette().color(QPalette::Window); };
+        QCOMPARE(back(stage.window.get()), coloreTema(0));
+        for (const char* name : {"chkUsaSMTP", "chkAutentick"})
+            QCOMPARE(back(stage.control<QWidget>(name)), coloreTema(0));
+        for (const char* name : {"chkAvanzate", "pic"}) {
+            QCOMPARE(back(stage.control<QWidget>(name)), coloreTema(24));
+            QVERIFY(stage.control<QWidget>(name)->autoFillBackground());
+        }
+    }
+
+    void loadComputesThePaletteAnew() {
+        coloriTema.fill(0x123456);
+        const AccountStage stage;
+        QVERIFY(coloriTema[0] != 0x123456);
+    }
+
+    void emptyListSaysWhatToDo() {
+        AccountStage stage;
+        const QImage empty = stage.list().grab().toImage();
+        stage.fillSmall("a");
+        stage.click("cmdNuovo");
+        stage.list().setListIndex(-1);
+        stage.list().item(0)->setText(QString());
+        QVERIFY(stage.list().grab().toImage() != empty);
+    }
+
+    void opensAtItsSizeWithNothingCut() {
+        AccountStage stage(accounts);
+        QCOMPARE(stage.window->size(), QSize(730, 475).expandedTo(stage.window->sizeHint()));
+        verifyNothingIsCut(*stage.window);
+        stage.press(0);
+        keepPicture(*stage.window, "account");
+        stage.press(1);
+        stage.check("chkAvanzate", true);
+        keepPicture(*stage.window, "account_avanzate");
+    }
+
+    void emptyWindowPicture() {
+        AccountStage stage;
+        verifyNothingIsCut(*stage.window);
+        keepPicture(*stage.window, "account_vuoto");
+    }
+
+    void textsAThirdLongerCutNothing() {
+        AccountStage stage(accounts);
+        stage.window->hide();
+        for (auto* label : stage.window->findChildren<QLabel*>())
+            if (!label->text().isEmpty()) label->setText(longer(label->text()));
+        for (auto* button : stage.window->findChildren<QAbstractButton*>())
+            button->setText(longer(button->text()));
+        stage.window->show();
+        QTest::qWait(20);
+        verifyNothingIsCut(*stage.window);
+        QVERIFY2(stage.window->width() <= 900, qPrintable(QString::number(stage.window->width())));
+        keepPicture(*stage.window, "account_lunghi");
+    }
+
+    void largeFontCutsNothing() {
+        const QFont before = QApplication::font();
+        QFont large = before;
+        large.setPointSizeF(14);
+        QApplication::setFont(large);
+        AccountStage stage(accounts);
+        verifyNothingIsCut(*stage.window);
+        keepPicture(*stage.window, "account_14pt");
+        QApplication::setFont(before);
+    }
+
+    void fieldsAndButtonsHaveTheirSizes() {
+        const AccountStage stage;
+        for (const auto* box : stage.window->findChildren<QLineEdit*>())
+            QVERIFY2(box->height() >= 26, qPrintable(box->objectName()));
+        for (const auto* box : stage.window->findChildren<QCheckBox*>())
+            QVERIFY2(box->height() >= 24, qPrintable(box->objectName()));
+        for (const auto* button : stage.window->findChildren<QPushButton*>()) {
+            QVERIFY2(button->width() >= 100 && button->height() >= 28, qPrintable(button->objectName()));
+            QVERIFY2(!button->autoDefault(), qPrintable(button->objectName()));
+        }
+        const QRect close = stage.control<QWidget>("cmdChiudi")->geometry();
+        QCOMPARE(close.right(), stage.window->width() - 13);
+        QCOMPARE(close.bottom(), stage.window->height() - 13);
+    }
+
+    void everyControlHasANameForAssistivePrograms() {
+        const AccountStage stage;
+        const QHash<const char*, const char*> names{
+            {"lstAccount", "Account presenti"},
+            {"txtNomeVisual", "Nome visualizzato"},
+            {"txtEmail", "Email"},
+            {"chkUsaSMTP", "Utilizza un server SMTP per l'invio dei messaggi."},
+            {"txtServerSMTP", "Server SMTP"},
+            {"txtServerPORT", "PORTA"},
+            {"chkAutentick", "Autenticazione del Server necessaria."},
+            {"txtUsername", "Username"},
+            {"txtPassword", "Password"},
+            {"chkAvanzate", "Avanzate"},
+            {"cmbSaluto", "Saluto"},
+            {"txtOutPort", "Porta di uscita"},
+            {"cmdNuovo", "Nuovo Account"},
+            {"cmdModifica", "Modifica Account"},
+            {"cmdChiudi", "Chiudi"}};
+        for (auto it = names.begin(); it != names.end(); ++it) {
+            auto* control = stage.control<QWidget>(it.key());
+            QCOMPARE(control->accessibleName(), it.value());
+            // A drop-down list tells its current entry as its name; its label is found by the relation.
+            if (qobject_cast<QComboBox*>(control)) continue;
+            QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), it.value());
+        }
+        QCOMPARE(stage.control<QWidget>("txtEmail")->accessibleDescription(), "Ad esempio: nome@dominio.it");
+        for (int index : {1, 2, 4, 6, 7, 9, 10, 11, 12})
+            QVERIFY(stage.control<QLabel>(QString("lbl(%1)").arg(index))->buddy());
+    }
+
+    void namesFollowChangedCaptions() {
+        AccountStage stage;
+        stage.click("cmdChiudi");
+        stage.control<QLabel>("lbl(2)")->setText("Display name:");
+        stage.window->show();
+        QCOMPARE(stage.control<QWidget>("txtNomeVisual")->accessibleName(), "Display name");
+    }
+
+    void tabGoesDownTheFormAndThenToTheButtons() {
+        AccountStage stage(accounts);
+        stage.press(0);
+        stage.check("chkAvanzate", true);
+        stage.list().setFocus();
+        QStringList order;
+        for (int i = 0; i < 15; ++i) {
+            order << stage.window->focusWidget()->objectName();
+            QTest::keyClick(stage.window->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(order,
+                 (QStringList{"lstAccount", "txtNomeVisual", "txtEmail", "chkUsaSMTP", "txtServerSMTP",
+                              "txtServerPORT", "chkAutentick", "txtUsername", "txtPassword", "chkAvanzate",
+                              "cmbSaluto", "txtOutPort", "cmdNuovo", "cmdModifica", "cmdChiudi"}));
+        QCOMPARE(stage.window->focusWidget()->objectName(), "lstAccount");
+    }
+
+    void focusStartsInTheListIfItHasEntriesElseInTheName() {
+        QCOMPARE(AccountStage(accounts).window->focusWidget()->objectName(), "lstAccount");
+        QCOMPARE(AccountStage().window->focusWidget()->objectName(), "txtNomeVisual");
+    }
+
+    void mnemonicsAreDistinct() {
+        const AccountStage stage;
+        QSet<QString> letters;
+        for (const auto* button : stage.window->findChildren<QPushButton*>())
+            letters << button->text().mid(button->text().indexOf('&') + 1, 1).toLower();
+        QCOMPARE(letters, (QSet<QString>{"n", "m", "c"}));
+    }
+};
+
+int main(int argc, char** argv) {
+    return runWithDesktop<TestFrmAccountAspetto>(argc, argv);
+}
+
+#include "frmaccount_aspetto_test.moc"
