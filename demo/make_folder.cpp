@@ -121,7 +121,7 @@ QString writeMessage(const QString& folder) {
 }
 
 void make(const QString& folder, const QString& port) {
-    QDir().mkpath(folder + "/data");
+    esigi(sys::fillProgramFolder(folder, QStringLiteral(DEMO_DIR "/../assets/templates")));
     sys::setProgramFolder(folder);
     fillDatabase(cartellaDati() + "data.mdb");
     Account account;
