@@ -1,0 +1,221 @@
+// Opening another recipient database, and saving a copy of the current one.
+#include <QDir>
+
+#include "platform/jet/Database.h"
+#include "shell/shell_support.h"
+
+using namespace testing_support;
+using ui::FileDialog;
+using ui::MessageDialog;
+
+namespace {
+
+const char* const question =
+    "Il percorso del database che verrà aperto diventerà quello di default per i prossimi avii.\r\n"
+    "Il database deve stare in una cartella sicura e non potrà essere rinominato o spostato durante "
+    "l'esecuzione "
+    "per programma.\r\n"
+    "La cartella contentente il database dovrà avere i permessi di scrittura altrimenti il software non "
+    "funzionerà.\r\n"
+    "Continuare?";
+
+}  // namespace
+
+class TestDatabase : public QObject {
+    Q_OBJECT
+
+    static QString otherDatabase(const StoreStage& stage) {
+        const QString path = stage.folder.path("altra.mdb");
+        if (!jet::createEmptyDatabase(path).ok()) qFatal("no other database");
+        return path;
+    }
+    static QByteArray pathFile(const StoreStage& stage) {
+        return readFile(stage.folder.path("data/pathDBase.imp"));
+    }
+
+  private Q_SLOTS:
+    void init() {
+        bVAR::MailingOpen = "Apri la lista";
+        bVAR::MailingSalva = "Salva la lista";
+    }
+    void cleanup() { QVERIFY(!QApplication::overrideCursor()); }
+
+    void openingAsksFirstAndNoChangesNothing() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        const QByteArray before = pathFile(stage);
+        MessageDialog::queue(MessageDialog::No);
+        stage.command("cmdMailingApri");
+        QVERIFY(stage.oneBox(question, 68));
+        QVERIFY(FileDialog::shown().isEmpty());
+        QCOMPARE(pathFile(stage), before);
+        QCOMPARE(stage.grd().Rows(), 2);
+        QCOMPARE(stage.tree().Count(), 2);
+    }
+
+    void aValidDatabaseBecomesTheCurrentOne() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        const QString other = otherDatabase(stage);
+        bVAR::MailingOpen = "Apri la lista";
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queue(other);
+        stage.command("cmdMailingApri");
+        QCOMPARE(FileDialog::shown().size(), 1);
+        QCOMPARE(FileDialog::shown()[0].title, "Apri la lista");
+        QCOMPARE(FileDialog::shown()[0].filter, "Database Mailing List *.mdb|*.mdb|");
+        QVERIFY(!FileDialog::shown()[0].save);
+        QCOMPARE(pathFile(stage), "[Path dabatase Quintara]\r\n" + other.toUtf8() + "\r\n");
+        QCOMPARE(percorsoDB, other);
+        QCOMPARE(connDB, "Provider = Microsoft.Jet.OLEDB.4.0; Data Source = " + other);
+        QCOMPARE(stage.grd().Rows(), 1);
+        QCOMPARE(stage.grd().TextMatrix(0, 3), "");
+        QCOMPARE(stage.tree().Count(), 1);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void theGridIsBoundToTheNewDatabase() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queue(otherDatabase(stage));
+        stage.command("cmdMailingApri");
+        // The record source is still that of group 1; the other database has nobody in it.
+        QVERIFY(stage.window().Adodc().Refresh().ok());
+        QCOMPARE(stage.grd().Rows(), 1);
+    }
+
+    void cancellingRebuildsTheTreeAndLeavesTheGridFull() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        stage.addGroup(0, "Aziende");
+        const QByteArray before = pathFile(stage);
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queueCancel();
+        stage.command("cmdMailingApri");
+        QCOMPARE(stage.tree().Count(), 3);
+        QCOMPARE(stage.grd().Rows(), 2);
+        QCOMPARE(pathFile(stage), before);
+        QCOMPARE(MessageDialog::shown().size(), 1);
+    }
+
+    void aWrongFileIsToldAndChangesNothingButTheTree_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("no database") << QByteArray("hello");
+        QTest::newRow("empty file") << QByteArray();
+    }
+    void aWrongFileIsToldAndChangesNothingButTheTree() {
+        QFETCH(QByteArray, content);
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        stage.addGroup(0, "Aziende");
+        writeFile(stage.folder.path("no.mdb"), content);
+        const QByteArray before = pathFile(stage);
+        MessageDialog::queue(MessageDialog::Yes);
+        MessageDialog::queue(MessageDialog::Ok);
+        FileDialog::queue(stage.folder.path("no.mdb"));
+        stage.command("cmdMailingApri");
+        const auto& boxes = MessageDialog::shown();
+        QCOMPARE(boxes.size(), 2);
+        QCOMPARE(boxes[1].text, "Formato file errato");
+        QCOMPARE(boxes[1].style, 64);
+        QCOMPARE(boxes[1].title, "Attenzione");
+        QCOMPARE(pathFile(stage), before);
+        QCOMPARE(percorsoDB, stage.folder.database());
+        QCOMPARE(stage.grd().Rows(), 2);
+        QCOMPARE(stage.tree().Count(), 3);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void theCurrentDatabaseChosenAgainIsANormalChange() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        writeFile(stage.folder.path("data/pathDBase.imp"), "h\r\nXXX\r\n");
+        stage.window();
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queue(stage.folder.database());
+        stage.command("cmdMailingApri");
+        QCOMPARE(pathFile(stage), "[Path dabatase Quintara]\r\n" + stage.folder.database().toUtf8() + "\r\n");
+        QCOMPARE(stage.grd().Rows(), 1);
+        QCOMPARE(stage.tree().Count(), 2);
+    }
+
+    void savingAsksNothingAndCopiesTheDatabase() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        const QByteArray before = pathFile(stage);
+        const QString copy = stage.folder.path("copia.mdb");
+        bVAR::MailingSalva = "Salva la lista";
+        FileDialog::queue(copy);
+        stage.command("cmdMailingSalva");
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(FileDialog::shown().size(), 1);
+        QCOMPARE(FileDialog::shown()[0].title, "Salva la lista");
+        QCOMPARE(FileDialog::shown()[0].filter, "Database Mailing List *.mdb|*.mdb");
+        QVERIFY(FileDialog::shown()[0].save);
+        QCOMPARE(readFile(copy), readFile(stage.folder.database()));
+        QCOMPARE(percorsoDB, stage.folder.database());
+        QCOMPARE(pathFile(stage), before);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void aCopyReplacesAnOlderOneAndLeavesNothingBehind() {
+        StoreStage stage;
+        stage.window();
+        QVERIFY(QDir().mkdir(stage.folder.path("copie")));
+        const QString copy = stage.folder.path("copie/copia.mdb");
+        writeFile(copy, QByteArray(1000000, 'x'));
+        FileDialog::queue(copy);
+        stage.command("cmdMailingSalva");
+        QCOMPARE(readFile(copy), readFile(stage.folder.database()));
+        QCOMPARE(QDir(stage.folder.path("copie")).entryList(QDir::Files), QStringList{"copia.mdb"});
+    }
+
+    void cancellingASaveStopsTheProgram() {
+        StoreStage stage;
+        stage.window();
+        FileDialog::queueCancel();
+        MessageDialog::queue(1);
+        stage.command("cmdMailingSalva");
+        QVERIFY(stage.failure().startsWith("Errore 32755:"));
+        QCOMPARE(stage.ends, QList<int>{1});
+    }
+
+    void copiesThatFailStopTheProgramAndLeaveTheListAlone_data() {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("the open file itself") << "data/data.mdb";
+        QTest::newRow("the open file by another road") << "data/../data/data.mdb";
+        QTest::newRow("no such folder") << "nowhere/copia.mdb";
+        QTest::newRow("a folder") << "data/.";
+    }
+    void copiesThatFailStopTheProgramAndLeaveTheListAlone() {
+        QFETCH(QString, target);
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        const QByteArray before = readFile(stage.folder.database());
+        FileDialog::queue(stage.folder.path(target));
+        MessageDialog::queue(1);
+        stage.command("cmdMailingSalva");
+        QVERIFY2(stage.failure().startsWith("Errore 75:"), qPrintable(stage.failure()));
+        QCOMPARE(readFile(stage.folder.database()), before);
+        // The pointer is the business of a program that goes on.
+        while (QApplication::overrideCursor())
+            QApplication::restoreOverrideCursor();
+    }
+};
+
+QTEST_MAIN(TestDatabase)
+#include "database_test.moc"

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <QAction>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "core/bGlobal.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "lang/bVAR.h"
+#include "store/griglia_stage.h"
+
+namespace testing_support {
+
+inline QByteArray readFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+/// Puts an opener of its own in front of the desktop's, which writes down what it was given.
+class Opener {
+  public:
+    Opener() : m_path(qgetenv("PATH")) {
+        const QString opener = m_folder.filePath("xdg-open");
+        const QByteArray target = QFile::encodeName(log());
+        writeFile(opener, "#!/bin/sh\necho \"$1\" > \"" + target + ".new\"\nmv \"" + target + ".new\" \"" +
+                              target + "\"\n");
+        if (!QFile::setPermissions(opener, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+            qFatal("cannot make the opener a program");
+        qputenv("PATH", QFile::encodeName(m_folder.path()) + ":" + m_path);
+    }
+    ~Opener() { qputenv("PATH", m_path); }
+
+    /// What was opened; empty when nothing is within ten seconds.
+    QString opened() const {
+        return QTest::qWaitFor([this] { return QFile::exists(log()); }, 10000)
+                   ? QString::fromUtf8(readFile(log())).trimmed()
+                   : QString();
+    }
+    bool used() const { return QFile::exists(log()); }
+
+  private:
+    QString log() const { return m_folder.filePath("log"); }
+
+    QTemporaryDir m_folder;
+    QByteArray m_path;
+};
+
+/// Hides the modal window that comes up next, as soon as it is there; `look` sees it before.
+inline void closeModalWindow(std::function<void(QDialog&)> look = {}) {
+    auto* timer = new QTimer(qApp);
+    timer->callOnTimeout([timer, look = std::move(look)] {
+        auto* window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!window) return;
+        timer->deleteLater();
+        timer->stop();
+        if (look) look(*window);
+        window->hide();
+    });
+    timer->start(0);
+}
+
+}  // namespace testing_support
