@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "core/bGlobal.h"
 #include "core/Evento.h"
 #include "lang/bVAR.h"
 #include "message/MessaggioMss.h"
@@ -18,6 +19,7 @@
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "shell/bTheme.h"
+#include "store/griglia.h"
 
 namespace {
 
@@ -246,6 +248,7 @@ void frmInvia::chkBlocco_Click() {
 
 void frmInvia::cmdChiudi_Click() {
     hide();
+    if (nodoCorrente) griglia::RiempiGriglia();
 }
 
 void frmInvia::cmdFile_Click() {
