@@ -182,6 +182,14 @@ PropertyListView::PropertyListView(QWidget* parent) : QTreeWidget(parent) {
     header()->resizeSection(0, captionWidth);
 }
 
+void PropertyListView::showEvent(QShowEvent* event) {
+    QTreeWidget::showEvent(event);
+    int width = captionWidth;
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        width = qMax(width, fontMetrics().horizontalAdvance(topLevelItem(i)->text(0)) + 4 * textMargin);
+    header()->resizeSection(0, qMin(width, viewport()->width() / 2));
+}
+
 PropertyListRow* PropertyListView::row(const QModelIndex& index) const {
     return static_cast<PropertyListRow*>(itemFromIndex(index));
 }
