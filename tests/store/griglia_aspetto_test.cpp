@@ -129,6 +129,10 @@ class TestAspetto : public QObject {
                  {static_cast<QWidget*>(form.lbl), static_cast<QWidget*>(form.cdmSalva),
                   static_cast<QWidget*>(form.cmdAnnulla)})
                 QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(widget->objectName()));
+            const auto* list = form.prp->findChild<QTreeWidget*>();
+            for (int i = 0; i < list->topLevelItemCount(); ++i)
+                QVERIFY2(list->sizeHintForIndex(list->model()->index(i, 0)).width() <= list->columnWidth(0),
+                         qPrintable(list->topLevelItem(i)->text(0)));
             keepPicture(form, "destinatario_lunghi");
         });
         stage.command("cmdPopMailingUserNew");

@@ -1,9 +1,12 @@
 // The grid: its columns, clicks, status text and pop-up menu.
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 
+#include "core/Finestre.h"
 #include "lang/bVAR.h"
+#include "send/frmInvia.h"
 #include "store/griglia.h"
 #include "store/griglia_stage.h"
 
@@ -199,6 +202,28 @@ class TestGriglia : public QObject {
         stage.command("cmdPopMailingSelAllGRP");
         QCOMPARE(stage.columnOfGrid(2), QStringList({"Vero", "Vero", "Vero"}));
         QCOMPARE(stage.grd().TextMatrix(0, 3), "Email");
+    }
+
+    void closingTheSendWindowReloadsTheGrid() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa", "a@x.it");
+        stage.clickNode("K1");
+        StoreStage::run("UPDATE [tb_destinatari] SET sel = False;");
+        frmInvia& send = finestre::Invia();
+        send.show();
+        QTest::mouseClick(send.findChild<QPushButton*>("cmdChiudi"), Qt::LeftButton);
+        QVERIFY(!send.isVisible());
+        QCOMPARE(stage.columnOfGrid(2), QStringList("Falso"));
+    }
+
+    void closingTheSendWindowWithoutACurrentGroupReloadsNothing() {
+        StoreStage stage;
+        stage.window();
+        frmInvia& send = finestre::Invia();
+        send.show();
+        QTest::mouseClick(send.findChild<QPushButton*>("cmdChiudi"), Qt::LeftButton);
+        QCOMPARE(stage.grd().model()->columnCount(), 0);
+        QVERIFY(stage.ends.isEmpty());
     }
 
     void fillIsASnapshot() {
