@@ -27,6 +27,8 @@ class frmGruppi : public QWidget {
     /// current one. Does nothing more from the point on where something fails.
     void TREEClick();
 
+    /// Loads the children of a node, unless it has some in the tree. Unguarded.
+    void CaricaSottogruppi(const QString& chiave);
     /// Adds a node for the group as the last child of a node. Unguarded.
     void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
     /// Name of the pop-up menu whose commands can be had without the mouse at this moment; empty for none,
@@ -39,7 +41,6 @@ class frmGruppi : public QWidget {
     bool CaricaPrimoLivello();
     void ChiediAltroDatabase();
     QString MenuDelNodo() const;
-    void CaricaSottogruppi(const QString& chiave);
     void CaricaLivello(ado::Recordset& rs, const QString& chiavePadre);
 
     // frmGruppi_eventi.cpp

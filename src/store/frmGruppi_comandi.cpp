@@ -23,7 +23,7 @@ const QString colonneCopiate =
     "rgs, nom, piva, ind, cap, loc, prov, tel, fax, email, "
     "campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9, sel";
 
-/// Adds a group to the table and to the tree. Its number is known before the row is posted. Gives it as text.
+/// Adds a group to the table. Its number is known before the row is posted. Gives it as text.
 QString AggiungiGruppo(ado::Recordset& rs, const QString& chiavePadre, const QString& nome) {
     rs.setSource("SELECT * FROM [tb_gruppi];");
     esigi(rs.open());
@@ -59,7 +59,10 @@ ui::GroupNodeRef NodoNellAlbero() {
 void comandiGruppo::Nuovo(ado::Recordset& rs) {
     const QString padre = 'K' + NumeroNodoCorrente();
     const QString nome = "Nuovo gruppo";
-    finestre::Main().Gruppi().AggiungiNodo(padre, AggiungiGruppo(rs, padre, nome), nome);
+    frmGruppi& gruppi = finestre::Main().Gruppi();
+    // A recipient's drop makes a node current whose level may not be there yet.
+    gruppi.CaricaSottogruppi(padre);
+    gruppi.AggiungiNodo(padre, AggiungiGruppo(rs, padre, nome), nome);
 }
 
 void comandiGruppo::Copia(ado::Recordset& rs, ado::Command& comando) {

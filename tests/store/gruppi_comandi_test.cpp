@@ -154,6 +154,26 @@ class TestGruppiComandi : public QObject {
         QCOMPARE(nodoCorrente->Text, "Altro");
     }
 
+    void newGroupInADeletedOneEndsTheProgramAndAddsNoRow() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingDel");
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.command("cmdPopMailingNew");
+        QVERIFY(stage.failure().startsWith("Errore 3265:"));
+        QCOMPARE(StoreStage::count("tb_gruppi", "id > 0"), 0);
+    }
+
+    void menuOfADeletedGroupStillOpensByTheMouse() {
+        StoreStage stage;
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingDel");
+        mouse::click(&stage.tree(), stage.emptySpace(), Qt::RightButton);
+        QCOMPARE(stage.takePopup(), "popMailing");
+    }
+
     void keysDoNothingWhileTheCurrentGroupIsADeletedOne() {
         StoreStage stage;
         stage.addGroup(0, "Altro");

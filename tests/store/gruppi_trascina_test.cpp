@@ -38,6 +38,31 @@ class TestGruppiTrascina : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(B, Clienti(Sotto))");
     }
 
+    void newGroupUnderTheTargetOfADropComesBehindThoseOfTheTable() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addGroup(b, "Sotto B");
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        stage.dropRow(stage.at("K" + QString::number(b)));
+        stage.command("cmdPopMailingNew");
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B, Nuovo gruppo), Clienti)");
+    }
+
+    void groupThatWasNeverClickedPassesTheGuardOfDeleting() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addGroup(b, "Sotto B");
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        stage.dropRow(stage.at("K" + QString::number(b)));
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingDel");
+        QCOMPARE(MessageDialog::shown()[0].style, 36);
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+        QCOMPARE(StoreStage::count("tb_gruppi", "nome = 'Sotto B'"), 1);
+    }
+
     void recipientDroppedOnTheRootBelongsToNoGroup() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
