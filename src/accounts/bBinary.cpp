@@ -18,7 +18,8 @@ QString TestoInBit(QStringView testo) {
     while (!testo.isEmpty()) {
         const std::uint8_t codice = CodiceCarattere(testo);
         text::takeCharacter(testo);
-        for (int peso = 128; peso > 0; peso /= 2) cifre += (codice & peso) != 0 ? u'1' : u'0';
+        for (int peso = 128; peso > 0; peso /= 2)
+            cifre += (codice & peso) != 0 ? u'1' : u'0';
     }
     return cifre;
 }

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QString>
 #include <exception>
+#include <QString>
 #include <utility>
 
 #include "platform/Status.h"
 
 /// The program's three ways of meeting a failure:
 ///   unguarded: the procedure has no handling; esigi() and fallisci() throw a Fallimento, which the nearest
-///              carry-on caller takes, or else the window event that started it all (see Evento.h), which shows it and
-///              ends the program;
-///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number and text
+///              carry-on caller takes, or else the window event that started it all (see Evento.h), which
+///              shows it and ends the program;
+///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number
+///   and text
 ///              are remembered and the next statement runs;
 ///   fall back: ripiega() gives a defined result instead.
 /// Above the platform nothing else catches or throws.
@@ -46,8 +47,8 @@ T esigi(Result<T> risultato) {
 /// State of one carry-on procedure: the last failure since azzera().
 class Prosegui {
   public:
-    /// Runs one statement; true when it went through. What it would have set keeps its value otherwise, provided
-    /// that the assignment is the statement's last act.
+    /// Runs one statement; true when it went through. What it would have set keeps its value otherwise,
+    /// provided that the assignment is the statement's last act.
     template <class Istruzione>
     bool operator()(Istruzione&& istruzione) {
         try {

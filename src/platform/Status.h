@@ -4,8 +4,8 @@
 #include <utility>
 #include <variant>
 
-/// Numbers of the failures that can reach the user's eyes ("Errore N:"). They are the ones that office users and
-/// their support know from programs of this kind, so that a number can be looked up.
+/// Numbers of the failures that can reach the user's eyes ("Errore N:"). They are the ones that office users
+/// and their support know from programs of this kind, so that a number can be looked up.
 enum class ErrorCode : int {
     None = 0,
     Overflow = 6,
@@ -34,8 +34,8 @@ enum class ErrorCode : int {
     Timeout = -2147217871,
 };
 
-/// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user as
-/// it stands. Platform code only ever returns it; what a failure means to the program is decided above.
+/// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user
+/// as it stands. Platform code only ever returns it; what a failure means to the program is decided above.
 class [[nodiscard]] Status {
   public:
     Status() = default;

@@ -20,7 +20,8 @@ SmtpSink::SmtpSink() {
 }
 
 SmtpSink::~SmtpSink() {
-    for (auto it = m_sessions.keyBegin(); it != m_sessions.keyEnd(); ++it) (*it)->disconnect(this);
+    for (auto it = m_sessions.keyBegin(); it != m_sessions.keyEnd(); ++it)
+        (*it)->disconnect(this);
 }
 
 void SmtpSink::accept() {
