@@ -106,7 +106,7 @@ void frmAccount::CreaCaselle() {
     chkAvanzate = spunta("chkAvanzate", "Avanzate");
     cmbSaluto = nomina(new QComboBox(this), "cmbSaluto");
     cmbSaluto->addItems({"EHLO", "HELO"});
-    cmbSaluto->setMinimumHeight(altezzaCasella);
+    cmbSaluto->setMinimumHeight(qMax(altezzaCasella, cmbSaluto->sizeHint().height()));
     txtOutPort = porta("txtOutPort", "0");
     chkAutentick_Click();
     chkAvanzate_Click();
