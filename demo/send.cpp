@@ -19,6 +19,7 @@
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/ProgressCounter.h"
 #include "platform/ui/Unattended.h"
 #include "send/frmInvia.h"
 #include "shell/frmMain.h"
@@ -40,11 +41,18 @@ void click(QWidget& window, const char* name) {
     QTest::mouseClick(button, Qt::LeftButton, {}, place);
 }
 
-/// The run is over when the start button can be pressed again.
-void waitForEnd(QWidget& window) {
+/// The run is over when the start button can be pressed again. The picture shows it half way.
+void waitForEnd(QWidget& window, const QString& screenshot) {
     auto* start = find<QAbstractButton>(window, "cmdInvia");
-    while (!start->isEnabled())
+    auto* left = find<ui::ProgressCounter>(window, "prgDaInviare");
+    bool taken = screenshot == "-";
+    while (!start->isEnabled()) {
+        if (!taken && left->value() <= left->maximum() / 2) {
+            taken = true;
+            if (!window.grab().save(screenshot)) qFatal("cannot write the screenshot");
+        }
         QTest::qWait(20);
+    }
 }
 
 struct Choices {
@@ -63,9 +71,7 @@ void runOnce(const Choices& choices) {
         click(window, "chkLog");
     }
     click(window, "cmdInvia");
-    waitForEnd(window);
-    if (choices.screenshot != "-" && !window.grab().save(choices.screenshot))
-        qFatal("cannot write the screenshot");
+    waitForEnd(window, choices.screenshot);
     click(window, "cmdChiudi");
 }
 

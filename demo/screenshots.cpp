@@ -1,0 +1,95 @@
+// Takes the pictures of docs/screenshots: each window over a sample folder, as it stands after a few clicks.
+//
+//     demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER
+//
+// FOLDER is a program folder made by demo_make.
+#include <cstdio>
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "accounts/frmAccount.h"
+#include "core/bMain.h"
+#include "core/Finestre.h"
+#include "core/Prodotto.h"
+#include "platform/system/ProgramFolder.h"
+#include "platform/ui/DataGrid.h"
+#include "platform/ui/Desktop.h"
+#include "platform/ui/FileDialog.h"
+#include "platform/ui/GroupTree.h"
+#include "platform/ui/Unattended.h"
+#include "send/frmInvia.h"
+#include "shell/frmInfoSu.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "store/frmDestinatario.h"
+
+namespace {
+
+QString outputFolder;
+
+void take(QWidget& window, const QString& name) {
+    QTest::qWait(150);
+    if (!window.grab().save(outputFolder + '/' + name + ".png")) qFatal("cannot write a picture");
+}
+
+/// Runs one command of the main window; its modal window is taken by `meanwhile` and left by hiding it.
+void during(const QString& command, const std::function<QWidget&()>& meanwhile, const QString& name) {
+    QTimer::singleShot(200, [&] {
+        QWidget& window = meanwhile();
+        take(window, name);
+        window.hide();
+    });
+    finestre::Main().ComandoPremuto(command);
+}
+
+void takeAll(const QString& message) {
+    frmMain& main = finestre::Main();
+    auto* tree = main.findChild<ui::GroupTree*>("TREE");
+    auto* group = tree->topLevelItem(0)->child(0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(group).center());
+    take(main, "frmMain");
+    during(
+        "cmdFileAccount", []() -> QWidget& { return finestre::Account(); }, "frmAccount");
+    during(
+        "cmdPopMailingUserMod", []() -> QWidget& { return finestre::Destinatario(); }, "frmDestinatario");
+    during(
+        "cmdHelpInfoSu", []() -> QWidget& { return finestre::InfoSu(); }, "frmInfoSu");
+    during(
+        "cmdInvia",
+        [&message]() -> QWidget& {
+            ui::FileDialog::queue(message);
+            auto* pick = finestre::Invia().findChild<QWidget*>("cmdFile");
+            QTest::mouseClick(pick, Qt::LeftButton);
+            return finestre::Invia();
+        },
+        "frmInvia_pronta");
+    finestre::Splash().show();
+    take(finestre::Splash(), "frmSplash");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 4) {
+        std::fprintf(stderr, "usage: demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER\n");
+        return 2;
+    }
+    QApplication::setApplicationName(prodotto::nome());
+    QLocale::setDefault(QLocale("it_IT"));
+    sys::setProgramFolder(arguments[1]);
+    ui::setUnattended(true);
+    ui::setUpDesktop(application);
+    outputFolder = arguments[3];
+    QDir().mkpath(outputFolder);
+    SubMain();
+    QTimer::singleShot(0, [&arguments] {
+        takeAll(arguments[2]);
+        QApplication::exit(0);
+    });
+    return QApplication::exec();
+}
