@@ -1,5 +1,7 @@
 // The bytes of a Jet file: header, texts, keys, values, and the empty database.
 #include <QCryptographicHash>
+#include <QFile>
+#include <QProcess>
 
 #include "jet/JetFixture.h"
 #include "platform/jet/EmptyDatabase.h"
@@ -72,6 +74,20 @@ TEST(EmptyDatabase, TwoTablesWithoutPropertiesHaveTheKnownBytes) {
 TEST(EmptyDatabase, TwoTablesWithPropertiesHaveTheKnownBytes) {
     EXPECT_EQ(sha256(emptyDatabase(EmptyContent::WithProperties)),
               "b1c55eb849af1f66c8dd237aa4565266530dc0c678c4cf2c2be1f901b59777f7");
+}
+
+TEST(MakeDatabase, ProgramWritesTheDefaultFileAndReplacesNothing) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("data.mdb"));
+    const QString program = QStringLiteral(TEST_BIN_DIR "/src/platform/jet/vestrola_makedb");
+    EXPECT_EQ(QProcess::execute(program, {file}), 0);
+    QFile made(file);
+    ASSERT_TRUE(made.open(QIODevice::ReadOnly));
+    const QByteArray bytes = made.readAll();
+    EXPECT_EQ(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex(),
+              "b1c55eb849af1f66c8dd237aa4565266530dc0c678c4cf2c2be1f901b59777f7");
+    EXPECT_EQ(QProcess::execute(program, {file}), 1);
+    EXPECT_EQ(QProcess::execute(program, {}), 2);
 }
 
 TEST(Header, MaskIsItsOwnInverse) {

@@ -118,6 +118,105 @@ TEST_F(IndexTest, RootPageNumberNeverChanges) {
     EXPECT_EQ(table(*database, u"tb_gruppi").definition().indexes[0].rootPage, 18u);
 }
 
+// Indexes of other kinds on a long: the definition of the empty database is changed before its first row.
+class IndexKindTest : public IndexTest {
+  protected:
+    // Offsets count from the real index definition on page 16; each change is an offset and a byte.
+    void redefine(const std::vector<std::pair<size_t, uint8_t>>& indexBytes, bool autoNumber) {
+        database.reset();
+        std::string bytes = bytesOf(path());
+        const size_t page = 16 * pageSize;
+        const size_t definition = bytes.find(std::string("\x83\x07\0\0", 4), page);
+        ASSERT_LT(definition, page + pageSize);
+        for (const auto& [offset, byte] : indexBytes)
+            bytes[definition + offset] = static_cast<char>(byte);
+        const size_t columnFlags = page + definition::indexCounts + definition::indexCountLength + 15;
+        if (!autoNumber) bytes[columnFlags] = 0x03;
+        writeBytes(path(), bytes);
+        database = open(path());
+    }
+    void insertAll(const std::vector<Value>& ids) {
+        Table& groups = table(*database, u"tb_gruppi");
+        EXPECT_OK(database->begin());
+        for (const Value& id : ids)
+            insert(groups, {id, int64_t{0}, std::string("g")});
+        EXPECT_OK(database->commit());
+        expectSound(path());
+    }
+    void changeAndEraseAll() {
+        Table& groups = table(*database, u"tb_gruppi");
+        EXPECT_OK(database->begin());
+        int64_t n = 0;
+        for (const auto& [id, row] : rowsOf(groups)) {
+            std::pair<size_t, Value> other{0, Value()};
+            if (n++ % 3) other.second = n;
+            EXPECT_OK(groups.update(id, std::span(&other, 1)));
+        }
+        EXPECT_OK(database->commit());
+        expectSound(path());
+        EXPECT_OK(database->begin());
+        for (const auto& [id, row] : rowsOf(groups))
+            EXPECT_OK(groups.erase(id));
+        EXPECT_OK(database->commit());
+        expectSound(path());
+    }
+    static constexpr size_t order = 6;
+    static constexpr size_t flags = 46;
+};
+
+TEST_F(IndexKindTest, RequiredKeyMustNotBeNull) {
+    redefine({}, false);
+    Table& groups = table(*database, u"tb_gruppi");
+    EXPECT_OK(database->begin());
+    const auto outcome = groups.insert(Row{Value(), int64_t{0}, std::string("g")});
+    EXPECT_FAILS(ErrorCode::ValueRequired, outcome);
+    EXPECT_TRUE(outcome.status().text().contains(QStringLiteral("id")));
+    const RowId id = insert(groups, {int64_t{1}, int64_t{0}, std::string("g")});
+    const std::pair<size_t, Value> null{0, Value()};
+    EXPECT_FAILS(ErrorCode::ValueRequired, groups.update(id, std::span(&null, 1)));
+    EXPECT_OK(database->commit());
+    expectSound(path());
+}
+
+TEST_F(IndexKindTest, ChangedKeyMustNotBeTaken) {
+    redefine({}, false);
+    insertAll({int64_t{1}, int64_t{2}});
+    Table& groups = table(*database, u"tb_gruppi");
+    const RowId two = groups.findByPrimaryKey(2).value().value();
+    EXPECT_OK(database->begin());
+    const std::pair<size_t, Value> taken{0, int64_t{1}};
+    EXPECT_FAILS(ErrorCode::DuplicateKey, groups.update(two, std::span(&taken, 1)));
+    const std::pair<size_t, Value> free{0, int64_t{3}};
+    EXPECT_OK(groups.update(two, std::span(&free, 1)));
+    EXPECT_OK(database->commit());
+    EXPECT_EQ(groups.findByPrimaryKey(3).value(), two);
+    EXPECT_FALSE(groups.findByPrimaryKey(2).value().has_value());
+    expectSound(path());
+}
+
+TEST_F(IndexKindTest, IndexThatIgnoresNullsHoldsNone) {
+    redefine({{flags, 0x82}}, false);
+    std::vector<Value> ids(1500);
+    for (size_t i = 0; i < ids.size(); ++i)
+        if (i % 4) ids[i] = static_cast<int64_t>(i / 2);
+    insertAll(ids);
+    changeAndEraseAll();
+}
+
+TEST_F(IndexKindTest, UniqueIndexTakesAnyNumberOfNulls) {
+    redefine({{flags, 0x81}}, false);
+    insertAll(std::vector<Value>(900));
+}
+
+TEST_F(IndexKindTest, DescendingIndexSortsTheOtherWayRound) {
+    redefine({{order, 0}, {flags, 0x80}}, false);
+    std::vector<Value> ids(3000);
+    for (size_t i = 0; i < ids.size(); ++i)
+        if (i % 7) ids[i] = static_cast<int64_t>(i * 37 % 1000) - 500;
+    insertAll(ids);
+    changeAndEraseAll();
+}
+
 // A tree over a bare page file, so that keys of any shape and pages of other writers can be tried.
 class TreeTest : public JetTest {
   protected:

@@ -215,3 +215,31 @@ TEST_F(LockTest, ReadScopeCostsOneLockForManyCalls) {
         EXPECT_TRUE(table(*database).row(id).value().has_value());
     EXPECT_FAILS(ErrorCode::FileInUse, writer->begin());
 }
+
+TEST_F(LockTest, TransactionInsideAnOwnReadScope) {
+    DatabasePtr database = open(path());
+    DatabasePtr other = open(path(), hasty());
+    {
+        const ReadScope scope(*database);
+        addRow(*database, "x");
+        EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
+        EXPECT_EQ(rowsOf(table(*other)).size(), 1u) << "the writer's lock outlived the transaction";
+        EXPECT_FAILS(ErrorCode::FileInUse, other->begin());
+    }
+    EXPECT_OK(other->begin());
+    other->rollback();
+}
+
+TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
+    const std::string before = bytesOf(path());
+    {
+        DatabasePtr database = open(path());
+        EXPECT_OK(database->begin());
+        insert(table(*database), recipient(table(*database), "x"));
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_FALSE(std::filesystem::exists(local(path()) + "-journal"));
+    DatabasePtr other = open(path(), hasty());
+    EXPECT_OK(other->begin());
+    other->rollback();
+}
