@@ -45,6 +45,7 @@ void PageFile::open() {
         }
     }
     if (m_readOnly) m_file = OsFile(m_path, OsFile::Access::Read);
+    m_opened = m_file.state();
     // Before the journal is looked at: nothing is ever rolled back into a file of another kind.
     readHeader();
 }
@@ -68,16 +69,16 @@ void PageFile::lock(OsFile& file, OsFile::Lock lock) const {
     }
 }
 
-// Locks the file that the path names now, which may have been replaced since it was opened.
-void PageFile::lockCurrent(OsFile::Lock kind) {
+// Locks the file that the path names now, which may have been replaced since it was opened. Returns its
+// state.
+FileState PageFile::lockCurrent(OsFile::Lock kind) {
     for (int attempt = 0; attempt < 10; ++attempt) {
         lock(m_file, kind);
         FileState now;
         if (!fileState(m_path, now))
             fail(ErrorCode::FileNotFound,
                  QStringLiteral("Impossibile trovare il file \"%1\".").arg(shown(m_path)));
-        const FileState own = m_file.state();
-        if (now.inode == own.inode && now.device == own.device) return;
+        if (now.inode == m_opened.inode && now.device == m_opened.device) return now;
         m_file = OsFile();
         dropCache();
         open();
@@ -95,13 +96,13 @@ void PageFile::beginRead() {
     if (m_readers == 0 && !m_writing) {
         try {
             if (!m_file.isOpen()) open();
-            lockCurrent(OsFile::Lock::Shared);
+            FileState now = lockCurrent(OsFile::Lock::Shared);
             // With this lock held no writer is alive: a journal is what a dead one left.
             if (m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
                 recover();
-                lockCurrent(OsFile::Lock::Shared);
+                now = lockCurrent(OsFile::Lock::Shared);
             }
-            refreshState();
+            refreshState(now);
         } catch (...) {
             unlock();
             throw;
@@ -131,8 +132,7 @@ void PageFile::recover() {
 }
 
 // Compares the file with what the cache was read from.
-void PageFile::refreshState() {
-    const FileState now = m_file.state();
+void PageFile::refreshState(const FileState& now) {
     if (now == m_state) return;
     dropCache();
     readHeader();
@@ -221,9 +221,9 @@ void PageFile::beginWrite() {
     refuseIfOpenElsewhere();
     try {
         if (!m_file.isOpen()) open();
-        lockCurrent(OsFile::Lock::Exclusive);
+        (void)lockCurrent(OsFile::Lock::Exclusive);
         if (m_journal.exists()) m_journal.rollBack(m_file);
-        refreshState();
+        refreshState(m_file.state());
     } catch (...) {
         unlock();
         throw;

@@ -58,10 +58,10 @@ class PageFile {
     void open();
     void readHeader();
     void lock(OsFile& file, OsFile::Lock lock) const;
-    void lockCurrent(OsFile::Lock lock);
+    FileState lockCurrent(OsFile::Lock lock);
     void unlock();
     void recover();
-    void refreshState();
+    void refreshState(const FileState& now);
     void dropCache();
     void refuseIfOpenElsewhere() const;
     void keep(uint32_t n, std::shared_ptr<Page> page);
@@ -78,7 +78,8 @@ class PageFile {
     bool m_wantReadOnly;
     bool m_readOnly = false;
     OsFile m_file;
-    FileState m_state;
+    FileState m_opened;  ///< as it was opened: device and inode stay
+    FileState m_state;   ///< that the cache belongs to
     Header m_header;
     uint32_t m_pageCount = 0;
     uint64_t m_generation = 1;
