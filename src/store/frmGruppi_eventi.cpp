@@ -63,12 +63,9 @@ void frmGruppi::TREEMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
 }
 
 void frmGruppi::TREEAfterLabelEdit(const QString& testo, bool* annulla) {
-    if (chiaveNodo == "K0" || testo.isEmpty()) {
-        *annulla = true;
-        return;
-    }
     // The node shows the new name only if the table has it.
     *annulla = true;
+    if (chiaveNodo == "K0" || testo.isEmpty()) return;
     ScriviGruppo(chiaveNodo, u"nome", testo);
     *annulla = false;
     if (nodoCorrente && nodoCorrente->Key == chiaveNodo) nodoCorrente->Text = testo;
