@@ -122,7 +122,7 @@ bool OrderSpec::canGroup(Type type) {
 
 Status RowOrder::fill(jet::Table& table) {
     std::vector<Entry> entries;
-    const Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
+    Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
         entries.emplace_back(keyOf(row), id);
         return true;
     });

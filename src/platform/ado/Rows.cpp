@@ -16,7 +16,8 @@ const char* identityName(const jet::TableDefinition& table) {
 
 }  // namespace
 
-Result<std::unique_ptr<Rows>> Rows::run(std::shared_ptr<Session> session, const StatementText& statement) {
+Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
+                                        const StatementText& statement) {
     const Result<JetTable*> table = session->table(statement.table);
     if (!table.ok()) return table.status();
     std::unique_ptr<Rows> rows(new Rows(session));

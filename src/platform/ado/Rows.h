@@ -12,7 +12,7 @@ namespace ado {
 /// identities of the rows are kept, otherwise their values.
 class Rows {
   public:
-    static Result<std::unique_ptr<Rows>> run(std::shared_ptr<Session> session,
+    static Result<std::unique_ptr<Rows>> run(const std::shared_ptr<Session>& session,
                                              const StatementText& statement);
     ~Rows();
     Rows(const Rows&) = delete;
