@@ -25,6 +25,7 @@ class TestMain : public QObject {
   private Q_SLOTS:
     void theSendWindowIsOneInstanceThatKeepsItsContent() {
         SendStage stage({"a@x.it"});
+        finestre::Main();
         frmInvia* first = nullptr;
         for (int opening = 0; opening < 2; ++opening) {
             QTimer::singleShot(0, this, [&] {
