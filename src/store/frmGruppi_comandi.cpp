@@ -30,7 +30,7 @@ QString AggiungiGruppo(ado::Recordset& rs, const QString& chiavePadre, const QSt
     esigi(rs.addNew());
     esigi(rs.setValue(u"id_up", NumeroNodo(chiavePadre).toInt()));
     esigi(rs.setValue(u"nome", nome));
-    const QString id = esigi(rs.value(u"id")).toTextOrEmpty();
+    QString id = esigi(rs.value(u"id")).toTextOrEmpty();
     esigi(rs.update());
     rs.close();
     return id;

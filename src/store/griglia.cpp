@@ -125,7 +125,7 @@ void griglia::RinfrescaGriglia() {
 }
 
 QString griglia::idCorrente() {
-    const QString id = grd().TextMatrix(grd().Row(), colonnaId);
+    QString id = grd().TextMatrix(grd().Row(), colonnaId);
     // Anything else (the heading, an emptied cell) would turn the statement it goes into to other rows.
     bool numero = false;
     static_cast<void>(id.toLong(&numero));
