@@ -193,7 +193,7 @@ QStringList StoreStage::columnOfGrid(int column) {
 QString StoreStage::takePopup() {
     QWidget* menu = QApplication::activePopupWidget();
     if (!menu) return {};
-    const QString name = menu->objectName();
+    QString name = menu->objectName();
     menu->close();
     return name;
 }
