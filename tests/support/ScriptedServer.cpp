@@ -125,6 +125,7 @@ void ScriptedServer::step(const QByteArray& line) {
             throw Unexpected{"no handshake: " + m_socket->errorString().toUtf8()};
         if (line == "TLSFAIL") waitForEnd();
     } else if (line == "WAIT") {
+        ++m_waits;
         waitForEnd();
     } else if (line == "HOLD") {
         pollfd watched{int(m_socket->socketDescriptor()), POLLRDHUP, 0};

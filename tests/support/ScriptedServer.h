@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <QByteArrayList>
 #include <QList>
 #include <QSemaphore>
@@ -41,6 +42,9 @@ class ScriptedServer : public QThread {
     /// Waits until every dialogue was played and gives what went otherwise than written; empty: nothing.
     std::string remainder();
 
+    /// How often a dialogue has come to a WAIT.
+    int waits() const { return m_waits; }
+
     // After remainder():
     const QByteArrayList& bodies() const { return m_bodies; }  ///< as received, dots still stuffed
     const QByteArrayList& lines() const { return m_lines; }    ///< that matched a C: line
@@ -67,6 +71,7 @@ class ScriptedServer : public QThread {
     const TlsIdentity m_identity;
     quint16 m_port;
     QSemaphore m_listening;
+    std::atomic<int> m_waits = 0;
     QSslSocket* m_socket = nullptr;
     QByteArray m_input;
     QByteArray m_problem;
