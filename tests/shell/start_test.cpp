@@ -7,6 +7,8 @@
 
 #include "core/bMain.h"
 #include "core/CentraForm.h"
+#include "platform/jet/Database.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/Unattended.h"
 #include "shell/frmSplash.h"
@@ -311,6 +313,23 @@ class TestStart : public QObject {
         QCOMPARE(stage.ends, QList<int>{1});
         window.close();
         QCOMPARE(stage.ends, (QList<int>{1, 0}));
+    }
+
+    void theInstalledTemplatesMakeAFolderThatStartsWithoutAQuestion() {
+        StoreStage stage;
+        const QTemporaryDir user;
+        const QString folder = user.filePath("vestrola");
+        QVERIFY(sys::fillProgramFolder(folder, TEST_DATA_DIR "/../../assets/templates").ok());
+        QVERIFY(jet::createEmptyDatabase(folder + "/data/data.mdb").ok());
+        sys::setProgramFolder(folder);
+        start();
+        QCOMPARE(percorsoDB, folder + "/data/data.mdb");
+        QCOMPARE(stage.tree().Count(), 1);
+        QCOMPARE(finestre::Main().size(), QSize(1080, 640));
+        QCOMPARE(finestre::Main().Commands().GetList("cmdLang")->SelectedIndex(), 0);
+        QVERIFY(finestre::Main().Commands().GetList("cmdLang")->Count() >= 2);
+        QCOMPARE(readFile(folder + "/data/Account.imp"), QByteArray());
+        QVERIFY(MessageDialog::shown().isEmpty());
     }
 
     void aSecondStartIsNotPrevented() {
