@@ -31,7 +31,6 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     switch (metric) {
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
-            return 16;
         case PM_SmallIconSize:
         case PM_ButtonIconSize:
             return 16;
