@@ -114,7 +114,7 @@ Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Va
         for (auto& [order, key] : moved)
             key = order->keyOf(*row.value());
     }
-    const Status status = target.value()->update(id, changes);
+    Status status = target.value()->update(id, changes);
     if (!status.ok() || moved.empty()) return status;
     const Result<std::optional<jet::RowView>> row = target.value()->row(id);
     if (!row.ok()) return row.status();
