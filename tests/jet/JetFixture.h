@@ -78,7 +78,7 @@ class JetTest : public ::testing::Test {
     }
     /// A sample file of the shared folder, or an empty path with a note when the folder is not there.
     static std::string sample(const char* name) {
-        const std::string file = std::string(SHARED_DIR "/mdb/") + name;
+        std::string file = std::string(SHARED_DIR "/mdb/") + name;
         if (std::filesystem::exists(file)) return file;
         std::printf("[ SAMPLES  ] %s is not here: its part of the test was skipped\n", file.c_str());
         return {};

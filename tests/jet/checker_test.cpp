@@ -10,9 +10,9 @@ class CheckerTest : public JetTest {
         DatabasePtr database = create(path());
         Table& recipients = table(*database);
         EXPECT_OK(database->begin());
-        std::vector<RowId> ids;
-        for (int i = 0; i < 900; ++i)
-            ids.push_back(insert(recipients, recipient(recipients, "riga")));
+        std::vector<RowId> ids(900);
+        for (RowId& id : ids)
+            id = insert(recipients, recipient(recipients, "riga"));
         for (size_t i = 0; i < ids.size(); i += 9) {
             const std::pair<size_t, Value> grow{12, std::string(200, 'x')};
             EXPECT_OK(recipients.update(ids[i], std::span(&grow, 1)));

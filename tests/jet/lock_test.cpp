@@ -17,7 +17,7 @@ class LockTest : public JetTest {
     class OtherProcess {
       public:
         template <class Work>
-        explicit OtherProcess(Work&& work) {
+        explicit OtherProcess(const Work& work) {
             EXPECT_EQ(::pipe(m_ready), 0);
             EXPECT_EQ(::pipe(m_letGo), 0);
             m_pid = ::fork();
@@ -36,6 +36,7 @@ class LockTest : public JetTest {
             char byte = 0;
             EXPECT_EQ(::read(m_ready[0], &byte, 1), 1);
         }
+        OtherProcess(const OtherProcess&) = delete;
         ~OtherProcess() { finish(); }
         void finish() {
             if (m_pid == 0) return;

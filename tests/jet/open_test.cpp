@@ -222,6 +222,7 @@ class DamageTest : public OpenTest {
         Table& recipients = table(*database);
         EXPECT_OK(database->begin());
         std::vector<RowId> ids;
+        ids.reserve(rows);
         for (int i = 0; i < rows; ++i)
             ids.push_back(insert(recipients, recipient(recipients, "nome " + std::to_string(i))));
         for (int i = 0; i < rows; i += 3) {
