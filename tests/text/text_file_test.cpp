@@ -138,7 +138,7 @@ TEST_F(TextFile, WriterTellsWhereItCannotWrite) {
 }
 
 TEST_F(TextFile, FullDiskIsToldAtTheLatestWhenClosing) {
-    if (!QFileInfo::exists(QStringLiteral("/dev/full"))) GTEST_SKIP() << "no /dev/full here";
+    ASSERT_TRUE(QFileInfo::exists(QStringLiteral("/dev/full")));
     TextWriter writer;
     ASSERT_TRUE(writer.open(QStringLiteral("/dev/full"), WriteMode::Output).ok());
     const bool printed = writer.print(u"x").ok();
