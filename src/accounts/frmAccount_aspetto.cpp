@@ -10,17 +10,10 @@
 
 #include "accounts/frmAccount.h"
 #include "accounts/frmAccount_elenco.h"
+#include "platform/ui/Controls.h"
 #include "shell/bTheme.h"
 
 namespace {
-
-constexpr int margine = 12;
-constexpr int spazio = 8;
-constexpr int altezzaCasella = 26;
-
-QString senzaSegni(QString testo) {
-    return testo.remove('&').remove(':');
-}
 
 void coloraSfondo(QWidget* controllo, int indice) {
     QPalette tavolozza = controllo->palette();
@@ -28,12 +21,6 @@ void coloraSfondo(QWidget* controllo, int indice) {
     controllo->setPalette(tavolozza);
     controllo->setBackgroundRole(QPalette::Window);
     controllo->setAutoFillBackground(true);
-}
-
-template <class Controllo>
-Controllo* nomina(Controllo* controllo, const QString& nome) {
-    controllo->setObjectName(nome);
-    return controllo;
 }
 
 }  // namespace
@@ -57,15 +44,15 @@ void frmAccount::CreaControlli() {
         "Password:",
         "Porta di uscita:"};
     for (std::size_t i = 0; i < lbl.size(); ++i)
-        lbl[i] = nomina(new QLabel(testi[i], this), QString("lbl(%1)").arg(i));
-    pic = nomina(new QWidget(this), "pic");
+        lbl[i] = ui::named(new QLabel(testi[i], this), QString("lbl(%1)").arg(i));
+    pic = ui::named(new QWidget(this), "pic");
     // In the order in which the keyboard goes round them.
-    lstAccount = nomina(new ElencoAccount(this), "lstAccount");
+    lstAccount = ui::named(new ElencoAccount(this), "lstAccount");
     CreaCaselle();
     const auto pulsante = [this](const char* nome, const char* testo) {
-        auto* nuovo = nomina(new QPushButton(testo, this), nome);
+        auto* nuovo = ui::named(new QPushButton(testo, this), nome);
         nuovo->setAutoDefault(false);
-        nuovo->setMinimumSize(100, 28);
+        nuovo->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
         return nuovo;
     };
     cmdNuovo = pulsante("cmdNuovo", "&Nuovo Account");
@@ -77,19 +64,20 @@ void frmAccount::CreaControlli() {
 
 void frmAccount::CreaCaselle() {
     const auto casella = [this](const char* nome, int limite, const char* testo = "") {
-        auto* nuova = nomina(new QLineEdit(testo, this), nome);
+        auto* nuova = ui::named(new QLineEdit(testo, this), nome);
         nuova->setMaxLength(limite);
-        nuova->setMinimumHeight(altezzaCasella);
+        nuova->setMinimumHeight(ui::fieldHeight);
         return nuova;
     };
     const auto porta = [&](const char* nome, const char* testo) {
         auto* nuova = casella(nome, 5, testo);
         nuova->setAlignment(Qt::AlignCenter);
-        nuova->setFixedWidth(qMax(64, nuova->fontMetrics().horizontalAdvance("00000") + 2 * margine));
+        nuova->setFixedWidth(
+            qMax(64, nuova->fontMetrics().horizontalAdvance("00000") + 2 * ui::windowMargin));
         return nuova;
     };
     const auto spunta = [this](const char* nome, const char* testo) {
-        auto* nuova = nomina(new QCheckBox(testo, this), nome);
+        auto* nuova = ui::named(new QCheckBox(testo, this), nome);
         nuova->setMinimumHeight(24);
         return nuova;
     };
@@ -104,17 +92,17 @@ void frmAccount::CreaCaselle() {
     txtPassword = casella("txtPassword", 255);
     txtPassword->setEchoMode(QLineEdit::Password);
     chkAvanzate = spunta("chkAvanzate", "Avanzate");
-    cmbSaluto = nomina(new QComboBox(this), "cmbSaluto");
+    cmbSaluto = ui::named(new QComboBox(this), "cmbSaluto");
     cmbSaluto->addItems({"EHLO", "HELO"});
-    cmbSaluto->setMinimumHeight(qMax(altezzaCasella, cmbSaluto->sizeHint().height()));
+    cmbSaluto->setMinimumHeight(qMax(ui::fieldHeight, cmbSaluto->sizeHint().height()));
     txtOutPort = porta("txtOutPort", "0");
     chkAutentick_Click();
     chkAvanzate_Click();
 }
 
 void frmAccount::CreaMenu() {
-    mnuElenco = nomina(new QMenu("Elenco", this), "mnuElenco");
-    mnuElimina = nomina(mnuElenco->addAction("&Elimina Account"), "mnuElimina");
+    mnuElenco = ui::named(new QMenu("Elenco", this), "mnuElenco");
+    mnuElimina = ui::named(mnuElenco->addAction("&Elimina Account"), "mnuElimina");
 }
 
 void frmAccount::ColoraControlli() {
@@ -131,7 +119,7 @@ void frmAccount::ColoraControlli() {
 
 void frmAccount::DisponiControlli() {
     auto* elenco = new QVBoxLayout;
-    elenco->setSpacing(spazio / 2);
+    elenco->setSpacing(ui::controlSpacing / 2);
     elenco->addWidget(lbl[1]);
     elenco->addWidget(lstAccount, 1);
     lstAccount->setFixedWidth(210);
@@ -141,35 +129,31 @@ void frmAccount::DisponiControlli() {
     modulo->addLayout(DisponiModulo());
     modulo->addStretch();
     auto* corpo = new QHBoxLayout;
-    corpo->setContentsMargins(margine, margine, margine, margine);
+    corpo->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
     corpo->setSpacing(16);
     corpo->addLayout(elenco);
     corpo->addLayout(modulo, 1);
 
     auto* comandi = new QHBoxLayout;
-    comandi->setContentsMargins(margine, 0, margine, margine);
-    comandi->setSpacing(spazio);
+    comandi->setContentsMargins(ui::windowMargin, 0, ui::windowMargin, ui::windowMargin);
+    comandi->setSpacing(ui::controlSpacing);
     comandi->addWidget(cmdNuovo);
     comandi->addWidget(cmdModifica);
     comandi->addStretch();
     comandi->addWidget(cmdChiudi);
 
-    auto* linea = new QFrame(this);
-    linea->setFrameShape(QFrame::HLine);
-    linea->setFrameShadow(QFrame::Plain);
-    linea->setForegroundRole(QPalette::Mid);
     auto* finestra = new QVBoxLayout(this);
     finestra->setContentsMargins(0, 0, 0, 0);
     finestra->setSpacing(0);
     finestra->addWidget(DisponiTestata());
-    finestra->addWidget(linea);
+    finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(corpo, 1);
     finestra->addLayout(comandi);
 }
 
 QWidget* frmAccount::DisponiTestata() {
     pic->setFixedWidth(56);
-    auto* img = nomina(new QLabel(pic), "img");
+    auto* img = ui::named(new QLabel(pic), "img");
     img->setPixmap(QIcon::fromTheme("user-properties").pixmap(32));
     auto* quadro = new QVBoxLayout(pic);
     quadro->setContentsMargins(0, 0, 0, 0);
@@ -183,14 +167,14 @@ QWidget* frmAccount::DisponiTestata() {
     riga->addWidget(pic);
     riga->addWidget(lbl[0], 1);
     lbl[0]->setWordWrap(true);
-    lbl[0]->setContentsMargins(margine, spazio, margine, spazio);
+    lbl[0]->setContentsMargins(ui::windowMargin, ui::controlSpacing, ui::windowMargin, ui::controlSpacing);
     return testata;
 }
 
 /// Labels in one column, fields in the other, each hint 1 below its field.
 QGridLayout* frmAccount::DisponiModulo() {
     auto* modulo = new QGridLayout;
-    modulo->setHorizontalSpacing(spazio);
+    modulo->setHorizontalSpacing(ui::controlSpacing);
     modulo->setVerticalSpacing(0);
     modulo->setColumnStretch(1, 1);
     int riga = 0;
@@ -204,26 +188,26 @@ QGridLayout* frmAccount::DisponiModulo() {
         modulo->addWidget(esempio, riga++, 1);
     };
     campo(lbl[2], txtNomeVisual, lbl[3]);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     campo(lbl[4], txtEmail, lbl[5]);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     modulo->addWidget(chkUsaSMTP, riga++, 0, 1, 2);
-    stacca(spazio / 2);
+    stacca(ui::controlSpacing / 2);
     DisponiServer(*modulo, riga);
     campo(lbl[7], nullptr, lbl[8]);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     modulo->addWidget(chkAutentick, riga++, 0, 1, 2);
-    stacca(spazio / 2);
+    stacca(ui::controlSpacing / 2);
     campo(lbl[10], txtUsername, nullptr);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     campo(lbl[11], txtPassword, nullptr);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     modulo->addWidget(DisponiAvanzate(), riga++, 0, 1, 2);
-    stacca(spazio);
+    stacca(ui::controlSpacing);
     auto* saluto = new QHBoxLayout;
-    saluto->setSpacing(spazio);
+    saluto->setSpacing(ui::controlSpacing);
     saluto->addWidget(cmbSaluto);
-    saluto->addSpacing(margine);
+    saluto->addSpacing(ui::windowMargin);
     saluto->addWidget(lbl[12]);
     saluto->addWidget(txtOutPort);
     saluto->addStretch();
@@ -234,7 +218,7 @@ QGridLayout* frmAccount::DisponiModulo() {
 
 void frmAccount::DisponiServer(QGridLayout& modulo, int riga) {
     auto* server = new QHBoxLayout;
-    server->setSpacing(spazio);
+    server->setSpacing(ui::controlSpacing);
     server->addWidget(txtServerSMTP, 1);
     server->addWidget(lbl[9]);
     server->addWidget(txtServerPORT);
@@ -255,7 +239,7 @@ QWidget* frmAccount::DisponiAvanzate() {
 void frmAccount::CollegaEtichette() {
     const auto collega = [this](std::size_t indice, QWidget* controllo, int esempio = -1) {
         lbl[indice]->setBuddy(controllo);
-        controllo->setAccessibleName(senzaSegni(lbl[indice]->text()));
+        controllo->setAccessibleName(ui::spokenCaption(lbl[indice]->text()));
         if (esempio >= 0) controllo->setAccessibleDescription(lbl[static_cast<std::size_t>(esempio)]->text());
     };
     collega(1, lstAccount);
@@ -269,5 +253,5 @@ void frmAccount::CollegaEtichette() {
     collega(12, txtOutPort);
     for (QAbstractButton* pulsante : std::initializer_list<QAbstractButton*>{
              chkUsaSMTP, chkAutentick, chkAvanzate, cmdNuovo, cmdModifica, cmdChiudi})
-        pulsante->setAccessibleName(senzaSegni(pulsante->text()));
+        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
 }

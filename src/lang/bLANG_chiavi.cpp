@@ -10,6 +10,7 @@
 #include "core/Finestre.h"
 #include "lang/bVAR.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
 #include "send/frmInvia.h"
@@ -126,17 +127,13 @@ const Finestra finestreTradotte[] = {
      {"cmdAnnulla", "cdmSalva"}},
 };
 
-QString senzaSegni(QString testo) {
-    return testo.remove('&').remove(':');
-}
-
 /// Sets the caption. The name for assistive programs follows, of the control itself or of the one that a
 /// label belongs to, where it was the caption.
 template <class Controllo>
 void impostaDidascalia(Controllo& controllo, QWidget* nominato, const QString& testo) {
-    const bool segue = nominato && nominato->accessibleName() == senzaSegni(controllo.text());
+    const bool segue = nominato && nominato->accessibleName() == ui::spokenCaption(controllo.text());
     controllo.setText(testo);
-    if (segue) nominato->setAccessibleName(senzaSegni(testo));
+    if (segue) nominato->setAccessibleName(ui::spokenCaption(testo));
 }
 
 void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& testo) {

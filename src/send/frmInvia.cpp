@@ -16,21 +16,11 @@
 #include "message/MessaggioMss.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
+#include "platform/ui/Controls.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "shell/bTheme.h"
 #include "store/griglia.h"
-
-namespace {
-
-constexpr int margine = 12;
-constexpr int spazio = 8;
-
-QString senzaSegni(QString testo) {
-    return testo.remove('&').remove(':');
-}
-
-}  // namespace
 
 frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     setObjectName("frmInvia");
@@ -46,8 +36,7 @@ frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
 void frmInvia::CreaControlli() {
     const auto nomina = [this](auto* controllo, const char* nome) {
         controllo->setParent(this);
-        controllo->setObjectName(nome);
-        return controllo;
+        return ui::named(controllo, nome);
     };
     const auto pulsante = [&](const char* nome, const char* testo, const char* icona) {
         auto* controllo = nomina(new QPushButton(testo), nome);
@@ -57,12 +46,12 @@ void frmInvia::CreaControlli() {
     };
     const auto casella = [&](const char* nome, const char* testo = "") {
         auto* controllo = nomina(new QLineEdit(testo), nome);
-        controllo->setMinimumHeight(26);
+        controllo->setMinimumHeight(ui::fieldHeight);
         return controllo;
     };
     const auto elenco = [&](const char* nome) {
         auto* controllo = nomina(new QComboBox, nome);
-        controllo->setMinimumHeight(26);
+        controllo->setMinimumHeight(ui::fieldHeight);
         return controllo;
     };
     const auto etichetta = [&](const char* nome, const char* testo) {
@@ -103,42 +92,37 @@ void frmInvia::CreaControlli() {
 }
 
 void frmInvia::DisponiControlli() {
-    auto* riga = new QFrame(this);
-    riga->setFrameShape(QFrame::HLine);
-    riga->setFrameShadow(QFrame::Plain);
-    riga->setForegroundRole(QPalette::Mid);
-
     auto* comandi = new QHBoxLayout;
-    comandi->setSpacing(spazio);
+    comandi->setSpacing(ui::controlSpacing);
     comandi->addStretch();
     for (QPushButton* pulsante : {cmdInvia, cmdFerma, cmdChiudi}) {
-        pulsante->setMinimumSize(100, 28);
-        if (pulsante == cmdChiudi) comandi->addSpacing(margine);
+        pulsante->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
+        if (pulsante == cmdChiudi) comandi->addSpacing(ui::windowMargin);
         comandi->addWidget(pulsante);
     }
 
     auto* finestra = new QVBoxLayout(this);
-    finestra->setContentsMargins(margine, margine, margine, margine);
-    finestra->setSpacing(margine);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::windowMargin);
     finestra->addLayout(DisponiScelte());
-    finestra->addWidget(riga);
+    finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(DisponiContatori());
     finestra->addStretch();
     finestra->addLayout(comandi);
 }
 
 QGridLayout* frmInvia::DisponiScelte() {
-    cmdFile->setMinimumHeight(26);
+    cmdFile->setMinimumHeight(ui::fieldHeight);
     cmdFile->setMaximumWidth(cmdFile->fontMetrics().horizontalAdvance("...") + 28);
     auto* file = new QHBoxLayout;
-    file->setSpacing(spazio);
+    file->setSpacing(ui::controlSpacing);
     file->addWidget(txtFile, 1);
     file->addWidget(cmdFile);
 
     auto* tempi = new QHBoxLayout;
-    tempi->setSpacing(spazio);
+    tempi->setSpacing(ui::controlSpacing);
     tempi->addWidget(cmbPausa);
-    tempi->addSpacing(2 * margine);
+    tempi->addSpacing(2 * ui::windowMargin);
     tempi->addWidget(lblTimeOut);
     tempi->addWidget(cmbTimeout);
     tempi->addStretch();
@@ -146,7 +130,7 @@ QGridLayout* frmInvia::DisponiScelte() {
         elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
 
     auto* blocco = new QHBoxLayout;
-    blocco->setSpacing(spazio);
+    blocco->setSpacing(ui::controlSpacing);
     blocco->addWidget(chkBlocco);
     blocco->addWidget(txtBloccoNum);
     blocco->addWidget(lblBlocco1);
@@ -159,8 +143,8 @@ QGridLayout* frmInvia::DisponiScelte() {
     }
 
     auto* scelte = new QGridLayout;
-    scelte->setHorizontalSpacing(spazio);
-    scelte->setVerticalSpacing(margine);
+    scelte->setHorizontalSpacing(ui::controlSpacing);
+    scelte->setVerticalSpacing(ui::windowMargin);
     scelte->setColumnStretch(1, 1);
     scelte->addWidget(lblFile, 0, 0);
     scelte->addLayout(file, 0, 1);
@@ -177,7 +161,7 @@ QGridLayout* frmInvia::DisponiContatori() {
     prgFallite->setBarColor(QColor(176, 42, 42));
     prgInviate->setBarColor(QColor(46, 107, 52));
     auto* contatori = new QGridLayout;
-    contatori->setSpacing(margine);
+    contatori->setSpacing(ui::windowMargin);
     contatori->setColumnStretch(1, 1);
     contatori->addWidget(lblDaInviare, 0, 0);
     contatori->addWidget(prgDaInviare, 0, 1);
@@ -191,7 +175,7 @@ QGridLayout* frmInvia::DisponiContatori() {
 void frmInvia::CollegaEtichette() {
     const auto collega = [](QLabel* etichetta, QWidget* controllo) {
         etichetta->setBuddy(controllo);
-        controllo->setAccessibleName(senzaSegni(etichetta->text()));
+        controllo->setAccessibleName(ui::spokenCaption(etichetta->text()));
     };
     collega(lblFile, txtFile);
     collega(lblMittente, cmbAccount);
@@ -207,7 +191,7 @@ void frmInvia::CollegaEtichette() {
     txtBloccoMin->setAccessibleName("Intervallo in minuti");
     for (QAbstractButton* pulsante :
          std::initializer_list<QAbstractButton*>{chkBlocco, chkLog, cmdInvia, cmdFerma, cmdChiudi})
-        pulsante->setAccessibleName(senzaSegni(pulsante->text()));
+        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
 }
 
 void frmInvia::CollegaEventi() {

@@ -9,16 +9,10 @@
 #include "core/bGlobal.h"
 #include "core/Evento.h"
 #include "platform/ado/Recordset.h"
+#include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
 #include "shell/bTheme.h"
 #include "store/frmDestinatario_campi.h"
-
-namespace {
-
-constexpr int margine = 12;
-constexpr int spazio = 8;
-
-}  // namespace
 
 frmDestinatario::frmDestinatario(QWidget* parent)
     : QDialog(parent),
@@ -76,24 +70,24 @@ void frmDestinatario::Disponi() {
     titolo.setPointSizeF(titolo.pointSizeF() * 1.2);
     lbl->setFont(titolo);
     auto* testata = new QHBoxLayout(pic);
-    testata->setContentsMargins(margine, 0, margine, 0);
-    testata->setSpacing(margine);
+    testata->setContentsMargins(ui::windowMargin, 0, ui::windowMargin, 0);
+    testata->setSpacing(ui::windowMargin);
     testata->addWidget(img);
     testata->addWidget(lbl, 1);
 
     auto* comandi = new QHBoxLayout;
-    comandi->setSpacing(spazio);
+    comandi->setSpacing(ui::controlSpacing);
     comandi->addStretch();
     for (QPushButton* pulsante : {cdmSalva, cmdAnnulla}) {
         pulsante->setAutoDefault(false);
-        pulsante->setMinimumSize(100, 28);
+        pulsante->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
         comandi->addWidget(pulsante);
     }
     cdmSalva->setDefault(true);
 
     auto* corpo = new QVBoxLayout;
-    corpo->setContentsMargins(margine, margine, margine, margine);
-    corpo->setSpacing(margine);
+    corpo->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    corpo->setSpacing(ui::windowMargin);
     corpo->addWidget(prp);
     corpo->addLayout(comandi);
     auto* finestra = new QVBoxLayout(this);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+class QFrame;
+class QWidget;
+
+/// What the windows have in common in their make-up.
+namespace ui {
+
+// Logical pixels.
+inline constexpr int windowMargin = 12;   ///< between a window's edge and its content
+inline constexpr int controlSpacing = 8;  ///< between controls that belong together
+inline constexpr int fieldHeight = 26;    ///< least height of a text box or list
+inline constexpr int buttonWidth = 100;   ///< least width of a command button
+inline constexpr int buttonHeight = 28;   ///< least height of a command button
+
+/// Gives a control its object name and returns it.
+template <class Control>
+Control* named(Control* control, const QString& name) {
+    control->setObjectName(name);
+    return control;
+}
+
+/// A caption as assistive programs say it: without the mark of its access key and without the colon.
+QString spokenCaption(QString caption);
+
+/// A thin line between two parts of a window, owned by the parent.
+QFrame* separatorLine(QWidget* parent);
+
+}  // namespace ui
