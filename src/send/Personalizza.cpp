@@ -58,8 +58,8 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
     for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
         if (!presenti[i] || !valori[i]) continue;
         modello.replace(segnaposto(i), *valori[i]);
-        presenti =
-            presentiIn(modello);  // the value may have brought others, or made one with the text around it
+        // The value may have brought others, or made one with the text around it.
+        presenti = presentiIn(modello);
     }
     return modello;
 }

@@ -78,14 +78,7 @@ qint32 frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     prosegui([&] { esigi(rs.open()); });
     prosegui([&] { esigi(rs.move(saltaRecord)); });
 
-    const LeggiColonna leggi = [&rs](const QString& colonna) -> Result<std::optional<QString>> {
-        const auto valore = rs.value(colonna);
-        if (!valore.ok()) return valore.status();
-        if (valore.value().isNull()) return std::optional<QString>();
-        auto testo = valore.value().toText();
-        if (!testo.ok()) return testo.status();
-        return std::optional(std::move(testo).value());
-    };
+    const LeggiColonna leggi = ColonneDi(rs);
     const ValoriSegnaposto valori = LeggiValori(leggi);
     for (QString* testo : {&SMTP->BodyHtml, &SMTP->BodyText, &SMTP->Subject})
         *testo = Personalizza(*testo, valori);
