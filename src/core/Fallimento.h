@@ -11,8 +11,7 @@
 ///              carry-on caller takes, or else the window event that started it all (see Evento.h), which
 ///              shows it and ends the program;
 ///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number
-///   and text
-///              are remembered and the next statement runs;
+///              and text are remembered and the next statement runs;
 ///   fall back: ripiega() gives a defined result instead.
 /// Above the platform nothing else catches or throws.
 
