@@ -1,0 +1,231 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <QList>
+#include <QPair>
+#include <QPoint>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+class QPrinter;
+
+/// Design and browse view of an HTML document.
+///
+/// The view keeps its text alone until it is first shown or first asked for something that only a browser
+/// knows (a command, a selection). Then the browser plug-in is loaded and the text put into it. Creating a
+/// view costs nothing and loads nothing; `QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts)` has to
+/// stand before the application object, or the plug-in cannot draw.
+///
+/// All calls are synchronous: they return when the browser's process has done the work. While they wait (at
+/// most a few seconds, ordinarily about a millisecond) timers and sockets go on and the user's input is held
+/// back. When the browser's process dies, it is started again with the text as it last stood; undo starts
+/// anew.
+///
+/// Safety: page scripts and event handlers never run, nothing is fetched from a network, images of local
+/// files and `data:` images show, links, forms, refreshes, frames and dropped files never lead the view away.
+///
+/// Threads: the application's own only. Ownership: a widget like any other.
+class HtmlView : public QWidget {
+    Q_OBJECT
+
+  public:
+    enum class Mode {
+        Design,  ///< the text can be edited
+        Browse   ///< the text can be read, selected and copied
+    };
+
+    /// Command numbers, as published for HTML editing controls.
+    enum Command : int {
+        Bold = 5000,
+        Copy = 5002,
+        Cut = 5003,
+        DeleteCols = 5006,
+        DeleteRows = 5007,
+        FindText = 5008,  ///< status only: call find()
+        GetFontName = 5013,
+        GetFontSize = 5014,
+        GetForeColor = 5015,
+        Hyperlink = 5016,  ///< status only: call setLink()
+        Image = 5017,      ///< status only: call insertImage()
+        Indent = 5018,
+        InsertCol = 5020,
+        InsertRow = 5021,
+        Italic = 5023,
+        JustifyCenter = 5024,
+        JustifyLeft = 5025,
+        JustifyRight = 5026,
+        OrderList = 5030,
+        Outdent = 5031,
+        Paste = 5032,
+        Redo = 5033,
+        SelectAll = 5035,
+        SetFontName = 5044,
+        SetFontSize = 5045,
+        SetForeColor = 5046,
+        Underline = 5048,
+        Undo = 5049,
+        UnorderList = 5051,
+        Properties = 5052  ///< status only: elementsAtCaret() and setElementAttributes()
+    };
+
+    /// What queryStatus() answers.
+    enum Status : int {
+        Unsupported = 0,
+        Disabled = 1,
+        Enabled = 3,
+        Latched = 7  ///< enabled, and the selection has it already (bold text, a centred paragraph)
+    };
+
+    enum class PageColor { Background, Text, Link, ActiveLink, VisitedLink };
+
+    enum FindFlag : unsigned { FindCaseSensitive = 1, FindBackwards = 2 };
+
+    using Attributes = QList<QPair<QString, QString>>;  ///< name and value, in the order of the document
+
+    struct Element {
+        QString tag;  ///< lower case
+        Attributes attributes;
+    };
+
+    struct ImageInfo {
+        QString source;  ///< path of a local file, or an address; placeholders stay as they are
+        QString alternativeText;
+        QString width;   ///< as written in the attribute ("120", "50%"), empty for none
+        QString height;  ///< likewise
+        QString align;   ///< "left", "right", "top", "middle", "bottom" or empty
+    };
+
+    explicit HtmlView(Mode mode, QWidget* parent = nullptr);
+    ~HtmlView() override;
+
+    // --- The document
+
+    /// The document in its one normal form, the same that HtmlDocument gives for it: lines end in LF as they
+    /// stand in the document, and a character that Windows-1252 does not hold is a numeric reference (in
+    /// style sheets a CSS escape).
+    QString documentHTML() const;
+
+    /// Replaces the document, the undo list and the selection (the caret is at the start). Any text is a
+    /// document. Ends in documentComplete(), during the call if the browser is there, else after it was
+    /// loaded.
+    void setDocumentHTML(const QString& html);
+
+    /// Replaces what is selected by the fragment and puts the caret behind it; undone as one step. False when
+    /// the view has no selection, in Browse mode, or when nothing was inserted.
+    bool insertHTML(const QString& fragment);
+
+    // --- Commands
+
+    /// Runs a command at the selection. The get commands answer a QString: the font's name ("Verdana"), its
+    /// size ("1" to "7"), its colour ("#rrggbb"), each empty where the selection is mixed. All others answer
+    /// whether they were done. SetFontName takes a name, SetFontSize "1" to "7", SetForeColor "#rrggbb"; with
+    /// nothing selected they hold for the text typed next. One undo step each.
+    QVariant execCommand(int command, const QString& value = QString());
+
+    /// State at the present selection, without asking the browser: as of the last displayChanged().
+    Status queryStatus(int command) const;
+    /// True where queryStatus() is Latched, and where it is Enabled or Latched.
+    bool commandState(int command) const { return queryStatus(command) == Latched; }
+    bool commandEnabled(int command) const { return queryStatus(command) >= Enabled; }
+
+    /// The selected text, as plain text; empty for a mere caret.
+    QString selectedText() const;
+
+    /// Selects the next occurrence from the selection on, round the end of the document if need be. False
+    /// when there is none.
+    bool find(const QString& text, unsigned flags = 0);
+
+    // --- Dialogs' needs
+
+    /// The selected image (it was clicked), for the image dialog; none for anything else.
+    std::optional<ImageInfo> selectedImage() const;
+    /// Inserts the image, or changes the selected one (its other attributes stay). A source that is an
+    /// absolute path becomes a file address. One undo step.
+    bool insertImage(const ImageInfo& image);
+
+    /// The address of the link that holds the selection, as written; empty without one.
+    QString linkAddress() const;
+    /// Makes the selection a link, or changes the address of the link that holds it; an empty address takes
+    /// the link away. With nothing selected and no link around, inserts `text` (the address where that is
+    /// empty) as a link. One undo step.
+    bool setLink(const QString& address, const QString& text = QString());
+
+    /// The elements that hold the selection, innermost first (a selected image or form field is the first),
+    /// up to and with the body.
+    QList<Element> elementsAtCaret() const;
+    /// Gives the element at `level` of elementsAtCaret() exactly these attributes. One undo step. False when
+    /// there is no such element or a name cannot be one.
+    bool setElementAttributes(int level, const Attributes& attributes);
+
+    // --- The page. These are no undo steps.
+
+    /// An attribute of the body as written; empty where it is not set. Names without regard to case.
+    QString bodyAttribute(const QString& name) const;
+    void setBodyAttribute(const QString& name, const QString& value);
+    void removeBodyAttribute(const QString& name);
+
+    /// A colour of the page as written in the body; where it is not set "#ffffff" for the background,
+    /// "#000000" for text,
+    /// "#0000ff" for links and active links, "#800080" for visited ones.
+    QString pageColor(PageColor color) const;
+    void setPageColor(PageColor color, const QString& value);
+
+    // --- Appearance. Neither touches the document; both stay on over setDocumentHTML().
+
+    /// Marks of the elements that cannot be seen (paragraphs, line breaks, blocks, forms).
+    void setShowDetails(bool on);
+    /// Dotted outlines around tables and cells that have no border of their own.
+    void setShowBorders(bool on);
+
+    // --- Printing
+
+    /// Prints the document. With `prompt` the user is asked first. False when the user declined or the
+    /// printing failed.
+    bool print(bool prompt);
+    /// The question that print(true) puts: may change the printer, false cancels. The default is the
+    /// desktop's print dialog.
+    void setPrintPrompt(std::function<bool(QPrinter&)> prompt);
+
+    // --- For windows and tests
+
+    /// The widget inside that has the focus, keys and mouse of the document, null before the browser was
+    /// loaded. Tests send their events to it. (setFocus() on the view works at any time.)
+    QWidget* inputWidget() const;
+    /// True once the browser is there and holds the document.
+    bool isLive() const;
+    /// Loads the browser now if it is not there, without showing anything.
+    void wake();
+    /// Runs a script of the program's own over the document (tests): the value of its last expression.
+    QVariant evaluate(const QString& script) const;
+
+  Q_SIGNALS:
+    /// A document that was set is there; commands work on it.
+    void documentComplete();
+    /// The selection, the document or the state of a command changed: read the states anew. At most once for
+    /// each turn of the event loop.
+    void displayChanged();
+    /// A key was released over the document. The keys of a stroke that was a shortcut of the window (Ctrl+S)
+    /// do not count.
+    void keyReleased();
+    /// The focus went from the document to another control of the same window.
+    void validated();
+    /// The right button was released, or the menu key pressed; a place on the screen.
+    void contextMenuRequested(const QPoint& globalPosition);
+    /// A double click over the document; the element under the pointer is at the head of elementsAtCaret().
+    void doubleClicked();
+    /// Something was dropped on the document and inserted.
+    void dropped();
+    /// The pointer came over the view.
+    void pointerEntered();
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+
+  private:
+    struct Live;
+    std::unique_ptr<Live> m_live;
+};
