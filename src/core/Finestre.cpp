@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "accounts/frmAccount.h"
+#include "import/frmScelta.h"
 #include "lang/bLANG.h"
 #include "send/frmInvia.h"
 #include "shell/frmInfoSu.h"
@@ -49,6 +50,10 @@ frmDestinatario& finestre::Destinatario() {
 
 frmInfoSu& finestre::InfoSu() {
     return dialogo<frmInfoSu>();
+}
+
+frmScelta& finestre::Scelta() {
+    return dialogo<frmScelta>();
 }
 
 frmSplash& finestre::Splash() {

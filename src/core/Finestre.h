@@ -5,6 +5,7 @@ class frmDestinatario;
 class frmInfoSu;
 class frmInvia;
 class frmMain;
+class frmScelta;
 class frmSplash;
 
 /// The references of the windows: each window exists once, is created when it is first named and is kept for
@@ -18,6 +19,7 @@ namespace finestre {
 ::frmInvia& Invia();
 ::frmDestinatario& Destinatario();
 ::frmInfoSu& InfoSu();
+::frmScelta& Scelta();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

@@ -8,6 +8,7 @@
 #include "accounts/frmAccount.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
+#include "import/frmScelta.h"
 #include "lang/bVAR.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
@@ -125,6 +126,10 @@ const Finestra finestreTradotte[] = {
      []() -> QWidget& { return finestre::Destinatario(); },
      false,
      {"cmdAnnulla", "cdmSalva"}},
+    {"frmScelta",
+     []() -> QWidget& { return finestre::Scelta(); },
+     true,
+     {"lbl", "opt(0)", "opt(1)", "cmdOK", "cmdAnnulla"}},
 };
 
 /// Sets the caption. The name for assistive programs follows, of the control itself or of the one that a

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include "accounts/frmAccount.h"
+#include "import/frmScelta.h"
 #include "lang/bLANG_chiavi.h"
 #include "lang/lang_stage.h"
 #include "platform/ui/CommandBars.h"
@@ -24,6 +25,7 @@ QWidget* windowOf(const QString& section) {
     if (section == "frmAccount") return &finestre::Account();
     if (section == "frmInvia") return &finestre::Invia();
     if (section == "frmDestinatario") return &finestre::Destinatario();
+    if (section == "frmScelta") return &finestre::Scelta();
     return nullptr;
 }
 
@@ -70,7 +72,7 @@ QMap<QString, QString> everyText() {
     };
     for (const auto& [name, text] : variables)
         note(text, "text", *text);
-    for (const char* section : {"frmMain", "frmAccount", "frmInvia", "frmDestinatario"}) {
+    for (const char* section : {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta"}) {
         const QWidget* window = windowOf(section);
         note(window, "title", window->windowTitle());
         for (const auto* dock : window->findChildren<QDockWidget*>())

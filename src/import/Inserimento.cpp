@@ -1,0 +1,34 @@
+#include "import/Inserimento.h"
+
+#include "core/bGlobal.h"
+#include "core/Fallimento.h"
+
+QString inserimento::Taglia(const QString& valore, Colonna colonna) {
+    return valore.left(limiti[colonna]);
+}
+
+QString inserimento::Istruzione(const QString& gruppo, const Valori& valori) {
+    QString istruzione =
+        "INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs, nom, piva, ind, cap, loc, prov, tel, fax, "
+        "campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9) VALUES (";
+    istruzione += gruppo;
+    istruzione += ", True";
+    for (const QString& valore : valori) {
+        istruzione += ", '";
+        istruzione += valore;
+        istruzione += '\'';
+    }
+    istruzione += ") ";
+    return istruzione;
+}
+
+void Inserimento::Prepara() {
+    esigi(comando.setActiveConnection(connDB));
+    comando.setCommandTimeout(0);
+    comando.setPrepared(false);
+}
+
+void Inserimento::Inserisci(const QString& gruppo, const inserimento::Valori& valori) {
+    comando.setCommandText(inserimento::Istruzione(gruppo, valori));
+    esigi(comando.execute());
+}

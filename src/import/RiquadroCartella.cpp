@@ -1,0 +1,49 @@
+#include "import/RiquadroCartella.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "core/Evento.h"
+#include "platform/ui/Controls.h"
+#include "shell/bTheme.h"
+
+RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent)
+    : QWidget(parent),
+      lbl(ui::named(new QLabel("Come vuoi inserire i nuovi destinatari?", this), nomeEtichetta)),
+      opt{ui::named(new QRadioButton("Aggiungi i destinatari nella cartella selezionata.", this), "opt(0)"),
+          ui::named(new QRadioButton("Aggiungi i destinatari in una nuova cartella.", this), "opt(1)")},
+      txtCartella(ui::named(new QLineEdit("Nuova cartella", this), "txtCartella")) {
+    opt[0]->setChecked(true);
+    txtCartella->setEnabled(false);
+    txtCartella->setMinimumHeight(ui::fieldHeight);
+    txtCartella->setAccessibleName("Nome della nuova cartella");
+    lbl->setBuddy(opt[0]);
+    for (QRadioButton* opzione : opt) {
+        opzione->setAccessibleName(ui::spokenCaption(opzione->text()));
+        opzione->setMinimumHeight(ui::fieldHeight);
+        QPalette tavolozza = opzione->palette();
+        tavolozza.setColor(QPalette::Window, coloreTema(0));
+        opzione->setPalette(tavolozza);
+        opzione->setAutoFillBackground(true);
+        connect(opzione, &QRadioButton::clicked, this, [this] { evento([this] { opt_Click(); }); });
+    }
+    auto* griglia = new QGridLayout(this);
+    griglia->setContentsMargins(0, 0, 0, 0);
+    griglia->setHorizontalSpacing(ui::controlSpacing);
+    griglia->setVerticalSpacing(ui::controlSpacing / 2);
+    griglia->setColumnStretch(1, 1);
+    griglia->addWidget(lbl, 0, 0, 1, 2);
+    griglia->addWidget(opt[0], 1, 0, 1, 2);
+    griglia->addWidget(opt[1], 2, 0);
+    griglia->addWidget(txtCartella, 2, 1);
+}
+
+void RiquadroCartella::opt_Click() {
+    txtCartella->setEnabled(opt[1]->isChecked());
+}
+
+cartella::Scelta RiquadroCartella::Scelta() const {
+    return {opt[0]->isChecked(), txtCartella->text()};
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <QWidget>
+
+#include "import/cartella.h"
+
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+/// The question into which group the new recipients go, as it stands in the windows of the imports: a
+/// label, two options, and the name of a new group, which can be changed while the second option is chosen.
+class RiquadroCartella : public QWidget {
+    Q_OBJECT
+
+  public:
+    RiquadroCartella(const QString& nomeEtichetta, QWidget* parent);
+
+    /// Both options at once: 0 the selected group, 1 a new one.
+    cartella::Scelta Scelta() const;
+
+  private:
+    void opt_Click();
+
+    QLabel* lbl;
+    std::array<QRadioButton*, 2> opt;
+    QLineEdit* txtCartella;
+};

@@ -1,0 +1,47 @@
+#include "import/cartella.h"
+
+#include "core/bGlobal.h"
+#include "core/Fallimento.h"
+#include "core/Finestre.h"
+#include "platform/ado/Recordset.h"
+#include "platform/ui/MessageDialog.h"
+#include "shell/frmMain.h"
+#include "store/frmGruppi.h"
+#include "store/nodo.h"
+
+void cartella::senzaGuardia(const std::function<void()>& istruzione) {
+    istruzione();
+}
+
+void cartella::Prepara(ado::Recordset& rs) {
+    rs.setCursorType(ado::CursorType::Keyset);
+    rs.setCursorLocation(ado::CursorLocation::Server);
+    rs.setLockType(ado::LockType::Optimistic);
+    esigi(rs.setActiveConnection(connDB));
+}
+
+namespace {
+
+QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Passo& passo) {
+    QString id = "0";
+    rs.setSource("SELECT * FROM [tb_gruppi];");
+    passo([&] { esigi(rs.open()); });
+    passo([&] { esigi(rs.addNew()); });
+    passo([&] { esigi(rs.setValue(u"id_up", 0)); });
+    passo([&] { esigi(rs.setValue(u"nome", nome)); });
+    passo([&] { id = esigi(esigi(rs.value(u"id")).toText()); });
+    passo([&] { esigi(rs.update()); });
+    rs.close();
+    passo([&] { finestre::Main().Gruppi().AggiungiNodo("K0", id, nome); });
+    return id;
+}
+
+}  // namespace
+
+std::optional<QString> cartella::Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,
+                                        const Passo& passo) {
+    if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo);
+    if (nodoCorrente) return NumeroNodo(nodoCorrente->Key);
+    ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");
+    return std::nullopt;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <QString>
+
+namespace ado {
+class Recordset;
+}
+
+/// Choosing the group ("cartella") that gets the rows of an import: the beginning of every import.
+namespace cartella {
+
+/// What the user said.
+struct Scelta {
+    bool selezionata = true;  ///< the current node; otherwise a new group
+    QString nuova;            ///< name of the new group
+};
+
+/// How an import meets the failure of one of its statements: `senzaGuardia`, or, for the carry-on kind,
+/// std::ref of its Prosegui.
+using Passo = std::function<void(const std::function<void()>& istruzione)>;
+void senzaGuardia(const std::function<void()>& istruzione);
+
+/// Prepares a recordset for the table of groups on the current database. Unguarded.
+void Prepara(ado::Recordset& rs);
+
+/// The number of the group that gets the rows, for the statement. The current node's; or that of a new group
+/// at the top level, which is in the table and on the tree when this returns. Empty, with nothing made, when
+/// the current node is wanted and there is none; the user has then read `avviso`.
+std::optional<QString> Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,
+                              const Passo& passo);
+
+/// The usual text of `avviso`.
+inline const QString avvisoCartella =
+    QStringLiteral("Selezionare una cartella dove aggiungere i destinatari.");
+
+}  // namespace cartella

@@ -1,0 +1,57 @@
+#include "import/frmScelta.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "core/Evento.h"
+#include "import/RiquadroCartella.h"
+#include "platform/ui/Controls.h"
+#include "shell/bTheme.h"
+
+frmScelta::frmScelta(QWidget* parent)
+    : QDialog(parent),
+      riquadro((RilevaTema(this), new RiquadroCartella("lbl", this))),
+      cmdOK(ui::named(new QPushButton("&OK", this), "cmdOK")),
+      cmdAnnulla(ui::named(new QPushButton("&Annulla", this), "cmdAnnulla")) {
+    setObjectName("frmScelta");
+    setWindowTitle(" Nuovi destinatari");
+    auto* comandi = new QHBoxLayout;
+    comandi->setSpacing(ui::controlSpacing);
+    comandi->addStretch();
+    for (QPushButton* pulsante : {cmdOK, cmdAnnulla}) {
+        pulsante->setAutoDefault(false);
+        pulsante->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
+        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
+        comandi->addWidget(pulsante);
+    }
+    cmdOK->setDefault(true);
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::windowMargin);
+    finestra->addWidget(riquadro);
+    finestra->addStretch();
+    finestra->addLayout(comandi);
+    connect(cmdOK, &QPushButton::clicked, this, [this] { evento([this] { cmdOK_Click(); }); });
+    connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { cmdAnnulla_Click(); }); });
+    resize(440, 190);
+}
+
+void frmScelta::cmdOK_Click() {
+    cartellaSelezionata = Scelta().selezionata;
+    sceltaAnnullata = false;
+    hide();
+}
+
+void frmScelta::cmdAnnulla_Click() {
+    sceltaAnnullata = true;
+    hide();
+}
+
+cartella::Scelta frmScelta::Scelta() const {
+    return riquadro->Scelta();
+}
+
+void frmScelta::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
