@@ -15,11 +15,12 @@
 #include "send/frmInvia.h"
 #include "send/Porta.h"
 #include "send/Selezione.h"
+#include "store/RecordsetDB.h"
 
 using ui::MessageDialog;
 
 void frmInvia::SetPrgBar() {
-    ado::Recordset rs = RecordsetSelezione();
+    ado::Recordset rs = RecordsetDB();
     const auto conto = static_cast<double>(ContaSelezionati(rs));
     for (ui::ProgressCounter* contatore : {prgDaInviare, prgFallite, prgInviate})
         contatore->setMaximum(conto);

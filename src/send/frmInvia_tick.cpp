@@ -16,7 +16,7 @@
 #include "send/frmInvia.h"
 #include "send/Personalizza.h"
 #include "send/Porta.h"
-#include "send/Selezione.h"
+#include "store/RecordsetDB.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ void frmInvia::tmr_Timer() {
 qint32 frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     qint32 idDestinatario = 0;
     ado::Recordset rs;
-    prosegui([&] { rs = RecordsetSelezione(); });
+    prosegui([&] { rs = RecordsetDB(); });
     rs.setSource(
         "SELECT * FROM [tb_destinatari] WHERE [sel] = True "
         "ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind ASC;");

@@ -10,6 +10,7 @@
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "core/Prodotto.h"
+#include "import/frmImpTXT.h"
 #include "lang/bLANG_applica.h"
 #include "lang/bVAR.h"
 #include "platform/system/ProgramFolder.h"
@@ -20,6 +21,7 @@
 #include "shell/frmMain.h"
 #include "store/frmGruppi_comandi.h"
 #include "store/griglia.h"
+#include "store/RecordsetDB.h"
 
 struct frmMain::RigaComando {
     const char* nome;
@@ -53,7 +55,7 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdEditor", [](frmMain&, Accesso&) {}},
     {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
     {"cmdMailingApri", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingApri(accesso); }},
-    {"cmdMailingImpTXT", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpTXT", [](frmMain&, Accesso&) { finestre::ImpTXT().exec(); }},
     {"cmdMailingImpOE", [](frmMain&, Accesso&) {}},
     {"cmdMailingImpMSO", [](frmMain&, Accesso&) {}},
     {"cmdMailingImpDB", [](frmMain&, Accesso&) {}},
@@ -82,7 +84,7 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
 namespace {
 
 AccessoComando creaAccesso() {
-    AccessoComando accesso{RecordsetSelezione(), {}};
+    AccessoComando accesso{RecordsetDB(), {}};
     esigi(accesso.comando.setActiveConnection(connDB));
     accesso.comando.setCommandTimeout(0);
     accesso.comando.setPrepared(false);

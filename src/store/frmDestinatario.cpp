@@ -6,13 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/bGlobal.h"
 #include "core/Evento.h"
-#include "platform/ado/Recordset.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
 #include "shell/bTheme.h"
 #include "store/frmDestinatario_campi.h"
+#include "store/RecordsetDB.h"
 
 frmDestinatario::frmDestinatario(QWidget* parent)
     : QDialog(parent),
@@ -104,11 +103,7 @@ void frmDestinatario::PulisciCampi() {
 }
 
 void frmDestinatario::CaricaUser(std::int32_t id) {
-    ado::Recordset rs;
-    esigi(rs.setActiveConnection(connDB));
-    rs.setCursorType(ado::CursorType::Static);
-    rs.setCursorLocation(ado::CursorLocation::Server);
-    rs.setLockType(ado::LockType::Optimistic);
+    ado::Recordset rs = RecordsetDB();
     rs.setSource("SELECT * FROM [tb_destinatari] WHERE id = " + QString::number(id) + " ;");
     esigi(rs.open());
     prp->Item("Spedire")->setValue(esigi(esigi(rs.value(u"sel")).toBool()));

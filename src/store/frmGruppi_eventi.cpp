@@ -3,22 +3,18 @@
 #include "core/Evento.h"
 #include "core/Finestre.h"
 #include "platform/ado/Command.h"
-#include "platform/ado/Recordset.h"
 #include "platform/ui/CommandBars.h"
 #include "shell/frmMain.h"
 #include "store/frmGruppi.h"
 #include "store/griglia.h"
 #include "store/nodo.h"
+#include "store/RecordsetDB.h"
 
 namespace {
 
 /// Changes one column of one group. A recordset carries the value, so a quote in a name is harmless.
 void ScriviGruppo(const QString& chiave, QStringView colonna, const ado::Value& valore) {
-    ado::Recordset rs;
-    esigi(rs.setActiveConnection(connDB));
-    rs.setCursorType(ado::CursorType::Static);
-    rs.setCursorLocation(ado::CursorLocation::Server);
-    rs.setLockType(ado::LockType::Optimistic);
+    ado::Recordset rs = RecordsetDB();
     rs.setSource("SELECT * FROM [tb_gruppi] WHERE id = " + NumeroNodo(chiave) + " ORDER BY nome ASC;");
     esigi(rs.open());
     esigi(rs.setValue(colonna, valore));
