@@ -6,6 +6,7 @@
 #include "core/Fallimento.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Connection.h"
+#include "platform/ado/ConnectionText.h"
 #include "platform/system/Shell.h"
 #include "platform/text/Blanks.h"
 #include "platform/text/TextFile.h"
@@ -61,8 +62,7 @@ QString NomeDaPercorso(const QString& percorso) {
 
 bool VerificaDatabase(const QString& percorso) {
     ado::Connection connessione;
-    esigi(connessione.open(QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + percorso +
-                           u';'));
+    esigi(connessione.open(ado::connectionPrefix + percorso + u';'));
     ado::Catalog catalogo;
     catalogo.setActiveConnection(connessione);
     bool destinatari = false;

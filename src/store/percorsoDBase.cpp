@@ -3,6 +3,7 @@
 #include "core/bGlobal.h"
 #include "core/bImpostazioni.h"
 #include "core/Fallimento.h"
+#include "platform/ado/ConnectionText.h"
 #include "platform/text/TextFile.h"
 
 namespace {
@@ -27,7 +28,7 @@ void CaricaPercorsoDBase() {
     prosegui([&] { esigi(file.readLine(intestazione)); });
     prosegui([&] { esigi(file.readLine(percorso)); });
     if (percorso == QLatin1String("XXX")) percorso = cartellaDati() + QStringLiteral("data.mdb");
-    prefissoConnDB = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ");
+    prefissoConnDB = ado::connectionPrefix;
     impostaPercorso(percorso);
 }
 

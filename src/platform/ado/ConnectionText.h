@@ -6,6 +6,9 @@
 
 namespace ado {
 
+/// What a connection text begins with; the path follows.
+inline const QString connectionPrefix = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ");
+
 /// What a connection text names: `Provider = Microsoft.Jet.OLEDB.4.0; Data Source = <path>`, optionally with
 /// `Jet OLEDB:Database Password`.
 struct ConnectionText {
