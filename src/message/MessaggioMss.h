@@ -24,8 +24,8 @@ void ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio);
 /// One row of the attachment block.
 struct AllegatoMss {
     QString percorso;  ///< without blanks at the ends
-    QString
-        nome;  ///< what stands behind the last slash or backslash; of a missing file with the row's blanks
+    /// What stands behind the last slash or backslash; of a missing file with the row's blanks.
+    QString nome;
     bool presente = false;
 };
 

@@ -11,8 +11,7 @@ namespace sys {
 /// The program folder, ending in "/". Decided at the first call and kept:
 ///   1. what setProgramFolder() or the environment variable VESTROLA_FOLDER says;
 ///   2. the folder of the program itself, where it can be written and is not an installed copy (a portable
-///   copy, the
-///      build tree);
+///      copy, the build tree);
 ///   3. the user's own folder "vestrola" under the XDG data home.
 /// In cases 2 and 3 a folder without "data" is filled from the templates; a failure of that leaves it as it
 /// is.
