@@ -13,8 +13,10 @@ namespace ado {
 
 namespace {
 
+/// At most one session for each file, or they would keep each other out.
 struct PoolEntry {
-    QString key;
+    QString path;
+    QString password;  ///< that opened it
     std::shared_ptr<Session> session;
 };
 
@@ -60,11 +62,17 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
     if (!parsed.ok()) return parsed.status();
     const ConnectionText& target = parsed.value();
     const QString canonical = QFileInfo(target.path).canonicalFilePath();
-    const QString key = canonical + QChar(0) + target.password;
     auto& entries = pool();
-    const auto known =
-        std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return entry.key == key; });
+    const auto known = std::find_if(entries.begin(), entries.end(),
+                                    [&](const auto& entry) { return entry.path == canonical; });
+    jet::Database::Options options;
+    options.password = target.password;
     if (known != entries.end()) {
+        if (known->password != target.password) {
+            known->session->commitGroup();
+            const auto probe = jet::Database::open(canonical, options);
+            if (!probe.ok()) return probe.status();
+        }
         const Status status = known->session->refresh();
         if (status.code() == ErrorCode::FileInUse) return status;
         if (status.ok()) {
@@ -73,18 +81,22 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
         }
         entries.erase(known);
     }
-    jet::Database::Options options;
-    options.password = target.password;
     auto database = jet::Database::open(canonical.isEmpty() ? target.path : canonical, options);
     if (!database.ok()) return database.status();
     std::shared_ptr<Session> session(new Session(std::move(database).value()));
     if (Status status = session->start(); !status.ok()) return status;
-    if (entries.size() == pooledSessions) entries.erase(entries.begin());
-    entries.push_back({key, session});
+    if (entries.size() >= pooledSessions) {
+        const auto idle = std::find_if(entries.begin(), entries.end(),
+                                       [](const auto& entry) { return entry.session.use_count() == 1; });
+        if (idle != entries.end()) entries.erase(idle);
+    }
+    entries.push_back({canonical, target.password, session});
     return session;
 }
 
 void Session::closeAll() {
+    for (const PoolEntry& entry : pool())
+        entry.session->commitGroup();
     pool().clear();
 }
 
@@ -184,19 +196,56 @@ Result<Prepared> Session::prepare(const QByteArray& sql) {
     return prepared;
 }
 
-Status Session::write(const std::function<Status()>& work) {
+Status Session::begin() {
     for (Rows* reader : m_readers)
         if (Status status = reader->finish(); !reader->ended()) return status;
     if (Status status = m_database->begin(); !status.ok()) return status;
     for (auto& [name, table] : m_tables)
         table->beginStatement();
     Status status = refresh();
-    if (status.ok()) status = work();
+    return status.ok() ? status : end(std::move(status));
+}
+
+/// Ends the transaction: with a commit after success, undone otherwise.
+Status Session::end(Status status) {
     if (status.ok()) status = m_database->commit();
     if (status.ok()) return status;
     if (m_database->inTransaction()) m_database->rollback();
     forget();
     return status;
+}
+
+Status Session::write(const std::function<Status()>& work) {
+    commitGroup();
+    if (Status status = begin(); !status.ok()) return status;
+    return end(work());
+}
+
+Status Session::insertInGroup(GroupProgress& group, const StatementText& statement) {
+    if (const auto target = table(statement.table); !target.ok()) return target.status();
+    const Result<Prepared> prepared = prepare(statement.sql);
+    if (!prepared.ok()) return prepared.status();
+    if (m_group != &group) {
+        commitGroup();
+        if (Status status = begin(); !status.ok()) return status;
+        m_group = &group;
+    }
+    if (sqlite3_step(prepared.value().get()) == SQLITE_DONE) {
+        ++group.taken;
+        return {};
+    }
+    Status failure = takeFailure();
+    sqlite3_reset(prepared.value().get());
+    commitGroup();
+    return failure;
+}
+
+void Session::commitGroup() {
+    if (!m_group) return;
+    GroupProgress& group = *std::exchange(m_group, nullptr);
+    group.failure = end({});
+    if (group.failure.ok()) group.committed += group.taken;
+    group.taken = 0;
 }
 
 int Session::fail(Status failure) {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <vector>
 
+#include "platform/ado/GroupedInserts.h"
 #include "platform/ado/JetTable.h"
 #include "platform/ado/StatementText.h"
 #include "platform/jet/Database.h"
@@ -47,6 +48,12 @@ class Session {
     /// Runs `work` as one transaction: durable when it succeeds, undone when it fails.
     Status write(const std::function<Status()>& work);
 
+    /// Runs an INSERT of one row inside the transaction of a group, which stays open when it succeeds; a row
+    /// that is refused ends the group with a commit of those before.
+    Status insertInGroup(GroupProgress& group, const StatementText& statement);
+    /// Ends the open group and tells its progress how that went.
+    void commitGroup();
+
     /// Open recordsets, so that they can pass all their rows before a write moves them.
     void enlist(Rows* rows) { m_readers.push_back(rows); }
     void delist(Rows* rows) { std::erase(m_readers, rows); }
@@ -65,6 +72,8 @@ class Session {
   private:
     explicit Session(std::unique_ptr<jet::Database> database) : m_database(std::move(database)) {}
     Status start();
+    Status begin();
+    Status end(Status status);
     Status declare(JetTable& table);
     void forget();
     static int authorize(void* session, int action, const char* first, const char* second,
@@ -77,6 +86,7 @@ class Session {
     JetTable* m_declaring = nullptr;
     Status m_failure;
     qint64 m_changes = 0;
+    GroupProgress* m_group = nullptr;  ///< of the open group
     bool m_outdated = false;
 };
 

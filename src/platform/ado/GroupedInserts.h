@@ -1,0 +1,76 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <QString>
+
+#include "platform/ado/Connection.h"
+#include "platform/Status.h"
+
+namespace ado {
+
+class Session;
+
+/// How far the rows of a group got.
+struct GroupProgress {
+    qint64 taken = 0;  ///< since the last commit
+    qint64 committed = 0;
+    Status failure;  ///< of the last commit, until it is told
+};
+
+/// Many `INSERT INTO … VALUES …` statements, one after the other, written to disk in groups: for imports,
+/// where a commit for each row would cost more than everything else.
+///
+///     ado::GroupedInserts inserts;
+///     inserts.setActiveConnection(connDB);
+///     for (…) inserts.execute(statement);   // a failure concerns that one statement
+///     inserts.commit();                     // or the destructor
+///
+/// What execute() has taken stands in the file for good only after the group's commit: committed() counts
+/// those rows, and only that number may be shown as "inserted". They survive a crash of the program and of
+/// the machine. Of the rows behind them a crash leaves none. Memory does not grow with the number of
+/// statements.
+///
+/// A group is committed when it holds groupSize() statements, when it is groupAge() old at the next execute(),
+/// when a row is refused, by commit(), by the destructor, and before anything else in this program writes to
+/// the database; recordsets in between see all rows. From the first statement of a group to its commit other
+/// programs can neither read nor write the file: call commit() before waiting for anything (a box, a slow
+/// source).
+class GroupedInserts {
+  public:
+    GroupedInserts();
+    ~GroupedInserts();  ///< commits; a failure of that is lost, so call commit() where it matters
+    GroupedInserts(const GroupedInserts&) = delete;
+    GroupedInserts& operator=(const GroupedInserts&) = delete;
+
+    /// Names the database, and opens it so that a missing or foreign file is told here.
+    Status setActiveConnection(const QString& connectionText);
+    Status setActiveConnection(const Connection& connection) {
+        return setActiveConnection(connection.text());
+    }
+
+    int groupSize() const { return m_groupSize; }
+    void setGroupSize(int statements) { m_groupSize = statements; }
+    std::chrono::milliseconds groupAge() const { return m_groupAge; }
+    void setGroupAge(std::chrono::milliseconds age) { m_groupAge = age; }
+
+    /// Takes one INSERT INTO … VALUES. Its failures are those of Command::execute(), besides NotSupported for
+    /// a statement of another kind; the statement then has done nothing, and the rows taken before it stay.
+    /// When the commit of a group fails, that failure is given once, here or by commit(), and none of the
+    /// group's rows stands in the file.
+    Status execute(const QString& statement);
+    /// Commits the rows taken since the last commit; nothing to do is success.
+    Status commit();
+    /// Rows that stand in the file for good.
+    qint64 committed() const { return m_progress.committed; }
+
+  private:
+    QString m_connection;
+    std::shared_ptr<Session> m_session;
+    int m_groupSize = 5000;
+    std::chrono::milliseconds m_groupAge{250};
+    std::chrono::steady_clock::time_point m_began;  ///< of the open group
+    GroupProgress m_progress;
+};
+
+}  // namespace ado
