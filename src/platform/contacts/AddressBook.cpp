@@ -1,0 +1,110 @@
+#include "platform/contacts/AddressBook.h"
+
+#include <algorithm>
+#include <iterator>
+#include <QDir>
+#include <QFile>
+
+#include "platform/contacts/Ldif.h"
+#include "platform/contacts/MailClientBook.h"
+#include "platform/contacts/VCard.h"
+#include "platform/system/ProgramFolder.h"
+#include "platform/text/AnsiCodec.h"
+#include "platform/text/TextFile.h"
+
+namespace contacts {
+
+namespace {
+
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
+
+QStringList cardFiles(const QString& folder) {
+    const QDir dir(folder);
+    QStringList paths;
+    for (const QString& name : dir.entryList({"*.vcf", "*.ldif"}, QDir::Files, QDir::Name)) {
+        paths.append(dir.filePath(name));
+    }
+    return paths;
+}
+
+std::vector<Card> readCardFile(const QString& path) {
+    QFile file;
+    if (!text::openForInput(file, path).ok()) return {};
+    const QByteArray bytes = file.read(largestFile + 1);
+    if (bytes.size() > largestFile) return {};
+    return path.endsWith(QLatin1String(".ldif"), Qt::CaseInsensitive) ? readLdif(bytes) : readVCards(bytes);
+}
+
+const QString* property(const Card& card, PropertyTag tag) {
+    switch (tag) {
+        case PropertyTag::DisplayName:
+            return &card.displayName;
+        case PropertyTag::EmailAddress:
+            return &card.emailAddress;
+        case PropertyTag::BusinessTelephoneNumber:
+            return &card.businessTelephone;
+        case PropertyTag::CompanyName:
+            return &card.companyName;
+        case PropertyTag::BusinessFaxNumber:
+            return &card.businessFax;
+        case PropertyTag::HomeAddressCity:
+            return &card.homeCity;
+        case PropertyTag::HomeAddressPostalCode:
+            return &card.homePostalCode;
+        case PropertyTag::HomeAddressStreet:
+            return &card.homeStreet;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+AddressBook::AddressBook(QString home, QString cardFolder)
+    : m_home(std::move(home)), m_cardFolder(std::move(cardFolder)) {}
+
+AddressBook::AddressBook()
+    : AddressBook(QDir::homePath(), sys::programFolder() + QStringLiteral("data/rubrica")) {}
+
+Status AddressBook::open() {
+    m_cards.clear();
+    Status status(ErrorCode::FileNotFound, QStringLiteral("Non c'è nessuna rubrica."));
+    if (const QString path = findMailClientBook(m_home); !path.isEmpty()) {
+        auto book = readMailClientBook(path);
+        status = book.status();
+        if (book.ok()) m_cards = std::move(book).value();
+    }
+    if (!m_cards.empty()) return {};
+    const QStringList paths = cardFiles(m_cardFolder);
+    for (const QString& path : paths) {
+        std::vector<Card> cards = readCardFile(path);
+        const std::size_t room = mostCards - m_cards.size();
+        if (cards.size() > room) cards.resize(room);
+        std::move(cards.begin(), cards.end(), std::back_inserter(m_cards));
+    }
+    return paths.isEmpty() ? status : Status();
+}
+
+int AddressBook::entries(std::span<Entry> array) const {
+    const std::size_t count = std::min(array.size(), m_cards.size());
+    for (std::size_t i = 0; i < count; ++i)
+        array[i].number = static_cast<std::uint32_t>(i + 1);
+    return static_cast<int>(count);
+}
+
+bool AddressBook::text(const Entry& entry, PropertyTag tag, std::span<char> buffer) const {
+    if (entry.number == 0 || entry.number > m_cards.size() || buffer.empty()) return false;
+    const QString* value = property(m_cards[entry.number - 1], tag);
+    if (value == nullptr) return false;
+    QByteArray bytes = text::toAnsi(*value);
+    bytes.truncate(bytes.indexOf('\0') < 0 ? bytes.size() : bytes.indexOf('\0'));
+    if (bytes.isEmpty()) return false;
+    bytes.truncate(static_cast<qsizetype>(buffer.size()) - 1);
+    std::fill(std::copy(bytes.begin(), bytes.end(), buffer.begin()), buffer.end(), '\0');
+    return true;
+}
+
+void AddressBook::freeEntries(std::span<Entry> array) const {
+    std::fill(array.begin(), array.end(), Entry());
+}
+
+}  // namespace contacts

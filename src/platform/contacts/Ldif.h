@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <vector>
+
+#include "platform/contacts/Card.h"
+
+namespace contacts {
+
+/// The entries of an LDIF file (RFC 2849), in its order. Attributes are those of inetOrgPerson (RFC 2798) and
+/// the home address of the Mozilla address book schema; of several values the first counts. Records that
+/// delete or change an entry, and values that lie behind a link, are passed over.
+std::vector<Card> readLdif(const QByteArray& file);
+
+}  // namespace contacts

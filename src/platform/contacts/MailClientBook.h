@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "platform/contacts/Card.h"
+#include "platform/Status.h"
+
+namespace contacts {
+
+/// The address book of the desktop's mail client: "abook.sqlite" in its profile folder, an SQLite database
+/// with the tables properties (card, name, value) and lists (name). A card lies as a vCard in its property
+/// "_vCard", or, written by older versions, in single properties.
+
+/// The book that was changed last among the profiles below the home folder; empty where there is none.
+QString findMailClientBook(const QString& home);
+
+/// The entries in the order in which they were added, then the lists, which are entries without an address.
+/// Reads a copy, so that the mail client may go on writing: what it committed last counts, and nothing beside
+/// the book is touched. FileNotFound, PathAccess, or UnrecognizedFormat for a file that is no such database,
+/// is larger than 512 MB or keeps the reader busy beyond reason.
+Result<std::vector<Card>> readMailClientBook(const QString& path);
+
+}  // namespace contacts
