@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "accounts/frmAccount.h"
+#include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG.h"
 #include "send/frmInvia.h"
@@ -54,6 +55,10 @@ frmInfoSu& finestre::InfoSu() {
 
 frmScelta& finestre::Scelta() {
     return dialogo<frmScelta>();
+}
+
+frmImpTXT& finestre::ImpTXT() {
+    return dialogo<frmImpTXT>();
 }
 
 frmSplash& finestre::Splash() {

@@ -2,6 +2,7 @@
 
 class frmAccount;
 class frmDestinatario;
+class frmImpTXT;
 class frmInfoSu;
 class frmInvia;
 class frmMain;
@@ -20,6 +21,7 @@ namespace finestre {
 ::frmDestinatario& Destinatario();
 ::frmInfoSu& InfoSu();
 ::frmScelta& Scelta();
+::frmImpTXT& ImpTXT();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

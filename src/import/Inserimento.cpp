@@ -3,8 +3,8 @@
 #include "core/bGlobal.h"
 #include "core/Fallimento.h"
 
-QString inserimento::Taglia(const QString& valore, Colonna colonna) {
-    return valore.left(limiti[colonna]);
+QString inserimento::Taglia(QStringView valore, Colonna colonna) {
+    return valore.left(limiti[colonna]).toString();
 }
 
 QString inserimento::Istruzione(const QString& gruppo, const Valori& valori) {
@@ -24,11 +24,12 @@ QString inserimento::Istruzione(const QString& gruppo, const Valori& valori) {
 
 void Inserimento::Prepara() {
     esigi(comando.setActiveConnection(connDB));
-    comando.setCommandTimeout(0);
-    comando.setPrepared(false);
 }
 
 void Inserimento::Inserisci(const QString& gruppo, const inserimento::Valori& valori) {
-    comando.setCommandText(inserimento::Istruzione(gruppo, valori));
-    esigi(comando.execute());
+    esigi(comando.execute(inserimento::Istruzione(gruppo, valori)));
+}
+
+void Inserimento::Conferma() {
+    esigi(comando.commit());
 }

@@ -3,7 +3,7 @@
 #include <array>
 #include <QString>
 
-#include "platform/ado/Command.h"
+#include "platform/ado/GroupedInserts.h"
 
 /// What the imports have in common when they write: one INSERT statement for each recipient.
 namespace inserimento {
@@ -40,7 +40,7 @@ inline constexpr std::array<int, numeroColonne> limiti{255, 70,  70,  15,  255, 
 using Valori = std::array<QString, numeroColonne>;
 
 /// The value as far as its column takes it.
-QString Taglia(const QString& valore, Colonna colonna);
+QString Taglia(QStringView valore, Colonna colonna);
 
 /// The statement that inserts a recipient, selected for sending, into the group of that number. Values go in
 /// as they are, without any quoting: one with a single quote makes the statement invalid.
@@ -48,15 +48,18 @@ QString Istruzione(const QString& gruppo, const Valori& valori);
 
 }  // namespace inserimento
 
-/// The prepared command of one import.
+/// The prepared command of one import. Rows are written to disk in groups: a crash of the program loses at
+/// most those of the last moments, while whatever else uses the database in this program sees them all.
 class Inserimento {
   public:
-    /// Text command without time-out on the current database. Unguarded.
+    /// Prepares the command on the current database. Unguarded.
     void Prepara();
     /// Inserts one recipient. Unguarded: a row that is refused leaves those before it and the database as
     /// they are.
     void Inserisci(const QString& gruppo, const inserimento::Valori& valori);
+    /// Sees the last rows safely to disk, as the destructor does. Unguarded.
+    void Conferma();
 
   private:
-    ado::Command comando;
+    ado::GroupedInserts comando;
 };

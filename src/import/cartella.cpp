@@ -13,13 +13,6 @@ void cartella::senzaGuardia(const std::function<void()>& istruzione) {
     istruzione();
 }
 
-void cartella::Prepara(ado::Recordset& rs) {
-    rs.setCursorType(ado::CursorType::Keyset);
-    rs.setCursorLocation(ado::CursorLocation::Server);
-    rs.setLockType(ado::LockType::Optimistic);
-    esigi(rs.setActiveConnection(connDB));
-}
-
 namespace {
 
 QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Passo& passo) {

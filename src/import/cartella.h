@@ -22,10 +22,8 @@ struct Scelta {
 using Passo = std::function<void(const std::function<void()>& istruzione)>;
 void senzaGuardia(const std::function<void()>& istruzione);
 
-/// Prepares a recordset for the table of groups on the current database. Unguarded.
-void Prepara(ado::Recordset& rs);
-
-/// The number of the group that gets the rows, for the statement. The current node's; or that of a new group
+/// The number of the group that gets the rows, for the statement; `rs` is a recordset on the current database
+/// as RecordsetDB() makes it. The current node's; or that of a new group
 /// at the top level, which is in the table and on the tree when this returns. Empty, with nothing made, when
 /// the current node is wanted and there is none; the user has then read `avviso`.
 std::optional<QString> Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,

@@ -12,19 +12,15 @@
 frmScelta::frmScelta(QWidget* parent)
     : QDialog(parent),
       riquadro((RilevaTema(this), new RiquadroCartella("lbl", this))),
-      cmdOK(ui::named(new QPushButton("&OK", this), "cmdOK")),
-      cmdAnnulla(ui::named(new QPushButton("&Annulla", this), "cmdAnnulla")) {
+      cmdOK(ui::commandButton("&OK", "cmdOK", this)),
+      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
     setObjectName("frmScelta");
     setWindowTitle(" Nuovi destinatari");
     auto* comandi = new QHBoxLayout;
     comandi->setSpacing(ui::controlSpacing);
     comandi->addStretch();
-    for (QPushButton* pulsante : {cmdOK, cmdAnnulla}) {
-        pulsante->setAutoDefault(false);
-        pulsante->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
-        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
-        comandi->addWidget(pulsante);
-    }
+    comandi->addWidget(cmdOK);
+    comandi->addWidget(cmdAnnulla);
     cmdOK->setDefault(true);
     auto* finestra = new QVBoxLayout(this);
     finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);

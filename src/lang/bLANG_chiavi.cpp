@@ -4,10 +4,13 @@
 #include <QAction>
 #include <QHash>
 #include <QLabel>
+#include <QLineEdit>
 
 #include "accounts/frmAccount.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
+#include "import/campi.h"
+#include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bVAR.h"
 #include "platform/ui/CommandBars.h"
@@ -108,6 +111,7 @@ struct Finestra {
     QWidget& (*istanza)();
     bool conTitolo;  ///< whether the window's own caption has a key
     std::initializer_list<const char*> didascalie;
+    bool conCampi = false;  ///< the labels of the 19 boxes, and the name of a new group
 };
 
 const Finestra finestreTradotte[] = {
@@ -130,6 +134,11 @@ const Finestra finestreTradotte[] = {
      []() -> QWidget& { return finestre::Scelta(); },
      true,
      {"lbl", "opt(0)", "opt(1)", "cmdOK", "cmdAnnulla"}},
+    {"frmImpTXT",
+     []() -> QWidget& { return finestre::ImpTXT(); },
+     true,
+     {"lbl(0)", "lbl(1)", "lbl(2)", "opt(0)", "opt(1)", "cmdSfoglia", "cmdImportaTXT", "cmdChiudi"},
+     true},
 };
 
 /// Sets the caption. The name for assistive programs follows, of the control itself or of the one that a
@@ -197,6 +206,21 @@ void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra) {
             [istanza = finestra.istanza](const QString& testo) { istanza().setWindowTitle(testo); };
 }
 
+/// What the windows of the imports have in common.
+void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra) {
+    for (int i = 0; i < campi::quanti; ++i) {
+        const QString nome = QStringLiteral("lblcmp(%1)").arg(i);
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = [istanza = finestra.istanza,
+                                                                            nome](const QString& testo) {
+            impostaDidascalia(istanza(), nome, testo);
+        };
+    }
+    chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] =
+        [istanza = finestra.istanza](const QString& testo) {
+            istanza().findChild<QLineEdit*>("txtCartella")->setText(testo);
+        };
+}
+
 void aggiungiGruppiDestinatario(Chiavi& chiavi) {
     for (const char* voce : {"Datidestinatario", "altro"})
         chiavi[QStringLiteral("frmDestinatario.prp.Item(\"%1\").Caption").arg(voce)] =
@@ -208,8 +232,10 @@ const Chiavi& tutteLeChiavi() {
         Chiavi nuove;
         aggiungiVariabili(nuove);
         aggiungiMain(nuove);
-        for (const Finestra& finestra : finestreTradotte)
+        for (const Finestra& finestra : finestreTradotte) {
             aggiungiFinestra(nuove, finestra);
+            if (finestra.conCampi) aggiungiCampi(nuove, finestra);
+        }
         aggiungiGruppiDestinatario(nuove);
         return nuove;
     }();

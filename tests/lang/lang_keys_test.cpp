@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include "accounts/frmAccount.h"
+#include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG_chiavi.h"
 #include "lang/lang_stage.h"
@@ -26,6 +27,7 @@ QWidget* windowOf(const QString& section) {
     if (section == "frmInvia") return &finestre::Invia();
     if (section == "frmDestinatario") return &finestre::Destinatario();
     if (section == "frmScelta") return &finestre::Scelta();
+    if (section == "frmImpTXT") return &finestre::ImpTXT();
     return nullptr;
 }
 
@@ -47,6 +49,7 @@ QString valueOf(const QString& key) {
     if (!window) return QString();
     const QString rest = key.section('.', 1);
     if (rest == "Caption") return window->windowTitle();
+    if (rest == "txtCartella.Text") return window->findChild<QLineEdit*>("txtCartella")->text();
     static const QRegularExpression named("^(.*)\\(\"(.+)\"\\)\\.(Caption|Description|Text)$");
     const auto parts = named.match(rest);
     if (!parts.hasMatch())
@@ -72,7 +75,8 @@ QMap<QString, QString> everyText() {
     };
     for (const auto& [name, text] : variables)
         note(text, "text", *text);
-    for (const char* section : {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta"}) {
+    for (const char* section :
+         {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta", "frmImpTXT"}) {
         const QWidget* window = windowOf(section);
         note(window, "title", window->windowTitle());
         for (const auto* dock : window->findChildren<QDockWidget*>())

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QFrame;
+class QPushButton;
 class QWidget;
 
 /// What the windows have in common in their make-up.
@@ -24,6 +25,9 @@ Control* named(Control* control, const QString& name) {
 
 /// A caption as assistive programs say it: without the mark of its access key and without the colon.
 QString spokenCaption(QString caption);
+
+/// A command button of a dialog, which presses it by the Enter key only where it is made the default one.
+QPushButton* commandButton(const QString& caption, const QString& name, QWidget* parent);
 
 /// A thin line between two parts of a window, owned by the parent.
 QFrame* separatorLine(QWidget* parent);

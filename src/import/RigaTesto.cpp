@@ -1,0 +1,49 @@
+#include "import/RigaTesto.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/bFunctions.h"
+#include "core/Fallimento.h"
+
+namespace {
+
+/// The first `quanti` fields of the line: whatever stands behind them is not even looked for.
+std::vector<QStringView> primiCampi(QStringView riga, QStringView separatore, int quanti) {
+    std::vector<QStringView> trovati;
+    if (riga.isEmpty()) return trovati;
+    while (static_cast<int>(trovati.size()) < quanti) {
+        const qsizetype fine = separatore.isEmpty() ? -1 : riga.indexOf(separatore);
+        trovati.push_back(fine < 0 ? riga : riga.first(fine));
+        if (fine < 0) break;
+        riga = riga.sliced(fine + separatore.size());
+    }
+    return trovati;
+}
+
+QString pulito(QStringView campo, inserimento::Colonna colonna) {
+    return PulisciValore(inserimento::Taglia(campo, colonna));
+}
+
+}  // namespace
+
+std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga) const {
+    const std::vector<QStringView> trovati =
+        primiCampi(riga, separatore, *std::max_element(posizioni.begin(), posizioni.end()));
+    const auto esiste = [&](int posizione) {
+        return posizione >= 1 && posizione <= static_cast<int>(trovati.size());
+    };
+    const auto campo = [&](int box) {
+        return pulito(trovati[static_cast<std::size_t>(posizioni[static_cast<std::size_t>(box)] - 1)],
+                      campi::colonne[static_cast<std::size_t>(box)]);
+    };
+    if (!esiste(posizioni[campi::boxEmail])) fallisci(ErrorCode::SubscriptOutOfRange);
+    inserimento::Valori valori;
+    valori[inserimento::email] = campo(campi::boxEmail);
+    if (!EmailValida(valori[inserimento::email])) return std::nullopt;
+    for (int box = 0; box < campi::quanti; ++box) {
+        const auto indice = static_cast<std::size_t>(box);
+        if (box != campi::boxEmail && esiste(posizioni[indice])) valori[campi::colonne[indice]] = campo(box);
+    }
+    return valori;
+}

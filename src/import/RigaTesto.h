@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "import/campi.h"
+
+/// One line of a delimited text file. Quotes around fields are not understood: a separator splits wherever
+/// it stands.
+struct RigaTesto {
+    /// How many fields of a line can be chosen.
+    static constexpr int campiOfferti = 18;
+
+    /// What stands between two fields, compared with case; an empty one leaves the line whole.
+    QString separatore;
+    /// For each box the field that feeds its column, counted from 1; 0 for none.
+    std::array<int, campi::quanti> posizioni{};
+
+    /// The cleaned values of a line, cut to their limits beforehand. None when its address is refused.
+    /// Unguarded: fails with SubscriptOutOfRange when the line has no field for the address; an empty line
+    /// has no field at all.
+    std::optional<inserimento::Valori> Leggi(const QString& riga) const;
+};

@@ -1,0 +1,73 @@
+#include "import/RiquadroCampi.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "platform/ui/Controls.h"
+
+namespace {
+
+constexpr int colonneGriglia = 5;
+
+// By the number of the label.
+constexpr std::array<const char*, campi::quanti> testi{
+    "Ragione Sociale:", "Nome:",     "Email:",   "P.Iva o Cod.Fis.:", "Indirizzo:", "CAP:",     "Località:",
+    "Provincia:",       "Telefono:", "Fax:",     "Campo 1:",          "Campo 2:",   "Campo 3:", "Campo 4:",
+    "Campo 5:",         "Campo 6:",  "Campo 7:", "Campo 8:",          "Campo 9:"};
+
+void segnaObbligatorio(QComboBox& box) {
+    const QColor giallo(255, 255, 204);
+    QPalette tavolozza = box.palette();
+    for (const auto ruolo : {QPalette::Base, QPalette::Button})
+        tavolozza.setColor(ruolo, giallo);
+    box.setPalette(tavolozza);
+    box.setAccessibleDescription("obbligatorio");
+}
+
+}  // namespace
+
+RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent) {
+    auto* griglia = new QGridLayout(this);
+    griglia->setContentsMargins(0, 0, 0, 0);
+    griglia->setHorizontalSpacing(ui::controlSpacing);
+    griglia->setVerticalSpacing(ui::controlSpacing / 4);
+    for (int i = 0; i < campi::quanti; ++i) {
+        const int numero = campi::etichette[static_cast<std::size_t>(i)];
+        auto* etichetta = ui::named(new QLabel(testi[static_cast<std::size_t>(numero)], this),
+                                    QString("lblcmp(%1)").arg(numero));
+        auto* box = ui::named(new QComboBox(this), QString("cmbCmp(%1)").arg(i));
+        box->setMinimumHeight(ui::fieldHeight);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(9);
+        box->setAccessibleName(ui::spokenCaption(etichetta->text()));
+        etichetta->setBuddy(box);
+        lblcmp[static_cast<std::size_t>(numero)] = etichetta;
+        boxes[static_cast<std::size_t>(i)] = box;
+        const int riga = i / colonneGriglia * 3;
+        griglia->addWidget(etichetta, riga, i % colonneGriglia);
+        griglia->addWidget(box, riga + 1, i % colonneGriglia);
+        if (riga > 0) griglia->setRowMinimumHeight(riga - 1, ui::controlSpacing / 2);
+    }
+    for (int colonna = 0; colonna < colonneGriglia; ++colonna)
+        griglia->setColumnStretch(colonna, 1);
+    segnaObbligatorio(cmbCmp(campi::boxEmail));
+}
+
+void RiquadroCampi::Svuota() {
+    for (QComboBox* box : boxes)
+        box->clear();
+}
+
+void RiquadroCampi::Aggiungi(const QString& voce) {
+    for (QComboBox* box : boxes)
+        box->addItem(voce);
+}
+
+void RiquadroCampi::ScegliPrima() {
+    for (QComboBox* box : boxes) {
+        box->setCurrentIndex(0);
+        box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + 2 * ui::windowMargin);
+    }
+}

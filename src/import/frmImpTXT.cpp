@@ -1,0 +1,140 @@
+#include "import/frmImpTXT.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScopeGuard>
+
+#include "core/Evento.h"
+#include "core/Puntatore.h"
+#include "import/RigaTesto.h"
+#include "import/RiquadroCampi.h"
+#include "import/RiquadroCartella.h"
+#include "platform/text/TextFile.h"
+#include "platform/ui/Busy.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/FileDialog.h"
+#include "shell/bTheme.h"
+#include "store/RecordsetDB.h"
+
+frmImpTXT::frmImpTXT(QWidget* parent)
+    : QDialog(parent),
+      lblPercorso(ui::named(new QLabel("Percorso file di testo:", this), "lbl(0)")),
+      txtPath(ui::named(new QLineEdit(this), "txtPath")),
+      cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
+      lblSeparatore(ui::named(new QLabel("Separatore campi:", this), "lbl(1)")),
+      txtSep(ui::named(new QLineEdit(this), "txtSep")),
+      riquadroCampi((RilevaTema(this), new RiquadroCampi(this))),
+      riquadroCartella(new RiquadroCartella("lbl(2)", this)),
+      cmdImportaTXT(ui::commandButton("&Importa destinatari", "cmdImportaTXT", this)),
+      cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
+    setObjectName("frmImpTXT");
+    setWindowTitle(" Importa destinatari da file di testo");
+    Disponi();
+    CollegaEventi();
+    Carica();
+    resize(700, 440);
+}
+
+void frmImpTXT::Disponi() {
+    for (const auto& [etichetta, casella] : {std::pair{lblPercorso, txtPath}, {lblSeparatore, txtSep}}) {
+        etichetta->setBuddy(casella);
+        casella->setAccessibleName(ui::spokenCaption(etichetta->text()));
+        casella->setMinimumHeight(ui::fieldHeight);
+    }
+    txtSep->setMaximumWidth(56);
+    auto* sorgente = new QGridLayout;
+    sorgente->setSpacing(ui::controlSpacing);
+    sorgente->addWidget(lblPercorso, 0, 0);
+    sorgente->addWidget(txtPath, 0, 1);
+    sorgente->addWidget(cmdSfoglia, 0, 2);
+    sorgente->addWidget(lblSeparatore, 1, 0);
+    sorgente->addWidget(txtSep, 1, 1);
+    auto* comandi = new QHBoxLayout;
+    comandi->setSpacing(ui::controlSpacing);
+    comandi->addStretch();
+    comandi->addWidget(cmdImportaTXT);
+    comandi->addWidget(cmdChiudi);
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::windowMargin);
+    finestra->addLayout(sorgente);
+    finestra->addWidget(riquadroCampi);
+    finestra->addWidget(ui::separatorLine(this));
+    finestra->addWidget(riquadroCartella);
+    finestra->addStretch();
+    finestra->addLayout(comandi);
+}
+
+void frmImpTXT::CollegaEventi() {
+    const auto alClick = [this](QPushButton* pulsante, void (frmImpTXT::*gestore)()) {
+        connect(pulsante, &QPushButton::clicked, this,
+                [this, gestore] { evento([&] { (this->*gestore)(); }); });
+    };
+    alClick(cmdSfoglia, &frmImpTXT::cmdSfoglia_Click);
+    alClick(cmdImportaTXT, &frmImpTXT::cmdImportaTXT_Click);
+    connect(cmdChiudi, &QPushButton::clicked, this, &QWidget::hide);
+    connect(&riquadroCampi->cmbCmp(campi::boxEmail), &QComboBox::currentIndexChanged, this,
+            [this] { evento([this] { cmbCmp_Click(); }); });
+}
+
+void frmImpTXT::Carica() {
+    riquadroCampi->Aggiungi(campi::nessuno);
+    for (int n = 1; n <= RigaTesto::campiOfferti; ++n)
+        riquadroCampi->Aggiungi("Campo n." + QString::number(n));
+    riquadroCampi->ScegliPrima();
+    cmbCmp_Click();
+    txtPath->clear();
+    txtSep->setText(";");
+}
+
+void frmImpTXT::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmImpTXT::cmdSfoglia_Click() {
+    const auto percorso = ui::FileDialog::open("Apri Database Access", "File di Testo (*.TXT)|*.TXT");
+    if (percorso) txtPath->setText(*percorso);
+}
+
+void frmImpTXT::cmbCmp_Click() {
+    const bool scelto = riquadroCampi->cmbCmp(campi::boxEmail).currentIndex() >= 1;
+    cmdImportaTXT->setEnabled(scelto);
+    (scelto ? cmdImportaTXT : cmdSfoglia)->setDefault(true);
+}
+
+RigaTesto frmImpTXT::Regola() const {
+    RigaTesto regola;
+    regola.separatore = txtSep->text();
+    for (int i = 0; i < campi::quanti; ++i)
+        regola.posizioni[static_cast<std::size_t>(i)] = riquadroCampi->cmbCmp(i).currentIndex();
+    return regola;
+}
+
+void frmImpTXT::cmdImportaTXT_Click() {
+    ado::Recordset rs = RecordsetDB();
+    Inserimento inserimento;
+    inserimento.Prepara();
+    const auto gruppo =
+        cartella::Scegli(riquadroCartella->Scelta(), rs, cartella::avvisoCartella, cartella::senzaGuardia);
+    if (!gruppo) return;
+
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    ui::Busy lavoro;
+    text::LineReader file;
+    esigi(file.open(txtPath->text(), text::LineEnds::Any));
+    const RigaTesto regola = Regola();
+    QString riga;
+    while (!file.atEnd()) {
+        esigi(file.readLine(riga));
+        if (const auto valori = regola.Leggi(riga)) inserimento.Inserisci(*gruppo, *valori);
+        lavoro.breathe();
+    }
+    esigi(file.status());
+    inserimento.Conferma();
+    hide();
+}

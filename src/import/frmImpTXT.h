@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class RiquadroCampi;
+class RiquadroCartella;
+struct RigaTesto;
+
+/// The window of the text import: one recipient for each line of a delimited text file that holds a valid
+/// address. It stays loaded and keeps its fields between imports; it is left by cmdChiudi, or by an import
+/// that went through.
+class frmImpTXT : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmImpTXT(QWidget* parent = nullptr);
+
+    void reject() override {}
+
+  protected:
+    void closeEvent(QCloseEvent* chiusura) override;
+
+  private:
+    void Carica();
+    void Disponi();
+    void CollegaEventi();
+    void cmdSfoglia_Click();
+    void cmbCmp_Click();
+    void cmdImportaTXT_Click();
+    RigaTesto Regola() const;
+
+    QLabel* lblPercorso;
+    QLineEdit* txtPath;
+    QPushButton* cmdSfoglia;
+    QLabel* lblSeparatore;
+    QLineEdit* txtSep;
+    RiquadroCampi* riquadroCampi;
+    RiquadroCartella* riquadroCartella;
+    QPushButton* cmdImportaTXT;
+    QPushButton* cmdChiudi;
+};

@@ -1,0 +1,49 @@
+#include "platform/ui/Busy.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace ui {
+
+Busy::Busy() {
+    QCoreApplication::instance()->installEventFilter(this);
+    m_sinceBreath.start();
+}
+
+Busy::~Busy() {
+    QCoreApplication::processEvents();
+}
+
+void Busy::breathe() {
+    constexpr qint64 milliseconds = 100;
+    if (m_sinceBreath.elapsed() < milliseconds) return;
+    QCoreApplication::processEvents();
+    m_sinceBreath.restart();
+}
+
+bool Busy::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+        case QEvent::ContextMenu:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease:
+        case QEvent::Drop:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace ui

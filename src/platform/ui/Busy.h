@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+
+namespace ui {
+
+/// One long piece of work that nothing may interrupt. While it lasts, windows go on being painted and answer
+/// the desktop's question whether they are alive, but clicks, keys and the like are thrown away, also those
+/// that wait at its end.
+class Busy : public QObject {
+  public:
+    Busy();
+    ~Busy() override;
+
+    /// To be called at each step of the work; costs next to nothing unless something is due. Timers and
+    /// sockets have their turn as well.
+    void breathe();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QElapsedTimer m_sinceBreath;
+};
+
+}  // namespace ui
