@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
 """A catch-all mail server for the demo: takes every message for everybody and writes each as one .eml file.
 
-    catch_all.py FOLDER      prints "port N" once it listens on a free port of the loopback address
+    catch_all.py FOLDER [maildir]
+
+prints "port N" once it listens on a free port of the loopback address. With "maildir" the folder is a Maildir.
 
 It speaks SMTP with PIPELINING, SIZE and 8BITMIME and keeps what it received byte for byte, with the envelope in front as
 X-Envelope-From and X-Envelope-To.
 """
 import asyncio
+import itertools
+import mailbox
 import pathlib
 import re
 import sys
@@ -15,8 +19,8 @@ LIMIT = 50 * 1024 * 1024
 
 
 class Session:
-    def __init__(self, folder, counter, reader, writer):
-        self.folder, self.counter, self.reader, self.writer = folder, counter, reader, writer
+    def __init__(self, keep, reader, writer):
+        self.keep, self.reader, self.writer = keep, reader, writer
         self.sender = None
         self.recipients = []
 
@@ -75,14 +79,10 @@ class Session:
                 self.say("552 too large")
                 return "end"
             lines.append(line[1:] if line.startswith(b".") else line)
-        self.counter[0] += 1
         envelope = f"X-Envelope-From: {self.sender.group(1)}\r\nX-Envelope-To: {', '.join(self.recipients)}\r\n"
-        name = self.folder / f"{self.counter[0]:03d}.eml"
-        unfinished = name.with_suffix(".part")
-        unfinished.write_bytes(envelope.encode("utf-8") + b"".join(lines))
-        unfinished.rename(name)  # whoever watches the folder meets whole messages only
+        name = self.keep(envelope.encode("utf-8") + b"".join(lines))
         self.sender, self.recipients = None, []
-        self.say(f"250 kept as {name.name}")
+        self.say(f"250 kept as {name}")
 
     async def on_rset(self, _):
         self.sender, self.recipients = None, []
@@ -96,13 +96,25 @@ class Session:
         return "end"
 
 
-async def main(folder):
+def in_files(folder):
+    """What keeps messages as 001.eml, 002.eml and so on."""
     folder.mkdir(parents=True, exist_ok=True)
-    counter = [0]
+    numbers = itertools.count(1)
 
+    def keep(message):
+        name = folder / f"{next(numbers):03d}.eml"
+        unfinished = name.with_suffix(".part")
+        unfinished.write_bytes(message)
+        unfinished.rename(name)  # whoever watches the folder meets whole messages only
+        return name.name
+
+    return keep
+
+
+async def main(keep):
     async def serve(reader, writer):
         try:
-            await Session(folder, counter, reader, writer).run()
+            await Session(keep, reader, writer).run()
         except (ConnectionError, asyncio.IncompleteReadError):
             pass
         finally:
@@ -115,4 +127,5 @@ async def main(folder):
 
 
 if __name__ == "__main__":
-    asyncio.run(main(pathlib.Path(sys.argv[1])))
+    maildir = sys.argv[2:] == ["maildir"]
+    asyncio.run(main(mailbox.Maildir(sys.argv[1]).add if maildir else in_files(pathlib.Path(sys.argv[1]))))

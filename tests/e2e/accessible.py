@@ -1,0 +1,77 @@
+"""The program's windows as an assistive program finds them. To be imported inside a desktop of its own (desktop.inside)."""
+import pyatspi
+from gi.repository import GLib
+
+from desktop import fail, wait_for
+
+
+class Window:
+    """One window of the program, by the role and the start of the name that it has."""
+
+    def __init__(self, role, name):
+        self.frame = wait_for(lambda: self._shown(role, name), f"the window {name!r}")
+
+    @staticmethod
+    def _shown(role, name):
+        for application in pyatspi.Registry.getDesktop(0):
+            if application is None or application.name != "Vestrola":
+                continue
+            for window in application:
+                if window and window.getRoleName() == role and window.name.strip().startswith(name) and is_shown(window):
+                    return window
+        return None
+
+    def find(self, role, name):
+        """Waits for the control and for it to be on."""
+        def found():
+            return pyatspi.findDescendant(
+                self.frame, lambda one: one.getRoleName() == role and one.name == name and is_shown(one))
+        control = wait_for(found, f"{role} {name!r} in {self.frame.name!r}")
+        wait_for(lambda: has(control, pyatspi.STATE_ENABLED), f"{role} {name!r} to be on")
+        return control
+
+    def press(self, name, role="push button"):
+        act(self.find(role, name), "Press")
+
+    def value(self, name):
+        """The second cell of the item of that name in a list of properties."""
+        caption = self.find("table cell", name)
+        return caption.parent[caption.getIndexInParent() + 1]
+
+    def write(self, name, text):
+        field = self.find("text", name)
+        wait_for(lambda: has(field, pyatspi.STATE_EDITABLE), f"{name!r} to be writable")
+        if not field.queryEditableText().setTextContents(text):
+            fail(f"{name!r} cannot be written")
+
+    def wait_focus(self, role, name):
+        control = self.find(role, name)
+        wait_for(lambda: has(control, pyatspi.STATE_FOCUSED), f"{name!r} to have the keyboard")
+
+    def gone(self):
+        wait_for(lambda: not is_shown(self.frame), f"{self.frame} to close")
+
+
+def has(control, state):
+    return control.getState().contains(state)
+
+
+def is_shown(control):
+    return has(control, pyatspi.STATE_SHOWING) and has(control, pyatspi.STATE_VISIBLE)
+
+
+def act(control, wanted):
+    actions = control.queryAction()
+    for number in range(actions.nActions):
+        if actions.getName(number) == wanted:
+            try:
+                actions.doAction(number)
+            except GLib.GError:
+                pass  # the answer of an action that opens a modal window comes when the window is left
+            return
+    fail(f"{control} has no action {wanted}")
+
+
+def click(control, event="b1c"):
+    place = control.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    pyatspi.Registry.generateMouseEvent(place.x + place.width // 2, place.y + place.height // 2, event)

@@ -1,0 +1,142 @@
+"""A desktop of its own for the built program: a session bus, an X server without a screen, a window manager, the registry
+of assistive programs, and a copy of the program as an installation leaves it, whose user has never started it.
+
+Needs the system's Python, which knows pyatspi.
+"""
+import email
+import email.policy
+import mailbox
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+INSIDE = "VESTROLA_TEST_SESSION"
+PATIENCE = 60  # seconds; only a broken program uses them up
+ADDRESS = "ufficio@cliente.test"
+NAME = "Ada"
+
+
+def inside():
+    """Runs the calling script anew on a screen and a session bus of its own and ends with its result; returns where that
+    is so already."""
+    if INSIDE in os.environ:
+        return
+    own, server = os.pipe()
+    screen = subprocess.Popen(["Xvfb", "-displayfd", str(server), "-screen", "0", "1280x1000x24", "-nolisten", "tcp"],
+                              pass_fds=[server], stderr=subprocess.DEVNULL)
+    os.close(server)
+    with os.fdopen(own) as display:
+        environment = {**os.environ, INSIDE: "1", "DISPLAY": ":" + display.readline().strip()}
+    try:
+        raise SystemExit(subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment,
+                                        check=False).returncode)
+    finally:
+        screen.kill()
+        screen.wait()
+
+
+def fail(text):
+    raise SystemExit(f"FAILED: {text}")
+
+
+def wait_for(condition, what):
+    """The first true value of `condition`."""
+    end = time.monotonic() + PATIENCE
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > end:
+            fail(f"waited {PATIENCE} s for {what}")
+        time.sleep(0.05)
+
+
+class Desktop:
+    def __init__(self, work):
+        self.processes = []
+        self.work = work
+        for name in ("data", "config", "runtime"):
+            (work / name).mkdir(mode=0o700)
+            os.environ[f"XDG_{name.upper()}_{'DIR' if name == 'runtime' else 'HOME'}"] = str(work / name)
+        os.environ.pop("LC_ALL", None)
+        os.environ.update(LANG="it_IT.UTF-8", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.start(["openbox", "--sm-disable"])
+
+    def start(self, command, **options):
+        options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options}
+        process = subprocess.Popen([str(part) for part in command], **options)
+        self.processes.append(process)
+        return process
+
+    def install(self, build):
+        """Gives the path of a program that is not the build tree's own, so that its user's folder is made at its start."""
+        place = self.work / "installed"
+        subprocess.run(["cmake", "--install", str(build), "--prefix", str(place)], stdout=subprocess.DEVNULL, check=True)
+        return place / "bin" / "vestrola"
+
+    @property
+    def program_folder(self):
+        return self.work / "data" / "vestrola"
+
+    def write_message(self):
+        path = self.work / "invito.mss"
+        rows = ["[<INI-SUBJ>]Invito per :::nom:::[<END-SUBJ>]", "[<INI-PRIO>]NR[<END-PRIO>]", "[<INI-ALLG>]", "[<END-ALLG>]",
+                "[<INI-MESS>]", "<HTML><BODY><P>Gentile :::nom:::, la aspettiamo.</P></BODY></HTML>", "[<END-MESS>]", ""]
+        path.write_bytes("\r\n".join(rows).encode("cp1252"))
+        return path
+
+    @staticmethod
+    def check_no_browser(process):
+        """The engine of the editor's views is loaded when the editor is first opened, and not before."""
+        loaded = pathlib.Path(f"/proc/{process.pid}/maps").read_text(encoding="utf-8")
+        if "libQt6Widgets" not in loaded:
+            fail("the map of the program's memory does not name its libraries")
+        if "WebEngine" in loaded:
+            fail("the browser engine was loaded without the editor")
+
+    @staticmethod
+    def ends_well(process):
+        status = wait_for(lambda: process.poll() is not None and str(process.returncode), "the end of the program")
+        if status != "0":
+            fail(f"the program ended with {status}")
+
+    def close(self):
+        for process in reversed(self.processes):
+            process.kill()
+            process.wait()
+
+
+class MailServer:
+    """Takes every message and puts it into a Maildir."""
+
+    def __init__(self, desktop):
+        self.folder = desktop.work / "Maildir"
+        server = desktop.start([sys.executable, ROOT / "demo" / "catch_all.py", self.folder, "maildir"],
+                               stdout=subprocess.PIPE, text=True)
+        self.port = wait_for(server.stdout.readline, "the mail server").split()[1]
+
+    def check_the_one_message(self):
+        """One message for ADDRESS came, made of what Desktop.write_message wrote."""
+        arrived = [email.message_from_bytes(message.as_bytes(), policy=email.policy.default)
+                   for message in mailbox.Maildir(self.folder)]
+        if len(arrived) != 1:
+            fail(f"{len(arrived)} messages arrived")
+        told = [str(arrived[0][header]) for header in ("X-Envelope-To", "To", "Subject")]
+        if told != [ADDRESS, f"{NAME} <{ADDRESS}>", f"Invito per {NAME}"]:
+            fail(f"what arrived says {told}")
+        if f"Gentile {NAME}, la aspettiamo." not in arrived[0].get_body(("plain",)).get_content():
+            fail(f"the text that arrived is {arrived[0]}")
+
+
+def run(play):
+    """Plays one test on the program of the build folder that the command line names."""
+    with tempfile.TemporaryDirectory() as folder:
+        stage = Desktop(pathlib.Path(folder))
+        try:
+            play(stage, stage.install(pathlib.Path(sys.argv[1]).resolve()))
+        finally:
+            stage.close()

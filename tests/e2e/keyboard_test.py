@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""Does the whole job with the keyboard alone, on the built program, from its very first start to the message in a Maildir:
+a group, a recipient in it, its tick, an account, the send window. What assistive programs are told is only looked at, to
+know when the next key may be struck.
+
+    keyboard_test.py BUILD_FOLDER
+"""
+import subprocess
+
+import desktop
+from desktop import fail, wait_for
+
+desktop.inside()
+import pyatspi  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, has  # noqa: E402
+
+
+def keys(*names):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
+
+
+def type_text(text):
+    subprocess.run(["xdotool", "type", "--clearmodifiers", str(text)], check=True)
+
+
+def play(stage, program):
+    server = desktop.MailServer(stage)
+    message = stage.write_message()
+    running = stage.start([program])
+
+    main = Window("frame", "Vestrola")
+    make_group(main)
+    add_recipient()
+    tick(main)
+    add_account(server.port)
+    send(message)
+
+    server.check_the_one_message()
+    if has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED):
+        fail("the recipient who was served is still ticked")
+    stage.check_no_browser(running)
+    keys("ctrl+q")
+    stage.ends_well(running)
+    print("a group, a recipient, an account and one message by keys alone")
+
+
+def make_group(main):
+    main.wait_focus("tree", "Gruppi mailing")
+    keys("space")  # the root
+    main.find("push button", "Nuova cartella dentro questo livello")
+    keys("ctrl+shift+n")
+    main.find("table cell", "Nuovo gruppo")
+    keys("Down", "F2")
+    type_text("Clienti")
+    keys("Return")
+    main.find("table cell", "Clienti")
+
+
+def add_recipient():
+    keys("Insert")
+    form = Window("dialog", "Aggiungi destinatario")
+    form.wait_focus("tree", "Dati del destinatario")
+    type_text(desktop.ADDRESS)  # the form opens on the address
+    keys("Return", "Down")
+    type_text(desktop.NAME)
+    keys("Return", "Up", "Up", "Up", "Up", "space")
+    keys("alt+s")
+    form.gone()
+
+
+def tick(main):
+    main.find("table cell", desktop.ADDRESS)
+    if has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED):
+        fail("the new recipient is ticked, but was saved without the tick")
+    keys("Tab", "space")
+    wait_for(lambda: has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED), "the tick")
+
+
+def add_account(port):
+    keys("ctrl+comma")
+    window = Window("dialog", "Impostazioni Account")
+    window.wait_focus("text", "Nome visualizzato")
+    for text, tabs in (("La bottega", 1), ("notizie@bottega.test", 2), ("127.0.0.1", 1)):
+        type_text(text)
+        keys(*["Tab"] * tabs)
+    type_text(port)
+    keys("alt+n")
+    window.find("list item", "La bottega [notizie@bottega.test]")
+    keys("alt+c")
+    window.gone()
+
+
+def send(message):
+    keys("ctrl+Return")
+    window = Window("dialog", "Invia messaggi")
+    window.wait_focus("text", "File messaggio da inviare")
+    keys("Tab", "space")
+    chooser = Window("dialog", "Apri messaggio")
+    chooser.wait_focus("text", "Nome del file:")
+    type_text(message)
+    keys("Return")
+    chooser.gone()
+    keys("alt+i")
+    window.find("label", "Email inviate: 1")
+    keys("alt+c")
+    window.gone()
+
+
+if __name__ == "__main__":
+    desktop.run(play)
