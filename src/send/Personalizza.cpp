@@ -1,6 +1,7 @@
 #include "send/Personalizza.h"
 
 #include <bitset>
+#include <QUrl>
 
 const std::array<QString, numeroSegnaposto> colonneSegnaposto{
     QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),
@@ -62,6 +63,13 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
         presenti = presentiIn(modello);
     }
     return modello;
+}
+
+ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori) {
+    for (auto& valore : valori) {
+        if (valore) valore = QString::fromLatin1(QUrl::toPercentEncoding(*valore));
+    }
+    return valori;
 }
 
 Result<QString> NomeDestinatario(const LeggiColonna& leggi) {

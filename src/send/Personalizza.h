@@ -33,6 +33,10 @@ ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
 /// an earlier one is not.
 QString Personalizza(QString modello, const ValoriSegnaposto& valori);
 
+/// The values as they stand inside a web address or a mail link: percent-encoded (RFC 3986), so that none of
+/// them becomes a part of its own.
+ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori);
+
 /// The name shown for the recipient: the first of "rgs", "nom" and "email" that is not empty, Null counting
 /// as empty; the last one in any case. Fails where a column cannot be read.
 Result<QString> NomeDestinatario(const LeggiColonna& leggi);

@@ -121,5 +121,6 @@ class frmInvia : public QDialog {
     QString corpoHtml;
     QString CorpoTesto;
     QString oggettoMail;
+    QString disiscrizione;  ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;
 };

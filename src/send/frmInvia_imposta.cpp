@@ -9,6 +9,7 @@
 #include "lang/bVAR.h"
 #include "message/MessaggioMss.h"
 #include "platform/mail/DeliveryControl.h"
+#include "platform/mail/Unsubscribe.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
@@ -134,5 +135,6 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     ImpostaTimeout(prosegui);
     SMTP->BodyFormat = 1;
     SMTP->TemplateHtml = corpoHtml;
+    disiscrizione = mail::markedUnsubscribe(corpoHtml);
     SMTP->CertificateFolder = cartellaDati() + "certificati";
 }

@@ -82,6 +82,7 @@ qint32 frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     const ValoriSegnaposto valori = LeggiValori(leggi);
     for (QString* testo : {&SMTP->BodyHtml, &SMTP->BodyText, &SMTP->Subject})
         *testo = Personalizza(*testo, valori);
+    SMTP->UnsubscribeLink = Personalizza(disiscrizione, PerCollegamento(valori));
 
     prosegui([&] { SMTP->ToAddress = esigi(esigi(rs.value(u"email")).toText()); });
     prosegui([&] { SMTP->ToName = esigi(NomeDestinatario(leggi)); });

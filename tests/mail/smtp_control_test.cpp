@@ -1,5 +1,6 @@
 // The delivery control as the send window uses it: sending, stopping, hostile values, the support log.
 #include <QFile>
+#include <QRegularExpression>
 #include <QTcpServer>
 #include <QTemporaryDir>
 
@@ -17,6 +18,47 @@ TEST(DeliveryControl, EmptyServerNameIsAnError) {
         EXPECT_FALSE(heard.done);
         EXPECT_EQ(heard.code, 0);
         EXPECT_FALSE(heard.text.isEmpty());
+    }
+}
+
+/// A name from the DNS can be anything; nothing listens that could be connected to.
+TEST(DeliveryControl, ServerNameThatIsNoHostEndsBeforeConnectingAndIsNotLogged) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::Any));
+    QTemporaryDir folder;
+    Client client(server.serverPort());
+    client.smtp.LogFile = folder.filePath(QStringLiteral("prova.xt1"));
+    client.smtp.LogEnabled = true;
+    const QStringList names{
+        QStringLiteral("127.0.0.1\r\nfalso"), QStringLiteral("localhost falso"), QStringLiteral("falso\t"),
+        QChar(0) + QStringLiteral("falso"),   QStringLiteral("falso@localhost"), QString(1000000, u'f')};
+    for (const QString& name : names) {
+        for (const bool direct : {false, true}) {
+            client.smtp.OpportunisticTls = direct;
+            client.smtp.ServerName = name;
+            const Heard heard = client.send();
+            EXPECT_FALSE(heard.done);
+            EXPECT_EQ(heard.code, 0);
+            EXPECT_TRUE(heard.text.contains(QStringLiteral("non è valido"))) << qPrintable(heard.text);
+        }
+    }
+    EXPECT_FALSE(server.waitForNewConnection(50));
+    QFile log(client.smtp.LogFile);
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    const QByteArray text = log.readAll();
+    EXPECT_FALSE(text.contains("fals") || text.contains("ffff")) << text.left(2000).constData();
+    EXPECT_FALSE(text.contains("Connessione"));
+}
+
+TEST(DeliveryControl, NullMxEndsBeforeConnecting) {
+    Client client(25);
+    client.smtp.OpportunisticTls = true;
+    for (const char* name : {"", ".", " . "}) {
+        client.smtp.ServerName = QString::fromLatin1(name);
+        const Heard heard = client.send();
+        EXPECT_FALSE(heard.done);
+        EXPECT_TRUE(heard.text.contains(QStringLiteral("non ha un server di posta")))
+            << qPrintable(heard.text);
     }
 }
 
@@ -300,13 +342,42 @@ TEST_F(SupportLog, TellsTheDialogueAndTheOutcome) {
     }
     const QByteArray log = contents(path());
     for (const char* part :
-         {"* Connessione a 127.0.0.1, porta ", "< 220 ready", "> EHLO ", "> RCPT TO:<rossi@example.it>",
-          "> (messaggio: ", "Destinatario rossi@example.it, Message-ID <", ", consegnato: 250 taken, ",
-          ", non consegnato: 550 non gradito, "})
+         {"* Destinatario rossi@example.it, invio tramite server, server 127.0.0.1, porta ",
+          "* Connessione a 127.0.0.1, porta ", "* Connessione in chiaro\r\n",
+          "* Connessione ancora aperta, in chiaro\r\n", "< 220 ready", "> EHLO ",
+          "> RCPT TO:<rossi@example.it>", "> (messaggio: ", "Destinatario rossi@example.it, Message-ID <",
+          ", consegnato: 250 taken, ", ", non consegnato: 550 non gradito, "})
         EXPECT_TRUE(log.contains(part)) << part << '\n' << log.constData();
     EXPECT_FALSE(log.contains("riservato"));
     for (const QByteArray& line : log.split('\n'))
         EXPECT_TRUE(line.isEmpty() || line.endsWith('\r')) << line.constData();
+}
+
+TEST_F(SupportLog, TellsTheDirectRoute) {
+    Client client(25);
+    client.smtp.OpportunisticTls = true;
+    client.smtp.ServerName = QStringLiteral("non-esiste.invalid");
+    client.smtp.ToAddress = QStringLiteral("a%2b@example.it");
+    client.smtp.LogFile = path();
+    client.smtp.LogEnabled = true;
+    client.send();
+    EXPECT_TRUE(contents(path()).contains(
+        "* Destinatario a%2b@example.it, invio diretto, server non-esiste.invalid, porta 25\r\n"))
+        << contents(path()).constData();
+}
+
+TEST_F(SupportLog, EachLineBearsTimeAndDirection) {
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    client.smtp.LogFile = path();
+    client.smtp.LogEnabled = true;
+    client.send();
+    const QRegularExpression form("\\A\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} [*<>] .+\\r\\z");
+    const QByteArrayList lines = contents(path()).split('\n');
+    EXPECT_GT(lines.size(), 10);
+    for (const QByteArray& line : lines)
+        EXPECT_TRUE(line.isEmpty() || form.match(QString::fromUtf8(line)).hasMatch()) << line.constData();
+    EXPECT_TRUE(QRegularExpression(", [0-9]+\\.[0-9]{3} s\\r\\n\\z").match(contents(path())).hasMatch());
 }
 
 TEST_F(SupportLog, IsAppendedTo) {

@@ -277,6 +277,25 @@ TEST_F(SmtpLogin, UnknownMechanismIsFollowedByTheNextOne) {
                                                               "S: 235 welcome"});
 }
 
+TEST_F(SmtpLogin, PasswordThatCannotBeDigestedGoesByAMechanismThatSendsIt) {
+    const QByteArray password = "👍\r\nRSET";
+    ScriptedServer server(
+        {helloWithAuth("SCRAM-SHA-256 CRAM-MD5 PLAIN") +
+             QByteArrayList{"C: AUTH PLAIN " + (QByteArray(1, '\0') + "utente" + '\0' + password).toBase64(),
+                            "S: 235 welcome"} +
+             message + QByteArrayList{"C: QUIT"},
+         helloWithAuth("SCRAM-SHA-256") + QByteArrayList{"C: QUIT"}});
+    Client client(server.port());
+    prepare(client);
+    client.smtp.UserPassword = QString::fromUtf8(password);
+    EXPECT_TRUE(client.send().done);
+    client.smtp.OpportunisticTls = true;  // another route, so another session
+    const Heard heard = client.send();
+    EXPECT_FALSE(heard.done);
+    EXPECT_TRUE(heard.text.contains(QStringLiteral("Autenticazione non riuscita"))) << qPrintable(heard.text);
+    EXPECT_EQ(server.remainder(), "");
+}
+
 TEST_F(SmtpLogin, RefusedCredentials) {
     fails(helloWithAuth("PLAIN LOGIN") + QByteArrayList{"C: AUTH PLAIN *", "S: 535 bad credentials"}, 535);
 }

@@ -146,3 +146,13 @@ TEST(RecipientColumns, AreReadFromTheCurrentRow) {
     rows.close();
     ado::closeAll();
 }
+
+TEST(Personalisation, ValueInALinkBecomesNoPartOfIt) {
+    ValoriSegnaposto values;
+    values[1] = QStringLiteral("a&cc=b@c.it/?#:::email:::\r\n è");
+    values[2] = QStringLiteral("o'neil+x@example.it");
+    EXPECT_EQ(Personalizza(QStringLiteral("https://x.it/:::nom:::?e=:::email:::&t=:::tel:::"),
+                           PerCollegamento(values)),
+              QStringLiteral("https://x.it/a%26cc%3Db%40c.it%2F%3F%23%3A%3A%3Aemail%3A%3A%3A%0D%0A%20%C3%A8"
+                             "?e=o%27neil%2Bx%40example.it&t=:::tel:::"));
+}

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstring>
-#include <QUrl>
+
+#include "platform/mail/DomainName.h"
+#include "platform/text/Blanks.h"
 
 namespace mail {
 namespace {
 
 constexpr qsizetype maximumLength = 254;  // RFC 5321 4.5.3.1.3: a path of 256 octets, less its angle brackets
-constexpr qsizetype maximumLabel = 63;    // RFC 1035 2.3.4
 
 bool isLetterOrDigit(unsigned char c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -43,16 +44,6 @@ bool isQuotedString(const QByteArray& text) {
     return true;
 }
 
-bool isDomainName(const QByteArray& domain) {
-    const auto labels = domain.split('.');
-    return std::all_of(labels.begin(), labels.end(), [](const QByteArray& label) {
-        return !label.isEmpty() && label.size() <= maximumLabel && label.front() != '-' &&
-               label.back() != '-' && std::all_of(label.begin(), label.end(), [](char c) {
-                   return isLetterOrDigit(c) || c == '-' || c == '_';
-               });
-    });
-}
-
 // RFC 5321 4.1.3: an address in square brackets; whether it means a host is the server's to say
 bool isDomainLiteral(const QByteArray& domain) {
     if (domain.size() < 3 || !domain.startsWith('[') || !domain.endsWith(']')) return false;
@@ -64,20 +55,8 @@ bool isAscii(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-QByteArray wireDomain(const QString& domain) {
-    return isAscii(domain) ? domain.toLatin1() : QUrl::toAce(domain);
-}
-
 bool isRefusedCharacter(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029;
-}
-
-QStringView withoutBlanksAtEnds(QStringView text) {
-    while (text.startsWith(u' '))
-        text = text.mid(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text;
 }
 
 }  // namespace
@@ -85,7 +64,7 @@ QStringView withoutBlanksAtEnds(QStringView text) {
 Result<Mailbox> parseAddrSpec(const QString& text) {
     const Status refusal(ErrorCode::TypeMismatch,
                          QStringLiteral("L'indirizzo di posta elettronica non è valido."));
-    const QString plain = withoutBlanksAtEnds(text).toString();
+    const QString plain = text::trimBlanks(text).toString();
     if (!plain.isValidUtf16() ||
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return isRefusedCharacter(c.unicode()); })) {
         return refusal;
@@ -95,7 +74,7 @@ Result<Mailbox> parseAddrSpec(const QString& text) {
 
     Mailbox mailbox;
     mailbox.localPart = plain.left(at).toUtf8();
-    mailbox.domain = wireDomain(plain.mid(at + 1));
+    mailbox.domain = asciiDomain(plain.mid(at + 1));
     mailbox.needsSmtputf8 = !isAscii(plain.left(at));
     if (!isDotAtom(mailbox.localPart) && !isQuotedString(mailbox.localPart)) return refusal;
     if (!isDomainName(mailbox.domain) && !isDomainLiteral(mailbox.domain)) return refusal;

@@ -1,7 +1,6 @@
 #include "platform/mail/Composer.h"
 
 #include <algorithm>
-#include <QUrl>
 
 #include "platform/mail/Attachments.h"
 #include "platform/mail/BodyParts.h"
@@ -9,29 +8,11 @@
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/Identity.h"
 #include "platform/mail/LocalImages.h"
+#include "platform/mail/Unsubscribe.h"
 #include "platform/system/Clock.h"
 
 namespace mail {
 namespace {
-
-constexpr qsizetype longestLink = 900;  // it cannot be folded, and a line has at most 998 octets
-
-QByteArray mailLink(const Mailbox& sender) {
-    return "mailto:" + sender.localPart.toPercentEncoding("!$'*+") + '@' + sender.domain +
-           "?subject=unsubscribe";
-}
-
-// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty.
-// Line ends and tabs inside an address mean nothing in HTML.
-QByteArray wireLink(QByteArray address) {
-    address.removeIf([](char c) { return c == '\r' || c == '\n' || c == '\t'; });
-    if (address.isEmpty() || address.size() > longestLink) return {};
-    const QByteArray link = QUrl(QString::fromUtf8(address)).toEncoded();
-    const bool stands = link.size() <= longestLink && std::all_of(link.begin(), link.end(), [](char c) {
-                            return c > 0x20 && c < 0x7F && c != '<' && c != '>';
-                        });
-    return stands ? link : QByteArray();
-}
 
 void appendPriority(QByteArray& out, int priority) {
     if (priority == 1) {
@@ -106,8 +87,6 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
 
     const QDateTime now = sys::clock().now();
     const QByteArray word = m_state->words.next(now);
-    QByteArray link = wireLink(references.unsubscribe);
-    if (link.isEmpty()) link = mailLink(from.value());
 
     ComposedMessage composed;
     composed.from = from.value();
@@ -120,7 +99,8 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     out += foldedHeader("Subject", unstructuredText(message.subject));
     out += foldedHeader("Date", dateText(now));
     out += foldedHeader("Message-ID", composed.messageId);
-    out += foldedHeader("List-Unsubscribe", '<' + link + '>');
+    out +=
+        foldedHeader("List-Unsubscribe", '<' + unsubscribeLink(message.unsubscribeLink, from.value()) + '>');
     appendPriority(out, message.priority);
     out += "MIME-Version: 1.0\r\n";
     appendBody(out, body, word);

@@ -2,11 +2,15 @@
 
 #include <utility>
 
+#include "platform/mail/DomainName.h"
+#include "platform/text/Blanks.h"
+
 namespace mail {
 
 namespace {
 
 constexpr int defaultTimeoutSecs = 60;
+constexpr qsizetype longestShown = 320;  // of a text that may be anything
 
 }  // namespace
 
@@ -16,9 +20,9 @@ DeliveryControl::DeliveryControl(QObject* parent) : QObject(parent), m_session(m
     connect(&m_deferred, &QTimer::timeout, this, &DeliveryControl::report);
 }
 
-Route DeliveryControl::route() const {
+Route DeliveryControl::route(const QString& host) const {
     Route route;
-    route.host = ServerName.trimmed();
+    route.host = host;
     route.port = ServerPort;
     route.localPort = OutPort;
     route.greetWithHelo = HeloMode == 1;
@@ -41,26 +45,36 @@ void DeliveryControl::Send() {
     m_running = true;
     m_insideSend = true;
     m_clock.start();
-    m_recipient = ToAddress;
+    m_recipient = ToAddress.left(longestShown);
     m_messageId.clear();
     m_transcript.setFile(LogEnabled ? LogFile : QString());
 
-    const Route way = route();
-    if (way.host.isEmpty()) {
-        finish({false, 0, QStringLiteral("Manca il nome del server.")});
-    } else if (way.port == 0) {
+    const QString host = connectableHost(ServerName);
+    logStart(host);
+    if (host.isEmpty()) {
+        finish({false, 0, whyNoHost()});
+    } else if (ServerPort == 0) {
         finish({false, 0, QStringLiteral("La porta del server non è valida.")});
     } else {
         const Result<ComposedMessage> message = m_composer.compose(data());
         if (message.ok()) {
             m_messageId = message.value().messageId;
-            m_session.deliver(way, message.value(),
+            m_session.deliver(route(host), message.value(),
                               (TimeoutSecs > 0 ? TimeoutSecs : defaultTimeoutSecs) * 1000);
         } else {
             finish({false, 0, message.status().text()});
         }
     }
     m_insideSend = false;
+}
+
+QString DeliveryControl::whyNoHost() const {
+    const QStringView name = text::trimBlanks(ServerName);
+    // A null MX names the root (RFC 7505)
+    if (OpportunisticTls && (name.isEmpty() || name == u"."))
+        return QStringLiteral("Il dominio del destinatario non ha un server di posta.");
+    return name.isEmpty() ? QStringLiteral("Manca il nome del server.")
+                          : QStringLiteral("Il nome del server non è valido.");
 }
 
 MessageData DeliveryControl::data() const {
@@ -73,6 +87,7 @@ MessageData DeliveryControl::data() const {
     data.bodyHtml = BodyHtml;
     data.bodyText = BodyText;
     data.templateHtml = TemplateHtml;
+    data.unsubscribeLink = UnsubscribeLink;
     data.priority = Priority;
     data.attachments = Attachments.items();
     return data;
@@ -105,6 +120,15 @@ void DeliveryControl::report() {
         Q_EMIT SendDone();
     else
         Q_EMIT SendError(outcome.code, outcome.text);
+}
+
+void DeliveryControl::logStart(const QString& host) {
+    if (!m_transcript.active()) return;
+    m_transcript.remark(
+        QStringLiteral("Destinatario %1, %2, server %3, porta %4")
+            .arg(m_recipient,
+                 OpportunisticTls ? QStringLiteral("invio diretto") : QStringLiteral("invio tramite server"),
+                 host.isEmpty() ? QStringLiteral("-") : host, QString::number(ServerPort)));
 }
 
 void DeliveryControl::log(const QString& outcome) {

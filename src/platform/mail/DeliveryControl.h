@@ -41,9 +41,10 @@ class DeliveryControl : public QObject {
     qint16 TimeoutSecs = 60;
     QString BodyText;
     QString BodyHtml;
-    QString TemplateHtml;   ///< the body before personalisation: only local images that it names are embedded
-    qint32 BodyFormat = 1;  ///< kept, without effect: there are always both a text and an HTML part
-    qint32 Priority = 3;    ///< 1 high, 3 normal, 5 low
+    QString TemplateHtml;  ///< the body before personalisation: only local images that it names are embedded
+    QString UnsubscribeLink;  ///< see MessageData
+    qint32 BodyFormat = 1;    ///< kept, without effect: there are always both a text and an HTML part
+    qint32 Priority = 3;      ///< 1 high, 3 normal, 5 low
     QString Subject;
     QString ToAddress;  ///< one plain addr-spec
     QString ToName;
@@ -56,7 +57,7 @@ class DeliveryControl : public QObject {
     QString UserName;
     QString ServerName;
     AttachmentList Attachments;
-    bool OpportunisticTls = false;  ///< see Route
+    bool OpportunisticTls = false;  ///< see Route; set on the direct route to the recipient's own server
     QString CertificateFolder;      ///< see Route
 
     /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
@@ -76,10 +77,12 @@ class DeliveryControl : public QObject {
 
   private:
     MessageData data() const;
+    QString whyNoHost() const;
     void finish(const DeliveryOutcome& outcome);
     void report();
+    void logStart(const QString& host);
     void log(const QString& outcome);
-    Route route() const;
+    Route route(const QString& host) const;
 
     Transcript m_transcript;
     Composer m_composer;

@@ -140,7 +140,8 @@ QByteArray namedAddress(const QString& name, const QByteArray& address) {
     if (!isPlain(phrase)) {
         phrase = encodedWords(phrase);
     } else if (!std::all_of(phrase.begin(), phrase.end(), [](char c) { return c == ' ' || isAtomText(c); })) {
-        phrase = quoted(phrase);
+        const QByteArray inQuotes = quoted(phrase);
+        phrase = isPlain(inQuotes) ? inQuotes : encodedWords(phrase);  // the backslashes may lengthen a word
     }
     return phrase + " <" + address + '>';
 }

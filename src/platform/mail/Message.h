@@ -25,7 +25,8 @@ struct MessageData {
     QString bodyHtml;      ///< personalised; empty: the message has no HTML part
     QString bodyText;      ///< personalised visible text of bodyHtml; empty: the message has no text part
     QString templateHtml;  ///< the body before personalisation: only local images that it names are embedded
-    int priority = 3;      ///< 1 high, 5 low, anything else normal
+    QString unsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
+    int priority = 3;         ///< 1 high, 5 low, anything else normal
     QVector<Attachment> attachments;
 };
 

@@ -6,7 +6,7 @@ namespace mail {
 
 /// Where and how a message is handed over. Two messages may share a connection when their routes are equal.
 struct Route {
-    QString host;
+    QString host;                ///< see connectableHost()
     quint16 port = 25;           ///< 465 is TLS from the start (RFC 8314), any other port STARTTLS (RFC 3207)
     quint16 localPort = 0;       ///< 0: any
     bool greetWithHelo = false;  ///< HELO instead of EHLO: no extensions

@@ -21,6 +21,19 @@ Status failure(int code) {
             QStringLiteral("Autenticazione non riuscita: %1").arg(QString::fromUtf8(gsasl_strerror(code)))};
 }
 
+/// Whether a digest can be made of the text: it has to have the form of RFC 4013, and be written in
+/// characters that this form knows. The flag makes the library refuse others, whatever its name says.
+bool canBeDigested(const QString& text) {
+    char* out = nullptr;
+    const int code = gsasl_saslprep(text.toUtf8().constData(), GSASL_ALLOW_UNASSIGNED, &out, nullptr);
+    gsasl_free(out);
+    return code == GSASL_OK;
+}
+
+bool sendsPassword(const QByteArray& mechanism) {
+    return mechanism == "PLAIN" || mechanism == "LOGIN";
+}
+
 }  // namespace
 
 struct SaslExchange::State {
@@ -50,6 +63,8 @@ Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QStr
     if (user.contains(QChar::Null) || password.contains(QChar::Null))
         return Status(ErrorCode::TypeMismatch,
                       QStringLiteral("Il nome utente o la password contengono un carattere non ammesso."));
+    if (!sendsPassword(mechanism) && !(canBeDigested(user) && canBeDigested(password)))
+        return failure(GSASL_SASLPREP_ERROR);
     auto state = std::make_unique<State>();
     int code = context() ? gsasl_client_start(context(), mechanism.constData(), &state->session)
                          : GSASL_MALLOC_ERROR;

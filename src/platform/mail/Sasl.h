@@ -16,7 +16,8 @@ QByteArrayList saslMechanisms();
 /// affair.
 class SaslExchange {
   public:
-    /// `mechanism` is one of saslMechanisms(). Fails (TypeMismatch) when user or password hold a NUL.
+    /// `mechanism` is one of saslMechanisms(). Fails when user or password hold a NUL (TypeMismatch),
+    /// or characters that the mechanism cannot digest (NotSupported).
     static Result<SaslExchange> start(const QByteArray& mechanism, const QString& user,
                                       const QString& password, const QString& host);
     SaslExchange(SaslExchange&&) noexcept;

@@ -18,11 +18,10 @@ constexpr qint64 readBufferSize = 65536;
 QString describe(QAbstractSocket::SocketError error, const QSslSocket& socket, const Route& route) {
     switch (error) {
         case QAbstractSocket::HostNotFoundError:
-            return QStringLiteral("Server %1 non trovato.").arg(printable(route.host.toUtf8()));
+            return QStringLiteral("Server %1 non trovato.").arg(route.host);
         case QAbstractSocket::ConnectionRefusedError:
             return QStringLiteral("Connessione rifiutata da %1, porta %2.")
-                .arg(printable(route.host.toUtf8()))
-                .arg(route.port);
+                .arg(route.host, QString::number(route.port));
         case QAbstractSocket::RemoteHostClosedError:
             return QStringLiteral("Il server ha chiuso la connessione.");
         default:
@@ -71,6 +70,7 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, in
     m_reused =
         m_ready && route == m_route && !inputLeft() && m_socket->state() == QAbstractSocket::ConnectedState;
     if (m_reused) {
+        m_transcript.remark(QStringLiteral("Connessione ancora aperta, ") + security());
         startTransaction();
         return;
     }
@@ -111,9 +111,8 @@ void SmtpSession::open(LocalPort localPort) {
     connect(m_socket, &QSslSocket::encryptedBytesWritten, this, &SmtpSession::onTaken);
 
     m_transcript.remark(QStringLiteral("Connessione a %1, porta %2%3")
-                            .arg(m_route.host)
-                            .arg(m_route.port)
-                            .arg(implicitTls() ? QStringLiteral(" (TLS)") : QString()));
+                            .arg(m_route.host, QString::number(m_route.port),
+                                 implicitTls() ? QStringLiteral(" (TLS)") : QString()));
     m_expected = {Step::Greeting};
     m_socket->connectToHost(m_route.host, m_route.port);
 }

@@ -97,9 +97,12 @@ class SmtpSession : public QObject {
     void prepareTls();
     void onStartTlsReply(const SmtpReply& reply);
     void onEncrypted();
+    QString security() const;
     QString handshakeFailure() const;
     void startLogin();
     void startMechanism();
+    void passOverMechanism(const Status& why);
+    QByteArray withheld(const QByteArray& token);
     void onAuthReply(const SmtpReply& reply);
     void onChallenge(const QByteArray& text);
 

@@ -4,6 +4,7 @@
 #include <QHostInfo>
 #include <utility>
 
+#include "platform/mail/DomainName.h"
 #include "platform/mail/DotStuffing.h"
 #include "platform/mail/SmtpSession.h"
 
@@ -15,11 +16,9 @@ namespace {
 /// with their final point.
 constexpr qsizetype bodyPiece = 128 * 1024;
 
-bool isHostName(const QString& name) {
-    return name.contains(u'.') && !name.startsWith(u'.') && !name.endsWith(u'.') &&
-           std::all_of(name.begin(), name.end(), [](QChar c) {
-               return c.unicode() < 128 && (c.isLetterOrNumber() || c == u'.' || c == u'-');
-           });
+/// A name that others can find this machine by (RFC 5321 4.1.1.1).
+bool isFullHostName(const QString& name) {
+    return name.contains(u'.') && connectableHost(name) == name && QHostAddress(name).isNull();
 }
 
 }  // namespace
@@ -131,7 +130,7 @@ void SmtpSession::writeCommands() {
 
 QByteArray SmtpSession::greetingName() const {
     const QString name = QHostInfo::localHostName();
-    if (isHostName(name)) return name.toLatin1();
+    if (isFullHostName(name)) return name.toLatin1();
     QHostAddress address = m_socket->localAddress();
     address.setScopeId({});
     bool isIpv4 = false;
@@ -168,6 +167,7 @@ void SmtpSession::afterHello() {
     } else if (m_route.login && !m_authenticated) {
         startLogin();
     } else {
+        if (!m_socket->isEncrypted()) m_transcript.remark(QStringLiteral("Connessione ") + security());
         m_ready = true;
         startTransaction();
     }

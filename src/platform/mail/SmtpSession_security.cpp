@@ -95,13 +95,17 @@ void SmtpSession::onEncrypted() {
     m_tlsSeen = true;
     m_input.clear();
     m_inputRead = 0;
-    const QSslCipher cipher = m_socket->sessionCipher();
-    m_transcript.remark(
-        QStringLiteral("%1, %2, certificato %3")
-            .arg(cipher.protocolString(), cipher.name(),
-                 m_route.opportunisticTls ? QStringLiteral("non verificato") : QStringLiteral("valido")));
+    m_transcript.remark(security());
     progress();
     if (m_expected.isEmpty()) hello();
+}
+
+QString SmtpSession::security() const {
+    if (!m_socket->isEncrypted()) return QStringLiteral("in chiaro");
+    const QSslCipher cipher = m_socket->sessionCipher();
+    return QStringLiteral("%1, %2, certificato %3")
+        .arg(cipher.protocolString(), cipher.name(),
+             m_route.opportunisticTls ? QStringLiteral("non verificato") : QStringLiteral("valido"));
 }
 
 QString SmtpSession::handshakeFailure() const {
@@ -129,7 +133,7 @@ void SmtpSession::startMechanism() {
     Result<SaslExchange> exchange =
         SaslExchange::start(mechanism, m_route.user, m_route.password, m_route.host);
     if (!exchange.ok()) {
-        conclude({false, 0, exchange.status().text()});
+        passOverMechanism(exchange.status());
         return;
     }
     m_exchange = std::move(exchange).value();
@@ -138,16 +142,34 @@ void SmtpSession::startMechanism() {
     if (m_exchange->clientFirst()) {
         const Result<QByteArray> token = m_exchange->step({});
         if (!token.ok()) {
-            conclude({false, 0, token.status().text()});
+            passOverMechanism(token.status());
             return;
         }
-        m_firstResponse = token.value().toBase64();
-        m_transcript.addSecret(m_firstResponse);
+        m_firstResponse = withheld(token.value());
         m_initialResponse = m_initialResponse && line.size() + 1 + m_firstResponse.size() <= maxCommandLine;
         if (m_initialResponse) line += ' ' + m_firstResponse;
     }
     command(Step::Auth, line, "AUTH " + mechanism);
     writeCommands();
+}
+
+/// The mechanism cannot be used with these credentials or this server; `why` counts where it was the last.
+void SmtpSession::passOverMechanism(const Status& why) {
+    if (m_mechanisms.size() == 1) {
+        conclude({false, 0, why.text()});
+        return;
+    }
+    m_mechanisms.removeFirst();
+    m_initialResponse = true;
+    startMechanism();
+}
+
+/// The base64 form of a token, which from now on the transcript leaves out, bare or encoded.
+QByteArray SmtpSession::withheld(const QByteArray& token) {
+    const QByteArray line = token.toBase64();
+    m_transcript.addSecret(token);
+    m_transcript.addSecret(line);
+    return line;
 }
 
 void SmtpSession::onAuthReply(const SmtpReply& reply) {
@@ -167,9 +189,7 @@ void SmtpSession::onAuthReply(const SmtpReply& reply) {
         m_initialResponse = false;
         startMechanism();
     } else if (m_authSteps == 0 && isMechanismRefusal(reply.code) && m_mechanisms.size() > 1) {
-        m_mechanisms.removeFirst();
-        m_initialResponse = true;
-        startMechanism();
+        passOverMechanism({});
     } else {
         reject(reply);
     }
@@ -187,9 +207,7 @@ void SmtpSession::onChallenge(const QByteArray& text) {
         conclude({false, 0, QStringLiteral("Il server non ha completato l'autenticazione.")});
         return;
     }
-    const QByteArray line = wantsFirst ? m_firstResponse : answer.value().toBase64();
-    m_transcript.addSecret(line);
-    command(Step::Auth, line, "(omesso)");
+    command(Step::Auth, wantsFirst ? m_firstResponse : withheld(answer.value()), "(omesso)");
     writeCommands();
 }
 
