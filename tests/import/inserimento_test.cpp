@@ -1,0 +1,138 @@
+// What the imports share: the statement, the limits, and the rows on disk.
+#include "import/Inserimento.h"
+
+#include <QTemporaryDir>
+
+#include "core/bGlobal.h"
+#include "core/Fallimento.h"
+#include "import/campi.h"
+#include "platform/ado/Recordset.h"
+#include "platform/jet/Database.h"
+#include "support/Vectors.h"
+
+using namespace inserimento;
+
+namespace {
+
+/// An empty recipient database, the current one as long as the test lasts.
+class InsertedRow : public testing::Test {
+  protected:
+    InsertedRow() {
+        esigi(jet::createEmptyDatabase(m_dir.filePath("data.mdb")));
+        connDB = "Provider = Microsoft.Jet.OLEDB.4.0; Data Source = " + m_dir.filePath("data.mdb");
+    }
+    ~InsertedRow() override {
+        ado::closeAll();
+        connDB.clear();
+    }
+
+    static QStringList values(const QString& column) {
+        ado::Recordset rows;
+        esigi(rows.setActiveConnection(connDB));
+        rows.setSource("SELECT * FROM [tb_destinatari] ORDER BY id ASC;");
+        esigi(rows.open());
+        QStringList found;
+        for (; !rows.isEof(); esigi(rows.moveNext()))
+            found << esigi(rows.value(column)).toTextOrEmpty();
+        return found;
+    }
+
+    QTemporaryDir m_dir;
+};
+
+Valori valoriPer(const QString& indirizzo) {
+    Valori valori;
+    valori[email] = indirizzo;
+    return valori;
+}
+
+}  // namespace
+
+TEST(InsertStatement, NamesTheColumnsInTheirOrderAndEndsWithABlank) {
+    Valori valori;
+    for (int i = 0; i < numeroColonne; ++i)
+        valori[static_cast<size_t>(i)] = QString("v%1").arg(i);
+    EXPECT_EQ(Istruzione("7", valori),
+              "INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs, nom, piva, ind, cap, loc, prov, tel, "
+              "fax, campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9) VALUES (7, True, "
+              "'v0', 'v1', 'v2', 'v3', 'v4', 'v5', 'v6', 'v7', 'v8', 'v9', 'v10', 'v11', 'v12', 'v13', "
+              "'v14', 'v15', 'v16', 'v17', 'v18') ");
+}
+
+TEST(InsertStatement, GivesTwoQuotesToAColumnWithoutAValue) {
+    EXPECT_TRUE(Istruzione("0", valoriPer("a@x.it")).contains("(0, True, 'a@x.it', '', '', "));
+}
+
+TEST(InsertStatement, DoublesNoQuote) {
+    EXPECT_TRUE(Istruzione("0", valoriPer("d'a@x.it")).contains("'d'a@x.it'"));
+}
+
+TEST(ColumnLimit, KeepsAValueOfExactlyTheLimitAndCutsOneCharacterMore) {
+    const std::array<int, numeroColonne> expected{255, 70,  70,  15,  255, 10,  70,  2,   15, 15,
+                                                  255, 255, 255, 255, 255, 255, 255, 255, 255};
+    for (int i = 0; i < numeroColonne; ++i) {
+        const int limite = expected[static_cast<size_t>(i)];
+        const QString intero = QString(limite - 1, u'a') + u'z';
+        EXPECT_EQ(Taglia(intero, static_cast<Colonna>(i)), intero);
+        EXPECT_EQ(Taglia(intero + u'!', static_cast<Colonna>(i)), intero);
+    }
+}
+
+TEST(ColumnBoxes, FeedEveryColumnOnce) {
+    std::array<int, numeroColonne> fed{};
+    for (const Colonna colonna : campi::colonne)
+        ++fed[colonna];
+    for (const int times : fed)
+        EXPECT_EQ(times, 1);
+}
+
+TEST_F(InsertedRow, IsSelectedAndInItsGroup) {
+    Inserimento comando;
+    comando.Prepara();
+    comando.Inserisci("12", valoriPer("a@x.it"));
+    comando.Conferma();
+    EXPECT_EQ(values("email"), QStringList("a@x.it"));
+    EXPECT_EQ(values("id_grp"), QStringList("12"));
+    EXPECT_EQ(values("sel"), QStringList("True"));
+    EXPECT_EQ(values("campo9"), QStringList(""));
+}
+
+TEST_F(InsertedRow, WithAQuoteInAValueIsRefusedAndTheOthersStay) {
+    Inserimento comando;
+    comando.Prepara();
+    comando.Inserisci("1", valoriPer("a@x.it"));
+    Valori valori = valoriPer("b@x.it");
+    valori[nom] = "Dell'Acqua";
+    EXPECT_THROW(comando.Inserisci("1", valori), Fallimento);
+    valori[nom] = R"(Caffè "La Rapida")";
+    comando.Inserisci("1", valori);
+    comando.Conferma();
+    EXPECT_EQ(values("nom"), (QStringList{"", R"(Caffè "La Rapida")"}));
+}
+
+TEST_F(InsertedRow, StaysWhenTheImportIsLeftByAFailure) {
+    try {
+        Inserimento comando;
+        comando.Prepara();
+        comando.Inserisci("1", valoriPer("a@x.it"));
+        fallisci(ErrorCode::DeviceIo);
+    } catch (const Fallimento&) {
+    }
+    EXPECT_EQ(values("email"), QStringList("a@x.it"));
+}
+
+TEST_F(InsertedRow, IsNotComparedWithThoseThatAreThere) {
+    Inserimento comando;
+    comando.Prepara();
+    comando.Inserisci("1", valoriPer("a@x.it"));
+    comando.Inserisci("1", valoriPer("a@x.it"));
+    comando.Conferma();
+    EXPECT_EQ(values("email"), (QStringList{"a@x.it", "a@x.it"}));
+}
+
+TEST(PreparedInsert, FailsWhereTheDatabaseIsMissing) {
+    connDB = "Provider = Microsoft.Jet.OLEDB.4.0; Data Source = /nowhere/data.mdb";
+    Inserimento comando;
+    EXPECT_THROW(comando.Prepara(), Fallimento);
+    connDB.clear();
+}
