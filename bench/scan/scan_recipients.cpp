@@ -1,5 +1,5 @@
 // scan_recipients --make FILE [ROWS]
-//     writes a database with that many recipients (100,000), in one transaction
+//     writes a database with that many recipients (100,000) in twelve groups, in one transaction
 // scan_recipients --scan FILE
 //     opens it, reads every column of every recipient as UTF-8, prints the counts
 //
@@ -18,6 +18,8 @@ int failed(const Status& status) {
     return 1;
 }
 
+constexpr size_t groups = 12;
+
 // Values as a real list has them: most fields short and plain, some accents, some empty, some Null.
 std::vector<jet::Value> recipient(size_t n) {
     static const char* towns[] = {"Roma",   "Milano", "L'Aquila", "Forlì", "Cantù", "San Donà di Piave",
@@ -26,7 +28,7 @@ std::vector<jet::Value> recipient(size_t n) {
     static const char* names[] = {"Giulia Bianchi", "Niccolò D'Amico", "Anna Maria Però", "Luca Rossi"};
     const std::string number = std::to_string(n);
     std::vector<jet::Value> row(22);
-    row[1] = static_cast<int64_t>(n % 12 + 1);
+    row[1] = static_cast<int64_t>(n % groups + 1);
     row[2] = "Azienda " + number + (n % 3 ? " S.r.l." : " & C. – società agricola");
     row[3] = std::string(names[n % 4]);
     row[4] = std::string("IT0") + std::to_string(1000000000 + n);
@@ -44,6 +46,16 @@ std::vector<jet::Value> recipient(size_t n) {
     return row;
 }
 
+Status addGroups(jet::Database& database) {
+    auto table = database.table(u"tb_gruppi");
+    if (!table.ok()) return table.status();
+    for (size_t n = 1; n <= groups; ++n) {
+        const std::vector<jet::Value> row{{}, int64_t{0}, "Gruppo " + std::to_string(n)};
+        if (auto id = table.value()->insert(row); !id.ok()) return id.status();
+    }
+    return {};
+}
+
 int make(const QString& path, size_t rows) {
     if (const Status status = jet::createEmptyDatabase(path); !status.ok()) return failed(status);
     auto opened = jet::Database::open(path);
@@ -52,6 +64,7 @@ int make(const QString& path, size_t rows) {
     auto table = database.table(u"tb_destinatari");
     if (!table.ok()) return failed(table.status());
     if (const Status status = database.begin(); !status.ok()) return failed(status);
+    if (const Status status = addGroups(database); !status.ok()) return failed(status);
     for (size_t n = 0; n < rows; ++n)
         if (auto id = table.value()->insert(recipient(n)); !id.ok()) return failed(id.status());
     if (const Status status = database.commit(); !status.ok()) return failed(status);

@@ -1,0 +1,11 @@
+// The least that a program of this toolkit can be: an empty main window of the size of ours.
+#include <QApplication>
+#include <QMainWindow>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QMainWindow window;
+    window.resize(1080, 640);
+    window.show();
+    return QApplication::exec();
+}
