@@ -6,6 +6,7 @@
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace ui {
 
@@ -39,12 +40,23 @@ void Command::setDescription(const QString& description) {
     describeButtons();
 }
 
-bool Command::isEnabled() const {
-    return m_action->isEnabled();
+void Command::setEnabled(bool enabled) {
+    m_enabled = enabled;
+    m_action->setEnabled(m_enabled && m_reachable);
 }
 
-void Command::setEnabled(bool enabled) {
-    m_action->setEnabled(enabled);
+void Command::setReachable(bool reachable) {
+    m_reachable = reachable;
+    m_action->setEnabled(m_enabled && m_reachable);
+}
+
+int Command::Checked() const {
+    return m_checked ? 1 : 0;
+}
+
+void Command::setChecked(int checked) {
+    m_checked = checked != 0;
+    m_action->setChecked(m_checked);
 }
 
 void Command::describeButtons() {
@@ -89,7 +101,7 @@ int CommandList::SelectedIndex() const {
 
 CommandBars::CommandBars(QMainWindow* window) : QObject(window), m_window(window) {}
 
-void CommandBars::addCommand(const CommandDesign& design) {
+Command* CommandBars::makeCommand(const CommandDesign& design) {
     auto* action = new QAction(QIcon::fromTheme(design.icon), design.caption, this);
     action->setShortcuts(design.keys);
     if (design.scope == CommandDesign::Scope::Popup) {
@@ -99,10 +111,19 @@ void CommandBars::addCommand(const CommandDesign& design) {
     } else {
         m_window->addAction(action);
     }
+    action->setCheckable(design.checkable);
     auto* command = new Command(design.name, design.description, action, this);
-    m_commands[design.name] = command;
-    connect(action, &QAction::triggered, this, [this, command] { start(command->name()); });
     watch(action, command);
+    return command;
+}
+
+void CommandBars::addCommand(const CommandDesign& design) {
+    Command* command = makeCommand(design);
+    m_commands[design.name] = command;
+    connect(command->m_action, &QAction::triggered, this, [this, command] {
+        command->m_action->setChecked(command->m_checked);
+        start(command->name());
+    });
 }
 
 void CommandBars::watch(QAction* action, const Command* command) {
@@ -160,15 +181,21 @@ void CommandBars::addItems(QWidget* place, const QStringList& items) {
             place->addAction(separator);
             continue;
         }
+        auto* bar = qobject_cast<QToolBar*>(place);
+        if (QWidget* tool = bar ? find(m_tools, item) : nullptr) {
+            bar->addWidget(tool);
+            continue;
+        }
         Command* command = find(m_commands, item);
         if (!command) command = find(m_menuCommands, item);
+        if (!command) command = GetCustomPopup(item);
         if (!command) qFatal("no command or menu %s", qUtf8Printable(item));
         place->addAction(command->m_action);
         command->describeButtons();
-        auto* bar = qobject_cast<QToolBar*>(place);
         if (!bar) continue;
-        QWidget* button = bar->widgetForAction(command->m_action);
+        auto* button = static_cast<QToolButton*>(bar->widgetForAction(command->m_action));
         button->setObjectName(item);
+        button->setPopupMode(QToolButton::InstantPopup);
         button->installEventFilter(this);
     }
 }

@@ -8,9 +8,11 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <set>
 #include <vector>
 
 #include "platform/ui/CommandBarsStatic.h"
+#include "platform/ui/CommandBarsTools.h"
 #include "platform/ui/ProgressCounter.h"
 
 class QAction;
@@ -35,6 +37,8 @@ struct CommandDesign {
     QString icon = {};
     QList<QKeySequence> keys = {};
     Scope scope = Scope::Window;
+    /// A tool that shows a state. Starting it changes nothing by itself: the handler sets the state.
+    bool checkable = false;
 };
 
 /// One command, or one menu, wherever it stands. Whatever is changed shows at once in every place.
@@ -47,17 +51,25 @@ class Command : public QObject {
     void setCaption(const QString& caption);
     QString Description() const { return m_description; }
     void setDescription(const QString& description);
-    bool isEnabled() const;
+    /// As it was set; a command that stands on bars that are off cannot be started all the same.
+    bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
+    /// 0 or 1.
+    int Checked() const;
+    void setChecked(int checked);
 
   private:
     friend class CommandBars;
     Command(const QString& name, const QString& description, QAction* action, QObject* parent);
     void describeButtons();
+    void setReachable(bool reachable);
 
     QString m_name;
     QString m_description;
     QAction* m_action;
+    bool m_enabled = true;
+    bool m_reachable = true;
+    bool m_checked = false;
 };
 
 /// A list of texts that stands in a menu. Picking one starts the list's command; the picked one is ticked.
@@ -85,7 +97,8 @@ class CommandList : public QObject {
 };
 
 /// The menus, tool bars and status bar of a main window, made from commands by name. In a list of names "|"
-/// is a separator. A name that was not added is a mistake of the program and ends it.
+/// is a separator, and in that of a tool bar the lists, fields and panels may stand as well. A name that was
+/// not added is a mistake of the program and ends it.
 ///
 /// However a command is started (menu, bar, pop-up menu, key) there is one signal for it. While its handler
 /// runs, further commands are ignored.
@@ -104,6 +117,16 @@ class CommandBars : public QObject {
                      const QString& listName);
     void addMenuBar(const QString& name, const QStringList& menus);
     QToolBar* addToolBar(const QString& name, const QStringList& items, Qt::ToolButtonStyle style);
+    /// A bar that is off is shown disabled, and the keys of what stands on no other bar are dead.
+    void setBarEnabled(const QString& name, bool enabled);
+
+    /// A menu that opens below its button on a tool bar: the button's icon, and keys that open it.
+    void setMenuButton(const QString& name, const QString& icon, const QList<QKeySequence>& keys = {});
+    /// Tools for the lists of items of tool bars. Choosing from a list starts a command of its name.
+    ComboTool* addComboBox(const QString& name, const QString& description, int width);
+    EditTool* addEdit(const QString& name, const QString& label, const QString& description);
+    /// A button that opens a panel below itself; popupOpening() comes first.
+    void addCustomPopup(const CommandDesign& design, QWidget* panel);
 
     /// Items of the status bar, from left to right; a stretching one takes what the others leave.
     void addStatic(const QString& name, const QString& text, int stretch);
@@ -115,7 +138,11 @@ class CommandBars : public QObject {
     CommandList* GetList(const QString& name) const;
     StaticItem* GetStatic(const QString& name) const;
     ProgressCounter* GetProgress(const QString& name) const;
+    ComboTool* GetComboBox(const QString& name) const;
+    EditTool* GetEdit(const QString& name) const;
+    Command* GetCustomPopup(const QString& name) const;
 
+    void closePopup(const QString& name);
     /// Shows a menu; returns at once.
     void showPopup(const QString& name, const QPoint& globalPosition);
     /// Tells which menu belongs to a widget at the moment it is asked for (empty: none). The menu key opens
@@ -131,14 +158,25 @@ class CommandBars : public QObject {
     void commandStarted(const QString& name);
     /// The pointer, or the walk through a menu by keys, came to a command or menu.
     void commandPointed(const QString& name, const QString& description);
+    void textEdited(const QString& name);
+    void popupOpening(const QString& name);
 
   private:
+    struct CustomPopup {
+        Command* button;
+        QWidget* panel;
+    };
+
+    Command* makeCommand(const CommandDesign& design);
     void watch(QAction* action, const Command* command);
     void start(const QString& name);
     void addItems(QWidget* place, const QStringList& items);
     QAction* offeredAction(QWidget* where, const QKeyEvent* key) const;
     bool filterOffered(QWidget* where, QEvent* event);
     bool filterButton(QWidget* button, QEvent* event);
+    bool filterTool(QWidget* tool, const QEvent* event);
+    bool canBeReached(const QAction* action) const;
+    QPoint below(QAction* action) const;
     QList<QWidget*> buttons() const;
 
     QMainWindow* m_window;
@@ -148,7 +186,10 @@ class CommandBars : public QObject {
     std::map<QString, CommandList*> m_lists;
     std::map<QString, StaticItem*> m_statics;
     std::map<QString, ProgressCounter*> m_progress;
+    std::map<QString, QWidget*> m_tools;
+    std::map<QString, CustomPopup> m_customPopups;
     std::vector<QToolBar*> m_bars;
+    std::set<const QToolBar*> m_offBars;
     std::map<QWidget*, std::function<QString()>> m_offers;
     QPointer<QWidget> m_focusBefore;
     bool m_running = false;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "platform/ui/CommandBars.h"
 
@@ -22,7 +23,8 @@ void CommandBars::offerPopup(QWidget* where, std::function<QString()> menuNow) {
 
 bool CommandBars::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = static_cast<QWidget*>(watched);
-    return m_offers.count(widget) ? filterOffered(widget, event) : filterButton(widget, event);
+    if (m_offers.count(widget)) return filterOffered(widget, event);
+    return qobject_cast<QToolButton*>(widget) ? filterButton(widget, event) : filterTool(widget, event);
 }
 
 QAction* CommandBars::offeredAction(QWidget* where, const QKeyEvent* key) const {

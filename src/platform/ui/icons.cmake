@@ -3,34 +3,80 @@
 set(VESTROLA_ICON_NAMES
   application-exit
   application-vnd.ms-access
+  archive-remove
+  arrow-down-double
+  checkbox
+  choice-round
+  code-variable
   document-edit
+  document-new
   document-open
+  document-print
+  document-properties
+  document-save
   document-save-as
   document-send
   edit-clear-all
   edit-copy
+  edit-cut
   edit-delete
+  edit-find
+  edit-paste
+  edit-redo
   edit-rename
   edit-select-all
   edit-select-none
+  edit-table-delete-column
+  edit-table-delete-row
+  edit-table-insert-column-right
+  edit-table-insert-row-below
+  edit-undo
   folder
   folder-new
   folder-open
+  format-border-set-all
+  format-indent-less
+  format-indent-more
+  format-justify-center
+  format-justify-fill
+  format-justify-left
+  format-justify-right
+  format-list-ordered
+  format-list-unordered
+  format-text-bold
+  format-text-code
+  format-text-color
+  format-text-italic
+  format-text-underline
   globe
   go-top
   help-about
   help-contents
+  insert-horizontal-rule
+  insert-image
+  insert-link
+  insert-table
+  insert-text-frame
   languages
   list-add-user
   list-remove-user
+  mail-attachment
+  mail-mark-important
   mail-message
   mail-message-new
   media-playback-stop
   resource-group
   server-database
   text-csv
+  text-field
+  text-html
   user-properties
-  view-pim-contacts)
+  view-form
+  view-hidden
+  view-list-details
+  view-list-text
+  view-pim-contacts
+  view-visible)
 
 set(breeze_dir /usr/share/icons/breeze CACHE PATH "Breeze icon theme, the source of the compiled-in icons")
 set(breeze_licence /usr/share/doc/breeze-icon-theme/copyright CACHE FILEPATH "licence of the Breeze icon theme")
