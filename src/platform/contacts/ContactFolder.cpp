@@ -15,8 +15,7 @@ namespace contacts {
 
 namespace {
 
-constexpr int patienceMs = 60'000;
-constexpr qsizetype largestOutput = 256LL * 1024 * 1024;
+constexpr qsizetype largestOutput = 128LL * 1024 * 1024;
 
 QString& chosenHelper() {
     static QString program;
@@ -55,13 +54,13 @@ void setOutlookHelper(const QString& program) {
     chosenHelper() = program;
 }
 
-Result<ContactFolder> readContactFolder(const QString& path) {
+Result<ContactFolder> readContactFolder(const QString& path, std::chrono::milliseconds patience) {
     QProcess helper;
     helper.setProgram(outlookHelper());
     helper.setArguments({QFileInfo(path).absoluteFilePath()});
     helper.setStandardInputFile(QProcess::nullDevice());
     helper.setStandardErrorFile(QProcess::nullDevice());
-    const QDeadlineTimer deadline(patienceMs);
+    const QDeadlineTimer deadline(patience);
     helper.start(QIODevice::ReadOnly);
     QByteArray output;
     while (output.size() < largestOutput &&

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <QString>
 #include <QStringList>
@@ -44,7 +45,9 @@ void setOutlookHelper(const QString& program);
 /// Reads the contacts folder of a data file. The file is read by the helper in a process of its own, since
 /// what can be in such a file has brought its readers down before. A helper that cannot be started, or ends,
 /// hangs or talks rubbish before it told the count, gives FileNotFound, Timeout or UnrecognizedFormat;
-/// afterwards its end is the end of the entries. Blocks for at most a minute; takes at most 256 MB.
-Result<ContactFolder> readContactFolder(const QString& path);
+/// afterwards its end is the end of the entries. Blocks for as long as the helper works, at most for
+/// `patience`; takes at most 128 MB of what it says.
+Result<ContactFolder> readContactFolder(const QString& path,
+                                        std::chrono::milliseconds patience = std::chrono::seconds(60));
 
 }  // namespace contacts

@@ -20,7 +20,7 @@ namespace {
 constexpr qint64 largestBook = 512LL * 1024 * 1024;
 constexpr int largestValue = 8 * 1024 * 1024;
 constexpr int stepsBetweenChecks = 1'000'000;
-constexpr int mostChecks = 2'000;
+constexpr int mostChecks = 200;
 
 /// The database, its write-ahead log and its rollback journal.
 constexpr std::array<const char*, 3> suffixes{"", "-wal", "-journal"};
