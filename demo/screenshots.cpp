@@ -3,28 +3,22 @@
 //     demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER
 //
 // FOLDER is a program folder made by demo_make.
-#include <cstdio>
-#include <QApplication>
 #include <QDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include "accounts/frmAccount.h"
-#include "core/bMain.h"
 #include "core/Finestre.h"
-#include "core/Prodotto.h"
-#include "platform/system/ProgramFolder.h"
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/Desktop.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
-#include "platform/ui/Unattended.h"
 #include "send/frmInvia.h"
 #include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "store/frmDestinatario.h"
+#include "unattended.h"
 
 namespace {
 
@@ -73,23 +67,10 @@ void takeAll(const QString& message) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 4) {
-        std::fprintf(stderr, "usage: demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER\n");
-        return 2;
-    }
-    QApplication::setApplicationName(prodotto::nome());
-    QLocale::setDefault(QLocale("it_IT"));
-    sys::setProgramFolder(arguments[1]);
-    ui::setUnattended(true);
-    ui::setUpDesktop(application);
-    outputFolder = arguments[3];
-    QDir().mkpath(outputFolder);
-    SubMain();
-    QTimer::singleShot(0, [&arguments] {
-        takeAll(arguments[2]);
-        QApplication::exit(0);
-    });
-    return QApplication::exec();
+    return runUnattended(argc, argv, "demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER",
+                         [](const QStringList& arguments) {
+                             outputFolder = arguments[2];
+                             QDir().mkpath(outputFolder);
+                             takeAll(arguments[1]);
+                         });
 }

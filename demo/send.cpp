@@ -5,24 +5,18 @@
 //
 // FOLDER is the program folder. LOG and SCREENSHOT may be "-" for none. Ends with 0 when the run came to its
 // end.
-#include <cstdio>
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QTest>
 #include <QTimer>
 
-#include "core/bMain.h"
 #include "core/Finestre.h"
-#include "core/Prodotto.h"
-#include "platform/system/ProgramFolder.h"
-#include "platform/ui/Desktop.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
-#include "platform/ui/Unattended.h"
 #include "send/frmInvia.h"
 #include "shell/frmMain.h"
+#include "unattended.h"
 
 namespace {
 
@@ -78,25 +72,12 @@ void runOnce(const Choices& choices) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 5) {
-        std::fprintf(stderr, "usage: demo_send FOLDER MESSAGE.mss LOG.xt1 SCREENSHOT.png\n");
-        return 2;
-    }
-    QApplication::setApplicationName(prodotto::nome());
-    QLocale::setDefault(QLocale("it_IT"));
-    sys::setProgramFolder(arguments[1]);
-    ui::setUnattended(true);
-    ui::setUpDesktop(application);
-    SubMain();
-    const Choices choices{arguments[2], arguments[3], arguments[4]};
-    QTimer::singleShot(0, [&choices] {
-        auto* command = finestre::Main().findChild<QAction*>("cmdInvia");
-        if (!command) qFatal("the main window has no command cmdInvia");
-        QTimer::singleShot(0, [&choices] { runOnce(choices); });
-        command->trigger();
-        QApplication::exit(0);
-    });
-    return QApplication::exec();
+    return runUnattended(argc, argv, "demo_send FOLDER MESSAGE.mss LOG.xt1 SCREENSHOT.png",
+                         [](const QStringList& arguments) {
+                             const Choices choices{arguments[1], arguments[2], arguments[3]};
+                             auto* command = finestre::Main().findChild<QAction*>("cmdInvia");
+                             if (!command) qFatal("the main window has no command cmdInvia");
+                             QTimer::singleShot(0, [&choices] { runOnce(choices); });
+                             command->trigger();
+                         });
 }
