@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -10,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "jet/OutsideReaders.h"
 #include "platform/jet/Database.h"
 #include "support/JetChecker.h"
 
@@ -76,12 +78,44 @@ class JetTest : public ::testing::Test {
     static void expectSound(const QString& file) {
         EXPECT_EQ(checkJetFile(local(file)), std::vector<std::string>()) << local(file);
     }
+    static void expectSoundForAll(const QString& file) {
+        expectSound(file);
+        if (const auto findings = sharedCheckerFindings(file)) {
+            EXPECT_EQ(*findings, "");
+        }
+    }
     /// A sample file of the shared folder, or an empty path with a note when the folder is not there.
     static std::string sample(const char* name) {
         std::string file = std::string(SHARED_DIR "/mdb/") + name;
         if (std::filesystem::exists(file)) return file;
         std::printf("[ SAMPLES  ] %s is not here: its part of the test was skipped\n", file.c_str());
         return {};
+    }
+    /// Names of all sample files; none, with a note, when they are not here.
+    static std::vector<std::string> samples() {
+        std::vector<std::string> names;
+        if (!std::filesystem::exists(SHARED_DIR "/mdb")) {
+            std::printf("[ SAMPLES  ] the samples are not here: this part of the test was skipped\n");
+            return names;
+        }
+        for (const auto& entry : std::filesystem::directory_iterator(SHARED_DIR "/mdb"))
+            if (entry.path().extension() == ".mdb") names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    /// A copy of the sample, so that nothing can happen to it; empty when there is none.
+    QString copyOf(const char* name) {
+        const std::string file = sample(name);
+        if (file.empty()) return {};
+        std::filesystem::copy_file(file, local(path(name)));
+        std::filesystem::permissions(local(path(name)), std::filesystem::perms(0644));
+        return path(name);
+    }
+    static bool isJet3(const QString& file) { return bytesOf(file)[0x14] == 0; }
+    /// What opens a sample.
+    static jet::Database::Options optionsFor(const std::string& name) {
+        const bool hasPassword = name.find("with-password") != std::string::npos;
+        return {.password = hasPassword ? QStringLiteral("password") : QString()};
     }
 
     QTemporaryDir m_folder;

@@ -41,10 +41,13 @@ std::string numberText(double number, Type type) {
     return buffer;
 }
 
-// Whole seconds since 1899-12-30. The time of day counts forward also before that day.
+// Whole seconds since 1899-12-30. The other reader knows no dates before 1900.
+std::string secondsText(long long seconds) {
+    return seconds < 2 * 86400 ? "before 1900" : std::to_string(seconds);
+}
+
 std::string dateText(double days) {
-    const double whole = std::trunc(days);
-    return std::to_string(std::llround(whole * 86400 + std::abs(days - whole) * 86400));
+    return secondsText(std::llround(days * 86400));
 }
 
 std::string dateText(const std::string& iso) {
@@ -59,7 +62,15 @@ std::string dateText(const std::string& iso) {
     using namespace std::chrono;
     const auto date = sys_days(std::chrono::year(year) / month / day);
     const auto first = sys_days(std::chrono::year(1899) / 12 / 30);
-    return std::to_string((date - first).count() * 86400LL + hour * 3600 + minute * 60 + second);
+    return secondsText((date - first).count() * 86400LL + hour * 3600 + minute * 60 + second);
+}
+
+// The five bytes that the code page of Access 97 leaves undefined are question marks to the other reader.
+std::string withoutUndefined(std::string text) {
+    for (const char* undefined : {"\u0081", "\u008D", "\u008F", "\u0090", "\u009D"})
+        for (size_t at; (at = text.find(undefined)) != std::string::npos;)
+            text.replace(at, 2, "?");
+    return text;
 }
 
 std::string comparable(const Value& value, Type type) {
@@ -71,7 +82,8 @@ std::string comparable(const Value& value, Type type) {
     if (const Currency* amount = std::get_if<Currency>(&value))
         return numberText(static_cast<double>(amount->tenThousandths) / 10000, type);
     // The other reader does not tell an empty text from Null.
-    if (const std::string* text = std::get_if<std::string>(&value)) return text->empty() ? nullMark : *text;
+    if (const std::string* text = std::get_if<std::string>(&value))
+        return text->empty() ? nullMark : withoutUndefined(*text);
     return std::to_string(std::get<Bytes>(value).size()) + " bytes";
 }
 
@@ -85,7 +97,7 @@ std::string comparable(const std::string& text, Type type) {
         case Type::Date:
             return dateText(text);
         default:
-            return text;
+            return withoutUndefined(text);
     }
 }
 

@@ -147,12 +147,6 @@ class RandomTest : public JetTest {
             EXPECT_EQ(firstDifference(engineRows(t), *rows), "");
         }
     }
-    void expectSoundForAll(const QString& file) {
-        expectSound(file);
-        if (const auto findings = sharedCheckerFindings(file)) {
-            EXPECT_EQ(*findings, "");
-        }
-    }
 };
 
 TEST_F(RandomTest, GeneratedFileStaysSoundAndReadable) {

@@ -1,62 +1,14 @@
 #include "platform/jet/Database.h"
 
-#include <algorithm>
-
 #include <QFile>
 
-#include "platform/jet/DefinitionReader.h"
+#include "platform/jet/Catalog.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/UsageMap.h"
 
 namespace jet {
 
 namespace {
-
-CatalogEntry::Kind kindOf(int64_t type) {
-    return type == 1   ? CatalogEntry::Kind::Local
-           : type == 5 ? CatalogEntry::Kind::Query
-                       : CatalogEntry::Kind::Linked;
-}
-
-bool isListed(int64_t type) {
-    return type == 1 || type == 4 || type == 5 || type == 6;
-}
-
-std::vector<CatalogEntry> readCatalog(PageFile& file) {
-    const TableDefinition objects =
-        parseDefinition(readDefinition(file, catalogPage), QStringLiteral("MSysObjects"), catalogPage);
-    const auto column = [&](const char16_t* name) {
-        const std::optional<size_t> found = objects.find(name);
-        if (!found) failDamaged(QStringLiteral("il catalogo non è leggibile"));
-        return *found;
-    };
-    const size_t id = column(u"Id");
-    const size_t name = column(u"Name");
-    const size_t type = column(u"Type");
-    const size_t flags = column(u"Flags");
-
-    std::vector<CatalogEntry> entries;
-    std::string text;
-    RowStore(file, objects).scan([&](RowId, std::span<const uint8_t> bytes) {
-        const RowView row(&objects, bytes);
-        const int64_t kind = row.integer(type);
-        if (!isListed(kind)) return true;
-        text.clear();
-        row.text(name, text);
-        CatalogEntry entry;
-        entry.name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-        entry.kind = kindOf(kind);
-        entry.system =
-            (row.integer(flags) & 0x80000002) != 0 || entry.name.startsWith(u"MSys", Qt::CaseInsensitive);
-        entry.definitionPage = static_cast<uint32_t>(row.integer(id)) & 0xFFFFFF;
-        entries.push_back(std::move(entry));
-        return true;
-    });
-    std::stable_sort(entries.begin(), entries.end(), [](const CatalogEntry& a, const CatalogEntry& b) {
-        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
-    });
-    return entries;
-}
 
 const std::vector<CatalogEntry>& currentCatalog(Engine& engine) {
     if (engine.catalogGeneration != engine.file.generation()) {
@@ -97,6 +49,10 @@ const QString& Database::path() const {
     return m_engine->path;
 }
 
+bool Database::readOnly() const {
+    return m_engine->file.readOnly();
+}
+
 Result<std::vector<CatalogEntry>> Database::catalog() {
     return guarded([&]() -> Result<std::vector<CatalogEntry>> {
         const Reading reading(m_engine->file);
@@ -115,9 +71,7 @@ Result<Table*> Database::table(QStringView name) {
                 continue;
             }
             std::unique_ptr<Table>& table = m_engine->tables[entry.definitionPage];
-            if (!table)
-                table.reset(
-                    new Table(std::make_unique<TableState>(*m_engine, entry.name, entry.definitionPage)));
+            if (!table) table.reset(new Table(std::make_unique<TableState>(*m_engine, entry)));
             return table.get();
         }
         if (other)

@@ -36,6 +36,7 @@ struct CatalogEntry {
     Kind kind = Kind::Local;
     bool system = false;
     uint32_t definitionPage = 0;
+    RowId place = {};  ///< of its row in MSysObjects
 };
 
 /// A row's bytes seen through its table's definition. Borrowed: valid until the next call on the Database.
@@ -90,8 +91,8 @@ class Table {
     Result<std::optional<RowId>> findByPrimaryKey(int32_t key);
 
     /// Why no row may be inserted or deleted, or success. Looks at everything that could not be kept right:
-    /// indexes on other than one long, columns that are not understood, enforced relations, system tables,
-    /// read-only files.
+    /// indexes whose keys are not known for sure or do not agree with their rows, columns that are not
+    /// understood, enforced relations, system tables, read-only files.
     Status writable();
     /// Why these columns (by position) of existing rows may not be changed, or success. Less than writable()
     /// asks for: an index that cannot be kept matters only when one of its columns changes.
@@ -101,16 +102,17 @@ class Table {
     Result<int32_t> takeAutoNumber();
     /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null
     /// gets the next number; a greater one raises the counter. Only between begin() and commit(). Failures of
-    /// values, naming the column: TypeMismatch, Overflow, FieldTooSmall, ValueRequired, RecordTooLarge,
-    /// DuplicateKey, NotSupported (memo and OLE other than Null).
-    /// Taken for a column: yes/no: bool, or a number that is not 0 · whole numbers: int64_t, or bool as -1
-    /// and 0 · single, double: double or int64_t · everything else the alternative that reading gives.
+    /// values, naming the column: TypeMismatch, Overflow, FieldTooSmall, ValueRequired (Null, or empty text
+    /// where the column forbids it), RecordTooLarge, DuplicateKey, NotSupported (memo and OLE other than
+    /// Null, indexed text with characters whose key is not known). Taken for a column: yes/no: bool, or a
+    /// number that is not 0 · whole numbers: int64_t, or bool as -1 and 0 · single, double: double or int64_t
+    /// · everything else the alternative that reading gives.
     Result<RowId> insert(std::span<const Value> values);
     /// Changes the columns named by position; values as for insert(). Columns that already hold the value do
     /// not count. An auto-number cannot be changed. Only between begin() and commit().
     Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
-    /// Deletes a row. What its memo and OLE values hold on other pages stays behind as lost room.
-    /// Only between begin() and commit().
+    /// Deletes a row, and what its memo and OLE values hold on other pages. Only between begin() and
+    /// commit().
     Status erase(RowId id);
 
   private:
@@ -139,8 +141,8 @@ class Database {
     };
 
     /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a
-    /// missing or unreadable file, a file that is no Jet 4 database, one that is truncated, or a wrong
-    /// password.
+    /// missing or unreadable file, a file that is no Jet database, one that is truncated, or a wrong
+    /// password. Files of Access 97 (Jet 3) are opened for reading only.
     static Result<std::unique_ptr<Database>> open(const QString& path, const Options& options);
     static Result<std::unique_ptr<Database>> open(const QString& path) { return open(path, {}); }
     ~Database();  ///< a transaction that is open is undone
@@ -148,6 +150,8 @@ class Database {
     Database& operator=(const Database&) = delete;
 
     const QString& path() const;
+    /// Whether nothing can be written: asked for, without the right to, or a file of Access 97 (Jet 3).
+    bool readOnly() const;
     /// Tables of the catalogue by name (system tables included and marked).
     Result<std::vector<CatalogEntry>> catalog();
     /// A local table by name, case ignored. Linked tables and queries are refused.

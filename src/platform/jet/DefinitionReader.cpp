@@ -1,8 +1,10 @@
 #include "platform/jet/DefinitionReader.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "platform/jet/Failure.h"
+#include "platform/jet/Jet3.h"
 
 namespace jet {
 
@@ -51,6 +53,7 @@ Column parseColumn(const uint8_t* p) {
     column.autoNumber = flags & 0x04;
     column.autoGuid = flags & 0x40;
     column.compressed = p[16] & 0x01;
+    column.generalOrder = load16(p + 11) == 0x0409 && p[14] == 0;
     column.fixedOffset = load16(p + 21);
     column.length = load16(p + 23);
     return column;
@@ -76,20 +79,24 @@ Index parseIndex(const uint8_t* p) {
 std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
     std::vector<uint8_t> block;
     uint32_t next = page;
+    const size_t pageEnd = file.bytesPerPage();
     for (size_t pages = 0; pages == 0 || next != 0; ++pages) {
         const PagePtr bytes = file.page(next);
         if ((*bytes)[0] != DefinitionPage)
             failDamaged(QStringLiteral("la pagina %1 non è la definizione di una tabella").arg(next));
         if (pages == maxDefinitionPages)
             failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non finisce").arg(page));
-        block.insert(block.end(), bytes->begin() + (pages == 0 ? 0 : definition::joined), bytes->end());
+        const auto own = std::span(*bytes).first(pageEnd).subspan(pages == 0 ? 0 : definition::joined);
+        block.insert(block.end(), own.begin(), own.end());
         next = load32(bytes->data() + definition::next);
     }
-    return block;
+    return file.header().jet3 ? jet3::widenDefinition(block) : block;
 }
 
-TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page) {
+TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page,
+                                bool jet3) {
     TableDefinition table;
+    table.jet3 = jet3;
     table.name = name;
     table.page = page;
     const uint8_t* p = block.data();
@@ -112,6 +119,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
         table.columns.push_back(parseColumn(cursor.take(definition::columnLength)));
     for (Column& column : table.columns) {
         column.name = cursor.takeName();
+        column.ansi = jet3;
         if (column.number >= table.maxColumns ||
             (!column.fixed && column.type != Type::YesNo && column.variableIndex >= table.variableColumns))
             failDamaged(
@@ -131,9 +139,17 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
         if (kind == 1) table.indexes[realOf[i]].primaryKey = true;
         if (kind == 2 || otherTable != 0) table.enforcedRelation = true;
     }
+    const auto setMaps = [&](uint16_t number, uint32_t owned, uint32_t room) {
+        for (Column& column : table.columns)
+            if (column.number == number) std::tie(column.longOwned, column.longRoom) = std::tie(owned, room);
+    };
     for (size_t i = 0; i < logicalIndexes; ++i) {
         const QString logicalName = cursor.takeName();
         if (table.indexes[realOf[i]].name.isEmpty()) table.indexes[realOf[i]].name = logicalName;
+    }
+    for (uint16_t number; (number = load16(cursor.take(2))) != 0xFFFF;) {
+        const uint8_t* maps = cursor.take(8);
+        setMaps(number, load32(maps), load32(maps + 4));
     }
     std::stable_sort(table.columns.begin(), table.columns.end(), [](const Column& a, const Column& b) {
         return std::pair(a.displayPosition, a.number) < std::pair(b.displayPosition, b.number);

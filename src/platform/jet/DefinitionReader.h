@@ -8,11 +8,12 @@
 namespace jet {
 
 /// Joins the pages of the definition that begins on `page`. Throws Failure for a chain that is broken or
-/// loops.
+/// loops. One of Jet 3 gets the form of Jet 4.
 std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page);
 
-/// Parses a joined definition. Throws Failure when it contradicts itself.
-TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page);
+/// Parses a joined definition; `jet3` tells what file it is from. Throws Failure when it contradicts itself.
+TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page,
+                                bool jet3);
 
 /// Sets to zero what changes with the rows (row count, auto-number, key counts), so that two definitions of
 /// the same structure compare equal.

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 
 #include "platform/jet/Database.h"
 #include "platform/jet/Failure.h"
@@ -24,7 +25,7 @@ struct Engine {
 };
 
 struct TableState {
-    TableState(Engine& sharedEngine, const QString& name, uint32_t page);
+    TableState(Engine& sharedEngine, const CatalogEntry& entry);
 
     /// Makes sure that the definition still is the file's. Throws Failure if another program has changed it.
     void ensureCurrent();
@@ -41,6 +42,7 @@ struct TableState {
     uint64_t generation;
     RowStore rows;
     bool autoNumberChecked = false;  ///< the counter is not below the greatest key
+    std::set<size_t> provedIndexes;  ///< their entries were held against their rows
     PagePtr borrowed;                ///< page of the row that row() handed out
 };
 

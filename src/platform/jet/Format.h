@@ -1,7 +1,8 @@
 #pragma once
 
-// Where things stand in a Jet 4 file. Numbers are little endian unless "Big" is said; offsets count from the
-// start of the page. docs/formats/jet.md tells the same with the reasons.
+// Where things stand in a Jet 4 file (those of Jet 3 get this form as they are read, see Jet3.h). Numbers are
+// little endian unless "Big" is said; offsets count from the start of the page. docs/formats/jet.md tells the
+// same with the reasons.
 
 #include <array>
 #include <cstddef>
@@ -81,7 +82,8 @@ inline constexpr size_t engineName = 0x04;  // 16: "Standard Jet DB", NUL
 inline constexpr size_t version = 0x14;     // u32: 0 Jet 3, 1 Jet 4, above: later formats
 inline constexpr size_t masked = 0x18;      // 128 bytes
 inline constexpr size_t maskedLength = 128;
-inline constexpr size_t pageKey = 0x3E;  // u32: 0 = pages in clear
+inline constexpr size_t codePage = 0x3C;  // u16: of the texts of Jet 3
+inline constexpr size_t pageKey = 0x3E;   // u32: 0 = pages in clear
 inline constexpr size_t password = 0x42;
 inline constexpr size_t passwordLength = 40;
 inline constexpr size_t creationDate = 0x72;  // f64
@@ -130,6 +132,7 @@ inline constexpr size_t bits = 5;       // form 0: low bit first
 inline constexpr size_t pages = 1;      // form 1: u32 numbers of bitmap pages
 inline constexpr size_t bitmap = 4;     // bits on a bitmap page
 inline constexpr uint32_t pagesPerBitmap = (pageSize - bitmap) * 8;
+inline constexpr size_t mostBitmaps = 16;  // reach to the greatest file; what follows may be rubbish
 inline constexpr size_t ordinaryLength = 69;
 }  // namespace map
 

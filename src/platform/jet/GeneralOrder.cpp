@@ -254,8 +254,14 @@ void appendUnknown(std::string& key, char32_t code) {
         key.push_back(static_cast<char>(0x80 | (code >> shift & 0x7f)));
 }
 
+/// Two weights of letters; other characters of two bytes begin with the mark of a group.
+bool isLigature(const Weight& weight) {
+    constexpr uint8_t firstLetter = 0x4a;
+    return weight.main[0] >= firstLetter && weight.main[1] >= firstLetter;
+}
+
 /// Appends the whole key of at most `limit` UTF-16 units, and tells whether every character was known.
-bool appendKey(std::string& key, std::string_view text, size_t limit) {
+bool appendKey(std::string& key, std::string_view text, size_t limit, LigaturePlaces places) {
     const size_t end = text.find_last_not_of(' ');
     text = text.substr(0, end == std::string_view::npos ? 0 : end + 1);
     KeyParts parts;
@@ -275,6 +281,8 @@ bool appendKey(std::string& key, std::string_view text, size_t limit) {
         } else {
             key.push_back(static_cast<char>(weight.main[0]));
             if (weight.main[1] != 0) key.push_back(static_cast<char>(weight.main[1]));
+            if (places == LigaturePlaces::Two && isLigature(weight))
+                parts.accents.push_back(static_cast<char>(noAccent));
         }
         parts.accents.push_back(static_cast<char>(weight.accent != 0 ? weight.accent : noAccent));
     }
@@ -289,7 +297,7 @@ bool appendKey(std::string& key, std::string_view text, size_t limit) {
 }  // namespace
 
 void appendSortKey(std::string& key, std::string_view utf8) {
-    appendKey(key, utf8, std::string::npos);
+    appendKey(key, utf8, std::string::npos, LigaturePlaces::One);
 }
 
 int compareGeneral(std::string_view left, std::string_view right) {
@@ -301,10 +309,10 @@ int compareGeneral(std::string_view left, std::string_view right) {
     return leftKey.compare(rightKey);
 }
 
-bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending) {
+bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending, LigaturePlaces places) {
     const size_t start = key.size();
     key.push_back(0x7f);
-    if (!appendKey(key, utf8, indexedCharacters)) {
+    if (!appendKey(key, utf8, indexedCharacters, places)) {
         key.resize(start);
         return false;
     }
@@ -313,6 +321,17 @@ bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending) {
         key[i] = static_cast<char>(~key[i]);
     key.push_back(0);
     return true;
+}
+
+bool hasCertainKey(std::string_view utf8) {
+    for (size_t at = 0; at < utf8.size();) {
+        const char32_t code = nextCodePoint(utf8, at);
+        if (code == 0 || code > 0xff) return false;
+    }
+    std::string one;
+    std::string two;
+    return appendIndexKey(one, utf8, true, LigaturePlaces::One) &&
+           appendIndexKey(two, utf8, true, LigaturePlaces::Two) && one == two;
 }
 
 }  // namespace jet

@@ -16,9 +16,19 @@ void appendSortKey(std::string& key, std::string_view utf8);
 /// Below, equal to or above 0 as `left` sorts before, with or behind `right`.
 int compareGeneral(std::string_view left, std::string_view right);
 
+/// Letters with two main weights (ß, Æ, Þ and their like): other programs count them as one or as two places
+/// where the place of an accent, hyphen or apostrophe behind them is told.
+enum class LigaturePlaces { One, Two };
+
 /// Appends the key that a text has in an index of the file: 7F and the sort key of the first 255 characters,
 /// or its inverted form for a descending column. Returns false, and appends nothing, when the text holds a
-/// character whose weight is not known: such a text cannot be kept in an index.
-[[nodiscard]] bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending = true);
+/// character whose weight is not known.
+[[nodiscard]] bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending = true,
+                                  LigaturePlaces places = LigaturePlaces::One);
+
+/// Whether the text's index key is the one that Access writes: files made by it show the weights of U+0001 to
+/// U+00FF, and the text has the same key however ligatures are counted. Other text cannot be kept in an
+/// index.
+bool hasCertainKey(std::string_view utf8);
 
 }  // namespace jet

@@ -1,10 +1,13 @@
 #include "platform/jet/Header.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <numeric>
 
 #include "platform/jet/Failure.h"
+#include "platform/jet/Jet3.h"
+#include "platform/text/AnsiCodec.h"
 
 namespace jet {
 
@@ -33,8 +36,12 @@ QString passwordOf(const Page& clear) {
     return password;
 }
 
-}  // namespace
+QString jet3PasswordOf(const Page& clear) {
+    const char* p = reinterpret_cast<const char*>(&clear[header::password]);
+    return text::fromAnsi(QByteArrayView(p, qsizetype(qstrnlen(p, jet3::passwordLength))));
+}
 
+// XORs `bytes` with the RC4 stream of `key`.
 void rc4(std::span<const uint8_t> key, std::span<uint8_t> bytes) {
     std::array<uint8_t, 256> state;
     std::iota(state.begin(), state.end(), uint8_t{0});
@@ -53,6 +60,14 @@ void rc4(std::span<const uint8_t> key, std::span<uint8_t> bytes) {
     }
 }
 
+}  // namespace
+
+void codePage(uint32_t pageKey, uint32_t number, std::span<uint8_t> bytes) {
+    uint8_t key[4];
+    store32(key, pageKey ^ number);
+    rc4(key, bytes);
+}
+
 void maskHeader(Page& page0) {
     rc4(headerKey, std::span(page0).subspan(header::masked, header::maskedLength));
 }
@@ -67,15 +82,16 @@ Header parseHeader(std::span<const uint8_t> page0) {
             "è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)");
     if (std::memcmp(name, "Standard Jet DB", 16) != 0) failFormat("il file non è un database Jet");
     const uint32_t version = load32(page0.data() + header::version);
-    if (version == 0)
-        failFormat("è un file di Access 97 (Jet 3); convertirlo in formato Access 2000-2003 (.mdb)");
-    if (version != 1) failFormat("è di una versione più recente di Access 2003");
-    if (page0.size() < pageSize) failDamaged(QStringLiteral("il file è troncato"));
+    if (version > 1) failFormat("è di una versione più recente di Access 2003");
+    const bool old = version == 0;
+    if (page0.size() < (old ? jet3::pageSize : pageSize)) failDamaged(QStringLiteral("il file è troncato"));
 
-    Page clear;
-    std::memcpy(clear.data(), page0.data(), pageSize);
-    maskHeader(clear);
-    return {load32(&clear[header::pageKey]), passwordOf(clear)};
+    Page clear{};
+    std::copy_n(page0.begin(), old ? jet3::pageSize : pageSize, clear.begin());
+    rc4(headerKey, std::span(clear).subspan(header::masked, old ? jet3::maskedLength : header::maskedLength));
+    if (old && load16(&clear[header::codePage]) != 1252)
+        failFormat("è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)");
+    return {old, load32(&clear[header::pageKey]), old ? jet3PasswordOf(clear) : passwordOf(clear)};
 }
 
 }  // namespace jet

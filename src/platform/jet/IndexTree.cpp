@@ -30,6 +30,10 @@ RowId rowOf(std::span<const uint8_t> keyAndRow) {
     return {load24Big(p), p[3]};
 }
 
+Bytes keyIn(std::span<const uint8_t> keyAndRow) {
+    return copyOf(keyAndRow.first(keyAndRow.size() - index::rowIdLength));
+}
+
 }  // namespace
 
 IndexPage IndexTree::load(uint32_t number) const {
@@ -102,19 +106,45 @@ std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
     failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
 }
 
-std::optional<Bytes> IndexTree::lastKey() const {
+// The first or the last leaf of the index.
+IndexPage IndexTree::edgeLeaf(bool last) const {
     uint32_t number = m_index.rootPage;
     for (size_t depth = 0; depth < maxDepth; ++depth) {
-        const IndexPage page = load(number);
-        if (!page.leaf) {
-            number = page.tail != 0 ? page.tail : page.child(page.count() - 1);
-            continue;
-        }
-        if (page.count() == 0) return std::nullopt;
-        const auto last = page.keyAndRow(page.count() - 1);
-        return copyOf(last.first(last.size() - index::rowIdLength));
+        IndexPage page = load(number);
+        if (page.leaf) return page;
+        const bool tail = page.count() == 0 || (last && page.tail != 0);
+        number = tail ? page.tail : page.child(last ? page.count() - 1 : 0);
     }
     failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+}
+
+std::optional<Bytes> IndexTree::lastKey() const {
+    const IndexPage leaf = edgeLeaf(true);
+    if (leaf.count() == 0) return std::nullopt;
+    return keyIn(leaf.keyAndRow(leaf.count() - 1));
+}
+
+std::optional<Bytes> IndexTree::keyOf(RowId row) const {
+    IndexPage leaf = edgeLeaf(false);
+    for (uint32_t hops = 0; hops <= m_file.pageCount(); ++hops) {
+        for (size_t i = 0; i < leaf.count(); ++i)
+            if (rowOf(leaf.keyAndRow(i)) == row) return keyIn(leaf.keyAndRow(i));
+        if (leaf.next == 0) return std::nullopt;
+        leaf = load(leaf.next);
+    }
+    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+}
+
+std::vector<IndexTree::Entry> IndexTree::someEntries(size_t most) const {
+    std::vector<Entry> entries;
+    const auto add = [&](const IndexPage& leaf, size_t from) {
+        for (size_t i = from; i < leaf.count() && i < from + most; ++i)
+            entries.push_back({keyIn(leaf.keyAndRow(i)), rowOf(leaf.keyAndRow(i))});
+    };
+    add(edgeLeaf(false), 0);
+    const IndexPage last = edgeLeaf(true);
+    add(last, last.count() - std::min(most, last.count()));
+    return entries;
 }
 
 void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
@@ -211,25 +241,25 @@ void IndexTree::growRoot(std::vector<Part> parts, uint8_t level) {
     store(m_index.rootPage, root);
 }
 
-void IndexTree::erase(std::span<const uint8_t> key, RowId row) {
+bool IndexTree::erase(std::span<const uint8_t> key, RowId row) {
     const Bytes entry = entryOf(key, row);
     Path path = descendForChange(entry);
     const size_t depth = path.size() - 1;
     IndexPage& leaf = path[depth].page;
     const size_t at = leaf.lowerBound(entry);
-    if (at == leaf.count() || compareEntries(leaf.keyAndRow(at), entry) != 0)
-        failDamaged(QStringLiteral("in un indice di \"%1\" manca una riga").arg(m_definition.name));
+    if (at == leaf.count() || compareEntries(leaf.keyAndRow(at), entry) != 0) return false;
     leaf.erase(at);
     if (leaf.count() == 0 && depth > 0) {
         removeEmpty(path, depth);
         shrinkRoot();
-        return;
+        return true;
     }
     const bool wasLast = at == leaf.count() && at > 0;
     const Bytes greatest = wasLast ? copyOf(leaf.keyAndRow(at - 1)) : Bytes();
     // Without an entry the common prefix can only become longer, so the leaf fits.
     store(path[depth].number, leaf);
     if (wasLast) greatestChanged(path, depth, greatest);
+    return true;
 }
 
 // Rule T2, upwards from the page at `depth`, whose greatest entry is another one now.

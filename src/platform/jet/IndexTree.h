@@ -30,7 +30,16 @@ class IndexTree {
     /// Greatest key of the index.
     std::optional<Bytes> lastKey() const;
     void insert(std::span<const uint8_t> key, RowId row);
-    void erase(std::span<const uint8_t> key, RowId row);
+    /// Takes an entry out; false when it is not there.
+    bool erase(std::span<const uint8_t> key, RowId row);
+    /// Key of the row's entry, found by a walk over the whole index.
+    std::optional<Bytes> keyOf(RowId row) const;
+    /// Some entries: those of the first and of the last leaf, at most `most` of each.
+    struct Entry {
+        Bytes key;
+        RowId row;
+    };
+    std::vector<Entry> someEntries(size_t most) const;
 
   private:
     /// A page on the way down, as it is in the file, and which child was taken (count() of the page = its
@@ -47,6 +56,7 @@ class IndexTree {
     };
 
     IndexPage load(uint32_t number) const;
+    IndexPage edgeLeaf(bool last) const;
     void store(uint32_t number, const IndexPage& page);
     uint32_t takePage();
     void givePage(uint32_t number);

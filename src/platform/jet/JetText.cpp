@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/jet/Format.h"
+#include "platform/text/AnsiCodec.h"
 
 namespace jet {
 
@@ -91,6 +92,11 @@ void appendUtf8(std::span<const uint8_t> stored, std::string& out) {
     if (stored.size() >= 2 && stored[0] == 0xFF && stored[1] == 0xFE)
         return appendCompressed(stored.subspan(2), out);
     appendUnits(stored, out);
+}
+
+void appendAnsiAsUtf8(std::span<const uint8_t> stored, std::string& out) {
+    for (const uint8_t byte : stored)
+        appendCodePoint(text::ansiCharacter(byte), out);
 }
 
 std::u16string toUtf16(std::string_view utf8) {

@@ -16,6 +16,9 @@ namespace jet {
 /// Appends the UTF-8 form of stored text to `out`. Lone surrogates and a cut last unit become U+FFFD.
 void appendUtf8(std::span<const uint8_t> stored, std::string& out);
 
+/// The same for text of Jet 3, which is stored in Windows-1252.
+void appendAnsiAsUtf8(std::span<const uint8_t> stored, std::string& out);
+
 /// UTF-16 units of UTF-8 text; invalid bytes become U+FFFD.
 std::u16string toUtf16(std::string_view utf8);
 

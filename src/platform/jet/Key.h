@@ -1,18 +1,49 @@
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <QString>
+#include <vector>
 
+#include "platform/jet/Row.h"
 #include "platform/jet/TableDefinition.h"
 
+/// Keys of index entries. One part for each column of the index: Null is 00; else 7F and
+///   yes/no          00 True, FF False (never Null)
+///   whole numbers   big endian, sign bit flipped (byte: as it is); currency likewise
+///   single, double, date   big endian, sign bit flipped, or all bits where it was set
+///   GUID, binary    groups of 8 bytes, the last filled with 00, each followed by 09 if more follows, else by
+///                   the number of bytes used; a GUID in the order in which it is written out
+///   text            see GeneralOrder.h
+/// Descending: all bytes inverted, but for the 09; text gets one more 00.
 namespace jet {
 
-/// Index key of a long: Null is 00 (descending FF); else 7F and the value, big endian with its sign bit
-/// flipped (descending 80 and those bytes inverted).
-Bytes longKey(std::optional<int32_t> value, bool ascending);
-/// The value of an ascending key of a long; nothing for Null or another key.
-std::optional<int32_t> longOfKey(const Bytes& key);
+/// What a key is made of: the stored bytes of a column. Null tells False for a yes/no column.
+using FieldOf = std::function<StoredField(const Column&)>;
+inline FieldOf fieldsOf(const Row& row) {
+    return [&row](const Column& column) { return row.field(column); };
+}
 
-/// The column of an index that the engine can keep right, one on a single long; null for every other index.
-const Column* keptColumn(const TableDefinition& definition, const Index& index);
+/// Why keys of that index cannot be made, whatever the rows hold; completes "… non può essere aggiornato,
+/// perché ". Empty when they can.
+QString whyNotKept(const TableDefinition& definition, const Index& index);
+/// Whether no file made by Access was seen with such an index. Its own entries have to show the form then.
+bool needsProof(const TableDefinition& definition, const Index& index);
+
+/// The key of a row that is to be written. Throws Failure (NotSupported), naming the column, for text whose
+/// key is not known for sure, and for a key that is too long.
+Bytes keyToWrite(const TableDefinition& definition, const Index& index, const FieldOf& field);
+/// The keys that a row in a file may have: none when its text holds characters of unknown weight, two when it
+/// holds a letter that other programs count in two ways.
+std::vector<Bytes> possibleKeys(const TableDefinition& definition, const Index& index, const FieldOf& field);
+
+/// How many columns of the index are Null.
+size_t countNulls(const TableDefinition& definition, const Index& index, const FieldOf& field);
+/// Whether the row has an entry in the index.
+bool isIndexed(const TableDefinition& definition, const Index& index, const FieldOf& field);
+
+/// Key of an ascending long, and its value; nothing for Null or another key.
+Bytes longKey(int32_t value);
+std::optional<int32_t> longOfKey(const Bytes& key);
 
 }  // namespace jet

@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "platform/jet/Failure.h"
+#include "platform/jet/Jet3.h"
 
 namespace jet {
 
@@ -56,6 +57,10 @@ void PageFile::readHeader() {
     m_header = parseHeader(std::span(page0).first(length));
 }
 
+size_t PageFile::bytesPerPage() const {
+    return m_header.jet3 ? jet3::pageSize : pageSize;
+}
+
 void PageFile::lock(OsFile& file, OsFile::Lock lock) const {
     using Clock = std::chrono::steady_clock;
     const auto deadline = Clock::now() + std::chrono::milliseconds(m_limits.lockWaitMs);
@@ -98,7 +103,7 @@ void PageFile::beginRead() {
             if (!m_file.isOpen()) open();
             FileState now = lockCurrent(OsFile::Lock::Shared);
             // With this lock held no writer is alive: a journal is what a dead one left.
-            if (m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
+            if (canHaveJournal() && m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
                 recover();
                 now = lockCurrent(OsFile::Lock::Shared);
             }
@@ -136,10 +141,10 @@ void PageFile::refreshState(const FileState& now) {
     if (now == m_state) return;
     dropCache();
     readHeader();
-    if (now.size > uint64_t{maxPages} * pageSize || now.size % pageSize != 0)
+    if (now.size > uint64_t{maxPages} * bytesPerPage() || now.size % bytesPerPage() != 0)
         failDamaged(QStringLiteral("la lunghezza del file non è quella di un database"));
     m_state = now;
-    m_pageCount = static_cast<uint32_t>(now.size / pageSize);
+    m_pageCount = static_cast<uint32_t>(now.size / bytesPerPage());
 }
 
 void PageFile::dropCache() {
@@ -183,13 +188,11 @@ PagePtr PageFile::page(uint32_t n) {
     }
     if (n >= m_pageCount) failDamaged(QStringLiteral("manca la pagina %1").arg(n));
     auto page = std::make_shared_for_overwrite<Page>();
-    if (m_file.read(uint64_t{n} * pageSize, *page) != pageSize)
+    const std::span<uint8_t> bytes = std::span(*page).first(bytesPerPage());
+    if (m_file.read(uint64_t{n} * bytes.size(), bytes) != bytes.size())
         failDamaged(QStringLiteral("la pagina %1 è troncata").arg(n));
-    if (m_header.pageKey != 0 && n != 0) {
-        uint8_t key[4];
-        store32(key, m_header.pageKey ^ n);
-        rc4(key, *page);
-    }
+    if (m_header.pageKey != 0 && n != 0) codePage(m_header.pageKey, n, bytes);
+    if (m_header.jet3) jet3::widenPage(*page);
     keep(n, page);
     return page;
 }
@@ -209,15 +212,20 @@ void PageFile::refuseIfOpenElsewhere() const {
              .arg(shown(m_path), shown(path)));
 }
 
-void PageFile::beginWrite() {
-    if (m_writing) fail(ErrorCode::NotSupported, QStringLiteral("Una transazione è già in corso."));
+void PageFile::requireWritable() const {
+    if (m_header.jet3)
+        fail(ErrorCode::ReadOnlyDatabase,
+             QStringLiteral("Il database \"%1\" è di Access 97: può essere letto ma non modificato. Per "
+                            "modificarlo convertirlo in formato Access 2000-2003 (.mdb).")
+                 .arg(shown(m_path)));
     if (m_readOnly)
         fail(ErrorCode::ReadOnlyDatabase,
              QStringLiteral("Il database \"%1\" è di sola lettura.").arg(shown(m_path)));
-    if (m_header.pageKey != 0)
-        fail(ErrorCode::NotSupported,
-             QStringLiteral("Il database \"%1\" è codificato: può essere letto ma non modificato.")
-                 .arg(shown(m_path)));
+}
+
+void PageFile::beginWrite() {
+    if (m_writing) fail(ErrorCode::NotSupported, QStringLiteral("Una transazione è già in corso."));
+    requireWritable();
     refuseIfOpenElsewhere();
     try {
         if (!m_file.isOpen()) open();
@@ -239,7 +247,7 @@ Page& PageFile::change(uint32_t n) {
     const PagePtr original = page(n);
     if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
     if (n < m_originalPages && !m_journaled[n]) {
-        m_journal.add(n, *original);
+        m_journal.add(n, inFileForm(n, *original));
         m_journaled[n] = true;
     }
     auto copy = std::make_shared<Page>(*original);
@@ -261,12 +269,19 @@ uint32_t PageFile::append() {
     return n;
 }
 
+// A page as it lies in the file: encoded, where the file's pages are.
+Page PageFile::inFileForm(uint32_t n, const Page& page) const {
+    Page bytes = page;
+    if (m_header.pageKey != 0 && n != 0) codePage(m_header.pageKey, n, bytes);
+    return bytes;
+}
+
 // Steps 3 and 4.
 void PageFile::writeChanged() {
     m_journal.sync();
     m_pagesWritten = true;
     for (const auto& [n, page] : m_changed)
-        m_file.write(uint64_t{n} * pageSize, *page);
+        m_file.write(uint64_t{n} * pageSize, inFileForm(n, *page));
     m_changed.clear();
 }
 

@@ -31,7 +31,10 @@ class PageFile {
     PageFile(const PageFile&) = delete;
 
     const Header& header() const { return m_header; }
-    bool readOnly() const { return m_readOnly; }
+    /// Bytes of a page in the file. Pages of Jet 3 are half as long; page() hands them out in the form of Jet
+    /// 4 (see Jet3.h).
+    size_t bytesPerPage() const;
+    bool readOnly() const { return m_readOnly || m_header.jet3; }
     /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
     uint64_t generation() const { return m_generation; }
     uint32_t pageCount() const { return m_pageCount; }
@@ -42,6 +45,8 @@ class PageFile {
     /// Page n. The bytes stay as long as the pointer is held.
     PagePtr page(uint32_t n);
 
+    /// Fails (ReadOnlyDatabase) where beginWrite() would.
+    void requireWritable() const;
     void beginWrite();
     bool writing() const { return m_writing; }
     /// Page n for changing, valid until the end of the statement (endStatement). Its original goes to the
@@ -67,6 +72,8 @@ class PageFile {
     void keep(uint32_t n, std::shared_ptr<Page> page);
     void evict();
     void writeChanged();
+    Page inFileForm(uint32_t n, const Page& page) const;
+    bool canHaveJournal() const { return !m_header.jet3; }
 
     struct Slot {
         std::shared_ptr<Page> page;

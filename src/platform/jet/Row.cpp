@@ -14,53 +14,64 @@ size_t maskLength(size_t columns) {
     return (columns + 7) / 8;
 }
 
-// The parts of a stored row.
+// The parts of a stored row. In Jet 3 the numbers are bytes: the column count, the offsets, and their number
+// with a jump table before it that tells at which offsets 256 more are to be added.
 struct Parts {
     std::span<const uint8_t> row;
     size_t columns = 0;
     size_t maskAt = 0;
     size_t variables = 0;
+    size_t width = 2;  // of its numbers
+    size_t jumps = 0;
     bool valid = false;
 
-    Parts(const TableDefinition& definition, std::span<const uint8_t> bytes) : row(bytes) {
-        if (row.size() < 3) return;
-        columns = load16(row.data());
+    Parts(const TableDefinition& definition, std::span<const uint8_t> bytes)
+        : row(bytes), width(definition.jet3 ? 1 : 2) {
+        if (row.size() < 1 + width) return;
+        columns = number(0);
         const size_t mask = maskLength(columns);
-        if (row.size() < 2 + mask) return;
+        if (row.size() < width + mask) return;
         maskAt = row.size() - mask;
         if (definition.variableColumns > 0) {
-            if (maskAt < 4) return;
-            variables = load16(&row[maskAt - 2]);
+            if (maskAt < 2 * width) return;
+            variables = number(maskAt - width);
+            jumps = definition.jet3 ? (row.size() - 1) / 256 : 0;
             // count, offsets and their number must find room
-            if (2 + 2 * (variables + 2) > maskAt) return;
+            if (width * (variables + 3) + jumps > maskAt) return;
         }
         valid = true;
     }
 
     // Entry k of the offsets; k up to `variables`.
-    size_t offset(size_t k) const { return load16(&row[maskAt - 2 - 2 * (k + 1)]); }
-    size_t offsetsAt() const { return maskAt - 2 - 2 * (variables + 1); }
-    bool mask(size_t number) const {
-        return number < columns && row[maskAt + number / 8] >> (number % 8) & 1;
+    size_t offset(size_t k) const {
+        size_t value = number(maskAt - jumps - width * (k + 2));
+        for (size_t jump = 0; jump < jumps && row[maskAt - 2 - jump] <= k; ++jump)
+            value += 256;
+        return value;
     }
+    size_t fixedAt() const { return width; }
+    size_t offsetsAt() const { return maskAt - jumps - width * (variables + 2); }
+    bool mask(size_t column) const {
+        return column < columns && row[maskAt + column / 8] >> (column % 8) & 1;
+    }
+
+  private:
+    size_t number(size_t at) const { return width == 1 ? row[at] : load16(&row[at]); }
 };
 
 std::span<const uint8_t> variable(const Parts& parts, size_t k) {
     if (k >= parts.variables) return {};
     const size_t start = parts.offset(k);
     const size_t end = parts.offset(k + 1);
-    if (start < 2 || start > end || end > parts.offsetsAt()) return {};
+    if (start < parts.fixedAt() || start > end || end > parts.offsetsAt()) return {};
     return parts.row.subspan(start, end - start);
 }
 
 }  // namespace
 
-bool maskBit(const Column& column, std::span<const uint8_t> row) {
-    if (row.size() < 3) return false;
-    const size_t columns = load16(row.data());
-    const size_t mask = maskLength(columns);
-    if (column.number >= columns || row.size() < 2 + mask) return false;
-    return row[row.size() - mask + column.number / 8] >> (column.number % 8) & 1;
+bool maskBit(const TableDefinition& definition, const Column& column, std::span<const uint8_t> row) {
+    const Parts parts(definition, row);
+    return parts.valid && parts.mask(column.number);
 }
 
 StoredField storedField(const TableDefinition& definition, const Column& column,
@@ -71,8 +82,9 @@ StoredField storedField(const TableDefinition& definition, const Column& column,
         if (column.variableIndex >= parts.variables) return {};
         return {false, variable(parts, column.variableIndex)};
     }
+    if (column.type == Type::YesNo) return {false};
     const size_t length = fixedLength(column);
-    const size_t start = size_t{2} + column.fixedOffset;
+    const size_t start = parts.fixedAt() + column.fixedOffset;
     if (start + length > parts.maskAt) return {};
     return {false, row.subspan(start, length)};
 }
@@ -108,6 +120,13 @@ Row::Row(const TableDefinition& definition, std::span<const uint8_t> bytes) : Ro
 
 bool Row::isNull(const Column& column) const {
     return (m_mask[column.number / 8] >> (column.number % 8) & 1) == 0;
+}
+
+StoredField Row::field(const Column& column) const {
+    if (isNull(column)) return {};
+    if (column.type == Type::YesNo) return {false};
+    if (!column.fixed) return {false, m_variable[column.variableIndex]};
+    return {false, std::span(m_fixed).subspan(column.fixedOffset, fixedLength(column))};
 }
 
 std::optional<int32_t> Row::longValue(const Column& column) const {

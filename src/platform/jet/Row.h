@@ -8,11 +8,17 @@
 
 namespace jet {
 
+/// Stored bytes of one column in a row, for reading only.
+struct StoredField {
+    bool null = true;
+    std::span<const uint8_t> bytes = {};
+};
+
 /// A row taken apart, for changing and writing. Row layout:
 ///   u16 column count · fixed area · variable values · u16 offsets, backwards, one more than values ·
 ///   u16 number of variable values · null mask, bit c = column number c is not Null
 /// The offsets and their number are missing in tables without variable columns. A yes/no column is its mask
-/// bit.
+/// bit. In files of Jet 3 those numbers are single bytes; such rows are only read, by storedField().
 class Row {
   public:
     /// A row of that table in which everything is Null.
@@ -22,6 +28,8 @@ class Row {
     Row(const TableDefinition& definition, std::span<const uint8_t> bytes);
 
     bool isNull(const Column& column) const;
+    /// A column's stored bytes, valid until the row is changed.
+    StoredField field(const Column& column) const;
     /// The value of a long, nothing for Null.
     std::optional<int32_t> longValue(const Column& column) const;
     /// Stores a value; false when nothing changed by it. Throws Failure, naming the column, for a value that
@@ -39,15 +47,10 @@ class Row {
     std::vector<uint8_t> m_mask;
 };
 
-/// Stored bytes of one column in a row, for reading only.
-struct StoredField {
-    bool null = true;
-    std::span<const uint8_t> bytes = {};
-};
 /// Null for whatever the row does not hold or what lies outside it.
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row);
 /// The mask bit of a column.
-bool maskBit(const Column& column, std::span<const uint8_t> row);
+bool maskBit(const TableDefinition& definition, const Column& column, std::span<const uint8_t> row);
 
 }  // namespace jet

@@ -1,5 +1,7 @@
 #include <algorithm>
 
+#include "platform/jet/Catalog.h"
+#include "platform/jet/ColumnProperties.h"
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexTree.h"
@@ -14,14 +16,15 @@ Table::Table(std::unique_ptr<TableState> state) : m_state(std::move(state)) {}
 
 Table::~Table() = default;
 
-TableState::TableState(Engine& sharedEngine, const QString& name, uint32_t page)
+TableState::TableState(Engine& sharedEngine, const CatalogEntry& entry)
     : engine(sharedEngine),
       file(sharedEngine.file),
-      structure(readDefinition(file, page)),
-      definition(parseDefinition(structure, name, page)),
+      structure(readDefinition(file, entry.definitionPage)),
+      definition(parseDefinition(structure, entry.name, entry.definitionPage, file.header().jet3)),
       generation(file.generation()),
       rows(file, definition) {
     clearCounters(structure);
+    applyProperties(readProperties(file, entry), definition);
 }
 
 void TableState::ensureCurrent() {
@@ -35,6 +38,7 @@ void TableState::ensureCurrent() {
     generation = file.generation();
     rows.forget();
     autoNumberChecked = false;
+    provedIndexes.clear();
 }
 
 const TableDefinition& Table::definition() const {
@@ -85,7 +89,7 @@ Result<std::optional<RowId>> Table::findByPrimaryKey(int32_t key) {
         m_state->ensureCurrent();
         for (const Index& index : m_state->definition.indexes)
             if (index.primaryKey && m_state->definition.longPrimaryKey())
-                return IndexTree(m_state->file, m_state->definition, index).find(longKey(key, true));
+                return IndexTree(m_state->file, m_state->definition, index).find(longKey(key));
         fail(ErrorCode::NotSupported, QStringLiteral("La tabella \"%1\" non ha una chiave primaria numerica.")
                                           .arg(m_state->definition.name));
     });

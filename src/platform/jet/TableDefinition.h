@@ -22,7 +22,14 @@ struct Column {
     bool fixed = false;        ///< stored in the fixed area, else among the variable values
     bool autoNumber = false;
     bool autoGuid = false;
-    bool compressed = false;  ///< text may be written in the compressed form
+    bool compressed = false;    ///< text may be written in the compressed form
+    bool ansi = false;          ///< text is stored in Windows-1252 (Access 97), else in UTF-16
+    bool generalOrder = false;  ///< text sorts in the order "General", the only one known
+    uint32_t longOwned = 0;     ///< memo and OLE: map of the pages with its values; 0 = none
+    uint32_t longRoom = 0;      ///< those of them with room
+    // Properties kept in the catalogue:
+    bool required = false;        ///< Null is refused
+    bool allowZeroLength = true;  ///< false: the empty text is refused; true as well where nothing is said
 };
 
 /// One real index.
@@ -46,6 +53,7 @@ struct TableDefinition {
     QString name;
     uint32_t page = 0;  ///< first definition page, also the table's id
     bool system = false;
+    bool jet3 = false;  ///< of an Access 97 file: rows have the older form, and nothing can be written
     std::vector<Column> columns;
     std::vector<Index> indexes;
     uint16_t maxColumns = 0;

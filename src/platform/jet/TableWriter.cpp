@@ -1,72 +1,16 @@
+#include <algorithm>
 #include <limits>
-#include <QStringList>
 
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexTree.h"
-#include "platform/jet/Key.h"
+#include "platform/jet/LongValue.h"
 #include "platform/jet/Row.h"
 #include "platform/jet/ValueCodec.h"
+#include "platform/jet/WriteRules.h"
 
 namespace jet {
 
 namespace {
-
-[[noreturn]] void refuse(const TableDefinition& table, const QString& why) {
-    fail(ErrorCode::NotSupported,
-         QStringLiteral("La tabella \"%1\" non può essere modificata: %2.").arg(table.name, why));
-}
-
-[[noreturn]] void refuseIndex(const TableDefinition& table, const Index& index) {
-    QStringList names;
-    for (const Index::Part& part : index.parts)
-        for (const Column& column : table.columns)
-            if (column.number == part.column) names << column.name;
-    refuse(table,
-           QStringLiteral("l'indice \"%1\" (%2) non può essere aggiornato, perché non è su un solo campo "
-                          "intero lungo")
-               .arg(index.name, names.join(QStringLiteral(", "))));
-}
-
-void requireWritableFile(const TableState& state) {
-    if (state.file.readOnly())
-        fail(ErrorCode::ReadOnlyDatabase,
-             QStringLiteral("Il database \"%1\" è di sola lettura.").arg(state.engine.path));
-    if (state.file.header().pageKey != 0)
-        fail(ErrorCode::NotSupported,
-             QStringLiteral("Il database \"%1\" è codificato: può essere letto ma non modificato.")
-                 .arg(state.engine.path));
-    if (state.definition.system) refuse(state.definition, QStringLiteral("è una tabella di sistema"));
-}
-
-void requireWritable(const TableState& state) {
-    requireWritableFile(state);
-    const TableDefinition& table = state.definition;
-    if (table.enforcedRelation) refuse(table, QStringLiteral("ha una relazione con un'altra tabella"));
-    for (const Index& index : table.indexes)
-        if (!keptColumn(table, index)) refuseIndex(table, index);
-    for (const Column& column : table.columns) {
-        QString why;
-        const bool longValue = column.type == Type::Memo || column.type == Type::Ole;  // Null can be written
-        if (!longValue && !isWritable(column, why))
-            refuse(table, QStringLiteral("il campo \"%1\" %2").arg(column.name, why));
-        if (column.autoGuid)
-            refuse(table, QStringLiteral("il campo \"%1\" è un contatore di tipo GUID").arg(column.name));
-    }
-}
-
-void requireUpdatable(const TableState& state, size_t position) {
-    const TableDefinition& table = state.definition;
-    const Column& column = table.columns[position];
-    QString why;
-    if (!isWritable(column, why)) refuse(table, QStringLiteral("il campo \"%1\" %2").arg(column.name, why));
-    for (const Index& index : table.indexes)
-        for (const Index::Part& part : index.parts) {
-            if (part.column != column.number) continue;
-            if (table.enforcedRelation)
-                refuse(table, QStringLiteral("ha una relazione con un'altra tabella"));
-            if (!keptColumn(table, index)) refuseIndex(table, index);
-        }
-}
 
 // A column that can be written again without changing the row is no obstacle.
 bool changes(Row& row, const Column& column, const Value& value) {
@@ -74,26 +18,42 @@ bool changes(Row& row, const Column& column, const Value& value) {
     return !isWritable(column, why) || row.set(column, value);
 }
 
-Bytes keyOf(const Row& row, const Column& column, const Index& index) {
-    return longKey(row.longValue(column), index.parts[0].ascending);
+void insertEntry(TableState& state, size_t position, const Row& row, const Bytes& key, RowId id) {
+    const TableDefinition& table = state.definition;
+    const Index& index = table.indexes[position];
+    if (!isIndexed(table, index, fieldsOf(row))) return;
+    IndexTree(state.file, table, index).insert(key, id);
+    if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, 1);
 }
 
-bool isIndexed(const Row& row, const Column& column, const Index& index) {
-    return !index.ignoreNulls || !row.isNull(column);
-}
-
-// Rules of an index for a row that gets this key.
-void requireFits(const TableState& state, const Index& index, const Column& column, const Row& row) {
-    if (row.isNull(column)) {
-        if (index.required)
-            fail(ErrorCode::ValueRequired,
-                 QStringLiteral("Il campo \"%1\" deve contenere un valore.").arg(column.name));
-        return;
+// The entry has one of the keys that are possible for the row, or else another one that only a walk can tell.
+void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
+    const TableDefinition& table = state.definition;
+    const Index& index = table.indexes[position];
+    if (!isIndexed(table, index, fieldsOf(row))) return;
+    IndexTree tree(state.file, table, index);
+    const std::vector<Bytes> keys = possibleKeys(table, index, fieldsOf(row));
+    bool erased =
+        std::any_of(keys.begin(), keys.end(), [&](const Bytes& key) { return tree.erase(key, id); });
+    if (!erased) {
+        const std::optional<Bytes> key = tree.keyOf(id);
+        erased = key && tree.erase(*key, id);
     }
-    if (index.unique && IndexTree(state.file, state.definition, index).find(keyOf(row, column, index)))
-        fail(ErrorCode::DuplicateKey,
-             QStringLiteral("Il valore del campo \"%1\" esiste già e l'indice \"%2\" non ammette duplicati.")
-                 .arg(column.name, index.name));
+    if (!erased) failDamaged(QStringLiteral("nell'indice \"%1\" manca una riga").arg(index.name));
+    if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
+}
+
+// Where a row's memo and OLE values lie on other pages.
+using LongRows = std::vector<std::pair<const Column*, std::vector<RowId>>>;
+
+LongRows longRowsOf(const TableState& state, const Row& row) {
+    LongRows all;
+    for (const Column& column : state.definition.columns) {
+        if (column.type != Type::Memo && column.type != Type::Ole) continue;
+        const StoredField field = row.field(column);
+        if (!field.null) all.emplace_back(&column, longValueRows(state.file, field.bytes));
+    }
+    return all;
 }
 
 const Column* autoNumberColumn(const TableDefinition& table) {
@@ -181,7 +141,7 @@ Status Table::updatable(std::span<const size_t> columns) {
     return guarded([&]() -> Status {
         const Reading reading(m_state->file);
         m_state->ensureCurrent();
-        requireWritableFile(*m_state);
+        requireWritableTable(*m_state);
         for (size_t column : columns)
             requireUpdatable(*m_state, column);
         return {};
@@ -197,7 +157,7 @@ Result<int32_t> Table::takeAutoNumber() {
         }
         try {
             m_state->ensureCurrent();
-            requireWritableFile(*m_state);
+            requireWritableTable(*m_state);
             requireTransaction(*m_state);
             if (!autoNumberColumn(m_state->definition))
                 fail(ErrorCode::NotSupported,
@@ -229,8 +189,13 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         const Column* counter = autoNumberColumn(table);
         const bool counted = counter && row.isNull(*counter);
         if (counted) row.set(*counter, int64_t{lastAutoNumber(*m_state)} + 1);
-        for (const Index& index : table.indexes)
-            requireFits(*m_state, index, *keptColumn(table, index), row);
+        for (const Column& column : table.columns)
+            requireAllowed(column, row);
+        std::vector<Bytes> keys;
+        for (const Index& index : table.indexes) {
+            keys.push_back(keyToWrite(table, index, fieldsOf(row)));
+            requireFits(*m_state, index, row, keys.back());
+        }
         const Bytes bytes = row.bytes();
 
         RowId id;
@@ -240,13 +205,8 @@ Result<RowId> Table::insert(std::span<const Value> values) {
             else if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
                 m_state->setAutoNumber(*row.longValue(*counter));
             id = m_state->rows.insert(bytes);
-            for (size_t i = 0; i < table.indexes.size(); ++i) {
-                const Index& index = table.indexes[i];
-                const Column& column = *keptColumn(table, index);
-                if (!isIndexed(row, column, index)) continue;
-                IndexTree(m_state->file, table, index).insert(keyOf(row, column, index), id);
-                if (!row.isNull(column)) m_state->addToKeyCount(i, 1);
-            }
+            for (size_t i = 0; i < keys.size(); ++i)
+                insertEntry(*m_state, i, row, keys[i], id);
             m_state->addToRowCount(1);
         });
         return id;
@@ -257,7 +217,7 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
     return guarded([&]() -> Status {
         requireTransaction(*m_state);
         m_state->ensureCurrent();
-        requireWritableFile(*m_state);
+        requireWritableTable(*m_state);
         const TableDefinition& table = m_state->definition;
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
         if (!stored) fail(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
@@ -270,28 +230,30 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
             if (column.autoNumber)
                 refuse(table, QStringLiteral("il campo \"%1\" è un contatore").arg(column.name));
             requireUpdatable(*m_state, position);
+            requireAllowed(column, row);
             numbers.push_back(column.number);
         }
         if (numbers.empty()) return {};
-        std::vector<size_t> indexes;
+        std::vector<std::pair<size_t, Bytes>> moved;  // indexes in which the row has another key now
         for (size_t i = 0; i < table.indexes.size(); ++i) {
-            const Column* column = keptColumn(table, table.indexes[i]);
-            if (!column || keyOf(row, *column, table.indexes[i]) == keyOf(old, *column, table.indexes[i]))
-                continue;
-            requireFits(*m_state, table.indexes[i], *column, row);
-            indexes.push_back(i);
+            const Index& index = table.indexes[i];
+            const bool uses = std::any_of(index.parts.begin(), index.parts.end(), [&](const auto& part) {
+                return std::find(numbers.begin(), numbers.end(), part.column) != numbers.end();
+            });
+            if (!uses) continue;
+            Bytes key = keyToWrite(table, index, fieldsOf(row));
+            const std::vector<Bytes> before = possibleKeys(table, index, fieldsOf(old));
+            if (before.size() == 1 && before.front() == key) continue;
+            requireFits(*m_state, index, row, key);
+            moved.emplace_back(i, std::move(key));
         }
         const Bytes bytes = row.bytes();
 
         apply(*m_state, [&] {
             m_state->rows.update(id, bytes);
-            for (size_t i : indexes) {
-                const Index& index = table.indexes[i];
-                const Column& column = *keptColumn(table, index);
-                IndexTree tree(m_state->file, table, index);
-                if (isIndexed(old, column, index)) tree.erase(keyOf(old, column, index), id);
-                if (isIndexed(row, column, index)) tree.insert(keyOf(row, column, index), id);
-                m_state->addToKeyCount(i, int(!row.isNull(column)) - int(!old.isNull(column)));
+            for (const auto& [i, key] : moved) {
+                eraseEntry(*m_state, i, old, id);
+                insertEntry(*m_state, i, row, key, id);
             }
         });
         return {};
@@ -307,14 +269,12 @@ Status Table::erase(RowId id) {
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
         if (!stored) fail(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
         const Row row(table, stored->bytes);
+        const LongRows values = longRowsOf(*m_state, row);
         apply(*m_state, [&] {
-            for (size_t i = 0; i < table.indexes.size(); ++i) {
-                const Index& index = table.indexes[i];
-                const Column& column = *keptColumn(table, index);
-                if (!isIndexed(row, column, index)) continue;
-                IndexTree(m_state->file, table, index).erase(keyOf(row, column, index), id);
-                if (!row.isNull(column)) m_state->addToKeyCount(i, -1);
-            }
+            for (size_t i = 0; i < table.indexes.size(); ++i)
+                eraseEntry(*m_state, i, row, id);
+            for (const auto& [column, rows] : values)
+                freeLongValueRows(m_state->file, *column, rows);
             m_state->rows.erase(id);
             m_state->addToRowCount(-1);
         });

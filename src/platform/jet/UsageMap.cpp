@@ -39,8 +39,10 @@ bool walkBits(std::span<const uint8_t> bits, uint32_t first, const std::function
 struct Row {
     PagePtr page;
     std::span<const uint8_t> bytes;
+    size_t mostBitmaps;
 
-    Row(PageFile& file, uint32_t number, uint8_t slot) : page(file.page(number)) {
+    Row(PageFile& file, uint32_t number, uint8_t slot)
+        : page(file.page(number)), mostBitmaps(map::mostBitmaps * (pageSize / file.bytesPerPage())) {
         const DataPageView view(*page, number);
         bytes = view.bytes(slot);
         const size_t least = form() == 0 ? map::bits : map::pages + 4;
@@ -53,9 +55,17 @@ struct Row {
     int form() const { return bytes.empty() ? -1 : bytes[0]; }
     uint32_t first() const { return load32(&bytes[map::firstPage]); }
     std::span<const uint8_t> bits() const { return bytes.subspan(map::bits); }
-    size_t bitmaps() const { return std::min<size_t>((bytes.size() - map::pages) / 4, 16); }
+    size_t bitmaps() const { return std::min((bytes.size() - map::pages) / 4, mostBitmaps); }
     uint32_t bitmap(size_t k) const { return load32(&bytes[map::pages + 4 * k]); }
 };
+
+uint32_t pagesPerBitmap(const PageFile& file) {
+    return static_cast<uint32_t>(8 * (file.bytesPerPage() - map::bitmap));
+}
+
+std::span<const uint8_t> bitsOf(const PageFile& file, const Page& bitmap) {
+    return std::span(bitmap).first(file.bytesPerPage()).subspan(map::bitmap);
+}
 
 PagePtr bitmapPage(PageFile& file, uint32_t number) {
     PagePtr page = file.page(number);
@@ -105,8 +115,8 @@ void UsageMap::forEach(const std::function<bool(uint32_t)>& visit) const {
     for (size_t k = 0; k < row.bitmaps(); ++k) {
         if (row.bitmap(k) == 0) continue;
         const PagePtr bits = bitmapPage(m_file, row.bitmap(k));
-        const uint32_t first = static_cast<uint32_t>(k) * map::pagesPerBitmap;
-        if (!walkBits(std::span(*bits).subspan(map::bitmap), first, visit)) return;
+        const uint32_t first = static_cast<uint32_t>(k) * pagesPerBitmap(m_file);
+        if (!walkBits(bitsOf(m_file, *bits), first, visit)) return;
     }
 }
 
@@ -263,8 +273,7 @@ bool GlobalMap::reachesBehindFile() const {
     for (size_t k = 0; k < row.bitmaps(); ++k) {
         if (row.bitmap(k) == 0) continue;
         const PagePtr bits = bitmapPage(m_file, row.bitmap(k));
-        if (usedBehind(std::span(*bits).subspan(map::bitmap), static_cast<uint32_t>(k) * map::pagesPerBitmap))
-            return true;
+        if (usedBehind(bitsOf(m_file, *bits), static_cast<uint32_t>(k) * pagesPerBitmap(m_file))) return true;
     }
     return false;
 }

@@ -9,7 +9,8 @@ namespace jet {
 
 /// A set of page numbers in the file: the row that `pointer` names (low byte row, page above it).
 ///   form 0: u8 0, u32 first page, bits
-///   form 1: u8 1, u32 numbers of bitmap pages (0 = none), each of which covers 32,736 pages
+///   form 1: u8 1, u32 numbers of bitmap pages (0 = none), each of which covers as many pages as it has bits
+///   (32,736)
 /// Members throw Failure.
 class UsageMap {
   public:

@@ -165,13 +165,20 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
          QStringLiteral("Il campo \"%1\" %2: non può essere modificato.").arg(column.name, why));
 }
 
+void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std::string& out) {
+    if (column.ansi)
+        appendAnsiAsUtf8(bytes, out);
+    else
+        appendUtf8(bytes, out);
+}
+
 Value decodeValue(const Column& column, std::span<const uint8_t> bytes) {
     const uint8_t* p = bytes.data();
     switch (column.type) {
         case Type::Text:
         case Type::Memo: {
             std::string text;
-            appendUtf8(bytes, text);
+            appendStoredText(column, bytes, text);
             return text;
         }
         case Type::Byte:

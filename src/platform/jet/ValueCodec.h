@@ -19,6 +19,8 @@ bool isWritable(const Column& column, QString& why);
 
 /// Bytes that a column takes in the fixed area.
 size_t fixedLength(const Column& column);
+/// Appends the UTF-8 form of a text column's stored bytes.
+void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std::string& out);
 /// Value of stored bytes. Bytes too short for their type are Null.
 Value decodeValue(const Column& column, std::span<const uint8_t> bytes);
 

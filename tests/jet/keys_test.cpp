@@ -1,0 +1,239 @@
+// Keys of index entries: each one that stands in a file made by other programs is made again from its row.
+#include "jet/JetFixture.h"
+#include "platform/jet/Catalog.h"
+#include "platform/jet/DefinitionReader.h"
+#include "platform/jet/Failure.h"
+#include "platform/jet/IndexPage.h"
+#include "platform/jet/Key.h"
+#include "platform/jet/RowStore.h"
+#include "support/Vectors.h"
+
+using namespace jet;
+
+class KeysTest : public JetTest {
+  protected:
+    struct Entry {
+        Bytes key;
+        RowId row;
+    };
+
+    static void collect(PageFile& file, const TableDefinition& table, uint32_t number,
+                        std::vector<Entry>& entries) {
+        const IndexPage page(*file.page(number), number, table.page);
+        for (size_t i = 0; i < page.count(); ++i) {
+            if (!page.leaf) {
+                collect(file, table, page.child(i), entries);
+                continue;
+            }
+            const auto whole = page.keyAndRow(i);
+            const uint8_t* row = whole.data() + whole.size() - 4;
+            entries.push_back({{whole.begin(), whole.end() - 4}, {load24Big(row), row[3]}});
+        }
+        if (!page.leaf && page.tail != 0) collect(file, table, page.tail, entries);
+    }
+
+    static bool hasText(const TableDefinition& table, const Index& index) {
+        return std::any_of(index.parts.begin(), index.parts.end(), [&](const Index::Part& part) {
+            return std::any_of(table.columns.begin(), table.columns.end(), [&](const Column& column) {
+                return column.number == part.column && column.type == Type::Text;
+            });
+        });
+    }
+
+    // Counts by kind of index, for the claims about what was compared.
+    struct Counts {
+        size_t keys = 0;
+        size_t text = 0;
+        size_t ligatures = 0;  ///< with a letter that counts as two places
+        size_t unknown = 0;    ///< with characters outside the table
+    };
+
+    static void compareIndex(PageFile& file, const TableDefinition& table, const Index& index,
+                             Counts& counts) {
+        std::vector<Entry> entries;
+        collect(file, table, index.rootPage, entries);
+        for (const Entry& entry : entries) {
+            const auto stored = RowStore(file, table).find(entry.row);
+            ASSERT_TRUE(stored.has_value());
+            const FieldOf field = [&](const Column& column) {
+                return storedField(table, column, stored->bytes);
+            };
+            EXPECT_TRUE(isIndexed(table, index, field));
+            const std::vector<Bytes> keys = possibleKeys(table, index, field);
+            if (keys.empty()) {
+                ++counts.unknown;
+                continue;
+            }
+            ++counts.keys;
+            counts.text += hasText(table, index);
+            counts.ligatures += keys.size() > 1;
+            EXPECT_TRUE(std::find(keys.begin(), keys.end(), entry.key) != keys.end())
+                << "row " << entry.row.page << "/" << int(entry.row.slot);
+        }
+    }
+
+    static Counts compareFile(const std::string& path) {
+        Counts counts;
+        PageFile file(path, true, {});
+        const Reading reading(file);
+        for (const CatalogEntry& entry : readCatalog(file)) {
+            if (entry.kind != CatalogEntry::Kind::Local) continue;
+            SCOPED_TRACE(entry.name.toStdString());
+            const TableDefinition table =
+                parseDefinition(readDefinition(file, entry.definitionPage), entry.name, entry.definitionPage,
+                                file.header().jet3);
+            for (const Index& index : table.indexes) {
+                SCOPED_TRACE(index.name.toStdString());
+                // The order of texts in Access 97 is another one.
+                if (table.jet3 && hasText(table, index)) continue;
+                EXPECT_EQ(whyNotKept(table, index), QString());
+                compareIndex(file, table, index, counts);
+            }
+        }
+        return counts;
+    }
+};
+
+TEST_F(KeysTest, EveryKeyOfTheRealFilesComesOutOfItsRow) {
+    Counts all;
+    for (const std::string& name : samples()) {
+        SCOPED_TRACE(name);
+        const Counts counts = compareFile(sample(name.c_str()));
+        all.keys += counts.keys;
+        all.text += counts.text;
+        all.ligatures += counts.ligatures;
+        all.unknown += counts.unknown;
+        if (HasFailure()) return;
+    }
+    if (samples().empty()) return;
+    std::printf("%zu keys, %zu with text, %zu with ligatures; %zu of characters outside the table\n",
+                all.keys, all.text, all.ligatures, all.unknown);
+    EXPECT_GT(all.keys, 30000u);
+    EXPECT_GT(all.text, 3000u);
+    EXPECT_GE(all.ligatures, 2u);
+    EXPECT_LE(all.unknown, 3u);
+}
+
+// Key of one value in an index on one column.
+class OneKeyTest : public KeysTest {
+  protected:
+    OneKeyTest() {
+        Column column;
+        column.name = QStringLiteral("campo");
+        column.generalOrder = true;
+        column.length = 510;
+        definition.columns.push_back(column);
+        Index index;
+        index.name = QStringLiteral("chiave");
+        index.parts.push_back({0, true});
+        definition.indexes.push_back(index);
+    }
+    Index& index() { return definition.indexes[0]; }
+    Column& column() { return definition.columns[0]; }
+
+    Bytes keyOf(Type type, bool ascending, const std::optional<Bytes>& stored) {
+        column().type = type;
+        index().parts[0].ascending = ascending;
+        return keyToWrite(definition, index(), [&](const Column&) {
+            return stored ? StoredField{false, *stored} : StoredField();
+        });
+    }
+    Bytes textKey(const std::u16string& text, bool ascending = true) {
+        Bytes stored;
+        for (const char16_t unit : text) {
+            stored.push_back(static_cast<uint8_t>(unit));
+            stored.push_back(static_cast<uint8_t>(unit >> 8));
+        }
+        return keyOf(Type::Text, ascending, stored);
+    }
+    static Bytes fromHex(const QString& hex) {
+        const QByteArray bytes = QByteArray::fromHex(hex.toLatin1());
+        return {bytes.begin(), bytes.end()};
+    }
+
+    TableDefinition definition;
+};
+
+TEST_F(OneKeyTest, EveryTypeHasTheKeysOfTheVectors) {
+    static const std::map<QString, Type> types{
+        {QStringLiteral("yes/no"), Type::YesNo},      {QStringLiteral("byte"), Type::Byte},
+        {QStringLiteral("integer"), Type::Integer},   {QStringLiteral("long"), Type::Long},
+        {QStringLiteral("currency"), Type::Currency}, {QStringLiteral("single"), Type::Single},
+        {QStringLiteral("double"), Type::Double},     {QStringLiteral("date"), Type::Date},
+        {QStringLiteral("GUID"), Type::Guid},         {QStringLiteral("binary"), Type::Binary}};
+    std::set<Type> met;
+    for (const QJsonValue& entry : vectorsOf(QStringLiteral("jet/other-keys.json"))) {
+        const QJsonObject vector = entry.toObject();
+        const Type type = types.at(vector[u"type"].toString());
+        met.insert(type);
+        const QJsonValue stored = vector[u"stored"];
+        std::optional<Bytes> bytes;
+        if (type == Type::YesNo) {
+            if (vector[u"value"].toBool()) bytes = Bytes();
+        } else if (!stored.isNull() && !stored.isUndefined()) {
+            bytes = fromHex(stored.toString());
+        }
+        EXPECT_EQ(keyOf(type, vector[u"order"].toString() == u"asc", bytes),
+                  fromHex(vector[u"key"].toString()))
+            << QJsonDocument(vector).toJson().toStdString();
+    }
+    EXPECT_EQ(met.size(), types.size());
+}
+
+TEST_F(OneKeyTest, TextThatNoRealFileShowsIsRefused) {
+    for (const char16_t* text :
+         {u"10 €", u"L\u2019Aquila", u"\u0160koda", u"a\u2013b", u"\u4e2d", u"\U0001F600"})
+        EXPECT_THROW(textKey(text), Failure) << QString::fromUtf16(text).toStdString();
+    for (const char16_t* text : {u"", u"a", u"L'Aquila", u"Perù-Bolivia", u"ÿ \u00a0"})
+        EXPECT_NO_THROW(textKey(text));
+}
+
+TEST_F(OneKeyTest, LigatureIsTakenWhereItsPlacesMakeNoDifference) {
+    EXPECT_NO_THROW(textKey(u"Straße"));
+    EXPECT_NO_THROW(textKey(u"Müller-Straße"));
+    EXPECT_THROW(textKey(u"Straße-Nord"), Failure);
+    EXPECT_THROW(textKey(u"Großmärkte"), Failure);
+    EXPECT_THROW(textKey(u"Æro Là"), Failure);
+}
+
+TEST_F(OneKeyTest, TrailingBlanksAndCaseAreNotInTheKey) {
+    EXPECT_EQ(textKey(u"Rossi  "), textKey(u"rOSSI"));
+    EXPECT_NE(textKey(u"Rossi"), textKey(u" Rossi"));
+}
+
+TEST_F(OneKeyTest, UnknownOrderOfTextIsRefused) {
+    column().type = Type::Text;
+    EXPECT_EQ(whyNotKept(definition, index()), QString());
+    column().generalOrder = false;
+    EXPECT_NE(whyNotKept(definition, index()), QString());
+    column().type = Type::Numeric;
+    EXPECT_NE(whyNotKept(definition, index()), QString());
+    column().type = static_cast<Type>(17);
+    EXPECT_NE(whyNotKept(definition, index()), QString());
+}
+
+TEST_F(OneKeyTest, DescendingTextAndBinaryHaveToBeShownByTheFile) {
+    for (const auto& [type, needed] : {std::pair(Type::Text, true), std::pair(Type::Binary, true),
+                                       std::pair(Type::Long, false), std::pair(Type::Guid, false)}) {
+        column().type = type;
+        index().parts[0].ascending = false;
+        EXPECT_EQ(needsProof(definition, index()), needed);
+        index().parts[0].ascending = true;
+        EXPECT_FALSE(needsProof(definition, index()));
+    }
+}
+
+TEST_F(OneKeyTest, OverlongKeyIsRefused) {
+    definition.columns.resize(4, column());
+    for (uint16_t i = 0; i < 4; ++i) {
+        definition.columns[i].type = Type::Text;
+        definition.columns[i].number = i;
+    }
+    index().parts = {{0, true}, {1, true}, {2, true}, {3, true}};
+    const Bytes stored(510, 'a');
+    EXPECT_THROW(keyToWrite(definition, index(),
+                            [&](const Column&) {
+                                return StoredField{false, stored};
+                            }),
+                 Failure);
+}
