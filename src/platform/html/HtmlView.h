@@ -15,9 +15,8 @@ class QPrinter;
 /// Design and browse view of an HTML document.
 ///
 /// The view keeps its text alone until it is first shown or first asked for something that only a browser
-/// knows (a command, a selection). Then the browser plug-in is loaded and the text put into it. Creating a
-/// view costs nothing and loads nothing; `QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts)` has to
-/// stand before the application object, or the plug-in cannot draw.
+/// knows (a command, a selection). Then the browser plug-in is loaded and the text put into it; creating a
+/// view costs nothing.
 ///
 /// All calls are synchronous: they return when the browser's process has done the work. While they wait (at
 /// most a few seconds, ordinarily about a millisecond) timers and sockets go on and the user's input is held
@@ -72,7 +71,7 @@ class HtmlView : public QWidget {
     };
 
     /// What queryStatus() answers.
-    enum Status : int {
+    enum CommandStatus : int {
         Unsupported = 0,
         Disabled = 1,
         Enabled = 3,
@@ -126,7 +125,7 @@ class HtmlView : public QWidget {
     QVariant execCommand(int command, const QString& value = QString());
 
     /// State at the present selection, without asking the browser: as of the last displayChanged().
-    Status queryStatus(int command) const;
+    CommandStatus queryStatus(int command) const;
     /// True where queryStatus() is Latched, and where it is Enabled or Latched.
     bool commandState(int command) const { return queryStatus(command) == Latched; }
     bool commandEnabled(int command) const { return queryStatus(command) >= Enabled; }
@@ -212,7 +211,7 @@ class HtmlView : public QWidget {
     void keyReleased();
     /// The focus went from the document to another control of the same window.
     void validated();
-    /// The right button was released, or the menu key pressed; a place on the screen.
+    /// The right button was pressed, or the menu key pressed; a place on the screen.
     void contextMenuRequested(const QPoint& globalPosition);
     /// A double click over the document; the element under the pointer is at the head of elementsAtCaret().
     void doubleClicked();
@@ -224,6 +223,7 @@ class HtmlView : public QWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     struct Live;

@@ -1,0 +1,42 @@
+#include "platform/html/ClipboardContent.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+#include <QJsonArray>
+#include <QMimeData>
+#include <QUrl>
+
+namespace {
+
+QJsonArray imageFiles(const QMimeData& data) {
+    QJsonArray images;
+    for (const QUrl& url : data.urls()) {
+        const bool image = url.isLocalFile() && !QImageReader::imageFormat(url.toLocalFile()).isEmpty();
+        if (image) images.append(QString::fromLatin1(url.toEncoded()));
+    }
+    return images;
+}
+
+QString asAddress(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) return {};
+    return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
+}
+
+}  // namespace
+
+QJsonObject clipboardContent(const QMimeData& data) {
+    QJsonArray images = imageFiles(data);
+    if (!images.isEmpty()) return {{"images", images}};
+    QJsonObject content;
+    if (data.hasHtml()) content["html"] = data.html();
+    if (data.hasText()) content["text"] = data.text();
+    if (!data.hasHtml() && data.hasImage()) {
+        const QString picture = asAddress(qvariant_cast<QImage>(data.imageData()));
+        if (!picture.isEmpty()) images.append(picture);
+    }
+    if (!content.isEmpty() || !images.isEmpty()) content["images"] = images;
+    return content;
+}

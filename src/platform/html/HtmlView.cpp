@@ -1,0 +1,76 @@
+#include "platform/html/HtmlView.h"
+
+#include <QCoreApplication>
+#include <QVBoxLayout>
+
+#include "platform/html/HtmlViewLive.h"
+
+// The browser draws with contexts that are shared with the program's windows. That has to be settled before
+// the application object is made, so it is as soon as a program holds a view at all.
+[[maybe_unused]] const bool contextsAreShared = [] {
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    return true;
+}();
+
+HtmlView::HtmlView(Mode mode, QWidget* parent)
+    : QWidget(parent), m_live(std::make_unique<Live>(*this, mode)) {
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+HtmlView::~HtmlView() = default;
+
+QString HtmlView::documentHTML() const {
+    return m_live->text();
+}
+
+void HtmlView::setDocumentHTML(const QString& html) {
+    m_live->setSource(html);
+}
+
+QWidget* HtmlView::inputWidget() const {
+    return m_live->browser.widget != nullptr ? m_live->browser.widget->focusProxy() : nullptr;
+}
+
+bool HtmlView::isLive() const {
+    return m_live->live;
+}
+
+void HtmlView::wake() {
+    m_live->ensure();
+}
+
+QVariant HtmlView::evaluate(const QString& script) const {
+    return m_live->ask(script);
+}
+
+void HtmlView::setShowDetails(bool on) {
+    m_live->showMarks(QStringLiteral("details"), on);
+}
+
+void HtmlView::setShowBorders(bool on) {
+    m_live->showMarks(QStringLiteral("borders"), on);
+}
+
+void HtmlView::setPrintPrompt(std::function<bool(QPrinter&)> prompt) {
+    m_live->printPrompt = std::move(prompt);
+}
+
+bool HtmlView::print(bool prompt) {
+    return m_live->print(prompt);
+}
+
+void HtmlView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    m_live->begin();
+}
+
+void HtmlView::enterEvent(QEnterEvent* event) {
+    QWidget::enterEvent(event);
+    Q_EMIT pointerEntered();
+}
+
+bool HtmlView::eventFilter(QObject* watched, QEvent* event) {
+    return (watched == inputWidget() && m_live->filter(*event)) || QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,93 @@
+#include <QPrintDialog>
+#include <QPrinter>
+#include <utility>
+
+#include "platform/html/HtmlViewLive.h"
+
+// What a command is to a view: whether it is there now, and how it is run.
+
+QVariant HtmlView::Live::freshState(const QString& name) {
+    const QVariantMap fresh = ask(QStringLiteral("editor.commands.state()")).toMap();
+    if (!fresh.isEmpty()) state = fresh;
+    return state.value(name).toString();
+}
+
+bool HtmlView::Live::runCommand(int command, const QString& value) {
+    return change(QStringLiteral("commands.run"), {command, value}).toBool();
+}
+
+HtmlView::CommandStatus HtmlView::Live::status(int command) const {
+    const auto holds = [this](const char* name) { return state.value(QLatin1String(name)).toBool(); };
+    const bool editable = live && mode == Mode::Design;
+    const auto enabled = [](bool yes) { return yes ? Enabled : Disabled; };
+    switch (command) {
+        case Bold:
+        case Italic:
+        case Underline:
+        case JustifyLeft:
+        case JustifyCenter:
+        case JustifyRight:
+        case OrderList:
+        case UnorderList:
+            if (editable && state.value(QStringLiteral("latched")).toList().contains(command)) return Latched;
+            return enabled(editable && holds("present"));
+        case Indent:
+        case Outdent:
+        case SetFontName:
+        case SetFontSize:
+        case SetForeColor:
+        case Paste:
+        case Image:
+        case Hyperlink:
+        case Properties:
+            return enabled(editable && holds("present"));
+        case DeleteCols:
+        case DeleteRows:
+        case InsertCol:
+        case InsertRow:
+            return enabled(editable && holds("table"));
+        case Cut:
+            return enabled(editable && holds("selected"));
+        case Copy:
+            return enabled(live && holds("selected"));
+        case Undo:
+            return enabled(editable && holds("undo"));
+        case Redo:
+            return enabled(editable && holds("redo"));
+        case GetFontName:
+        case GetFontSize:
+        case GetForeColor:
+            return enabled(live && holds("present"));
+        case SelectAll:
+        case FindText:
+            return enabled(live);
+        default:
+            return Unsupported;
+    }
+}
+
+void HtmlView::Live::showMarks(const QString& name, bool on) {
+    marks[name] = on;
+    if (live) ask(QStringLiteral("editor.marks.show(%1)").arg(arguments({name, on})));
+}
+
+bool HtmlView::Live::print(bool prompt) {
+    if (!ensure()) return false;
+    QPrinter printer(QPrinter::HighResolution);
+    if (prompt) {
+        const bool wanted =
+            printPrompt ? printPrompt(printer) : QPrintDialog(&printer, &view).exec() == QDialog::Accepted;
+        if (!wanted) return false;
+    }
+    bool over = false;
+    bool printed = false;
+    browser.print(printer, [this, &over, &printed](bool success) {
+        over = true;
+        printed = success;
+        wakeWaiting();
+    });
+    // the printer stands here, so this is left only when nobody prints on it any more
+    while (!over && browser.widget != nullptr)
+        waitFor([&over] { return over; }, 60000);
+    return printed;
+}

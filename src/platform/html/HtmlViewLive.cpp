@@ -1,0 +1,164 @@
+#include "platform/html/HtmlViewLive.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "platform/html/ClipboardContent.h"
+#include "platform/html/HtmlDocument.h"
+#include "platform/html/HtmlViewPlugin.h"
+#include "platform/html/SourceText.h"
+
+namespace {
+
+constexpr int startMilliseconds = 30000;
+
+// A copy of the text is taken after each change, but for at most a tenth of the time
+constexpr int restPerWork = 9;
+
+// A document that ends the browser's process again and again is not tried for ever
+constexpr int deathsInARow = 3;
+constexpr int deathsAreInARowWithin = 30000;
+
+}  // namespace
+
+HtmlView::Live::Live(HtmlView& owner, Mode viewMode) : view(owner), mode(viewMode) {
+    m_followTimer.setSingleShot(true);
+    QObject::connect(&m_followTimer, &QTimer::timeout, &view, [this] { follow(); });
+}
+
+HtmlView::Live::~Live() {
+    // answers that are still out come back now, while there is somebody to take them
+    live = false;
+    delete browser.widget;
+}
+
+void HtmlView::Live::begin() {
+    if (browser.widget != nullptr || m_failed) return;
+    BrowserEvents events;
+    events.started = [this] { write(); };
+    events.died = [this] { died(); };
+    events.said = [this](const QString& message) { heard(message); };
+    events.menu = [this](const QPoint& place) { Q_EMIT view.contextMenuRequested(place); };
+    events.dragged = [this](const QMimeData& data) {
+        return mode == Mode::Design && !clipboardContent(data).isEmpty();
+    };
+    events.dropped = [this](const QPoint& place, const QMimeData& data) { return dropped(place, data); };
+    const Status loaded = createBrowserOf(&view, events, browser);
+    if (!loaded.ok()) return fail(loaded.text());
+    view.layout()->addWidget(browser.widget);
+    view.setFocusProxy(browser.widget);
+    // Windows may outlive the application object, a browser may not.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &view, [this] { end(); });
+    browser.start();
+}
+
+bool HtmlView::Live::ensure() {
+    begin();
+    return live || waitFor([this] { return live || m_failed; }, startMilliseconds);
+}
+
+// The place of the document tells the reader what happened; the text itself is safe
+void HtmlView::Live::fail(const QString& reason) {
+    m_failed = true;
+    delete std::exchange(browser.widget, nullptr);
+    auto* notice = new QLabel(reason, &view);
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    view.layout()->addWidget(notice);
+}
+
+void HtmlView::Live::setSource(const QString& html) {
+    m_source = html::sourceText(html);
+    m_text = QString();
+    if (!live) return;
+    write();
+    waitFor([this] { return m_writes == 0; }, startMilliseconds);
+}
+
+// Whichever way the document changes while it is on its way, the last one is written last
+void HtmlView::Live::write() {
+    QJsonObject shown;
+    for (auto mark = marks.cbegin(); mark != marks.cend(); ++mark)
+        shown[mark.key()] = mark.value();
+    ++m_writes;
+    browser.run(QStringLiteral("editor.load(%1); editor.commands.state()")
+                    .arg(arguments({m_source, mode == Mode::Design, shown})),
+                [this](const QVariant& answer) {
+                    state = answer.toMap();
+                    if (--m_writes == 0) written();
+                });
+}
+
+void HtmlView::Live::written() {
+    live = true;
+    m_version = -1;
+    if (QWidget* input = view.inputWidget()) {
+        input->removeEventFilter(&view);
+        input->installEventFilter(&view);
+    }
+    wakeWaiting();
+    Q_EMIT view.documentComplete();
+    refreshState();
+}
+
+QString HtmlView::Live::text() {
+    if (live) takeText(ask(QStringLiteral("editor.text.readNewer(%1)").arg(m_version)));
+    if (m_text.isNull()) {
+        HtmlDocument document;
+        document.setDocumentHTML(m_source);
+        m_text = document.documentHTML();
+    }
+    return m_text;
+}
+
+void HtmlView::Live::takeText(const QVariant& answer) {
+    const QVariantMap newer = answer.toMap();
+    if (newer.isEmpty()) return;
+    m_version = newer.value(QStringLiteral("version")).toInt();
+    m_text = html::ansiForm(newer.value(QStringLiteral("text")).toString());
+}
+
+// Keeps the copy that outlives the browser's process
+void HtmlView::Live::follow() {
+    if (!live) return;
+    QElapsedTimer work;
+    work.start();
+    browser.run(QStringLiteral("editor.text.readNewer(%1)").arg(m_version),
+                [this, work](const QVariant& answer) {
+                    takeText(answer);
+                    m_followTimer.setInterval(static_cast<int>(work.elapsed()) * restPerWork);
+                });
+}
+
+void HtmlView::Live::keepText() {
+    live = false;
+    m_source = text();
+    m_stateDue = false;
+    m_writes = 0;
+    state.clear();
+    wakeWaiting();
+}
+
+void HtmlView::Live::end() {
+    text();
+    keepText();
+    m_failed = true;
+    delete std::exchange(browser.widget, nullptr);
+}
+
+void HtmlView::Live::died() {
+    keepText();
+    const bool inARow = m_lastDeath.isValid() && m_lastDeath.elapsed() < deathsAreInARowWithin;
+    m_deaths = inARow ? m_deaths + 1 : 1;
+    m_lastDeath.start();
+    QTimer::singleShot(0, &view, [this] {
+        if (m_deaths < deathsInARow) {
+            browser.start();
+        } else {
+            fail(QStringLiteral("Impossibile mostrare il messaggio. Il testo è conservato."));
+        }
+    });
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QMap>
+#include <QTimer>
+#include <QVariantMap>
+#include <vector>
+
+#include "platform/html/browser/Browser.h"
+#include "platform/html/HtmlView.h"
+
+/// The part of a view that talks with its browser. Until the browser holds the document, `m_source` is the
+/// truth; from then on the document in the browser's process is, and `m_text` follows it.
+struct HtmlView::Live {
+    Live(HtmlView& owner, Mode viewMode);
+    ~Live();
+    Live(const Live&) = delete;
+    Live& operator=(const Live&) = delete;
+
+    /// Brings the browser up, without waiting.
+    void begin();
+    /// Brings the browser up and waits for it; false where that fails.
+    bool ensure();
+    void setSource(const QString& html);
+    QString text();
+
+    /// The value of a script, invalid when there is no answer in time.
+    QVariant ask(const QString& script);
+    /// Runs editor.<function>(values...) as one undo step and takes over the states as they are after it.
+    QVariant change(const QString& function, const QJsonArray& values = {});
+    /// Values as they stand between the brackets of a call in a script.
+    static QString arguments(const QJsonArray& values);
+    bool paste();
+
+    QVariant freshState(const QString& name);
+    bool runCommand(int command, const QString& value);
+    CommandStatus status(int command) const;
+    void showMarks(const QString& name, bool on);
+    bool print(bool prompt);
+
+    bool filter(QEvent& event);
+
+    HtmlView& view;
+    const Mode mode;
+    bool live = false;
+    QVariantMap state;
+    QMap<QString, bool> marks{{"borders", false}, {"details", false}};
+    std::function<bool(QPrinter&)> printPrompt;
+    Browser browser;
+
+  private:
+    void fail(const QString& reason);
+    void write();
+    void written();
+    void heard(const QString& json);
+    void died();
+    void keepText();
+    void end();
+    void follow();
+    void takeText(const QVariant& answer);
+    void refreshState();
+    void wakeWaiting();
+    bool waitFor(const std::function<bool()>& done, int milliseconds);
+    bool dropped(const QPoint& place, const QMimeData& data);
+
+    QString m_source;
+    QString m_text;  // null: as m_source gives it
+    int m_version = -1;
+    int m_writes = 0;  // of the last write that was begun
+    bool m_failed = false;
+    bool m_stateDue = false;
+    bool m_strokeIsShortcut = false;
+    int m_deaths = 0;
+    QElapsedTimer m_lastDeath;
+    QTimer m_followTimer;
+    std::vector<QEventLoop*> m_waiting;
+};

@@ -1,0 +1,52 @@
+#include "platform/html/browser/View.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPrinter>
+#include <QWebEngineScript>
+
+View::View(const BrowserEvents& events, QWidget* parent)
+    : QWebEngineView(parent),
+      m_events(events),
+      m_profile(Page::commonProfile()),
+      m_page(std::make_unique<Page>(*m_profile, m_events.said)) {
+    setPage(m_page.get());
+    connect(m_page.get(), &QWebEnginePage::loadFinished, this, [this] { m_events.started(); });
+    connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this, [this] { m_events.died(); });
+}
+
+void View::contextMenuEvent(QContextMenuEvent* event) {
+    m_events.menu(event->globalPos());
+    event->accept();
+}
+
+// Moves inside the document are the browser's own
+void View::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->source() == nullptr) {
+        event->setAccepted(m_events.dragged(*event->mimeData()));
+        if (!event->isAccepted()) return;
+    }
+    QWebEngineView::dragEnterEvent(event);
+}
+
+void View::dropEvent(QDropEvent* event) {
+    if (event->source() != nullptr) {
+        QWebEngineView::dropEvent(event);
+    } else if (m_events.dropped(event->position().toPoint(), *event->mimeData())) {
+        event->acceptProposedAction();
+    }
+}
+
+extern "C" Q_DECL_EXPORT void createBrowser(QWidget* parent, const BrowserEvents& events, Browser& browser) {
+    auto* view = new View(events, parent);
+    browser.widget = view;
+    browser.start = [view] { view->document().start(); };
+    browser.run = [view](const QString& script, const std::function<void(const QVariant&)>& done) {
+        view->document().runJavaScript(script, QWebEngineScript::ApplicationWorld, done);
+    };
+    browser.print = [view](QPrinter& printer, const std::function<void(bool)>& done) {
+        QObject::connect(view, &QWebEngineView::printFinished, view, done, Qt::SingleShotConnection);
+        view->print(&printer);
+    };
+}

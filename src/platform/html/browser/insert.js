@@ -1,0 +1,227 @@
+// Content that comes from outside: fragments, pasted text, images, links.
+editor.insert = {
+    blocks: 'address,article,aside,blockquote,center,dd,details,dir,div,dl,dt,fieldset,figure,footer,form,h1,h2,h3,h4,h5,h6,header,hr,li,main,menu,nav,ol,p,pre,section,table,ul',
+
+    range() {
+        const selection = getSelection();
+        if (!selection.rangeCount || !document.body) return null;
+        const range = selection.getRangeAt(0);
+        if (!document.body.contains(range.commonAncestorContainer)) {
+            range.selectNodeContents(document.body);
+            range.collapse(false);
+        }
+        return range;
+    },
+
+    // Puts a fragment in place of the selection and the caret behind it.
+    fragment(html) {
+        const range = this.range();
+        if (!range) return false;
+        const content = range.createContextualFragment(html);
+        return this.nodes(range, content);
+    },
+
+    nodes(range, content) {
+        const last = content.lastChild;
+        if (!last) return false;
+        range.deleteContents();
+        this.leaveForm(range, content);
+        this.leaveParagraph(range, content);
+        this.dropFiller(range);
+        range.insertNode(content);
+        const inside = last.nodeName === 'FORM' && !last.firstChild;
+        if (inside) range.selectNodeContents(last);
+        else range.setStartAfter(last);
+        range.collapse(true);
+        getSelection().removeAllRanges();
+        getSelection().addRange(range);
+        return true;
+    },
+
+    // A form cannot stand inside another: the next reading of the text would drop it.
+    leaveForm(range, content) {
+        const around = editor.elementOf(range.startContainer).closest('form');
+        if (!around || !content.querySelector('form')) return;
+        range.setStartAfter(around);
+        range.collapse(true);
+    },
+
+    // A paragraph ends where a block begins, so it is split around the block.
+    leaveParagraph(range, content) {
+        const paragraph = editor.elementOf(range.startContainer).closest('p');
+        if (!paragraph || !content.querySelector(this.blocks)) return;
+        const rest = document.createRange();
+        rest.setStart(range.startContainer, range.startOffset);
+        rest.setEndAfter(paragraph);
+        const second = rest.extractContents();
+        range.setStartAfter(paragraph);
+        range.collapse(true);
+        range.insertNode(second);
+        range.setStartAfter(paragraph);
+        range.collapse(true);
+        for (const half of [paragraph, paragraph.nextSibling]) {
+            if (half && !half.textContent && !half.querySelector('img,input,hr,br,table,select,textarea')) half.remove();
+        }
+    },
+
+    // The line break that keeps an empty paragraph open makes room for the content.
+    dropFiller(range) {
+        const place = range.startContainer;
+        const only = place.childNodes.length === 1 ? place.firstChild : null;
+        if (!only || only.nodeName !== 'BR') return;
+        only.remove();
+        range.setStart(place, 0);
+        range.collapse(true);
+    },
+
+    plain(text) {
+        const lines = text.replace(/\r\n?/g, '\n').split('\n');
+        const content = document.createDocumentFragment();
+        lines.forEach((line, index) => {
+            if (index > 0) content.append(document.createElement('br'));
+            if (line) content.append(line.replace(/ (?= )|^ | $/g, '\u00A0').replace(/\t/g, '\u00A0\u00A0\u00A0 '));
+        });
+        const range = this.range();
+        return Boolean(range) && this.nodes(range, content);
+    },
+
+    // Text of other programs: what is content stays, what steers their own layout engine goes.
+    foreign(html) {
+        const source = new DOMParser().parseFromString(this.between(html), 'text/html');
+        source
+            .querySelectorAll('script,style,meta,link,title,base,xml,object,embed,applet,iframe,frame,noscript,template')
+            .forEach((node) => node.remove());
+        this.dropComments(source);
+        source.body.querySelectorAll('*').forEach((element) => this.cleanElement(element));
+        const range = this.range();
+        if (!range) return false;
+        const content = document.createDocumentFragment();
+        content.append(...Array.from(source.body.childNodes, (node) => document.adoptNode(node)));
+        return this.nodes(range, content);
+    },
+
+    between(html) {
+        const start = html.indexOf('<!--StartFragment-->');
+        const end = html.lastIndexOf('<!--EndFragment-->');
+        return start >= 0 && end > start ? html.slice(start + '<!--StartFragment-->'.length, end) : html;
+    },
+
+    dropComments(source) {
+        const walker = source.createTreeWalker(source, NodeFilter.SHOW_COMMENT);
+        const comments = [];
+        while (walker.nextNode()) comments.push(walker.currentNode);
+        comments.forEach((comment) => comment.remove());
+    },
+
+    cleanElement(element) {
+        for (const { name, value } of Array.from(element.attributes)) {
+            const bad =
+                /^on|^xmlns|:/.test(name) ||
+                (/^(href|src|action|background|formaction)$/.test(name) && /^\s*(javascript|vbscript):/i.test(value)) ||
+                (name === 'class' && /^(mso|xl\d)/i.test(value)) ||
+                (name === 'lang' && element.localName === 'span');
+            if (bad) element.removeAttribute(name);
+        }
+        this.cleanStyle(element);
+        const foreign = element.localName.includes(':');
+        const bare = element.localName === 'span' && element.attributes.length === 0;
+        if (foreign || bare) element.replaceWith(...element.childNodes);
+    },
+
+    cleanStyle(element) {
+        const style = element.getAttribute('style');
+        if (style === null) return;
+        const kept = style.split(';').filter((part) => part.trim() && !/^\s*(mso-|tab-stops|page:)/i.test(part));
+        if (kept.length) element.setAttribute('style', kept.map((part) => part.trim()).join('; '));
+        else element.removeAttribute('style');
+    },
+
+    paste(clipboard) {
+        if (clipboard.html) return this.foreign(clipboard.html);
+        if (clipboard.images.length) return clipboard.images.map((source) => this.image({ source })).every(Boolean);
+        return Boolean(clipboard.text) && this.plain(clipboard.text);
+    },
+
+    dropAt(x, y, clipboard) {
+        const range = document.caretRangeFromPoint(x, y);
+        if (range) {
+            getSelection().removeAllRanges();
+            getSelection().addRange(range);
+        }
+        return this.paste(clipboard);
+    },
+
+    selectedImage() {
+        const element = editor.elements.selected();
+        return element && element.localName === 'img' ? element : null;
+    },
+
+    imageAttributes: { src: 'source', alt: 'alternativeText', width: 'width', height: 'height', align: 'align' },
+
+    describeImage() {
+        const image = this.selectedImage();
+        if (!image) return null;
+        const info = {};
+        for (const [attribute, key] of Object.entries(this.imageAttributes)) info[key] = image.getAttribute(attribute) || '';
+        return info;
+    },
+
+    image(info) {
+        const range = this.range();
+        if (!range) return false;
+        const present = this.selectedImage();
+        const image = present || document.createElement('img');
+        for (const [attribute, key] of Object.entries(this.imageAttributes)) {
+            const value = info[key] || '';
+            if (value || attribute === 'src' || attribute === 'alt') {
+                if (image.getAttribute(attribute) !== value) image.setAttribute(attribute, value);
+            } else image.removeAttribute(attribute);
+        }
+        if (present) return true;
+        image.setAttribute('border', '0');
+        const content = document.createDocumentFragment();
+        content.append(image);
+        return this.nodes(range, content);
+    },
+
+    linkAddress() {
+        const link = editor.closest('a[href]');
+        return link ? link.getAttribute('href') : '';
+    },
+
+    link(address, text) {
+        const range = this.range();
+        if (!range) return false;
+        const around = editor.closest('a[href]');
+        if (!address) return around ? this.unwrap(around) : document.execCommand('unlink');
+        if (around) {
+            around.setAttribute('href', address);
+            return true;
+        }
+        if (!range.collapsed) return this.linkSelection(address);
+        const link = document.createElement('a');
+        link.setAttribute('href', address);
+        link.append(text || address);
+        const content = document.createDocumentFragment();
+        content.append(link);
+        return this.nodes(range, content);
+    },
+
+    // The browser's command resolves addresses, which would spoil a placeholder: it gets a mark of ours first.
+    linkSelection(address) {
+        const mark = 'vestrola-link:';
+        if (!document.execCommand('createLink', false, mark)) return false;
+        document.querySelectorAll('a[href="' + mark + '"]').forEach((link) => link.setAttribute('href', address));
+        return true;
+    },
+
+    unwrap(link) {
+        const selection = getSelection();
+        const { anchorNode, anchorOffset, focusNode, focusOffset } = selection;
+        link.replaceWith(...link.childNodes);
+        if (document.contains(anchorNode) && document.contains(focusNode)) {
+            selection.setBaseAndExtent(anchorNode, anchorOffset, focusNode, focusOffset);
+        }
+        return true;
+    },
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "platform/html/HtmlView.h"
+
+/// A shown view, and a user before it.
+class Desk {
+  public:
+    explicit Desk(const QString& html = QStringLiteral("<p>Gentile cliente</p>"),
+                  HtmlView::Mode mode = HtmlView::Mode::Design)
+        : view(mode) {
+        view.resize(700, 500);
+        view.setDocumentHTML(html);
+        view.show();
+        view.wake();
+        view.activateWindow();
+        view.setFocus();
+    }
+
+    /// Presses and releases a key; the text may be any.
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = QString()) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, modifiers, text);
+            QApplication::sendEvent(view.inputWidget(), &event);
+        }
+    }
+
+    void type(const QString& text) {
+        for (const QChar c : text)
+            press(c.toUpper().unicode(), Qt::NoModifier, c);
+    }
+
+    /// What the body holds.
+    QString body() const {
+        const QString html = view.documentHTML();
+        const qsizetype tag = html.indexOf("<body");
+        const qsizetype from = html.indexOf('>', tag) + 1;
+        return html.mid(from, html.lastIndexOf("</body>") - from);
+    }
+
+    void selectAll() { view.execCommand(HtmlView::SelectAll); }
+
+    /// Puts the caret into the first element that a CSS selector names, behind its first characters.
+    void caretIn(const QString& selector, int offset = 0) {
+        view.evaluate(QStringLiteral("{ const e = document.querySelector('%1'); const t = e.firstChild || e;"
+                                     " getSelection().collapse(t, %2); 1 }")
+                          .arg(selector)
+                          .arg(offset));
+    }
+
+    HtmlView view;
+};
+
+/// True when reading the document again gives the same one.
+inline bool isStable(const QString& html) {
+    HtmlView again(HtmlView::Mode::Design);
+    again.setDocumentHTML(html);
+    return again.documentHTML() == html;
+}
