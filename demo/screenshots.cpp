@@ -10,6 +10,8 @@
 
 #include "accounts/frmAccount.h"
 #include "core/Finestre.h"
+#include "import/frmImpTXT.h"
+#include "import/frmScelta.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
@@ -51,6 +53,11 @@ void takeAll(const QString& message) {
         "cmdPopMailingUserMod", []() -> QWidget& { return finestre::Destinatario(); }, "frmDestinatario");
     during(
         "cmdHelpInfoSu", []() -> QWidget& { return finestre::InfoSu(); }, "frmInfoSu");
+    during(
+        "cmdMailingImpTXT", []() -> QWidget& { return finestre::ImpTXT(); }, "frmImpTXT");
+    finestre::Scelta().show();
+    take(finestre::Scelta(), "frmScelta");
+    finestre::Scelta().hide();
     during(
         "cmdInvia",
         [&message]() -> QWidget& {

@@ -11,7 +11,8 @@ import shutil
 import subprocess
 import sys
 
-WINDOWS = ["frmMain", "frmAccount", "frmDestinatario", "frmInfoSu", "frmInvia_pronta", "frmSplash"]
+WINDOWS = ["frmMain", "frmAccount", "frmDestinatario", "frmInfoSu", "frmInvia_pronta", "frmImpTXT",
+           "frmScelta", "frmSplash"]
 
 
 def main():

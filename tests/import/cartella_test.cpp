@@ -1,0 +1,188 @@
+// The small window that asks for the group, and what the choice of the group does.
+#include "import/cartella.h"
+
+#include "import/frmScelta.h"
+#include "import/import_stage.h"
+#include "store/RecordsetDB.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+namespace {
+
+QDialog& scelta() {
+    return finestre::Scelta();
+}
+
+class Stage : public ImportStage {
+  public:
+    Stage() : ImportStage(scelta) {}
+    frmScelta& form() { return static_cast<frmScelta&>(dialog()); }
+};
+
+std::optional<QString> choose(const cartella::Scelta& choice) {
+    ado::Recordset rs = RecordsetDB();
+    return cartella::Scegli(choice, rs, cartella::avvisoCartella, cartella::senzaGuardia);
+}
+
+}  // namespace
+
+class TestImportCartella : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void startsWithTheSelectedGroupAndTheItalianTexts() {
+        Stage stage;
+        QCOMPARE(stage.form().windowTitle(), " Nuovi destinatari");
+        QCOMPARE(stage.control<QLabel>("lbl")->text(), "Come vuoi inserire i nuovi destinatari?");
+        QCOMPARE(stage.control<QRadioButton>("opt(0)")->text(),
+                 "Aggiungi i destinatari nella cartella selezionata.");
+        QCOMPARE(stage.control<QRadioButton>("opt(1)")->text(),
+                 "Aggiungi i destinatari in una nuova cartella.");
+        QCOMPARE(stage.control<QPushButton>("cmdOK")->text(), "&OK");
+        QCOMPARE(stage.control<QPushButton>("cmdAnnulla")->text(), "&Annulla");
+        QCOMPARE(stage.control<QLineEdit>("txtCartella")->text(), "Nuova cartella");
+        QVERIFY(stage.control<QRadioButton>("opt(0)")->isChecked());
+        QVERIFY(!stage.enabled("txtCartella"));
+        QVERIFY(stage.control<QPushButton>("cmdOK")->isDefault());
+    }
+
+    void nameIsEnabledExactlyWithTheSecondOption() {
+        Stage stage;
+        stage.click("opt(1)");
+        QVERIFY(stage.enabled("txtCartella"));
+        stage.click("opt(1)");
+        QVERIFY(stage.enabled("txtCartella"));
+        stage.click("opt(0)");
+        QVERIFY(!stage.enabled("txtCartella"));
+    }
+
+    void okTellsTheChoiceAndHides() {
+        Stage stage;
+        stage.click("cmdOK");
+        QVERIFY(!finestre::Scelta().isVisible());
+        QVERIFY(finestre::Scelta().cartellaSelezionata);
+        QVERIFY(!finestre::Scelta().sceltaAnnullata);
+        stage.click("opt(1)");
+        stage.type("txtCartella", "Fiera");
+        stage.click("cmdOK");
+        QVERIFY(!finestre::Scelta().isVisible());
+        QVERIFY(!finestre::Scelta().cartellaSelezionata);
+        QCOMPARE(finestre::Scelta().Scelta().nuova, "Fiera");
+    }
+
+    void cancelStopsAndLeavesTheChoiceAsItWas() {
+        Stage stage;
+        stage.click("cmdOK");
+        stage.click("opt(1)");
+        stage.click("cmdAnnulla");
+        QVERIFY(!finestre::Scelta().isVisible());
+        QVERIFY(finestre::Scelta().sceltaAnnullata);
+        QVERIFY(finestre::Scelta().cartellaSelezionata);
+    }
+
+    void isLeftByItsTwoButtonsOnlyAndKeepsChoiceAndName() {
+        Stage stage;
+        stage.click("opt(1)");
+        stage.type("txtCartella", "Fiera");
+        QVERIFY(!stage.form().close());
+        QVERIFY(stage.form().isVisible());
+        QTest::keyClick(&stage.form(), Qt::Key_Escape);
+        QVERIFY(stage.form().isVisible());
+        stage.click("cmdOK");
+        QVERIFY(stage.control<QRadioButton>("opt(1)")->isChecked());
+        QCOMPARE(stage.control<QLineEdit>("txtCartella")->text(), "Fiera");
+        QVERIFY(stage.enabled("txtCartella"));
+    }
+
+    void enterConfirms() {
+        Stage stage;
+        QTest::keyClick(&stage.form(), Qt::Key_Return);
+        QVERIFY(!finestre::Scelta().isVisible());
+        QVERIFY(!finestre::Scelta().sceltaAnnullata);
+    }
+
+    void optionsHaveTheBackgroundOfTheTheme() {
+        Stage stage;
+        for (const char* name : {"opt(0)", "opt(1)"})
+            QCOMPARE(stage.control<QRadioButton>(name)->palette().color(QPalette::Window),
+                     stage.form().palette().color(QPalette::Window));
+    }
+
+    void selectedGroupIsTheCurrentNode() {
+        Stage stage;
+        stage.window();
+        stage.clickNode("K1");
+        QCOMPARE(choose({true, "Fiera"}).value(), "1");
+        QCOMPARE(Stage::groupsInTable(), 1);
+    }
+
+    void rootGivesZero() {
+        Stage stage;
+        stage.window();
+        stage.clickNode("K0");
+        QCOMPARE(choose({true, "Fiera"}).value(), "0");
+    }
+
+    void selectedGroupBeforeAnyClickShowsTheMessageAndCreatesNothing() {
+        Stage stage;
+        stage.window();
+        MessageDialog::queue(MessageDialog::Ok);
+        QVERIFY(!choose({true, "Fiera"}));
+        QVERIFY(stage.oneBox("Selezionare una cartella dove aggiungere i destinatari.", 64));
+        QCOMPARE(Stage::groupsInTable(), 1);
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+    }
+
+    void newGroupStandsAtTheTopLevelWhateverIsSelected() {
+        Stage stage;
+        stage.window();
+        stage.clickNode("K1");
+        const QString id = choose({false, "Fiera"}).value();
+        QCOMPARE(Stage::look("SELECT id_up FROM [tb_gruppi] WHERE id = " + id + " ;"), "0");
+        QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), "Fiera");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, Fiera)");
+        QVERIFY(stage.tree().Node('K' + id));
+        QCOMPARE(nodoCorrente->Key, "K1");
+    }
+
+    void newGroupNamedLikeAnExistingOneIsASecondOne() {
+        Stage stage;
+        stage.window();
+        const QString id = choose({false, "Clienti"}).value();
+        QVERIFY(id != "1");
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, Clienti)");
+    }
+
+    void quotesInTheNameAreHarmless() {
+        Stage stage;
+        stage.window();
+        const QString id = choose({false, "Caffe' \"D'Angelo\""}).value();
+        QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), "Caffe' \"D'Angelo\"");
+    }
+
+    void anEmptyNameIsANameToo() {
+        Stage stage;
+        stage.window();
+        const QString id = choose({false, ""}).value();
+        QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), "");
+    }
+
+    void aCarryOnImportGoesOnWhereTheGroupCannotBeMade() {
+        Stage stage;
+        stage.window();
+        ado::Recordset rs = RecordsetDB();
+        stage.folder.hideDatabase();
+        ado::closeAll();
+        Prosegui prosegui;
+        const auto gruppo =
+            cartella::Scegli({false, "Fiera"}, rs, cartella::avvisoCartella, std::ref(prosegui));
+        QCOMPARE(gruppo.value(), "0");
+        QVERIFY(prosegui.numero() != 0);
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
+        stage.folder.showDatabase();
+    }
+};
+
+QTEST_MAIN(TestImportCartella)
+#include "cartella_test.moc"

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QComboBox>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/Fallimento.h"
+#include "core/Finestre.h"
+#include "import/Inserimento.h"
+#include "platform/ado/Connection.h"
+#include "store/griglia_stage.h"
+#include "support/JetChecker.h"
+
+namespace testing_support {
+
+/// The main window with a database, and hands for one of the windows of the imports, shown at its first
+/// mention though not modally.
+class ImportStage : public StoreStage {
+  public:
+    explicit ImportStage(QDialog& (*of)()) : m_of(of) {}
+
+    QDialog& dialog() {
+        window();
+        QDialog& found = m_of();
+        if (!found.isVisible()) {
+            found.show();
+            if (!QTest::qWaitForWindowExposed(&found)) qFatal("the window does not show");
+        }
+        return found;
+    }
+    template <class Control>
+    Control* control(const QString& name) {
+        auto* found = dialog().findChild<Control*>(name);
+        if (!found) qFatal("no control %s", qUtf8Printable(name));
+        return found;
+    }
+    void click(const QString& name) { control<QAbstractButton>(name)->click(); }
+    QComboBox* box(int index) { return control<QComboBox>(QString("cmbCmp(%1)").arg(index)); }
+    bool enabled(const QString& name) { return control<QWidget>(name)->isEnabled(); }
+    void type(const QString& name, const QString& text) { control<QLineEdit>(name)->setText(text); }
+
+    QString write(const QString& name, const QByteArray& content) const {
+        QFile file(folder.path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qUtf8Printable(name));
+        return file.fileName();
+    }
+
+    /// One column of the recipients in the order of their insertion.
+    static QStringList inserted(const QString& column) {
+        return StoreStage::column("SELECT * FROM [tb_destinatari] ORDER BY id ASC;", column);
+    }
+    static int recipients() { return count("tb_destinatari", "id > 0"); }
+    static int groupsInTable() { return count("tb_gruppi", "id > 0"); }
+    /// The statements that insert what stands in the table, as one hash.
+    static QByteArray statementsHash() {
+        static const char* const names[] = {
+            "email",  "rgs",    "nom",    "piva",   "ind",    "cap",    "loc",    "prov",   "tel",   "fax",
+            "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
+        ado::Recordset rows;
+        esigi(rows.setActiveConnection(connDB));
+        rows.setSource("SELECT * FROM [tb_destinatari] ORDER BY id ASC;");
+        esigi(rows.open());
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        for (; !rows.isEof(); esigi(rows.moveNext())) {
+            inserimento::Valori values;
+            for (size_t i = 0; i < values.size(); ++i)
+                values[i] = esigi(esigi(rows.value(QString(names[i]))).toText());
+            const QString group = esigi(rows.value(u"id_grp")).toTextOrEmpty();
+            hash.addData(inserimento::Istruzione(group, values).toUtf8() + '\n');
+        }
+        return hash.result().toHex();
+    }
+    /// What is wrong with the database file; empty for nothing.
+    QStringList faults() const {
+        ado::closeAll();
+        QStringList found;
+        for (const auto& fault : checkJetFile(folder.database().toStdString()))
+            found << QString::fromStdString(fault);
+        return found;
+    }
+
+  private:
+    QDialog& (*m_of)();
+};
+
+}  // namespace testing_support

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "import/frmImpTXT.h"
+#include "import/import_stage.h"
+
+namespace testing_support {
+
+inline QDialog& textImportWindow() {
+    return finestre::ImpTXT();
+}
+
+/// The text import over the main window.
+class TxtStage : public ImportStage {
+  public:
+    TxtStage() : ImportStage(textImportWindow) {}
+
+    /// Makes the group the current node as a click on it does.
+    void chooseNode(int group) {
+        window();
+        groups().CaricaGruppiINI();
+        clickNode(QString("K%1").arg(group));
+    }
+    /// The file, and the fields of address and name.
+    void map(const QString& path, int email, int name = 0) {
+        type("txtPath", path);
+        box(2)->setCurrentIndex(email);
+        box(1)->setCurrentIndex(name);
+    }
+    /// The label that stands right above a box.
+    QLabel* labelAbove(int index) {
+        const QPoint place = box(index)->mapTo(&dialog(), QPoint());
+        for (auto* label : dialog().findChildren<QLabel*>()) {
+            const QPoint corner = label->mapTo(&dialog(), QPoint());
+            const int gap = place.y() - corner.y() - label->height();
+            if (corner.x() == place.x() && gap >= 0 && gap < 8) return label;
+        }
+        return nullptr;
+    }
+};
+
+}  // namespace testing_support
