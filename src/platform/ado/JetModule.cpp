@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <tuple>
 
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/Session.h"
@@ -26,8 +27,8 @@ struct Table {
 struct Cursor {
     sqlite3_vtab_cursor base;
     std::shared_ptr<const RowOrder> order;  ///< null for a single row
-    RowOrder::Iterator at;
-    std::string group;  ///< what the keys of the wanted rows begin with
+    RowOrder::Place at;
+    RowOrder::Place end;
     jet::RowId row;
     bool atEnd;
     jet::Bytes bytes;  ///< of the row, once one of its fields was asked for
@@ -156,9 +157,8 @@ int close(sqlite3_vtab_cursor* base) {
 /// Takes the row that the place in the order names.
 void settle(Cursor& cursor) {
     cursor.loaded = false;
-    cursor.atEnd = cursor.at == cursor.order->end() ||
-                   cursor.at->first.compare(0, cursor.group.size(), cursor.group) != 0;
-    if (!cursor.atEnd) cursor.row = cursor.at->second;
+    cursor.atEnd = cursor.at == cursor.end;
+    if (!cursor.atEnd) cursor.row = cursor.order->at(cursor.at);
 }
 
 /// The whole number a constant stands for in a comparison; no row can equal anything else.
@@ -181,7 +181,6 @@ int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_v
     Table& table = tableOf(cursor);
     const OrderSpec spec = OrderSpec::fromText(text);
     cursor.order.reset();
-    cursor.group.clear();
     cursor.loaded = false;
     cursor.atEnd = true;
     std::optional<int64_t> number;
@@ -202,8 +201,9 @@ int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_v
     const auto order = table.rows->order(spec);
     if (!order.ok()) return table.session->fail(order.status());
     cursor.order = order.value();
-    if (plan == OneGroup) cursor.group = RowOrder::groupPrefix(type, *number);
-    cursor.at = plan == OneGroup ? cursor.order->groupBegin(cursor.group) : cursor.order->begin();
+    const RowOrder& rows = *cursor.order;
+    std::tie(cursor.at, cursor.end) =
+        plan == OneGroup ? rows.group(type, *number) : std::pair(rows.begin(), rows.end());
     settle(cursor);
     return SQLITE_OK;
 }
@@ -211,7 +211,7 @@ int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_v
 int next(sqlite3_vtab_cursor* base) {
     auto& cursor = *reinterpret_cast<Cursor*>(base);
     if (cursor.order) {
-        ++cursor.at;
+        cursor.at = cursor.order->next(cursor.at);
         settle(cursor);
     } else {
         cursor.atEnd = true;

@@ -12,6 +12,14 @@ namespace {
 
 using jet::Type;
 
+// Blocks are filled with room for some more, and cut in two when that is used.
+constexpr size_t rowsOfFullBlock = 64;
+constexpr size_t mostRowsOfBlock = 96;
+
+OrderBlock::Id packed(jet::RowId id) {
+    return static_cast<OrderBlock::Id>(id.toInteger());
+}
+
 constexpr char nullMark = 0x00;
 constexpr char valueMark = 0x7f;
 
@@ -121,20 +129,39 @@ bool OrderSpec::canGroup(Type type) {
 }
 
 Status RowOrder::fill(jet::Table& table) {
-    std::vector<Entry> entries;
+    // All keys in one text, so that the memory they take for a moment goes back to the system.
+    struct Row {
+        size_t key;
+        uint32_t length;
+        OrderBlock::Id id;
+    };
+    std::string keys;
+    std::vector<Row> rows;
     Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
-        entries.emplace_back(keyOf(row), id);
+        const size_t start = keys.size();
+        appendKey(keys, row);
+        rows.push_back({start, static_cast<uint32_t>(keys.size() - start), packed(id)});
         return true;
     });
     if (!status.ok()) return status;
-    std::sort(entries.begin(), entries.end());
-    m_rows =
-        std::set<Entry>(std::make_move_iterator(entries.begin()), std::make_move_iterator(entries.end()));
+    const auto keyOfRow = [&](const Row& row) { return std::string_view(keys).substr(row.key, row.length); };
+    std::sort(rows.begin(), rows.end(), [&](const Row& a, const Row& b) {
+        const int order = keyOfRow(a).compare(keyOfRow(b));
+        return order != 0 ? order < 0 : a.id < b.id;
+    });
+    m_blocks.clear();
+    for (size_t i = 0; i < rows.size(); ++i) {
+        if (i % rowsOfFullBlock == 0) {
+            if (i != 0) m_blocks.back().shrinkToFit();
+            m_blocks.emplace_back();
+        }
+        m_blocks.back().append(keyOfRow(rows[i]), rows[i].id,
+                               i == 0 ? std::string_view() : keyOfRow(rows[i - 1]));
+    }
     return {};
 }
 
-std::string RowOrder::keyOf(const jet::RowView& row) const {
-    std::string key;
+void RowOrder::appendKey(std::string& key, const jet::RowView& row) const {
     if (m_spec.group) appendField(key, row, *m_spec.group);
     for (const OrderSpec::Part& part : m_spec.parts) {
         const size_t start = key.size();
@@ -143,17 +170,71 @@ std::string RowOrder::keyOf(const jet::RowView& row) const {
         for (size_t i = start; i < key.size(); ++i)
             key[i] = static_cast<char>(~key[i]);
     }
+}
+
+std::string RowOrder::keyOf(const jet::RowView& row) const {
+    std::string key;
+    appendKey(key, row);
     return key;
 }
 
-std::string RowOrder::groupPrefix(Type type, int64_t number) {
-    std::string prefix(1, valueMark);
-    if (type == Type::YesNo) {
-        appendYesNo(prefix, number != 0);
-    } else {
-        appendInteger(prefix, number);
+/// The block where a row with that key stands or would stand.
+size_t RowOrder::blockOf(std::string_view key, OrderBlock::Id id) const {
+    const auto behind = std::partition_point(m_blocks.begin(), m_blocks.end(), [&](const OrderBlock& block) {
+        const int order = block.firstKey().compare(key);
+        return order < 0 || (order == 0 && block.id(0) <= id);
+    });
+    return behind == m_blocks.begin() ? 0 : static_cast<size_t>(behind - m_blocks.begin()) - 1;
+}
+
+void RowOrder::add(std::string_view key, jet::RowId id) {
+    if (m_blocks.empty()) {
+        m_blocks.emplace_back().append(key, packed(id), {});
+        return;
     }
-    return prefix;
+    const size_t number = blockOf(key, packed(id));
+    m_blocks[number].insert(key, packed(id));
+    if (m_blocks[number].count() > mostRowsOfBlock) {
+        OrderBlock second = m_blocks[number].split();
+        m_blocks.insert(m_blocks.begin() + static_cast<std::ptrdiff_t>(number) + 1, std::move(second));
+    }
+}
+
+void RowOrder::remove(std::string_view key, jet::RowId id) {
+    if (m_blocks.empty()) return;
+    const size_t number = blockOf(key, packed(id));
+    m_blocks[number].erase(key, packed(id));
+    if (m_blocks[number].count() == 0) m_blocks.erase(m_blocks.begin() + static_cast<std::ptrdiff_t>(number));
+}
+
+jet::RowId RowOrder::at(Place place) const {
+    return jet::RowId::fromInteger(m_blocks[place.block].id(place.row));
+}
+
+RowOrder::Place RowOrder::next(Place place) const {
+    return place.row + 1 < m_blocks[place.block].count() ? Place{place.block, place.row + 1}
+                                                         : Place{place.block + 1, 0};
+}
+
+RowOrder::Place RowOrder::lowerBound(std::string_view key) const {
+    if (m_blocks.empty()) return end();
+    const size_t number = blockOf(key, 0);
+    const size_t row = m_blocks[number].lowerBound(key, 0);
+    return row < m_blocks[number].count() ? Place{number, row} : Place{number + 1, 0};
+}
+
+std::pair<RowOrder::Place, RowOrder::Place> RowOrder::group(Type type, int64_t number) const {
+    std::string key(1, valueMark);
+    if (type == Type::YesNo) {
+        appendYesNo(key, number != 0);
+    } else {
+        appendInteger(key, number);
+    }
+    const Place first = lowerBound(key);
+    // The least text behind all that begin with the key; the mark before the value takes the last carry.
+    for (size_t i = key.size(); ++key[--i] == 0;) {
+    }
+    return {first, lowerBound(key)};
 }
 
 }  // namespace ado

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/ado/OrderBlock.h"
 #include "platform/jet/Database.h"
 
 namespace ado {
@@ -36,8 +36,12 @@ struct OrderSpec {
 /// writes.
 class RowOrder {
   public:
-    using Entry = std::pair<std::string, jet::RowId>;
-    using Iterator = std::set<Entry>::const_iterator;
+    /// A place in the order, valid until rows are added or removed.
+    struct Place {
+        size_t block = 0;
+        size_t row = 0;
+        bool operator==(const Place&) const = default;
+    };
 
     explicit RowOrder(OrderSpec spec) : m_spec(std::move(spec)) {}
     const OrderSpec& spec() const { return m_spec; }
@@ -46,19 +50,23 @@ class RowOrder {
     Status fill(jet::Table& table);
 
     std::string keyOf(const jet::RowView& row) const;
-    void add(std::string key, jet::RowId id) { m_rows.emplace(std::move(key), id); }
-    void remove(const std::string& key, jet::RowId id) { m_rows.erase({key, id}); }
+    void add(std::string_view key, jet::RowId id);
+    void remove(std::string_view key, jet::RowId id);
 
-    Iterator begin() const { return m_rows.begin(); }
-    Iterator end() const { return m_rows.end(); }
-    /// The first row whose group is not below the one with that prefix.
-    Iterator groupBegin(const std::string& prefix) const { return m_rows.lower_bound({prefix, {}}); }
-    /// What the keys begin with of rows that hold `number` in the column they are grouped by.
-    static std::string groupPrefix(jet::Type type, int64_t number);
+    Place begin() const { return {}; }
+    Place end() const { return {m_blocks.size(), 0}; }
+    jet::RowId at(Place place) const;
+    Place next(Place place) const;
+    /// The rows that hold `number` in the column they are grouped by: the first, and the one behind the last.
+    std::pair<Place, Place> group(jet::Type type, int64_t number) const;
 
   private:
+    void appendKey(std::string& key, const jet::RowView& row) const;
+    size_t blockOf(std::string_view key, OrderBlock::Id id) const;
+    Place lowerBound(std::string_view key) const;
+
     OrderSpec m_spec;
-    std::set<Entry> m_rows;
+    std::vector<OrderBlock> m_blocks;  ///< none is empty
 };
 
 }  // namespace ado

@@ -21,6 +21,7 @@ struct PoolEntry {
 };
 
 constexpr size_t pooledSessions = 4;
+constexpr size_t cachedPages = 1024;  // the system keeps the file as well
 
 /// The most recently used one last.
 std::vector<PoolEntry>& pool() {
@@ -67,6 +68,7 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
                                     [&](const auto& entry) { return entry.path == canonical; });
     jet::Database::Options options;
     options.password = target.password;
+    options.cachedPages = cachedPages;
     if (known != entries.end()) {
         if (known->password != target.password) {
             known->session->commitGroup();

@@ -51,12 +51,14 @@ Status Snapshot::copy(const Rows& rows) {
     for (size_t i = 0; i < columns().size(); ++i)
         if (columns()[i].type == jet::Type::Memo) memos.push_back(i);
     // In the order in which they stand in the file, so that each page is visited once.
-    std::vector<std::pair<jet::RowId, uint32_t>> places(rows.known());
+    std::vector<uint64_t> places(rows.known());  // the row id above, the number among `rows` below
     for (size_t i = 0; i < places.size(); ++i)
-        places[i] = {rows.id(i), static_cast<uint32_t>(i)};
+        places[i] = static_cast<uint64_t>(rows.id(i).toInteger()) << 32 | i;
     std::sort(places.begin(), places.end());
     jet::Bytes bytes;
-    for (const auto& [id, row] : places) {
+    for (const uint64_t packed : places) {
+        const jet::RowId id = jet::RowId::fromInteger(static_cast<int64_t>(packed >> 32));
+        const auto row = static_cast<uint32_t>(packed);
         const Result<bool> found = rows.table()->read(id, bytes);
         if (!found.ok()) return found.status();
         if (!found.value()) continue;

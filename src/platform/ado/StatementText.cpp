@@ -145,6 +145,16 @@ class Reader {
         }
         return true;
     }
+    /// The rest is one pair of parentheses with what it holds: the dialect inserts one row at a time.
+    bool restIsOneRow() const {
+        int depth = 0;
+        for (size_t i = m_next; i < m_tokens.size(); ++i) {
+            if (m_tokens[i].is("(")) ++depth;
+            if (m_tokens[i].is(")")) --depth;
+            if (depth <= 0) return depth == 0 && i > m_next && i + 1 == m_tokens.size();
+        }
+        return false;
+    }
     qsizetype offset() const { return m_tokens[m_next].at; }
 
   private:
@@ -197,7 +207,9 @@ bool readStatement(Reader& reader, StatementText& statement) {
     if (reader.atEnd() || !reader.next({"(", "VALUES", "SELECT"}) ||
         reader.restHas({"CONFLICT", "RETURNING", "WITH"}))
         return false;
-    if (!reader.restHas({"SELECT"})) return !reader.restHas({"FROM"});
+    if (!reader.restHas({"SELECT"})) {
+        return !reader.restHas({"FROM"}) && reader.skipTo("VALUES") && reader.restIsOneRow();
+    }
     reader.skipTo("SELECT");
     return !reader.restHas({"SELECT"}) && readSelect(reader, statement.readFrom, nullptr);
 }
