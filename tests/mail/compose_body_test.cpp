@@ -191,6 +191,8 @@ TEST(HtmlReferences, CommentsScriptsAndTextAreNoTags) {
     EXPECT_EQ(imagesIn("<!--<img src=/a>--><script>'<img src=/b>'</script><textarea><img "
                        "src=/c></textarea>&lt;img src=/d>"),
               Values{});
+    EXPECT_EQ(imagesIn("<!--><img src=/a>--><!---><img src=/b><!-- --!><img src=/c><!-- <img src=/d>"),
+              (Values{"/a", "/b", "/c"}));
     EXPECT_EQ(imagesIn("<title></tit<img src=/a></title><img src=/b>"), (Values{"/b"}));
 }
 

@@ -43,7 +43,7 @@ TEST_F(ComposeAttachments, MixedStandsAroundTheRest) {
     const QByteArray data = compose(message);
     EXPECT_TRUE(header(data, "Content-Type").startsWith("multipart/mixed;"));
     const qsizetype alternative = data.indexOf("Content-Type: multipart/alternative;");
-    const qsizetype attachment = data.indexOf("Content-Type: application/pdf; name=listino.pdf\r\n");
+    const qsizetype attachment = data.indexOf("Content-Type: application/pdf;\r\n name=\"listino.pdf\"\r\n");
     EXPECT_GT(alternative, 0);
     EXPECT_GT(attachment, alternative);
     EXPECT_TRUE(data.contains("Content-Disposition: attachment;\r\n filename=\"listino.pdf\"\r\n"));
@@ -86,15 +86,15 @@ TEST_F(ComposeAttachments, TextDeclaresItsEncodingOnlyWhereItIsKnown) {
     message.attachments = {{makeFile(path("u.txt"), "perch\xC3\xA9"), "u.txt"},
                            {makeFile(path("w.txt"), "perch\xE9"), "w.txt"}};
     const QByteArray data = compose(message);
-    EXPECT_TRUE(data.contains("Content-Type: text/plain; charset=utf-8; name=u.txt\r\n"))
+    EXPECT_TRUE(data.contains("Content-Type: text/plain; charset=utf-8;\r\n name=\"u.txt\"\r\n"))
         << data.toStdString();
-    EXPECT_TRUE(data.contains("Content-Type: application/octet-stream; name=w.txt\r\n"));
+    EXPECT_TRUE(data.contains("Content-Type: application/octet-stream;\r\n name=\"w.txt\"\r\n"));
 }
 
 TEST_F(ComposeAttachments, MessageGoesAsPlainOctets) {
     auto message = plainMessage();
     message.attachments = {{makeFile(path("m.eml"), "From: a\r\n\r\nb"), "m.eml"}};
-    EXPECT_TRUE(compose(message).contains("Content-Type: application/octet-stream; name=m.eml\r\n"));
+    EXPECT_TRUE(compose(message).contains("Content-Type: application/octet-stream;\r\n name=\"m.eml\"\r\n"));
 }
 
 TEST_F(ComposeAttachments, EmptyFileIsAnEmptyPart) {
@@ -140,7 +140,7 @@ TEST_F(ComposeImages, ImageTravelsInsideTheMessage) {
     const QByteArray data = compose(withHtml("<p>x<img src=\"" + file + "\"></p>"));
     EXPECT_TRUE(
         header(data, "Content-Type").startsWith("multipart/related; type=\"multipart/alternative\";"));
-    EXPECT_TRUE(data.contains("Content-Type: image/png; name=logo.png\r\n"));
+    EXPECT_TRUE(data.contains("Content-Type: image/png;\r\n name=\"logo.png\"\r\n"));
     EXPECT_TRUE(data.contains("Content-Disposition: inline;\r\n filename=\"logo.png\"\r\n"));
     const qsizetype from = data.indexOf("Content-Id: <") + 13;
     const QByteArray contentId = data.mid(from, data.indexOf('>', from) - from);

@@ -6,11 +6,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "mail/compose_support.h"
+#include "mail/hostile_values.h"
 #include "platform/mail/HeaderText.h"
 
 using namespace compose;
@@ -25,89 +25,6 @@ QString asSent(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
     return QString::fromUtf8(text.toUtf8());
 }
-
-class Values {
-  public:
-    explicit Values(quint32 seed) : m_random(seed) {}
-
-    int below(int bound) { return static_cast<int>(m_random.bounded(bound)); }
-
-    QString text(int most) {
-        static const QStringList pieces = {
-            "a",
-            "parola",
-            " ",
-            "  ",
-            "è",
-            "Niccolò",
-            "👍",
-            "日本",
-            "é̀",
-            "=?utf-8?q?x?=",
-            "=",
-            "?=",
-            "_",
-            "\"",
-            "\\",
-            "<",
-            ">",
-            "@",
-            ",",
-            ";",
-            ":",
-            "(",
-            ")",
-            "[",
-            "]",
-            ".",
-            "\r\n",
-            "\r",
-            "\n",
-            "\t",
-            "--",
-            "--=_",
-            "=_",
-            "\r\nBcc: x@y.it",
-            "\r\n\r\n",
-            "\r\n.\r\n",
-            "From ",
-            "\nFrom ",
-            ":::nom:::",
-            "&amp;",
-            "<img src='/etc/passwd'>",
-            "<a rel=unsubscribe href='http://x.it/\r\nA: b'>",
-            "<meta charset=x>",
-            "<!--",
-            "-->",
-            "<style>",
-            "\u00A0",
-            "\u2028",
-            "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"};
-        QString made;
-        for (int i = below(most + 1); i > 0; --i) {
-            const int kind = below(20);
-            if (kind == 0) {
-                made += QChar(below(0x20));
-            } else if (kind == 1) {
-                made += QChar(below(0xD800));
-            } else if (kind == 2) {
-                made += QChar(0xD800 + below(0x800));
-            } else {
-                made += pieces[below(static_cast<int>(pieces.size()))];
-            }
-        }
-        return made;
-    }
-
-    QString address() {
-        static const QStringList addresses = {"m.rossi@example.it", "o'neil+list@sub.example.it",
-                                              "\"a b\"@example.it", "x@città.example", "a@[192.0.2.1]"};
-        return addresses[below(static_cast<int>(addresses.size()))];
-    }
-
-  private:
-    QRandomGenerator m_random;
-};
 
 class ReadByPython : public ::testing::Test {
   protected:
@@ -232,7 +149,7 @@ TEST_F(ReadByPython, OrdinaryValuesComeBack) {
 }
 
 TEST_F(ReadByPython, HostileValuesComeBackAsText) {
-    Values values(20050307);
+    HostileValues values(20050307);
     for (int i = 0; i < messagesOfTheLoop; ++i) {
         mail::MessageData message;
         message.fromName = values.text(12);

@@ -6,55 +6,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "mail/wire_reader.h"
+
 namespace compose {
 namespace {
 
 QByteArray headerBlock(const QByteArray& message) {
     return message.left(message.indexOf("\r\n\r\n") + 2);
-}
-
-QString countComplaint(const QByteArray& message) {
-    for (const char* name : {"From", "To", "Subject", "Date", "Message-ID", "MIME-Version", "Content-Type",
-                             "List-Unsubscribe"}) {
-        const auto count = headers(message, name).size();
-        if (count != 1) return QStringLiteral("%1 headers %2").arg(count).arg(QLatin1String(name));
-    }
-    const QList<QByteArray> known = {
-        "from",       "to",           "subject",      "date",
-        "message-id", "mime-version", "content-type", "content-transfer-encoding",
-        "x-priority", "priority",     "importance",   "list-unsubscribe"};
-    for (const QByteArray& line : headerBlock(message).split('\n')) {
-        if (line.isEmpty() || line.startsWith(' ') || line.startsWith('\t')) continue;
-        if (!known.contains(line.left(line.indexOf(':')).toLower())) {
-            return "unexpected header line " + QString::fromUtf8(line);
-        }
-    }
-    return {};
-}
-
-QString lineComplaint(const QByteArray& message) {
-    bool inHeader = true;
-    const auto lines = message.split('\n');
-    if (!lines.last().isEmpty()) return QStringLiteral("no line end at the end");
-    for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
-        if (!lines[i].endsWith('\r') || lines[i].count('\r') != 1) return QStringLiteral("bare CR or LF");
-        const QByteArray line = lines[i].chopped(1);
-        if (line.contains('\0')) return QStringLiteral("NUL");
-        if (line.size() > 998) return QStringLiteral("line of %1 octets").arg(line.size());
-        if (line.isEmpty()) inHeader = false;
-        const bool breakable = line.mid(line.indexOf(':') + 2).trimmed().contains(' ');
-        if (inHeader && line.size() > 78 && breakable) return "header not folded: " + QString::fromUtf8(line);
-        if (inHeader && !line.isEmpty() && line.trimmed().isEmpty())
-            return QStringLiteral("blank header line");
-        if (!inHeader && line.size() > 76 && !line.contains(':'))
-            return "long line " + QString::fromUtf8(line);
-        if (line.startsWith('.')) return QStringLiteral("line that starts with a point");
-        for (const QByteArray& word : line.split(' ')) {
-            if (word.contains("=?") && word.size() > 75)
-                return "long encoded word " + QString::fromUtf8(word);
-        }
-    }
-    return {};
 }
 
 }  // namespace
@@ -97,8 +55,7 @@ QByteArray header(const QByteArray& message, const QByteArray& name) {
 }
 
 QString complaintAbout(const QByteArray& message) {
-    const QString count = countComplaint(message);
-    return count.isEmpty() ? lineComplaint(message) : count;
+    return wire::read(message).complaints.join('\n');
 }
 
 QString makeFile(const QString& path, const QByteArray& content) {

@@ -51,13 +51,12 @@ QByteArray asciiName(const QString& name) {
     return plain.left(fallbackLimit - suffix.size()) + suffix;
 }
 
-// The library's own way to write a long name splits characters between lines, so the value goes in ready-made
-void setDisposition(GMimePart* part, const char* disposition, const QString& fileName) {
-    g_mime_object_set_disposition(GMIME_OBJECT(part), disposition);
+// The library folds a long type nowhere, and splits the characters of a long name between lines, so the
+// values go in ready-made
+void setHeader(GMimePart* part, const char* name, const QByteArray& value) {
     GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(part));
-    const QByteArray value = QByteArray(" ") + disposition + parameter("filename", fileName) + "\r\n";
-    g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, "Content-Disposition"),
-                                value.constData());
+    g_mime_header_list_set(headers, name, "", nullptr);
+    g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, name), value.constData());
 }
 
 QByteArray wireText(GMimePart* part) {
@@ -67,7 +66,8 @@ QByteArray wireText(GMimePart* part) {
     g_mime_object_write_to_stream(GMIME_OBJECT(part), options.get(), stream.get());
     const GByteArray* bytes = g_mime_stream_mem_get_byte_array(GMIME_STREAM_MEM(stream.get()));
     QByteArray text(reinterpret_cast<const char*>(bytes->data), static_cast<qsizetype>(bytes->len));
-    if (!text.endsWith("\r\n")) text += "\r\n";
+    // the line end of an empty content, too: the one that ends the headers is not its own
+    if (!text.endsWith("\r\n") || text.endsWith("\r\n\r\n")) text += "\r\n";
     return text;
 }
 
@@ -79,10 +79,13 @@ QByteArray filePart(const QString& givenName, const QByteArray& type, const char
     const Ref<GMimePart> part(
         g_mime_part_new_with_type(type.left(slash).constData(), type.mid(slash + 1).constData()));
 
-    GMimeContentType* contentType = g_mime_object_get_content_type(GMIME_OBJECT(part.get()));
-    if (charset != nullptr) g_mime_content_type_set_parameter(contentType, "charset", charset);
-    g_mime_content_type_set_parameter(contentType, "name", asciiName(name).constData());
-    setDisposition(part.get(), disposition, name);
+    const bool fits = qstrlen("Content-Type: ;") + static_cast<std::size_t>(type.size()) <= 78;
+    QByteArray contentType = (fits ? " " : "\r\n ") + type;
+    if (charset != nullptr) contentType += QByteArray("; charset=") + charset;
+    contentType += parameter("name", QString::fromLatin1(asciiName(name)));
+    setHeader(part.get(), "Content-Type", contentType + "\r\n");
+    setHeader(part.get(), "Content-Disposition",
+              QByteArray(" ") + disposition + parameter("filename", name) + "\r\n");
     if (!contentId.isEmpty()) g_mime_object_set_content_id(GMIME_OBJECT(part.get()), contentId.constData());
 
     const Ref<GMimeStream> stream(

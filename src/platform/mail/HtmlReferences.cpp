@@ -93,18 +93,8 @@ class Reader {
         : m_html(html.constData(), static_cast<std::size_t>(html.size())) {}
 
     HtmlReferences read() {
-        while ((m_at = m_html.find('<', m_at)) != m_html.npos && m_at + 1 < m_html.size()) {
-            if (m_html.compare(m_at, 4, "<!--") == 0) {
-                skipPast("-->"sv, m_at + 4);
-            } else if (isLetter(m_html[m_at + 1])) {
-                ++m_at;
-                const Tag tag = readTag();
-                use(tag);
-                passRawText(tag.name);
-            } else {
-                ++m_at;
-            }
-        }
+        while ((m_at = m_html.find('<', m_at)) != m_html.npos && m_at + 1 < m_html.size())
+            readMarkup();
         // the attributes of one tag may stand in any order
         const auto inOrder = [](const auto& a, const auto& b) { return a.from < b.from; };
         std::sort(m_found.images.begin(), m_found.images.end(), inOrder);
@@ -113,9 +103,34 @@ class Reader {
     }
 
   private:
-    void skipPast(string_view end, std::size_t from) {
-        const std::size_t found = m_html.find(end, from);
-        m_at = found == m_html.npos ? m_html.size() : found + end.size();
+    void readMarkup() {
+        const char next = m_html[m_at + 1];
+        const bool isEnd = next == '/' && m_at + 2 < m_html.size();
+        if (m_html.compare(m_at, 4, "<!--") == 0) {
+            skipComment();
+        } else if (isLetter(next)) {
+            ++m_at;
+            const Tag tag = readTag();
+            use(tag);
+            passRawText(tag.name);
+        } else if (isEnd && isLetter(m_html[m_at + 2])) {
+            m_at += 2;
+            readTag();
+        } else if (isEnd || next == '!' || next == '?') {
+            readUntil([](char c) { return c == '>'; });  // browsers make a comment of it
+        } else {
+            ++m_at;
+        }
+    }
+
+    // Its opening may be its end as well: "<!-->" and "<!--->" are whole comments
+    void skipComment() {
+        const std::size_t end = m_html.find("-->"sv, m_at + 2);
+        const std::size_t oddEnd = m_html.find("--!>"sv, m_at + 4);
+        if (end == m_html.npos && oddEnd == m_html.npos)
+            m_at = m_html.size();
+        else
+            m_at = end < oddEnd ? end + 3 : oddEnd + 4;
     }
 
     bool atEnd() const { return m_at >= m_html.size(); }

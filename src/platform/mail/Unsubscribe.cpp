@@ -15,15 +15,17 @@ QByteArray mailLink(const Mailbox& sender) {
            "?subject=unsubscribe";
 }
 
-// Line ends and tabs inside an address mean nothing in HTML
+// Line ends and tabs inside an address mean nothing in HTML; broken characters mean nothing anywhere
 QString withoutLineEnds(QString link) {
-    return link.removeIf([](QChar c) { return c == u'\r' || c == u'\n' || c == u'\t'; });
+    link.removeIf([](QChar c) { return c == u'\r' || c == u'\n' || c == u'\t'; });
+    return QString::fromUtf8(link.toUtf8());
 }
 
 bool namesItsGoal(const QString& link) {
     const QUrl url(link);
     if (url.scheme() == QLatin1String("mailto")) return parseAddrSpec(url.path(QUrl::FullyDecoded)).ok();
-    return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty();
+    return (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http")) &&
+           !url.host().isEmpty() && url.userInfo().isEmpty();
 }
 
 }  // namespace
@@ -36,8 +38,8 @@ QString markedUnsubscribe(const QString& templateHtml) {
 
 QByteArray unsubscribeLink(const QString& link, const Mailbox& sender) {
     // As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets
-    const QByteArray encoded =
-        link.size() <= longestLink ? QUrl(withoutLineEnds(link)).toEncoded() : QByteArray();
+    const QString given = link.size() <= longestLink ? withoutLineEnds(link) : QString();
+    const QByteArray encoded = namesItsGoal(given) ? QUrl(given).toEncoded() : QByteArray();
     const bool stands = !encoded.isEmpty() && encoded.size() <= longestLink &&
                         std::all_of(encoded.begin(), encoded.end(),
                                     [](char c) { return c > 0x20 && c < 0x7F && c != '<' && c != '>'; });

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QRandomGenerator>
+#include <QString>
+
+namespace compose {
+
+/// Texts that try to be more than texts, the same ones for the same seed.
+class HostileValues {
+  public:
+    explicit HostileValues(quint32 seed) : m_random(seed) {}
+
+    int below(int bound) { return static_cast<int>(m_random.bounded(bound)); }
+
+    /// Up to `most` pieces of markup, line ends, encoded words, control characters, broken characters.
+    QString text(int most);
+    /// An address that may stand in a message, of any form.
+    QString address();
+
+  private:
+    QRandomGenerator m_random;
+};
+
+}  // namespace compose

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace wire {
+
+/// Reads HTML as a browser does and complains of every <meta> that declares another encoding than UTF-8.
+void checkDeclarations(const QByteArray& html, QStringList& complaints);
+
+}  // namespace wire
