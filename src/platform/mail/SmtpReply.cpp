@@ -1,5 +1,7 @@
 #include "platform/mail/SmtpReply.h"
 
+#include "platform/mail/HeaderText.h"
+
 namespace mail {
 
 namespace {
@@ -48,13 +50,7 @@ ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset) {
 }
 
 QString printable(QByteArrayView text) {
-    QString shown = QString::fromUtf8(text);
-    for (QChar& c : shown) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-            c == QChar::ParagraphSeparator)
-            c = u' ';
-    }
-    return shown;
+    return singleLine(QString::fromUtf8(text));
 }
 
 }  // namespace mail
