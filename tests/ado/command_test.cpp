@@ -133,10 +133,12 @@ TEST_F(CommandTest, ATextLongerThanItsColumnUndoesTheWholeStatement) {
     EXPECT_EQ(failure("UPDATE tb_destinatari SET prov = campo1"), ErrorCode::FieldTooSmall);
     EXPECT_EQ(column("SELECT * FROM tb_destinatari", "prov"), "(null)|(null)|(null)");
     EXPECT_EQ(column("SELECT id FROM tb_destinatari WHERE prov = 'RA'", "id"), "");
-    EXPECT_EQ(failure("INSERT INTO tb_destinatari (id_grp, prov) VALUES (1, 'RA'), (1, 'RAV')"),
+    EXPECT_EQ(failure("INSERT INTO tb_destinatari (id_grp, prov) SELECT id_grp, campo1 FROM tb_destinatari"),
               ErrorCode::FieldTooSmall);
     EXPECT_EQ(count("id_grp = 1"), 3);
-    EXPECT_EQ(run("INSERT INTO tb_destinatari (id_grp, prov) VALUES (1, 'RA'), (1, 'BO')"), 2);
+    EXPECT_EQ(run("INSERT INTO tb_destinatari (id_grp, prov) SELECT id_grp, campo1 FROM tb_destinatari WHERE "
+                  "id < 3"),
+              2);
     EXPECT_EQ(count("id_grp = 1"), 5);
 }
 

@@ -202,7 +202,8 @@ TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {
         const QString file = inFolder(qPrintable(QStringLiteral("lista%1.mdb").arg(i)));
         ASSERT_TRUE(jet::createEmptyDatabase(file).ok());
         connection = ado::connectionTo(file);
-        run(QStringLiteral("INSERT INTO tb_gruppi (nome) VALUES ('%1'), ('x')").arg(i));
+        run(QStringLiteral("INSERT INTO tb_gruppi (nome) VALUES ('%1')").arg(i));
+        run("INSERT INTO tb_gruppi (nome) VALUES ('x')");
         open_.push_back(open("SELECT * FROM tb_gruppi"));
     }
     for (int i = 0; i < 7; ++i) {

@@ -50,16 +50,18 @@ class List {
         ado::closeAll();
         QFile::remove(path());
         demand(jet::createEmptyDatabase(path()).ok());
-        run("INSERT INTO tb_gruppi (id_up, nome) VALUES (0, 'Clienti'), (0, 'Fornitori'), (1, 'Estero')");
-        run("INSERT INTO tb_destinatari (id_grp, sel, email, rgs, nom) VALUES (1, True, 'a@b.it', 'Rossi', "
-            "'Anna'), "
-            "(1, False, 'c@d.it', 'Perù', Null), (2, True, '', 'D''Angelo', ''), (3, True, 'e@f.it', Null, "
-            "'Zoe')");
+        for (const char* group : {"0, 'Clienti'", "0, 'Fornitori'", "1, 'Estero'"})
+            run(QStringLiteral("INSERT INTO tb_gruppi (id_up, nome) VALUES (%1)").arg(QLatin1String(group)));
+        for (const char* recipient :
+             {"1, True, 'a@b.it', 'Rossi', 'Anna'", "1, False, 'c@d.it', 'Per\u00f9', Null",
+              "2, True, '', 'D''Angelo', ''", "3, True, 'e@f.it', Null, 'Zoe'"})
+            run(QStringLiteral("INSERT INTO tb_destinatari (id_grp, sel, email, rgs, nom) VALUES (%1)")
+                    .arg(QString::fromUtf8(recipient)));
     }
-    void run(const char* statement) const {
+    void run(const QString& statement) const {
         ado::Command command;
         demand(command.setActiveConnection(connection()).ok());
-        command.setCommandText(QString::fromUtf8(statement));
+        command.setCommandText(statement);
         demand(command.execute().ok());
     }
 
