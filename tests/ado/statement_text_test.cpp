@@ -113,6 +113,14 @@ TEST(StatementText, MoreThanOneSourceOfRowsIsRefused) {
         EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
 }
 
+TEST(StatementText, MoreThanOneRowToInsertIsRefused) {
+    accepted("INSERT INTO t (a, b) VALUES (1, (2 + 3)) ");
+    for (const char* text : {"INSERT INTO t (a) VALUES ('x'), ('y')", "INSERT INTO t (a) VALUES ('x') ('y')",
+                             "INSERT INTO t (a) VALUES", "INSERT INTO t (a) VALUES 1",
+                             "INSERT INTO t (a) VALUES )", "INSERT INTO t (a) VALUES ('x'"})
+        EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+}
+
 TEST(StatementText, WhatIsNotClosedIsASyntaxError) {
     for (const char* text : {"", "   ", ";", "SELECT * FROM [t", "INSERT INTO t (a) VALUES ('D'Amico')",
                              "INSERT INTO t (a) VALUES ('x", "SELECT * FROM \"t\"", "SELECT * FROM `t`"})
