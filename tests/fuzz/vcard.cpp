@@ -1,0 +1,12 @@
+// A file of cards from anywhere, read as the address book reads it.
+#include <cstdint>
+#include <cstdlib>
+
+#include "platform/contacts/VCard.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const QByteArray file(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    const auto cards = contacts::readVCards(file);
+    if (cards.size() > size || cards.size() > contacts::mostCards) std::abort();
+    return 0;
+}
