@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "accounts/frmAccount.h"
+#include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG.h"
@@ -59,6 +60,10 @@ frmScelta& finestre::Scelta() {
 
 frmImpTXT& finestre::ImpTXT() {
     return dialogo<frmImpTXT>();
+}
+
+frmImpDB& finestre::ImpDB() {
+    return dialogo<frmImpDB>();
 }
 
 frmSplash& finestre::Splash() {

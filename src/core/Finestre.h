@@ -2,6 +2,7 @@
 
 class frmAccount;
 class frmDestinatario;
+class frmImpDB;
 class frmImpTXT;
 class frmInfoSu;
 class frmInvia;
@@ -22,6 +23,7 @@ namespace finestre {
 ::frmInfoSu& InfoSu();
 ::frmScelta& Scelta();
 ::frmImpTXT& ImpTXT();
+::frmImpDB& ImpDB();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

@@ -40,7 +40,7 @@ RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent) {
         auto* box = ui::named(new QComboBox(this), QString("cmbCmp(%1)").arg(i));
         box->setMinimumHeight(ui::fieldHeight);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(9);
+        box->setMinimumContentsLength(8);
         box->setAccessibleName(ui::spokenCaption(etichetta->text()));
         etichetta->setBuddy(box);
         lblcmp[static_cast<std::size_t>(numero)] = etichetta;

@@ -26,6 +26,7 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
         QPalette tavolozza = opzione->palette();
         tavolozza.setColor(QPalette::Window, coloreTema(0));
         opzione->setPalette(tavolozza);
+        opzione->setBackgroundRole(QPalette::Window);
         opzione->setAutoFillBackground(true);
         connect(opzione, &QRadioButton::clicked, this, [this] { evento([this] { opt_Click(); }); });
     }

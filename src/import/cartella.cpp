@@ -3,6 +3,7 @@
 #include "core/bGlobal.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
+#include "core/Puntatore.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/MessageDialog.h"
 #include "shell/frmMain.h"
@@ -35,6 +36,7 @@ std::optional<QString> cartella::Scegli(const Scelta& scelta, ado::Recordset& rs
                                         const Passo& passo) {
     if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo);
     if (nodoCorrente) return NumeroNodo(nodoCorrente->Key);
+    PuntatorePredefinito();
     ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");
     return std::nullopt;
 }

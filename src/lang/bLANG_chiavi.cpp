@@ -10,6 +10,7 @@
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "import/campi.h"
+#include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bVAR.h"
@@ -134,6 +135,12 @@ const Finestra finestreTradotte[] = {
      []() -> QWidget& { return finestre::Scelta(); },
      true,
      {"lbl", "opt(0)", "opt(1)", "cmdOK", "cmdAnnulla"}},
+    {"frmImpDB",
+     []() -> QWidget& { return finestre::ImpDB(); },
+     true,
+     {"lbl(0)", "lbl(1)", "lbl(2)", "lbl(3)", "opt(0)", "opt(1)", "cmdSfoglia", "cmdApri", "cmdImportaDB",
+      "cmdChiudi"},
+     true},
     {"frmImpTXT",
      []() -> QWidget& { return finestre::ImpTXT(); },
      true,

@@ -10,6 +10,7 @@
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "core/Prodotto.h"
+#include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "lang/bLANG_applica.h"
 #include "lang/bVAR.h"
@@ -58,7 +59,7 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdMailingImpTXT", [](frmMain&, Accesso&) { finestre::ImpTXT().exec(); }},
     {"cmdMailingImpOE", [](frmMain&, Accesso&) {}},
     {"cmdMailingImpMSO", [](frmMain&, Accesso&) {}},
-    {"cmdMailingImpDB", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpDB", [](frmMain&, Accesso&) { finestre::ImpDB().exec(); }},
     {"cmdInvia", [](frmMain& finestra, Accesso& accesso) { finestra.cmdInvia(accesso); }},
     {"cmdPopMailingHead", conRecordset<comandiGruppo::Testa>},
     {"cmdPopMailingDel", conComando<comandiGruppo::Elimina>},

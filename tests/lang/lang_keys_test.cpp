@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include "accounts/frmAccount.h"
+#include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG_chiavi.h"
@@ -27,6 +28,7 @@ QWidget* windowOf(const QString& section) {
     if (section == "frmInvia") return &finestre::Invia();
     if (section == "frmDestinatario") return &finestre::Destinatario();
     if (section == "frmScelta") return &finestre::Scelta();
+    if (section == "frmImpDB") return &finestre::ImpDB();
     if (section == "frmImpTXT") return &finestre::ImpTXT();
     return nullptr;
 }
@@ -76,7 +78,7 @@ QMap<QString, QString> everyText() {
     for (const auto& [name, text] : variables)
         note(text, "text", *text);
     for (const char* section :
-         {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta", "frmImpTXT"}) {
+         {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta", "frmImpTXT", "frmImpDB"}) {
         const QWidget* window = windowOf(section);
         note(window, "title", window->windowTitle());
         for (const auto* dock : window->findChildren<QDockWidget*>())

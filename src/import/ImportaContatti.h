@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/Fallimento.h"
+#include "import/Inserimento.h"
+
+namespace ui {
+class ProgressCounter;
+}
+
+/// What the imports from the address book and from Outlook have in common: the question for the group, the
+/// counter in the status bar, and errors that are ignored from the first statement to the last.
+class ImportaContatti {
+  public:
+    /// Asks for the group. False when the user gave up, or wanted the current group and there is none.
+    bool Comincia();
+
+    /// Sets the counter to 0 of `massimo`.
+    void Conta(int massimo);
+    void Avanza();
+    /// Inserts a recipient into the group; one that is refused is left out without a word.
+    void Inserisci(const inserimento::Valori& valori);
+    /// The last rows to disk, the counter back to 0.
+    void Finisci();
+
+  private:
+    static ui::ProgressCounter& stcProgress();
+
+    Prosegui prosegui;
+    Inserimento inserimento;
+    QString gruppo;
+};

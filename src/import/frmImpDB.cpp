@@ -1,0 +1,101 @@
+#include "import/frmImpDB.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/Evento.h"
+#include "import/RiquadroCampi.h"
+#include "import/RiquadroCartella.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/FileDialog.h"
+#include "shell/bTheme.h"
+
+frmImpDB::frmImpDB(QWidget* parent)
+    : QDialog(parent),
+      lblDatabase(ui::named(new QLabel("Percorso Database:", this), "lbl(0)")),
+      txtDatabase(ui::named(new QLineEdit(this), "txtDatabase")),
+      cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
+      lblPassword(ui::named(new QLabel("Password Database:", this), "lbl(3)")),
+      txtPassword(ui::named(new QLineEdit(this), "txtPassword")),
+      cmdApri(ui::commandButton("Apri", "cmdApri", this)),
+      lblTabelle(ui::named(new QLabel("Tabelle esistenti:", this), "lbl(1)")),
+      cmbTab(ui::named(new QComboBox(this), "cmbTab")),
+      riquadroCampi((RilevaTema(this), new RiquadroCampi(this))),
+      riquadroCartella(new RiquadroCartella("lbl(2)", this)),
+      cmdImportaDB(ui::commandButton("&Importa destinatari", "cmdImportaDB", this)),
+      cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
+    setObjectName("frmImpDB");
+    setWindowTitle(" Importa destinatari da Database Access");
+    Disponi();
+    CollegaEventi();
+    AbilitaImportazione(false);
+    resize(700, 500);
+}
+
+void frmImpDB::Disponi() {
+    auto* comandi = new QHBoxLayout;
+    comandi->setSpacing(ui::controlSpacing);
+    comandi->addStretch();
+    comandi->addWidget(cmdImportaDB);
+    comandi->addWidget(cmdChiudi);
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::windowMargin);
+    finestra->addLayout(DisponiSorgente());
+    finestra->addWidget(riquadroCampi);
+    finestra->addWidget(ui::separatorLine(this));
+    finestra->addWidget(riquadroCartella);
+    finestra->addStretch();
+    finestra->addLayout(comandi);
+}
+
+QGridLayout* frmImpDB::DisponiSorgente() {
+    auto* sorgente = new QGridLayout;
+    sorgente->setSpacing(ui::controlSpacing);
+    int riga = 0;
+    const auto aggiungi = [&](QLabel* etichetta, QWidget* campo, QPushButton* pulsante) {
+        etichetta->setBuddy(campo);
+        campo->setAccessibleName(ui::spokenCaption(etichetta->text()));
+        campo->setMinimumHeight(ui::fieldHeight);
+        sorgente->addWidget(etichetta, riga, 0);
+        sorgente->addWidget(campo, riga, 1);
+        if (pulsante) sorgente->addWidget(pulsante, riga, 2);
+        ++riga;
+    };
+    aggiungi(lblDatabase, txtDatabase, cmdSfoglia);
+    aggiungi(lblPassword, txtPassword, cmdApri);
+    aggiungi(lblTabelle, cmbTab, nullptr);
+    sorgente->setColumnStretch(1, 1);
+    cmbTab->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return sorgente;
+}
+
+void frmImpDB::CollegaEventi() {
+    const auto alClick = [this](QPushButton* pulsante, void (frmImpDB::*gestore)()) {
+        connect(pulsante, &QPushButton::clicked, this,
+                [this, gestore] { evento([&] { (this->*gestore)(); }); });
+    };
+    alClick(cmdSfoglia, &frmImpDB::cmdSfoglia_Click);
+    alClick(cmdApri, &frmImpDB::ElencaTabelle);
+    alClick(cmdImportaDB, &frmImpDB::cmdImportaDB_Click);
+    connect(cmdChiudi, &QPushButton::clicked, this, &QWidget::hide);
+    connect(cmbTab, &QComboBox::activated, this, [this] { evento([this] { cmbTab_Click(); }); });
+}
+
+void frmImpDB::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmImpDB::AbilitaImportazione(bool valore) {
+    cmdImportaDB->setEnabled(valore);
+    (valore ? cmdImportaDB : cmdApri)->setDefault(true);
+}
+
+void frmImpDB::cmdSfoglia_Click() {
+    const auto percorso = ui::FileDialog::open("Apri Database Access", "Database Access (*.MDB)|*.MDB");
+    if (percorso) txtDatabase->setText(*percorso);
+}

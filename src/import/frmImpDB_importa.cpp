@@ -1,0 +1,160 @@
+// The source of the Access import: its tables, their columns, and the walk over the records.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScopeGuard>
+
+#include "core/bFunctions.h"
+#include "core/Fallimento.h"
+#include "core/Puntatore.h"
+#include "import/frmImpDB.h"
+#include "import/RiquadroCampi.h"
+#include "import/RiquadroCartella.h"
+#include "platform/ado/Catalog.h"
+#include "platform/ado/ConnectionText.h"
+#include "platform/ui/Busy.h"
+#include "platform/ui/MessageDialog.h"
+#include "store/RecordsetDB.h"
+
+namespace {
+
+using namespace inserimento;
+
+/// Cut shorter here than by the other imports.
+constexpr int limiteEmail = 70;
+
+/// The column of the source that feeds each column of a recipient; none where nothing does.
+using Sorgenti = std::array<QString, numeroColonne>;
+
+void mostra(const QString& testo) {
+    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
+}
+
+QString tagliato(const QString& valore, Colonna colonna) {
+    return colonna == email ? valore.left(limiteEmail) : Taglia(valore, colonna);
+}
+
+/// A table of the program that made the database.
+bool diSistema(const QString& tabella) {
+    return tabella.left(4).toUpper() == QLatin1String("MSYS");
+}
+
+Sorgenti sorgentiDi(const RiquadroCampi& riquadro) {
+    Sorgenti sorgenti;
+    for (int box = 0; box < campi::quanti; ++box) {
+        const QString testo = riquadro.cmbCmp(box).currentText();
+        if (testo != campi::nessuno) sorgenti[campi::colonne[static_cast<std::size_t>(box)]] = testo;
+    }
+    return sorgenti;
+}
+
+/// Takes the values of the current record over. One that has no text, such as Null, leaves what the record
+/// before it had there.
+void leggi(const ado::Recordset& rs, const Sorgenti& sorgenti, Valori& valori) {
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        if (sorgenti[i].isEmpty()) continue;
+        const Result<ado::Value> campo = rs.value(sorgenti[i]);
+        if (!campo.ok()) continue;
+        if (const Result<QString> testo = campo.value().toText(); testo.ok())
+            valori[i] = tagliato(testo.value(), static_cast<Colonna>(i));
+    }
+}
+
+void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& gruppo,
+                   Inserimento& inserimento, Prosegui& prosegui) {
+    ui::Busy lavoro;
+    Valori valori;
+    while (!rs.isEof()) {
+        leggi(rs, sorgenti, valori);
+        if (EmailValida(valori[email])) prosegui([&] { inserimento.Inserisci(gruppo, valori); });
+        // Where the source cannot be read on, the same record would come for ever.
+        if (!prosegui([&] { esigi(rs.moveNext()); })) break;
+        lavoro.breathe();
+    }
+    prosegui([&] { inserimento.Conferma(); });
+}
+
+}  // namespace
+
+QString frmImpDB::ConnessioneSorgente() const {
+    QString testo = ado::connectionPrefix + txtDatabase->text() + ';';
+    if (!txtPassword->text().isEmpty()) testo += ";Jet OLEDB:Database Password=" + txtPassword->text();
+    return testo;
+}
+
+void frmImpDB::ElencaTabelle() {
+    Prosegui prosegui;
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    cmbTab->clear();
+    riquadroCampi->Svuota();
+    AbilitaImportazione(false);
+    ado::Connection connessione;
+    if (!prosegui([&] { esigi(connessione.open(ConnessioneSorgente())); })) {
+        PuntatorePredefinito();
+        mostra(prosegui.testo());
+        return;
+    }
+    ado::Catalog catalogo;
+    catalogo.setActiveConnection(connessione);
+    prosegui([&] {
+        for (const ado::Catalog::TableEntry& tabella : esigi(catalogo.tables()))
+            if (tabella.kind != ado::Catalog::Kind::Query && !diSistema(tabella.name))
+                cmbTab->addItem(tabella.name);
+    });
+    cmbTab->setCurrentIndex(0);
+    if (cmbTab->count() > 0) cmbTab_Click();
+    AbilitaImportazione(true);
+}
+
+void frmImpDB::cmbTab_Click() {
+    Prosegui prosegui;
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    riquadroCampi->Svuota();
+    AbilitaImportazione(false);
+    const QString tabella = cmbTab->currentText();
+    ado::Connection connessione;
+    prosegui([&] { esigi(connessione.open(ConnessioneSorgente())); });
+    ado::Catalog catalogo;
+    catalogo.setActiveConnection(connessione);
+    riquadroCampi->Aggiungi(campi::nessuno);
+    prosegui([&] {
+        for (const ado::Catalog::ColumnEntry& colonna : esigi(catalogo.columns(tabella)))
+            riquadroCampi->Aggiungi(colonna.name);
+    });
+    riquadroCampi->ScegliPrima();
+}
+
+void frmImpDB::cmdImportaDB_Click() {
+    const QString campoEmail = riquadroCampi->cmbCmp(campi::boxEmail).currentText();
+    if (campoEmail.isEmpty() || campoEmail == campi::nessuno) {
+        mostra("Impossibile continuare.\r\nSelezionare almento un campo per l'email.");
+        return;
+    }
+    Prosegui prosegui;
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    const QString tabella = cmbTab->currentText();
+    ado::Recordset rs;
+    prosegui([&] { rs = RecordsetDB(); });
+    Inserimento inserimento;
+    prosegui([&] { inserimento.Prepara(); });
+    ado::Connection sorgente;
+    prosegui([&] { esigi(sorgente.open(ConnessioneSorgente())); });
+    if (prosegui.numero() != 0) {
+        PuntatorePredefinito();
+        mostra(prosegui.testo());
+        return;
+    }
+    const auto gruppo =
+        cartella::Scegli(riquadroCartella->Scelta(), rs,
+                         "Impossibile continuare.\r\n" + cartella::avvisoCartella, std::ref(prosegui));
+    if (!gruppo) return;
+    prosegui([&] { esigi(rs.setActiveConnection(sorgente)); });
+    rs.setSource("SELECT * FROM [" + tabella + "] ;");
+    prosegui([&] { esigi(rs.open()); });
+    if (!rs.isBof() && !rs.isEof())
+        importaRecord(rs, sorgentiDi(*riquadroCampi), *gruppo, inserimento, prosegui);
+    rs.close();
+    hide();
+}
