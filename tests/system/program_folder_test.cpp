@@ -77,6 +77,45 @@ TEST_F(ProgramFolder, InterruptedFirstStartIsMadeGood) {
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/data.nuova")));
 }
 
+TEST_F(ProgramFolder, UpgradeRenewsTheTextsOfAnEarlierInstallation) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    const QString templates = path(QStringLiteral("templates"));
+    ASSERT_TRUE(sys::fillProgramFolder(folder, templates).ok());
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    writeBytes(templates + QStringLiteral("/LANG.lng"), "newer");
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    EXPECT_EQ(bytesOf(folder + QStringLiteral("/LANG.lng")), QByteArray("newer"));
+    writeBytes(templates + QStringLiteral("/LANG.lng"), "newest");
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    EXPECT_EQ(bytesOf(folder + QStringLiteral("/LANG.lng")), QByteArray("newest"));
+}
+
+TEST_F(ProgramFolder, UpgradeLeavesTextsThatTheUserChangedOrTookAway) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    const QString templates = path(QStringLiteral("templates"));
+    ASSERT_TRUE(sys::fillProgramFolder(folder, templates).ok());
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    writeBytes(templates + QStringLiteral("/LANG.lng"), "newer");
+    writeBytes(folder + QStringLiteral("/LANG.lng"), "mine");
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    EXPECT_EQ(bytesOf(folder + QStringLiteral("/LANG.lng")), QByteArray("mine"));
+    ASSERT_TRUE(QFile::remove(folder + QStringLiteral("/LANG.lng")));
+    ASSERT_TRUE(sys::renewTexts(folder, templates).ok());
+    EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/LANG.lng")));
+}
+
+TEST_F(ProgramFolder, RenewalTellsWhereItCannotWrite) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    writeBytes(folder + QStringLiteral("/LANG.lng"), "lang");
+    const Status status = sys::renewTexts(folder, path(QStringLiteral("templates")));
+    EXPECT_EQ(status.code(), ErrorCode::PathAccess) << "there is no folder for the note";
+    EXPECT_TRUE(sys::renewTexts(folder, path(QStringLiteral("nowhere"))).ok());
+}
+
 TEST_F(ProgramFolder, FillingTellsWhereItCannotWrite) {
     makeTemplates();
     writeBytes(path(QStringLiteral("file")), "");

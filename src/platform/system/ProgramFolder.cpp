@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace sys {
@@ -36,6 +38,20 @@ bool copyFiles(const QString& from, const QString& to) {
     if (!QFileInfo(to).isDir() && !makeOwnFolder(to)) return false;
     const auto files = QDir(from).entryInfoList(QDir::Files);
     return std::all_of(files.begin(), files.end(), [&](const QFileInfo& file) { return copyFile(file, to); });
+}
+
+/// Empty for a file that cannot be read.
+QByteArray digestOf(const QString& path) {
+    QFile file(path);
+    QCryptographicHash digest(QCryptographicHash::Sha256);
+    return file.open(QFile::ReadOnly) && digest.addData(&file) ? digest.result().toHex() : QByteArray();
+}
+
+/// Puts bytes in the place of a file, all or none.
+Status replaceFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    if (file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return {};
+    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + path};
 }
 
 }  // namespace
@@ -71,6 +87,22 @@ Status fillProgramFolder(const QString& folder, const QString& templates) {
                : Status(ErrorCode::PathAccess, QStringLiteral("Impossibile preparare la cartella ") + folder);
 }
 
+Status renewTexts(const QString& folder, const QString& templates) {
+    const QString texts = QStringLiteral("/LANG.lng");
+    const QString notePath = folder + QStringLiteral("/data/LANG.imp");
+    const QByteArray installed = digestOf(templates + texts);
+    QFile note(notePath);
+    const QByteArray noted = note.open(QFile::ReadOnly) ? note.readAll().trimmed() : QByteArray();
+    const QByteArray own = digestOf(folder + texts);
+    if (installed.isEmpty() || noted == installed || (own != installed && own != noted)) return {};
+    if (own != installed) {
+        QFile newer(templates + texts);
+        if (!newer.open(QFile::ReadOnly)) return {};
+        if (Status status = replaceFile(folder + texts, newer.readAll()); !status.ok()) return status;
+    }
+    return replaceFile(notePath, installed + "\r\n");
+}
+
 QString programFolder() {
     QString& folder = chosenFolder();
     if (!folder.isEmpty()) return folder;
@@ -82,7 +114,9 @@ QString programFolder() {
     const QString application = QCoreApplication::applicationDirPath();
     const QString chosen = chooseProgramFolder(
         application, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    static_cast<void>(fillProgramFolder(chosen, installedTemplates(application)));
+    const QString templates = installedTemplates(application);
+    static_cast<void>(fillProgramFolder(chosen, templates));
+    static_cast<void>(renewTexts(chosen, templates));
     folder = withSlash(chosen);
     return folder;
 }

@@ -13,8 +13,8 @@ namespace sys {
 ///   2. the folder of the program itself, where it can be written and is not an installed copy (a portable
 ///      copy, the build tree);
 ///   3. the user's own folder "vestrola" under the XDG data home.
-/// In cases 2 and 3 a folder without "data" is filled from the templates; a failure of that leaves it as it
-/// is.
+/// In cases 2 and 3 a folder without "data" is filled from the templates, and older language texts are
+/// renewed from them; a failure of that leaves it as it is.
 QString programFolder();
 
 /// Replaces the folder; an empty text has it decided anew at the next call.
@@ -37,5 +37,10 @@ QString chooseProgramFolder(const QString& applicationFolder, const QString& use
 /// and at once, so that an interrupted first start is made good by the next one. Files that are already there
 /// are kept.
 Status fillProgramFolder(const QString& folder, const QString& templates);
+
+/// Takes over the language texts "LANG.lng" of `templates` where those of the folder are still the ones of an
+/// earlier installation. Texts that the user changed or took away stay as they are. "data/LANG.imp" remembers
+/// which ones came from an installation, by their SHA-256 in hex.
+Status renewTexts(const QString& folder, const QString& templates);
 
 }  // namespace sys
