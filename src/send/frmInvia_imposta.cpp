@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -40,6 +41,10 @@ void frmInvia::CaricaDati() {
     CaricaTimeout();
     cmdInvia->setDefault(true);
     txtFile->setFocus();
+    NominaSenzaEtichetta();
+    // Lists that were never shown do not tell their layout what has been put into them.
+    layout()->invalidate();
+    layout()->activate();
     resize(size().expandedTo(sizeHint()));
 }
 
@@ -137,4 +142,5 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     SMTP->TemplateHtml = corpoHtml;
     disiscrizione = mail::markedUnsubscribe(corpoHtml);
     SMTP->CertificateFolder = cartellaDati() + "certificati";
+    SMTP->DkimFolder = cartellaDati() + "dkim";
 }

@@ -4,6 +4,7 @@
 
 #include "platform/mail/Attachments.h"
 #include "platform/mail/BodyParts.h"
+#include "platform/mail/DkimSigner.h"
 #include "platform/mail/HeaderText.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/Identity.h"
@@ -67,6 +68,7 @@ struct Composer::State {
     Attachments attachments;
     LocalImages images;
     UniqueWords words;
+    DkimSigner signer;
 };
 
 Composer::Composer() : m_state(std::make_unique<State>()) {}
@@ -104,6 +106,11 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     appendPriority(out, message.priority);
     out += "MIME-Version: 1.0\r\n";
     appendBody(out, body, word);
+    const auto signature = m_state->signer.sign(message.dkimFolder, composed.from.domain, out);
+    if (signature.ok())
+        out.prepend(signature.value());
+    else
+        composed.signing = signature.status();
     return composed;
 }
 

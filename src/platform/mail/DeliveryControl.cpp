@@ -59,6 +59,7 @@ void DeliveryControl::Send() {
         const Result<ComposedMessage> message = m_composer.compose(data());
         if (message.ok()) {
             m_messageId = message.value().messageId;
+            if (!message.value().signing.ok()) m_transcript.remark(message.value().signing.text());
             m_session.deliver(route(host), message.value(),
                               (TimeoutSecs > 0 ? TimeoutSecs : defaultTimeoutSecs) * 1000);
         } else {
@@ -90,6 +91,7 @@ MessageData DeliveryControl::data() const {
     data.unsubscribeLink = UnsubscribeLink;
     data.priority = Priority;
     data.attachments = Attachments.items();
+    data.dkimFolder = DkimFolder;
     return data;
 }
 

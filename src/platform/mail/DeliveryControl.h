@@ -59,6 +59,7 @@ class DeliveryControl : public QObject {
     AttachmentList Attachments;
     bool OpportunisticTls = false;  ///< see Route; set on the direct route to the recipient's own server
     QString CertificateFolder;      ///< see Route
+    QString DkimFolder;             ///< see DkimSigner
 
     /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
     /// SendDone and SendError follows, from the event loop, never from within this call. A message that is

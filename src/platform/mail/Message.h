@@ -28,6 +28,7 @@ struct MessageData {
     QString unsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
     int priority = 3;         ///< 1 high, 5 low, anything else normal
     QVector<Attachment> attachments;
+    QString dkimFolder;  ///< see DkimSigner; empty: nothing is signed
 };
 
 /// A message ready for the wire.
@@ -36,6 +37,7 @@ struct ComposedMessage {
     Mailbox to;
     QByteArray data;  ///< the whole message, lines ended by CR LF, the last one too; dots are not yet stuffed
     QByteArray messageId;        ///< with its angle brackets, as in the header
+    Status signing;              ///< a failure: why a message that was to be signed is not
     bool needsSmtputf8 = false;  ///< a local part is not ASCII; otherwise all of `data` is 7-bit
 };
 

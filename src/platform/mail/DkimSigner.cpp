@@ -1,0 +1,127 @@
+#include "platform/mail/DkimSigner.h"
+
+#include <dkim.h>
+
+#include <QFile>
+#include <QSslKey>
+
+#include "platform/mail/DomainName.h"
+#include "platform/mail/FileStamp.h"
+
+namespace mail {
+namespace {
+
+constexpr qint64 largestFile = 64 * 1024;
+constexpr int fewestBits = 2048;
+const QByteArray headerName = "DKIM-Signature: ";
+
+struct CloseLibrary {
+    void operator()(DKIM_LIB* library) const { dkim_close(library); }
+};
+struct FreeSignature {
+    void operator()(DKIM* signature) const { dkim_free(signature); }
+};
+
+// The library's interface knows no constants
+unsigned char* bytes(const QByteArray& text) {
+    return reinterpret_cast<unsigned char*>(const_cast<char*>(text.constData()));
+}
+
+std::unique_ptr<DKIM_LIB, CloseLibrary> openLibrary() {
+    std::unique_ptr<DKIM_LIB, CloseLibrary> library(dkim_init(nullptr, nullptr));
+    const char* names[] = {"From",         "To",           "Subject",          "Date", "Message-ID",
+                           "MIME-Version", "Content-Type", "List-Unsubscribe", nullptr};
+    if (library)
+        dkim_options(library.get(), DKIM_OP_SETOPT, DKIM_OPTS_SIGNHDRS, static_cast<void*>(names),
+                     sizeof names);
+    return library;
+}
+
+Status unusable(const QString& why) {
+    return {ErrorCode::NotSupported, QStringLiteral("Messaggio non firmato (DKIM): %1.").arg(why)};
+}
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(largestFile) : QByteArray();
+}
+
+// Hands over one header field after the other, each with its folded lines
+DKIM_STAT readHeaders(DKIM* signature, const QByteArray& block) {
+    DKIM_STAT state = DKIM_STAT_OK;
+    for (qsizetype from = 0; from < block.size() && state == DKIM_STAT_OK;) {
+        qsizetype end = block.indexOf("\r\n", from);
+        while (end + 2 < block.size() && block[end + 2] == ' ')
+            end = block.indexOf("\r\n", end + 2);
+        state = dkim_header(signature, bytes(block) + from, static_cast<size_t>(end - from));
+        from = end + 2;
+    }
+    return state == DKIM_STAT_OK ? dkim_eoh(signature) : state;
+}
+
+}  // namespace
+
+struct DkimSigner::State {
+    std::unique_ptr<DKIM_LIB, CloseLibrary> library;
+    QString place;  ///< path of the key and the selector, without their suffixes
+    FileStamp keyStamp, selectorStamp;
+    QByteArray key, selector;
+    Status usable;
+
+    void follow(const QString& newPlace) {
+        const FileStamp newKeyStamp = FileStamp::of(newPlace + ".pem"),
+                        newSelectorStamp = FileStamp::of(newPlace + ".selector");
+        if (newPlace == place && newKeyStamp == keyStamp && newSelectorStamp == selectorStamp) return;
+        place = newPlace;
+        keyStamp = newKeyStamp;
+        selectorStamp = newSelectorStamp;
+        key = contents(place + ".pem");
+        selector = contents(place + ".selector").trimmed();
+        usable = check();
+    }
+
+    bool exists() const { return keyStamp.exists() || selectorStamp.exists(); }
+
+    Status check() const {
+        if (!isDomainName(selector)) return unusable(QStringLiteral("il selettore manca o non è valido"));
+        const QSslKey read(key, QSsl::Rsa);
+        if (read.isNull()) return unusable(QStringLiteral("la chiave manca o non è una chiave RSA"));
+        if (read.length() < fewestBits)
+            return unusable(QStringLiteral("la chiave ha meno di %1 bit").arg(fewestBits));
+        return {};
+    }
+};
+
+DkimSigner::DkimSigner() : m_state(std::make_unique<State>()) {}
+DkimSigner::~DkimSigner() = default;
+
+Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& domain,
+                                    const QByteArray& message) {
+    // A domain literal has no key, and no other domain can lead out of the folder
+    if (folder.isEmpty() || !isDomainName(domain)) return QByteArray();
+    const QByteArray name = domain.toLower();
+    m_state->follow(folder + '/' + QString::fromLatin1(name));
+    if (!m_state->exists()) return QByteArray();
+    if (!m_state->usable.ok()) return m_state->usable;
+    if (!m_state->library) m_state->library = openLibrary();
+    if (!m_state->library) return unusable(QStringLiteral("manca la memoria"));
+
+    DKIM_STAT state = DKIM_STAT_OK;
+    const std::unique_ptr<DKIM, FreeSignature> signature(dkim_sign(
+        m_state->library.get(), bytes("vestrola"), nullptr, bytes(m_state->key), bytes(m_state->selector),
+        bytes(name), DKIM_CANON_RELAXED, DKIM_CANON_RELAXED, DKIM_SIGN_RSASHA256, -1, &state));
+    const qsizetype body = message.indexOf("\r\n\r\n") + 4;
+    if (state == DKIM_STAT_OK) state = readHeaders(signature.get(), message.left(body - 2));
+    if (state == DKIM_STAT_OK)
+        state = dkim_body(signature.get(), bytes(message) + body, static_cast<size_t>(message.size() - body));
+    if (state == DKIM_STAT_OK) state = dkim_eom(signature.get(), nullptr);
+    unsigned char* value = nullptr;
+    size_t size = 0;
+    if (state == DKIM_STAT_OK)
+        state = dkim_getsighdr_d(signature.get(), static_cast<size_t>(headerName.size()), &value, &size);
+    if (state != DKIM_STAT_OK) return unusable(QString::fromLatin1(dkim_getresultstr(state)));
+    return headerName + QByteArray(reinterpret_cast<const char*>(value), static_cast<qsizetype>(size)) +
+           "\r\n";
+}
+
+}  // namespace mail

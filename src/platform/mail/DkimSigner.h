@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <QByteArray>
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace mail {
+
+/// Signs messages for the sender's domain (RFC 6376): relaxed/relaxed, RSA with SHA-256, over From, To,
+/// Subject, Date, Message-ID, MIME-Version, Content-Type, List-Unsubscribe and the whole body.
+///
+/// The key is a PEM file `<domain>.pem` of RSA with at least 2048 bits, the selector the one word in
+/// `<domain>.selector` beside it; the domain in lower case and as A-labels. They are read again when their
+/// size or time of change differ.
+class DkimSigner {
+  public:
+    DkimSigner();
+    ~DkimSigner();
+    DkimSigner(const DkimSigner&) = delete;
+    DkimSigner& operator=(const DkimSigner&) = delete;
+
+    /// The header line DKIM-Signature, folded and with its line end, to stand in front of the message.
+    /// Empty where the folder (empty: none) has neither file of the domain. Fails (NotSupported) when there
+    /// is something that cannot be used; the text says what, and holds nothing of the key.
+    Result<QByteArray> sign(const QString& folder, const QByteArray& domain, const QByteArray& message);
+
+  private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+}  // namespace mail

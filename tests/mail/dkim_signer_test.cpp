@@ -1,0 +1,193 @@
+#include "platform/mail/DkimSigner.h"
+
+#include <QTemporaryDir>
+
+#include "mail/dkim_support.h"
+#include "mail/hostile_values.h"
+#include "mail/wire_reader.h"
+
+using namespace compose;
+
+namespace {
+
+class Dkim : public ::testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        s_folder = new QTemporaryDir;
+        s_record = makeDkimKey(s_folder->path(), "orto.example", "maggio.sel-1");
+        makeDkimKey(s_folder->path(), "small.example", "s", {"RSA", "-pkeyopt", "rsa_keygen_bits:1024"});
+        makeDkimKey(s_folder->path(), "curve.example", "s",
+                    {"EC", "-pkeyopt", "ec_paramgen_curve:prime256v1"});
+    }
+    static void TearDownTestSuite() {
+        delete s_folder;
+        s_folder = nullptr;
+    }
+
+    static mail::MessageData signedMessage() {
+        auto message = plainMessage();
+        message.dkimFolder = s_folder->path();
+        return message;
+    }
+
+    mail::ComposedMessage compose(const mail::MessageData& message) {
+        auto composed = m_composer.compose(message);
+        EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
+        EXPECT_EQ(complaintAbout(composed.value().data).toStdString(), "");
+        return composed.value();
+    }
+
+    void expectUnsigned(const mail::MessageData& message, const char* why) {
+        const auto composed = compose(message);
+        EXPECT_FALSE(composed.data.contains("DKIM"));
+        EXPECT_FALSE(composed.signing.ok());
+        EXPECT_TRUE(composed.signing.text().contains(QString::fromUtf8(why)))
+            << composed.signing.text().toStdString();
+    }
+
+    // What an independent verifier says of each message
+    QByteArrayList verdicts(const QByteArrayList& messages) {
+        QByteArray all;
+        for (const QByteArray& message : messages)
+            all += QByteArray::number(message.size()) + '\n' + message;
+        const QString path = makeFile(s_folder->filePath("messages"), all);
+        return run("/usr/bin/python3",
+                   {TEST_DATA_DIR "/../mail/check_dkim.py", path, "maggio.sel-1._domainkey.orto.example",
+                    QString::fromLatin1(s_record)})
+            .trimmed()
+            .split('\n');
+    }
+
+    static QTemporaryDir* s_folder;
+    static QByteArray s_record;
+    mail::Composer m_composer;
+};
+
+QTemporaryDir* Dkim::s_folder = nullptr;
+QByteArray Dkim::s_record;
+
+TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
+    auto message = plainMessage();
+    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    message.dkimFolder = s_folder->filePath("assente");
+    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    message.dkimFolder = s_folder->path();
+    for (const char* address : {"a@altro.example", "a@sub.orto.example", "a@example", "a@[192.0.2.1]"}) {
+        message.fromAddress = address;
+        const auto composed = compose(message);
+        EXPECT_FALSE(composed.data.contains("DKIM")) << address;
+        EXPECT_TRUE(composed.signing.ok()) << address;
+    }
+}
+
+TEST_F(Dkim, SignatureStandsInFrontAndNamesWhatItCovers) {
+    const auto composed = compose(signedMessage());
+    EXPECT_TRUE(composed.signing.ok());
+    EXPECT_TRUE(composed.data.startsWith("DKIM-Signature: "));
+    const QByteArray value =
+        QByteArray(wire::read(composed.data).header("dkim-signature")).replace("\t", "").replace(" ", "");
+    const QByteArrayList tags = value.split(';');
+    for (const char* tag : {"v=1", "a=rsa-sha256", "c=relaxed/relaxed", "d=orto.example", "s=maggio.sel-1"})
+        EXPECT_TRUE(tags.contains(tag)) << tag << '\n' << value.toStdString();
+    for (const QByteArray& tag : tags) {
+        if (!tag.startsWith("h=")) continue;
+        QByteArrayList names = tag.mid(2).toLower().split(':');
+        std::sort(names.begin(), names.end());
+        EXPECT_EQ(names, (QByteArrayList{"content-type", "date", "from", "list-unsubscribe", "message-id",
+                                         "mime-version", "subject", "to"}));
+    }
+    EXPECT_FALSE(value.contains(";l=")) << "the whole body is signed";
+}
+
+TEST_F(Dkim, RestOfTheMessageIsAsWithoutIt) {
+    const QByteArray data = compose(signedMessage()).data;
+    const QByteArray rest = data.mid(data.indexOf("\r\nFrom: ") + 2);
+    auto message = plainMessage();
+    const QByteArray plain = compose(message).data;
+    EXPECT_EQ(rest.size(), plain.size());
+    EXPECT_EQ(rest.left(rest.indexOf("Date:")), plain.left(plain.indexOf("Date:")));
+}
+
+TEST_F(Dkim, IndependentVerifierAcceptsEachKindOfMessage) {
+    const QString file = makeFile(s_folder->filePath("a.pdf"), QByteArray(300000, '\x01'));
+    HostileValues values(7);
+    QByteArrayList messages;
+    for (int i = 0; i < 60; ++i) {
+        auto message = signedMessage();
+        message.fromAddress = i % 2 ? "info@orto.example" : "Info@ORTO.example";
+        if (i > 0) {
+            message.fromName = values.text(10);
+            message.toName = values.text(10);
+            message.subject = values.text(i % 5 == 0 ? 200 : 10);
+            message.bodyText = values.text(40);
+            message.bodyHtml = values.text(40);
+        }
+        if (i % 4 == 0) message.attachments = {{file, "a.pdf"}};
+        if (i == 1) message.bodyText = message.bodyHtml = QString();
+        messages += compose(message).data;
+    }
+    const QByteArrayList all = verdicts(messages);
+    EXPECT_EQ(all.size(), messages.size());
+    for (const QByteArray& verdict : all)
+        EXPECT_EQ(verdict.toStdString(), "good");
+}
+
+TEST_F(Dkim, ChangedMessageIsNotAccepted) {
+    const QByteArray good = compose(signedMessage()).data;
+    const QByteArrayList changed{QByteArray(good).replace("Buongiorno", "Buonasera"),
+                                 QByteArray(good).replace("maggio\r\n", "giugno\r\n"),
+                                 QByteArray(good).replace("MIME-Version: 1.0", "MIME-Version: 1.1"),
+                                 QByteArray(good).replace("?subject=unsubscribe", "?subject=subscribe"),
+                                 good};
+    const QByteArrayList all = verdicts(changed);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(all[i].toStdString(), "bad signature") << i;
+    EXPECT_EQ(all[4].toStdString(), "good");
+}
+
+TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
+    auto message = signedMessage();
+    message.fromAddress = "a@small.example";
+    expectUnsigned(message, "meno di 2048 bit");
+    message.fromAddress = "a@curve.example";
+    expectUnsigned(message, "non è una chiave RSA");
+    message.fromAddress = "a@broken.example";
+    makeFile(s_folder->filePath("broken.example.selector"), "s");
+    expectUnsigned(message, "la chiave manca");
+    for (const QByteArray& key :
+         {QByteArray(), QByteArray("no key"), QByteArray(1000000, 'x'), QByteArray(100, '\0')}) {
+        makeFile(s_folder->filePath("broken.example.pem"), key);
+        expectUnsigned(message, "non è una chiave RSA");
+    }
+}
+
+TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {
+    auto message = signedMessage();
+    message.fromAddress = "a@selector.example";
+    QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("selector.example.pem"));
+    expectUnsigned(message, "il selettore manca");
+    for (const QByteArray& selector :
+         {QByteArray(" \r\n"), QByteArray("a b"), QByteArray("a\r\nBcc: b@c.it"),
+          QByteArray("a; d=altro.example"), QByteArray("perch\xC3\xA9"), QByteArray(70, 's')}) {
+        makeFile(s_folder->filePath("selector.example.selector"), selector);
+        expectUnsigned(message, "non è valido");
+    }
+    makeFile(s_folder->filePath("selector.example.selector"), " buono \n");
+    EXPECT_TRUE(compose(message).data.contains("buono"));
+}
+
+TEST_F(Dkim, FilesAreReadAgainWhenTheyChange) {
+    auto message = signedMessage();
+    message.fromAddress = "a@change.example";
+    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("change.example.pem"));
+    makeFile(s_folder->filePath("change.example.selector"), "primo");
+    EXPECT_TRUE(compose(message).data.contains("primo"));
+    makeFile(s_folder->filePath("change.example.selector"), "secondo");
+    EXPECT_TRUE(compose(message).data.contains("secondo"));
+    QFile::remove(s_folder->filePath("change.example.pem"));
+    QFile::remove(s_folder->filePath("change.example.selector"));
+    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+}
+
+}  // namespace
