@@ -6,6 +6,8 @@
 #include <set>
 
 #include "support/JetCheckerFile.h"
+#include "support/JetCheckerKeys.h"
+#include "support/JetCheckerLongs.h"
 
 using namespace jetcheck;
 
@@ -106,13 +108,14 @@ class Checker {
             find(words(t.name, ": ", rows.size(), " rows, the definition says ", t.rows));
         for (size_t i = 0; i < t.indexes.size(); ++i)
             checkIndex(t, i, rows);
-        for (const auto& [ownedMap, roomMap] : t.longMaps)
-            for (unsigned pointer : {ownedMap, roomMap}) {
+        for (const LongMap& map : t.longMaps)
+            for (unsigned pointer : {map.owned, map.room}) {
                 if (pointer == 0) continue;
                 m_mapPages.insert(pointer >> 8);
                 for (unsigned n : m_file.mapAt(pointer))
-                    claim(n, words("long values of ", t.name, " ", ownedMap));
+                    claim(n, words("long values of ", t.name, " ", map.number));
             }
+        checkLongValues(m_file, t, rows);
     }
 
     bool checkDataPage(const TableFacts& t, unsigned n, const Bytes& p) {
@@ -207,8 +210,8 @@ class Checker {
         std::set<Place> listed;
         for (size_t k = 0; k < entries.size(); ++k) {
             if (k > 0 && entries[k - 1].whole >= entries[k].whole) find(who + ": entries do not rise");
-            const bool hasNull =
-                entries[k].key.empty() || entries[k].key[0] == 0x00 || entries[k].key[0] == 0xFF;
+            const auto row = rows.find(entries[k].row);
+            const bool hasNull = row == rows.end() || anyNull(t, index, row->second);
             if ((index.flags & 1) && !hasNull && k > 0 && entries[k - 1].key == entries[k].key)
                 find(who + ": a key stands twice");
             if ((index.flags & 8) && hasNull) find(who + ": a required key is Null");
@@ -223,7 +226,7 @@ class Checker {
                 find(words(who, ": row ", place.first, "/", place.second,
                            hidden ? " is listed" : " is missing"));
         }
-        checkLongKeys(t, index, who, rows, entries);
+        checkKeys(t, index, who, rows, entries);
     }
 
     static const ColumnFacts* columnOf(const TableFacts& t, unsigned number) {
@@ -232,39 +235,41 @@ class Checker {
         return nullptr;
     }
 
-    static bool isNull(const ColumnFacts& c, const Bytes& row) {
-        const unsigned columns = le(row, 0, 2);
-        return c.number >= columns ||
-               !(row[row.size() - (columns + 7) / 8 + c.number / 8] >> c.number % 8 & 1);
+    static bool anyNull(const TableFacts& t, const IndexFacts& index, const Bytes& row) {
+        return std::any_of(index.columns.begin(), index.columns.end(), [&](const auto& part) {
+            const ColumnFacts* c = columnOf(t, part.first);
+            return c && c->type != 1 && !storedValue(t, *c, row);
+        });
     }
 
     static bool allNull(const TableFacts& t, const IndexFacts& index, const Bytes& row) {
         return std::all_of(index.columns.begin(), index.columns.end(), [&](const auto& part) {
             const ColumnFacts* c = columnOf(t, part.first);
-            return !c || isNull(*c, row);
+            return !c || (c->type != 1 && !storedValue(t, *c, row));
         });
     }
 
-    void checkLongKeys(const TableFacts& t, const IndexFacts& index, const std::string& who,
-                       const std::map<Place, Bytes>& rows, const std::vector<Entry>& entries) {
-        if (index.columns.size() != 1) return;
-        const ColumnFacts* c = columnOf(t, index.columns[0].first);
-        if (!c || c->type != 4 || !(c->flags & 1)) return;
-        const bool ascending = index.columns[0].second;
+    // Keys are the values of the index's columns, one after the other.
+    void checkKeys(const TableFacts& t, const IndexFacts& index, const std::string& who,
+                   const std::map<Place, Bytes>& rows, const std::vector<Entry>& entries) {
         for (const Entry& e : entries) {
             const auto row = rows.find(e.row);
             if (row == rows.end()) continue;
-            Bytes key{0};
-            if (!isNull(*c, row->second)) {
-                const unsigned value = le(row->second, 2 + c->offset, 4) + 0x80000000u;
-                key = {0x7F};
-                for (int shift = 24; shift >= 0; shift -= 8)
-                    key.push_back(static_cast<unsigned char>(value >> shift));
+            std::vector<Bytes> keys{Bytes()};
+            for (const auto& [number, ascending] : index.columns) {
+                const ColumnFacts* c = columnOf(t, number);
+                if (!c) return find(who + ": its column is not there");
+                const auto forms = keyForms(c->type, ascending, storedValue(t, *c, row->second));
+                std::vector<Bytes> longer;
+                for (const Bytes& key : keys)
+                    for (const Bytes& form : forms) {
+                        longer.push_back(key);
+                        longer.back().insert(longer.back().end(), form.begin(), form.end());
+                    }
+                keys = longer;
             }
-            if (!ascending)
-                for (unsigned char& byte : key)
-                    byte = static_cast<unsigned char>(~byte);
-            if (key != e.key) find(words(who, ": row ", e.row.first, "/", e.row.second, " has another key"));
+            if (!keys.empty() && std::find(keys.begin(), keys.end(), e.key) == keys.end())
+                find(words(who, ": row ", e.row.first, "/", e.row.second, " has another key"));
         }
     }
 

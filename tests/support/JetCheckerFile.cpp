@@ -133,8 +133,13 @@ TableFacts JetFile::definition(unsigned first, const std::string& name) {
     const unsigned reals = le(b, 51, 4);
     size_t at = 63 + 12 * size_t{reals};
     for (unsigned i = 0; i < le(b, 45, 2); ++i, at += 25)
-        t.columns.push_back(
-            {b.at(at), le(b, at + 5, 2), le(b, at + 7, 2), b.at(at + 15), le(b, at + 21, 2), {}});
+        t.columns.push_back({b.at(at),
+                             le(b, at + 5, 2),
+                             le(b, at + 7, 2),
+                             b.at(at + 15),
+                             le(b, at + 21, 2),
+                             le(b, at + 23, 2),
+                             {}});
     for (ColumnFacts& column : t.columns) {
         const unsigned length = le(b, at, 2);
         column.name = ascii(cut(b, at + 2, at + 2 + length));
@@ -150,7 +155,7 @@ TableFacts JetFile::definition(unsigned first, const std::string& name) {
     for (unsigned i = 0; i < logicals; ++i)
         at += 2 + le(b, at, 2);
     for (; le(b, at, 2) != 0xFFFF; at += 10)
-        t.longMaps.emplace_back(le(b, at + 2, 4), le(b, at + 6, 4));
+        t.longMaps.push_back({le(b, at, 2), le(b, at + 2, 4), le(b, at + 6, 4)});
     if (le(b, 8, 4) != at + 2)
         findings.push_back(words(name, ": definition of ", at + 2, " bytes says ", le(b, 8, 4)));
     return t;
@@ -181,6 +186,22 @@ std::vector<std::pair<std::string, unsigned>> JetFile::localTables() {
         }
     }
     return tables;
+}
+
+Stored storedValue(const TableFacts& table, const ColumnFacts& column, const Bytes& row) {
+    const unsigned columns = le(row, 0, 2);
+    const size_t mask = row.size() - (columns + 7) / 8;
+    if (column.number >= columns || !(row.at(mask + column.number / 8) >> column.number % 8 & 1))
+        return std::nullopt;
+    constexpr unsigned yesNo = 1;
+    if (column.type == yesNo) return Bytes();
+    if (column.flags & 1) {
+        const size_t start = 2 + size_t{column.offset};
+        return cut(row, start, start + column.length);
+    }
+    if (table.variables == 0 || column.variable >= le(row, mask - 2, 2)) return std::nullopt;
+    const size_t entry = mask - 4 - 2 * size_t{column.variable};
+    return cut(row, le(row, entry, 2), le(row, entry - 2, 2));
 }
 
 IndexNode JetFile::indexNode(const TableFacts& t, unsigned n) {

@@ -4,6 +4,7 @@
 // without making further reading senseless goes to `findings`; the rest throws Broken.
 
 #include <map>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -39,7 +40,7 @@ unsigned be(const Bytes& b, size_t at, int length);
 Bytes cut(const Bytes& b, size_t from, size_t to);
 
 struct ColumnFacts {
-    unsigned type, number, variable, flags, offset;
+    unsigned type, number, variable, flags, offset, length;
     std::string name;
 };
 
@@ -48,14 +49,23 @@ struct IndexFacts {
     unsigned map, root, flags;
 };
 
+/// Pages with the memo or OLE values of a column.
+struct LongMap {
+    unsigned number, owned, room;
+};
+
 struct TableFacts {
     std::string name;
     unsigned page = 0, rows = 0, maxColumns = 0, variables = 0, owned = 0, room = 0;
     std::vector<unsigned> pages;
     std::vector<ColumnFacts> columns;
     std::vector<IndexFacts> indexes;
-    std::vector<std::pair<unsigned, unsigned>> longMaps;
+    std::vector<LongMap> longMaps;
 };
+
+/// A value as it stands in a row; no value is Null. Yes/no: True is empty.
+using Stored = std::optional<Bytes>;
+Stored storedValue(const TableFacts& table, const ColumnFacts& column, const Bytes& row);
 
 struct Entry {
     Bytes key;

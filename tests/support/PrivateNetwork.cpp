@@ -4,10 +4,12 @@
 #include <net/if.h>
 #include <sched.h>
 #include <sys/ioctl.h>
+#include <sys/mount.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <cstring>
+#include <QTemporaryFile>
 #include <string>
 
 namespace testing_support {
@@ -35,10 +37,21 @@ bool raiseLoopback() {
 }  // namespace
 
 bool enterPrivateNetwork() {
+    if (::unshare(CLONE_NEWNET | CLONE_NEWNS) == 0)
+        return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 && raiseLoopback();
     const std::string user = std::to_string(::getuid()), group = std::to_string(::getgid());
-    if (::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0) return false;
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNET | CLONE_NEWNS) != 0) return false;
     return write("/proc/self/setgroups", "deny") && write("/proc/self/uid_map", "0 " + user + " 1") &&
            write("/proc/self/gid_map", "0 " + group + " 1") && raiseLoopback();
+}
+
+bool replaceResolverConfiguration(const QByteArray& text) {
+    QTemporaryFile file;
+    if (!file.open() || file.write(text) != text.size() || !file.flush()) return false;
+    file.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    const bool mounted =
+        ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr, MS_BIND, nullptr) == 0;
+    return mounted;  // the content lives on without its name
 }
 
 }  // namespace testing_support

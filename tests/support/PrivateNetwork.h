@@ -1,10 +1,17 @@
 #pragma once
 
+#include <QByteArray>
+
 namespace testing_support {
 
-/// Moves the process into a network of its own that has only a loopback, in which any port may be bound. Must
-/// be called before the process has a second thread: from the initialisation of a static variable. False
-/// where the system does not allow it.
+/// Moves the process into a network and a set of mounts of its own. The network has only a loopback, in which
+/// any port may be bound. Must be called before the process has a second thread: from the initialisation of a
+/// static variable. False where the system does not allow it.
+///
+/// The superuser stays who he is; anybody else becomes the superuser of a world without other users.
 bool enterPrivateNetwork();
+
+/// Inside a private network: what the process and its children read in /etc/resolv.conf from now on.
+bool replaceResolverConfiguration(const QByteArray& text);
 
 }  // namespace testing_support

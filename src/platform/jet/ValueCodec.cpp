@@ -19,18 +19,27 @@ const Wanted& expect(const Column& column, const Value& value) {
          QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".").arg(column.name));
 }
 
+[[noreturn]] void failOverflow(const Column& column) {
+    fail(ErrorCode::Overflow,
+         QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+}
+
 int64_t integerIn(const Column& column, const Value& value, int64_t least, int64_t greatest) {
     const bool* truth = std::get_if<bool>(&value);
     const int64_t number = truth ? -int64_t{*truth} : expect<int64_t>(column, value);
-    if (number < least || number > greatest)
-        fail(ErrorCode::Overflow,
-             QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+    if (number < least || number > greatest) failOverflow(column);
     return number;
+}
+
+// No key stands for what is no number, and 0 has one key only.
+double finite(const Column& column, double number) {
+    if (!std::isfinite(number)) failOverflow(column);
+    return number + 0.0;
 }
 
 double realOf(const Column& column, const Value& value) {
     if (const int64_t* number = std::get_if<int64_t>(&value)) return static_cast<double>(*number);
-    return expect<double>(column, value);
+    return finite(column, expect<double>(column, value));
 }
 
 Bytes littleEndian(uint64_t bits, size_t length) {
@@ -41,9 +50,7 @@ Bytes littleEndian(uint64_t bits, size_t length) {
 }
 
 Bytes singleBytes(const Column& column, double number) {
-    if (std::isfinite(number) && std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
-        fail(ErrorCode::Overflow,
-             QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) failOverflow(column);
     return littleEndian(std::bit_cast<uint32_t>(static_cast<float>(number)), 4);
 }
 
@@ -149,7 +156,7 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
         case Type::Double:
             return littleEndian(std::bit_cast<uint64_t>(realOf(column, value)), 8);
         case Type::Date:
-            return littleEndian(std::bit_cast<uint64_t>(expect<Date>(column, value).days), 8);
+            return littleEndian(std::bit_cast<uint64_t>(finite(column, expect<Date>(column, value).days)), 8);
         case Type::Text:
             return textBytes(column, expect<std::string>(column, value));
         case Type::Binary:

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "support/JetCheckerFile.h"
+
+namespace jetcheck {
+
+/// Holds the memo and OLE values of a table's rows against the long-value pages of their columns: each value
+/// is whole, each of its rows belongs to it alone, and nothing else lies on those pages. Findings go to
+/// `file`.
+void checkLongValues(JetFile& file, const TableFacts& table, const std::map<Place, Bytes>& rows);
+
+}  // namespace jetcheck

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/jet/Database.h"
+
+/// Tables that the engine itself never makes, for tests: with columns and indexes of every kind, with memo
+/// values. The file must not be open elsewhere meanwhile. Members throw jet::Failure.
+namespace jettables {
+
+struct Column {
+    std::string name;
+    jet::Type type;
+    uint16_t length = 0;  ///< text: characters; binary: bytes
+};
+
+struct Index {
+    std::vector<std::pair<uint16_t, bool>> parts;  ///< column number, ascending
+    uint8_t flags = 0x80;                          ///< 1 unique, 2 ignores Nulls, 8 required; 0x80 always
+};
+
+/// Adds an empty table. Columns have the display position and number of their place in the list. No index is
+/// a primary key.
+void addTable(const QString& file, const std::string& name, const std::vector<Column>& columns,
+              const std::vector<Index>& indexes);
+
+/// Adds a row and its index entries without asking whether the engine would.
+void addRow(const QString& file, const QString& name, const std::vector<jet::Value>& values);
+
+/// Sets the property list (LvProp) of a table.
+void setProperties(const QString& file, const QString& name, const jet::Bytes& list);
+
+enum class Place { InRow, OneRow, Chain };
+/// Gives a memo or OLE column (by position) of a row that has Null there these bytes, stored at that place.
+void setLongValue(const QString& file, const QString& name, jet::RowId row, size_t column,
+                  const jet::Bytes& bytes, Place place);
+
+}  // namespace jettables

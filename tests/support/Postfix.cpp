@@ -1,0 +1,161 @@
+#include "support/Postfix.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+
+#include "support/TestCertificates.h"
+
+namespace testing_support {
+
+namespace {
+
+constexpr int patienceMs = 30000;
+constexpr int sliceMs = 20;
+
+// %1: the temporary folder
+const char* const settings = R"(compatibility_level = 3.6
+queue_directory = %1/spool
+data_directory = %1/data
+mail_owner = postfix
+setgid_group = postdrop
+maillog_file = %1/log
+maillog_file_prefixes = %1
+inet_interfaces = loopback-only
+myhostname = posta.example
+mydestination =
+mynetworks =
+alias_maps =
+alias_database =
+virtual_mailbox_domains = example.it
+virtual_mailbox_maps = static:box/
+virtual_mailbox_base = %1/mail
+virtual_uid_maps = static:65534
+virtual_gid_maps = static:65534
+message_size_limit = 30000000
+mailbox_size_limit = 0
+virtual_mailbox_limit = 0
+smtpd_tls_cert_file = %1/certificate.pem
+smtpd_tls_key_file = %1/key.pem
+smtpd_tls_security_level = may
+smtpd_sasl_auth_enable = yes
+cyrus_sasl_config_path = %1/sasl
+smtpd_sasl_local_domain = posta.example
+smtpd_recipient_restrictions = permit_sasl_authenticated, reject
+smtpd_relay_restrictions = permit_sasl_authenticated, reject
+)";
+
+const char* const services = R"(587 inet n - n - - smtpd -o smtpd_tls_auth_only=yes
+465 inet n - n - - smtpd -o smtpd_tls_wrappermode=yes
+cleanup unix n - n - 0 cleanup
+qmgr unix n - n 300 1 qmgr
+tlsmgr unix - - n 1000? 1 tlsmgr
+rewrite unix - - n - - trivial-rewrite
+bounce unix - - n - 0 bounce
+defer unix - - n - 0 bounce
+trace unix - - n - 0 bounce
+proxymap unix - - n - - proxymap
+smtp unix - - n - - smtp
+error unix - - n - - error
+retry unix - - n - - error
+virtual unix - n n - - virtual
+anvil unix - - n - 1 anvil
+scache unix - - n - 1 scache
+postlog unix-dgram n - n - 1 postlogd
+)";
+
+}  // namespace
+
+Postfix::Postfix(quint16 relayPort) {
+    configure(relayPort);
+    if (m_problem.isEmpty()) run("/usr/sbin/postfix", {"-c", m_folder.path(), "start"});
+}
+
+Postfix::~Postfix() {
+    run("/usr/sbin/postfix", {"-c", m_folder.path(), "stop"});
+}
+
+void Postfix::configure(quint16 relayPort) {
+    // the server's own users have to get as far as their folders
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7055));
+    for (const char* name : {"spool", "data", "mail", "sasl"})
+        QDir().mkpath(path(name));
+    giveAway("data", "postfix");
+    giveAway("mail", "nobody");
+
+    const QByteArray folder = m_folder.path().toUtf8();
+    write("main.cf", QByteArray(settings).replace("%1", folder) +
+                         "transport_maps = inline:{ { altrove.example = smtp:[127.0.0.1]:" +
+                         QByteArray::number(relayPort) + " } }\n");
+    QByteArray master = services;
+    for (qsizetype i = 0; i < mechanisms().size(); ++i) {
+        master += QByteArray::number(firstMechanism + i) +
+                  " inet n - n - - smtpd -o smtpd_sasl_mechanism_filter=" + mechanisms()[i].toLower() + '\n';
+    }
+    write("master.cf", master);
+    write("sasl/smtpd.conf",
+          "pwcheck_method: auxprop\nauxprop_plugin: sasldb\nmech_list: " + mechanisms().join(' ') +
+              "\nsasldb_path: " + folder + "/sasl/users\n");
+    const TlsIdentity& identity = TestCertificates::get().good();
+    write("key.pem", identity.key.toPem());
+    write("certificate.pem", identity.certificate.toPem());
+    run("saslpasswd2", {"-p", "-c", "-f", path("sasl/users"), "-u", "posta.example", user}, password.toUtf8());
+    giveAway("sasl/users", "postfix");
+}
+
+void Postfix::giveAway(const char* name, const char* owner) {
+    const passwd* known = ::getpwnam(owner);
+    if (!known || ::chown(QFile::encodeName(path(name)).constData(), known->pw_uid, gid_t(-1)) != 0)
+        m_problem = QStringLiteral("only the superuser of a whole system can run the server");
+}
+
+void Postfix::write(const char* name, const QByteArray& text) {
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        m_problem = file.fileName() + ": " + file.errorString();
+}
+
+bool Postfix::run(const QString& program, const QStringList& arguments, const QByteArray& input) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setStandardOutputFile(path("output"));  // daemons keep it open
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    const bool done = process.waitForFinished(patienceMs) && process.exitCode() == 0;
+    if (!done) m_problem = program + ' ' + arguments.join(' ') + ": " + process.errorString() + log();
+    return done;
+}
+
+QByteArray Postfix::log() const {
+    QByteArray text;
+    for (const char* name : {"output", "log"}) {
+        QFile file(path(name));
+        if (file.open(QIODevice::ReadOnly)) text += file.readAll();
+    }
+    return text;
+}
+
+QByteArrayList Postfix::mail(qsizetype count) const {
+    const QDir box(path("mail/box/new"));
+    for (int waited = 0; waited < patienceMs; waited += sliceMs) {
+        // Each file's name begins with the time of its arrival.
+        const QStringList names = QDir(box.path()).entryList(QDir::Files, QDir::Time | QDir::Reversed);
+        if (names.size() >= count) {
+            QByteArrayList messages;
+            for (const QString& name : names) {
+                QFile file(box.filePath(name));
+                if (file.open(QIODevice::ReadOnly)) messages += file.readAll();
+            }
+            return messages;
+        }
+        QThread::msleep(sliceMs);
+    }
+    return {};
+}
+
+}  // namespace testing_support
