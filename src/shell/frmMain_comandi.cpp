@@ -12,6 +12,8 @@
 #include "core/Prodotto.h"
 #include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
+#include "import/ImportaOutlook.h"
+#include "import/ImportaRubrica.h"
 #include "lang/bLANG_applica.h"
 #include "lang/bVAR.h"
 #include "platform/system/ProgramFolder.h"
@@ -49,7 +51,7 @@ void solo(frmMain&, Accesso&) {
 
 }  // namespace
 
-// The first equal name decides. The editor and the imports have no window yet.
+// The first equal name decides. The editor has no window yet.
 const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdFileAccount", [](frmMain&, Accesso&) { finestre::Account().exec(); }},
     {"cmdEsci", [](frmMain& finestra, Accesso&) { finestra.close(); }},
@@ -57,8 +59,8 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
     {"cmdMailingApri", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingApri(accesso); }},
     {"cmdMailingImpTXT", [](frmMain&, Accesso&) { finestre::ImpTXT().exec(); }},
-    {"cmdMailingImpOE", [](frmMain&, Accesso&) {}},
-    {"cmdMailingImpMSO", [](frmMain&, Accesso&) {}},
+    {"cmdMailingImpOE", solo<ImportaRubrica>},
+    {"cmdMailingImpMSO", solo<ImportaOutlook>},
     {"cmdMailingImpDB", [](frmMain&, Accesso&) { finestre::ImpDB().exec(); }},
     {"cmdInvia", [](frmMain& finestra, Accesso& accesso) { finestra.cmdInvia(accesso); }},
     {"cmdPopMailingHead", conRecordset<comandiGruppo::Testa>},

@@ -55,6 +55,7 @@ void ProgressCounter::setValue(double value) {
     update();
     QAccessibleValueChangeEvent event(this, value);
     QAccessible::updateAccessibility(&event);
+    Q_EMIT valueChanged(value);
 }
 
 void ProgressCounter::setBarColor(const QColor& color) {

@@ -11,7 +11,7 @@ namespace ui {
 class ProgressCounter : public QWidget {
     Q_OBJECT
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
-    Q_PROPERTY(double value READ value WRITE setValue)
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
 
   public:
     explicit ProgressCounter(QWidget* parent = nullptr);
@@ -26,6 +26,9 @@ class ProgressCounter : public QWidget {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+  Q_SIGNALS:
+    void valueChanged(double value);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
