@@ -163,5 +163,5 @@ const GumboNode* findChild(const GumboNode& node, GumboTag tag) {
 QByteArray visibleText(const GumboNode& document) {
     const GumboNode* html = findChild(document, GUMBO_TAG_HTML);
     const GumboNode* body = html != nullptr ? findChild(*html, GUMBO_TAG_BODY) : nullptr;
-    return body != nullptr ? Walk(*body).run() : QByteArray();
+    return body != nullptr ? withoutMarks(Walk(*body).run()) : QByteArray();
 }

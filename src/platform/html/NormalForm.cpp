@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/html/ParseTree.h"
@@ -228,5 +229,5 @@ QByteArray normalForm(const GumboNode& document) {
             appendText(out, *child);
         }
     }
-    return out;
+    return withoutMarks(std::move(out));
 }

@@ -93,6 +93,25 @@ const GumboNode* parseWithin(Guard& guard, const QByteArray& text) {
         ->document;
 }
 
+// Gumbo keeps the text that stands right before </form> until something is inserted, which then is behind the
+// form. An element that has no effect of its own makes it settle the text in its place.
+constexpr char formEnd[] = "</form";
+constexpr char mark[] = "<param vestrola-mark>";
+constexpr char markWritten[] = "<param vestrola-mark=\"\">";
+constexpr char markAsText[] = "&lt;param vestrola-mark&gt;";
+
+QByteArray withMarks(const QByteArray& text) {
+    const QByteArray lower = text.toLower();
+    QByteArray marked;
+    qsizetype from = 0;
+    for (qsizetype at = lower.indexOf(formEnd); at >= 0; at = lower.indexOf(formEnd, at + 1)) {
+        if (at == 0 || text[at - 1] == '>') continue;
+        marked += text.mid(from, at - from) + mark;
+        from = at;
+    }
+    return from == 0 ? text : marked + text.mid(from);
+}
+
 QByteArray withoutTags(const QByteArray& text) {
     QByteArray plain;
     plain.reserve(text.size());
@@ -107,7 +126,7 @@ QByteArray withoutTags(const QByteArray& text) {
 
 }  // namespace
 
-ParseTree::ParseTree(const QByteArray& utf8) : m_text(utf8) {
+ParseTree::ParseTree(const QByteArray& utf8) : m_text(withMarks(utf8)) {
     if (!parse()) {
         m_text = withoutTags(utf8);
         m_memory.release();
@@ -137,4 +156,10 @@ const GumboElement* elementOf(const GumboNode& node) {
 bool isHtmlElement(const GumboNode& node, GumboTag tag) {
     const GumboElement* element = elementOf(node);
     return element != nullptr && element->tag == tag && element->tag_namespace == GUMBO_NAMESPACE_HTML;
+}
+
+QByteArray withoutMarks(QByteArray text) {
+    for (const char* form : {markWritten, mark, markAsText})
+        text.replace(form, QByteArray());
+    return text;
 }

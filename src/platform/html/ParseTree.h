@@ -36,3 +36,7 @@ const GumboElement* elementOf(const GumboNode& node);
 
 /// True for an element of HTML itself (not SVG or MathML) with that tag.
 bool isHtmlElement(const GumboNode& node, GumboTag tag);
+
+/// Takes the marks out of a text that was made from the tree. They stand in front of some end tags of forms,
+/// for the parser's sake; see ParseTree.cpp.
+QByteArray withoutMarks(QByteArray text);

@@ -1,0 +1,140 @@
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include "html/ViewFixture.h"
+#include "platform/html/HtmlDocument.h"
+#include "platform/text/AnsiCodec.h"
+
+// Newsletters as people really write and paste them: the view and the reader without a browser agree on each.
+class ViewCorpus : public QObject {
+    Q_OBJECT
+
+    static QString withoutBrowser(const QString& html) {
+        HtmlDocument document;
+        document.setDocumentHTML(html);
+        return document.documentHTML();
+    }
+
+    static void corpus() {
+        QTest::addColumn<QString>("html");
+        const QDir folder(TEST_DATA_DIR "/html");
+        for (const QString& name : folder.entryList({"*.html"}, QDir::Files)) {
+            QFile file(folder.filePath(name));
+            if (!file.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(name));
+            QTest::newRow(qPrintable(name)) << QString::fromUtf8(file.readAll());
+        }
+        QTest::newRow("catalogue of 2.5 MB") << catalogue();
+    }
+
+    static QString firstDifference(const QString& text, const QString& expected) {
+        qsizetype at = 0;
+        while (at < text.size() && at < expected.size() && text[at] == expected[at])
+            ++at;
+        return QStringLiteral("at %1: %2\nexpected: %3")
+            .arg(at)
+            .arg(text.mid(std::max<qsizetype>(at - 60, 0), 200),
+                 expected.mid(std::max<qsizetype>(at - 60, 0), 200));
+    }
+
+    // A shop's whole catalogue in one message
+    static QString catalogue() {
+        QString html = QStringLiteral(
+            "<html><head><title>Catalogo</title></head><body bgcolor=#FFFFFF><h1>Gentile :::nom:::</h1>"
+            "<table width=600 border=0 cellpadding=4>\r\n");
+        for (int i = 0; html.size() < 2'500'000; ++i) {
+            html += QStringLiteral(
+                        "<tr><td width=80><img src=\"articolo%1.jpg\" alt='Articolo %1'><td><font face="
+                        "Verdana size=2><b>Articolo %1</b><br>Prezzo: &euro; %1,90 &ndash; per "
+                        ":::rgs:::</font><td align=right><a href=\"http://example.it/?a=%1&u=:::email:::"
+                        "\">Ordina</a></tr>\r\n")
+                        .arg(i);
+        }
+        return html + QStringLiteral("</table></body></html>\r\n");
+    }
+
+    std::unique_ptr<Desk> m_desk;
+
+  private Q_SLOTS:
+    void initTestCase() { m_desk = std::make_unique<Desk>(); }
+    void cleanupTestCase() { m_desk.reset(); }
+
+    void hasTheNormalFormOfTheReaderWithoutABrowser_data() { corpus(); }
+    void hasTheNormalFormOfTheReaderWithoutABrowser() {
+        QFETCH(QString, html);
+        m_desk->view.setDocumentHTML(html);
+        const QString shown = m_desk->view.documentHTML();
+        const QString expected = withoutBrowser(html);
+        QVERIFY2(shown == expected, qPrintable(firstDifference(shown, expected)));
+    }
+
+    void staysAsItIsHoweverOftenItIsReadAgain_data() { corpus(); }
+    void staysAsItIsHoweverOftenItIsReadAgain() {
+        QFETCH(QString, html);
+        m_desk->view.setDocumentHTML(html);
+        const QString first = m_desk->view.documentHTML();
+        const int turns = first.size() > 1'000'000 ? 1 : 3;
+        for (int turn = 0; turn < turns; ++turn) {
+            // what a file's reader hands in
+            m_desk->view.setDocumentHTML(first + "\r\n");
+            const QString again = m_desk->view.documentHTML();
+            QVERIFY2(again == first, qPrintable(firstDifference(again, first)));
+        }
+        const QString readWithout = withoutBrowser(first);
+        QVERIFY2(readWithout == first, qPrintable(firstDifference(readWithout, first)));
+    }
+
+    void keepsEveryPlaceholder_data() { corpus(); }
+    void keepsEveryPlaceholder() {
+        QFETCH(QString, html);
+        static const QRegularExpression placeholder(QStringLiteral(":::[a-z]+[1-9]?:::"));
+        m_desk->view.setDocumentHTML(html);
+        QCOMPARE(m_desk->view.documentHTML().count(placeholder), html.count(placeholder));
+    }
+
+    void isWrittenWithoutLossInWindows1252_data() { corpus(); }
+    void isWrittenWithoutLossInWindows1252() {
+        QFETCH(QString, html);
+        m_desk->view.setDocumentHTML(html);
+        const QString shown = m_desk->view.documentHTML();
+        QCOMPARE(text::fromAnsi(text::toAnsi(shown)), shown);
+    }
+
+    // What docs/formats/html.md tells of documents that the two readers take differently
+    void differsFromTheOtherReaderOnlyWhereItIsKnown_data() {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("view");
+        QTest::addColumn<QString>("reader");
+        QTest::newRow("more than three formatting elements left open over a paragraph")
+            << "<b><i><u><s><a>uno<p>due</b>tre</i>quattro</u>"
+            << "<b><i><u><s><a>uno</a></s></u></i></b><u><s><a></a></s></u><u><s><a></a></s></u>"
+               "<s><a><p><u><i><b>due</b>tre</i>quattro</u></p></a></s>"
+            << "<b><i><u><s><a>uno</a></s></u><s><a><p><u><b>due</b>trequattro</u></p></a></s></i></"
+               "b><u><s><a></a></s></u>";
+        QTest::newRow("isindex")
+            << "<isindex>"
+            << "<isindex></isindex>"
+            << "<form><hr><label>This is a searchable index. Enter search keywords: <input "
+               "name=\"isindex\"></label><hr></form>";
+    }
+    void differsFromTheOtherReaderOnlyWhereItIsKnown() {
+        QFETCH(QString, html);
+        QFETCH(QString, view);
+        QFETCH(QString, reader);
+        m_desk->view.setDocumentHTML(html);
+        QCOMPARE(m_desk->body(), view);
+        QVERIFY(withoutBrowser(html).contains("<body>" + reader + "</body>"));
+    }
+
+    void flattensWhatIsNestedDeeperThan512Elements() {
+        m_desk->view.setDocumentHTML(QStringLiteral("<div>").repeated(600) + "x" +
+                                     QStringLiteral("</div>").repeated(600));
+        const QString flattened = m_desk->view.documentHTML();
+        QCOMPARE(flattened.count("<div>"), 600);
+        QVERIFY(flattened.contains("</div><div>"));
+        QVERIFY(isStable(flattened));
+    }
+};
+
+QTEST_MAIN(ViewCorpus)
+#include "view_corpus_test.moc"
