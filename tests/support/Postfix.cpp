@@ -97,13 +97,13 @@ void Postfix::configure(quint16 relayPort) {
                   " inet n - n - - smtpd -o smtpd_sasl_mechanism_filter=" + mechanisms()[i].toLower() + '\n';
     }
     write("master.cf", master);
-    write("sasl/smtpd.conf",
-          "pwcheck_method: auxprop\nauxprop_plugin: sasldb\nmech_list: " + mechanisms().join(' ') +
-              "\nsasldb_path: " + folder + "/sasl/users\n");
+    write("sasl/smtpd.conf", "pwcheck_method: auxprop\nauxprop_plugin: sasldb\nmech_list: " +
+                                 mechanisms().join(' ') + "\nsasldb_path: " + folder + "/sasl/users\n");
     const TlsIdentity& identity = TestCertificates::get().good();
     write("key.pem", identity.key.toPem());
     write("certificate.pem", identity.certificate.toPem());
-    run("saslpasswd2", {"-p", "-c", "-f", path("sasl/users"), "-u", "posta.example", user}, password.toUtf8());
+    run("saslpasswd2", {"-p", "-c", "-f", path("sasl/users"), "-u", "posta.example", user},
+        password.toUtf8());
     giveAway("sasl/users", "postfix");
 }
 
@@ -143,8 +143,7 @@ QByteArray Postfix::log() const {
 QByteArrayList Postfix::mail(qsizetype count) const {
     const QDir box(path("mail/box/new"));
     for (int waited = 0; waited < patienceMs; waited += sliceMs) {
-        // Each file's name begins with the time of its arrival.
-        const QStringList names = QDir(box.path()).entryList(QDir::Files, QDir::Time | QDir::Reversed);
+        const QStringList names = QDir(box.path()).entryList(QDir::Files);
         if (names.size() >= count) {
             QByteArrayList messages;
             for (const QString& name : names) {

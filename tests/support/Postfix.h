@@ -13,8 +13,8 @@ namespace testing_support {
 /// User names and passwords are those of Postfix::user and Postfix::password.
 class Postfix {
   public:
-    static constexpr quint16 submission = 587;    ///< STARTTLS, every mechanism
-    static constexpr quint16 implicitTls = 465;   ///< TLS from the start
+    static constexpr quint16 submission = 587;       ///< STARTTLS, every mechanism
+    static constexpr quint16 implicitTls = 465;      ///< TLS from the start
     static constexpr quint16 firstMechanism = 2001;  ///< one port for each of mechanisms(), in order
     static QByteArrayList mechanisms() { return {"PLAIN", "LOGIN", "CRAM-MD5", "SCRAM-SHA-256"}; }
     static inline const QString user = QStringLiteral("utente");
@@ -27,7 +27,7 @@ class Postfix {
     /// Empty when it runs.
     const QString& problem() const { return m_problem; }
 
-    /// Waits for that many messages in the Maildir and gives them as they lie there, ordered by arrival.
+    /// Waits for that many messages in the Maildir and gives them as they lie there, in no order.
     QByteArrayList mail(qsizetype count) const;
     QByteArray log() const;
 

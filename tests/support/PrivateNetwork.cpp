@@ -49,8 +49,8 @@ bool replaceResolverConfiguration(const QByteArray& text) {
     QTemporaryFile file;
     if (!file.open() || file.write(text) != text.size() || !file.flush()) return false;
     file.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    const bool mounted =
-        ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr, MS_BIND, nullptr) == 0;
+    const bool mounted = ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr,
+                                 MS_BIND, nullptr) == 0;
     return mounted;  // the content lives on without its name
 }
 

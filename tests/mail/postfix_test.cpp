@@ -1,0 +1,228 @@
+// A real mail server with all its parts: login, TLS, delivery to a Maildir, and relaying of what was signed.
+#include <QMap>
+#include <QTemporaryDir>
+
+#include "mail/dkim_support.h"
+#include "mail/hostile_values.h"
+#include "mail/smtp_fixture.h"
+#include "mail/wire_reader.h"
+#include "support/Postfix.h"
+#include "support/PrivateNetwork.h"
+
+using testing_support::Postfix;
+using testing_support::ScriptedServer;
+using testing_support::TestCertificates;
+
+namespace {
+
+constexpr quint16 relayPort = 2500;
+const bool isolated = testing_support::enterPrivateNetwork();
+
+class RealServer : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        if (isolated) s_server = new Postfix(relayPort);
+    }
+    static void TearDownTestSuite() {
+        delete s_server;
+        s_server = nullptr;
+    }
+    void SetUp() override {
+        if (!isolated || ::geteuid() != 0)
+            GTEST_SKIP() << "the system allows no private network to the superuser";
+        if (!s_server->problem().isEmpty()) GTEST_SKIP() << s_server->problem().toStdString();
+        s_taken = s_server->mail(0).size();
+    }
+
+    static void logIn(mail::Route& route, quint16 port) {
+        route.host = QStringLiteral("localhost");
+        route.port = port;
+        route.certificateFolder = TestCertificates::get().trustFolder();
+        route.login = true;
+        route.user = Postfix::user;
+        route.password = Postfix::password;
+    }
+
+    // Delivers composed messages one after the other over one session
+    static void deliver(const QList<mail::ComposedMessage>& messages, quint16 port) {
+        mail::Route route;
+        logIn(route, port);
+        mail::Transcript transcript;
+        mail::SmtpSession session(transcript);
+        QEventLoop loop;
+        mail::DeliveryOutcome outcome;
+        QObject::connect(&session, &mail::SmtpSession::finished, &loop,
+                         [&](const mail::DeliveryOutcome& told) {
+                             outcome = told;
+                             loop.quit();
+                         });
+        for (const auto& message : messages) {
+            QTimer::singleShot(0, &session, [&] { session.deliver(route, message, 20000); });
+            loop.exec();
+            EXPECT_TRUE(outcome.delivered) << outcome.text.toStdString() << s_server->log().toStdString();
+        }
+    }
+
+    // What arrived since the test began, by Message-ID and without the lines that the server wrote above
+    static QMap<QByteArray, QByteArray> arrived(qsizetype count) {
+        QMap<QByteArray, QByteArray> all;
+        for (QByteArray text : s_server->mail(s_taken + count)) {
+            text.replace("\n", "\r\n");
+            const qsizetype own = text.indexOf("\r\nDKIM-Signature: ");
+            const QByteArray data = text.mid((own >= 0 ? own : text.indexOf("\r\nFrom: ")) + 2);
+            all['<' + wire::read(data).messageId + '>'] = data;
+        }
+        return all;
+    }
+
+    static void expectArrived(const QList<mail::ComposedMessage>& messages) {
+        const auto all = arrived(messages.size());
+        for (const auto& message : messages)
+            EXPECT_EQ(all[message.messageId].toStdString(), message.data.toStdString());
+    }
+
+    static Postfix* s_server;
+    static qsizetype s_taken;
+};
+
+Postfix* RealServer::s_server = nullptr;
+qsizetype RealServer::s_taken = 0;
+
+// Every kind of message: plain, hostile, large, with files, with dots, with an address beyond ASCII
+QList<mail::ComposedMessage> corpus(const QTemporaryDir& folder) {
+    mail::Composer composer;
+    QList<mail::ComposedMessage> messages;
+    const QString logo = compose::makeFile(folder.filePath("logo.png"), compose::pngContent(3000));
+    const QString file =
+        compose::makeFile(folder.filePath("a.bin"), QByteArray(2000000, '\x02') + "\r\n.\r\n");
+    compose::HostileValues values(11);
+    for (int i = 0; i < 24; ++i) {
+        auto message = compose::plainMessage();
+        message.fromAddress = "mittente@example.it";
+        message.toAddress = i == 5 ? QStringLiteral("niccolò@example.it") : "rossi@example.it";
+        if (i > 0) {
+            message.toName = values.text(8);
+            message.subject = values.text(i == 7 ? 300 : 10);
+            message.bodyText = i == 8 ? ".\r\n..\r\n." : values.text(80);
+            message.bodyHtml = i == 8 ? "" : values.text(80);
+        }
+        if (i % 3 == 1) {
+            message.templateHtml = "<img src='" + logo + "'>";
+            message.bodyHtml += message.templateHtml;
+        }
+        if (i % 4 == 2) message.attachments = {{file, values.text(4) + "x.pdf"}};
+        messages += composer.compose(message).value();
+    }
+    return messages;
+}
+
+TEST_F(RealServer, WhatLiesInTheMailboxIsWhatWasComposed) {
+    const QTemporaryDir folder;
+    const auto messages = corpus(folder);
+    deliver(messages, Postfix::submission);
+    expectArrived(messages);
+}
+
+TEST_F(RealServer, ImplicitTlsDeliversTheSame) {
+    const QTemporaryDir folder;
+    const auto messages = corpus(folder).mid(0, 6);
+    deliver(messages, Postfix::implicitTls);
+    expectArrived(messages);
+}
+
+TEST_F(RealServer, EachMechanismLogsIn) {
+    const QTemporaryDir folder;
+    const auto messages = corpus(folder);
+    for (qsizetype i = 0; i < Postfix::mechanisms().size(); ++i)
+        deliver(messages.mid(i, 1), quint16(Postfix::firstMechanism + i));
+    expectArrived(messages.mid(0, Postfix::mechanisms().size()));
+    for (const QByteArray& mechanism : Postfix::mechanisms())
+        EXPECT_TRUE(s_server->log().contains("sasl_method=" + mechanism)) << mechanism.constData();
+}
+
+TEST_F(RealServer, TranscriptTellsTheWholeStoryWithoutASecret) {
+    const QTemporaryDir folder;
+    const QByteArray password = Postfix::password.toUtf8(), user = Postfix::user.toUtf8();
+    QByteArrayList ports{QByteArray::number(Postfix::submission), QByteArray::number(Postfix::implicitTls)};
+    for (qsizetype i = 0; i < Postfix::mechanisms().size(); ++i)
+        ports += QByteArray::number(Postfix::firstMechanism + i);
+    for (const QByteArray& port : ports) {
+        Client client(port.toUShort());
+        client.smtp.ServerName = QStringLiteral("localhost");
+        client.smtp.CertificateFolder = TestCertificates::get().trustFolder();
+        client.smtp.UseAuth = true;
+        client.smtp.UserName = Postfix::user;
+        client.smtp.UserPassword = Postfix::password;
+        client.smtp.LogFile = folder.filePath(port + ".xt1");
+        client.smtp.LogEnabled = true;
+        EXPECT_TRUE(client.send().done);
+        client.smtp.UserPassword = Postfix::password + "falso";
+        const Heard refused = client.send();
+        EXPECT_EQ(refused.code, 535) << refused.text.toStdString();
+        QFile file(client.smtp.LogFile);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray log = file.readAll();
+        for (const QByteArray& part :
+             {QByteArray("invio tramite server, server localhost, porta ") + port, QByteArray("TLSv1.3, "),
+              QByteArray("certificato valido"), QByteArray("> AUTH "), QByteArray("< 235 "),
+              QByteArray("Message-ID <"), QByteArray("@example.it>, consegnato: 250 "),
+              QByteArray(", non consegnato: 535 ")})
+            EXPECT_TRUE(log.contains(part)) << part.constData() << '\n' << log.constData();
+        for (const QByteArray& secret : {password, password.toBase64(), user.toBase64(),
+                                         (QByteArray(1, '\0') + user + '\0' + password).toBase64(),
+                                         password.toHex(), QByteArray("biws"), QByteArray("n,,n=")})
+            EXPECT_FALSE(log.contains(secret)) << secret.constData() << '\n' << log.constData();
+        // behind AUTH nothing but the mechanism, and no base64 line anywhere
+        for (const QByteArray& line : log.split('\n')) {
+            const qsizetype at = line.indexOf("> AUTH ");
+            if (at < 0) continue;
+            EXPECT_TRUE(Postfix::mechanisms().contains(line.mid(at + 7).trimmed())) << line.constData();
+        }
+        EXPECT_FALSE(log.contains(" < 334 ") && !log.contains(" < 334 (omesso)")) << log.constData();
+    }
+}
+
+TEST_F(RealServer, RelayedMessageKeepsItsSignature) {
+    const QTemporaryDir folder;
+    const QByteArray record = compose::makeDkimKey(folder.path(), "orto.example", "maggio");
+    // The record comes from a name server in this network, in pieces of 255 octets at most.
+    ASSERT_TRUE(testing_support::replaceResolverConfiguration("nameserver 127.0.0.1\n"));
+    QProcess dns;
+    dns.start("dnsmasq",
+              {"--keep-in-foreground", "--no-resolv", "--no-hosts", "--conf-file=/dev/null", "--user=root",
+               "--pid-file=",
+               "--txt-record=maggio._domainkey.orto.example," + QString::fromLatin1(record.left(200)) + ',' +
+                   QString::fromLatin1(record.mid(200))});
+    ASSERT_TRUE(dns.waitForStarted());
+
+    QByteArrayList dialogue{"S: 220 altrove", "C: EHLO *", "S: 250-altrove", "S: 250 8BITMIME"};
+    for (const char* line : {"C: MAIL*", "S: 250 ok", "C: RCPT*", "S: 250 ok", "C: DATA", "S: 354 go", "BODY",
+                             "S: 250 taken", "C: QUIT", "S: 221 bye"})
+        dialogue += line;
+    QList<mail::ComposedMessage> messages;
+    mail::Composer composer;
+    compose::HostileValues values(23);
+    const QString file = compose::makeFile(folder.filePath("a.bin"), QByteArray(200000, '\x02'));
+    for (int i = 0; i < 4; ++i) {
+        auto message = compose::plainMessage();
+        message.toAddress = "rossi@altrove.example";
+        message.dkimFolder = folder.path();
+        if (i > 0) message.subject = message.toName = values.text(20);
+        if (i > 1) message.bodyText = message.bodyHtml = values.text(50);
+        if (i > 2) message.attachments = {{file, "a.pdf"}};
+        messages += composer.compose(message).value();
+    }
+    for (const auto& message : messages) {
+        ScriptedServer relayed({dialogue}, {}, relayPort);
+        deliver({message}, Postfix::submission);
+        ASSERT_EQ(relayed.remainder(), "") << s_server->log().toStdString();
+        const QByteArray received = wire::unstuffed(relayed.bodies().at(0));
+        EXPECT_TRUE(received.contains("\r\nReceived: ") || received.startsWith("Received: "));
+        EXPECT_TRUE(received.endsWith(message.data));
+        EXPECT_TRUE(compose::run("dkimverify", {}, received).contains("signature ok"));
+    }
+    dns.kill();
+    dns.waitForFinished();
+}
+
+}  // namespace
