@@ -248,6 +248,15 @@ class TestCommandBars : public QObject {
         QCOMPARE(face->text(QAccessible::Description), "Saves");
     }
 
+    void buttonsCanBePressedByAssistivePrograms() {
+        Window w;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w.button("cmdSave"));
+        QVERIFY(face->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+        face->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(w.started.size(), 1);
+        QCOMPARE(w.started[0][0], QString("cmdSave"));
+    }
+
     void statusTextIsAStaticTextToAssistivePrograms() {
         Window w;
         ui::StaticItem* item = w.bars.GetStatic("stcHelp");

@@ -195,7 +195,8 @@ void CommandBars::addItems(QWidget* place, const QStringList& items) {
         if (!bar) continue;
         auto* button = static_cast<QToolButton*>(bar->widgetForAction(command->m_action));
         button->setObjectName(item);
-        button->setPopupMode(QToolButton::InstantPopup);
+        // A button of that mode offers assistive programs no press.
+        if (command->m_action->menu()) button->setPopupMode(QToolButton::InstantPopup);
         button->installEventFilter(this);
     }
 }
