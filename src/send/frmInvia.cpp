@@ -128,6 +128,8 @@ QGridLayout* frmInvia::DisponiScelte() {
     tempi->addStretch();
     for (QComboBox* elenco : {cmbPausa, cmbTimeout})
         elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // A long name of an account does not widen the window.
+    cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 
     auto* blocco = new QHBoxLayout;
     blocco->setSpacing(ui::controlSpacing);
@@ -186,12 +188,18 @@ void frmInvia::CollegaEtichette() {
     collega(lblDaInviare, prgDaInviare);
     collega(lblFallite, prgFallite);
     collega(lblInviate, prgInviate);
-    cmdFile->setAccessibleName("Sfoglia il messaggio");
-    txtBloccoNum->setAccessibleName("Numero massimo di email");
-    txtBloccoMin->setAccessibleName("Intervallo in minuti");
     for (QAbstractButton* pulsante :
          std::initializer_list<QAbstractButton*>{chkBlocco, chkLog, cmdInvia, cmdFerma, cmdChiudi})
         pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
+    NominaSenzaEtichetta();
+}
+
+/// What has no label of its own is named by translated words: those of the dialog that it opens, or those
+/// that stand around it.
+void frmInvia::NominaSenzaEtichetta() {
+    cmdFile->setAccessibleName(bVAR::goApriEmail.isEmpty() ? "Sfoglia il messaggio" : bVAR::goApriEmail);
+    txtBloccoNum->setAccessibleName(chkBlocco->text() + " … " + lblBlocco1->text());
+    txtBloccoMin->setAccessibleName(lblBlocco1->text() + " … " + lblBlocco2->text());
 }
 
 void frmInvia::CollegaEventi() {

@@ -50,6 +50,7 @@ class frmInvia : public QDialog {
     QGridLayout* DisponiScelte();
     QGridLayout* DisponiContatori();
     void CollegaEtichette();
+    void NominaSenzaEtichetta();
     void CollegaEventi();
     void AllargaEtichette();
     void chkBlocco_Click();

@@ -11,6 +11,7 @@
 #include "core/Prodotto.h"
 #include "lang/bLANG_applica.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
 #include "shell/bTheme.h"
@@ -33,7 +34,7 @@ frmMain::frmMain()
       dati(new ui::DataControl(this)) {
     setObjectName("frmMain");
     destinatari->setObjectName("grd");
-    destinatari->setAccessibleName("Destinatari");
+    destinatari->setAccessibleName("Mailing List");
     destinatari->setDataSource(dati);
     dati->setObjectName("Adodc");
     setCentralWidget(destinatari);
@@ -41,7 +42,7 @@ frmMain::frmMain()
     CreaMenu();
     CreaBarre();
     CreaBarraStato();
-    pannelli.addPane("dckGruppi", "Gruppi mailing", Qt::LeftDockWidgetArea, 230);
+    pannelli.addPane("dckGruppi", "Gruppi mailing", Qt::LeftDockWidgetArea, ui::scaledToFont(*this, 230));
     resize(1080, 640);
 }
 
@@ -53,6 +54,8 @@ void frmMain::Carica() {
     ImpostaColori();
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
+    // From here on it exists, hidden, and is never unloaded.
+    finestre::Editor();
     CaricaLingua();
     CaricaPosizioneForm(*this);
     TitoloPrincipale();

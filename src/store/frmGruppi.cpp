@@ -32,7 +32,7 @@ frmGruppi::frmGruppi(QWidget* parent) : QWidget(parent), TREE(new ui::GroupTree(
     setObjectName("frmGruppi");
     setWindowTitle("Gruppi mailing");
     TREE->setObjectName("TREE");
-    TREE->setAccessibleName("Gruppi mailing");
+    TREE->setAccessibleName(finestre::Main().DockWindows().DockWindows("dckGruppi")->Caption());
     TREE->setFrameShape(QFrame::NoFrame);
     TREE->setImage("Mailing", "server-database");
     TREE->setImage("Close", "folder");

@@ -10,6 +10,7 @@
 #include "platform/ado/Command.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
 #include "shell/frmMain.h"
@@ -97,8 +98,11 @@ void griglia::Collega(frmMain& principale) {
     DataGrid* grd = &principale.grd();
     // In the order of the table, behind the leading column: id, id_grp, rgs, nom, piva, ind, cap, loc, prov,
     // tel, fax, email, campo1 to campo9, sel.
-    grd->setColWidths({0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
-                       230, 120, 120, 120, 120, 120, 120, 120, 120, 120, 56});
+    std::vector<int> larghezze{0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
+                               230, 120, 120, 120, 120, 120, 120, 120, 120, 120, 56};
+    for (int& larghezza : larghezze)
+        larghezza = ui::scaledToFont(*grd, larghezza);
+    grd->setColWidths(std::move(larghezze));
     QObject::connect(grd, &DataGrid::afterDataRefresh, grd, [] { evento(grd_AfterDataRefresh); });
     QObject::connect(grd, &DataGrid::click, grd, [] { evento(grd_Click); });
     QObject::connect(grd, &DataGrid::dblClick, grd, [] { evento(grd_DblClick); });

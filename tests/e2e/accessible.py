@@ -62,14 +62,15 @@ def is_shown(control):
 
 def act(control, wanted):
     actions = control.queryAction()
-    for number in range(actions.nActions):
-        if actions.getName(number) == wanted:
-            try:
-                actions.doAction(number)
-            except GLib.GError:
-                pass  # the answer of an action that opens a modal window comes when the window is left
-            return
-    fail(f"{control} has no action {wanted}")
+
+    def numbers():
+        return [number for number in range(actions.nActions) if actions.getName(number) == wanted]
+
+    number = wait_for(numbers, f"{control} to offer {wanted}")[0]
+    try:
+        actions.doAction(number)
+    except GLib.GError:
+        pass  # the answer of an action that opens a modal window comes when the window is left
 
 
 def click(control, event="b1c"):

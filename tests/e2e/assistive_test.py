@@ -72,7 +72,7 @@ def add_account(main, port):
 def send(main, message):
     main.press("Invia messaggi")
     window = Window("dialog", "Invia messaggi")
-    window.press("Sfoglia il messaggio")
+    window.press("Apri messaggio")
     chooser = Window("dialog", "Apri messaggio")
     chooser.write("Nome del file:", str(message))
     chooser.press("Apri")

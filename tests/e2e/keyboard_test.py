@@ -59,7 +59,7 @@ def make_group(main):
 def add_recipient():
     keys("Insert")
     form = Window("dialog", "Aggiungi destinatario")
-    form.wait_focus("tree", "Dati del destinatario")
+    form.wait_focus("tree", "Dati destinatario")
     type_text(desktop.ADDRESS)  # the form opens on the address
     keys("Return", "Down")
     type_text(desktop.NAME)

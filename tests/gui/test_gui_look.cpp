@@ -3,9 +3,11 @@
 // there.
 #include <QAccessible>
 #include <QDir>
+#include <QScopedValueRollback>
 
 #include "core/Finestre.h"
 #include "core/Prodotto.h"
+#include "lang/bVAR.h"
 #include "platform/ui/Desktop.h"
 #include "shell/frmMain.h"
 #include "support/SendStage.h"
@@ -72,6 +74,7 @@ class TestLook : public QObject {
     }
 
     void sendWindowWithALargeFontCutsNothing() {
+        const QScopedValueRollback seconds(bVAR::goSecondi, QString("secondi"));
         const QFont before = QApplication::font();
         QFont large = before;
         large.setPointSizeF(14);
@@ -121,13 +124,13 @@ class TestLook : public QObject {
     void everyControlHasANameForAssistivePrograms() {
         SendStage stage({"a@x.it"});
         const QHash<const char*, const char*> names{{"txtFile", "File messaggio da inviare"},
-                                                    {"cmdFile", "Sfoglia il messaggio"},
+                                                    {"cmdFile", "Apri il messaggio"},
                                                     {"cmbAccount", "Account mittente"},
                                                     {"cmbPausa", "Pausa"},
                                                     {"cmbTimeout", "Timeout"},
                                                     {"chkBlocco", "Non inviare più di"},
-                                                    {"txtBloccoNum", "Numero massimo di email"},
-                                                    {"txtBloccoMin", "Intervallo in minuti"},
+                                                    {"txtBloccoNum", "Non inviare più di … email ogni"},
+                                                    {"txtBloccoMin", "email ogni … minuti."},
                                                     {"chkLog", "Crea File per assistenza."},
                                                     {"prgDaInviare", "Email da inviare"},
                                                     {"prgFallite", "Email non inviate"},

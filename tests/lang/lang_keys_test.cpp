@@ -11,12 +11,17 @@
 #include "import/frmScelta.h"
 #include "lang/bLANG_chiavi.h"
 #include "lang/lang_stage.h"
+#include "message/frmEditor.h"
+#include "message/frmPropBody.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/DataGrid.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
+#include "platform/ui/TabStrip.h"
 #include "send/frmInvia.h"
 #include "shell/frmMain.h"
 #include "store/frmDestinatario.h"
+#include "store/frmGruppi.h"
 
 using namespace testing_support;
 
@@ -27,6 +32,8 @@ QWidget* windowOf(const QString& section) {
     if (section == "frmAccount") return &finestre::Account();
     if (section == "frmInvia") return &finestre::Invia();
     if (section == "frmDestinatario") return &finestre::Destinatario();
+    if (section == "frmEditor") return &finestre::Editor();
+    if (section == "frmPropBody") return &finestre::PropBody();
     if (section == "frmScelta") return &finestre::Scelta();
     if (section == "frmImpDB") return &finestre::ImpDB();
     if (section == "frmImpTXT") return &finestre::ImpTXT();
@@ -52,18 +59,31 @@ QString valueOf(const QString& key) {
     const QString rest = key.section('.', 1);
     if (rest == "Caption") return window->windowTitle();
     if (rest == "txtCartella.Text") return window->findChild<QLineEdit*>("txtCartella")->text();
-    static const QRegularExpression named("^(.*)\\(\"(.+)\"\\)\\.(Caption|Description|Text)$");
+    static const QRegularExpression tab("^tb\\.Tab(Caption|ToolTip)\\((\\d)\\)$");
+    if (const auto parts = tab.match(rest); parts.hasMatch()) {
+        const int index = parts.captured(2).toInt();
+        const ui::TabStrip& tabs = *finestre::Editor().tb;
+        return parts.captured(1) == "Caption" ? tabs.TabCaption(index) : tabs.TabToolTip(index);
+    }
+    static const QRegularExpression named("^(.*)\\(\"(.+)\"\\)\\.(Caption|Description|Text|Label)$");
     const auto parts = named.match(rest);
     if (!parts.hasMatch())
         return rest.endsWith(".Caption") ? captionOfControl(*window, rest.chopped(8)) : QString();
     const QString kind = parts.captured(1).section('.', -1);
     const QString name = parts.captured(2);
     const bool caption = parts.captured(3) == "Caption";
-    const ui::CommandBars& bars = finestre::Main().Commands();
-    if (kind == "prp.Item" || kind == "Item") return finestre::Destinatario().prp->Item(name)->Caption();
-    if (kind == "DockWindows") return finestre::Main().DockWindows().DockWindows(name)->Caption();
+    const bool main = sectionOf(key) == "frmMain";
+    const ui::CommandBars& bars = main ? finestre::Main().Commands() : finestre::Editor().Commands();
+    if (kind == "Item") return window->findChild<ui::PropertyList*>("prp")->Item(name)->Caption();
+    ui::DockPanes& panes = main ? finestre::Main().DockWindows() : finestre::Editor().DockWindows();
+    if (kind == "DockWindows") return panes.DockWindows(name)->Caption();
     if (kind == "GetStatic") return bars.GetStatic(name)->Text();
-    const ui::Command* command = kind == "GetToolButton" ? bars.GetToolButton(name) : bars.GetPopupMenu(name);
+    if (kind == "GetComboBox") return bars.GetComboBox(name)->Description();
+    if (kind == "GetEdit")
+        return parts.captured(3) == "Label" ? bars.GetEdit(name)->Label() : bars.GetEdit(name)->Description();
+    const ui::Command* command = kind == "GetToolButton"    ? bars.GetToolButton(name)
+                                 : kind == "GetCustomPopup" ? bars.GetCustomPopup(name)
+                                                            : bars.GetPopupMenu(name);
     if (!command) return QString();
     return caption ? command->Caption() : command->Description();
 }
@@ -77,8 +97,8 @@ QMap<QString, QString> everyText() {
     };
     for (const auto& [name, text] : variables)
         note(text, "text", *text);
-    for (const char* section :
-         {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta", "frmImpTXT", "frmImpDB"}) {
+    for (const char* section : {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta",
+                                "frmImpTXT", "frmImpDB", "frmEditor", "frmPropBody"}) {
         const QWidget* window = windowOf(section);
         note(window, "title", window->windowTitle());
         for (const auto* dock : window->findChildren<QDockWidget*>())
@@ -96,10 +116,37 @@ QMap<QString, QString> everyText() {
                 note(action, "text", action->text());
         for (const auto* command : window->findChildren<ui::Command*>())
             note(command, "description", command->Description());
+        for (const auto* combo : window->findChildren<ui::ComboTool*>())
+            note(combo, "description", combo->Description());
+        for (const auto* edit : window->findChildren<ui::EditTool*>())
+            note(edit, "description", edit->Description());
+        for (const auto* tabs : window->findChildren<ui::TabStrip*>())
+            for (int i = 0; i < tabs->count(); ++i) {
+                note(tabs, qPrintable(QString("caption %1").arg(i)), tabs->TabCaption(i));
+                note(tabs, qPrintable(QString("tool tip %1").arg(i)), tabs->TabToolTip(i));
+            }
         for (auto* list : window->findChildren<ui::PropertyList*>())
-            for (const char* item :
-                 {"Datidestinatario", "Altro", "Spedire", "Email", "Nome", "Campo1", "Campo9"})
-                note(list, item, list->Item(item)->Caption());
+            for (const char* item : {"Datidestinatario",
+                                     "Altro",
+                                     "Spedire",
+                                     "Email",
+                                     "Nome",
+                                     "Campo1",
+                                     "Campo9",
+                                     "Margini pagina",
+                                     "Sinistra",
+                                     "Superiore",
+                                     "Larghezza",
+                                     "Altezza",
+                                     "Colori",
+                                     "Sfondo",
+                                     "Testo",
+                                     "Link",
+                                     "LinkAttivi",
+                                     "LinkVisitati",
+                                     "Immagini",
+                                     "Immaginedisfondo"})
+                if (const ui::PropertyItem* there = list->Item(item)) note(list, item, there->Caption());
     }
     return texts;
 }
@@ -211,8 +258,21 @@ class TestLangKeys : public QObject {
         finestre::Main();
         QCOMPARE(finestre::Invia().findChild<QWidget*>("cmdFerma")->accessibleName(), "Stop sending");
         QCOMPARE(finestre::Invia().findChild<QWidget*>("txtFile")->accessibleName(), "Message file to send");
-        QCOMPARE(finestre::Invia().findChild<QWidget*>("txtBloccoNum")->accessibleName(),
-                 "Numero massimo di email");
+    }
+
+    void whatHasNoCaptionIsNamedInTheLanguageOfTheWordsAroundIt() {
+        LangStage stage;
+        stage.install("English");
+        finestre::Invia().CaricaDati();
+        const QHash<QString, QString> names{{"cmdFile", "Open message"},
+                                            {"txtBloccoNum", "Send no more than … emails every"},
+                                            {"txtBloccoMin", "emails every … minutes."}};
+        for (auto name = names.begin(); name != names.end(); ++name)
+            QCOMPARE(finestre::Invia().findChild<QWidget*>(name.key())->accessibleName(), name.value());
+        QCOMPARE(finestre::Main().Gruppi().TREE->accessibleName(), "Mailing groups");
+        finestre::Destinatario().show();
+        QCOMPARE(finestre::Destinatario().prp->focusProxy()->accessibleName(), "Recipient data");
+        QCOMPARE(finestre::Main().grd().accessibleName(), "Mailing List");
     }
 };
 

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QTreeWidget>
 
 #include "lang/bVAR.h"
@@ -138,6 +140,24 @@ class TestAspetto : public QObject {
         stage.command("cmdPopMailingUserNew");
     }
 
+    void aLargeFontWidensColumnsAndFormInItsProportion() {
+        const QFont before = QApplication::font();
+        const auto back = qScopeGuard([&before] { QApplication::setFont(before); });
+        QFont large = before;
+        large.setPointSizeF(14);
+        QApplication::setFont(large);
+        StoreStage stage;
+        stage.clickNode("K1");
+        // The toolkit may round the size of the font up.
+        QVERIFY(stage.grd().columnWidth(2) >= 78);
+        QVERIFY(stage.grd().columnWidth(3) >= 322);
+        QVERIFY(stage.form().width() >= 644);
+        QVERIFY(stage.form().height() <= stage.form().screen()->availableSize().height());
+        keepPicture(stage.window(), "main_14pt");
+        stage.form().show();
+        keepPicture(stage.form(), "destinatario_14pt");
+    }
+
     void buttonsStandAtTheBottomRight() {
         StoreStage stage;
         frmDestinatario& form = stage.form();
@@ -153,11 +173,12 @@ class TestAspetto : public QObject {
     void everyControlHasANameForAssistivePrograms() {
         StoreStage stage;
         frmDestinatario& form = stage.form();
+        form.show();
         const QHash<QWidget*, QString> names{{form.cdmSalva, "Salva"},
                                              {form.cmdAnnulla, "Annulla"},
-                                             {form.prp->focusProxy(), "Dati del destinatario"},
+                                             {form.prp->focusProxy(), "Dati destinatario"},
                                              {&stage.tree(), "Gruppi mailing"},
-                                             {&stage.grd(), "Destinatari"}};
+                                             {&stage.grd(), "Mailing List"}};
         for (auto it = names.begin(); it != names.end(); ++it)
             QCOMPARE(QAccessible::queryAccessibleInterface(it.key())->text(QAccessible::Name), it.value());
     }

@@ -1,7 +1,13 @@
 #include "platform/ui/Controls.h"
 
+#include <QFontInfo>
 #include <QFrame>
 #include <QPushButton>
+
+int ui::scaledToFont(const QWidget& widget, int length) {
+    constexpr double designPoints = 10;
+    return qRound(length * qMax(1.0, QFontInfo(widget.font()).pointSizeF() / designPoints));
+}
 
 QString ui::spokenCaption(QString caption) {
     return caption.remove('&').remove(':');

@@ -23,6 +23,9 @@ Control* named(Control* control, const QString& name) {
     return control;
 }
 
+/// A length that was designed for a font of 10 pt, for the font of a widget; never less than it was.
+int scaledToFont(const QWidget& widget, int length);
+
 /// A caption as assistive programs say it: without the mark of its access key and without the colon.
 QString spokenCaption(QString caption);
 

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/ui/Controls.h"
 #include "platform/ui/DataGridColors.h"
 
 namespace ui {
@@ -179,12 +180,11 @@ PropertyListView::PropertyListView(QWidget* parent) : QTreeWidget(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);
     header()->setStretchLastSection(true);
-    header()->resizeSection(0, captionWidth);
 }
 
 void PropertyListView::showEvent(QShowEvent* event) {
     QTreeWidget::showEvent(event);
-    int width = captionWidth;
+    int width = scaledToFont(*this, captionWidth);
     for (int i = 0; i < topLevelItemCount(); ++i)
         width = qMax(width, fontMetrics().horizontalAdvance(topLevelItem(i)->text(0)) + 4 * textMargin);
     header()->resizeSection(0, qMin(width, viewport()->width() / 2));
