@@ -102,7 +102,6 @@ TEST(StatementText, MoreThanOneSourceOfRowsIsRefused) {
                              "DELETE FROM t RETURNING a",
                              "DELETE t",
                              "INSERT OR REPLACE INTO t (a) VALUES (1)",
-                             "INSERT INTO t (a) VALUES ((SELECT b FROM u))",
                              "INSERT INTO t (a) SELECT a FROM u, v",
                              "INSERT INTO t (a) SELECT a FROM u UNION SELECT 1",
                              "INSERT INTO t (a) VALUES (1) ON CONFLICT DO NOTHING",
@@ -113,12 +112,34 @@ TEST(StatementText, MoreThanOneSourceOfRowsIsRefused) {
         EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
 }
 
-TEST(StatementText, MoreThanOneRowToInsertIsRefused) {
-    accepted("INSERT INTO t (a, b) VALUES (1, (2 + 3)) ");
+TEST(StatementText, OneRowOfLiteralsIsInserted) {
+    accepted("INSERT INTO t (a, [b c], d, e) VALUES (-1, 'x', Null, True)");
+    accepted("INSERT INTO t VALUES (+1.5, #12/31/2005#) ;");
     for (const char* text : {"INSERT INTO t (a) VALUES ('x'), ('y')", "INSERT INTO t (a) VALUES ('x') ('y')",
-                             "INSERT INTO t (a) VALUES", "INSERT INTO t (a) VALUES 1",
-                             "INSERT INTO t (a) VALUES )", "INSERT INTO t (a) VALUES ('x'"})
+                             "INSERT INTO t (a b) VALUES (1)", "INSERT INTO t (a) (b) VALUES (1)"})
         EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;
+    for (const char* text :
+         {"INSERT INTO t (a) VALUES", "INSERT INTO t (a) VALUES 1", "INSERT INTO t (a) VALUES )",
+          "INSERT INTO t (a) VALUES ('x'", "INSERT INTO t (a) VALUES ()", "INSERT INTO t (a) VALUES ('x',)",
+          "INSERT INTO t (a) VALUES ('O'Brien')", "INSERT INTO t (a) VALUES ('Rock''n'Roll')",
+          "INSERT INTO t (a) VALUES ('x' || 'y')", "INSERT INTO t (a) VALUES ((1))",
+          "INSERT INTO t (a) VALUES (b)", "INSERT INTO t (a) VALUES ((SELECT b FROM u))",
+          "INSERT INTO t (a) VALUES (-'x')"})
+        EXPECT_EQ(failure(text), ErrorCode::SyntaxError) << text;
+}
+
+TEST(StatementText, LiteralsAreTakenOutOfTheText) {
+    const auto shape = [](const char* text) { return accepted(text).sql.toStdString(); };
+    const StatementText insert = accepted("INSERT INTO t (a, b, c, d) VALUES (12, 'L''oro', -1.5, True) ;");
+    EXPECT_EQ(insert.sql.toStdString(), "INSERT INTO t (a, b, c, d) VALUES (?, ?, -?, True) ;");
+    EXPECT_EQ(insert.values, (std::vector<jet::Value>{int64_t{12}, std::string("L'oro"), 1.5}));
+    EXPECT_EQ(shape("SELECT * FROM [a'1'] WHERE b = 'x' ORDER BY 2"),
+              "SELECT * FROM [a'1'] WHERE b = ? ORDER BY 2");
+    EXPECT_EQ(shape("SELECT * FROM t WHERE c = 1e3 OR d = 0x1F"),
+              "SELECT * FROM t WHERE c = 1e3 OR d = 0x1F");
+    EXPECT_EQ(accepted("SELECT * FROM t WHERE a = #1/2/1900 12:00#").values, std::vector<jet::Value>{3.5});
+    EXPECT_EQ(failure("SELECT * FROM t WHERE a = #13/32/2000#"), ErrorCode::SyntaxError);
+    EXPECT_EQ(failure("SELECT * FROM t WHERE a = #1/1/2000"), ErrorCode::SyntaxError);
 }
 
 TEST(StatementText, WhatIsNotClosedIsASyntaxError) {

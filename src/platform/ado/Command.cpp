@@ -54,7 +54,7 @@ Result<qint64> Command::execute() {
     if (!target.ok()) return target.status();
     if (const QString& source = statement.value().readFrom; !source.isEmpty())
         if (const auto found = session.table(source); !found.ok()) return found.status();
-    const Result<Prepared> prepared = session.prepare(statement.value().sql);
+    const Result<Prepared> prepared = session.prepare(statement.value().sql, statement.value().values);
     if (!prepared.ok()) return prepared.status();
     const bool changing = statement.value().verb == StatementText::Verb::Update;
     if (Status status = changing ? target.value()->updatable({}) : target.value()->writable(); !status.ok())
@@ -65,9 +65,7 @@ Result<qint64> Command::execute() {
         const int code = sqlite3_step(prepared.value().get());
         if (code == SQLITE_DONE) return {};
         if (deadline.passed()) return {ErrorCode::Timeout, QStringLiteral("Tempo scaduto.")};
-        Status failure = session.takeFailure();
-        sqlite3_reset(prepared.value().get());
-        return failure;
+        return session.takeFailure();
     });
     if (!status.ok()) return status;
     return session.takeChanges();

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "platform/ado/DateText.h"
 #include "platform/ado/Value.h"
 
 namespace ado {
@@ -38,12 +39,14 @@ std::optional<double> realOf(const jet::Value& value) {
     if (const auto* date = std::get_if<jet::Date>(&value)) return date->days;
     if (const auto* amount = std::get_if<jet::Currency>(&value))
         return static_cast<double>(amount->tenThousandths) / 10000;
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        bool ok = false;
-        const double number = QString::fromStdString(*text).trimmed().toDouble(&ok);
-        if (ok) return number;
-    }
+    if (const auto* text = std::get_if<std::string>(&value)) return readNumber(*text);
     return std::nullopt;
+}
+
+std::optional<double> daysOf(const jet::Value& value) {
+    if (const auto* text = std::get_if<std::string>(&value))
+        if (const auto days = readDate(QString::fromStdString(*text), dateOrder(QLocale()))) return days;
+    return realOf(value);
 }
 
 Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& column) {
@@ -57,39 +60,42 @@ Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& colum
 
 }  // namespace
 
-Result<jet::Value> fitToColumn(const jet::Value& raw, const jet::Column& column) {
-    const Value value(raw);
-    if (value.isNull()) return column.type == Type::YesNo ? jet::Value(false) : raw;
+Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
+    if (std::holds_alternative<std::monostate>(raw))
+        return column.type == Type::YesNo ? jet::Value(false) : std::move(raw);
     switch (column.type) {
         case Type::YesNo: {
-            const Result<bool> yes = value.toBool();
+            const Result<bool> yes = Value(std::move(raw)).toBool();
             return yes.ok() ? Result<jet::Value>(jet::Value(yes.value())) : mismatch(column);
         }
         case Type::Byte:
-            return fitInteger(value, column, 0, std::numeric_limits<uint8_t>::max());
+            return fitInteger(Value(std::move(raw)), column, 0, std::numeric_limits<uint8_t>::max());
         case Type::Integer:
-            return fitInteger(value, column, std::numeric_limits<int16_t>::min(),
+            return fitInteger(Value(std::move(raw)), column, std::numeric_limits<int16_t>::min(),
                               std::numeric_limits<int16_t>::max());
         case Type::Long:
-            return fitInteger(value, column, std::numeric_limits<int32_t>::min(),
+            return fitInteger(Value(std::move(raw)), column, std::numeric_limits<int32_t>::min(),
                               std::numeric_limits<int32_t>::max());
         case Type::Currency:
             return fitCurrency(raw, column);
         case Type::Single:
-        case Type::Double:
-        case Type::Date: {
+        case Type::Double: {
             const std::optional<double> number = realOf(raw);
-            if (!number) return mismatch(column);
-            return column.type == Type::Date ? jet::Value(jet::Date{*number}) : jet::Value(*number);
+            return number ? Result<jet::Value>(jet::Value(*number)) : mismatch(column);
+        }
+        case Type::Date: {
+            const std::optional<double> days = daysOf(raw);
+            return days ? Result<jet::Value>(jet::Value(jet::Date{*days})) : mismatch(column);
         }
         case Type::Text:
         case Type::Memo: {
             if (std::holds_alternative<std::string>(raw)) return raw;
-            const Result<QString> text = value.toText(QLocale::c());
+            const Result<QString> text = Value(std::move(raw)).toText(QLocale::c());
             return text.ok() ? Result<jet::Value>(jet::Value(text.value().toStdString())) : mismatch(column);
         }
         default:
-            return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(raw) : mismatch(column);
+            return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(std::move(raw))
+                                                           : mismatch(column);
     }
 }
 

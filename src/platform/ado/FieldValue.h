@@ -5,9 +5,10 @@
 
 namespace ado {
 
-/// `value` in the form in which `column` holds it: numbers written as text become numbers and the other way
-/// round, fractions are rounded for whole numbers (halves to even), Null is False for a yes/no. Lengths are
-/// left to the engine. Fails with TypeMismatch or Overflow, naming the column.
-Result<jet::Value> fitToColumn(const jet::Value& value, const jet::Column& column);
+/// `value` in the form in which `column` holds it: numbers and dates written as text are read (plainly, else
+/// as the user's locale writes them) and the other way round, fractions are rounded for whole numbers (halves
+/// to even), Null is False for a yes/no. Lengths are left to the engine. Fails with TypeMismatch or Overflow,
+/// naming the column.
+Result<jet::Value> fitToColumn(jet::Value value, const jet::Column& column);
 
 }  // namespace ado

@@ -31,11 +31,11 @@ struct GroupProgress {
 /// the machine. Of the rows behind them a crash leaves none. Memory does not grow with the number of
 /// statements.
 ///
-/// A group is committed when it holds groupSize() statements, when it is groupAge() old at the next execute(),
-/// when a row is refused, by commit(), by the destructor, and before anything else in this program writes to
-/// the database; recordsets in between see all rows. From the first statement of a group to its commit other
-/// programs can neither read nor write the file: call commit() before waiting for anything (a box, a slow
-/// source).
+/// A group is committed when it holds groupSize() statements, when it is groupAge() old at the next
+/// execute(), when a row is refused, by commit(), by the destructor, and before anything else in this program
+/// writes to the database; recordsets in between see all rows. From the first statement of a group to its
+/// commit other programs can neither read nor write the file: call commit() before waiting for anything (a
+/// box, a slow source).
 class GroupedInserts {
   public:
     GroupedInserts();

@@ -16,20 +16,19 @@ const char* identityName(const jet::TableDefinition& table) {
 
 }  // namespace
 
-Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
-                                        const StatementText& statement) {
+Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session, StatementText statement) {
     const Result<JetTable*> table = session->table(statement.table);
     if (!table.ok()) return table.status();
     std::unique_ptr<Rows> rows(new Rows(session));
-    QByteArray sql = statement.sql;
+    rows->m_literals = std::move(statement.values);
     const jet::TableDefinition& definition = table.value()->definition();
     if (const char* identity = identityName(definition); identity && statement.star) {
         rows->m_table = table.value();
-        sql.replace(*statement.star, 1, identity);
+        statement.sql.replace(*statement.star, 1, identity);
         for (const jet::Column& column : definition.columns)
             rows->m_names.push_back(column.name);
     }
-    Result<Prepared> prepared = session->prepare(sql);
+    Result<Prepared> prepared = session->prepare(statement.sql, rows->m_literals);
     if (!prepared.ok()) return prepared.status();
     rows->m_statement = std::move(prepared).value();
     if (!rows->m_table)

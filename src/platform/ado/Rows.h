@@ -13,7 +13,7 @@ namespace ado {
 class Rows {
   public:
     static Result<std::unique_ptr<Rows>> run(const std::shared_ptr<Session>& session,
-                                             const StatementText& statement);
+                                             StatementText statement);
     ~Rows();
     Rows(const Rows&) = delete;
     Rows& operator=(const Rows&) = delete;
@@ -42,6 +42,7 @@ class Rows {
     Value valueOf(int column) const;
 
     std::shared_ptr<Session> m_session;
+    std::vector<jet::Value> m_literals;  ///< of the statement
     JetTable* m_table = nullptr;
     Prepared m_statement;  ///< null when all rows are known, or a step has failed
     Status m_failure;

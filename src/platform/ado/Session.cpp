@@ -21,6 +21,7 @@ struct PoolEntry {
 };
 
 constexpr size_t pooledSessions = 4;
+constexpr size_t idleStatements = 16;
 constexpr size_t cachedPages = 1024;  // the system keeps the file as well
 
 /// The most recently used one last.
@@ -32,6 +33,16 @@ std::vector<PoolEntry>& pool() {
 int compareTexts(void*, int leftSize, const void* left, int rightSize, const void* right) {
     return jet::compareGeneral({static_cast<const char*>(left), static_cast<size_t>(leftSize)},
                                {static_cast<const char*>(right), static_cast<size_t>(rightSize)});
+}
+
+void bind(sqlite3_stmt* statement, int number, const jet::Value& value) {
+    if (const auto* whole = std::get_if<int64_t>(&value)) {
+        sqlite3_bind_int64(statement, number, *whole);
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        sqlite3_bind_double(statement, number, *real);
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+        sqlite3_bind_text64(statement, number, text->data(), text->size(), SQLITE_STATIC, SQLITE_UTF8);
+    }
 }
 
 /// The Italian words for what SQLite says about a statement.
@@ -103,6 +114,8 @@ void Session::closeAll() {
 }
 
 Session::~Session() {
+    for (const auto& [sql, statement] : m_idle)
+        sqlite3_finalize(statement);
     sqlite3_close(m_sqlite);
 }
 
@@ -185,17 +198,45 @@ int Session::authorize(void* client, int action, const char* first, const char* 
     }
 }
 
-Result<Prepared> Session::prepare(const QByteArray& sql) {
+Result<Prepared> Session::compile(const QByteArray& sql) {
+    const auto idle =
+        std::find_if(m_idle.rbegin(), m_idle.rend(), [&](const auto& known) { return known.first == sql; });
+    if (idle != m_idle.rend()) {
+        Prepared prepared(idle->second, {this, sql});
+        m_idle.erase(std::next(idle).base());
+        return prepared;
+    }
     sqlite3_stmt* statement = nullptr;
-    const char* tail = nullptr;
     sqlite3_set_authorizer(m_sqlite, authorize, this);
-    const int code =
-        sqlite3_prepare_v2(m_sqlite, sql.constData(), static_cast<int>(sql.size()), &statement, &tail);
+    const int code = sqlite3_prepare_v3(m_sqlite, sql.constData(), static_cast<int>(sql.size()),
+                                        SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     sqlite3_set_authorizer(m_sqlite, nullptr, nullptr);
-    Prepared prepared(statement);
     if (code != SQLITE_OK) return takeFailure();
     if (!statement) return Status(ErrorCode::SyntaxError, QStringLiteral("Istruzione SQL non valida."));
+    return Prepared(statement, {this, sql});
+}
+
+Result<Prepared> Session::prepare(const QByteArray& sql, const std::vector<jet::Value>& values) {
+    Result<Prepared> prepared = compile(sql);
+    if (!prepared.ok()) return prepared;
+    int number = 0;
+    for (const jet::Value& value : values)
+        bind(prepared.value().get(), ++number, value);
     return prepared;
+}
+
+void Session::keep(sqlite3_stmt* statement, const QByteArray& sql) {
+    sqlite3_reset(statement);
+    sqlite3_clear_bindings(statement);
+    if (m_idle.size() == idleStatements) {
+        sqlite3_finalize(m_idle.front().second);
+        m_idle.erase(m_idle.begin());
+    }
+    m_idle.emplace_back(sql, statement);
+}
+
+void KeepStatement::operator()(sqlite3_stmt* statement) const {
+    session->keep(statement, sql);
 }
 
 Status Session::begin() {
@@ -225,7 +266,7 @@ Status Session::write(const std::function<Status()>& work) {
 
 Status Session::insertInGroup(GroupProgress& group, const StatementText& statement) {
     if (const auto target = table(statement.table); !target.ok()) return target.status();
-    const Result<Prepared> prepared = prepare(statement.sql);
+    const Result<Prepared> prepared = prepare(statement.sql, statement.values);
     if (!prepared.ok()) return prepared.status();
     if (m_group != &group) {
         commitGroup();

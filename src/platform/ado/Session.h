@@ -16,11 +16,15 @@
 namespace ado {
 
 class Rows;
+class Session;
 
-struct FinalizeStatement {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+/// Gives a compiled statement back to its session, which keeps it for the next text of the same shape.
+struct KeepStatement {
+    Session* session = nullptr;
+    QByteArray sql;
+    void operator()(sqlite3_stmt* statement) const;
 };
-using Prepared = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+using Prepared = std::unique_ptr<sqlite3_stmt, KeepStatement>;
 
 /// An open database file together with the SQLite connection that runs statements on it. Sessions are kept in
 /// a small pool, so that a recordset or command that names its database by text finds it open, with its pages
@@ -41,9 +45,9 @@ class Session {
 
     /// A local table of the user's by name, without regard to case, known to SQLite from here on.
     Result<JetTable*> table(const QString& name);
-    /// Compiles one statement. Whatever is not reading, inserting, changing or deleting rows of known tables
-    /// is refused.
-    Result<Prepared> prepare(const QByteArray& sql);
+    /// One statement compiled, with a value for each question mark; these have to stay while it runs.
+    /// Whatever is not reading, inserting, changing or deleting rows of known tables is refused.
+    Result<Prepared> prepare(const QByteArray& sql, const std::vector<jet::Value>& values);
 
     /// Runs `work` as one transaction: durable when it succeeds, undone when it fails.
     Status write(const std::function<Status()>& work);
@@ -76,12 +80,16 @@ class Session {
     Status end(Status status);
     Status declare(JetTable& table);
     void forget();
+    Result<Prepared> compile(const QByteArray& sql);
+    void keep(sqlite3_stmt* statement, const QByteArray& sql);
+    friend KeepStatement;
     static int authorize(void* session, int action, const char* first, const char* second,
                          const char* database, const char* trigger);
 
     std::unique_ptr<jet::Database> m_database;
     sqlite3* m_sqlite = nullptr;
     std::map<std::string, std::unique_ptr<JetTable>> m_tables;  ///< by lower-case name
+    std::vector<std::pair<QByteArray, sqlite3_stmt*>> m_idle;   ///< compiled; the one used last is the last
     std::vector<Rows*> m_readers;
     JetTable* m_declaring = nullptr;
     Status m_failure;

@@ -1,105 +1,32 @@
 #include "platform/ado/StatementText.h"
 
 #include <algorithm>
-#include <array>
-#include <vector>
+#include <charconv>
+
+#include "platform/ado/DateText.h"
+#include "platform/ado/SqlTokens.h"
 
 namespace ado {
 
 namespace {
 
 constexpr qsizetype longestStatement = 64000;
+constexpr size_t mostParameters = 500;
 
-struct Token {
-    enum class Kind { Word, Number, Name, Text, Sign };
-    Kind kind = Kind::Sign;
-    QByteArray text;  ///< a word in capitals, a name without its brackets, a sign as it stands
-    qsizetype at = 0;
+using Tokens = std::vector<SqlToken>;
+using Kind = SqlToken::Kind;
 
-    bool is(const char* word) const { return (kind == Kind::Word || kind == Kind::Sign) && text == word; }
-};
-using Tokens = std::vector<Token>;
-
-Status refused(const QString& what) {
-    return {ErrorCode::NotSupported, QStringLiteral("Istruzione SQL non ammessa: %1.").arg(what)};
-}
-
-Status syntax(const QString& what) {
-    return {ErrorCode::SyntaxError, QStringLiteral("Errore di sintassi nell'istruzione SQL: %1.").arg(what)};
-}
-
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isWordStart(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
-}
-
-/// Index behind the closing quote of the text that begins at `at`, or -1. Doubled quotes stay inside.
-qsizetype endOfText(const QByteArray& sql, qsizetype at) {
-    for (qsizetype i = at + 1; i < sql.size(); ++i) {
-        if (sql[i] != '\'') continue;
-        if (i + 1 >= sql.size() || sql[i + 1] != '\'') return i + 1;
-        ++i;
-    }
-    return -1;
-}
-
-Result<Tokens> split(const QByteArray& sql) {
-    Tokens tokens;
-    for (qsizetype at = 0; at < sql.size();) {
-        const char c = sql[at];
-        const char next = at + 1 < sql.size() ? sql[at + 1] : '\0';
-        qsizetype end = at + 1;
-        if (c == '\0') return refused(QStringLiteral("carattere nullo"));
-        if (isBlank(c)) {
-            at = end;
-            continue;
-        }
-        if ((c == '-' && next == '-') || (c == '/' && next == '*'))
-            return refused(QStringLiteral("commento"));
-        if (c == '?' || c == ':' || c == '@' || c == '$') return refused(QStringLiteral("parametro"));
-        Token token{Token::Kind::Sign, {}, at};
-        if (c == '\'') {
-            end = endOfText(sql, at);
-            if (end < 0) return syntax(QStringLiteral("manca un apice di chiusura"));
-            token.kind = Token::Kind::Text;
-        } else if (c == '[') {
-            end = sql.indexOf(']', at) + 1;
-            if (end == 0) return syntax(QStringLiteral("manca una parentesi quadra di chiusura"));
-            token.kind = Token::Kind::Name;
-            token.text = sql.mid(at + 1, end - at - 2);
-        } else if (c == '"' || c == '`') {
-            return syntax(QStringLiteral("virgolette fuori da un testo"));
-        } else if (isWordStart(c)) {
-            while (end < sql.size() && (isWordStart(sql[end]) || isDigit(sql[end])))
-                ++end;
-            token.kind = Token::Kind::Word;
-            token.text = sql.mid(at, end - at).toUpper();
-        } else if (isDigit(c) || (c == '.' && isDigit(next))) {
-            while (end < sql.size() && (isWordStart(sql[end]) || isDigit(sql[end]) || sql[end] == '.'))
-                ++end;
-            token.kind = Token::Kind::Number;
-        } else {
-            token.text = QByteArray(1, c);
-        }
-        at = end;
-        tokens.push_back(std::move(token));
-    }
-    return tokens;
+QString toText(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 /// Walks the tokens of one statement.
 class Reader {
   public:
-    Reader(const QByteArray& sql, const Tokens& tokens) : m_sql(sql), m_tokens(tokens) {}
+    explicit Reader(const Tokens& tokens) : m_tokens(tokens) {}
 
     bool atEnd() const { return m_next >= m_tokens.size(); }
-    bool take(const char* word) {
+    bool take(std::string_view word) {
         if (atEnd() || !m_tokens[m_next].is(word)) return false;
         ++m_next;
         return true;
@@ -107,31 +34,51 @@ class Reader {
     /// A table's name, bare or in brackets.
     bool takeName(QString& name) {
         if (atEnd()) return false;
-        const Token& token = m_tokens[m_next];
-        if (token.kind == Token::Kind::Name) {
-            name = QString::fromUtf8(token.text);
-        } else if (token.kind == Token::Kind::Word) {
-            name = QString::fromUtf8(m_sql.mid(token.at, token.text.size()));
-        } else {
-            return false;
-        }
+        const SqlToken& token = m_tokens[m_next];
+        if (token.kind != Kind::Name && token.kind != Kind::Word) return false;
+        name = toText(token.text);
         ++m_next;
         return true;
     }
-    bool skipTo(const char* word) {
+    /// Names in parentheses, or nothing.
+    bool skipColumns() {
+        if (!take("(")) return true;
+        do {
+            if (atEnd() || (m_tokens[m_next].kind != Kind::Name && m_tokens[m_next].kind != Kind::Word))
+                return false;
+            ++m_next;
+        } while (take(","));
+        return take(")");
+    }
+    /// Literals in parentheses: what was meant to stand inside a text, and slipped out, is none.
+    bool skipRow() {
+        if (!take("(")) return false;
+        do {
+            if (atEnd()) return false;
+            const bool sign = take("-") || take("+");
+            if (atEnd()) return false;
+            const SqlToken& token = m_tokens[m_next++];
+            const bool number = token.kind == Kind::Number;
+            const bool other = token.kind == Kind::Text || token.kind == Kind::Date || token.is("TRUE") ||
+                               token.is("FALSE") || token.is("NULL");
+            if (!number && (sign || !other)) return false;
+        } while (take(","));
+        return take(")");
+    }
+    bool skipTo(std::string_view word) {
         while (!atEnd() && !m_tokens[m_next].is(word))
             ++m_next;
         return take(word);
     }
-    bool next(std::initializer_list<const char*> words) const {
+    bool next(std::initializer_list<std::string_view> words) const {
         return std::any_of(words.begin(), words.end(),
-                           [&](const char* word) { return m_tokens[m_next].is(word); });
+                           [&](std::string_view word) { return m_tokens[m_next].is(word); });
     }
-    bool restHas(std::initializer_list<const char*> words) const {
+    bool restHas(std::initializer_list<std::string_view> words) const {
         return std::any_of(m_tokens.begin() + static_cast<std::ptrdiff_t>(m_next), m_tokens.end(),
-                           [&](const Token& token) {
+                           [&](const SqlToken& token) {
                                return std::any_of(words.begin(), words.end(),
-                                                  [&](const char* word) { return token.is(word); });
+                                                  [&](std::string_view word) { return token.is(word); });
                            });
     }
     /// Rows told by their identities come out the same, unless a column is named by its number or rows are
@@ -141,24 +88,13 @@ class Reader {
         for (size_t i = m_next; i < m_tokens.size(); ++i) {
             if (m_tokens[i].is("GROUP")) return false;
             ordered = ordered || m_tokens[i].is("ORDER");
-            if (ordered && m_tokens[i].kind == Token::Kind::Number) return false;
+            if (ordered && m_tokens[i].kind == Kind::Number) return false;
         }
         return true;
-    }
-    /// The rest is one pair of parentheses with what it holds: the dialect inserts one row at a time.
-    bool restIsOneRow() const {
-        int depth = 0;
-        for (size_t i = m_next; i < m_tokens.size(); ++i) {
-            if (m_tokens[i].is("(")) ++depth;
-            if (m_tokens[i].is(")")) --depth;
-            if (depth <= 0) return depth == 0 && i > m_next && i + 1 == m_tokens.size();
-        }
-        return false;
     }
     qsizetype offset() const { return m_tokens[m_next].at; }
 
   private:
-    const QByteArray& m_sql;
     const Tokens& m_tokens;
     size_t m_next = 0;
 };
@@ -185,6 +121,20 @@ bool readSelect(Reader& reader, QString& table, std::optional<qsizetype>* star) 
     return true;
 }
 
+Status readInsert(Reader& reader, StatementText& statement) {
+    statement.verb = StatementText::Verb::Insert;
+    const Status refused = refusedStatement(QStringLiteral("forma non prevista"));
+    if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.skipColumns()) return refused;
+    if (reader.take("VALUES")) {
+        if (!reader.skipRow())
+            return wrongStatement(QStringLiteral("i valori da inserire non sono leggibili"));
+        return reader.atEnd() ? Status() : refused;
+    }
+    if (!reader.take("SELECT") || reader.restHas({"SELECT"})) return refused;
+    return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused;
+}
+
+/// Every other kind of statement.
 bool readStatement(Reader& reader, StatementText& statement) {
     using Verb = StatementText::Verb;
     if (reader.take("SELECT")) {
@@ -198,42 +148,86 @@ bool readStatement(Reader& reader, StatementText& statement) {
         return reader.takeName(statement.table) && reader.take("SET") &&
                !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING", "ORDER", "LIMIT"});
     }
-    if (reader.take("DELETE")) {
-        statement.verb = Verb::Delete;
-        return reader.take("FROM") && reader.takeName(statement.table) && conditionOnly(reader);
+    statement.verb = Verb::Delete;
+    return reader.take("DELETE") && reader.take("FROM") && reader.takeName(statement.table) &&
+           conditionOnly(reader);
+}
+
+/// The value of a literal; nothing for what had better be left to SQLite.
+std::optional<jet::Value> valueOf(const SqlToken& token) {
+    const char* begin = token.text.data();
+    const char* end = begin + token.text.size();
+    if (token.kind == Kind::Text) {
+        std::string text;
+        text.reserve(token.text.size());
+        for (const char* c = begin; c != end; ++c) {
+            text.push_back(*c);
+            if (*c == '\'') ++c;  // doubled
+        }
+        return text;
     }
-    if (!reader.take("INSERT") || !reader.take("INTO") || !reader.takeName(statement.table)) return false;
-    statement.verb = Verb::Insert;
-    if (reader.atEnd() || !reader.next({"(", "VALUES", "SELECT"}) ||
-        reader.restHas({"CONFLICT", "RETURNING", "WITH"}))
-        return false;
-    if (!reader.restHas({"SELECT"})) {
-        return !reader.restHas({"FROM"}) && reader.skipTo("VALUES") && reader.restIsOneRow();
+    int64_t whole = 0;
+    if (const auto read = std::from_chars(begin, end, whole); read.ec == std::errc() && read.ptr == end)
+        return whole;
+    double real = 0;
+    if (const auto read = std::from_chars(begin, end, real, std::chars_format::fixed);
+        read.ec == std::errc() && read.ptr == end)
+        return real;
+    return std::nullopt;
+}
+
+/// Takes the literals out of the text, so that statements that differ in nothing else are compiled once.
+Status takeLiterals(const Tokens& tokens, StatementText& statement) {
+    QByteArray sql;
+    qsizetype copied = 0;
+    for (const SqlToken& token : tokens) {
+        // A number behind these words may be a column's.
+        const bool ordering = token.is("ORDER") || token.is("GROUP");
+        if (ordering || statement.values.size() == mostParameters) break;
+        std::optional<jet::Value> value;
+        if (token.kind == Kind::Date) {
+            const std::optional<double> days = readDate(toText(token.text), DateOrder::MonthFirst);
+            if (!days)
+                return wrongStatement(QStringLiteral("la data #%1# non è valida").arg(toText(token.text)));
+            value = *days;
+        } else if (token.kind == Kind::Text || token.kind == Kind::Number) {
+            value = valueOf(token);
+        }
+        if (!value) continue;
+        statement.values.push_back(std::move(*value));
+        sql.append(statement.sql.constData() + copied, token.at - copied).append('?');
+        copied = token.end;
     }
-    reader.skipTo("SELECT");
-    return !reader.restHas({"SELECT"}) && readSelect(reader, statement.readFrom, nullptr);
+    sql.append(statement.sql.constData() + copied, statement.sql.size() - copied);
+    statement.sql = std::move(sql);
+    return {};
 }
 
 }  // namespace
 
 Result<StatementText> StatementText::read(const QString& text) {
-    if (text.size() > longestStatement) return refused(QStringLiteral("testo troppo lungo"));
+    if (text.size() > longestStatement) return refusedStatement(QStringLiteral("testo troppo lungo"));
     StatementText statement;
     statement.sql = text.toUtf8();
-    Result<Tokens> split_ = split(statement.sql);
-    if (!split_.ok()) return split_.status();
-    Tokens tokens = std::move(split_).value();
+    Result<Tokens> pieces = splitSql(statement.sql);
+    if (!pieces.ok()) return pieces.status();
+    Tokens& tokens = pieces.value();
     const auto end =
-        std::find_if(tokens.begin(), tokens.end(), [](const Token& token) { return token.is(";"); });
+        std::find_if(tokens.begin(), tokens.end(), [](const SqlToken& token) { return token.is(";"); });
     if (end != tokens.end() && end + 1 != tokens.end())
-        return refused(QStringLiteral("più di una istruzione"));
+        return refusedStatement(QStringLiteral("più di una istruzione"));
     tokens.erase(end, tokens.end());
-    if (tokens.empty()) return syntax(QStringLiteral("istruzione vuota"));
+    if (tokens.empty()) return wrongStatement(QStringLiteral("istruzione vuota"));
     if (!tokens.front().is("SELECT") && !tokens.front().is("INSERT") && !tokens.front().is("UPDATE") &&
         !tokens.front().is("DELETE"))
-        return refused(QStringLiteral("sono ammesse SELECT, INSERT, UPDATE e DELETE"));
-    Reader reader(statement.sql, tokens);
-    if (!readStatement(reader, statement)) return refused(QStringLiteral("forma non prevista"));
+        return refusedStatement(QStringLiteral("sono ammesse SELECT, INSERT, UPDATE e DELETE"));
+    Reader reader(tokens);
+    if (reader.take("INSERT")) {
+        if (Status status = readInsert(reader, statement); !status.ok()) return status;
+    } else if (!readStatement(reader, statement)) {
+        return refusedStatement(QStringLiteral("forma non prevista"));
+    }
+    if (Status status = takeLiterals(tokens, statement); !status.ok()) return status;
     return statement;
 }
 

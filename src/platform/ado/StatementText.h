@@ -3,7 +3,9 @@
 #include <optional>
 #include <QByteArray>
 #include <QString>
+#include <vector>
 
+#include "platform/jet/Value.h"
 #include "platform/Status.h"
 
 namespace ado {
@@ -18,7 +20,8 @@ struct StatementText {
     enum class Verb { Select, Insert, Update, Delete };
 
     Verb verb = Verb::Select;
-    QByteArray sql;    ///< UTF-8, as given
+    QByteArray sql;  ///< UTF-8, as given, but with a question mark for each literal of `values`
+    std::vector<jet::Value> values;
     QString table;     ///< the one that is read, or written
     QString readFrom;  ///< the table that an INSERT … SELECT reads, else empty
     /// Offset of the asterisk in `SELECT * FROM table …`, where rows can be told by their identities.

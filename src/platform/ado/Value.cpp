@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include <limits>
-#include <QDate>
-#include <QTime>
+
+#include "platform/ado/DateText.h"
 
 namespace ado {
 
@@ -35,43 +35,22 @@ QString currencyText(int64_t tenThousandths, const QLocale& locale) {
     return decimals.isEmpty() ? text : text + locale.decimalPoint() + decimals;
 }
 
-Result<QString> dateText(double days, const QLocale& locale) {
-    constexpr double firstDay = -657434;  // 100-01-01
-    constexpr double lastDay = 2958466;   // behind 9999-12-31
-    constexpr int secondsOfDay = 24 * 60 * 60;
-    if (!(days >= firstDay && days < lastDay)) return mismatch;
-    auto wholeDays = static_cast<qint64>(days);
-    auto seconds =
-        static_cast<int>(std::lround(std::fabs(days - static_cast<double>(wholeDays)) * secondsOfDay));
-    if (seconds == secondsOfDay) {
-        seconds = 0;
-        ++wholeDays;
-    }
-    QString dateFormat = locale.dateFormat(QLocale::ShortFormat);
-    if (!dateFormat.contains(QLatin1String("yyyy")))
-        dateFormat.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    QString timeFormat = locale.timeFormat(QLocale::LongFormat);
-    timeFormat.remove(QLatin1Char('t'));
-    const QString date = locale.toString(QDate(1899, 12, 30).addDays(wholeDays), dateFormat);
-    const QString time = locale.toString(QTime(0, 0).addSecs(seconds), timeFormat).trimmed();
-    if (seconds == 0) return date;
-    return wholeDays == 0 ? time : date + QLatin1Char(' ') + time;
-}
-
 Result<qint64> rounded(double number) {
     const double whole = std::nearbyint(number);
     if (!(std::fabs(whole) < 9.2e18)) return overflow;
     return static_cast<qint64>(whole);
 }
 
-Result<double> numberOf(const std::string& text) {
+}  // namespace
+
+std::optional<double> readNumber(const std::string& utf8) {
+    const QString text = QString::fromStdString(utf8).trimmed();
     bool ok = false;
-    const double number = QString::fromStdString(text).trimmed().toDouble(&ok);
-    if (!ok) return mismatch;
+    double number = text.toDouble(&ok);
+    if (!ok) number = QLocale().toDouble(text, &ok);
+    if (!ok || !std::isfinite(number)) return std::nullopt;
     return number;
 }
-
-}  // namespace
 
 Value::Type Value::type() const {
     // in the order of the alternatives of jet::Value
@@ -97,7 +76,8 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
         case Type::Currency:
             return currencyText(std::get<jet::Currency>(m_value).tenThousandths, locale);
         case Type::Date:
-            return dateText(std::get<jet::Date>(m_value).days, locale);
+            if (auto text = dateText(std::get<jet::Date>(m_value).days, locale)) return *text;
+            return mismatch;
         case Type::Text:
             return QString::fromStdString(std::get<std::string>(m_value));
         case Type::Binary:
@@ -126,9 +106,9 @@ Result<qint64> Value::toInteger() const {
         case Type::Date:
             return rounded(std::get<jet::Date>(m_value).days);
         case Type::Text: {
-            const Result<double> number = numberOf(std::get<std::string>(m_value));
-            if (!number.ok()) return number.status();
-            return rounded(number.value());
+            const std::optional<double> number = readNumber(std::get<std::string>(m_value));
+            if (!number) return mismatch;
+            return rounded(*number);
         }
         case Type::Binary:
             break;
@@ -145,9 +125,9 @@ Result<bool> Value::toBool() const {
             };
             if (is("Vero") || is("True")) return true;
             if (is("Falso") || is("False")) return false;
-            const Result<double> number = numberOf(text.toStdString());
-            if (!number.ok()) return number.status();
-            return number.value() != 0;
+            const std::optional<double> number = readNumber(text.toStdString());
+            if (!number) return mismatch;
+            return *number != 0;
         }
         case Type::Real:
             return std::get<double>(m_value) != 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QLocale>
 #include <QString>
 #include <utility>
@@ -36,7 +37,7 @@ class Value {
     Result<QString> toText(const QLocale& locale = QLocale()) const;
     /// The same with the empty text for whatever has no text.
     QString toTextOrEmpty(const QLocale& locale = QLocale()) const;
-    /// True is -1; fractions round to the nearest, halves to even; texts are read as plain numbers. Fails
+    /// True is -1; fractions round to the nearest, halves to even; texts are read as by readNumber(). Fails
     /// with InvalidNull, TypeMismatch or Overflow.
     Result<qint64> toInteger() const;
     /// Every number but 0 is true; texts have to be a number, "Vero", "Falso", "True" or "False". Fails like
@@ -49,5 +50,9 @@ class Value {
   private:
     jet::Value m_value;
 };
+
+/// A number written plainly, with a point before the decimals, or else as users of the current locale write
+/// it. Blanks around it do not count.
+std::optional<double> readNumber(const std::string& utf8);
 
 }  // namespace ado

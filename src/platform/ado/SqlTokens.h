@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <string_view>
+#include <vector>
+
+#include "platform/Status.h"
+
+namespace ado {
+
+/// A piece of a statement. Its text belongs to the statement that was split.
+struct SqlToken {
+    enum class Kind { Word, Number, Name, Text, Date, Sign };
+    Kind kind = Kind::Sign;
+    std::string_view text;  ///< as it stands; of a name, a text and a date what is between its marks
+    qsizetype at = 0;       ///< of the first character, marks included
+    qsizetype end = 0;
+
+    /// Whether this is that word, in capitals, or sign.
+    bool is(std::string_view word) const;
+};
+
+/// The pieces of a statement in UTF-8. Names may stand in brackets, texts stand in single quotes, dates
+/// between number signs. Fails with SyntaxError for what is not closed, NotSupported for comments, parameters
+/// and NUL.
+Result<std::vector<SqlToken>> splitSql(const QByteArray& sql);
+
+Status refusedStatement(const QString& what);
+Status wrongStatement(const QString& what);
+
+}  // namespace ado
