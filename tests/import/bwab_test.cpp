@@ -1,0 +1,59 @@
+// What an entry of the address book becomes on its way into a row.
+#include "import/bWab.h"
+
+#include <QTemporaryDir>
+
+#include "support/Vectors.h"
+
+using namespace inserimento;
+
+namespace {
+
+/// What the one card of an address book gives.
+std::optional<Valori> readCard(const QByteArray& lines) {
+    const QTemporaryDir folder;
+    writeBytes(folder.filePath("a.vcf"), "BEGIN:VCARD\nVERSION:3.0\n" + lines + "\nEND:VCARD\n");
+    contacts::AddressBook book(folder.path(), folder.path());
+    EXPECT_TRUE(book.open().ok());
+    std::array<contacts::Entry, 1> entry;
+    EXPECT_EQ(book.entries(entry), 1);
+    return LeggiVoceWab(book, entry[0]);
+}
+
+}  // namespace
+
+TEST(AddressBookEntry, NulsAreCutAtTheEndOnly) {
+    EXPECT_EQ(TagliaNulli(QString("a") + QChar(0) + "b" + QString(3, QChar(0))),
+              QString("a") + QChar(0) + "b");
+    EXPECT_EQ(TagliaNulli(QString(5, QChar(0))), "");
+    EXPECT_EQ(TagliaNulli("a "), "a ");
+    EXPECT_EQ(TagliaNulli(""), "");
+}
+
+TEST(AddressBookEntry, ShortValueBehindALongOneKeepsNothingOfIt) {
+    const auto values = readCard("EMAIL:un.indirizzo.lungo@example.it\nFN:Ada\nORG:Rossi");
+    ASSERT_TRUE(values);
+    EXPECT_EQ((*values)[nom], "Ada");
+    EXPECT_EQ((*values)[rgs], "Rossi");
+}
+
+TEST(AddressBookEntry, MissingValueIsEmptyAndNotTheOneBefore) {
+    const auto values = readCard("EMAIL:ada@example.it\nFN:Ada");
+    ASSERT_TRUE(values);
+    for (const Colonna column : {rgs, piva, ind, cap, loc, prov, tel, fax, campo1, campo9})
+        EXPECT_EQ((*values)[column], "") << column;
+}
+
+TEST(AddressBookEntry, ValueOfExactlyTheLimitIsKeptWhole) {
+    EXPECT_EQ((*readCard("EMAIL:a@b.it\nFN:" + QByteArray(70, 'n')))[nom].size(), 70);
+    EXPECT_EQ((*readCard("EMAIL:a@b.it\nFN:" + QByteArray(71, 'n')))[nom].size(), 70);
+}
+
+TEST(AddressBookEntry, QuoteInAnAddressVanishesBeforeTheTest) {
+    EXPECT_EQ((*readCard("EMAIL:d'angelo@example.it"))[email], "dangelo@example.it");
+}
+
+TEST(AddressBookEntry, EntryWithoutAddressIsRefused) {
+    EXPECT_FALSE(readCard("FN:Ada"));
+    EXPECT_FALSE(readCard("FN:Ada\nEMAIL:ada@example.museum"));
+}
