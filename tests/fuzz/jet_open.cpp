@@ -1,10 +1,12 @@
 // A Jet file with anything in it: opened, walked, changed. Nothing may crash, hang or read outside its
 // bounds.
 //
-// Input: one byte that chooses a sound file made by the engine, then patches of four bytes (page, u16 offset,
-// value) that are put over it; so most inputs come far. First byte FF: the rest is the file itself.
+// Input: one byte that chooses a sound file, then patches of four bytes (page, u16 offset, value) that are
+// put over it; so most inputs come far. Below 80 the file is one made here; from 80 on it is a sample of the
+// shared folder, where that is at hand. First byte FF: the rest is the file itself.
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -16,6 +18,7 @@
 
 #include "platform/jet/Database.h"
 #include "platform/jet/OsFile.h"
+#include "support/JetTables.h"
 
 namespace {
 
@@ -24,6 +27,7 @@ using Files = std::vector<std::string>;
 // Bounds what one input may cost; a loop in the file would run into the time limit before.
 constexpr size_t mostRows = 20000;
 constexpr size_t mostChanged = 4;
+constexpr uintmax_t longestSample = 512 * 1024;
 
 std::string fileName() {
     static const std::filesystem::path path =
@@ -44,6 +48,11 @@ void require(bool fine) {
 jet::DiskStep::Outcome withoutSync(const jet::DiskStep& step) {
     const bool sync = step.kind == jet::DiskStep::Kind::Sync || step.kind == jet::DiskStep::Kind::SyncFolder;
     return sync ? jet::DiskStep::Outcome::Skip : jet::DiskStep::Outcome::Proceed;
+}
+
+std::string contentOf(const std::string& name) {
+    std::ifstream in(name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 // A file with `groups` groups and `recipients` recipients, some of them moved.
@@ -69,24 +78,111 @@ std::string soundFile(int groups, int recipients) {
         }
         require(database.commit().ok());
     }
-    std::ifstream in(fileName(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    return contentOf(fileName());
+}
+
+// A table with keys of many kinds, with properties, with memo values in all three places.
+std::string richFile() {
+    (void)soundFile(1, 1);
+    using jet::Type;
+    const QString file = QString::fromStdString(fileName());
+    const QString name = QStringLiteral("prova");
+    jettables::addTable(
+        file, "prova",
+        {{"testo", Type::Text, 50},
+         {"data", Type::Date},
+         {"guid", Type::Guid},
+         {"si", Type::YesNo},
+         {"euro", Type::Currency},
+         {"nota", Type::Memo},
+         {"oggetto", Type::Ole}},
+        {{{{0, true}, {1, false}}, 0x80}, {{{2, false}}, 0x82}, {{{4, true}}, 0x81}, {{{3, true}}, 0x80}});
+    std::vector<jet::RowId> ids;
+    {
+        auto opened = jet::Database::open(file);
+        jet::Table& table = *opened.value()->table(name).value();
+        require(opened.value()->begin().ok());
+        for (int i = 0; i < 400; ++i) {
+            const auto id = table.insert(std::vector<jet::Value>{"nome " + std::to_string(i * 7 % 100),
+                                                                 jet::Date{i / 3.0},
+                                                                 jet::Bytes(16, static_cast<uint8_t>(i)),
+                                                                 i % 2 == 0,
+                                                                 jet::Currency{i * 10000},
+                                                                 {},
+                                                                 {}});
+            require(id.ok());
+            ids.push_back(id.value());
+        }
+        require(opened.value()->commit().ok());
+    }
+    for (const auto place : {jettables::Place::InRow, jettables::Place::OneRow, jettables::Place::Chain})
+        for (const size_t column : {size_t{5}, size_t{6}})
+            jettables::setLongValue(file, name, ids[static_cast<size_t>(place)], column,
+                                    jet::Bytes(place == jettables::Place::Chain ? 9000 : 100, 'm'), place);
+    return contentOf(fileName());
 }
 
 const Files& soundFiles() {
-    static const Files files{soundFile(0, 0), soundFile(3, 60), soundFile(1500, 2)};
+    static const Files files{soundFile(0, 0), soundFile(3, 60), soundFile(1500, 2), richFile()};
+    return files;
+}
+
+const Files& sampleFiles() {
+    static const Files files = [] {
+        std::vector<std::filesystem::path> paths;
+        if (std::filesystem::exists(SHARED_DIR "/mdb"))
+            for (const auto& entry : std::filesystem::directory_iterator(SHARED_DIR "/mdb"))
+                if (entry.path().extension() == ".mdb" && entry.file_size() <= longestSample)
+                    paths.push_back(entry.path());
+        std::sort(paths.begin(), paths.end());
+        Files contents;
+        for (const auto& path : paths)
+            contents.push_back(contentOf(path.string()));
+        if (contents.empty()) std::printf("the samples are not here: inputs over them are skipped\n");
+        return contents;
+    }();
     return files;
 }
 
 std::string fileOf(std::span<const uint8_t> input) {
     if (input.empty()) return {};
     if (input[0] == 0xFF) return {input.begin() + 1, input.end()};
-    std::string file = soundFiles()[input[0] % soundFiles().size()];
+    const bool sample = input[0] >= 0x80;
+    const Files& files = sample ? sampleFiles() : soundFiles();
+    if (files.empty()) return {};
+    std::string file = files[input[0] % 0x80 % files.size()];
     for (input = input.subspan(1); input.size() >= 4; input = input.subspan(4)) {
         const size_t at = input[0] * size_t{4096} + (input[1] | input[2] << 8) % 4096;
         if (at < file.size()) file[at] = static_cast<char>(input[3]);
     }
     return file;
+}
+
+// Something that fits a column.
+jet::Value someValue(const jet::Column& column, size_t length) {
+    switch (column.type) {
+        case jet::Type::Text:
+            return std::string(std::min<size_t>(length, column.length / 2u), 'x');
+        case jet::Type::YesNo:
+            return length % 2 == 0;
+        case jet::Type::Byte:
+        case jet::Type::Integer:
+        case jet::Type::Long:
+            return static_cast<int64_t>(length % 100);
+        case jet::Type::Single:
+        case jet::Type::Double:
+            return static_cast<double>(length) / 8;
+        case jet::Type::Date:
+            return jet::Date{static_cast<double>(length)};
+        case jet::Type::Currency:
+            return jet::Currency{static_cast<int64_t>(length)};
+        case jet::Type::Guid:
+            return jet::Bytes(16, static_cast<uint8_t>(length));
+        case jet::Type::Binary:
+            return jet::Bytes(column.fixed ? column.length : std::min<size_t>(length, column.length), 1);
+        default:
+            return {};
+    }
 }
 
 void readAll(jet::Table& table, std::vector<jet::RowId>& some) {
@@ -116,16 +212,16 @@ void changeSome(jet::Database& database, jet::Table& table, const std::vector<je
     (void)table.takeAutoNumber();
     std::vector<jet::Value> row(columns.size());
     for (size_t i = 0; i < columns.size(); ++i)
-        if (columns[i].type == jet::Type::Text) row[i] = std::string("prova");
+        if (!columns[i].autoNumber) row[i] = someValue(columns[i], 5);
     (void)table.insert(row);
     for (jet::RowId id : some) {
         for (size_t i = 0; i < columns.size(); ++i) {
-            if (columns[i].type != jet::Type::Text) continue;
-            const std::pair<size_t, jet::Value> grow{i, std::string(columns[i].length / 2u, 'x')};
+            const std::pair<size_t, jet::Value> grow{i, someValue(columns[i], 300)};
             (void)table.update(id, std::span(&grow, 1));
         }
     }
-    if (!some.empty()) (void)table.erase(some.back());
+    for (jet::RowId id : some)
+        (void)table.erase(id);
     (void)database.commit();
 }
 
@@ -137,7 +233,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     removeFiles();
     std::ofstream(fileName(), std::ios::binary)
         .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (auto opened = jet::Database::open(QString::fromStdString(fileName())); opened.ok()) {
+    const jet::Database::Options options{.password = QStringLiteral("password")};  // that of a sample
+    if (auto opened = jet::Database::open(QString::fromStdString(fileName()), options); opened.ok()) {
         jet::Database& database = *opened.value();
         if (const auto catalog = database.catalog(); catalog.ok())
             for (const jet::CatalogEntry& entry : catalog.value()) {

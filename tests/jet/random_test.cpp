@@ -192,7 +192,7 @@ class RandomTest : public JetTest {
     }
     static int operations() {
         const char* wanted = std::getenv("VESTROLA_OPERATIONS");
-        return wanted ? std::atoi(wanted) : 6000;
+        return wanted ? std::atoi(wanted) : 20000;
     }
 };
 

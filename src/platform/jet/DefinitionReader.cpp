@@ -13,6 +13,10 @@ namespace {
 // A definition of 255 columns and 32 indexes with the longest names stays below this.
 constexpr size_t maxDefinitionPages = 64;
 
+// Access stops at 255 columns, those that were deleted included, and at 32 indexes.
+constexpr size_t mostColumns = 255;
+constexpr size_t mostIndexes = 64;
+
 // Bounds-checked reading of a definition from left to right.
 class Cursor {
   public:
@@ -108,9 +112,8 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
     const size_t columns = load16(p + definition::columns);
     const size_t logicalIndexes = load32(p + definition::logicalIndexes);
     const size_t realIndexes = load32(p + definition::realIndexes);
-    const auto absurd = [&](size_t count, size_t each) { return count > block.size() / each; };
-    if (absurd(columns, definition::columnLength) || absurd(realIndexes, definition::realIndexLength) ||
-        absurd(logicalIndexes, definition::logicalIndexLength))
+    if (columns > mostColumns || realIndexes > mostIndexes ||
+        logicalIndexes > block.size() / definition::logicalIndexLength)
         failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non è leggibile").arg(page));
 
     Cursor cursor(block, definition::indexCounts, page);
