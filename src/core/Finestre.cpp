@@ -7,6 +7,8 @@
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG.h"
+#include "message/frmEditor.h"
+#include "message/frmPropBody.h"
 #include "send/frmInvia.h"
 #include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
@@ -19,12 +21,13 @@ namespace {
 
 QPointer<frmMain> principale;
 QPointer<frmSplash> apertura;
+QPointer<frmEditor> scrittura;
 
-/// A window that stands over the main one and belongs to it.
+/// A window that stands over another one and belongs to it.
 template <class Finestra>
-Finestra& dialogo() {
+Finestra& dialogo(QWidget& sopra = finestre::Main()) {
     static QPointer<Finestra> finestra;
-    if (!finestra) finestra = new Finestra(&finestre::Main());
+    if (!finestra) finestra = new Finestra(&sopra);
     return *finestra;
 }
 
@@ -52,6 +55,18 @@ frmDestinatario& finestre::Destinatario() {
 
 frmInfoSu& finestre::InfoSu() {
     return dialogo<frmInfoSu>();
+}
+
+frmEditor& finestre::Editor() {
+    if (!scrittura) {
+        scrittura = new frmEditor(&Main());
+        scrittura->Carica();
+    }
+    return *scrittura;
+}
+
+frmPropBody& finestre::PropBody() {
+    return dialogo<frmPropBody>(Editor());
 }
 
 frmScelta& finestre::Scelta() {

@@ -2,11 +2,13 @@
 
 class frmAccount;
 class frmDestinatario;
+class frmEditor;
 class frmImpDB;
 class frmImpTXT;
 class frmInfoSu;
 class frmInvia;
 class frmMain;
+class frmPropBody;
 class frmScelta;
 class frmSplash;
 
@@ -21,6 +23,8 @@ namespace finestre {
 ::frmInvia& Invia();
 ::frmDestinatario& Destinatario();
 ::frmInfoSu& InfoSu();
+::frmEditor& Editor();
+::frmPropBody& PropBody();
 ::frmScelta& Scelta();
 ::frmImpTXT& ImpTXT();
 ::frmImpDB& ImpDB();

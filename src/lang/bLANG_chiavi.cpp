@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -13,16 +12,17 @@
 #include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
+#include "lang/bLANG_chiavi_barre.h"
 #include "lang/bVAR.h"
-#include "platform/ui/CommandBars.h"
+#include "message/frmPropBody.h"
 #include "platform/ui/Controls.h"
-#include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
 #include "send/frmInvia.h"
-#include "shell/frmMain.h"
 #include "store/frmDestinatario.h"
 
 namespace {
+
+using bLANG::Chiavi;
 
 struct Variabile {
     const char* nome;
@@ -75,37 +75,6 @@ constexpr Variabile variabili[] = {
     {"varAddDestinatario", &bVAR::varAddDestinatario},
 };
 
-/// Commands of the main window: each has a caption and a description.
-constexpr const char* pulsantiMain[] = {
-    "cmdFileAccount",
-    "cmdInvia",
-    "cmdEsci",
-    "cmdMailingApri",
-    "cmdMailingSalva",
-    "cmdMailingImpTXT",
-    "cmdMailingImpOE",
-    "cmdMailingImpMSO",
-    "cmdHelpGuida",
-    "cmdHelpHomePage",
-    "cmdHelpInviaMail",
-    "cmdHelpInfoSu",
-    "cmdMailingImpDB",
-    "cmdPopMailingHead",
-    "cmdPopMailingDel",
-    "cmdPopMailingCopia",
-    "cmdPopMailingRinomina",
-    "cmdPopMailingNew",
-    "cmdPopMailingSelAllDB",
-    "cmdPopMailingSelNotDB",
-    "cmdPopMailingSelAllGRP",
-    "cmdPopMailingSelNotGRP",
-    "cmdPopMailingUserNew",
-    "cmdPopMailingUserMod",
-    "cmdPopMailingUserDel",
-    "cmdPopMailingSvuotaCartella",
-};
-constexpr const char* menuMain[] = {"mnuFile", "mnuMailing", "mnuHelp"};
-
 /// A window, how it is reached, and its controls that have a caption.
 struct Finestra {
     const char* nome;
@@ -127,6 +96,10 @@ const Finestra finestreTradotte[] = {
      true,
      {"lblFile", "lblMittente", "lblPausa", "lblTimeOut", "lblDaInviare", "lblFallite", "lblInviate",
       "chkLog", "chkBlocco", "lblBlocco1", "lblBlocco2", "cmdChiudi", "cmdFerma", "cmdInvia"}},
+    {"frmPropBody",
+     []() -> QWidget& { return finestre::PropBody(); },
+     true,
+     {"lbl", "cmdAnnulla", "cdmSalva"}},
     {"frmDestinatario",
      []() -> QWidget& { return finestre::Destinatario(); },
      false,
@@ -168,38 +141,11 @@ void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& te
         fallisci(ErrorCode::ItemNotFound);
 }
 
-using Chiavi = QHash<QString, bLANG::Destinazione>;
-
 void aggiungiVariabili(Chiavi& chiavi) {
     for (const Variabile& variabile : variabili)
         chiavi[QStringLiteral("bVAR.%1").arg(variabile.nome)] = [variabile](const QString& testo) {
             *variabile.testo = testo;
         };
-}
-
-/// The two keys of a button or menu of the main window.
-void aggiungiComando(Chiavi& chiavi, const QString& genere, const char* nome,
-                     ui::Command* (ui::CommandBars::*trova)(const QString&) const) {
-    const QString inizio = QStringLiteral("frmMain.Dks.Commands.%1(\"%2\").").arg(genere, nome);
-    chiavi[inizio + "Caption"] = [nome, trova](const QString& testo) {
-        (finestre::Main().Commands().*trova)(nome)->setCaption(testo);
-    };
-    chiavi[inizio + "Description"] = [nome, trova](const QString& testo) {
-        (finestre::Main().Commands().*trova)(nome)->setDescription(testo);
-    };
-}
-
-void aggiungiMain(Chiavi& chiavi) {
-    for (const char* nome : pulsantiMain)
-        aggiungiComando(chiavi, "GetToolButton", nome, &ui::CommandBars::GetToolButton);
-    for (const char* nome : menuMain)
-        aggiungiComando(chiavi, "GetPopupMenu", nome, &ui::CommandBars::GetPopupMenu);
-    chiavi[R"(frmMain.Dks.Commands.GetStatic("stcHelp").Text)"] = [](const QString& testo) {
-        finestre::Main().Commands().GetStatic("stcHelp")->setText(testo);
-    };
-    chiavi[R"(frmMain.Dks.DockWindows("dckGruppi").Caption)"] = [](const QString& testo) {
-        finestre::Main().DockWindows().DockWindows("dckGruppi")->setCaption(testo);
-    };
 }
 
 void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra) {
@@ -228,22 +174,30 @@ void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra) {
         };
 }
 
-void aggiungiGruppiDestinatario(Chiavi& chiavi) {
+void aggiungiVoci(Chiavi& chiavi) {
+    const auto aggiungi = [&chiavi](const char* finestra, const char* voce, ui::PropertyList* (*prp)()) {
+        chiavi[QStringLiteral("%1.prp.Item(\"%2\").Caption").arg(finestra, voce)] =
+            [voce, prp](const QString& testo) { prp()->Item(voce)->setCaption(testo); };
+    };
     for (const char* voce : {"Datidestinatario", "altro"})
-        chiavi[QStringLiteral("frmDestinatario.prp.Item(\"%1\").Caption").arg(voce)] =
-            [voce](const QString& testo) { finestre::Destinatario().prp->Item(voce)->setCaption(testo); };
+        aggiungi("frmDestinatario", voce, [] { return finestre::Destinatario().prp; });
+    for (const char* voce :
+         {"Margini pagina", "Sinistra", "Superiore", "Larghezza", "Altezza", "Colori", "Sfondo", "Testo",
+          "Link", "LinkAttivi", "LinkVisitati", "Immagini", "Immaginedisfondo"})
+        aggiungi("frmPropBody", voce, [] { return finestre::PropBody().prp; });
 }
 
 const Chiavi& tutteLeChiavi() {
     static const Chiavi chiavi = [] {
         Chiavi nuove;
         aggiungiVariabili(nuove);
-        aggiungiMain(nuove);
+        bLANG::aggiungiMain(nuove);
+        bLANG::aggiungiEditor(nuove);
         for (const Finestra& finestra : finestreTradotte) {
             aggiungiFinestra(nuove, finestra);
             if (finestra.conCampi) aggiungiCampi(nuove, finestra);
         }
-        aggiungiGruppiDestinatario(nuove);
+        aggiungiVoci(nuove);
         return nuove;
     }();
     return chiavi;

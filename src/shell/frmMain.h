@@ -30,7 +30,7 @@ class frmMain : public QMainWindow {
     frmMain();
 
     /// The load of the window, run once by the first mention (finestre::Main): splash, theme, layout,
-    /// language, placement, group tree. Unguarded: what stands behind a failed step does not run.
+    /// editor, language, placement, group tree. Unguarded: what stands behind a failed step does not run.
     void Carica();
 
     ui::CommandBars& Commands() { return *barre; }

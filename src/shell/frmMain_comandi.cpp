@@ -16,6 +16,7 @@
 #include "import/ImportaRubrica.h"
 #include "lang/bLANG_applica.h"
 #include "lang/bVAR.h"
+#include "message/frmEditor.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/MessageDialog.h"
 #include "send/frmInvia.h"
@@ -51,11 +52,15 @@ void solo(frmMain&, Accesso&) {
 
 }  // namespace
 
-// The first equal name decides. The editor has no window yet.
+// The first equal name decides.
 const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdFileAccount", [](frmMain&, Accesso&) { finestre::Account().exec(); }},
     {"cmdEsci", [](frmMain& finestra, Accesso&) { finestra.close(); }},
-    {"cmdEditor", [](frmMain&, Accesso&) {}},
+    {"cmdEditor",
+     [](frmMain&, Accesso&) {
+         finestre::Editor().NuovoMessaggio();
+         finestre::Editor().MostraModale();
+     }},
     {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
     {"cmdMailingApri", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingApri(accesso); }},
     {"cmdMailingImpTXT", [](frmMain&, Accesso&) { finestre::ImpTXT().exec(); }},

@@ -40,7 +40,6 @@ class frmDestinatario : public QDialog {
 
   private:
     void CreaVoci();
-    void Disponi();
 
     // frmDestinatario_salva.cpp
     bool ValidaCampi();

@@ -1,0 +1,180 @@
+#include "lang/bLANG_chiavi_barre.h"
+
+#include "core/Finestre.h"
+#include "message/frmEditor.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DockPanes.h"
+#include "platform/ui/TabStrip.h"
+#include "shell/frmMain.h"
+
+namespace {
+
+using bLANG::Chiavi;
+
+/// Commands of the main window: each has a caption and a description.
+constexpr const char* pulsantiMain[] = {
+    "cmdFileAccount",
+    "cmdInvia",
+    "cmdEsci",
+    "cmdMailingApri",
+    "cmdMailingSalva",
+    "cmdMailingImpTXT",
+    "cmdMailingImpOE",
+    "cmdMailingImpMSO",
+    "cmdHelpGuida",
+    "cmdHelpHomePage",
+    "cmdHelpInviaMail",
+    "cmdHelpInfoSu",
+    "cmdMailingImpDB",
+    "cmdPopMailingHead",
+    "cmdPopMailingDel",
+    "cmdPopMailingCopia",
+    "cmdPopMailingRinomina",
+    "cmdPopMailingNew",
+    "cmdPopMailingSelAllDB",
+    "cmdPopMailingSelNotDB",
+    "cmdPopMailingSelAllGRP",
+    "cmdPopMailingSelNotGRP",
+    "cmdPopMailingUserNew",
+    "cmdPopMailingUserMod",
+    "cmdPopMailingUserDel",
+    "cmdPopMailingSvuotaCartella",
+};
+constexpr const char* menuMain[] = {"mnuFile", "mnuMailing", "mnuHelp"};
+
+/// Of the editor. "cmdGiustify" and "popVariabili" have no key.
+constexpr const char* pulsantiEditor[] = {
+    "cmdBold",
+    "cmdItalic",
+    "cmdUnderline",
+    "cmdNumerato",
+    "cmdPuntato",
+    "cmdDX",
+    "cmdSX",
+    "cmdLeft",
+    "cmdCenter",
+    "cmdRight",
+    "cmdImage",
+    "cmdLink",
+    "cmdHR",
+    "cmdTable",
+    "cmdNewMess",
+    "cmdApriMess",
+    "cmdSalva",
+    "cmdStampa",
+    "cmdEsci",
+    "cmdProprieta",
+    "cmdPriBassa",
+    "cmdPriAlta",
+    "cmdTaglia",
+    "cmdCopia",
+    "cmdIncolla",
+    "cmdUndo",
+    "cmdRedo",
+    "cmdTrova",
+    "cmdSelezionaTutto",
+    "cmdShowDetails",
+    "cmdShowBorder",
+    "cmdVarRgs",
+    "cmdVarNom",
+    "cmdVarEmail",
+    "cmdVarPiva",
+    "cmdVarInd",
+    "cmdVarCap",
+    "cmdVarLoc",
+    "cmdVarProv",
+    "cmdVarTel",
+    "cmdVarFax",
+    "cmdVarCampo1",
+    "cmdVarCampo2",
+    "cmdVarCampo3",
+    "cmdVarCampo4",
+    "cmdVarCampo5",
+    "cmdVarCampo6",
+    "cmdVarCampo7",
+    "cmdVarCampo8",
+    "cmdVarCampo9",
+    "cmdAllegatiNew",
+    "cmdAllegatiDel",
+    "cmdTableInsRow",
+    "cmdTableInsCol",
+    "cmdTableDelRow",
+    "cmdTableDelCol",
+    "cmdModuliForm",
+    "cmdModuliText",
+    "cmdModuliTextArea",
+    "cmdModuliCheckBox",
+    "cmdModuliRadioButton",
+    "cmdModuliList",
+    "cmdModuliListMenu",
+    "cmdModuliHidden",
+    "cmdSalvaAs",
+};
+constexpr const char* menuEditor[] = {"popTable", "popModuli"};
+
+/// The first part of the keys of one tool of a window's bars.
+QString inizio(const char* finestra, const char* genere, const char* nome) {
+    return QStringLiteral("%1.Dks.Commands.%2(\"%3\").").arg(finestra, genere, nome);
+}
+
+/// The two keys of a button or menu.
+template <auto istanza>
+void aggiungiComando(Chiavi& chiavi, const char* finestra, const char* genere, const char* nome,
+                     ui::Command* (ui::CommandBars::*trova)(const QString&) const) {
+    const QString chiave = inizio(finestra, genere, nome);
+    chiavi[chiave + "Caption"] = [nome, trova](const QString& testo) {
+        (istanza().Commands().*trova)(nome)->setCaption(testo);
+    };
+    chiavi[chiave + "Description"] = [nome, trova](const QString& testo) {
+        (istanza().Commands().*trova)(nome)->setDescription(testo);
+    };
+}
+
+/// What the two windows have alike: buttons, menus, the status text, one pane.
+template <auto istanza, class Pulsanti, class Menu>
+void aggiungiBarre(Chiavi& chiavi, const char* finestra, const Pulsanti& pulsanti, const Menu& menu,
+                   const char* pannello) {
+    for (const char* nome : pulsanti)
+        aggiungiComando<istanza>(chiavi, finestra, "GetToolButton", nome, &ui::CommandBars::GetToolButton);
+    for (const char* nome : menu)
+        aggiungiComando<istanza>(chiavi, finestra, "GetPopupMenu", nome, &ui::CommandBars::GetPopupMenu);
+    chiavi[inizio(finestra, "GetStatic", "stcHelp") + "Text"] = [](const QString& testo) {
+        istanza().Commands().GetStatic("stcHelp")->setText(testo);
+    };
+    chiavi[QStringLiteral("%1.Dks.DockWindows(\"%2\").Caption").arg(finestra, pannello)] =
+        [pannello](const QString& testo) {
+            istanza().DockWindows().DockWindows(pannello)->setCaption(testo);
+        };
+}
+
+}  // namespace
+
+void bLANG::aggiungiMain(Chiavi& chiavi) {
+    aggiungiBarre<finestre::Main>(chiavi, "frmMain", pulsantiMain, menuMain, "dckGruppi");
+}
+
+void bLANG::aggiungiEditor(Chiavi& chiavi) {
+    constexpr auto editor = "frmEditor";
+    aggiungiBarre<finestre::Editor>(chiavi, editor, pulsantiEditor, menuEditor, "dckAllegati");
+    for (const char* nome : {"cmbFontName", "cmbFontSize"})
+        chiavi[inizio(editor, "GetComboBox", nome) + "Description"] = [nome](const QString& testo) {
+            finestre::Editor().Commands().GetComboBox(nome)->setDescription(testo);
+        };
+    chiavi[inizio(editor, "GetCustomPopup", "popColors") + "Description"] = [](const QString& testo) {
+        finestre::Editor().Commands().GetCustomPopup("popColors")->setDescription(testo);
+    };
+    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Label"] = [](const QString& testo) {
+        finestre::Editor().Commands().GetEdit("txtOggetto")->setLabel(testo);
+    };
+    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Description"] = [](const QString& testo) {
+        finestre::Editor().Commands().GetEdit("txtOggetto")->setDescription(testo);
+    };
+    for (int scheda = 0; scheda < 3; ++scheda) {
+        chiavi[QStringLiteral("frmEditor.tb.TabCaption(%1)").arg(scheda)] = [scheda](const QString& testo) {
+            finestre::Editor().tb->setTabCaption(scheda, testo);
+        };
+        chiavi[QStringLiteral("frmEditor.tb.TabToolTip(%1)").arg(scheda)] = [scheda](const QString& testo) {
+            finestre::Editor().tb->setTabToolTip(scheda, testo);
+        };
+    }
+}

@@ -1,0 +1,110 @@
+#include "message/frmAllegati.h"
+
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "core/bFunctions.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "message/frmEditor.h"
+#include "platform/ui/CommandBars.h"
+
+namespace {
+
+/// Tells that there is nothing in it where it is empty.
+class Elenco : public QTreeWidget {
+  public:
+    using QTreeWidget::QTreeWidget;
+
+  protected:
+    void paintEvent(QPaintEvent* evento) override {
+        QTreeWidget::paintEvent(evento);
+        if (topLevelItemCount() > 0) return;
+        QPainter pittore(viewport());
+        pittore.setPen(palette().color(QPalette::PlaceholderText));
+        pittore.drawText(viewport()->rect(), Qt::AlignCenter, "Nessun allegato");
+    }
+};
+
+/// "1.024,51 Kb". A kilobyte counts as 1028 bytes here.
+QString Dimensione(qint64 byte) {
+    return QLocale().toString(static_cast<double>(byte) / 1028, 'f', 2) + " Kb";
+}
+
+}  // namespace
+
+frmAllegati::frmAllegati(QWidget* parent) : QWidget(parent), LIST(new Elenco(this)) {
+    setObjectName("frmAllegati");
+    setWindowTitle("Allegati");
+    LIST->setObjectName("LIST");
+    LIST->setAccessibleName("Allegati");
+    LIST->setFrameShape(QFrame::NoFrame);
+    LIST->setRootIsDecorated(false);
+    LIST->setUniformRowHeights(true);
+    LIST->setAllColumnsShowFocus(true);
+    LIST->setContextMenuPolicy(Qt::NoContextMenu);
+    LIST->setMouseTracking(true);
+    LIST->header()->setStretchLastSection(true);
+    auto* area = new QVBoxLayout(this);
+    area->setContentsMargins(0, 0, 0, 0);
+    area->addWidget(LIST);
+    LIST->viewport()->installEventFilter(this);
+    IniList();
+}
+
+void frmAllegati::IniList() {
+    LIST->clear();
+    LIST->setColumnCount(0);
+    LIST->setHeaderLabels({"File", "Size", "Path"});
+    LIST->headerItem()->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void frmAllegati::InsFile(const QString& percorso) {
+    const QFileInfo file(percorso);
+    if (!file.exists()) fallisci(ErrorCode::FileNotFound);
+    const QString nome = NomeDaPercorso(percorso);
+    const QString dimensione = Dimensione(file.size());
+    auto* riga = new QTreeWidgetItem(LIST, {nome, dimensione, percorso});
+    riga->setIcon(File, QIcon::fromTheme("mail-attachment"));
+    riga->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
+    // The columns fit the row that was added last.
+    const QFontMetrics metrica = LIST->fontMetrics();
+    LIST->setColumnWidth(File, metrica.horizontalAdvance(nome) + 36);
+    LIST->setColumnWidth(Size, metrica.horizontalAdvance(dimensione) + 20);
+    LIST->setColumnWidth(Path, metrica.horizontalAdvance(percorso) + 20);
+}
+
+void frmAllegati::TogliScelto() {
+    constexpr ErrorCode oggettoAssente{91};
+    QTreeWidgetItem* scelto = LIST->currentItem();
+    if (!scelto) fallisci(oggettoAssente, "Variabile oggetto non impostata");
+    delete LIST->takeTopLevelItem(LIST->indexOfTopLevelItem(scelto));
+}
+
+QStringList frmAllegati::Percorsi() const {
+    QStringList percorsi;
+    for (int i = 0; i < LIST->topLevelItemCount(); ++i)
+        percorsi << LIST->topLevelItem(i)->text(Path);
+    return percorsi;
+}
+
+bool frmAllegati::eventFilter(QObject* osservato, QEvent* che) {
+    if (che->type() == QEvent::MouseMove)
+        evento([] { finestre::Editor().Commands().GetStatic("stcHelp")->setText("Allegati"); });
+    if (che->type() == QEvent::MouseButtonRelease) {
+        const auto* rilascio = static_cast<QMouseEvent*>(che);
+        evento([&] { LISTMouseUp(rilascio->button(), rilascio->globalPosition().toPoint()); });
+    }
+    return QWidget::eventFilter(osservato, che);
+}
+
+void frmAllegati::LISTMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
+    ui::CommandBars& barre = finestre::Editor().Commands();
+    barre.GetToolButton("cmdAllegatiDel")->setEnabled(LIST->topLevelItemCount() > 0);
+    if (pulsante == Qt::RightButton) barre.showPopup("popAllegati", punto);
+}

@@ -1,0 +1,47 @@
+#include "message/frmColor.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "core/bFunctions.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "message/frmEditor.h"
+#include "platform/ui/ColorHexagon.h"
+#include "platform/ui/CommandBars.h"
+#include "shell/bTheme.h"
+
+frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexagon(this)) {
+    RilevaTema(this);
+    setObjectName("pwnColor");
+    setAccessibleName("Tabella colori");
+    color->setObjectName("color");
+    color->setAccessibleName("Colore del testo");
+    setFocusProxy(color);
+    QPalette tavolozza = palette();
+    tavolozza.setColor(QPalette::Window, coloreTema(0));
+    setPalette(tavolozza);
+    auto* area = new QVBoxLayout(this);
+    area->setContentsMargins(0, 0, 0, 0);
+    area->addWidget(color);
+    resize(color->sizeHint());
+    connect(color, &ui::ColorHexagon::picked, this,
+            [this](quint32 colore) { evento([this, colore] { ColorePreso(colore); }); });
+}
+
+void frmColor::PrendiColore() {
+    color->setColor(ColoreDaHex(finestre::Editor().DHTML->execCommand(HtmlView::GetForeColor).toString()));
+}
+
+void frmColor::ColorePreso(quint32 colore) {
+    frmEditor& editor = finestre::Editor();
+    editor.DHTML->execCommand(HtmlView::SetForeColor, HexDaColore(colore));
+    editor.Commands().closePopup("popColors");
+}
+
+void frmColor::keyPressEvent(QKeyEvent* tasto) {
+    if (tasto->key() == Qt::Key_Escape)
+        hide();
+    else
+        QWidget::keyPressEvent(tasto);
+}

@@ -1,0 +1,137 @@
+#include "message/frmEditor.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QTreeWidget>
+
+#include "core/bImpostazioni.h"
+#include "core/Fallimento.h"
+#include "core/Posizione.h"
+#include "message/frmAllegati.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/SourceEdit.h"
+#include "platform/ui/TabStrip.h"
+#include "shell/bTheme.h"
+
+namespace {
+
+const QString pagineVuote = QStringLiteral("<HTML>\r\n<BODY>\r\n</BODY>\r\n</HTML>");
+
+QString fileDisposizione() {
+    return cartellaDati() + "LayoutEditor.imp";
+}
+
+}  // namespace
+
+frmEditor::frmEditor(QWidget* parent)
+    : QMainWindow(parent),
+      DHTML(ui::named(new HtmlView(HtmlView::Mode::Design), "DHTML")),
+      CODE(ui::named(new ui::SourceEdit, "CODE")),
+      WEB(ui::named(new HtmlView(HtmlView::Mode::Browse), "WEB")),
+      tb(ui::named(new ui::TabStrip(this), "tb")),
+      barre(new ui::CommandBars(this)),
+      pannelli(this) {
+    setObjectName("frmEditor");
+    setWindowModality(Qt::ApplicationModal);
+    DHTML->setAccessibleName("Messaggio");
+    CODE->focusProxy()->setAccessibleName("Origine del messaggio");
+    WEB->setAccessibleName("Anteprima del messaggio");
+    tb->addView(DHTML, "Modifica", "document-edit");
+    tb->addView(CODE, "Origine", "text-html");
+    tb->addView(WEB, "Anteprima", "view-visible");
+    tb->setTabToolTip(Modifica, "Modifica il messaggio");
+    tb->setTabToolTip(Origine, "Modifica il codice HTML del messaggio");
+    tb->setTabToolTip(Anteprima, "Mostra il messaggio come lo vede il destinatario");
+    setCentralWidget(tb);
+    CreaComandi();
+    CreaMenu();
+    CreaBarre();
+    CreaTasti();
+    pannelli.addPane("dckAllegati", "Allegati", Qt::BottomDockWidgetArea, 120);
+    CollegaViste();
+    resize(1000, 680);
+}
+
+void frmEditor::Carica() {
+    RilevaTema(this);
+    // Without a layout that can be read the bars and panes stand as they were designed.
+    static_cast<void>(pannelli.loadLayout(fileDisposizione()));
+    CaricaPosizioneForm(*this);
+    tb->setColours({coloreTema(9), coloreTema(10), coloreTema(1)});
+    tb->setCurrentIndex(Modifica);
+    RiempiFont();
+    CODE->setFontName("Courier New");
+    CODE->setColours({coloreTema(0), coloreTema(20), coloreTema(13), coloreTema(1)});
+    NuovoMessaggio();
+    auto* allegati = new frmAllegati;
+    pannelli.DockWindows("dckAllegati")->setContent(allegati);
+    barre->offerPopup(allegati->LIST, [] { return QStringLiteral("popAllegati"); });
+    setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
+}
+
+void frmEditor::MostraModale() {
+    QEventLoop finoAllaChiusura;
+    attesa = &finoAllaChiusura;
+    show();
+    barre->GetEdit("txtOggetto")->setFocus();
+    finoAllaChiusura.exec();
+    attesa = nullptr;
+}
+
+frmAllegati& frmEditor::Allegati() {
+    QWidget* contenuto = pannelli.DockWindows("dckAllegati")->content();
+    if (!contenuto) fallisci(ErrorCode::ItemNotFound);
+    return static_cast<frmAllegati&>(*contenuto);
+}
+
+// fileAperto and percorsoFile stay: a new document is saved over the file that was opened or saved last.
+void frmEditor::NuovoMessaggio() {
+    Prosegui prosegui;
+    DHTML->setDocumentHTML(pagineVuote);
+    CODE->setText(pagineVuote);
+    WEB->setDocumentHTML(pagineVuote);
+    titoloFile = "[NuovoFile.mss]";
+    barre->GetEdit("txtOggetto")->setText({});
+    for (const char* spento : {"cmdPriBassa", "cmdPriAlta", "cmdShowDetails"})
+        barre->GetToolButton(spento)->setChecked(0);
+    barre->GetToolButton("cmdShowBorder")->setChecked(1);
+    DHTML->setShowDetails(false);
+    DHTML->setShowBorders(true);
+    ImpostaTitolo();
+    prosegui([this] { Allegati().ClearList(); });
+}
+
+void frmEditor::ImpostaTitolo() {
+    setWindowTitle("Editor Messaggi - " + titoloFile);
+}
+
+void frmEditor::SegnaModificato() {
+    if (titoloFile.isEmpty()) return;
+    if (!IsModificato()) titoloFile = titoloFile.chopped(1) + "*]";
+    ImpostaTitolo();
+}
+
+bool frmEditor::IsModificato() const {
+    return titoloFile.size() > 1 && titoloFile[titoloFile.size() - 2] == '*';
+}
+
+void frmEditor::ImpostaBarre(bool attive) {
+    for (const char* barra : {"HTML", "Message", "View"})
+        barre->setBarEnabled(barra, attive);
+}
+
+void frmEditor::ChiudiEditor() {
+    SalvaPosizioneForm(*this);
+    static_cast<void>(pannelli.saveLayout(fileDisposizione()));
+    hide();
+}
+
+void frmEditor::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmEditor::hideEvent(QHideEvent* nascosta) {
+    QMainWindow::hideEvent(nascosta);
+    if (attesa && !nascosta->spontaneous()) attesa->quit();
+}

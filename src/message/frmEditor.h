@@ -1,0 +1,126 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "platform/html/HtmlView.h"
+#include "platform/ui/DockPanes.h"
+
+class frmAllegati;
+class QEventLoop;
+namespace ui {
+class CommandBars;
+class FindDialog;
+class SourceEdit;
+class TabStrip;
+}  // namespace ui
+
+/// The message editor: one document, made of a subject, a priority, a list of attachments and an HTML body.
+///
+/// The body stands in three views. DHTML, the design view, has the last word: it is what is saved. CODE, the
+/// source view, and WEB, the preview, get the body when their tab comes up; leaving the source view hands its
+/// text to the design view. The list of attachments is the control of frmAllegati and nothing else.
+class frmEditor : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit frmEditor(QWidget* parent = nullptr);
+
+    /// The load of the window, run once by the first mention (finestre::Editor).
+    void Carica();
+    /// Shows the window over the main one; comes back when it is hidden.
+    void MostraModale();
+
+    /// An empty document. The path of the last open or save stays, and so does the tab. Passes over every
+    /// failure.
+    void NuovoMessaggio();
+    /// Asks for a file and reads it. Passes over every failure.
+    void ApriMessaggio();
+    /// Writes over percorsoFile. Unguarded.
+    void SalvaMessaggio();
+    /// Asks for a file and writes it. Passes over every failure: title and path change even where the writing
+    /// failed.
+    void SalvaMessaggioCome();
+    /// Saves placement and layout and hides the window. Unguarded.
+    void ChiudiEditor();
+
+    void ImpostaTitolo();
+    /// The one way to mark the document as changed.
+    void SegnaModificato();
+    bool IsModificato() const;
+    /// Turns the bars "HTML", "Message" and "View" on or off.
+    void ImpostaBarre(bool attive);
+
+    /// Inserts at the selection of the design view, whatever tab is on show, and marks the document as
+    /// changed. Passes over every failure.
+    void InserisciHTML(const QString& testo);
+    /// Runs the command of that name; a name that is not known has no effect. Unguarded.
+    void ComandoPremuto(const QString& nome);
+    /// Bring the tools in step with the selection of the design view, or of the source view.
+    void AggiornaStatoDesign();
+    void AggiornaStatoCodice();
+
+    ui::CommandBars& Commands() { return *barre; }
+    ui::DockPanes& DockWindows() { return pannelli; }
+    /// The attachment window, reached through its pane. Fails before the load hosted it.
+    frmAllegati& Allegati();
+
+    /// In square brackets; "*" before the last one is the mark of a changed document.
+    QString titoloFile;
+    bool fileAperto = false;  ///< there is a path to save to
+    QString percorsoFile;
+    HtmlView* DHTML;
+    ui::SourceEdit* CODE;
+    HtmlView* WEB;
+    ui::TabStrip* tb;
+
+  protected:
+    /// The window is left by its command only.
+    void closeEvent(QCloseEvent* chiusura) override;
+    void hideEvent(QHideEvent* nascosta) override;
+
+  private:
+    enum Scheda { Modifica = 0, Origine = 1, Anteprima = 2 };
+
+    // frmEditor_barre.cpp: commands, bars, menus, keys
+    void CreaComandi();
+    void CreaMenu();
+    void CreaBarre();
+    void CreaTasti();
+    void RiempiFont();
+
+    // frmEditor_eventi.cpp: what the views report
+    void CollegaViste();
+    void CambiaScheda(int da, int a);
+    void MostraBody(int scheda);
+    void MostraSchedaInStato();
+    void MenuModifica(const QPoint& punto);
+
+    // frmEditor_comandi.cpp
+    bool ComandoFile(const QString& nome);
+    bool ComandoDueViste(const QString& nome);
+    bool ComandoDesign(const QString& nome);
+    bool ComandoInserimento(const QString& nome);
+    bool ComandoInterruttore(const QString& nome);
+    bool ComandoAllegati(const QString& nome);
+    void EseguiDesign(int numero, const QString& valore = {});
+    void EseguiCodice(int numero);
+    void CambiaPriorita(const QString& scelta, const QString& altra);
+
+    // frmEditor_file.cpp
+    void ChiediSalvataggio();
+    void Scrivi(const QString& percorso);
+    void LeggiMessaggio(const QString& percorso);
+    void ImpostaFile(const QString& percorso);
+
+    // frmEditor_dialoghi.cpp: what the design view leaves to windows
+    void DialogoImmagine();
+    void DialogoCollegamento();
+    void DialogoProprietaElemento();
+    void Trova();
+
+    ui::CommandBars* barre;
+    ui::DockPanes pannelli;
+    ui::FindDialog* ricerca = nullptr;
+    QStringList lstFont;  ///< the fonts of the desktop in the order of their names
+    QEventLoop* attesa = nullptr;
+};

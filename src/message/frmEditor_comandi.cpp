@@ -1,0 +1,224 @@
+// The one handler of all commands of the editor.
+#include <algorithm>
+#include <array>
+
+#include "core/Fallimento.h"
+#include "core/Finestre.h"
+#include "message/frmAllegati.h"
+#include "message/frmEditor.h"
+#include "message/frmPropBody.h"
+#include "message/variabili.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/FileDialog.h"
+#include "platform/ui/SourceEdit.h"
+#include "platform/ui/TabStrip.h"
+
+namespace {
+
+/// A command that goes to the view on show.
+struct DueViste {
+    const char* nome;
+    int design;
+    int codice;
+    bool segna;  ///< marks the document as changed, whatever tab is on show
+};
+
+constexpr std::array dueViste{
+    DueViste{"cmdUndo", HtmlView::Undo, ui::SourceEdit::Undo, true},
+    DueViste{"cmdRedo", HtmlView::Redo, ui::SourceEdit::Redo, true},
+    DueViste{"cmdTaglia", HtmlView::Cut, ui::SourceEdit::Cut, true},
+    DueViste{"cmdCopia", HtmlView::Copy, ui::SourceEdit::Copy, false},
+    DueViste{"cmdIncolla", HtmlView::Paste, ui::SourceEdit::Paste, true},
+    DueViste{"cmdSelezionaTutto", HtmlView::SelectAll, ui::SourceEdit::SelectAll, false},
+    DueViste{"cmdTrova", HtmlView::FindText, ui::SourceEdit::FindText, false},
+};
+
+/// A command that goes to the design view whatever tab is on show. None of them marks the document: only the
+/// next key does.
+struct Design {
+    const char* nome;
+    int numero;
+};
+
+constexpr std::array soloDesign{
+    Design{"cmdBold", HtmlView::Bold},
+    Design{"cmdItalic", HtmlView::Italic},
+    Design{"cmdUnderline", HtmlView::Underline},
+    Design{"cmdNumerato", HtmlView::OrderList},
+    Design{"cmdPuntato", HtmlView::UnorderList},
+    Design{"cmdSX", HtmlView::Outdent},
+    Design{"cmdDX", HtmlView::Indent},
+    Design{"cmdLeft", HtmlView::JustifyLeft},
+    Design{"cmdCenter", HtmlView::JustifyCenter},
+    Design{"cmdRight", HtmlView::JustifyRight},
+    Design{"cmdImage", HtmlView::Image},
+    Design{"cmdLink", HtmlView::Hyperlink},
+    Design{"cmdTableInsRow", HtmlView::InsertRow},
+    Design{"cmdTableInsCol", HtmlView::InsertCol},
+    Design{"cmdTableDelRow", HtmlView::DeleteRows},
+    Design{"cmdTableDelCol", HtmlView::DeleteCols},
+};
+
+/// A command that inserts a text.
+struct Frammento {
+    const char* nome;
+    const char* html;
+};
+
+constexpr std::array frammenti{
+    Frammento{"cmdHR", "<HR>"},
+    Frammento{"cmdTable",
+              R"(<TABLE WIDTH="100%" BORDER="0" CELLSPACING="2" CELLPADDING="0"><TR><TD>Cella1</TD>)"
+              R"(<TD>Cella2</TD><TD>Cella3</TD></TR></TABLE>)"},
+    Frammento{"cmdModuliForm", R"(<FORM NAME="form1" METHOD="get" ACTION=""></FORM>)"},
+    Frammento{"cmdModuliText", R"(<INPUT NAME="text1" TYPE="text" VALUE="" SIZE="20">)"},
+    Frammento{"cmdModuliTextArea", R"(<TEXTAREA NAME="textarea1" COLS="40" ROWS="6"></TEXTAREA>)"},
+    Frammento{"cmdModuliCheckBox", R"(<INPUT TYPE="checkbox" NAME="checkbox1" VALUE="checkbox">)"},
+    Frammento{"cmdModuliRadioButton", R"(<INPUT TYPE="radio" NAME="radiobutton" VALUE="radiobutton">)"},
+    Frammento{"cmdModuliList", R"(<SELECT NAME="select1" SIZE="6"><OPTION VALUE="1">valore1</OPTION>)"
+                               R"(<OPTION VALUE="2">valore2</OPTION></SELECT>)"},
+    Frammento{"cmdModuliListMenu", R"(<SELECT NAME="select1"><OPTION VALUE="1">valore1</OPTION>)"
+                                   R"(<OPTION VALUE="2">valore2</OPTION></SELECT>)"},
+    Frammento{"cmdModuliHidden", R"(<INPUT TYPE="hidden" NAME="hiddenField1">)"},
+};
+
+/// The row of a table that has the name; null for none.
+template <class Tabella>
+const typename Tabella::value_type* riga(const Tabella& tabella, const QString& nome,
+                                         const char* Tabella::value_type::*colonna) {
+    const auto trovata = std::find_if(tabella.begin(), tabella.end(),
+                                      [&](const auto& r) { return nome == QLatin1String(r.*colonna); });
+    return trovata == tabella.end() ? nullptr : &*trovata;
+}
+
+}  // namespace
+
+// "cmdGiustify" stands on the bar and has no branch: it does nothing.
+void frmEditor::ComandoPremuto(const QString& nome) {
+    ComandoDueViste(nome) || ComandoDesign(nome) || ComandoInserimento(nome) || ComandoInterruttore(nome) ||
+        ComandoAllegati(nome) || ComandoFile(nome);
+}
+
+bool frmEditor::ComandoDueViste(const QString& nome) {
+    const DueViste* comando = riga(dueViste, nome, &DueViste::nome);
+    if (!comando) return false;
+    if (tb->currentIndex() == Modifica) EseguiDesign(comando->design);
+    if (tb->currentIndex() == Origine) EseguiCodice(comando->codice);
+    if (comando->segna) SegnaModificato();
+    return true;
+}
+
+bool frmEditor::ComandoDesign(const QString& nome) {
+    if (nome == "cmbFontName" || nome == "cmbFontSize") {
+        DHTML->execCommand(nome == "cmbFontName" ? HtmlView::SetFontName : HtmlView::SetFontSize,
+                           barre->GetComboBox(nome)->Text());
+        if (tb->currentIndex() == Modifica) DHTML->setFocus();
+        return true;
+    }
+    const Design* comando = riga(soloDesign, nome, &Design::nome);
+    if (comando) EseguiDesign(comando->numero);
+    return comando;
+}
+
+bool frmEditor::ComandoInserimento(const QString& nome) {
+    if (const Frammento* frammento = riga(frammenti, nome, &Frammento::nome))
+        InserisciHTML(QString::fromLatin1(frammento->html));
+    else if (const Variabile* variabile = riga(variabiliMessaggio, nome, &Variabile::comando))
+        InserisciHTML(QString::fromLatin1(variabile->testo));
+    else
+        return false;
+    return true;
+}
+
+void frmEditor::InserisciHTML(const QString& testo) {
+    // Without a selection nothing is inserted; the mark is set all the same.
+    DHTML->insertHTML(testo);
+    SegnaModificato();
+}
+
+bool frmEditor::ComandoInterruttore(const QString& nome) {
+    if (nome == "cmdShowDetails" || nome == "cmdShowBorder") {
+        ui::Command& strumento = *barre->GetToolButton(nome);
+        strumento.setChecked(strumento.Checked() == 0 ? 1 : 0);
+        const bool mostra = strumento.Checked() == 1;
+        nome == "cmdShowDetails" ? DHTML->setShowDetails(mostra) : DHTML->setShowBorders(mostra);
+    } else if (nome == "cmdPriBassa") {
+        CambiaPriorita("cmdPriBassa", "cmdPriAlta");
+    } else if (nome == "cmdPriAlta") {
+        CambiaPriorita("cmdPriAlta", "cmdPriBassa");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void frmEditor::CambiaPriorita(const QString& scelta, const QString& altra) {
+    ui::Command& strumento = *barre->GetToolButton(scelta);
+    strumento.setChecked(strumento.Checked() == 0 ? 1 : 0);
+    barre->GetToolButton(altra)->setChecked(0);
+    SegnaModificato();
+}
+
+bool frmEditor::ComandoAllegati(const QString& nome) {
+    if (nome == "cmdAllegatiNew") {
+        Prosegui prosegui;
+        if (const auto percorso = ui::FileDialog::open("Inserisci allegato", "Tutti i file(*.*)|*.*"))
+            prosegui([&] { Allegati().InsFile(*percorso); });
+        // Also after a cancel.
+        SegnaModificato();
+    } else if (nome == "cmdAllegatiDel") {
+        Allegati().TogliScelto();
+        SegnaModificato();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool frmEditor::ComandoFile(const QString& nome) {
+    if (nome == "cmdNewMess") {
+        ChiediSalvataggio();
+        NuovoMessaggio();
+    } else if (nome == "cmdApriMess") {
+        ChiediSalvataggio();
+        ApriMessaggio();
+    } else if (nome == "cmdEsci") {
+        ChiediSalvataggio();
+        ChiudiEditor();
+    } else if (nome == "cmdSalva") {
+        fileAperto ? SalvaMessaggio() : SalvaMessaggioCome();
+    } else if (nome == "cmdSalvaAs") {
+        SalvaMessaggioCome();
+    } else if (nome == "cmdStampa") {
+        DHTML->print(true);
+    } else if (nome == "cmdProprieta") {
+        finestre::PropBody().PrendiValori();
+        finestre::PropBody().exec();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void frmEditor::EseguiDesign(int numero, const QString& valore) {
+    switch (numero) {
+        case HtmlView::Image:
+            DialogoImmagine();
+            break;
+        case HtmlView::Hyperlink:
+            DialogoCollegamento();
+            break;
+        case HtmlView::Properties:
+            DialogoProprietaElemento();
+            break;
+        case HtmlView::FindText:
+            Trova();
+            break;
+        default:
+            DHTML->execCommand(numero, valore);
+    }
+}
+
+void frmEditor::EseguiCodice(int numero) {
+    numero == ui::SourceEdit::FindText ? Trova() : CODE->execute(numero);
+}

@@ -1,0 +1,112 @@
+#include "message/frmPropBody.h"
+
+#include <array>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPushButton>
+
+#include "core/bFunctions.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "message/frmEditor.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/PropertyList.h"
+#include "platform/ui/SourceEdit.h"
+#include "shell/bTheme.h"
+#include "shell/SchedaProprieta.h"
+
+namespace {
+
+struct Attributo {
+    const char* chiave;  ///< of the item in the list
+    const char* nome;    ///< of the body element
+};
+
+constexpr std::array margini{
+    Attributo{"Sinistra", "leftmargin"},
+    Attributo{"Superiore", "topmargin"},
+    Attributo{"Larghezza", "marginwidth"},
+    Attributo{"Altezza", "marginheight"},
+};
+
+struct ColorePagina {
+    const char* chiave;
+    HtmlView::PageColor quale;
+};
+
+constexpr std::array colori{
+    ColorePagina{"Sfondo", HtmlView::PageColor::Background},
+    ColorePagina{"Testo", HtmlView::PageColor::Text},
+    ColorePagina{"Link", HtmlView::PageColor::Link},
+    ColorePagina{"LinkAttivi", HtmlView::PageColor::ActiveLink},
+    ColorePagina{"LinkVisitati", HtmlView::PageColor::VisitedLink},
+};
+
+constexpr Attributo sfondo{"Immaginedisfondo", "background"};
+
+}  // namespace
+
+frmPropBody::frmPropBody(QWidget* parent)
+    : QDialog(parent),
+      lbl(ui::named(new QLabel("Proprietà messaggio", this), "lbl")),
+      prp(ui::named(new ui::PropertyList(this), "prp")),
+      cdmSalva(ui::commandButton("&Salva", "cdmSalva", this)),
+      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
+    RilevaTema(this);
+    setObjectName("frmPropBody");
+    setWindowTitle("Proprietà messaggio");
+    prp->focusProxy()->setAccessibleName("Proprietà del messaggio");
+    lbl->setBuddy(prp);
+    prp->addGroup("Margini pagina", "Margini pagina");
+    prp->addText("Sinistra", "Sinistra", "Margine sinistro della pagina, in pixel");
+    prp->addText("Superiore", "Superiore", "Margine superiore della pagina, in pixel");
+    prp->addText("Larghezza", "Larghezza", "Margine orizzontale per altri programmi di posta, in pixel");
+    prp->addText("Altezza", "Altezza", "Margine verticale per altri programmi di posta, in pixel");
+    prp->addGroup("Colori", "Colori");
+    prp->addColour("Sfondo", "Sfondo", "Colore di sfondo della pagina");
+    prp->addColour("Testo", "Testo", "Colore del testo");
+    prp->addColour("Link", "Link", "Colore dei collegamenti");
+    prp->addColour("LinkAttivi", "Link attivi", "Colore dei collegamenti mentre si premono");
+    prp->addColour("LinkVisitati", "Link visitati", "Colore dei collegamenti già visitati");
+    prp->addGroup("Immagini", "Immagini");
+    prp->addText(sfondo.chiave, "Immagine di sfondo", "Percorso o indirizzo dell'immagine di sfondo");
+    DisponiScheda(*this, {lbl, prp, cdmSalva, cmdAnnulla}, "document-properties");
+    connect(cdmSalva, &QPushButton::clicked, this, [this] { evento([this] { cdmSalva_Click(); }); });
+    connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
+    resize(440, 460);
+}
+
+void frmPropBody::PrendiValori() {
+    HtmlView& DHTML = *finestre::Editor().DHTML;
+    for (const auto& [chiave, nome] : margini)
+        prp->Item(chiave)->setValue(DHTML.bodyAttribute(nome));
+    for (const auto& [chiave, quale] : colori)
+        prp->Item(chiave)->setValue(ColoreDaHex(DHTML.pageColor(quale)));
+    prp->Item(sfondo.chiave)->setValue(DHTML.bodyAttribute(sfondo.nome));
+}
+
+void frmPropBody::cdmSalva_Click() {
+    frmEditor& editor = finestre::Editor();
+    HtmlView& DHTML = *editor.DHTML;
+    DHTML.removeBodyAttribute("leftmargin");
+    DHTML.removeBodyAttribute("topmargin");
+    for (const auto& [chiave, nome] : margini)
+        DHTML.setBodyAttribute(nome, prp->Item(chiave)->Value().toString());
+    for (const auto& [chiave, quale] : colori)
+        DHTML.setPageColor(quale, HexDaColore(prp->Item(chiave)->Value().toUInt()));
+    DHTML.setBodyAttribute(sfondo.nome, prp->Item(sfondo.chiave)->Value().toString());
+    editor.CODE->setText(DHTML.documentHTML());
+    DHTML.setDocumentHTML(editor.CODE->Text());
+    DHTML.update();
+    hide();
+}
+
+void frmPropBody::closeEvent(QCloseEvent* chiusura) {
+    chiusura->ignore();
+}
+
+void frmPropBody::showEvent(QShowEvent* mostra) {
+    QDialog::showEvent(mostra);
+    prp->setFocus();
+    prp->setCurrentItem("Sinistra");
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDialog>
+
+#include "platform/html/HtmlView.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace ui {
+
+/// Asks for an image: a file or an address, its alternative text, size and alignment.
+class ImageDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    ImageDialog(QWidget* parent, const HtmlView::ImageInfo& image);
+
+    HtmlView::ImageInfo image() const;
+
+  private:
+    void pickFile();
+
+    QLineEdit* m_source;
+    QLineEdit* m_text;
+    QLineEdit* m_width;
+    QLineEdit* m_height;
+    QComboBox* m_align;
+};
+
+}  // namespace ui

@@ -1,0 +1,71 @@
+#include "platform/ui/LinkDialog.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/ui/DialogForm.h"
+
+namespace ui {
+
+namespace {
+
+enum Kind { Web = 0, Mail = 1 };
+const QString mailScheme = QStringLiteral("mailto:");
+
+}  // namespace
+
+LinkDialog::LinkDialog(QWidget* parent, const QString& address, bool withText, const Offers& offers)
+    : QDialog(parent),
+      m_kind(choiceField("cmbKind", {"Indirizzo web", "Posta elettronica"}, this)),
+      m_address(textField("txtAddress", this)),
+      m_text(textField("txtText", this)) {
+    setObjectName("linkDialog");
+    setWindowTitle("Collegamento");
+    const bool mail = address.startsWith(mailScheme, Qt::CaseInsensitive);
+    m_kind->setCurrentIndex(mail ? Mail : Web);
+    m_address->setText(mail ? address.mid(mailScheme.size()) : address);
+    QComboBox* offered = choiceField("cmbOffers", {"Inserisci nell'indirizzo..."}, this);
+    for (const auto& [caption, text] : offers)
+        offered->addItem(caption, text);
+    connect(offered, &QComboBox::activated, this, [this, offered](int index) {
+        m_address->insert(offered->itemData(index).toString());
+        offered->setCurrentIndex(0);
+        m_address->setFocus();
+    });
+
+    DialogForm form(this);
+    form.addField("&Tipo:", m_kind);
+    form.addField("&Indirizzo:", m_address);
+    form.addField("&Variabile:", offered);
+    m_text->setVisible(withText);
+    if (withText) form.addField("T&esto:", m_text);
+    QPushButton* ok = form.addButton("&OK", "cmdOk");
+    if (!address.isEmpty()) {
+        QPushButton* remove = form.addButton("Ri&muovi", "cmdRemove");
+        connect(remove, &QPushButton::clicked, this, [this] {
+            m_address->clear();
+            accept();
+        });
+    }
+    QPushButton* cancel = form.addButton("&Annulla", "cmdCancel");
+    form.finish(ok, 460);
+    m_address->setFocus();
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    const auto enable = [this, ok] { ok->setEnabled(!m_address->text().trimmed().isEmpty()); };
+    connect(m_address, &QLineEdit::textChanged, this, enable);
+    enable();
+}
+
+QString LinkDialog::address() const {
+    const QString address = m_address->text().trimmed();
+    const bool prefixed = address.startsWith(mailScheme, Qt::CaseInsensitive);
+    return m_kind->currentIndex() == Mail && !address.isEmpty() && !prefixed ? mailScheme + address : address;
+}
+
+QString LinkDialog::text() const {
+    return m_text->text();
+}
+
+}  // namespace ui
