@@ -1,0 +1,61 @@
+#pragma once
+
+#include "import/frmImpDB.h"
+#include "import/import_stage.h"
+#include "support/JetTables.h"
+
+namespace testing_support {
+
+inline QDialog& accessImportWindow() {
+    return finestre::ImpDB();
+}
+
+/// The Access import over the main window, with a source database that the test fills.
+class DbStage : public ImportStage {
+  public:
+    DbStage() : ImportStage(accessImportWindow) {}
+
+    using Columns = std::vector<jettables::Column>;
+    using Row = std::vector<jet::Value>;
+
+    QString source() const { return folder.path("sorgente.mdb"); }
+    /// Adds a table to the source, which is made at its first mention, beside the two of a recipient
+    /// database.
+    void addTable(const std::string& name, const Columns& columns, const std::vector<Row>& rows) {
+        if (!QFile::exists(source())) esigi(jet::createEmptyDatabase(source()));
+        jettables::addTable(source(), name, columns, {});
+        for (const Row& row : rows)
+            jettables::addRow(source(), QString::fromStdString(name), row);
+    }
+    /// A table "Anagrafe" with the columns "mail" and "nome".
+    void addPeople(const std::vector<Row>& rows) {
+        addTable("Anagrafe", {{"mail", jet::Type::Text, 120}, {"nome", jet::Type::Text, 120}}, rows);
+    }
+    void open(const QString& path, const QString& password = {}) {
+        type("txtDatabase", path);
+        type("txtPassword", password);
+        click("cmdApri");
+    }
+    void open() { open(source()); }
+    /// Chooses a column of the source, by name, in a box.
+    void feed(int index, const QString& column) {
+        const int entry = box(index)->findText(column);
+        if (entry < 0) qFatal("no column %s", qUtf8Printable(column));
+        box(index)->setCurrentIndex(entry);
+    }
+    static QStringList entries(const QComboBox& of) {
+        QStringList texts;
+        for (int i = 0; i < of.count(); ++i)
+            texts << of.itemText(i);
+        return texts;
+    }
+    QStringList tables() { return entries(*control<QComboBox>("cmbTab")); }
+    /// Makes the group the current node.
+    void chooseNode(int group = 1) {
+        window();
+        clickNode(QString("K%1").arg(group));
+    }
+    void answerBox() { ui::MessageDialog::queue(ui::MessageDialog::Ok); }
+};
+
+}  // namespace testing_support
