@@ -31,7 +31,8 @@ Result<std::vector<Catalog::ColumnEntry>> Catalog::columns(const QString& table)
     if (!found.ok()) return found.status();
     std::vector<ColumnEntry> columns;
     for (const jet::Column& column : found.value()->definition().columns) {
-        const int size = column.type == jet::Type::Text ? column.length / 2 : column.length;
+        const bool wide = column.type == jet::Type::Text && !column.ansi;
+        const int size = wide ? column.length / 2 : column.length;
         columns.push_back({column.name, column.type, size, column.autoNumber});
     }
     return columns;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/ado/DateText.h"
+#include "platform/ado/RawValue.h"
 #include "platform/ado/Value.h"
 
 namespace ado {
@@ -93,10 +94,22 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
             const Result<QString> text = Value(std::move(raw)).toText(QLocale::c());
             return text.ok() ? Result<jet::Value>(jet::Value(text.value().toStdString())) : mismatch(column);
         }
+        case Type::Guid:
+            if (const auto* text = std::get_if<std::string>(&raw)) {
+                auto bytes = guidBytes(*text);
+                return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : mismatch(column);
+            }
+            break;
+        case Type::Numeric:
+            if (const std::optional<double> number = realOf(raw)) {
+                auto bytes = numericBytes(*number, column);
+                return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : overflow(column);
+            }
+            break;
         default:
-            return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(std::move(raw))
-                                                           : mismatch(column);
+            break;
     }
+    return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(std::move(raw)) : mismatch(column);
 }
 
 }  // namespace ado

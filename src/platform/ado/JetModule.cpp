@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "platform/ado/FieldValue.h"
+#include "platform/ado/RawValue.h"
 #include "platform/ado/Session.h"
 
 namespace ado {
@@ -65,7 +66,10 @@ const char* declaredType(Type type) {
             return "DATE";
         case Type::Text:
         case Type::Memo:
+        case Type::Guid:
             return "TEXT COLLATE JET";
+        case Type::Numeric:
+            return "NUMERIC";
         default:
             return "BLOB";
     }
@@ -265,7 +269,8 @@ int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int number) {
         give(context, value.value());
         return SQLITE_OK;
     }
-    give(context, jet::RowView(&definition, cursor.bytes).value(position));
+    give(context,
+         readable(definition.columns[position], jet::RowView(&definition, cursor.bytes).value(position)));
     return SQLITE_OK;
 }
 
@@ -290,6 +295,7 @@ jet::Value taken(sqlite3_value* value) {
 
 Status insertRow(JetTable& rows, sqlite3_value** fields) {
     std::vector<jet::Value> values;
+    values.reserve(rows.definition().columns.size());
     for (const jet::Column& column : rows.definition().columns) {
         Result<jet::Value> value = fitToColumn(taken(fields[values.size()]), column);
         if (!value.ok()) return value.status();

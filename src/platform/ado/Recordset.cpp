@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/ado/FieldValue.h"
+#include "platform/ado/RawValue.h"
 #include "platform/ado/Rows.h"
 
 namespace ado {
@@ -198,7 +199,8 @@ Status Recordset::Data::load() {
 Result<Value> Recordset::Data::field(size_t column) {
     const auto change =
         std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });
-    if (change != changes.end()) return Value(change->second);
+    if (change != changes.end())
+        return Value(readable(rows->table()->definition().columns[column], change->second));
     if (adding)
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
@@ -207,7 +209,7 @@ Result<Value> Recordset::Data::field(size_t column) {
     const jet::TableDefinition& definition = rows->table()->definition();
     const jet::Type type = definition.columns[column].type;
     if (type != jet::Type::Memo && type != jet::Type::Ole)
-        return Value(jet::RowView(&definition, bytes).value(column));
+        return Value(readable(definition.columns[column], jet::RowView(&definition, bytes).value(column)));
     Result<jet::Value> value = rows->table()->longValue(rows->id(current), column);
     if (!value.ok()) return value.status();
     return Value(std::move(value).value());

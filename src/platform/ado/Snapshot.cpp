@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/ado/RawValue.h"
 #include "platform/ado/Rows.h"
 
 namespace ado {
@@ -106,7 +107,7 @@ Value Snapshot::value(size_t row, size_t column) const {
         case jet::Type::Memo:
             return Value(m_memos.at({m_rows[row], column}));
         default:
-            return Value(view(row).value(column));
+            return Value(readable(columns()[column], view(row).value(column)));
     }
 }
 

@@ -57,6 +57,10 @@ Column parseColumn(const uint8_t* p) {
     column.autoNumber = flags & 0x04;
     column.autoGuid = flags & 0x40;
     column.compressed = p[16] & 0x01;
+    if (column.type == Type::Numeric) {
+        column.precision = p[11];
+        column.scale = p[12];
+    }
     column.generalOrder = load16(p + 11) == 0x0409 && p[14] == 0;
     column.fixedOffset = load16(p + 21);
     column.length = load16(p + 23);
