@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <numeric>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -121,7 +122,21 @@ std::optional<std::string> sharedCheckerFindings(const QString& file) {
     return exitCode == 0 ? std::string() : output + "exit code " + std::to_string(exitCode);
 }
 
-std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file, const TableDefinition& table) {
+ComparableRow comparableRow(const TableDefinition& table, const std::function<Value(size_t)>& valueOf) {
+    ComparableRow row(table.columns.size());
+    for (size_t i = 0; i < row.size(); ++i)
+        if (const Type type = table.columns[i].type; isCompared(type)) row[i] = comparable(valueOf(i), type);
+    return row;
+}
+
+std::string joined(const ComparableRow& row) {
+    std::string line;
+    for (const std::string& field : row)
+        line += field + "|";
+    return line;
+}
+
+std::optional<std::vector<ComparableRow>> mdbtoolsTable(const QString& file, const TableDefinition& table) {
     const QString program = QStandardPaths::findExecutable(QStringLiteral("mdb-export"));
     if (program.isEmpty()) {
         std::printf("[ SKIPPED  ] mdb-export is not installed\n");
@@ -138,47 +153,42 @@ std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file, cons
             &exitCode);
     if (exitCode != 0) throw std::runtime_error("mdb-export failed on " + table.name.toStdString());
     // It gives the columns in the order of the definition, which is that of their numbers in users' tables.
-    std::vector<const Column*> columns;
-    for (const Column& column : table.columns)
-        columns.push_back(&column);
-    std::sort(columns.begin(), columns.end(),
-              [](const Column* a, const Column* b) { return a->number < b->number; });
-    std::multiset<std::string> rows;
-    for (const std::string& row : split(output, rowEnd)) {
-        if (row.empty()) continue;
-        const std::vector<std::string> fields = split(row, fieldEnd);
-        std::string line;
-        for (size_t i = 0; i < columns.size(); ++i)
-            if (isCompared(columns[i]->type))
-                line += (i < fields.size() ? comparable(fields[i], columns[i]->type) : "missing") + "|";
-        rows.insert(line);
+    std::vector<size_t> order(table.columns.size());
+    std::iota(order.begin(), order.end(), size_t{0});
+    std::sort(order.begin(), order.end(),
+              [&](size_t a, size_t b) { return table.columns[a].number < table.columns[b].number; });
+    std::vector<ComparableRow> rows;
+    for (const std::string& line : split(output, rowEnd)) {
+        if (line.empty()) continue;
+        const std::vector<std::string> fields = split(line, fieldEnd);
+        ComparableRow& row = rows.emplace_back(order.size());
+        for (size_t i = 0; i < order.size(); ++i)
+            if (const Type type = table.columns[order[i]].type; isCompared(type))
+                row[order[i]] = i < fields.size() ? comparable(fields[i], type) : "missing";
     }
     return rows;
 }
 
+std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file, const TableDefinition& table) {
+    const auto rows = mdbtoolsTable(file, table);
+    if (!rows) return std::nullopt;
+    std::multiset<std::string> lines;
+    for (const ComparableRow& row : *rows)
+        lines.insert(joined(row));
+    return lines;
+}
+
 std::multiset<std::string> engineRows(Table& table) {
-    const TableDefinition& definition = table.definition();
-    std::vector<size_t> order(definition.columns.size());
-    for (size_t i = 0; i < order.size(); ++i)
-        order[i] = i;
-    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
-        return definition.columns[a].number < definition.columns[b].number;
-    });
-    std::multiset<std::string> rows;
+    std::multiset<std::string> lines;
     const Status status = table.scan([&](RowId id, const RowView&) {
-        std::string line;
-        for (size_t i : order) {
-            const Type type = definition.columns[i].type;
-            if (!isCompared(type)) continue;
-            const auto value = table.value(id, i);
-            line +=
-                (value.ok() ? comparable(value.value(), type) : value.status().text().toStdString()) + "|";
-        }
-        rows.insert(line);
+        lines.insert(joined(comparableRow(table.definition(), [&](size_t column) -> Value {
+            auto value = table.value(id, column);
+            return value.ok() ? std::move(value).value() : Value(value.status().text().toStdString());
+        })));
         return true;
     });
     if (!status.ok()) throw std::runtime_error(status.text().toStdString());
-    return rows;
+    return lines;
 }
 
 std::string firstDifference(const std::multiset<std::string>& got,

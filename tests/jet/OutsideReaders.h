@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <QString>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/jet/Database.h"
 
@@ -13,8 +15,18 @@
 /// is told.
 std::optional<std::string> sharedCheckerFindings(const QString& file);
 
-/// The rows of a table as mdbtools reads them, each as one line of comparable text; no value when mdbtools is
-/// not here, which is told.
+/// A row in a form in which two readers can be compared: a text for each column, in the order of SELECT *. It
+/// is empty for a kind that the readers give differently.
+using ComparableRow = std::vector<std::string>;
+ComparableRow comparableRow(const jet::TableDefinition& table,
+                            const std::function<jet::Value(size_t column)>& valueOf);
+/// Row as one line.
+std::string joined(const ComparableRow& row);
+
+/// The rows of a table as mdbtools reads them; no value when mdbtools is not here, which is told.
+std::optional<std::vector<ComparableRow>> mdbtoolsTable(const QString& file,
+                                                        const jet::TableDefinition& table);
+/// The same as lines.
 std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file,
                                                        const jet::TableDefinition& table);
 
