@@ -7,6 +7,7 @@
 // What a command is to a view: whether it is there now, and how it is run.
 
 QVariant HtmlView::Live::freshState(const QString& name) {
+    awaitStrokes();
     const QVariantMap fresh = ask(QStringLiteral("editor.commands.state()")).toMap();
     if (!fresh.isEmpty()) state = fresh;
     return state.value(name).toString();

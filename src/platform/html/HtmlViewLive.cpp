@@ -105,6 +105,7 @@ void HtmlView::Live::written() {
 }
 
 QString HtmlView::Live::text() {
+    awaitStrokes();
     if (live) takeText(ask(QStringLiteral("editor.text.readNewer(%1)").arg(m_version)));
     if (m_text.isNull()) {
         HtmlDocument document;
@@ -138,6 +139,7 @@ void HtmlView::Live::keepText() {
     m_source = text();
     m_stateDue = false;
     m_writes = 0;
+    m_strokes = m_strokesSeen = 0;
     state.clear();
     wakeWaiting();
 }

@@ -33,6 +33,7 @@ struct HtmlView::Live {
     /// Values as they stand between the brackets of a call in a script.
     static QString arguments(const QJsonArray& values);
     bool paste();
+    void awaitStrokes();
 
     QVariant freshState(const QString& name);
     bool runCommand(int command, const QString& value);
@@ -72,6 +73,8 @@ struct HtmlView::Live {
     bool m_failed = false;
     bool m_stateDue = false;
     bool m_strokeIsShortcut = false;
+    int m_strokes = 0;      // keys released over the input widget
+    int m_strokesSeen = 0;  // of them by the document
     int m_deaths = 0;
     QElapsedTimer m_lastDeath;
     QTimer m_followTimer;

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <utility>
 
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int answerMilliseconds = 5000;
 constexpr int millisecondsPerMegabyte = 3000;
+constexpr int strokesMilliseconds = 100;
 
 }  // namespace
 
@@ -40,6 +42,17 @@ QVariant HtmlView::Live::ask(const QString& script) {
     waitFor([this, &answer] { return answer->there || !live; },
             answerMilliseconds + millisecondsPerMegabyte * static_cast<int>(megabytes));
     return answer->value;
+}
+
+// Keys take another way into the browser's process than scripts do, and may come later
+void HtmlView::Live::awaitStrokes() {
+    if (!live || m_strokes == m_strokesSeen) return;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    do {
+        m_strokesSeen = ask(QStringLiteral("editor.strokes")).toInt();
+    } while (live && m_strokesSeen < m_strokes && elapsed.elapsed() < strokesMilliseconds);
+    m_strokes = m_strokesSeen;
 }
 
 QVariant HtmlView::Live::change(const QString& function, const QJsonArray& values) {
@@ -121,6 +134,7 @@ bool HtmlView::Live::filter(QEvent& event) {
             m_strokeIsShortcut = false;
             return false;
         case QEvent::KeyRelease:
+            if (!static_cast<QKeyEvent&>(event).isAutoRepeat()) ++m_strokes;
             if (!m_strokeIsShortcut) Q_EMIT view.keyReleased();
             return false;
         case QEvent::FocusOut: {

@@ -10,14 +10,27 @@ View::View(const BrowserEvents& events, QWidget* parent)
     : QWebEngineView(parent),
       m_events(events),
       m_profile(Page::commonProfile()),
-      m_page(std::make_unique<Page>(*m_profile, m_events.said)) {
+      m_page(std::make_unique<Page>(*m_profile, [this](const QString& message) {
+          handOn([this, message] { m_events.said(message); });
+      })) {
     setPage(m_page.get());
-    connect(m_page.get(), &QWebEnginePage::loadFinished, this, [this] { m_events.started(); });
-    connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this, [this] { m_events.died(); });
+    connect(m_page.get(), &QWebEnginePage::loadFinished, this,
+            [this] { handOn([this] { m_events.started(); }); });
+    connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this,
+            [this] { handOn([this] { m_events.died(); }); });
+}
+
+void View::run(const QString& script, const std::function<void(const QVariant&)>& done) {
+    m_page->runJavaScript(script, QWebEngineScript::ApplicationWorld,
+                          [this, done](const QVariant& answer) { handOn([done, answer] { done(answer); }); });
+}
+
+void View::handOn(std::function<void()> news) {
+    QMetaObject::invokeMethod(this, std::move(news), Qt::QueuedConnection);
 }
 
 void View::contextMenuEvent(QContextMenuEvent* event) {
-    m_events.menu(event->globalPos());
+    handOn([this, place = event->globalPos()] { m_events.menu(place); });
     event->accept();
 }
 
@@ -43,7 +56,7 @@ extern "C" Q_DECL_EXPORT void createBrowser(QWidget* parent, const BrowserEvents
     browser.widget = view;
     browser.start = [view] { view->document().start(); };
     browser.run = [view](const QString& script, const std::function<void(const QVariant&)>& done) {
-        view->document().runJavaScript(script, QWebEngineScript::ApplicationWorld, done);
+        view->run(script, done);
     };
     browser.print = [view](QPrinter& printer, const std::function<void(bool)>& done) {
         QObject::connect(view, &QWebEngineView::printFinished, view, done, Qt::SingleShotConnection);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
@@ -13,6 +14,7 @@ class View : public QWebEngineView {
     View(const BrowserEvents& events, QWidget* parent);
 
     Page& document() { return *m_page; }
+    void run(const QString& script, const std::function<void(const QVariant&)>& done);
 
   protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -20,6 +22,10 @@ class View : public QWebEngineView {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    /// News arrive inside a task of the browser, which runs no other one meanwhile: whoever asked something
+    /// while handling them would wait in vain. So they are told outside of it.
+    void handOn(std::function<void()> news);
+
     BrowserEvents m_events;
     std::shared_ptr<QWebEngineProfile> m_profile;
     std::unique_ptr<Page> m_page;

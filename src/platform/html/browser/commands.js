@@ -33,7 +33,25 @@ editor.commands = {
     run(id, value) {
         if (!editor.editable && id !== 5002 && id !== 5035) return false;
         if (this.own[id]) return editor.step(this.own[id]);
-        return editor.step(() => document.execCommand(this.native[id], false, value));
+        return editor.step(() => {
+            const done = document.execCommand(this.native[id], false, value);
+            if (id === 5030 || id === 5051) this.liftLists();
+            return done;
+        });
+    },
+
+    // The browser makes a list inside the paragraph, where no reader would find it again: a paragraph ends where a
+    // list begins.
+    liftLists() {
+        const { anchorNode, anchorOffset, focusNode, focusOffset } = getSelection();
+        document.querySelectorAll('p > ol, p > ul').forEach((list) => {
+            const paragraph = list.parentNode;
+            const rest = paragraph.cloneNode(false);
+            while (list.nextSibling) rest.append(list.nextSibling);
+            paragraph.after(list, rest);
+            for (const half of [paragraph, rest]) if (!half.hasChildNodes()) half.remove();
+        });
+        if (anchorNode) getSelection().setBaseAndExtent(anchorNode, anchorOffset, focusNode, focusOffset);
     },
 
     value(name) {

@@ -3,6 +3,7 @@
 const editor = {
     editable: false,
     token: '', // tells our messages from the browser's own
+    strokes: 0, // keys released so far
 
     tell(what, detail) {
         console.debug(this.token + JSON.stringify({ what, detail }));
@@ -75,6 +76,7 @@ const editor = {
         on('beforeinput', (event) => this.beforeInput(event));
         on('mousedown', (event) => this.press(event));
         on('keydown', (event) => this.key(event));
+        on('keyup', () => (this.strokes += 1));
         on('paste', (event) => this.paste(event));
         on('compositionstart', () => this.history.seal());
     },
