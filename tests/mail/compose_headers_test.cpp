@@ -53,13 +53,24 @@ TEST(ComposeHeaders, NameWithSpecialCharactersIsQuoted) {
     EXPECT_EQ(mail::namedAddress("O'Neil & figli", "a@b.it"), "O'Neil & figli <a@b.it>");
 }
 
+TEST(ComposeHeaders, NameWithAngleBracketsIsEncoded) {
+    EXPECT_EQ(mail::namedAddress("a <b@c.it> d", "a@b.it"), "=?utf-8?Q?a_=3Cb=40c=2Eit=3E_d?= <a@b.it>");
+}
+
+TEST(ComposeHeaders, NameIsBounded) {
+    EXPECT_EQ(mail::namedAddress(QString("x ").repeated(600), "a@b.it"),
+              mail::namedAddress(QString("x ").repeated(500), "a@b.it"));
+    EXPECT_EQ(mail::namedAddress("x" + QStringLiteral("👍").repeated(600), "a@b.it"),
+              mail::namedAddress("x" + QStringLiteral("👍").repeated(499), "a@b.it"));
+}
+
 TEST(ComposeHeaders, AccentedTextBecomesEncodedWords) {
     EXPECT_EQ(mail::unstructuredText(QStringLiteral("Perché non ora")), "=?utf-8?Q?Perch=C3=A9_non_ora?=");
     EXPECT_EQ(mail::unstructuredText(QStringLiteral("日本")), "=?utf-8?B?5pel5pys?=");
 }
 
 TEST(ComposeHeaders, TextThatLooksEncodedIsEncoded) {
-    EXPECT_EQ(mail::unstructuredText("=?x?q?y?="), "=?utf-8?B?PT94P3E/eT89?=");
+    EXPECT_EQ(mail::unstructuredText("=?x?q?y?="), "=?utf-8?Q?=3D=3Fx=3Fq=3Fy=3F=3D?=");
 }
 
 TEST(ComposeHeaders, BlanksThatFoldingWouldLoseAreEncoded) {

@@ -70,7 +70,8 @@ class ReadByPython : public ::testing::Test {
 
     static void expectName(const QJsonObject& address, const QString& name) {
         EXPECT_EQ(address["count"].toInt(), 1);
-        const QString expected = text(name).trimmed().isEmpty() ? QString() : text(name);
+        const QString start = text(name.left(1000));
+        const QString expected = start.trimmed().isEmpty() ? QString() : start;
         EXPECT_EQ(address["name"].toString().toStdString(), expected.toStdString());
     }
 
@@ -134,15 +135,11 @@ class ReadByPython : public ::testing::Test {
     std::vector<mail::ComposedMessage> m_composed;
 };
 
-TEST_F(ReadByPython, OrdinaryValuesComeBack) {
-    for (const QString& value :
-         {QString(), QString("Mario Rossi"), QStringLiteral("Niccolò Però, s.r.l."),
-          QStringLiteral("🎉 Perché no? 👨‍👩‍👧‍👦"), QString(" blanks  inside "),
-          QStringLiteral("è").repeated(700), QString("lunga riga ").repeated(200), QString(3000, 'x'),
-          QString("\"quoted\" \\ <a@b.it>, (c); [d]"), QString("=?utf-8?B?eA==?= =?x?q?y?=")}) {
+TEST_F(ReadByPython, EachKindOfValueComesBack) {
+    for (const ValueKind& kind : valueKinds()) {
         auto message = plainMessage();
-        message.fromName = message.toName = message.subject = message.bodyText = value;
-        message.bodyHtml = "<p>" + value + "</p>";
+        message.fromName = message.toName = message.subject = message.bodyText = kind.value;
+        message.bodyHtml = "<p>" + kind.value + "</p>";
         add(message);
     }
     expectAllRead();

@@ -4,6 +4,34 @@
 
 namespace compose {
 
+QList<ValueKind> valueKinds() {
+    return {{"Plain", "Mario Rossi"},
+            {"Empty", QString()},
+            {"Blank", "   "},
+            {"Accented", QStringLiteral("Niccolò Però, così è")},
+            {"Emoji", QStringLiteral("🎉 Perché no? 👨‍👩‍👧‍👦 日本")},
+            {"BlanksAround", "  due  blanks  "},
+            {"LongWords", QStringLiteral("perché così tante parole ").repeated(400)},
+            {"LongPlainWords", QString("parole e ancora parole ").repeated(400).trimmed()},
+            {"LongWord", QString(20000, 'x')},
+            {"LongQuotes", QString(3000, '"')},
+            {"LongEmoji", QStringLiteral("👍").repeated(3000)},
+            {"Quotes", "\"Re\" \\ (commento) <a@b.it>, [x]; :y@z"},
+            {"EncodedWords", "=?utf-8?B?eA==?= =?x?q?y?= =?"},
+            {"LineEnds", "x\r\nBcc: spia@example.it\r\n\r\nX-A: b\rX-B: c\nX-C: d\n\n.\r\nRSET\r\n"},
+            {"Controls",
+             QString("a") + QChar(0) + "b\tc\v\f\x1B[0m" + QChar(0x85) + QChar(0x2028) + QChar(0x2029)},
+            {"BrokenCharacters", QString("a") + QChar(0xD83D) + "b" + QChar(0xDC4D) + QChar(0xFFFE)},
+            {"Dots", ".\r\n..\r\n...\r\n.x\r\n."},
+            {"OnlyDot", "."},
+            {"FromLines", "From a\r\nFrom b\r\n\r\nFrom c"},
+            {"NoFinalLineEnd", "riga\r\nultima"},
+            {"Boundaries", "--=_a.x\r\n--=_m\r\n--=_\r\n=_"},
+            {"Markup", "</p><meta charset=x><img src='/etc/passwd'><a rel=unsubscribe href='https://y.it/'>"},
+            {"RightToLeft", QStringLiteral("שלום \u202E abc \u200F")},
+            {"Placeholders", ":::nom::: %1 %s {0}"}};
+}
+
 QString HostileValues::text(int most) {
     static const QStringList pieces = {
         "a",

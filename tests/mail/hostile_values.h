@@ -1,9 +1,18 @@
 #pragma once
 
+#include <QList>
 #include <QRandomGenerator>
 #include <QString>
 
 namespace compose {
+
+struct ValueKind {
+    const char* name;
+    QString value;
+};
+
+/// A plain, an accented, an empty, a very long … text for names, subject, text and file names.
+QList<ValueKind> valueKinds();
 
 /// Texts that try to be more than texts, the same ones for the same seed.
 class HostileValues {

@@ -16,40 +16,6 @@ namespace {
 constexpr int messagesOfTheLoop = 400;
 const QByteArray attachmentContent("\0\r\n.\r\nFrom x\xFF", 13);
 
-struct Kind {
-    const char* name;
-    QString value;
-};
-
-// A plain, an accented … value for names, subject, text and file names
-QList<Kind> kinds() {
-    return {{"Plain", "Mario Rossi"},
-            {"Empty", QString()},
-            {"Blank", "   "},
-            {"Accented", QStringLiteral("Niccolò Però, così è")},
-            {"Emoji", QStringLiteral("🎉 Perché no? 👨‍👩‍👧‍👦 日本")},
-            {"BlanksAround", "  due  blanks  "},
-            {"LongWords", QStringLiteral("perché così tante parole ").repeated(400)},
-            {"LongPlainWords", QString("parole e ancora parole ").repeated(400).trimmed()},
-            {"LongWord", QString(20000, 'x')},
-            {"LongQuotes", QString(3000, '"')},
-            {"LongEmoji", QStringLiteral("👍").repeated(3000)},
-            {"Quotes", "\"Re\" \\ (commento) <a@b.it>, [x]; :y@z"},
-            {"EncodedWords", "=?utf-8?B?eA==?= =?x?q?y?= =?"},
-            {"LineEnds", "x\r\nBcc: spia@example.it\r\n\r\nX-A: b\rX-B: c\nX-C: d\n\n.\r\nRSET\r\n"},
-            {"Controls",
-             QString("a") + QChar(0) + "b\tc\v\f\x1B[0m" + QChar(0x85) + QChar(0x2028) + QChar(0x2029)},
-            {"BrokenCharacters", QString("a") + QChar(0xD83D) + "b" + QChar(0xDC4D) + QChar(0xFFFE)},
-            {"Dots", ".\r\n..\r\n...\r\n.x\r\n."},
-            {"OnlyDot", "."},
-            {"FromLines", "From a\r\nFrom b\r\n\r\nFrom c"},
-            {"NoFinalLineEnd", "riga\r\nultima"},
-            {"Boundaries", "--=_a.x\r\n--=_m\r\n--=_\r\n=_"},
-            {"Markup", "</p><meta charset=x><img src='/etc/passwd'><a rel=unsubscribe href='https://y.it/'>"},
-            {"RightToLeft", QStringLiteral("שלום \u202E abc \u200F")},
-            {"Placeholders", ":::nom::: %1 %s {0}"}};
-}
-
 // Line ends as they travel
 QString travelled(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
@@ -105,7 +71,10 @@ class WireMessage : public ::testing::TestWithParam<bool> {
 
     static void expectValues(const mail::MessageData& sent, const wire::Message& read) {
         const auto nameOf = [](const QString& name) {
-            return inOneLine(name).trimmed().isEmpty() ? QString() : inOneLine(name);
+            // 1000 characters, and no half of one
+            const QString start = name.left(1000);
+            return start.trimmed().isEmpty() || inOneLine(start).trimmed().isEmpty() ? QString()
+                                                                                     : inOneLine(start);
         };
         EXPECT_EQ(read.subject.toStdString(), inOneLine(sent.subject).toStdString());
         EXPECT_EQ(read.from.name.toStdString(), nameOf(sent.fromName).toStdString());
@@ -182,7 +151,7 @@ class WireMessage : public ::testing::TestWithParam<bool> {
 };
 
 TEST_P(WireMessage, KeepsEveryRuleForEachKindOfValue) {
-    for (const Kind& kind : kinds()) {
+    for (const ValueKind& kind : valueKinds()) {
         SCOPED_TRACE(kind.name);
         auto message = plainMessage();
         message.fromName = message.toName = message.subject = message.bodyText = kind.value;

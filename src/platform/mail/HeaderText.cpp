@@ -14,6 +14,8 @@ constexpr qsizetype wordLimit = 69;
 constexpr std::string_view qOpening = "=?utf-8?Q?";
 constexpr std::string_view bOpening = "=?utf-8?B?";
 constexpr std::string_view closing = "?=";
+constexpr qsizetype nameLimit =
+    1000;  // of a display name; spam filters cut a header at 8 KB and miss the address
 constexpr qsizetype sectionLimit = 60;  // of a parameter's value
 constexpr qsizetype payloadLimit = wordLimit - static_cast<qsizetype>(qOpening.size() + closing.size());
 
@@ -40,6 +42,10 @@ bool isPlain(const QByteArray& text) {
         before = c;
     }
     return true;
+}
+
+bool isAscii(const QByteArray& text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 qsizetype qLength(unsigned char c) {
@@ -73,7 +79,8 @@ QByteArray encodedWords(const QByteArray& utf8) {
     qsizetype asQ = 0;
     for (const char c : utf8)
         asQ += qLength(static_cast<unsigned char>(c));
-    const bool useQ = asQ <= utf8.size() * 4 / 3;
+    // Base64 for what is ASCII looks as if something was to be hidden, and filters mark it
+    const bool useQ = asQ <= utf8.size() * 4 / 3 || isAscii(utf8);
 
     QByteArray out;
     out.reserve(utf8.size() * 2 + 32);
@@ -116,6 +123,11 @@ QByteArray quoted(const QByteArray& text) {
     return out + '"';
 }
 
+// Without half a character at the end
+QString firstCharacters(const QString& text, qsizetype most) {
+    return text.left(most > 0 && most < text.size() && text[most - 1].isHighSurrogate() ? most - 1 : most);
+}
+
 bool breaksLine(QChar c) {
     return c.category() == QChar::Other_Control || c.unicode() == 0x2028 || c.unicode() == 0x2029;
 }
@@ -135,14 +147,15 @@ QByteArray unstructuredText(const QString& text) {
 }
 
 QByteArray namedAddress(const QString& name, const QByteArray& address) {
-    QByteArray phrase = singleLine(name).toUtf8();
-    if (phrase.trimmed().isEmpty()) return address;
-    if (!isPlain(phrase)) {
-        phrase = encodedWords(phrase);
-    } else if (!std::all_of(phrase.begin(), phrase.end(), [](char c) { return c == ' ' || isAtomText(c); })) {
-        const QByteArray inQuotes = quoted(phrase);
-        phrase = isPlain(inQuotes) ? inQuotes : encodedWords(phrase);  // the backslashes may lengthen a word
-    }
+    const QByteArray plain = singleLine(firstCharacters(name, nameLimit)).toUtf8();
+    if (plain.trimmed().isEmpty()) return address;
+    QByteArray phrase = plain;
+    const bool isAtoms =
+        std::all_of(plain.begin(), plain.end(), [](char c) { return c == ' ' || isAtomText(c); });
+    if (!isAtoms) phrase = quoted(plain);
+    // in quotes, backslashes may have lengthened a word, and readers take angle brackets for the address
+    if (!isPlain(plain) || !isPlain(phrase) || plain.contains('<') || plain.contains('>'))
+        phrase = encodedWords(plain);
     return phrase + " <" + address + '>';
 }
 

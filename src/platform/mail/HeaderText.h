@@ -14,7 +14,7 @@ QString singleLine(QString text);
 QByteArray unstructuredText(const QString& text);
 
 /// Value of an address header: the name as atoms, quoted string or encoded words, and the address. An empty
-/// name leaves the bare address.
+/// name leaves the bare address; of a name only the first 1000 characters stand.
 QByteArray namedAddress(const QString& name, const QByteArray& address);
 
 /// A parameter that follows a header's value, on lines of its own: ";", line end, blank, name and value. A
