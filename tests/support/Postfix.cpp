@@ -72,11 +72,11 @@ postlog unix-dgram n - n - 1 postlogd
 
 Postfix::Postfix(quint16 relayPort) {
     configure(relayPort);
-    if (m_problem.isEmpty()) run("/usr/sbin/postfix", {"-c", m_folder.path(), "start"});
+    if (m_isPossible && m_problem.isEmpty()) run("/usr/sbin/postfix", {"-c", m_folder.path(), "start"});
 }
 
 Postfix::~Postfix() {
-    run("/usr/sbin/postfix", {"-c", m_folder.path(), "stop"});
+    if (m_isPossible) run("/usr/sbin/postfix", {"-c", m_folder.path(), "stop"});
 }
 
 void Postfix::configure(quint16 relayPort) {
@@ -110,7 +110,7 @@ void Postfix::configure(quint16 relayPort) {
 void Postfix::giveAway(const char* name, const char* owner) {
     const passwd* known = ::getpwnam(owner);
     if (!known || ::chown(QFile::encodeName(path(name)).constData(), known->pw_uid, gid_t(-1)) != 0)
-        m_problem = QStringLiteral("only the superuser of a whole system can run the server");
+        m_isPossible = false;
 }
 
 void Postfix::write(const char* name, const QByteArray& text) {

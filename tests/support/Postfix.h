@@ -26,6 +26,8 @@ class Postfix {
 
     /// Empty when it runs.
     const QString& problem() const { return m_problem; }
+    /// False where files cannot be given to the users that the server's parts run as.
+    bool isPossible() const { return m_isPossible; }
 
     /// Waits for that many messages in the Maildir and gives them as they lie there, in no order.
     QByteArrayList mail(qsizetype count) const;
@@ -40,6 +42,7 @@ class Postfix {
 
     QTemporaryDir m_folder;
     QString m_problem;
+    bool m_isPossible = true;
 };
 
 }  // namespace testing_support
