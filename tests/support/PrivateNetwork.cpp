@@ -46,12 +46,15 @@ bool enterPrivateNetwork() {
 }
 
 bool replaceResolverConfiguration(const QByteArray& text) {
-    QTemporaryFile file;
-    if (!file.open() || file.write(text) != text.size() || !file.flush()) return false;
-    file.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    const bool mounted = ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr,
-                                 MS_BIND, nullptr) == 0;
-    return mounted;  // the content lives on without its name
+    static QTemporaryFile file;
+    static bool mounted = false;
+    if (!file.isOpen() && !file.open()) return false;
+    if (!file.resize(0) || !file.seek(0) || file.write(text) != text.size() || !file.flush()) return false;
+    if (mounted) return true;
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    mounted = ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr, MS_BIND,
+                      nullptr) == 0;
+    return mounted;
 }
 
 }  // namespace testing_support
