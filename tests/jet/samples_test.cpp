@@ -3,6 +3,7 @@
 // passes.
 #include "jet/JetFixture.h"
 #include "jet/OutsideReaders.h"
+#include "platform/jet/Header.h"
 
 using namespace jet;
 
@@ -102,9 +103,33 @@ TEST_F(SamplesTest, RowsOfAJet3FileAreFoundThroughItsPrimaryKey) {
 TEST_F(SamplesTest, PasswordOfARealFile) {
     const QString file = copyOf("mr-V2000_with-password.mdb");
     if (file.isEmpty()) return;
-    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(file));
+    const auto refused = Database::open(file);
+    EXPECT_FAILS(ErrorCode::InvalidPassword, refused);
+    EXPECT_EQ(jetTextOf(refused), "Password non valida.");
     EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(file, {.password = QStringLiteral("Password")}));
     EXPECT_OK(Database::open(file, {.password = QStringLiteral("password")}));
+}
+
+// No sample of Access 97 has a password, so one is put into it.
+TEST_F(SamplesTest, PasswordOfAJet3File) {
+    const QString file = copyOf("qm-Books_be.mdb");
+    if (file.isEmpty()) return;
+    std::string bytes = bytesOf(file);
+    const auto mask = [&] {
+        // Under the mask of the header, as in all of these files, the page key is 0 at 0x3E and the password
+        // follows.
+        Page page{};
+        maskHeader(page);
+        return std::string(page.begin() + header::password, page.begin() + header::password + 20);
+    }();
+    std::string password = "Pàss";
+    password.replace(1, 2, "\xE0");
+    for (size_t i = 0; i < 20; ++i)
+        bytes[header::password + i] = static_cast<char>(mask[i] ^ (i < password.size() ? password[i] : 0));
+    writeBytes(file, bytes);
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(file));
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(file, {.password = QStringLiteral("pàss")}));
+    EXPECT_OK(Database::open(file, {.password = QStringLiteral("Pàss")}));
 }
 
 TEST_F(SamplesTest, LinkedTablesAndQueriesAreNamedAndRefused) {

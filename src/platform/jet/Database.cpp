@@ -34,8 +34,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, const Opti
         auto engine = std::make_unique<Engine>(path, options);
         const QString& wanted = engine->file.header().password;
         if (!wanted.isEmpty() && wanted != options.password)
-            fail(ErrorCode::InvalidPassword,
-                 QStringLiteral("Password non valida per il database \"%1\".").arg(path));
+            fail(ErrorCode::InvalidPassword, QStringLiteral("Password non valida."));
         const Reading reading(engine->file);
         if (GlobalMap(engine->file).reachesBehindFile())
             failDamaged(QStringLiteral("il file \"%1\" è troncato").arg(path));
