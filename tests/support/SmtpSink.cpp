@@ -14,8 +14,8 @@ QByteArray addressIn(const QByteArray& line) {
 
 }  // namespace
 
-SmtpSink::SmtpSink() {
-    if (!m_server.listen(QHostAddress::LocalHost)) qFatal("no loopback port");
+SmtpSink::SmtpSink(const QHostAddress& address, quint16 port) {
+    if (!m_server.listen(address, port)) qFatal("no loopback port");
     connect(&m_server, &QTcpServer::newConnection, this, [this] { accept(); });
 }
 

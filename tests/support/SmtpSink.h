@@ -3,6 +3,7 @@
 #include <functional>
 #include <QByteArray>
 #include <QHash>
+#include <QHostAddress>
 #include <QList>
 #include <QStringList>
 #include <QTcpServer>
@@ -31,7 +32,7 @@ class SmtpSink : public QObject {
         QByteArray data;  ///< dots unstuffed, without the final point
     };
 
-    SmtpSink();
+    explicit SmtpSink(const QHostAddress& address = QHostAddress::LocalHost, quint16 port = 0);
     ~SmtpSink() override;
 
     quint16 port() const { return m_server.serverPort(); }
