@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QRect>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -19,6 +20,7 @@ class Desk {
         view.wake();
         view.activateWindow();
         view.setFocus();
+        address = view.evaluate(QStringLiteral("location.href")).toString();
     }
 
     /// Presses and releases a key; the text may be any.
@@ -52,7 +54,20 @@ class Desk {
                           .arg(offset));
     }
 
+    /// Where an element is drawn, in the view's places.
+    QRect placeOf(const QString& selector) const {
+        const QVariantList box =
+            view.evaluate(QStringLiteral("{ const b = document.querySelector('%1')"
+                                         ".getBoundingClientRect(); [b.x, b.y, b.width, b.height] }")
+                              .arg(selector))
+                .toList();
+        return QRectF(box.value(0).toDouble(), box.value(1).toDouble(), box.value(2).toDouble(),
+                      box.value(3).toDouble())
+            .toRect();
+    }
+
     HtmlView view;
+    QString address;  ///< of the page that documents are written into
 };
 
 /// True when reading the document again gives the same one.

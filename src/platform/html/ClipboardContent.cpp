@@ -1,5 +1,6 @@
 #include "platform/html/ClipboardContent.h"
 
+#include <algorithm>
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
@@ -8,6 +9,11 @@
 #include <QUrl>
 
 namespace {
+
+bool namesFiles(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+}
 
 QJsonArray imageFiles(const QMimeData& data) {
     QJsonArray images;
@@ -29,7 +35,7 @@ QString asAddress(const QImage& image) {
 
 QJsonObject clipboardContent(const QMimeData& data) {
     QJsonArray images = imageFiles(data);
-    if (!images.isEmpty()) return {{"images", images}};
+    if (namesFiles(data)) return images.isEmpty() ? QJsonObject() : QJsonObject{{"images", images}};
     QJsonObject content;
     if (data.hasHtml()) content["html"] = data.html();
     if (data.hasText()) content["text"] = data.text();

@@ -62,7 +62,12 @@ const editor = {
                 ? NodeFilter.FILTER_ACCEPT
                 : NodeFilter.FILTER_SKIP,
         );
-        return walker.nextNode() || body;
+        return walker.nextNode() || this.innermost(body);
+    },
+
+    innermost(element) {
+        const first = element.firstElementChild;
+        return first && !first.matches('br,form,script,style,' + this.objects) ? this.innermost(first) : element;
     },
 
     // Opening a document takes all listeners off it, so they are set for each anew.
@@ -89,6 +94,7 @@ const editor = {
         this.history.kind = event.inputType;
     },
 
+    // Elements that are taken whole.
     objects: 'img,input,select,textarea,hr,button',
 
     press(event) {

@@ -17,8 +17,9 @@ editor.insert = {
     fragment(html) {
         const range = this.range();
         if (!range) return false;
-        const content = range.createContextualFragment(html);
-        return this.nodes(range, content);
+        const page = document.createRange();
+        page.selectNodeContents(document.body);
+        return this.nodes(range, page.createContextualFragment(html));
     },
 
     nodes(range, content) {
@@ -60,7 +61,7 @@ editor.insert = {
         range.setStartAfter(paragraph);
         range.collapse(true);
         for (const half of [paragraph, paragraph.nextSibling]) {
-            if (half && !half.textContent && !half.querySelector('img,input,hr,br,table,select,textarea')) half.remove();
+            if (half && !half.textContent && !half.querySelector(editor.objects)) half.remove();
         }
     },
 
@@ -96,7 +97,7 @@ editor.insert = {
         const range = this.range();
         if (!range) return false;
         const content = document.createDocumentFragment();
-        content.append(...Array.from(source.body.childNodes, (node) => document.adoptNode(node)));
+        content.append(...Array.from(source.body.childNodes));
         return this.nodes(range, content);
     },
 
