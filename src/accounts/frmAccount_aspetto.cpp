@@ -122,7 +122,7 @@ void frmAccount::DisponiControlli() {
     elenco->setSpacing(ui::controlSpacing / 2);
     elenco->addWidget(lbl[1]);
     elenco->addWidget(lstAccount, 1);
-    lstAccount->setFixedWidth(210);
+    lstAccount->setFixedWidth(ui::scaledToFont(*this, 210));
 
     auto* modulo = new QVBoxLayout;
     modulo->setSpacing(0);

@@ -1,4 +1,6 @@
 """The program's windows as an assistive program finds them. To be imported inside a desktop of its own (desktop.inside)."""
+import time
+
 import pyatspi
 from gi.repository import GLib
 
@@ -8,8 +10,16 @@ from desktop import fail, wait_for
 class Window:
     """One window of the program, by the role and the start of the name that it has."""
 
-    def __init__(self, role, name):
+    def __init__(self, role, name, active=True):
         self.frame = wait_for(lambda: self._shown(role, name), f"the window {name!r}")
+        # The window manager may still move it.
+        wait_for(lambda: has(self.frame, pyatspi.STATE_ACTIVE) or not active, f"{name!r} to be the active window")
+        wait_for(self._stands_still, f"{name!r} to stand still")
+
+    def _stands_still(self):
+        before = extents(self.frame)
+        time.sleep(0.2)
+        return extents(self.frame) == before
 
     @staticmethod
     def _shown(role, name):
@@ -73,6 +83,12 @@ def act(control, wanted):
         pass  # the answer of an action that opens a modal window comes when the window is left
 
 
-def click(control, event="b1c"):
+def extents(control):
+    """Left, top, width and height on the screen."""
     place = control.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    pyatspi.Registry.generateMouseEvent(place.x + place.width // 2, place.y + place.height // 2, event)
+    return place.x, place.y, place.width, place.height
+
+
+def click(control, event="b1c"):
+    left, top, width, height = extents(control)
+    pyatspi.Registry.generateMouseEvent(left + width // 2, top + height // 2, event)

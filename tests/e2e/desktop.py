@@ -99,10 +99,10 @@ class Desktop:
             fail("the browser engine was loaded without the editor")
 
     @staticmethod
-    def ends_well(process):
-        status = wait_for(lambda: process.poll() is not None and str(process.returncode), "the end of the program")
-        if status != "0":
-            fail(f"the program ended with {status}")
+    def ends(process, status):
+        wait_for(lambda: process.poll() is not None, "the end of the program")
+        if process.returncode != status:
+            fail(f"the program ended with {process.returncode} instead of {status}")
 
     def close(self):
         for process in reversed(self.processes):

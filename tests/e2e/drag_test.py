@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""Drags recipients and groups with the mouse over the built program, and floats the pane of the groups; what the database
+holds afterwards is read from outside.
+
+    drag_test.py BUILD_FOLDER
+"""
+import csv
+import os
+import pathlib
+import subprocess
+import sys
+
+import desktop
+from desktop import wait_for
+
+desktop.inside()
+from accessible import Window, act, click, extents  # noqa: E402  looks for the bus when it is imported
+
+
+class Table:
+    """A table of the database, read with foreign tools."""
+
+    def __init__(self, database, name, key):
+        self.database, self.name, self.key = database, name, key
+
+    def expect(self, row, column, value):
+        wait_for(lambda: self.value(row, column) == value, f"{column} of {row} to be {value}")
+
+    def value(self, row, column):
+        exported = subprocess.run(["mdb-export", str(self.database), self.name], stdout=subprocess.PIPE, text=True, check=True)
+        return {one[self.key]: one for one in csv.DictReader(exported.stdout.splitlines())}[row][column]
+
+
+def middle(control):
+    left, top, width, height = extents(control)
+    return left + min(width // 2, 60), top + height // 2
+
+
+def below(control):
+    """The empty space of a list under its last entry."""
+    left, top, width, height = extents(control)
+    return left + width // 2, top + height - 40
+
+
+def drag(begin, end):
+    steps = [(begin[0] + (end[0] - begin[0]) * n // 10, begin[1] + (end[1] - begin[1]) * n // 10) for n in range(1, 11)]
+    moves = [word for x, y in steps for word in ("mousemove", str(x), str(y), "sleep", "0.03")]
+    subprocess.run(["xdotool", "mousemove", *map(str, begin), "sleep", "0.1", "mousedown", "1", *moves, "sleep", "0.1",
+                    "mouseup", "1", "sleep", "0.2"], check=True)
+
+
+def play(stage, program):
+    build = pathlib.Path(sys.argv[1]).resolve()
+    folder = stage.work / "sample"
+    subprocess.run([str(build / "demo" / "demo_make"), str(folder), "25"], env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
+                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
+    database = folder / "data" / "data.mdb"
+    running = stage.start([program], env={**os.environ, "VESTROLA_FOLDER": str(folder)})
+    main = Window("frame", "Vestrola")
+    groups(main, Table(database, "tb_gruppi", "nome"))
+    float_the_pane(main)
+    recipients(main, Table(database, "tb_destinatari", "email"), Table(database, "tb_gruppi", "nome"))
+    Window("alert", "Vestrola").press("OK")  # the failure of the recipient that was dropped on nothing
+    stage.ends(running, 1)
+    print("recipients and groups dragged to groups, to the root, to a descendant and to nothing")
+
+
+def groups(main, table):
+    def node(name):
+        return main.find("table cell", name)
+
+    def drop(group, place, parent):
+        click(node(group))
+        drag(middle(node(group)), place)
+        table.expect(group, "id_up", parent)
+
+    number = table.value("Clienti", "id")
+    drop("Rivenditori", middle(node("Clienti")), number)
+    click(node("Clienti"))
+    subprocess.run(["xdotool", "key", "Right"], check=True)  # shows the group that is now below
+    drop("Clienti", middle(node("Rivenditori")), "0")
+    drop("Rivenditori", middle(node("Rivenditori")), number)
+    drop("Rivenditori", below(main.find("tree", "Gruppi mailing")), number)
+    drop("Rivenditori", middle(node("Database Mailing")), "0")
+
+
+def float_the_pane(main):
+    act(main.find("push button", "Fluttua"), "Press")
+    pane = Window("frame", "Gruppi mailing", active=False)
+    pane.press("Fluttua")
+    main.find("tree", "Gruppi mailing")
+
+
+def recipients(main, table, group):
+    first = "banco@barsport.example"
+
+    def row():
+        return middle(main.find("table cell", first))
+
+    click(main.find("table cell", "Clienti"))
+    drag(row(), middle(main.find("table cell", "Stampa")))
+    table.expect(first, "id_grp", group.value("Stampa", "id"))
+    drag(row(), middle(main.find("table cell", "Database Mailing")))
+    table.expect(first, "id_grp", "0")
+    drag(row(), below(main.find("tree", "Gruppi mailing")))
+    table.expect(first, "id_grp", "0")
+
+
+if __name__ == "__main__":
+    desktop.run(play)
