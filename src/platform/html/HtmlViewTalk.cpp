@@ -1,3 +1,4 @@
+#include <QAbstractEventDispatcher>
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -87,6 +88,9 @@ bool HtmlView::Live::waitFor(const std::function<bool()>& done, int milliseconds
         QEventLoop loop;
         QTimer::singleShot(static_cast<int>(left), &loop, &QEventLoop::quit);
         m_waiting.push_back(&loop);
+        // The caller may itself be handling a queued event: those queued behind it, the browser's among them,
+        // would otherwise rest until something new comes.
+        QAbstractEventDispatcher::instance()->wakeUp();
         loop.exec(QEventLoop::ExcludeUserInputEvents);
         std::erase(m_waiting, &loop);
     }
