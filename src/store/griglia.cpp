@@ -81,8 +81,9 @@ void grd_DblClick() {
 }
 
 void grd_MouseMove(Qt::MouseButtons pulsanti) {
-    finestre::Main().Commands().GetStatic("stcHelp")->setText("Email presenti: " +
-                                                              text::formatGrouped(grd().Rows() - 1));
+    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+    stcHelp.setText("Email presenti: " + text::formatGrouped(grd().Rows() - 1));
+    stcHelp.announce();
     if (pulsanti & Qt::LeftButton && grd().Row() > 0) grd().Drag();
 }
 

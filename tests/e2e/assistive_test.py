@@ -6,12 +6,15 @@ clicked where they say that they are.
 
     assistive_test.py BUILD_FOLDER
 """
+import time
+
 import desktop
 from desktop import fail, wait_for
 
 desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
-from accessible import Window, act, click, has  # noqa: E402
+from gi.repository import GLib  # noqa: E402
+from accessible import Window, act, click, extents, has  # noqa: E402
 
 
 def play(stage, program):
@@ -24,7 +27,7 @@ def play(stage, program):
     main.press("Nuova cartella dentro questo livello")
     click(main.find("table cell", "Nuovo gruppo"))
     add_recipient(main)
-    tick(main)
+    hear_the_count(main, lambda: tick(main))
     add_account(main, server.port)
     send(main, message)
 
@@ -55,6 +58,32 @@ def tick(main):
         fail("the new recipient is ticked, but was saved without the tick")
     click(box)
     wait_for(lambda: has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED), "the tick")
+
+
+def hear_the_count(main, first_move):
+    """A count is told when the pointer first comes to the list, and not at each move that shows it anew."""
+    told = []
+
+    def listen(event):
+        if event.source.getRoleName() == "label":
+            told.append(event.source.name)
+
+    def heard():
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return told
+
+    pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name")
+    first_move()
+    rows, tree = extents(main.find("table", "Mailing List")), extents(main.find("tree", "Gruppi mailing"))
+    for left, top, _, _ in (tree, rows, tree, rows):
+        for way in (60, 80):
+            pyatspi.Registry.generateMouseEvent(left + way, top + 2 * way, "abs")
+            time.sleep(0.2)
+    wait_for(heard, "the count")
+    pyatspi.Registry.deregisterEventListener(listen, "object:property-change:accessible-name")
+    if told != ["Email presenti: 1"]:
+        fail(f"the texts that were told are {told}")
 
 
 def add_account(main, port):

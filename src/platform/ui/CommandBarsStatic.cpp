@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyle>
+#include <utility>
 
 namespace ui {
 
@@ -38,6 +39,7 @@ void StaticItem::setText(const QString& text) {
 }
 
 void StaticItem::announce() {
+    if (std::exchange(m_announced, m_text) == m_text) return;
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
 }

@@ -15,6 +15,7 @@ class StaticItem : public QWidget {
 
     const QString& Text() const { return m_text; }
     void setText(const QString& text);
+    /// Tells assistive programs the text, unless it is the one that they were told last.
     void announce();
 
     QSize sizeHint() const override;
@@ -25,6 +26,7 @@ class StaticItem : public QWidget {
 
   private:
     QString m_text;
+    QString m_announced;
 };
 
 }  // namespace ui
