@@ -10,6 +10,7 @@
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
+#include "support/MemoryFolder.h"
 
 namespace {
 
@@ -17,15 +18,9 @@ void demand(bool condition) {
     if (!condition) std::abort();
 }
 
-/// A folder in memory where there is one, so that syncing costs nothing.
-QString folderPattern() {
-    const QString memory = QStringLiteral("/dev/shm");
-    return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/statement-XXXXXX");
-}
-
 class List {
   public:
-    List() : m_folder(folderPattern()) { make(); }
+    List() : m_folder(memoryFolderPattern()) { make(); }
 
     QString connection() const { return QStringLiteral("Data Source = ") + path(); }
 

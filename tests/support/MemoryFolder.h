@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+/// Pattern for a QTemporaryDir that lies in memory where that can be had, so that syncing costs nothing.
+inline QString memoryFolderPattern() {
+    const QString memory = QStringLiteral("/dev/shm");
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/vestrola-XXXXXX");
+}
