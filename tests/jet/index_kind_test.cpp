@@ -234,6 +234,7 @@ TEST_F(IndexKindsTest, DescendingTextIsKeptOnceTheFileShowsItsForm) {
 TEST_F(IndexKindsTest, LongTextKeysSplitLeavesAndNodes) {
     Table& t = makeTexts({{{{1, true}}, plain}, {{{1, true}, {0, true}}, plain}});
     std::vector<RowId> ids;
+    ids.reserve(1500);
     EXPECT_OK(database->begin());
     for (int i = 0; i < 1500; ++i)
         ids.push_back(

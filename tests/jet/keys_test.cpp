@@ -162,7 +162,7 @@ TEST_F(OneKeyTest, EveryTypeHasTheKeysOfTheVectors) {
         {QStringLiteral("double"), Type::Double},     {QStringLiteral("date"), Type::Date},
         {QStringLiteral("GUID"), Type::Guid},         {QStringLiteral("binary"), Type::Binary}};
     std::set<Type> met;
-    for (const QJsonValue& entry : vectorsOf(QStringLiteral("jet/other-keys.json"))) {
+    for (const QJsonValue entry : vectorsOf(QStringLiteral("jet/other-keys.json"))) {
         const QJsonObject vector = entry.toObject();
         const Type type = types.at(vector[u"type"].toString());
         met.insert(type);

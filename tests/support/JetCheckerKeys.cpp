@@ -24,7 +24,7 @@ const std::map<unsigned, Weight>& weights() {
         QFile file(QStringLiteral(TEST_DATA_DIR "/jet/general-weights.json"));
         if (!file.open(QIODevice::ReadOnly)) throw Broken("the table of weights is not here");
         const QJsonDocument json = QJsonDocument::fromJson(file.readAll());
-        for (const QJsonValue& entry : json[u"characters"].toArray()) {
+        for (const QJsonValue entry : json[u"characters"].toArray()) {
             Weight weight;
             const QByteArray main = QByteArray::fromHex(entry[u"main"].toString().toLatin1());
             weight.main.assign(main.begin(), main.end());
