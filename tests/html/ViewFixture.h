@@ -36,6 +36,20 @@ class Desk {
             press(c.toUpper().unicode(), Qt::NoModifier, c);
     }
 
+    /// Two clicks in quick succession, as the browser tells them by the events' times.
+    void doubleClick(const QPoint& place) {
+        const QPoint global = view.inputWidget()->mapToGlobal(place);
+        quint64 time = 1000000;
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                        QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons held =
+                type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
+            QMouseEvent event(type, place, global, Qt::LeftButton, held, Qt::NoModifier);
+            event.setTimestamp(time += 20);
+            QApplication::sendEvent(view.inputWidget(), &event);
+        }
+    }
+
     /// What the body holds.
     QString body() const {
         const QString html = view.documentHTML();

@@ -1,6 +1,6 @@
 #include "platform/html/HtmlViewLive.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QJsonObject>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -98,6 +98,8 @@ void HtmlView::Live::written() {
     if (QWidget* input = view.inputWidget()) {
         input->removeEventFilter(&view);
         input->installEventFilter(&view);
+        const QWidget* focused = QApplication::focusWidget();
+        if (focused == &view || focused == browser.widget) input->setFocus();
     }
     wakeWaiting();
     Q_EMIT view.documentComplete();
