@@ -21,29 +21,37 @@ IndexPage::IndexPage(const Page& page, uint32_t number, uint32_t owner) {
     const size_t prefix = load16(p + index::prefix);
     const size_t least = 1 + index::rowIdLength + (leaf ? 0 : index::childLength);
 
+    m_ends.reserve(index::room / least + 1);
     for (size_t i = 0; i < index::entries - index::mask; ++i)
         for (unsigned rest = p[index::mask + i]; rest != 0; rest &= rest - 1)
             m_ends.push_back(static_cast<uint32_t>(8 * i) + static_cast<uint32_t>(std::countr_zero(rest)));
     if (!m_ends.empty() && (m_ends.back() > index::room || m_ends.front() < std::max(least, prefix)))
         damaged();
+    for (size_t i = 1; i < m_ends.size(); ++i)
+        if (prefix + m_ends[i] - m_ends[i - 1] < least) damaged();
+    takeEntries(p + index::entries, prefix);
+    if (!leaf && m_ends.empty() && tail == 0) damaged();
+}
 
-    // Each end becomes the end of the whole entry; from the second on that is longer by the prefix.
-    const size_t stored = m_ends.empty() ? 0 : m_ends.back();
-    m_bytes.resize(stored + prefix * (m_ends.empty() ? 0 : m_ends.size() - 1));
-    const uint8_t* from = p + index::entries;
+// Each end becomes the end of the whole entry; from the second on that is longer by the prefix.
+void IndexPage::takeEntries(const uint8_t* stored, size_t prefix) {
+    const size_t size = m_ends.empty() ? 0 : m_ends.back();
+    if (prefix == 0 || size == 0) {
+        m_bytes.assign(stored, stored + size);
+        return;
+    }
+    m_bytes.resize(size + prefix * (m_ends.size() - 1));
     size_t end = 0;
     size_t at = 0;
     for (uint32_t& entryEnd : m_ends) {
         const size_t shared = at == 0 ? 0 : prefix;
         const size_t own = entryEnd - end;
-        if (shared + own < least) damaged();
         std::memcpy(&m_bytes[at], m_bytes.data(), shared);
-        std::memcpy(&m_bytes[at + shared], from + end, own);
+        std::memcpy(&m_bytes[at + shared], stored + end, own);
         end = entryEnd;
         at += shared + own;
         entryEnd = static_cast<uint32_t>(at);
     }
-    if (!leaf && m_ends.empty() && tail == 0) damaged();
 }
 
 std::span<const uint8_t> IndexPage::entry(size_t i) const {
@@ -132,12 +140,13 @@ void IndexPage::store(Page& page, uint32_t owner) const {
     store16(p + index::prefix, static_cast<uint32_t>(prefix()));
     p[index::level] = level;
     const size_t shared = prefix();
-    size_t at = 0;
+    if (shared == 0) std::copy(m_bytes.begin(), m_bytes.end(), p + index::entries);
     for (size_t i = 0; i < count(); ++i) {
+        const size_t end = m_ends[i] - i * shared;
+        p[index::mask + end / 8] |= static_cast<uint8_t>(1u << (end % 8));
+        if (shared == 0) continue;
         const auto own = entry(i).subspan(i == 0 ? 0 : shared);
-        std::copy(own.begin(), own.end(), p + index::entries + at);
-        at += own.size();
-        p[index::mask + at / 8] |= static_cast<uint8_t>(1u << (at % 8));
+        std::copy(own.begin(), own.end(), p + index::entries + end - own.size());
     }
 }
 

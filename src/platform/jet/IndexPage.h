@@ -40,6 +40,7 @@ class IndexPage {
     void store(Page& page, uint32_t owner) const;
 
   private:
+    void takeEntries(const uint8_t* stored, size_t prefix);
     size_t start(size_t i) const { return i == 0 ? 0 : m_ends[i - 1]; }
     size_t prefix() const;
     size_t storedSize() const;
