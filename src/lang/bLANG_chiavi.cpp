@@ -13,7 +13,7 @@
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "lang/bLANG_chiavi_barre.h"
-#include "lang/bVAR.h"
+#include "lang/bVAR_elenco.h"
 #include "message/frmPropBody.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
@@ -23,57 +23,6 @@
 namespace {
 
 using bLANG::Chiavi;
-
-struct Variabile {
-    const char* nome;
-    QString* testo;
-};
-
-constexpr Variabile variabili[] = {
-    {"Attenzione", &bVAR::Attenzione},
-    {"Lingua", &bVAR::Lingua},
-    {"ChangeLang01", &bVAR::ChangeLang01},
-    {"ImpossibileContinuare", &bVAR::ImpossibileContinuare},
-    {"accNomeVisual", &bVAR::accNomeVisual},
-    {"accEmailCorretta", &bVAR::accEmailCorretta},
-    {"accServerSMTP", &bVAR::accServerSMTP},
-    {"accPort", &bVAR::accPort},
-    {"accAutenticazione", &bVAR::accAutenticazione},
-    {"goSecondi", &bVAR::goSecondi},
-    {"AddDestinatario", &bVAR::AddDestinatario},
-    {"goApriEmail", &bVAR::goApriEmail},
-    {"goEmailDiOutlook", &bVAR::goEmailDiOutlook},
-    {"AzzeraMailing", &bVAR::AzzeraMailing},
-    {"FileAssistenza", &bVAR::FileAssistenza},
-    {"DestInserisciEmail", &bVAR::DestInserisciEmail},
-    {"xxxCAP", &bVAR::xxxCAP},
-    {"DestAggiungiDestinatario", &bVAR::DestAggiungiDestinatario},
-    {"DestInserireEmailCorretta", &bVAR::DestInserireEmailCorretta},
-    {"MailingSalvata", &bVAR::MailingSalvata},
-    {"MailingSalva", &bVAR::MailingSalva},
-    {"MailingImporta", &bVAR::MailingImporta},
-    {"MailingOpen", &bVAR::MailingOpen},
-    {"xxxRagioneSociale", &bVAR::xxxRagioneSociale},
-    {"xxxNome", &bVAR::xxxNome},
-    {"xxxPIva", &bVAR::xxxPIva},
-    {"xxxIndirizzo", &bVAR::xxxIndirizzo},
-    {"xxxLocalita", &bVAR::xxxLocalita},
-    {"xxxProvincia", &bVAR::xxxProvincia},
-    {"xxxTelefono", &bVAR::xxxTelefono},
-    {"xxxFax", &bVAR::xxxFax},
-    {"xxxCampo1", &bVAR::xxxCampo1},
-    {"xxxCampo2", &bVAR::xxxCampo2},
-    {"xxxCampo3", &bVAR::xxxCampo3},
-    {"xxxCampo4", &bVAR::xxxCampo4},
-    {"xxxCampo5", &bVAR::xxxCampo5},
-    {"xxxCampo6", &bVAR::xxxCampo6},
-    {"xxxCampo7", &bVAR::xxxCampo7},
-    {"xxxCampo8", &bVAR::xxxCampo8},
-    {"xxxCampo9", &bVAR::xxxCampo9},
-    {"varModDestinatario", &bVAR::varModDestinatario},
-    {"varTitlePropBody", &bVAR::varTitlePropBody},
-    {"varAddDestinatario", &bVAR::varAddDestinatario},
-};
 
 /// A window, how it is reached, and its controls that have a caption.
 struct Finestra {
@@ -142,7 +91,7 @@ void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& te
 }
 
 void aggiungiVariabili(Chiavi& chiavi) {
-    for (const Variabile& variabile : variabili)
+    for (const bVAR::Testo& variabile : bVAR::elenco)
         chiavi[QStringLiteral("bVAR.%1").arg(variabile.nome)] = [variabile](const QString& testo) {
             *variabile.testo = testo;
         };

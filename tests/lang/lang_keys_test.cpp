@@ -50,8 +50,8 @@ QString captionOfControl(const QWidget& window, const QString& name) {
 /// What stands in the place that the key names, read off its own words; null where there is no such place.
 QString valueOf(const QString& key) {
     if (key.startsWith("bVAR.")) {
-        for (const auto& [name, text] : variables)
-            if (key == "bVAR." + name) return *text;
+        for (const auto& [name, text] : bVAR::elenco)
+            if (key == QString("bVAR.") + name) return *text;
         return QString();
     }
     const QWidget* window = windowOf(sectionOf(key));
@@ -95,7 +95,7 @@ QMap<QString, QString> everyText() {
     const auto note = [&](const void* holder, const char* what, const QString& text) {
         texts[QString("%1 %2").arg(reinterpret_cast<quintptr>(holder), 0, 16).arg(what)] = text;
     };
-    for (const auto& [name, text] : variables)
+    for (const auto& [name, text] : bVAR::elenco)
         note(text, "text", *text);
     for (const char* section : {"frmMain", "frmAccount", "frmInvia", "frmDestinatario", "frmScelta",
                                 "frmImpTXT", "frmImpDB", "frmEditor", "frmPropBody"}) {
@@ -210,8 +210,8 @@ class TestLangKeys : public QObject {
             const bool placeholder = text.value() == "xxx Guida in linea";
             QCOMPARE(valueOf(text.key()), placeholder ? QString("&Guida in linea") : text.value());
         }
-        for (const auto& [name, text] : variables)
-            QVERIFY2(!text->isEmpty(), qPrintable(name));
+        for (const auto& [name, text] : bVAR::elenco)
+            QVERIFY2(!text->isEmpty(), name);
     }
 
     void theInstalledFileHasEveryTextInEveryLanguage_data() {

@@ -6,60 +6,13 @@
 
 #include "core/Evento.h"
 #include "core/Finestre.h"
-#include "lang/bVAR.h"
+#include "lang/bVAR_elenco.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/Unattended.h"
 #include "support/SampleFolder.h"
 
-/// What the tests of the language share: the texts of the program, the keys, and a program folder around each
-/// test.
+/// What the tests of the language share: the keys, and a program folder around each test.
 namespace testing_support {
-
-/// Every text that the language file fills, by its name.
-inline const QList<QPair<QString, QString*>> variables{
-    {"Attenzione", &bVAR::Attenzione},
-    {"Lingua", &bVAR::Lingua},
-    {"ChangeLang01", &bVAR::ChangeLang01},
-    {"ImpossibileContinuare", &bVAR::ImpossibileContinuare},
-    {"accNomeVisual", &bVAR::accNomeVisual},
-    {"accEmailCorretta", &bVAR::accEmailCorretta},
-    {"accServerSMTP", &bVAR::accServerSMTP},
-    {"accPort", &bVAR::accPort},
-    {"accAutenticazione", &bVAR::accAutenticazione},
-    {"goSecondi", &bVAR::goSecondi},
-    {"AddDestinatario", &bVAR::AddDestinatario},
-    {"goApriEmail", &bVAR::goApriEmail},
-    {"goEmailDiOutlook", &bVAR::goEmailDiOutlook},
-    {"AzzeraMailing", &bVAR::AzzeraMailing},
-    {"FileAssistenza", &bVAR::FileAssistenza},
-    {"DestInserisciEmail", &bVAR::DestInserisciEmail},
-    {"xxxCAP", &bVAR::xxxCAP},
-    {"DestAggiungiDestinatario", &bVAR::DestAggiungiDestinatario},
-    {"DestInserireEmailCorretta", &bVAR::DestInserireEmailCorretta},
-    {"MailingSalvata", &bVAR::MailingSalvata},
-    {"MailingSalva", &bVAR::MailingSalva},
-    {"MailingImporta", &bVAR::MailingImporta},
-    {"MailingOpen", &bVAR::MailingOpen},
-    {"xxxRagioneSociale", &bVAR::xxxRagioneSociale},
-    {"xxxNome", &bVAR::xxxNome},
-    {"xxxPIva", &bVAR::xxxPIva},
-    {"xxxIndirizzo", &bVAR::xxxIndirizzo},
-    {"xxxLocalita", &bVAR::xxxLocalita},
-    {"xxxProvincia", &bVAR::xxxProvincia},
-    {"xxxTelefono", &bVAR::xxxTelefono},
-    {"xxxFax", &bVAR::xxxFax},
-    {"xxxCampo1", &bVAR::xxxCampo1},
-    {"xxxCampo2", &bVAR::xxxCampo2},
-    {"xxxCampo3", &bVAR::xxxCampo3},
-    {"xxxCampo4", &bVAR::xxxCampo4},
-    {"xxxCampo5", &bVAR::xxxCampo5},
-    {"xxxCampo6", &bVAR::xxxCampo6},
-    {"xxxCampo7", &bVAR::xxxCampo7},
-    {"xxxCampo8", &bVAR::xxxCampo8},
-    {"xxxCampo9", &bVAR::xxxCampo9},
-    {"varModDestinatario", &bVAR::varModDestinatario},
-    {"varTitlePropBody", &bVAR::varTitlePropBody},
-    {"varAddDestinatario", &bVAR::varAddDestinatario}};
 
 inline const QString dataFolder = QStringLiteral(TEST_DATA_DIR "/");
 
@@ -101,7 +54,7 @@ class LangStage {
         ui::setUnattended(true);
         ui::MessageDialog::reset();
         sostituisciTermine([this](int status) { ends.append(status); });
-        for (const auto& [name, text] : variables)
+        for (const auto& [name, text] : bVAR::elenco)
             text->clear();
     }
     ~LangStage() {
