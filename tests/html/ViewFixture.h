@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QRect>
@@ -78,6 +79,14 @@ class Desk {
         return QRectF(box.value(0).toDouble(), box.value(1).toDouble(), box.value(2).toDouble(),
                       box.value(3).toDouble())
             .toRect();
+    }
+
+    /// Ends the process that holds the document, as a crash would.
+    void killRenderer() {
+        const auto* page = view.findChild<QObject*>(QStringLiteral("page"));
+        const qint64 process = page->property("renderProcessPid").toLongLong();
+        if (process <= 0) qFatal("no process to end");
+        ::kill(static_cast<pid_t>(process), SIGKILL);
     }
 
     HtmlView view;

@@ -27,6 +27,8 @@ constexpr int deathsAreInARowWithin = 30000;
 HtmlView::Live::Live(HtmlView& owner, Mode viewMode) : view(owner), mode(viewMode) {
     m_followTimer.setSingleShot(true);
     QObject::connect(&m_followTimer, &QTimer::timeout, &view, [this] { follow(); });
+    // Windows may outlive the application object, a browser may not.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &view, [this] { end(); });
 }
 
 HtmlView::Live::~Live() {
@@ -50,32 +52,40 @@ void HtmlView::Live::begin() {
     if (!loaded.ok()) return fail(loaded.text());
     view.layout()->addWidget(browser.widget);
     view.setFocusProxy(browser.widget);
-    // Windows may outlive the application object, a browser may not.
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &view, [this] { end(); });
     browser.start();
 }
 
 bool HtmlView::Live::ensure() {
     begin();
-    return live || waitFor([this] { return live || m_failed; }, startMilliseconds);
+    waitFor([this] { return live || m_failed; }, startMilliseconds);
+    return live;
 }
 
 // The place of the document tells the reader what happened; the text itself is safe
 void HtmlView::Live::fail(const QString& reason) {
     m_failed = true;
     delete std::exchange(browser.widget, nullptr);
-    auto* notice = new QLabel(reason, &view);
-    notice->setAlignment(Qt::AlignCenter);
-    notice->setWordWrap(true);
-    view.layout()->addWidget(notice);
+    m_notice = new QLabel(reason, &view);
+    m_notice->setAlignment(Qt::AlignCenter);
+    m_notice->setWordWrap(true);
+    view.layout()->addWidget(m_notice);
 }
 
 void HtmlView::Live::setSource(const QString& html) {
     m_source = html::sourceText(html);
     m_text = QString();
+    if (m_deaths >= deathsInARow) tryAgain();
     if (!live) return;
     write();
     waitFor([this] { return m_writes == 0; }, startMilliseconds);
+}
+
+// The document that was given up may have been the reason
+void HtmlView::Live::tryAgain() {
+    m_deaths = 0;
+    m_failed = false;
+    delete m_notice;
+    if (view.isVisible()) begin();
 }
 
 // Whichever way the document changes while it is on its way, the last one is written last

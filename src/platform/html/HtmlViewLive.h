@@ -3,7 +3,9 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonArray>
+#include <QLabel>
 #include <QMap>
+#include <QPointer>
 #include <QTimer>
 #include <QVariantMap>
 #include <vector>
@@ -58,6 +60,7 @@ struct HtmlView::Live {
     void heard(const QString& json);
     void died();
     void keepText();
+    void tryAgain();
     void end();
     void follow();
     void takeText(const QVariant& answer);
@@ -77,6 +80,7 @@ struct HtmlView::Live {
     int m_strokesSeen = 0;  // of them by the document
     int m_deaths = 0;
     QElapsedTimer m_lastDeath;
+    QPointer<QLabel> m_notice;  // in the place of the browser that cannot be had
     QTimer m_followTimer;
     std::vector<QEventLoop*> m_waiting;
 };

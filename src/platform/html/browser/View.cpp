@@ -13,6 +13,8 @@ View::View(const BrowserEvents& events, QWidget* parent)
       m_page(std::make_unique<Page>(*m_profile, [this](const QString& message) {
           handOn([this, message] { m_events.said(message); });
       })) {
+    m_page->setParent(this);
+    m_page->setObjectName(QStringLiteral("page"));
     setPage(m_page.get());
     connect(m_page.get(), &QWebEnginePage::loadFinished, this,
             [this] { handOn([this] { m_events.started(); }); });

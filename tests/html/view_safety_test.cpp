@@ -1,0 +1,247 @@
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPrinter>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+
+#include "html/ViewFixture.h"
+
+/// A server on this machine that counts who comes, whatever they want.
+class CountingServer : public QTcpServer {
+  public:
+    CountingServer() {
+        if (!listen(QHostAddress::LocalHost)) qFatal("no port");
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            ++visits;
+            delete nextPendingConnection();
+        });
+    }
+    QString address(const QString& path) const {
+        return QStringLiteral("http://127.0.0.1:%1/%2").arg(serverPort()).arg(path);
+    }
+    int visits = 0;
+};
+
+// A message does nothing but show, and a browser that dies takes nothing along.
+class ViewSafety : public QObject {
+    Q_OBJECT
+
+    static QString remote(const QString& address) {
+        return QStringLiteral(
+                   "<html><head><base href='%1'><link rel=stylesheet href='%1a.css'><link rel=preconnect "
+                   "href='%1'>"
+                   "<link rel=dns-prefetch href='%1'><link rel=prefetch href='%1b'><link rel=preload "
+                   "as=image href='%1c'>"
+                   "<link rel=icon href='%1d.ico'><link rel=manifest href='%1e'><link rel=modulepreload "
+                   "href='%1f'>"
+                   "<link rel=prerender href='%1pr'>"
+                   "<style>@import url(%1g.css); @font-face { font-family: F; src: url(%1h.woff) } p { "
+                   "font-family: F; "
+                   "background: url(%1i.png) } li { list-style-image: url(%1j.png) } a { cursor: "
+                   "url(%1k.cur), auto }"
+                   "</style><script src='%1l.js'></script></head><body "
+                   "background='%1m.gif'><p>testo</p><ul><li>x</ul>"
+                   "<img src='%1n.png'><img srcset='%1o.png 2x'><img src='p.png'><input type=image "
+                   "src='%1q.png'>"
+                   "<iframe src='%1r'></iframe><iframe srcdoc=\"<img src='%1s.png'>\"></iframe><object "
+                   "data='%1t'></object>"
+                   "<embed src='%1u'><video src='%1v' poster='%1w' preload autoplay></video><audio src='%1x' "
+                   "preload "
+                   "autoplay></audio><table background='%1y.gif'><tr><td>x</table><svg><image href='%1z.png' "
+                   "width=9 "
+                   "height=9/><use href='%1aa.svg#a'/></svg><picture><source srcset='%1bb.png'><img "
+                   "src=x></picture>"
+                   "<bgsound src='%1cc'><frame src='%1dd'><applet code='%1ee'></applet><portal "
+                   "src='%1ff'></portal>"
+                   "<img src='file://127.0.0.1/gg.png'><a href='%1hh' ping='%1ii' "
+                   "id=link>vai</a></body></html>")
+            .arg(address);
+    }
+
+  private Q_SLOTS:
+    void nothingIsFetchedWhileEditingAndPreviewing_data() {
+        QTest::addColumn<bool>("design");
+        QTest::newRow("design") << true;
+        QTest::newRow("browse") << false;
+    }
+    void nothingIsFetchedWhileEditingAndPreviewing() {
+        QFETCH(bool, design);
+        CountingServer server;
+        Desk desk(remote(server.address({})), design ? HtmlView::Mode::Design : HtmlView::Mode::Browse);
+        QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
+                          desk.placeOf("#link").center());
+        desk.press(Qt::Key_Return, Qt::NoModifier, "\r");
+        QTest::qWait(700);
+        QCOMPARE(server.visits, 0);
+    }
+
+    // The test's own ground: without the filter somebody would have come
+    void countingServerCounts() {
+        CountingServer server;
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, server.serverPort());
+        QTRY_COMPARE(server.visits, 1);
+    }
+
+    void noScriptOfAMessageRuns_data() {
+        QTest::addColumn<bool>("design");
+        QTest::newRow("design") << true;
+        QTest::newRow("browse") << false;
+    }
+    void noScriptOfAMessageRuns() {
+        QFETCH(bool, design);
+        const QString act = QStringLiteral("document.body.setAttribute('fatto', 1)");
+        Desk desk(
+            QStringLiteral("<body onload=\"%1\" onfocus=\"%1\"><script>%1</script><p onclick=\"%1\" "
+                           "onmouseover=\"%1\" onkeydown=\"%1\">testo</p><img src=x onerror=\"%1\"><svg "
+                           "onload=\"%1\"><script>%1</script></svg><iframe "
+                           "srcdoc=\"<script>parent.%1</script>\"></iframe>"
+                           "<details open ontoggle=\"%1\"></details><a id=a href=\"javascript:%1\">vai</a>"
+                           "<input autofocus onfocus=\"%1\"><marquee onstart=\"%1\">x</marquee></body>")
+                .arg(act),
+            design ? HtmlView::Mode::Design : HtmlView::Mode::Browse);
+        const QString before = desk.view.documentHTML();
+        for (const char* place : {"p", "#a"}) {
+            QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
+                              desk.placeOf(place).center());
+        }
+        desk.press(Qt::Key_Left);
+        desk.view.evaluate("document.querySelector('#a').click()");
+        QTest::qWait(300);
+        QVERIFY(!desk.view.documentHTML().contains("fatto=\"1\""));
+        QCOMPARE(desk.view.documentHTML(), before);
+    }
+
+    void messageCannotLeadTheViewAway_data() {
+        QTest::addColumn<QString>("html");
+        QTest::newRow("refresh") << "<meta http-equiv=refresh content='0;url=%1'><p>testo</p>";
+        QTest::newRow("refresh to data")
+            << "<meta http-equiv=refresh content='0;url=data:text/html,altro'><p>testo</p>";
+        QTest::newRow("link") << "<p>testo</p><a id=x href='%1'>vai</a>";
+        QTest::newRow("link to a local file") << "<p>testo</p><a id=x href='file:///etc/passwd'>vai</a>";
+        QTest::newRow("link to a new window") << "<p>testo</p><a id=x href='%1' target=_blank>vai</a>";
+        QTest::newRow("link to download") << "<p>testo</p><a id=x href='data:text/plain,x' download>vai</a>";
+        QTest::newRow("link to mail") << "<p>testo</p><a id=x href='mailto:a@b.it'>vai</a>";
+        QTest::newRow("form")
+            << "<p>testo</p><form action='%1'><input name=a><input type=submit id=x></form>";
+        QTest::newRow("form with post")
+            << "<p>testo</p><form method=post action='%1'><input type=submit id=x></form>";
+        QTest::newRow("frame") << "<p>testo</p><iframe src='data:text/html,<b id=x>altro</b>'></iframe>";
+    }
+    void messageCannotLeadTheViewAway() {
+        QFETCH(QString, html);
+        CountingServer server;
+        Desk desk(html.contains("%1") ? html.arg(server.address("via")) : html, HtmlView::Mode::Browse);
+        if (html.contains("id=x")) {
+            desk.view.evaluate("{ const x = document.querySelector('#x'); if (x) x.click(); 1 }");
+            QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
+                              desk.placeOf("#x").center());
+        }
+        QTest::qWait(300);
+        QCOMPARE(server.visits, 0);
+        QCOMPARE(desk.view.evaluate("location.href").toString(), desk.address);
+        QVERIFY(desk.body().contains("<p>testo</p>"));
+        QCOMPARE(
+            desk.view
+                .evaluate(
+                    "frames.length ? String(frames[0].document && frames[0].document.body.innerHTML) : ''")
+                .toString()
+                .contains("altro"),
+            false);
+    }
+
+    void localImagesShow() {
+        QTemporaryDir folder;
+        QImage image(20, 10, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(folder.filePath("a.png")));
+        Desk desk(
+            QStringLiteral("<img src='file://%1/a.png'><p style=\"background: url(file://%1/a.png)\">x</p>")
+                .arg(folder.path()),
+            HtmlView::Mode::Browse);
+        QTRY_COMPARE(desk.view.evaluate("document.images[0].naturalWidth").toInt(), 20);
+    }
+
+    void otherLocalFilesAreNotRead() {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("a.css"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("p { color: rgb(1, 2, 3) }");
+        file.close();
+        Desk desk(
+            QStringLiteral("<link rel=stylesheet href='file://%1/a.css'><p>x</p><img src='file:///dev/zero'>"
+                           "<iframe src='file:///etc/passwd'></iframe>")
+                .arg(folder.path()),
+            HtmlView::Mode::Browse);
+        QTest::qWait(300);
+        QCOMPARE(desk.view.evaluate("getComputedStyle(document.querySelector('p')).color").toString(),
+                 QString("rgb(0, 0, 0)"));
+    }
+
+    void textOutlivesTheBrowsersProcess() {
+        Desk desk("<p>uno</p>");
+        desk.type("due ");
+        QTest::qWait(100);  // the copy follows at once, but later
+        QSignalSpy complete(&desk.view, &HtmlView::documentComplete);
+        desk.killRenderer();
+        QTRY_VERIFY(!desk.view.isLive() || complete.count() > 0);
+        QCOMPARE(desk.body(), QString("<p>due uno</p>"));
+        QTRY_COMPARE(complete.count(), 1);
+        QCOMPARE(desk.body(), QString("<p>due uno</p>"));
+        QVERIFY(desk.view.insertHTML("tre "));
+        QCOMPARE(desk.body(), QString("<p>tre due uno</p>"));
+        QVERIFY(desk.view.commandEnabled(HtmlView::Undo));
+    }
+
+    void commandDuringTheDeathComesBack() {
+        Desk desk("<p>uno</p>");
+        desk.killRenderer();
+        desk.view.execCommand(HtmlView::Bold);
+        QCOMPARE(desk.body(), QString("<p>uno</p>"));
+        QTRY_VERIFY(desk.view.isLive());
+    }
+
+    void documentThatKillsTheBrowserAgainAndAgainIsGivenUpWithItsText() {
+        Desk desk("<p>uno</p>");
+        for (int i = 0; i < 3; ++i) {
+            QTRY_VERIFY(desk.view.isLive());
+            desk.killRenderer();
+            QTRY_VERIFY(!desk.view.isLive());
+        }
+        QTest::qWait(200);
+        QVERIFY(!desk.view.isLive());
+        QCOMPARE(desk.body(), QString("<p>uno</p>"));
+        QCOMPARE(desk.view.execCommand(HtmlView::Bold).toBool(), false);
+        desk.view.setDocumentHTML("<p>due</p>");
+        QTRY_VERIFY(desk.view.isLive());
+        QCOMPARE(desk.body(), QString("<p>due</p>"));
+    }
+
+    void printsThroughThePrompt() {
+        QTemporaryDir folder;
+        Desk desk("<h1>Listino</h1>");
+        int asked = 0;
+        desk.view.setPrintPrompt([&asked](QPrinter&) {
+            ++asked;
+            return false;
+        });
+        QVERIFY(!desk.view.print(true));
+        QCOMPARE(asked, 1);
+        const QString path = folder.filePath("a.pdf");
+        desk.view.setPrintPrompt([&path](QPrinter& printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(path);
+            return true;
+        });
+        QVERIFY(desk.view.print(true));
+        QFile printed(path);
+        QVERIFY(printed.open(QIODevice::ReadOnly));
+        QVERIFY(printed.read(5) == "%PDF-");
+        QVERIFY(printed.size() > 1000);
+    }
+};
+
+QTEST_MAIN(ViewSafety)
+#include "view_safety_test.moc"
