@@ -1,6 +1,9 @@
 // What the imports share: the statement, the limits, and the rows on disk.
 #include "import/Inserimento.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QTemporaryDir>
 
 #include "core/bGlobal.h"
@@ -8,6 +11,7 @@
 #include "import/campi.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
+#include "support/JetChecker.h"
 #include "support/Vectors.h"
 
 using namespace inserimento;
@@ -119,6 +123,30 @@ TEST_F(InsertedRow, StaysWhenTheImportIsLeftByAFailure) {
     } catch (const Fallimento&) {
     }
     EXPECT_EQ(values("email"), QStringList("a@x.it"));
+}
+
+// The process is gone in the middle of a group: what was committed before stands, the file is sound.
+TEST_F(InsertedRow, OfACommittedGroupSurvivesACrash) {
+    ado::closeAll();
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        Inserimento comando;
+        comando.Prepara();
+        for (int i = 0; i < 12000; ++i)
+            comando.Inserisci("1", valoriPer(QString("n%1@x.it").arg(i)));
+        ::_exit(0);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0);
+    const QStringList addresses = values("email");
+    EXPECT_GT(addresses.size(), 7000);  // a group holds 5000 at most
+    EXPECT_LE(addresses.size(), 12000);
+    for (int i = 0; i < addresses.size(); ++i)
+        ASSERT_EQ(addresses[i], QString("n%1@x.it").arg(i));
+    ado::closeAll();
+    EXPECT_EQ(checkJetFile(m_dir.filePath("data.mdb").toStdString()), std::vector<std::string>());
 }
 
 TEST_F(InsertedRow, IsNotComparedWithThoseThatAreThere) {

@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""A delimited file of a million lines (about 200 MB) imported, against `sqlite3` with the INSERT statements of that import.
+
+    run.py BUILD_FOLDER WORK_FOLDER [ROUNDS [LINES]]
+
+Whole processes, both with their full durability and in groups of equal size. The peer has its statements made already;
+the import reads the file, splits and cleans the fields and tests the addresses as well.
+"""
+import json
+import pathlib
+import subprocess
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
+import tools  # noqa: E402
+
+GROUP = 5000
+TABLE = ("CREATE TABLE tb_destinatari (id INTEGER PRIMARY KEY AUTOINCREMENT, id_grp, sel, email, rgs, nom, piva, ind, "
+         "cap, loc, prov, tel, fax, campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9);\n")
+TOWNS = [("00184", "Roma", "RM"), ("67100", "L'Aquila", "AQ"), ("47521", "Forlì", "FC"), ("22063", "Cantù", "CO"),
+         ("30027", "San Donà di Piave", "VE")]
+
+
+def line(number):
+    code, town, province = TOWNS[number % len(TOWNS)]
+    address = "senza indirizzo" if number % 1000 == 0 else f"contatto.{number}@azienda{number % 5000}.example.it"
+    return ";".join([f"Azienda \"La Rapida\" {number} S.r.l.", "D'Angelo Niccolò", address, f"IT0{1000000000 + number}",
+                     f"Via della Libertà {number % 300}, scala B", code, town, province, f"06 {5000000 + number}",
+                     f"06/{7000000 + number}", f"Cliente dal {1990 + number % 30}", "Listino A, sconto 12%"])
+
+
+def seconds(command, **more):
+    start = time.perf_counter()
+    done = subprocess.run(command, check=True, **more)
+    return time.perf_counter() - start, done.stdout
+
+
+def main():
+    build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 3
+    lines = int(sys.argv[4]) if len(sys.argv) > 4 else 1_000_000
+    program = str(build / "bench/text_import/import_text")
+    source, statements = work / "list.txt", work / "statements.sql"
+    database, sqlite = work / "list.mdb", work / "list.sqlite"
+    with open(source, "w", encoding="cp1252", newline="") as file:
+        file.writelines(line(number) + "\r\n" for number in range(lines))
+    with open(statements, "w", encoding="utf-8") as file:
+        file.write(TABLE)
+        file.flush()
+        subprocess.run([program, str(source), "--statements", str(GROUP)], stdout=file, check=True)
+    ours, peers, peak = [], [], 0
+    for _ in range(rounds):
+        for file in (database, sqlite):
+            file.unlink(missing_ok=True)
+        taken, told = seconds([program, str(source), str(database)], stdout=subprocess.PIPE, text=True)
+        ours.append(taken)
+        told = json.loads(told)
+        if told["rows"] != lines - (lines + 999) // 1000:
+            raise SystemExit(f"{told['rows']} rows were imported")
+        peak = max(peak, told["kilobytes"])
+        with open(statements, encoding="utf-8") as file:
+            peers.append(seconds(["sqlite3", str(sqlite)], stdin=file)[0])
+    megabytes = source.stat().st_size / 1e6
+    for file in (source, statements, database, sqlite):
+        file.unlink()
+    ratio = tools.median(ours) / tools.median(peers)
+    print(json.dumps([{"name": f"import a text file of {lines:,} lines, {megabytes:.0f} MB",
+                       "value": lines / tools.median(ours), "unit": "lines/s",
+                       "peer": "sqlite3 with its statements, time of ours over its", "ratio": ratio, "goal": 2.0,
+                       "met": ratio <= 2.0}]))
+    print(f"   peak memory {peak} KB", file=sys.stderr)
+
+
+if __name__ == "__main__":
+    main()
