@@ -3,13 +3,18 @@
 //     demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER
 //
 // FOLDER is a program folder made by demo_make.
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include "accounts/frmAccount.h"
+#include "core/bGlobal.h"
 #include "core/Finestre.h"
+#include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
 #include "platform/ui/DataGrid.h"
@@ -55,6 +60,16 @@ void takeAll(const QString& message) {
         "cmdHelpInfoSu", []() -> QWidget& { return finestre::InfoSu(); }, "frmInfoSu");
     during(
         "cmdMailingImpTXT", []() -> QWidget& { return finestre::ImpTXT(); }, "frmImpTXT");
+    during(
+        "cmdMailingImpDB",
+        []() -> QWidget& {
+            frmImpDB& window = finestre::ImpDB();
+            window.findChild<QLineEdit*>("txtDatabase")->setText(percorsoDB);
+            window.findChild<QAbstractButton*>("cmdApri")->click();
+            window.findChild<QComboBox*>("cmbCmp(2)")->setCurrentText("email");
+            return window;
+        },
+        "frmImpDB");
     finestre::Scelta().show();
     take(finestre::Scelta(), "frmScelta");
     finestre::Scelta().hide();

@@ -11,7 +11,7 @@ import shutil
 import subprocess
 import sys
 
-WINDOWS = ["frmMain", "frmAccount", "frmDestinatario", "frmInfoSu", "frmInvia_pronta", "frmImpTXT",
+WINDOWS = ["frmMain", "frmAccount", "frmDestinatario", "frmInfoSu", "frmInvia_pronta", "frmImpTXT", "frmImpDB",
            "frmScelta", "frmSplash"]
 
 
