@@ -1,0 +1,323 @@
+// The life of a document in the editor: new, open, save, changed, the guard, the body's way through the
+// views.
+#include <QDir>
+#include <QTabBar>
+
+#include "core/Finestre.h"
+#include "message/editor_stage.h"
+
+using namespace testing_support;
+using ui::FileDialog;
+using ui::MessageDialog;
+
+namespace {
+
+const QString question = "Il messaggio non è stato salvato.\r\nVuoi salvarlo prima di continuare?";
+
+/// A message file by its parts.
+QByteArray message(const QByteArray& subject, const QByteArray& priority, const QByteArray& attachments,
+                   const QByteArray& body) {
+    return "[<INI-SUBJ>]" + subject + "[<END-SUBJ>]\r\n[<INI-PRIO>]" + priority +
+           "[<END-PRIO>]\r\n[<INI-ALLG>]\r\n" + attachments + "[<END-ALLG>]\r\n[<INI-MESS>]\r\n" + body +
+           "[<END-MESS>]\r\n";
+}
+
+}  // namespace
+
+class TestDocumento : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<EditorStage> m_stage;
+    EditorStage& stage() { return *m_stage; }
+    void change() { stage().type("x"); }
+
+  private Q_SLOTS:
+    void initTestCase() { m_stage = std::make_unique<EditorStage>(); }
+    void cleanupTestCase() { m_stage.reset(); }
+    void init() { stage().begin(); }
+
+    void aNewDocumentIsEmptyAndClean() {
+        change();
+        stage().start("cmdPriAlta");
+        stage().start("cmdShowDetails");
+        stage().start("cmdShowBorder");
+        stage().editor().Commands().GetEdit("txtOggetto")->setText("oggetto");
+        stage().editor().NuovoMessaggio();
+        QCOMPARE(stage().editor().titoloFile, "[NuovoFile.mss]");
+        QCOMPARE(stage().title(), "Editor Messaggi - [NuovoFile.mss]");
+        QVERIFY(!stage().marked());
+        QCOMPARE(stage().subject(), "");
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 0);
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 0);
+        QCOMPARE(stage().tool("cmdShowDetails").Checked(), 0);
+        QCOMPARE(stage().tool("cmdShowBorder").Checked(), 1);
+        QCOMPARE(stage().source().Text(), "<HTML>\r\n<BODY>\r\n</BODY>\r\n</HTML>");
+        QCOMPARE(stage().body().trimmed(), "");
+        QCOMPARE(stage().editor().WEB->documentHTML(), stage().design().documentHTML());
+    }
+
+    void aKeyInTheDesignViewMarksTheDocument() {
+        change();
+        QTRY_COMPARE(stage().editor().titoloFile, "[NuovoFile.mss*]");
+        QCOMPARE(stage().title(), "Editor Messaggi - [NuovoFile.mss*]");
+        stage().editor().SegnaModificato();
+        QCOMPARE(stage().editor().titoloFile, "[NuovoFile.mss*]");
+    }
+
+    void typingASubjectMarksTheDocument() {
+        auto& field = EditorStage::in<QLineEdit>(stage().editor(), "txtOggetto");
+        QTest::keyClicks(&field, "a");
+        QVERIFY(stage().marked());
+    }
+
+    void leavingTheBodyForAnotherControlMarksTheDocument() {
+        stage().design().setFocus();
+        QTest::qWait(20);
+        QVERIFY(!stage().marked());
+        EditorStage::in<QLineEdit>(stage().editor(), "txtOggetto").setFocus();
+        QTRY_VERIFY(stage().marked());
+    }
+
+    void typingInTheSourceViewSetsNoMark() {
+        stage().chooseTab(1);
+        stage().editor().NuovoMessaggio();
+        auto* text = stage().source().findChild<QWidget*>("sourceText");
+        QTest::keyClicks(text, "abc");
+        QVERIFY(stage().source().Text().startsWith("abc"));
+        QVERIFY(!stage().marked());
+    }
+
+    void saveWritesOverThePathAndClearsTheMark() {
+        stage().saveAs("uno.mss");
+        QVERIFY(stage().editor().fileAperto);
+        QCOMPARE(stage().editor().percorsoFile, stage().path("uno.mss"));
+        QCOMPARE(stage().title(), "Editor Messaggi - [uno.mss]");
+        QCOMPARE(FileDialog::shown().constLast().title, "Salva messaggio");
+        QCOMPARE(FileDialog::shown().constLast().filter, "Message File (*.mss)|*.mss");
+        change();
+        QTRY_COMPARE(stage().title(), "Editor Messaggi - [uno.mss*]");
+        stage().start("cmdSalva");
+        QCOMPARE(stage().title(), "Editor Messaggi - [uno.mss]");
+        QVERIFY(stage().bytes("uno.mss").contains("x"));
+        QCOMPARE(FileDialog::shown().size(), 1);
+    }
+
+    void theFirstSaveAsksForAPathAndCancelWritesNothing() {
+        change();
+        FileDialog::queueCancel();
+        stage().start("cmdSalva");
+        QCOMPARE(FileDialog::shown().size(), 1);
+        QVERIFY(!stage().editor().fileAperto);
+        QVERIFY(stage().marked());
+        QCOMPARE(stage().editor().percorsoFile, "");
+    }
+
+    void aNewDocumentIsSavedOverTheFileOfTheOneBefore() {
+        stage().type("primo");
+        stage().saveAs("a.mss");
+        stage().start("cmdNewMess");
+        QVERIFY(!stage().bytes("a.mss").isEmpty());
+        stage().type("secondo");
+        stage().start("cmdSalva");
+        QCOMPARE(FileDialog::shown().size(), 1);
+        QVERIFY(stage().bytes("a.mss").contains("secondo"));
+        QVERIFY(!stage().bytes("a.mss").contains("primo"));
+        QCOMPARE(stage().title(), "Editor Messaggi - [a.mss]");
+    }
+
+    void guardedCommandsAskOnlyAboutAChangedDocument() {
+        stage().start("cmdNewMess");
+        QCOMPARE(MessageDialog::shown().size(), 0);
+        for (const char* command : {"cmdNewMess", "cmdApriMess", "cmdEsci"}) {
+            stage().begin();
+            change();
+            MessageDialog::queue(MessageDialog::No);
+            if (command == QByteArray("cmdApriMess")) FileDialog::queueCancel();
+            stage().start(command);
+            QVERIFY(stage().oneBox(question, 68));
+        }
+        QVERIFY(!stage().editor().isVisible());
+    }
+
+    void yesSavesToTheKnownPathAndGoesOn() {
+        stage().saveAs("b.mss");
+        stage().type("testo");
+        MessageDialog::queue(MessageDialog::Yes);
+        stage().start("cmdNewMess");
+        QVERIFY(stage().bytes("b.mss").contains("testo"));
+        QCOMPARE(stage().body().trimmed(), "");
+        QCOMPARE(FileDialog::shown().size(), 1);
+    }
+
+    void yesAndACancelledDialogLoseTheDocument() {
+        change();
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queueCancel();
+        stage().start("cmdNewMess");
+        QCOMPARE(stage().body().trimmed(), "");
+        QVERIFY(!stage().marked());
+        QCOMPARE(stage().title(), "Editor Messaggi - [NuovoFile.mss]");
+    }
+
+    void openReadsEveryPart() {
+        stage().write("allegato.pdf", QByteArray(1028, 'x'));
+        stage().write("m.mss",
+                      message("  Ciao [<END-SUBJ>]", "LW", stage().path("allegato.pdf").toUtf8() + "\r\n",
+                              "<p>Gentile :::nom:::</p>\r\n"));
+        stage().open("m.mss");
+        QCOMPARE(FileDialog::shown().constLast().title, "Apri messaggio");
+        QCOMPARE(FileDialog::shown().constLast().filter, "Message File (*.mss)|*.mss");
+        QCOMPARE(stage().subject(), "Ciao");
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 1);
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 0);
+        QCOMPARE(stage().editor().Allegati().Percorsi(), QStringList(stage().path("allegato.pdf")));
+        QCOMPARE(stage().body(), "<p>Gentile :::nom:::</p>");
+        QCOMPARE(stage().title(), "Editor Messaggi - [m.mss]");
+        QVERIFY(stage().editor().fileAperto);
+        QCOMPARE(stage().editor().percorsoFile, stage().path("m.mss"));
+        QVERIFY(!stage().marked());
+    }
+
+    void onlyTheTwoCapitalCodesSetAPriority_data() {
+        QTest::addColumn<QByteArray>("code");
+        QTest::addColumn<int>("low");
+        QTest::addColumn<int>("high");
+        QTest::newRow("high") << QByteArray("HI") << 0 << 1;
+        QTest::newRow("low") << QByteArray("LW") << 1 << 0;
+        QTest::newRow("normal") << QByteArray("NR") << 0 << 0;
+        QTest::newRow("small letters") << QByteArray("hi") << 0 << 0;
+    }
+    void onlyTheTwoCapitalCodesSetAPriority() {
+        QFETCH(QByteArray, code);
+        QFETCH(int, low);
+        QFETCH(int, high);
+        stage().write("p.mss", message("s", code, "", "<p>x</p>\r\n"));
+        stage().open("p.mss");
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), low);
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), high);
+        stage().start("cmdSalva");
+        const QByteArray saved = low ? "LW" : high ? "HI" : "NR";
+        QVERIFY(stage().bytes("p.mss").contains("[<INI-PRIO>]" + saved + "[<END-PRIO>]\r\n"));
+    }
+
+    void cancellingTheOpenDialogKeepsTheDocument() {
+        stage().fill("<p>resta</p>");
+        FileDialog::queueCancel();
+        stage().start("cmdApriMess");
+        QCOMPARE(stage().body(), "<p>resta</p>");
+        QVERIFY(!stage().editor().fileAperto);
+    }
+
+    void aMissingAttachmentIsToldLeftOutAndMarksTheDocument() {
+        stage().write("m.mss", message("s", "NR", "C:\\dati\\perso.pdf\r\n", "<p>x</p>\r\n"));
+        MessageDialog::queue(MessageDialog::Ok);
+        stage().open("m.mss");
+        QVERIFY(stage().oneBox("Il file perso.pdf allegato non esiste più o è stato spostato.", 64));
+        QVERIFY(stage().editor().Allegati().Percorsi().isEmpty());
+        QCOMPARE(stage().title(), "Editor Messaggi - [m.mss*]");
+    }
+
+    void theFileHasTheRowsOfAMessage() {
+        stage().write("a.txt", "x");
+        stage().editor().Allegati().InsFile(stage().path("a.txt"));
+        stage().editor().Commands().GetEdit("txtOggetto")->setText(" Offerta di fine anno ");
+        stage().start("cmdPriAlta");
+        stage().fill("<p>uno</p>\n<p>due</p>");
+        stage().saveAs("r.mss");
+        QCOMPARE(stage().bytes("r.mss"),
+                 message(" Offerta di fine anno ", "HI", stage().path("a.txt").toUtf8() + "\r\n",
+                         "<html><head></head><body><p>uno</p>\r\n<p>due</p></body></html>\r\n"));
+    }
+
+    void aSaveFromTheSourceViewWritesTheBodyOfTheDesignView() {
+        stage().fill("<p>vecchio</p>");
+        stage().saveAs("s.mss");
+        stage().chooseTab(1);
+        stage().source().setText("<html><body><p>nuovo</p></body></html>");
+        stage().start("cmdSalva");
+        QVERIFY(stage().bytes("s.mss").contains("vecchio"));
+        QVERIFY(!stage().bytes("s.mss").contains("nuovo"));
+        QVERIFY(!stage().marked());
+        stage().chooseTab(0);
+        stage().start("cmdSalva");
+        QVERIFY(stage().bytes("s.mss").contains("nuovo"));
+    }
+
+    void theBodyMovesWithTheTabs() {
+        stage().fill("<p>uno</p>");
+        stage().chooseTab(1);
+        QCOMPARE(stage().source().Text(), "<html><head></head><body><p>uno</p></body></html>");
+        stage().source().setText("<p>due");
+        stage().chooseTab(2);
+        QCOMPARE(stage().body(), "<p>due</p>");
+        QCOMPARE(stage().editor().WEB->documentHTML(), stage().design().documentHTML());
+        stage().chooseTab(0);
+        stage().fill("<p>tre</p>");
+        stage().chooseTab(2);
+        QCOMPARE(stage().source().Text(), "<html><head></head><body><p>tre</p></body></html>");
+        QCOMPARE(stage().editor().WEB->documentHTML(), stage().source().Text());
+        stage().chooseTab(1);
+        stage().source().setText("<p>quattro");
+        stage().chooseTab(0);
+        QCOMPARE(stage().body(), "<p>quattro</p>");
+    }
+
+    void fromThePreviewNothingMoves() {
+        stage().fill("<p>uno</p>");
+        stage().chooseTab(2);
+        stage().source().setText("<p>mai letto");
+        stage().editor().WEB->setDocumentHTML("<p>nemmeno</p>");
+        stage().chooseTab(0);
+        QCOMPARE(stage().body(), "<p>uno</p>");
+        stage().chooseTab(2);
+        stage().source().setText("<p>mai letto");
+        stage().chooseTab(1);
+        QCOMPARE(stage().source().Text(), "<p>mai letto");
+    }
+
+    void leavingTheBodyForAnotherTabMarksAndTheOtherTabsDoNot() {
+        stage().chooseTab(1);
+        QTRY_VERIFY(stage().marked());
+        stage().editor().NuovoMessaggio();
+        for (const int tab : {2, 1, 2, 0})
+            stage().chooseTab(tab);
+        QTest::qWait(30);
+        QVERIFY(!stage().marked());
+    }
+
+    void aMessageOpenedFromAnotherTabShowsThere() {
+        stage().write("m.mss", message("s", "NR", "", "<p>aperto</p>\r\n"));
+        stage().chooseTab(1);
+        stage().editor().NuovoMessaggio();
+        stage().open("m.mss");
+        QCOMPARE(stage().source().Text(), "<html><head></head><body><p>aperto</p></body></html>");
+        stage().chooseTab(0);
+        QCOMPARE(stage().body(), "<p>aperto</p>");
+    }
+
+    void aPathThatCannotBeWrittenCountsAsSavedAs() {
+        change();
+        FileDialog::queue(stage().path("manca/x.mss"));
+        stage().start("cmdSalvaAs");
+        QCOMPARE(stage().title(), "Editor Messaggi - [x.mss]");
+        QVERIFY(stage().editor().fileAperto);
+        QCOMPARE(stage().ends, QList<int>());
+    }
+
+    void aKnownPathThatCannotBeWrittenEndsTheProgram() {
+        stage().editor().fileAperto = true;
+        stage().editor().percorsoFile = stage().path("manca/x.mss");
+        MessageDialog::queue(MessageDialog::Ok);
+        stage().start("cmdSalva");
+        QCOMPARE(stage().ends, QList<int>{1});
+    }
+
+    void aDocumentStartsInVerdanaTwo() {
+        stage().editor().NuovoMessaggio();
+        stage().type("a");
+        QTRY_COMPARE(stage().body().trimmed(), R"(<font face="Verdana" size="2">a</font>)");
+    }
+};
+
+QTEST_MAIN(TestDocumento)
+#include "frmeditor_documento_test.moc"
