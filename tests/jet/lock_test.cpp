@@ -1,5 +1,6 @@
 // Several processes and several Databases on one file.
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -110,6 +111,30 @@ TEST_F(LockTest, WriterWaitsForReaders) {
     }
     EXPECT_OK(writer->begin());
     writer->rollback();
+}
+
+TEST_F(LockTest, WriterGetsInBetweenReadersThatNeverAllPause) {
+    const auto readOn = [&](auto pause) {
+        DatabasePtr database = open(path());
+        // A process of its own reads, so that this one can wait to be let go.
+        pid_t child = ::fork();
+        if (child == 0) {
+            for (;;) {
+                const ReadScope scope(*database);
+                ::usleep(3000);
+            }
+        }
+        pause();
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+    };
+    OtherProcess one(readOn);
+    OtherProcess two(readOn);
+    OtherProcess three(readOn);
+    DatabasePtr writer = open(path());
+    for (int i = 0; i < 20; ++i)
+        addRow(*writer, "x");
+    EXPECT_EQ(rowsOf(table(*writer)).size(), 20u);
 }
 
 TEST_F(LockTest, ChangeByAnotherProcessIsSeenAndTold) {

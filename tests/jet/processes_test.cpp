@@ -45,7 +45,7 @@ class ProcessesTest : public JetTest {
       public:
         Writer(const QString& file, int number)
             : m_number(number), m_random(static_cast<unsigned>(number + 1)) {
-            m_database = open(file, {.lockWaitMs = 30000, .cachedPages = number % 2 ? 4u : 8192u});
+            m_database = open(file, {.cachedPages = number % 2 ? 4u : 8192u});
         }
         // Zero, or which demand was not met.
         int run() {

@@ -162,8 +162,11 @@ void OsFile::copyRights(const OsFile& other) {
         failIo("diritti", m_path, errno);
 }
 
-bool OsFile::tryLock(Lock lock) {
+bool OsFile::tryLock(Lock lock, Range range) {
+    constexpr off_t gate = off_t{1} << 62;
     struct flock request {};
+    request.l_start = range == Range::Gate ? gate : 0;
+    request.l_len = range == Range::Gate ? 1 : gate;
     request.l_type = lock == Lock::Shared ? F_RDLCK : lock == Lock::Exclusive ? F_WRLCK : F_UNLCK;
     request.l_whence = SEEK_SET;
     if (::fcntl(m_fd, F_OFD_SETLK, &request) == 0) return true;

@@ -63,9 +63,12 @@ class OsFile {
     void copyRights(const OsFile& other);
 
     enum class Lock { None, Shared, Exclusive };
-    /// Changes the advisory lock on the whole file at once; false when another holder forbids it. The lock
-    /// belongs to this open file, so two in one process exclude each other as well.
-    bool tryLock(Lock lock);
+    /// What a lock covers: all content, however the file grows, or a byte far behind it, through which
+    /// whoever wants the content has to pass.
+    enum class Range { Content, Gate };
+    /// Changes the advisory lock on a range at once; false when another holder forbids it. The lock belongs
+    /// to this open file, so two in one process exclude each other as well.
+    bool tryLock(Lock lock, Range range);
     /// Whether somebody else holds any lock on the file.
     bool lockedByOthers() const;
 

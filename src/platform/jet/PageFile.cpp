@@ -14,6 +14,10 @@ QString shown(const std::string& path) {
     return QString::fromLocal8Bit(path.data(), qsizetype(path.size()));
 }
 
+// Between two looks at a lock that others hold. Busy writers leave it free for moments only, so whoever looks
+// seldom may not get it at all.
+constexpr std::chrono::milliseconds longestPause{4};
+
 // NAME.ldb beside NAME.mdb: made by other programs while they have the database open.
 std::string foreignLockFile(const std::string& path) {
     const size_t slash = path.rfind('/');
@@ -61,17 +65,32 @@ size_t PageFile::bytesPerPage() const {
     return m_header.jet3 ? jet3::pageSize : pageSize;
 }
 
-void PageFile::lock(OsFile& file, OsFile::Lock lock) const {
+// A writer closes the gate first, so that it does not wait for ever while others come and go to read.
+void PageFile::lock(OsFile& file, OsFile::Lock kind) const {
     using Clock = std::chrono::steady_clock;
+    using Lock = OsFile::Lock;
+    using Range = OsFile::Range;
     const auto deadline = Clock::now() + std::chrono::milliseconds(m_limits.lockWaitMs);
-    auto pause = std::chrono::milliseconds(1);
-    while (!file.tryLock(lock)) {
-        if (Clock::now() >= deadline)
-            fail(ErrorCode::FileInUse,
-                 QStringLiteral("Il database \"%1\" è in uso da un altro programma.").arg(shown(m_path)));
-        std::this_thread::sleep_for(pause);
-        pause = std::min(pause * 2, std::chrono::milliseconds(50));
+    const auto until = [&](const auto& attempt) {
+        for (auto pause = std::chrono::milliseconds(1); !attempt();
+             pause = std::min(pause * 2, longestPause)) {
+            if (Clock::now() >= deadline)
+                fail(ErrorCode::FileInUse,
+                     QStringLiteral("Il database \"%1\" è in uso da un altro programma.").arg(shown(m_path)));
+            std::this_thread::sleep_for(pause);
+        }
+    };
+    if (kind == Lock::Exclusive) {
+        until([&] { return file.tryLock(kind, Range::Gate); });
+        until([&] { return file.tryLock(kind, Range::Content); });
+        return;
     }
+    until([&] {
+        if (!file.tryLock(kind, Range::Gate)) return false;
+        const bool got = file.tryLock(kind, Range::Content);
+        file.tryLock(Lock::None, Range::Gate);
+        return got;
+    });
 }
 
 // Locks the file that the path names now, which may have been replaced since it was opened. Returns its
@@ -94,7 +113,9 @@ FileState PageFile::lockCurrent(OsFile::Lock kind) {
 }
 
 void PageFile::unlock() {
-    if (m_file.isOpen()) m_file.tryLock(m_readers > 0 ? OsFile::Lock::Shared : OsFile::Lock::None);
+    if (!m_file.isOpen()) return;
+    m_file.tryLock(m_readers > 0 ? OsFile::Lock::Shared : OsFile::Lock::None, OsFile::Range::Content);
+    m_file.tryLock(OsFile::Lock::None, OsFile::Range::Gate);
 }
 
 void PageFile::beginRead() {
@@ -103,7 +124,7 @@ void PageFile::beginRead() {
             if (!m_file.isOpen()) open();
             FileState now = lockCurrent(OsFile::Lock::Shared);
             // With this lock held no writer is alive: a journal is what a dead one left.
-            if (canHaveJournal() && m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
+            while (canHaveJournal() && m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
                 recover();
                 now = lockCurrent(OsFile::Lock::Shared);
             }
@@ -131,7 +152,7 @@ void PageFile::recover() {
                  "Il database \"%1\" va ripristinato dopo un'interruzione, ma non può essere scritto.")
                  .arg(shown(m_path)));
     }
-    m_file.tryLock(OsFile::Lock::None);
+    m_file.tryLock(OsFile::Lock::None, OsFile::Range::Content);
     lock(file, OsFile::Lock::Exclusive);
     if (m_journal.exists()) m_journal.rollBack(file);
 }

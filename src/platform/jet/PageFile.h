@@ -15,8 +15,9 @@ namespace jet {
 /// rollback journal. All members throw Failure.
 ///
 /// Locks are advisory locks on the database file: shared while something is read, exclusive in a transaction.
-/// Waiting is bounded; then FileInUse. A cached page is trusted only as long as device, inode, size and
-/// modification time of the file at the path are what they were when the lock was last held.
+/// A waiting writer lets no new reader in. Waiting is bounded; then FileInUse. A cached page is trusted only
+/// as long as device, inode, size and modification time of the file at the path are what they were when the
+/// lock was last held.
 class PageFile {
   public:
     struct Limits {
