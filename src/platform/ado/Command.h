@@ -18,7 +18,7 @@ class Command {
     void setCommandText(const QString& statement) { m_statement = statement; }
     /// Seconds after which a statement is given up and undone; 0 is without limit.
     void setCommandTimeout(int seconds) { m_timeout = seconds; }
-    /// A hint only: compiling a statement costs so little that it is done at each execution.
+    /// A hint only: statements of the same shape are compiled once in any case.
     void setPrepared(bool prepared) { m_prepared = prepared; }
     bool prepared() const { return m_prepared; }
 
