@@ -1,16 +1,8 @@
 #include "platform/html/HtmlView.h"
 
-#include <QCoreApplication>
 #include <QVBoxLayout>
 
 #include "platform/html/HtmlViewLive.h"
-
-// The browser draws with contexts that are shared with the program's windows. That has to be settled before
-// the application object is made, so it is as soon as a program holds a view at all.
-[[maybe_unused]] const bool contextsAreShared = [] {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    return true;
-}();
 
 HtmlView::HtmlView(Mode mode, QWidget* parent)
     : QWidget(parent), m_live(std::make_unique<Live>(*this, mode)) {

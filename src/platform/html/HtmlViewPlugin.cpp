@@ -3,10 +3,26 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLibrary>
+#include <QOpenGLContext>
+
+// The toolkit exports it without declaring it in public.
+void qt_gl_set_global_share_context(QOpenGLContext* context);
 
 namespace {
 
+/// The browser draws with contexts that are shared with the program's windows. The toolkit would make the
+/// context that all others share at the start of the program, for more time than all the rest of the start;
+/// this makes it when it is needed. It is never deleted, as the toolkit holds on to it to the end. Where no
+/// context can be had the browser asks for one all the same, and draws without.
+void shareContexts() {
+    if (QOpenGLContext::globalShareContext() != nullptr) return;
+    auto* context = new QOpenGLContext;
+    context->create();
+    qt_gl_set_global_share_context(context);
+}
+
 CreateBrowser* load(QString& failure) {
+    shareContexts();
     const QString program = QCoreApplication::applicationDirPath();
     for (const QString& folder : QStringLiteral(VESTROLA_PLUGIN_FOLDERS).split(':')) {
         const QString path = program + '/' + folder + QStringLiteral("/libvestrola_browser.so");
