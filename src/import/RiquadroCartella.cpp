@@ -18,7 +18,6 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
     opt[0]->setChecked(true);
     txtCartella->setEnabled(false);
     txtCartella->setMinimumHeight(ui::fieldHeight);
-    txtCartella->setAccessibleName("Nome della nuova cartella");
     lbl->setBuddy(opt[0]);
     for (QRadioButton* opzione : opt) {
         opzione->setAccessibleName(ui::spokenCaption(opzione->text()));
@@ -39,6 +38,13 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
     griglia->addWidget(opt[0], 1, 0, 1, 2);
     griglia->addWidget(opt[1], 2, 0);
     griglia->addWidget(txtCartella, 2, 1);
+}
+
+/// The box of the name has no caption of its own: it is called after its option, whose text the language file
+/// may have changed.
+void RiquadroCartella::showEvent(QShowEvent* mostra) {
+    QWidget::showEvent(mostra);
+    txtCartella->setAccessibleName(ui::spokenCaption(opt[1]->text()));
 }
 
 void RiquadroCartella::opt_Click() {

@@ -20,6 +20,9 @@ class RiquadroCartella : public QWidget {
     /// Both options at once: 0 the selected group, 1 a new one.
     cartella::Scelta Scelta() const;
 
+  protected:
+    void showEvent(QShowEvent* mostra) override;
+
   private:
     void opt_Click();
 

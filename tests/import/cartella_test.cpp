@@ -95,6 +95,17 @@ class TestImportCartella : public QObject {
         QVERIFY(stage.enabled("txtCartella"));
     }
 
+    void nameIsCalledAfterItsOptionInTheLanguageInUse() {
+        Stage stage;
+        QCOMPARE(stage.control<QLineEdit>("txtCartella")->accessibleName(),
+                 "Aggiungi i destinatari in una nuova cartella.");
+        stage.form().hide();
+        stage.control<QRadioButton>("opt(1)")->setText("Add the recipients to a new folder.");
+        stage.form().hide();
+        QCOMPARE(stage.control<QLineEdit>("txtCartella")->accessibleName(),
+                 "Add the recipients to a new folder.");
+    }
+
     void enterConfirms() {
         Stage stage;
         QTest::keyClick(&stage.form(), Qt::Key_Return);
