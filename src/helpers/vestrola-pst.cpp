@@ -53,7 +53,9 @@ void print(const QJsonObject& object) {
 QString textOf(pst_item* item, pst_string& value) {
     if (value.str == nullptr) return {};
     pst_convert_utf8_null(item, &value);
-    return QString::fromUtf8(value.str);
+    // The library packs its structures: no reference may be bound to a member of them.
+    const char* const text = value.str;
+    return QString::fromUtf8(text);
 }
 
 QString joined(std::initializer_list<QString> parts, const QString& divider) {
