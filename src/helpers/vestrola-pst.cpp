@@ -77,7 +77,7 @@ QString lastNameAndFirstName(pst_item* item) {
 /// The address as Outlook keeps it, or else put together from its parts the way Outlook does.
 QString businessAddress(pst_item* item) {
     pst_item_contact& contact = *item->contact;
-    const QString whole = textOf(item, contact.business_address);
+    QString whole = textOf(item, contact.business_address);
     if (!whole.isEmpty()) return whole;
     const QString town = joined({textOf(item, contact.business_postal_code),
                                  textOf(item, contact.business_city), textOf(item, contact.business_state)},

@@ -33,7 +33,7 @@ class Record {
     /// The first of these attributes that has a value.
     QString text(std::initializer_list<const char*> keys) const {
         for (const char* key : keys) {
-            const QString value = m_values.value(key);
+            QString value = m_values.value(key);
             if (!value.isEmpty()) return value;
         }
         return {};

@@ -64,7 +64,7 @@ QString withoutScheme(const QString& text, const QString& scheme) {
 }
 
 QString displayName(const Choice& formatted, const Choice& name) {
-    const QString text = formatted.text();
+    QString text = formatted.text();
     if (!text.trimmed().isEmpty()) return text;
     return QString(name.part(1) + u' ' + name.part(0)).trimmed();
 }
