@@ -48,7 +48,7 @@ frmAllegati::frmAllegati(QWidget* parent) : QWidget(parent), LIST(new Elenco(thi
     LIST->setUniformRowHeights(true);
     LIST->setAllColumnsShowFocus(true);
     LIST->setContextMenuPolicy(Qt::NoContextMenu);
-    LIST->setMouseTracking(true);
+    LIST->viewport()->setMouseTracking(true);
     LIST->header()->setStretchLastSection(true);
     auto* area = new QVBoxLayout(this);
     area->setContentsMargins(0, 0, 0, 0);

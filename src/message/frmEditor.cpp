@@ -67,7 +67,6 @@ void frmEditor::Carica() {
     auto* allegati = new frmAllegati;
     pannelli.DockWindows("dckAllegati")->setContent(allegati);
     barre->offerPopup(allegati->LIST, [] { return QStringLiteral("popAllegati"); });
-    setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
 }
 
 void frmEditor::MostraModale() {

@@ -45,6 +45,8 @@ void frmEditor::CollegaViste() {
                 [fai](const auto&... argomenti) { evento([&] { fai(argomenti...); }); });
     };
     quando(DHTML, &HtmlView::documentComplete, [this] {
+        // The browser's widget comes with the first document.
+        setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
         DHTML->execCommand(HtmlView::SetFontName, "Verdana");
         DHTML->execCommand(HtmlView::SetFontSize, "2");
     });

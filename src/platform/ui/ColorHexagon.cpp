@@ -31,9 +31,11 @@ QColor colorOf(quint32 number) {
 /// By the place of a cell, seen from the middle, and its ring.
 QColor colorAt(const QPointF& place, int ring) {
     if (ring == 0) return Qt::white;
-    const qreal turn = std::atan2(-place.y(), place.x()) / (2 * M_PI);
+    // In whole degrees, so that the corners are the pure colours.
+    const qreal degrees =
+        std::round(std::atan2(-place.y() * std::sqrt(0.75) * cellWidth / rowPitch, place.x()) * 180 / M_PI);
     const qreal lightness = ring <= fullRing ? 1 - 0.5 * ring / fullRing : 0.5 - 0.13 * (ring - fullRing);
-    return QColor::fromHslF(static_cast<float>(turn < 0 ? turn + 1 : turn), 1.0F,
+    return QColor::fromHslF(static_cast<float>(std::fmod(degrees + 360, 360) / 360), 1.0F,
                             static_cast<float>(lightness))
         .toRgb();
 }

@@ -1,0 +1,294 @@
+// The tools of the editor follow the selection; toggles, lists, colours, status text, menus, keys.
+#include <QContextMenuEvent>
+#include <QFontDatabase>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QTreeWidget>
+
+#include "core/Finestre.h"
+#include "message/editor_stage.h"
+#include "platform/ui/ColorHexagon.h"
+
+using namespace testing_support;
+
+namespace {
+
+const char* const tableTools[] = {"cmdTableInsRow", "cmdTableInsCol", "cmdTableDelRow", "cmdTableDelCol"};
+
+}  // namespace
+
+class TestStato : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<EditorStage> m_stage;
+    EditorStage& stage() { return *m_stage; }
+    ui::CommandBars& bars() { return stage().editor().Commands(); }
+    bool enabled(const char* name) { return stage().tool(name).isEnabled(); }
+    QToolBar& bar(const char* name) { return EditorStage::in<QToolBar>(stage().editor(), name); }
+    static void enter(QWidget& widget) {
+        QEnterEvent event(QPointF(3, 3), QPointF(3, 3), widget.mapToGlobal(QPointF(3, 3)));
+        QApplication::sendEvent(&widget, &event);
+    }
+    QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+  private Q_SLOTS:
+    void initTestCase() { m_stage = std::make_unique<EditorStage>(); }
+    void cleanupTestCase() { m_stage.reset(); }
+    void init() { stage().begin(); }
+
+    void theToolsShowTheFormatOfTheSelection_data() {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<QString>("html");
+        QTest::newRow("bold") << "cmdBold"
+                              << "<p><b id=\"x\">testo</b></p>";
+        QTest::newRow("italic") << "cmdItalic"
+                                << "<p><i id=\"x\">testo</i></p>";
+        QTest::newRow("underline") << "cmdUnderline"
+                                   << "<p><u id=\"x\">testo</u></p>";
+        QTest::newRow("left") << "cmdLeft"
+                              << "<p id=\"x\" align=\"left\">testo</p>";
+        QTest::newRow("centre") << "cmdCenter"
+                                << "<p id=\"x\" align=\"center\">testo</p>";
+        QTest::newRow("right") << "cmdRight"
+                               << "<p id=\"x\" align=\"right\">testo</p>";
+    }
+    void theToolsShowTheFormatOfTheSelection() {
+        QFETCH(QString, tool);
+        QFETCH(QString, html);
+        stage().fill("<div id=\"no\" align=\"justify\">altro</div>" + html);
+        stage().caret("#no", 2);
+        QTRY_COMPARE(stage().tool(tool).Checked(), 0);
+        stage().caret("#x", 2);
+        QTRY_COMPARE(stage().tool(tool).Checked(), 1);
+        QVERIFY(EditorStage::in<QToolButton>(stage().editor(), tool).isChecked());
+        stage().caret("#no", 2);
+        QTRY_COMPARE(stage().tool(tool).Checked(), 0);
+    }
+
+    void fontAndSizeFollowTheSelection() {
+        stage().fill("<p><font face=\"Georgia\" size=\"5\">testo</font></p>");
+        stage().caret("font", 2);
+        QTRY_COMPARE(bars().GetComboBox("cmbFontName")->Text(), "Georgia");
+        QCOMPARE(bars().GetComboBox("cmbFontSize")->Text(), "5");
+        QVERIFY(!stage().marked());
+    }
+
+    void theTableToolsAreOnInATableOnly() {
+        stage().fill("<p>fuori</p><table><tbody><tr><td>1</td></tr></tbody></table>");
+        stage().caret("td", 1);
+        for (const char* tool : tableTools)
+            QTRY_VERIFY2(enabled(tool), tool);
+        stage().caret("p", 1);
+        for (const char* tool : tableTools)
+            QTRY_VERIFY2(!enabled(tool), tool);
+    }
+
+    void cutAndCopyNeedASelectionUndoAndRedoSomethingToUndo() {
+        stage().fill("<p>testo</p>");
+        stage().caret("p", 1);
+        QTRY_VERIFY(!enabled("cmdCopia"));
+        QVERIFY(!enabled("cmdTaglia"));
+        QVERIFY(!enabled("cmdUndo"));
+        QVERIFY(enabled("cmdSelezionaTutto"));
+        stage().select("p", 0, 3);
+        QTRY_VERIFY(enabled("cmdCopia"));
+        QVERIFY(enabled("cmdTaglia"));
+        stage().start("cmdBold");
+        QTRY_VERIFY(enabled("cmdUndo"));
+        QVERIFY(!enabled("cmdRedo"));
+        stage().start("cmdUndo");
+        QTRY_VERIFY(enabled("cmdRedo"));
+    }
+
+    void onTheSourceTabTheToolsFollowTheSource() {
+        stage().fill("<table><tbody><tr><td>1</td></tr></tbody></table>");
+        stage().caret("td", 1);
+        QTRY_VERIFY(enabled("cmdTableInsRow"));
+        stage().chooseTab(1);
+        for (const char* tool : tableTools)
+            QVERIFY2(!enabled(tool), tool);
+        QVERIFY(!enabled("cmdTaglia"));
+        QVERIFY(!enabled("cmdUndo"));
+        QVERIFY(enabled("cmdSelezionaTutto"));
+        stage().start("cmdSelezionaTutto");
+        QVERIFY(enabled("cmdTaglia"));
+        QVERIFY(enabled("cmdCopia"));
+        stage().start("cmdTaglia");
+        QVERIFY(enabled("cmdUndo"));
+        QVERIFY(!enabled("cmdRedo"));
+        QVERIFY(enabled("cmdIncolla"));
+        stage().start("cmdUndo");
+        QVERIFY(enabled("cmdRedo"));
+        stage().chooseTab(0);
+        QTRY_VERIFY(!enabled("cmdCopia"));
+    }
+
+    void atMostOnePriorityIsOn() {
+        stage().start("cmdPriBassa");
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 1);
+        QVERIFY(stage().marked());
+        stage().start("cmdPriAlta");
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 1);
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 0);
+        stage().start("cmdPriAlta");
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 0);
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 0);
+        stage().start("cmdPriAlta");
+        stage().start("cmdPriBassa");
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 0);
+        QCOMPARE(stage().tool("cmdPriBassa").Checked(), 1);
+    }
+
+    void detailsAndBordersToggleWithoutTouchingTheDocument() {
+        stage().fill("<p>testo</p>");
+        const QString before = stage().design().documentHTML();
+        for (const auto& [name, state] : {std::pair("cmdShowDetails", 1),
+                                          {"cmdShowBorder", 0},
+                                          {"cmdShowDetails", 0},
+                                          {"cmdShowBorder", 1}}) {
+            stage().start(name);
+            QCOMPARE(stage().tool(name).Checked(), state);
+        }
+        QCOMPARE(stage().design().documentHTML(), before);
+        QVERIFY(!stage().marked());
+    }
+
+    void theListsOfFontsAndSizes() {
+        const ui::ComboTool& fonts = *bars().GetComboBox("cmbFontName");
+        QCOMPARE(fonts.Count(), QFontDatabase::families().size());
+        for (int i = 2; i <= fonts.Count(); ++i)
+            QVERIFY(QString::compare(fonts.Item(i - 1), fonts.Item(i), Qt::CaseInsensitive) <= 0);
+        const ui::ComboTool& sizes = *bars().GetComboBox("cmbFontSize");
+        QCOMPARE(sizes.Count(), 7);
+        QCOMPARE(sizes.Item(1), "1");
+        QCOMPARE(sizes.Item(7), "7");
+    }
+
+    void theColourPopupShowsTheColourOfTheTextAndSetsAnother() {
+        stage().fill("<p><font color=\"#ff0000\">testo</font></p>");
+        stage().select("font", 0, 5);
+        QTest::mouseClick(&EditorStage::in<QToolButton>(stage().editor(), "popColors"), Qt::LeftButton);
+        auto& popup = EditorStage::in<QWidget>(stage().editor(), "pwnColor");
+        auto& color = EditorStage::in<ui::ColorHexagon>(popup, "color");
+        QVERIFY(popup.isVisible());
+        QCOMPARE(color.Color(), 0x0000ffU);
+        color.setColor(0xff0000);
+        color.pick(color.currentCell());
+        QVERIFY(!popup.isVisible());
+        QTRY_COMPARE(stage().body(), "<p><font color=\"#0000ff\">testo</font></p>");
+        QVERIFY(!stage().marked());
+        QTest::mouseClick(&EditorStage::in<QToolButton>(stage().editor(), "popColors"), Qt::LeftButton);
+        QTest::keyClick(&color, Qt::Key_Escape);
+        QVERIFY(!popup.isVisible());
+    }
+
+    void threeBarsAreOnInTheDesignViewOnly() {
+        for (const int tab : {1, 2, 0}) {
+            stage().chooseTab(tab);
+            for (const char* name : {"HTML", "Message", "View"})
+                QCOMPARE(bar(name).isEnabled(), tab == 0);
+            QVERIFY(bar("File").isEnabled());
+            QVERIFY(bar("Modifica").isEnabled());
+        }
+    }
+
+    void keysOfABarThatIsOffAreDead() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        stage().chooseTab(1);
+        QTest::keyClick(stage().source().focusProxy(), Qt::Key_B, Qt::ControlModifier);
+        stage().chooseTab(2);
+        QCOMPARE(stage().body(), "<p>testo</p>");
+    }
+
+    void theStatusTextDescribesCommandsViewsAndAttachments() {
+        stage().editor().findChild<QAction*>("cmdHR")->hover();
+        QCOMPARE(stage().hint(), "Linea orizzontale");
+        Q_EMIT stage().design().pointerEntered();
+        QCOMPARE(stage().hint(), "Mod. Modifica");
+        stage().editor().tb->setTabCaption(1, "Codice");
+        stage().chooseTab(1);
+        enter(*stage().editor().tb->tabBar());
+        QCOMPARE(stage().hint(), "Mod. Codice");
+        stage().editor().findChild<QAction*>("cmdHR")->hover();
+        enter(*stage().source().focusProxy()->findChild<QWidget*>("qt_scrollarea_viewport"));
+        QCOMPARE(stage().hint(), "Mod. Codice");
+        stage().editor().tb->setTabCaption(1, "Origine");
+        QTest::mouseMove(stage().editor().Allegati().LIST->viewport(), QPoint(3, 3));
+        QTRY_COMPARE(stage().hint(), "Allegati");
+    }
+
+    void aRightClickOpensTheMenuOfTheView() {
+        Q_EMIT stage().design().contextMenuRequested(QPoint(50, 60));
+        QVERIFY(openMenu());
+        QCOMPARE(openMenu()->objectName(), "popModifica");
+        openMenu()->hide();
+        stage().chooseTab(1);
+        auto* source = stage().source().focusProxy()->findChild<QWidget*>("qt_scrollarea_viewport");
+        QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(9, 9), source->mapToGlobal(QPoint(9, 9)));
+        QApplication::sendEvent(source, &request);
+        QVERIFY(openMenu());
+        QCOMPARE(openMenu()->objectName(), "popModifica");
+        openMenu()->hide();
+    }
+
+    void keysGoRoundTheTabs() {
+        auto& subject = EditorStage::in<QLineEdit>(stage().editor(), "txtOggetto");
+        subject.setFocus();
+        QTest::keyClick(&subject, Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(stage().editor().tb->currentIndex(), 1);
+        QTest::keyClick(stage().source().focusProxy(), Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(stage().editor().tb->currentIndex(), 2);
+        QTest::keyClick(&stage().editor(), Qt::Key_PageUp, Qt::ControlModifier);
+        QCOMPARE(stage().editor().tb->currentIndex(), 1);
+    }
+
+    void tabLeadsFromTheSubjectIntoTheBody() {
+        auto& subject = EditorStage::in<QLineEdit>(stage().editor(), "txtOggetto");
+        subject.setFocus();
+        QTest::keyClick(&subject, Qt::Key_Tab);
+        QWidget* now = QApplication::focusWidget();
+        QVERIFY(now);
+        QVERIFY2(stage().design().isAncestorOf(now), qPrintable(now->objectName()));
+    }
+
+    void keysFormatTheSelection() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        QTest::keyClick(stage().design().inputWidget(), Qt::Key_B, Qt::ControlModifier);
+        QTRY_COMPARE(stage().body(), "<p><b>testo</b></p>");
+        QVERIFY(!stage().marked());
+    }
+
+    void theWindowRefusesToBeClosedAndItsCommandHidesIt() {
+        stage().editor().close();
+        QVERIFY(stage().editor().isVisible());
+        QTest::keyClick(&stage().editor(), Qt::Key_Escape);
+        QVERIFY(stage().editor().isVisible());
+        stage().start("cmdEsci");
+        QVERIFY(!stage().editor().isVisible());
+        QVERIFY(!stage().bytes("data/frmEditor.imp").isEmpty());
+        QVERIFY(stage().bytes("data/frmEditor.imp").startsWith("[Form frmMain]\r\nmnLeft........: "));
+        QVERIFY(stage().bytes("data/LayoutEditor.imp").startsWith("VSTLAY1"));
+    }
+
+    void theMainWindowOpensItModalOnAnEmptyDocument() {
+        stage().fill("<p>vecchio</p>");
+        stage().editor().hide();
+        bool modal = false;
+        QString body;
+        QTimer::singleShot(100, &stage().editor(), [&] {
+            modal = QApplication::activeModalWidget() == &stage().editor();
+            body = stage().body();
+            stage().start("cmdEsci");
+        });
+        stage().command("cmdEditor");
+        QVERIFY(modal);
+        QCOMPARE(body.trimmed(), "");
+        QVERIFY(!stage().editor().isVisible());
+    }
+};
+
+QTEST_MAIN(TestStato)
+#include "frmeditor_stato_test.moc"
