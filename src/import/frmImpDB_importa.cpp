@@ -48,15 +48,17 @@ Sorgenti sorgentiDi(const RiquadroCampi& riquadro) {
 }
 
 /// Takes the values of the current record over. One that has no text, such as Null, leaves what the record
-/// before it had there.
-void leggi(const ado::Recordset& rs, const Sorgenti& sorgenti, Valori& valori) {
+/// before it had there. False when the record itself is gone.
+bool leggi(const ado::Recordset& rs, const Sorgenti& sorgenti, Valori& valori) {
     for (std::size_t i = 0; i < valori.size(); ++i) {
         if (sorgenti[i].isEmpty()) continue;
         const Result<ado::Value> campo = rs.value(sorgenti[i]);
+        if (campo.status().code() == ErrorCode::NoCurrentRecord) return false;
         if (!campo.ok()) continue;
         if (const Result<QString> testo = campo.value().toText(); testo.ok())
             valori[i] = tagliato(testo.value(), static_cast<Colonna>(i));
     }
+    return true;
 }
 
 void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& gruppo,
@@ -64,8 +66,8 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
     ui::Busy lavoro;
     Valori valori;
     while (!rs.isEof()) {
-        leggi(rs, sorgenti, valori);
-        if (EmailValida(valori[email])) prosegui([&] { inserimento.Inserisci(gruppo, valori); });
+        if (leggi(rs, sorgenti, valori) && EmailValida(valori[email]))
+            prosegui([&] { inserimento.Inserisci(gruppo, valori); });
         // Where the source cannot be read on, the same record would come for ever.
         if (!prosegui([&] { esigi(rs.moveNext()); })) break;
         lavoro.breathe();

@@ -1,0 +1,195 @@
+// Sources of the Access import as they should not be, and databases that somebody else holds.
+#include <sys/stat.h>
+
+#include <QTimer>
+
+#include "import/impdb_stage.h"
+#include "platform/jet/Database.h"
+#include "store/Schema.h"
+
+using namespace testing_support;
+
+namespace {
+
+constexpr int manyRecords = 20000;
+
+/// A recipient database with many rows: "n1@x.it", "n2@x.it", …
+void makeLongSource(const QString& path) {
+    esigi(jet::createEmptyDatabase(path));
+    auto file = esigi(jet::Database::open(path));
+    jet::Table* table = esigi(file->table(u"tb_destinatari"));
+    esigi(file->begin());
+    for (int i = 1; i <= manyRecords; ++i) {
+        std::vector<jet::Value> row;
+        for (const schema::Colonna& column : schema::colonneDestinatari) {
+            if (column.nome == u"email")
+                row.emplace_back("n" + std::to_string(i) + "@x.it");
+            else if (column.tipo == schema::Tipo::Testo)
+                row.emplace_back(std::string("MI"));
+            else if (column.tipo == schema::Tipo::SiNo)
+                row.emplace_back(true);
+            else
+                row.emplace_back(int64_t{i});
+        }
+        esigi(table->insert(row));
+    }
+    esigi(file->commit());
+}
+
+bool isBeginningOfTheList(const QStringList& addresses) {
+    for (int i = 0; i < addresses.size(); ++i)
+        if (addresses[i] != QString("n%1@x.it").arg(i + 1)) return false;
+    return true;
+}
+
+}  // namespace
+
+class TestImportDbGuasti : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void whatIsNoDatabaseTellsWhyAndLeavesTheBoxesEmpty_data() {
+        QTest::addColumn<QString>("kind");
+        for (const char* kind : {"empty path", "directory", "device", "pipe", "text", "empty file",
+                                 "zeros of 2 GB", "semicolon in the path", "quote in the path"})
+            QTest::newRow(kind) << kind;
+    }
+    void whatIsNoDatabaseTellsWhyAndLeavesTheBoxesEmpty() {
+        QFETCH(QString, kind);
+        DbStage stage;
+        QString path = stage.folder.path("sorgente.mdb");
+        if (kind == "empty path") path.clear();
+        if (kind == "directory") path = stage.folder.path("data");
+        if (kind == "device") path = "/dev/zero";
+        if (kind == "pipe") QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+        if (kind == "text") stage.write("sorgente.mdb", "Ragione Sociale;Nome;Email\r\n");
+        if (kind == "empty file") stage.write("sorgente.mdb", "");
+        if (kind == "zeros of 2 GB")
+            QVERIFY(QFile::resize(stage.write("sorgente.mdb", "x"), qint64(2) << 30));
+        if (kind == "semicolon in the path") path = "a;b.mdb";
+        if (kind == "quote in the path") path = "\"a.mdb";
+        stage.answerBox();
+        stage.open(path);
+        QCOMPARE(ui::MessageDialog::shown().size(), 1);
+        QVERIFY(!ui::MessageDialog::shown()[0].text.isEmpty());
+        QCOMPARE(ui::MessageDialog::shown()[0].style, 64);
+        QCOMPARE(ui::MessageDialog::shown()[0].title, "Attenzione");
+        QCOMPARE(stage.tables(), QStringList());
+        QCOMPARE(stage.box(2)->count(), 0);
+        QVERIFY(!stage.enabled("cmdImportaDB"));
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void aDatabaseThatIsCutOffNeverEndsTheProgram() {
+        DbStage stage;
+        stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
+        ado::closeAll();
+        const qint64 whole = QFile(stage.source()).size();
+        for (qint64 size = whole - 4096; size > 0; size -= 8192) {
+            QVERIFY(QFile::resize(stage.source(), size));
+            ui::MessageDialog::reset();
+            stage.answerBox();
+            stage.open();
+            if (stage.enabled("cmdImportaDB") && stage.box(2)->count() > 1) {
+                stage.click("opt(1)");
+                stage.box(2)->setCurrentIndex(1);
+                stage.click("cmdImportaDB");
+            }
+            QVERIFY(stage.ends.isEmpty());
+        }
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void aSourceThatIsCutMeanwhileGivesItsBeginning() {
+        DbStage stage;
+        makeLongSource(stage.source());
+        stage.chooseNode();
+        stage.open();
+        stage.feed(2, "email");
+        bool cut = false;
+        QTimer::singleShot(0, [&] { cut = QFile::resize(stage.source(), 4096 * 40); });
+        stage.click("cmdImportaDB");
+        QVERIFY(cut);
+        QVERIFY(!finestre::ImpDB().isVisible());
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(ui::MessageDialog::shown().isEmpty());
+        const QStringList addresses = DbStage::inserted("email");
+        QVERIFY(!addresses.isEmpty());
+        QVERIFY(addresses.size() < manyRecords);
+        QVERIFY(isBeginningOfTheList(addresses));
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void aSourceThatIsRemovedMeanwhileDoesNotEndTheProgram() {
+        DbStage stage;
+        makeLongSource(stage.source());
+        stage.chooseNode();
+        stage.open();
+        stage.feed(2, "email");
+        QTimer::singleShot(0, [&] { QFile::remove(stage.source()); });
+        stage.click("cmdImportaDB");
+        QVERIFY(!QFile::exists(stage.source()));
+        QVERIFY(!finestre::ImpDB().isVisible());
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(isBeginningOfTheList(DbStage::inserted("email")));
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void clicksAndKeysDuringTheImportAreThrownAway() {
+        DbStage stage;
+        makeLongSource(stage.source());
+        stage.chooseNode();
+        stage.open();
+        stage.feed(2, "email");
+        auto* start = stage.control<QPushButton>("cmdImportaDB");
+        bool alive = false;
+        QTimer::singleShot(0, [&] {
+            alive = true;
+            QTest::mouseClick(start, Qt::LeftButton);
+            QTest::keyClick(&stage.dialog(), Qt::Key_Return);
+        });
+        stage.click("cmdImportaDB");
+        QVERIFY(alive);
+        QCoreApplication::processEvents();
+        QCOMPARE(DbStage::recipients(), manyRecords);
+    }
+
+    void aSourceThatSomebodyElseWritesToTellsSo() {
+        DbStage stage;
+        stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
+        auto other = esigi(jet::Database::open(stage.source()));
+        esigi(other->begin());
+        stage.answerBox();
+        stage.open();
+        QCOMPARE(ui::MessageDialog::shown().size(), 1);
+        QVERIFY(!stage.enabled("cmdImportaDB"));
+        other->rollback();
+        stage.open();
+        QVERIFY(stage.enabled("cmdImportaDB"));
+    }
+
+    void recipientsThatSomebodyElseWritesToTellSo() {
+        DbStage stage;
+        stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
+        stage.chooseNode();
+        stage.open();
+        stage.feed(2, "mail");
+        {
+            auto other = esigi(jet::Database::open(stage.folder.database()));
+            esigi(other->begin());
+            stage.answerBox();
+            stage.click("cmdImportaDB");
+        }
+        QCOMPARE(ui::MessageDialog::shown().size(), 1);
+        QVERIFY(!ui::MessageDialog::shown()[0].text.isEmpty());
+        QVERIFY(stage.dialog().isVisible());
+        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(DbStage::recipients(), 0);
+        stage.click("cmdImportaDB");
+        QCOMPARE(DbStage::recipients(), 1);
+        QCOMPARE(stage.faults(), QStringList());
+    }
+};
+
+QTEST_MAIN(TestImportDbGuasti)
+#include "impdb_guasti_test.moc"
