@@ -38,7 +38,7 @@ def play(stage, program):
     server.check_the_one_message()
     if has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED):
         fail("the recipient who was served is still ticked")
-    stage.check_no_browser(running)
+    open_editor(stage, running)
     keys("ctrl+q")
     stage.ends(running, 0)
     print("a group, a recipient, an account and one message by keys alone")
@@ -104,6 +104,17 @@ def send(message):
     window.find("label", "Email inviate: 1")
     keys("alt+c")
     window.gone()
+
+
+def open_editor(stage, running):
+    """The engine of its views is loaded when the editor is first opened, and not before."""
+    if stage.has_browser(running):
+        fail("the browser engine was loaded without the editor")
+    keys("ctrl+n")
+    editor = Window("frame", "Editor Messaggi")
+    wait_for(lambda: stage.has_browser(running), "the browser engine")
+    keys("ctrl+w")
+    editor.gone()
 
 
 if __name__ == "__main__":
