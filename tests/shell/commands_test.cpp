@@ -88,21 +88,6 @@ class TestCommands : public QObject {
         QCOMPARE(stage.count("tb_destinatari", "sel = True"), 0);
     }
 
-    void commandsWhoseWindowDoesNotExistDoNothing_data() {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"cmdEditor"})
-            QTest::newRow(name) << name;
-    }
-    void commandsWhoseWindowDoesNotExistDoNothing() {
-        QFETCH(QString, name);
-        StoreStage stage;
-        stage.window();
-        stage.command(name);
-        QVERIFY(stage.ends.isEmpty());
-        QVERIFY(MessageDialog::shown().isEmpty());
-        QVERIFY(!QApplication::activeModalWidget());
-    }
-
     void groupAndRecipientCommandsReachTheirRoutines() {
         StoreStage stage;
         stage.addRecipient(1, "A", "a@x.it", false);
