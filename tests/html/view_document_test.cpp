@@ -1,10 +1,27 @@
+#include <QFile>
+
 #include "html/ViewFixture.h"
 #include "platform/html/HtmlDocument.h"
 
 class ViewDocument : public QObject {
     Q_OBJECT
 
+    static bool browserCodeIsLoaded() {
+        QFile maps(QStringLiteral("/proc/self/maps"));
+        if (!maps.open(QIODevice::ReadOnly)) qFatal("no list of loaded code");
+        return maps.readAll().contains("WebEngine");
+    }
+
   private Q_SLOTS:
+    void noCodeOfTheBrowserIsLoadedBeforeAViewIsShown() {
+        HtmlView view(HtmlView::Mode::Design);
+        view.setDocumentHTML("<p>ciao");
+        QVERIFY(!view.documentHTML().isEmpty());
+        QVERIFY(!browserCodeIsLoaded());
+        view.show();
+        QVERIFY(browserCodeIsLoaded());
+    }
+
     void keepsItsTextUntilItIsShown() {
         HtmlView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<P>ciao");
@@ -30,6 +47,38 @@ class ViewDocument : public QObject {
         desk.view.setDocumentHTML("<b>due</b>");
         QCOMPARE(complete.count(), 1);
         QCOMPARE(desk.body(), QString("<b>due</b>"));
+    }
+
+    void documentSetWhileTheBrowserComesIsTheOneThatShows() {
+        HtmlView view(HtmlView::Mode::Design);
+        view.setDocumentHTML("<p>uno</p>");
+        view.show();
+        view.setDocumentHTML("<p>due</p>");
+        QTRY_VERIFY(view.isLive());
+        view.setDocumentHTML("<p>tre</p>");
+        QCOMPARE(view.documentHTML(), QString("<html><head></head><body><p>tre</p></body></html>"));
+    }
+
+    void charactersOutsideWindows1252AreReferencesAfterTypingToo() {
+        Desk desk("<p>x</p>");
+        desk.press(0, Qt::NoModifier, QStringLiteral("Ω"));
+        desk.press(0, Qt::NoModifier, QStringLiteral("è"));
+        QCOMPARE(desk.body(), QStringLiteral("<p>&#937;èx</p>"));
+    }
+
+    void doctypeOfTheDocumentRulesItsLayout() {
+        Desk desk("<!DOCTYPE html><p>x</p>");
+        QCOMPARE(desk.view.evaluate("document.compatMode").toString(), QString("CSS1Compat"));
+        desk.view.setDocumentHTML("<p>x</p>");
+        QCOMPARE(desk.view.evaluate("document.compatMode").toString(), QString("BackCompat"));
+    }
+
+    void twoViewsKeepTheirDocumentsApart() {
+        Desk one("<p>uno</p>");
+        Desk two("<p>due</p>", HtmlView::Mode::Browse);
+        one.view.insertHTML("x");
+        QCOMPARE(one.body(), QString("<p>xuno</p>"));
+        QCOMPARE(two.body(), QString("<p>due</p>"));
     }
 
     void typingChangesTheDocument() {
