@@ -28,12 +28,13 @@ NameServer::Records records() {
 /// route.
 class DirectStage {
   public:
-    explicit DirectStage(std::initializer_list<const char*> recipients)
+    explicit DirectStage(std::initializer_list<const char*> recipients, const char* greeting = "EHLO")
         : names(NameServer::Program::Unbound, records()), stage(recipients) {
         if (!replaceResolverConfiguration("nameserver 127.0.0.1\n") || !names.problem().isEmpty())
             qFatal("no name server: %s", names.problem().constData());
         Account account = SampleFolder::loopbackAccount(9);
         account.chkUsaSMTP = "0";
+        account.cmbSaluto = greeting;
         account.chkAutentick = "1";
         account.txtUsername = "utente";
         account.txtPassword = "segreto";
@@ -110,6 +111,13 @@ class TestFrmInviaDiretto : public QObject {
         QVERIFY(!direct.stage.smtp().UseAuth);
         QCOMPARE(direct.stage.smtp().UserName, "");
         QCOMPARE(direct.stage.smtp().UserPassword, "");
+    }
+
+    void accountsGreetingIsUsed() {
+        DirectStage direct({"a@alfa.example"}, "HELO");
+        QVERIFY(direct.stage.run());
+        QCOMPARE(direct.alfa.greetings(), QList<QByteArray>{"HELO"});
+        QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
     void serverThatNeverAnswersEndsInTheTimeoutAndTheNextIsServed() {
