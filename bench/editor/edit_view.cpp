@@ -11,7 +11,8 @@
 // edit_view --open: milliseconds from nothing to a design view that takes commands, the browser's code not
 // yet
 //   loaded. Prints {"ms"}.
-// edit_view --keys: typing in a newsletter of 100 KB. Prints {"mark": milliseconds from a key's release to the
+// edit_view --keys: typing in a newsletter of 100 KB. Prints {"mark": milliseconds from a key's release to
+// the
 //   signal that marks the message as changed, the slowest of a hundred but five, "work": milliseconds of the
 //   program's thread from there until the tools' new states and the changed text are here, the middle one}.
 
