@@ -114,7 +114,7 @@ TEST(ComposeBody, BoundaryDoesNotOccurInTheContent) {
     message.bodyText = "--" + boundary + "\r\n\r\n--" + boundary + "--\r\n";
     message.bodyHtml = message.bodyText;
     mail::Composer composer;
-    const QByteArray data = composer.compose(message).value().data;
+    const QByteArray data = composer.compose(message).value().text.whole();
     EXPECT_EQ(data.count("--=_"), 3);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
 }

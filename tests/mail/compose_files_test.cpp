@@ -16,7 +16,7 @@ class ComposeFiles : public ::testing::Test {
     QByteArray compose(const mail::MessageData& message) {
         const auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        QByteArray data = composed.ok() ? composed.value().data : QByteArray();
+        QByteArray data = composed.ok() ? composed.value().text.whole() : QByteArray();
         EXPECT_EQ(complaintAbout(data).toStdString(), "");
         return data;
     }

@@ -135,7 +135,7 @@ TEST(ComposeHeaders, InternationalDomainsAreALabelsEverywhere) {
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_FALSE(composed.value().needsSmtputf8);
-    EXPECT_EQ(header(composed.value().data, "From"), "Orto Facile <info@xn--caff-8oa.example>");
+    EXPECT_EQ(header(composed.value().text.whole(), "From"), "Orto Facile <info@xn--caff-8oa.example>");
     EXPECT_EQ(composed.value().to.address(), "mario@xn--citt-3na.example");
     EXPECT_TRUE(composed.value().messageId.endsWith("@xn--caff-8oa.example>"));
 }
@@ -146,7 +146,7 @@ TEST(ComposeHeaders, NonAsciiLocalPartNeedsSmtputf8) {
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_TRUE(composed.value().needsSmtputf8);
-    EXPECT_EQ(header(composed.value().data, "To"),
+    EXPECT_EQ(header(composed.value().text.whole(), "To"),
               QStringLiteral("Mario Rossi <mario.però@example.it>").toUtf8());
 }
 
@@ -170,7 +170,7 @@ TEST(ComposeHeaders, MessageIdBearsTheSendersDomain) {
     mail::Composer composer;
     const auto composed = composer.compose(plainMessage());
     ASSERT_TRUE(composed.ok());
-    EXPECT_EQ(header(composed.value().data, "Message-ID"), composed.value().messageId);
+    EXPECT_EQ(header(composed.value().text.whole(), "Message-ID"), composed.value().messageId);
     const QRegularExpression form("\\A<[a-z0-9]+(\\.[a-z0-9]+)*@orto\\.example>\\z");
     EXPECT_TRUE(form.match(QString::fromLatin1(composed.value().messageId)).hasMatch());
 }

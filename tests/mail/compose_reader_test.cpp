@@ -37,8 +37,8 @@ class ReadByPython : public ::testing::Test {
     void add(const mail::MessageData& message) {
         const auto composed = m_composer.compose(message);
         ASSERT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        EXPECT_EQ(complaintAbout(composed.value().data).toStdString(), "")
-            << composed.value().data.toStdString();
+        EXPECT_EQ(complaintAbout(composed.value().text.whole()).toStdString(), "")
+            << composed.value().text.whole().toStdString();
         m_sent.push_back(message);
         m_composed.push_back(composed.value());
     }
@@ -47,7 +47,7 @@ class ReadByPython : public ::testing::Test {
     QJsonArray read() {
         QByteArray all;
         for (const auto& composed : m_composed)
-            all += QByteArray::number(composed.data.size()) + '\n' + composed.data;
+            all += QByteArray::number(composed.text.whole().size()) + '\n' + composed.text.whole();
         QProcess python;
         python.start("python3",
                      {TEST_DATA_DIR "/../mail/check_message.py", makeFile(m_folder.filePath("all"), all)});
@@ -62,7 +62,7 @@ class ReadByPython : public ::testing::Test {
         const QJsonArray results = read();
         for (std::size_t i = 0; i < m_sent.size() && !HasFailure(); ++i) {
             expectRead(m_sent[i], m_composed[i], results[static_cast<qsizetype>(i)].toObject());
-            if (HasFailure()) std::fputs(m_composed[i].data.constData(), stderr);
+            if (HasFailure()) std::fputs(m_composed[i].text.whole().constData(), stderr);
         }
     }
 

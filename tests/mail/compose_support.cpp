@@ -32,7 +32,7 @@ mail::MessageData plainMessage() {
 QByteArray wire(const mail::MessageData& message) {
     const auto composed = mail::Composer().compose(message);
     EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-    return composed.ok() ? composed.value().data : QByteArray();
+    return composed.ok() ? composed.value().text.whole() : QByteArray();
 }
 
 std::vector<QByteArray> headers(const QByteArray& message, const QByteArray& name) {

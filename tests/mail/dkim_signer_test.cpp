@@ -33,13 +33,13 @@ class Dkim : public ::testing::Test {
     mail::ComposedMessage compose(const mail::MessageData& message) {
         auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        EXPECT_EQ(complaintAbout(composed.value().data).toStdString(), "");
+        EXPECT_EQ(complaintAbout(composed.value().text.whole()).toStdString(), "");
         return composed.value();
     }
 
     void expectUnsigned(const mail::MessageData& message, const char* why) {
         const auto composed = compose(message);
-        EXPECT_FALSE(composed.data.contains("DKIM"));
+        EXPECT_FALSE(composed.text.whole().contains("DKIM"));
         EXPECT_FALSE(composed.signing.ok());
         EXPECT_TRUE(composed.signing.text().contains(QString::fromUtf8(why)))
             << composed.signing.text().toStdString();
@@ -68,14 +68,14 @@ QByteArray Dkim::s_record;
 
 TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
     auto message = plainMessage();
-    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
     message.dkimFolder = s_folder->filePath("assente");
-    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
     message.dkimFolder = s_folder->path();
     for (const char* address : {"a@altro.example", "a@sub.orto.example", "a@example", "a@[192.0.2.1]"}) {
         message.fromAddress = address;
         const auto composed = compose(message);
-        EXPECT_FALSE(composed.data.contains("DKIM")) << address;
+        EXPECT_FALSE(composed.text.whole().contains("DKIM")) << address;
         EXPECT_TRUE(composed.signing.ok()) << address;
     }
 }
@@ -83,9 +83,10 @@ TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
 TEST_F(Dkim, SignatureStandsInFrontAndNamesWhatItCovers) {
     const auto composed = compose(signedMessage());
     EXPECT_TRUE(composed.signing.ok());
-    EXPECT_TRUE(composed.data.startsWith("DKIM-Signature: "));
-    const QByteArray value =
-        QByteArray(wire::read(composed.data).header("dkim-signature")).replace("\t", "").replace(" ", "");
+    EXPECT_TRUE(composed.text.whole().startsWith("DKIM-Signature: "));
+    const QByteArray value = QByteArray(wire::read(composed.text.whole()).header("dkim-signature"))
+                                 .replace("\t", "")
+                                 .replace(" ", "");
     const QByteArrayList tags = value.split(';');
     for (const char* tag : {"v=1", "a=rsa-sha256", "c=relaxed/relaxed", "d=orto.example", "s=maggio.sel-1"})
         EXPECT_TRUE(tags.contains(tag)) << tag << '\n' << value.toStdString();
@@ -100,10 +101,10 @@ TEST_F(Dkim, SignatureStandsInFrontAndNamesWhatItCovers) {
 }
 
 TEST_F(Dkim, RestOfTheMessageIsAsWithoutIt) {
-    const QByteArray data = compose(signedMessage()).data;
+    const QByteArray data = compose(signedMessage()).text.whole();
     const QByteArray rest = data.mid(data.indexOf("\r\nFrom: ") + 2);
     auto message = plainMessage();
-    const QByteArray plain = compose(message).data;
+    const QByteArray plain = compose(message).text.whole();
     EXPECT_EQ(rest.size(), plain.size());
     EXPECT_EQ(rest.left(rest.indexOf("Date:")), plain.left(plain.indexOf("Date:")));
 }
@@ -124,7 +125,7 @@ TEST_F(Dkim, IndependentVerifierAcceptsEachKindOfMessage) {
         }
         if (i % 4 == 0) message.attachments = {{file, "a.pdf"}};
         if (i == 1) message.bodyText = message.bodyHtml = QString();
-        messages += compose(message).data;
+        messages += compose(message).text.whole();
     }
     const QByteArrayList all = verdicts(messages);
     EXPECT_EQ(all.size(), messages.size());
@@ -133,7 +134,7 @@ TEST_F(Dkim, IndependentVerifierAcceptsEachKindOfMessage) {
 }
 
 TEST_F(Dkim, ChangedMessageIsNotAccepted) {
-    const QByteArray good = compose(signedMessage()).data;
+    const QByteArray good = compose(signedMessage()).text.whole();
     const QByteArrayList changed{QByteArray(good).replace("Buongiorno", "Buonasera"),
                                  QByteArray(good).replace("maggio\r\n", "giugno\r\n"),
                                  QByteArray(good).replace("MIME-Version: 1.0", "MIME-Version: 1.1"),
@@ -173,21 +174,21 @@ TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {
         expectUnsigned(message, "non è valido");
     }
     makeFile(s_folder->filePath("selector.example.selector"), " buono \n");
-    EXPECT_TRUE(compose(message).data.contains("buono"));
+    EXPECT_TRUE(compose(message).text.whole().contains("buono"));
 }
 
 TEST_F(Dkim, FilesAreReadAgainWhenTheyChange) {
     auto message = signedMessage();
     message.fromAddress = "a@change.example";
-    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
     QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("change.example.pem"));
     makeFile(s_folder->filePath("change.example.selector"), "primo");
-    EXPECT_TRUE(compose(message).data.contains("primo"));
+    EXPECT_TRUE(compose(message).text.whole().contains("primo"));
     makeFile(s_folder->filePath("change.example.selector"), "secondo");
-    EXPECT_TRUE(compose(message).data.contains("secondo"));
+    EXPECT_TRUE(compose(message).text.whole().contains("secondo"));
     QFile::remove(s_folder->filePath("change.example.pem"));
     QFile::remove(s_folder->filePath("change.example.selector"));
-    EXPECT_FALSE(compose(message).data.contains("DKIM"));
+    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
 }
 
 }  // namespace

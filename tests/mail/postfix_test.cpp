@@ -78,7 +78,7 @@ class RealServer : public testing::Test {
     static void expectArrived(const QList<mail::ComposedMessage>& messages) {
         const auto all = arrived(messages.size());
         for (const auto& message : messages)
-            EXPECT_EQ(all[message.messageId].toStdString(), message.data.toStdString());
+            EXPECT_EQ(all[message.messageId].toStdString(), message.text.whole().toStdString());
     }
 
     static Postfix* s_server;
@@ -218,7 +218,7 @@ TEST_F(RealServer, RelayedMessageKeepsItsSignature) {
         ASSERT_EQ(relayed.remainder(), "") << s_server->log().toStdString();
         const QByteArray received = wire::unstuffed(relayed.bodies().at(0));
         EXPECT_TRUE(received.contains("\r\nReceived: ") || received.startsWith("Received: "));
-        EXPECT_TRUE(received.endsWith(message.data));
+        EXPECT_TRUE(received.endsWith(message.text.whole()));
         EXPECT_TRUE(compose::run("dkimverify", {}, received).contains("signature ok"));
     }
     dns.kill();

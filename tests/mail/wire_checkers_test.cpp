@@ -23,11 +23,11 @@ class WireCheckers : public ::testing::Test {
             message.toName = message.fromName = message.subject = kind.value;
             message.bodyText = "Buongiorno, " + kind.value;
             message.bodyHtml = "<html><head></head><body><p>Buongiorno, " + kind.value + "</p></body></html>";
-            messages += composer.compose(message).value().data;
+            messages += composer.compose(message).value().text.whole();
             message.templateHtml = "<img src='" + logo + "'>";
             message.bodyHtml.replace("</body>", message.templateHtml + "</body>");
             message.attachments = {{file, "a" + kind.value.left(100) + ".pdf"}, {logo, "logo.png"}};
-            messages += composer.compose(message).value().data;
+            messages += composer.compose(message).value().text.whole();
         }
         return messages;
     }

@@ -54,7 +54,7 @@ class WireMessage : public ::testing::TestWithParam<bool> {
         const auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
         if (!composed.ok()) return {};
-        const QByteArray& data = composed.value().data;
+        const QByteArray data = composed.value().text.whole();
         wire::Message read = wire::read(data);
         EXPECT_EQ(read.complaints.join("\n").toStdString(), "") << data.left(20000).toStdString();
         EXPECT_EQ('<' + read.messageId + '>', composed.value().messageId);
@@ -203,9 +203,10 @@ TEST_P(WireMessage, KeepsEveryRuleForFuzzedValues) {
         if (withFiles()) message.attachments = {{m_folder.filePath("allegato"), values.text(8) + ".pdf"}};
         const auto composed = m_composer.compose(message);
         ASSERT_TRUE(composed.ok());
-        const wire::Message read = wire::read(composed.value().data);
-        EXPECT_EQ(read.complaints.join("\n").toStdString(), "") << i << '\n'
-                                                                << composed.value().data.toStdString();
+        const wire::Message read = wire::read(composed.value().text.whole());
+        EXPECT_EQ(read.complaints.join("\n").toStdString(), "")
+            << i << '\n'
+            << composed.value().text.whole().toStdString();
         EXPECT_EQ(read.subject.toStdString(), inOneLine(message.subject).toStdString());
         if (withFiles()) {
             EXPECT_EQ(read.leaves.back().content, attachmentContent);

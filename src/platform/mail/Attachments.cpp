@@ -33,7 +33,7 @@ Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp) {
 
 Status Attachments::follow(const QVector<Attachment>& list) {
     std::vector<Known> known;
-    std::vector<QByteArray> parts;
+    std::vector<SharedLines> parts;
     for (const Attachment& file : list) {
         const FileStamp stamp = FileStamp::of(file.path);
         const auto same = std::find_if(m_known.begin(), m_known.end(), [&](const Known& candidate) {
@@ -45,7 +45,7 @@ Status Attachments::follow(const QVector<Attachment>& list) {
         } else {
             auto part = encode(file, stamp);
             if (!part.ok()) return part.status();
-            parts.push_back(std::move(part).value());
+            parts.emplace_back(std::move(part).value());
         }
         known.push_back({file, stamp});
     }

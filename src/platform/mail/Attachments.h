@@ -4,6 +4,7 @@
 
 #include "platform/mail/FileStamp.h"
 #include "platform/mail/Message.h"
+#include "platform/mail/MessageText.h"
 
 namespace mail {
 
@@ -16,7 +17,7 @@ class Attachments {
     Status follow(const QVector<Attachment>& list);
 
     /// One complete part for each attachment of the list, in its order.
-    const std::vector<QByteArray>& parts() const { return m_parts; }
+    const std::vector<SharedLines>& parts() const { return m_parts; }
 
   private:
     struct Known {
@@ -25,7 +26,7 @@ class Attachments {
     };
 
     std::vector<Known> m_known;  // same order as m_parts
-    std::vector<QByteArray> m_parts;
+    std::vector<SharedLines> m_parts;
 };
 
 }  // namespace mail

@@ -8,8 +8,8 @@ namespace {
 /// Writes the layers from the outside in. Each layer starts with its own headers and ends with a line end.
 class Layers {
   public:
-    Layers(QByteArray& out, const Body& body, const QByteArray& word)
-        : m_out(out), m_body(body), m_word(word) {}
+    Layers(MessageText& text, const Body& body, const QByteArray& word)
+        : m_text(text), m_out(text.end()), m_body(body), m_word(word) {}
 
     void withAttachments() {
         if (m_body.attachments->empty()) return withImages();
@@ -63,10 +63,10 @@ class Layers {
     void separate(const QByteArray& boundary) { m_out += "--" + boundary + "\r\n"; }
     void close(const QByteArray& boundary) { m_out += "--" + boundary + "--\r\n"; }
 
-    void addAll(const std::vector<QByteArray>& parts, const QByteArray& boundary) {
-        for (const QByteArray& part : parts) {
+    void addAll(const std::vector<SharedLines>& parts, const QByteArray& boundary) {
+        for (const SharedLines& part : parts) {
             separate(boundary);
-            m_out += part;
+            m_text.append(part);
         }
     }
 
@@ -76,15 +76,16 @@ class Layers {
     bool hasText() const { return !m_body.text.trimmed().isEmpty(); }
     bool hasHtml() const { return !m_body.html.trimmed().isEmpty(); }
 
-    QByteArray& m_out;
+    MessageText& m_text;
+    QByteArray& m_out;  ///< its last piece
     const Body& m_body;
     const QByteArray& m_word;
 };
 
 }  // namespace
 
-void appendBody(QByteArray& out, const Body& body, const QByteArray& word) {
-    Layers(out, body, word).withAttachments();
+void appendBody(MessageText& text, const Body& body, const QByteArray& word) {
+    Layers(text, body, word).withAttachments();
 }
 
 }  // namespace mail

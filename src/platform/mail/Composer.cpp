@@ -95,7 +95,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     composed.to = to.value();
     composed.needsSmtputf8 = composed.from.needsSmtputf8 || composed.to.needsSmtputf8;
     composed.messageId = '<' + word + '@' + composed.from.domain + '>';
-    QByteArray& out = composed.data;
+    QByteArray& out = composed.text.end();
     out += foldedHeader("From", namedAddress(message.fromName, composed.from.address()));
     out += foldedHeader("To", namedAddress(message.toName, composed.to.address()));
     out += foldedHeader("Subject", unstructuredText(message.subject));
@@ -105,10 +105,10 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
         foldedHeader("List-Unsubscribe", '<' + unsubscribeLink(message.unsubscribeLink, from.value()) + '>');
     appendPriority(out, message.priority);
     out += "MIME-Version: 1.0\r\n";
-    appendBody(out, body, word);
-    const auto signature = m_state->signer.sign(message.dkimFolder, composed.from.domain, out);
+    appendBody(composed.text, body, word);
+    const auto signature = m_state->signer.sign(message.dkimFolder, composed.from.domain, composed.text);
     if (signature.ok())
-        out.prepend(signature.value());
+        composed.text.prepend(signature.value());
     else
         composed.signing = signature.status();
     return composed;

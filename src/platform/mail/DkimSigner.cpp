@@ -23,8 +23,8 @@ struct FreeSignature {
 };
 
 // The library's interface knows no constants
-unsigned char* bytes(const QByteArray& text) {
-    return reinterpret_cast<unsigned char*>(const_cast<char*>(text.constData()));
+unsigned char* bytes(QByteArrayView text) {
+    return reinterpret_cast<unsigned char*>(const_cast<char*>(text.data()));
 }
 
 std::unique_ptr<DKIM_LIB, CloseLibrary> openLibrary() {
@@ -47,7 +47,7 @@ QByteArray contents(const QString& path) {
 }
 
 // Hands over one header field after the other, each with its folded lines
-DKIM_STAT readHeaders(DKIM* signature, const QByteArray& block) {
+DKIM_STAT readHeaders(DKIM* signature, QByteArrayView block) {
     DKIM_STAT state = DKIM_STAT_OK;
     for (qsizetype from = 0; from < block.size() && state == DKIM_STAT_OK;) {
         qsizetype end = block.indexOf("\r\n", from);
@@ -57,6 +57,18 @@ DKIM_STAT readHeaders(DKIM* signature, const QByteArray& block) {
         from = end + 2;
     }
     return state == DKIM_STAT_OK ? dkim_eoh(signature) : state;
+}
+
+DKIM_STAT readMessage(DKIM* signature, const MessageText& message) {
+    auto pieces = message.pieces();
+    const qsizetype body = pieces.front().indexOf("\r\n\r\n") + 4;
+    DKIM_STAT state = readHeaders(signature, pieces.front().first(body - 2));
+    pieces.front() = pieces.front().sliced(body);
+    for (const QByteArrayView piece : pieces) {
+        if (state == DKIM_STAT_OK)
+            state = dkim_body(signature, bytes(piece), static_cast<size_t>(piece.size()));
+    }
+    return state;
 }
 
 }  // namespace
@@ -96,7 +108,7 @@ DkimSigner::DkimSigner() : m_state(std::make_unique<State>()) {}
 DkimSigner::~DkimSigner() = default;
 
 Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& domain,
-                                    const QByteArray& message) {
+                                    const MessageText& message) {
     // A domain literal has no key, and no other domain can lead out of the folder
     if (folder.isEmpty() || !isDomainName(domain)) return QByteArray();
     const QByteArray name = domain.toLower();
@@ -110,10 +122,7 @@ Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& dom
     const std::unique_ptr<DKIM, FreeSignature> signature(dkim_sign(
         m_state->library.get(), bytes("vestrola"), nullptr, bytes(m_state->key), bytes(m_state->selector),
         bytes(name), DKIM_CANON_RELAXED, DKIM_CANON_RELAXED, DKIM_SIGN_RSASHA256, -1, &state));
-    const qsizetype body = message.indexOf("\r\n\r\n") + 4;
-    if (state == DKIM_STAT_OK) state = readHeaders(signature.get(), message.left(body - 2));
-    if (state == DKIM_STAT_OK)
-        state = dkim_body(signature.get(), bytes(message) + body, static_cast<size_t>(message.size() - body));
+    if (state == DKIM_STAT_OK) state = readMessage(signature.get(), message);
     if (state == DKIM_STAT_OK) state = dkim_eom(signature.get(), nullptr);
     unsigned char* value = nullptr;
     size_t size = 0;

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include "platform/mail/MessageText.h"
 #include "platform/Status.h"
 
 namespace mail {
@@ -24,7 +25,7 @@ class DkimSigner {
     /// The header line DKIM-Signature, folded and with its line end, to stand in front of the message.
     /// Empty where the folder (empty: none) has neither file of the domain. Fails (NotSupported) when there
     /// is something that cannot be used; the text says what, and holds nothing of the key.
-    Result<QByteArray> sign(const QString& folder, const QByteArray& domain, const QByteArray& message);
+    Result<QByteArray> sign(const QString& folder, const QByteArray& domain, const MessageText& message);
 
   private:
     struct State;

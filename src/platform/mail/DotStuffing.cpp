@@ -4,6 +4,20 @@
 #include <cstring>
 
 namespace mail {
+namespace {
+
+// The next dot at the start of a line of text that begins at `begin`, or `end`
+const char* nextPointLine(const char* begin, const char* from, const char* end) {
+    while (from < end) {
+        const char* const dot = static_cast<const char*>(std::memchr(from, '.', size_t(end - from)));
+        if (!dot) break;
+        if (dot == begin || dot[-1] == '\n') return dot;
+        from = dot + 1;
+    }
+    return end;
+}
+
+}  // namespace
 
 QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype limit) {
     const char* const begin = data.constData();
@@ -13,18 +27,15 @@ QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype lim
 
     QByteArray piece;
     piece.reserve(end - at + 64);
-    for (const char* from = at; from < end;) {
-        const char* const dot = static_cast<const char*>(std::memchr(from, '.', size_t(end - from)));
-        if (!dot) break;
-        if (dot == begin || dot[-1] == '\n') {
-            piece.append(at, dot - at);
-            piece.append('.');
-            at = dot;
-        }
-        from = dot + 1;
+    for (const char* dot; (dot = nextPointLine(begin, at, end)) != end; at = dot + 1) {
+        piece.append(at, dot - at);
+        piece.append("..", 2);
     }
-    piece.append(at, end - at);
-    return piece;
+    return piece.append(at, end - at);
+}
+
+bool hasPointLines(const QByteArray& data) {
+    return nextPointLine(data.constBegin(), data.constBegin(), data.constEnd()) != data.constEnd();
 }
 
 }  // namespace mail

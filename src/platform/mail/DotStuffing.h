@@ -9,4 +9,7 @@ namespace mail {
 /// behind them. The pieces one after the other are the same whatever the limits are.
 QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype limit);
 
+/// True where a line begins with a dot.
+bool hasPointLines(const QByteArray& data);
+
 }  // namespace mail

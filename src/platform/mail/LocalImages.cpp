@@ -78,7 +78,7 @@ int LocalImages::take(const QString& path, qint64& room) {
     if (type.isEmpty()) return -1;
     room -= content.size();
     const QByteArray contentId = newContentId();
-    m_images.push_back({contentId, imagePart(path, type, contentId, content)});
+    m_images.push_back({contentId, SharedLines(imagePart(path, type, contentId, content))});
     return static_cast<int>(m_images.size()) - 1;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/mail/FileStamp.h"
+#include "platform/mail/MessageText.h"
 
 namespace mail {
 
@@ -17,7 +18,7 @@ class LocalImages {
   public:
     struct Image {
         QByteArray contentId;  ///< without angle brackets
-        QByteArray part;       ///< the complete part
+        SharedLines part;      ///< the complete part
     };
 
     /// Looks again at the files if the template or one of them has changed.

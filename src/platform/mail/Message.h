@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include "platform/mail/AddrSpec.h"
+#include "platform/mail/MessageText.h"
 
 namespace mail {
 
@@ -35,10 +36,10 @@ struct MessageData {
 struct ComposedMessage {
     Mailbox from;
     Mailbox to;
-    QByteArray data;  ///< the whole message, lines ended by CR LF, the last one too; dots are not yet stuffed
+    MessageText text;            ///< lines ended by CR LF, the last one too; dots are not yet stuffed
     QByteArray messageId;        ///< with its angle brackets, as in the header
     Status signing;              ///< a failure: why a message that was to be signed is not
-    bool needsSmtputf8 = false;  ///< a local part is not ASCII; otherwise all of `data` is 7-bit
+    bool needsSmtputf8 = false;  ///< a local part is not ASCII; otherwise all of `text` is 7-bit
 };
 
 }  // namespace mail

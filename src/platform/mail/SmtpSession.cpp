@@ -174,9 +174,13 @@ void SmtpSession::progress() {
 }
 
 void SmtpSession::onTaken() {
+    noteTaken();
+    if (m_feeding) feedBody();
+}
+
+void SmtpSession::noteTaken() {
     progress();
     m_outstanding = unacknowledgedOctets(int(m_socket->socketDescriptor()));
-    if (m_feeding) feedBody();
 }
 
 void SmtpSession::onTimeout() {

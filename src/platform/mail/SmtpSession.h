@@ -61,6 +61,7 @@ class SmtpSession : public QObject {
     void progress();
     void onConnected();
     void onTaken();
+    void noteTaken();
     void onSocketError(QAbstractSocket::SocketError error);
     void onTimeout();
     bool isTaking(int descriptor);
@@ -86,6 +87,7 @@ class SmtpSession : public QObject {
     void startTransaction();
     void sendEnvelope();
     void feedBody();
+    void writePiece(const QByteArray& piece);
     QByteArray envelopeCommand(Step step) const;
     QByteArray greetingName() const;
     bool inputLeft() const;
@@ -145,8 +147,8 @@ class SmtpSession : public QObject {
     int m_outstanding = 0;  ///< octets that were not acknowledged when the system last took some
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
-    qsizetype m_fed = 0;     ///< octets of the message that were written
-    bool m_feeding = false;  ///< the body is going out, the final point was not written yet
+    MessageText::Place m_fed;  ///< what stands before it was written
+    bool m_feeding = false;    ///< the body is going out, the final point was not written yet
 };
 
 }  // namespace mail

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "platform/mail/DomainName.h"
-#include "platform/mail/DotStuffing.h"
 #include "platform/mail/SmtpSession.h"
+#include "platform/mail/TcpState.h"
 
 namespace mail {
 
@@ -15,6 +15,7 @@ namespace {
 /// Octets of a body that are handed to the socket at a time. Messages below this size go out in one write,
 /// with their final point.
 constexpr qsizetype bodyPiece = 128 * 1024;
+constexpr int piecesInARow = 32;
 
 /// A name that others can find this machine by (RFC 5321 4.1.1.1).
 bool isFullHostName(const QString& name) {
@@ -196,7 +197,7 @@ QByteArray SmtpSession::envelopeCommand(Step step) const {
     if (step == Step::Data) return "DATA";
     if (step == Step::Recipient) return "RCPT TO:<" + m_message.to.address() + '>';
     QByteArray line = "MAIL FROM:<" + m_message.from.address() + '>';
-    if (m_extensions.size) line += " SIZE=" + QByteArray::number(m_message.data.size());
+    if (m_extensions.size) line += " SIZE=" + QByteArray::number(m_message.text.size());
     if (m_extensions.eightBitMime) line += " BODY=8BITMIME";
     if (m_message.needsSmtputf8) line += " SMTPUTF8";
     return line;
@@ -254,9 +255,9 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
     } else if (inputLeft()) {
         onUnexpectedInput();
     } else {
-        m_transcript.sent(QStringLiteral("(messaggio: %1 byte)").arg(m_message.data.size()).toLatin1());
+        m_transcript.sent(QStringLiteral("(messaggio: %1 byte)").arg(m_message.text.size()).toLatin1());
         m_expected.append(Step::Body);
-        m_fed = 0;
+        m_fed = {};
         m_feeding = true;
         feedBody();
     }
@@ -264,13 +265,28 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
 
 void SmtpSession::feedBody() {
     QSslSocket* const socket = m_socket;
-    while (m_socket == socket && m_feeding && allTaken()) {
-        QByteArray piece = stuffedPiece(m_message.data, m_fed, bodyPiece);
-        m_feeding = m_fed < m_message.data.size();
-        if (!m_feeding) piece += m_message.data.endsWith("\r\n") ? ".\r\n" : "\r\n.\r\n";
-        socket->write(piece);
-        socket->flush();
+    for (int pieces = 1; m_socket == socket && m_feeding && allTaken(); ++pieces) {
+        QByteArray piece = m_message.text.stuffed(m_fed, bodyPiece);
+        m_feeding = !m_message.text.isEnd(m_fed);
+        if (!m_feeding) piece += m_message.text.endsLine() ? ".\r\n" : "\r\n.\r\n";
+        // However quickly the server reads, the event loop gets its turn.
+        if (pieces == piecesInARow)
+            socket->write(piece);
+        else
+            writePiece(piece);
     }
+}
+
+/// Hands over what the system takes at once. Only the rest goes through the socket's own buffer, which spares
+/// a copy of each large message.
+void SmtpSession::writePiece(const QByteArray& piece) {
+    QSslSocket* const socket = m_socket;
+    qsizetype taken = 0;
+    if (!socket->isEncrypted()) taken = sendAtOnce(int(socket->socketDescriptor()), piece);
+    if (taken > 0) noteTaken();
+    if (taken == piece.size()) return;
+    socket->write(piece.constData() + taken, piece.size() - taken);
+    socket->flush();
 }
 
 bool SmtpSession::allTaken() const {

@@ -6,6 +6,8 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 
+#include <algorithm>
+
 namespace mail {
 
 int unacknowledgedOctets(int descriptor) {
@@ -18,6 +20,12 @@ int msSinceAcknowledgement(int descriptor) {
     socklen_t size = sizeof info;
     if (::getsockopt(descriptor, IPPROTO_TCP, TCP_INFO, &info, &size) != 0) return 0;
     return int(info.tcpi_last_ack_recv);
+}
+
+qsizetype sendAtOnce(int descriptor, QByteArrayView octets) {
+    const ssize_t taken =
+        ::send(descriptor, octets.data(), size_t(octets.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
+    return std::max<ssize_t>(taken, 0);
 }
 
 void resetOnClose(int descriptor) {

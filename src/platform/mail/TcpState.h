@@ -1,14 +1,19 @@
 #pragma once
 
+#include <QByteArrayView>
+
 namespace mail {
 
-// What the system knows about a connected TCP socket, given by its descriptor.
+// What the system does with and knows about a connected TCP socket, given by its descriptor.
 
 /// Octets written that the other side has not acknowledged yet.
 int unacknowledgedOctets(int descriptor);
 
 /// Milliseconds since the other side last acknowledged something.
 int msSinceAcknowledgement(int descriptor);
+
+/// Hands octets to the system without waiting; gives how many it took, 0 where it takes none now or ever.
+qsizetype sendAtOnce(int descriptor, QByteArrayView octets);
 
 /// Closing will throw away what is not acknowledged yet and reset the connection, instead of going on to
 /// serve a server that does not read.
