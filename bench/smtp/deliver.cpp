@@ -1,5 +1,6 @@
-// deliver <host> <port> <messages> <octets>: composes personalised messages of about that size and delivers
-// them one after the other over one delivery control, as the send window does. Prints one line of JSON.
+// deliver <host> <port> <messages> <octets> [<attachment> <support log>]: composes personalised messages of
+// about that size, the attachment not counted, and delivers them one after the other over one delivery
+// control, as the send window does. Prints one line of JSON.
 #include <cstdio>
 #include <cstdlib>
 
@@ -39,6 +40,12 @@ class Run : public QObject {
         m_clock.start();
     }
 
+    void attach(const QString& path) { m_smtp.Attachments.Add(path, QStringLiteral("allegato.pdf")); }
+    void keepLog(const QString& path) {
+        m_smtp.LogFile = path;
+        m_smtp.LogEnabled = true;
+    }
+
     void next() {
         if (m_left-- == 0) {
             QCoreApplication::quit();
@@ -70,12 +77,16 @@ class Run : public QObject {
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    if (argc != 5) {
-        std::fprintf(stderr, "deliver <host> <port> <messages> <octets>\n");
+    if (argc != 5 && argc != 7) {
+        std::fprintf(stderr, "deliver <host> <port> <messages> <octets> [<attachment> <support log>]\n");
         return 2;
     }
     const int messages = std::atoi(argv[3]);
     Run run(QString::fromLocal8Bit(argv[1]), quint16(std::atoi(argv[2])), messages, std::atoi(argv[4]));
+    if (argc == 7) {
+        run.attach(QString::fromLocal8Bit(argv[5]));
+        run.keepLog(QString::fromLocal8Bit(argv[6]));
+    }
     run.next();
     const int status = application.exec();
     const double seconds = run.seconds();
