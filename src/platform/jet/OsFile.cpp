@@ -21,10 +21,6 @@ DiskStep::Outcome ask(const DiskStep& step) {
     return diskHook ? diskHook(step) : DiskStep::Outcome::Proceed;
 }
 
-QString shown(const std::string& path) {
-    return QString::fromLocal8Bit(path.data(), qsizetype(path.size()));
-}
-
 [[noreturn]] void failIo(const char* doing, const std::string& path, int error) {
     fail(ErrorCode::DeviceIo,
          QStringLiteral("Errore del disco (%1) sul file \"%2\": %3.")
@@ -63,6 +59,10 @@ void writeAll(int fd, uint64_t offset, std::span<const uint8_t> bytes, const std
 }
 
 }  // namespace
+
+QString shown(const std::string& path) {
+    return QString::fromLocal8Bit(path.data(), qsizetype(path.size()));
+}
 
 void setDiskHook(DiskHook hook) {
     diskHook = std::move(hook);

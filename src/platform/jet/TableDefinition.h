@@ -21,7 +21,7 @@ struct Column {
     uint16_t length = 0;       ///< in bytes; characters are half of it for text
     uint8_t precision = 0;     ///< of a numeric: its digits, and how many of them are decimals
     uint8_t scale = 0;
-    bool fixed = false;        ///< stored in the fixed area, else among the variable values
+    bool fixed = false;  ///< stored in the fixed area, else among the variable values
     bool autoNumber = false;
     bool autoGuid = false;
     bool compressed = false;    ///< text may be written in the compressed form
