@@ -33,6 +33,7 @@ class ConcurrencyTest : public ado::TestDatabase {
 TEST_F(ConcurrencyTest, ThreeProgramsThatWriteLoseNoStatement) {
     run("INSERT INTO tb_gruppi (id_up, nome) VALUES (0, 'contatore')");
     std::vector<pid_t> children;
+    children.reserve(3);
     for (int program = 1; program <= 3; ++program)
         children.push_back(start([this, program] {
             for (int i = 0; i < rounds; ++i) {
@@ -62,6 +63,7 @@ TEST_F(ConcurrencyTest, ThreeProgramsThatWriteLoseNoStatement) {
 
 TEST_F(ConcurrencyTest, NumbersOfNewRowsAreGivenOnceOnly) {
     std::vector<pid_t> children;
+    children.reserve(3);
     for (int program = 0; program < 3; ++program)
         children.push_back(start([this] {
             for (int i = 0; i < rounds; ++i) {

@@ -138,6 +138,22 @@ TEST_F(GroupedInsertsTest, TheOwnListCanBeReadWhileItGrows) {
     }
 }
 
+TEST_F(GroupedInsertsTest, ARecordsetThatWasOpenedInsideAGroupKeepsItsRows) {
+    inserts.setGroupSize(10000);
+    add(300);
+    ado::Recordset source = open("SELECT * FROM [tb_destinatari] ORDER BY rgs DESC, email ASC");
+    int read = 0;
+    for (std::string last = "z"; !source.isEof(); ++read) {
+        const std::string name = source.value(u"rgs").value().toTextOrEmpty().toStdString();
+        EXPECT_LT(name, last);
+        last = name;
+        ASSERT_TRUE(inserts.execute(recipient(read)).ok());
+        ASSERT_TRUE(source.moveNext().ok());
+    }
+    EXPECT_EQ(read, 300);
+    EXPECT_EQ(open("SELECT * FROM [tb_destinatari]").recordCount(), 600);
+}
+
 TEST_F(GroupedInsertsTest, AReplacedFileGetsTheNextGroup) {
     add(10);
     const QString other = inFolder("altra.mdb");

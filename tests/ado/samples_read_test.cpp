@@ -184,3 +184,38 @@ TEST_F(SamplesReadTest, GuidsAndDecimalsAreReadAsTheyAreWritten) {
                 }
     }
 }
+
+// What the user may choose a table from: neither system tables nor what is no table of the file.
+TEST_F(SamplesReadTest, TheCatalogueTellsTablesFromLinksQueriesAndSystemTables) {
+    std::map<ado::Catalog::Kind, int> seen;
+    for (const Sample& sample : samples()) {
+        SCOPED_TRACE(sample.name.toStdString());
+        ado::Connection connection;
+        ASSERT_TRUE(connection.open(sample.connection).ok());
+        ado::Catalog catalog;
+        catalog.setActiveConnection(connection);
+        const auto entries = catalog.tables();
+        ASSERT_TRUE(entries.ok());
+        QString last;
+        for (const auto& entry : entries.value()) {
+            ++seen[entry.kind];
+            EXPECT_LE(last.compare(entry.name, Qt::CaseInsensitive), 0) << entry.name.toStdString();
+            last = entry.name;
+            const bool system = entry.name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive);
+            if (system) {
+                EXPECT_EQ(entry.kind, ado::Catalog::Kind::SystemTable) << entry.name.toStdString();
+            }
+            const bool local =
+                entry.kind == ado::Catalog::Kind::Table || entry.kind == ado::Catalog::Kind::SystemTable;
+            EXPECT_EQ(catalog.columns(entry.name).ok(), local) << entry.name.toStdString();
+            if (local && !system) continue;
+            ado::Recordset rows;
+            ASSERT_TRUE(rows.setActiveConnection(connection).ok());
+            rows.setSource(QStringLiteral("SELECT * FROM [%1] ;").arg(entry.name));
+            EXPECT_EQ(rows.open().code(), ErrorCode::NotSupported) << entry.name.toStdString();
+        }
+    }
+    if (!seen.empty()) {
+        EXPECT_EQ(seen.size(), 4u);
+    }
+}

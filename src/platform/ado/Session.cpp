@@ -156,7 +156,8 @@ Result<JetTable*> Session::table(const QString& name) {
     if (const auto known = m_tables.find(key); known != m_tables.end()) return known->second.get();
     const Result<jet::Table*> found = m_database->table(name);
     if (!found.ok()) return found.status();
-    if (found.value()->definition().system)
+    // Some of the system's own are marked by nothing but their name.
+    if (found.value()->definition().system || name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
         return Status(ErrorCode::NotSupported,
                       QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
     auto table = std::make_unique<JetTable>(*m_database, *found.value());
@@ -239,9 +240,15 @@ void KeepStatement::operator()(sqlite3_stmt* statement) const {
     session->keep(statement, sql);
 }
 
-Status Session::begin() {
+/// Lets open recordsets pass all their rows before a write moves them.
+Status Session::finishReaders() {
     for (Rows* reader : m_readers)
         if (Status status = reader->finish(); !reader->ended()) return status;
+    return {};
+}
+
+Status Session::begin() {
+    if (Status status = finishReaders(); !status.ok()) return status;
     if (Status status = m_database->begin(); !status.ok()) return status;
     for (auto& [name, table] : m_tables)
         table->beginStatement();
@@ -272,6 +279,8 @@ Status Session::insertInGroup(GroupProgress& group, const StatementText& stateme
         commitGroup();
         if (Status status = begin(); !status.ok()) return status;
         m_group = &group;
+    } else if (Status status = finishReaders(); !status.ok()) {
+        return status;
     }
     if (sqlite3_step(prepared.value().get()) == SQLITE_DONE) {
         ++group.taken;

@@ -76,6 +76,7 @@ class Session {
   private:
     explicit Session(std::unique_ptr<jet::Database> database) : m_database(std::move(database)) {}
     Status start();
+    Status finishReaders();
     Status begin();
     Status end(Status status);
     Status declare(JetTable& table);

@@ -123,15 +123,15 @@ bool readSelect(Reader& reader, QString& table, std::optional<qsizetype>* star) 
 
 Status readInsert(Reader& reader, StatementText& statement) {
     statement.verb = StatementText::Verb::Insert;
-    const Status refused = refusedStatement(QStringLiteral("forma non prevista"));
-    if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.skipColumns()) return refused;
+    const auto refused = [] { return refusedStatement(QStringLiteral("forma non prevista")); };
+    if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.skipColumns()) return refused();
     if (reader.take("VALUES")) {
         if (!reader.skipRow())
             return wrongStatement(QStringLiteral("i valori da inserire non sono leggibili"));
-        return reader.atEnd() ? Status() : refused;
+        return reader.atEnd() ? Status() : refused();
     }
-    if (!reader.take("SELECT") || reader.restHas({"SELECT"})) return refused;
-    return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused;
+    if (!reader.take("SELECT") || reader.restHas({"SELECT"})) return refused();
+    return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused();
 }
 
 /// Every other kind of statement.
