@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "core/Evento.h"
-#include "message/frmAllegati.h"
 #include "message/frmColor.h"
 #include "message/frmEditor.h"
 #include "message/variabili.h"
