@@ -4,6 +4,7 @@
 //
 // FOLDER is a program folder made by demo_make.
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
@@ -17,9 +18,13 @@
 #include "import/frmImpDB.h"
 #include "import/frmImpTXT.h"
 #include "import/frmScelta.h"
+#include "message/frmAllegati.h"
+#include "message/frmEditor.h"
+#include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
+#include "platform/ui/TabStrip.h"
 #include "send/frmInvia.h"
 #include "shell/frmInfoSu.h"
 #include "shell/frmMain.h"
@@ -44,6 +49,55 @@ void during(const QString& command, const std::function<QWidget&()>& meanwhile, 
         window.hide();
     });
     finestre::Main().ComandoPremuto(command);
+}
+
+/// The editor with a message: its tabs, its windows, its panels.
+void takeEditor(const QString& message) {
+    frmEditor& editor = finestre::Editor();
+    const auto command = [&editor](const QString& name) { editor.findChild<QAction*>(name)->trigger(); };
+    /// Runs a command whose modal window is taken and hidden.
+    const auto window = [&command](const QString& name, const QString& picture) {
+        QTimer::singleShot(300, [picture] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (!modal) qFatal("no window for %s", qUtf8Printable(picture));
+            take(*modal, picture);
+            modal->hide();
+        });
+        command(name);
+    };
+    editor.NuovoMessaggio();
+    editor.show();
+    editor.DHTML->wake();
+    ui::FileDialog::queue(message);
+    command("cmdApriMess");
+    editor.Allegati().InsFile(message);
+    editor.Commands().GetEdit("txtOggetto")->focusProxy()->setFocus();
+    QTest::qWait(1000);
+    take(editor, "frmEditor_modifica");
+    editor.DHTML->evaluate("getSelection().selectAllChildren(document.querySelector('td')); 1");
+    window("cmdLink", "frmEditor_collegamento");
+    window("cmdImage", "frmEditor_immagine");
+    window("cmdProprieta", "frmPropBody");
+    QTimer::singleShot(300, [] {
+        take(*QApplication::activeModalWidget(), "frmEditor_elemento");
+        QApplication::activeModalWidget()->hide();
+    });
+    Q_EMIT editor.DHTML->doubleClicked();
+    command("cmdTrova");
+    take(*editor.findChild<QWidget*>("findDialog"), "frmEditor_trova");
+    editor.findChild<QWidget*>("findDialog")->hide();
+    editor.findChild<QAction*>("popColors")->trigger();
+    take(*editor.findChild<QWidget*>("pwnColor"), "frmColor");
+    editor.Commands().closePopup("popColors");
+    editor.Commands().showPopup("popVariabili", editor.mapToGlobal(QPoint(100, 100)));
+    take(*editor.findChild<QWidget*>("popVariabili"), "frmEditor_variabili");
+    editor.findChild<QWidget*>("popVariabili")->hide();
+    editor.tb->setCurrentIndex(1);
+    take(editor, "frmEditor_origine");
+    editor.tb->setCurrentIndex(2);
+    QTest::qWait(700);
+    take(editor, "frmEditor_anteprima");
+    editor.hide();
 }
 
 void takeAll(const QString& message) {
@@ -82,6 +136,7 @@ void takeAll(const QString& message) {
             return finestre::Invia();
         },
         "frmInvia_pronta");
+    takeEditor(message);
     finestre::Splash().show();
     take(finestre::Splash(), "frmSplash");
 }

@@ -12,13 +12,15 @@ import subprocess
 import sys
 
 WINDOWS = ["frmMain", "frmAccount", "frmDestinatario", "frmInfoSu", "frmInvia_pronta", "frmImpTXT", "frmImpDB",
-           "frmScelta", "frmSplash"]
+           "frmScelta", "frmSplash", "frmEditor_modifica", "frmEditor_origine", "frmEditor_anteprima",
+           "frmEditor_collegamento", "frmEditor_immagine", "frmEditor_elemento", "frmEditor_trova",
+           "frmEditor_variabili", "frmColor", "frmPropBody"]
 
 
 def main():
     build, sample, output = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
     shutil.rmtree(sample, ignore_errors=True)
-    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "QTWEBENGINE_DISABLE_SANDBOX": "1"}
     made = subprocess.run([str(build / "demo" / "demo_make"), str(sample), "25"], env=environment,
                           stdout=subprocess.PIPE, text=True, check=True)
     subprocess.run([str(build / "demo" / "demo_screenshots"), str(sample), made.stdout.strip(), str(output)],

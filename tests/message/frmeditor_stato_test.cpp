@@ -215,8 +215,12 @@ class TestStato : public QObject {
         enter(*stage().source().focusProxy()->findChild<QWidget*>("qt_scrollarea_viewport"));
         QCOMPARE(stage().hint(), "Mod. Codice");
         stage().editor().tb->setTabCaption(1, "Origine");
-        QTest::mouseMove(stage().editor().Allegati().LIST->viewport(), QPoint(3, 3));
-        QTRY_COMPARE(stage().hint(), "Allegati");
+        QWidget& rows = *stage().editor().Allegati().LIST->viewport();
+        QVERIFY(rows.hasMouseTracking());
+        QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), rows.mapToGlobal(QPointF(3, 3)), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&rows, &move);
+        QCOMPARE(stage().hint(), "Allegati");
     }
 
     void aRightClickOpensTheMenuOfTheView() {

@@ -1,0 +1,105 @@
+// The editor never damages a message: opened, looked at in every tab and saved any number of times, its body
+// stays what it was when it was opened. And what was written is what the send window offers.
+#include <QDir>
+
+#include "message/editor_stage.h"
+#include "message/MessaggioMss.h"
+#include "platform/text/AnsiCodec.h"
+
+using namespace testing_support;
+
+namespace {
+
+QString contentOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qUtf8Printable(path));
+    return QString::fromUtf8(file.readAll());
+}
+
+}  // namespace
+
+class TestIntegro : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<EditorStage> m_stage;
+    EditorStage& stage() { return *m_stage; }
+
+    void throughTheTabs() {
+        for (const int tab : {1, 2, 0, 2, 1, 0})
+            stage().chooseTab(tab);
+    }
+    void reopen(const QString& name) {
+        stage().editor().NuovoMessaggio();
+        stage().open(name);
+    }
+
+  private Q_SLOTS:
+    void initTestCase() { m_stage = std::make_unique<EditorStage>(); }
+    void cleanupTestCase() { m_stage.reset(); }
+    void init() { stage().begin(); }
+
+    void aNewsletterStaysAsItWasOpened_data() {
+        QTest::addColumn<QString>("path");
+        const QDir corpus(TEST_DATA_DIR "/html");
+        for (const QString& name : corpus.entryList({"*.html"}, QDir::Files))
+            QTest::newRow(qPrintable(name)) << corpus.filePath(name);
+    }
+    void aNewsletterStaysAsItWasOpened() {
+        QFETCH(QString, path);
+        ScriviMessaggio(stage().path("n.mss"), {"Notizie", "NR", {}, contentOf(path)});
+        reopen("n.mss");
+        const QString first = stage().design().documentHTML();
+        stage().start("cmdSalva");
+        const QByteArray saved = stage().bytes("n.mss");
+        for (int round = 0; round < 2; ++round) {
+            reopen("n.mss");
+            throughTheTabs();
+            QCOMPARE(stage().design().documentHTML(), first);
+            stage().start("cmdSalva");
+            QCOMPARE(stage().bytes("n.mss"), saved);
+        }
+    }
+
+    void whatTheCodePageDoesNotHoldSurvivesAsAReference() {
+        stage().fill(QString::fromUtf8("<p>\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D \xF0\x9F\x8E\x84 è €</p>"));
+        stage().saveAs("r.mss");
+        QVERIFY(!bodyOf(stage().bytes("r.mss")).contains('?'));
+        const QString before = stage().design().evaluate("document.body.textContent").toString();
+        reopen("r.mss");
+        QCOMPARE(stage().design().evaluate("document.body.textContent").toString(), before);
+        QVERIFY(bodyOf(stage().bytes("r.mss")).contains(text::toAnsi(QString::fromUtf8("è €"))));
+    }
+
+    void placeholdersSurviveEverywhere() {
+        const QString body =
+            "<p title=\":::nom:::\">Gentile :::nom::: "
+            "<a href=\"http://x.it/?u=:::email:::&amp;c=:::campo1:::\">qui</a></p>";
+        stage().fill(body);
+        stage().saveAs("p.mss");
+        reopen("p.mss");
+        throughTheTabs();
+        QCOMPARE(stage().body(), body);
+    }
+
+    void theSendWindowOffersWhatWasWritten() {
+        stage().type("Gentile ");
+        stage().start("cmdVarNom");
+        stage().saveAs("s.mss");
+        const QString offered = LeggiCorpoMss(stage().path("s.mss"));
+        QString written = stage().design().documentHTML();
+        QCOMPARE(offered, written.replace("\n", "\r\n") + "\r\n");
+        QVERIFY(offered.contains("Gentile :::nom:::"));
+    }
+
+    void theBrowserComesWithTheFirstOpeningOnly() {
+        // A window of its own, as at the start of the program.
+        frmEditor another;
+        another.Carica();
+        QVERIFY(!another.DHTML->isLive());
+        QVERIFY(!another.WEB->isLive());
+        QVERIFY(!another.DHTML->inputWidget());
+    }
+};
+
+QTEST_MAIN(TestIntegro)
+#include "frmeditor_integro_test.moc"
