@@ -46,6 +46,8 @@ frmAllegati::frmAllegati(QWidget* parent) : QWidget(parent), LIST(new Elenco(thi
     LIST->setFrameShape(QFrame::NoFrame);
     LIST->setRootIsDecorated(false);
     LIST->setUniformRowHeights(true);
+    // With it the name fits into the width that its column gets.
+    LIST->setIconSize({12, 12});
     LIST->setAllColumnsShowFocus(true);
     LIST->setContextMenuPolicy(Qt::NoContextMenu);
     LIST->viewport()->setMouseTracking(true);

@@ -88,7 +88,8 @@ class TestIntegro : public QObject {
         const QString offered = LeggiCorpoMss(stage().path("s.mss"));
         QString written = stage().design().documentHTML();
         QCOMPARE(offered, written.replace("\n", "\r\n") + "\r\n");
-        QVERIFY(offered.contains("Gentile :::nom:::"));
+        QVERIFY2(offered.contains("Gentile"), qPrintable(offered));
+        QVERIFY2(offered.contains(":::nom:::"), qPrintable(offered));
     }
 
     void theBrowserComesWithTheFirstOpeningOnly() {
