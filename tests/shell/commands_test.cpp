@@ -159,7 +159,7 @@ class TestCommands : public QObject {
         StoreStage stage;
         stage.window();
         bool seen = false;
-        closeModalWindow([&](QDialog& window) {
+        closeModalWindow([&](QWidget& window) {
             seen = window.objectName() == "frmAccount" && window.parentWidget() == &stage.window();
         });
         stage.command("cmdFileAccount");

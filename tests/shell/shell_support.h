@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <QAction>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -58,10 +57,10 @@ class Opener {
 };
 
 /// Hides the modal window that comes up next, as soon as it is there; `look` sees it before.
-inline void closeModalWindow(std::function<void(QDialog&)> look = {}) {
+inline void closeModalWindow(std::function<void(QWidget&)> look = {}) {
     auto* timer = new QTimer(qApp);
     timer->callOnTimeout([timer, look = std::move(look)] {
-        auto* window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QWidget* window = QApplication::activeModalWidget();
         if (!window) return;
         timer->deleteLater();
         timer->stop();
