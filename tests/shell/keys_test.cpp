@@ -53,20 +53,24 @@ class TestKeys : public QObject {
         QVERIFY(stage.window().findChild<QAction*>(name)->shortcuts().contains(key));
     }
 
+    void windowKeysStartTheirCommands_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("editor") << "cmdEditor" << Qt::Key_N;
+        QTest::newRow("text import") << "cmdMailingImpTXT" << Qt::Key_I;
+        QTest::newRow("accounts") << "cmdFileAccount" << Qt::Key_Comma;
+    }
+
     void windowKeysStartTheirCommands() {
+        QFETCH(QString, name);
+        QFETCH(Qt::Key, key);
         StoreStage stage;
         stage.window();
         QSignalSpy started(&stage.window().Commands(), &ui::CommandBars::commandStarted);
         closeModalWindow();
-        QTest::keyClick(&stage.window(), Qt::Key_I, Qt::ControlModifier);
-        closeModalWindow();
-        QTest::keyClick(&stage.window(), Qt::Key_Comma, Qt::ControlModifier);
-        closeModalWindow();
-        QTest::keyClick(&stage.window(), Qt::Key_N, Qt::ControlModifier);
-        QStringList names;
-        for (const auto& arguments : started)
-            names << arguments[0].toString();
-        QCOMPARE(names, (QStringList{"cmdMailingImpTXT", "cmdFileAccount", "cmdEditor"}));
+        QTest::keyClick(&stage.window(), key, Qt::ControlModifier);
+        QCOMPARE(started.size(), 1);
+        QCOMPARE(started[0][0].toString(), name);
     }
 
     void theTreeHasTheKeyboardAtTheStartAndTabLeadsToTheGrid() {
