@@ -1,6 +1,9 @@
 #include "platform/mail/DkimSigner.h"
 
+// The library's header is C, and standard C++ has no _Bool.
+#define _Bool bool
 #include <dkim.h>
+#undef _Bool
 
 #include <QFile>
 #include <QSslKey>

@@ -52,7 +52,7 @@ bool isDomainName(const QByteArray& text) {
 }
 
 QString connectableHost(const QString& name) {
-    const QString plain = text::trimBlanks(name).toString();
+    QString plain = text::trimBlanks(name).toString();
     if (isIpAddress(plain)) return plain;
     QByteArray host = asciiDomain(plain);
     if (host.endsWith('.')) host.chop(1);

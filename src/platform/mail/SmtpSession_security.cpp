@@ -166,7 +166,7 @@ void SmtpSession::passOverMechanism(const Status& why) {
 
 /// The base64 form of a token, which from now on the transcript leaves out, bare or encoded.
 QByteArray SmtpSession::withheld(const QByteArray& token) {
-    const QByteArray line = token.toBase64();
+    QByteArray line = token.toBase64();
     m_transcript.addSecret(token);
     m_transcript.addSecret(line);
     return line;
