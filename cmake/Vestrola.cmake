@@ -46,7 +46,7 @@ function(vestrola_gtest name)
                                              SHARED_DIR="${CMAKE_SOURCE_DIR}/../shared"
                                              TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()
 
 # vestrola_qtest(<name> SOURCES ... LIBRARIES ...): a Qt Test program with real widgets, offscreen
@@ -60,7 +60,7 @@ function(vestrola_qtest name)
                                              TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
   # the sanitizers find faults of the browser's own, which are none of ours
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
 endfunction()
 
