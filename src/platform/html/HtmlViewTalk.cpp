@@ -57,6 +57,7 @@ void HtmlView::Live::awaitStrokes() {
 }
 
 QVariant HtmlView::Live::change(const QString& function, const QJsonArray& values) {
+    awaitStrokes();  // what was typed before comes before
     const QVariantMap answer = ask(QStringLiteral("(() => { const result = editor.step(() => editor.%1(%2));"
                                                   " return { result, state: editor.commands.state() }; })()")
                                        .arg(function, arguments(values)))
