@@ -18,7 +18,7 @@ namespace {
 
 constexpr int answerMilliseconds = 5000;
 constexpr int millisecondsPerMegabyte = 3000;
-constexpr int strokesMilliseconds = 100;
+constexpr int strokesMilliseconds = 400;
 
 }  // namespace
 
