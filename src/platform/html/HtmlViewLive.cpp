@@ -72,6 +72,7 @@ void HtmlView::Live::fail(const QString& reason) {
 }
 
 void HtmlView::Live::setSource(const QString& html) {
+    awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
     if (m_deaths >= deathsInARow) tryAgain();
