@@ -1,71 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <utility>
-#include <variant>
 
-/// Numbers of the failures that can reach the user's eyes ("Errore N:"). They are the ones that office users
-/// and their support know from programs of this kind, so that a number can be looked up.
-enum class ErrorCode : int {
-    None = 0,
-    Overflow = 6,
-    SubscriptOutOfRange = 9,
-    TypeMismatch = 13,
-    FileNotFound = 53,
-    DeviceIo = 57,
-    InputPastEnd = 62,
-    PathAccess = 75,
-    InvalidNull = 94,
-    NoCurrentRecord = 3021,
-    DuplicateKey = 3022,
-    InvalidPassword = 3031,
-    SyntaxError = 3075,
-    TableNotFound = 3078,
-    FileInUse = 3045,
-    ReadOnlyDatabase = 3027,
-    FieldTooSmall = 3163,
-    ValueRequired = 3314,
-    RecordTooLarge = 3047,
-    NotSupported = 3251,
-    ItemNotFound = 3265,
-    UnrecognizedFormat = 3343,
-    DamagedDatabase = 3049,
-    CancelSelected = 32755,
-    Timeout = -2147217871,
-};
+#include "platform/PlainStatus.h"
 
-/// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user
-/// as it stands. Platform code only ever returns it; what a failure means to the program is decided above.
-class [[nodiscard]] Status {
-  public:
-    Status() = default;
-    Status(ErrorCode code, QString text) : m_code(code), m_text(std::move(text)) {}
+inline Status::Status(ErrorCode code, const QString& text) : Status(code, text.toStdU16String()) {}
 
-    bool ok() const { return m_code == ErrorCode::None; }
-    ErrorCode code() const { return m_code; }
-    const QString& text() const { return m_text; }
-
-  private:
-    ErrorCode m_code = ErrorCode::None;
-    QString m_text;
-};
-
-/// A value or the Status that tells why there is none. value() may only be called when ok().
-template <class T>
-class [[nodiscard]] Result {
-  public:
-    Result(T value) : m_content(std::move(value)) {}
-    Result(Status failure) : m_content(std::move(failure)) {}
-
-    bool ok() const { return std::holds_alternative<T>(m_content); }
-    const Status& status() const {
-        static const Status success;
-        return ok() ? success : std::get<Status>(m_content);
-    }
-    T& value() & { return std::get<T>(m_content); }
-    const T& value() const& { return std::get<T>(m_content); }
-    T value() && { return std::get<T>(std::move(m_content)); }
-
-  private:
-    std::variant<T, Status> m_content;
-};
+inline QString Status::text() const {
+    return QString::fromStdU16String(m_text);
+}
