@@ -7,6 +7,8 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include "platform/ui/ItemViewAccess.h"
+
 namespace {
 
 /// Rows of one height, no wider than the list: what is cut can be read in the tool tip.
@@ -29,6 +31,7 @@ class Righe : public QStyledItemDelegate {
 }  // namespace
 
 ElencoAccount::ElencoAccount(QWidget* parent) : QListWidget(parent) {
+    ui::installItemViewAccess<ElencoAccount, QAccessible::List>();
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
@@ -51,6 +54,22 @@ void ElencoAccount::RemoveItem(int posizione) {
     delete takeItem(posizione);
     clearSelection();
     setCurrentIndex({});
+}
+
+std::vector<ui::ItemAction> ElencoAccount::itemActions(const QModelIndex& indice) {
+    const auto scelta = [this, posizione = indice.row()] {
+        setFocus(Qt::OtherFocusReason);
+        if (posizione == ListIndex())
+            Q_EMIT Click();
+        else
+            setCurrentRow(posizione);
+    };
+    const auto menu = [this, scelta, posizione = indice.row()] {
+        scelta();
+        Q_EMIT MenuRichiesto(viewport()->mapToGlobal(visualItemRect(item(posizione)).bottomLeft()));
+    };
+    return {{QAccessibleActionInterface::pressAction(), scelta},
+            {QAccessibleActionInterface::showMenuAction(), menu}};
 }
 
 void ElencoAccount::selectionChanged(const QItemSelection& scelte, const QItemSelection& lasciate) {

@@ -2,6 +2,10 @@
 
 #include <QListWidget>
 
+namespace ui {
+struct ItemAction;
+}
+
 /// The list box of the account window. It has one position, or none as long as nothing was chosen; taking the
 /// focus chooses nothing, and neither mouse nor keyboard takes a choice back.
 class ElencoAccount : public QListWidget {
@@ -16,6 +20,8 @@ class ElencoAccount : public QListWidget {
     void setListIndex(int posizione);
     /// Takes the entry away and leaves none chosen, without raising Click.
     void RemoveItem(int posizione);
+    /// What assistive programs can do with an entry: choose it, or choose it and ask for the menu.
+    std::vector<ui::ItemAction> itemActions(const QModelIndex& indice);
 
   Q_SIGNALS:
     /// The user chose an entry, by mouse or keyboard, or pressed the one that was chosen already.

@@ -250,6 +250,28 @@ class TestFrmAccountAspetto : public QObject {
             QVERIFY(stage.control<QLabel>(QString("lbl(%1)").arg(index))->buddy());
     }
 
+    void assistiveProgramsChooseAnEntryAndAskForItsMenu() {
+        AccountStage stage(accounts);
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&stage.list());
+        QCOMPARE(list->role(), QAccessible::List);
+        QCOMPARE(list->childCount(), stage.list().count());
+        QAccessibleInterface* entry = list->child(1);
+        QCOMPARE(entry->role(), QAccessible::ListItem);
+        QCOMPARE(entry->text(QAccessible::Name), stage.entries()[1]);
+        QCOMPARE(list->indexOfChild(entry), 1);
+        using Actions = QAccessibleActionInterface;
+        QCOMPARE(entry->actionInterface()->actionNames(),
+                 QStringList({Actions::pressAction(), Actions::showMenuAction()}));
+        entry->actionInterface()->doAction(Actions::pressAction());
+        QTRY_COMPARE(stage.list().ListIndex(), 1);
+        QVERIFY(stage.enabled("cmdModifica"));
+        auto* menu = stage.control<QMenu>("mnuElenco");
+        list->child(0)->actionInterface()->doAction(Actions::showMenuAction());
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
+        QCOMPARE(stage.list().ListIndex(), 0);
+    }
+
     void namesFollowChangedCaptions() {
         AccountStage stage;
         stage.click("cmdChiudi");

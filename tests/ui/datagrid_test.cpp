@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QDialog>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QSignalSpy>
@@ -414,6 +415,53 @@ class TestDataGrid : public QObject {
         QVERIFY(box->state().checked);
         QVERIFY(!table->cellAt(0, 2)->state().checked);
         QVERIFY(!table->cellAt(0, 3)->state().checkable);
+        QCOMPARE(face->indexOfChild(box), 3 * 24 + 3);
+        QCOMPARE(face->child(3 * 24 + 3), box);
+        QCOMPARE(box->tableCellInterface()->columnHeaderCells().constFirst()->text(QAccessible::Name),
+                 "Send");
+        QCOMPARE(face->childAt(box->rect().center().x(), box->rect().center().y()), box);
+    }
+
+    void assistiveProgramsToggleABoxOpenARowAndAskForItsMenu() {
+        Window w;
+        QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(w.grid)->tableInterface();
+        using Actions = QAccessibleActionInterface;
+        const QSignalSpy clicks(w.grid, &DataGrid::click);
+        const QSignalSpy doubles(w.grid, &DataGrid::dblClick);
+        const QSignalSpy releases(w.grid, &DataGrid::mouseUp);
+        Actions* box = table->cellAt(2, 2)->actionInterface();
+        QCOMPARE(box->actionNames(), QStringList({Actions::toggleAction(), Actions::showMenuAction()}));
+        box->doAction(Actions::toggleAction());
+        QTRY_COMPARE(clicks.size(), 1);
+        QCOMPARE(w.grid->Row(), 3);
+        QCOMPARE(w.grid->Col(), 2);
+        Actions* text = table->cellAt(1, 3)->actionInterface();
+        QCOMPARE(text->actionNames(),
+                 QStringList({Actions::pressAction(), "Edit", Actions::showMenuAction()}));
+        text->doAction("Edit");
+        QTRY_COMPARE(doubles.size(), 1);
+        QCOMPARE(w.grid->Row(), 2);
+        text->doAction(Actions::showMenuAction());
+        QTRY_COMPARE(releases.size(), 1);
+        QCOMPARE(releases.constFirst()[0].value<Qt::MouseButton>(), Qt::RightButton);
+        text->doAction(Actions::toggleAction());
+        QCoreApplication::processEvents();
+        QCOMPARE(clicks.size(), 1);
+    }
+
+    void actionsOfAssistiveProgramsWaitForNoWindowInFront() {
+        Window w;
+        QAccessibleInterface* cell =
+            QAccessible::queryAccessibleInterface(w.grid)->tableInterface()->cellAt(1, 3);
+        const QSignalSpy clicks(w.grid, &DataGrid::click);
+        QDialog front;
+        front.setModal(true);
+        front.show();
+        cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCoreApplication::processEvents();
+        QCOMPARE(clicks.size(), 0);
+        QVERIFY(w.data.Refresh().ok());
+        QVERIFY(QAccessible::queryAccessibleInterface(w.grid)->tableInterface()->cellAt(1, 3)->isValid());
     }
 };
 

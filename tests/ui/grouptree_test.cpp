@@ -405,6 +405,47 @@ class TestGroupTree : public QObject {
         QCOMPARE(face->role(), QAccessible::Tree);
         QCOMPARE(face->tableInterface()->cellAt(1, 0)->text(QAccessible::Name), "Acero");
         QVERIFY(face->tableInterface()->cellAt(1, 0)->state().expanded);
+        QCOMPARE(face->tableInterface()->rowCount(), 4);
+        QAccessibleInterface* last = face->tableInterface()->cellAt(3, 0);
+        QCOMPARE(last->text(QAccessible::Name), "Betulla");
+        QCOMPARE(last->role(), QAccessible::TreeItem);
+        QCOMPARE(face->child(face->indexOfChild(last)), last);
+        QCOMPARE(face->tableInterface()->cellAt(4, 0), nullptr);
+    }
+
+    void assistiveProgramsClickOpenCloseAndRenameNodes() {
+        Window w;
+        using Actions = QAccessibleActionInterface;
+        const auto node = [&w](int row) {
+            return QAccessible::queryAccessibleInterface(w.tree)->tableInterface()->cellAt(row, 0);
+        };
+        QCOMPARE(node(0)->actionInterface()->actionNames(),
+                 QStringList({Actions::pressAction(), "Collapse", Actions::showMenuAction()}));
+        QCOMPARE(node(3)->actionInterface()->actionNames(),
+                 QStringList({Actions::pressAction(), "Edit", Actions::showMenuAction()}));
+        node(3)->actionInterface()->doAction(Actions::pressAction());
+        QTRY_COMPARE(w.events, QStringList({"node B", "click"}));
+        QVERIFY(node(3)->state().selected);
+        QAccessibleInterface* below = node(2);
+        node(1)->actionInterface()->doAction("Collapse");
+        QTRY_VERIFY(node(1)->state().collapsed);
+        QCOMPARE(below->tableCellInterface()->rowIndex(), -1);
+        QCOMPARE(QAccessible::queryAccessibleInterface(w.tree)->tableInterface()->rowCount(), 3);
+        node(1)->actionInterface()->doAction("Expand");
+        QTRY_VERIFY(node(1)->state().expanded);
+        w.events.clear();
+        node(2)->actionInterface()->doAction(Actions::showMenuAction());
+        QTRY_COMPARE(w.events, QStringList({"node A1", "click", "up right"}));
+        QCOMPARE(node(2)->childCount(), 0);
+        node(2)->actionInterface()->doAction("Edit");
+        QTRY_COMPARE(node(2)->childCount(), 1);
+        QAccessibleInterface* editor = node(2)->child(0);
+        QCOMPARE(editor->role(), QAccessible::EditableText);
+        QCOMPARE(editor->text(QAccessible::Value), "Acero uno");
+        const QAccessibleInterface* gone = node(3);
+        QVERIFY(gone->isValid());
+        QVERIFY(w.tree->Remove("B").ok());
+        QVERIFY(!gone->isValid());
     }
 };
 

@@ -248,6 +248,31 @@ class TestPropertyList : public QObject {
         f.type(Qt::Key_X, "x");
         QCOMPARE(f.editor()->accessibleName(), "Email");
     }
+
+    void assistiveProgramsToggleAYesNoAndOpenAValueForTyping() {
+        Form f;
+        using Actions = QAccessibleActionInterface;
+        const auto cell = [&f](int row, int column) {
+            return QAccessible::queryAccessibleInterface(f.view())->tableInterface()->cellAt(row, column);
+        };
+        QVERIFY(cell(0, 1)->actionInterface()->actionNames().isEmpty());
+        QCOMPARE(cell(1, 0)->actionInterface()->actionNames(), QStringList{Actions::pressAction()});
+        QCOMPARE(cell(1, 1)->actionInterface()->actionNames(),
+                 QStringList({Actions::pressAction(), Actions::toggleAction()}));
+        QCOMPARE(cell(2, 1)->actionInterface()->actionNames(), QStringList({Actions::pressAction(), "Edit"}));
+        cell(1, 1)->actionInterface()->doAction(Actions::toggleAction());
+        QTRY_VERIFY(f.list->Item("Spedire")->Value().toBool());
+        QVERIFY(cell(1, 1)->state().checked);
+        cell(3, 0)->actionInterface()->doAction(Actions::pressAction());
+        QTRY_COMPARE(f.current(), "Provincia");
+        cell(2, 1)->actionInterface()->doAction("Edit");
+        QTRY_VERIFY(f.editor());
+        QAccessibleInterface* editor = cell(2, 1)->child(0);
+        QCOMPARE(editor->text(QAccessible::Name), "Email");
+        editor->editableTextInterface()->insertText(0, "a@b.it");
+        f.type(Qt::Key_Return);
+        QCOMPARE(cell(2, 1)->text(QAccessible::Value), "a@b.it");
+    }
 };
 
 int main(int argc, char** argv) {

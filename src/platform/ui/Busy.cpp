@@ -5,13 +5,25 @@
 
 namespace ui {
 
+namespace {
+
+int underWay = 0;
+
+}  // namespace
+
 Busy::Busy() {
+    ++underWay;
     QCoreApplication::instance()->installEventFilter(this);
     m_sinceBreath.start();
 }
 
 Busy::~Busy() {
     QCoreApplication::processEvents();
+    --underWay;
+}
+
+bool Busy::any() {
+    return underWay > 0;
 }
 
 void Busy::breathe() {

@@ -13,6 +13,9 @@ class Busy : public QObject {
     Busy();
     ~Busy() override;
 
+    /// Whether there is such work under way.
+    static bool any();
+
     /// To be called at each step of the work; costs next to nothing unless something is due. Timers and
     /// sockets have their turn as well.
     void breathe();

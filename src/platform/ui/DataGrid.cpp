@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "platform/ui/DataGridPaint.h"
+#include "platform/ui/ItemViewAccess.h"
 
 namespace ui {
 
@@ -16,6 +17,7 @@ constexpr int designWidth = 100;
 }  // namespace
 
 DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
+    installItemViewAccess<DataGrid, QAccessible::Table>();
     setHorizontalHeader(new DataGridHeader(this));
     setModel(m_model);
     setItemDelegate(new DataGridDelegate(this));

@@ -8,6 +8,8 @@
 
 namespace ui {
 
+struct ItemAction;
+
 /// A grid that is filled by a data control and shows a snapshot of the rows; what is written into it changes
 /// the screen only.
 ///
@@ -61,6 +63,10 @@ class DataGrid : public QTableView {
     /// unless the button went down on a row and the pointer has come far enough since; then when the drag is
     /// over.
     void Drag();
+
+    /// A check box is toggled as by a click; any other cell is chosen, or opened as by a double click; each
+    /// has the menu of the right button.
+    std::vector<ItemAction> itemActions(const QModelIndex& item);
 
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 

@@ -6,6 +6,7 @@
 
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/DataGridDrag.h"
+#include "platform/ui/ItemViewAccess.h"
 
 namespace ui {
 
@@ -61,6 +62,26 @@ bool DataGrid::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT mouseUp(mouse->button(), mouse->globalPosition().toPoint());
     }
     return QTableView::eventFilter(watched, event);
+}
+
+std::vector<ItemAction> DataGrid::itemActions(const QModelIndex& item) {
+    const auto here = [this, place = QPersistentModelIndex(item)](const std::function<void()>& act) {
+        return [this, place, act] {
+            setFocus(Qt::OtherFocusReason);
+            setCurrentIndex(place);
+            act();
+        };
+    };
+    const auto pressed = here([this] { Q_EMIT click(); });
+    const ItemAction menu{QAccessibleActionInterface::showMenuAction(), here([this] {
+                              Q_EMIT mouseUp(Qt::RightButton,
+                                             viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+                          })};
+    if (m_model->isCheckColumn(item.column()))
+        return {{QAccessibleActionInterface::toggleAction(), pressed}, menu};
+    return {{QAccessibleActionInterface::pressAction(), pressed},
+            {QStringLiteral("Edit"), here([this] { Q_EMIT dblClick(); })},
+            menu};
 }
 
 void DataGrid::Drag() {

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/ui/GroupTreeItem.h"
+#include "platform/ui/ItemViewAccess.h"
 
 namespace ui {
 
@@ -31,6 +32,7 @@ int GroupNode::Children() const {
 }
 
 GroupTree::GroupTree(QWidget* parent) : QTreeWidget(parent) {
+    installItemViewAccess<GroupTree, QAccessible::Tree>();
     setHeaderHidden(true);
     setColumnCount(1);
     setIndentation(levelWidth);

@@ -12,6 +12,7 @@ namespace ui {
 
 class GroupNode;
 class GroupTreeItem;
+struct ItemAction;
 
 /// A node as it is handed round. It outlives its place in the tree: once removed it still answers with the
 /// key and text it had, and has neither parent nor children.
@@ -77,6 +78,10 @@ class GroupTree : public QTreeWidget {
     GroupNodeRef DropHighlight() const { return m_highlight; }
     /// Opens the selected node's text for editing, unless beforeLabelEdit cancels.
     void StartLabelEdit();
+
+    /// A node is clicked, opened or closed, renamed (unless it is a root), or has the menu of the right
+    /// button.
+    std::vector<ItemAction> itemActions(const QModelIndex& item);
 
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 

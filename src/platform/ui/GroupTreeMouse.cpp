@@ -5,6 +5,7 @@
 
 #include "platform/ui/DataGridDrag.h"
 #include "platform/ui/GroupTreeItem.h"
+#include "platform/ui/ItemViewAccess.h"
 
 namespace ui {
 
@@ -62,6 +63,30 @@ void GroupTree::keyPressEvent(QKeyEvent* event) {
     setCurrentItem(now);
     clickNode(static_cast<GroupTreeItem*>(now)->node());
     event->accept();
+}
+
+std::vector<ItemAction> GroupTree::itemActions(const QModelIndex& item) {
+    auto* place = static_cast<GroupTreeItem*>(itemFromIndex(item));
+    const GroupNodeRef node = place->node();
+    const auto clicked = [this, node](const std::function<void()>& act) {
+        return [this, node, act] {
+            setFocus(Qt::OtherFocusReason);
+            setSelectedItem(node);
+            clickNode(node);
+            if (node->m_item) act();
+        };
+    };
+    std::vector<ItemAction> actions{{QAccessibleActionInterface::pressAction(), clicked([] {})}};
+    const bool open = place->isExpanded();
+    if (node->Children() > 0)
+        actions.push_back({open ? QStringLiteral("Collapse") : QStringLiteral("Expand"),
+                           [node, open] { node->m_item->setExpanded(!open); }});
+    if (node->Parent()) actions.push_back({QStringLiteral("Edit"), clicked([this] { StartLabelEdit(); })});
+    actions.push_back({QAccessibleActionInterface::showMenuAction(), clicked([this, node] {
+                           Q_EMIT mouseUp(Qt::RightButton,
+                                          viewport()->mapToGlobal(visualItemRect(node->m_item).center()));
+                       })});
+    return actions;
 }
 
 void GroupTree::startDrag(Qt::DropActions) {

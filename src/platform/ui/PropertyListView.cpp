@@ -8,6 +8,7 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataGridColors.h"
+#include "platform/ui/ItemViewAccess.h"
 
 namespace ui {
 
@@ -169,6 +170,7 @@ bool PropertyListDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
 }
 
 PropertyListView::PropertyListView(QWidget* parent) : QTreeWidget(parent) {
+    installItemViewAccess<PropertyListView, QAccessible::Tree>();
     setColumnCount(2);
     setRootIsDecorated(false);
     setIndentation(0);
@@ -216,6 +218,26 @@ void PropertyListView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEd
 void PropertyListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeWidget::currentChanged(current, previous);
     if (current.isValid() && current.column() != 1) setCurrentIndex(current.siblingAtColumn(1));
+}
+
+std::vector<ItemAction> PropertyListView::itemActions(const QModelIndex& item) {
+    using Kind = PropertyListRow::Kind;
+    PropertyListRow* line = row(item);
+    if (line->kind() == Kind::Group) return {};
+    const auto chosen = [this, line](const std::function<void()>& act) {
+        return [this, line, act] {
+            setFocus(Qt::OtherFocusReason);
+            setCurrentItem(line, 1);
+            act();
+        };
+    };
+    std::vector<ItemAction> actions{{QAccessibleActionInterface::pressAction(), chosen([] {})}};
+    if (item.column() == 1 && line->kind() == Kind::Boolean)
+        actions.push_back({QAccessibleActionInterface::toggleAction(),
+                           chosen([line] { line->setValue(!line->value().toBool()); })});
+    if (item.column() == 1 && line->kind() != Kind::Boolean)
+        actions.push_back({QStringLiteral("Edit"), chosen([this, line] { editItem(line, 1); })});
+    return actions;
 }
 
 void PropertyListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option,

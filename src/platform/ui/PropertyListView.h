@@ -6,6 +6,8 @@
 
 namespace ui {
 
+struct ItemAction;
+
 /// One line of the list as the view holds it.
 class PropertyListRow : public QTreeWidgetItem {
   public:
@@ -59,6 +61,8 @@ class PropertyListView : public QTreeWidget {
   public:
     explicit PropertyListView(QWidget* parent);
     PropertyListRow* row(const QModelIndex& index) const;
+    /// A line is chosen; a yes/no is toggled; any other value is opened for typing.
+    std::vector<ItemAction> itemActions(const QModelIndex& item);
     /// Without the keyboard focus the current line keeps a shade only.
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
