@@ -1,16 +1,16 @@
-"""What several benchmarks need: tools of packages that are unpacked and never installed, medians."""
+"""What several benchmarks need: tools of packages that are unpacked and never installed, times of processes, medians."""
+import os
 import pathlib
 import shutil
 import statistics
 import subprocess
+import time
 
 
 def unpacked(package, program, folder):
     """Path of a package's program. Where it is not installed, the package is downloaded and unpacked below `folder`, so
     that measuring against a mail server's tools does not start that server on the user's machine. Returns the path and
     the environment it needs."""
-    import os
-
     environment = dict(os.environ)
     for place in ("/usr/sbin", "/usr/bin"):
         path = pathlib.Path(place) / program
@@ -29,6 +29,18 @@ def unpacked(package, program, folder):
     libraries = sorted({str(path.parent) for path in root.rglob("*.so*")})
     environment["LD_LIBRARY_PATH"] = ":".join(libraries)
     return found[0], environment
+
+
+def timed(command, **more):
+    """Runs a process to its good end: seconds on the clock, seconds of processor time, what it printed."""
+    start = time.perf_counter()
+    process = subprocess.Popen(command, stdout=subprocess.PIPE, text=True, **more)
+    printed = process.stdout.read()
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        raise subprocess.CalledProcessError(process.returncode, command)
+    return time.perf_counter() - start, usage.ru_utime + usage.ru_stime, printed
 
 
 def median(values):

@@ -7,9 +7,7 @@ Whole processes, both with their full durability. Each reads the statements from
 """
 import json
 import pathlib
-import subprocess
 import sys
-import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
 import tools  # noqa: E402
@@ -29,12 +27,6 @@ def statement(number):
     return f"INSERT INTO [tb_destinatari] ({COLUMNS}) VALUES (1, True, '" + "', '".join(values) + "') "
 
 
-def seconds(command, **more):
-    start = time.perf_counter()
-    done = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True, **more)
-    return time.perf_counter() - start, done.stdout
-
-
 def main():
     build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
     rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 3
@@ -52,14 +44,14 @@ def main():
     for _ in range(rounds):
         for file in (database, sqlite):
             file.unlink(missing_ok=True)
-        taken, told = seconds([str(build / "bench/import/import_rows"), str(plain), str(database), str(GROUP)])
+        taken, _, told = tools.timed([str(build / "bench/import/import_rows"), str(plain), str(database), str(GROUP)])
         ours.append(taken)
         told = json.loads(told)
         if told["rows"] != rows:
             raise SystemExit(f"{told['rows']} rows stand in the file")
         peak = max(peak, told["kilobytes"])
         with open(grouped, encoding="utf-8") as statements:
-            peers.append(seconds(["sqlite3", str(sqlite)], stdin=statements)[0])
+            peers.append(tools.timed(["sqlite3", str(sqlite)], stdin=statements)[0])
     for file in (plain, grouped, database, sqlite):
         file.unlink()
     ratio = tools.median(ours) / tools.median(peers)
