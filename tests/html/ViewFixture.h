@@ -2,12 +2,44 @@
 
 #include <csignal>
 #include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QRect>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "platform/html/HtmlView.h"
+
+/// Where an element is drawn, in the view's places.
+inline QRect placeOf(const HtmlView& view, const QString& selector) {
+    const QVariantList box =
+        view.evaluate(QStringLiteral("{ const b = document.querySelector('%1')"
+                                     ".getBoundingClientRect(); [b.x, b.y, b.width, b.height] }")
+                          .arg(selector))
+            .toList();
+    return QRectF(box.value(0).toDouble(), box.value(1).toDouble(), box.value(2).toDouble(),
+                  box.value(3).toDouble())
+        .toRect();
+}
+
+/// Ends the process that holds the document, as a crash would.
+inline void killRenderer(const HtmlView& view) {
+    const auto* page = view.findChild<QObject*>(QStringLiteral("page"));
+    const qint64 process = page->property("renderProcessPid").toLongLong();
+    if (process <= 0) qFatal("no process to end");
+    ::kill(static_cast<pid_t>(process), SIGKILL);
+}
+
+/// Drops something at a place of a view, as the desktop does; false where the view does not take it.
+inline bool dropOn(const HtmlView& view, const QMimeData& data, const QPoint& place) {
+    auto* target = view.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+    return event.isAccepted();
+}
 
 /// A shown view, and a user before it.
 class Desk {
@@ -69,25 +101,9 @@ class Desk {
                           .arg(offset));
     }
 
-    /// Where an element is drawn, in the view's places.
-    QRect placeOf(const QString& selector) const {
-        const QVariantList box =
-            view.evaluate(QStringLiteral("{ const b = document.querySelector('%1')"
-                                         ".getBoundingClientRect(); [b.x, b.y, b.width, b.height] }")
-                              .arg(selector))
-                .toList();
-        return QRectF(box.value(0).toDouble(), box.value(1).toDouble(), box.value(2).toDouble(),
-                      box.value(3).toDouble())
-            .toRect();
-    }
+    QRect placeOf(const QString& selector) const { return ::placeOf(view, selector); }
 
-    /// Ends the process that holds the document, as a crash would.
-    void killRenderer() {
-        const auto* page = view.findChild<QObject*>(QStringLiteral("page"));
-        const qint64 process = page->property("renderProcessPid").toLongLong();
-        if (process <= 0) qFatal("no process to end");
-        ::kill(static_cast<pid_t>(process), SIGKILL);
-    }
+    void killRenderer() const { ::killRenderer(view); }
 
     HtmlView view;
     QString address;  ///< of the page that documents are written into

@@ -1,7 +1,5 @@
 #include <QClipboard>
-#include <QDropEvent>
 #include <QImage>
-#include <QMimeData>
 #include <QTemporaryDir>
 
 #include "html/ViewFixture.h"
@@ -27,15 +25,6 @@ class ViewInsert : public QObject {
         if (!text.isNull()) data->setText(text);
         QGuiApplication::clipboard()->setMimeData(data);
         m_desk->view.execCommand(HtmlView::Paste);
-    }
-
-    bool drop(const QMimeData& data, const QPoint& place) {
-        auto* target = m_desk->view.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &enter);
-        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &event);
-        return event.isAccepted();
     }
 
   private Q_SLOTS:
@@ -248,7 +237,7 @@ class ViewInsert : public QObject {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(imageFile("b.png"))});
         const QRect place = m_desk->placeOf("#b");
-        QVERIFY(drop(data, place.topLeft() + QPoint(1, 5)));
+        QVERIFY(dropOn(m_desk->view, data, place.topLeft() + QPoint(1, 5)));
         QCOMPARE(dropped.count(), 1);
         QVERIFY(m_desk->body().startsWith("<p>uno</p><p id=\"b\"><img src=\"file:///"));
         QVERIFY(m_desk->view.execCommand(HtmlView::Undo).toBool());
@@ -263,7 +252,7 @@ class ViewInsert : public QObject {
         m_desk->view.setDocumentHTML("<p>uno</p>");
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(file.fileName())});
-        QVERIFY(!drop(data, {20, 20}));
+        QVERIFY(!dropOn(m_desk->view, data, {20, 20}));
         QTest::qWait(50);
         QCOMPARE(m_desk->body(), QString("<p>uno</p>"));
         QCOMPARE(m_desk->view.evaluate("location.href").toString(), m_desk->address);
@@ -273,7 +262,7 @@ class ViewInsert : public QObject {
         m_desk->view.setDocumentHTML("<p>uno</p>");
         QMimeData data;
         data.setText(":::nom:::");
-        QVERIFY(drop(data, m_desk->placeOf("p").topLeft() + QPoint(0, 5)));
+        QVERIFY(dropOn(m_desk->view, data, m_desk->placeOf("p").topLeft() + QPoint(0, 5)));
         QCOMPARE(m_desk->body(), QString("<p>:::nom:::uno</p>"));
     }
 };
