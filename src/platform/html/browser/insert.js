@@ -102,9 +102,15 @@ editor.insert = {
     },
 
     between(html) {
-        const start = html.indexOf('<!--StartFragment-->');
+        const mark = '<!--StartFragment-->';
+        const start = html.indexOf(mark);
         const end = html.lastIndexOf('<!--EndFragment-->');
-        return start >= 0 && end > start ? html.slice(start + '<!--StartFragment-->'.length, end) : html;
+        if (start < 0 || end <= start) return html;
+        const marked = html.slice(start + mark.length, end);
+        // A spreadsheet marks the rows of its table without the table.
+        if (!/^\s*<(col|colgroup|thead|tbody|tr|td|th)\b/i.test(marked)) return marked;
+        const tables = html.slice(0, start).match(/<table\b[^>]*>/gi) || ['<table>'];
+        return tables.pop() + marked + '</table>';
     },
 
     dropComments(source) {
