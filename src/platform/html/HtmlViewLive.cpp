@@ -75,7 +75,7 @@ void HtmlView::Live::setSource(const QString& html) {
     awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
-    if (m_deaths >= deathsInARow) tryAgain();
+    if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
     if (!live) return;
     write();
     waitFor([this] { return m_writes == 0; }, startMilliseconds);
@@ -83,7 +83,6 @@ void HtmlView::Live::setSource(const QString& html) {
 
 // The document that was given up may have been the reason
 void HtmlView::Live::tryAgain() {
-    m_deaths = 0;
     m_failed = false;
     delete m_notice;
     if (view.isVisible()) begin();
