@@ -95,6 +95,11 @@ TEST(Ldif, FileWithoutEntriesGivesNone) {
     EXPECT_TRUE(readLdif("righe senza senso\n").empty());
 }
 
+TEST(Ldif, MoreEntriesThanTheBoundAreNotTaken) {
+    const auto count = static_cast<qsizetype>(contacts::mostCards) + 10;
+    EXPECT_EQ(readLdif(QByteArray("mail: a\n\n").repeated(count)).size(), contacts::mostCards);
+}
+
 TEST(Ldif, VersionMayStandInTheFirstEntry) {
     EXPECT_EQ(readLdif("version: 1\ndn: x\nmail: a@example.it\n").front().emailAddress, "a@example.it");
 }

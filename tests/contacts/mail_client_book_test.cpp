@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
 #include <QDateTime>
 #include <QDir>
 #include <QTemporaryDir>
+#include <thread>
 
 #include "contacts/BookFixture.h"
 #include "contacts/card_printer.h"
@@ -144,6 +147,43 @@ TEST(MailClientBook, WhatIsNoBookIsToldAndNotRead) {
     EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::UnrecognizedFormat);
     writeBytes(path, "");
     EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::UnrecognizedFormat);
+}
+
+TEST(MailClientBook, WhatIsTooLargeOrCannotBeReadIsTold) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("abook.sqlite");
+    writeBytes(path, "SQLite format 3");
+    ASSERT_TRUE(QFile::resize(path, 2LL << 30));
+    EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::UnrecognizedFormat);
+    ASSERT_TRUE(QFile::remove(path) && QFile::link("/proc/self/mem", path));
+    EXPECT_FALSE(readMailClientBook(path).ok());
+    ASSERT_TRUE(QFile::remove(path) && QFile::link("/dev/zero", path));
+    EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::FileNotFound);
+}
+
+// What is read is a state that the book really had, or there is a word about it.
+TEST(MailClientBook, BookThatIsWrittenToMeanwhileIsNeverReadInPieces) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("abook.sqlite");
+    BookFixture book(path, "WAL");
+    book.run("PRAGMA wal_autocheckpoint=20");
+    std::atomic<bool> stop = false;
+    std::thread writer([&] {
+        for (int i = 0; !stop; ++i) {
+            book.addCard(QString::number(i), QString("FN:N%1\nNOTE:%2").arg(i).arg(QString(500, 'x')));
+            std::this_thread::sleep_for(std::chrono::milliseconds(i % 40 == 39 ? 60 : 1));
+        }
+    });
+    for (int reading = 0; reading < 8; ++reading) {
+        const auto cards = readMailClientBook(path);
+        EXPECT_TRUE(cards.ok() || cards.status().code() == ErrorCode::PathAccess);
+        if (!cards.ok()) continue;
+        for (std::size_t i = 0; i < cards.value().size(); ++i)
+            ASSERT_EQ(cards.value()[i].displayName, QString("N%1").arg(i));
+    }
+    stop = true;
+    writer.join();
+    EXPECT_FALSE(namesIn(path).isEmpty());
 }
 
 TEST(MailClientBook, DamagedPagesNeverHarm) {

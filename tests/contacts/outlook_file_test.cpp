@@ -1,10 +1,12 @@
 // The helper itself, over real Outlook files and damaged copies of them.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <QDirIterator>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <thread>
 
 #include "platform/contacts/ContactFolder.h"
 #include "platform/contacts/VCard.h"
@@ -100,6 +102,45 @@ TEST_F(OutlookHelper, WhatIsNoOutlookFileIsNotReached) {
         writeBytes(path, bytes);
         EXPECT_FALSE(readContactFolder(path).ok());
     }
+}
+
+TEST_F(OutlookHelper, WhatIsNoOrdinaryOutlookFileIsNotReached) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("x.pst");
+    writeBytes(path, "!BDN");
+    ASSERT_TRUE(QFile::resize(path, 2LL << 30));
+    EXPECT_FALSE(readContactFolder(path).ok());
+    for (const char* target : {"/proc/self/mem", "/dev/zero"}) {
+        ASSERT_TRUE(QFile::remove(path) && QFile::link(target, path));
+        EXPECT_FALSE(readContactFolder(path, 5s).ok()) << target;
+    }
+}
+
+// Whatever moment of the change the helper meets: the entries are good ones, or there are none.
+TEST_F(OutlookHelper, FileThatChangesMeanwhileNeverHarms) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("x.pst");
+    const QByteArray good = bytesOf(sample("accents.pst"));
+    const QStringList expected = contactsOf(read("accents.pst"));
+    std::atomic<bool> stop = false;
+    std::thread writer([&] {
+        for (int i = 1; !stop; ++i) {
+            writeBytes(path, good);
+            std::this_thread::sleep_for(std::chrono::milliseconds(i % 20));
+            EXPECT_TRUE(QFile::resize(path, good.size() * (i % 10) / 10));
+        }
+    });
+    for (int reading = 0; reading < 60; ++reading) {
+        const auto found = readContactFolder(path, 5s);
+        if (!found.ok()) continue;
+        EXPECT_LE(found.value().items.size(), static_cast<std::size_t>(found.value().count));
+        for (const QString& contact : contactsOf(found.value()))
+            EXPECT_TRUE(expected.contains(contact) || contact.startsWith('|')) << contact.toStdString();
+    }
+    stop = true;
+    writer.join();
+    writeBytes(path, good);
+    EXPECT_EQ(contactsOf(ContactFolder(readContactFolder(path).value())), expected);
 }
 
 TEST_F(OutlookHelper, DamagedFilesNeverHarm) {

@@ -68,7 +68,8 @@ Status copyOnce(const QString& path, const QString& copy) {
     return {};
 }
 
-/// Copies until nothing was written meanwhile; the files of a database belong together.
+/// Copies until nothing was written meanwhile: the files of a database belong together, and pieces of several
+/// states of it could pass for entries that never were.
 Status copyBook(const QString& path, const QString& copy) {
     constexpr int attempts = 20;
     Status status;
@@ -76,6 +77,7 @@ Status copyBook(const QString& path, const QString& copy) {
         const QString before = stateOf(path);
         status = copyOnce(path, copy);
         if (status.ok() && stateOf(path) == before) return {};
+        if (status.ok()) status = {ErrorCode::PathAccess, QStringLiteral("La rubrica cambia di continuo.")};
         QThread::msleep(50);
     }
     return status;

@@ -17,8 +17,9 @@ QString findMailClientBook(const QString& home);
 
 /// The entries in the order in which they were added, then the lists, which are entries without an address.
 /// Reads a copy, so that the mail client may go on writing: what it committed last counts, and nothing beside
-/// the book is touched. FileNotFound, PathAccess, or UnrecognizedFormat for a file that is no such database,
-/// is larger than 512 MB or keeps the reader busy beyond reason.
+/// the book is touched. FileNotFound; PathAccess where it cannot be read or is written to without a pause for
+/// a second; UnrecognizedFormat for a file that is no such database, is larger than 512 MB or keeps the
+/// reader busy beyond reason.
 Result<std::vector<Card>> readMailClientBook(const QString& path);
 
 }  // namespace contacts
