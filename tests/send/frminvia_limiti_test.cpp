@@ -159,13 +159,14 @@ class TestFrmInviaLimiti : public QObject {
 
     void logIsAskedForWithTheCaptionOfItsBox() {
         SendStage stage({"a@x.it"});
+        stage.control<QCheckBox>("chkLog")->setText("Keep a log");
         stage.pick();
         stage.click("chkLog");
         FileDialog::queue(stage.folder.path("registro"));
         stage.start();
         const auto& asked = FileDialog::shown().constLast();
         QVERIFY(asked.save);
-        QCOMPARE(asked.title, "Crea File per assistenza.");
+        QCOMPARE(asked.title, "Keep a log");
         QCOMPARE(asked.filter, "File assistenza (*.xt1)|*.xt1|");
         QCOMPARE(stage.smtp().LogFile, stage.folder.path("registro.xt1"));
         QVERIFY(stage.smtp().LogEnabled);
