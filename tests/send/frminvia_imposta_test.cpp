@@ -212,6 +212,30 @@ class TestFrmInviaImposta : public QObject {
         verifyRefused(stage, "Inserire l'intervallo in minuti per l'invio massimo di [X] email.");
     }
 
+    void checksRunInTheirOrderAndStopAtTheFirstThatFails() {
+        SendStage stage({"a@x.it"});
+        writeAccountLines({});
+        stage.window->CaricaDati();
+        stage.click("chkBlocco");
+        stage.control<QLineEdit>("txtBloccoNum")->setText("tanti");
+        stage.control<QLineEdit>("txtBloccoMin")->setText("pochi");
+        const auto refused = [&](const char* text) {
+            MessageDialog::reset();
+            MessageDialog::queue(1);
+            stage.click("cmdInvia");
+            verifyRefused(stage, text);
+            return !QTest::currentTestFailed();
+        };
+        QVERIFY(refused("Selezionare un messaggio prima di continuare."));
+        stage.pick();
+        QVERIFY(refused("Creare un mittente per inviare i messaggi."));
+        writeAccountLines({"0|Zero|zero@x.it|h|25|0|||EHLO|0|1"});
+        stage.window->CaricaDati();
+        QVERIFY(refused("Inserire il numero di messaggi massimo da inviare entro [X] minuti."));
+        stage.control<QLineEdit>("txtBloccoNum")->setText("50");
+        QVERIFY(refused("Inserire l'intervallo in minuti per l'invio massimo di [X] email."));
+    }
+
     void blockFieldsAreNotLookedAtWithTheBoxUnchecked() {
         SendStage stage({"a@x.it"});
         stage.control<QLineEdit>("txtBloccoNum")->setText("tanti");
@@ -262,8 +286,13 @@ class TestFrmInviaImposta : public QObject {
         const QString path = stage.folder.writeMessage();
         stage.pick(path);
         QVERIFY(QFile::remove(path));
+        stage.folder.addRecipient({{"rgs", "Z"}, {"email", "z@x.it"}});
+        stage.control<QComboBox>("cmbPausa")->setCurrentIndex(3);
         MessageDialog::queue(1);
         stage.click("cmdInvia");
+        // The steps before the look at the file have been done.
+        QCOMPARE(stage.counters(), (QList<double>{2, 0, 0}));
+        QCOMPARE(stage.timer().interval(), 1500);
         const auto& box = MessageDialog::shown().constFirst();
         QCOMPARE(box.text, "Il File messaggio è stato eliminato o spostato.");
         QCOMPARE(box.title, "Attenzione");
@@ -280,6 +309,22 @@ class TestFrmInviaImposta : public QObject {
         QVERIFY(!stage.enabled("cmdFerma"));
         QVERIFY(!stage.timer().isActive());
         QVERIFY(stage.sink.attempts().isEmpty());
+    }
+
+    void databaseThatCannotBeCountedDoesNotKeepTheRunFromStarting() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.folder.addRecipient({{"rgs", "Z"}, {"email", "z@x.it"}});
+        stage.folder.hideDatabase();
+        stage.start();
+        QVERIFY(stage.timer().isActive());
+        QCOMPARE(stage.counters(), (QList<double>{1, 0, 0}));
+        QVERIFY(stage.waitForEnd());
+        stage.folder.showDatabase();
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "z@x.it"}));
     }
 
     void blockFieldsAreNotTouchedByTheLock() {
@@ -379,19 +424,20 @@ class TestFrmInviaImposta : public QObject {
         QCOMPARE(stage.smtp().Priority, 5);
     }
 
-    void senderGreetingAndOutgoingPortComeFromTheChosenAccount() {
+    // Its number, not its place in the list, leads to the account.
+    void senderAndGreetingComeFromTheChosenAccount() {
         SendStage stage({"a@x.it"});
         writeAccountLines({"0|Zero|zero@x.it|127.0.0.1|25|0|||EHLO|0|1",
-                           QString("1|Uno Due|uno@x.it|127.0.0.1|%1|0|||HELO|0|1").arg(stage.sink.port())});
+                           QString("3|Tre Due|tre@x.it|127.0.0.1|%1|0|||HELO|0|1").arg(stage.sink.port())});
         stage.window->CaricaDati();
         stage.control<QComboBox>("cmbAccount")->setCurrentIndex(1);
         QVERIFY(stage.run());
-        QCOMPARE(stage.smtp().FromAddress, "uno@x.it");
-        QCOMPARE(stage.smtp().FromName, "Uno Due");
+        QCOMPARE(stage.smtp().FromAddress, "tre@x.it");
+        QCOMPARE(stage.smtp().FromName, "Tre Due");
         QCOMPARE(stage.smtp().HeloMode, 1);
         QCOMPARE(stage.smtp().BodyFormat, 1);
         QCOMPARE(stage.sink.greetings(), QList<QByteArray>{"HELO"});
-        QCOMPARE(stage.sink.messages().constFirst().sender, "uno@x.it");
+        QCOMPARE(stage.sink.messages().constFirst().sender, "tre@x.it");
     }
 
     void anyGreetingButEhloIsHelo_data() {
