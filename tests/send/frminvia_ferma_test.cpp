@@ -157,6 +157,25 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
+    void messageThatAStopLeftUnderWayIsDroppedByTheNextRunWithoutAnOutcome() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        stage.pick();
+        stage.click("cmdInvia");
+        stage.click("cmdFerma");
+        QVERIFY(stage.waitForEnd());
+        QTRY_COMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+        int outcomes = 0;
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, [&] { ++outcomes; });
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError, [&] { ++outcomes; });
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Accept);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(outcomes, 2);
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
     void windowLivesDuringADelivery() {
         SendStage stage({"a@x.it"});
         stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
