@@ -73,12 +73,13 @@ ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori) {
 }
 
 Result<QString> NomeDestinatario(const LeggiColonna& leggi) {
-    QString nome;
+    std::optional<QString> nome;
     for (const QString& colonna : {QStringLiteral("rgs"), QStringLiteral("nom"), QStringLiteral("email")}) {
         const Result<std::optional<QString>> letto = leggi(colonna);
         if (!letto.ok()) return letto.status();
-        nome = letto.value().value_or(QString());
-        if (!nome.isEmpty()) break;
+        nome = letto.value();
+        if (nome && !nome->isEmpty()) break;
     }
-    return nome;
+    if (!nome) return Status(ErrorCode::InvalidNull, QStringLiteral("Uso non valido di Null"));
+    return *nome;
 }

@@ -37,6 +37,6 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori);
 /// them becomes a part of its own.
 ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori);
 
-/// The name shown for the recipient: the first of "rgs", "nom" and "email" that is not empty, Null counting
-/// as empty; the last one in any case. Fails where a column cannot be read.
+/// The name shown for the recipient: the first of "rgs" and "nom" that is not empty, Null counting as empty,
+/// else "email". Fails where a column cannot be read, and where it comes to "email" and that is Null.
 Result<QString> NomeDestinatario(const LeggiColonna& leggi);

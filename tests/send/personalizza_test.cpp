@@ -104,8 +104,15 @@ TEST(RecipientName, IsChosenAsTheVectorsSay) {
     }
 }
 
-TEST(RecipientName, NothingAtAllIsTheEmptyName) {
-    EXPECT_EQ(nameOf({{"rgs", QString()}, {"nom", std::nullopt}, {"email", std::nullopt}}), QString());
+TEST(RecipientName, IsTheAddressWhereThereIsNothingElse) {
+    EXPECT_EQ(nameOf({{"rgs", QString()}, {"nom", std::nullopt}, {"email", QString()}}), QString());
+    EXPECT_EQ(nameOf({{"rgs", QStringLiteral("Ditta")}, {"nom", std::nullopt}, {"email", std::nullopt}}),
+              QStringLiteral("Ditta"));
+}
+
+TEST(RecipientName, CannotBeReadFromAnAddressThatIsNull) {
+    const Row row{{"rgs", QString()}, {"nom", std::nullopt}, {"email", std::nullopt}};
+    EXPECT_EQ(NomeDestinatario(readerOf(row)).status().code(), ErrorCode::InvalidNull);
 }
 
 TEST(RecipientName, FailsWhereThereIsNoRow) {
@@ -121,7 +128,7 @@ TEST(Personalisation, TextOfNothingButColonsTakesTimeInProportion) {
 TEST(RecipientColumns, AreReadFromTheCurrentRow) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("data.mdb"));
-    ASSERT_TRUE(jet::createEmptyDatabase(path).ok());
+    ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString()).ok());
     const QString connection = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + path;
     ado::Recordset rows;
     ASSERT_TRUE(rows.setActiveConnection(connection).ok());
