@@ -106,6 +106,19 @@ TEST_F(AccountWriters, RecordOfEmptyFieldsHasItsTenBars) {
     EXPECT_EQ(records(), QStringList(QStringLiteral("0||||||||||")));
 }
 
+TEST_F(AccountWriters, BarInTheOutgoingPortSplitsTheRecordAtTheNextReading) {
+    writeBytes(path(), {});
+    Account account = simple(QStringLiteral("a"));
+    account.txtOutPort = QStringLiteral("40|50");
+    account.chkUsaSMTP = QStringLiteral("1");
+    add(account);
+    EXPECT_EQ(records(), QStringList(QStringLiteral("0|a|a@b.it||25|0|||EHLO|40|50|1")));
+    table.clear();
+    load();
+    EXPECT_EQ(table.at(0).txtOutPort, QStringLiteral("40"));
+    EXPECT_EQ(table.at(0).chkUsaSMTP, QStringLiteral("50"));
+}
+
 TEST_F(AccountWriters, AccentsOfThePageSurviveInAPassword) {
     writeBytes(path(), {});
     Account account = simple(QStringLiteral("a"));
