@@ -39,6 +39,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         case PM_FocusFrameHMargin:
         case PM_DockWidgetTitleMargin:
             return 5;
+        case PM_HeaderMargin:
+            return 6;  // heads stand over the texts of their cells
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
