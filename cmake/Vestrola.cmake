@@ -17,13 +17,16 @@ if(VESTROLA_FUZZ)
   target_compile_options(vestrola_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# vestrola_platform(<folder> [MOC] SOURCES ... LIBRARIES ...): static library vestrola_<folder>; MOC where a class
-# has signals
+# vestrola_platform(<folder> [MOC] [WITHOUT_QT] SOURCES ... LIBRARIES ...): static library vestrola_<folder>; MOC where
+# a class has signals
 function(vestrola_platform name)
-  cmake_parse_arguments(ARG "MOC" "" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "MOC;WITHOUT_QT" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(vestrola_${name} STATIC ${ARG_SOURCES})
   set_target_properties(vestrola_${name} PROPERTIES AUTOMOC ${ARG_MOC})
-  target_link_libraries(vestrola_${name} PUBLIC vestrola_options Qt6::Core ${ARG_LIBRARIES})
+  target_link_libraries(vestrola_${name} PUBLIC vestrola_options ${ARG_LIBRARIES})
+  if(NOT ARG_WITHOUT_QT)
+    target_link_libraries(vestrola_${name} PUBLIC Qt6::Core)
+  endif()
 endfunction()
 
 # vestrola_modules(SOURCES...): plain routines and records of one subsystem folder (no widgets)

@@ -1,9 +1,10 @@
 // Makes a program folder for the demo: an empty database filled with the groups and recipients of
 // recipients.tsv, a message with an attachment and a picture, one account.
 //
-//     demo_make FOLDER PORT
+//     demo_make FOLDER PORT [RECIPIENTS.tsv]
 //
-// The account sends through 127.0.0.1:PORT. The message is FOLDER/messaggi/autunno.mss.
+// The account sends through 127.0.0.1:PORT; for port 0 straight to the servers of the recipients' domains.
+// The message is FOLDER/messaggi/autunno.mss.
 #include <cstdio>
 #include <QDir>
 #include <QFile>
@@ -52,12 +53,11 @@ qint64 addGroup(const QString& name) {
     return id;
 }
 
-void fillDatabase(const QString& path) {
-    esigi(jet::createEmptyDatabase(path));
+void fillDatabase(const QString& path, const QString& recipients) {
+    esigi(jet::createEmptyDatabase(path.toStdString()));
     CambiaPercorsoDBase(path);
     CaricaPercorsoDBase();
-    const QStringList lines =
-        readText(QStringLiteral(DEMO_DIR "/recipients.tsv")).split('\n', Qt::SkipEmptyParts);
+    const QStringList lines = readText(recipients).split('\n', Qt::SkipEmptyParts);
     const QStringList columns = lines.first().split('\t');
     QHash<QString, qint64> groups;
     for (const QString& line : lines.mid(1)) {
@@ -120,10 +120,10 @@ QString writeMessage(const QString& folder) {
     return path;
 }
 
-void make(const QString& folder, const QString& port) {
+void make(const QString& folder, const QString& port, const QString& recipients) {
     esigi(sys::fillProgramFolder(folder, QStringLiteral(DEMO_DIR "/../assets/templates")));
     sys::setProgramFolder(folder);
-    fillDatabase(cartellaDati() + "data.mdb");
+    fillDatabase(cartellaDati() + "data.mdb", recipients);
     Account account;
     account.txtNomeVisual = "La bottega di Città di Castello";
     account.txtEmail = "notizie@bottega.example";
@@ -132,7 +132,7 @@ void make(const QString& folder, const QString& port) {
     account.chkAutentick = "0";
     account.cmbSaluto = "EHLO";
     account.txtOutPort = "0";
-    account.chkUsaSMTP = "1";
+    account.chkUsaSMTP = port == "0" ? "0" : "1";
     TabellaAccount table;
     NuovoAccount(cartellaDati() + "Account.imp", table, account);
     std::printf("%s\n", qUtf8Printable(writeMessage(folder + "/messaggi")));
@@ -143,12 +143,12 @@ void make(const QString& folder, const QString& port) {
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fprintf(stderr, "usage: demo_make FOLDER PORT\n");
+    if (arguments.size() != 3 && arguments.size() != 4) {
+        std::fprintf(stderr, "usage: demo_make FOLDER PORT [RECIPIENTS.tsv]\n");
         return 2;
     }
     try {
-        make(arguments[1], arguments[2]);
+        make(arguments[1], arguments[2], arguments.value(3, QStringLiteral(DEMO_DIR "/recipients.tsv")));
     } catch (const Fallimento& failure) {
         std::fprintf(stderr, "demo_make: %d %s\n", failure.numero(), failure.what());
         return 1;

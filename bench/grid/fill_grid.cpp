@@ -133,9 +133,9 @@ void query(const QString& path) {
 }
 
 qint64 bytesOfRows(const QString& path) {
-    auto database = jet::Database::open(path);
+    auto database = jet::Database::open(path.toStdString());
     demand(database.status());
-    const auto table = database.value()->table(u"tb_destinatari");
+    const auto table = database.value()->table("tb_destinatari");
     demand(table.status());
     qint64 bytes = 0;
     demand(table.value()->scan([&](jet::RowId, const jet::RowView& row) {
@@ -150,7 +150,7 @@ qint64 bytesOfRows(const QString& path) {
 void showEmpty(QTableView& view) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("small.mdb"));
-    demand(jet::createEmptyDatabase(path));
+    demand(jet::createEmptyDatabase(path.toStdString()));
     ado::Command command;
     demand(command.setActiveConnection(connectionTo(path)));
     command.setCommandText(

@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[2]);
-    demand(jet::createEmptyDatabase(path));
+    demand(jet::createEmptyDatabase(path.toStdString()));
     ado::GroupedInserts inserts;
     inserts.setGroupSize(std::atoi(argv[3]));
     inserts.setGroupAge(std::chrono::hours(1));

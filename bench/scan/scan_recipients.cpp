@@ -10,11 +10,12 @@
 #include <string>
 
 #include "platform/jet/Database.h"
+#include "platform/jet/JetText.h"
 
 namespace {
 
 int failed(const Status& status) {
-    std::fprintf(stderr, "scan_recipients: %s\n", qPrintable(status.text()));
+    std::fprintf(stderr, "scan_recipients: %s\n", jet::toUtf8(status.plainText()).c_str());
     return 1;
 }
 
@@ -47,7 +48,7 @@ std::vector<jet::Value> recipient(size_t n) {
 }
 
 Status addGroups(jet::Database& database) {
-    auto table = database.table(u"tb_gruppi");
+    auto table = database.table("tb_gruppi");
     if (!table.ok()) return table.status();
     for (size_t n = 1; n <= groups; ++n) {
         const std::vector<jet::Value> row{{}, int64_t{0}, "Gruppo " + std::to_string(n)};
@@ -56,12 +57,12 @@ Status addGroups(jet::Database& database) {
     return {};
 }
 
-int make(const QString& path, size_t rows) {
+int make(const std::string& path, size_t rows) {
     if (const Status status = jet::createEmptyDatabase(path); !status.ok()) return failed(status);
     auto opened = jet::Database::open(path);
     if (!opened.ok()) return failed(opened.status());
     jet::Database& database = *opened.value();
-    auto table = database.table(u"tb_destinatari");
+    auto table = database.table("tb_destinatari");
     if (!table.ok()) return failed(table.status());
     if (const Status status = database.begin(); !status.ok()) return failed(status);
     if (const Status status = addGroups(database); !status.ok()) return failed(status);
@@ -71,10 +72,10 @@ int make(const QString& path, size_t rows) {
     return 0;
 }
 
-int scan(const QString& path) {
+int scan(const std::string& path) {
     auto opened = jet::Database::open(path);
     if (!opened.ok()) return failed(opened.status());
-    auto found = opened.value()->table(u"tb_destinatari");
+    auto found = opened.value()->table("tb_destinatari");
     if (!found.ok()) return failed(found.status());
     jet::Table& table = *found.value();
     const auto& columns = table.definition().columns;
@@ -108,8 +109,8 @@ int scan(const QString& path) {
 
 int main(int argc, char** argv) {
     if (argc >= 3 && std::strcmp(argv[1], "--make") == 0)
-        return make(QString::fromLocal8Bit(argv[2]), argc > 3 ? std::strtoul(argv[3], nullptr, 10) : 100000);
-    if (argc == 3 && std::strcmp(argv[1], "--scan") == 0) return scan(QString::fromLocal8Bit(argv[2]));
+        return make(argv[2], argc > 3 ? std::strtoul(argv[3], nullptr, 10) : 100000);
+    if (argc == 3 && std::strcmp(argv[1], "--scan") == 0) return scan(argv[2]);
     std::fprintf(stderr, "usage: scan_recipients --make FILE [ROWS] | --scan FILE\n");
     return 2;
 }

@@ -5,22 +5,20 @@
 #include <cstdio>
 
 #include "platform/jet/Database.h"
+#include "platform/jet/JetText.h"
 
 namespace {
 
-// One of the sample files has a password.
-const QString samplePassword = QStringLiteral("password");
-
-bool list(const QString& file) {
-    const auto opened = jet::Database::open(file, {.password = samplePassword, .readOnly = true});
+bool list(const char* file) {
+    // One of the sample files has a password.
+    const auto opened = jet::Database::open(file, {.password = "password", .readOnly = true});
     const auto catalog = opened.ok() ? opened.value()->catalog() : opened.status();
     if (!catalog.ok()) {
-        std::fprintf(stderr, "list_tables: %s\n", qPrintable(catalog.status().text()));
+        std::fprintf(stderr, "list_tables: %s\n", jet::toUtf8(catalog.status().plainText()).c_str());
         return false;
     }
     for (const jet::CatalogEntry& entry : catalog.value())
-        if (entry.kind == jet::CatalogEntry::Kind::Local && !entry.system)
-            std::puts(qUtf8Printable(entry.name));
+        if (entry.kind == jet::CatalogEntry::Kind::Local && !entry.system) std::puts(entry.name.c_str());
     return true;
 }
 
@@ -33,6 +31,6 @@ int main(int argc, char** argv) {
     }
     bool listed = true;
     for (int i = 1; i < argc; ++i)
-        listed = list(QString::fromLocal8Bit(argv[i])) && listed;
+        listed = list(argv[i]) && listed;
     return listed ? 0 : 1;
 }

@@ -4,8 +4,8 @@ with all files in one process of ours, as the program itself does it.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-Without the sample files the built empty database is the only one. The first record is bound by the start of the process:
-loading the Qt library alone takes longer than mdb-tables does as a whole.
+Without the sample files the built empty database is the only one. The first record is bound by the start of the process,
+so the tool is linked with the C++ library inside; loading that one costs about as much as listing the tables.
 """
 import json
 import pathlib

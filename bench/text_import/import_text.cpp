@@ -62,7 +62,7 @@ void printStatements(const QString& path, qint64 group) {
 }
 
 void importInto(const QString& path, const QString& database) {
-    esigi(jet::createEmptyDatabase(database));
+    esigi(jet::createEmptyDatabase(database.toStdString()));
     connDB = ado::connectionPrefix + database;
     Inserimento inserts;
     inserts.Prepara();

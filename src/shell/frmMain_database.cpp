@@ -22,7 +22,8 @@ namespace {
 void CopiaDatabase(const QString& sorgente, const QString& destinazione) {
     if (QFileInfo(sorgente).canonicalFilePath() == QFileInfo(destinazione).canonicalFilePath())
         fallisci(ErrorCode::PathAccess);
-    const auto database = esigi(jet::Database::open(sorgente, {.readOnly = true}));
+    const auto database =
+        esigi(jet::Database::open(QFile::encodeName(sorgente).toStdString(), {.readOnly = true}));
     const jet::ReadScope nessunoScrive(*database);
     esigi(nessunoScrive.status());
     QFile da(sorgente);

@@ -56,13 +56,14 @@ class Samples : public ::testing::Test {
         const auto entries = catalog.tables();
         EXPECT_TRUE(entries.ok()) << words(entries.status());
         jet::Database::Options options;
-        options.password = QStringLiteral("password");
-        auto database = jet::Database::open(sample.path, options);
+        options.password = "password";
+        auto database = jet::Database::open(sample.path.toStdString(), options);
         EXPECT_TRUE(database.ok()) << words(database.status());
         std::vector<jet::TableDefinition> definitions;
         for (const auto& entry : entries.value())
             if (entry.kind == Catalog::Kind::Table)
-                definitions.push_back(database.value()->table(entry.name).value()->definition());
+                definitions.push_back(
+                    database.value()->table(entry.name.toStdString()).value()->definition());
         return definitions;
     }
 
@@ -112,7 +113,7 @@ class Samples : public ::testing::Test {
         command.setCommandTimeout(0);
         return command.execute();
     }
-    static QString bracketed(const QString& name) { return QLatin1Char('[') + name + QLatin1Char(']'); }
+    static QString bracketed(const std::string& name) { return QString::fromStdString('[' + name + ']'); }
     static QString quoted(const std::string& text) {
         return QLatin1Char('\'') + QString::fromStdString(text).replace(u'\'', QLatin1String("''")) +
                QLatin1Char('\'');

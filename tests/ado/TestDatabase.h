@@ -27,7 +27,7 @@ class TestDatabase : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(m_folder.isValid());
         path = m_folder.filePath(QStringLiteral("lista di prova.mdb"));
-        const Status status = jet::createEmptyDatabase(path);
+        const Status status = jet::createEmptyDatabase(path.toStdString());
         ASSERT_TRUE(status.ok()) << words(status);
         connection = connectionTo(path);
     }

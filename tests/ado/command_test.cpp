@@ -224,10 +224,10 @@ TEST_F(CommandTest, AHugeConcatenationOfConditionsEndsInAnError) {
 
 TEST_F(CommandTest, AnotherProgramSeesTheStatementWhenItReturns) {
     addRecipients(1, 1);
-    auto other = jet::Database::open(path);
+    auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok()) << ado::words(other.status());
     int rows = 0;
-    auto table = other.value()->table(u"tb_destinatari");
+    auto table = other.value()->table("tb_destinatari");
     ASSERT_TRUE(table.ok());
     ASSERT_TRUE(table.value()->scan([&](jet::RowId, const jet::RowView&) { return ++rows, true; }).ok());
     EXPECT_EQ(rows, 1);

@@ -111,7 +111,7 @@ TEST_F(ConcurrencyTest, AnImportLetsOthersInBetweenItsGroups) {
 
 TEST_F(ConcurrencyTest, AFileThatStaysLockedEndsInAClearError) {
     run("INSERT INTO tb_gruppi (nome) VALUES ('a')");
-    auto other = jet::Database::open(path);
+    auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());
     ASSERT_TRUE(other.value()->begin().ok());
     const Status status = tryRun(QStringLiteral("UPDATE tb_gruppi SET nome = 'b'")).status();
@@ -129,9 +129,9 @@ TEST_F(ConcurrencyTest, ARecordsetThatIsOpenHoldsNobodyUp) {
     const pid_t writer = ::fork();
     if (writer == 0) {
         // Not through the data access layer, whose open file this process shares with its parent.
-        auto database = jet::Database::open(path);
+        auto database = jet::Database::open(path.toStdString());
         if (!database.ok()) ::_exit(1);
-        auto table = database.value()->table(u"tb_gruppi");
+        auto table = database.value()->table("tb_gruppi");
         if (!table.ok() || !database.value()->begin().ok()) ::_exit(1);
         const auto row = table.value()->findByPrimaryKey(3);
         const std::pair<size_t, jet::Value> change{2, std::string("dopo")};

@@ -35,9 +35,9 @@ class GroupedInsertsTest : public ado::TestDatabase {
     }
     /// Rows that another program finds.
     static qint64 rowsInFile(const QString& file) {
-        auto database = jet::Database::open(file);
+        auto database = jet::Database::open(file.toStdString());
         EXPECT_TRUE(database.ok()) << ado::words(database.status());
-        auto table = database.value()->table(u"tb_destinatari");
+        auto table = database.value()->table("tb_destinatari");
         EXPECT_TRUE(table.ok());
         qint64 rows = 0;
         EXPECT_TRUE(table.value()->scan([&](jet::RowId, const jet::RowView&) { return ++rows, true; }).ok());
@@ -157,7 +157,7 @@ TEST_F(GroupedInsertsTest, ARecordsetThatWasOpenedInsideAGroupKeepsItsRows) {
 TEST_F(GroupedInsertsTest, AReplacedFileGetsTheNextGroup) {
     add(10);
     const QString other = inFolder("altra.mdb");
-    ASSERT_TRUE(jet::createEmptyDatabase(other).ok());
+    ASSERT_TRUE(jet::createEmptyDatabase(other.toStdString()).ok());
     ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
     add(10);
     EXPECT_EQ(rowsInFile(path), 10);
@@ -168,7 +168,7 @@ TEST_F(GroupedInsertsTest, WhatWasToldSurvivesTheDeathOfTheProgramAndNothingElse
     for (const int last : {4, 10, 37}) {
         ado::closeAll();
         ASSERT_TRUE(QFile::remove(path));
-        ASSERT_TRUE(jet::createEmptyDatabase(path).ok());
+        ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString()).ok());
         int told[2];
         ASSERT_EQ(::pipe(told), 0);
         const pid_t child = ::fork();

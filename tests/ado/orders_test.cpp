@@ -22,9 +22,9 @@ class OrdersTest : public ado::TestDatabase {
   protected:
     /// Many recipients in one transaction of the engine, with few different names so that many are equal.
     void fill(int count) {
-        auto database = jet::Database::open(path);
+        auto database = jet::Database::open(path.toStdString());
         ASSERT_TRUE(database.ok()) << ado::words(database.status());
-        auto table = database.value()->table(u"tb_destinatari");
+        auto table = database.value()->table("tb_destinatari");
         ASSERT_TRUE(table.ok());
         ASSERT_TRUE(database.value()->begin().ok());
         std::mt19937 random(7);
@@ -62,9 +62,9 @@ class OrdersTest : public ado::TestDatabase {
     std::vector<qint64> expected(int selected, int group) const {
         using Key = std::pair<std::vector<std::string>, jet::RowId>;
         std::vector<std::pair<Key, qint64>> rows;
-        auto database = jet::Database::open(path);
+        auto database = jet::Database::open(path.toStdString());
         EXPECT_TRUE(database.ok());
-        auto table = database.value()->table(u"tb_destinatari");
+        auto table = database.value()->table("tb_destinatari");
         EXPECT_TRUE(table.ok());
         const Status status = table.value()->scan([&](jet::RowId id, const jet::RowView& row) {
             if (selected >= 0 && row.yesNo(21) != (selected == 1)) return true;
@@ -163,9 +163,9 @@ TEST_F(OrdersTest, ALongListKeepsItsOrderThroughRandomChanges) {
 TEST_F(OrdersTest, WhatAnotherProgramWritesIsSeenByTheNextRecordset) {
     fill(50);
     const std::vector<qint64> before = ids(queue);
-    auto other = jet::Database::open(path);
+    auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());
-    auto table = other.value()->table(u"tb_destinatari");
+    auto table = other.value()->table("tb_destinatari");
     ASSERT_TRUE(table.ok());
     const auto row = table.value()->findByPrimaryKey(static_cast<int32_t>(before[0]));
     ASSERT_TRUE(row.ok() && row.value());
@@ -183,9 +183,9 @@ TEST_F(OrdersTest, ARecordsetThatIsOpenOutlivesAChangeFromOutside) {
     fill(50);
     ado::Recordset rows = open(queue);
     const std::vector<qint64> before = ids(queue);
-    auto other = jet::Database::open(path);
+    auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());
-    auto table = other.value()->table(u"tb_destinatari");
+    auto table = other.value()->table("tb_destinatari");
     ASSERT_TRUE(table.ok());
     const auto row = table.value()->findByPrimaryKey(static_cast<int32_t>(before[1]));
     ASSERT_TRUE(row.ok() && row.value());

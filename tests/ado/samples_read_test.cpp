@@ -82,8 +82,8 @@ TEST_F(SamplesReadTest, EveryTableIsReadWholeAndInEveryOrder) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
-            const auto expected = mdbtoolsTable(sample.path, table);
+            SCOPED_TRACE(table.name);
+            const auto expected = mdbtoolsTable(sample.path.toStdString(), table);
             if (!expected) return;
             const auto lines = linesOf(*expected);
             const QString select = QStringLiteral("SELECT * FROM ") + bracketed(table.name);
@@ -99,7 +99,7 @@ TEST_F(SamplesReadTest, EveryTableIsReadWholeAndInEveryOrder) {
                     const int sign = *direction == 'A' ? 1 : -1;
                     for (size_t row = 1; row < rows.values.size(); ++row)
                         EXPECT_LE(sign * compare(rows.values[row - 1][i], rows.values[row][i]), 0)
-                            << table.columns[i].name.toStdString() << ' ' << direction << ' ' << row;
+                            << table.columns[i].name << ' ' << direction << ' ' << row;
                 }
             }
             ++tablesRead;
@@ -115,8 +115,8 @@ TEST_F(SamplesReadTest, ConditionsChooseTheRowsThatHoldTheValue) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
-            const auto expected = mdbtoolsTable(sample.path, table);
+            SCOPED_TRACE(table.name);
+            const auto expected = mdbtoolsTable(sample.path.toStdString(), table);
             if (!expected) return;
             const QString select = QStringLiteral("SELECT * FROM ") + bracketed(table.name);
             const Rows all = read(sample, table, select);
@@ -155,8 +155,7 @@ TEST_F(SamplesReadTest, EveryFieldHasTheTextThatAnImportNeeds) {
                     const ErrorCode expected = row[i].isNull() ? ErrorCode::InvalidNull
                                                : canSort(type) ? ErrorCode::None
                                                                : ErrorCode::TypeMismatch;
-                    EXPECT_EQ(text.status().code(), expected)
-                        << table.name.toStdString() << ' ' << table.columns[i].name.toStdString();
+                    EXPECT_EQ(text.status().code(), expected) << table.name << ' ' << table.columns[i].name;
                 }
         }
     }
@@ -175,7 +174,7 @@ TEST_F(SamplesReadTest, GuidsAndDecimalsAreReadAsTheyAreWritten) {
         }
         if (sample.name == QLatin1String("jk-testIndexCodesV1997.mdb"))
             for (const auto& table : tables(sample))
-                if (table.name == QLatin1String("Table13")) {
+                if (table.name == "Table13") {
                     const Rows rows = read(sample, table,
                                            QStringLiteral("SELECT * FROM Table13 WHERE data = "
                                                           "'{8E39276A-BCA8-4AC4-891E-49911D8438DD}'"));

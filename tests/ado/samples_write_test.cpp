@@ -16,7 +16,7 @@ class SamplesWriteTest : public ado::Samples {
         return file.readAll().toStdString();
     }
     static std::vector<ComparableRow> outside(const Sample& sample, const jet::TableDefinition& table) {
-        return mdbtoolsTable(sample.path, table).value();
+        return mdbtoolsTable(sample.path.toStdString(), table).value();
     }
     /// The rows as lines, without auto-numbers where rows are added.
     std::multiset<std::string> compared(const jet::TableDefinition& table,
@@ -99,8 +99,8 @@ TEST_F(SamplesWriteTest, InsertsAndCopiesOfRows) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
-            if (!mdbtoolsTable(sample.path, table)) return;
+            SCOPED_TRACE(table.name);
+            if (!mdbtoolsTable(sample.path.toStdString(), table)) return;
             QStringList names;
             QStringList literals;
             for (const jet::Column& column : table.columns)
@@ -146,8 +146,8 @@ TEST_F(SamplesWriteTest, UpdatesOfOneColumnInAllRowsAndInChosenOnes) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
-            if (!mdbtoolsTable(sample.path, table)) return;
+            SCOPED_TRACE(table.name);
+            if (!mdbtoolsTable(sample.path.toStdString(), table)) return;
             renew(sample);
             for (size_t i = 0; i < table.columns.size(); ++i) {
                 const auto value = given(table.columns[i]);
@@ -189,8 +189,8 @@ TEST_F(SamplesWriteTest, DeletesOfChosenRowsAndOfAll) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
-            if (!mdbtoolsTable(sample.path, table)) return;
+            SCOPED_TRACE(table.name);
+            if (!mdbtoolsTable(sample.path.toStdString(), table)) return;
             renew(sample);
             for (size_t k = 0; k < table.columns.size(); ++k) {
                 auto expected = outside(sample, table);
@@ -219,7 +219,7 @@ TEST_F(SamplesWriteTest, NewRowsThroughARecordset) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());
         for (const jet::TableDefinition& table : tables(sample)) {
-            SCOPED_TRACE(table.name.toStdString());
+            SCOPED_TRACE(table.name);
             const auto key = table.longPrimaryKey();
             if (!key || !table.columns[*key].autoNumber) continue;
             renew(sample);
@@ -238,15 +238,17 @@ TEST_F(SamplesWriteTest, NewRowsThroughARecordset) {
                 ++refused;
                 continue;
             }
-            const qint64 number = rows.value(table.columns[*key].name).value().toInteger().value();
+            const qint64 number =
+                rows.value(QString::fromStdString(table.columns[*key].name)).value().toInteger().value();
             for (const jet::Column& column : table.columns)
                 if (const auto value = given(column)) {
-                    EXPECT_TRUE(rows.setValue(column.name, ado::Value(value->value)).ok());
+                    EXPECT_TRUE(
+                        rows.setValue(QString::fromStdString(column.name), ado::Value(value->value)).ok());
                 }
             const Status status = rows.update();
             EXPECT_TRUE(status.ok()) << ado::words(status);
             rows.close();
-            const auto after = mdbtoolsTable(sample.path, table);
+            const auto after = mdbtoolsTable(sample.path.toStdString(), table);
             if (!after) return;
             const std::string text = std::to_string(number);
             EXPECT_EQ(std::count_if(after->begin(), after->end(),

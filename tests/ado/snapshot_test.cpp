@@ -29,7 +29,7 @@ class SnapshotTest : public TestDatabase {
     }
     static size_t columnOf(const Snapshot& rows, const char* name) {
         for (size_t i = 0; i < rows.columns().size(); ++i)
-            if (rows.columns()[i].name == QLatin1String(name)) return i;
+            if (rows.columns()[i].name == name) return i;
         ADD_FAILURE() << name;
         return 0;
     }
@@ -134,7 +134,7 @@ TEST(SnapshotOfSample, LongMemoTextsComeWhole) {
     ASSERT_TRUE(rows.ok()) << words(rows.status());
     ASSERT_GT(rows.value().size(), 0u);
     size_t notesColumn = 0;
-    while (rows.value().columns().at(notesColumn).name != QLatin1String("Notes"))
+    while (rows.value().columns().at(notesColumn).name != "Notes")
         ++notesColumn;
     for (size_t row = 0; row < rows.value().size(); ++row) {
         const auto notes = recordset.value(u"Notes");

@@ -26,7 +26,7 @@ QByteArray wide(const QByteArray& text) {
 
 class DatabaseCheck : public testing::Test {
   protected:
-    void SetUp() override { ASSERT_TRUE(jet::createEmptyDatabase(path()).ok()); }
+    void SetUp() override { ASSERT_TRUE(jet::createEmptyDatabase(path().toStdString()).ok()); }
     void TearDown() override { ado::closeAll(); }
 
     QString path() const { return m_folder.filePath(QStringLiteral("x.mdb")); }

@@ -55,13 +55,13 @@ std::string contentOf(const std::string& name) {
 // A file with `groups` groups and `recipients` recipients, some of them moved.
 std::string soundFile(int groups, int recipients) {
     removeFiles();
-    require(jet::createEmptyDatabase(QString::fromStdString(fileName())).ok());
+    require(jet::createEmptyDatabase(fileName()).ok());
     {
-        auto opened = jet::Database::open(QString::fromStdString(fileName()));
+        auto opened = jet::Database::open(fileName());
         require(opened.ok());
         jet::Database& database = *opened.value();
-        jet::Table& names = *database.table(u"tb_gruppi").value();
-        jet::Table& people = *database.table(u"tb_destinatari").value();
+        jet::Table& names = *database.table("tb_gruppi").value();
+        jet::Table& people = *database.table("tb_destinatari").value();
         require(database.begin().ok());
         for (int i = 0; i < groups; ++i)
             require(names.insert(std::vector<jet::Value>{{}, int64_t{0}, std::string("gruppo")}).ok());
@@ -82,8 +82,8 @@ std::string soundFile(int groups, int recipients) {
 std::string richFile() {
     (void)soundFile(1, 1);
     using jet::Type;
-    const QString file = QString::fromStdString(fileName());
-    const QString name = QStringLiteral("prova");
+    const std::string file = fileName();
+    const std::string name = "prova";
     jettables::addTable(
         file, "prova",
         {{"testo", Type::Text, 50},

@@ -27,11 +27,11 @@ class List {
     /// Nothing but the list lies in the folder, and both tables can be read to their ends.
     void check() {
         demand(QDir(m_folder.path()).entryList(QDir::Files) == QStringList(QStringLiteral("lista.mdb")));
-        auto database = jet::Database::open(path());
+        auto database = jet::Database::open(path().toStdString());
         demand(database.ok());
         const auto catalog = database.value()->catalog();
         demand(catalog.ok() && catalog.value().size() == 6);
-        for (const char16_t* name : {u"tb_gruppi", u"tb_destinatari"}) {
+        for (const char* name : {"tb_gruppi", "tb_destinatari"}) {
             auto table = database.value()->table(name);
             demand(table.ok());
             demand(table.value()->scan([](jet::RowId, const jet::RowView&) { return true; }).ok());
@@ -44,7 +44,7 @@ class List {
     void make() {
         ado::closeAll();
         QFile::remove(path());
-        demand(jet::createEmptyDatabase(path()).ok());
+        demand(jet::createEmptyDatabase(path().toStdString()).ok());
         for (const char* group : {"0, 'Clienti'", "0, 'Fornitori'", "1, 'Estero'"})
             run(QStringLiteral("INSERT INTO tb_gruppi (id_up, nome) VALUES (%1)").arg(QLatin1String(group)));
         for (const char* recipient :

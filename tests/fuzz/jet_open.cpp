@@ -86,9 +86,8 @@ void changeSome(jet::Database& database, jet::Table& table, const std::vector<je
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     mutated::writeFile({data, size});
-    const jet::Database::Options options{.password = QStringLiteral("password")};  // that of a sample
-    if (auto opened = jet::Database::open(QString::fromStdString(mutated::fileName()), options);
-        opened.ok()) {
+    const jet::Database::Options options{.password = "password"};  // that of a sample
+    if (auto opened = jet::Database::open(mutated::fileName(), options); opened.ok()) {
         jet::Database& database = *opened.value();
         if (const auto catalog = database.catalog(); catalog.ok())
             for (const jet::CatalogEntry& entry : catalog.value()) {

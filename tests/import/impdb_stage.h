@@ -22,10 +22,10 @@ class DbStage : public ImportStage {
     /// Adds a table to the source, which is made at its first mention, beside the two of a recipient
     /// database.
     void addTable(const std::string& name, const Columns& columns, const std::vector<Row>& rows) {
-        if (!QFile::exists(source())) esigi(jet::createEmptyDatabase(source()));
-        jettables::addTable(source(), name, columns, {});
+        if (!QFile::exists(source())) esigi(jet::createEmptyDatabase(source().toStdString()));
+        jettables::addTable(source().toStdString(), name, columns, {});
         for (const Row& row : rows)
-            jettables::addRow(source(), QString::fromStdString(name), row);
+            jettables::addRow(source().toStdString(), name, row);
     }
     /// A table "Anagrafe" with the columns "mail" and "nome".
     void addPeople(const std::vector<Row>& rows) {

@@ -168,7 +168,7 @@ class TestImportDb : public QObject {
                                          "campo5", "campo6", "campo7", "campo8", "campo9"};
         const QList<int> limits{70,  70,  70,  15,  10,  70,  2,   255, 15, 15,
                                 255, 255, 255, 255, 255, 255, 255, 255, 255};
-        jettables::addRow(stage.source(), "Anagrafe", row);
+        jettables::addRow(stage.source().toStdString(), "Anagrafe", row);
         QString shown;
         for (int i = 0; i < 300; ++i)
             shown += QChar('a' + i % 26);
@@ -179,14 +179,14 @@ class TestImportDb : public QObject {
                 wide.push_back(static_cast<uint8_t>(letter));
                 wide.push_back(0);
             }
-            auto file = esigi(jet::Database::open(stage.source()));
+            auto file = esigi(jet::Database::open(stage.source().toStdString()));
             jet::RowId id;
-            esigi(esigi(file->table(u"Anagrafe"))->scan([&](jet::RowId found, const jet::RowView&) {
+            esigi(esigi(file->table("Anagrafe"))->scan([&](jet::RowId found, const jet::RowView&) {
                 id = found;
                 return true;
             }));
             file.reset();
-            jettables::setLongValue(stage.source(), "Anagrafe", id, static_cast<size_t>(i + 1), wide,
+            jettables::setLongValue(stage.source().toStdString(), "Anagrafe", id, static_cast<size_t>(i + 1), wide,
                                     jettables::Place::OneRow);
         }
         stage.chooseNode();
@@ -307,7 +307,7 @@ class TestImportDb : public QObject {
 
     void onlySystemTablesGiveAnEmptyListAndAnImportThatStopsAtOnce() {
         DbStage stage;
-        esigi(jet::createEmptyDatabase(stage.source()));
+        esigi(jet::createEmptyDatabase(stage.source().toStdString()));
         QFile file(stage.source());
         QVERIFY(file.open(QIODevice::ReadWrite));
         QByteArray bytes = file.readAll();

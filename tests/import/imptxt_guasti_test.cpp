@@ -20,12 +20,6 @@ QByteArray longList() {
     return lines;
 }
 
-bool isBeginningOfTheList(const QStringList& addresses) {
-    for (int i = 0; i < addresses.size(); ++i)
-        if (addresses[i] != QString("n%1@x.it").arg(i + 1)) return false;
-    return true;
-}
-
 }  // namespace
 
 class TestImportTxtGuasti : public QObject {
@@ -187,6 +181,25 @@ class TestImportTxtGuasti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
+    void aFileThatGrowsMeanwhileIsReadToItsNewEnd() {
+        TxtStage stage;
+        stage.chooseNode(1);
+        const QString path = stage.write("a.txt", longList());
+        stage.map(path, 1);
+        bool grown = false;
+        QTimer::singleShot(0, [&] {
+            QFile file(path);
+            grown = file.open(QIODevice::Append) && file.write("ultimo@x.it\r\n") > 0;
+        });
+        stage.click("cmdImportaTXT");
+        QVERIFY(grown);
+        QStringList addresses = TxtStage::inserted("email");
+        QCOMPARE(addresses.size(), manyLines + 1);
+        QCOMPARE(addresses.takeLast(), "ultimo@x.it");
+        QVERIFY(isBeginningOfTheList(addresses));
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
     void clicksAndKeysDuringTheImportAreThrownAway() {
         TxtStage stage;
         stage.chooseNode(1);
@@ -224,7 +237,7 @@ class TestImportTxtGuasti : public QObject {
         stage.chooseNode(1);
         stage.map(stage.write("a.txt", "a@x.it\r\n"), 1);
         {
-            auto other = esigi(jet::Database::open(stage.folder.database()));
+            auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
             esigi(other->begin());
             ui::MessageDialog::queue(ui::MessageDialog::Ok);
             stage.click("cmdImportaTXT");

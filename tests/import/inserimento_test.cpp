@@ -22,7 +22,7 @@ namespace {
 class InsertedRow : public testing::Test {
   protected:
     InsertedRow() {
-        esigi(jet::createEmptyDatabase(m_dir.filePath("data.mdb")));
+        esigi(jet::createEmptyDatabase(m_dir.filePath("data.mdb").toStdString()));
         connDB = "Provider = Microsoft.Jet.OLEDB.4.0; Data Source = " + m_dir.filePath("data.mdb");
     }
     ~InsertedRow() override {

@@ -13,6 +13,7 @@
 
 #include "jet/OutsideReaders.h"
 #include "platform/jet/Database.h"
+#include "platform/Status.h"
 #include "support/JetChecker.h"
 
 /// A folder of its own and the ways into the engine that the tests share. Failures end the running test.
@@ -22,21 +23,22 @@ class JetTest : public ::testing::Test {
     using Rows = std::map<jet::RowId, Row>;
     using DatabasePtr = std::unique_ptr<jet::Database>;
 
-    QString path(const char* name = "data.mdb") const { return m_folder.filePath(QString::fromUtf8(name)); }
-    static std::string local(const QString& path) { return path.toStdString(); }
+    std::string path(const char* name = "data.mdb") const {
+        return m_folder.filePath(QString::fromUtf8(name)).toStdString();
+    }
 
     /// A fresh empty database, opened.
-    DatabasePtr create(const QString& file) {
+    DatabasePtr create(const std::string& file) {
         const Status status = jet::createEmptyDatabase(file);
         if (!status.ok()) throw std::runtime_error(status.text().toStdString());
         return open(file);
     }
-    static DatabasePtr open(const QString& file, const jet::Database::Options& options = {}) {
+    static DatabasePtr open(const std::string& file, const jet::Database::Options& options = {}) {
         auto database = jet::Database::open(file, options);
         if (!database.ok()) throw std::runtime_error(database.status().text().toStdString());
         return std::move(database).value();
     }
-    static jet::Table& table(jet::Database& database, QStringView name = u"tb_destinatari") {
+    static jet::Table& table(jet::Database& database, std::string_view name = "tb_destinatari") {
         auto found = database.table(name);
         if (!found.ok()) throw std::runtime_error(found.status().text().toStdString());
         return *found.value();
@@ -54,12 +56,12 @@ class JetTest : public ::testing::Test {
         if (!status.ok()) throw std::runtime_error(status.text().toStdString());
         return rows;
     }
-    static std::string bytesOf(const QString& file) {
-        std::ifstream in(local(file), std::ios::binary);
+    static std::string bytesOf(const std::string& file) {
+        std::ifstream in(file, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    static void writeBytes(const QString& file, const std::string& bytes) {
-        std::ofstream out(local(file), std::ios::binary | std::ios::trunc);
+    static void writeBytes(const std::string& file, const std::string& bytes) {
+        std::ofstream out(file, std::ios::binary | std::ios::trunc);
         out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
     /// A recipient with the given name in `rgs`, in group 1.
@@ -75,10 +77,10 @@ class JetTest : public ::testing::Test {
         if (!id.ok()) throw std::runtime_error(id.status().text().toStdString());
         return id.value();
     }
-    static void expectSound(const QString& file) {
-        EXPECT_EQ(checkJetFile(local(file)), std::vector<std::string>()) << local(file);
+    static void expectSound(const std::string& file) {
+        EXPECT_EQ(checkJetFile(file), std::vector<std::string>()) << file;
     }
-    static void expectSoundForAll(const QString& file) {
+    static void expectSoundForAll(const std::string& file) {
         expectSound(file);
         if (const auto findings = sharedCheckerFindings(file)) {
             EXPECT_EQ(*findings, "");
@@ -104,18 +106,18 @@ class JetTest : public ::testing::Test {
         return names;
     }
     /// A copy of the sample, so that nothing can happen to it; empty when there is none.
-    QString copyOf(const char* name) {
+    std::string copyOf(const char* name) {
         const std::string file = sample(name);
         if (file.empty()) return {};
-        std::filesystem::copy_file(file, local(path(name)));
-        std::filesystem::permissions(local(path(name)), std::filesystem::perms(0644));
+        std::filesystem::copy_file(file, path(name));
+        std::filesystem::permissions(path(name), std::filesystem::perms(0644));
         return path(name);
     }
-    static bool isJet3(const QString& file) { return bytesOf(file)[0x14] == 0; }
+    static bool isJet3(const std::string& file) { return bytesOf(file)[0x14] == 0; }
     /// What opens a sample.
     static jet::Database::Options optionsFor(const std::string& name) {
         const bool hasPassword = name.find("with-password") != std::string::npos;
-        return {.password = hasPassword ? QStringLiteral("password") : QString()};
+        return {.password = hasPassword ? "password" : ""};
     }
 
     QTemporaryDir m_folder;

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <filesystem>
 #include <numeric>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <stdexcept>
 #include <vector>
+
+#include "platform/Status.h"
 
 using namespace jet;
 
@@ -19,9 +21,12 @@ const std::string fieldEnd = "~|F|~";
 const std::string rowEnd = "~|R|~";
 const std::string nullMark = "~|N|~";
 
-std::string run(const QString& program, const QStringList& arguments, int* exitCode) {
+std::string run(const QString& program, const std::vector<std::string>& arguments, int* exitCode) {
     QProcess process;
-    process.start(program, arguments);
+    QStringList texts;
+    for (const std::string& argument : arguments)
+        texts << QString::fromStdString(argument);
+    process.start(program, texts);
     if (!process.waitForFinished(60000)) throw std::runtime_error("cannot run " + program.toStdString());
     *exitCode = process.exitCode();
     return process.readAllStandardOutput().toStdString();
@@ -110,15 +115,14 @@ bool isCompared(Type type) {
 
 }  // namespace
 
-std::optional<std::string> sharedCheckerFindings(const QString& file) {
-    const QString checker = QStringLiteral(SHARED_DIR "/tools/jetfsck.py");
-    if (!QFile::exists(checker)) {
-        std::printf("[ SKIPPED  ] %s is not here\n", qPrintable(checker));
+std::optional<std::string> sharedCheckerFindings(const std::string& file) {
+    const std::string checker = SHARED_DIR "/tools/jetfsck.py";
+    if (!std::filesystem::exists(checker)) {
+        std::printf("[ SKIPPED  ] %s is not here\n", checker.c_str());
         return std::nullopt;
     }
     int exitCode = 0;
-    const std::string output =
-        run(QStringLiteral("python3"), {checker, QStringLiteral("fsck"), file}, &exitCode);
+    const std::string output = run(QStringLiteral("python3"), {checker, "fsck", file}, &exitCode);
     return exitCode == 0 ? std::string() : output + "exit code " + std::to_string(exitCode);
 }
 
@@ -136,22 +140,19 @@ std::string joined(const ComparableRow& row) {
     return line;
 }
 
-std::optional<std::vector<ComparableRow>> mdbtoolsTable(const QString& file, const TableDefinition& table) {
+std::optional<std::vector<ComparableRow>> mdbtoolsTable(const std::string& file,
+                                                        const TableDefinition& table) {
     const QString program = QStandardPaths::findExecutable(QStringLiteral("mdb-export"));
     if (program.isEmpty()) {
         std::printf("[ SKIPPED  ] mdb-export is not installed\n");
         return std::nullopt;
     }
-    const auto text = [](const std::string& s) { return QString::fromStdString(s); };
     int exitCode = 0;
-    const std::string output =
-        run(program,
-            {QStringLiteral("-H"), QStringLiteral("-Q"), QStringLiteral("-b"), QStringLiteral("strip"),
-             QStringLiteral("-d"), text(fieldEnd), QStringLiteral("-R"), text(rowEnd), QStringLiteral("-0"),
-             text(nullMark), QStringLiteral("-D"), QStringLiteral("%Y-%m-%d %H:%M:%S"), QStringLiteral("-T"),
-             QStringLiteral("%Y-%m-%d %H:%M:%S"), file, table.name},
-            &exitCode);
-    if (exitCode != 0) throw std::runtime_error("mdb-export failed on " + table.name.toStdString());
+    const std::string output = run(program,
+                                   {"-H", "-Q", "-b", "strip", "-d", fieldEnd, "-R", rowEnd, "-0", nullMark,
+                                    "-D", "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file, table.name},
+                                   &exitCode);
+    if (exitCode != 0) throw std::runtime_error("mdb-export failed on " + table.name);
     // It gives the columns in the order of the definition, which is that of their numbers in users' tables.
     std::vector<size_t> order(table.columns.size());
     std::iota(order.begin(), order.end(), size_t{0});
@@ -169,7 +170,8 @@ std::optional<std::vector<ComparableRow>> mdbtoolsTable(const QString& file, con
     return rows;
 }
 
-std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file, const TableDefinition& table) {
+std::optional<std::multiset<std::string>> mdbtoolsRows(const std::string& file,
+                                                       const TableDefinition& table) {
     const auto rows = mdbtoolsTable(file, table);
     if (!rows) return std::nullopt;
     std::multiset<std::string> lines;

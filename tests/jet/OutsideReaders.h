@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <QString>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,7 +12,7 @@
 
 /// What the page checker of the shared folder finds, empty for nothing; no value when it is not here, which
 /// is told.
-std::optional<std::string> sharedCheckerFindings(const QString& file);
+std::optional<std::string> sharedCheckerFindings(const std::string& file);
 
 /// A row in a form in which two readers can be compared: a text for each column, in the order of SELECT *. It
 /// is empty for a kind that the readers give differently.
@@ -24,10 +23,10 @@ ComparableRow comparableRow(const jet::TableDefinition& table,
 std::string joined(const ComparableRow& row);
 
 /// The rows of a table as mdbtools reads them; no value when mdbtools is not here, which is told.
-std::optional<std::vector<ComparableRow>> mdbtoolsTable(const QString& file,
+std::optional<std::vector<ComparableRow>> mdbtoolsTable(const std::string& file,
                                                         const jet::TableDefinition& table);
 /// The same as lines.
-std::optional<std::multiset<std::string>> mdbtoolsRows(const QString& file,
+std::optional<std::multiset<std::string>> mdbtoolsRows(const std::string& file,
                                                        const jet::TableDefinition& table);
 
 /// The same lines from the engine.

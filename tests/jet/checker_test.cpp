@@ -30,7 +30,7 @@ class CheckerTest : public JetTest {
     void expectFinding(const std::string& part) {
         writeBytes(path(), bytes);
         std::string all;
-        for (const std::string& finding : checkJetFile(local(path())))
+        for (const std::string& finding : checkJetFile(path()))
             all += finding + "\n";
         EXPECT_NE(all.find(part), std::string::npos) << "found: " << all;
     }

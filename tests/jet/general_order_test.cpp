@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 #include <algorithm>
+#include <filesystem>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include "platform/jet/Database.h"
+#include "platform/Status.h"
 
 namespace {
 
@@ -29,8 +31,8 @@ int compare(const char* left, const char* right) {
 /// identity.
 class LeafWalk {
   public:
-    explicit LeafWalk(const QString& path) {
-        QFile file(path);
+    explicit LeafWalk(const std::string& path) {
+        QFile file(QString::fromStdString(path));
         if (file.open(QIODevice::ReadOnly)) m_bytes = file.readAll();
     }
 
@@ -93,9 +95,9 @@ struct RealFileCount {
 };
 
 /// Holds every text index of a real file against the keys that its rows give.
-RealFileCount compareIndexes(const QString& path) {
+RealFileCount compareIndexes(const std::string& path) {
     RealFileCount count;
-    auto database = jet::Database::open(path, {QString(), true});
+    auto database = jet::Database::open(path, {.readOnly = true});
     EXPECT_TRUE(database.ok()) << database.status().text().toStdString();
     if (!database.ok()) return count;
     const LeafWalk leaves(path);
@@ -130,7 +132,7 @@ RealFileCount compareIndexes(const QString& path) {
                     }
                     previous = text;
                 }
-                EXPECT_EQ(made, expected) << entry.name.toStdString() << ": " << text;
+                EXPECT_EQ(made, expected) << entry.name << ": " << text;
                 ++count.keys;
             }
         }
@@ -139,8 +141,8 @@ RealFileCount compareIndexes(const QString& path) {
 }
 
 void testRealFile(const char* name, int leastKeys) {
-    const QString path = QStringLiteral(SHARED_DIR "/mdb/%1").arg(QLatin1String(name));
-    if (!QFile::exists(path)) {
+    const std::string path = std::string(SHARED_DIR "/mdb/") + name;
+    if (!std::filesystem::exists(path)) {
         std::printf("skipped: the sample file %s is not at hand\n", name);
         return;
     }

@@ -26,7 +26,7 @@ class IndexKindsTest : public JetTest {
     Table& reopen() {
         database.reset();
         database = open(path());
-        return table(*database, u"prova");
+        return table(*database, "prova");
     }
     static Row texts(const Value& one, const Value& two = {}, const Value& three = {}) {
         return {one, two, three};
@@ -221,7 +221,7 @@ TEST_F(IndexKindsTest, DescendingTextIsKeptOnceTheFileShowsItsForm) {
     EXPECT_FAILS(ErrorCode::NotSupported, refused);
     EXPECT_TRUE(refused.text().contains(QStringLiteral("decrescenti")));
     database.reset();
-    jettables::addRow(path(), QStringLiteral("prova"), texts(std::string("L'Aquila")));
+    jettables::addRow(path(), "prova", texts(std::string("L'Aquila")));
     t = &reopen();
     EXPECT_OK(t->writable());
     EXPECT_OK(database->begin());

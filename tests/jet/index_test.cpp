@@ -16,14 +16,14 @@ class IndexTest : public JetTest {
     IndexTest() : database(create(path())) {}
 
     void insertIds(const std::vector<int32_t>& ids) {
-        Table& groups = table(*database, u"tb_gruppi");
+        Table& groups = table(*database, "tb_gruppi");
         EXPECT_OK(database->begin());
         for (int32_t id : ids)
             insert(groups, {int64_t{id}, int64_t{0}, std::string("g")});
         EXPECT_OK(database->commit());
     }
     void eraseIds(const std::vector<int32_t>& ids) {
-        Table& groups = table(*database, u"tb_gruppi");
+        Table& groups = table(*database, "tb_gruppi");
         EXPECT_OK(database->begin());
         for (int32_t id : ids) {
             const auto row = groups.findByPrimaryKey(id);
@@ -33,7 +33,7 @@ class IndexTest : public JetTest {
         EXPECT_OK(database->commit());
     }
     void expectFound(int32_t id) {
-        Table& groups = table(*database, u"tb_gruppi");
+        Table& groups = table(*database, "tb_gruppi");
         const auto row = groups.findByPrimaryKey(id);
         ASSERT_TRUE(row.ok() && row.value()) << id;
         EXPECT_EQ(groups.row(*row.value()).value()->integer(0), id);
@@ -53,8 +53,8 @@ TEST_F(IndexTest, HundredThousandAscendingKeys) {
     insertIds(numbers(1, 100001));
     for (int32_t id : {1, 2, 500, 50000, 99999, 100000})
         expectFound(id);
-    EXPECT_FALSE(table(*database, u"tb_gruppi").findByPrimaryKey(100001).value().has_value());
-    EXPECT_FALSE(table(*database, u"tb_gruppi").findByPrimaryKey(0).value().has_value());
+    EXPECT_FALSE(table(*database, "tb_gruppi").findByPrimaryKey(100001).value().has_value());
+    EXPECT_FALSE(table(*database, "tb_gruppi").findByPrimaryKey(0).value().has_value());
     expectSound(path());
 }
 
@@ -73,7 +73,7 @@ TEST_F(IndexTest, HundredThousandRandomKeys) {
     eraseIds({ids.begin() + 60000, ids.end()});
     expectSound(path());
     EXPECT_EQ(rootType(), LeafPage) << "the emptied index did not come back to one leaf";
-    EXPECT_TRUE(rowsOf(table(*database, u"tb_gruppi")).empty());
+    EXPECT_TRUE(rowsOf(table(*database, "tb_gruppi")).empty());
 }
 
 TEST_F(IndexTest, DescendingInsertion) {
@@ -115,7 +115,7 @@ TEST_F(IndexTest, RootPageNumberNeverChanges) {
     insertIds(numbers(1, 30001));
     EXPECT_EQ(rootType(), NodePage);
     database = open(path());
-    EXPECT_EQ(table(*database, u"tb_gruppi").definition().indexes[0].rootPage, 18u);
+    EXPECT_EQ(table(*database, "tb_gruppi").definition().indexes[0].rootPage, 18u);
 }
 
 // Indexes of other kinds on a long: the definition of the empty database is changed before its first row.
@@ -136,7 +136,7 @@ class IndexKindTest : public IndexTest {
         database = open(path());
     }
     void insertAll(const std::vector<Value>& ids) {
-        Table& groups = table(*database, u"tb_gruppi");
+        Table& groups = table(*database, "tb_gruppi");
         EXPECT_OK(database->begin());
         for (const Value& id : ids)
             insert(groups, {id, int64_t{0}, std::string("g")});
@@ -144,7 +144,7 @@ class IndexKindTest : public IndexTest {
         expectSound(path());
     }
     void changeAndEraseAll() {
-        Table& groups = table(*database, u"tb_gruppi");
+        Table& groups = table(*database, "tb_gruppi");
         EXPECT_OK(database->begin());
         int64_t n = 0;
         for (const auto& [id, row] : rowsOf(groups)) {
@@ -166,7 +166,7 @@ class IndexKindTest : public IndexTest {
 
 TEST_F(IndexKindTest, RequiredKeyMustNotBeNull) {
     redefine({}, false);
-    Table& groups = table(*database, u"tb_gruppi");
+    Table& groups = table(*database, "tb_gruppi");
     EXPECT_OK(database->begin());
     const auto outcome = groups.insert(Row{Value(), int64_t{0}, std::string("g")});
     EXPECT_FAILS(ErrorCode::ValueRequired, outcome);
@@ -181,7 +181,7 @@ TEST_F(IndexKindTest, RequiredKeyMustNotBeNull) {
 TEST_F(IndexKindTest, ChangedKeyMustNotBeTaken) {
     redefine({}, false);
     insertAll({int64_t{1}, int64_t{2}});
-    Table& groups = table(*database, u"tb_gruppi");
+    Table& groups = table(*database, "tb_gruppi");
     const RowId two = groups.findByPrimaryKey(2).value().value();
     EXPECT_OK(database->begin());
     const std::pair<size_t, Value> taken{0, int64_t{1}};
@@ -222,9 +222,9 @@ class TreeTest : public JetTest {
   protected:
     TreeTest() {
         create(path()).reset();
-        file = std::make_unique<PageFile>(local(path()), false, PageFile::Limits{});
+        file = std::make_unique<PageFile>(path(), false, PageFile::Limits{});
         file->beginWrite();
-        definition.name = QStringLiteral("prova");
+        definition.name = "prova";
         definition.page = 16;
         index.rootPage = 18;
         index.mapPointer = 17 << 8 | 2;

@@ -27,7 +27,7 @@ class JournalTest : public JetTest {
     }
     ~JournalTest() override { setDiskHook({}); }
 
-    QString journal() const { return path("data.mdb-journal"); }
+    std::string journal() const { return path("data.mdb-journal"); }
 
     // A transaction that touches everything: rows that move, new pages, index splits, deletions.
     Status change(const Database::Options& options = {}) {
@@ -62,7 +62,7 @@ class JournalTest : public JetTest {
             const auto database = Database::open(path());
             EXPECT_OK(database);
         }
-        EXPECT_FALSE(std::filesystem::exists(local(journal())));
+        EXPECT_FALSE(std::filesystem::exists(journal()));
         const std::string now = bytesOf(path());
         EXPECT_TRUE(now == before || now == after) << "neither the state before nor the one after";
         return now == after;
@@ -82,7 +82,7 @@ class JournalTest : public JetTest {
         int status = 0;
         ::waitpid(child, &status, 0);
         ASSERT_EQ(WEXITSTATUS(status), 9);
-        ASSERT_TRUE(std::filesystem::exists(local(journal())));
+        ASSERT_TRUE(std::filesystem::exists(journal()));
     }
 
     std::string before;
@@ -244,13 +244,13 @@ TEST_F(JournalTest, IncompleteJournalIsDiscarded) {
         writeBytes(journal(), junk);
         DatabasePtr database = open(path());
         EXPECT_EQ(rowsOf(table(*database)).size(), 80u);
-        EXPECT_FALSE(std::filesystem::exists(local(journal())));
+        EXPECT_FALSE(std::filesystem::exists(journal()));
         EXPECT_EQ(bytesOf(path()), before);
     }
 }
 
 TEST_F(JournalTest, TornRecordsAreNotPutBack) {
-    const std::string file = local(path());
+    const std::string file = path();
     {
         Journal journalFile(file);
         const OsFile database(file, OsFile::Access::ReadWrite);
@@ -272,15 +272,15 @@ TEST_F(JournalTest, TornRecordsAreNotPutBack) {
     std::string expected = before;
     expected.replace(20 * pageSize, pageSize, std::string(pageSize, '\xEE'));
     EXPECT_EQ(bytesOf(path()), expected);
-    EXPECT_FALSE(std::filesystem::exists(local(journal())));
+    EXPECT_FALSE(std::filesystem::exists(journal()));
 }
 
 TEST_F(JournalTest, JournalHasTheRightsOfTheDatabase) {
-    std::filesystem::permissions(local(path()), std::filesystem::perms(0600));
+    std::filesystem::permissions(path(), std::filesystem::perms(0600));
     DatabasePtr database = open(path());
     EXPECT_OK(database->begin());
     insert(table(*database), recipient(table(*database), "x"));
-    EXPECT_EQ(std::filesystem::status(local(journal())).permissions(), std::filesystem::perms(0600));
+    EXPECT_EQ(std::filesystem::status(journal()).permissions(), std::filesystem::perms(0600));
     database->rollback();
 }
 
@@ -323,7 +323,7 @@ class PowerTest : public JournalTest {
         if (disk.journalThere)
             writeBytes(journal(), disk.journal);
         else
-            std::filesystem::remove(local(journal()));
+            std::filesystem::remove(journal());
     }
 
     static void apply(Disk& disk, const Recorded& step, size_t length) {

@@ -78,15 +78,15 @@ class KeysTest : public JetTest {
         const Reading reading(file);
         for (const CatalogEntry& entry : readCatalog(file)) {
             if (entry.kind != CatalogEntry::Kind::Local) continue;
-            SCOPED_TRACE(entry.name.toStdString());
+            SCOPED_TRACE(entry.name);
             const TableDefinition table =
                 parseDefinition(readDefinition(file, entry.definitionPage), entry.name, entry.definitionPage,
                                 file.header().jet3);
             for (const Index& index : table.indexes) {
-                SCOPED_TRACE(index.name.toStdString());
+                SCOPED_TRACE(index.name);
                 // The order of texts in Access 97 is another one.
                 if (table.jet3 && hasText(table, index)) continue;
-                EXPECT_EQ(whyNotKept(table, index), QString());
+                EXPECT_EQ(whyNotKept(table, index), "");
                 compareIndex(file, table, index, counts);
             }
         }
@@ -119,12 +119,12 @@ class OneKeyTest : public KeysTest {
   protected:
     OneKeyTest() {
         Column column;
-        column.name = QStringLiteral("campo");
+        column.name = "campo";
         column.generalOrder = true;
         column.length = 510;
         definition.columns.push_back(column);
         Index index;
-        index.name = QStringLiteral("chiave");
+        index.name = "chiave";
         index.parts.push_back({0, true});
         definition.indexes.push_back(index);
     }
@@ -203,13 +203,13 @@ TEST_F(OneKeyTest, TrailingBlanksAndCaseAreNotInTheKey) {
 
 TEST_F(OneKeyTest, UnknownOrderOfTextIsRefused) {
     column().type = Type::Text;
-    EXPECT_EQ(whyNotKept(definition, index()), QString());
+    EXPECT_EQ(whyNotKept(definition, index()), "");
     column().generalOrder = false;
-    EXPECT_NE(whyNotKept(definition, index()), QString());
+    EXPECT_NE(whyNotKept(definition, index()), "");
     column().type = Type::Numeric;
-    EXPECT_NE(whyNotKept(definition, index()), QString());
+    EXPECT_NE(whyNotKept(definition, index()), "");
     column().type = static_cast<Type>(17);
-    EXPECT_NE(whyNotKept(definition, index()), QString());
+    EXPECT_NE(whyNotKept(definition, index()), "");
 }
 
 TEST_F(OneKeyTest, DescendingTextAndBinaryHaveToBeShownByTheFile) {

@@ -99,7 +99,7 @@ TEST_F(LockTest, SeveralReadersDoNotDisturbEachOther) {
     const ReadScope scope(*first);
     EXPECT_OK(scope.status());
     DatabasePtr second = open(path(), hasty());
-    EXPECT_OK(second->table(u"tb_gruppi"));
+    EXPECT_OK(second->table("tb_gruppi"));
 }
 
 TEST_F(LockTest, WriterWaitsForReaders) {
@@ -181,10 +181,10 @@ TEST_F(LockTest, ReplacedFileIsFollowed) {
     DatabasePtr other = create(path("altro.mdb"));
     addRow(*other, "nuovo");
     other.reset();
-    std::filesystem::rename(local(path("altro.mdb")), local(path()));
+    std::filesystem::rename(path("altro.mdb"), path());
     EXPECT_TRUE(database->refresh().value());
     EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
-    std::filesystem::remove(local(path()));
+    std::filesystem::remove(path());
     EXPECT_FAILS(ErrorCode::FileNotFound, database->refresh());
     EXPECT_FAILS(ErrorCode::FileNotFound, database->begin());
     create(path()).reset();
@@ -202,11 +202,11 @@ TEST_F(LockTest, StructureChangedByAnotherProgramIsRefusedUntilRefresh) {
     writeBytes(path(), bytes);
     EXPECT_FAILS(ErrorCode::FileInUse, recipients.scan([](RowId, const RowView&) { return true; }));
     EXPECT_TRUE(database->refresh().value());
-    EXPECT_EQ(table(*database).definition().columns[12].name, QStringLiteral("Campo1"));
+    EXPECT_EQ(table(*database).definition().columns[12].name, "Campo1");
 }
 
 TEST_F(LockTest, HeldForeignLockFileForbidsWriting) {
-    const std::string ldb = local(path("data.ldb"));
+    const std::string ldb = path("data.ldb");
     const std::string before = bytesOf(path());
     OtherProcess other([&](auto pause) {
         const int fd = ::open(ldb.c_str(), O_RDWR | O_CREAT, 0666);
@@ -264,7 +264,7 @@ TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
         insert(table(*database), recipient(table(*database), "x"));
     }
     EXPECT_EQ(bytesOf(path()), before);
-    EXPECT_FALSE(std::filesystem::exists(local(path()) + "-journal"));
+    EXPECT_FALSE(std::filesystem::exists(path() + "-journal"));
     DatabasePtr other = open(path(), hasty());
     EXPECT_OK(other->begin());
     other->rollback();

@@ -27,13 +27,13 @@ class LongValueTest : public JetTest {
         database.reset();
         const auto place = [](size_t i) { return static_cast<jettables::Place>(i); };
         for (size_t i = 0; i < places; ++i) {
-            jettables::setLongValue(path(), QStringLiteral("prova"), ids[i], note, utf16(text(i)), place(i));
-            jettables::setLongValue(path(), QStringLiteral("prova"), ids[i], object, bytes(i), place(i));
+            jettables::setLongValue(path(), "prova", ids[i], note, utf16(text(i)), place(i));
+            jettables::setLongValue(path(), "prova", ids[i], object, bytes(i), place(i));
         }
         database = open(path());
     }
 
-    Table& prova() { return table(*database, u"prova"); }
+    Table& prova() { return table(*database, "prova"); }
     static std::string text(size_t i) {
         return "città " + std::to_string(i) + std::string(i == 2 ? 40000 : i * 100, 'x');
     }
@@ -55,7 +55,7 @@ class LongValueTest : public JetTest {
     // Pages that the map of free ones names inside the file.
     size_t freePages() {
         database.reset();
-        PageFile file(local(path()), true, {});
+        PageFile file(path(), true, {});
         const Reading reading(file);
         size_t count = 0;
         UsageMap(file, globalMapPage << 8).forEach([&](uint32_t page) {
@@ -86,10 +86,10 @@ class LongValueTest : public JetTest {
         const std::function<void(PageFile&, const TableDefinition&, std::span<const uint8_t>, RowId)>& work) {
         database.reset();
         {
-            PageFile file(local(path()), false, {});
+            PageFile file(path(), false, {});
             file.beginWrite();
             for (const CatalogEntry& entry : readCatalog(file)) {
-                if (entry.name != u"prova") continue;
+                if (entry.name != "prova") continue;
                 const TableDefinition t = parseDefinition(readDefinition(file, entry.definitionPage),
                                                           entry.name, entry.definitionPage, false);
                 const auto row = RowStore(file, t).find(ids[2]);

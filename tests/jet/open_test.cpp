@@ -9,6 +9,7 @@
 #include "jet/JetFixture.h"
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Header.h"
+#include "platform/jet/JetText.h"
 #include "platform/jet/OsFile.h"
 
 using namespace jet;
@@ -22,7 +23,7 @@ class OpenTest : public JetTest {
         EXPECT_FAILS(code, outcome);
         EXPECT_FALSE(outcome.status().text().isEmpty());
         EXPECT_EQ(bytesOf(path()), bytes);
-        EXPECT_FALSE(std::filesystem::exists(local(path()) + "-journal"));
+        EXPECT_FALSE(std::filesystem::exists(path() + "-journal"));
     }
     std::string emptyBytes() {
         std::string bytes;
@@ -42,13 +43,11 @@ class OpenTest : public JetTest {
             bytes.append(reinterpret_cast<const char*>(page.data()), pageSize);
         return bytes;
     }
-    std::string withPassword(const QString& password) {
+    std::string withPassword(std::u16string_view password) {
         return withHeader([&](Page& page) {
-            for (qsizetype i = 0; i < password.size(); ++i) {
-                page[header::password + 2 * static_cast<size_t>(i)] ^=
-                    static_cast<uint8_t>(password[i].unicode());
-                page[header::password + 2 * static_cast<size_t>(i) + 1] ^=
-                    static_cast<uint8_t>(password[i].unicode() >> 8);
+            for (size_t i = 0; i < password.size(); ++i) {
+                page[header::password + 2 * i] ^= static_cast<uint8_t>(password[i]);
+                page[header::password + 2 * i + 1] ^= static_cast<uint8_t>(password[i] >> 8);
             }
         });
     }
@@ -57,21 +56,20 @@ class OpenTest : public JetTest {
 TEST_F(OpenTest, MissingFileIsNotFound) {
     const auto outcome = Database::open(path());
     EXPECT_FAILS(ErrorCode::FileNotFound, outcome);
-    EXPECT_TRUE(outcome.status().text().contains(path()));
-    EXPECT_FAILS(ErrorCode::FileNotFound,
-                 Database::open(m_folder.filePath(QStringLiteral("nessuna/data.mdb"))));
+    EXPECT_TRUE(outcome.status().text().contains(QString::fromStdString(path())));
+    EXPECT_FAILS(ErrorCode::FileNotFound, Database::open(path("nessuna/data.mdb")));
 }
 
 TEST_F(OpenTest, FolderAndPipeAreNoFiles) {
-    EXPECT_FAILS(ErrorCode::PathAccess, Database::open(m_folder.path()));
-    ASSERT_EQ(::mkfifo(local(path("pipe.mdb")).c_str(), 0600), 0);
+    EXPECT_FAILS(ErrorCode::PathAccess, Database::open(m_folder.path().toStdString()));
+    ASSERT_EQ(::mkfifo(path("pipe.mdb").c_str(), 0600), 0);
     EXPECT_FAILS(ErrorCode::PathAccess, Database::open(path("pipe.mdb")));
 }
 
 TEST_F(OpenTest, UnreadableFileIsAnAccessFailure) {
     create(path()).reset();
-    ASSERT_EQ(::chmod(local(path()).c_str(), 0), 0);
-    ASSERT_EQ(::chmod(local(m_folder.path()).c_str(), 0755), 0);
+    ASSERT_EQ(::chmod(path().c_str(), 0), 0);
+    ASSERT_EQ(::chmod(path("").c_str(), 0755), 0);
     // A process that is not the administrator's, whom nothing is forbidden.
     const pid_t child = ::fork();
     if (child == 0) {
@@ -108,25 +106,24 @@ TEST_F(OpenTest, TruncatedFileIsDamagedWhereverItIsCut) {
 }
 
 TEST_F(OpenTest, PasswordIsAskedFor) {
-    writeBytes(path(), withPassword(QStringLiteral("Segreta€")));
+    writeBytes(path(), withPassword(u"Segreta€"));
     EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path()));
-    EXPECT_FAILS(ErrorCode::InvalidPassword,
-                 Database::open(path(), {.password = QStringLiteral("segreta€")}));
-    const auto wrong = Database::open(path(), {.password = QStringLiteral("sbagliata")});
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path(), {.password = "segreta€"}));
+    const auto wrong = Database::open(path(), {.password = "sbagliata"});
     EXPECT_FALSE(wrong.status().text().contains(QStringLiteral("sbagliata")));
-    EXPECT_OK(Database::open(path(), {.password = QStringLiteral("Segreta€")}));
+    EXPECT_OK(Database::open(path(), {.password = "Segreta€"}));
 }
 
 TEST_F(OpenTest, PasswordOfTwentyCharactersFillsItsField) {
-    const QString longest = QStringLiteral("12345678901234567890");
-    writeBytes(path(), withPassword(longest));
+    const std::string longest = "12345678901234567890";
+    writeBytes(path(), withPassword(toUtf16(longest)));
     EXPECT_OK(Database::open(path(), {.password = longest}));
-    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path(), {.password = longest.left(19)}));
+    EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path(), {.password = longest.substr(0, 19)}));
 }
 
 TEST_F(OpenTest, PasswordGivenToAFileWithoutOneIsIgnored) {
     writeBytes(path(), emptyBytes());
-    EXPECT_OK(Database::open(path(), {.password = QStringLiteral("qualcosa")}));
+    EXPECT_OK(Database::open(path(), {.password = "qualcosa"}));
 }
 
 TEST_F(OpenTest, EncodedFileIsReadAndWritten) {
@@ -172,7 +169,7 @@ TEST_F(OpenTest, CatalogueListsTablesAndMarksSystemOnes) {
     std::vector<std::string> user;
     for (const CatalogEntry& entry : catalog.value()) {
         EXPECT_EQ(entry.kind, CatalogEntry::Kind::Local);
-        (entry.system ? system : user).push_back(entry.name.toStdString());
+        (entry.system ? system : user).push_back(entry.name);
     }
     EXPECT_EQ(system,
               (std::vector<std::string>{"MSysACEs", "MSysObjects", "MSysQueries", "MSysRelationships"}));
@@ -181,22 +178,21 @@ TEST_F(OpenTest, CatalogueListsTablesAndMarksSystemOnes) {
 
 TEST_F(OpenTest, TableIsFoundWithoutRegardToCase) {
     DatabasePtr database = create(path());
-    EXPECT_EQ(&table(*database, u"TB_Gruppi"), &table(*database, u"tb_gruppi"));
-    EXPECT_FAILS(ErrorCode::TableNotFound, database->table(u"tb_altro"));
+    EXPECT_EQ(&table(*database, "TB_Gruppi"), &table(*database, "tb_gruppi"));
+    EXPECT_FAILS(ErrorCode::TableNotFound, database->table("tb_altro"));
 }
 
 TEST_F(OpenTest, NewDatabaseReplacesNothing) {
     writeBytes(path(), "mio");
     EXPECT_FAILS(ErrorCode::PathAccess, createEmptyDatabase(path()));
     EXPECT_EQ(bytesOf(path()), "mio");
-    EXPECT_FAILS(ErrorCode::FileNotFound,
-                 createEmptyDatabase(m_folder.filePath(QStringLiteral("nessuna/data.mdb"))));
+    EXPECT_FAILS(ErrorCode::FileNotFound, createEmptyDatabase(path("nessuna/data.mdb")));
 }
 
 TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {
     create(path()).reset();
     const std::string before = bytesOf(path());
-    const auto time = std::filesystem::last_write_time(local(path()));
+    const auto time = std::filesystem::last_write_time(path());
     {
         DatabasePtr database = open(path());
         rowsOf(table(*database));
@@ -204,7 +200,7 @@ TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {
         EXPECT_OK(database->commit());  // nothing was changed
     }
     EXPECT_EQ(bytesOf(path()), before);
-    EXPECT_EQ(std::filesystem::last_write_time(local(path())), time);
+    EXPECT_EQ(std::filesystem::last_write_time(path()), time);
 }
 
 // Everything that a hostile file can do is answered by an error or by rows, soon and without a crash.
@@ -269,7 +265,7 @@ class DamageTest : public OpenTest {
         return fine;
     }
     bool write(Database& database) {
-        auto found = database.table(u"tb_destinatari");
+        auto found = database.table("tb_destinatari");
         if (!found.ok() || !database.begin().ok()) return false;
         Table& t = *found.value();
         bool fine = true;
@@ -330,7 +326,7 @@ TEST_F(DamageTest, DefinitionThatPointsToItselfIsDamaged) {
     bytes.replace(19 * 4096 + 4, 4, std::string("\x13\0\0\0", 4));
     writeBytes(path(), bytes);
     DatabasePtr database = open(path());
-    EXPECT_FAILS(ErrorCode::DamagedDatabase, database->table(u"tb_destinatari"));
+    EXPECT_FAILS(ErrorCode::DamagedDatabase, database->table("tb_destinatari"));
 }
 
 TEST_F(DamageTest, MovedRowThatPointsToItselfIsDamaged) {

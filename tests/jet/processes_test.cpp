@@ -43,7 +43,7 @@ class ProcessesTest : public JetTest {
     // transaction.
     class Writer {
       public:
-        Writer(const QString& file, int number)
+        Writer(const std::string& file, int number)
             : m_number(number), m_random(static_cast<unsigned>(number + 1)) {
             m_database = open(file, {.cachedPages = number % 2 ? 4u : 8192u});
         }

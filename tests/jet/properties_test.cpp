@@ -45,9 +45,9 @@ class PropertiesTest : public JetTest {
     }
     static TableDefinition definition() {
         TableDefinition table;
-        for (const char16_t* name : {u"uno", u"due"}) {
+        for (const char* name : {"uno", "due"}) {
             Column column;
-            column.name = QString::fromUtf16(name);
+            column.name = name;
             column.type = Type::Text;
             table.columns.push_back(column);
         }
@@ -56,9 +56,9 @@ class PropertiesTest : public JetTest {
     Table& makeTable(const Bytes& list) {
         create(path()).reset();
         jettables::addTable(path(), "prova", {{"uno", Type::Text, 20}, {"due", Type::Long}}, {});
-        jettables::setProperties(path(), QStringLiteral("prova"), list);
+        jettables::setProperties(path(), "prova", list);
         database = open(path());
-        return table(*database, u"prova");
+        return table(*database, "prova");
     }
 
     DatabasePtr database;

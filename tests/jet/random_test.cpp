@@ -152,7 +152,7 @@ class RandomTest : public JetTest {
         }
     }
 
-    static void expectAgreement(const QString& file, Subject& subject) {
+    static void expectAgreement(const std::string& file, Subject& subject) {
         ASSERT_TRUE(shown(subject.t) == subject.model) << "the file does not hold what was written";
         expectSound(file);
         if (const auto rows = mdbtoolsRows(file, subject.t.definition())) {
@@ -160,7 +160,7 @@ class RandomTest : public JetTest {
         }
     }
 
-    void changeMuch(const QString& file, Database& database, QStringView name) {
+    void changeMuch(const std::string& file, Database& database, std::string_view name) {
         Subject subject(table(database, name));
         for (int done = 0; done < changes; done += perTransaction) {
             changeHundred(database, subject);
@@ -172,13 +172,13 @@ class RandomTest : public JetTest {
 
     struct Place {
         std::string file;
-        QString table;
+        std::string table;
     };
     // Every user's table of the copies in which something can be changed.
     std::vector<Place> changeablePlaces() {
         std::vector<Place> places;
         for (const std::string& name : samples()) {
-            const QString file = copyOf(name.c_str());
+            const std::string file = copyOf(name.c_str());
             if (isJet3(file)) continue;
             DatabasePtr database = open(file, optionsFor(name));
             for (const CatalogEntry& listed : database->catalog().value()) {
@@ -198,15 +198,15 @@ class RandomTest : public JetTest {
 
 TEST_F(RandomTest, GeneratedFileStaysSoundAndReadable) {
     DatabasePtr database = create(path());
-    changeMuch(path(), *database, u"tb_destinatari");
-    changeMuch(path(), *database, u"tb_gruppi");
+    changeMuch(path(), *database, "tb_destinatari");
+    changeMuch(path(), *database, "tb_gruppi");
     expectSoundForAll(path());
 }
 
 TEST_F(RandomTest, SmallCacheMakesNoDifference) {
     create(path()).reset();
     DatabasePtr database = open(path(), {.cachedPages = 6});
-    changeMuch(path(), *database, u"tb_destinatari");
+    changeMuch(path(), *database, "tb_destinatari");
     expectSoundForAll(path());
 }
 
@@ -219,8 +219,8 @@ TEST_F(RandomTest, RealFilesStaySoundAndReadable) {
     std::set<std::string> files;
     for (int done = 0; done < operations(); done += perTransaction) {
         const Place& place = places[static_cast<size_t>(done / perTransaction) % places.size()];
-        SCOPED_TRACE(place.file + " " + place.table.toStdString());
-        const QString file = path(place.file.c_str());
+        SCOPED_TRACE(place.file + " " + place.table);
+        const std::string file = path(place.file.c_str());
         DatabasePtr database = open(file, optionsFor(place.file));
         Subject subject(table(*database, place.table));
         changeHundred(*database, subject);

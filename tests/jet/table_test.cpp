@@ -34,13 +34,13 @@ TEST_F(TableTest, ColumnsStandInDisplayOrderWithTheirLengths) {
                            "prov",   "tel",    "fax",    "email",  "campo1", "campo2", "campo3", "campo4",
                            "campo5", "campo6", "campo7", "campo8", "campo9", "sel"};
     for (size_t i = 0; i < 22; ++i)
-        EXPECT_EQ(columns[i].name.toStdString(), names[i]);
+        EXPECT_EQ(columns[i].name, names[i]);
     EXPECT_TRUE(columns[0].autoNumber);
     EXPECT_EQ(columns[2].length, 140);
     EXPECT_EQ(columns[8].length, 4);
     EXPECT_EQ(columns[21].type, Type::YesNo);
     EXPECT_EQ(recipients.definition().longPrimaryKey(), 0u);
-    EXPECT_EQ(recipients.definition().find(u"EMAIL"), 11u);
+    EXPECT_EQ(recipients.definition().find("EMAIL"), 11u);
 }
 
 TEST_F(TableTest, AutoNumberCountsFromOne) {
@@ -305,7 +305,7 @@ TEST_F(TableTest, RolledBackTransactionLeavesNoTrace) {
     database->rollback();
     EXPECT_EQ(rowsOf(recipients).size(), 1u);
     EXPECT_EQ(bytesOf(path()), before);
-    EXPECT_FALSE(std::filesystem::exists(local(path()) + "-journal"));
+    EXPECT_FALSE(std::filesystem::exists(path() + "-journal"));
     EXPECT_EQ(stored(change([&] { return insert(recipients, recipient(recipients, "z")); }))[0],
               Value(int64_t{2}));
 }
@@ -329,7 +329,7 @@ TEST_F(TableTest, LargeTransactionWritesAheadAndCanStillBeUndone) {
 }
 
 TEST_F(TableTest, SystemTablesAreRefused) {
-    EXPECT_FAILS(ErrorCode::NotSupported, table(*database, u"MSysObjects").writable());
+    EXPECT_FAILS(ErrorCode::NotSupported, table(*database, "MSysObjects").writable());
     const size_t column = 0;
-    EXPECT_FAILS(ErrorCode::NotSupported, table(*database, u"MSysACEs").updatable(std::span(&column, 1)));
+    EXPECT_FAILS(ErrorCode::NotSupported, table(*database, "MSysACEs").updatable(std::span(&column, 1)));
 }

@@ -13,7 +13,7 @@ class UsageMapTest : public JetTest {
   protected:
     UsageMapTest() {
         create(path()).reset();
-        file = std::make_unique<PageFile>(local(path()), false, PageFile::Limits{});
+        file = std::make_unique<PageFile>(path(), false, PageFile::Limits{});
         file->beginWrite();
     }
     ~UsageMapTest() override { file->rollback(); }

@@ -26,7 +26,7 @@ class TestDatabase : public QObject {
 
     static QString otherDatabase(const StoreStage& stage) {
         const QString path = stage.folder.path("altra.mdb");
-        if (!jet::createEmptyDatabase(path).ok()) qFatal("no other database");
+        if (!jet::createEmptyDatabase(path.toStdString()).ok()) qFatal("no other database");
         return path;
     }
     static QByteArray pathFile(const StoreStage& stage) {

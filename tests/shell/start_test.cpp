@@ -320,7 +320,7 @@ class TestStart : public QObject {
         const QTemporaryDir user;
         const QString folder = user.filePath("vestrola");
         QVERIFY(sys::fillProgramFolder(folder, TEST_DATA_DIR "/../../assets/templates").ok());
-        QVERIFY(jet::createEmptyDatabase(folder + "/data/data.mdb").ok());
+        QVERIFY(jet::createEmptyDatabase((folder + "/data/data.mdb").toStdString()).ok());
         sys::setProgramFolder(folder);
         start();
         QCOMPARE(percorsoDB, folder + "/data/data.mdb");

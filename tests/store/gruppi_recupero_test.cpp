@@ -118,7 +118,7 @@ class TestGruppiRecupero : public QObject {
         QVERIFY(text.open(QIODevice::WriteOnly));
         text.write("testo");
         text.close();
-        QVERIFY(jet::createEmptyDatabase(stage.folder.path("gruppi.mdb")).ok());
+        QVERIFY(jet::createEmptyDatabase(stage.folder.path("gruppi.mdb").toStdString()).ok());
         renameInFile(stage.folder.path("gruppi.mdb"), "tb_destinatari", "tb_destinatarx");
         stage.folder.hideDatabase();
         MessageDialog::queue(MessageDialog::Ok);

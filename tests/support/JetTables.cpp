@@ -23,18 +23,18 @@ namespace jettables {
 
 namespace {
 
-void change(const QString& path, const std::function<void(PageFile&)>& work) {
-    PageFile file(path.toStdString(), false, {});
+void change(const std::string& path, const std::function<void(PageFile&)>& work) {
+    PageFile file(path, false, {});
     file.beginWrite();
     work(file);
     file.commit();
 }
 
-TableDefinition definitionAt(PageFile& file, const QString& name, uint32_t page) {
+TableDefinition definitionAt(PageFile& file, const std::string& name, uint32_t page) {
     return parseDefinition(readDefinition(file, page), name, page, false);
 }
 
-CatalogEntry entryOf(PageFile& file, const QString& name) {
+CatalogEntry entryOf(PageFile& file, const std::string& name) {
     for (const CatalogEntry& entry : readCatalog(file))
         if (entry.name == name) return entry;
     fail(ErrorCode::TableNotFound, name);
@@ -94,19 +94,19 @@ void addRowTo(PageFile& file, const TableDefinition& table, const jet::Row& row)
 }
 
 void addToCatalog(PageFile& file, const std::string& name, uint32_t page) {
-    const TableDefinition objects = definitionAt(file, QStringLiteral("MSysObjects"), catalogPage);
+    const TableDefinition objects = definitionAt(file, "MSysObjects", catalogPage);
     jet::Row row(objects);
-    const auto set = [&](const char16_t* column, const Value& value) {
+    const auto set = [&](const char* column, const Value& value) {
         row.set(objects.columns[objects.find(column).value()], value);
     };
-    set(u"Id", int64_t{page});
-    set(u"ParentId", int64_t{0x0F000001});
-    set(u"Name", name);
-    set(u"Type", int64_t{1});
-    set(u"Flags", int64_t{0});
-    set(u"DateCreate", Date{38143});
-    set(u"DateUpdate", Date{38143});
-    set(u"Owner", Bytes{0xA6, 0x33});
+    set("Id", int64_t{page});
+    set("ParentId", int64_t{0x0F000001});
+    set("Name", name);
+    set("Type", int64_t{1});
+    set("Flags", int64_t{0});
+    set("DateCreate", Date{38143});
+    set("DateUpdate", Date{38143});
+    set("Owner", Bytes{0xA6, 0x33});
     addRowTo(file, objects, row);
 }
 
@@ -158,7 +158,7 @@ void setStored(PageFile& file, TableDefinition table, RowId id, size_t position,
 
 }  // namespace
 
-void addTable(const QString& path, const std::string& name, const std::vector<Column>& columns,
+void addTable(const std::string& path, const std::string& name, const std::vector<Column>& columns,
               const std::vector<Index>& indexes) {
     change(path, [&](PageFile& file) {
         const uint32_t page = GlobalMap(file).take();
@@ -199,15 +199,15 @@ void addTable(const QString& path, const std::string& name, const std::vector<Co
     });
 }
 
-void setLongValue(const QString& path, const QString& name, RowId id, size_t position, const Bytes& bytes,
-                  Place place) {
+void setLongValue(const std::string& path, const std::string& name, RowId id, size_t position,
+                  const Bytes& bytes, Place place) {
     change(path, [&](PageFile& file) {
         const TableDefinition table = definitionAt(file, name, entryOf(file, name).definitionPage);
         setStored(file, table, id, position, stored(file, table.columns[position], bytes, place));
     });
 }
 
-void addRow(const QString& path, const QString& name, const std::vector<Value>& values) {
+void addRow(const std::string& path, const std::string& name, const std::vector<Value>& values) {
     change(path, [&](PageFile& file) {
         const TableDefinition table = definitionAt(file, name, entryOf(file, name).definitionPage);
         jet::Row row(table);
@@ -217,10 +217,10 @@ void addRow(const QString& path, const QString& name, const std::vector<Value>& 
     });
 }
 
-void setProperties(const QString& path, const QString& name, const Bytes& list) {
+void setProperties(const std::string& path, const std::string& name, const Bytes& list) {
     change(path, [&](PageFile& file) {
-        const TableDefinition objects = definitionAt(file, QStringLiteral("MSysObjects"), catalogPage);
-        const size_t position = objects.find(u"LvProp").value();
+        const TableDefinition objects = definitionAt(file, "MSysObjects", catalogPage);
+        const size_t position = objects.find("LvProp").value();
         setStored(file, objects, entryOf(file, name).place, position,
                   stored(file, objects.columns[position], list, Place::InRow));
     });

@@ -23,18 +23,18 @@ struct Index {
 
 /// Adds an empty table. Columns have the display position and number of their place in the list. No index is
 /// a primary key.
-void addTable(const QString& file, const std::string& name, const std::vector<Column>& columns,
+void addTable(const std::string& file, const std::string& name, const std::vector<Column>& columns,
               const std::vector<Index>& indexes);
 
 /// Adds a row and its index entries without asking whether the engine would.
-void addRow(const QString& file, const QString& name, const std::vector<jet::Value>& values);
+void addRow(const std::string& file, const std::string& name, const std::vector<jet::Value>& values);
 
 /// Sets the property list (LvProp) of a table.
-void setProperties(const QString& file, const QString& name, const jet::Bytes& list);
+void setProperties(const std::string& file, const std::string& name, const jet::Bytes& list);
 
 enum class Place { InRow, OneRow, Chain };
 /// Gives a memo or OLE column (by position) of a row that has Null there these bytes, stored at that place.
-void setLongValue(const QString& file, const QString& name, jet::RowId row, size_t column,
+void setLongValue(const std::string& file, const std::string& name, jet::RowId row, size_t column,
                   const jet::Bytes& bytes, Place place);
 
 }  // namespace jettables

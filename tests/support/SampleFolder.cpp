@@ -36,11 +36,11 @@ void write(const QString& path, const QByteArray& content) {
 SampleFolder::SampleFolder() {
     QDir(m_dir.path()).mkdir("data");
     sys::setProgramFolder(m_dir.path() + '/');
-    esigi(jet::createEmptyDatabase(database()));
-    auto file = esigi(jet::Database::open(database()));
+    esigi(jet::createEmptyDatabase(database().toStdString()));
+    auto file = esigi(jet::Database::open(database().toStdString()));
     esigi(file->begin());
     const jet::Value group[] = {{}, int64_t{0}, std::string("Clienti")};
-    esigi(esigi(file->table(u"tb_gruppi"))->insert(group));
+    esigi(esigi(file->table("tb_gruppi"))->insert(group));
     esigi(file->commit());
     CambiaPercorsoDBase(database());
     CaricaPercorsoDBase();
@@ -56,8 +56,8 @@ SampleFolder::~SampleFolder() {
 }
 
 int SampleFolder::addRecipients(const QList<Columns>& recipients) {
-    auto file = esigi(jet::Database::open(database()));
-    jet::Table* table = esigi(file->table(u"tb_destinatari"));
+    auto file = esigi(jet::Database::open(database().toStdString()));
+    jet::Table* table = esigi(file->table("tb_destinatari"));
     esigi(file->begin());
     int first = 0;
     for (const Columns& columns : recipients) {

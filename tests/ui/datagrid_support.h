@@ -17,7 +17,7 @@
 class TestList {
   public:
     TestList() {
-        const Status status = jet::createEmptyDatabase(path());
+        const Status status = jet::createEmptyDatabase(path().toStdString());
         if (!status.ok()) qFatal("%s", qUtf8Printable(status.text()));
     }
     ~TestList() { ado::closeAll(); }

@@ -15,13 +15,14 @@ namespace {
 using jet::Type;
 
 Status mismatch(const jet::Column& column) {
-    return {ErrorCode::TypeMismatch,
-            QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".").arg(column.name)};
+    return {ErrorCode::TypeMismatch, QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".")
+                                         .arg(QString::fromStdString(column.name))};
 }
 
 Status overflow(const jet::Column& column) {
-    return {ErrorCode::Overflow,
-            QStringLiteral("Valore troppo grande per il campo \"%1\".").arg(column.name)};
+    return {
+        ErrorCode::Overflow,
+        QStringLiteral("Valore troppo grande per il campo \"%1\".").arg(QString::fromStdString(column.name))};
 }
 
 Result<jet::Value> fitInteger(const Value& value, const jet::Column& column, int64_t least,

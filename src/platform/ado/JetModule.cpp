@@ -9,6 +9,7 @@
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Session.h"
+#include "platform/ado/SqlTokens.h"
 
 namespace ado {
 
@@ -44,10 +45,6 @@ Table& tableOf(Cursor& cursor) {
     return tableOf(cursor.base.pVtab);
 }
 
-QByteArray quoted(const QString& name) {
-    return '"' + QString(name).replace(QLatin1Char('"'), QLatin1String("\"\"")).toUtf8() + '"';
-}
-
 /// The declared type gives SQLite the affinity, and a recordset the type of a result column.
 const char* declaredType(Type type) {
     switch (type) {
@@ -78,13 +75,13 @@ const char* declaredType(Type type) {
 int connect(sqlite3* sqlite, void* client, int, const char* const*, sqlite3_vtab** result, char**) {
     auto& session = *static_cast<Session*>(client);
     JetTable* rows = session.declaring();
-    QByteArray declaration = "CREATE TABLE t(";
+    std::string declaration = "CREATE TABLE t(";
     for (const jet::Column& column : rows->definition().columns) {
-        if (!declaration.endsWith('(')) declaration += ',';
-        declaration += quoted(column.name) + ' ' + declaredType(column.type);
+        if (!declaration.ends_with('(')) declaration += ',';
+        declaration += quotedName(column.name) + ' ' + declaredType(column.type);
     }
     declaration += ')';
-    const int code = sqlite3_declare_vtab(sqlite, declaration.constData());
+    const int code = sqlite3_declare_vtab(sqlite, declaration.c_str());
     if (code != SQLITE_OK) return code;
     *result = reinterpret_cast<sqlite3_vtab*>(new Table{{}, &session, rows});
     return SQLITE_OK;

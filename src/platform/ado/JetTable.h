@@ -6,6 +6,7 @@
 
 #include "platform/ado/RowOrder.h"
 #include "platform/jet/Database.h"
+#include "platform/Status.h"
 
 namespace ado {
 

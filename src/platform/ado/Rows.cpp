@@ -10,7 +10,7 @@ namespace {
 /// A name for a row's identity that no column of the table hides.
 const char* identityName(const jet::TableDefinition& table) {
     for (const char* name : {"rowid", "oid", "_rowid_"})
-        if (!table.find(QString::fromLatin1(name))) return name;
+        if (!table.find(name)) return name;
     return nullptr;
 }
 
@@ -26,7 +26,7 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
         rows->m_table = table.value();
         statement.sql.replace(*statement.star, 1, identity);
         for (const jet::Column& column : definition.columns)
-            rows->m_names.push_back(column.name);
+            rows->m_names.push_back(QString::fromStdString(column.name));
     }
     Result<Prepared> prepared = session->prepare(statement.sql, rows->m_literals);
     if (!prepared.ok()) return prepared.status();

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <QFile>
 #include <QFileInfo>
 
 #include "platform/ado/ConnectionText.h"
 #include "platform/ado/JetModule.h"
 #include "platform/ado/Rows.h"
+#include "platform/ado/SqlTokens.h"
 #include "platform/jet/GeneralOrder.h"
 
 namespace ado {
@@ -74,16 +76,17 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
     if (!parsed.ok()) return parsed.status();
     const ConnectionText& target = parsed.value();
     const QString canonical = QFileInfo(target.path).canonicalFilePath();
+    const std::string native = QFile::encodeName(canonical.isEmpty() ? target.path : canonical).toStdString();
     auto& entries = pool();
     const auto known = std::find_if(entries.begin(), entries.end(),
                                     [&](const auto& entry) { return entry.path == canonical; });
     jet::Database::Options options;
-    options.password = target.password;
+    options.password = target.password.toStdString();
     options.cachedPages = cachedPages;
     if (known != entries.end()) {
         if (known->password != target.password) {
             known->session->commitGroup();
-            const auto probe = jet::Database::open(canonical, options);
+            const auto probe = jet::Database::open(native, options);
             if (!probe.ok()) return probe.status();
         }
         const Status status = known->session->refresh();
@@ -94,7 +97,7 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
         }
         entries.erase(known);
     }
-    auto database = jet::Database::open(canonical.isEmpty() ? target.path : canonical, options);
+    auto database = jet::Database::open(native, options);
     if (!database.ok()) return database.status();
     std::shared_ptr<Session> session(new Session(std::move(database).value()));
     if (Status status = session->start(); !status.ok()) return status;
@@ -154,7 +157,7 @@ void Session::forget() {
 Result<JetTable*> Session::table(const QString& name) {
     const std::string key = name.toLower().toStdString();
     if (const auto known = m_tables.find(key); known != m_tables.end()) return known->second.get();
-    const Result<jet::Table*> found = m_database->table(name);
+    const Result<jet::Table*> found = m_database->table(name.toStdString());
     if (!found.ok()) return found.status();
     // Some of the system's own are marked by nothing but their name.
     if (found.value()->definition().system || name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
@@ -166,15 +169,15 @@ Result<JetTable*> Session::table(const QString& name) {
 }
 
 Status Session::declare(JetTable& table) {
-    const QByteArray name = QString(table.definition().name).replace(u'"', QLatin1String("\"\"")).toUtf8();
+    const std::string declaration =
+        "CREATE VIRTUAL TABLE " + quotedName(table.definition().name) + " USING jet";
     m_declaring = &table;
-    const int code =
-        sqlite3_exec(m_sqlite, "CREATE VIRTUAL TABLE \"" + name + "\" USING jet", nullptr, nullptr, nullptr);
+    const int code = sqlite3_exec(m_sqlite, declaration.c_str(), nullptr, nullptr, nullptr);
     m_declaring = nullptr;
     if (code == SQLITE_OK) return {};
     return {ErrorCode::NotSupported,
             QStringLiteral("La tabella \"%1\" non può essere usata nelle istruzioni SQL.")
-                .arg(table.definition().name)};
+                .arg(QString::fromStdString(table.definition().name))};
 }
 
 int Session::authorize(void* client, int action, const char* first, const char* second, const char* database,

@@ -95,6 +95,13 @@ Result<std::vector<SqlToken>> splitSql(const QByteArray& bytes) {
     return tokens;
 }
 
+std::string quotedName(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char c : name)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + '"';
+}
+
 Status refusedStatement(const QString& what) {
     return {ErrorCode::NotSupported, QStringLiteral("Istruzione SQL non ammessa: %1.").arg(what)};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct SqlToken {
 /// between number signs. Fails with SyntaxError for what is not closed, NotSupported for comments, parameters
 /// and NUL.
 Result<std::vector<SqlToken>> splitSql(const QByteArray& sql);
+
+/// A name as SQLite takes it, whatever it holds.
+std::string quotedName(std::string_view name);
 
 Status refusedStatement(const QString& what);
 Status wrongStatement(const QString& what);

@@ -5,6 +5,7 @@
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/Failure.h"
 #include "platform/jet/LongValue.h"
+#include "platform/jet/Names.h"
 #include "platform/jet/Row.h"
 #include "platform/jet/RowStore.h"
 
@@ -23,13 +24,12 @@ bool isListed(int64_t type) {
 }
 
 TableDefinition objectsDefinition(PageFile& file) {
-    return parseDefinition(readDefinition(file, catalogPage), QStringLiteral("MSysObjects"), catalogPage,
-                           file.header().jet3);
+    return parseDefinition(readDefinition(file, catalogPage), "MSysObjects", catalogPage, file.header().jet3);
 }
 
-size_t columnOf(const TableDefinition& objects, const char16_t* name) {
+size_t columnOf(const TableDefinition& objects, std::string_view name) {
     const std::optional<size_t> found = objects.find(name);
-    if (!found) failDamaged(QStringLiteral("il catalogo non è leggibile"));
+    if (!found) failDamaged("il catalogo non è leggibile");
     return *found;
 }
 
@@ -37,31 +37,27 @@ size_t columnOf(const TableDefinition& objects, const char16_t* name) {
 
 std::vector<CatalogEntry> readCatalog(PageFile& file) {
     const TableDefinition objects = objectsDefinition(file);
-    const size_t id = columnOf(objects, u"Id");
-    const size_t name = columnOf(objects, u"Name");
-    const size_t type = columnOf(objects, u"Type");
-    const size_t flags = columnOf(objects, u"Flags");
+    const size_t id = columnOf(objects, "Id");
+    const size_t name = columnOf(objects, "Name");
+    const size_t type = columnOf(objects, "Type");
+    const size_t flags = columnOf(objects, "Flags");
 
     std::vector<CatalogEntry> entries;
-    std::string text;
     RowStore(file, objects).scan([&](RowId place, std::span<const uint8_t> bytes) {
         const RowView row(&objects, bytes);
         const int64_t kind = row.integer(type);
         if (!isListed(kind)) return true;
-        text.clear();
-        row.text(name, text);
         CatalogEntry entry;
-        entry.name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        row.text(name, entry.name);
         entry.kind = kindOf(kind);
-        entry.system =
-            (row.integer(flags) & 0x80000002) != 0 || entry.name.startsWith(u"MSys", Qt::CaseInsensitive);
+        entry.system = (row.integer(flags) & 0x80000002) != 0 || sameName(entry.name.substr(0, 4), "MSys");
         entry.definitionPage = static_cast<uint32_t>(row.integer(id)) & 0xFFFFFF;
         entry.place = place;
         entries.push_back(std::move(entry));
         return true;
     });
     std::stable_sort(entries.begin(), entries.end(), [](const CatalogEntry& a, const CatalogEntry& b) {
-        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+        return compareNames(a.name, b.name) < 0;
     });
     return entries;
 }
@@ -70,7 +66,7 @@ Bytes readProperties(PageFile& file, const CatalogEntry& entry) {
     const TableDefinition objects = objectsDefinition(file);
     const std::optional<RowStore::Stored> row = RowStore(file, objects).find(entry.place);
     if (!row) return {};
-    const Column& column = objects.columns[columnOf(objects, u"LvProp")];
+    const Column& column = objects.columns[columnOf(objects, "LvProp")];
     const StoredField field = storedField(objects, column, row->bytes);
     if (field.null) return {};
     try {

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/jet/Format.h"
+#include "platform/jet/JetText.h"
 
 namespace jet {
 
@@ -21,14 +22,13 @@ std::optional<Span> take(Span& rest, size_t length) {
     return taken;
 }
 
-std::optional<QString> takeName(Span& rest) {
+std::optional<std::string> takeName(Span& rest) {
     const auto length = take(rest, 2);
     if (!length) return std::nullopt;
     const auto units = take(rest, load16(length->data()));
     if (!units) return std::nullopt;
-    QString name;
-    for (size_t i = 0; i + 1 < units->size(); i += 2)
-        name += QChar(load16(&(*units)[i]));
+    std::string name;
+    appendPlainUtf8(*units, name);
     return name;
 }
 
@@ -41,7 +41,7 @@ std::optional<Span> takeBlock(Span& rest, size_t width) {
     return block ? std::optional(block->subspan(width)) : std::nullopt;
 }
 
-void applyToColumn(Span chunk, const std::vector<QString>& names, TableDefinition& table) {
+void applyToColumn(Span chunk, const std::vector<std::string>& names, TableDefinition& table) {
     auto nameBlock = takeBlock(chunk, 4);
     const auto name = nameBlock ? takeName(*nameBlock) : std::nullopt;
     const auto position = name ? table.find(*name) : std::nullopt;
@@ -53,8 +53,8 @@ void applyToColumn(Span chunk, const std::vector<QString>& names, TableDefinitio
         const size_t which = load16(&(*property)[2]);
         const bool yes = (*property)[head] != 0;
         if (which >= names.size() || static_cast<Type>((*property)[1]) != Type::YesNo) continue;
-        if (names[which] == QLatin1String("Required")) column.required = yes;
-        if (names[which] == QLatin1String("AllowZeroLength")) column.allowZeroLength = yes;
+        if (names[which] == "Required") column.required = yes;
+        if (names[which] == "AllowZeroLength") column.allowZeroLength = yes;
     }
 }
 
@@ -63,7 +63,7 @@ void applyToColumn(Span chunk, const std::vector<QString>& names, TableDefinitio
 void applyProperties(Span list, TableDefinition& table) {
     const auto mark = take(list, 4);
     if (!mark || std::memcmp(mark->data(), "MR2", 4) != 0) return;
-    std::vector<QString> names;
+    std::vector<std::string> names;
     while (auto chunk = takeBlock(list, 4)) {
         const auto type = take(*chunk, 2);
         if (!type) return;

@@ -22,15 +22,15 @@ void storeFree(Page& page) {
 
 DataPageView::DataPageView(const Page& page, uint32_t number)
     : m_page(page), m_number(number), m_count(load16(&page[data::slotCount])) {
-    if (page[0] != DataPage) failDamaged(QStringLiteral("la pagina %1 non contiene righe").arg(number));
-    if (m_count > data::maxSlots) failDamaged(QStringLiteral("la pagina %1 ha troppe righe").arg(number));
+    if (page[0] != DataPage) failDamaged("la pagina ", number, " non contiene righe");
+    if (m_count > data::maxSlots) failDamaged("la pagina ", number, " ha troppe righe");
 }
 
 size_t DataPageView::freeBytes() const {
     const size_t lowest = lowestStart(m_page, m_count);
     const size_t slotsEnd = data::slots + 2 * m_count;
     if (lowest < slotsEnd || lowest > pageSize)
-        failDamaged(QStringLiteral("le righe della pagina %1 si sovrappongono").arg(m_number));
+        failDamaged("le righe della pagina ", m_number, " si sovrappongono");
     return lowest - slotsEnd;
 }
 
@@ -39,7 +39,7 @@ std::span<const uint8_t> DataPageView::bytes(size_t slot) const {
     const size_t start = rawSlot(slot) & data::offsetMask;
     const size_t end = slot == 0 ? pageSize : rawSlot(slot - 1) & data::offsetMask;
     if (start > end || end > pageSize || start < data::slots + 2 * m_count)
-        failDamaged(QStringLiteral("la riga %1 della pagina %2 è fuori posto").arg(slot).arg(m_number));
+        failDamaged("la riga ", slot, " della pagina ", m_number, " è fuori posto");
     return std::span(m_page).subspan(start, end - start);
 }
 
@@ -53,7 +53,7 @@ void makeDataPage(Page& page, uint32_t owner) {
 
 uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags) {
     const DataPageView view(page, number);
-    if (!view.fits(row.size())) failDamaged(QStringLiteral("la pagina %1 non ha posto").arg(number));
+    if (!view.fits(row.size())) failDamaged("la pagina ", number, " non ha posto");
     const size_t count = view.count();
     const size_t start = lowestStart(page, count) - row.size();
     std::copy(row.begin(), row.end(), page.begin() + static_cast<ptrdiff_t>(start));
@@ -70,7 +70,7 @@ void resizeRow(Page& page, uint32_t number, size_t slot, size_t length, uint16_t
     for (size_t i = slot; i < count; ++i)
         (void)view.bytes(i);  // nothing is moved on a damaged page
     if (slot >= count || length > oldLength + view.freeBytes())
-        failDamaged(QStringLiteral("la pagina %1 non ha posto").arg(number));
+        failDamaged("la pagina ", number, " non ha posto");
 
     const size_t lowest = lowestStart(page, count);
     const size_t start = load16(&page[data::slots + 2 * slot]) & data::offsetMask;

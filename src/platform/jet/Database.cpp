@@ -1,9 +1,8 @@
 #include "platform/jet/Database.h"
 
-#include <QFile>
-
 #include "platform/jet/Catalog.h"
 #include "platform/jet/Engine.h"
+#include "platform/jet/Names.h"
 #include "platform/jet/UsageMap.h"
 
 namespace jet {
@@ -20,31 +19,29 @@ const std::vector<CatalogEntry>& currentCatalog(Engine& engine) {
 
 }  // namespace
 
-Engine::Engine(QString shownPath, const Database::Options& options)
-    : path(std::move(shownPath)),
-      file(QFile::encodeName(path).toStdString(), options.readOnly,
-           {options.cachedPages, options.cachedPages, options.lockWaitMs}) {}
+Engine::Engine(std::string filePath, const Database::Options& options)
+    : path(std::move(filePath)),
+      file(path, options.readOnly, {options.cachedPages, options.cachedPages, options.lockWaitMs}) {}
 
 Database::Database(std::unique_ptr<Engine> engine) : m_engine(std::move(engine)) {}
 
 Database::~Database() = default;
 
-Result<std::unique_ptr<Database>> Database::open(const QString& path, const Options& options) {
+Result<std::unique_ptr<Database>> Database::open(const std::string& path, const Options& options) {
     return guarded([&]() -> Result<std::unique_ptr<Database>> {
         auto engine = std::make_unique<Engine>(path, options);
-        const QString& wanted = engine->file.header().password;
-        if (!wanted.isEmpty() && wanted != options.password)
-            fail(ErrorCode::InvalidPassword, QStringLiteral("Password non valida."));
+        const std::string& wanted = engine->file.header().password;
+        if (!wanted.empty() && wanted != options.password)
+            fail(ErrorCode::InvalidPassword, "Password non valida.");
         const Reading reading(engine->file);
-        if (GlobalMap(engine->file).reachesBehindFile())
-            failDamaged(QStringLiteral("il file \"%1\" è troncato").arg(path));
+        if (GlobalMap(engine->file).reachesBehindFile()) failDamaged("il file \"", path, "\" è troncato");
         (void)currentCatalog(*engine);
         engine->toldGeneration = engine->file.generation();
         return std::unique_ptr<Database>(new Database(std::move(engine)));
     });
 }
 
-const QString& Database::path() const {
+const std::string& Database::path() const {
     return m_engine->path;
 }
 
@@ -59,12 +56,12 @@ Result<std::vector<CatalogEntry>> Database::catalog() {
     });
 }
 
-Result<Table*> Database::table(QStringView name) {
+Result<Table*> Database::table(std::string_view name) {
     return guarded([&]() -> Result<Table*> {
         const Reading reading(m_engine->file);
         const CatalogEntry* other = nullptr;
         for (const CatalogEntry& entry : currentCatalog(*m_engine)) {
-            if (name.compare(entry.name, Qt::CaseInsensitive) != 0) continue;
+            if (!sameName(name, entry.name)) continue;
             if (entry.kind != CatalogEntry::Kind::Local) {
                 other = &entry;
                 continue;
@@ -76,9 +73,9 @@ Result<Table*> Database::table(QStringView name) {
         if (other)
             fail(ErrorCode::NotSupported,
                  other->kind == CatalogEntry::Kind::Linked
-                     ? QStringLiteral("La tabella \"%1\" è collegata a un altro file.").arg(other->name)
-                     : QStringLiteral("\"%1\" è una query, non una tabella.").arg(other->name));
-        fail(ErrorCode::TableNotFound, QStringLiteral("Impossibile trovare la tabella \"%1\".").arg(name));
+                     ? phrase("La tabella \"", other->name, "\" è collegata a un altro file.")
+                     : phrase("\"", other->name, "\" è una query, non una tabella."));
+        fail(ErrorCode::TableNotFound, "Impossibile trovare la tabella \"", name, "\".");
     });
 }
 
@@ -101,7 +98,7 @@ Status Database::begin() {
 }
 
 Status Database::commit() {
-    if (!inTransaction()) return {ErrorCode::NotSupported, QStringLiteral("Nessuna transazione è in corso.")};
+    if (!inTransaction()) return {ErrorCode::NotSupported, u"Nessuna transazione è in corso."};
     if (!m_engine->doom.ok()) {
         rollback();
         return m_engine->doom;

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <QString>
 #include <span>
 #include <string>
 #include <utility>
@@ -12,7 +11,7 @@
 
 #include "platform/jet/TableDefinition.h"
 #include "platform/jet/Value.h"
-#include "platform/Status.h"
+#include "platform/PlainStatus.h"
 
 namespace jet {
 
@@ -32,7 +31,7 @@ struct RowId {
 /// A table of the catalogue.
 struct CatalogEntry {
     enum class Kind { Local, Linked, Query };
-    QString name;
+    std::string name;
     Kind kind = Kind::Local;
     bool system = false;
     uint32_t definitionPage = 0;
@@ -134,7 +133,7 @@ class Table {
 class Database {
   public:
     struct Options {
-        QString password = {};
+        std::string password = {};  ///< in UTF-8
         bool readOnly = false;
         int lockWaitMs = 5000;      ///< longest wait for another process
         size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides
@@ -143,19 +142,19 @@ class Database {
     /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a
     /// missing or unreadable file, a file that is no Jet database, one that is truncated, or a wrong
     /// password. Files of Access 97 (Jet 3) are opened for reading only.
-    static Result<std::unique_ptr<Database>> open(const QString& path, const Options& options);
-    static Result<std::unique_ptr<Database>> open(const QString& path) { return open(path, {}); }
+    static Result<std::unique_ptr<Database>> open(const std::string& path, const Options& options);
+    static Result<std::unique_ptr<Database>> open(const std::string& path) { return open(path, {}); }
     ~Database();  ///< a transaction that is open is undone
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    const QString& path() const;
+    const std::string& path() const;
     /// Whether nothing can be written: asked for, without the right to, or a file of Access 97 (Jet 3).
     bool readOnly() const;
     /// Tables of the catalogue by name (system tables included and marked).
     Result<std::vector<CatalogEntry>> catalog();
     /// A local table by name, case ignored. Linked tables and queries are refused.
-    Result<Table*> table(QStringView name);
+    Result<Table*> table(std::string_view name);
 
     /// Makes sure that what is cached agrees with the file. The value is true when the file had been changed
     /// from outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
@@ -194,6 +193,6 @@ class ReadScope {
 
 /// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their
 /// primary keys and field properties) to `path`. Fails when the file exists.
-Status createEmptyDatabase(const QString& path);
+Status createEmptyDatabase(const std::string& path);
 
 }  // namespace jet

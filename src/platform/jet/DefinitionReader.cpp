@@ -5,6 +5,8 @@
 
 #include "platform/jet/Failure.h"
 #include "platform/jet/Jet3.h"
+#include "platform/jet/JetText.h"
+#include "platform/jet/Names.h"
 
 namespace jet {
 
@@ -25,18 +27,16 @@ class Cursor {
 
     const uint8_t* take(size_t length) {
         if (length > m_bytes.size() - m_at)
-            failDamaged(QStringLiteral("la definizione della tabella a pagina %1 è incompleta").arg(m_page));
+            failDamaged("la definizione della tabella a pagina ", m_page, " è incompleta");
         const uint8_t* p = m_bytes.data() + m_at;
         m_at += length;
         return p;
     }
 
-    QString takeName() {
-        const size_t length = load16(take(2)) / 2;
-        const uint8_t* p = take(2 * length);
-        QString name(static_cast<qsizetype>(length), QChar(u' '));
-        for (size_t i = 0; i < length; ++i)
-            name[static_cast<qsizetype>(i)] = QChar(load16(p + 2 * i));
+    std::string takeName() {
+        const size_t length = load16(take(2)) / 2 * 2;
+        std::string name;
+        appendPlainUtf8({take(length), length}, name);
         return name;
     }
 
@@ -91,9 +91,9 @@ std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
     for (size_t pages = 0; pages == 0 || next != 0; ++pages) {
         const PagePtr bytes = file.page(next);
         if ((*bytes)[0] != DefinitionPage)
-            failDamaged(QStringLiteral("la pagina %1 non è la definizione di una tabella").arg(next));
+            failDamaged("la pagina ", next, " non è la definizione di una tabella");
         if (pages == maxDefinitionPages)
-            failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non finisce").arg(page));
+            failDamaged("la definizione della tabella a pagina ", page, " non finisce");
         const auto own = std::span(*bytes).first(pageEnd).subspan(pages == 0 ? 0 : definition::joined);
         block.insert(block.end(), own.begin(), own.end());
         next = load32(bytes->data() + definition::next);
@@ -101,7 +101,7 @@ std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
     return file.header().jet3 ? jet3::widenDefinition(block) : block;
 }
 
-TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page,
+TableDefinition parseDefinition(std::span<const uint8_t> block, const std::string& name, uint32_t page,
                                 bool jet3) {
     TableDefinition table;
     table.jet3 = jet3;
@@ -118,7 +118,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
     const size_t realIndexes = load32(p + definition::realIndexes);
     if (columns > mostColumns || realIndexes > mostIndexes ||
         logicalIndexes > block.size() / definition::logicalIndexLength)
-        failDamaged(QStringLiteral("la definizione della tabella a pagina %1 non è leggibile").arg(page));
+        failDamaged("la definizione della tabella a pagina ", page, " non è leggibile");
 
     Cursor cursor(block, definition::indexCounts, page);
     cursor.take(realIndexes * definition::indexCountLength);
@@ -129,8 +129,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
         column.ansi = jet3;
         if (column.number >= table.maxColumns ||
             (!column.fixed && column.type != Type::YesNo && column.variableIndex >= table.variableColumns))
-            failDamaged(
-                QStringLiteral("un campo della tabella a pagina %1 non ha posto nelle righe").arg(page));
+            failDamaged("un campo della tabella a pagina ", page, " non ha posto nelle righe");
     }
     for (size_t i = 0; i < realIndexes; ++i)
         table.indexes.push_back(parseIndex(cursor.take(definition::realIndexLength)));
@@ -141,8 +140,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
         realOf[i] = load32(logical + 8);
         const uint32_t otherTable = load32(logical + 17);
         const uint8_t kind = logical[23];
-        if (realOf[i] >= realIndexes)
-            failDamaged(QStringLiteral("un indice della tabella a pagina %1 non esiste").arg(page));
+        if (realOf[i] >= realIndexes) failDamaged("un indice della tabella a pagina ", page, " non esiste");
         if (kind == 1) table.indexes[realOf[i]].primaryKey = true;
         if (kind == 2 || otherTable != 0) table.enforcedRelation = true;
     }
@@ -151,8 +149,8 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& n
             if (column.number == number) std::tie(column.longOwned, column.longRoom) = std::tie(owned, room);
     };
     for (size_t i = 0; i < logicalIndexes; ++i) {
-        const QString logicalName = cursor.takeName();
-        if (table.indexes[realOf[i]].name.isEmpty()) table.indexes[realOf[i]].name = logicalName;
+        const std::string logicalName = cursor.takeName();
+        if (table.indexes[realOf[i]].name.empty()) table.indexes[realOf[i]].name = logicalName;
     }
     for (uint16_t number; (number = load16(cursor.take(2))) != 0xFFFF;) {
         const uint8_t* maps = cursor.take(8);
@@ -171,9 +169,9 @@ void clearCounters(std::vector<uint8_t>& block) {
     std::fill_n(block.begin() + definition::indexCounts, counts, uint8_t{0});
 }
 
-std::optional<size_t> TableDefinition::find(QStringView columnName) const {
+std::optional<size_t> TableDefinition::find(std::string_view columnName) const {
     for (size_t i = 0; i < columns.size(); ++i)
-        if (columnName.compare(columns[i].name, Qt::CaseInsensitive) == 0) return i;
+        if (sameName(columnName, columns[i].name)) return i;
     return std::nullopt;
 }
 

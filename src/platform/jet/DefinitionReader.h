@@ -12,7 +12,7 @@ namespace jet {
 std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page);
 
 /// Parses a joined definition; `jet3` tells what file it is from. Throws Failure when it contradicts itself.
-TableDefinition parseDefinition(std::span<const uint8_t> block, const QString& name, uint32_t page,
+TableDefinition parseDefinition(std::span<const uint8_t> block, const std::string& name, uint32_t page,
                                 bool jet3);
 
 /// Sets to zero what changes with the rows (row count, auto-number, key counts), so that two definitions of

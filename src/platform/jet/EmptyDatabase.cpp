@@ -1,7 +1,6 @@
 #include "platform/jet/EmptyDatabase.h"
 
 #include <algorithm>
-#include <QFile>
 #include <string>
 
 #include "platform/jet/Database.h"
@@ -262,7 +261,7 @@ class Builder {
             Bytes key;
             appendLong(key, object.parent);
             std::string name;
-            if (!appendIndexKey(name, object.name)) failDamaged(QStringLiteral("nome senza chiave"));
+            if (!appendIndexKey(name, object.name)) failDamaged("nome senza chiave");
             key.insert(key.end(), name.begin(), name.end());
             byName.push_back(withRow(key, objectRowsPage, slot));
             key.clear();
@@ -320,20 +319,18 @@ std::vector<Page> emptyDatabase(EmptyContent content) {
     return Builder(content).build();
 }
 
-Status createEmptyDatabase(const QString& path) {
+Status createEmptyDatabase(const std::string& path) {
     return guarded([&]() -> Status {
-        const std::string name = QFile::encodeName(path).toStdString();
-        if (OsFile::exists(name))
-            fail(ErrorCode::PathAccess, QStringLiteral("Il file \"%1\" esiste già.").arg(path));
+        if (OsFile::exists(path)) fail(ErrorCode::PathAccess, "Il file \"", path, "\" esiste già.");
         const std::vector<Page> pages = emptyDatabase(EmptyContent::WithProperties);
-        OsFile file(name, OsFile::Access::Create);
+        OsFile file(path, OsFile::Access::Create);
         try {
             for (size_t n = 0; n < pages.size(); ++n)
                 file.write(n * pageSize, pages[n]);
             file.sync();
-            OsFile::syncFolderOf(name);
+            OsFile::syncFolderOf(path);
         } catch (const Failure&) {
-            OsFile::remove(name);
+            OsFile::remove(path);
             throw;
         }
         return {};

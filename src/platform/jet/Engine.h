@@ -13,9 +13,9 @@ namespace jet {
 
 /// What a Database and its Tables share.
 struct Engine {
-    Engine(QString shownPath, const Database::Options& options);
+    Engine(std::string filePath, const Database::Options& options);
 
-    QString path;
+    std::string path;
     PageFile file;
     uint64_t toldGeneration = 0;  ///< of the file, when refresh() last answered
     std::vector<CatalogEntry> catalog;

@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QString>
+#include <concepts>
+#include <string>
+#include <type_traits>
 #include <utility>
 
-#include "platform/Status.h"
+#include "platform/jet/JetText.h"
+#include "platform/PlainStatus.h"
 
 namespace jet {
 
@@ -13,13 +16,30 @@ struct Failure {
     Status status;
 };
 
-[[noreturn]] inline void fail(ErrorCode code, QString text) {
-    throw Failure{Status(code, std::move(text))};
+/// Texts in UTF-8 and whole numbers, joined.
+template <class... Parts>
+std::string phrase(const Parts&... parts) {
+    std::string text;
+    const auto append = [&text](const auto& part) {
+        if constexpr (std::integral<std::remove_cvref_t<decltype(part)>>)
+            text += std::to_string(part);
+        else
+            text += part;
+    };
+    (append(parts), ...);
+    return text;
 }
 
-/// The file contradicts itself. `what` completes the sentence "Il database è danneggiato: …".
-[[noreturn]] inline void failDamaged(const QString& what) {
-    fail(ErrorCode::DamagedDatabase, QStringLiteral("Il database è danneggiato: %1.").arg(what));
+/// Throws a Failure whose text is the parts, joined as by phrase().
+template <class... Parts>
+[[noreturn]] void fail(ErrorCode code, const Parts&... parts) {
+    throw Failure{Status(code, toUtf16(phrase(parts...)))};
+}
+
+/// The file contradicts itself. The parts complete the sentence "Il database è danneggiato: …".
+template <class... Parts>
+[[noreturn]] void failDamaged(const Parts&... parts) {
+    fail(ErrorCode::DamagedDatabase, "Il database è danneggiato: ", phrase(parts...), ".");
 }
 
 /// Runs `work` and hands back its outcome as a Status or Result.

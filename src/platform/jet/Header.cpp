@@ -7,7 +7,7 @@
 
 #include "platform/jet/Failure.h"
 #include "platform/jet/Jet3.h"
-#include "platform/text/AnsiCodec.h"
+#include "platform/jet/JetText.h"
 
 namespace jet {
 
@@ -16,29 +16,31 @@ namespace {
 constexpr uint8_t headerKey[] = {0xC7, 0xDA, 0x39, 0x6B};
 
 [[noreturn]] void failFormat(const char* why) {
-    fail(ErrorCode::UnrecognizedFormat,
-         QStringLiteral("Formato di database non riconosciuto: %1.").arg(QString::fromUtf8(why)));
+    fail(ErrorCode::UnrecognizedFormat, "Formato di database non riconosciuto: ", why, ".");
 }
 
 // The password is masked by the whole part of the creation date, four bytes repeated.
-QString passwordOf(const Page& clear) {
+std::string passwordOf(const Page& clear) {
     const double date = std::bit_cast<double>(load64(&clear[header::creationDate]));
     const bool inRange = std::isfinite(date) && std::abs(date) < 2147483648.0;
     uint8_t mask[4];
     store32(mask, static_cast<uint32_t>(inRange ? static_cast<int32_t>(date) : 0));
-    QString password;
+    std::u16string password;
     for (size_t i = 0; i < header::passwordLength; i += 2) {
         const uint8_t* p = &clear[header::password + i];
         const uint16_t unit = static_cast<uint16_t>((p[0] ^ mask[i % 4]) | (p[1] ^ mask[(i + 1) % 4]) << 8);
         if (unit == 0) break;
-        password += QChar(unit);
+        password += static_cast<char16_t>(unit);
     }
-    return password;
+    return toUtf8(password);
 }
 
-QString jet3PasswordOf(const Page& clear) {
-    const char* p = reinterpret_cast<const char*>(&clear[header::password]);
-    return text::fromAnsi(QByteArrayView(p, qsizetype(qstrnlen(p, jet3::passwordLength))));
+std::string jet3PasswordOf(const Page& clear) {
+    const auto field = std::span(clear).subspan(header::password, jet3::passwordLength);
+    const auto end = std::find(field.begin(), field.end(), uint8_t{0});
+    std::string password;
+    appendAnsiAsUtf8({field.begin(), end}, password);
+    return password;
 }
 
 // XORs `bytes` with the RC4 stream of `key`.
@@ -84,7 +86,7 @@ Header parseHeader(std::span<const uint8_t> page0) {
     const uint32_t version = load32(page0.data() + header::version);
     if (version > 1) failFormat("è di una versione più recente di Access 2003");
     const bool old = version == 0;
-    if (page0.size() < (old ? jet3::pageSize : pageSize)) failDamaged(QStringLiteral("il file è troncato"));
+    if (page0.size() < (old ? jet3::pageSize : pageSize)) failDamaged("il file è troncato");
 
     Page clear{};
     std::copy_n(page0.begin(), old ? jet3::pageSize : pageSize, clear.begin());

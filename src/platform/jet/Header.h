@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <span>
+#include <string>
 
 #include "platform/jet/Format.h"
 
@@ -11,7 +11,7 @@ namespace jet {
 struct Header {
     bool jet3 = false;     ///< of Access 97; else Jet 4
     uint32_t pageKey = 0;  ///< 0 = pages in clear
-    QString password;      ///< empty = none
+    std::string password;  ///< in UTF-8; empty = none
 };
 
 /// Reads page 0. Fails (Failure, UnrecognizedFormat) for what is no Jet file, naming the formats it knows.

@@ -41,7 +41,7 @@ IndexPage IndexTree::load(uint32_t number) const {
 }
 
 void IndexTree::store(uint32_t number, const IndexPage& page) {
-    if (!page.fits()) failDamaged(QStringLiteral("la pagina di indice %1 è troppo piena").arg(number));
+    if (!page.fits()) failDamaged("la pagina di indice ", number, " è troppo piena");
     page.store(m_file.change(number), m_definition.page);
 }
 
@@ -72,10 +72,10 @@ IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
         if (step.page.leaf) return path;
         step.child = step.page.lowerBound(wanted);
         if (step.child == step.page.count() && step.page.tail == 0)
-            failDamaged(QStringLiteral("la pagina di indice %1 non ha un ultimo ramo").arg(number));
+            failDamaged("la pagina di indice ", number, " non ha un ultimo ramo");
         number = step.page.child(step.child);
     }
-    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
 // Other programs store nodes with a prefix. Those on the way that are too full without one are cut up first.
@@ -103,7 +103,7 @@ std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
         if (leaf.next == 0) return std::nullopt;
         leaf = load(leaf.next);
     }
-    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
 // The first or the last leaf of the index.
@@ -115,7 +115,7 @@ IndexPage IndexTree::edgeLeaf(bool last) const {
         const bool tail = page.count() == 0 || (last && page.tail != 0);
         number = tail ? page.tail : page.child(last ? page.count() - 1 : 0);
     }
-    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
 std::optional<Bytes> IndexTree::lastKey() const {
@@ -132,7 +132,7 @@ std::optional<Bytes> IndexTree::keyOf(RowId row) const {
         if (leaf.next == 0) return std::nullopt;
         leaf = load(leaf.next);
     }
-    failDamaged(QStringLiteral("un indice di \"%1\" gira in tondo").arg(m_definition.name));
+    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
 std::vector<IndexTree::Entry> IndexTree::someEntries(size_t most) const {
@@ -153,7 +153,7 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     IndexPage leaf = std::move(path.back().page);
     const size_t at = leaf.lowerBound(entry);
     if (at < leaf.count() && compareEntries(leaf.keyAndRow(at), entry) == 0)
-        failDamaged(QStringLiteral("un indice di \"%1\" contiene già la riga").arg(m_definition.name));
+        failDamaged("un indice di \"", m_definition.name, "\" contiene già la riga");
     leaf.insert(at, entry);
     const bool atEnd = leaf.next == 0 && at + 1 == leaf.count();
     place(path, path.size() - 1, std::move(leaf), atEnd);
@@ -164,7 +164,7 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
 std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, bool atEnd) {
     if (page.fits()) return {{std::move(page), std::move(greatest)}};
     const size_t count = page.count();
-    if (count < 4) failDamaged(QStringLiteral("le voci di un indice sono troppo lunghe"));
+    if (count < 4) failDamaged("le voci di un indice sono troppo lunghe");
     IndexPage right;
     right.leaf = page.leaf;
     right.level = page.level;

@@ -4,7 +4,7 @@
 
 #include "platform/jet/DefinitionWriter.h"
 #include "platform/jet/Failure.h"
-#include "platform/text/AnsiCodec.h"
+#include "platform/text/AnsiTable.h"
 
 namespace jet::jet3 {
 
@@ -75,7 +75,7 @@ class Source {
     explicit Source(std::span<const uint8_t> bytes) : m_rest(bytes) {}
 
     std::span<const uint8_t> take(size_t length) {
-        if (length > m_rest.size()) failDamaged(QStringLiteral("la definizione di una tabella è incompleta"));
+        if (length > m_rest.size()) failDamaged("la definizione di una tabella è incompleta");
         const auto taken = m_rest.first(length);
         m_rest = m_rest.subspan(length);
         return taken;

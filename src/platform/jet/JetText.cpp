@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/jet/Format.h"
-#include "platform/text/AnsiCodec.h"
+#include "platform/text/AnsiTable.h"
 
 namespace jet {
 
@@ -31,24 +31,23 @@ void appendCodePoint(char32_t c, std::string& out) {
     }
 }
 
-// UTF-16LE. Lone surrogates and half a unit at the end are replaced.
-void appendUnits(std::span<const uint8_t> bytes, std::string& out) {
-    const size_t end = bytes.size() / 2 * 2;
-    for (size_t i = 0; i < end; i += 2) {
-        char32_t c = load16(&bytes[i]);
+// Lone surrogates are replaced.
+template <class UnitAt>
+void appendUnits(size_t count, UnitAt unitAt, std::string& out) {
+    for (size_t i = 0; i < count; ++i) {
+        char32_t c = unitAt(i);
         if (c < 0x80) {
             out += static_cast<char>(c);
             continue;
         }
         if (c >= 0xD800 && c < 0xE000) {
-            const char32_t low = i + 2 < end ? load16(&bytes[i + 2]) : 0;
+            const char32_t low = i + 1 < count ? unitAt(i + 1) : 0;
             const bool pair = c < 0xDC00 && low >= 0xDC00 && low < 0xE000;
             c = pair ? 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00) : replacement;
-            if (pair) i += 2;
+            if (pair) ++i;
         }
         appendCodePoint(c, out);
     }
-    if (end < bytes.size()) appendCodePoint(replacement, out);
 }
 
 // How many bytes from the start are 01 to 7F: nearly all that there is to read, so eight at a time.
@@ -80,7 +79,7 @@ void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
         size_t length = 0;
         while (length < bytes.size() && bytes[length] != 0)
             length += 2;
-        appendUnits(bytes.first(std::min(length, bytes.size())), out);
+        appendPlainUtf8(bytes.first(std::min(length, bytes.size())), out);
         if (length >= bytes.size()) return;
         bytes = bytes.subspan(length + 1);
     }
@@ -88,10 +87,16 @@ void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
 
 }  // namespace
 
+void appendPlainUtf8(std::span<const uint8_t> utf16, std::string& out) {
+    appendUnits(
+        utf16.size() / 2, [&](size_t i) { return load16(&utf16[2 * i]); }, out);
+    if (utf16.size() % 2 != 0) appendCodePoint(replacement, out);
+}
+
 void appendUtf8(std::span<const uint8_t> stored, std::string& out) {
     if (stored.size() >= 2 && stored[0] == 0xFF && stored[1] == 0xFE)
         return appendCompressed(stored.subspan(2), out);
-    appendUnits(stored, out);
+    appendPlainUtf8(stored, out);
 }
 
 void appendAnsiAsUtf8(std::span<const uint8_t> stored, std::string& out) {
@@ -131,6 +136,13 @@ std::u16string toUtf16(std::string_view utf8) {
             out += static_cast<char16_t>(c);
         }
     }
+    return out;
+}
+
+std::string toUtf8(std::u16string_view text) {
+    std::string out;
+    appendUnits(
+        text.size(), [&](size_t i) { return text[i]; }, out);
     return out;
 }
 

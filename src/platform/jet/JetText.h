@@ -1,12 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <cstdint>
 
 namespace jet {
 
@@ -16,11 +15,16 @@ namespace jet {
 /// Appends the UTF-8 form of stored text to `out`. Lone surrogates and a cut last unit become U+FFFD.
 void appendUtf8(std::span<const uint8_t> stored, std::string& out);
 
+/// The same for UTF-16LE that is never compressed, as in a definition.
+void appendPlainUtf8(std::span<const uint8_t> utf16, std::string& out);
+
 /// The same for text of Jet 3, which is stored in Windows-1252.
 void appendAnsiAsUtf8(std::span<const uint8_t> stored, std::string& out);
 
 /// UTF-16 units of UTF-8 text; invalid bytes become U+FFFD.
 std::u16string toUtf16(std::string_view utf8);
+/// The way back; lone surrogates become U+FFFD.
+std::string toUtf8(std::u16string_view text);
 
 /// Bytes to store. The compressed form is taken when it is allowed, shorter and holds for the whole text.
 /// Nothing for the rare text that no form can hold: U+FEFF at the start together with a unit whose low byte

@@ -20,7 +20,7 @@ const Column& columnOf(const TableDefinition& definition, const Index::Part& par
     const auto found = std::find_if(definition.columns.begin(), definition.columns.end(),
                                     [&](const Column& column) { return column.number == part.column; });
     if (found == definition.columns.end())
-        failDamaged(QStringLiteral("un indice di \"%1\" nomina un campo che non c'è").arg(definition.name));
+        failDamaged("un indice di \"", definition.name, "\" nomina un campo che non c'è");
     return *found;
 }
 
@@ -116,7 +116,7 @@ bool appendPart(Bytes& key, const Column& column, bool ascending, const StoredFi
     }
     if (column.type == Type::Text) return appendText(key, textOf(column, field), ascending, places);
     if (!yesNo && column.type != Type::Binary && field.bytes.size() < fixedLength(column))
-        failDamaged(QStringLiteral("un valore del campo \"%1\" è troppo corto").arg(column.name));
+        failDamaged("un valore del campo \"", column.name, "\" è troppo corto");
     if (column.type == Type::Binary || column.type == Type::Guid) {
         key.push_back(ascending ? 0x7F : 0x80);
         if (column.type == Type::Guid)
@@ -141,7 +141,7 @@ std::optional<Bytes> keyWith(const TableDefinition& definition, const Index& ind
 
 }  // namespace
 
-QString whyNotKept(const TableDefinition& definition, const Index& index) {
+std::string whyNotKept(const TableDefinition& definition, const Index& index) {
     for (const Index::Part& part : index.parts) {
         const Column& column = columnOf(definition, part);
         switch (column.type) {
@@ -158,12 +158,12 @@ QString whyNotKept(const TableDefinition& definition, const Index& index) {
                 break;
             case Type::Text:
                 if (column.generalOrder) break;
-                return QStringLiteral("il campo \"%1\" non ha l'ordinamento generale").arg(column.name);
+                return phrase("il campo \"", column.name, "\" non ha l'ordinamento generale");
             default:
-                return QStringLiteral("il tipo del campo \"%1\" non è adatto a un indice").arg(column.name);
+                return phrase("il tipo del campo \"", column.name, "\" non è adatto a un indice");
         }
     }
-    return index.parts.empty() ? QStringLiteral("non è su alcun campo") : QString();
+    return index.parts.empty() ? "non è su alcun campo" : std::string();
 }
 
 bool needsProof(const TableDefinition& definition, const Index& index) {
@@ -178,15 +178,12 @@ Bytes keyToWrite(const TableDefinition& definition, const Index& index, const Fi
         const Column& column = columnOf(definition, part);
         const StoredField stored = field(column);
         if (column.type == Type::Text && !stored.null && !hasCertainKey(textOf(column, stored)))
-            fail(ErrorCode::NotSupported,
-                 QStringLiteral("Il testo del campo \"%1\" contiene caratteri che non possono stare "
-                                "nell'indice \"%2\".")
-                     .arg(column.name, index.name));
+            fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
+                 "\" contiene caratteri che non possono stare nell'indice \"", index.name, "\".");
     }
     const std::optional<Bytes> key = keyWith(definition, index, field, LigaturePlaces::One);
     if (!key || key->size() > longestKey)
-        fail(ErrorCode::NotSupported,
-             QStringLiteral("I valori sono troppo lunghi per l'indice \"%1\".").arg(index.name));
+        fail(ErrorCode::NotSupported, "I valori sono troppo lunghi per l'indice \"", index.name, "\".");
     return *key;
 }
 

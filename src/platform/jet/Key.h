@@ -2,7 +2,7 @@
 
 #include <functional>
 #include <optional>
-#include <QString>
+#include <string>
 #include <vector>
 
 #include "platform/jet/Row.h"
@@ -26,7 +26,7 @@ inline FieldOf fieldsOf(const Row& row) {
 
 /// Why keys of that index cannot be made, whatever the rows hold; completes "… non può essere aggiornato,
 /// perché ". Empty when they can.
-QString whyNotKept(const TableDefinition& definition, const Index& index);
+std::string whyNotKept(const TableDefinition& definition, const Index& index);
 /// Whether no file made by Access was seen with such an index. Its own entries have to show the form then.
 bool needsProof(const TableDefinition& definition, const Index& index);
 

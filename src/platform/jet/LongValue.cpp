@@ -16,7 +16,7 @@ constexpr unsigned inRow = 2;
 constexpr unsigned oneRow = 1;
 
 [[noreturn]] void failBroken() {
-    failDamaged(QStringLiteral("un campo memo non è leggibile"));
+    failDamaged("un campo memo non è leggibile");
 }
 
 DataPageView longRows(const Page& page, uint32_t number) {

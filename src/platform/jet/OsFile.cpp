@@ -22,17 +22,14 @@ DiskStep::Outcome ask(const DiskStep& step) {
 }
 
 [[noreturn]] void failIo(const char* doing, const std::string& path, int error) {
-    fail(ErrorCode::DeviceIo,
-         QStringLiteral("Errore del disco (%1) sul file \"%2\": %3.")
-             .arg(QString::fromUtf8(doing), shown(path), QString::fromLocal8Bit(std::strerror(error))));
+    fail(ErrorCode::DeviceIo, "Errore del disco (", doing, ") sul file \"", path,
+         "\": ", std::strerror(error), ".");
 }
 
 [[noreturn]] void failOpen(const std::string& path, int error) {
-    const QString name = shown(path);
     if (error == ENOENT || error == ENOTDIR)
-        fail(ErrorCode::FileNotFound, QStringLiteral("Impossibile trovare il file \"%1\".").arg(name));
-    fail(ErrorCode::PathAccess, QStringLiteral("Impossibile aprire il file \"%1\": %2.")
-                                    .arg(name, QString::fromLocal8Bit(std::strerror(error))));
+        fail(ErrorCode::FileNotFound, "Impossibile trovare il file \"", path, "\".");
+    fail(ErrorCode::PathAccess, "Impossibile aprire il file \"", path, "\": ", std::strerror(error), ".");
 }
 
 // Whether the step is to be done.
@@ -60,10 +57,6 @@ void writeAll(int fd, uint64_t offset, std::span<const uint8_t> bytes, const std
 
 }  // namespace
 
-QString shown(const std::string& path) {
-    return QString::fromLocal8Bit(path.data(), qsizetype(path.size()));
-}
-
 void setDiskHook(DiskHook hook) {
     diskHook = std::move(hook);
 }
@@ -86,7 +79,7 @@ OsFile::OsFile(const std::string& path, Access access) : m_path(path) {
     if (::fstat(m_fd, &s) != 0 || !S_ISREG(s.st_mode)) {
         ::close(m_fd);
         m_fd = -1;
-        fail(ErrorCode::PathAccess, QStringLiteral("\"%1\" non è un file.").arg(shown(path)));
+        fail(ErrorCode::PathAccess, "\"", path, "\" non è un file.");
     }
 }
 

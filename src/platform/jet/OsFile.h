@@ -2,14 +2,10 @@
 
 #include <cstdint>
 #include <functional>
-#include <QString>
 #include <span>
 #include <string>
 
 namespace jet {
-
-/// A path of the file system as the user reads it.
-QString shown(const std::string& path);
 
 /// One step that changes the disk. Tests watch these, make them fail, cut them short or end the process at
 /// one.

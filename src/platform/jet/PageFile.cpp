@@ -48,7 +48,7 @@ void PageFile::refreshState(const FileState& now) {
     dropCache();
     readHeader();
     if (now.size > uint64_t{maxPages} * bytesPerPage() || now.size % bytesPerPage() != 0)
-        failDamaged(QStringLiteral("la lunghezza del file non è quella di un database"));
+        failDamaged("la lunghezza del file non è quella di un database");
     m_state = now;
     m_pageCount = static_cast<uint32_t>(now.size / bytesPerPage());
 }
@@ -92,11 +92,11 @@ PagePtr PageFile::page(uint32_t n) {
         m_cache[n].used = true;
         return m_cache[n].page;
     }
-    if (n >= m_pageCount) failDamaged(QStringLiteral("manca la pagina %1").arg(n));
+    if (n >= m_pageCount) failDamaged("manca la pagina ", n);
     auto page = std::make_shared_for_overwrite<Page>();
     const std::span<uint8_t> bytes = std::span(*page).first(bytesPerPage());
     if (m_file.read(uint64_t{n} * bytes.size(), bytes) != bytes.size())
-        failDamaged(QStringLiteral("la pagina %1 è troncata").arg(n));
+        failDamaged("la pagina ", n, " è troncata");
     if (m_header.pageKey != 0 && n != 0) codePage(m_header.pageKey, n, bytes);
     if (m_header.jet3) jet3::widenPage(*page);
     keep(n, page);
@@ -105,17 +105,14 @@ PagePtr PageFile::page(uint32_t n) {
 
 void PageFile::requireWritable() const {
     if (m_header.jet3)
-        fail(ErrorCode::ReadOnlyDatabase,
-             QStringLiteral("Il database \"%1\" è di Access 97: può essere letto ma non modificato. Per "
-                            "modificarlo convertirlo in formato Access 2000-2003 (.mdb).")
-                 .arg(shown(m_path)));
-    if (m_readOnly)
-        fail(ErrorCode::ReadOnlyDatabase,
-             QStringLiteral("Il database \"%1\" è di sola lettura.").arg(shown(m_path)));
+        fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,
+             "\" è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato "
+             "Access 2000-2003 (.mdb).");
+    if (m_readOnly) fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path, "\" è di sola lettura.");
 }
 
 void PageFile::beginWrite() {
-    if (m_writing) fail(ErrorCode::NotSupported, QStringLiteral("Una transazione è già in corso."));
+    if (m_writing) fail(ErrorCode::NotSupported, "Una transazione è già in corso.");
     requireWritable();
     refuseIfOpenElsewhere();
     try {
@@ -149,8 +146,7 @@ Page& PageFile::change(uint32_t n) {
 
 uint32_t PageFile::append() {
     if (m_pageCount >= maxPages)
-        fail(ErrorCode::NotSupported,
-             QStringLiteral("Il database ha raggiunto la dimensione massima di 2 GB."));
+        fail(ErrorCode::NotSupported, "Il database ha raggiunto la dimensione massima di 2 GB.");
     if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
     const uint32_t n = m_pageCount++;
     auto page = std::make_shared<Page>();

@@ -33,8 +33,7 @@ void PageFile::lock(OsFile& file, OsFile::Lock kind) const {
         for (auto pause = std::chrono::milliseconds(1); !attempt();
              pause = std::min(pause * 2, longestPause)) {
             if (Clock::now() >= deadline)
-                fail(ErrorCode::FileInUse,
-                     QStringLiteral("Il database \"%1\" è in uso da un altro programma.").arg(shown(m_path)));
+                fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
             std::this_thread::sleep_for(pause);
         }
     };
@@ -58,16 +57,14 @@ FileState PageFile::lockCurrent(OsFile::Lock kind) {
         lock(m_file, kind);
         FileState now;
         if (!fileState(m_path, now))
-            fail(ErrorCode::FileNotFound,
-                 QStringLiteral("Impossibile trovare il file \"%1\".").arg(shown(m_path)));
+            fail(ErrorCode::FileNotFound, "Impossibile trovare il file \"", m_path, "\".");
         if (now.inode == m_opened.inode && now.device == m_opened.device) return now;
         m_file = OsFile();
         dropCache();
         open();
     }
-    fail(ErrorCode::FileInUse,
-         QStringLiteral("Il database \"%1\" viene sostituito di continuo da un altro programma.")
-             .arg(shown(m_path)));
+    fail(ErrorCode::FileInUse, "Il database \"", m_path,
+         "\" viene sostituito di continuo da un altro programma.");
 }
 
 void PageFile::unlock() {
@@ -105,10 +102,8 @@ void PageFile::recover() {
     try {
         file = OsFile(m_path, OsFile::Access::ReadWrite);
     } catch (const Failure&) {
-        fail(ErrorCode::ReadOnlyDatabase,
-             QStringLiteral(
-                 "Il database \"%1\" va ripristinato dopo un'interruzione, ma non può essere scritto.")
-                 .arg(shown(m_path)));
+        fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,
+             "\" va ripristinato dopo un'interruzione, ma non può essere scritto.");
     }
     m_file.tryLock(OsFile::Lock::None, OsFile::Range::Content);
     lock(file, OsFile::Lock::Exclusive);
@@ -125,9 +120,8 @@ void PageFile::refuseIfOpenElsewhere() const {
     } catch (const Failure&) {
         // It cannot be opened or removed: its maker still has it.
     }
-    fail(ErrorCode::FileInUse,
-         QStringLiteral("Il database \"%1\" è aperto in un altro programma (%2): non può essere modificato.")
-             .arg(shown(m_path), shown(path)));
+    fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è aperto in un altro programma (", path,
+         "): non può essere modificato.");
 }
 
 }  // namespace jet

@@ -100,9 +100,7 @@ Row::Row(const TableDefinition& definition) : m_definition(&definition) {
 
 Row::Row(const TableDefinition& definition, std::span<const uint8_t> bytes) : Row(definition) {
     const Parts parts(definition, bytes);
-    const auto damaged = [&] {
-        failDamaged(QStringLiteral("una riga di \"%1\" non è leggibile").arg(definition.name));
-    };
+    const auto damaged = [&] { failDamaged("una riga di \"", definition.name, "\" non è leggibile"); };
     if (!parts.valid || parts.columns > definition.maxColumns) damaged();
     const size_t fixedEnd = definition.variableColumns > 0 ? parts.offset(0) : parts.maskAt;
     if (fixedEnd < 2 || fixedEnd > parts.maskAt) damaged();
@@ -187,11 +185,8 @@ std::vector<uint8_t> Row::bytes() const {
     }
     out.insert(out.end(), m_mask.begin(), m_mask.end());
     if (out.size() > data::maxRow)
-        fail(ErrorCode::RecordTooLarge,
-             QStringLiteral("Il record è troppo grande per la tabella \"%1\" (%2 byte; al massimo %3).")
-                 .arg(m_definition->name)
-                 .arg(out.size())
-                 .arg(data::maxRow));
+        fail(ErrorCode::RecordTooLarge, "Il record è troppo grande per la tabella \"", m_definition->name,
+             "\" (", out.size(), " byte; al massimo ", data::maxRow, ").");
     return out;
 }
 

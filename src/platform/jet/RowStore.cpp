@@ -26,20 +26,17 @@ void storePointer(Page& page, RowId slot, RowId body) {
 DataPageView RowStore::view(const Page& page, uint32_t number) const {
     const DataPageView view(page, number);
     if (view.owner() != m_definition.page)
-        failDamaged(QStringLiteral("la pagina %1 non appartiene alla tabella \"%2\"")
-                        .arg(number)
-                        .arg(m_definition.name));
+        failDamaged("la pagina ", number, " non appartiene alla tabella \"", m_definition.name, "\"");
     return view;
 }
 
 RowStore::Stored RowStore::body(RowId id, std::span<const uint8_t> pointer) const {
-    if (pointer.size() < 4)
-        failDamaged(QStringLiteral("la riga %1 della pagina %2 non dice dove è").arg(id.slot).arg(id.page));
+    if (pointer.size() < 4) failDamaged("la riga ", id.slot, " della pagina ", id.page, " non dice dove è");
     const RowId place{load24(&pointer[1]), pointer[0]};
     PagePtr bodyPage = m_file.page(place.page);
     const DataPageView rows = view(*bodyPage, place.page);
     if (rows.flags(place.slot) != data::notARow)
-        failDamaged(QStringLiteral("la riga %1 della pagina %2 si è persa").arg(id.slot).arg(id.page));
+        failDamaged("la riga ", id.slot, " della pagina ", id.page, " si è persa");
     const std::span<const uint8_t> bytes = rows.bytes(place.slot);
     return {std::move(bodyPage), bytes, place};
 }
@@ -126,7 +123,7 @@ bool RowStore::replaceAt(RowId place, std::span<const uint8_t> row, uint16_t fla
 
 void RowStore::update(RowId id, std::span<const uint8_t> row) {
     const std::optional<Stored> old = find(id);
-    if (!old) failDamaged(QStringLiteral("una riga di \"%1\" è sparita").arg(m_definition.name));
+    if (!old) failDamaged("una riga di \"", m_definition.name, "\" è sparita");
     const bool moved = old->place != id;
     if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
     const RowId body = put(row, data::notARow);
@@ -141,7 +138,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
 
 void RowStore::erase(RowId id) {
     const std::optional<Stored> old = find(id);
-    if (!old) failDamaged(QStringLiteral("una riga di \"%1\" è sparita").arg(m_definition.name));
+    if (!old) failDamaged("una riga di \"", m_definition.name, "\" è sparita");
     if (old->place != id) remove(old->place);
     remove(id);
 }

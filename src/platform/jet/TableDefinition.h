@@ -2,7 +2,8 @@
 
 #include <cstdint>
 #include <optional>
-#include <QString>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/jet/Value.h"
@@ -12,7 +13,7 @@ namespace jet {
 /// One column of a table. Positions in `TableDefinition::columns` are display positions, the order of SELECT
 /// *.
 struct Column {
-    QString name;
+    std::string name;
     Type type = Type::Long;
     uint16_t number = 0;         ///< addresses the null mask of a row; deleted columns leave gaps
     uint16_t variableIndex = 0;  ///< place in a row's list of variable values
@@ -40,7 +41,7 @@ struct Index {
         uint16_t column = 0;  ///< column number, not position
         bool ascending = true;
     };
-    QString name;  ///< of the first logical index over it
+    std::string name;  ///< of the first logical index over it
     std::vector<Part> parts;
     uint32_t rootPage = 0;
     uint32_t mapPointer = 0;  ///< owned-pages map: low byte row, page above it
@@ -50,9 +51,10 @@ struct Index {
     bool primaryKey = false;
 };
 
-/// What a table's definition pages tell. Read by Database; never changed in memory by its users.
+/// What a table's definition pages tell. Names are in UTF-8. Read by Database; never changed in memory by its
+/// users.
 struct TableDefinition {
-    QString name;
+    std::string name;
     uint32_t page = 0;  ///< first definition page, also the table's id
     bool system = false;
     bool jet3 = false;  ///< of an Access 97 file: rows have the older form, and nothing can be written
@@ -65,7 +67,7 @@ struct TableDefinition {
     bool enforcedRelation = false;  ///< a foreign key that would have to be enforced on writing
 
     /// Position of the column of that name, case ignored.
-    std::optional<size_t> find(QStringView columnName) const;
+    std::optional<size_t> find(std::string_view columnName) const;
     /// Position of the one column of the primary key, when it is a single ascending long.
     std::optional<size_t> longPrimaryKey() const;
 };

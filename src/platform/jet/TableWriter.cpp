@@ -14,7 +14,7 @@ namespace {
 
 // A column that can be written again without changing the row is no obstacle.
 bool changes(Row& row, const Column& column, const Value& value) {
-    QString why;
+    std::string why;
     return !isWritable(column, why) || row.set(column, value);
 }
 
@@ -39,7 +39,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
         const std::optional<Bytes> key = tree.keyOf(id);
         erased = key && tree.erase(*key, id);
     }
-    if (!erased) failDamaged(QStringLiteral("nell'indice \"%1\" manca una riga").arg(index.name));
+    if (!erased) failDamaged("nell'indice \"", index.name, "\" manca una riga");
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
 }
 
@@ -81,8 +81,7 @@ int32_t lastAutoNumber(TableState& state) {
 int32_t nextAutoNumber(TableState& state) {
     const int32_t last = lastAutoNumber(state);
     if (last == std::numeric_limits<int32_t>::max())
-        fail(ErrorCode::Overflow,
-             QStringLiteral("Il contatore della tabella \"%1\" è esaurito.").arg(state.definition.name));
+        fail(ErrorCode::Overflow, "Il contatore della tabella \"", state.definition.name, "\" è esaurito.");
     state.setAutoNumber(last + 1);
     return last + 1;
 }
@@ -100,8 +99,7 @@ void apply(TableState& state, Work&& work) {
 }
 
 void requireTransaction(const TableState& state) {
-    if (!state.file.writing())
-        fail(ErrorCode::NotSupported, QStringLiteral("Nessuna transazione è in corso."));
+    if (!state.file.writing()) fail(ErrorCode::NotSupported, "Nessuna transazione è in corso.");
     if (!state.engine.doom.ok()) throw Failure{state.engine.doom};
 }
 
@@ -160,8 +158,8 @@ Result<int32_t> Table::takeAutoNumber() {
             requireWritableTable(*m_state);
             requireTransaction(*m_state);
             if (!autoNumberColumn(m_state->definition))
-                fail(ErrorCode::NotSupported,
-                     QStringLiteral("La tabella \"%1\" non ha un contatore.").arg(m_state->definition.name));
+                fail(ErrorCode::NotSupported, "La tabella \"", m_state->definition.name,
+                     "\" non ha un contatore.");
             int32_t number = 0;
             apply(*m_state, [&] { number = nextAutoNumber(*m_state); });
             if (own) m_state->file.commit();
@@ -180,9 +178,8 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         requireWritable(*m_state);
         const TableDefinition& table = m_state->definition;
         if (values.size() != table.columns.size())
-            fail(ErrorCode::TypeMismatch,
-                 QStringLiteral("Il numero dei valori non è quello dei campi della tabella \"%1\".")
-                     .arg(table.name));
+            fail(ErrorCode::TypeMismatch, "Il numero dei valori non è quello dei campi della tabella \"",
+                 table.name, "\".");
         Row row(table);
         for (size_t i = 0; i < values.size(); ++i)
             row.set(table.columns[i], values[i]);
@@ -220,15 +217,14 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
         requireWritableTable(*m_state);
         const TableDefinition& table = m_state->definition;
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
-        if (!stored) fail(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
         const Row old(table, stored->bytes);
         Row row = old;
         std::vector<uint16_t> numbers;
         for (const auto& [position, value] : changed) {
             const Column& column = table.columns[position];
             if (!changes(row, column, value)) continue;
-            if (column.autoNumber)
-                refuse(table, QStringLiteral("il campo \"%1\" è un contatore").arg(column.name));
+            if (column.autoNumber) refuse(table, phrase("il campo \"", column.name, "\" è un contatore"));
             requireUpdatable(*m_state, position);
             requireAllowed(column, row);
             numbers.push_back(column.number);
@@ -267,7 +263,7 @@ Status Table::erase(RowId id) {
         requireWritable(*m_state);
         const TableDefinition& table = m_state->definition;
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
-        if (!stored) fail(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
         const Row row(table, stored->bytes);
         const LongRows values = longRowsOf(*m_state, row);
         apply(*m_state, [&] {

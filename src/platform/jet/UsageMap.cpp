@@ -47,10 +47,9 @@ struct Row {
         bytes = view.bytes(slot);
         const size_t least = form() == 0 ? map::bits : map::pages + 4;
         if ((view.flags(slot) & data::deleted) != 0 || bytes.size() < least || form() > 1)
-            failDamaged(QStringLiteral("la mappa delle pagine %1/%2 non è leggibile").arg(number).arg(slot));
+            failDamaged("la mappa delle pagine ", number, "/", slot, " non è leggibile");
         if (form() == 0 && first() >= maxPages)
-            failDamaged(
-                QStringLiteral("la mappa delle pagine %1/%2 comincia oltre il file").arg(number).arg(slot));
+            failDamaged("la mappa delle pagine ", number, "/", slot, " comincia oltre il file");
     }
     int form() const { return bytes.empty() ? -1 : bytes[0]; }
     uint32_t first() const { return load32(&bytes[map::firstPage]); }
@@ -69,7 +68,7 @@ std::span<const uint8_t> bitsOf(const PageFile& file, const Page& bitmap) {
 
 PagePtr bitmapPage(PageFile& file, uint32_t number) {
     PagePtr page = file.page(number);
-    if ((*page)[0] != BitmapPage) failDamaged(QStringLiteral("la pagina %1 non è una mappa").arg(number));
+    if ((*page)[0] != BitmapPage) failDamaged("la pagina ", number, " non è una mappa");
     return page;
 }
 
@@ -147,8 +146,7 @@ void UsageMap::set(uint32_t page, bool member) {
     const size_t k = page / map::pagesPerBitmap;
     const Row now(m_file, m_page, m_slot);
     if (k >= now.bitmaps())
-        fail(ErrorCode::NotSupported,
-             QStringLiteral("Una mappa delle pagine del database non può crescere oltre."));
+        fail(ErrorCode::NotSupported, "Una mappa delle pagine del database non può crescere oltre.");
     uint32_t bitmap = now.bitmap(k);
     if (bitmap == 0) {
         bitmap = GlobalMap(m_file).take();

@@ -15,13 +15,11 @@ namespace {
 template <class Wanted>
 const Wanted& expect(const Column& column, const Value& value) {
     if (const Wanted* wanted = std::get_if<Wanted>(&value)) return *wanted;
-    fail(ErrorCode::TypeMismatch,
-         QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".").arg(column.name));
+    fail(ErrorCode::TypeMismatch, "Tipo di dati non corrispondente nel campo \"", column.name, "\".");
 }
 
 [[noreturn]] void failOverflow(const Column& column) {
-    fail(ErrorCode::Overflow,
-         QStringLiteral("Il numero è troppo grande per il campo \"%1\".").arg(column.name));
+    fail(ErrorCode::Overflow, "Il numero è troppo grande per il campo \"", column.name, "\".");
 }
 
 int64_t integerIn(const Column& column, const Value& value, int64_t least, int64_t greatest) {
@@ -57,14 +55,11 @@ Bytes singleBytes(const Column& column, double number) {
 Bytes textBytes(const Column& column, const std::string& utf8) {
     const std::u16string text = toUtf16(utf8);
     if (text.size() > column.length / 2u)
-        fail(ErrorCode::FieldTooSmall,
-             QStringLiteral("Il campo \"%1\" è troppo piccolo per il testo (al massimo %2 caratteri).")
-                 .arg(column.name)
-                 .arg(column.length / 2));
+        fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name,
+             "\" è troppo piccolo per il testo (al massimo ", column.length / 2, " caratteri).");
     if (std::optional<Bytes> bytes = encodeText(text, column.compressed)) return std::move(*bytes);
-    fail(ErrorCode::NotSupported,
-         QStringLiteral("Il testo del campo \"%1\" contiene caratteri che il database non può conservare.")
-             .arg(column.name));
+    fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
+         "\" contiene caratteri che il database non può conservare.");
 }
 
 Bytes rawBytes(const Column& column, const Value& value) {
@@ -72,8 +67,8 @@ Bytes rawBytes(const Column& column, const Value& value) {
     const bool exact = column.fixed || column.type == Type::Guid || column.type == Type::Numeric;
     const size_t wanted = exact && column.type != Type::Binary ? fixedLength(column) : column.length;
     if (bytes.size() > wanted || (exact && bytes.size() != wanted))
-        fail(ErrorCode::FieldTooSmall,
-             QStringLiteral("Il campo \"%1\" non può contenere %2 byte.").arg(column.name).arg(bytes.size()));
+        fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name, "\" non può contenere ", bytes.size(),
+             " byte.");
     return bytes;
 }
 
@@ -103,16 +98,16 @@ size_t fixedLength(const Column& column) {
     }
 }
 
-bool isWritable(const Column& column, QString& why) {
+bool isWritable(const Column& column, std::string& why) {
     switch (column.type) {
         case Type::Memo:
-            why = QStringLiteral("è di tipo memo");
+            why = "è di tipo memo";
             return false;
         case Type::Ole:
-            why = QStringLiteral("contiene un oggetto OLE");
+            why = "contiene un oggetto OLE";
             return false;
         case Type::Text:
-            why = QStringLiteral("è un testo di lunghezza fissa");
+            why = "è un testo di lunghezza fissa";
             return !column.fixed;
         case Type::YesNo:
         case Type::Byte:
@@ -127,7 +122,7 @@ bool isWritable(const Column& column, QString& why) {
         case Type::Numeric:
             return true;
     }
-    why = QStringLiteral("è di un tipo sconosciuto (%1)").arg(static_cast<int>(column.type));
+    why = phrase("è di un tipo sconosciuto (", static_cast<int>(column.type), ")");
     return false;
 }
 
@@ -166,10 +161,9 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
         default:
             break;
     }
-    QString why;
+    std::string why;
     (void)isWritable(column, why);
-    fail(ErrorCode::NotSupported,
-         QStringLiteral("Il campo \"%1\" %2: non può essere modificato.").arg(column.name, why));
+    fail(ErrorCode::NotSupported, "Il campo \"", column.name, "\" ", why, ": non può essere modificato.");
 }
 
 void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std::string& out) {

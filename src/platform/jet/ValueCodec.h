@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 
 #include "platform/jet/TableDefinition.h"
 
@@ -15,7 +16,7 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value);
 bool yesNoValue(const Column& column, const Value& value);
 
 /// Whether the engine can store values in the column. If not, `why` completes "Il campo … ".
-bool isWritable(const Column& column, QString& why);
+bool isWritable(const Column& column, std::string& why);
 
 /// Bytes that a column takes in the fixed area.
 size_t fixedLength(const Column& column);

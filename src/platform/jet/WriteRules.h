@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "platform/jet/Engine.h"
 #include "platform/jet/Key.h"
@@ -15,7 +16,7 @@ void requireWritableTable(const TableState& state);
 void requireWritable(TableState& state);
 /// The column at that position can be changed: its values can be stored, its indexes kept right.
 void requireUpdatable(TableState& state, size_t position);
-[[noreturn]] void refuse(const TableDefinition& table, const QString& why);
+[[noreturn]] void refuse(const TableDefinition& table, std::string_view why);
 
 /// The column's own rules for its value in a row that will be stored: Required, AllowZeroLength.
 void requireAllowed(const Column& column, const Row& row);

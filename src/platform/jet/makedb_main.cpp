@@ -2,13 +2,14 @@
 #include <cstdio>
 
 #include "platform/jet/Database.h"
+#include "platform/jet/JetText.h"
 
 int main(int argc, char** argv) {
     if (argc != 2) {
         std::fprintf(stderr, "usage: vestrola_makedb FILE\n");
         return 2;
     }
-    const Status status = jet::createEmptyDatabase(QString::fromLocal8Bit(argv[1]));
-    if (!status.ok()) std::fprintf(stderr, "vestrola_makedb: %s\n", qPrintable(status.text()));
+    const Status status = jet::createEmptyDatabase(argv[1]);
+    if (!status.ok()) std::fprintf(stderr, "vestrola_makedb: %s\n", jet::toUtf8(status.plainText()).c_str());
     return status.ok() ? 0 : 1;
 }

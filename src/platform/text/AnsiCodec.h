@@ -5,9 +5,12 @@
 #include <QByteArray>
 #include <QString>
 
+#include "platform/text/AnsiTable.h"
+
 /// The 8-bit text of the program's files: Windows-1252 on every machine. The five bytes that the code page
 /// leaves undefined (81 8D 8F 90 9D) stand for U+0081, U+008D, U+008F, U+0090 and U+009D in both directions,
-/// so that each byte has a character of its own and any file survives reading and writing.
+/// so that each byte has a character of its own and any file survives reading and writing. ansiCharacter() in
+/// AnsiTable.h tells the character of a byte.
 namespace text {
 
 /// The byte of a character, or none where the code page does not hold it.
@@ -15,8 +18,6 @@ std::optional<std::uint8_t> ansiCode(char32_t character);
 
 /// Takes the first character off a text that is not empty: one UTF-16 unit, or two where they are a pair.
 char32_t takeCharacter(QStringView& text);
-
-char16_t ansiCharacter(std::uint8_t code);
 
 QString fromAnsi(QByteArrayView bytes);
 

@@ -11,7 +11,7 @@ void GridModel::setSnapshot(ado::Snapshot rows) {
     m_written.clear();
     m_headings = {QString()};
     for (const jet::Column& column : m_rows.columns())
-        m_headings << column.name;
+        m_headings << QString::fromStdString(column.name);
     m_order.resize(static_cast<size_t>(m_headings.size()));
     std::iota(m_order.begin(), m_order.end(), 0);
     endResetModel();
