@@ -1,3 +1,4 @@
+#include <unistd.h>
 #include <QDir>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -42,6 +43,26 @@ TEST_F(ErrorLog, SecondStartLeavesASingleLineOfItsOwn) {
     time = time.addSecs(3600);
     ScriviInizioLog();
     EXPECT_EQ(bytesOf(path()), QByteArray("Inizio applicazione: 09/03/26 08:05:08\r\n"));
+}
+
+TEST_F(ErrorLog, ReadOnlyFileStaysAsItIs) {
+    constexpr uid_t nobody = 65534;
+    ScriviInizioLog();
+    const QByteArray before = bytesOf(path());
+    ASSERT_TRUE(QFile::setPermissions(path(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    const QString folder = QFileInfo(path()).path();
+    ASSERT_TRUE(
+        QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ReadOther | QFile::ExeOther));
+    time = time.addSecs(3600);
+    const bool root = geteuid() == 0;  // who may write everything, and so becomes somebody else
+    if (root) {
+        ASSERT_EQ(seteuid(nobody), 0);
+    }
+    EXPECT_NO_THROW(ScriviInizioLog());
+    if (root) {
+        ASSERT_EQ(seteuid(0), 0);
+    }
+    EXPECT_EQ(bytesOf(path()), before);
 }
 
 TEST_F(ErrorLog, FileThatCannotBeWrittenIsPassedOver) {

@@ -5,6 +5,7 @@
 #include "core/Fallimento.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
+#include "support/JetTables.h"
 #include "support/Vectors.h"
 
 namespace {
@@ -51,14 +52,26 @@ TEST_F(DatabaseCheck, EmptyDatabaseWithBothTablesIsUsable) {
     EXPECT_EQ(bytesOf(path()), before);
 }
 
+TEST_F(DatabaseCheck, MoreTablesDoNoHarm) {
+    for (const char* name : {"aaa", "tb_destinatari2", "zzz"})
+        jettables::addTable(path().toStdString(), name,
+                            {{"id", jet::Type::Long}, {"testo", jet::Type::Text, 50}}, {});
+    EXPECT_TRUE(VerificaDatabase(path()));
+}
+
 TEST_F(DatabaseCheck, NamesCountInAnyMixOfCase) {
     rename("tb_destinatari", "TB_Destinatari");
     rename("tb_gruppi", "Tb_GRUPPI");
     EXPECT_TRUE(VerificaDatabase(path()));
 }
 
-TEST_F(DatabaseCheck, OneTableAloneIsNotEnough) {
+TEST_F(DatabaseCheck, GroupsAloneAreNotEnough) {
     rename("tb_destinatari", "tb_destinatarx");
+    EXPECT_FALSE(VerificaDatabase(path()));
+}
+
+TEST_F(DatabaseCheck, RecipientsAloneAreNotEnough) {
+    rename("tb_gruppi", "tb_gruppx");
     EXPECT_FALSE(VerificaDatabase(path()));
 }
 
