@@ -29,6 +29,18 @@ class TestDatabase : public QObject {
         if (!jet::createEmptyDatabase(path.toStdString()).ok()) qFatal("no other database");
         return path;
     }
+    /// A sound database whose table of the recipients has another name of the same length.
+    static QByteArray groupsOnly() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("gruppi.mdb");
+        if (!jet::createEmptyDatabase(path.toStdString()).ok()) qFatal("no database of groups");
+        const auto wide = [](const QString& text) {
+            return QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
+        };
+        QByteArray bytes = readFile(path);
+        return bytes.replace(wide("tb_destinatari"), wide("tb_destinatarx"))
+            .replace("tb_destinatari", "tb_destinatarx");
+    }
     static QByteArray pathFile(const StoreStage& stage) {
         return readFile(stage.folder.path("data/pathDBase.imp"));
     }
@@ -111,6 +123,7 @@ class TestDatabase : public QObject {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("no database") << QByteArray("hello");
         QTest::newRow("empty file") << QByteArray();
+        QTest::newRow("groups only") << groupsOnly();
     }
     void aWrongFileIsToldAndChangesNothingButTheTree() {
         QFETCH(QByteArray, content);
