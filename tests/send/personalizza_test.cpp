@@ -128,7 +128,7 @@ TEST(Personalisation, TextOfNothingButColonsTakesTimeInProportion) {
 TEST(RecipientColumns, AreReadFromTheCurrentRow) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("data.mdb"));
-    ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString().toStdString()).ok());
+    ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString()).ok());
     const QString connection = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + path;
     ado::Recordset rows;
     ASSERT_TRUE(rows.setActiveConnection(connection).ok());
