@@ -1,7 +1,6 @@
 #include "platform/ado/FieldValue.h"
 
 #include <cmath>
-#include <limits>
 #include <optional>
 
 #include "platform/ado/DateText.h"
@@ -25,12 +24,11 @@ Status overflow(const jet::Column& column) {
         QStringLiteral("Valore troppo grande per il campo \"%1\".").arg(QString::fromStdString(column.name))};
 }
 
-Result<jet::Value> fitInteger(const Value& value, const jet::Column& column, int64_t least,
-                              int64_t greatest) {
+Result<jet::Value> fitInteger(const Value& value, const jet::Column& column) {
     const Result<qint64> number = value.toInteger();
     if (!number.ok())
         return number.status().code() == ErrorCode::Overflow ? overflow(column) : mismatch(column);
-    if (number.value() < least || number.value() > greatest) return overflow(column);
+    if (!jet::wholeRange(column.type).contains(number.value())) return overflow(column);
     return jet::Value(static_cast<int64_t>(number.value()));
 }
 
@@ -71,13 +69,9 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
             return yes.ok() ? Result<jet::Value>(jet::Value(yes.value())) : mismatch(column);
         }
         case Type::Byte:
-            return fitInteger(Value(std::move(raw)), column, 0, std::numeric_limits<uint8_t>::max());
         case Type::Integer:
-            return fitInteger(Value(std::move(raw)), column, std::numeric_limits<int16_t>::min(),
-                              std::numeric_limits<int16_t>::max());
         case Type::Long:
-            return fitInteger(Value(std::move(raw)), column, std::numeric_limits<int32_t>::min(),
-                              std::numeric_limits<int32_t>::max());
+            return fitInteger(Value(std::move(raw)), column);
         case Type::Currency:
             return fitCurrency(raw, column);
         case Type::Single:

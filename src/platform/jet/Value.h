@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <variant>
 #include <vector>
@@ -24,6 +25,20 @@ enum class Type : uint8_t {
     Guid = 15,
     Numeric = 16,
 };
+
+/// The numbers that a column of whole numbers holds.
+struct WholeRange {
+    int64_t least;
+    int64_t greatest;
+    constexpr bool contains(int64_t number) const { return number >= least && number <= greatest; }
+};
+/// `type` is Byte, Integer or Long.
+constexpr WholeRange wholeRange(Type type) {
+    if (type == Type::Byte) return {0, std::numeric_limits<uint8_t>::max()};
+    if (type == Type::Integer)
+        return {std::numeric_limits<int16_t>::min(), std::numeric_limits<int16_t>::max()};
+    return {std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()};
+}
 
 using Bytes = std::vector<uint8_t>;
 

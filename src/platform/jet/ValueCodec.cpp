@@ -22,10 +22,10 @@ const Wanted& expect(const Column& column, const Value& value) {
     fail(ErrorCode::Overflow, "Il numero è troppo grande per il campo \"", column.name, "\".");
 }
 
-int64_t integerIn(const Column& column, const Value& value, int64_t least, int64_t greatest) {
+int64_t wholeOf(const Column& column, const Value& value) {
     const bool* truth = std::get_if<bool>(&value);
     const int64_t number = truth ? -int64_t{*truth} : expect<int64_t>(column, value);
-    if (number < least || number > greatest) failOverflow(column);
+    if (!wholeRange(column.type).contains(number)) failOverflow(column);
     return number;
 }
 
@@ -136,14 +136,9 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
     if (std::holds_alternative<std::monostate>(value)) return std::nullopt;
     switch (column.type) {
         case Type::Byte:
-            return littleEndian(static_cast<uint64_t>(integerIn(column, value, 0, 255)), 1);
         case Type::Integer:
-            return littleEndian(static_cast<uint64_t>(integerIn(column, value, -32768, 32767)), 2);
         case Type::Long:
-            return littleEndian(
-                static_cast<uint64_t>(integerIn(column, value, std::numeric_limits<int32_t>::min(),
-                                                std::numeric_limits<int32_t>::max())),
-                4);
+            return littleEndian(static_cast<uint64_t>(wholeOf(column, value)), fixedLength(column));
         case Type::Currency:
             return littleEndian(static_cast<uint64_t>(expect<Currency>(column, value).tenThousandths), 8);
         case Type::Single:
