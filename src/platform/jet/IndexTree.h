@@ -17,8 +17,7 @@ namespace jet {
 ///   T2 a node lists each child but the last with the greatest entry below it; the last child is its tail
 ///   T3 pages of one level are chained in order, both ways
 ///   T4 the root keeps its page number: when it is full, its content goes to new pages below it, and when
-///   only a
-///      tail is left, that child's content comes up
+///      only a tail is left, that child's content comes up
 ///   T5 the index's map holds just the pages of the tree
 class IndexTree {
   public:
