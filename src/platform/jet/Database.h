@@ -164,8 +164,9 @@ class Database {
     /// first change; nothing is written to the file before it is synced. Refused (FileInUse) as well while
     /// another program holds the NAME.ldb beside the file.
     Status begin();
-    /// Makes the transaction durable: after it returns success the changes survive a crash. After a failure
-    /// the file is as it was at begin().
+    /// Makes the transaction durable: after it returns success the changes survive a crash (not that of the
+    /// machine when the folder could not be synced; then the next transaction fails, having changed nothing).
+    /// After a failure the file is as it was at begin().
     Status commit();
     /// Puts the file back to what it was at begin().
     void rollback();

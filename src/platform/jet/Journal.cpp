@@ -65,7 +65,11 @@ void Journal::sync() {
 void Journal::finish() {
     OsFile::remove(m_path);
     m_file = OsFile();
-    OsFile::syncFolderOf(m_path);
+    try {
+        OsFile::syncFolderOf(m_path);
+    } catch (const Failure&) {
+        // It has happened, and whoever reads the file next sees it. The next transaction fails in step 3.
+    }
 }
 
 void Journal::discard() {

@@ -36,7 +36,9 @@ namespace jet {
 /// A crash before 3 is complete leaves an untouched file, and a journal of which only intact records count:
 /// putting them back changes nothing. Between 3 and 6 the journal leads back to the state before. Between 6
 /// and 7 a power failure may bring the journal back and with it the state before; from 7 on only the new
-/// state is possible. Steps 3 and 4 may be repeated for a large transaction.
+/// state is possible. A folder that cannot be synced in 7 makes no failure of what has happened: it is told
+/// by the next transaction, whose step 3 syncs the same folder before anything is changed. Steps 3 and 4 may
+/// be repeated for a large transaction.
 class Journal {
   public:
     explicit Journal(const std::string& databasePath) : m_path(databasePath + "-journal") {}
@@ -46,7 +48,7 @@ class Journal {
     void start(const OsFile& database, uint32_t pages);
     void add(uint32_t page, const Page& original);
     void sync();
-    /// Steps 6 and 7.
+    /// Steps 6 and 7. Fails in step 6 only.
     void finish();
     /// Drops a journal whose pages were never changed in the file.
     void discard();
