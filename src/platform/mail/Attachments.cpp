@@ -22,7 +22,7 @@ Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp) {
     if (!source.open(QIODevice::ReadOnly)) {
         return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
     }
-    const QByteArray content = source.read(largestFile);
+    const QByteArray content = source.read(std::min(source.size(), largestFile));
     if (source.error() != QFile::NoError) {
         return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
     }
