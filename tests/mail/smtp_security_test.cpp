@@ -258,6 +258,17 @@ TEST_F(SmtpLogin, Login) {
                                                      "C: " + passwordToken, "S: 235 welcome"});
 }
 
+TEST_F(SmtpLogin, PromptsThatAreNotEncoded) {
+    delivers(helloWithAuth("LOGIN") + QByteArrayList{"C: AUTH LOGIN", "S: 334 Username:", "C: " + userToken,
+                                                     "S: 334 Password:", "C: " + passwordToken,
+                                                     "S: 235 welcome"});
+}
+
+TEST_F(SmtpLogin, ChallengeThatIsNotEncodedIsNotAnswered) {
+    fails(helloWithAuth("CRAM-MD5") + QByteArrayList{"C: AUTH CRAM-MD5", "S: 334 <1.2@example.it>"}, 0,
+          "WAIT");
+}
+
 TEST_F(SmtpLogin, OldFormOfTheOffer) {
     delivers({"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250 AUTH=PLAIN LOGIN",
               "C: AUTH PLAIN " + plainToken, "S: 235 welcome"});

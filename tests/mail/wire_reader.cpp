@@ -1,5 +1,6 @@
 #include "mail/wire_reader.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -12,9 +13,11 @@ namespace {
 using Headers = std::vector<std::pair<QByteArray, QByteArray>>;
 
 bool matches(const char* pattern, const QByteArray& text) {
-    return QRegularExpression(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)))
-        .match(QString::fromUtf8(text))
-        .hasMatch();
+    static QHash<QByteArray, QRegularExpression> known;
+    QRegularExpression& expression = known[pattern];
+    if (expression.pattern().isEmpty())
+        expression.setPattern(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)));
+    return expression.match(QString::fromUtf8(text)).hasMatch();
 }
 
 QByteArray valueOf(const Headers& headers, const QByteArray& name) {

@@ -31,8 +31,12 @@ QByteArray unescaped(QByteArray text) {
 
 }  // namespace
 
-ScriptedServer::ScriptedServer(QList<QByteArrayList> dialogues, TlsIdentity identity, quint16 port)
-    : m_dialogues(std::move(dialogues)), m_identity(std::move(identity)), m_port(port) {
+ScriptedServer::ScriptedServer(QList<QByteArrayList> dialogues, TlsIdentity identity, quint16 port,
+                               QHash<QByteArray, Answer> answers)
+    : m_dialogues(std::move(dialogues)),
+      m_identity(std::move(identity)),
+      m_port(port),
+      m_answers(std::move(answers)) {
     start();
     m_listening.acquire();
 }
@@ -104,6 +108,10 @@ void ScriptedServer::step(const QByteArray& line) {
         }
     } else if (line.startsWith("C: ")) {
         expect(text);
+    } else if (line.startsWith("A: ")) {
+        if (!m_answers.contains(text)) throw Unexpected{"no such answer"};
+        m_lines.append(takeLine());
+        send(m_answers[text](m_lines.last()) + "\r\n");
     } else if (line == "BODY") {
         takeBody();
     } else if (line.startsWith("READ ")) {
@@ -118,6 +126,10 @@ void ScriptedServer::step(const QByteArray& line) {
         configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
         configuration.setPrivateKey(m_identity.key);
         configuration.setLocalCertificate(m_identity.certificate);
+        if (!m_identity.newestProtocol.isEmpty()) {
+            configuration.setProtocol(QSsl::AnyProtocol);
+            configuration.setBackendConfigurationOption("MaxProtocol", m_identity.newestProtocol);
+        }
         m_socket->setSslConfiguration(configuration);
         m_socket->startServerEncryption();
         // A client that refuses the certificate may do so when the handshake has ended on this side.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <QByteArrayList>
+#include <QHash>
 #include <QList>
 #include <QSemaphore>
 #include <QThread>
@@ -20,6 +22,7 @@ namespace testing_support {
 ///   S- text      sends the text without a line end; \r \n \0 stand for the control characters
 ///   S. text      sends the line octet by octet
 ///   C: pattern   expects a line; "*" stands for any text
+///   A: name      expects a line and sends what that answer makes of it
 ///   BODY         reads a message up to the final point and keeps it
 ///   READ n       reads n octets
 ///   EMPTY        expects that nothing more has come
@@ -33,8 +36,11 @@ namespace testing_support {
 /// A dialogue that has ended is closed.
 class ScriptedServer : public QThread {
   public:
+    /// Makes the line to send (without its end) from a line of the client's; it runs in the server's thread.
+    using Answer = std::function<QByteArray(const QByteArray& line)>;
+
     explicit ScriptedServer(QList<QByteArrayList> dialogues, TlsIdentity identity = TlsIdentity(),
-                            quint16 port = 0);
+                            quint16 port = 0, QHash<QByteArray, Answer> answers = {});
     ~ScriptedServer() override;
 
     quint16 port() const { return m_port; }
@@ -70,6 +76,7 @@ class ScriptedServer : public QThread {
     const QList<QByteArrayList> m_dialogues;
     const TlsIdentity m_identity;
     quint16 m_port;
+    const QHash<QByteArray, Answer> m_answers;
     QSemaphore m_listening;
     std::atomic<int> m_waits = 0;
     QSslSocket* m_socket = nullptr;

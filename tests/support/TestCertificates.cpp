@@ -14,7 +14,7 @@ QByteArray contents(const QString& path) {
 }
 
 TlsIdentity load(const QString& key, const QString& certificate) {
-    return {QSslKey(contents(key), QSsl::Ec), QSslCertificate(contents(certificate))};
+    return {QSslKey(contents(key), QSsl::Ec), QSslCertificate(contents(certificate)), {}};
 }
 
 const QStringList newKey = {"-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes"};

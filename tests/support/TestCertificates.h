@@ -11,6 +11,7 @@ namespace testing_support {
 struct TlsIdentity {
     QSslKey key;
     QSslCertificate certificate = QSslCertificate();
+    QByteArray newestProtocol = QByteArray();  ///< OpenSSL's name of it, such as "TLSv1.1"; empty: any
 };
 
 /// An authority and server certificates, made anew by the openssl program when they are first asked for.

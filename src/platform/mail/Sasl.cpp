@@ -30,6 +30,19 @@ bool canBeDigested(const QString& text) {
     return code == GSASL_OK;
 }
 
+/// Rounds of a SCRAM server's key derivation (RFC 5802 5.1). A server may ask for any number of them, and
+/// each delays the whole program: so many take about a second, while servers ask for some thousands.
+constexpr qulonglong mostIterations = 1'000'000;
+
+bool asksTooMuch(const QByteArray& challenge) {
+    for (const QByteArray& attribute : challenge.split(',')) {
+        bool known = false;
+        if (attribute.startsWith("i=") && (attribute.mid(2).toULongLong(&known) > mostIterations || !known))
+            return true;
+    }
+    return false;
+}
+
 bool sendsPassword(const QByteArray& mechanism) {
     return mechanism == "PLAIN" || mechanism == "LOGIN";
 }
@@ -39,6 +52,7 @@ bool sendsPassword(const QByteArray& mechanism) {
 struct SaslExchange::State {
     Gsasl_session* session = nullptr;
     bool clientFirst = false;
+    bool derivesKey = false;
     bool complete = false;
 
     State() = default;
@@ -76,7 +90,8 @@ Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QStr
         if (code == GSASL_OK) code = gsasl_property_set(state->session, property, value.toUtf8().constData());
     }
     if (code != GSASL_OK) return failure(code);
-    state->clientFirst = mechanism == "PLAIN" || mechanism.startsWith("SCRAM-");
+    state->derivesKey = mechanism.startsWith("SCRAM-");
+    state->clientFirst = mechanism == "PLAIN" || state->derivesKey;
     return SaslExchange(std::move(state));
 }
 
@@ -85,6 +100,7 @@ bool SaslExchange::clientFirst() const {
 }
 
 Result<QByteArray> SaslExchange::step(const QByteArray& challenge) {
+    if (m_state->derivesKey && asksTooMuch(challenge)) return failure(GSASL_MECHANISM_PARSE_ERROR);
     char* output = nullptr;
     size_t size = 0;
     const int code =

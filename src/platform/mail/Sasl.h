@@ -27,8 +27,8 @@ class SaslExchange {
     /// True for a mechanism in which the client speaks first: step() of an empty challenge gives that token.
     bool clientFirst() const;
 
-    /// The answer to a challenge. Fails (NotSupported) when the challenge is not acceptable: malformed, or a
-    /// server that could not prove that it knows the password.
+    /// The answer to a challenge. Fails (NotSupported) when the challenge is not acceptable: malformed, a
+    /// server that could not prove that it knows the password, or one that asks for absurdly much work.
     Result<QByteArray> step(const QByteArray& challenge);
 
     /// All steps are done and, where the mechanism has it, the server has proved itself.

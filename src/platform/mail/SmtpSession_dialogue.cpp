@@ -54,7 +54,8 @@ void SmtpSession::onReadyRead() {
 void SmtpSession::onUnexpectedInput() {
     // Said without having been asked: at best a farewell, and no later reply could be trusted to be the right
     // one.
-    const SmtpReply reply = parseSmtpReply(m_input, m_inputRead).reply;
+    SmtpReply reply = parseSmtpReply(m_input, m_inputRead).reply;
+    if (reply.intermediate()) reply.text = "(omesso)";  // it may be a token of the login
     m_transcript.received(reply.code, reply.text);
     lost(reply.code == 421 ? 421 : 0, reply.code == 421
                                           ? printable(reply.text)

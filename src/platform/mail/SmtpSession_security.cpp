@@ -200,9 +200,13 @@ void SmtpSession::onChallenge(const QByteArray& text) {
     // The first token again: not sent so far, or passed over by a server that knows no initial responses.
     const bool wantsFirst = m_authSteps == 1 && m_exchange->clientFirst() &&
                             (!m_initialResponse || text.isEmpty() || m_exchange->complete());
+    const auto challenge =
+        QByteArray::fromBase64Encoding(text.trimmed(), QByteArray::AbortOnBase64DecodingErrors);
+    // What LOGIN asks with is a prompt for people; there are servers that write it as it is.
+    const bool readable = wantsFirst || challenge || m_mechanisms.first() == "LOGIN";
     Result<QByteArray> answer = QByteArray();
-    if (!wantsFirst) answer = m_exchange->step(QByteArray::fromBase64(text));
-    if (!answer.ok() || m_authSteps > maxAuthSteps) {
+    if (!wantsFirst && readable) answer = m_exchange->step(*challenge);
+    if (!readable || !answer.ok() || m_authSteps > maxAuthSteps) {
         dropConnection();
         conclude({false, 0, QStringLiteral("Il server non ha completato l'autenticazione.")});
         return;
