@@ -54,6 +54,7 @@ TEST(QuotedPrintable, NoLineStartsWithWhatTransportsChange) {
     EXPECT_EQ(quotedPrintable(".\n..\nFrom x\nFrome\nx."), "=2E\r\n=2E.\r\n=46rom x\r\nFrome\r\nx.");
     EXPECT_EQ(quotedPrintable(QByteArray(75, 'x') + ".y"), QByteArray(75, 'x') + "=\r\n=2Ey");
     EXPECT_EQ(quotedPrintable(QByteArray(75, 'x') + "From y"), QByteArray(75, 'x') + "=\r\n=46rom y");
+    EXPECT_EQ(quotedPrintable(QByteArray("From\0y", 6)), "=46rom y");
 }
 
 TEST(QuotedPrintable, LinesHaveAtMost76Octets) {

@@ -84,6 +84,8 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     m_state->images.follow(message.templateHtml);
 
     Body body{message.bodyText.toUtf8(), message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
+    // As it travels: what stands around a NUL has to mean the same to every reader.
+    body.html.replace('\0', ' ');
     const HtmlReferences references = findReferences(body.html);
     adaptHtml(body, references, m_state->images);
 

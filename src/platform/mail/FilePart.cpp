@@ -8,6 +8,7 @@
 namespace mail {
 namespace {
 
+const char* const namelessFile = "file";
 constexpr qsizetype fallbackLimit = 60;
 constexpr qsizetype lineLength = 76;
 
@@ -16,7 +17,7 @@ QString bareName(const QString& name) {
     const QString line = singleLine(name);
     const qsizetype cut = std::max(line.lastIndexOf(u'/'), line.lastIndexOf(u'\\'));
     const QString bare = line.mid(cut + 1).trimmed();
-    return bare.isEmpty() ? QStringLiteral("file") : bare;
+    return bare.isEmpty() ? QString::fromLatin1(namelessFile) : bare;
 }
 
 // Letters without their accents, "_" for whatever old readers and file systems stumble over
@@ -28,6 +29,7 @@ QByteArray asciiName(const QString& name) {
             c.unicode() < 0x80 && (c.isLetterOrNumber() || QStringView(u" !#$&'()+,-.;@_").contains(c));
         plain += known ? static_cast<char>(c.unicode()) : '_';
     }
+    if (plain.trimmed().isEmpty()) return namelessFile;
     if (plain.size() <= fallbackLimit) return plain;
     const qsizetype dot = plain.lastIndexOf('.');
     const QByteArray suffix = dot >= 0 && plain.size() - dot <= 10 ? plain.mid(dot) : QByteArray();

@@ -85,7 +85,9 @@ class Writer {
 };
 
 bool mustNotStartLine(const char* at, const char* end) {
-    return *at == '.' || (end - at >= 5 && std::memcmp(at, "From ", 5) == 0);
+    // a NUL will be a blank
+    return *at == '.' ||
+           (end - at >= 5 && std::memcmp(at, "From", 4) == 0 && (at[4] == ' ' || at[4] == '\0'));
 }
 
 }  // namespace
