@@ -1,8 +1,30 @@
 #include "platform/ui/Controls.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QFrame>
 #include <QPushButton>
+
+namespace {
+
+class Opening : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* window = static_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && !event->spontaneous())
+            window->resize(window->size().expandedTo(window->sizeHint()));
+        return false;
+    }
+};
+
+}  // namespace
+
+void ui::openAtLeast(QWidget& window, const QSize& size) {
+    window.resize(size);
+    window.installEventFilter(new Opening(&window));
+}
 
 int ui::scaledToFont(const QWidget& widget, int length) {
     constexpr double designPoints = 10;

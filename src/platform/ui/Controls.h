@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 class QFrame;
@@ -31,6 +32,9 @@ QString spokenCaption(QString caption);
 
 /// A command button of a dialog, which presses it by the Enter key only where it is made the default one.
 QPushButton* commandButton(const QString& caption, const QString& name, QWidget* parent);
+
+/// Lets a window open at a size, or at what its texts ask for where that is more, each time anew.
+void openAtLeast(QWidget& window, const QSize& size);
 
 /// A thin line between two parts of a window, owned by the parent.
 QFrame* separatorLine(QWidget* parent);
