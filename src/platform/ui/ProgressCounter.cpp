@@ -51,8 +51,9 @@ void ProgressCounter::setMaximum(double maximum) {
 
 void ProgressCounter::setValue(double value) {
     if (value == m_value) return;
+    const int before = barLength();
     m_value = value;
-    update();
+    if (barLength() != before) repaint();
     QAccessibleValueChangeEvent event(this, value);
     QAccessible::updateAccessibility(&event);
     Q_EMIT valueChanged(value);
@@ -73,6 +74,10 @@ QSize ProgressCounter::minimumSizeHint() const {
 
 double ProgressCounter::share() const {
     return m_maximum > 0 ? qBound(0.0, m_value / m_maximum, 1.0) : 0.0;
+}
+
+int ProgressCounter::barLength() const {
+    return static_cast<int>(share() * width() * devicePixelRatioF());
 }
 
 void ProgressCounter::paintEvent(QPaintEvent*) {

@@ -19,6 +19,8 @@ class ProgressCounter : public QWidget {
     double maximum() const { return m_maximum; }
     void setMaximum(double maximum);
     double value() const { return m_value; }
+    /// What changes to the eye is drawn at once: work that holds the events back shows its progress all the
+    /// same.
     void setValue(double value);
 
     /// Colour of the filled part; the palette's highlight colour where none was set.
@@ -36,6 +38,8 @@ class ProgressCounter : public QWidget {
   private:
     /// The filled share of the bar, 0 to 1.
     double share() const;
+    /// Of the filled part, in the screen's dots.
+    int barLength() const;
 
     double m_maximum = 100;
     double m_value = 0;
