@@ -7,6 +7,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "platform/ui/ColorHexagon.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/PropertyList.h"
 
@@ -42,6 +43,10 @@ struct Form {
     }
     QTreeWidget* view() { return list->findChild<QTreeWidget*>(); }
     QLineEdit* editor() { return view()->viewport()->findChild<QLineEdit*>(); }
+    ui::ColorHexagon* colours() {
+        auto* panel = view()->findChild<QWidget*>("colorPopup");
+        return panel && panel->isVisible() ? panel->findChild<ui::ColorHexagon*>("color") : nullptr;
+    }
     QString current() { return view()->currentItem()->text(0); }
     QString description() { return list->findChild<QLabel*>()->text(); }
     QPoint cell(const char* caption, int column) {
@@ -272,6 +277,60 @@ class TestPropertyList : public QObject {
         editor->editableTextInterface()->insertText(0, "a@b.it");
         f.type(Qt::Key_Return);
         QCOMPARE(cell(2, 1)->text(QAccessible::Value), "a@b.it");
+    }
+
+    void aColourIsPickedAmongThoseThatItsEndsAndKeysOffer_data() {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"swatch", "arrow", "F4", "Alt+Down"})
+            QTest::newRow(way) << way;
+    }
+    void aColourIsPickedAmongThoseThatItsEndsAndKeysOffer() {
+        QFETCH(QString, way);
+        Form f;
+        f.list->Item("Sfondo")->setValue(0x0000ffU);
+        f.list->setCurrentItem("Sfondo");
+        const QRect cell = f.view()->visualRect(f.view()->currentIndex());
+        if (way == "swatch")
+            QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, cell.topLeft() + QPoint(15, 12));
+        if (way == "arrow")
+            QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, cell.bottomRight() - QPoint(8, 8));
+        if (way == "F4") QTest::keyClick(f.view(), Qt::Key_F4);
+        if (way == "Alt+Down") QTest::keyClick(f.view(), Qt::Key_Down, Qt::AltModifier);
+        ui::ColorHexagon* colours = f.colours();
+        QVERIFY(colours);
+        QCOMPARE(colours->Color(), 0x0000ffU);
+        QCOMPARE(colours->accessibleName(), "Sfondo");
+        const quint32 wanted = colours->cellColor(3);
+        colours->pick(3);
+        QCOMPARE(f.list->Item("Sfondo")->Value().toUInt(), wanted);
+        QVERIFY(!f.colours());
+        QVERIFY(!f.editor());
+        QCOMPARE(f.saved, 0);
+    }
+
+    void leavingTheColoursKeepsWhatWasTyped() {
+        Form f;
+        f.list->setCurrentItem("Sfondo");
+        for (const QChar letter : QString("#102030"))
+            f.type(Qt::Key_unknown, letter);
+        QTest::keyClick(f.editor(), Qt::Key_Down, Qt::AltModifier);
+        QVERIFY(f.colours());
+        QCOMPARE(f.colours()->Color(), 0x302010U);
+        QTest::keyClick(f.colours(), Qt::Key_Escape);
+        QVERIFY(!f.colours());
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.list->Item("Sfondo")->Value().toUInt(), 0x302010U);
+    }
+
+    void theMiddleOfAColourIsForTypingAndATextOffersNoColours() {
+        Form f;
+        f.list->setCurrentItem("Sfondo");
+        QTest::mouseClick(f.view()->viewport(), Qt::LeftButton, {}, f.cell("Sfondo", 1));
+        QTRY_VERIFY(f.editor());
+        QVERIFY(!f.colours());
+        f.list->setCurrentItem("Email");
+        QTest::keyClick(f.view(), Qt::Key_F4);
+        QVERIFY(!f.colours());
     }
 };
 

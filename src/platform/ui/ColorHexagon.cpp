@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "platform/ui/ColorHexagonAccess.h"
+#include "platform/ui/ColorNumber.h"
 
 namespace ui {
 
@@ -18,15 +19,6 @@ constexpr qreal cellHalfHeight = 14;
 constexpr qreal margin = 8;
 constexpr int greys = 2 * radius + 1;
 constexpr qreal fullRing = 4;  // the ring of the pure colours; outside of it they darken
-
-quint32 numberOf(const QColor& color) {
-    return static_cast<quint32>(color.red() | color.green() << 8 | color.blue() << 16);
-}
-
-QColor colorOf(quint32 number) {
-    return QColor(static_cast<int>(number & 0xff), static_cast<int>(number >> 8 & 0xff),
-                  static_cast<int>(number >> 16 & 0xff));
-}
 
 /// By the place of a cell, seen from the middle, and its ring.
 QColor colorAt(const QPointF& place, int ring) {

@@ -32,9 +32,9 @@ class PropertyItem {
 /// are compared without case.
 ///
 /// Typing into an item starts editing. Return and Tab take the value over and go down, Esc gives the old
-/// value back; both go to the dialog while no cell is open. Space or a click toggles a yes/no; a colour is
-/// typed as
-/// "#rrggbb", and anything else leaves it as it was.
+/// value back; both go to the dialog while no cell is open. Space or a click toggles a yes/no. A colour is
+/// typed as "#rrggbb", and anything else leaves it as it was; or it is picked among those that a click on its
+/// swatch or arrow, F4 or Alt+Down offers.
 class PropertyList : public QWidget {
     Q_OBJECT
 

@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/ui/ColorNumber.h"
+#include "platform/ui/ColorPopup.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataGridColors.h"
 #include "platform/ui/ItemViewAccess.h"
@@ -18,10 +20,16 @@ constexpr int rowHeight = 24;
 constexpr int captionWidth = 170;
 constexpr int textMargin = 6;
 constexpr QSize swatch(24, 14);
+constexpr int arrowWidth = 24;
 
-QColor colourOf(quint32 number) {
-    return QColor(static_cast<int>(number & 0xff), static_cast<int>(number >> 8 & 0xff),
-                  static_cast<int>(number >> 16 & 0xff));
+/// The two ends of a colour's cell: what it looks like, and the arrow that offers others.
+QRect swatchOf(const QRect& cell) {
+    return {cell.left() + textMargin, cell.center().y() - swatch.height() / 2, swatch.width(),
+            swatch.height()};
+}
+
+QRect arrowOf(const QRect& cell) {
+    return {cell.right() + 1 - arrowWidth, cell.top(), arrowWidth, cell.height()};
 }
 
 }  // namespace
@@ -41,7 +49,7 @@ QString PropertyListRow::text() const {
         case Kind::Text:
             return m_value.toString();
         case Kind::Colour:
-            return colourOf(m_value.toUInt()).name();
+            return colorOf(m_value.toUInt()).name();
         default:
             return {};
     }
@@ -74,7 +82,7 @@ void PropertyListRow::setData(int column, int role, const QVariant& value) {
     const QString typed = value.toString().trimmed();
     const QColor colour(typed);
     if (typed.size() != 7 || !typed.startsWith('#') || !colour.isValid()) return;
-    setValue(static_cast<quint32>(colour.red() | colour.green() << 8 | colour.blue() << 16));
+    setValue(numberOf(colour));
 }
 
 void PropertyListRow::setCaption(const QString& caption) {
@@ -113,13 +121,18 @@ void PropertyListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     }
     painter->save();
     painter->setPen(option.palette.color(QPalette::Shadow));
-    painter->setBrush(colourOf(row.value().toUInt()));
-    const QRect box(option.rect.left() + textMargin, option.rect.center().y() - swatch.height() / 2,
-                    swatch.width(), swatch.height());
+    painter->setBrush(colorOf(row.value().toUInt()));
+    const QRect box = swatchOf(option.rect);
     painter->drawRect(box.adjusted(0, 0, -1, -1));
     painter->restore();
+    const QRect arrow = arrowOf(option.rect);
     cell.rect.setLeft(box.right() + 1);
     QStyledItemDelegate::paint(painter, cell, index);
+    QStyleOption mark = option;
+    mark.rect = arrow.adjusted(8, 0, -8, 0);
+    if ((option.state & QStyle::State_Selected) && (option.state & QStyle::State_Active))
+        mark.palette.setColor(QPalette::ButtonText, option.palette.color(QPalette::HighlightedText));
+    option.widget->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &mark, painter, option.widget);
 }
 
 QSize PropertyListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -151,22 +164,31 @@ void PropertyListDelegate::setEditorData(QWidget* editor, const QModelIndex& ind
 }
 
 void PropertyListDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                                                const QModelIndex&) const {
-    editor->setGeometry(option.rect.adjusted(0, 0, 0, -1));
+                                                const QModelIndex& index) const {
+    const bool colour = rowOf(index).kind() == PropertyListRow::Kind::Colour;
+    editor->setGeometry(option.rect.adjusted(0, 0, colour ? -arrowWidth : 0, -1));
 }
 
+// The whole cell of a yes/no is the box. The colours to choose from open at the ends of a colour's cell; what
+// is between them is for typing.
 bool PropertyListDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                        const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const bool click = event->type() == QEvent::MouseButtonRelease &&
-                       static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-    if (rowOf(index).kind() != PropertyListRow::Kind::Boolean || index.column() != 1 ||
-        event->type() == QEvent::KeyPress)
-        return QStyledItemDelegate::editorEvent(event, model, option, index);
-    // The whole cell is the box.
-    if (click)
-        model->setData(index, rowOf(index).value().toBool() ? Qt::Unchecked : Qt::Checked,
-                       Qt::CheckStateRole);
-    return click;
+    const PropertyListRow& row = rowOf(index);
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+    const bool click =
+        mouse && event->type() == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton;
+    if (row.kind() == PropertyListRow::Kind::Boolean && index.column() == 1 &&
+        event->type() != QEvent::KeyPress) {
+        if (click)
+            model->setData(index, row.value().toBool() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        return click;
+    }
+    const bool atEnd =
+        row.kind() == PropertyListRow::Kind::Colour && index.column() == 1 && mouse &&
+        (swatchOf(option.rect).contains(mouse->pos()) || arrowOf(option.rect).contains(mouse->pos()));
+    if (!atEnd) return QStyledItemDelegate::editorEvent(event, model, option, index);
+    if (click) static_cast<PropertyListView*>(parent())->offerColours(index);
+    return true;
 }
 
 PropertyListView::PropertyListView(QWidget* parent) : QTreeWidget(parent) {
@@ -194,6 +216,25 @@ void PropertyListView::showEvent(QShowEvent* event) {
 
 PropertyListRow* PropertyListView::row(const QModelIndex& index) const {
     return static_cast<PropertyListRow*>(itemFromIndex(index));
+}
+
+void PropertyListView::offerColours(const QModelIndex& index) {
+    PropertyListRow* line = row(index);
+    if (line->kind() != PropertyListRow::Kind::Colour) return;
+    setFocus(Qt::OtherFocusReason);  // takes over what is being typed
+    const QRect cell = visualRect(index.siblingAtColumn(1));
+    openColorPopup(*this, {viewport()->mapToGlobal(cell.topLeft()), cell.size()}, line->value().toUInt(),
+                   line->caption(), [line](quint32 colour) { line->setValue(colour); });
+}
+
+// As a combo box opens its list
+void PropertyListView::keyPressEvent(QKeyEvent* event) {
+    const bool opens = event->key() == Qt::Key_F4 ||
+                       (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier));
+    if (opens && currentIndex().isValid() && row(currentIndex())->kind() == PropertyListRow::Kind::Colour)
+        offerColours(currentIndex());
+    else
+        QTreeWidget::keyPressEvent(event);
 }
 
 void PropertyListView::initViewItemOption(QStyleOptionViewItem* option) const {
@@ -237,6 +278,9 @@ std::vector<ItemAction> PropertyListView::itemActions(const QModelIndex& item) {
                            chosen([line] { line->setValue(!line->value().toBool()); })});
     if (item.column() == 1 && line->kind() != Kind::Boolean)
         actions.push_back({QStringLiteral("Edit"), chosen([this, line] { editItem(line, 1); })});
+    if (item.column() == 1 && line->kind() == Kind::Colour)
+        actions.push_back({QAccessibleActionInterface::showMenuAction(),
+                           chosen([this, line] { offerColours(indexFromItem(line, 1)); })});
     return actions;
 }
 

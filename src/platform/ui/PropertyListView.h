@@ -61,12 +61,16 @@ class PropertyListView : public QTreeWidget {
   public:
     explicit PropertyListView(QWidget* parent);
     PropertyListRow* row(const QModelIndex& index) const;
-    /// A line is chosen; a yes/no is toggled; any other value is opened for typing.
+    /// A line is chosen; a yes/no is toggled; any other value is opened for typing, a colour also for
+    /// choosing.
     std::vector<ItemAction> itemActions(const QModelIndex& item);
+    /// Opens the colours to choose from for a line that is one.
+    void offerColours(const QModelIndex& index);
     /// Without the keyboard focus the current line keeps a shade only.
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
