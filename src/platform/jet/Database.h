@@ -121,7 +121,8 @@ class Table {
 };
 
 /// A Jet file. Every read outside a transaction sees the file as it is on disk, also when another process has
-/// changed or replaced it in between; refresh() tells the caller whether that happened.
+/// changed or replaced it in between; refresh() tells the caller whether that happened. Names are in UTF-8,
+/// paths in the file system's encoding.
 ///
 /// Other processes are kept out by an advisory lock on the file: shared while a call reads, exclusive from
 /// begin() to commit() or rollback(). Waiting for it is bounded; then FileInUse. Two Databases in one process
@@ -193,7 +194,7 @@ class ReadScope {
 };
 
 /// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their
-/// primary keys and field properties) to `path`. Fails when the file exists.
+/// primary keys and field properties) to `path`, given as for Database::open(). Fails when the file exists.
 Status createEmptyDatabase(const std::string& path);
 
 }  // namespace jet
