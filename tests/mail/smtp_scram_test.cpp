@@ -100,6 +100,11 @@ TEST_F(SmtpScram, LogsInAfterAHeloWithoutAnInitialResponse) {
              1);
 }
 
+TEST_F(SmtpScram, LogsInAfterAnEhloThatIsRefused) {
+    delivers(QByteArrayList{"S: 220 ready", "C: EHLO *", "S: 502 what"} + helloOld.mid(1) +
+             QByteArrayList{"A: first"} + proved);
+}
+
 TEST_F(SmtpScram, WrongPasswordIsRefusedByTheServer) {
     ScramServer scram("segreto-più");
     const QByteArrayList refused =

@@ -390,6 +390,30 @@ TEST_F(SmtpLogin, GreetingByHeloGoesOnInTheClearWhereStartTlsIsUnknown) {
     EXPECT_EQ(server.remainder(), "");
 }
 
+TEST_F(SmtpLogin, OtherMechanismsAfterAHelo) {
+    const QByteArrayList helo{"S: 220 ready", "C: HELO *",   "S: 250 ready",
+                              "C: STARTTLS",  "S: 502 what", "C: AUTH SCRAM-SHA-256 *",
+                              "S: 504 no"};
+    const QByteArray digest =
+        QMessageAuthenticationCode::hash("<1.2@example.it>", "segreto-più", QCryptographicHash::Md5);
+    const QByteArrayList cram{"C: AUTH CRAM-MD5", "S: 334 " + cramChallenge,
+                              "C: " + ("utente " + digest.toHex()).toBase64(), "S: 235 welcome"};
+    const QByteArrayList plain{"C: AUTH CRAM-MD5", "S: 504 no",        "C: AUTH PLAIN *",
+                               "S: 334 ",          "C: " + plainToken, "S: 235 welcome"};
+    const QByteArrayList login{"C: AUTH CRAM-MD5", "S: 504 no",           "C: AUTH PLAIN *",
+                               "S: 504 no",        "C: AUTH LOGIN",       "S: 334 VXNlcm5hbWU6",
+                               "C: " + userToken,  "S: 334 UGFzc3dvcmQ6", "C: " + passwordToken,
+                               "S: 235 welcome"};
+    for (const QByteArrayList& steps : {cram, plain, login}) {
+        ScriptedServer server({helo + steps + message});
+        Client client(server.port());
+        prepare(client);
+        client.smtp.HeloMode = 1;
+        EXPECT_TRUE(client.send().done);
+        EXPECT_EQ(server.remainder(), "");
+    }
+}
+
 TEST_F(SmtpLogin, HeloWithoutLoginAsksForNoTls) {
     ScriptedServer server({QByteArrayList{"S: 220 ready", "C: HELO *", "S: 250 ready"} + message});
     Client client(server.port());
