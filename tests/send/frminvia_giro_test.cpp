@@ -1,6 +1,7 @@
 // The walk over the selection: order, outcomes, personalisation, the route of each recipient, failures in
 // mid-run.
 #include <future>
+#include <optional>
 #include <QFile>
 #include <QScopedValueRollback>
 #include <QUdpSocket>
@@ -140,18 +141,23 @@ class TestFrmInviaGiro : public QObject {
     }
 
     void rowsAreServedByTheFiveSortColumns() {
-        SendStage stage(
-            QList<SampleFolder::Columns>{{{"rgs", "b"}, {"email", "1@x.it"}},
-                                         {{"rgs", "A"}, {"email", "3@x.it"}, {"nom", "z"}},
-                                         {{"rgs", "a"}, {"email", "2@x.it"}},
-                                         {{"rgs", "à"}, {"email", "4@x.it"}},
-                                         {{"rgs", "a"}, {"email", "3@x.it"}, {"nom", "m"}, {"loc", "y"}},
-                                         {{"rgs", "a"}, {"email", "3@x.it"}, {"nom", "m"}, {"loc", "x"}}});
-        QVERIFY(stage.run());
-        QStringList order;
-        for (const auto& message : stage.sink.messages())
-            order << QString::fromUtf8(message.recipient);
-        QCOMPARE(order, (QStringList{"2@x.it", "3@x.it", "3@x.it", "3@x.it", "4@x.it", "1@x.it"}));
+        const auto row = [](const char* place, const char* rgs, const char* email, const char* nom,
+                            const char* loc, const char* ind) {
+            return SampleFolder::Columns{{"campo1", place}, {"rgs", rgs}, {"email", email},
+                                         {"nom", nom},      {"loc", loc}, {"ind", ind}};
+        };
+        SendStage stage(QList<SampleFolder::Columns>{
+            row("8", "b", "1@x.it", "", "", ""), row("6", "A", "3@x.it", "z", "", ""),
+            row("1", "a", "2@x.it", "z", "z", "z"), row("7", "à", "1@x.it", "", "", ""),
+            row("5", "a", "3@x.it", "m", "y", ""), row("4", "A", "3@x.it", "M", "x", "via B"),
+            row("3", "a", "3@x.it", "m", "X", "Via A"), row("2", "a", "3@x.it", "", "z", "z")});
+        stage.pick(stage.folder.writeMessage("o.mss", {":::campo1:::", "NR", {}, "<p>x</p>"}));
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QByteArray order;
+        for (int i = 0; i < stage.sink.messages().size(); ++i)
+            order += stage.header(i, "Subject");
+        QCOMPARE(order, "12345678");
     }
 
     void twoRowsWithTheSameAddressBothGetACopy() {
@@ -298,6 +304,63 @@ class TestFrmInviaGiro : public QObject {
         QVERIFY(!stage.smtp().UseAuth);
         QCOMPARE(stage.smtp().UserName, "");
         QCOMPARE(stage.smtp().UserPassword, "");
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
+    }
+
+    void anyNumberButZeroIsTheServerRoute_data() {
+        QTest::addColumn<QString>("flag");
+        QTest::addColumn<bool>("direct");
+        for (const char* flag : {"1", "-1", "2", "0,5"})
+            QTest::newRow(flag) << flag << false;
+        for (const char* flag : {"0", "00", " 0 ", "0,0"})
+            QTest::newRow(flag) << flag << true;
+    }
+    void anyNumberButZeroIsTheServerRoute() {
+        QFETCH(QString, flag);
+        QFETCH(bool, direct);
+        SendStage stage({direct ? "nessuno" : "a@x.it"});
+        std::optional<NameServer> names;
+        if (direct) names.emplace("");
+        writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|0|||EHLO|0|%2").arg(stage.sink.port()).arg(flag));
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().ServerName, direct ? "" : "127.0.0.1");
+        QCOMPARE(stage.counters(), direct ? (QList<double>{0, 1, 0}) : (QList<double>{0, 0, 1}));
+    }
+
+    void loginIsUsedExactlyWhereItsFlagIsOne_data() {
+        QTest::addColumn<QString>("flag");
+        QTest::addColumn<bool>("login");
+        for (const char* flag : {"1", "01", "1,0", " 1 "})
+            QTest::newRow(flag) << flag << true;
+        for (const char* flag : {"0", "2", "-1", "", "vero"})
+            QTest::newRow(flag) << flag << false;
+    }
+    void loginIsUsedExactlyWhereItsFlagIsOne() {
+        QFETCH(QString, flag);
+        QFETCH(bool, login);
+        SendStage stage({"a@x.it"});
+        writeAccount(
+            QString("0|Z|z@x.it|127.0.0.1|%1|%2|utente|segreta|EHLO|0|1").arg(stage.sink.port()).arg(flag));
+        stage.window->CaricaDati();
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().UseAuth, login);
+        QCOMPARE(stage.smtp().UserName, login ? "utente" : "");
+        QCOMPARE(stage.smtp().UserPassword, login ? "segreta" : "");
+    }
+
+    void serverPortThatIsNoPortKeepsTheFormerOne_data() {
+        QTest::addColumn<QString>("text");
+        for (const char* text : {"abc", "", "65536", "-1"})
+            QTest::newRow(text) << text;
+    }
+    void serverPortThatIsNoPortKeepsTheFormerOne() {
+        QFETCH(QString, text);
+        SendStage stage({"a@x.it"});
+        writeAccount("0|Z|z@x.it|127.0.0.1|" + text + "|0|||EHLO|0|1");
+        stage.window->CaricaDati();
+        stage.smtp().ServerPort = stage.sink.port();
+        QVERIFY(stage.run());
         QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
     }
 
