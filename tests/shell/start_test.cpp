@@ -2,12 +2,14 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
 
 #include "core/bMain.h"
 #include "core/CentraForm.h"
 #include "platform/jet/Database.h"
+#include "platform/system/Clock.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/Unattended.h"
@@ -36,6 +38,22 @@ bool splashIsThere() {
 }
 
 }  // namespace
+
+/// Writes down in which order splash and main window come and go.
+class WindowWatch : public QObject {
+  public:
+    explicit WindowWatch(QStringList& seen) : m_seen(seen) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+        const QString name = watched->objectName();
+        if (comesOrGoes && watched->isWidgetType() && (name == "frmSplash" || name == "frmMain"))
+            m_seen << name + (event->type() == QEvent::Show ? " shown" : " hidden");
+        return false;
+    }
+
+  private:
+    QStringList& m_seen;
+};
 
 class TestStart : public QObject {
     Q_OBJECT
@@ -108,6 +126,32 @@ class TestStart : public QObject {
         QCOMPARE(percorsoDB, path);
         QCOMPARE(MessageDialog::shown().size(), 2);
         QCOMPARE(stage.ends.size(), 1);
+    }
+
+    void aDatabaseThatCannotBeReadStartsTheRecoveryAndStaysAsItIs_data() {
+        QTest::addColumn<double>("kept");
+        QTest::addColumn<QByteArray>("added");
+        QTest::newRow("empty") << 0.0 << QByteArray();
+        QTest::newRow("no database") << 0.0 << QByteArray(8192, 'x');
+        QTest::newRow("cut in half") << 0.5 << QByteArray();
+        QTest::newRow("rubbish behind the header") << 0.04 << QByteArray(400000, '\xa5');
+    }
+    void aDatabaseThatCannotBeReadStartsTheRecoveryAndStaysAsItIs() {
+        QFETCH(double, kept);
+        QFETCH(QByteArray, added);
+        StoreStage stage;
+        const QByteArray whole = readFile(stage.folder.database());
+        const QByteArray content =
+            whole.left(static_cast<qsizetype>(static_cast<double>(whole.size()) * kept)) + added;
+        writeFile(stage.folder.database(), content);
+        MessageDialog::queue(1);
+        MessageDialog::queue(1);
+        FileDialog::queueCancel();
+        start();
+        QCOMPARE(MessageDialog::shown().size(), 2);
+        QVERIFY(MessageDialog::shown()[0].text.startsWith("Impossibile trovare il database."));
+        QCOMPARE(stage.ends.size(), 1);
+        QCOMPARE(readFile(stage.folder.database()), content);
     }
 
     void refusingAnotherDatabaseEndsTheProgramAndSavesNothing() {
@@ -200,6 +244,16 @@ class TestStart : public QObject {
         start();
         QVERIFY(seen);
         QVERIFY(finestre::Main().isVisible());
+    }
+
+    void theSplashComesBackOverTheLoadedWindowAndGoesWhenThatIsShown() {
+        StoreStage stage;
+        QStringList seen;
+        WindowWatch watch(seen);
+        start();
+        QCOMPARE(seen, (QStringList{"frmSplash shown", "frmSplash hidden", "frmSplash shown", "frmMain shown",
+                                    "frmSplash hidden"}));
+        QVERIFY(!splashIsThere());
     }
 
     void theSplashShowsNameAndVersionInTheMiddleOfTheScreenWithoutTheKeyboard() {
@@ -330,6 +384,32 @@ class TestStart : public QObject {
         QVERIFY(finestre::Main().Commands().GetList("cmdLang")->Count() >= 2);
         QCOMPARE(readFile(folder + "/data/Account.imp"), QByteArray());
         QVERIFY(MessageDialog::shown().isEmpty());
+    }
+
+    void aLogThatCannotBeWrittenDoesNotKeepTheProgramFromStarting() {
+        StoreStage stage;
+        QVERIFY(QDir().mkpath(stage.folder.path("Error.txt")));
+        start();
+        QVERIFY(finestre::Main().isVisible());
+        QCOMPARE(stage.tree().Count(), 2);
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void anUnhandledFailureAndTheEndOfTheProgramLeaveTheLogOfStartsAlone() {
+        StoreStage stage;
+        start();
+        const QByteArray before = readFile(stage.folder.path("Error.txt"));
+        sys::clock().now = [] { return QDateTime::currentDateTime().addDays(1); };
+        const auto restored = qScopeGuard([] { sys::clock() = sys::systemClock(); });
+        stage.folder.hideDatabase();
+        MessageDialog::queue(1);
+        stage.command("cmdInvia");
+        QVERIFY(stage.failure().startsWith("Errore 53:"));
+        stage.folder.showDatabase();
+        stage.command("cmdEsci");
+        QCOMPARE(stage.ends, (QList<int>{1, 0}));
+        QCOMPARE(readFile(stage.folder.path("Error.txt")), before);
     }
 
     void aSecondStartIsNotPrevented() {
