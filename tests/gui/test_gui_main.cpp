@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QFile>
 
+#include "accounts/bBinary.h"
 #include "core/Finestre.h"
 #include "platform/ui/CommandBars.h"
 #include "shell/frmMain.h"
@@ -43,13 +44,36 @@ class TestMain : public QObject {
         QVERIFY(first);
     }
 
-    void missingAccountFileIsAnUnhandledFailureOfSending() {
+    void brokenAccountFileIsAnUnhandledFailureOfSending_data() {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("missing file") << QString() << "Errore 53:";
+        QTest::newRow("too few fields") << "1|corto"
+                                        << "Errore 9:";
+        QTest::newRow("no number") << "x|a|a@b.it||25|0|||EHLO|0|0"
+                                   << "Errore 13:";
+        QTest::newRow("number beyond 16 bits") << "32768|a|a@b.it||25|0|||EHLO|0|0"
+                                               << "Errore 6:";
+        QTest::newRow("empty line") << ""
+                                    << "Errore 9:";
+    }
+    void brokenAccountFileIsAnUnhandledFailureOfSending() {
+        QFETCH(QString, record);
+        QFETCH(QString, failure);
         SendStage stage({"a@x.it"});
-        QVERIFY(QFile::remove(stage.folder.path("data/Account.imp")));
+        QFile file(stage.folder.path("data/Account.imp"));
+        if (record.isNull()) {
+            QVERIFY(file.remove());
+        } else {
+            QVERIFY(file.open(QIODevice::Append));
+            file.write(TestoInBit(record).toLatin1() + "\r\n");
+            file.close();
+        }
         MessageDialog::queue(1);
         command("cmdInvia")->trigger();
         QCOMPARE(stage.ends, QList<int>{1});
-        QVERIFY(MessageDialog::shown().constFirst().text.startsWith("Errore 53:"));
+        QVERIFY2(MessageDialog::shown().constFirst().text.startsWith(failure),
+                 qPrintable(MessageDialog::shown().constFirst().text));
         QVERIFY(!finestre::Invia().isVisible());
     }
 };
