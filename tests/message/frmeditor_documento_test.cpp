@@ -200,6 +200,13 @@ class TestDocumento : public QObject {
         QVERIFY(stage().bytes("p.mss").contains("[<INI-PRIO>]" + saved + "[<END-PRIO>]\r\n"));
     }
 
+    void highIsWrittenWhereBothPrioritiesAreOn() {
+        for (const char* name : {"cmdPriBassa", "cmdPriAlta"})
+            stage().tool(name).setChecked(1);
+        stage().saveAs("alta.mss");
+        QVERIFY(stage().bytes("alta.mss").contains("[<INI-PRIO>]HI[<END-PRIO>]\r\n"));
+    }
+
     void cancellingTheOpenDialogKeepsTheDocument() {
         stage().fill("<p>resta</p>");
         FileDialog::queueCancel();
