@@ -3,6 +3,8 @@
 #include <bitset>
 #include <QUrl>
 
+#include "core/Errori.h"
+
 const std::array<QString, numeroSegnaposto> colonneSegnaposto{
     QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),
     QStringLiteral("ind"),    QStringLiteral("cap"),    QStringLiteral("loc"),    QStringLiteral("prov"),
@@ -80,6 +82,6 @@ Result<QString> NomeDestinatario(const LeggiColonna& leggi) {
         nome = letto.value();
         if (nome && !nome->isEmpty()) break;
     }
-    if (!nome) return Status(ErrorCode::InvalidNull, QStringLiteral("Uso non valido di Null"));
+    if (!nome) return Status(ErrorCode::InvalidNull, testoErrore(ErrorCode::InvalidNull));
     return *nome;
 }
