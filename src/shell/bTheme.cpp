@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/bGlobal.h"
+#include "platform/ui/Contrast.h"
 
 namespace {
 
@@ -96,6 +97,14 @@ void ImpostaTestiDisattivati(QPalette& tavolozza) {
     tavolozza.setColor(QPalette::Disabled, QPalette::Base, mistoSuBianco(0, 110));
 }
 
+/// What the desktop asks for: lines as dark as the text, and all texts that otherwise stand back.
+void RinforzaContrasto(QPalette& tavolozza) {
+    for (const auto ruolo : {QPalette::Mid, QPalette::Dark, QPalette::PlaceholderText})
+        tavolozza.setColor(QPalette::All, ruolo, coloreTema(20));
+    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        tavolozza.setColor(QPalette::Disabled, ruolo, misto(20, 0, 190));
+}
+
 void ImpostaSelezione(QPalette& tavolozza) {
     for (const auto gruppo : {QPalette::Active, QPalette::Disabled}) {
         tavolozza.setColor(gruppo, QPalette::Highlight, coloreTema(13));
@@ -113,10 +122,13 @@ QPalette tavolozzaMenu() {
     return tavolozza;
 }
 
+QString schemaSostituito;
+
 /// Windows that are shown already are painted anew by each change, so an unchanged palette is left alone.
 void VestiProgramma() {
-    static decltype(coloriTema) vestito{};
-    if (std::exchange(vestito, coloriTema) == coloriTema) return;
+    static std::pair<decltype(coloriTema), bool> vestito;
+    const std::pair adesso{coloriTema, ui::highContrast()};
+    if (std::exchange(vestito, adesso) == adesso) return;
     QApplication::setPalette(tavolozzaTema());
     const QPalette menu = tavolozzaMenu();
     QApplication::setPalette(menu, "QMenu");
@@ -126,10 +138,14 @@ void VestiProgramma() {
 }  // namespace
 
 QString RilevaTema(QWidget*) {
-    QString nome = QStringLiteral("Classic");
+    const QString nome = schemaSostituito.isEmpty() ? QStringLiteral("Classic") : schemaSostituito;
     ImpostaColoriTema(nome);
     VestiProgramma();
     return nome;
+}
+
+void sostituisciSchema(const QString& nome) {
+    schemaSostituito = nome;
 }
 
 void ImpostaColoriTema(const QString& nome) {
@@ -190,6 +206,7 @@ QPalette tavolozzaTema() {
     imposta(QPalette::PlaceholderText, misto(20, 1, 150));
     ImpostaSelezione(tavolozza);
     ImpostaTestiDisattivati(tavolozza);
+    if (ui::highContrast()) RinforzaContrasto(tavolozza);
     return tavolozza;
 }
 

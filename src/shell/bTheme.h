@@ -13,6 +13,9 @@ class QWidget;
 /// first in its load. Without a theme service, or after a failure on the way, the scheme is "Classic".
 QString RilevaTema(QWidget* finestra);
 
+/// For tests: the name of the scheme that a theme service would give; empty for none.
+void sostituisciSchema(const QString& nome);
+
 /// Fills the palette with the colours of a scheme: "Classic", "NormalColor", "Metallic" or "HomeStead". Any
 /// other name leaves it as it was.
 void ImpostaColoriTema(const QString& nome);

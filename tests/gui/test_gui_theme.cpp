@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "core/bGlobal.h"
+#include "platform/ui/Contrast.h"
 #include "shell/bTheme.h"
 
 namespace {
@@ -106,6 +107,23 @@ class TestTheme : public QObject {
     void mixingTakesTheNearestWholeNumber() {
         QCOMPARE(MescolaColori(rgb(1, 3, 255), rgb(2, 0, 0), 127), rgb(2, 1, 127));
         QCOMPARE(MescolaColori(rgb(1, 3, 255), rgb(2, 0, 0), 128), rgb(1, 2, 128));
+    }
+
+    void highContrastDarkensLinesAndTextsThatStandBack() {
+        QWidget window;
+        RilevaTema(&window);
+        const QColor line = QApplication::palette().color(QPalette::Mid);
+        ui::setHighContrast(true);
+        RilevaTema(&window);
+        const QPalette palette = QApplication::palette();
+        ui::setHighContrast(false);
+        RilevaTema(&window);
+        const QColor ground = palette.color(QPalette::Window);
+        QCOMPARE(ground, QColor(212, 208, 200));
+        for (const auto role : {QPalette::Mid, QPalette::Dark})
+            QVERIFY(contrast(palette.color(role), ground) >= 3);
+        QVERIFY(contrast(palette.color(QPalette::Disabled, QPalette::WindowText), ground) >= 4.5);
+        QCOMPARE(QApplication::palette().color(QPalette::Mid), line);
     }
 
     void textsCanBeReadInEveryScheme_data() {

@@ -5,7 +5,43 @@
 #include <QStyleOption>
 #include <QTreeView>
 
+#include "platform/ui/Contrast.h"
+
 namespace ui {
+
+namespace {
+
+bool hasRim(QStyle::PrimitiveElement element) {
+    switch (element) {
+        case QStyle::PE_Frame:
+        case QStyle::PE_FrameLineEdit:
+        case QStyle::PE_PanelButtonCommand:
+        case QStyle::PE_IndicatorCheckBox:
+        case QStyle::PE_IndicatorRadioButton:
+        case QStyle::PE_IndicatorItemViewItemCheck:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// The line around a control that high contrast asks for.
+void drawRim(const QStyleOption& option, QPainter& painter, bool round = false) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, round);
+    const bool focus = option.state & QStyle::State_HasFocus;
+    painter.setPen(
+        option.palette.color(QPalette::Active, focus ? QPalette::Highlight : QPalette::WindowText));
+    painter.setBrush(Qt::NoBrush);
+    const QRect rim = option.rect.adjusted(0, 0, -1, -1);
+    round ? painter.drawEllipse(rim) : painter.drawRect(rim);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    if (button && button->features & QStyleOptionButton::DefaultButton)
+        painter.drawRect(rim.adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
+}  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
@@ -14,7 +50,11 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     switch (hint) {
         case SH_EtchDisabledText:
         case SH_DitherDisabledText:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
+        case SH_Widget_Animate:
+        case SH_Widget_Animation_Duration:
+            return highContrast() ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
         case SH_LineEdit_PasswordCharacter:
             return u'*';
         case SH_ItemView_ShowDecorationSelected:
@@ -49,7 +89,23 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                               const QWidget* widget) const {
     const QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
-    return type == CT_ToolButton ? wanted.expandedTo({30, 30}) : wanted;
+    switch (type) {
+        case CT_ToolButton:
+            return wanted.expandedTo({30, 30});
+        case CT_CheckBox:
+        case CT_RadioButton:
+            return wanted.expandedTo({24, 24});
+        case CT_LineEdit:
+            return wanted.expandedTo({0, 26});
+        default:
+            return wanted;
+    }
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (highContrast() && control == CC_ComboBox) drawRim(*option, *painter);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -58,6 +114,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                              (option->state & State_MouseOver) && (option->state & State_Enabled);
     if (element != PE_FrameFocusRect && !pointedTool) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (highContrast() && hasRim(element)) drawRim(*option, *painter, element == PE_IndicatorRadioButton);
         return;
     }
     painter->save();

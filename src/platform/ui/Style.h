@@ -4,8 +4,11 @@
 
 namespace ui {
 
-/// Fusion with the few changes that the program's look needs: flat disabled texts, tool buttons that are easy
-/// to hit, a visible focus rim in the palette's highlight colour, and "*" for each character of a password.
+/// Fusion with the few changes that the program's look needs: flat disabled texts, boxes whose buttons bear
+/// words only, tool buttons, check boxes and fields that are easy to hit, a visible focus rim in the
+/// palette's highlight colour, and
+/// "*" for each character of a password. Where the desktop asks for high contrast, dark rims and no
+/// animation.
 class Style : public QProxyStyle {
     Q_OBJECT
 
@@ -16,6 +19,8 @@ class Style : public QProxyStyle {
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };

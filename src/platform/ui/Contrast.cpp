@@ -1,0 +1,82 @@
+#include "platform/ui/Contrast.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <utility>
+
+namespace ui {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString place = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString contrast = QStringLiteral("contrast");
+
+bool wanted = false;
+
+/// 1 is higher contrast, 0 no preference. Old portals wrap the value twice.
+bool asksForMore(QVariant value) {
+    while (value.canConvert<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value.toUInt() == 1;
+}
+
+/// Keeps the answer at what the desktop says.
+class ContrastWatch : public QObject {
+    Q_OBJECT
+
+  public:
+    ContrastWatch(std::function<void()> changed, QObject* parent);
+
+  private Q_SLOTS:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+        if (group == appearance && key == contrast) take(asksForMore(value.variant()));
+    }
+
+  private:
+    void take(bool on) {
+        if (std::exchange(wanted, on) != on) m_changed();
+    }
+
+    std::function<void()> m_changed;
+};
+
+ContrastWatch::ContrastWatch(std::function<void()> changed, QObject* parent)
+    : QObject(parent), m_changed(std::move(changed)) {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) return;
+    bus.connect(service, place, settings, QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    QDBusMessage question = QDBusMessage::createMethodCall(service, place, settings, QStringLiteral("Read"));
+    question << appearance << contrast;
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QVariant> reply = *answer;
+        if (reply.isValid()) take(asksForMore(reply.value()));
+        answer->deleteLater();
+    });
+}
+
+}  // namespace
+
+bool highContrast() {
+    return wanted;
+}
+
+void setHighContrast(bool on) {
+    wanted = on;
+}
+
+void watchContrast(std::function<void()> changed) {
+    new ContrastWatch(std::move(changed), QCoreApplication::instance());
+}
+
+}  // namespace ui
+
+#include "Contrast.moc"
