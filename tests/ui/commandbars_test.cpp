@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Desktop.h"
@@ -189,6 +190,37 @@ class TestCommandBars : public QObject {
         w.menuNow = "popHead";
         QContextMenuEvent request(QContextMenuEvent::Keyboard, {5, 5}, w.field->mapToGlobal(QPoint(5, 5)));
         QCoreApplication::sendEvent(w.field, &request);
+        QVERIFY(w.menu("popHead")->isVisible());
+        w.menu("popHead")->close();
+    }
+
+    void menuOfAListOpensBelowItsCurrentItem() {
+        Window w;
+        w.menuNow = "popHead";
+        QTreeWidget list;
+        for (int i = 0; i < 100; ++i)
+            list.addTopLevelItem(new QTreeWidgetItem({QString::number(i)}));
+        list.resize(200, 200);
+        list.show();
+        w.bars.offerPopup(&list, [&w] { return w.menuNow; });
+        list.setCurrentItem(list.topLevelItem(90));
+        list.scrollToTop();
+        QContextMenuEvent request(QContextMenuEvent::Keyboard, {5, 5}, list.mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(&list, &request);
+        QVERIFY(w.menu("popHead")->isVisible());
+        const QRect item = list.visualItemRect(list.topLevelItem(90));
+        QVERIFY(list.viewport()->rect().contains(item));
+        QCOMPARE(w.menu("popHead")->pos(), list.viewport()->mapToGlobal(item.bottomLeft()));
+        w.menu("popHead")->close();
+    }
+
+    void shiftAndF10AreAMenuKey() {
+        Window w;
+        w.menuNow = "popHead";
+        w.field->setFocus();
+        QTest::keyClick(w.field, Qt::Key_F10);
+        QVERIFY(!w.menu("popHead")->isVisible());
+        QTest::keyClick(w.field, Qt::Key_F10, Qt::ShiftModifier);
         QVERIFY(w.menu("popHead")->isVisible());
         w.menu("popHead")->close();
     }

@@ -1,4 +1,5 @@
 // What the keyboard does with the bars: the keys of pop-up menus, and the walk along the tool buttons.
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -10,6 +11,18 @@
 #include "platform/ui/CommandBars.h"
 
 namespace ui {
+
+namespace {
+
+/// Where a menu that was asked for by a key opens: below the current item of a list.
+QPoint menuPlace(QWidget* where, const QContextMenuEvent& request) {
+    auto* list = qobject_cast<QAbstractItemView*>(where);
+    if (!list || !list->currentIndex().isValid()) return request.globalPos();
+    list->scrollTo(list->currentIndex());
+    return list->viewport()->mapToGlobal(list->visualRect(list->currentIndex()).bottomLeft());
+}
+
+}  // namespace
 
 void CommandBars::showPopup(const QString& name, const QPoint& globalPosition) {
     const auto menu = m_menus.find(name);
@@ -52,7 +65,7 @@ bool CommandBars::filterOffered(QWidget* where, QEvent* event) {
         case QEvent::ContextMenu: {
             const auto* request = static_cast<QContextMenuEvent*>(event);
             if (request->reason() != QContextMenuEvent::Keyboard) return false;
-            showPopup(m_offers[where](), request->globalPos());
+            showPopup(m_offers[where](), menuPlace(where, *request));
             return true;
         }
         default:

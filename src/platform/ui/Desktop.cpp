@@ -1,9 +1,11 @@
 #include "platform/ui/Desktop.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <QWidget>
 
 #include "platform/ui/Style.h"
 
@@ -15,12 +17,35 @@ static void registerIcons() {
 
 namespace ui {
 
+namespace {
+
+/// Lets Shift+F10 ask for the menu of a control, as the menu key does, which many keyboards lack.
+class MenuKey : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || watched != QApplication::focusWidget()) return false;
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() != Qt::Key_F10 || key->modifiers() != Qt::ShiftModifier) return false;
+        auto* control = static_cast<QWidget*>(watched);
+        const QPoint place = control->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent request(QContextMenuEvent::Keyboard, place, control->mapToGlobal(place));
+        QCoreApplication::sendEvent(control, &request);
+        return true;
+    }
+};
+
+}  // namespace
+
 void setUpDesktop(QApplication& application) {
     registerIcons();
     // The desktop's own theme is not asked: the windows are always light, a dark desktop would hand out white
     // icons.
     QIcon::setThemeName(QStringLiteral("vestrola"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mail-message-new")));
     QApplication::setStyle(new Style);
+    application.installEventFilter(new MenuKey(&application));
 
     auto* texts = new QTranslator(&application);
     if (texts->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -5,7 +5,8 @@ class QApplication;
 namespace ui {
 
 /// What every program of ours sets up before its first window: the drawing style, the compiled-in icons, the
-/// toolkit's own texts in Italian (where they are installed). Call once, after the application object.
+/// windows' icon, Shift+F10 as a menu key, the toolkit's own texts in Italian (where they are installed).
+/// Call once, after the application object.
 void setUpDesktop(QApplication& application);
 
 }  // namespace ui
