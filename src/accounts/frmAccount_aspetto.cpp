@@ -149,6 +149,10 @@ void frmAccount::DisponiControlli() {
     finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(corpo, 1);
     finestra->addLayout(comandi);
+    // Read behind the band that came last.
+    for (QWidget* controllo : std::initializer_list<QWidget*>{lbl[6], cmbSaluto, lbl[12], txtOutPort,
+                                                              cmdNuovo, cmdModifica, cmdChiudi})
+        controllo->raise();
 }
 
 QWidget* frmAccount::DisponiTestata() {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 
 #include "platform/ui/ItemViewAccess.h"
@@ -120,8 +121,15 @@ void ElencoAccount::focusInEvent(QFocusEvent* fuoco) {
 
 void ElencoAccount::paintEvent(QPaintEvent* disegno) {
     QListWidget::paintEvent(disegno);
-    if (count() > 0) return;
     QPainter pennello(viewport());
+    if (hasFocus() && ListIndex() < 0) {
+        // No entry shows that the keys come here.
+        QStyleOptionFocusRect bordo;
+        bordo.initFrom(this);
+        bordo.rect = viewport()->rect();
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &bordo, &pennello, this);
+    }
+    if (count() > 0) return;
     pennello.setPen(palette().color(QPalette::PlaceholderText));
     pennello.drawText(viewport()->rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
                       "Nessun account: compilare e premere Nuovo Account");

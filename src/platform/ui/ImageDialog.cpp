@@ -49,10 +49,14 @@ ImageDialog::ImageDialog(QWidget* parent, const HtmlView::ImageInfo& image)
     auto* row = new QHBoxLayout(source);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(controlSpacing);
-    QPushButton* browse = commandButton("S&foglia...", "cmdBrowse", source);
     row->addWidget(m_source, 1);
+    QPushButton* browse = commandButton("S&foglia...", "cmdBrowse", source);
     row->addWidget(browse);
     source->setFocusProxy(m_source);
+    // Read, and reached, before the fields below it.
+    source->lower();
+    setTabOrder(m_source, browse);
+    setTabOrder(browse, m_text);
     connect(browse, &QPushButton::clicked, this, &ImageDialog::pickFile);
 
     DialogForm form(this);

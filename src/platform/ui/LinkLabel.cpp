@@ -51,6 +51,7 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setCursor(Qt::PointingHandCursor);
     setForegroundRole(QPalette::Link);
     setMargin(4);
+    setMinimumHeight(24);
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);

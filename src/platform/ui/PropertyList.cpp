@@ -25,6 +25,7 @@ void PropertyItem::setValue(const QVariant& value) {
 
 PropertyList::PropertyList(QWidget* parent)
     : QWidget(parent), m_view(new PropertyListView(this)), m_description(new QLabel(this)) {
+    m_view->setObjectName("items");
     m_description->setTextFormat(Qt::PlainText);
     m_description->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     m_description->setMargin(3);

@@ -17,6 +17,8 @@ constexpr int gap = 8;
 class Tabs : public QTabBar {
   public:
     explicit Tabs(QWidget* parent) : QTabBar(parent) {
+        setObjectName("tabs");
+        setAccessibleName("Viste");
         setDrawBase(false);
         setExpanding(false);
         setIconSize({16, 16});
