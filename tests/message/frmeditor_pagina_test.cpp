@@ -3,9 +3,11 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "core/bFunctions.h"
 #include "core/Finestre.h"
 #include "message/editor_stage.h"
 #include "message/frmPropBody.h"
+#include "platform/ui/ColorHexagon.h"
 #include "platform/ui/PropertyList.h"
 
 using namespace testing_support;
@@ -52,6 +54,8 @@ class TestPagina : public QObject {
         QCOMPARE(list().headerItem()->text(1), "Size");
         QCOMPARE(list().headerItem()->text(2), "Path");
         QVERIFY(list().headerItem()->textAlignment(1) & Qt::AlignRight);
+        for (const int left : {0, 2})
+            QVERIFY(!(list().headerItem()->textAlignment(left) & Qt::AlignRight));
     }
 
     void anAttachmentShowsNameSizeAndPathAndMarks() {
@@ -100,6 +104,22 @@ class TestPagina : public QObject {
         QCOMPARE(list().topLevelItemCount(), 0);
         QVERIFY(stage().marked());
         QCOMPARE(stage().ends, QList<int>());
+    }
+
+    void anOpenedMessageShowsTheSizesOfNow() {
+        attach("a.txt", 1028);
+        stage().saveAs("m.mss");
+        QVERIFY(!stage().bytes("m.mss").contains("Kb"));
+        stage().write("a.txt", QByteArray(3 * 1028, 'x'));
+        stage().open("m.mss");
+        QCOMPARE(cell(0, 1), "3,00 Kb");
+    }
+
+    void aNewMessageHasNoAttachments() {
+        attach("a.txt");
+        stage().editor().NuovoMessaggio();
+        QCOMPARE(list().topLevelItemCount(), 0);
+        QCOMPARE(list().columnCount(), 3);
     }
 
     void deletingTakesTheSelectedRowAndMarks() {
@@ -186,6 +206,59 @@ class TestPagina : public QObject {
                                  "background=\"http://x.it/fondo.png\""})
             QVERIFY2(tag.contains(part), qPrintable(tag));
         QVERIFY(!stage().marked());
+    }
+
+    void aColourOfThePageIsPickedAmongTheColours() {
+        stage().design().setDocumentHTML("<body bgcolor=\"#102030\">x");
+        quint32 wanted = 0;
+        properties("cdmSalva", [&wanted](ui::PropertyList& prp) {
+            prp.setCurrentItem("Sfondo");
+            QTest::keyClick(prp.focusProxy(), Qt::Key_F4);
+            auto& colours = EditorStage::in<ui::ColorHexagon>(prp, "color");
+            QCOMPARE(colours.Color(), 0x302010U);
+            wanted = colours.cellColor(20);
+            colours.pick(20);
+            QCOMPARE(prp.Item("Sfondo")->Value().toUInt(), wanted);
+        });
+        QVERIFY(bodyTag().contains("bgcolor=\"" + HexDaColore(wanted) + '"'));
+    }
+
+    void cancellingThePropertiesChangesNothing() {
+        stage().design().setDocumentHTML("<body leftmargin=\"5\" bgcolor=\"#102030\">x");
+        const QString before = stage().design().documentHTML();
+        properties("cmdAnnulla", [](ui::PropertyList& prp) {
+            prp.Item("Sinistra")->setValue("9");
+            prp.Item("Sfondo")->setValue(0xffffffU);
+        });
+        QCOMPARE(stage().design().documentHTML(), before);
+        properties("cmdAnnulla", [](ui::PropertyList& prp) {
+            QCOMPARE(prp.Item("Sinistra")->Value().toString(), "5");
+            QCOMPARE(prp.Item("Sfondo")->Value().toUInt(), 0x302010U);
+        });
+    }
+
+    void theFirstTwoMarginsAreWrittenAnewAndTheOthersInTheirPlace() {
+        stage().design().setDocumentHTML(
+            "<body leftmargin=\"1\" topmargin=\"2\" marginwidth=\"3\" marginheight=\"4\" id=\"x\">y");
+        properties("cdmSalva");
+        QVERIFY2(bodyTag().startsWith("<body marginwidth=\"3\" marginheight=\"4\" id=\"x\" leftmargin=\"1\" "
+                                      "topmargin=\"2\""),
+                 qPrintable(bodyTag()));
+    }
+
+    void savingThePropertiesLosesTheSelection() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        QCOMPARE(stage().design().selectedText(), "testo");
+        properties("cdmSalva");
+        QCOMPARE(stage().design().selectedText(), "");
+    }
+
+    void aMarginIsAnyText() {
+        stage().fill("x");
+        properties("cdmSalva",
+                   [](ui::PropertyList& prp) { prp.Item("Larghezza")->setValue("due \"o\" <tre>"); });
+        QCOMPARE(stage().design().bodyAttribute("marginwidth"), "due \"o\" <tre>");
     }
 
     void theWindowOfThePropertiesRefusesToBeClosed() {

@@ -1,5 +1,6 @@
 // The tools of the editor follow the selection; toggles, lists, colours, status text, menus, keys.
 #include <QContextMenuEvent>
+#include <QDockWidget>
 #include <QFontDatabase>
 #include <QTabBar>
 #include <QTimer>
@@ -165,6 +166,29 @@ class TestStato : public QObject {
         QCOMPARE(sizes.Item(7), "7");
     }
 
+    void theLoadChoosesTheFirstFontAndSizeAndTheLookOfTheSource() {
+        frmEditor another;
+        another.Carica();
+        QCOMPARE(another.Commands().GetComboBox("cmbFontName")->Text(), "Arial");
+        QCOMPARE(another.Commands().GetComboBox("cmbFontSize")->Text(), "3");
+        QCOMPARE(another.tb->currentIndex(), 0);
+        QCOMPARE(another.titoloFile, "[NuovoFile.mss]");
+        QCOMPARE(another.Allegati().LIST->columnCount(), 3);
+    }
+
+    void placeAndLayoutComeBackWithTheNextLoad() {
+        stage().editor().showNormal();
+        stage().editor().setGeometry(60, 50, 900, 600);
+        auto& pane = EditorStage::in<QDockWidget>(stage().editor(), "dckAllegati");
+        pane.hide();
+        stage().start("cmdEsci");
+        frmEditor another;
+        another.Carica();
+        QCOMPARE(another.geometry().size(), QSize(900, 600));
+        QVERIFY(EditorStage::in<QDockWidget>(another, "dckAllegati").isHidden());
+        pane.show();
+    }
+
     void theColourPopupShowsTheColourOfTheTextAndSetsAnother() {
         stage().fill("<p><font color=\"#ff0000\">testo</font></p>");
         stage().select("font", 0, 5);
@@ -178,6 +202,8 @@ class TestStato : public QObject {
         QVERIFY(!popup.isVisible());
         QTRY_COMPARE(stage().body(), "<p><font color=\"#0000ff\">testo</font></p>");
         QVERIFY(!stage().marked());
+        stage().start("cmdUndo");
+        QCOMPARE(stage().body(), "<p><font color=\"#ff0000\">testo</font></p>");
         QTest::mouseClick(&EditorStage::in<QToolButton>(stage().editor(), "popColors"), Qt::LeftButton);
         QTest::keyClick(&color, Qt::Key_Escape);
         QVERIFY(!popup.isVisible());
@@ -265,6 +291,27 @@ class TestStato : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void eachDocumentTakesTheFontOfANewOne_data() {
+        QTest::addColumn<QString>("way");
+        QTest::newRow("opened") << "open";
+        QTest::newRow("from the source view") << "source";
+    }
+    void eachDocumentTakesTheFontOfANewOne() {
+        QFETCH(QString, way);
+        if (way == "open") {
+            stage().fill("<p>b</p>");
+            stage().saveAs("f.mss");
+            stage().open("f.mss");
+        } else {
+            stage().chooseTab(1);
+            stage().source().setText("<p>b</p>");
+            stage().chooseTab(0);
+        }
+        stage().type("a");
+        QTRY_VERIFY2(stage().body().contains(R"(<font face="Verdana" size="2">a</font>)"),
+                     qPrintable(stage().body()));
+    }
+
     void theWindowRefusesToBeClosedAndItsCommandHidesIt() {
         stage().editor().close();
         QVERIFY(stage().editor().isVisible());
@@ -278,12 +325,16 @@ class TestStato : public QObject {
     }
 
     void theMainWindowOpensItModalOnAnEmptyDocument() {
+        const auto browser = [this] {
+            return stage().design().findChild<QObject*>("page")->property("renderProcessPid").toLongLong();
+        };
         stage().fill("<p>vecchio</p>");
+        const qint64 first = browser();
         stage().editor().hide();
         bool modal = false;
         QString body;
-        QTimer::singleShot(100, &stage().editor(), [&] {
-            modal = QApplication::activeModalWidget() == &stage().editor();
+        stage().inDialog<frmEditor>([&](frmEditor&) {
+            modal = true;
             body = stage().body();
             stage().start("cmdEsci");
         });
@@ -291,6 +342,9 @@ class TestStato : public QObject {
         QVERIFY(modal);
         QCOMPARE(body.trimmed(), "");
         QVERIFY(!stage().editor().isVisible());
+        // Its browser stays from opening to opening.
+        QVERIFY(first > 0);
+        QCOMPARE(browser(), first);
     }
 };
 
