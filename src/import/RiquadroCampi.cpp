@@ -1,5 +1,6 @@
 #include "import/RiquadroCampi.h"
 
+#include <algorithm>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
@@ -28,8 +29,7 @@ void segnaObbligatorio(QComboBox& box) {
 
 }  // namespace
 
-RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent) {
-    auto* griglia = new QGridLayout(this);
+RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent), griglia(new QGridLayout(this)) {
     griglia->setContentsMargins(0, 0, 0, 0);
     griglia->setHorizontalSpacing(ui::controlSpacing);
     griglia->setVerticalSpacing(ui::controlSpacing / 4);
@@ -53,6 +53,16 @@ RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent) {
     for (int colonna = 0; colonna < colonneGriglia; ++colonna)
         griglia->setColumnStretch(colonna, 1);
     segnaObbligatorio(cmbCmp(campi::boxEmail));
+}
+
+/// The language file may have changed the labels: the widest asks for the width of all columns.
+void RiquadroCampi::showEvent(QShowEvent* mostra) {
+    QWidget::showEvent(mostra);
+    int larghezza = boxes[0]->minimumSizeHint().width();
+    for (const QLabel* etichetta : lblcmp)
+        larghezza = std::max(larghezza, etichetta->minimumSizeHint().width());
+    for (int colonna = 0; colonna < colonneGriglia; ++colonna)
+        griglia->setColumnMinimumWidth(colonna, larghezza);
 }
 
 void RiquadroCampi::Svuota() {

@@ -6,9 +6,11 @@
 #include "import/campi.h"
 
 class QComboBox;
+class QGridLayout;
 class QLabel;
 
-/// The 19 boxes "cmbCmp(n)" with their labels "lblcmp(n)" above them: four rows of five, the last of four.
+/// The 19 boxes "cmbCmp(n)" with their labels "lblcmp(n)" above them: four rows of five, the last of four, in
+/// columns of equal width.
 class RiquadroCampi : public QWidget {
   public:
     explicit RiquadroCampi(QWidget* parent);
@@ -20,7 +22,11 @@ class RiquadroCampi : public QWidget {
     /// Shows the first entry in every box.
     void ScegliPrima();
 
+  protected:
+    void showEvent(QShowEvent* mostra) override;
+
   private:
+    QGridLayout* griglia;
     std::array<QLabel*, campi::quanti> lblcmp;
     std::array<QComboBox*, campi::quanti> boxes;
 };

@@ -2,12 +2,12 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "core/Evento.h"
+#include "import/disposizione.h"
 #include "import/RiquadroCampi.h"
 #include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
@@ -30,48 +30,14 @@ frmImpDB::frmImpDB(QWidget* parent)
       cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
     setObjectName("frmImpDB");
     setWindowTitle(" Importa destinatari da Database Access");
-    Disponi();
+    DisponiImportazione(
+        *this,
+        {{lblDatabase, txtDatabase, cmdSfoglia}, {lblPassword, txtPassword, cmdApri}, {lblTabelle, cmbTab}},
+        riquadroCampi, *riquadroCartella, {cmdImportaDB, cmdChiudi});
+    cmbTab->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     CollegaEventi();
     AbilitaImportazione(false);
-    resize(700, 500);
-}
-
-void frmImpDB::Disponi() {
-    auto* comandi = new QHBoxLayout;
-    comandi->setSpacing(ui::controlSpacing);
-    comandi->addStretch();
-    comandi->addWidget(cmdImportaDB);
-    comandi->addWidget(cmdChiudi);
-    auto* finestra = new QVBoxLayout(this);
-    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
-    finestra->setSpacing(ui::windowMargin);
-    finestra->addLayout(DisponiSorgente());
-    finestra->addWidget(riquadroCampi);
-    finestra->addWidget(ui::separatorLine(this));
-    finestra->addWidget(riquadroCartella);
-    finestra->addStretch();
-    finestra->addLayout(comandi);
-}
-
-QGridLayout* frmImpDB::DisponiSorgente() {
-    auto* sorgente = new QGridLayout;
-    sorgente->setSpacing(ui::controlSpacing);
-    int riga = 0;
-    const auto aggiungi = [&](QLabel* etichetta, QWidget* campo, QPushButton* pulsante) {
-        etichetta->setBuddy(campo);
-        campo->setAccessibleName(ui::spokenCaption(etichetta->text()));
-        campo->setMinimumHeight(ui::fieldHeight);
-        sorgente->addWidget(etichetta, riga, 0);
-        sorgente->addWidget(campo, riga, 1);
-        if (pulsante) sorgente->addWidget(pulsante, riga, 2);
-        ++riga;
-    };
-    aggiungi(lblDatabase, txtDatabase, cmdSfoglia);
-    aggiungi(lblPassword, txtPassword, cmdApri);
-    aggiungi(lblTabelle, cmbTab, nullptr);
-    sorgente->setColumnStretch(1, 1);
-    cmbTab->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    return sorgente;
+    ui::openAtLeast(*this, {700, 500});
 }
 
 void frmImpDB::CollegaEventi() {

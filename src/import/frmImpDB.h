@@ -3,7 +3,6 @@
 #include <QDialog>
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -29,8 +28,6 @@ class frmImpDB : public QDialog {
 
   private:
     // frmImpDB.cpp: the window
-    void Disponi();
-    QGridLayout* DisponiSorgente();
     void CollegaEventi();
     void AbilitaImportazione(bool valore);
     void cmdSfoglia_Click();

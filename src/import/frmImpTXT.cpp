@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,6 +9,7 @@
 
 #include "core/Evento.h"
 #include "core/Puntatore.h"
+#include "import/disposizione.h"
 #include "import/RigaTesto.h"
 #include "import/RiquadroCampi.h"
 #include "import/RiquadroCartella.h"
@@ -33,40 +33,13 @@ frmImpTXT::frmImpTXT(QWidget* parent)
       cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
     setObjectName("frmImpTXT");
     setWindowTitle(" Importa destinatari da file di testo");
-    Disponi();
+    DisponiImportazione(*this, {{lblPercorso, txtPath, cmdSfoglia}, {lblSeparatore, txtSep}}, riquadroCampi,
+                        *riquadroCartella, {cmdImportaTXT, cmdChiudi});
+    txtSep->setAlignment(Qt::AlignCenter);
+    txtSep->setMaximumWidth(ui::scaledToFont(*this, 56));
     CollegaEventi();
     Carica();
-    resize(700, 440);
-}
-
-void frmImpTXT::Disponi() {
-    for (const auto& [etichetta, casella] : {std::pair{lblPercorso, txtPath}, {lblSeparatore, txtSep}}) {
-        etichetta->setBuddy(casella);
-        casella->setAccessibleName(ui::spokenCaption(etichetta->text()));
-        casella->setMinimumHeight(ui::fieldHeight);
-    }
-    txtSep->setMaximumWidth(56);
-    auto* sorgente = new QGridLayout;
-    sorgente->setSpacing(ui::controlSpacing);
-    sorgente->addWidget(lblPercorso, 0, 0);
-    sorgente->addWidget(txtPath, 0, 1);
-    sorgente->addWidget(cmdSfoglia, 0, 2);
-    sorgente->addWidget(lblSeparatore, 1, 0);
-    sorgente->addWidget(txtSep, 1, 1);
-    auto* comandi = new QHBoxLayout;
-    comandi->setSpacing(ui::controlSpacing);
-    comandi->addStretch();
-    comandi->addWidget(cmdImportaTXT);
-    comandi->addWidget(cmdChiudi);
-    auto* finestra = new QVBoxLayout(this);
-    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
-    finestra->setSpacing(ui::windowMargin);
-    finestra->addLayout(sorgente);
-    finestra->addWidget(riquadroCampi);
-    finestra->addWidget(ui::separatorLine(this));
-    finestra->addWidget(riquadroCartella);
-    finestra->addStretch();
-    finestra->addLayout(comandi);
+    ui::openAtLeast(*this, {700, 440});
 }
 
 void frmImpTXT::CollegaEventi() {

@@ -25,7 +25,6 @@ class frmImpTXT : public QDialog {
 
   private:
     void Carica();
-    void Disponi();
     void CollegaEventi();
     void cmdSfoglia_Click();
     void cmbCmp_Click();

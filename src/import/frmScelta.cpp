@@ -1,10 +1,10 @@
 #include "import/frmScelta.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QPushButton>
 
 #include "core/Evento.h"
+#include "import/disposizione.h"
 #include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
 #include "shell/bTheme.h"
@@ -16,21 +16,11 @@ frmScelta::frmScelta(QWidget* parent)
       cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
     setObjectName("frmScelta");
     setWindowTitle(" Nuovi destinatari");
-    auto* comandi = new QHBoxLayout;
-    comandi->setSpacing(ui::controlSpacing);
-    comandi->addStretch();
-    comandi->addWidget(cmdOK);
-    comandi->addWidget(cmdAnnulla);
+    DisponiImportazione(*this, {}, nullptr, *riquadro, {cmdOK, cmdAnnulla});
     cmdOK->setDefault(true);
-    auto* finestra = new QVBoxLayout(this);
-    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
-    finestra->setSpacing(ui::windowMargin);
-    finestra->addWidget(riquadro);
-    finestra->addStretch();
-    finestra->addLayout(comandi);
     connect(cmdOK, &QPushButton::clicked, this, [this] { evento([this] { cmdOK_Click(); }); });
     connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { cmdAnnulla_Click(); }); });
-    resize(440, 190);
+    ui::openAtLeast(*this, {440, 190});
 }
 
 void frmScelta::cmdOK_Click() {
