@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """A catch-all mail server for the demo: takes every message for everybody and writes each as one .eml file.
 
-    catch_all.py FOLDER [maildir]
+    catch_all.py FOLDER [maildir [ADDRESS PORT]]
 
-prints "port N" once it listens on a free port of the loopback address. With "maildir" the folder is a Maildir.
+prints "port N" once it listens, on a free port of the loopback address unless told otherwise. With "maildir" the folder
+is a Maildir.
 
 It speaks SMTP with PIPELINING, SIZE and 8BITMIME and keeps what it received byte for byte, with the envelope in front as
 X-Envelope-From and X-Envelope-To.
@@ -111,7 +112,7 @@ def in_files(folder):
     return keep
 
 
-async def main(keep):
+async def main(keep, address, port):
     async def serve(reader, writer):
         try:
             await Session(keep, reader, writer).run()
@@ -120,12 +121,13 @@ async def main(keep):
         finally:
             writer.close()
 
-    server = await asyncio.start_server(serve, "127.0.0.1", 0, limit=LIMIT)
+    server = await asyncio.start_server(serve, address, port, limit=LIMIT)
     print("port", server.sockets[0].getsockname()[1], flush=True)
     async with server:
         await server.serve_forever()
 
 
 if __name__ == "__main__":
-    maildir = sys.argv[2:] == ["maildir"]
-    asyncio.run(main(mailbox.Maildir(sys.argv[1]).add if maildir else in_files(pathlib.Path(sys.argv[1]))))
+    maildir = sys.argv[2:3] == ["maildir"]
+    keeper = mailbox.Maildir(sys.argv[1]).add if maildir else in_files(pathlib.Path(sys.argv[1]))
+    asyncio.run(main(keeper, *(sys.argv[3:5] or ["127.0.0.1", 0])))

@@ -1,0 +1,159 @@
+#!/usr/bin/env python3
+"""Sends over the direct route with the built program, in a network of its own: a real name server leads to the mail servers
+of three domains, one of which is down. Its recipients stay selected and the others are served; once it is up, a second run
+serves them and nobody else. The send window is worked as an assistive program works it.
+
+    direct_route_test.py BUILD_FOLDER
+"""
+import csv
+import fcntl
+import mailbox
+import os
+import pathlib
+import socket
+import struct
+import subprocess
+import sys
+import tempfile
+
+import desktop
+from desktop import fail, wait_for
+
+ISOLATED = "VESTROLA_TEST_NETWORK"
+SERVERS = {"alfa.example": "127.0.0.2", "beta.example": "127.0.0.3", "spento.example": "127.0.0.4"}
+DOWN = "spento.example"
+RECIPIENTS = [f"{name}@{domain}" for name in ("ada", "bice") for domain in SERVERS]
+
+
+def raise_loopback():
+    up_and_running = 0x41
+    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as any_socket:
+        fcntl.ioctl(any_socket, 0x8914, struct.pack("16sH14x", b"lo", up_and_running))  # SIOCSIFFLAGS
+
+
+def isolate():
+    """Runs this script anew in a network and mounts of its own, where every port may be bound and resolv.conf names the
+    test's name server; returns where that is so already."""
+    if ISOLATED not in os.environ:
+        unshare = ["unshare", "--net", "--mount"] + (["--map-root-user"] if os.geteuid() else [])
+        if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL, check=False).returncode:
+            print("skipped: the system allows no private network")
+            raise SystemExit(0)
+        os.environ[ISOLATED] = "1"
+        os.execvp(unshare[0], [*unshare, sys.executable, *sys.argv])
+    if desktop.INSIDE not in os.environ:
+        raise_loopback()
+        with tempfile.NamedTemporaryFile("w", prefix="resolv-") as file:
+            file.write("nameserver 127.0.0.1\n")
+            file.flush()
+            os.chmod(file.name, 0o644)
+            subprocess.run(["mount", "--bind", file.name, "/etc/resolv.conf"], check=True)
+
+
+isolate()
+desktop.inside()
+from accessible import Window, act  # noqa: E402  looks for the bus when it is imported
+
+
+def start_name_server(stage):
+    lines = ["server:", "interface: 127.0.0.1", "do-daemonize: no", "use-syslog: no", 'chroot: ""', 'username: ""',
+             f'directory: "{stage.work}"', 'pidfile: ""', "do-ip6: no", 'module-config: "iterator"',
+             'local-zone: "." static']
+    for domain, address in SERVERS.items():
+        lines += [f'local-data: "{domain}. MX 10 mx.{domain}."', f'local-data: "mx.{domain}. A {address}"']
+    settings = stage.work / "unbound.conf"
+    settings.write_text("\n".join(lines) + "\n", encoding="ascii")
+    server = stage.start(["/usr/sbin/unbound", "-d", "-c", settings])
+
+    def resolves():
+        if server.poll() is not None:
+            fail("the name server does not run")
+        try:
+            return socket.gethostbyname("mx.alfa.example") == SERVERS["alfa.example"]
+        except OSError:
+            return False
+    wait_for(resolves, "the name server")
+
+
+class MailServer:
+    """The mail server of one domain, which puts every message into a Maildir."""
+
+    def __init__(self, stage, domain):
+        self.folder = stage.work / domain
+        command = [sys.executable, desktop.ROOT / "demo" / "catch_all.py", self.folder, "maildir", SERVERS[domain], "25"]
+        wait_for(stage.start(command, stdout=subprocess.PIPE, text=True).stdout.readline, f"the mail server of {domain}")
+
+    def served(self):
+        return sorted(message["X-Envelope-To"] for message in mailbox.Maildir(self.folder))
+
+
+def make_program_folder(stage):
+    rows = [("gruppo", "rgs", "nom", "email", "sel")]
+    rows += [("Clienti", f"Ditta {number}", address.split("@")[0].capitalize(), address, "1")
+             for number, address in enumerate(RECIPIENTS)]
+    table = stage.work / "recipients.tsv"
+    table.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+    build = pathlib.Path(sys.argv[1]).resolve()
+    subprocess.run([build / "demo" / "demo_make", stage.program_folder, "0", table], stdout=subprocess.DEVNULL, check=True,
+                   env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+
+
+def selected(stage):
+    exported = subprocess.run(["mdb-export", stage.program_folder / "data" / "data.mdb", "tb_destinatari"],
+                              stdout=subprocess.PIPE, text=True, check=True)
+    return sorted(row["email"] for row in csv.DictReader(exported.stdout.splitlines()) if row["sel"] != "0")
+
+
+def of(domain):
+    return sorted(address for address in RECIPIENTS if address.endswith("@" + domain))
+
+
+def expect(value, wanted, what):
+    if value != wanted:
+        fail(f"{what}: {value} instead of {wanted}")
+
+
+def send(main, message, delivered, failed):
+    main.press("Invia messaggi")
+    window = Window("dialog", "Invia messaggi")
+    window.find("label", f"Email da inviare: {delivered + failed}")
+    window.press("Apri messaggio")
+    chooser = Window("dialog", "Apri messaggio")
+    chooser.write("Nome del file:", str(message))
+    chooser.press("Apri")
+    chooser.gone()
+    window.press("Invia messaggi")
+    window.find("label", f"Email inviate: {delivered}")
+    window.find("label", f"Email non inviate: {failed}")
+    window.find("label", "Email da inviare: 0")
+    window.press("Chiudi")
+    window.gone()
+
+
+def play(stage, program):
+    make_program_folder(stage)
+    start_name_server(stage)
+    servers = {domain: MailServer(stage, domain) for domain in SERVERS if domain != DOWN}
+    message = stage.write_message()
+    running = stage.start([program])
+    main = Window("frame", "Vestrola")
+
+    send(main, message, delivered=4, failed=2)
+    for domain, server in servers.items():
+        expect(server.served(), of(domain), f"what came to {domain}")
+    expect(selected(stage), of(DOWN), "still selected")
+
+    servers[DOWN] = MailServer(stage, DOWN)
+    send(main, message, delivered=2, failed=0)
+    for domain, server in servers.items():
+        expect(server.served(), of(domain), f"what came to {domain} in both runs")
+    expect(selected(stage), [], "still selected at the end")
+
+    act(main.find("menu item", "File"), "ShowMenu")
+    act(main.find("menu item", "Esci"), "Press")
+    stage.ends(running, 0)
+    print("three domains by the direct route: two served, the third one once its server was up")
+
+
+if __name__ == "__main__":
+    desktop.run(play)
