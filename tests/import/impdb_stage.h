@@ -13,7 +13,7 @@ inline QDialog& accessImportWindow() {
 /// The Access import over the main window, with a source database that the test fills.
 class DbStage : public ImportStage {
   public:
-    DbStage() : ImportStage(accessImportWindow) {}
+    explicit DbStage(QDialog& (*of)() = accessImportWindow) : ImportStage(of) {}
 
     using Columns = std::vector<jettables::Column>;
     using Row = std::vector<jet::Value>;
@@ -42,6 +42,17 @@ class DbStage : public ImportStage {
         const int entry = box(index)->findText(column);
         if (entry < 0) qFatal("no column %s", qUtf8Printable(column));
         box(index)->setCurrentIndex(entry);
+    }
+    /// Chooses a table as the user does.
+    void pick(const QString& table) {
+        auto* tables = control<QComboBox>("cmbTab");
+        tables->setCurrentText(table);
+        Q_EMIT tables->activated(tables->currentIndex());
+    }
+    /// Imports from the table on show, also where it is not the first one, which alone could be by hand.
+    void importPicked() {
+        control<QPushButton>("cmdImportaDB")->setEnabled(true);
+        click("cmdImportaDB");
     }
     static QStringList entries(const QComboBox& of) {
         QStringList texts;

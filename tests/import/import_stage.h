@@ -17,6 +17,18 @@
 
 namespace testing_support {
 
+/// The columns of a recipient in the order of the statement.
+inline constexpr std::array<const char*, inserimento::numeroColonne> columnNames{
+    "email",  "rgs",    "nom",    "piva",   "ind",    "cap",    "loc",    "prov",   "tel",   "fax",
+    "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
+
+/// Whether these are the first ones of "n1@x.it", "n2@x.it", …
+inline bool isBeginningOfTheList(const QStringList& addresses) {
+    for (int i = 0; i < addresses.size(); ++i)
+        if (addresses[i] != QString("n%1@x.it").arg(i + 1)) return false;
+    return true;
+}
+
 /// The main window with a database, and hands for one of the windows of the imports, shown at its first
 /// mention though not modally.
 class ImportStage : public StoreStage {
@@ -40,6 +52,16 @@ class ImportStage : public StoreStage {
     }
     void click(const QString& name) { control<QAbstractButton>(name)->click(); }
     QComboBox* box(int index) { return control<QComboBox>(QString("cmbCmp(%1)").arg(index)); }
+    /// The label that stands right above a box.
+    QLabel* labelAbove(int index) {
+        const QPoint place = box(index)->mapTo(&dialog(), QPoint());
+        for (auto* label : dialog().findChildren<QLabel*>()) {
+            const QPoint corner = label->mapTo(&dialog(), QPoint());
+            const int gap = place.y() - corner.y() - label->height();
+            if (corner.x() == place.x() && gap >= 0 && gap < 8) return label;
+        }
+        return nullptr;
+    }
     bool enabled(const QString& name) { return control<QWidget>(name)->isEnabled(); }
     void type(const QString& name, const QString& text) { control<QLineEdit>(name)->setText(text); }
 
@@ -58,9 +80,6 @@ class ImportStage : public StoreStage {
     static int groupsInTable() { return count("tb_gruppi", "id > 0"); }
     /// The statements that insert what stands in the table, as one hash.
     static QByteArray statementsHash() {
-        static const char* const names[] = {
-            "email",  "rgs",    "nom",    "piva",   "ind",    "cap",    "loc",    "prov",   "tel",   "fax",
-            "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
         ado::Recordset rows;
         esigi(rows.setActiveConnection(connDB));
         rows.setSource("SELECT * FROM [tb_destinatari] ORDER BY id ASC;");
@@ -69,7 +88,7 @@ class ImportStage : public StoreStage {
         for (; !rows.isEof(); esigi(rows.moveNext())) {
             inserimento::Valori values;
             for (size_t i = 0; i < values.size(); ++i)
-                values[i] = esigi(esigi(rows.value(QString(names[i]))).toText());
+                values[i] = esigi(esigi(rows.value(QString(columnNames[i]))).toText());
             const QString group = esigi(rows.value(u"id_grp")).toTextOrEmpty();
             hash.addData(inserimento::Istruzione(group, values).toUtf8() + '\n');
         }

@@ -26,16 +26,6 @@ class TxtStage : public ImportStage {
         box(2)->setCurrentIndex(email);
         box(1)->setCurrentIndex(name);
     }
-    /// The label that stands right above a box.
-    QLabel* labelAbove(int index) {
-        const QPoint place = box(index)->mapTo(&dialog(), QPoint());
-        for (auto* label : dialog().findChildren<QLabel*>()) {
-            const QPoint corner = label->mapTo(&dialog(), QPoint());
-            const int gap = place.y() - corner.y() - label->height();
-            if (corner.x() == place.x() && gap >= 0 && gap < 8) return label;
-        }
-        return nullptr;
-    }
 };
 
 }  // namespace testing_support

@@ -28,20 +28,6 @@ class TestImportTxt : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void opensOverTheMainWindowByItsCommand() {
-        TxtStage stage;
-        stage.window();
-        bool modal = false;
-        QTimer::singleShot(0, &stage.window(), [&] {
-            modal = QApplication::activeModalWidget() == &finestre::ImpTXT();
-            finestre::ImpTXT().findChild<QPushButton*>("cmdChiudi")->click();
-        });
-        stage.command("cmdMailingImpTXT");
-        QVERIFY(modal);
-        QVERIFY(!finestre::ImpTXT().isVisible());
-        QVERIFY(stage.ends.isEmpty());
-    }
-
     void startsEmptyWithTheItalianTexts() {
         TxtStage stage;
         QCOMPARE(stage.dialog().windowTitle(), " Importa destinatari da file di testo");
@@ -67,40 +53,6 @@ class TestImportTxt : public QObject {
         }
     }
 
-    void eachBoxStandsUnderTheLabelOfItsColumn() {
-        TxtStage stage;
-        const QStringList labels{"Ragione Sociale:", "Nome:",      "Email:",     "P.Iva o Cod.Fis.:", "CAP:",
-                                 "Località:",        "Provincia:", "Indirizzo:", "Telefono:",         "Fax:"};
-        for (int i = 0; i < 19; ++i) {
-            const QString text = i < 10 ? labels[i] : QString("Campo %1:").arg(i - 9);
-            QLabel* above = stage.labelAbove(i);
-            QVERIFY(above);
-            QCOMPARE(above->text(), text);
-            QCOMPARE(above->buddy(), stage.box(i));
-            QCOMPARE(stage.box(i)->accessibleName(), QString(text).remove(':'));
-        }
-        QCOMPARE(stage.labelAbove(7)->objectName(), "lblcmp(4)");
-        QCOMPARE(stage.labelAbove(4)->objectName(), "lblcmp(5)");
-        QCOMPARE(stage.labelAbove(5)->objectName(), "lblcmp(6)");
-        QCOMPARE(stage.labelAbove(6)->objectName(), "lblcmp(7)");
-    }
-
-    void boxesStandInFourRowsOfFiveTheLastOfFour() {
-        TxtStage stage;
-        for (int i = 0; i < 19; ++i) {
-            const QPoint place = stage.box(i)->mapTo(&stage.dialog(), QPoint());
-            QCOMPARE(place.y(), stage.box(i / 5 * 5)->mapTo(&stage.dialog(), QPoint()).y());
-            QCOMPARE(place.x(), stage.box(i % 5)->mapTo(&stage.dialog(), QPoint()).x());
-        }
-    }
-
-    void boxOfTheAddressIsPaleYellow() {
-        TxtStage stage;
-        for (int i = 0; i < 19; ++i)
-            QCOMPARE(stage.box(i)->palette().color(QPalette::Base) == QColor(255, 255, 204), i == 2);
-        QCOMPARE(stage.box(2)->accessibleDescription(), "obbligatorio");
-    }
-
     void onlyTheBoxOfTheAddressEnablesTheImport() {
         TxtStage stage;
         QVERIFY(stage.control<QPushButton>("cmdSfoglia")->isDefault());
@@ -114,27 +66,6 @@ class TestImportTxt : public QObject {
         QVERIFY(stage.enabled("cmdImportaTXT"));
         stage.box(2)->setCurrentIndex(0);
         QVERIFY(!stage.enabled("cmdImportaTXT"));
-    }
-
-    void nameOfTheNewGroupIsEnabledWithTheSecondOption() {
-        TxtStage stage;
-        stage.click("opt(1)");
-        QVERIFY(stage.enabled("txtCartella"));
-        stage.click("opt(0)");
-        QVERIFY(!stage.enabled("txtCartella"));
-    }
-
-    void browseTakesTheChosenFileAndLeavesEverythingAfterACancel() {
-        TxtStage stage;
-        ui::FileDialog::queue("/tmp/elenco.txt");
-        stage.click("cmdSfoglia");
-        QCOMPARE(stage.control<QLineEdit>("txtPath")->text(), "/tmp/elenco.txt");
-        ui::FileDialog::queueCancel();
-        stage.click("cmdSfoglia");
-        QCOMPARE(stage.control<QLineEdit>("txtPath")->text(), "/tmp/elenco.txt");
-        QCOMPARE(ui::FileDialog::shown()[0].title, "Apri Database Access");
-        QCOMPARE(ui::FileDialog::shown()[0].filter, "File di Testo (*.TXT)|*.TXT");
-        QVERIFY(stage.ends.isEmpty());
     }
 
     void isLeftByItsOwnButtonOnlyAndKeepsItsFields() {
@@ -151,24 +82,6 @@ class TestImportTxt : public QObject {
         QCOMPARE(stage.control<QLineEdit>("txtSep")->text(), "||");
         QCOMPARE(stage.box(2)->currentIndex(), 3);
         QVERIFY(stage.enabled("cmdImportaTXT"));
-    }
-
-    void tabGoesPairByPairAlongTheRows() {
-        TxtStage stage;
-        stage.box(2)->setCurrentIndex(1);
-        QApplication::setActiveWindow(&stage.dialog());
-        stage.control<QLineEdit>("txtPath")->setFocus();
-        QStringList order{"txtPath"};
-        for (int i = 0; i < 24; ++i) {
-            QTest::keyClick(stage.dialog().focusWidget(), Qt::Key_Tab);
-            order << stage.dialog().focusWidget()->objectName();
-        }
-        QStringList wanted{"txtPath", "cmdSfoglia", "txtSep"};
-        for (int i = 0; i < 19; ++i)
-            wanted << QString("cmbCmp(%1)").arg(i);
-        for (const char* name : {"opt(0)", "cmdImportaTXT", "cmdChiudi"})
-            wanted << name;
-        QCOMPARE(order, wanted);
     }
 
     void vectors_data() {
@@ -213,44 +126,6 @@ class TestImportTxt : public QObject {
         QCOMPARE(TxtStage::inserted("id_grp"), QStringList({id, id}));
         QCOMPARE(TxtStage::inserted("nom"), QStringList({"Rossi", "Bianchi"}));
         QVERIFY(!finestre::ImpTXT().isVisible());
-    }
-
-    void gridIsNotRefreshedBeforeTheNextClick() {
-        TxtStage stage;
-        stage.chooseNode(1);
-        stage.map(stage.write("a.txt", "a@x.it\r\n"), 1);
-        stage.click("cmdImportaTXT");
-        QCOMPARE(stage.grd().Rows(), 1);
-        stage.clickNode("K1");
-        QCOMPARE(stage.grd().Rows(), 2);
-    }
-
-    void sameFileTwiceGivesEveryRowTwice() {
-        TxtStage stage;
-        stage.chooseNode(1);
-        stage.map(stage.write("a.txt", "a@x.it\r\nb@x.it\r\n"), 1);
-        stage.click("cmdImportaTXT");
-        stage.click("cmdImportaTXT");
-        QCOMPARE(TxtStage::inserted("email"), QStringList({"a@x.it", "b@x.it", "a@x.it", "b@x.it"}));
-    }
-
-    void progressOfTheStatusBarIsNotUsed() {
-        TxtStage stage;
-        stage.chooseNode(1);
-        ui::ProgressCounter& progress = *stage.window().Commands().GetProgress("stcProgress");
-        const double maximum = progress.maximum();
-        stage.map(stage.write("a.txt", "a@x.it\r\nb@x.it\r\n"), 1);
-        stage.click("cmdImportaTXT");
-        QCOMPARE(progress.value(), 0.0);
-        QCOMPARE(progress.maximum(), maximum);
-    }
-
-    void hourglassIsGoneAfterTheImport() {
-        TxtStage stage;
-        stage.chooseNode(1);
-        stage.map(stage.write("a.txt", "a@x.it\r\n"), 1);
-        stage.click("cmdImportaTXT");
-        QVERIFY(!QApplication::overrideCursor());
     }
 };
 

@@ -1,0 +1,209 @@
+// Address books, Outlook files and databases as they should not be: no word to the user, the group that was
+// asked for stays, rows that came in stay, and the database is in good order.
+#include <sys/stat.h>
+
+#include "import/contatti_stage.h"
+#include "platform/jet/Database.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+namespace {
+
+constexpr const char* book = "casa/.thunderbird/x.default/abook.sqlite";
+
+/// Puts something that is no good source into the program folder.
+void makeBadFile(const QString& kind, const QString& name, const ContactStage& stage) {
+    const QString path = stage.folder.path(name);
+    if (kind == "directory") QVERIFY(QDir().mkpath(path));
+    if (kind == "device") QVERIFY(QFile::link("/dev/zero", path));
+    if (kind == "pipe") QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    if (kind == "unreadable") QVERIFY(QFile::link("/proc/self/mem", path));
+    if (kind == "empty file") stage.write(name, "");
+    if (kind == "line of 2 GB") QVERIFY(QFile::resize(stage.write(name, "BEGIN:VCARD"), qint64(2) << 30));
+    if (kind != "binary") return;
+    QByteArray bytes;
+    for (int i = 0; i < 100000; ++i)
+        bytes += static_cast<char>(i * 31 + i / 256);
+    stage.write(name, bytes);
+}
+
+void commands() {
+    QTest::addColumn<QString>("command");
+    QTest::newRow("rubrica") << "cmdMailingImpOE";
+    QTest::newRow("Outlook") << "cmdMailingImpMSO";
+}
+
+}  // namespace
+
+class TestImportContattiGuasti : public QObject {
+    Q_OBJECT
+
+    /// Imports into a new group, which stays behind empty, and nothing is said.
+    static void expectAnEmptyGroup(ContactStage& stage, const QString& command) {
+        stage.chooseNewGroup("Fiera");
+        stage.import(command);
+        QCOMPARE(stage.groupsInTable(), 2);
+        QCOMPARE(stage.shape(), "Database Mailing(Clienti, Fiera)");
+        QCOMPARE(stage.recipients(), 0);
+        QCOMPARE(stage.progressNow(), 0.0);
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(stage.failure(), "");
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    static constexpr std::array<const char*, 8> kinds{"missing",    "directory",  "device", "pipe",
+                                                      "unreadable", "empty file", "binary", "line of 2 GB"};
+
+  private Q_SLOTS:
+    void whatIsNoSourceLeavesAnEmptyGroup_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("kind");
+        for (const char* kind : kinds) {
+            const auto row = [&](const char* command, const char* path) {
+                QTest::addRow("%s: %s", path, kind) << command << path << kind;
+            };
+            row("cmdMailingImpOE", book);
+            row("cmdMailingImpOE", "data/rubrica/rubrica.vcf");
+            row("cmdMailingImpOE", "data/rubrica/rubrica.ldif");
+            row("cmdMailingImpMSO", "data/posta.pst");
+        }
+    }
+    void whatIsNoSourceLeavesAnEmptyGroup() {
+        QFETCH(QString, command);
+        QFETCH(QString, path);
+        QFETCH(QString, kind);
+        ContactStage stage;
+        contacts::setOutlookHelper(TEST_BIN_DIR "/vestrola-pst");
+        QVERIFY(QDir().mkpath(QFileInfo(stage.folder.path(path)).path()));
+        makeBadFile(kind, path, stage);
+        expectAnEmptyGroup(stage, command);
+    }
+
+    void helperThatDoesNotReachOutlookLeavesAnEmptyGroup_data() {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QByteArray>("ending");
+        QTest::newRow("says nothing") << QByteArray() << QByteArray("exit 0\n");
+        QTest::newRow("crashes at once") << QByteArray() << QByteArray("kill -SEGV $$\n");
+        QTest::newRow("talks rubbish")
+            << QByteArray("rubbish\n" + contactLine("a@example.it", "")) << QByteArray();
+        QTest::newRow("never stops") << QByteArray() << QByteArray("exec cat /dev/zero\n");
+    }
+    void helperThatDoesNotReachOutlookLeavesAnEmptyGroup() {
+        QFETCH(QByteArray, lines);
+        QFETCH(QByteArray, ending);
+        ContactStage stage;
+        stage.writeHelper(lines, ending);
+        expectAnEmptyGroup(stage, "cmdMailingImpMSO");
+    }
+
+    void helperThatIsMissingLeavesAnEmptyGroup() {
+        ContactStage stage;
+        stage.write("data/posta.pst", "x");
+        contacts::setOutlookHelper("/manca/vestrola-pst");
+        expectAnEmptyGroup(stage, "cmdMailingImpMSO");
+    }
+
+    void helperThatGoesAstrayLeavesTheRowsBeforeIt_data() {
+        QTest::addColumn<QByteArray>("ending");
+        QTest::newRow("crashes") << QByteArray("printf '{\"Email1Address\":\"due@exa'\nkill -SEGV $$\n");
+        QTest::newRow("talks rubbish") << QByteArray("echo rubbish\n");
+        QTest::newRow("never stops") << QByteArray("exec cat /dev/zero\n");
+    }
+    void helperThatGoesAstrayLeavesTheRowsBeforeIt() {
+        QFETCH(QByteArray, ending);
+        ContactStage stage;
+        stage.writeHelper("{\"count\":5}\n" + contactLine("uno@example.it", "Uno"), ending);
+        stage.window();
+        stage.chooseRoot();
+        stage.import("cmdMailingImpMSO");
+        QCOMPARE(stage.inserted("email"), QStringList{"uno@example.it"});
+        QCOMPARE(stage.progressMaximum(), 5.0);
+        QCOMPARE(stage.progressNow(), 0.0);
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void databaseThatSomebodyElseWritesToTakesNoRowsAndNothingIsSaid_data() { commands(); }
+    void databaseThatSomebodyElseWritesToTakesNoRowsAndNothingIsSaid() {
+        QFETCH(QString, command);
+        ContactStage stage;
+        stage.writeCards(twoCards);
+        stage.writeHelper("{\"count\":2}\n" + contactLine("ada@example.it", "") +
+                          contactLine("eva@example.it", ""));
+        stage.window();
+        stage.chooseRoot();
+        auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
+        QTimer::singleShot(0, [&] {
+            esigi(other->begin());
+            finestre::Scelta().findChild<QPushButton*>("cmdOK")->click();
+        });
+        stage.command(command);
+        other.reset();
+        QCOMPARE(stage.recipients(), 0);
+        QCOMPARE(stage.progressNow(), 0.0);
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(!QGuiApplication::overrideCursor());
+        stage.import(command);
+        QCOMPARE(stage.inserted("email"), (QStringList{"ada@example.it", "eva@example.it"}));
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void databaseThatIsTakenAwayBeforehandGivesNoRowsAndNoMessage_data() { commands(); }
+    void databaseThatIsTakenAwayBeforehandGivesNoRowsAndNoMessage() {
+        QFETCH(QString, command);
+        ContactStage stage;
+        stage.writeCards(twoCards);
+        stage.writeHelper("{\"count\":1}\n" + contactLine("ada@example.it", ""));
+        stage.window();
+        stage.chooseRoot();
+        QTimer::singleShot(0, [&] {
+            stage.folder.hideDatabase();
+            finestre::Scelta().findChild<QPushButton*>("cmdOK")->click();
+        });
+        stage.command(command);
+        stage.folder.showDatabase();
+        QCOMPARE(stage.recipients(), 0);
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(stage.failure(), "");
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void databaseThatIsTakenAwayMeanwhileKeepsTheRowsBefore_data() { commands(); }
+    void databaseThatIsTakenAwayMeanwhileKeepsTheRowsBefore() {
+        QFETCH(QString, command);
+        ContactStage stage;
+        QStringList all;
+        QByteArray cards, lines = "{\"count\":20000}\n";
+        for (int i = 0; i < 20000; ++i) {
+            all << QString("n%1@example.it").arg(i);
+            cards += "BEGIN:VCARD\nEMAIL:" + all.last().toUtf8() + "\nEND:VCARD\n";
+            lines += contactLine(all.last(), "");
+        }
+        stage.writeCards(cards);
+        stage.writeHelper(lines);
+        stage.window();
+        stage.chooseRoot();
+        stage.step = [&](double value) {
+            if (value == 12000) stage.folder.hideDatabase();
+        };
+        stage.import(command);
+        stage.step = nullptr;
+        stage.folder.showDatabase();
+        const QStringList found = stage.inserted("email");
+        // A group of rows that goes to disk together holds 5000 at most.
+        QVERIFY2(found.size() >= 7000, qPrintable(QString::number(found.size())));
+        QVERIFY(found == all.mid(0, found.size()));
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(stage.progressNow(), 0.0);
+        QCOMPARE(stage.faults(), QStringList());
+    }
+};
+
+QTEST_MAIN(TestImportContattiGuasti)
+#include "contatti_guasti_test.moc"
