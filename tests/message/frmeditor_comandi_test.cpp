@@ -1,6 +1,9 @@
 // Every command of the editor: its texts, the view it goes to, what it does, whether it marks the document,
 // and that it can be undone.
 #include <QClipboard>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
 #include <QToolBar>
 
 #include "core/Finestre.h"
@@ -103,6 +106,21 @@ constexpr Inserted snippets[] = {
     {"cmdVarCampo8", "Campo 8", ":::campo8:::"},
     {"cmdVarCampo9", "Campo 9", ":::campo9:::"},
 };
+
+QByteArray toolOutput(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0) qFatal("%s failed", qUtf8Printable(program));
+    return process.readAllStandardOutput();
+}
+
+int darkPixels(const QImage& image) {
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            dark += qGray(image.pixel(x, y)) < 128 ? 1 : 0;
+    return dark;
+}
 
 const char* const table =
     "<table><tbody><tr><td id=\"a\">1</td><td>2</td></tr><tr><td>3</td><td>4</td></tr></tbody></table>";
@@ -225,6 +243,10 @@ class TestComandi : public QObject {
         stage().editor().ComandoPremuto("cmbFontSize");
         QCOMPARE(stage().body(), "<p><font face=\"Georgia\" size=\"5\">testo</font></p>");
         QVERIFY(!stage().marked());
+        stage().start("cmdUndo");
+        QCOMPARE(stage().body(), "<p><font face=\"Georgia\">testo</font></p>");
+        stage().start("cmdUndo");
+        QCOMPARE(stage().body(), "<p>testo</p>");
     }
 
     void aSnippetGoesToTheSelectionMarksAndCanBeUndone_data() {
@@ -286,6 +308,72 @@ class TestComandi : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void cutAndPasteAreUndoneAndRedone() {
+        const auto startWhenOn = [this](const char* name) {
+            QTRY_VERIFY2(stage().tool(name).isEnabled(), name);
+            stage().start(name);
+        };
+        stage().fill("<p>uno due</p>");
+        stage().select("p", 0, 4);
+        startWhenOn("cmdTaglia");
+        startWhenOn("cmdIncolla");
+        const QString pasted = stage().body();
+        startWhenOn("cmdUndo");
+        QCOMPARE(stage().body(), "<p>due</p>");
+        startWhenOn("cmdUndo");
+        QCOMPARE(stage().body(), "<p>uno due</p>");
+        startWhenOn("cmdRedo");
+        startWhenOn("cmdRedo");
+        QCOMPARE(stage().body(), pasted);
+    }
+
+    void undoAndRedoMark() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        stage().start("cmdBold");
+        for (const char* name : {"cmdUndo", "cmdRedo"}) {
+            stage().editor().titoloFile = "[NuovoFile.mss]";
+            QTRY_VERIFY2(stage().tool(name).isEnabled(), name);
+            stage().start(name);
+            QVERIFY2(stage().marked(), name);
+        }
+        QCOMPARE(stage().body(), "<p><b>testo</b></p>");
+    }
+
+    void formattingGoesToTheDesignViewWhateverTabIsOnShow() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        stage().chooseTab(1);
+        const QString source = stage().source().Text();
+        stage().editor().ComandoPremuto("cmdBold");
+        QCOMPARE(stage().source().Text(), source);
+        QCOMPARE(stage().body(), "<p><b>testo</b></p>");
+        stage().chooseTab(0);
+        stage().select("p", 0, 5);
+        stage().chooseTab(2);
+        stage().editor().ComandoPremuto("cmdItalic");
+        QCOMPARE(stage().body(), "<p><i>testo</i></p>");
+    }
+
+    void onThePreviewTabTheOtherCommandsOfBothViewsDoNothing() {
+        stage().fill("<p>testo</p>");
+        stage().select("p", 0, 5);
+        stage().chooseTab(2);
+        const QString source = stage().source().Text();
+        for (const auto& [name, marks] : {std::pair("cmdTaglia", true),
+                                          {"cmdIncolla", true},
+                                          {"cmdRedo", true},
+                                          {"cmdCopia", false},
+                                          {"cmdSelezionaTutto", false},
+                                          {"cmdTrova", false}}) {
+            stage().editor().titoloFile = "[NuovoFile.mss]";
+            stage().editor().ComandoPremuto(name);
+            QCOMPARE(stage().marked(), marks);
+        }
+        QCOMPARE(stage().body(), "<p>testo</p>");
+        QCOMPARE(stage().source().Text(), source);
+    }
+
     void onTheSourceTabTheSameCommandsWorkOnTheSource() {
         stage().chooseTab(1);
         stage().source().setText("uno due");
@@ -337,6 +425,39 @@ class TestComandi : public QObject {
         QCOMPARE(asked, 1);
         QVERIFY(!stage().marked());
         stage().design().setPrintPrompt({});
+    }
+
+    void printAsksInTheDialogOfTheDesktop() {
+        bool shown = false;
+        stage().inDialog<QPrintDialog>([&shown](QPrintDialog& dialog) {
+            shown = dialog.isVisible();
+            dialog.reject();
+        });
+        stage().start("cmdStampa");
+        QVERIFY(shown);
+    }
+
+    void printingWritesThePagesOfTheDocument() {
+        stage().fill("<h1>Listino :::campo1:::</h1><p style=\"page-break-before: always\">seconda</p>");
+        const QString path = stage().path("stampa.pdf");
+        stage().design().setPrintPrompt([&path](QPrinter& printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(path);
+            return true;
+        });
+        stage().start("cmdStampa");
+        stage().design().setPrintPrompt({});
+        QVERIFY(stage().bytes("stampa.pdf").startsWith("%PDF-"));
+        QCOMPARE(toolOutput("pdfinfo", {path}).count("Pages:           2\n"), 1);
+        // The browser hands out its pages as pictures: they are looked at, as there are no words to find.
+        for (const char* page : {"1", "2"}) {
+            const QByteArray picture =
+                toolOutput("pdftoppm", {"-gray", "-r", "40", "-f", page, "-l", page, path});
+            QImage image;
+            QVERIFY(image.loadFromData(picture, "PGM"));
+            QVERIFY2(darkPixels(image) > 20, page);
+        }
+        QVERIFY(!stage().marked());
     }
 };
 
