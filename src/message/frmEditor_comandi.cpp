@@ -6,58 +6,14 @@
 #include "core/Finestre.h"
 #include "message/frmAllegati.h"
 #include "message/frmEditor.h"
+#include "message/frmEditor_comandi.h"
 #include "message/frmPropBody.h"
 #include "message/variabili.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
-#include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 
 namespace {
-
-/// A command that goes to the view on show.
-struct DueViste {
-    const char* nome;
-    int design;
-    int codice;
-    bool segna;  ///< marks the document as changed, whatever tab is on show
-};
-
-constexpr std::array dueViste{
-    DueViste{"cmdUndo", HtmlView::Undo, ui::SourceEdit::Undo, true},
-    DueViste{"cmdRedo", HtmlView::Redo, ui::SourceEdit::Redo, true},
-    DueViste{"cmdTaglia", HtmlView::Cut, ui::SourceEdit::Cut, true},
-    DueViste{"cmdCopia", HtmlView::Copy, ui::SourceEdit::Copy, false},
-    DueViste{"cmdIncolla", HtmlView::Paste, ui::SourceEdit::Paste, true},
-    DueViste{"cmdSelezionaTutto", HtmlView::SelectAll, ui::SourceEdit::SelectAll, false},
-    DueViste{"cmdTrova", HtmlView::FindText, ui::SourceEdit::FindText, false},
-};
-
-/// A command that goes to the design view whatever tab is on show. None of them marks the document: only the
-/// next key does.
-struct Design {
-    const char* nome;
-    int numero;
-};
-
-constexpr std::array soloDesign{
-    Design{"cmdBold", HtmlView::Bold},
-    Design{"cmdItalic", HtmlView::Italic},
-    Design{"cmdUnderline", HtmlView::Underline},
-    Design{"cmdNumerato", HtmlView::OrderList},
-    Design{"cmdPuntato", HtmlView::UnorderList},
-    Design{"cmdSX", HtmlView::Outdent},
-    Design{"cmdDX", HtmlView::Indent},
-    Design{"cmdLeft", HtmlView::JustifyLeft},
-    Design{"cmdCenter", HtmlView::JustifyCenter},
-    Design{"cmdRight", HtmlView::JustifyRight},
-    Design{"cmdImage", HtmlView::Image},
-    Design{"cmdLink", HtmlView::Hyperlink},
-    Design{"cmdTableInsRow", HtmlView::InsertRow},
-    Design{"cmdTableInsCol", HtmlView::InsertCol},
-    Design{"cmdTableDelRow", HtmlView::DeleteRows},
-    Design{"cmdTableDelCol", HtmlView::DeleteCols},
-};
 
 /// A command that inserts a text.
 struct Frammento {
@@ -100,7 +56,7 @@ void frmEditor::ComandoPremuto(const QString& nome) {
 }
 
 bool frmEditor::ComandoDueViste(const QString& nome) {
-    const DueViste* comando = riga(dueViste, nome, &DueViste::nome);
+    const DueViste* comando = riga(comandiDueViste, nome, &DueViste::nome);
     if (!comando) return false;
     if (tb->currentIndex() == Modifica) EseguiDesign(comando->design);
     if (tb->currentIndex() == Origine) EseguiCodice(comando->codice);
@@ -115,7 +71,7 @@ bool frmEditor::ComandoDesign(const QString& nome) {
         if (tb->currentIndex() == Modifica) DHTML->setFocus();
         return true;
     }
-    const Design* comando = riga(soloDesign, nome, &Design::nome);
+    const SoloDesign* comando = riga(comandiDesign, nome, &SoloDesign::nome);
     if (comando) EseguiDesign(comando->numero);
     return comando;
 }

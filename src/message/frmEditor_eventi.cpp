@@ -1,43 +1,11 @@
 // What the three views and the tabs report, and the state of the tools that follows from it.
-#include <array>
 #include <QTabBar>
 
 #include "core/Evento.h"
 #include "message/frmEditor.h"
+#include "message/frmEditor_comandi.h"
 #include "platform/ui/CommandBars.h"
-#include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
-
-namespace {
-
-struct StatoStrumento {
-    const char* nome;
-    int numero;
-};
-
-constexpr std::array premuti{
-    StatoStrumento{"cmdBold", HtmlView::Bold},
-    StatoStrumento{"cmdItalic", HtmlView::Italic},
-    StatoStrumento{"cmdUnderline", HtmlView::Underline},
-    StatoStrumento{"cmdLeft", HtmlView::JustifyLeft},
-    StatoStrumento{"cmdCenter", HtmlView::JustifyCenter},
-    StatoStrumento{"cmdRight", HtmlView::JustifyRight},
-};
-
-constexpr std::array possibili{
-    StatoStrumento{"cmdTaglia", HtmlView::Cut},    StatoStrumento{"cmdCopia", HtmlView::Copy},
-    StatoStrumento{"cmdIncolla", HtmlView::Paste}, StatoStrumento{"cmdUndo", HtmlView::Undo},
-    StatoStrumento{"cmdRedo", HtmlView::Redo},     StatoStrumento{"cmdSelezionaTutto", HtmlView::SelectAll},
-};
-
-constexpr std::array diTabella{
-    StatoStrumento{"cmdTableInsRow", HtmlView::InsertRow},
-    StatoStrumento{"cmdTableInsCol", HtmlView::InsertCol},
-    StatoStrumento{"cmdTableDelRow", HtmlView::DeleteRows},
-    StatoStrumento{"cmdTableDelCol", HtmlView::DeleteCols},
-};
-
-}  // namespace
 
 void frmEditor::CollegaViste() {
     const auto quando = [this](auto* mittente, auto segnale, auto&& fai) {
@@ -104,12 +72,16 @@ void frmEditor::MostraBody(int scheda) {
 void frmEditor::AggiornaStatoDesign() {
     barre->GetComboBox("cmbFontName")->setText(DHTML->execCommand(HtmlView::GetFontName).toString());
     barre->GetComboBox("cmbFontSize")->setText(DHTML->execCommand(HtmlView::GetFontSize).toString());
-    for (const auto& [nome, numero] : premuti)
-        barre->GetToolButton(nome)->setChecked(DHTML->commandState(numero) ? 1 : 0);
-    for (const auto& [nome, numero] : possibili)
-        barre->GetToolButton(nome)->setEnabled(DHTML->commandEnabled(numero));
-    for (const auto& [nome, numero] : diTabella)
-        barre->GetToolButton(nome)->setEnabled(DHTML->queryStatus(numero) == HtmlView::Enabled);
+    for (const SoloDesign& comando : comandiDesign) {
+        ui::Command& strumento = *barre->GetToolButton(comando.nome);
+        if (comando.segue == SoloDesign::Formato)
+            strumento.setChecked(DHTML->commandState(comando.numero) ? 1 : 0);
+        if (comando.segue == SoloDesign::Tabella)
+            strumento.setEnabled(DHTML->queryStatus(comando.numero) == HtmlView::Enabled);
+    }
+    for (const DueViste& comando : comandiDueViste)
+        if (comando.segue)
+            barre->GetToolButton(comando.nome)->setEnabled(DHTML->commandEnabled(comando.design));
 }
 
 void frmEditor::AggiornaStatoCodice() {
@@ -119,6 +91,6 @@ void frmEditor::AggiornaStatoCodice() {
     barre->GetToolButton("cmdUndo")->setEnabled(CODE->CanUndo());
     barre->GetToolButton("cmdRedo")->setEnabled(CODE->CanRedo());
     barre->GetToolButton("cmdSelezionaTutto")->setEnabled(true);
-    for (const auto& [nome, numero] : diTabella)
-        barre->GetToolButton(nome)->setEnabled(false);
+    for (const SoloDesign& comando : comandiDesign)
+        if (comando.segue == SoloDesign::Tabella) barre->GetToolButton(comando.nome)->setEnabled(false);
 }
