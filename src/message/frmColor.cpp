@@ -1,6 +1,5 @@
 #include "message/frmColor.h"
 
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "core/bFunctions.h"
@@ -37,11 +36,4 @@ void frmColor::ColorePreso(quint32 colore) {
     frmEditor& editor = finestre::Editor();
     editor.DHTML->execCommand(HtmlView::SetForeColor, HexDaColore(colore));
     editor.Commands().closePopup("popColors");
-}
-
-void frmColor::keyPressEvent(QKeyEvent* tasto) {
-    if (tasto->key() == Qt::Key_Escape)
-        hide();
-    else
-        QWidget::keyPressEvent(tasto);
 }

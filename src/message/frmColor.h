@@ -18,9 +18,6 @@ class frmColor : public QWidget {
 
     ui::ColorHexagon* const color;
 
-  protected:
-    void keyPressEvent(QKeyEvent* tasto) override;
-
   private:
     void ColorePreso(quint32 colore);
 };
