@@ -13,8 +13,11 @@
 #include "core/Finestre.h"
 #include "message/frmEditor.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
 
 namespace {
+
+constexpr int altezzaRiga = 24;
 
 /// Tells that there is nothing in it where it is empty.
 class Elenco : public QTreeWidget {
@@ -74,6 +77,7 @@ void frmAllegati::InsFile(const QString& percorso) {
     auto* riga = new QTreeWidgetItem(LIST, {nome, dimensione, percorso});
     riga->setIcon(File, QIcon::fromTheme("mail-attachment"));
     riga->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
+    riga->setSizeHint(File, {0, ui::scaledToFont(*LIST, altezzaRiga)});
     // The columns fit the row that was added last.
     const QFontMetrics metrica = LIST->fontMetrics();
     LIST->setColumnWidth(File, metrica.horizontalAdvance(nome) + 36);

@@ -83,6 +83,11 @@ class TestPagina : public QObject {
         QCOMPARE(list().columnWidth(1), list().fontMetrics().horizontalAdvance(cell(1, 1)) + 20);
     }
 
+    void theRowsAreHighEnoughToBeHit() {
+        attach("a.txt");
+        QVERIFY(list().visualItemRect(list().topLevelItem(0)).height() >= 24);
+    }
+
     void theSameFileCanBeAddedTwice() {
         attach("a.txt");
         FileDialog::queue(stage().path("a.txt"));
