@@ -1,4 +1,7 @@
 // The window around a run: how it is left and opened again, where focus and default button go.
+#include <QScopeGuard>
+
+#include "shell/bTheme.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;
@@ -22,6 +25,19 @@ class TestFrmInviaFinestra : public QObject {
         QVERIFY(stage.waitForEnd());
         stage.click("cmdChiudi");
         QVERIFY(!stage.window->isVisible());
+    }
+
+    void windowAndBothBoxesHaveTheThemesBackground() {
+        const auto restored = qScopeGuard([] { sostituisciSchema({}); });
+        for (const char* scheme : {"Metallic", "HomeStead"}) {
+            sostituisciSchema(scheme);
+            SendStage stage({"a@x.it"});
+            const QImage picture = stage.window->grab().toImage();
+            QCOMPARE(picture.pixelColor(1, 1), coloreTema(0));
+            for (const char* name : {"chkLog", "chkBlocco"})
+                QCOMPARE(picture.pixelColor(stage.control<QWidget>(name)->geometry().topRight()),
+                         coloreTema(0));
+        }
     }
 
     void reopeningShowsTheSelectionAsTheRunLeftItAndKeepsTheChoices() {
