@@ -1,14 +1,17 @@
 // The grid: its columns, clicks, status text and pop-up menu.
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include "core/Finestre.h"
 #include "lang/bVAR.h"
 #include "send/frmInvia.h"
 #include "store/griglia.h"
 #include "store/griglia_stage.h"
+#include "support/SmtpSink.h"
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -214,6 +217,34 @@ class TestGriglia : public QObject {
         QTest::mouseClick(send.findChild<QPushButton*>("cmdChiudi"), Qt::LeftButton);
         QVERIFY(!send.isVisible());
         QCOMPARE(stage.columnOfGrid(2), QStringList("Falso"));
+    }
+
+    void gridReloadedBetweenAStopAndItsLastTickShowsTheRowAsSelected() {
+        StoreStage stage;
+        const SmtpSink server;
+        stage.folder.addAccount(SampleFolder::loopbackAccount(server.port()));
+        stage.addRecipient(1, "Alfa", "a@x.it");
+        stage.addRecipient(1, "Beta", "b@x.it");
+        stage.clickNode("K1");
+        frmInvia& send = finestre::Invia();
+        send.SetPrgBar();
+        send.CaricaDati();
+        send.show();
+        ui::FileDialog::queue(stage.folder.writeMessage());
+        const auto click = [&](const char* name) {
+            QTest::mouseClick(send.findChild<QPushButton*>(name), Qt::LeftButton);
+        };
+        for (const char* name : {"cmdFile", "cmdInvia", "cmdFerma"})
+            click(name);
+        StoreStage::run("UPDATE [tb_destinatari] SET sel = False WHERE rgs = 'Beta';");
+        click("cmdChiudi");
+        const auto* tmr = send.findChild<QTimer*>("tmr");
+        QVERIFY(tmr->isActive());
+        QCOMPARE(stage.columnOfGrid(2), QStringList({"Vero", "Falso"}));
+        QTRY_VERIFY(!tmr->isActive());
+        QTRY_COMPARE(send.findChild<QLabel*>("lblFallite")->text(), "Email non inviate: 1");
+        QVERIFY(!send.isVisible());
+        QCOMPARE(stage.columnOfGrid(2), QStringList({"Vero", "Falso"}));
     }
 
     void closingTheSendWindowWithoutACurrentGroupReloadsNothing() {
