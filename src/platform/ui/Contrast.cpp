@@ -34,7 +34,7 @@ class ContrastWatch : public QObject {
   public:
     ContrastWatch(std::function<void()> changed, QObject* parent);
 
-  private Q_SLOTS:
+  public Q_SLOTS:  // the bus calls no other
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
         if (group == appearance && key == contrast) take(asksForMore(value.variant()));
     }
