@@ -112,7 +112,7 @@ class TestTheme : public QObject {
     void highContrastDarkensLinesAndTextsThatStandBack() {
         QWidget window;
         RilevaTema(&window);
-        const QColor line = QApplication::palette().color(QPalette::Mid);
+        const QColor line = tavolozzaTema().color(QPalette::Mid);
         ui::setHighContrast(true);
         RilevaTema(&window);
         const QPalette palette = QApplication::palette();
