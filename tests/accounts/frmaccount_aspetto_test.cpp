@@ -1,10 +1,10 @@
 // What the account window shows before anybody touches it: texts, limits, states, colours, order and room.
 #include <QAccessible>
-#include <QDir>
 
 #include "accounts/frmaccount_stage.h"
 #include "core/bGlobal.h"
 #include "shell/bTheme.h"
+#include "support/LookCheck.h"
 
 using namespace testing_support;
 
@@ -15,39 +15,10 @@ const QStringList accounts{
     "1|Ufficio commerciale|commerciale@klukla.example.it||25|0|||HELO|2500|0",
     "2|Newsletter|news@klukla.example.it|smtp.klukla.example.it|587|1|news|parola|EHLO|0|1"};
 
-void keepPicture(QWidget& window, const QString& name) {
-    const QString folder = qEnvironmentVariable("VESTROLA_SHOTS");
-    if (folder.isEmpty()) return;
-    if (!QDir().mkpath(folder) || !window.grab().save(folder + '/' + name + ".png")) qFatal("no picture");
-}
-
-/// A text a third longer, with its mnemonic and its colon in place.
-QString longer(const QString& text) {
-    const qsizetype end = text.contains(':') ? text.indexOf(':') : text.size();
-    return QString(text).insert(end, QString(text).remove('&').left(text.size() / 3 + 1));
-}
-
 }  // namespace
 
 class TestFrmAccountAspetto : public QObject {
     Q_OBJECT
-
-    void verifyNothingIsCut(const QWidget& window) {
-        for (const auto* widget : window.findChildren<QWidget*>()) {
-            if (!widget->isVisible() || widget->objectName().isEmpty()) continue;
-            if (widget->window() != &window || widget->objectName().startsWith("qt_")) continue;
-            const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-            QVERIFY2(window.rect().contains(place), qPrintable(widget->objectName()));
-            const auto* label = qobject_cast<const QLabel*>(widget);
-            if (label && label->wordWrap()) {
-                QVERIFY2(label->height() >= label->heightForWidth(label->width()), "help text");
-            } else if (label || qobject_cast<const QAbstractButton*>(widget) ||
-                       qobject_cast<const QComboBox*>(widget)) {
-                QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(widget->objectName()));
-                QVERIFY2(widget->height() >= widget->sizeHint().height(), qPrintable(widget->objectName()));
-            }
-        }
-    }
 
   private Q_SLOTS:
     void textsOfTheDesign() {
@@ -163,10 +134,18 @@ class TestFrmAccountAspetto : public QObject {
         QVERIFY(stage.list().grab().toImage() != empty);
     }
 
+    void listWithTheKeyboardShowsItBeforeAnyChoice() {
+        AccountStage stage(accounts);
+        stage.list().setFocus();
+        const QImage withKeyboard = stage.list().viewport()->grab().toImage();
+        stage.control<QWidget>("txtNomeVisual")->setFocus();
+        QVERIFY(stage.list().viewport()->grab().toImage() != withKeyboard);
+    }
+
     void opensAtItsSizeWithNothingCut() {
         AccountStage stage(accounts);
         QCOMPARE(stage.window->size(), QSize(730, 475).expandedTo(stage.window->sizeHint()));
-        verifyNothingIsCut(*stage.window);
+        QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         stage.press(0);
         keepPicture(*stage.window, "account");
         stage.press(1);
@@ -176,20 +155,17 @@ class TestFrmAccountAspetto : public QObject {
 
     void emptyWindowPicture() {
         AccountStage stage;
-        verifyNothingIsCut(*stage.window);
+        QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         keepPicture(*stage.window, "account_vuoto");
     }
 
     void textsAThirdLongerCutNothing() {
         AccountStage stage(accounts);
         stage.window->hide();
-        for (auto* label : stage.window->findChildren<QLabel*>())
-            if (!label->text().isEmpty()) label->setText(longer(label->text()));
-        for (auto* button : stage.window->findChildren<QAbstractButton*>())
-            button->setText(longer(button->text()));
+        makeTextsLonger(*stage.window);
         stage.window->show();
         QTest::qWait(20);
-        verifyNothingIsCut(*stage.window);
+        QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         QVERIFY2(stage.window->width() <= 900, qPrintable(QString::number(stage.window->width())));
         keepPicture(*stage.window, "account_lunghi");
     }
@@ -200,7 +176,7 @@ class TestFrmAccountAspetto : public QObject {
         large.setPointSizeF(14);
         QApplication::setFont(large);
         AccountStage stage(accounts);
-        verifyNothingIsCut(*stage.window);
+        QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         keepPicture(*stage.window, "account_14pt");
         QApplication::setFont(before);
     }

@@ -1,0 +1,214 @@
+// Every window as a user may have it: with the four colour schemes, a larger font, longer texts; the screen's
+// scale comes from outside (QT_SCALE_FACTOR). With VESTROLA_SHOTS set to a folder, pictures are left there.
+#include <functional>
+#include <QFile>
+#include <QHeaderView>
+#include <QMenu>
+#include <QScopeGuard>
+#include <QToolButton>
+
+#include "accounts/frmAccount.h"
+#include "core/Finestre.h"
+#include "import/frmImpDB.h"
+#include "import/frmImpTXT.h"
+#include "import/frmScelta.h"
+#include "message/frmColor.h"
+#include "message/frmEditor.h"
+#include "message/frmPropBody.h"
+#include "platform/ui/Contrast.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/ElementDialog.h"
+#include "platform/ui/FindDialog.h"
+#include "platform/ui/ImageDialog.h"
+#include "platform/ui/LinkDialog.h"
+#include "send/frmInvia.h"
+#include "shell/bTheme.h"
+#include "shell/frmInfoSu.h"
+#include "shell/frmSplash.h"
+#include "store/griglia_stage.h"
+#include "support/LookCheck.h"
+
+using namespace testing_support;
+
+namespace {
+
+void writeTo(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+QByteArray installedTexts() {
+    QFile file(TEST_DATA_DIR "/../../assets/templates/LANG.lng");
+    if (!file.open(QIODevice::ReadOnly)) qFatal("no language file");
+    return file.readAll();
+}
+
+/// The windows over a program folder with groups, recipients and an account, in the installed texts.
+struct Windows {
+    StoreStage stage;
+    bool stretched;
+
+    explicit Windows(bool longTexts = false) : stretched(longTexts) {
+        writeTo(stage.folder.path("LANG.lng"),
+                stretched ? withLongerTexts(installedTexts()) : installedTexts());
+        stage.folder.addAccount(SampleFolder::loopbackAccount(25));
+        stage.addGroup(1, "Rivenditori");
+        for (const char* name : {"Alfa S.r.l.", "Beta S.p.A.", "Gamma S.n.c."})
+            stage.addRecipient(1, name, "info@esempio.it");
+        stage.clickNode("K1");
+    }
+
+    /// Shows each window in its turn; `look` sees it.
+    void each(const std::function<void(QWidget&, const QString&)>& look) {
+        const auto show = [&](QWidget& window, const QString& name) {
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QTest::qWait(20);
+            look(window, name);
+            window.hide();
+        };
+        const auto showOwn = [&](QWidget& window, const QString& name) {
+            // Their texts are in no language file.
+            if (stretched) makeTextsLonger(window);
+            ui::openAtLeast(window, window.size());
+            show(window, name);
+        };
+        look(finestre::Main(), "frmMain");
+        finestre::Invia().SetPrgBar();
+        finestre::Invia().CaricaDati();
+        show(finestre::Invia(), "frmInvia");
+        show(finestre::Account(), "frmAccount");
+        finestre::Destinatario().PulisciCampi();
+        finestre::Destinatario().lbl->setText("Aggiungi destinatario");
+        show(finestre::Destinatario(), "frmDestinatario");
+        show(finestre::ImpTXT(), "frmImpTXT");
+        show(finestre::ImpDB(), "frmImpDB");
+        show(finestre::Scelta(), "frmScelta");
+        show(finestre::InfoSu(), "frmInfoSu");
+        show(finestre::Splash(), "frmSplash");
+        show(finestre::PropBody(), "frmPropBody");
+        finestre::Editor().NuovoMessaggio();
+        show(finestre::Editor(), "frmEditor");
+        frmColor colours;
+        showOwn(colours, "frmColor");
+        ui::FindDialog find(&finestre::Main(), [](const QString&, bool, bool) { return false; });
+        showOwn(find, "FindDialog");
+        ui::LinkDialog link(&finestre::Main(), "https://www.esempio.it", true,
+                            {{"Ragione sociale", ":::rgs:::"}});
+        showOwn(link, "LinkDialog");
+        ui::ImageDialog image(&finestre::Main(), {});
+        showOwn(image, "ImageDialog");
+        ui::ElementDialog element(&finestre::Main(), {{"td", {{"width", "120"}}}, {"table", {}}});
+        showOwn(element, "ElementDialog");
+    }
+};
+
+class LargerFont {
+  public:
+    explicit LargerFont(double factor) : m_before(QApplication::font()) {
+        QFont font = m_before;
+        font.setPointSizeF(m_before.pointSizeF() * factor);
+        QApplication::setFont(font);
+    }
+    ~LargerFont() { QApplication::setFont(m_before); }
+
+  private:
+    QFont m_before;
+};
+
+}  // namespace
+
+class TestWindows : public QObject {
+    Q_OBJECT
+
+    static void none(const QStringList& faults) {
+        for (const QString& fault : faults)
+            qWarning("%s", qUtf8Printable(fault));
+        QVERIFY(faults.isEmpty());
+    }
+
+  private Q_SLOTS:
+    void nothingIsCutOrCovered_data() {
+        QTest::addColumn<double>("font");
+        QTest::addColumn<bool>("longTexts");
+        QTest::newRow("as designed") << 1.0 << false;
+        QTest::newRow("texts a third longer") << 1.0 << true;
+        QTest::newRow("font 40 percent larger") << 1.4 << false;
+        QTest::newRow("larger font and longer texts") << 1.4 << true;
+    }
+    void nothingIsCutOrCovered() {
+        QFETCH(double, font);
+        QFETCH(bool, longTexts);
+        const LargerFont larger(font);
+        Windows windows(longTexts);
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString& name) {
+            faults += faultsOfLayout(window);
+            keepPicture(window, QString("%1_%2").arg(name, QTest::currentDataTag()).replace(' ', '_'));
+        });
+        none(faults);
+    }
+
+    void headsOfTheColumnsFitTheirFirstWidths() {
+        Windows windows;
+        const QHeaderView& heads = *windows.stage.grd().horizontalHeader();
+        for (int column = 0; column < heads.count(); ++column) {
+            if (heads.isSectionHidden(column)) continue;
+            const QString text = windows.stage.grd().TextMatrix(0, column);
+            QVERIFY2(heads.fontMetrics().horizontalAdvance(text) + 12 <= heads.sectionSize(column),
+                     qPrintable(text));
+        }
+    }
+
+    void windowsFitASmallScreen() {
+        Windows windows;
+        windows.each([](QWidget& window, const QString& name) {
+            QVERIFY2(window.width() <= 1280 && window.height() <= 700, qPrintable(name));
+        });
+    }
+
+    void controlsAreNamedAndLargeEnoughToHit() {
+        Windows windows;
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString&) { faults += faultsOfAccess(window); });
+        none(faults);
+    }
+
+    void dialogsAreReadInTheOrderOfTheTabKey() {
+        Windows windows;
+        windows.each([](QWidget& window, const QString& name) {
+            if (qobject_cast<QDialog*>(&window)) QCOMPARE(orderRead(window), orderOfTab(window));
+            QVERIFY2(!orderOfTab(window).isEmpty() || name == "frmSplash", qPrintable(name));
+        });
+    }
+
+    void textsStandOutInEveryScheme_data() {
+        QTest::addColumn<QString>("scheme");
+        QTest::addColumn<bool>("high");
+        for (const char* scheme : {"Classic", "NormalColor", "Metallic", "HomeStead"}) {
+            QTest::newRow(scheme) << scheme << false;
+            QTest::addRow("%s, high contrast", scheme) << scheme << true;
+        }
+    }
+    void textsStandOutInEveryScheme() {
+        QFETCH(QString, scheme);
+        QFETCH(bool, high);
+        sostituisciSchema(scheme);
+        ui::setHighContrast(high);
+        const auto back = qScopeGuard([] {
+            sostituisciSchema({});
+            ui::setHighContrast(false);
+        });
+        Windows windows;
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString& name) {
+            faults += faultsOfContrast(window);
+            keepPicture(window, name + '_' + scheme + (high ? "_alto" : ""));
+        });
+        none(faults);
+    }
+};
+
+QTEST_MAIN(TestWindows)
+#include "test_gui_windows.moc"
