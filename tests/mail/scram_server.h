@@ -69,7 +69,7 @@ class ScramServer {
     }
 
     QByteArray received(const QByteArray& encoded) {
-        const QByteArray bare = QByteArray::fromBase64(encoded);
+        QByteArray bare = QByteArray::fromBase64(encoded);
         m_tokens += {encoded, bare};
         return bare;
     }
