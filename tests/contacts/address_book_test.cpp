@@ -21,6 +21,17 @@ class AddressBookTest : public testing::Test {
     QString cards(const QString& name) const { return m_cards.filePath(name); }
     AddressBook book() const { return {m_home.path(), m_cards.path()}; }
 
+    AddressBook opened() const {
+        AddressBook result = book();
+        EXPECT_TRUE(result.open().ok());
+        return result;
+    }
+    static Entry firstOf(const AddressBook& open) {
+        std::array<Entry, 1> entry;
+        EXPECT_EQ(open.entries(entry), 1);
+        return entry[0];
+    }
+
     QString mailClientBook() const {
         const QString profile = m_home.filePath(".thunderbird/x.default");
         EXPECT_TRUE(QDir().mkpath(profile));
@@ -33,10 +44,9 @@ class AddressBookTest : public testing::Test {
 
     /// A property of the first entry, through a buffer of 256.
     static QByteArray textOf(const AddressBook& open, PropertyTag tag) {
-        std::array<Entry, 1> entry;
-        EXPECT_EQ(open.entries(entry), 1);
+        const Entry entry = firstOf(open);
         std::array<char, 256> buffer{};
-        return open.text(entry[0], tag, buffer) ? QByteArray(buffer.data()) : QByteArray("(none)");
+        return open.text(entry, tag, buffer) ? QByteArray(buffer.data()) : QByteArray("(none)");
     }
 
   private:
@@ -61,8 +71,7 @@ TEST_F(AddressBookTest, EveryTagGivesItsProperty) {
     writeBytes(cards("a.vcf"),
                card("FN:Ada\nEMAIL:ada@example.it\nORG:Rossi\nADR;TYPE=home:;;Via 1;Roma;;00100;\n"
                     "TEL;TYPE=work:1\nTEL;TYPE=fax:2"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(textOf(open, PropertyTag::EmailAddress), "ada@example.it");
     EXPECT_EQ(textOf(open, PropertyTag::DisplayName), "Ada");
     EXPECT_EQ(textOf(open, PropertyTag::CompanyName), "Rossi");
@@ -76,64 +85,54 @@ TEST_F(AddressBookTest, EveryTagGivesItsProperty) {
 
 TEST_F(AddressBookTest, TextFillsTheWholeBuffer) {
     writeBytes(cards("a.vcf"), card("FN:Ada"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
-    std::array<Entry, 1> entry;
-    open.entries(entry);
+    const AddressBook open = opened();
+    const Entry entry = firstOf(open);
     std::array<char, 8> buffer;
     buffer.fill('x');
-    EXPECT_TRUE(open.text(entry[0], PropertyTag::DisplayName, buffer));
+    EXPECT_TRUE(open.text(entry, PropertyTag::DisplayName, buffer));
     EXPECT_EQ(QByteArray(buffer.data(), 8), QByteArray("Ada\0\0\0\0\0", 8));
 }
 
 TEST_F(AddressBookTest, LongTextIsCutBeforeTheLastByte) {
     writeBytes(cards("a.vcf"), card("FN:" + QByteArray(300, 'n')));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(textOf(open, PropertyTag::DisplayName), QByteArray(255, 'n'));
 }
 
 TEST_F(AddressBookTest, TextIsOfTheCodePage) {
     writeBytes(cards("a.vcf"), card("FN:Perù € Ω"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(textOf(open, PropertyTag::DisplayName), "Per\xF9 \x80 ?");
 }
 
 TEST_F(AddressBookTest, EmptyOrMissingPropertyHasNoValueAndLeavesTheBuffer) {
     writeBytes(cards("a.vcf"), card("FN:Ada\nORG:"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
-    std::array<Entry, 1> entry;
-    open.entries(entry);
+    const AddressBook open = opened();
+    const Entry entry = firstOf(open);
     std::array<char, 4> buffer{'a', 'b', 'c', 'd'};
-    EXPECT_FALSE(open.text(entry[0], PropertyTag::CompanyName, buffer));
-    EXPECT_FALSE(open.text(entry[0], PropertyTag::EmailAddress, buffer));
+    EXPECT_FALSE(open.text(entry, PropertyTag::CompanyName, buffer));
+    EXPECT_FALSE(open.text(entry, PropertyTag::EmailAddress, buffer));
     EXPECT_EQ(QByteArray(buffer.data(), 4), "abcd");
 }
 
 TEST_F(AddressBookTest, TextEndsAtItsFirstNul) {
     writeBytes(cards("a.vcf"),
                card("FN;ENCODING=QUOTED-PRINTABLE:Ada=00coda\nORG;ENCODING=QUOTED-PRINTABLE:=00x"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(textOf(open, PropertyTag::DisplayName), "Ada");
     EXPECT_EQ(textOf(open, PropertyTag::CompanyName), "(none)");
 }
 
 TEST_F(AddressBookTest, BufferOfNoSizeTakesNothing) {
     writeBytes(cards("a.vcf"), card("FN:Ada"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
-    std::array<Entry, 1> entry;
-    open.entries(entry);
-    EXPECT_FALSE(open.text(entry[0], PropertyTag::DisplayName, {}));
+    const AddressBook open = opened();
+    const Entry entry = firstOf(open);
+    EXPECT_FALSE(open.text(entry, PropertyTag::DisplayName, {}));
 }
 
 TEST_F(AddressBookTest, EntriesFillNoMoreThanTheArrayTakes) {
     writeBytes(cards("a.vcf"), card("FN:A") + card("FN:B") + card("FN:C"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(open.entryCount(), 3);
     std::array<Entry, 2> two;
     EXPECT_EQ(open.entries(two), 2);
@@ -144,8 +143,7 @@ TEST_F(AddressBookTest, EntriesFillNoMoreThanTheArrayTakes) {
 
 TEST_F(AddressBookTest, FreedEntriesAndAClosedBookAnswerNoMore) {
     writeBytes(cards("a.vcf"), card("FN:A") + card("FN:B"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     std::array<Entry, 2> entries;
     open.entries(entries);
     std::array<char, 10> buffer{};
@@ -162,8 +160,7 @@ TEST_F(AddressBookTest, FilesComeInTheOrderOfTheirNames) {
     writeBytes(cards("c.VCF"), card("FN:Cleo"));
     writeBytes(cards("a.vcf"), card("FN:Ada"));
     writeBytes(cards("nota.txt"), card("FN:Nessuno"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     std::array<Entry, 3> entries;
     ASSERT_EQ(open.entries(entries), 3);
     QByteArrayList names;
@@ -179,8 +176,7 @@ TEST_F(AddressBookTest, MailClientStandsBeforeFiles) {
     writeBytes(cards("a.vcf"), card("FN:File"));
     BookFixture client(mailClientBook());
     client.addCard("1", "FN:Cliente di posta");
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(open.entryCount(), 1);
     EXPECT_EQ(textOf(open, PropertyTag::DisplayName), "Cliente di posta");
 }
@@ -216,7 +212,6 @@ TEST_F(AddressBookTest, WhatIsNoOrdinaryFileCountsAsEmpty) {
     QFile huge(cards("grande.vcf"));
     ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(2LL << 30));
     writeBytes(cards("z.vcf"), card("FN:Ada"));
-    AddressBook open = book();
-    ASSERT_TRUE(open.open().ok());
+    AddressBook open = opened();
     EXPECT_EQ(open.entryCount(), 1);
 }

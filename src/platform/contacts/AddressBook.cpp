@@ -1,9 +1,11 @@
 #include "platform/contacts/AddressBook.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <QDir>
 #include <QFile>
+#include <utility>
 
 #include "platform/contacts/Ldif.h"
 #include "platform/contacts/MailClientBook.h"
@@ -35,26 +37,21 @@ std::vector<Card> readCardFile(const QString& path) {
     return path.endsWith(QLatin1String(".ldif"), Qt::CaseInsensitive) ? readLdif(bytes) : readVCards(bytes);
 }
 
+/// The text that a tag asks for; none for a tag that is not one of ours.
 const QString* property(const Card& card, PropertyTag tag) {
-    switch (tag) {
-        case PropertyTag::DisplayName:
-            return &card.displayName;
-        case PropertyTag::EmailAddress:
-            return &card.emailAddress;
-        case PropertyTag::BusinessTelephoneNumber:
-            return &card.businessTelephone;
-        case PropertyTag::CompanyName:
-            return &card.companyName;
-        case PropertyTag::BusinessFaxNumber:
-            return &card.businessFax;
-        case PropertyTag::HomeAddressCity:
-            return &card.homeCity;
-        case PropertyTag::HomeAddressPostalCode:
-            return &card.homePostalCode;
-        case PropertyTag::HomeAddressStreet:
-            return &card.homeStreet;
-    }
-    return nullptr;
+    static constexpr std::array<std::pair<PropertyTag, QString Card::*>, 8> texts{{
+        {PropertyTag::DisplayName, &Card::displayName},
+        {PropertyTag::EmailAddress, &Card::emailAddress},
+        {PropertyTag::BusinessTelephoneNumber, &Card::businessTelephone},
+        {PropertyTag::CompanyName, &Card::companyName},
+        {PropertyTag::BusinessFaxNumber, &Card::businessFax},
+        {PropertyTag::HomeAddressCity, &Card::homeCity},
+        {PropertyTag::HomeAddressPostalCode, &Card::homePostalCode},
+        {PropertyTag::HomeAddressStreet, &Card::homeStreet},
+    }};
+    const auto* const found =
+        std::find_if(texts.begin(), texts.end(), [tag](const auto& text) { return text.first == tag; });
+    return found == texts.end() ? nullptr : &(card.*found->second);
 }
 
 }  // namespace
