@@ -76,9 +76,9 @@ void HtmlView::Live::setSource(const QString& html) {
     m_source = html::sourceText(html);
     m_text = QString();
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
-    if (!live) return;
+    if (!live && m_writes == 0) return;
     write();
-    waitFor([this] { return m_writes == 0; }, startMilliseconds);
+    if (live) waitFor([this] { return m_writes == 0; }, startMilliseconds);
 }
 
 // The document that was given up may have been the reason
