@@ -61,7 +61,8 @@ class TestIntegro : public QObject {
         stage().start("cmdSalva");
         const QByteArray saved = stage().bytes("n.mss");
         QCOMPARE(QString::fromLatin1(bodyOf(saved)).count(":::"), html.count(":::"));
-        for (int round = 0; round < 2; ++round) {
+        const int rounds = html.size() > 1'000'000 ? 1 : 2;
+        for (int round = 0; round < rounds; ++round) {
             reopen("n.mss");
             throughTheTabs();
             QVERIFY(stage().design().documentHTML() == first);
