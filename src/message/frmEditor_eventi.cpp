@@ -12,9 +12,9 @@ void frmEditor::CollegaViste() {
         connect(mittente, segnale, this,
                 [fai](const auto&... argomenti) { evento([&] { fai(argomenti...); }); });
     };
+    setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
+    setTabOrder(DHTML, tb->tabBar());
     quando(DHTML, &HtmlView::documentComplete, [this] {
-        // The browser's widget comes with the first document.
-        setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
         DHTML->execCommand(HtmlView::SetFontName, "Verdana");
         DHTML->execCommand(HtmlView::SetFontSize, "2");
     });

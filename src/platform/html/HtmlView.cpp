@@ -1,5 +1,6 @@
 #include "platform/html/HtmlView.h"
 
+#include <QFocusEvent>
 #include <QVBoxLayout>
 
 #include "platform/html/HtmlViewLive.h"
@@ -56,6 +57,11 @@ bool HtmlView::print(bool prompt) {
 void HtmlView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     m_live->begin();
+}
+
+void HtmlView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (QWidget* input = inputWidget()) input->setFocus(event->reason());
 }
 
 void HtmlView::enterEvent(QEnterEvent* event) {

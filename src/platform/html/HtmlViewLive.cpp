@@ -51,7 +51,6 @@ void HtmlView::Live::begin() {
     const Status loaded = createBrowserOf(&view, events, browser);
     if (!loaded.ok()) return fail(loaded.text());
     view.layout()->addWidget(browser.widget);
-    view.setFocusProxy(browser.widget);
     browser.start();
 }
 
@@ -105,15 +104,22 @@ void HtmlView::Live::write() {
 void HtmlView::Live::written() {
     live = true;
     m_version = -1;
-    if (QWidget* input = view.inputWidget()) {
-        input->removeEventFilter(&view);
-        input->installEventFilter(&view);
-        const QWidget* focused = QApplication::focusWidget();
-        if (focused == &view || focused == browser.widget) input->setFocus();
-    }
+    takeInput();
     wakeWaiting();
     Q_EMIT view.documentComplete();
     refreshState();
+}
+
+// The widget that has the document's keys comes and goes with the browser's process. It takes the view's
+// place in the order of the Tab key.
+void HtmlView::Live::takeInput() {
+    QWidget* input = view.inputWidget();
+    if (input == nullptr || input == m_input) return;
+    m_input = input;
+    input->installEventFilter(&view);
+    QWidget::setTabOrder(&view, input);
+    view.setFocusPolicy(Qt::NoFocus);
+    if (view.hasFocus() || browser.widget->hasFocus()) input->setFocus();
 }
 
 QString HtmlView::Live::text() {

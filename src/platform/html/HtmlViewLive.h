@@ -57,6 +57,7 @@ struct HtmlView::Live {
     void fail(const QString& reason);
     void write();
     void written();
+    void takeInput();
     void heard(const QString& json);
     void died();
     void keepText();
@@ -68,6 +69,7 @@ struct HtmlView::Live {
     void wakeWaiting();
     bool waitFor(const std::function<bool()>& done, int milliseconds);
     bool dropped(const QPoint& place, const QMimeData& data);
+    bool focusArrives(Qt::FocusReason reason);
 
     QString m_source;
     QString m_text;  // null: as m_source gives it
@@ -80,6 +82,7 @@ struct HtmlView::Live {
     int m_strokesSeen = 0;  // of them by the document
     int m_deaths = 0;
     QElapsedTimer m_lastDeath;
+    QPointer<QWidget> m_input;
     QPointer<QLabel> m_notice;  // in the place of the browser that cannot be had
     QTimer m_followTimer;
     std::vector<QEventLoop*> m_waiting;

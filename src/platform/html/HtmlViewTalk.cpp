@@ -1,7 +1,7 @@
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QClipboard>
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
@@ -67,7 +67,7 @@ QVariant HtmlView::Live::change(const QString& function, const QJsonArray& value
 }
 
 bool HtmlView::Live::paste() {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    const QMimeData* data = QApplication::clipboard()->mimeData();
     return mode == Mode::Design && data != nullptr &&
            change(QStringLiteral("insert.paste"), {clipboardContent(*data)}).toBool();
 }
@@ -126,6 +126,15 @@ void HtmlView::Live::refreshState() {
     });
 }
 
+// With the Tab key the browser would go to the first link of the document, and past a document without one.
+// Here the focus goes to the caret, however it comes. True when the widget must not see the event.
+bool HtmlView::Live::focusArrives(Qt::FocusReason reason) {
+    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return false;
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    QApplication::sendEvent(m_input, &plain);
+    return true;
+}
+
 // A key that the window takes as a shortcut is never pressed here, only released; it and the modifiers that
 // were held with it are no strokes of the document. The browser is not asked whether it wants the key for
 // itself: the window's shortcuts run the same commands.
@@ -142,11 +151,13 @@ bool HtmlView::Live::filter(QEvent& event) {
             if (!static_cast<QKeyEvent&>(event).isAutoRepeat()) ++m_strokes;
             if (!m_strokeIsShortcut) Q_EMIT view.keyReleased();
             return false;
+        case QEvent::FocusIn:
+            return focusArrives(static_cast<QFocusEvent&>(event).reason());
         case QEvent::FocusOut: {
             const Qt::FocusReason reason = static_cast<QFocusEvent&>(event).reason();
             const bool toOtherControl = reason != Qt::ActiveWindowFocusReason &&
                                         reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
-            if (toOtherControl) Q_EMIT view.validated();
+            if (toOtherControl && QApplication::focusWidget() != &view) Q_EMIT view.validated();
             return false;
         }
         default:

@@ -52,7 +52,10 @@ const editor = {
             document.execCommand('styleWithCSS', false, false);
             document.execCommand('defaultParagraphSeparator', false, 'p');
         }
-        if (document.body && this.editable) this.caretInto(this.firstPlace(document.body));
+        if (document.body && this.editable) {
+            document.body.focus(); // characters go nowhere as long as no element has the focus
+            this.caretInto(this.firstPlace(document.body));
+        }
         this.history.start();
     },
 
