@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Does the whole job with the keyboard alone, on the built program, from its very first start to the message in a Maildir:
-a group, a recipient in it, its tick, an account, the send window. What assistive programs are told is only looked at, to
-know when the next key may be struck.
+a group, a recipient in it, its tick, an account, the send window, and last a message of its own. What assistive programs
+are told is only looked at, to know when the next key may be struck.
 
     keyboard_test.py BUILD_FOLDER
 """
@@ -41,7 +41,7 @@ def play(stage, program):
     open_editor(stage, running)
     keys("ctrl+q")
     stage.ends(running, 0)
-    print("a group, a recipient, an account and one message by keys alone")
+    print("a group, a recipient, an account, one message sent and one written, by keys alone")
 
 
 def make_group(main):
@@ -113,8 +113,28 @@ def open_editor(stage, running):
     keys("ctrl+n")
     editor = Window("frame", "Editor Messaggi")
     wait_for(lambda: stage.has_browser(running), "the browser engine")
+    write_message(editor, stage.work / "nuovo.mss")
     keys("ctrl+w")
     editor.gone()
+
+
+def write_message(editor, path):
+    """A subject, the Tab key, a text, all saved."""
+    editor.wait_focus("text", "Oggetto")
+    editor.find("document web", "")  # the browser has the empty document
+    type_text(desktop.NAME)
+    keys("Tab")
+    type_text(desktop.TEXT)
+    keys("ctrl+s")
+    chooser = Window("dialog", "Salva messaggio")
+    chooser.wait_focus("text", "Nome del file:")
+    type_text(path)
+    keys("Return")
+    chooser.gone()
+    wait_for(path.is_file, "the saved message")
+    saved = path.read_text(encoding="cp1252")
+    if f"[<INI-SUBJ>]{desktop.NAME}[<END-SUBJ>]" not in saved or desktop.TEXT not in saved:
+        fail(f"the saved message is {saved}")
 
 
 if __name__ == "__main__":
