@@ -166,9 +166,8 @@ class HtmlView : public QWidget {
     void setBodyAttribute(const QString& name, const QString& value);
     void removeBodyAttribute(const QString& name);
 
-    /// A colour of the page as written in the body; where it is not set "#ffffff" for the background,
-    /// "#000000" for text,
-    /// "#0000ff" for links and active links, "#800080" for visited ones.
+    /// A colour of the page as written in the body. Where it is not set: "#ffffff" for the background,
+    /// "#000000" for text, "#0000ff" for links and active links, "#800080" for visited ones.
     QString pageColor(PageColor color) const;
     void setPageColor(PageColor color, const QString& value);
 
