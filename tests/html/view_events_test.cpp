@@ -124,6 +124,36 @@ class ViewEvents : public QObject {
         QTRY_VERIFY(view->isLive());
         QTRY_VERIFY(QApplication::focusWidget() == view->inputWidget());
     }
+
+    void theTabKeyLeadsToTheCaretBeforeAndAfterTheBrowserDies() {
+        QWidget window;
+        auto* box = new QVBoxLayout(&window);
+        auto* subject = new QLineEdit(&window);
+        auto* view = new HtmlView(HtmlView::Mode::Design, &window);
+        auto* behind = new QLineEdit(&window);
+        for (QWidget* control :
+             {static_cast<QWidget*>(subject), static_cast<QWidget*>(view), static_cast<QWidget*>(behind)})
+            box->addWidget(control);
+        view->setDocumentHTML("<p>x</p><p><a href=\"http://esempio.test/\">y</a></p>");
+        window.show();
+        view->wake();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (const bool dies : {false, true}) {
+            if (dies) {
+                killRenderer(*view);
+                QTRY_VERIFY(!view->isLive());
+                QTRY_VERIFY(view->isLive());
+            }
+            subject->setFocus();
+            QTest::keyClick(subject, Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget(), view->inputWidget());
+            QTest::keyClick(view->inputWidget(), Qt::Key_A);
+            QTRY_VERIFY(view->documentHTML().contains(dies ? "<p>aax</p>" : "<p>ax</p>"));
+        }
+        behind->setFocus();
+        QTest::keyClick(behind, Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), view->inputWidget());
+    }
 };
 
 QTEST_MAIN(ViewEvents)

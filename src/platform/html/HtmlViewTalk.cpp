@@ -148,7 +148,7 @@ bool HtmlView::Live::filter(QEvent& event) {
             m_strokeIsShortcut = false;
             return false;
         case QEvent::KeyRelease:
-            if (!static_cast<QKeyEvent&>(event).isAutoRepeat()) ++m_strokes;
+            if (mode == Mode::Design && !static_cast<QKeyEvent&>(event).isAutoRepeat()) ++m_strokes;
             if (!m_strokeIsShortcut) Q_EMIT view.keyReleased();
             return false;
         case QEvent::FocusIn:
