@@ -34,6 +34,14 @@ class DiskWatch {
     int uncovered = 0;
 };
 
+/// A text file that takes a while to import.
+QByteArray manyLines() {
+    QByteArray lines;
+    for (int i = 0; i < 4000; ++i)
+        lines += "nome" + QByteArray::number(i) + "@esempio.it\r\n";
+    return lines;
+}
+
 /// Counts the events of one kind that reach a widget.
 class EventCounter : public QObject {
   public:
@@ -107,10 +115,7 @@ class TestLavoro : public QObject {
     void theTextImportKeepsTheWindowsPaintedUnderTheHourglass() {
         TxtStage stage;
         stage.chooseNode(1);
-        QByteArray lines;
-        for (int i = 0; i < 4000; ++i)
-            lines += "nome" + QByteArray::number(i) + "@esempio.it\r\n";
-        stage.map(stage.write("molti.txt", lines), 1);
+        stage.map(stage.write("molti.txt", manyLines()), 1);
         int turns = 0;
         int uncovered = 0;
         QTimer clock;
@@ -135,10 +140,7 @@ class TestLavoro : public QObject {
     void keysAndClicksDuringAnImportAreThrownAway() {
         TxtStage stage;
         stage.chooseNode(1);
-        QByteArray lines;
-        for (int i = 0; i < 4000; ++i)
-            lines += "nome" + QByteArray::number(i) + "@esempio.it\r\n";
-        stage.map(stage.write("molti.txt", lines), 1);
+        stage.map(stage.write("molti.txt", manyLines()), 1);
         QTimer clock;
         int tried = 0;
         QObject::connect(&clock, &QTimer::timeout, &clock, [&] {

@@ -5,24 +5,14 @@
 #include "core/bGlobal.h"
 #include "platform/ui/Contrast.h"
 #include "shell/bTheme.h"
+#include "support/ColorContrast.h"
+
+using testing_support::contrast;
 
 namespace {
 
 constexpr std::uint32_t rgb(int red, int green, int blue) {
     return static_cast<std::uint32_t>(red | (green << 8) | (blue << 16));
-}
-
-double luminance(const QColor& color) {
-    const auto part = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double one = luminance(a) + 0.05;
-    const double two = luminance(b) + 0.05;
-    return std::max(one, two) / std::min(one, two);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "support/LookCheck.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QCheckBox>
@@ -23,6 +22,8 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
+
+#include "support/ColorContrast.h"
 
 namespace testing_support {
 
@@ -99,19 +100,6 @@ bool isPart(const QWidget& widget) {
            widget.inherits("QSizeGrip") || widget.inherits("QMenu") ||
            qobject_cast<const QLineEdit*>(widget.parentWidget()) ||
            qobject_cast<const QAbstractScrollArea*>(widget.parentWidget());
-}
-
-double luminance(const QColor& color) {
-    const auto part = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double one = luminance(a) + 0.05;
-    const double two = luminance(b) + 0.05;
-    return std::max(one, two) / std::min(one, two);
 }
 
 /// Of a shade its darkest end, as all texts on shades are dark.
