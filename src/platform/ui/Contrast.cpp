@@ -5,8 +5,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <utility>
+
+#include "platform/ui/ContrastWatch.h"
 
 namespace ui {
 
@@ -27,25 +28,7 @@ bool asksForMore(QVariant value) {
     return value.toUInt() == 1;
 }
 
-/// Keeps the answer at what the desktop says.
-class ContrastWatch : public QObject {
-    Q_OBJECT
-
-  public:
-    ContrastWatch(std::function<void()> changed, QObject* parent);
-
-  public Q_SLOTS:  // the bus calls no other
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-        if (group == appearance && key == contrast) take(asksForMore(value.variant()));
-    }
-
-  private:
-    void take(bool on) {
-        if (std::exchange(wanted, on) != on) m_changed();
-    }
-
-    std::function<void()> m_changed;
-};
+}  // namespace
 
 ContrastWatch::ContrastWatch(std::function<void()> changed, QObject* parent)
     : QObject(parent), m_changed(std::move(changed)) {
@@ -63,7 +46,13 @@ ContrastWatch::ContrastWatch(std::function<void()> changed, QObject* parent)
     });
 }
 
-}  // namespace
+void ContrastWatch::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+    if (group == appearance && key == contrast) take(asksForMore(value.variant()));
+}
+
+void ContrastWatch::take(bool on) {
+    if (std::exchange(wanted, on) != on) m_changed();
+}
 
 bool highContrast() {
     return wanted;
@@ -78,5 +67,3 @@ void watchContrast(std::function<void()> changed) {
 }
 
 }  // namespace ui
-
-#include "Contrast.moc"
