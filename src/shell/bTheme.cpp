@@ -138,7 +138,7 @@ void VestiProgramma() {
 }  // namespace
 
 QString RilevaTema(QWidget*) {
-    const QString nome = schemaSostituito.isEmpty() ? QStringLiteral("Classic") : schemaSostituito;
+    QString nome = schemaSostituito.isEmpty() ? QStringLiteral("Classic") : schemaSostituito;
     ImpostaColoriTema(nome);
     VestiProgramma();
     return nome;
