@@ -49,6 +49,10 @@ function(vestrola_gtest name)
   set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()
 
+# The sanitizers find faults of the browser's own, which are none of ours.
+set(VESTROLA_SANITIZER_ENVIRONMENT
+    "ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
+
 # vestrola_qtest(<name> SOURCES ... LIBRARIES ...): a Qt Test program with real widgets, offscreen
 function(vestrola_qtest name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
@@ -59,9 +63,8 @@ function(vestrola_qtest name)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                              TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
-  # the sanitizers find faults of the browser's own, which are none of ours
   set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
+    "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;${VESTROLA_SANITIZER_ENVIRONMENT}")
 endfunction()
 
 # vestrola_fuzz(<name> SOURCES ... LIBRARIES ...): a libFuzzer target when fuzzing is built; otherwise a
