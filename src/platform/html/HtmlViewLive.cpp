@@ -74,6 +74,7 @@ void HtmlView::Live::setSource(const QString& html) {
     awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
+    m_followTimer.setInterval(0);  // what the last document cost says nothing about this one
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
     if (!live && m_writes == 0) return;
     write();
