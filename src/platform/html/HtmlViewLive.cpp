@@ -76,9 +76,9 @@ void HtmlView::Live::setSource(const QString& html) {
     m_text = QString();
     m_followTimer.setInterval(0);  // what the last document cost says nothing about this one
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
-    if (!live && m_writes == 0) return;
+    if (!live && !m_writing) return;
     write();
-    if (live) waitFor([this] { return m_writes == 0; }, startMilliseconds);
+    if (live) waitFor([this] { return !m_writing; }, startMilliseconds);
 }
 
 // The document that was given up may have been the reason
@@ -93,12 +93,14 @@ void HtmlView::Live::write() {
     QJsonObject shown;
     for (auto mark = marks.cbegin(); mark != marks.cend(); ++mark)
         shown[mark.key()] = mark.value();
-    ++m_writes;
+    m_writing = true;
     browser.run(QStringLiteral("editor.load(%1); editor.commands.state()")
                     .arg(arguments({m_source, mode == Mode::Design, shown})),
-                [this](const QVariant& answer) {
+                [this, number = ++m_lastWrite](const QVariant& answer) {
+                    if (number != m_lastWrite) return;
+                    m_writing = false;
                     state = answer.toMap();
-                    if (--m_writes == 0) written();
+                    written();
                 });
 }
 
@@ -158,7 +160,8 @@ void HtmlView::Live::keepText() {
     live = false;
     m_source = text();
     m_stateDue = false;
-    m_writes = 0;
+    m_writing = false;
+    ++m_lastWrite;  // the process may be gone, its answers still come
     m_strokes = m_strokesSeen = 0;
     state.clear();
     wakeWaiting();

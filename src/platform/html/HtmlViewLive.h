@@ -74,7 +74,8 @@ struct HtmlView::Live {
     QString m_source;
     QString m_text;  // null: as m_source gives it
     int m_version = -1;
-    int m_writes = 0;  // of the last write that was begun
+    bool m_writing = false;
+    int m_lastWrite = 0;  // only the answer to this one counts
     bool m_failed = false;
     bool m_stateDue = false;
     bool m_strokeIsShortcut = false;
