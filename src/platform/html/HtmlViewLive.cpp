@@ -63,6 +63,7 @@ bool HtmlView::Live::ensure() {
 // The place of the document tells the reader what happened; the text itself is safe
 void HtmlView::Live::fail(const QString& reason) {
     m_failed = true;
+    wakeWaiting();
     delete std::exchange(browser.widget, nullptr);
     m_notice = new QLabel(reason, &view);
     m_notice->setAlignment(Qt::AlignCenter);
