@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QRect>
 #include <QSignalSpy>
 #include <QTest>
@@ -29,6 +30,17 @@ inline void killRenderer(const HtmlView& view) {
     const qint64 process = page->property("renderProcessPid").toLongLong();
     if (process <= 0) qFatal("no process to end");
     ::kill(static_cast<pid_t>(process), SIGKILL);
+}
+
+/// Ends that process and lets the view take notice. The view may be live again afterwards: a new process can be
+/// there within a few milliseconds.
+inline void endBrowserOf(const HtmlView& view) {
+    const QPointer<QObject> page = view.findChild<QObject*>(QStringLiteral("page"));
+    const QVariant process = page->property("renderProcessPid");
+    killRenderer(view);
+    if (!QTest::qWaitFor([&] { return !page || page->property("renderProcessPid") != process; }, 30000))
+        qFatal("the end of the process is not noticed");
+    QCoreApplication::processEvents();  // the news is handed on by an event
 }
 
 /// Drops something at a place of a view, as the desktop does; false where the view does not take it.

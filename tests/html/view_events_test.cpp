@@ -140,8 +140,7 @@ class ViewEvents : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(&window));
         for (const bool dies : {false, true}) {
             if (dies) {
-                killRenderer(*view);
-                QTRY_VERIFY(!view->isLive());
+                endBrowserOf(*view);
                 QTRY_VERIFY(view->isLive());
             }
             subject->setFocus();

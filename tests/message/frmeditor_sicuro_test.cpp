@@ -55,11 +55,6 @@ class TestSicuro : public QObject {
         return stage().path("foto.png");
     }
     static QString addressOf(const HtmlView& view) { return view.evaluate("location.href").toString(); }
-    /// Ends the browser's process of a view and lets the view take notice.
-    static void kill(const HtmlView& view) {
-        killRenderer(view);
-        QTRY_VERIFY_WITH_TIMEOUT(!view.isLive(), browserStart);
-    }
 
   private Q_SLOTS:
     void initTestCase() { m_stage = std::make_unique<EditorStage>(); }
@@ -185,7 +180,7 @@ class TestSicuro : public QObject {
         stage().caret("p", 0);
         stage().type("Spett. ");
         QTest::qWait(1500);  // the copy follows at once, but later
-        kill(stage().design());
+        endBrowserOf(stage().design());
         QVERIFY(stage().marked());
         stage().saveAs("s.mss");
         QVERIFY2(saved().contains("Spett."), qPrintable(saved()));
@@ -203,13 +198,13 @@ class TestSicuro : public QObject {
     void aBrowserThatDiesBehindAnotherTabTakesNothingAlong() {
         stage().fill("<p>uno</p>");
         stage().chooseTab(1);
-        kill(stage().design());
+        endBrowserOf(stage().design());
         stage().saveAs("s.mss");
         QVERIFY2(saved().contains("<p>uno</p>"), qPrintable(saved()));
         stage().source().setText("<p>due</p>");
         stage().chooseTab(2);
         QTRY_VERIFY_WITH_TIMEOUT(stage().editor().WEB->isLive(), browserStart);
-        kill(*stage().editor().WEB);
+        endBrowserOf(*stage().editor().WEB);
         stage().start("cmdSalva");
         QVERIFY2(saved().contains("<p>due</p>"), qPrintable(saved()));
         QTRY_VERIFY_WITH_TIMEOUT(stage().editor().WEB->isLive(), browserStart);
@@ -222,7 +217,7 @@ class TestSicuro : public QObject {
         stage().fill("<p>uno</p>");
         for (int i = 0; i < 3; ++i) {
             QTRY_VERIFY_WITH_TIMEOUT(stage().design().isLive(), browserStart);
-            kill(stage().design());
+            endBrowserOf(stage().design());
         }
         QTest::qWait(200);
         QVERIFY(!stage().design().isLive());

@@ -151,7 +151,8 @@ void HtmlView::Live::follow() {
     QElapsedTimer work;
     work.start();
     browser.run(QStringLiteral("editor.text.readNewer(%1)").arg(m_version),
-                [this, work](const QVariant& answer) {
+                [this, work, document = m_lastWrite](const QVariant& answer) {
+                    if (document != m_lastWrite) return;
                     takeText(answer);
                     m_followTimer.setInterval(static_cast<int>(work.elapsed()) * restPerWork);
                 });

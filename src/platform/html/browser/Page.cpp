@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QUuid>
 #include <QWebEngineScript>
-#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <utility>
 
@@ -54,12 +53,13 @@ Page::Page(QWebEngineProfile& profile, std::function<void(const QString&)> said)
     rules.setAttribute(Rule::JavascriptCanAccessClipboard, true);
     rules.setAttribute(Rule::JavascriptCanPaste, true);
 
-    QWebEngineScript script;
-    script.setWorldId(QWebEngineScript::ApplicationWorld);
-    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-    script.setSourceCode(editingScripts() + QStringLiteral("editor.token = '%1';").arg(m_token));
-    scripts().insert(script);
-    connect(this, &QWebEnginePage::loadFinished, this, [this] { m_starting = false; });
+    // Scripts that the page holds itself are missing now and then in a process that follows one that died.
+    connect(this, &QWebEnginePage::loadFinished, this, [this](bool whole) {
+        m_starting = false;
+        if (!whole) return;
+        runJavaScript(editingScripts() + QStringLiteral("editor.token = '%1';").arg(m_token),
+                      QWebEngineScript::ApplicationWorld);
+    });
 }
 
 void Page::start() {

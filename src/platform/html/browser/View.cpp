@@ -16,8 +16,10 @@ View::View(const BrowserEvents& events, QWidget* parent)
     m_page->setParent(this);
     m_page->setObjectName(QStringLiteral("page"));
     setPage(m_page.get());
-    connect(m_page.get(), &QWebEnginePage::loadFinished, this,
-            [this] { handOn([this] { m_events.started(); }); });
+    // a load that the end of the process cuts short finishes too
+    connect(m_page.get(), &QWebEnginePage::loadFinished, this, [this](bool whole) {
+        if (whole) handOn([this] { m_events.started(); });
+    });
     connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this,
             [this] { handOn([this] { m_events.died(); }); });
 }
