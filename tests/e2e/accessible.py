@@ -4,7 +4,19 @@ import time
 import pyatspi
 from gi.repository import GLib
 
-from desktop import fail, wait_for
+import desktop
+from desktop import fail
+
+
+def wait_for(condition, what):
+    """The first true value of `condition`, which may look at what is about to come or to go: a window that closes
+    meanwhile, or a program that is too busy to answer, is looked at again."""
+    def answered():
+        try:
+            return condition()
+        except GLib.GError:
+            return None
+    return desktop.wait_for(answered, what)
 
 
 class Window:
@@ -92,3 +104,21 @@ def extents(control):
 def click(control, event="b1c"):
     left, top, width, height = extents(control)
     pyatspi.Registry.generateMouseEvent(left + width // 2, top + height // 2, event)
+
+
+def send(main, message, delivered=1, failed=0):
+    """Sends a message file to the recipients that are selected, from the main window and back to it."""
+    main.press("Invia messaggi")
+    window = Window("dialog", "Invia messaggi")
+    window.find("label", f"Email da inviare: {delivered + failed}")
+    window.press("Apri messaggio")
+    chooser = Window("dialog", "Apri messaggio")
+    chooser.write("Nome del file:", str(message))
+    chooser.press("Apri")
+    chooser.gone()
+    window.press("Invia messaggi")
+    window.find("label", f"Email inviate: {delivered}")
+    window.find("label", f"Email non inviate: {failed}")
+    window.find("label", "Email da inviare: 0")
+    window.press("Chiudi")
+    window.gone()

@@ -70,8 +70,7 @@ class Desktop:
         self.start(["openbox", "--sm-disable"])
 
     def start(self, command, **options):
-        options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options}
-        process = subprocess.Popen([str(part) for part in command], **options)
+        process = subprocess.Popen([str(part) for part in command], **{"stdout": subprocess.DEVNULL, **options})
         self.processes.append(process)
         return process
 

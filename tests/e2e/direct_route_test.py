@@ -52,7 +52,7 @@ def isolate():
 
 isolate()
 desktop.inside()
-from accessible import Window, act  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, act, send  # noqa: E402  looks for the bus when it is imported
 
 
 def start_name_server(stage):
@@ -111,23 +111,6 @@ def of(domain):
 def expect(value, wanted, what):
     if value != wanted:
         fail(f"{what}: {value} instead of {wanted}")
-
-
-def send(main, message, delivered, failed):
-    main.press("Invia messaggi")
-    window = Window("dialog", "Invia messaggi")
-    window.find("label", f"Email da inviare: {delivered + failed}")
-    window.press("Apri messaggio")
-    chooser = Window("dialog", "Apri messaggio")
-    chooser.write("Nome del file:", str(message))
-    chooser.press("Apri")
-    chooser.gone()
-    window.press("Invia messaggi")
-    window.find("label", f"Email inviate: {delivered}")
-    window.find("label", f"Email non inviate: {failed}")
-    window.find("label", "Email da inviare: 0")
-    window.press("Chiudi")
-    window.gone()
 
 
 def play(stage, program):

@@ -11,10 +11,9 @@ import subprocess
 import sys
 
 import desktop
-from desktop import wait_for
 
 desktop.inside()
-from accessible import Window, act, click, extents  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, act, click, extents, wait_for  # noqa: E402  looks for the bus when it is imported
 
 
 class Table:

@@ -8,11 +8,11 @@ are told is only looked at, to know when the next key may be struck.
 import subprocess
 
 import desktop
-from desktop import fail, wait_for
+from desktop import fail
 
 desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
-from accessible import Window, has  # noqa: E402
+from accessible import Window, has, wait_for  # noqa: E402
 
 
 def keys(*names):

@@ -7,10 +7,10 @@ the groups of the one database, and Error.txt tells of the second start alone.
 import time
 
 import desktop
-from desktop import fail, wait_for
+from desktop import fail
 
 desktop.inside()
-from accessible import is_shown  # noqa: E402  looks for the bus when it is imported
+from accessible import is_shown, wait_for  # noqa: E402  looks for the bus when it is imported
 import pyatspi  # noqa: E402
 
 
