@@ -6,7 +6,9 @@ target_include_directories(vestrola_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(vestrola_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 target_compile_definitions(vestrola_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS)
 if(VESTROLA_SANITIZE)
-  target_compile_options(vestrola_options INTERFACE -O1 -g1 -fsanitize=address,undefined -fno-sanitize-recover=undefined
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
+  target_compile_options(vestrola_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                     -fno-omit-frame-pointer)
   target_link_options(vestrola_options INTERFACE -fsanitize=address,undefined)
 endif()
@@ -14,15 +16,21 @@ if(VESTROLA_FUZZ)
   target_compile_options(vestrola_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# vestrola_platform(<folder> [MOC] [WITHOUT_QT] SOURCES ... LIBRARIES ...): static library vestrola_<folder>; MOC where
-# a class has signals
+# vestrola_platform(<folder> [MOC] [WITHOUT_QT] [WIDGETS] SOURCES ... LIBRARIES ...): static library vestrola_<folder>; MOC
+# where a class has signals
 function(vestrola_platform name)
-  cmake_parse_arguments(ARG "MOC;WITHOUT_QT" "" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "MOC;WITHOUT_QT;WIDGETS" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(vestrola_${name} STATIC ${ARG_SOURCES})
   set_target_properties(vestrola_${name} PROPERTIES AUTOMOC ${ARG_MOC})
   target_link_libraries(vestrola_${name} PUBLIC vestrola_options ${ARG_LIBRARIES})
-  if(NOT ARG_WITHOUT_QT)
-    target_link_libraries(vestrola_${name} PUBLIC Qt6::Core)
+  if(ARG_WITHOUT_QT)
+    return()
+  endif()
+  target_link_libraries(vestrola_${name} PUBLIC Qt6::Core)
+  if(ARG_WIDGETS)
+    target_precompile_headers(vestrola_${name} REUSE_FROM precompiled_widgets)
+  else()
+    target_precompile_headers(vestrola_${name} REUSE_FROM precompiled_core)
   endif()
 endfunction()
 
@@ -36,11 +44,16 @@ function(vestrola_windows)
   target_sources(vestrola_windows PRIVATE ${ARGN})
 endfunction()
 
+# The code of a test is compiled quickly rather than well.
+set(VESTROLA_TEST_OPTIONS -O0)
+
 # vestrola_gtest(<name> SOURCES ... LIBRARIES ...): a GoogleTest program with a QCoreApplication
 function(vestrola_gtest name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE vestrola_options vestrola_test_main GTest::gtest ${ARG_LIBRARIES})
+  target_compile_options(${name} PRIVATE ${VESTROLA_TEST_OPTIONS})
+  target_precompile_headers(${name} REUSE_FROM precompiled_gtest)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                              SHARED_DIR="${CMAKE_SOURCE_DIR}/../shared"
@@ -57,8 +70,18 @@ set(VESTROLA_SANITIZER_ENVIRONMENT
 function(vestrola_qtest name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(${name} PRIVATE vestrola_options Qt6::Test ${ARG_LIBRARIES})
+  foreach(source ${ARG_SOURCES})
+    file(STRINGS ${source} includes_moc REGEX "^#include \".*\\.moc\"$")
+    if(includes_moc)
+      get_filename_component(base ${source} NAME_WE)
+      qt6_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${base}.moc TARGET ${name})
+      target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${base}.moc)
+    endif()
+  endforeach()
+  target_link_libraries(${name} PRIVATE vestrola_options Qt6::Test Qt6::Widgets ${ARG_LIBRARIES})
+  target_compile_options(${name} PRIVATE ${VESTROLA_TEST_OPTIONS})
+  target_precompile_headers(${name} REUSE_FROM precompiled_qtest)
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                              TEST_BIN_DIR="${CMAKE_BINARY_DIR}")

@@ -49,15 +49,9 @@ void frmAccount::CreaControlli() {
     // In the order in which the keyboard goes round them.
     lstAccount = ui::named(new ElencoAccount(this), "lstAccount");
     CreaCaselle();
-    const auto pulsante = [this](const char* nome, const char* testo) {
-        auto* nuovo = ui::named(new QPushButton(testo, this), nome);
-        nuovo->setAutoDefault(false);
-        nuovo->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
-        return nuovo;
-    };
-    cmdNuovo = pulsante("cmdNuovo", "&Nuovo Account");
-    cmdModifica = pulsante("cmdModifica", "&Modifica Account");
-    cmdChiudi = pulsante("cmdChiudi", "&Chiudi");
+    cmdNuovo = ui::commandButton("&Nuovo Account", "cmdNuovo", this);
+    cmdModifica = ui::commandButton("&Modifica Account", "cmdModifica", this);
+    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
     cmdModifica->setEnabled(false);
     CreaMenu();
 }

@@ -32,8 +32,8 @@ inline void killRenderer(const HtmlView& view) {
     ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
-/// Ends that process and lets the view take notice. The view may be live again afterwards: a new process can be
-/// there within a few milliseconds.
+/// Ends that process and lets the view take notice. The view may be live again afterwards: a new process can
+/// be there within a few milliseconds.
 inline void endBrowserOf(const HtmlView& view) {
     const QPointer<QObject> page = view.findChild<QObject*>(QStringLiteral("page"));
     const QVariant process = page->property("renderProcessPid");

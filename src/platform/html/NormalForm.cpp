@@ -200,7 +200,7 @@ void appendComment(QByteArray& out, const GumboNode& node) {
     append(out, "-->"sv);
 }
 
-struct Opened {
+struct OpenElement {
     const GumboNode* node;
     unsigned nextChild = 0;
 };
@@ -210,9 +210,9 @@ struct Opened {
 QByteArray normalForm(const GumboNode& document) {
     QByteArray out;
     if (document.v.document.has_doctype) appendDoctype(out, document.v.document);
-    std::vector<Opened> path{{&document}};
+    std::vector<OpenElement> path{{&document}};
     while (!path.empty()) {
-        Opened& current = path.back();
+        OpenElement& current = path.back();
         const GumboVector& children = childrenOf(*current.node);
         if (current.nextChild == children.length) {
             if (const GumboElement* element = elementOf(*current.node)) appendEndTag(out, *element);

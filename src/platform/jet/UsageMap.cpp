@@ -36,12 +36,12 @@ bool walkBits(std::span<const uint8_t> bits, uint32_t first, const std::function
 }
 
 // A map's row as it stands.
-struct Row {
+struct MapRow {
     PagePtr page;
     std::span<const uint8_t> bytes;
     size_t mostBitmaps;
 
-    Row(PageFile& file, uint32_t number, uint8_t slot)
+    MapRow(PageFile& file, uint32_t number, uint8_t slot)
         : page(file.page(number)), mostBitmaps(map::mostBitmaps * (pageSize / file.bytesPerPage())) {
         const DataPageView view(*page, number);
         bytes = view.bytes(slot);
@@ -94,7 +94,7 @@ void clearToForm1(PageFile& file, uint32_t number, uint8_t slot) {
 }  // namespace
 
 bool UsageMap::contains(uint32_t page) const {
-    const Row row(m_file, m_page, m_slot);
+    const MapRow row(m_file, m_page, m_slot);
     if (row.form() == 0) {
         const uint32_t first = row.first();
         return page >= first && page - first < 8 * row.bits().size() && getBit(row.bits(), page - first);
@@ -106,7 +106,7 @@ bool UsageMap::contains(uint32_t page) const {
 }
 
 void UsageMap::forEach(const std::function<bool(uint32_t)>& visit) const {
-    const Row row(m_file, m_page, m_slot);
+    const MapRow row(m_file, m_page, m_slot);
     if (row.form() == 0) {
         walkBits(row.bits(), row.first(), visit);
         return;
@@ -134,7 +134,7 @@ std::span<uint8_t> UsageMap::changeRow() {
 
 void UsageMap::set(uint32_t page, bool member) {
     if (contains(page) == member) return;
-    Row row(m_file, m_page, m_slot);
+    MapRow row(m_file, m_page, m_slot);
     if (row.form() == 0) {
         if (page >= row.first() && page - row.first() < 8 * row.bits().size()) {
             setBit(changeRow().subspan(map::bits), page - row.first(), member);
@@ -144,7 +144,7 @@ void UsageMap::set(uint32_t page, bool member) {
         takeForm1();
     }
     const size_t k = page / map::pagesPerBitmap;
-    const Row now(m_file, m_page, m_slot);
+    const MapRow now(m_file, m_page, m_slot);
     if (k >= now.bitmaps())
         fail(ErrorCode::NotSupported, "Una mappa delle pagine del database non può crescere oltre.");
     uint32_t bitmap = now.bitmap(k);
@@ -160,7 +160,7 @@ void UsageMap::set(uint32_t page, bool member) {
 // Makes a form 0 row reach `page`: an empty one by moving its first page, another one by growing at either
 // end.
 bool UsageMap::grow(uint32_t page) {
-    const Row row(m_file, m_page, m_slot);
+    const MapRow row(m_file, m_page, m_slot);
     const std::vector<uint32_t> members = pages();
     const uint32_t lowest = std::min(page, members.empty() ? page : members.front());
     const uint32_t highest = std::max(page, members.empty() ? page : members.back());
@@ -210,7 +210,7 @@ uint32_t GlobalMap::take() {
 void GlobalMap::give(uint32_t page) {
     Page& wiped = m_file.change(page);
     wiped.fill(0);
-    const Row row(m_file, globalMapPage, 0);
+    const MapRow row(m_file, globalMapPage, 0);
     // A page that the map does not reach cannot be told to be free; it stays unused.
     if (row.form() == 0 && page - row.first() >= 8 * row.bits().size()) return;
     if (row.form() == 1) {
@@ -222,7 +222,7 @@ void GlobalMap::give(uint32_t page) {
 
 // A new page's bit is cleared. The map reaches every page of the file: its row grows with set bits.
 void GlobalMap::markUsed(uint32_t page) {
-    const Row row(m_file, globalMapPage, 0);
+    const MapRow row(m_file, globalMapPage, 0);
     if (row.form() == 0 && page >= row.first() && page - row.first() >= 8 * row.bits().size()) {
         if (!grow(page)) takeForm1();
     }
@@ -230,7 +230,7 @@ void GlobalMap::markUsed(uint32_t page) {
 }
 
 bool GlobalMap::grow(uint32_t page) {
-    const Row row(m_file, globalMapPage, 0);
+    const MapRow row(m_file, globalMapPage, 0);
     const size_t length = row.bytes.size();
     const size_t needed = map::bits + (page - row.first()) / 32 * 4 + 4;
     if (needed - length > DataPageView(*row.page, globalMapPage).freeBytes()) return false;
@@ -260,7 +260,7 @@ void GlobalMap::takeForm1() {
 }
 
 bool GlobalMap::reachesBehindFile() const {
-    const Row row(m_file, globalMapPage, 0);
+    const MapRow row(m_file, globalMapPage, 0);
     const uint32_t end = m_file.pageCount();
     const auto usedBehind = [end](std::span<const uint8_t> bits, uint32_t first) {
         for (size_t bit = end > first ? end - first : 0; bit < 8 * bits.size(); ++bit)

@@ -8,7 +8,7 @@
 namespace mail {
 namespace {
 
-constexpr qint64 largestFile = qint64{512} << 20;
+constexpr qint64 largestAttachment = qint64{512} << 20;
 
 Status unusable(ErrorCode code, const Attachment& file, const QString& why) {
     return {code, QStringLiteral("L'allegato %1 %2.").arg(file.name.isEmpty() ? file.path : file.name, why)};
@@ -16,13 +16,13 @@ Status unusable(ErrorCode code, const Attachment& file, const QString& why) {
 
 Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp) {
     if (!stamp.exists()) return unusable(ErrorCode::FileNotFound, file, QStringLiteral("non esiste"));
-    if (stamp.size > largestFile)
+    if (stamp.size > largestAttachment)
         return unusable(ErrorCode::RecordTooLarge, file, QStringLiteral("è troppo grande"));
     QFile source(file.path);
     if (!source.open(QIODevice::ReadOnly)) {
         return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
     }
-    const QByteArray content = source.read(std::min(source.size(), largestFile));
+    const QByteArray content = source.read(std::min(source.size(), largestAttachment));
     if (source.error() != QFile::NoError) {
         return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
     }

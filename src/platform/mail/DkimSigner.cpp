@@ -14,7 +14,7 @@
 namespace mail {
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024;
+constexpr qint64 largestKeyFile = 64 * 1024;
 constexpr int fewestBits = 2048;
 const QByteArray headerName = "DKIM-Signature: ";
 
@@ -46,7 +46,7 @@ Status unusable(const QString& why) {
 
 QByteArray contents(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(largestFile) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(largestKeyFile) : QByteArray();
 }
 
 // Hands over one header field after the other, each with its folded lines

@@ -12,7 +12,6 @@ namespace ui {
 
 namespace {
 
-constexpr int rowHeight = 24;
 constexpr int nameWidth = 150;
 
 QStringList tagsOf(const QList<HtmlView::Element>& elements) {

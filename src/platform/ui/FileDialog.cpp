@@ -11,8 +11,8 @@ namespace ui {
 
 namespace {
 
-QList<std::optional<QString>> answers;
-QList<FileDialog::Shown> record;
+QList<std::optional<QString>> queuedPaths;
+QList<FileDialog::Shown> shownDialogs;
 
 QString withSuffix(const QString& path, const QString& suffix) {
     if (suffix.isEmpty() || QFileInfo(path).fileName().contains('.')) return path;
@@ -63,8 +63,8 @@ std::optional<QString> saveByUser(const FileDialog::Shown& asked, FileDialog::Ex
 }
 
 std::optional<QString> queuedAnswer(const FileDialog::Shown& asked) {
-    if (answers.isEmpty()) failUnanswered("file dialog", qUtf8Printable(asked.title));
-    auto answer = answers.takeFirst();
+    if (queuedPaths.isEmpty()) failUnanswered("file dialog", qUtf8Printable(asked.title));
+    auto answer = queuedPaths.takeFirst();
     if (answer && asked.save) answer = withSuffix(*answer, FileDialog::defaultSuffix(asked.filter));
     return answer;
 }
@@ -74,14 +74,14 @@ std::optional<QString> queuedAnswer(const FileDialog::Shown& asked) {
 std::optional<QString> FileDialog::open(const QString& title, const QString& filter) {
     Shown asked{false, title, filter, std::nullopt};
     asked.answer = unattended() ? queuedAnswer(asked) : openByUser(asked);
-    record.append(asked);
+    shownDialogs.append(asked);
     return asked.answer;
 }
 
 std::optional<QString> FileDialog::save(const QString& title, const QString& filter, Existing existing) {
     Shown asked{true, title, filter, std::nullopt};
     asked.answer = unattended() ? queuedAnswer(asked) : saveByUser(asked, existing);
-    record.append(asked);
+    shownDialogs.append(asked);
     return asked.answer;
 }
 
@@ -105,24 +105,24 @@ QString FileDialog::defaultSuffix(const QString& filter) {
 }
 
 void FileDialog::queue(const QString& path) {
-    answers.append(path);
+    queuedPaths.append(path);
 }
 
 void FileDialog::queueCancel() {
-    answers.append(std::nullopt);
+    queuedPaths.append(std::nullopt);
 }
 
 int FileDialog::queued() {
-    return static_cast<int>(answers.size());
+    return static_cast<int>(queuedPaths.size());
 }
 
 const QList<FileDialog::Shown>& FileDialog::shown() {
-    return record;
+    return shownDialogs;
 }
 
 void FileDialog::reset() {
-    answers.clear();
-    record.clear();
+    queuedPaths.clear();
+    shownDialogs.clear();
 }
 
 }  // namespace ui

@@ -3,11 +3,11 @@
 #include <QLineEdit>
 #include <QPainter>
 
+#include "platform/ui/Controls.h"
+
 namespace ui {
 
 namespace {
-
-constexpr int rowHeight = 24;
 
 /// The icon in one colour, for the dark ground of a selection.
 QPixmap inColour(QPixmap pixmap, const QColor& colour) {

@@ -9,8 +9,8 @@ namespace ui {
 
 namespace {
 
-QList<int> answers;
-QList<MessageDialog::Shown> record;
+QList<int> queuedAnswers;
+QList<MessageDialog::Shown> shownBoxes;
 
 QMessageBox::Icon iconOf(int style) {
     switch (style & 0xf0) {
@@ -31,8 +31,8 @@ QMessageBox::StandardButtons buttonsOf(int style) {
 }
 
 int queuedAnswer(const MessageDialog::Shown& box) {
-    if (answers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
-    const int answer = answers.takeFirst();
+    if (queuedAnswers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
+    const int answer = queuedAnswers.takeFirst();
     const bool offered = box.buttons == QMessageBox::StandardButtons(QMessageBox::Ok)
                              ? answer == MessageDialog::Ok
                              : answer == MessageDialog::Yes || answer == MessageDialog::No;
@@ -60,25 +60,25 @@ int answerOfUser(const MessageDialog::Shown& box) {
 int MessageDialog::show(const QString& text, int style, const QString& title) {
     Shown box{text, style, title, iconOf(style), buttonsOf(style), Ok};
     box.answer = unattended() ? queuedAnswer(box) : answerOfUser(box);
-    record.append(box);
+    shownBoxes.append(box);
     return box.answer;
 }
 
 void MessageDialog::queue(int answer) {
-    answers.append(answer);
+    queuedAnswers.append(answer);
 }
 
 int MessageDialog::queued() {
-    return static_cast<int>(answers.size());
+    return static_cast<int>(queuedAnswers.size());
 }
 
 const QList<MessageDialog::Shown>& MessageDialog::shown() {
-    return record;
+    return shownBoxes;
 }
 
 void MessageDialog::reset() {
-    answers.clear();
-    record.clear();
+    queuedAnswers.clear();
+    shownBoxes.clear();
 }
 
 }  // namespace ui

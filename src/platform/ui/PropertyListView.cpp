@@ -16,7 +16,6 @@ namespace ui {
 
 namespace {
 
-constexpr int rowHeight = 24;
 constexpr int captionWidth = 170;
 constexpr int textMargin = 6;
 constexpr QSize swatch(24, 14);

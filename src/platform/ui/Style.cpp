@@ -11,6 +11,8 @@ namespace ui {
 
 namespace {
 
+constexpr int buttonPadding = 12;  // beside the text, the rim included
+
 bool hasRim(QStyle::PrimitiveElement element) {
     switch (element) {
         case QStyle::PE_Frame:
@@ -97,6 +99,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
             return wanted.expandedTo({24, 24});
         case CT_LineEdit:
             return wanted.expandedTo({0, 26});
+        case CT_PushButton:
+            return wanted.expandedTo({size.width() + 2 * buttonPadding, 0});
         default:
             return wanted;
     }
