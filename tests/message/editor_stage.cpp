@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 #include "core/Finestre.h"
 
@@ -53,6 +54,11 @@ ui::Command& EditorStage::tool(const QString& name) {
 }
 
 void EditorStage::start(const QString& name) {
+    auto* button = editor().findChild<QToolButton*>(name);
+    if (button && button->isVisible() && button->popupMode() != QToolButton::InstantPopup) {
+        QTest::mouseClick(button, Qt::LeftButton);
+        return;
+    }
     auto* action = editor().findChild<QAction*>(name);
     if (!action) qFatal("no command %s", qUtf8Printable(name));
     action->trigger();

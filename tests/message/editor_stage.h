@@ -36,7 +36,8 @@ class EditorStage : public StoreStage {
     QString hint() { return editor().Commands().GetStatic("stcHelp")->Text(); }
     QString subject() { return editor().Commands().GetEdit("txtOggetto")->Text(); }
 
-    /// Starts a command as a click on its button or menu does; one that is off does nothing.
+    /// Clicks the button of a command, or starts it as its menu does where it has none in sight; one that is
+    /// off does nothing.
     void start(const QString& name);
     /// A click on the tab.
     void chooseTab(int index);
