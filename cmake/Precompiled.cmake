@@ -1,5 +1,5 @@
 # Headers of libraries that most sources read, precompiled once for all targets: that halves the time of a build. A source
-# still includes what it uses; the lint step reads each without this.
+# still includes what it uses: tests/check_includes reads each without this.
 
 # what the compiler cache needs to know such a source by
 target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
