@@ -43,8 +43,9 @@ def below(control):
 
 def drag(begin, end):
     steps = [(begin[0] + (end[0] - begin[0]) * n // 10, begin[1] + (end[1] - begin[1]) * n // 10) for n in range(1, 11)]
-    moves = [word for x, y in steps for word in ("mousemove", str(x), str(y), "sleep", "0.03")]
-    subprocess.run(["xdotool", "mousemove", *map(str, begin), "sleep", "0.1", "mousedown", "1", *moves, "sleep", "0.1",
+    moves = [word for x, y in steps for word in ("mousemove", str(x), str(y), "sleep", "0.05")]
+    # pressed so late that it is no second press of a double click; slowly, as the program follows each step
+    subprocess.run(["xdotool", "mousemove", *map(str, begin), "sleep", "0.6", "mousedown", "1", "sleep", "0.3", *moves, "sleep", "0.5",
                     "mouseup", "1", "sleep", "0.2"], check=True)
 
 
