@@ -81,6 +81,17 @@ TEST_F(ComposeAttachments, NameShowsNoFoldersAndAddsNoHeader) {
     EXPECT_TRUE(data.contains("filename=\"x\"\r\n"));
 }
 
+TEST_F(ComposeAttachments, NameThatQuotesLengthenGoesInSections) {
+    auto message = plainMessage();
+    const QString file = makeFile(path("x"), "x");
+    message.attachments = {{file, QString(30, u'"')}, {file, QString(31, u'"')}};
+    const QByteArray data = compose(message);
+    EXPECT_TRUE(data.contains("\r\n filename=\"" + QByteArray("\\\"").repeated(30) + "\"\r\n"))
+        << data.toStdString();
+    EXPECT_TRUE(data.contains("\r\n filename*0*=utf-8''%22%22")) << data.toStdString();
+    EXPECT_TRUE(data.contains("\r\n filename*1*=%22")) << data.toStdString();
+}
+
 TEST_F(ComposeAttachments, TextDeclaresItsEncodingOnlyWhereItIsKnown) {
     auto message = plainMessage();
     message.attachments = {{makeFile(path("u.txt"), "perch\xC3\xA9"), "u.txt"},

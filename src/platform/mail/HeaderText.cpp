@@ -162,7 +162,9 @@ QByteArray namedAddress(const QString& name, const QByteArray& address) {
 QByteArray parameter(const QByteArray& name, const QString& value) {
     const QByteArray utf8 = singleLine(value).toUtf8();
     const QByteArray opening = ";\r\n " + name;
-    if (isPlain(utf8) && utf8.size() <= sectionLimit) return opening + '=' + quoted(utf8);
+    // measured in quotes: there a quotation mark or a backslash takes two octets
+    if (const QByteArray inQuotes = quoted(utf8); isPlain(utf8) && inQuotes.size() <= sectionLimit + 2)
+        return opening + '=' + inQuotes;
 
     std::vector<QByteArray> sections{"utf-8''"};
     for (qsizetype at = 0; at < utf8.size();) {
