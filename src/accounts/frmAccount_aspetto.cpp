@@ -249,7 +249,6 @@ void frmAccount::CollegaEtichette() {
     collega(10, txtUsername);
     collega(11, txtPassword);
     collega(12, txtOutPort);
-    for (QAbstractButton* pulsante : std::initializer_list<QAbstractButton*>{
-             chkUsaSMTP, chkAutentick, chkAvanzate, cmdNuovo, cmdModifica, cmdChiudi})
-        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
+    for (QCheckBox* casella : {chkUsaSMTP, chkAutentick, chkAvanzate})
+        casella->setAccessibleName(ui::spokenCaption(casella->text()));
 }

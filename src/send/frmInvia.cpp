@@ -38,10 +38,9 @@ void frmInvia::CreaControlli() {
         controllo->setParent(this);
         return ui::named(controllo, nome);
     };
-    const auto pulsante = [&](const char* nome, const char* testo, const char* icona) {
-        auto* controllo = nomina(new QPushButton(testo), nome);
+    const auto pulsante = [this](const char* nome, const char* testo, const char* icona) {
+        auto* controllo = ui::commandButton(testo, nome, this);
         if (icona) controllo->setIcon(QIcon::fromTheme(icona));
-        controllo->setAutoDefault(false);
         return controllo;
     };
     const auto casella = [&](const char* nome, const char* testo = "") {
@@ -96,7 +95,6 @@ void frmInvia::DisponiControlli() {
     comandi->setSpacing(ui::controlSpacing);
     comandi->addStretch();
     for (QPushButton* pulsante : {cmdInvia, cmdFerma, cmdChiudi}) {
-        pulsante->setMinimumSize(ui::buttonWidth, ui::buttonHeight);
         if (pulsante == cmdChiudi) comandi->addSpacing(ui::windowMargin);
         comandi->addWidget(pulsante);
     }
@@ -112,7 +110,7 @@ void frmInvia::DisponiControlli() {
 }
 
 QGridLayout* frmInvia::DisponiScelte() {
-    cmdFile->setMinimumHeight(ui::fieldHeight);
+    cmdFile->setMinimumSize(0, ui::fieldHeight);
     cmdFile->setMaximumWidth(cmdFile->fontMetrics().horizontalAdvance("...") + 28);
     auto* file = new QHBoxLayout;
     file->setSpacing(ui::controlSpacing);
@@ -188,9 +186,8 @@ void frmInvia::CollegaEtichette() {
     collega(lblDaInviare, prgDaInviare);
     collega(lblFallite, prgFallite);
     collega(lblInviate, prgInviate);
-    for (QAbstractButton* pulsante :
-         std::initializer_list<QAbstractButton*>{chkBlocco, chkLog, cmdInvia, cmdFerma, cmdChiudi})
-        pulsante->setAccessibleName(ui::spokenCaption(pulsante->text()));
+    for (QCheckBox* casella : {chkBlocco, chkLog})
+        casella->setAccessibleName(ui::spokenCaption(casella->text()));
     NominaSenzaEtichetta();
 }
 

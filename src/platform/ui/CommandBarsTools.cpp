@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/Controls.h"
 
 namespace ui {
 
@@ -65,7 +66,7 @@ EditTool::EditTool(const QString& name, const QString& label, const QString& des
 
 void EditTool::setLabel(const QString& label) {
     m_label->setText(label);
-    m_edit->setAccessibleName(QString(label).remove('&').remove(':'));
+    m_edit->setAccessibleName(spokenCaption(label));
 }
 
 void EditTool::setDescription(const QString& description) {
