@@ -66,11 +66,11 @@ class Reader {
         for (QByteArray line : block.chopped(2).split('\n')) {
             if (line.endsWith('\r')) line.chop(1);
             if (line.trimmed().isEmpty()) complain("blank header line");
-            checkFolding(line);
             if (line.startsWith(' ') || line.startsWith('\t')) {
                 if (headers.empty()) {
                     complain("headers that start with a folded line");
                 } else {
+                    checkFolding(headers.back().first, line.mid(1), line);
                     headers.back().second += line;
                 }
                 continue;
@@ -78,16 +78,17 @@ class Reader {
             if (!matches("[A-Za-z-]+:( .*)?", line)) complain("no header line: " + line);
             const qsizetype colon = line.indexOf(':');
             headers.emplace_back(line.left(colon).toLower(), line.mid(colon + 1));
+            checkFolding(headers.back().first, line.mid(colon + 2), line);
         }
         for (auto& header : headers)
             header.second = header.second.startsWith(' ') ? header.second.mid(1) : header.second;
         return headers;
     }
 
-    // 78 octets, unless what stands there cannot be parted: an address or a link
-    void checkFolding(const QByteArray& line) {
-        const QByteArray text = line.startsWith(' ') ? line.mid(1) : line.mid(line.indexOf(':') + 2);
-        const bool unbreakable = !text.contains(' ') && (text.contains('@') || text.contains("://"));
+    // 78 octets, unless what stands there cannot be parted: a link, an address or a word of its quoted part
+    void checkFolding(const QByteArray& header, const QByteArray& text, const QByteArray& line) {
+        const bool ofAddress = header == "from" || header == "to" || text.contains('@');
+        const bool unbreakable = !text.contains(' ') && (ofAddress || text.contains("://"));
         if (line.size() > 78 && !unbreakable) complain("header line of more than 78 octets: " + line);
     }
 
