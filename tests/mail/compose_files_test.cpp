@@ -69,6 +69,16 @@ TEST_F(ComposeAttachments, NameBeyondAsciiGoesByItsStandardWithAPlainFallback) {
     EXPECT_TRUE(data.contains("name=\"Offerta e citta _.pdf\"")) << data.toStdString();
 }
 
+TEST_F(ComposeAttachments, FallbackOfANameWithManyBlanksStaysPlain) {
+    auto message = plainMessage();
+    const QString file = makeFile(path("x"), "x");
+    message.attachments = {{file, "Listino  2026 .pdf"}, {file, QString(59, u'a') + " b"}};
+    const QByteArray data = compose(message);
+    EXPECT_TRUE(data.contains("\r\n name=\"Listino 2026 .pdf\"\r\n")) << data.toStdString();
+    EXPECT_TRUE(data.contains("\r\n filename*=utf-8''Listino%20%202026%20.pdf\r\n")) << data.toStdString();
+    EXPECT_TRUE(data.contains("\r\n name=\"" + QByteArray(59, 'a') + "\"\r\n")) << data.toStdString();
+}
+
 TEST_F(ComposeAttachments, NameShowsNoFoldersAndAddsNoHeader) {
     auto message = plainMessage();
     const QString file = makeFile(path("x"), "x");

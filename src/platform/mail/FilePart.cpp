@@ -20,7 +20,7 @@ QString bareName(const QString& name) {
     return bare.isEmpty() ? QString::fromLatin1(namelessFile) : bare;
 }
 
-// Letters without their accents, "_" for whatever old readers and file systems stumble over
+// Letters without their accents, single blanks, "_" for whatever old readers and file systems stumble over
 QByteArray asciiName(const QString& name) {
     QByteArray plain;
     for (const QChar c : name.normalized(QString::NormalizationForm_KD)) {
@@ -29,11 +29,12 @@ QByteArray asciiName(const QString& name) {
             c.unicode() < 0x80 && (c.isLetterOrNumber() || QStringView(u" !#$&'()+,-.;@_").contains(c));
         plain += known ? static_cast<char>(c.unicode()) : '_';
     }
-    if (plain.trimmed().isEmpty()) return namelessFile;
+    plain = plain.simplified();
+    if (plain.isEmpty()) return namelessFile;
     if (plain.size() <= fallbackLimit) return plain;
     const qsizetype dot = plain.lastIndexOf('.');
     const QByteArray suffix = dot >= 0 && plain.size() - dot <= 10 ? plain.mid(dot) : QByteArray();
-    return plain.left(fallbackLimit - suffix.size()) + suffix;
+    return plain.left(fallbackLimit - suffix.size()).trimmed() + suffix;
 }
 
 QByteArray base64Lines(const QByteArray& content) {
