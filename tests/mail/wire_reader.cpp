@@ -259,7 +259,7 @@ class Reader {
         if (!id.isEmpty() && !matches("<[!-;=?A-~]+@[!-;=?A-~]+>", id)) complain("content-id " + id);
         leaf.contentId = id.mid(1).chopped(id.isEmpty() ? 0 : 1);
         if (type == "text/html") checkDeclarations(leaf.content, m_message.complaints);
-        if (!leaf.disposition.isEmpty() && !matches("[ -~]+", given["name"].toUtf8()))
+        if (!leaf.disposition.isEmpty() && !valueOf(headers, "content-type").contains(" name=\""))
             complain("no plain name beside " + leaf.fileName.toUtf8());
         m_message.leaves.push_back(std::move(leaf));
     }
