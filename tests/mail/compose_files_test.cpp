@@ -69,6 +69,12 @@ TEST_F(ComposeAttachments, NameBeyondAsciiGoesByItsStandardWithAPlainFallback) {
     EXPECT_TRUE(data.contains("name=\"Offerta e citta _.pdf\"")) << data.toStdString();
 }
 
+TEST_F(ComposeAttachments, NameWithNulsHasATypeAllTheSame) {
+    auto message = plainMessage();
+    message.attachments = {{makeFile(path("x"), "x"), "x" + QString(16, u'\0') + ".pdf"}};
+    EXPECT_TRUE(compose(message).contains("Content-Type: application/pdf;\r\n name=\"x .pdf\"\r\n"));
+}
+
 TEST_F(ComposeAttachments, FallbackOfANameWithManyBlanksStaysPlain) {
     auto message = plainMessage();
     const QString file = makeFile(path("x"), "x");

@@ -48,9 +48,8 @@ QByteArray base64Lines(const QByteArray& content) {
     return lines.isEmpty() ? QByteArray("\r\n") : lines;
 }
 
-QByteArray filePart(const QString& givenName, const QByteArray& type, const char* charset,
-                    const char* disposition, const QByteArray& contentId, const QByteArray& content) {
-    const QString name = bareName(givenName);
+QByteArray filePart(const QString& name, const QByteArray& type, const char* charset, const char* disposition,
+                    const QByteArray& contentId, const QByteArray& content) {
     const bool fits = qstrlen("Content-Type: ;") + static_cast<std::size_t>(type.size()) <= 78;
     QByteArray part = (fits ? "Content-Type: " : "Content-Type:\r\n ") + type;
     if (charset != nullptr) part += QByteArray("; charset=") + charset;
@@ -62,7 +61,8 @@ QByteArray filePart(const QString& givenName, const QByteArray& type, const char
 
 }  // namespace
 
-QByteArray attachmentPart(const QString& name, const QByteArray& content) {
+QByteArray attachmentPart(const QString& givenName, const QByteArray& content) {
+    const QString name = bareName(givenName);  // Qt's search reads beyond its table for a name with a NUL
     QByteArray type = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension).name().toLatin1();
     const char* charset = nullptr;
     if (type.startsWith("text/") && QString::fromUtf8(content).toUtf8() == content) charset = "utf-8";
@@ -75,7 +75,7 @@ QByteArray attachmentPart(const QString& name, const QByteArray& content) {
 
 QByteArray imagePart(const QString& name, const QByteArray& type, const QByteArray& contentId,
                      const QByteArray& content) {
-    return filePart(name, type, nullptr, "inline", contentId, content);
+    return filePart(bareName(name), type, nullptr, "inline", contentId, content);
 }
 
 }  // namespace mail
