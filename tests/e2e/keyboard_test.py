@@ -131,10 +131,15 @@ def write_message(editor, path):
     type_text(path)
     keys("Return")
     chooser.gone()
-    wait_for(path.is_file, "the saved message")
-    saved = path.read_text(encoding="cp1252")
+    saved = wait_for(lambda: whole_message(path), "the whole message in its file")
     if f"[<INI-SUBJ>]{desktop.NAME}[<END-SUBJ>]" not in saved or desktop.TEXT not in saved:
         fail(f"the saved message is {saved}")
+
+
+def whole_message(path):
+    """The text of a message file that is written to its last line."""
+    text = path.read_text(encoding="cp1252") if path.is_file() else ""
+    return text if text.endswith("[<END-MESS>]\n") else None
 
 
 if __name__ == "__main__":
