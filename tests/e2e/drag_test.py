@@ -26,8 +26,9 @@ class Table:
         wait_for(lambda: self.value(row, column) == value, f"{column} of {row} to be {value}")
 
     def value(self, row, column):
-        exported = subprocess.run(["mdb-export", str(self.database), self.name], stdout=subprocess.PIPE, text=True, check=True)
-        return {one[self.key]: one for one in csv.DictReader(exported.stdout.splitlines())}[row][column]
+        """None where the row is not found, as can be while the program writes."""
+        exported = subprocess.run(["mdb-export", str(self.database), self.name], stdout=subprocess.PIPE, text=True, check=False)
+        return {one[self.key]: one for one in csv.DictReader(exported.stdout.splitlines())}.get(row, {}).get(column)
 
 
 def middle(control):
@@ -97,9 +98,10 @@ def recipients(main, table, group):
     def row():
         return middle(main.find("table cell", first))
 
+    number = group.value("Stampa", "id")
     click(main.find("table cell", "Clienti"))
     drag(row(), middle(main.find("table cell", "Stampa")))
-    table.expect(first, "id_grp", group.value("Stampa", "id"))
+    table.expect(first, "id_grp", number)
     drag(row(), middle(main.find("table cell", "Database Mailing")))
     table.expect(first, "id_grp", "0")
     drag(row(), below(main.find("tree", "Gruppi mailing")))
