@@ -122,7 +122,7 @@ std::optional<std::string> sharedCheckerFindings(const std::string& file) {
         return std::nullopt;
     }
     int exitCode = 0;
-    const std::string output = run(QStringLiteral("python3"), {checker, "fsck", file}, &exitCode);
+    const std::string output = run(QStringLiteral("/usr/bin/python3"), {checker, "fsck", file}, &exitCode);
     return exitCode == 0 ? std::string() : output + "exit code " + std::to_string(exitCode);
 }
 

@@ -16,9 +16,18 @@ def header_defects(part):
     return [str(defect) for value in part.values() for defect in value.defects]
 
 
+def phrase_of(header):
+    """The name before an address. Newer builds of Python refuse a phrase before an address literal unless told not to be
+    strict; older ones know no such argument."""
+    try:
+        return email.utils.parseaddr(header, strict=False)[0]
+    except TypeError:
+        return email.utils.parseaddr(header)[0]
+
+
 def one_address(message, raw_message, name):
     """The parser of the policy puts a blank between two encoded words of a name; the older one reads them right."""
-    phrase = email.utils.parseaddr(raw_message[name].replace("\r\n", ""))[0]
+    phrase = phrase_of(raw_message[name].replace("\r\n", ""))
     addresses = message[name].addresses
     return {
         "count": len(addresses),

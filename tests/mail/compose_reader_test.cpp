@@ -2,11 +2,11 @@
 // policy, tell what it reads in them.
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "mail/compose_support.h"
@@ -19,6 +19,7 @@ namespace {
 
 const QByteArray attachmentContent("\0\r\n.\r\nFrom x", 12);
 constexpr int messagesOfTheLoop = 600;
+const QString systemPython = QStringLiteral("/usr/bin/python3");
 
 // Line ends as they travel, NUL as a blank
 QString asSent(QString text) {
@@ -29,7 +30,7 @@ QString asSent(QString text) {
 class ReadByPython : public ::testing::Test {
   protected:
     void SetUp() override {
-        ASSERT_FALSE(QStandardPaths::findExecutable("python3").isEmpty());
+        ASSERT_TRUE(QFile::exists(systemPython));
         makeFile(m_folder.filePath("logo.png"), pngContent(300));
         makeFile(m_folder.filePath("allegato"), attachmentContent);
     }
@@ -49,7 +50,7 @@ class ReadByPython : public ::testing::Test {
         for (const auto& composed : m_composed)
             all += QByteArray::number(composed.text.whole().size()) + '\n' + composed.text.whole();
         QProcess python;
-        python.start("python3",
+        python.start(systemPython,
                      {TEST_DATA_DIR "/../mail/check_message.py", makeFile(m_folder.filePath("all"), all)});
         EXPECT_TRUE(python.waitForFinished(200000));
         EXPECT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
