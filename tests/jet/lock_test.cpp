@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <thread>
 
 #include "jet/JetFixture.h"
@@ -55,7 +56,7 @@ class LockTest : public JetTest {
         pid_t m_pid = 0;
     };
 
-    static Database::Options hasty() { return {.lockWaitMs = 50}; }
+    static Database::Options hasty() { return {.lockWait = {.limit = std::chrono::milliseconds(50)}}; }
     static void addRow(Database& database, const std::string& name) {
         EXPECT_OK(database.begin());
         insert(table(database), recipient(table(database), name));
@@ -74,6 +75,39 @@ TEST_F(LockTest, SecondWriterIsRefusedAfterABoundedWait) {
     EXPECT_TRUE(outcome.status().text().contains(QStringLiteral("in uso")));
     other.finish();
     DatabasePtr database = open(path(), hasty());
+    EXPECT_OK(database->begin());
+    database->rollback();
+}
+
+TEST_F(LockTest, WaitThatIsGivenUpEndsAtOnce) {
+    OtherProcess other([&](auto pause) {
+        DatabasePtr database = open(path());
+        if (!database->begin().ok()) ::_exit(1);
+        pause();
+    });
+    int asked = 0;
+    std::chrono::milliseconds last{0};
+    const LockWait patient{.limit = std::nullopt, .goOn = [&](std::chrono::milliseconds waited) {
+                               EXPECT_GE(waited, last);
+                               last = waited;
+                               return ++asked < 5;
+                           }};
+    DatabasePtr database;
+    EXPECT_FAILS(ErrorCode::FileInUse, Database::open(path(), {.lockWait = patient}));
+    EXPECT_EQ(asked, 5);
+    other.finish();
+    database = open(path(), hasty());
+    OtherProcess another([&](auto pause) {
+        DatabasePtr mine = open(path());
+        if (!mine->begin().ok()) ::_exit(1);
+        pause();
+    });
+    asked = 0;
+    last = {};
+    database->setLockWait(patient);
+    EXPECT_FAILS(ErrorCode::FileInUse, database->begin());
+    EXPECT_EQ(asked, 5);
+    another.finish();
     EXPECT_OK(database->begin());
     database->rollback();
 }

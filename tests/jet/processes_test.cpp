@@ -124,7 +124,7 @@ TEST_F(ProcessesTest, EveryStatementOfEveryWriterIsThereAtTheEnd) {
     runAll(writers, [&](int number) {
         for (int i = 0; i < rows; ++i) {
             // Opened anew each time, as by programs that come and go.
-            auto database = Database::open(path(), {.lockWaitMs = 30000});
+            auto database = Database::open(path(), {.lockWait = {.limit = std::chrono::seconds(30)}});
             if (!database.ok() || !database.value()->begin().ok()) return 1;
             Table& t = table(*database.value());
             if (!t.insert(recipient(t, std::to_string(number) + "/" + std::to_string(i))).ok()) return 2;

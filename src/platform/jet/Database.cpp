@@ -21,7 +21,7 @@ const std::vector<CatalogEntry>& currentCatalog(Engine& engine) {
 
 Engine::Engine(std::string filePath, const Database::Options& options)
     : path(std::move(filePath)),
-      file(path, options.readOnly, {options.cachedPages, options.cachedPages, options.lockWaitMs}) {}
+      file(path, options.readOnly, {options.cachedPages, options.cachedPages, options.lockWait}) {}
 
 Database::Database(std::unique_ptr<Engine> engine) : m_engine(std::move(engine)) {}
 
@@ -87,6 +87,10 @@ Result<bool> Database::refresh() {
         m_engine->tables.clear();
         return true;
     });
+}
+
+void Database::setLockWait(LockWait wait) {
+    m_engine->file.setLockWait(std::move(wait));
 }
 
 Status Database::begin() {

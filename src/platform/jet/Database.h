@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/jet/LockWait.h"
 #include "platform/jet/TableDefinition.h"
 #include "platform/jet/Value.h"
 #include "platform/PlainStatus.h"
@@ -136,7 +137,7 @@ class Database {
     struct Options {
         std::string password = {};  ///< in UTF-8
         bool readOnly = false;
-        int lockWaitMs = 5000;      ///< longest wait for another process
+        LockWait lockWait = {};     ///< for another process, while opening and until setLockWait()
         size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides
     };
 
@@ -160,6 +161,9 @@ class Database {
     /// Makes sure that what is cached agrees with the file. The value is true when the file had been changed
     /// from outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
     Result<bool> refresh();
+
+    /// How the calls that follow wait for another process.
+    void setLockWait(LockWait wait);
 
     /// Starts a transaction: takes the write lock (bounded wait). The rollback journal is opened with the
     /// first change; nothing is written to the file before it is synced. Refused (FileInUse) as well while

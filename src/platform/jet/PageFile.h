@@ -7,6 +7,7 @@
 #include "platform/jet/Format.h"
 #include "platform/jet/Header.h"
 #include "platform/jet/Journal.h"
+#include "platform/jet/LockWait.h"
 #include "platform/jet/OsFile.h"
 
 namespace jet {
@@ -23,7 +24,7 @@ class PageFile {
     struct Limits {
         size_t cachedPages = 8192;
         size_t changedPages = 8192;  ///< more are written ahead of the commit
-        int lockWaitMs = 5000;
+        LockWait lockWait = {};
     };
 
     /// Opens the file, rolls a journal back, checks page 0.
@@ -39,6 +40,7 @@ class PageFile {
     /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
     uint64_t generation() const { return m_generation; }
     uint32_t pageCount() const { return m_pageCount; }
+    void setLockWait(LockWait wait) { m_limits.lockWait = std::move(wait); }
 
     /// Reading happens between these two; they may be nested.
     void beginRead();

@@ -1,17 +1,10 @@
 // The locks of a PageFile: other processes are kept out, what a dead one left is rolled back.
-#include <chrono>
-#include <thread>
-
 #include "platform/jet/Failure.h"
 #include "platform/jet/PageFile.h"
 
 namespace jet {
 
 namespace {
-
-// Between two looks at a lock that others hold. Busy writers leave it free for moments only, so whoever looks
-// seldom may not get it at all.
-constexpr std::chrono::milliseconds longestPause{4};
 
 // NAME.ldb beside NAME.mdb: made by other programs while they have the database open.
 std::string foreignLockFile(const std::string& path) {
@@ -25,17 +18,11 @@ std::string foreignLockFile(const std::string& path) {
 
 // A writer closes the gate first, so that it does not wait for ever while others come and go to read.
 void PageFile::lock(OsFile& file, OsFile::Lock kind) const {
-    using Clock = std::chrono::steady_clock;
     using Lock = OsFile::Lock;
     using Range = OsFile::Range;
-    const auto deadline = Clock::now() + std::chrono::milliseconds(m_limits.lockWaitMs);
     const auto until = [&](const auto& attempt) {
-        for (auto pause = std::chrono::milliseconds(1); !attempt();
-             pause = std::min(pause * 2, longestPause)) {
-            if (Clock::now() >= deadline)
-                fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
-            std::this_thread::sleep_for(pause);
-        }
+        if (!waitFor(m_limits.lockWait, attempt))
+            fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
     };
     if (kind == Lock::Exclusive) {
         until([&] { return file.tryLock(kind, Range::Gate); });
