@@ -44,7 +44,7 @@ class TestFrmInviaFerma : public QObject {
         });
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
-        QCOMPARE(stage.smtp().ToAddress, "a@x.it");
+        QCOMPARE(stage.smtp().ToAddress.text(), "a@x.it");
         QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
     }
 

@@ -95,7 +95,7 @@ class TestFrmInviaRighe : public QObject {
     void addressIsHandedOverAsItStands() {
         SendStage stage({"  a@x.it ", "Rossi <b@x.it>"});
         QStringList handed;
-        const auto note = [&] { handed << stage.smtp().ToAddress; };
+        const auto note = [&] { handed << stage.smtp().ToAddress.text(); };
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, note);
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError, note);
         QVERIFY(stage.run());
@@ -144,7 +144,7 @@ class TestFrmInviaRighe : public QObject {
             {{"rgs", ""}, {"nom", QString()}, {"email", QString()}, {"ind", "Via Roma"}}});
         // The Null address sorts in front of the other.
         QList<std::pair<QString, QString>> handed;
-        const auto note = [&] { handed.append({stage.smtp().ToName, stage.smtp().ToAddress}); };
+        const auto note = [&] { handed.append({stage.smtp().ToName, stage.smtp().ToAddress.text()}); };
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, note);
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError, note);
         stage.smtp().ToName = "Prima";

@@ -45,13 +45,17 @@ void DeliveryControl::Send() {
     m_running = true;
     m_insideSend = true;
     m_clock.start();
-    m_recipient = ToAddress.left(longestShown);
+    const bool addressIsFresh = ToAddress.useUp();
+    m_current = {DatabaseFile::at(Database), RecipientNumber, ToAddress.text()};
+    m_recipient = ToAddress.text().left(longestShown);
     m_messageId.clear();
     m_transcript.setFile(LogEnabled ? LogFile : QString());
 
     const QString host = connectableHost(ServerName);
     logStart(host);
-    if (host.isEmpty()) {
+    if (const QString why = whyNotSent(addressIsFresh); !why.isEmpty()) {
+        finish({false, 0, why});
+    } else if (host.isEmpty()) {
         finish({false, 0, whyNoHost()});
     } else if (ServerPort == 0) {
         finish({false, 0, QStringLiteral("La porta del server non è valida.")});
@@ -67,6 +71,48 @@ void DeliveryControl::Send() {
         }
     }
     m_insideSend = false;
+}
+
+/// Empty: it may be sent.
+QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
+    if (RecipientNumber == recipient::outsideRun) return {};
+    if (RecipientNumber == recipient::nobody)
+        return QStringLiteral("Il destinatario non è stato letto: nessun invio.");
+    if (m_stopped) return QStringLiteral("L'invio è stato fermato: nessun invio fino al prossimo avvio.");
+    if (!addressIsFresh)
+        return QStringLiteral("L'indirizzo del destinatario non è stato letto: nessun invio.");
+    if (m_acceptedInRun.contains({Database, RecipientNumber}))
+        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato in questo invio.");
+    if (!Accepted) return {};
+    if (Accepted->holds(m_current.database, m_current.number, m_current.address))
+        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato.");
+    if (Accepted->room() < 1) return QStringLiteral("Non c'è più spazio per ricordare i messaggi accettati.");
+    return {};
+}
+
+void DeliveryControl::noteAccepted(const Recipient& accepted) {
+    if (accepted.number == recipient::outsideRun) return;
+    m_acceptedInRun.insert({accepted.database.path, accepted.number});
+    if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
+}
+
+void DeliveryControl::BeginRun() {
+    m_stopped = false;
+    m_runIsNew = true;
+}
+
+void DeliveryControl::BeginTick() {
+    if (std::exchange(m_runIsNew, false)) m_acceptedInRun.clear();
+}
+
+void DeliveryControl::Marked(qint64 number) {
+    if (Accepted) Accepted->remove(DatabaseFile::at(Database), number);
+}
+
+void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbers) {
+    const DatabaseFile file = DatabaseFile::at(database);
+    for (const qint64 number : numbers)
+        if (Accepted) Accepted->remove(file, number);
 }
 
 QString DeliveryControl::whyNoHost() const {
@@ -96,6 +142,7 @@ MessageData DeliveryControl::data() const {
 }
 
 void DeliveryControl::Abort() {
+    m_stopped = true;
     if (!m_running) return;
     m_session.abandon();
     m_deferred.stop();
@@ -114,6 +161,7 @@ void DeliveryControl::finish(const DeliveryOutcome& outcome) {
 void DeliveryControl::report() {
     const DeliveryOutcome outcome = std::exchange(m_outcome, {});
     m_running = false;
+    if (outcome.delivered) noteAccepted(m_current);
     log(QStringLiteral("%1: %2").arg(
         outcome.delivered ? QStringLiteral("consegnato") : QStringLiteral("non consegnato"),
         (outcome.code ? QString::number(outcome.code) + u' ' : QString()) +

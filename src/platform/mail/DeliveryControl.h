@@ -1,11 +1,16 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QList>
 #include <QObject>
+#include <QPair>
+#include <QSet>
 #include <QString>
 #include <QTimer>
 
+#include "platform/mail/AcceptedList.h"
 #include "platform/mail/Composer.h"
+#include "platform/mail/RecipientNumber.h"
 #include "platform/mail/Route.h"
 #include "platform/mail/SmtpSession.h"
 #include "platform/mail/Transcript.h"
@@ -27,6 +32,11 @@ class AttachmentList {
 /// Composes and delivers one message at a time over SMTP. The caller sets the fields, calls Send and waits
 /// for one of the two signals; fields keep their values between messages.
 ///
+/// A message may bear the number of its recipient's row. Such a message is sent at most once in a run, never
+/// for nobody and never after a stop; what was accepted is remembered in the list of accepted messages before
+/// SendDone is emitted. The caller says where a run and where each of its ticks begins, sets Database,
+/// ToAddress and RecipientNumber before each Send, and calls Marked() once the row is marked.
+///
 /// Everything runs on the caller's event loop. The connection is kept between messages with the same route
 /// and closed when nothing was sent for 30 seconds.
 class DeliveryControl : public QObject {
@@ -46,7 +56,14 @@ class DeliveryControl : public QObject {
     qint32 BodyFormat = 1;    ///< kept, without effect: there are always both a text and an HTML part
     qint32 Priority = 3;      ///< 1 high, 3 normal, 5 low
     QString Subject;
-    QString ToAddress;  ///< one plain addr-spec
+    AssignedText ToAddress;  ///< one plain addr-spec; with a number it has to be assigned for each Send
+    /// A row's number of Database, or one of the values of `recipient`. A message with a row's number fails
+    /// without a server where the number is `nobody`, where ToAddress was not assigned since the last Send,
+    /// after Abort until BeginRun, where one was accepted for it in this run, where number and address stand
+    /// in the list of accepted messages, and where that list has no room left.
+    qint64 RecipientNumber = recipient::outsideRun;
+    QString Database;                  ///< path of the file that RecipientNumber is a row of
+    AcceptedList* Accepted = nullptr;  ///< not owned, outlives the control; null: nothing is remembered
     QString ToName;
     QString FromName;
     QString FromAddress;
@@ -61,12 +78,24 @@ class DeliveryControl : public QObject {
     QString CertificateFolder;      ///< see Route
     QString DkimFolder;             ///< see DkimSigner
 
+    /// A new run: messages with a number may be sent again after an Abort. What was accepted counts for the
+    /// run before until a tick begins: a tick that is under way has read its row already.
+    void BeginRun();
+    /// A tick begins: from here on its row is read.
+    void BeginTick();
+    /// The row of Database is marked as served: the list of accepted messages forgets it.
+    void Marked(qint64 number);
+    /// The user chose these rows anew: neither the list of accepted messages nor a reply that is still
+    /// awaited counts for them any more.
+    void Forget(const QString& database, const QList<qint64>& numbers);
+
     /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
     /// SendDone and SendError follows, from the event loop, never from within this call. A message that is
     /// still under way is dropped without any signal.
     void Send();
 
-    /// Ends a running delivery with SendError before it returns; does nothing when none runs.
+    /// Ends a running delivery with SendError before it returns. From here until BeginRun a message with a
+    /// number is not sent.
     void Abort();
 
   Q_SIGNALS:
@@ -77,6 +106,16 @@ class DeliveryControl : public QObject {
     void SendError(int code, const QString& text);
 
   private:
+    /// Whom a message with a number is for.
+    struct Recipient {
+        DatabaseFile database;
+        qint64 number = recipient::outsideRun;
+        QString address;
+    };
+    using RunKey = QPair<QString, qint64>;  ///< path of the database, number
+
+    QString whyNotSent(bool addressIsFresh) const;
+    void noteAccepted(const Recipient& accepted);
     MessageData data() const;
     QString whyNoHost() const;
     void finish(const DeliveryOutcome& outcome);
@@ -89,6 +128,10 @@ class DeliveryControl : public QObject {
     Composer m_composer;
     SmtpSession m_session;
     bool m_running = false;
+    bool m_stopped = false;   ///< since an Abort
+    bool m_runIsNew = false;  ///< since BeginRun no tick has begun
+    QSet<RunKey> m_acceptedInRun;
+    Recipient m_current;
     bool m_insideSend = false;
     DeliveryOutcome m_outcome;
     QByteArray m_messageId;
