@@ -228,6 +228,28 @@ QByteArray unsubscribeOf(const QString& html) {
     return header(data, "List-Unsubscribe");
 }
 
+std::string listIdOf(const QString& sender) {
+    auto message = plainMessage();
+    message.fromAddress = sender;
+    const QByteArray data = wire(message);
+    EXPECT_EQ(complaintAbout(data).toStdString(), "");
+    const auto found = headers(data, "List-Id");
+    return found.empty() ? std::string() : found.front().toStdString();
+}
+
+TEST(ComposeHeaders, ListIsNamedAfterTheSender) {
+    EXPECT_EQ(listIdOf("info@orto.example"), "<info.orto.example>");
+    EXPECT_EQ(listIdOf("o'neil+news.letter@orto.example"), "<o'neil+news.letter.orto.example>");
+    EXPECT_EQ(listIdOf("\"a b.\"@orto.example"), "<a%20b%2E.orto.example>");
+    EXPECT_EQ(listIdOf(QStringLiteral("niccolò@caffè.example")), "<niccol%C3%B2.xn--caff-8oa.example>");
+}
+
+TEST(ComposeHeaders, ListHasNoNameWhereTheSenderHasNoDomainOrTooLongOne) {
+    EXPECT_EQ(listIdOf("info@[192.0.2.1]"), "");
+    EXPECT_EQ(listIdOf(QStringLiteral("è").repeated(90) + "@orto.example"), "");
+    EXPECT_EQ(listIdOf("\"\"@orto.example"), "");
+}
+
 TEST(ComposeHeaders, UnsubscribingIsAMailToTheSender) {
     EXPECT_EQ(unsubscribeOf("<a href='http://x.it'>x</a>"), "<mailto:info@orto.example?subject=unsubscribe>");
     auto message = plainMessage();

@@ -85,9 +85,11 @@ class Reader {
         return headers;
     }
 
-    // 78 octets, unless what stands there cannot be parted: a link, an address or a word of its quoted part
+    // 78 octets, unless what stands there cannot be parted: a link, a name, an address or a word of its
+    // quoted part
     void checkFolding(const QByteArray& header, const QByteArray& text, const QByteArray& line) {
-        const bool ofAddress = header == "from" || header == "to" || text.contains('@');
+        const bool ofAddress =
+            header == "from" || header == "to" || header == "list-id" || text.contains('@');
         const bool unbreakable = !text.contains(' ') && (ofAddress || text.contains("://"));
         if (line.size() > 78 && !unbreakable) complain("header line of more than 78 octets: " + line);
     }
@@ -96,8 +98,8 @@ class Reader {
         static const QByteArrayList necessary = {
             "from",       "to",           "subject",      "date",
             "message-id", "mime-version", "content-type", "list-unsubscribe"};
-        static const QByteArrayList possible = {"content-transfer-encoding", "x-priority", "priority",
-                                                "importance", "dkim-signature"};
+        static const QByteArrayList possible = {
+            "content-transfer-encoding", "x-priority", "priority", "importance", "dkim-signature", "list-id"};
         QMap<QByteArray, int> count;
         for (const auto& header : m_message.headers) {
             if (++count[header.first] > 1) complain("twice " + header.first);
@@ -130,6 +132,12 @@ class Reader {
         const QByteArray unsubscribe = valueOf(m_message.headers, "list-unsubscribe");
         if (!matches("<(mailto:[!-;=?-~]+@[!-;=?-~]+|https?://[!-;=?-~]+)>", unsubscribe))
             complain("list-unsubscribe " + unsubscribe);
+        // RFC 2919 3: labels of a dot-atom
+        const QByteArray listId = valueOf(m_message.headers, "list-id");
+        if (!listId.isEmpty() &&
+            (!matches("<[^\\s\"(),:;<>@.\\[\\]\\\\]+(\\.[^\\s\"(),:;<>@.\\[\\]\\\\]+)+>", listId) ||
+             listId.size() > 255))
+            complain("list-id " + listId);
     }
 
     // One mailbox: a phrase and an address in angle brackets, or the address alone (RFC 5322 3.4)

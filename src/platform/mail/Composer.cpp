@@ -8,6 +8,7 @@
 #include "platform/mail/HeaderText.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/Identity.h"
+#include "platform/mail/ListId.h"
 #include "platform/mail/LocalImages.h"
 #include "platform/mail/Unsubscribe.h"
 #include "platform/system/Clock.h"
@@ -105,6 +106,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     out += foldedHeader("Message-ID", composed.messageId);
     out +=
         foldedHeader("List-Unsubscribe", '<' + unsubscribeLink(message.unsubscribeLink, from.value()) + '>');
+    if (const QByteArray id = listId(from.value()); !id.isEmpty()) out += foldedHeader("List-Id", id);
     appendPriority(out, message.priority);
     out += "MIME-Version: 1.0\r\n";
     appendBody(composed.text, body, word);

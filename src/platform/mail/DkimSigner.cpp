@@ -32,12 +32,36 @@ unsigned char* bytes(QByteArrayView text) {
 
 std::unique_ptr<DKIM_LIB, CloseLibrary> openLibrary() {
     std::unique_ptr<DKIM_LIB, CloseLibrary> library(dkim_init(nullptr, nullptr));
-    const char* names[] = {"From",         "To",           "Subject",          "Date", "Message-ID",
-                           "MIME-Version", "Content-Type", "List-Unsubscribe", nullptr};
-    if (library)
-        dkim_options(library.get(), DKIM_OP_SETOPT, DKIM_OPTS_SIGNHDRS, static_cast<void*>(names),
-                     sizeof names);
-    return library;
+    const char* covered[] = {"From",
+                             "To",
+                             "Subject",
+                             "Date",
+                             "Message-ID",
+                             "MIME-Version",
+                             "Content-Type",
+                             "List-Unsubscribe",
+                             "List-Unsubscribe-Post",
+                             "List-Id",
+                             nullptr};
+    const char* closed[] = {"From",
+                            "To",
+                            "Cc",
+                            "Reply-To",
+                            "Subject",
+                            "Date",
+                            "Message-ID",
+                            "MIME-Version",
+                            "Content-Type",
+                            "List-Unsubscribe",
+                            "List-Unsubscribe-Post",
+                            nullptr};
+    // The size is that of the pointer; the list ends with a null.
+    const auto set = [&](dkim_opts_t option, const char** names) {
+        return dkim_options(library.get(), DKIM_OP_SETOPT, option, static_cast<void*>(names), sizeof names) ==
+               DKIM_STAT_OK;
+    };
+    if (library && set(DKIM_OPTS_SIGNHDRS, covered) && set(DKIM_OPTS_OVERSIGNHDRS, closed)) return library;
+    return {};
 }
 
 Status unusable(const QString& why) {

@@ -10,7 +10,9 @@
 namespace mail {
 
 /// Signs messages for the sender's domain (RFC 6376): relaxed/relaxed, RSA with SHA-256, over From, To,
-/// Subject, Date, Message-ID, MIME-Version, Content-Type, List-Unsubscribe and the whole body.
+/// Subject, Date, Message-ID, MIME-Version, Content-Type, List-Unsubscribe, List-Unsubscribe-Post, List-Id
+/// and the whole body. Each of these but List-Id, and Cc and Reply-To, is named once more than it occurs, so
+/// that none can be put in front of a signed message (RFC 6376 8.15).
 ///
 /// The key is a PEM file `<domain>.pem` of RSA with at least 2048 bits, the selector the one word in
 /// `<domain>.selector` beside it; the domain in lower case and as A-labels. They are read again when their
