@@ -176,8 +176,8 @@ TEST(Key, LongsSortBySignAndValue) {
     EXPECT_LT(longKey(-5), longKey(-4));
     EXPECT_LT(longKey(-1), longKey(0));
     for (int32_t value : {INT32_MIN, -1, 0, 1, INT32_MAX})
-        EXPECT_EQ(longOfKey(longKey(value)), value);
-    EXPECT_EQ(longOfKey(Bytes{0}), std::nullopt);
+        EXPECT_EQ(longAtStart(longKey(value), true), value);
+    EXPECT_EQ(longAtStart(Bytes{0}, true), std::nullopt);
 }
 
 TEST(ValueCodec, EachTypeRoundTrips) {

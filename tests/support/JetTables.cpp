@@ -59,10 +59,10 @@ ColumnPlan plan(const Column& column, uint16_t number, uint16_t& variables, uint
                     column.type,
                     number,
                     variables,
-                    static_cast<uint8_t>(fixed ? 0x03 : 0x02),
+                    static_cast<uint8_t>((fixed ? 0x03 : 0x02) | (column.autoNumber ? 0x04 : 0)),
                     fixed && column.type != Type::YesNo ? offset : uint16_t{0},
                     length,
-                    static_cast<uint8_t>(column.type == Type::Text),
+                    static_cast<uint8_t>(column.type == Type::Text || column.type == Type::Memo),
                     number};
     if (fixed)
         offset = static_cast<uint16_t>(offset + length);
@@ -214,6 +214,13 @@ void addRow(const std::string& path, const std::string& name, const std::vector<
         for (size_t i = 0; i < values.size(); ++i)
             row.set(table.columns[i], values[i]);
         addRowTo(file, table, row);
+    });
+}
+
+void setCounter(const std::string& path, const std::string& name, int32_t last) {
+    change(path, [&](PageFile& file) {
+        const uint32_t page = entryOf(file, name).definitionPage;
+        store32(&file.change(page)[definition::autoNumber], static_cast<uint32_t>(last));
     });
 }
 

@@ -14,6 +14,7 @@ struct Column {
     std::string name;
     jet::Type type;
     uint16_t length = 0;  ///< text: characters; binary: bytes
+    bool autoNumber = false;
 };
 
 struct Index {
@@ -28,6 +29,9 @@ void addTable(const std::string& file, const std::string& name, const std::vecto
 
 /// Adds a row and its index entries without asking whether the engine would.
 void addRow(const std::string& file, const std::string& name, const std::vector<jet::Value>& values);
+
+/// Sets the last auto-number that the table's definition tells.
+void setCounter(const std::string& file, const std::string& name, int32_t last);
 
 /// Sets the property list (LvProp) of a table.
 void setProperties(const std::string& file, const std::string& name, const jet::Bytes& list);

@@ -41,9 +41,9 @@ struct TableState {
     TableDefinition definition;
     uint64_t generation;
     RowStore rows;
-    bool autoNumberChecked = false;  ///< the counter is not below the greatest key
-    std::set<size_t> provedIndexes;  ///< their entries were held against their rows
-    PagePtr borrowed;                ///< page of the row that row() handed out
+    std::optional<int32_t> greatestNumber;  ///< in use when `generation` was first seen; see AutoNumber.h
+    std::set<size_t> provedIndexes;         ///< their entries were held against their rows
+    PagePtr borrowed;                       ///< page of the row that row() handed out
 };
 
 }  // namespace jet

@@ -118,6 +118,12 @@ IndexPage IndexTree::edgeLeaf(bool last) const {
     failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
+std::optional<Bytes> IndexTree::firstKey() const {
+    const IndexPage leaf = edgeLeaf(false);
+    if (leaf.count() == 0) return std::nullopt;
+    return keyIn(leaf.keyAndRow(0));
+}
+
 std::optional<Bytes> IndexTree::lastKey() const {
     const IndexPage leaf = edgeLeaf(true);
     if (leaf.count() == 0) return std::nullopt;

@@ -26,7 +26,8 @@ class IndexTree {
 
     /// Row of the first entry with exactly that key.
     std::optional<RowId> find(std::span<const uint8_t> key) const;
-    /// Greatest key of the index.
+    /// Least and greatest key of the index.
+    std::optional<Bytes> firstKey() const;
     std::optional<Bytes> lastKey() const;
     void insert(std::span<const uint8_t> key, RowId row);
     /// Takes an entry out; false when it is not there.

@@ -215,9 +215,10 @@ Bytes longKey(int32_t value) {
     return key;
 }
 
-std::optional<int32_t> longOfKey(const Bytes& key) {
-    if (key.size() != 5 || key[0] != 0x7F) return std::nullopt;
-    return static_cast<int32_t>(load32Big(&key[1]) ^ 0x80000000u);
+std::optional<int32_t> longAtStart(const Bytes& key, bool ascending) {
+    if (key.size() < 5 || key[0] != (ascending ? 0x7F : 0x80)) return std::nullopt;
+    const uint32_t bits = load32Big(&key[1]) ^ 0x80000000u;
+    return static_cast<int32_t>(ascending ? bits : ~bits);
 }
 
 }  // namespace jet

@@ -42,8 +42,9 @@ size_t countNulls(const TableDefinition& definition, const Index& index, const F
 /// Whether the row has an entry in the index.
 bool isIndexed(const TableDefinition& definition, const Index& index, const FieldOf& field);
 
-/// Key of an ascending long, and its value; nothing for Null or another key.
+/// Key of an ascending long.
 Bytes longKey(int32_t value);
-std::optional<int32_t> longOfKey(const Bytes& key);
+/// The long that a key begins with; nothing for Null or another key.
+std::optional<int32_t> longAtStart(const Bytes& key, bool ascending);
 
 }  // namespace jet

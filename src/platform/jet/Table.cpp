@@ -36,7 +36,7 @@ void TableState::ensureCurrent() {
              "\" è stata cambiata da un altro programma.");
     generation = file.generation();
     rows.forget();
-    autoNumberChecked = false;
+    greatestNumber.reset();
     provedIndexes.clear();
 }
 

@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <limits>
 
+#include "platform/jet/AutoNumber.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexTree.h"
 #include "platform/jet/LongValue.h"
@@ -54,36 +54,6 @@ LongRows longRowsOf(const TableState& state, const Row& row) {
         if (!field.null) all.emplace_back(&column, longValueRows(state.file, field.bytes));
     }
     return all;
-}
-
-const Column* autoNumberColumn(const TableDefinition& table) {
-    for (const Column& column : table.columns)
-        if (column.autoNumber && column.type == Type::Long) return &column;
-    return nullptr;
-}
-
-// The counter in the definition was seen below the greatest number in use: then that one counts.
-int32_t lastAutoNumber(TableState& state) {
-    const int32_t stored = state.lastAutoNumber();
-    if (state.autoNumberChecked) return stored;
-    state.autoNumberChecked = true;
-    const std::optional<size_t> primary = state.definition.longPrimaryKey();
-    if (!primary || !state.definition.columns[*primary].autoNumber) return stored;
-    for (const Index& index : state.definition.indexes) {
-        if (!index.primaryKey) continue;
-        const std::optional<Bytes> last = IndexTree(state.file, state.definition, index).lastKey();
-        const std::optional<int32_t> greatest = last ? longOfKey(*last) : std::nullopt;
-        if (greatest && *greatest > stored) return *greatest;
-    }
-    return stored;
-}
-
-int32_t nextAutoNumber(TableState& state) {
-    const int32_t last = lastAutoNumber(state);
-    if (last == std::numeric_limits<int32_t>::max())
-        fail(ErrorCode::Overflow, "Il contatore della tabella \"", state.definition.name, "\" è esaurito.");
-    state.setAutoNumber(last + 1);
-    return last + 1;
 }
 
 // Runs the part of a change that writes. When it fails half the change may stand, so the transaction is lost.
@@ -157,11 +127,8 @@ Result<int32_t> Table::takeAutoNumber() {
             m_state->ensureCurrent();
             requireWritableTable(*m_state);
             requireTransaction(*m_state);
-            if (!autoNumberColumn(m_state->definition))
-                fail(ErrorCode::NotSupported, "La tabella \"", m_state->definition.name,
-                     "\" non ha un contatore.");
-            int32_t number = 0;
-            apply(*m_state, [&] { number = nextAutoNumber(*m_state); });
+            const int32_t number = nextAutoNumber(*m_state);
+            apply(*m_state, [&] { m_state->setAutoNumber(number); });
             if (own) m_state->file.commit();
             return number;
         } catch (const Failure&) {
@@ -184,8 +151,7 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         for (size_t i = 0; i < values.size(); ++i)
             row.set(table.columns[i], values[i]);
         const Column* counter = autoNumberColumn(table);
-        const bool counted = counter && row.isNull(*counter);
-        if (counted) row.set(*counter, int64_t{lastAutoNumber(*m_state)} + 1);
+        if (counter && row.isNull(*counter)) row.set(*counter, int64_t{nextAutoNumber(*m_state)});
         for (const Column& column : table.columns)
             requireAllowed(column, row);
         std::vector<Bytes> keys;
@@ -197,9 +163,7 @@ Result<RowId> Table::insert(std::span<const Value> values) {
 
         RowId id;
         apply(*m_state, [&] {
-            if (counted)
-                nextAutoNumber(*m_state);
-            else if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
+            if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
                 m_state->setAutoNumber(*row.longValue(*counter));
             id = m_state->rows.insert(bytes);
             for (size_t i = 0; i < keys.size(); ++i)
