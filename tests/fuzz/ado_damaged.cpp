@@ -102,11 +102,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (open.open(connection()).ok()) {
         ado::Catalog catalog;
         catalog.setActiveConnection(open);
-        if (const auto tables = catalog.tables(); tables.ok())
+        if (const auto tables = catalog.tables(); tables.ok()) {
             for (const auto& table : tables.value())
                 if (const auto columns = catalog.columns(table.name);
                     columns.ok() && !columns.value().empty())
                     tryTable(table.name, columns.value());
+            // Once more, after those that were refused.
+            for (const auto& table : tables.value())
+                readAll(QStringLiteral("SELECT * FROM [%1]").arg(table.name));
+        }
     }
     ado::closeAll();
     mutated::removeFiles();

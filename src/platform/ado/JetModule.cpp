@@ -72,9 +72,14 @@ const char* declaredType(Type type) {
     }
 }
 
-int connect(sqlite3* sqlite, void* client, int, const char* const*, sqlite3_vtab** result, char**) {
+/// SQLite connects a table when it is declared, and again whenever it has dropped what it knew, as after a
+/// declaration that failed; `arguments` are the module, the database and the table by name.
+int connect(sqlite3* sqlite, void* client, int count, const char* const* arguments, sqlite3_vtab** result,
+            char**) {
+    constexpr int tableName = 2;
     auto& session = *static_cast<Session*>(client);
-    JetTable* rows = session.declaring();
+    JetTable* rows = count > tableName ? session.declared(arguments[tableName]) : nullptr;
+    if (!rows) return SQLITE_ERROR;
     std::string declaration = "CREATE TABLE t(";
     for (const jet::Column& column : rows->definition().columns) {
         if (!declaration.ends_with('(')) declaration += ',';

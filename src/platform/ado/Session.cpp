@@ -32,6 +32,10 @@ std::vector<PoolEntry>& pool() {
     return entries;
 }
 
+std::string tableKey(const QString& name) {
+    return name.toLower().toStdString();
+}
+
 int compareTexts(void*, int leftSize, const void* left, int rightSize, const void* right) {
     return jet::compareGeneral({static_cast<const char*>(left), static_cast<size_t>(leftSize)},
                                {static_cast<const char*>(right), static_cast<size_t>(rightSize)});
@@ -155,29 +159,40 @@ void Session::forget() {
 }
 
 Result<JetTable*> Session::table(const QString& name) {
-    const std::string key = name.toLower().toStdString();
-    if (const auto known = m_tables.find(key); known != m_tables.end()) return known->second.get();
+    const auto known = [this](const std::string& key) {
+        const auto entry = m_tables.find(key);
+        return entry != m_tables.end() ? entry->second.get() : nullptr;
+    };
+    if (JetTable* table = known(tableKey(name))) return table;
     const Result<jet::Table*> found = m_database->table(name.toStdString());
     if (!found.ok()) return found.status();
+    const std::string key = tableKey(QString::fromStdString(found.value()->definition().name));
+    if (JetTable* table = known(key)) return table;
     // Some of the system's own are marked by nothing but their name.
     if (found.value()->definition().system || name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
         return Status(ErrorCode::NotSupported,
                       QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
-    auto table = std::make_unique<JetTable>(*m_database, *found.value());
-    if (Status status = declare(*table); !status.ok()) return status;
-    return (m_tables[key] = std::move(table)).get();
+    const auto entry = m_tables.emplace(key, std::make_unique<JetTable>(*m_database, *found.value())).first;
+    if (Status status = declare(*entry->second); !status.ok()) {
+        m_tables.erase(entry);
+        return status;
+    }
+    return entry->second.get();
 }
 
 Status Session::declare(JetTable& table) {
     const std::string declaration =
         "CREATE VIRTUAL TABLE " + quotedName(table.definition().name) + " USING jet";
-    m_declaring = &table;
     const int code = sqlite3_exec(m_sqlite, declaration.c_str(), nullptr, nullptr, nullptr);
-    m_declaring = nullptr;
     if (code == SQLITE_OK) return {};
     return {ErrorCode::NotSupported,
             QStringLiteral("La tabella \"%1\" non può essere usata nelle istruzioni SQL.")
                 .arg(QString::fromStdString(table.definition().name))};
+}
+
+JetTable* Session::declared(const char* name) const {
+    const auto entry = m_tables.find(tableKey(QString::fromUtf8(name)));
+    return entry != m_tables.end() ? entry->second.get() : nullptr;
 }
 
 int Session::authorize(void* client, int action, const char* first, const char* second, const char* database,
@@ -190,8 +205,7 @@ int Session::authorize(void* client, int action, const char* first, const char* 
         case SQLITE_INSERT:
         case SQLITE_UPDATE:
         case SQLITE_DELETE: {
-            const std::string name = QString::fromUtf8(first).toLower().toStdString();
-            return (!database || std::string_view(database) == "main") && session.m_tables.count(name) != 0
+            return (!database || std::string_view(database) == "main") && session.declared(first)
                        ? SQLITE_OK
                        : SQLITE_DENY;
         }

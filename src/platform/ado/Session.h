@@ -68,7 +68,7 @@ class Session {
     Status takeFailure();
 
     /// For the callbacks of the virtual tables.
-    JetTable* declaring() const { return m_declaring; }
+    JetTable* declared(const char* name) const;
     void countChange() { ++m_changes; }
     qint64 takeChanges() { return std::exchange(m_changes, 0); }
     sqlite3* sqlite() const { return m_sqlite; }
@@ -89,10 +89,9 @@ class Session {
 
     std::unique_ptr<jet::Database> m_database;
     sqlite3* m_sqlite = nullptr;
-    std::map<std::string, std::unique_ptr<JetTable>> m_tables;  ///< by lower-case name
+    std::map<std::string, std::unique_ptr<JetTable>> m_tables;  ///< by lower-case name in the catalogue
     std::vector<std::pair<QByteArray, sqlite3_stmt*>> m_idle;   ///< compiled; the one used last is the last
     std::vector<Rows*> m_readers;
-    JetTable* m_declaring = nullptr;
     Status m_failure;
     qint64 m_changes = 0;
     GroupProgress* m_group = nullptr;  ///< of the open group

@@ -19,6 +19,9 @@ constexpr size_t maxDefinitionPages = 64;
 constexpr size_t mostColumns = 255;
 constexpr size_t mostIndexes = 64;
 
+// Access allows names of 64 characters.
+constexpr size_t mostNameUnits = 64;
+
 // Bounds-checked reading of a definition from left to right.
 class Cursor {
   public:
@@ -82,6 +85,31 @@ Index parseIndex(const uint8_t* p) {
     return index;
 }
 
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
+// A name that can be asked for: not empty, not too long, without control characters.
+void requireName(const std::string& name, uint32_t page) {
+    if (name.empty() || toUtf16(name).size() > mostNameUnits ||
+        std::any_of(name.begin(), name.end(), isControl))
+        failDamaged("un nome nella definizione della tabella a pagina ", page, " non è valido");
+}
+
+void requireColumnNames(const std::vector<Column>& columns, uint32_t page) {
+    std::vector<std::string_view> names;
+    for (const Column& column : columns) {
+        requireName(column.name, page);
+        names.push_back(column.name);
+    }
+    std::sort(names.begin(), names.end(),
+              [](std::string_view a, std::string_view b) { return compareNames(a, b) < 0; });
+    const auto twice = std::adjacent_find(names.begin(), names.end(), sameName);
+    if (twice != names.end())
+        failDamaged("la definizione della tabella a pagina ", page, " ha due campi con il nome \"", *twice,
+                    "\"");
+}
+
 }  // namespace
 
 std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
@@ -131,6 +159,8 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const std::strin
             (!column.fixed && column.type != Type::YesNo && column.variableIndex >= table.variableColumns))
             failDamaged("un campo della tabella a pagina ", page, " non ha posto nelle righe");
     }
+    requireName(name, page);
+    requireColumnNames(table.columns, page);
     for (size_t i = 0; i < realIndexes; ++i)
         table.indexes.push_back(parseIndex(cursor.take(definition::realIndexLength)));
 
