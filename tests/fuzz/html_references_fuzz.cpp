@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "platform/mail/HtmlReferences.h"
+#include "platform/mail/WebAddress.h"
 
 namespace {
 
@@ -22,5 +23,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto references = mail::findReferences(html);
     check(references.images, html.size());
     check(references.charsets, html.size());
+    check(references.addresses, html.size());
+    if (references.links.size() > mail::HtmlReferences::mostLinks) std::abort();
+    for (const auto& place : references.addresses) {
+        const QByteArray source = html.mid(place.from, place.length);
+        const QByteArray uri =
+            mail::attributeAsUri({source.constData(), static_cast<std::size_t>(source.size())});
+        for (const char c : uri)
+            if (c <= ' ' || c >= 0x7F || c == '<' || c == '>') std::abort();
+        // what is a URI stays one
+        if (mail::attributeAsUri({uri.constData(), static_cast<std::size_t>(uri.size())}) != uri)
+            std::abort();
+    }
     return 0;
 }

@@ -82,7 +82,7 @@ TEST(ComposeBody, TextStandsBeforeHtmlInAlternative) {
 
 TEST(ComposeBody, OneFormAloneHasNoLayer) {
     auto message = plainMessage();
-    message.bodyText = " \r\n";
+    message.bodyText = message.subject = " \r\n";
     EXPECT_EQ(header(wire(message), "Content-Type"), "text/html; charset=utf-8");
     message = plainMessage();
     message.bodyHtml.clear();
@@ -123,6 +123,7 @@ TEST(ComposeBody, BoundaryDoesNotOccurInTheContent) {
 QByteArray htmlSent(const QString& html) {
     auto message = plainMessage();
     message.bodyText.clear();
+    message.subject.clear();
     message.bodyHtml = html;
     const QByteArray data = wire(message);
     return readBack(data.mid(data.indexOf("\r\n\r\n") + 4)).chopped(2);

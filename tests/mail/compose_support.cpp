@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include "mail/wire_reader.h"
 
@@ -71,6 +72,46 @@ QByteArray pngContent(qsizetype size) {
     while (content.size() < size)
         content += static_cast<char>(content.size() * 7);
     return content;
+}
+
+namespace {
+
+// Line ends as they travel, NUL as a blank
+QString travelled(QString text) {
+    text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
+    return QString::fromUtf8(text.toUtf8());
+}
+
+bool hasSomethingToSee(QString text) {
+    static const QRegularExpression unseen(
+        "[\\s\\x{0}\\x{85}\\x{a0}\\x{ad}\\x{34f}\\x{1680}\\x{2000}-\\x{200f}\\x{2028}\\x{2029}\\x{202f}\\x{"
+        "205f}"
+        "\\x{2060}\\x{3000}\\x{feff}]");
+    return !text.remove(unseen).isEmpty();
+}
+
+}  // namespace
+
+bool hasTextForm(const mail::MessageData& message) {
+    const bool hasHtml = !message.bodyHtml.toUtf8().trimmed().isEmpty();
+    return !hasHtml || hasSomethingToSee(message.bodyText) || message.bodyHtml.contains(" alt=") ||
+           hasSomethingToSee(message.subject) || message.bodyHtml.contains("href=");
+}
+
+QString complaintAboutText(const mail::MessageData& message, QString read) {
+    // a message that is one text alone ends with a line end
+    const QString sent = travelled(message.bodyText);
+    if (!hasSomethingToSee(sent)) return {};
+    // The list of links is what is left after the text.
+    static const QRegularExpression list("\r\nCollegamenti:\r\n([^\r\n]*[a-z]:[^\r\n]*\r\n)+(\r\n)?$");
+    if (const auto links = list.match(read); links.hasMatch() && !sent.contains("Collegamenti:"))
+        read.truncate(links.capturedStart());
+    if (read.endsWith("\r\n") && !sent.endsWith("\r\n")) read.chop(2);
+    if (read == sent) return {};
+    // Where lines without a word stand in a row some are left out, and nothing else.
+    const auto words = [](const QString& text) { return text.simplified().remove(' '); };
+    const bool hasGap = sent.contains(QRegularExpression("(^|\r\n)[^\\S\r\n]*\r\n[^\\S\r\n]*\r\n"));
+    return hasGap && words(read) == words(sent) ? QString() : read + "\n--- sent:\n" + sent;
 }
 
 }  // namespace compose

@@ -24,6 +24,13 @@ QByteArray header(const QByteArray& message, const QByteArray& name);
 /// What is against the rules for the form of a message on the wire; empty when all is well.
 QString complaintAbout(const QByteArray& message);
 
+/// What is wrong with the text form of a message whose HTML form is there or not; empty when all is well.
+/// `read` is what arrived, `message` what was composed; line ends are CR LF in both.
+QString complaintAboutText(const mail::MessageData& message, QString read);
+
+/// Whether there is a text form: always without an HTML form, else where there is a word to put into it.
+bool hasTextForm(const mail::MessageData& message);
+
 /// Creates a file with that content, folders included, and gives its path.
 QString makeFile(const QString& path, const QByteArray& content);
 

@@ -1,6 +1,7 @@
 #include "platform/mail/Composer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/mail/Attachments.h"
 #include "platform/mail/BodyParts.h"
@@ -10,7 +11,9 @@
 #include "platform/mail/Identity.h"
 #include "platform/mail/ListId.h"
 #include "platform/mail/LocalImages.h"
+#include "platform/mail/TextPart.h"
 #include "platform/mail/Unsubscribe.h"
+#include "platform/mail/WebAddress.h"
 #include "platform/system/Clock.h"
 
 namespace mail {
@@ -44,12 +47,18 @@ QByteArray changed(const QByteArray& html, std::vector<Change> changes) {
     return out.append(html.constData() + from, html.size() - from);
 }
 
-// Brings the declared encoding in line and lets the images that travel along be found in the message
+// Brings the declared encoding and web addresses in line and lets the images that travel along be found in
+// the message
 void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& images) {
     std::vector<Change> changes;
     std::vector<bool> used(images.images().size());
     for (const auto& place : references.charsets)
         changes.push_back({&place, "utf-8"});
+    for (const auto& place : references.addresses) {
+        QByteArray uri =
+            attributeAsUri({body.html.constData() + place.from, static_cast<std::size_t>(place.length)});
+        if (uri != body.html.mid(place.from, place.length)) changes.push_back({&place, std::move(uri)});
+    }
     for (const auto& place : references.images) {
         const int found = images.find(place.value);
         if (found < 0) continue;
@@ -84,10 +93,14 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     if (!attached.ok()) return attached;
     m_state->images.follow(message.templateHtml);
 
-    Body body{message.bodyText.toUtf8(), message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
+    Body body{{}, message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
     // As it travels: what stands around a NUL has to mean the same to every reader.
     body.html.replace('\0', ' ');
     const HtmlReferences references = findReferences(body.html);
+    const bool hasHtml = !body.html.trimmed().isEmpty();
+    body.text = (hasHtml ? textPart(message.bodyText, references, message.subject)
+                         : withoutLongGaps(message.bodyText))
+                    .toUtf8();
     adaptHtml(body, references, m_state->images);
 
     const QDateTime now = sys::clock().now();

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <QString>
 #include <string_view>
+#include <utility>
+
+#include "platform/mail/HtmlTokens.h"
 
 namespace mail {
 namespace {
@@ -10,48 +14,28 @@ namespace {
 using namespace std::string_view_literals;
 using std::string_view;
 
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr qsizetype longestLinkText = 300;
+constexpr qsizetype mostAlternativeText = 4000;
 
-bool sameText(string_view a, string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return lower(x) == lower(y); });
-}
-
-bool startsWith(string_view text, string_view start) {
-    return text.size() >= start.size() && sameText(text.substr(0, start.size()), start);
-}
-
-std::size_t findText(string_view text, string_view wanted, std::size_t from) {
-    if (from > text.size()) return text.npos;
-    const auto found =
-        std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), wanted.begin(),
-                    wanted.end(), [](char x, char y) { return lower(x) == lower(y); });
-    return found == text.end() ? text.npos : static_cast<std::size_t>(found - text.begin());
-}
-
-string_view trimmed(string_view text) {
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
+// `wanted` is in lower case and begins with a letter
+std::size_t findText(string_view text, string_view wanted) {
+    const std::array<char, 2> first = {wanted.front(), static_cast<char>(wanted.front() - 'a' + 'A')};
+    for (std::size_t at = 0; (at = text.find_first_of(string_view(first.data(), 2), at)) != text.npos; ++at)
+        if (startsWithHtmlText(text.substr(at), wanted)) return at;
+    return text.npos;
 }
 
 bool hasWord(string_view words, string_view wanted) {
-    while (!(words = trimmed(words)).empty()) {
-        const auto end = std::find_if(words.begin(), words.end(), isBlank);
-        if (sameText({words.begin(), end}, wanted)) return true;
+    while (!(words = trimmedHtml(words)).empty()) {
+        const auto end = std::find_if(words.begin(), words.end(), isHtmlBlank);
+        if (sameHtmlText({words.begin(), end}, wanted)) return true;
         words.remove_prefix(static_cast<std::size_t>(end - words.begin()));
     }
     return false;
+}
+
+bool isWebAddress(string_view address) {
+    return startsWithHtmlText(address, "https://"sv) || startsWithHtmlText(address, "http://"sv);
 }
 
 // The references that serialised addresses hold; any other one stays as it is, which makes the address
@@ -67,222 +51,179 @@ QByteArray decoded(string_view text) {
          {"&nbsp;"sv, "\xC2\xA0"sv}}};
     QByteArray out;
     out.reserve(static_cast<qsizetype>(text.size()));
-    while (!text.empty()) {
-        const auto found = std::find_if(references.begin(), references.end(), [text](const auto& reference) {
-            return startsWith(text, reference.first);
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t plain = std::min(text.find('&', at), text.size());
+        out.append(text.data() + at, static_cast<qsizetype>(plain - at));
+        if ((at = plain) == text.size()) break;
+        const auto found = std::find_if(references.begin(), references.end(), [&](const auto& reference) {
+            return startsWithHtmlText(text.substr(at), reference.first);
         });
-        if (text.front() == '&' && found != references.end()) {
-            out.append(found->second.data(), static_cast<qsizetype>(found->second.size()));
-            text.remove_prefix(found->first.size());
-        } else {
-            out += text.front();
-            text.remove_prefix(1);
-        }
+        const bool known = found != references.end();
+        out.append(known ? found->second.data() : "&",
+                   known ? static_cast<qsizetype>(found->second.size()) : 1);
+        at += known ? found->first.size() : 1;
     }
     return out;
 }
 
-// The attributes that matter, of one tag; absent ones are null
-struct Tag {
-    string_view name, src, background, style, charset, httpEquiv, content, rel, href;
-};
+// Without half a character at its end
+string_view startOf(string_view text, std::size_t octets) {
+    if (text.size() <= octets) return text;
+    while (octets > 0 && (static_cast<unsigned char>(text[octets]) & 0xC0) == 0x80)
+        --octets;
+    return text.substr(0, octets);
+}
+
+// Whether a reader sees what stands before and after the tag apart
+bool separatesWords(string_view tagName) {
+    static constexpr std::array names = {"br"sv, "p"sv,  "div"sv, "td"sv, "th"sv, "tr"sv,    "li"sv,
+                                         "h1"sv, "h2"sv, "h3"sv,  "h4"sv, "hr"sv, "table"sv, "img"sv};
+    return std::any_of(names.begin(), names.end(),
+                       [tagName](string_view name) { return sameHtmlText(tagName, name); });
+}
+
+QByteArray inOneLine(const QByteArray& text) {
+    return QString::fromUtf8(text).simplified().toUtf8();
+}
 
 class Reader {
   public:
     explicit Reader(const QByteArray& html)
-        : m_html(html.constData(), static_cast<std::size_t>(html.size())) {}
+        : m_html(html.constData(), static_cast<std::size_t>(html.size())), m_tokens(m_html) {}
 
     HtmlReferences read() {
-        while ((m_at = m_html.find('<', m_at)) != m_html.npos && m_at + 1 < m_html.size())
-            readMarkup();
+        using Kind = HtmlTokens::Kind;
+        for (Kind kind = m_tokens.next(); kind != Kind::End; kind = m_tokens.next()) {
+            if (kind == Kind::Text)
+                showText(m_tokens.text());
+            else if (kind == Kind::Tag)
+                use(m_tokens.tag());
+            else if (kind == Kind::EndTag)
+                useEnd(m_tokens.tag());
+            else if (sameHtmlText(m_tokens.tag().name, "style"sv))
+                findStyleImages(m_tokens.text());
+        }
+        endLink();
         // the attributes of one tag may stand in any order
         const auto inOrder = [](const auto& a, const auto& b) { return a.from < b.from; };
         std::sort(m_found.images.begin(), m_found.images.end(), inOrder);
         std::sort(m_found.charsets.begin(), m_found.charsets.end(), inOrder);
+        std::sort(m_found.addresses.begin(), m_found.addresses.end(), inOrder);
         return std::move(m_found);
     }
 
   private:
-    void readMarkup() {
-        const char next = m_html[m_at + 1];
-        const bool isEnd = next == '/' && m_at + 2 < m_html.size();
-        if (m_html.compare(m_at, 4, "<!--") == 0) {
-            skipComment();
-        } else if (isLetter(next)) {
-            ++m_at;
-            const Tag tag = readTag();
-            use(tag);
-            passRawText(tag.name);
-        } else if (isEnd && isLetter(m_html[m_at + 2])) {
-            m_at += 2;
-            readTag();
-        } else if (isEnd || next == '!' || next == '?') {
-            readUntil([](char c) { return c == '>'; });  // browsers make a comment of it
-        } else {
-            ++m_at;
-        }
-    }
-
-    // Its opening may be its end as well: "<!-->" and "<!--->" are whole comments
-    void skipComment() {
-        const std::size_t end = m_html.find("-->"sv, m_at + 2);
-        const std::size_t oddEnd = m_html.find("--!>"sv, m_at + 4);
-        if (end == m_html.npos && oddEnd == m_html.npos)
-            m_at = m_html.size();
-        else
-            m_at = end < oddEnd ? end + 3 : oddEnd + 4;
-    }
-
-    bool atEnd() const { return m_at >= m_html.size(); }
-
-    template <class Condition>
-    string_view readUntil(Condition stop) {
-        const std::size_t from = m_at;
-        while (!atEnd() && !stop(m_html[m_at]))
-            ++m_at;
-        return m_html.substr(from, m_at - from);
-    }
-
-    void skipBlanks() {
-        readUntil([](char c) { return !isBlank(c); });
-    }
-
-    Tag readTag() {
-        Tag tag;
-        tag.name = readUntil([](char c) { return isBlank(c) || c == '/' || c == '>'; });
-        for (;;) {
-            readUntil([](char c) { return !isBlank(c) && c != '/'; });
-            if (atEnd()) return tag;
-            if (m_html[m_at] == '>') {
-                ++m_at;
-                return tag;
-            }
-            readAttribute(tag);
-        }
-    }
-
-    void readAttribute(Tag& tag) {
-        const std::size_t from = m_at++;  // a "=" in front is part of the name
-        readUntil([](char c) { return isBlank(c) || c == '/' || c == '>' || c == '='; });
-        const string_view name = m_html.substr(from, m_at - from);
-        skipBlanks();
-        if (atEnd() || m_html[m_at] != '=') return;
-        ++m_at;
-        skipBlanks();
-        if (string_view* place = placeOf(tag, name); place != nullptr && place->data() == nullptr) {
-            *place = readValue();
-        } else {
-            readValue();
-        }
-    }
-
-    string_view readValue() {
-        if (atEnd()) return {};
-        const char quote = m_html[m_at];
-        if (quote != '"' && quote != '\'') {
-            return readUntil([](char c) { return isBlank(c) || c == '>'; });
-        }
-        ++m_at;
-        const string_view value = m_html.substr(m_at, m_html.find(quote, m_at) - m_at);
-        m_at = std::min(m_html.size(), m_at + value.size() + 1);
-        return value;
-    }
-
-    static string_view* placeOf(Tag& tag, string_view name) {
-        switch (name.size()) {
-            case 3:
-                return sameText(name, "src"sv) ? &tag.src : sameText(name, "rel"sv) ? &tag.rel : nullptr;
-            case 4:
-                return sameText(name, "href"sv) ? &tag.href : nullptr;
-            case 5:
-                return sameText(name, "style"sv) ? &tag.style : nullptr;
-            case 7:
-                return sameText(name, "charset"sv)   ? &tag.charset
-                       : sameText(name, "content"sv) ? &tag.content
-                                                     : nullptr;
-            case 10:
-                return sameText(name, "background"sv)   ? &tag.background
-                       : sameText(name, "http-equiv"sv) ? &tag.httpEquiv
-                                                        : nullptr;
-            default:
-                return nullptr;
-        }
-    }
-
-    void use(const Tag& tag) {
+    void use(const HtmlTag& tag) {
         if (!tag.style.empty()) findStyleImages(tag.style);
-        addImage(trimmed(tag.background));
-        if (sameText(tag.name, "img"sv)) {
-            addImage(trimmed(tag.src));
-        } else if (sameText(tag.name, "meta"sv)) {
+        addImage(trimmedHtml(tag.background));
+        addAddress(trimmedHtml(tag.href));
+        addAddress(trimmedHtml(tag.src));
+        if (sameHtmlText(tag.name, "img"sv)) {
+            addImage(trimmedHtml(tag.src));
+            addAlternativeText(tag.alt);
+        } else if (sameHtmlText(tag.name, "meta"sv)) {
             useMeta(tag);
-        } else if (sameText(tag.name, "a"sv) || sameText(tag.name, "area"sv)) {
-            useLink(tag);
+        } else if (sameHtmlText(tag.name, "a"sv)) {
+            useUnsubscribe(tag);
+            endLink();
+            beginLink(tag);
+        } else if (sameHtmlText(tag.name, "area"sv)) {
+            useUnsubscribe(tag);
+            beginLink(tag);
+            showText(tag.alt);
+            endLink();
+        } else if (m_inLink && separatesWords(tag.name)) {
+            showText(" "sv);
         }
     }
 
-    void useMeta(const Tag& tag) {
+    void useEnd(const HtmlTag& tag) {
+        if (sameHtmlText(tag.name, "a"sv))
+            endLink();
+        else if (m_inLink && separatesWords(tag.name))
+            showText(" "sv);
+    }
+
+    void useMeta(const HtmlTag& tag) {
         if (!tag.charset.empty()) add(m_found.charsets, tag.charset);
-        if (!sameText(trimmed(tag.httpEquiv), "content-type"sv)) return;
-        const std::size_t at = findText(tag.content, "charset"sv, 0);
+        if (!sameHtmlText(trimmedHtml(tag.httpEquiv), "content-type"sv)) return;
+        const std::size_t at = findText(tag.content, "charset"sv);
         if (at == tag.content.npos) return;
-        string_view value = trimmed(tag.content.substr(at + "charset"sv.size()));
+        string_view value = trimmedHtml(tag.content.substr(at + "charset"sv.size()));
         if (value.empty() || value.front() != '=') return;
-        value = trimmed(value.substr(1));
+        value = trimmedHtml(value.substr(1));
         value = value.substr(0, value.find(';'));
         if (!value.empty()) add(m_found.charsets, value);
     }
 
-    void useLink(const Tag& tag) {
+    void useUnsubscribe(const HtmlTag& tag) {
         if (!m_found.unsubscribe.isEmpty() || !hasWord(tag.rel, "unsubscribe"sv)) return;
-        const string_view address = trimmed(tag.href);
-        if (startsWith(address, "https://"sv) || startsWith(address, "http://"sv) ||
-            startsWith(address, "mailto:"sv)) {
-            m_found.unsubscribe = decoded(address);
-        }
+        const string_view address = trimmedHtml(tag.href);
+        if (!isWebAddress(address) && !startsWithHtmlText(address, "mailto:"sv)) return;
+        m_found.unsubscribe = decoded(address);
+        m_found.oneClick = hasWord(tag.rel, "one-click"sv);
     }
 
-    // Style sheets may hold images; the content of scripts and other raw text is no markup
-    void passRawText(string_view tagName) {
-        for (const string_view name : {"style"sv, "script"sv, "textarea"sv, "title"sv, "xmp"sv, "iframe"sv,
-                                       "noembed"sv, "noframes"sv}) {
-            if (!sameText(tagName, name)) continue;
-            std::size_t end = m_at;
-            do {
-                end = m_html.find("</"sv, end);
-                end = end == m_html.npos ? m_html.size() : end;
-            } while (end < m_html.size() && !startsWith(m_html.substr(end + 2), name) && ++end > 0);
-            if (name == "style"sv) findStyleImages(m_html.substr(m_at, end - m_at));
-            m_at = end;
-            return;
-        }
+    void beginLink(const HtmlTag& tag) {
+        const string_view address = trimmedHtml(tag.href);
+        m_inLink = m_found.links.size() < HtmlReferences::mostLinks &&
+                   (isWebAddress(address) || startsWithHtmlText(address, "mailto:"sv) ||
+                    startsWithHtmlText(address, "tel:"sv));
+        if (m_inLink) m_link = {{}, decoded(address)};
+    }
+
+    void showText(string_view source) {
+        if (!m_inLink || m_link.text.size() > longestLinkText) return;
+        m_link.text += decoded(startOf(source, longestLinkText));
+    }
+
+    void endLink() {
+        if (!std::exchange(m_inLink, false)) return;
+        m_link.text = inOneLine(m_link.text);
+        const bool known =
+            std::any_of(m_found.links.begin(), m_found.links.end(), [this](const HtmlReferences::Link& link) {
+                return link.text == m_link.text && link.address == m_link.address;
+            });
+        if (!known) m_found.links.push_back(std::move(m_link));
+    }
+
+    void addAlternativeText(string_view source) {
+        showText(" "sv);
+        showText(source);
+        if (m_found.alternativeTexts.size() > mostAlternativeText) return;
+        const QByteArray text = inOneLine(decoded(startOf(source, mostAlternativeText)));
+        if (!text.isEmpty()) m_found.alternativeTexts += text + "\r\n";
     }
 
     void findStyleImages(string_view style) {
         while (true) {
-            const std::size_t at = findText(style, "url("sv, 0);
+            const std::size_t at = findText(style, "url("sv);
             if (at == style.npos) return;
             style = style.substr(at + 4);
-            while (!style.empty() && isBlank(style.front()))
+            while (!style.empty() && isHtmlBlank(style.front()))
                 style.remove_prefix(1);
             string_view end = ")"sv;
             for (const string_view quote : {"\""sv, "'"sv, "&quot;"sv, "&#39;"sv, "&apos;"sv}) {
-                if (!startsWith(style, quote)) continue;
+                if (!startsWithHtmlText(style, quote)) continue;
                 style.remove_prefix(quote.size());
                 end = quote;
                 break;
             }
             const std::size_t length = style.find(end);
             if (length == style.npos) return;
-            addImage(trimmed(style.substr(0, length)));
+            addImage(trimmedHtml(style.substr(0, length)));
             style.remove_prefix(length);
         }
     }
 
     void addImage(string_view address) {
-        const bool mayBeLocal =
-            startsWith(address, "/"sv) || startsWith(address, "\\"sv) || startsWith(address, "file:"sv);
+        const bool mayBeLocal = startsWithHtmlText(address, "/"sv) || startsWithHtmlText(address, "\\"sv) ||
+                                startsWithHtmlText(address, "file:"sv);
         if (mayBeLocal) add(m_found.images, address);
+    }
+
+    void addAddress(string_view address) {
+        if (isWebAddress(address)) add(m_found.addresses, address);
     }
 
     void add(std::vector<HtmlReferences::Place>& places, string_view text) {
@@ -290,8 +231,10 @@ class Reader {
     }
 
     const string_view m_html;
-    std::size_t m_at = 0;
+    HtmlTokens m_tokens;
     HtmlReferences m_found;
+    bool m_inLink = false;
+    HtmlReferences::Link m_link;
 };
 
 }  // namespace

@@ -24,7 +24,7 @@ struct MessageData {
     QString toAddress;
     QString subject;
     QString bodyHtml;      ///< personalised; empty: the message has no HTML part
-    QString bodyText;      ///< personalised visible text of bodyHtml; empty: the message has no text part
+    QString bodyText;      ///< personalised visible text of bodyHtml; see TextPart for what is made of it
     QString templateHtml;  ///< the body before personalisation: only local images that it names are embedded
     QString unsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
     int priority = 3;         ///< 1 high, 5 low, anything else normal

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace mail {
+
+struct HtmlReferences;
+
+/// The text form of a message with an HTML form: what readers without HTML, and filters, see of it.
+///
+/// It is `bodyText` with no more than two empty lines in a row; where that is blank, the alternative texts of
+/// the images and, where there are none, the subject. After it the links of the HTML form that it does not
+/// name itself stand under "Collegamenti:", each with its text and its address.
+QString textPart(const QString& bodyText, const HtmlReferences& html, const QString& subject);
+
+/// The text with each run of more than two empty lines made two. A line of nothing but blanks is empty.
+QString withoutLongGaps(const QString& text);
+
+/// Nothing that can be seen: white space and characters without width.
+bool isBlankText(QStringView text);
+
+}  // namespace mail
