@@ -56,6 +56,16 @@ QString PulisciValore(const QString& testo) {
     return text::trimBlanks(valore).toString();
 }
 
+QString PercorsoScritto(const QString& testo) {
+    QString percorso = testo;
+    while (percorso.endsWith(u'\n') || percorso.endsWith(u'\r') || percorso.endsWith(QChar(QChar::Null)))
+        percorso.chop(1);
+    if (!percorso.endsWith(u' ') || QFile::exists(percorso)) return percorso;
+    while (percorso.endsWith(u' '))
+        percorso.chop(1);
+    return percorso;
+}
+
 QString NomeDaPercorso(const QString& percorso) {
     return percorso.mid(qMax(percorso.lastIndexOf(u'\\'), percorso.lastIndexOf(u'/')) + 1);
 }

@@ -27,6 +27,10 @@ QString HexDaColore(std::uint32_t colore);
 /// The text without double quotes and single quotes, then without blanks at its ends.
 QString PulisciValore(const QString& testo);
 
+/// The path that a user wrote or pasted: line breaks and NULs that hang on to its end are left out, and so
+/// are blanks there, unless a file has them in its name.
+QString PercorsoScritto(const QString& testo);
+
 /// What stands behind the last slash or backslash of a path; the whole path if it has none.
 QString NomeDaPercorso(const QString& percorso);
 

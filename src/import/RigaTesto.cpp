@@ -25,9 +25,19 @@ QString pulito(QStringView campo, inserimento::Colonna colonna) {
     return PulisciValore(inserimento::Taglia(campo, colonna));
 }
 
+[[noreturn]] void campoMancante(int posizione, const PuntoImportazione& punto) {
+    fallisci(ErrorCode::SubscriptOutOfRange,
+             QStringLiteral("Riga %1: il campo %2 non c'è; %3")
+                 .arg(punto.riga)
+                 .arg(posizione)
+                 .arg(punto.inseriti == 1 ? QStringLiteral("inserito 1 destinatario")
+                                          : QStringLiteral("inseriti %1 destinatari").arg(punto.inseriti)));
+}
+
 }  // namespace
 
-std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga) const {
+std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga,
+                                                    const PuntoImportazione& punto) const {
     const std::vector<QStringView> trovati =
         primiCampi(riga, separatore, *std::max_element(posizioni.begin(), posizioni.end()));
     const auto esiste = [&](int posizione) {
@@ -37,7 +47,7 @@ std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga) const {
         return pulito(trovati[static_cast<std::size_t>(posizioni[static_cast<std::size_t>(box)] - 1)],
                       campi::colonne[static_cast<std::size_t>(box)]);
     };
-    if (!esiste(posizioni[campi::boxEmail])) fallisci(ErrorCode::SubscriptOutOfRange);
+    if (!esiste(posizioni[campi::boxEmail])) campoMancante(posizioni[campi::boxEmail], punto);
     inserimento::Valori valori;
     valori[inserimento::email] = campo(campi::boxEmail);
     if (!EmailValida(valori[inserimento::email])) return std::nullopt;

@@ -5,6 +5,12 @@
 
 #include "import/campi.h"
 
+/// Where an import stands: the line that is read, counted from 1, and the recipients it has inserted.
+struct PuntoImportazione {
+    qint64 riga = 1;
+    qint64 inseriti = 0;
+};
+
 /// One line of a delimited text file. Quotes around fields are not understood: a separator splits wherever
 /// it stands.
 struct RigaTesto {
@@ -18,6 +24,6 @@ struct RigaTesto {
 
     /// The cleaned values of a line, cut to their limits beforehand. None when its address is refused.
     /// Unguarded: fails with SubscriptOutOfRange when the line has no field for the address; an empty line
-    /// has no field at all.
-    std::optional<inserimento::Valori> Leggi(const QString& riga) const;
+    /// has no field at all. The text then tells the line, the field and how many recipients are in.
+    std::optional<inserimento::Valori> Leggi(const QString& riga, const PuntoImportazione& punto = {}) const;
 };

@@ -78,7 +78,7 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
 }  // namespace
 
 QString frmImpDB::ConnessioneSorgente() const {
-    QString testo = ado::connectionPrefix + txtDatabase->text() + ';';
+    QString testo = ado::connectionPrefix + PercorsoScritto(txtDatabase->text()) + ';';
     if (!txtPassword->text().isEmpty()) testo += ";Jet OLEDB:Database Password=" + txtPassword->text();
     return testo;
 }

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScopeGuard>
 
+#include "core/bFunctions.h"
 #include "core/Evento.h"
 #include "core/Puntatore.h"
 #include "import/disposizione.h"
@@ -17,6 +18,8 @@
 #include "platform/ui/Busy.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/FileDrop.h"
+#include "platform/ui/SeparatorEdit.h"
 #include "shell/bTheme.h"
 #include "store/RecordsetDB.h"
 
@@ -26,7 +29,7 @@ frmImpTXT::frmImpTXT(QWidget* parent)
       txtPath(ui::named(new QLineEdit(this), "txtPath")),
       cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
       lblSeparatore(ui::named(new QLabel("Separatore campi:", this), "lbl(1)")),
-      txtSep(ui::named(new QLineEdit(this), "txtSep")),
+      txtSep(ui::named(new ui::SeparatorEdit(this), "txtSep")),
       riquadroCampi((RilevaTema(this), new RiquadroCampi(this))),
       riquadroCartella(new RiquadroCartella("lbl(2)", this)),
       cmdImportaTXT(ui::commandButton("&Importa destinatari", "cmdImportaTXT", this)),
@@ -35,6 +38,7 @@ frmImpTXT::frmImpTXT(QWidget* parent)
     setWindowTitle(" Importa destinatari da file di testo");
     DisponiImportazione(*this, {{lblPercorso, txtPath, cmdSfoglia}, {lblSeparatore, txtSep}}, riquadroCampi,
                         *riquadroCartella, {cmdImportaTXT, cmdChiudi});
+    new ui::FileDrop(*this, [this](const QString& percorso) { txtPath->setText(percorso); });
     txtSep->setAlignment(Qt::AlignCenter);
     txtSep->setMaximumWidth(ui::scaledToFont(*this, 56));
     CollegaEventi();
@@ -99,12 +103,16 @@ void frmImpTXT::cmdImportaTXT_Click() {
     const auto fatto = qScopeGuard(PuntatorePredefinito);
     ui::Busy lavoro;
     text::LineReader file;
-    esigi(file.open(txtPath->text(), text::LineEnds::Any));
+    esigi(file.open(PercorsoScritto(txtPath->text()), text::LineEnds::Any, text::Encoding::Detected));
     const RigaTesto regola = Regola();
     QString riga;
-    while (!file.atEnd()) {
+    PuntoImportazione punto;
+    for (; !file.atEnd(); ++punto.riga) {
         esigi(file.readLine(riga));
-        if (const auto valori = regola.Leggi(riga)) inserimento.Inserisci(*gruppo, *valori);
+        if (const auto valori = regola.Leggi(riga, punto)) {
+            inserimento.Inserisci(*gruppo, *valori);
+            ++punto.inseriti;
+        }
         lavoro.breathe();
     }
     esigi(file.status());

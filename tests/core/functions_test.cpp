@@ -117,6 +117,19 @@ TEST(CleanValue, LosesQuotesThenBlanksAtItsEnds) {
     EXPECT_EQ(PulisciValore(QStringLiteral("\"'\"")), QString());
 }
 
+TEST(WrittenPath, LosesLineBreaksAndBlanksAtItsEnd) {
+    EXPECT_EQ(PercorsoScritto(QStringLiteral("/a/b.txt\r\n\n")), QStringLiteral("/a/b.txt"));
+    EXPECT_EQ(PercorsoScritto(QStringLiteral("/a/b.txt  ")), QStringLiteral("/a/b.txt"));
+    EXPECT_EQ(PercorsoScritto(QStringLiteral(" /a/b c.txt")), QStringLiteral(" /a/b c.txt"));
+    EXPECT_EQ(PercorsoScritto(QString()), QString());
+}
+
+TEST(WrittenPath, KeepsABlankThatBelongsToTheName) {
+    const QTemporaryDir folder;
+    writeBytes(folder.filePath("a "), "x");
+    EXPECT_EQ(PercorsoScritto(folder.filePath("a ") + '\n'), folder.filePath("a "));
+}
+
 TEST(NameOfPath, StandsBehindTheLastSlashOrBackslash) {
     EXPECT_EQ(NomeDaPercorso(QStringLiteral("C:\\a\\b.pdf")), QStringLiteral("b.pdf"));
     EXPECT_EQ(NomeDaPercorso(QStringLiteral("/a/b.pdf")), QStringLiteral("b.pdf"));

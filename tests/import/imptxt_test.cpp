@@ -1,9 +1,11 @@
 // The window of the text import: its controls, and files that import as they should.
 #include "import/frmImpTXT.h"
 
+#include <QDropEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMimeData>
 #include <QTimer>
 
 #include "import/campi.h"
@@ -104,7 +106,12 @@ class TestImportTxt : public QObject {
         const bool fails = !vector["failure_at_line"].isNull();
         if (fails) ui::MessageDialog::queue(ui::MessageDialog::Ok);
         stage.click("cmdImportaTXT");
-        QCOMPARE(stage.failure(), fails ? "Errore 9:\r\n\r\nIndice non compreso nell'intervallo" : "");
+        const QString failure =
+            QString("Errore 9:\r\n\r\nRiga %1: il campo %2 non c'è; inserito 1 destinatario")
+                .arg(vector["failure_at_line"].toInt())
+                .arg(boxes[2].toInt());
+        if (fails) QVERIFY2(stage.failure().startsWith(failure), qPrintable(stage.failure()));
+        QCOMPARE(stage.failure().isEmpty(), !fails);
         QCOMPARE(stage.ends, fails ? QList<int>{1} : QList<int>{});
         QCOMPARE(ui::MessageDialog::shown().size(), fails ? 1 : 0);
         QCOMPARE(finestre::ImpTXT().isVisible(), fails);
@@ -112,6 +119,95 @@ class TestImportTxt : public QObject {
         QCOMPARE(TxtStage::statementsHash(), vector["sql_sha256"].toString().toLatin1());
         QCOMPARE(TxtStage::count("tb_destinatari", "sel = True"), vector["rows"].toInt());
         QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void unicodeFilesArriveAsTheyAreWritten_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        const QString lines = "a@x.it;Perù\r\nb@x.it;€uro\r\n";
+        QByteArray utf16("\xff\xfe");
+        for (const QChar unit : lines)
+            utf16 += QByteArray(1, static_cast<char>(unit.cell())) + static_cast<char>(unit.row());
+        QTest::newRow("UTF-8") << lines.toUtf8();
+        QTest::newRow("UTF-8 with a mark") << "\xef\xbb\xbf" + lines.toUtf8();
+        QTest::newRow("UTF-16") << utf16;
+        QTest::newRow("Windows-1252") << QByteArray("a@x.it;Per\xf9\r\nb@x.it;\x80uro\r\n");
+        QTest::newRow("with NULs") << QByteArray("a@x.it;Per\xf9\0\r\nb@x.it\0;\x80uro\r\n", 31);
+    }
+    void unicodeFilesArriveAsTheyAreWritten() {
+        QFETCH(QByteArray, bytes);
+        TxtStage stage;
+        stage.chooseNode(1);
+        stage.map(stage.write("a.csv", bytes), 1, 2);
+        stage.click("cmdImportaTXT");
+        QCOMPARE(stage.failure(), QString());
+        QCOMPARE(TxtStage::inserted("email"), QStringList({"a@x.it", "b@x.it"}));
+        QCOMPARE(TxtStage::inserted("nom"), QStringList({"Perù", "€uro"}));
+    }
+
+    void aPathMayEndInALineBreak() {
+        TxtStage stage;
+        stage.chooseNode(1);
+        stage.map(stage.write("a.txt", "a@x.it\r\n") + '\n', 1);
+        stage.click("cmdImportaTXT");
+        QCOMPARE(stage.failure(), QString());
+        QCOMPARE(TxtStage::recipients(), 1);
+    }
+
+    void ctrlTabPutsATabIntoTheSeparator() {
+        TxtStage stage;
+        stage.chooseNode(1);
+        stage.map(stage.write("a.txt", "a@x.it\tRossi\r\n"), 1, 2);
+        auto* separator = stage.control<QLineEdit>("txtSep");
+        separator->setFocus();
+        separator->selectAll();
+        QTest::keyClick(separator, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(separator->text(), "\t");
+        QCOMPARE(QApplication::focusWidget(), separator);
+        separator->deselect();
+        separator->clearFocus();
+        const QImage tab = separator->grab().toImage();
+        separator->clear();
+        QVERIFY2(separator->grab().toImage() != tab, "the tab shows nothing");
+        separator->setText("\t");
+        QCOMPARE(separator->accessibleDescription(), "Contiene una tabulazione");
+        stage.click("cmdImportaTXT");
+        QCOMPARE(TxtStage::inserted("nom"), QStringList("Rossi"));
+    }
+
+    void tabAloneLeavesTheSeparator() {
+        TxtStage stage;
+        auto* separator = stage.control<QLineEdit>("txtSep");
+        separator->setFocus();
+        QTest::keyClick(separator, Qt::Key_Tab);
+        QCOMPARE(separator->text(), ";");
+        QVERIFY(QApplication::focusWidget() != separator);
+    }
+
+    void aFileMayBeDroppedAnywhereOnTheWindow() {
+        TxtStage stage;
+        const auto drop = [&](QWidget* on, const QList<QUrl>& urls) {
+            QMimeData data;
+            data.setUrls(urls);
+            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(on, &enter);
+            QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(on, &event);
+        };
+        auto* path = stage.control<QLineEdit>("txtPath");
+        const QUrl file = QUrl::fromLocalFile("/tmp/la lista.csv");
+        drop(&stage.dialog(), {file});
+        QCOMPARE(path->text(), "/tmp/la lista.csv");
+        for (const char* box : {"txtPath", "txtSep", "txtCartella"}) {
+            path->clear();
+            auto* target = stage.control<QLineEdit>(box);
+            target->setEnabled(true);
+            drop(target, {file});
+            QCOMPARE(path->text(), "/tmp/la lista.csv");
+        }
+        QCOMPARE(stage.control<QLineEdit>("txtSep")->text(), ";");
+        drop(&stage.dialog(), {file, QUrl::fromLocalFile("/tmp/b.csv")});
+        drop(&stage.dialog(), {QUrl("http://x.it/a.csv")});
+        QCOMPARE(path->text(), "/tmp/la lista.csv");
     }
 
     void newGroupGetsTheRowsAndIsOnTheTreeAtOnce() {

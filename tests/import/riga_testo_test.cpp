@@ -141,6 +141,20 @@ TEST(TextLine, WithoutAFieldForTheAddressFails) {
     expectFailure(regola(0), "a@x.it");
 }
 
+TEST(TextLine, TheFailureNamesTheLineTheFieldAndWhatIsIn) {
+    const auto testoDi = [](int campo, const PuntoImportazione& punto) {
+        try {
+            static_cast<void>(regola(campo).Leggi("", punto));
+        } catch (const Fallimento& fallimento) {
+            return fallimento.testo();
+        }
+        return QString();
+    };
+    EXPECT_EQ(testoDi(1, {3, 2}), "Riga 3: il campo 1 non c'è; inseriti 2 destinatari");
+    EXPECT_EQ(testoDi(18, {1, 0}), "Riga 1: il campo 18 non c'è; inseriti 0 destinatari");
+    EXPECT_EQ(testoDi(2, {2, 1}), "Riga 2: il campo 2 non c'è; inserito 1 destinatario");
+}
+
 TEST(TextLine, ToleratesThatAnyOtherFieldIsMissing) {
     EXPECT_EQ(regola(1, 18).Leggi("a@x.it;b")->at(nom), "");
 }

@@ -1,6 +1,7 @@
 #include "platform/text/TextFile.h"
 
 #include <QFileInfo>
+#include <QStringConverter>
 
 #include "platform/text/AnsiCodec.h"
 
@@ -24,6 +25,28 @@ qsizetype findLineEnd(QByteArrayView bytes, LineEnds ends) {
     return bytes.size();
 }
 
+/// Whether the file is valid UTF-8 from its start to its end. A line that is too long for the reader ends the
+/// look at it: nobody will read on from there.
+bool isUtf8(QFile& file) {
+    QStringDecoder decoder(QStringConverter::Utf8);
+    QByteArray block(blockSize, Qt::Uninitialized);
+    QString decoded(decoder.requiredSpace(blockSize), Qt::Uninitialized);
+    qsizetype lineLength = 0;
+    for (;;) {
+        const qint64 count = file.read(block.data(), blockSize);
+        if (count <= 0) break;
+        const QByteArrayView bytes(block.constData(), count);
+        decoder.appendToBuffer(decoded.data(), bytes);
+        if (decoder.hasError()) return false;
+        const qsizetype lineEnd = qMax(bytes.lastIndexOf('\n'), bytes.lastIndexOf('\r'));
+        lineLength = lineEnd < 0 ? lineLength + count : count - lineEnd - 1;
+        if (lineLength > LineReader::longestLine) return true;
+    }
+    // A character that is cut off by the end of the file is one too few.
+    decoder.appendToBuffer(decoded.data(), QByteArrayView("\n"));
+    return !decoder.hasError();
+}
+
 }  // namespace
 
 Status openForInput(QFile& file, const QString& path) {
@@ -36,13 +59,38 @@ Status openForInput(QFile& file, const QString& path) {
     return file.open(QIODevice::ReadOnly) ? Status() : pathAccess();
 }
 
-Status LineReader::open(const QString& path, LineEnds ends) {
+Status LineReader::open(const QString& path, LineEnds ends, Encoding encoding) {
     if (m_file.isOpen()) m_file.close();
     m_block.clear();
     m_position = 0;
     m_ends = ends;
+    m_encoding = encoding;
+    m_utf8 = false;
+    m_fromUtf16 = QStringDecoder();
     m_status = openForInput(m_file, path);
+    if (m_status.ok() && encoding == Encoding::Detected) detect();
     return m_status;
+}
+
+// Leaves the file behind its byte order mark. A file that cannot be read fails later, as its lines are.
+void LineReader::detect() {
+    const QByteArray start = m_file.peek(3);
+    if (start.startsWith("\xff\xfe") || start.startsWith("\xfe\xff")) {
+        m_fromUtf16 =
+            QStringDecoder(start[0] == '\xff' ? QStringConverter::Utf16LE : QStringConverter::Utf16BE);
+        m_toUtf8 = QStringEncoder(QStringConverter::Utf8);
+        m_file.skip(2);
+        m_utf8 = true;
+        return;
+    }
+    m_utf8 = isUtf8(m_file);
+    m_file.seek(m_utf8 && start == "\xef\xbb\xbf" ? 3 : 0);
+}
+
+QString LineReader::decoded(const QByteArray& bytes) const {
+    QString line = m_utf8 ? QString::fromUtf8(bytes) : fromAnsi(bytes);
+    if (m_encoding == Encoding::Detected) line.remove(QChar(QChar::Null));
+    return line;
 }
 
 // Makes at least one byte available; false at the end of the file or after a failure.
@@ -54,6 +102,10 @@ bool LineReader::fill() {
     const qint64 count = m_file.read(m_block.data(), blockSize);
     m_block.resize(qMax<qint64>(count, 0));
     if (count < 0) m_status = deviceIo();
+    if (m_fromUtf16.isValid() && count > 0) {
+        m_block = m_toUtf8(m_fromUtf16(m_block));
+        return !m_block.isEmpty() || fill();
+    }
     return count > 0;
 }
 
@@ -81,7 +133,7 @@ bool LineReader::nextLine(QString& line) {
         break;
     }
     if (!m_status.ok()) return false;
-    line = fromAnsi(bytes);
+    line = decoded(bytes);
     return true;
 }
 

@@ -2,10 +2,12 @@
 
 #include <QFile>
 #include <QString>
+#include <QStringConverter>
 
 #include "platform/Status.h"
 
-/// 8-bit text files, line by line. The bytes are Windows-1252 (AnsiCodec.h).
+/// Text files, line by line. The bytes are Windows-1252 (AnsiCodec.h), but where the reader is asked to find
+/// out.
 namespace text {
 
 /// Opens an ordinary file for reading. FileNotFound where there is none; PathAccess for a folder, a device, a
@@ -18,6 +20,13 @@ enum class LineEnds {
     Any,             ///< CR, LF or CR LF
 };
 
+/// What the bytes of a file that is read mean.
+enum class Encoding {
+    Ansi,      ///< Windows-1252
+    Detected,  ///< UTF-16 with a byte order mark; UTF-8, with or without one, where the whole file is valid
+               ///< UTF-8; otherwise Windows-1252. The mark and every U+0000 are left out.
+};
+
 /// Reads a file forward, one line at a time, holding no more of it than one line and one block. The end of
 /// the file ends a last line that has no line end; there is no empty line behind a final line end. Closes the
 /// file with itself.
@@ -26,7 +35,7 @@ class LineReader {
     /// A line with more bytes than this ends the reading with DeviceIo.
     static constexpr qsizetype longestLine = 64 * 1024 * 1024;
 
-    Status open(const QString& path, LineEnds ends);
+    Status open(const QString& path, LineEnds ends, Encoding encoding = Encoding::Ansi);
 
     /// True when no line is left, or when nothing is open.
     bool atEnd();
@@ -44,11 +53,17 @@ class LineReader {
 
   private:
     bool fill();
+    void detect();
+    QString decoded(const QByteArray& bytes) const;
 
     QFile m_file;
     QByteArray m_block;
     qsizetype m_position = 0;
     LineEnds m_ends = LineEnds::Any;
+    Encoding m_encoding = Encoding::Ansi;
+    bool m_utf8 = false;         ///< whether the bytes of m_block are UTF-8
+    QStringDecoder m_fromUtf16;  ///< valid for a file of UTF-16, whose blocks become UTF-8
+    QStringEncoder m_toUtf8;
     Status m_status;
 };
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace ui {
+
+/// A text box for what stands between two fields of a file. Ctrl+Tab puts a tab in, which the box shows as an
+/// arrow.
+class SeparatorEdit : public QLineEdit {
+  public:
+    explicit SeparatorEdit(QWidget* parent = nullptr);
+
+  protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* key) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void tellTabs();
+};
+
+}  // namespace ui
