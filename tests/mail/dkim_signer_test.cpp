@@ -164,6 +164,53 @@ TEST_F(Dkim, HeaderPutInFrontIsNotAccepted) {
         EXPECT_NE(all[i].toStdString(), "good") << changed[i].left(40).toStdString();
 }
 
+TEST_F(Dkim, OneClickIsOfferedInSignedHeaders) {
+    auto message = signedMessage();
+    message.templateHtml = "<a rel='unsubscribe One-Click' href='https://x.it/u?e=:::email:::'>x</a>";
+    message.unsubscribeLink = "https://x.it/u?e=a@b.it";
+    const QByteArray data = compose(message).text.whole();
+    EXPECT_EQ(header(data, "List-Unsubscribe"),
+              "<https://x.it/u?e=a@b.it>, <mailto:info@orto.example?subject=unsubscribe>");
+    EXPECT_EQ(header(data, "List-Unsubscribe-Post"), "List-Unsubscribe=One-Click");
+    const QByteArrayList all = verdicts({data, QByteArray(data).replace("=One-Click", "=Two-Click")});
+    EXPECT_EQ(all.value(0).toStdString(), "good");
+    EXPECT_EQ(all.value(1).toStdString(), "bad signature");
+}
+
+TEST_F(Dkim, OneClickIsNotOfferedWhereItCannotWork) {
+    const QString oneClick = "<a rel='unsubscribe one-click' href='%1'>x</a>";
+    const auto postsOf = [&](const QString& html, const QString& link, const QString& sender,
+                             const QString& folder) {
+        auto message = signedMessage();
+        message.templateHtml = html;
+        message.unsubscribeLink = link;
+        message.fromAddress = sender;
+        message.dkimFolder = folder;
+        return headers(compose(message).text.whole(), "List-Unsubscribe-Post").size();
+    };
+    const QString link = "https://x.it/u", sender = "info@orto.example", folder = s_folder->path();
+    EXPECT_EQ(postsOf(oneClick.arg(link), link, sender, folder), 1u);
+    EXPECT_EQ(postsOf("<a rel=unsubscribe href='https://x.it/u'>x</a>", link, sender, folder), 0u)
+        << "not marked";
+    EXPECT_EQ(postsOf(oneClick.arg("http://x.it/u"), "http://x.it/u", sender, folder), 0u) << "not encrypted";
+    EXPECT_EQ(postsOf(oneClick.arg(link), "https://x.it/u?e=:::nom:::", sender, folder), 0u)
+        << "placeholder left";
+    EXPECT_EQ(postsOf(oneClick.arg(link), link, "info@altro.example", folder), 0u) << "no key";
+    EXPECT_EQ(postsOf(oneClick.arg(link), link, "info@small.example", folder), 0u) << "key not usable";
+    EXPECT_EQ(postsOf(oneClick.arg(link), link, sender, QString()), 0u) << "no folder";
+}
+
+TEST_F(Dkim, KeyThatCannotBeUsedIsToldBeforeARun) {
+    const auto told = [](const QString& sender, const QString& folder) {
+        return mail::DkimSigner::usable(folder, sender);
+    };
+    EXPECT_TRUE(told("info@orto.example", s_folder->path()).ok());
+    EXPECT_TRUE(told("info@altro.example", s_folder->path()).ok()) << "no file: nothing to tell";
+    EXPECT_TRUE(told("info", s_folder->path()).ok());
+    EXPECT_TRUE(told("info@small.example", s_folder->path()).text().contains("2048 bit"));
+    EXPECT_FALSE(told("info@curve.example", s_folder->path()).ok());
+}
+
 TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
     auto message = signedMessage();
     message.fromAddress = "a@small.example";

@@ -99,7 +99,8 @@ class Reader {
             "from",       "to",           "subject",      "date",
             "message-id", "mime-version", "content-type", "list-unsubscribe"};
         static const QByteArrayList possible = {
-            "content-transfer-encoding", "x-priority", "priority", "importance", "dkim-signature", "list-id"};
+            "content-transfer-encoding", "x-priority", "priority", "importance", "dkim-signature", "list-id",
+            "list-unsubscribe-post"};
         QMap<QByteArray, int> count;
         for (const auto& header : m_message.headers) {
             if (++count[header.first] > 1) complain("twice " + header.first);
@@ -130,8 +131,13 @@ class Reader {
         if (!matches("<[a-z0-9]+(\\.[a-z0-9]+)*@[^@<> ]+>", id) || !id.endsWith('@' + domain + '>'))
             complain("message-id " + id + " of a sender at " + domain);
         const QByteArray unsubscribe = valueOf(m_message.headers, "list-unsubscribe");
-        if (!matches("<(mailto:[!-;=?-~]+@[!-;=?-~]+|https?://[!-;=?-~]+)>", unsubscribe))
-            complain("list-unsubscribe " + unsubscribe);
+        const QByteArray post = valueOf(m_message.headers, "list-unsubscribe-post");
+        const char* const form = post.isEmpty() ? "<(mailto:[!-;=?-~]+@[!-;=?-~]+|https?://[!-;=?-~]+)>"
+                                                : "<https://[!-;=?-~]+>, <mailto:[!-;=?-~]+@[!-;=?-~]+>";
+        if (!matches(form, unsubscribe)) complain("list-unsubscribe " + unsubscribe);
+        // RFC 8058 3.1
+        if (!post.isEmpty() && post != "List-Unsubscribe=One-Click")
+            complain("list-unsubscribe-post " + post);
         // RFC 2919 3: labels of a dot-atom
         const QByteArray listId = valueOf(m_message.headers, "list-id");
         if (!listId.isEmpty() &&

@@ -79,6 +79,16 @@ struct Composer::State {
     LocalImages images;
     UniqueWords words;
     DkimSigner signer;
+    QString knownTemplate;
+    bool oneClick = false;  ///< of knownTemplate
+
+    bool mayUnsubscribeByOneClick(const QString& templateHtml) {
+        if (templateHtml != knownTemplate) {
+            knownTemplate = templateHtml;
+            oneClick = markedOneClick(templateHtml);
+        }
+        return oneClick;
+    }
 };
 
 Composer::Composer() : m_state(std::make_unique<State>()) {}
@@ -117,8 +127,9 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     out += foldedHeader("Subject", unstructuredText(message.subject));
     out += foldedHeader("Date", dateText(now));
     out += foldedHeader("Message-ID", composed.messageId);
-    out +=
-        foldedHeader("List-Unsubscribe", '<' + unsubscribeLink(message.unsubscribeLink, from.value()) + '>');
+    const bool oneClick = m_state->mayUnsubscribeByOneClick(message.templateHtml) &&
+                          m_state->signer.signs(message.dkimFolder, composed.from.domain);
+    out += unsubscribeHeaders(message.unsubscribeLink, oneClick, from.value());
     if (const QByteArray id = listId(from.value()); !id.isEmpty()) out += foldedHeader("List-Id", id);
     appendPriority(out, message.priority);
     out += "MIME-Version: 1.0\r\n";

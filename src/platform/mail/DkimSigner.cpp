@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QSslKey>
 
+#include "platform/mail/AddrSpec.h"
 #include "platform/mail/DomainName.h"
 #include "platform/mail/FileStamp.h"
 
@@ -119,7 +120,13 @@ struct DkimSigner::State {
         usable = check();
     }
 
-    bool exists() const { return keyStamp.exists() || selectorStamp.exists(); }
+    /// Whether there is a file of the domain. A domain literal has none, and no other domain can lead out of
+    /// the folder.
+    bool find(const QString& folder, const QByteArray& domain) {
+        if (folder.isEmpty() || !isDomainName(domain)) return false;
+        follow(folder + '/' + QString::fromLatin1(domain.toLower()));
+        return keyStamp.exists() || selectorStamp.exists();
+    }
 
     Status check() const {
         if (!isDomainName(selector)) return unusable(QStringLiteral("il selettore manca o non è valido"));
@@ -134,14 +141,21 @@ struct DkimSigner::State {
 DkimSigner::DkimSigner() : m_state(std::make_unique<State>()) {}
 DkimSigner::~DkimSigner() = default;
 
+bool DkimSigner::signs(const QString& folder, const QByteArray& domain) {
+    return m_state->find(folder, domain) && m_state->usable.ok();
+}
+
+Status DkimSigner::usable(const QString& folder, const QString& fromAddress) {
+    const auto from = parseAddrSpec(fromAddress);
+    State state;
+    return from.ok() && state.find(folder, from.value().domain) ? state.usable : Status();
+}
+
 Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& domain,
                                     const MessageText& message) {
-    // A domain literal has no key, and no other domain can lead out of the folder
-    if (folder.isEmpty() || !isDomainName(domain)) return QByteArray();
-    const QByteArray name = domain.toLower();
-    m_state->follow(folder + '/' + QString::fromLatin1(name));
-    if (!m_state->exists()) return QByteArray();
+    if (!m_state->find(folder, domain)) return QByteArray();
     if (!m_state->usable.ok()) return m_state->usable;
+    const QByteArray name = domain.toLower();
     if (!m_state->library) m_state->library = openLibrary();
     if (!m_state->library) return unusable(QStringLiteral("manca la memoria"));
 

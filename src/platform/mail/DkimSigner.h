@@ -29,6 +29,13 @@ class DkimSigner {
     /// is something that cannot be used; the text says what, and holds nothing of the key.
     Result<QByteArray> sign(const QString& folder, const QByteArray& domain, const MessageText& message);
 
+    /// Whether messages of the domain are signed: both files are there and can be used.
+    bool signs(const QString& folder, const QByteArray& domain);
+
+    /// Why messages of that sender cannot be signed although the folder holds a file for it, or success. For
+    /// telling the user before a run.
+    static Status usable(const QString& folder, const QString& fromAddress);
+
   private:
     struct State;
     std::unique_ptr<State> m_state;

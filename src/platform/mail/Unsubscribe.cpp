@@ -1,8 +1,10 @@
 #include "platform/mail/Unsubscribe.h"
 
 #include <algorithm>
+#include <QRegularExpression>
 #include <QUrl>
 
+#include "platform/mail/HeaderText.h"
 #include "platform/mail/HtmlReferences.h"
 
 namespace mail {
@@ -28,6 +30,21 @@ bool namesItsGoal(const QString& link) {
            !url.host().isEmpty() && url.userInfo().isEmpty();
 }
 
+// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty
+QByteArray headerLink(const QString& link) {
+    const QString given = link.size() <= longestLink ? withoutLineEnds(link) : QString();
+    const QByteArray encoded = namesItsGoal(given) ? QUrl(given).toEncoded() : QByteArray();
+    const bool stands = encoded.size() <= longestLink &&
+                        std::all_of(encoded.begin(), encoded.end(),
+                                    [](char c) { return c > 0x20 && c < 0x7F && c != '<' && c != '>'; });
+    return stands ? encoded : QByteArray();
+}
+
+bool hasPlaceholder(const QString& link) {
+    static const QRegularExpression placeholder(":::[a-z0-9]+:::");
+    return placeholder.match(link).hasMatch();
+}
+
 }  // namespace
 
 QString markedUnsubscribe(const QString& templateHtml) {
@@ -36,14 +53,18 @@ QString markedUnsubscribe(const QString& templateHtml) {
     return namesItsGoal(link) ? link : QString();
 }
 
-QByteArray unsubscribeLink(const QString& link, const Mailbox& sender) {
-    // As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets
-    const QString given = link.size() <= longestLink ? withoutLineEnds(link) : QString();
-    const QByteArray encoded = namesItsGoal(given) ? QUrl(given).toEncoded() : QByteArray();
-    const bool stands = !encoded.isEmpty() && encoded.size() <= longestLink &&
-                        std::all_of(encoded.begin(), encoded.end(),
-                                    [](char c) { return c > 0x20 && c < 0x7F && c != '<' && c != '>'; });
-    return stands ? encoded : mailLink(sender);
+bool markedOneClick(const QString& templateHtml) {
+    const HtmlReferences references = findReferences(templateHtml.toUtf8());
+    return references.oneClick && references.unsubscribe.toLower().startsWith("https://");
+}
+
+QByteArray unsubscribeHeaders(const QString& link, bool oneClick, const Mailbox& sender) {
+    const QByteArray given = headerLink(link);
+    if (given.isEmpty()) return foldedHeader("List-Unsubscribe", '<' + mailLink(sender) + '>');
+    if (!oneClick || !given.startsWith("https://") || hasPlaceholder(link))
+        return foldedHeader("List-Unsubscribe", '<' + given + '>');
+    return foldedHeader("List-Unsubscribe", '<' + given + ">, <" + mailLink(sender) + '>') +
+           "List-Unsubscribe-Post: List-Unsubscribe=One-Click\r\n";
 }
 
 }  // namespace mail

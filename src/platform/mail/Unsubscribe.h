@@ -12,8 +12,14 @@ namespace mail {
 /// address, so that nothing a recipient's values add behind it can lead elsewhere. Empty without one.
 QString markedUnsubscribe(const QString& templateHtml);
 
-/// The link as it may stand in List-Unsubscribe, without angle brackets. Where it is empty or cannot stand
-/// there, a mail to the sender takes its place.
-QByteArray unsubscribeLink(const QString& link, const Mailbox& sender);
+/// Whether that link may be followed by a mail program without the page being shown: https, and marked
+/// rel="unsubscribe one-click".
+bool markedOneClick(const QString& templateHtml);
+
+/// The headers that tell where to sign off, with their line ends. List-Unsubscribe names the link, or a mail
+/// to the sender where the link is empty or cannot stand there. With `oneClick` both stand in it, and
+/// List-Unsubscribe-Post (RFC 8058) comes with it, unless the link is no https or a placeholder was left in
+/// it. One click needs a signature over both headers: ask DkimSigner first.
+QByteArray unsubscribeHeaders(const QString& link, bool oneClick, const Mailbox& sender);
 
 }  // namespace mail
