@@ -105,6 +105,37 @@ TEST_F(OpenTest, TruncatedFileIsDamagedWhereverItIsCut) {
         expectRefused(ErrorCode::DamagedDatabase, whole.substr(0, length));
 }
 
+TEST_F(OpenTest, RoomReservedBehindTheEndIsNoDamage) {
+    std::string bytes = emptyBytes();
+    // The map of free pages ends on page 1: pages 23 to 31 and some more are taken.
+    bytes.replace(2 * 4096 - 64 + 23 / 8, 20, std::string(20, '\0'));
+    writeBytes(path(), bytes);
+    const DatabasePtr database = open(path());
+    Table& recipients = table(*database);
+    EXPECT_OK(database->begin());
+    std::vector<RowId> ids;
+    for (int i = 0; i < 20000; ++i)
+        ids.push_back(insert(recipients, recipient(recipients, "Ditta")));
+    EXPECT_OK(database->commit());
+    EXPECT_OK(database->begin());
+    for (const RowId id : ids)
+        EXPECT_OK(recipients.erase(id));
+    EXPECT_OK(database->commit());
+    EXPECT_GT(bytesOf(path()).size(), size_t{4096} * (23 + 160));
+    expectSoundForAll(path());
+}
+
+TEST_F(OpenTest, TableThatOwnsAPageBehindTheEndTellsATruncatedFile) {
+    std::string bytes = emptyBytes();
+    bytes[2 * 4096 - 64 + 40 / 8] = '\0';
+    for (const size_t map :
+         {0, 1, 2}) {  // rows of tb_gruppi's map page, from the page's end: owned, room, index
+        std::string changed = bytes;
+        changed[18 * 4096 - 69 * (map + 1) + 5 + 40 / 8] = '\1';
+        expectRefused(ErrorCode::DamagedDatabase, changed);
+    }
+}
+
 TEST_F(OpenTest, PasswordIsAskedFor) {
     writeBytes(path(), withPassword(u"Segreta€"));
     EXPECT_FAILS(ErrorCode::InvalidPassword, Database::open(path()));

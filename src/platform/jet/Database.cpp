@@ -2,8 +2,8 @@
 
 #include "platform/jet/Catalog.h"
 #include "platform/jet/Engine.h"
+#include "platform/jet/FileEnd.h"
 #include "platform/jet/Names.h"
-#include "platform/jet/UsageMap.h"
 
 namespace jet {
 
@@ -34,8 +34,8 @@ Result<std::unique_ptr<Database>> Database::open(const std::string& path, const 
         if (!wanted.empty() && wanted != options.password)
             fail(ErrorCode::InvalidPassword, "Password non valida.");
         const Reading reading(engine->file);
-        if (GlobalMap(engine->file).reachesBehindFile()) failDamaged("il file \"", path, "\" è troncato");
-        (void)currentCatalog(*engine);
+        if (lacksItsEnd(engine->file, currentCatalog(*engine)))
+            failDamaged("il file \"", path, "\" è troncato");
         engine->toldGeneration = engine->file.generation();
         return std::unique_ptr<Database>(new Database(std::move(engine)));
     });

@@ -46,7 +46,8 @@ class GlobalMap {
     uint32_t take();
     /// Gives a page back and wipes its first bytes.
     void give(uint32_t page);
-    /// Whether pages that the map calls used lie behind the file's end: the end of the file is missing.
+    /// Whether pages that the map calls used lie behind the file's end: they are reserved, or the end is
+    /// missing.
     bool reachesBehindFile() const;
 
   private:
