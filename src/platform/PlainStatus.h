@@ -13,6 +13,7 @@ enum class ErrorCode : int {
     Overflow = 6,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    Internal = 51,
     FileNotFound = 53,
     DeviceIo = 57,
     InputPastEnd = 62,
@@ -32,6 +33,7 @@ enum class ErrorCode : int {
     ItemNotFound = 3265,
     UnrecognizedFormat = 3343,
     DamagedDatabase = 3049,
+    DatabaseFull = 3183,
     CancelSelected = 32755,
     Timeout = -2147217871,
 };

@@ -131,6 +131,46 @@ TEST_F(UsageMapTest, FirstPagesAreNeverHandedOut) {
     EXPECT_GE(GlobalMap(*file).take(), firstOrdinaryPage);
 }
 
+TEST_F(UsageMapTest, PageBehindTheReachOfEveryMapTellsTheLimit) {
+    map().set(10, true);
+    map().set(16 * map::pagesPerBitmap - 1, true);
+    try {
+        map().set(16 * map::pagesPerBitmap, true);
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.status.code(), ErrorCode::DatabaseFull);
+        EXPECT_NE(failure.status.plainText().find(u"2 GB"), std::u16string::npos);
+    }
+}
+
+TEST_F(UsageMapTest, FileOfTheGreatestSizeTakesNoMorePages) {
+    file->rollback();
+    std::filesystem::resize_file(path(), uint64_t{maxPages} * pageSize);
+    file->beginWrite();
+    EXPECT_EQ(file->pageCount(), maxPages);
+    try {
+        file->append();
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.status.code(), ErrorCode::DatabaseFull);
+    }
+    file->rollback();
+    std::filesystem::resize_file(path(), uint64_t{maxPages} * pageSize + pageSize);
+    EXPECT_FAILS(ErrorCode::DatabaseFull, Database::open(path()));
+    std::filesystem::resize_file(path(), 23 * pageSize);
+    file->beginWrite();
+}
+
+TEST_F(UsageMapTest, RowThatDoesNotFitIsAnErrorOfTheEngineAndNotOfTheFile) {
+    try {
+        appendRow(file->change(17), 17, Bytes(4050));
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.status.code(), ErrorCode::Internal);
+        EXPECT_TRUE(failure.status.plainText().starts_with(u"Errore interno"));
+    }
+}
+
 TEST_F(UsageMapTest, MapThatCannotBeReadIsDamage) {
     rowBytes(file->change(17), 17, 0)[0] = 9;
     EXPECT_THROW(map().pages(), Failure);

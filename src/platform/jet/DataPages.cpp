@@ -53,7 +53,7 @@ void makeDataPage(Page& page, uint32_t owner) {
 
 uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags) {
     const DataPageView view(page, number);
-    if (!view.fits(row.size())) failDamaged("la pagina ", number, " non ha posto");
+    if (!view.fits(row.size())) failInternal("la pagina ", number, " non ha posto");
     const size_t count = view.count();
     const size_t start = lowestStart(page, count) - row.size();
     std::copy(row.begin(), row.end(), page.begin() + static_cast<ptrdiff_t>(start));
@@ -70,7 +70,7 @@ void resizeRow(Page& page, uint32_t number, size_t slot, size_t length, uint16_t
     for (size_t i = slot; i < count; ++i)
         (void)view.bytes(i);  // nothing is moved on a damaged page
     if (slot >= count || length > oldLength + view.freeBytes())
-        failDamaged("la pagina ", number, " non ha posto");
+        failInternal("la pagina ", number, " non ha posto");
 
     const size_t lowest = lowestStart(page, count);
     const size_t start = load16(&page[data::slots + 2 * slot]) & data::offsetMask;

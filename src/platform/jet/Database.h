@@ -130,8 +130,9 @@ class Table {
 /// exclude each other as well, so share one.
 ///
 /// Failures: FileNotFound, PathAccess, UnrecognizedFormat, InvalidPassword, FileInUse, ReadOnlyDatabase,
-/// DeviceIo, DamagedDatabase (what is told contradicts itself), NotSupported (what cannot be kept right,
-/// refused before the file is touched). One thread at a time.
+/// DeviceIo, DamagedDatabase (what the file tells contradicts itself), DatabaseFull (2 GB), Internal (the
+/// engine contradicts itself), NotSupported (what cannot be kept right, refused before the file is touched).
+/// One thread at a time.
 class Database {
   public:
     struct Options {

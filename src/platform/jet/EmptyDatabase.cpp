@@ -261,7 +261,7 @@ class Builder {
             Bytes key;
             appendLong(key, object.parent);
             std::string name;
-            if (!appendIndexKey(name, object.name)) failDamaged("nome senza chiave");
+            if (!appendIndexKey(name, object.name)) failInternal("un nome non ha chiave");
             key.insert(key.end(), name.begin(), name.end());
             byName.push_back(withRow(key, objectRowsPage, slot));
             key.clear();

@@ -42,6 +42,18 @@ template <class... Parts>
     fail(ErrorCode::DamagedDatabase, "Il database è danneggiato: ", phrase(parts...), ".");
 }
 
+/// The engine contradicts itself, whatever the file holds: a page that was found to have room has none. The
+/// parts complete the sentence "Errore interno del database: …".
+template <class... Parts>
+[[noreturn]] void failInternal(const Parts&... parts) {
+    fail(ErrorCode::Internal, "Errore interno del database: ", phrase(parts...), ".");
+}
+
+/// The file, or one of its maps, would grow beyond the end of a Jet file.
+[[noreturn]] inline void failFull() {
+    fail(ErrorCode::DatabaseFull, "Il database ha raggiunto la dimensione massima di 2 GB.");
+}
+
 /// Runs `work` and hands back its outcome as a Status or Result.
 template <class Work>
 auto guarded(Work&& work) -> decltype(work()) {

@@ -41,7 +41,7 @@ IndexPage IndexTree::load(uint32_t number) const {
 }
 
 void IndexTree::store(uint32_t number, const IndexPage& page) {
-    if (!page.fits()) failDamaged("la pagina di indice ", number, " è troppo piena");
+    if (!page.fits()) failInternal("la pagina di indice ", number, " è troppo piena");
     page.store(m_file.change(number), m_definition.page);
 }
 
@@ -170,7 +170,10 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
 std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, bool atEnd) {
     if (page.fits()) return {{std::move(page), std::move(greatest)}};
     const size_t count = page.count();
-    if (count < 4) failDamaged("le voci di un indice sono troppo lunghe");
+    // The engine's own keys are shorter than a third of a page.
+    if (count < 4)
+        fail(ErrorCode::NotSupported,
+             "Le voci di un indice del database sono troppo lunghe per essere divise.");
     IndexPage right;
     right.leaf = page.leaf;
     right.level = page.level;

@@ -47,8 +47,10 @@ void PageFile::refreshState(const FileState& now) {
     if (now == m_state) return;
     dropCache();
     readHeader();
-    if (now.size > uint64_t{maxPages} * bytesPerPage() || now.size % bytesPerPage() != 0)
-        failDamaged("la lunghezza del file non è quella di un database");
+    if (now.size > uint64_t{maxPages} * bytesPerPage())
+        fail(ErrorCode::DatabaseFull, "Il file \"", m_path,
+             "\" supera la dimensione massima di un database, 2 GB.");
+    if (now.size % bytesPerPage() != 0) failDamaged("la lunghezza del file non è quella di un database");
     m_state = now;
     m_pageCount = static_cast<uint32_t>(now.size / bytesPerPage());
 }
@@ -145,8 +147,7 @@ Page& PageFile::change(uint32_t n) {
 }
 
 uint32_t PageFile::append() {
-    if (m_pageCount >= maxPages)
-        fail(ErrorCode::NotSupported, "Il database ha raggiunto la dimensione massima di 2 GB.");
+    if (m_pageCount >= maxPages) failFull();
     if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
     const uint32_t n = m_pageCount++;
     auto page = std::make_shared<Page>();

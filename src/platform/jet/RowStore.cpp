@@ -123,7 +123,7 @@ bool RowStore::replaceAt(RowId place, std::span<const uint8_t> row, uint16_t fla
 
 void RowStore::update(RowId id, std::span<const uint8_t> row) {
     const std::optional<Stored> old = find(id);
-    if (!old) failDamaged("una riga di \"", m_definition.name, "\" è sparita");
+    if (!old) failInternal("una riga di \"", m_definition.name, "\" è sparita");
     const bool moved = old->place != id;
     if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
     const RowId body = put(row, data::notARow);
@@ -138,7 +138,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
 
 void RowStore::erase(RowId id) {
     const std::optional<Stored> old = find(id);
-    if (!old) failDamaged("una riga di \"", m_definition.name, "\" è sparita");
+    if (!old) failInternal("una riga di \"", m_definition.name, "\" è sparita");
     if (old->place != id) remove(old->place);
     remove(id);
 }

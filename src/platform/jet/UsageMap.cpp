@@ -145,6 +145,7 @@ void UsageMap::set(uint32_t page, bool member) {
     }
     const size_t k = page / map::pagesPerBitmap;
     const MapRow now(m_file, m_page, m_slot);
+    if (k >= map::mostBitmaps) failFull();
     if (k >= now.bitmaps())
         fail(ErrorCode::NotSupported, "Una mappa delle pagine del database non può crescere oltre.");
     uint32_t bitmap = now.bitmap(k);
