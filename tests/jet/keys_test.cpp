@@ -3,7 +3,9 @@
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/Failure.h"
+#include "platform/jet/GeneralOrder.h"
 #include "platform/jet/IndexPage.h"
+#include "platform/jet/JetText.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/RowStore.h"
 #include "support/Vectors.h"
@@ -146,6 +148,9 @@ class OneKeyTest : public KeysTest {
         }
         return keyOf(Type::Text, ascending, stored);
     }
+    static QJsonArray charactersOfTheTable() {
+        return jsonOf(QStringLiteral("jet/general-weights.json"))[u"characters"].toArray();
+    }
     static Bytes fromHex(const QString& hex) {
         const QByteArray bytes = QByteArray::fromHex(hex.toLatin1());
         return {bytes.begin(), bytes.end()};
@@ -180,12 +185,68 @@ TEST_F(OneKeyTest, EveryTypeHasTheKeysOfTheVectors) {
     EXPECT_EQ(met.size(), types.size());
 }
 
-TEST_F(OneKeyTest, TextThatNoRealFileShowsIsRefused) {
+TEST_F(OneKeyTest, TextsOfTheTableHaveKeys) {
     for (const char16_t* text :
-         {u"10 €", u"L\u2019Aquila", u"\u0160koda", u"a\u2013b", u"\u4e2d", u"\U0001F600"})
-        EXPECT_THROW(textKey(text), Failure) << QString::fromUtf16(text).toStdString();
-    for (const char16_t* text : {u"", u"a", u"L'Aquila", u"Perù-Bolivia", u"ÿ \u00a0"})
-        EXPECT_NO_THROW(textKey(text));
+         {u"", u"a", u"L'Aquila", u"Perù-Bolivia", u"ÿ \u00a0", u"10 €", u"L\u2019Aquila", u"\u0160koda",
+          u"a\u2013b", u"Żukowski", u"Dvořák", u"\u201cnome\u201d \u2026", u"Ditta\u2122"})
+        EXPECT_NO_THROW(textKey(text)) << QString::fromUtf16(text).toStdString();
+}
+
+TEST_F(OneKeyTest, EveryCharacterOfTheVectorsHasItsKey) {
+    size_t characters = 0;
+    for (const QJsonValue entry : charactersOfTheTable()) {
+        const QJsonObject vector = entry.toObject();
+        const auto code = static_cast<char16_t>(vector[u"code"].toString().toInt(nullptr, 16));
+        // Between two letters: their weights, and two places for what follows.
+        Bytes expected{0x7F, 0x4A};
+        const Bytes main = fromHex(vector[u"main"].toString());
+        const Bytes accent = fromHex(vector[u"accent"].toString());
+        const Bytes special = fromHex(vector[u"special"].toString());
+        expected.insert(expected.end(), main.begin(), main.end());
+        expected.insert(expected.end(), {0x4C, 0x01});
+        if (!accent.empty()) expected.insert(expected.end(), {0x02, accent[0]});
+        if (!special.empty())
+            expected.insert(expected.end(), {0x01, 0x01, 0x01, 0x80, 7 + 4, 0x06, special[0]});
+        expected.push_back(0);
+        EXPECT_EQ(textKey(std::u16string(u"a") + code + u"b"), expected) << static_cast<int>(code);
+        ++characters;
+    }
+    EXPECT_EQ(characters, 548u);
+}
+
+TEST_F(OneKeyTest, KeysRiseAsTheTextsAreSorted) {
+    std::vector<std::u16string> texts;
+    for (const QJsonValue entry : charactersOfTheTable()) {
+        const auto code = static_cast<char16_t>(entry.toObject()[u"code"].toString().toInt(nullptr, 16));
+        if (code == 0xDF || code == 0x20) continue;
+        texts.push_back(std::u16string(u"a") + code + u"b");
+        texts.push_back(std::u16string(1, code));
+    }
+    const auto sorted = [](const std::u16string& a, const std::u16string& b) {
+        return compareGeneral(toUtf8(a), toUtf8(b)) < 0;
+    };
+    std::sort(texts.begin(), texts.end(), sorted);
+    for (size_t i = 1; i < texts.size(); ++i)
+        EXPECT_EQ(sorted(texts[i - 1], texts[i]), textKey(texts[i - 1]) < textKey(texts[i]));
+}
+
+TEST_F(OneKeyTest, OtherCharactersAreRefusedByName) {
+    const std::pair<const char16_t*, const char16_t*> refusals[] = {
+        {u"Миp", u"\"М\" (U+041C)"},
+        {u"a\u4e2d", u"\"\u4e2d\" (U+4E2D)"},
+        {u"\U0001F600", u"\"\U0001F600\" (U+01F600)"},
+        {u"Straße-Nord", u"\"ß\" (U+00DF)"},
+        {u"Œuvre d'été", u"\"Œ\" (U+0152)"}};
+    for (const auto& [text, name] : refusals) {
+        try {
+            textKey(text);
+            ADD_FAILURE() << QString::fromUtf16(text).toStdString();
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.status.code(), ErrorCode::NotSupported);
+            EXPECT_NE(failure.status.plainText().find(name), std::u16string::npos)
+                << failure.status.text().toStdString();
+        }
+    }
 }
 
 TEST_F(OneKeyTest, LigatureIsTakenWhereItsPlacesMakeNoDifference) {

@@ -212,6 +212,10 @@ constexpr auto weights = [] {
     return table;
 }();
 
+Weight weightOf(char32_t code) {
+    return code < weightCount ? weights[code] : Weight{};
+}
+
 constexpr size_t indexedCharacters = 255;
 constexpr uint8_t noAccent = 0x02;
 constexpr uint8_t partEnd = 0x01;
@@ -269,7 +273,7 @@ bool appendKey(std::string& key, std::string_view text, size_t limit, LigaturePl
     for (size_t at = 0; at < text.size() && units < limit;) {
         const char32_t code = nextCodePoint(text, at);
         units += code > 0xffff ? 2 : 1;
-        const Weight weight = code < weightCount ? weights[code] : Weight{};
+        const Weight weight = weightOf(code);
         if (!weight.known) {
             parts.allKnown = false;
             appendUnknown(key, code);
@@ -323,15 +327,20 @@ bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending, Lig
     return true;
 }
 
-bool hasCertainKey(std::string_view utf8) {
-    for (size_t at = 0; at < utf8.size();) {
-        const char32_t code = nextCodePoint(utf8, at);
-        if (code == 0 || code > 0xff) return false;
-    }
+std::optional<char32_t> characterWithoutKey(std::string_view utf8) {
     std::string one;
     std::string two;
-    return appendIndexKey(one, utf8, true, LigaturePlaces::One) &&
-           appendIndexKey(two, utf8, true, LigaturePlaces::Two) && one == two;
+    if (appendIndexKey(one, utf8, true, LigaturePlaces::One) &&
+        appendIndexKey(two, utf8, true, LigaturePlaces::Two) && one == two)
+        return std::nullopt;
+    std::optional<char32_t> ligature;
+    for (size_t at = 0; at < utf8.size();) {
+        const char32_t code = nextCodePoint(utf8, at);
+        const Weight weight = weightOf(code);
+        if (!weight.known) return code;
+        if (!ligature && isLigature(weight)) ligature = code;
+    }
+    return ligature;
 }
 
 }  // namespace jet

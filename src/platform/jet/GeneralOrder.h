@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,9 +27,9 @@ enum class LigaturePlaces { One, Two };
 [[nodiscard]] bool appendIndexKey(std::string& key, std::string_view utf8, bool ascending = true,
                                   LigaturePlaces places = LigaturePlaces::One);
 
-/// Whether the text's index key is the one that Access writes: files made by it show the weights of U+0001 to
-/// U+00FF, and the text has the same key however ligatures are counted. Other text cannot be kept in an
-/// index.
-bool hasCertainKey(std::string_view utf8);
+/// The first character that keeps the text out of an index; nothing when its key is certain. That is a
+/// character without a known weight, or a letter with two main weights in a text whose key depends on how its
+/// places are counted.
+std::optional<char32_t> characterWithoutKey(std::string_view utf8);
 
 }  // namespace jet

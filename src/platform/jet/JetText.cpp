@@ -13,24 +13,6 @@ namespace {
 constexpr size_t longestCompressed = 1024;
 constexpr char32_t replacement = 0xFFFD;
 
-void appendCodePoint(char32_t c, std::string& out) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        const char bytes[] = {static_cast<char>(0xC0 | c >> 6), static_cast<char>(0x80 | (c & 0x3F))};
-        out.append(bytes, 2);
-    } else if (c < 0x10000) {
-        const char bytes[] = {static_cast<char>(0xE0 | c >> 12), static_cast<char>(0x80 | (c >> 6 & 0x3F)),
-                              static_cast<char>(0x80 | (c & 0x3F))};
-        out.append(bytes, 3);
-    } else {
-        const char bytes[] = {static_cast<char>(0xF0 | c >> 18), static_cast<char>(0x80 | (c >> 12 & 0x3F)),
-                              static_cast<char>(0x80 | (c >> 6 & 0x3F)),
-                              static_cast<char>(0x80 | (c & 0x3F))};
-        out.append(bytes, 4);
-    }
-}
-
 // Lone surrogates are replaced.
 template <class UnitAt>
 void appendUnits(size_t count, UnitAt unitAt, std::string& out) {
@@ -86,6 +68,24 @@ void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
 }
 
 }  // namespace
+
+void appendCodePoint(char32_t c, std::string& out) {
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        const char bytes[] = {static_cast<char>(0xC0 | c >> 6), static_cast<char>(0x80 | (c & 0x3F))};
+        out.append(bytes, 2);
+    } else if (c < 0x10000) {
+        const char bytes[] = {static_cast<char>(0xE0 | c >> 12), static_cast<char>(0x80 | (c >> 6 & 0x3F)),
+                              static_cast<char>(0x80 | (c & 0x3F))};
+        out.append(bytes, 3);
+    } else {
+        const char bytes[] = {static_cast<char>(0xF0 | c >> 18), static_cast<char>(0x80 | (c >> 12 & 0x3F)),
+                              static_cast<char>(0x80 | (c >> 6 & 0x3F)),
+                              static_cast<char>(0x80 | (c & 0x3F))};
+        out.append(bytes, 4);
+    }
+}
 
 void appendPlainUtf8(std::span<const uint8_t> utf16, std::string& out) {
     appendUnits(

@@ -12,6 +12,9 @@ namespace jet {
 /// Text as it is stored: UTF-16LE, or behind FF FE the compressed form. That begins with one byte for each
 /// character below U+0100; a zero byte switches to UTF-16LE and back.
 
+/// Appends the UTF-8 form of one character.
+void appendCodePoint(char32_t c, std::string& out);
+
 /// Appends the UTF-8 form of stored text to `out`. Lone surrogates and a cut last unit become U+FFFD.
 void appendUtf8(std::span<const uint8_t> stored, std::string& out);
 

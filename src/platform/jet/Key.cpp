@@ -5,6 +5,7 @@
 #include "platform/jet/Failure.h"
 #include "platform/jet/Format.h"
 #include "platform/jet/GeneralOrder.h"
+#include "platform/jet/JetText.h"
 #include "platform/jet/ValueCodec.h"
 
 namespace jet {
@@ -75,6 +76,17 @@ std::string textOf(const Column& column, const StoredField& field) {
     std::string text;
     appendStoredText(column, field.bytes, text);
     return text;
+}
+
+// The character and its number, as in "ж" (U+0436).
+std::string characterName(char32_t code) {
+    constexpr char digits[] = "0123456789ABCDEF";
+    std::string number;
+    for (int shift = code > 0xFFFF ? 20 : 12; shift >= 0; shift -= 4)
+        number += digits[code >> shift & 0xF];
+    std::string character;
+    appendCodePoint(code, character);
+    return phrase("\"", character, "\" (U+", number, ")");
 }
 
 // False when the text has no known key.
@@ -177,9 +189,10 @@ Bytes keyToWrite(const TableDefinition& definition, const Index& index, const Fi
     for (const Index::Part& part : index.parts) {
         const Column& column = columnOf(definition, part);
         const StoredField stored = field(column);
-        if (column.type == Type::Text && !stored.null && !hasCertainKey(textOf(column, stored)))
-            fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
-                 "\" contiene caratteri che non possono stare nell'indice \"", index.name, "\".");
+        if (column.type != Type::Text || stored.null) continue;
+        if (const auto character = characterWithoutKey(textOf(column, stored)))
+            fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name, "\" contiene il carattere ",
+                 characterName(*character), ", che non può stare nell'indice \"", index.name, "\".");
     }
     const std::optional<Bytes> key = keyWith(definition, index, field, LigaturePlaces::One);
     if (!key || key->size() > longestKey)
