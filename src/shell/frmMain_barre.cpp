@@ -142,14 +142,14 @@ void frmMain::AggiornaData() {
     barre->GetStatic("stcData")->setText(QLocale().toString(sys::clock().now().date(), QLocale::LongFormat));
 }
 
-/// The two commands of the pop-up menus that stand on a bar as well are off wherever no pop-up offers them,
-/// so that they never meet an empty nodoCorrente.
+/// The two commands of the pop-up menus that stand on a bar as well are off there wherever no key starts
+/// them, so that they never meet an empty nodoCorrente, nor a group that is not the one shown as selected.
 void frmMain::AggiornaComandi() {
     auto* gruppi = static_cast<frmGruppi*>(pannelli.DockWindows("dckGruppi")->content());
     const QString menuAlbero = gruppi ? gruppi->MenuOra() : QString();
     const bool daGriglia = !menuAlbero.isEmpty() && !griglia::MenuOra().isEmpty();
-    barre->GetToolButton("cmdPopMailingNew")->setEnabled(!menuAlbero.isEmpty());
-    barre->GetToolButton("cmdPopMailingUserNew")->setEnabled(menuAlbero == "popMailing" || daGriglia);
+    barre->GetToolButton("cmdPopMailingNew")->setOnBars(!menuAlbero.isEmpty());
+    barre->GetToolButton("cmdPopMailingUserNew")->setOnBars(menuAlbero == "popMailing" || daGriglia);
 }
 
 void frmMain::CreaGiroFuoco(frmGruppi& gruppi) {

@@ -25,6 +25,8 @@ T* find(const std::map<QString, T*>& items, const QString& name) {
 Command::Command(const QString& name, const QString& description, QAction* action, QObject* parent)
     : QObject(parent), m_name(name), m_description(description), m_action(action) {
     action->setObjectName(name);
+    // A button follows its action on its own, before this is told.
+    connect(action, &QAction::changed, this, &Command::enableButtons);
 }
 
 QString Command::Caption() const {
@@ -50,6 +52,11 @@ void Command::setReachable(bool reachable) {
     m_action->setEnabled(m_enabled && m_reachable);
 }
 
+void Command::setOnBars(bool on) {
+    m_onBars = on;
+    enableButtons();
+}
+
 int Command::Checked() const {
     return m_checked ? 1 : 0;
 }
@@ -59,10 +66,22 @@ void Command::setChecked(int checked) {
     m_action->setChecked(m_checked);
 }
 
-void Command::describeButtons() {
+std::vector<QWidget*> Command::barButtons() const {
+    std::vector<QWidget*> buttons;
     for (QObject* place : m_action->associatedObjects())
         if (auto* bar = qobject_cast<QToolBar*>(place))
-            bar->widgetForAction(m_action)->setAccessibleDescription(m_description);
+            if (QWidget* button = bar->widgetForAction(m_action)) buttons.push_back(button);
+    return buttons;
+}
+
+void Command::describeButtons() {
+    for (QWidget* button : barButtons())
+        button->setAccessibleDescription(m_description);
+}
+
+void Command::enableButtons() {
+    for (QWidget* button : barButtons())
+        button->setEnabled(m_action->isEnabled() && m_onBars);
 }
 
 CommandList::CommandList(QMenu* menu, QObject* parent)

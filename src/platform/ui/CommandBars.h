@@ -54,6 +54,8 @@ class Command : public QObject {
     /// As it was set; a command that stands on bars that are off cannot be started all the same.
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
+    /// Whether its buttons on the tool bars are on; the menus do not follow.
+    void setOnBars(bool on);
     /// 0 or 1.
     int Checked() const;
     void setChecked(int checked);
@@ -61,7 +63,9 @@ class Command : public QObject {
   private:
     friend class CommandBars;
     Command(const QString& name, const QString& description, QAction* action, QObject* parent);
+    std::vector<QWidget*> barButtons() const;
     void describeButtons();
+    void enableButtons();
     void setReachable(bool reachable);
 
     QString m_name;
@@ -69,6 +73,7 @@ class Command : public QObject {
     QAction* m_action;
     bool m_enabled = true;
     bool m_reachable = true;
+    bool m_onBars = true;
     bool m_checked = false;
 };
 

@@ -45,6 +45,8 @@ int answerOfUser(const MessageDialog::Shown& box) {
                        dialogOwner());
     dialog.setObjectName("messageDialog");
     dialog.setTextFormat(Qt::PlainText);
+    if (box.defaultAnswer == MessageDialog::No && box.buttons.testFlag(QMessageBox::No))
+        dialog.setDefaultButton(QMessageBox::No);
     switch (dialog.exec()) {
         case QMessageBox::Yes:
             return MessageDialog::Yes;
@@ -57,8 +59,8 @@ int answerOfUser(const MessageDialog::Shown& box) {
 
 }  // namespace
 
-int MessageDialog::show(const QString& text, int style, const QString& title) {
-    Shown box{text, style, title, iconOf(style), buttonsOf(style), Ok};
+int MessageDialog::show(const QString& text, int style, const QString& title, int defaultAnswer) {
+    Shown box{text, style, title, iconOf(style), buttonsOf(style), Ok, defaultAnswer};
     box.answer = unattended() ? queuedAnswer(box) : answerOfUser(box);
     shownBoxes.append(box);
     return box.answer;

@@ -22,11 +22,12 @@ class MessageDialog {
         QMessageBox::Icon icon = QMessageBox::NoIcon;
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         int answer = Ok;
+        int defaultAnswer = Yes;  ///< of a box of Yes and No: what Return presses
     };
 
     /// Shows a box over the active window and waits for its answer. Lines are separated by CR LF. Closing a
-    /// box of Yes and No by Esc answers No.
-    static int show(const QString& text, int style, const QString& title);
+    /// box of Yes and No by Esc answers No; `defaultAnswer` (Yes or No) tells what Return presses in it.
+    static int show(const QString& text, int style, const QString& title, int defaultAnswer = Yes);
 
     /// For unattended runs: the answer of the next box that is not answered yet. A box that meets an empty
     /// queue ends the program, so that a run never hangs; so does an answer that the box does not offer.
