@@ -372,6 +372,25 @@ class TestGroupTree : public QObject {
         QCOMPARE(w.selected(), "A");
     }
 
+    void aRefusedDragIsAClickOnlyWhereItEndsOnItsNode() {
+        Window w;
+        connect(w.tree, &GroupTree::beforeDrag, &w.window,
+                [](const GroupNodeRef& node, bool* cancel) { *cancel = node->Key() != "A"; });
+        mouse::click(w.tree, w.at("A"));
+        w.events.clear();
+        QCOMPARE(mouse::startDrag(w.tree, w.at("B")), 0);
+        mouse::move(w.tree, w.at("A1"));
+        QCOMPARE(w.selected(), "B");
+        mouse::release(w.tree, w.at("A1"));
+        QVERIFY(!w.events.contains("click"));
+        QCOMPARE(w.selected(), "A");
+        QCOMPARE(mouse::startDrag(w.tree, w.at("B")), 0);
+        mouse::release(w.tree, w.at("B"));
+        QVERIFY(w.events.contains("click"));
+        QCOMPARE(w.selected(), "B");
+        QCOMPARE(mouse::startDrag(w.tree, w.at("A")), 1);
+    }
+
     void dropHighlightIsDrawn() {
         Window w;
         const QRect area = w.tree->visualItemRect(w.tree->topLevelItem(0)->child(1));

@@ -137,6 +137,10 @@ void GroupTree::setSelectedItem(const GroupNodeRef& node) {
     setCurrentItem(node ? node->m_item : nullptr);
 }
 
+void GroupTree::EnsureVisible(const GroupNodeRef& node) {
+    if (node->m_item) scrollToItem(node->m_item);
+}
+
 GroupNodeRef GroupTree::HitTest(const QPoint& position) const {
     QTreeWidgetItem* item = itemAt(position);
     return item ? groupItem(item)->node() : nullptr;

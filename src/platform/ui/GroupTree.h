@@ -71,6 +71,8 @@ class GroupTree : public QTreeWidget {
     GroupNodeRef SelectedItem() const;
     /// Selects a node without any signal.
     void setSelectedItem(const GroupNodeRef& node);
+    /// Opens the nodes above it and scrolls to it.
+    void EnsureVisible(const GroupNodeRef& node);
     /// Null for empty space. In coordinates of the viewport.
     GroupNodeRef HitTest(const QPoint& position) const;
     /// Marks a node, or none.
@@ -93,6 +95,8 @@ class GroupTree : public QTreeWidget {
     /// Setting *cancel keeps the label from being opened, or the new text from being taken over.
     void beforeLabelEdit(bool* cancel);
     void afterLabelEdit(const QString& newText, bool* cancel);
+    /// A drag is about to begin on the node; setting *cancel keeps it from it.
+    void beforeDrag(const ui::GroupNodeRef& node, bool* cancel);
     /// Something is dragged over the node, or over none.
     void draggedOver(const ui::GroupNodeRef& node);
     /// The current row of a DataGrid of this program was dropped on the node, or on none.
@@ -127,6 +131,7 @@ class GroupTree : public QTreeWidget {
     GroupNodeRef m_pressed;
     GroupNodeRef m_lastClicked;
     bool m_pressedEmptySpace = false;
+    bool m_dragRefused = false;  ///< since the button went down
 };
 
 }  // namespace ui

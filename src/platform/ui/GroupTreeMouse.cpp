@@ -20,6 +20,7 @@ void GroupTree::mousePressEvent(QMouseEvent* event) {
     const GroupNodeRef node = HitTest(position);
     const bool onBranch = node && position.x() < visualItemRect(node->m_item).left();
     m_pressed = nullptr;
+    m_dragRefused = false;
     m_pressedEmptySpace = !node && event->button() == Qt::LeftButton;
     if (!node) return;
     if (onBranch || event->button() == Qt::LeftButton) {
@@ -48,7 +49,8 @@ void GroupTree::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GroupTree::mouseMoveEvent(QMouseEvent* event) {
-    QTreeWidget::mouseMoveEvent(event);
+    // Without its drag the toolkit would take the selection along with the pointer.
+    if (!m_dragRefused || !(event->buttons() & Qt::LeftButton)) QTreeWidget::mouseMoveEvent(event);
     Q_EMIT mouseMove();
 }
 
@@ -90,8 +92,10 @@ std::vector<ItemAction> GroupTree::itemActions(const QModelIndex& item) {
 }
 
 void GroupTree::startDrag(Qt::DropActions) {
+    if (!m_pressed || m_dragRefused) return;
+    Q_EMIT beforeDrag(m_pressed, &m_dragRefused);
+    if (m_dragRefused) return;
     const GroupNodeRef dragged = std::exchange(m_pressed, nullptr);
-    if (!dragged) return;
     const QRect area = visualItemRect(dragged->m_item);
     auto* drag = new QDrag(this);
     drag->setMimeData(dragContent(Dragged::Node));
