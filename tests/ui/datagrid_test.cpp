@@ -8,6 +8,7 @@
 
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/Desktop.h"
+#include "platform/ui/ItemViewAccess.h"
 #include "ui/datagrid_support.h"
 
 using ui::DataGrid;
@@ -397,6 +398,51 @@ class TestDataGrid : public QObject {
         QCOMPARE(w.grid->Rows(), 1);
         QVERIFY(w.data.Refresh().ok());
         QCOMPARE(dark(), 0);
+    }
+
+    void aNoticeStandsOverTheRowsUntilTheNextFill() {
+        Window w;
+        mouse::click(w.grid, w.cell(1, 5));
+        const QImage rows = w.grid->viewport()->grab().toImage();
+        w.grid->setNotice("Impossibile leggere");
+        QVERIFY(w.grid->viewport()->grab().toImage() != rows);
+        QCOMPARE(QAccessible::queryAccessibleInterface(w.grid)->text(QAccessible::Description),
+                 "Impossibile leggere");
+        for (QSignalSpy* told : {&w.click, &w.dblClick, &w.mouseMove, &w.mouseUp})
+            told->clear();
+        mouse::click(w.grid, w.cell(2, 2));
+        mouse::click(w.grid, w.cell(2, 5), Qt::RightButton);
+        QTest::mouseDClick(w.grid->viewport(), Qt::LeftButton, {}, w.cell(2, 5));
+        QTest::keyClick(w.grid, Qt::Key_Space);
+        QTest::keyClick(w.grid, Qt::Key_Down);
+        for (const QSignalSpy* told : {&w.click, &w.dblClick, &w.mouseMove, &w.mouseUp})
+            QVERIFY(told->isEmpty());
+        QCOMPARE(w.grid->Row(), 1);
+        QCOMPARE(w.grid->Rows(), 4);
+        QVERIFY(w.grid->itemActions(w.grid->model()->index(0, 2)).empty());
+        QVERIFY(w.data.Refresh().ok());
+        QCOMPARE(w.grid->Notice(), QString());
+        mouse::click(w.grid, w.cell(2, 2));
+        QCOMPARE(w.click.size(), 1);
+    }
+
+    void theCurrentRowIsChosenByATextOfItsRow() {
+        Window w;
+        QVERIFY(w.grid->setCurrentRow(3, "c@x.it"));
+        QCOMPARE(w.grid->Row(), 3);
+        QVERIFY(!w.grid->setCurrentRow(3, "d@x.it"));
+        QCOMPARE(w.grid->Row(), 3);
+    }
+
+    void rowsAreNamedByTheColumnThatWasChosen() {
+        Window w;
+        w.grid->setRowNameColumn(3);
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w.grid);
+        QCOMPARE(face->tableInterface()->rowDescription(1), "b@x.it");
+        QAccessibleInterface* box = face->tableInterface()->cellAt(2, 2);
+        QCOMPARE(box->tableCellInterface()->rowHeaderCells().constFirst()->text(QAccessible::Name), "c@x.it");
+        w.grid->setTextMatrix(3, 3, "");
+        QCOMPARE(face->tableInterface()->rowDescription(2), "3");
     }
 
     void assistiveProgramsSeeATableWithHeadsAndCheckableCells() {

@@ -16,6 +16,7 @@ class DataControl : public QObject {
     using QObject::QObject;
 
     void setConnectionString(const QString& text) { m_connectionString = text; }
+    const QString& RecordSource() const { return m_recordSource; }
     void setRecordSource(const QString& statement) { m_recordSource = statement; }
 
     /// Runs the record source, a `SELECT * FROM table …`, and hands a snapshot of its rows to the grid. On

@@ -51,6 +51,7 @@ void DataGrid::setDataSource(DataControl* source) {
 
 void DataGrid::fill(ado::Snapshot& rows) {
     const int column = Col();
+    setNotice({});
     m_model->setSnapshot(std::move(rows));
     m_widths.resize(static_cast<size_t>(m_model->columnCount()), designWidth);
     applyWidths();
@@ -127,6 +128,21 @@ void DataGrid::setEmptyText(const QString& text) {
     viewport()->update();
 }
 
+void DataGrid::setNotice(const QString& text) {
+    m_notice = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+bool DataGrid::setCurrentRow(int column, const QString& text) {
+    for (int row = 1; row < Rows(); ++row) {
+        if (TextMatrix(row, column) != text) continue;
+        setCurrentIndex(m_model->index(row - 1, Col()));
+        return true;
+    }
+    return false;
+}
+
 void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
     QTableView::initViewItemOption(option);
     // Without the keyboard focus the current row keeps a shade only.
@@ -134,12 +150,16 @@ void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
 }
 
 void DataGrid::paintEvent(QPaintEvent* event) {
-    QTableView::paintEvent(event);
-    if (Rows() > 1) return;
+    if (m_notice.isEmpty()) QTableView::paintEvent(event);
+    if (Rows() == 1 || !m_notice.isEmpty()) paintSentence();
+}
+
+void DataGrid::paintSentence() {
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    if (!m_notice.isEmpty()) painter.fillRect(viewport()->rect(), palette().base());
+    painter.setPen(palette().color(m_notice.isEmpty() ? QPalette::PlaceholderText : QPalette::Text));
     painter.drawText(viewport()->rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     m_emptyText);
+                     m_notice.isEmpty() ? m_emptyText : m_notice);
     if (!hasFocus()) return;
     QStyleOptionFocusRect rim;
     rim.initFrom(this);

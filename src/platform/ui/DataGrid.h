@@ -48,6 +48,9 @@ class DataGrid : public QTableView {
     /// Moves a column; those between move up by one.
     void setColPosition(int column, int position);
 
+    /// The column whose texts name the rows to assistive programs.
+    void setRowNameColumn(int column) { m_model->setNameColumn(column); }
+
     /// Lines under and between the headings; those between the cells are a lighter shade of it.
     void setLineColor(const QColor& color);
     /// Ground of the headings.
@@ -58,6 +61,13 @@ class DataGrid : public QTableView {
     const QColor& fixedColor() const { return m_fixedColor; }
     /// Painted in the middle while there is no row.
     void setEmptyText(const QString& text);
+    const QString& EmptyText() const { return m_emptyText; }
+    /// Stands over the rows, which are neither seen nor reached by mouse or key meanwhile; until the next
+    /// fill, or until it is empty.
+    void setNotice(const QString& text);
+    const QString& Notice() const { return m_notice; }
+    /// Makes the row with that text in a column the current one; false where there is none.
+    bool setCurrentRow(int column, const QString& text);
 
     /// Drags the current row, to be called from mouseMove while the left button is down. It returns at once
     /// unless the button went down on a row and the pointer has come far enough since; then when the drag is
@@ -97,6 +107,7 @@ class DataGrid : public QTableView {
     void applyWidths();
     void applyFont();
     void setRole(QPalette::ColorRole role, const QColor& color);
+    void paintSentence();
 
     GridModel* m_model;
     std::vector<int> m_widths;  ///< by the table's columns
@@ -104,6 +115,7 @@ class DataGrid : public QTableView {
     QColor m_lineColor;
     QColor m_fixedColor;
     QString m_emptyText;
+    QString m_notice;
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
     QPoint m_pointer;

@@ -11,6 +11,7 @@
 namespace ui {
 
 void DataGrid::mousePressEvent(QMouseEvent* event) {
+    if (!m_notice.isEmpty()) return;
     const QModelIndex cell = indexAt(event->position().toPoint());
     m_pressed = event->button() == Qt::LeftButton ? cell : QModelIndex();
     m_pressedAt = m_pointer = event->position().toPoint();
@@ -19,6 +20,7 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
 }
 
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    if (!m_notice.isEmpty()) return;
     QTableView::mouseReleaseEvent(event);
     const QPersistentModelIndex pressed = std::exchange(m_pressed, {});
     if (event->button() == Qt::LeftButton && pressed.isValid() &&
@@ -28,6 +30,7 @@ void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!m_notice.isEmpty()) return;
     m_pressed = QModelIndex();
     const QModelIndex cell = indexAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !cell.isValid()) return;
@@ -36,6 +39,7 @@ void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void DataGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_notice.isEmpty()) return;
     // With the button down the toolkit would move the selection along; here it means a drag.
     m_pointer = event->position().toPoint();
     if (!(event->buttons() & Qt::LeftButton)) QTableView::mouseMoveEvent(event);
@@ -43,6 +47,10 @@ void DataGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void DataGrid::keyPressEvent(QKeyEvent* event) {
+    if (!m_notice.isEmpty()) {
+        event->ignore();
+        return;
+    }
     const int box = m_model->firstCheckColumn();
     if (event->key() != Qt::Key_Space || box < 0 || Row() == 0) {
         QTableView::keyPressEvent(event);
@@ -55,6 +63,7 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
 }
 
 bool DataGrid::eventFilter(QObject* watched, QEvent* event) {
+    if (!m_notice.isEmpty()) return QTableView::eventFilter(watched, event);
     if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseMove)
         Q_EMIT mouseMove(Qt::NoButton);
     if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseButtonRelease) {
@@ -65,6 +74,7 @@ bool DataGrid::eventFilter(QObject* watched, QEvent* event) {
 }
 
 std::vector<ItemAction> DataGrid::itemActions(const QModelIndex& item) {
+    if (!m_notice.isEmpty()) return {};
     const auto here = [this, place = QPersistentModelIndex(item)](const std::function<void()>& act) {
         return [this, place, act] {
             setFocus(Qt::OtherFocusReason);

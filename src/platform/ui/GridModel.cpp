@@ -131,7 +131,11 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    if (orientation == Qt::Vertical) {
+        if (role != Qt::DisplayRole) return {};
+        const QString name = m_nameColumn > 0 ? text(section + 1, m_nameColumn) : QString();
+        return name.isEmpty() ? QVariant(section + 1) : QVariant(name);
+    }
     if (role == Qt::DisplayRole) return text(0, section);
     if (role != Qt::TextAlignmentRole) return {};
     return static_cast<int>(Qt::AlignVCenter | (isCheckColumn(section) ? Qt::AlignHCenter : Qt::AlignLeft));

@@ -31,6 +31,9 @@ class GridModel : public QAbstractTableModel {
     int gridRows() const { return static_cast<int>(m_rows.size()) + 1; }
     QString text(int row, int column) const;
     void setText(int row, int column, const QString& text);
+    /// The column whose texts name the rows to assistive programs; without one, or without a text, the rows'
+    /// numbers do.
+    void setNameColumn(int column) { m_nameColumn = column; }
     /// Columns of yes/no are shown as check boxes.
     bool isCheckColumn(int column) const;
     /// -1 when there is none.
@@ -55,6 +58,7 @@ class GridModel : public QAbstractTableModel {
     std::vector<int> m_order;  ///< source column at each position
     QStringList m_headings;    ///< by source column
     QHash<quint64, QString> m_written;
+    int m_nameColumn = 0;
 };
 
 }  // namespace ui
