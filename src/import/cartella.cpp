@@ -35,7 +35,8 @@ QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Pas
 std::optional<QString> cartella::Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,
                                         const Passo& passo) {
     if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo);
-    if (nodoCorrente) return NumeroNodo(nodoCorrente->Key);
+    // Rows of a group that was removed would be seen by nobody and get mail all the same.
+    if (nodoCorrente && GruppoEsiste(NumeroNodo(nodoCorrente->Key))) return NumeroNodo(nodoCorrente->Key);
     PuntatorePredefinito();
     ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");
     return std::nullopt;

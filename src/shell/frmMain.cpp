@@ -82,6 +82,7 @@ void frmMain::SvuotaGriglia() {
     destinatari->Clear();
     destinatari->setRows(1);
     destinatari->setEmptyText("Scegliere una cartella");
+    destinatari->setNotice({});
     AggiornaComandi();
 }
 

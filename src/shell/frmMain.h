@@ -46,8 +46,8 @@ class frmMain : public QMainWindow {
 
     /// The open dialog for a recipient database; empty when it was cancelled.
     static std::optional<QString> ChiediDatabase();
-    /// Makes another database the current one: path file, connection text, and an empty grid that is bound to
-    /// it.
+    /// Makes another database the current one: path file, connection text, no current node, and an empty grid
+    /// that is bound to it.
     void CambiaDatabase(const QString& percorso);
     /// The grid without rows; it stays so until a group is clicked.
     void SvuotaGriglia();

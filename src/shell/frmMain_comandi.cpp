@@ -109,6 +109,7 @@ void frmMain::ComandoPremuto(const QString& nome) {
     const auto riga = std::find_if(std::begin(tabellaComandi), std::end(tabellaComandi),
                                    [&](const RigaComando& r) { return nome == QLatin1String(r.nome); });
     if (riga != std::end(tabellaComandi)) riga->esegui(*this, accesso);
+    griglia::AggiornaFrase();
     AggiornaComandi();
 }
 

@@ -46,6 +46,8 @@ void frmMain::CambiaDatabase(const QString& percorso) {
     // The files that are kept open are let go, so that the old one can be moved or its disk taken away.
     ado::closeAll();
     CambiaPercorsoDBase(percorso);
+    // The number of a group of the old database may be that of another one in the new.
+    Prosegui()([this] { Gruppi().DimenticaNodo(); });
     SvuotaGriglia();
     dati->setConnectionString(connDB);
 }

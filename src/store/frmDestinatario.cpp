@@ -68,6 +68,7 @@ void frmDestinatario::closeEvent(QCloseEvent* chiusura) {
 
 void frmDestinatario::showEvent(QShowEvent* mostra) {
     QDialog::showEvent(mostra);
+    salvataggioFallito = false;
     prp->focusProxy()->setAccessibleName(prp->Item("Datidestinatario")->Caption());
     prp->setFocus();
     prp->setCurrentItem(modo == 1 ? "Spedire" : "Email");

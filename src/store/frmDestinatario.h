@@ -26,6 +26,8 @@ class frmDestinatario : public QDialog {
     /// The window is left by its buttons only: Esc has no effect.
     void reject() override {}
 
+    bool salvataggioFallito =
+        false;              ///< what the last opening ended with; the items hold what was not stored
     std::int16_t modo = 0;  ///< 0 a new recipient, 1 an edited one
     QLineEdit* txtIDuser;   ///< hidden: number of the edited recipient
     QLineEdit* txtIDgroup;  ///< hidden: number of the group

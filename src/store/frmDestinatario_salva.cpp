@@ -48,6 +48,9 @@ void frmDestinatario::cdmSalva_Click() {
     comando.setCommandTimeout(0);
     comando.setCommandText(modo == 1 ? ComandoModifica() : ComandoNuovo());
     prosegui([&] { esigi(comando.execute()); });
+    salvataggioFallito = prosegui.numero() != 0;
+    if (salvataggioFallito)
+        ui::MessageDialog::show(prosegui.testo(), ui::MessageDialog::Notice, "Attenzione");
     prosegui([this] { AggiornaGriglia(); });
     hide();
 }
@@ -76,6 +79,11 @@ void frmDestinatario::AggiornaGriglia() {
         return;
     }
     ui::DataGrid& grd = finestre::Main().grd();
+    // A fill after a failed save need not have found the recipient.
+    if (ripiega(QString(), griglia::idCorrente) != txtIDuser->text()) {
+        griglia::RinfrescaGriglia();
+        return;
+    }
     grd.setTextMatrix(grd.Row(), 2, FlagSpedire(*prp));
     for (const CampoDestinatario& campo : campiDestinatario)
         grd.setTextMatrix(grd.Row(), campo.colonnaGriglia, Testo(*prp, campo));

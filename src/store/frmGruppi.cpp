@@ -100,13 +100,29 @@ void frmGruppi::CaricaSottogruppi(const QString& chiave) {
 }
 
 void frmGruppi::TREEClick() {
+    const ui::GroupNodeRef scelto = TREE->SelectedItem();
+    if (!scelto) return;
     Prosegui prosegui;
-    prosegui([this] {
-        const ui::GroupNodeRef scelto = TREE->SelectedItem();
-        if (!scelto) fallisci(ErrorCode::ItemNotFound);
+    const bool riempita = prosegui([&] {
+        livelloMancato = scelto->Key();
         CaricaSottogruppi(scelto->Key());
+        livelloMancato.clear();
         griglia::RiempiGriglia();
     });
+    if (!riempita) griglia::SegnaNonLetta();
+    finestre::Main().AggiornaComandi();
+}
+
+void frmGruppi::CompletaLivello(const QString& chiave) {
+    if (livelloMancato != chiave) return;
+    CaricaSottogruppi(chiave);
+    livelloMancato.clear();
+}
+
+void frmGruppi::DimenticaNodo() {
+    nodoCorrente.reset();
+    chiaveNodo.clear();
+    livelloMancato.clear();
 }
 
 QString frmGruppi::MenuDelNodo() const {
@@ -115,5 +131,6 @@ QString frmGruppi::MenuDelNodo() const {
 }
 
 QString frmGruppi::MenuOra() const {
-    return nodoCorrente && TREE->Node(nodoCorrente->Key) ? MenuDelNodo() : QString();
+    const ui::GroupNodeRef scelto = TREE->SelectedItem();
+    return nodoCorrente && scelto && scelto->Key() == nodoCorrente->Key ? MenuDelNodo() : QString();
 }

@@ -24,16 +24,21 @@ class frmGruppi : public QWidget {
     /// one, until the tree is there; a refusal, or a file that is no recipient database, ends the program.
     void CaricaGruppiINI();
     /// What a click on the tree does: loads the children of the selected node and fills the grid with the
-    /// current one. Does nothing more from the point on where something fails.
+    /// current one. Does nothing more from the point on where something fails, but for a sentence over the
+    /// grid.
     void TREEClick();
 
     /// Loads the children of a node, unless it has some in the tree. Unguarded.
     void CaricaSottogruppi(const QString& chiave);
     /// Adds a node for the group as the last child of a node. Unguarded.
     void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
-    /// Name of the pop-up menu whose commands can be had without the mouse at this moment; empty for none,
-    /// also where the current node has left the tree.
+    /// Name of the pop-up menu whose commands keys and bar buttons start at this moment; empty for none, also
+    /// where the current node is not the one that the tree shows as selected.
     QString MenuOra() const;
+    /// From here on no node is current or was clicked: another database took the place of theirs.
+    void DimenticaNodo();
+    /// Loads the level of a node again if the last click on it could not. Unguarded.
+    void CompletaLivello(const QString& chiave);
 
     ui::GroupTree* const TREE;
 
@@ -52,5 +57,6 @@ class frmGruppi : public QWidget {
     void TREEOLEDragDrop(const ui::GroupNodeRef& nodo);
 
     QString chiaveNodo;          ///< key of the node last clicked: the group that a drag moves
+    QString livelloMancato;      ///< key of the node whose level the last click failed to load
     QString chiaveDestinazione;  ///< key of the node under a group drop
 };

@@ -8,11 +8,14 @@
 #include "core/Puntatore.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "shell/frmMain.h"
 #include "store/frmGruppi.h"
 #include "store/griglia.h"
 #include "store/nodo.h"
+#include "store/RecordsetDB.h"
 
 namespace {
 
@@ -54,20 +57,60 @@ ui::GroupNodeRef NodoNellAlbero() {
     return finestre::Main().Gruppi().TREE->Node(nodoCorrente->Key);
 }
 
+/// Whether the group of nodoCorrente is there. The commands of one that was removed do nothing.
+bool GruppoCorrenteEsiste() {
+    return GruppoEsiste(NumeroNodoCorrente());
+}
+
+/// "Clienti: 25 destinatari"; the name alone where they cannot be counted.
+QString NomeConDestinatari() {
+    return ripiega(nodoCorrente->Text, [] {
+        ado::Recordset rs = RecordsetDB();
+        rs.setSource("SELECT * FROM [tb_destinatari] WHERE id_grp = " + NumeroNodoCorrente() + " ;");
+        esigi(rs.open());
+        const auto quanti = rs.recordCount();
+        return nodoCorrente->Text + ": " + text::formatGrouped(static_cast<double>(quanti)) +
+               (quanti == 1 ? " destinatario" : " destinatari");
+    });
+}
+
+/// Asks before recipients of the current group are deleted; true for Yes. Meanwhile the tree shows its node
+/// as selected, whichever was, and the status bar names it: what is asked about is what the user sees. Return
+/// answers No.
+bool ConfermaCancellazione(const QString& domanda, int stile) {
+    ui::GroupTree& albero = *finestre::Main().Gruppi().TREE;
+    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+    const QString testoPrima = stcHelp.Text();
+    const ui::GroupNodeRef sceltoPrima = albero.SelectedItem();
+    const auto comePrima = qScopeGuard([&] {
+        albero.setSelectedItem(sceltoPrima);
+        stcHelp.setText(testoPrima);
+    });
+    if (const ui::GroupNodeRef nodo = NodoNellAlbero()) {
+        albero.setSelectedItem(nodo);
+        albero.EnsureVisible(nodo);
+    }
+    stcHelp.setText(NomeConDestinatari());
+    stcHelp.announce();
+    return MessageDialog::show(domanda, stile, "Attenzione", MessageDialog::No) == MessageDialog::Yes;
+}
+
 }  // namespace
 
 void comandiGruppo::Nuovo(ado::Recordset& rs) {
+    if (!NodoNellAlbero()) return;
     const QString padre = 'K' + NumeroNodoCorrente();
     const QString nome = "Nuovo gruppo";
     frmGruppi& gruppi = finestre::Main().Gruppi();
-    // A recipient's drop makes a node current whose level may not be there yet.
+    // The click may have failed to load the level.
     gruppi.CaricaSottogruppi(padre);
     gruppi.AggiungiNodo(padre, AggiungiGruppo(rs, padre, nome), nome);
 }
 
 void comandiGruppo::Copia(ado::Recordset& rs, ado::Command& comando) {
     const ui::GroupNodeRef nodo = NodoNellAlbero();
-    const ui::GroupNodeRef padre = nodo ? nodo->Parent() : nullptr;
+    if (!nodo) return;
+    const ui::GroupNodeRef padre = nodo->Parent();
     if (!padre) fallisci(ErrorCode::ItemNotFound);
     const QString nome = nodo->Text() + "_Copia";
     const QString id = AggiungiGruppo(rs, padre->Key(), nome);
@@ -79,15 +122,17 @@ void comandiGruppo::Copia(ado::Recordset& rs, ado::Command& comando) {
 
 void comandiGruppo::Elimina(ado::Command& comando) {
     const ui::GroupNodeRef nodo = NodoNellAlbero();
-    if (nodo && nodo->Children() > 0) {
+    if (!nodo) return;
+    finestre::Main().Gruppi().CompletaLivello(nodo->Key());
+    if (nodo->Children() > 0) {
         MessageDialog::show(
             "Impossibile eliminare questo gruppo.\r\nEliminare tutti i sottogruppi prima di continuare.",
             MessageDialog::Notice, "Attenzione");
         return;
     }
-    if (MessageDialog::show("Sicuro di voler eliminare questo gruppo?\r\n"
-                            "Tutti i destinatari appartenenti a questo gruppo saranno cancellati.",
-                            MessageDialog::AskQuestion, "Attenzione") != MessageDialog::Yes)
+    if (!ConfermaCancellazione("Sicuro di voler eliminare questo gruppo?\r\n"
+                               "Tutti i destinatari appartenenti a questo gruppo saranno cancellati.",
+                               MessageDialog::AskQuestion))
         return;
     Esegui(comando, "DELETE FROM [tb_destinatari] WHERE id_grp = " + NumeroNodoCorrente() + " ;");
     Esegui(comando, "DELETE FROM [tb_gruppi] WHERE id = " + NumeroNodoCorrente() + " ;");
@@ -102,8 +147,8 @@ void comandiGruppo::Rinomina() {
 }
 
 void comandiGruppo::Testa(ado::Recordset& rs) {
+    if (!NodoNellAlbero() || nodoCorrente->Key == "K0") return;
     const QString numero = NumeroNodoCorrente();
-    if (nodoCorrente->Key == "K0") return;
     esigi(finestre::Main().Gruppi().TREE->Move(nodoCorrente->Key, "K0"));
     rs.setSource("SELECT * FROM [tb_gruppi] WHERE id = " + numero + " ;");
     esigi(rs.open());
@@ -113,21 +158,24 @@ void comandiGruppo::Testa(ado::Recordset& rs) {
 }
 
 void comandiGruppo::SvuotaCartella(ado::Command& comando) {
-    if (MessageDialog::show("Sicuro di voler svuotare questa cartella?\r\n"
-                            "Tutti i destinatari verranno cancellati.\r\n"
-                            "Operazione irreversibile.",
-                            MessageDialog::AskNotice, "Attenzione") != MessageDialog::Yes)
+    if (!GruppoCorrenteEsiste()) return;
+    if (!ConfermaCancellazione("Sicuro di voler svuotare questa cartella?\r\n"
+                               "Tutti i destinatari verranno cancellati.\r\n"
+                               "Operazione irreversibile.",
+                               MessageDialog::AskNotice))
         return;
     Esegui(comando, "DELETE FROM [tb_destinatari] WHERE id_grp = " + NumeroNodoCorrente() + " ;");
     griglia::RinfrescaGriglia();
 }
 
 void comandiGruppo::SelAllGRP(ado::Command& comando) {
+    if (!GruppoCorrenteEsiste()) return;
     Seleziona(comando,
               "UPDATE [tb_destinatari] SET sel = True WHERE id_grp = " + NumeroNodoCorrente() + " ;");
 }
 
 void comandiGruppo::SelNotGRP(ado::Command& comando) {
+    if (!GruppoCorrenteEsiste()) return;
     Seleziona(comando,
               "UPDATE [tb_destinatari] SET sel = False WHERE id_grp = " + NumeroNodoCorrente() + " ;");
 }

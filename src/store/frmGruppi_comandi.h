@@ -6,7 +6,7 @@ class Recordset;
 }  // namespace ado
 
 /// The group commands of the pop-up menus. They act on nodoCorrente, with the recordset and the command that
-/// the main window has prepared for the event. Unguarded.
+/// the main window has prepared for the event. Those of a node that was removed do nothing. Unguarded.
 namespace comandiGruppo {
 
 /// A new group inside the current one.

@@ -31,6 +31,9 @@ void frmGruppi::CollegaEventi() {
     connect(TREE, &GroupTree::nodeClick, this, alClick(&frmGruppi::TREENodeClick));
     connect(TREE, &GroupTree::rowDropped, this, alClick(&frmGruppi::TREEDragDrop));
     connect(TREE, &GroupTree::nodeDropped, this, alClick(&frmGruppi::TREEOLEDragDrop));
+    // What moves is the group last clicked; so nothing else is shown as being dragged.
+    connect(TREE, &GroupTree::beforeDrag, this,
+            [this](const ui::GroupNodeRef& nodo, bool* annulla) { *annulla = nodo->Key() != chiaveNodo; });
     connect(TREE, &GroupTree::draggedOver, TREE, &GroupTree::setDropHighlight);
     connect(TREE, &GroupTree::click, this, [this] { evento([this] { TREEClick(); }); });
     connect(TREE, &GroupTree::beforeLabelEdit, this,
@@ -67,10 +70,12 @@ void frmGruppi::TREEAfterLabelEdit(const QString& testo, bool* annulla) {
     if (nodoCorrente && nodoCorrente->Key == chiaveNodo) nodoCorrente->Text = testo;
 }
 
-/// A recipient came from the grid.
+/// A recipient came from the grid. The level of its new group is loaded, since the group's commands, which
+/// look at its children in the tree, take it from here on.
 void frmGruppi::TREEDragDrop(const ui::GroupNodeRef& nodo) {
     if (!nodo) fallisci(ErrorCode::ItemNotFound);
     nodoCorrente = Nodo{nodo->Key(), nodo->Text()};
+    CaricaSottogruppi(nodo->Key());
     ado::Command comando;
     esigi(comando.setActiveConnection(connDB));
     comando.setCommandTimeout(0);

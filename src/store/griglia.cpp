@@ -14,7 +14,9 @@
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
 #include "shell/frmMain.h"
+#include "store/frmGruppi.h"
 #include "store/nodo.h"
+#include "store/RecordsetDB.h"
 
 namespace {
 
@@ -23,6 +25,8 @@ constexpr int colonnaId = 1;
 constexpr int colonnaSel = 2;
 constexpr int colonnaEmail = 3;
 constexpr int primaColonnaTradotta = 5;
+
+const QString fraseVuota = QStringLiteral("Nessun destinatario in questa cartella");
 
 ui::DataGrid& grd() {
     return finestre::Main().grd();
@@ -40,7 +44,9 @@ QStringList IntestazioniTradotte() {
 void Aggiorna() {
     PuntatoreAttesa();
     const auto fatto = qScopeGuard(PuntatorePredefinito);
-    esigi(finestre::Main().Adodc().Refresh());
+    const Status letta = finestre::Main().Adodc().Refresh();
+    if (!letta.ok()) griglia::SegnaNonLetta();
+    esigi(letta);
 }
 
 /// The columns have come in the table's order.
@@ -54,7 +60,7 @@ void grd_AfterDataRefresh() {
     int colonna = primaColonnaTradotta;
     for (const QString& testo : IntestazioniTradotte())
         grd().setTextMatrix(0, colonna++, testo);
-    grd().setEmptyText("Nessun destinatario in questa cartella");
+    grd().setEmptyText(fraseVuota);
     finestre::Main().AggiornaComandi();
 }
 
@@ -104,6 +110,7 @@ void griglia::Collega(frmMain& principale) {
     for (int& larghezza : larghezze)
         larghezza = ui::scaledToFont(*grd, larghezza);
     grd->setColWidths(std::move(larghezze));
+    grd->setRowNameColumn(colonnaEmail);
     QObject::connect(grd, &DataGrid::afterDataRefresh, grd, [] { evento(grd_AfterDataRefresh); });
     QObject::connect(grd, &DataGrid::click, grd, [] { evento(grd_Click); });
     QObject::connect(grd, &DataGrid::dblClick, grd, [] { evento(grd_DblClick); });
@@ -129,6 +136,25 @@ void griglia::RinfrescaGriglia() {
     Aggiorna();
 }
 
+void griglia::SegnaNonLetta() {
+    grd().setNotice("Impossibile leggere i destinatari di questa cartella");
+}
+
+void griglia::AggiornaFrase() {
+    if (grd().Rows() > 1 || grd().EmptyText() != fraseVuota) return;
+    const bool vuota = ripiega(true, [] {
+        ado::Recordset rs = RecordsetDB();
+        rs.setSource(finestre::Main().Adodc().RecordSource());
+        esigi(rs.open());
+        return rs.isEof();
+    });
+    if (!vuota) grd().setEmptyText("Fai clic sulla cartella per vedere i destinatari");
+}
+
+void griglia::ScegliRiga(const QString& id) {
+    static_cast<void>(grd().setCurrentRow(colonnaId, id));
+}
+
 QString griglia::idCorrente() {
     QString id = grd().TextMatrix(grd().Row(), colonnaId);
     // Anything else (the heading, an emptied cell) would turn the statement it goes into to other rows.
@@ -139,5 +165,7 @@ QString griglia::idCorrente() {
 }
 
 QString griglia::MenuOra() {
-    return grd().Rows() > 1 ? QStringLiteral("popMailingGRD") : QString();
+    if (grd().Rows() == 1 || !grd().Notice().isEmpty() || finestre::Main().Gruppi().MenuOra().isEmpty())
+        return {};
+    return QStringLiteral("popMailingGRD");
 }

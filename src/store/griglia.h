@@ -20,15 +20,24 @@ void RiempiGriglia();
 /// Fills the grid anew with what its data control asked for last. Unguarded.
 void RinfrescaGriglia();
 
+/// To be called when a click on a node could not fill the grid: says so over the rows that it still holds.
+void SegnaNonLetta();
+/// Sees that the sentence over an empty grid is true: an import adds rows behind its back.
+void AggiornaFrase();
+/// Makes the recipient's row the current one, if the grid shows it.
+void ScegliRiga(const QString& id);
+
 /// Number of the recipient in the current row. Unguarded: fails where there is no such row.
 QString idCorrente();
 
-/// Name of the pop-up menu that belongs to the grid at this moment; empty for none.
+/// Name of the pop-up menu whose commands keys start in the grid at this moment; empty for none, also where
+/// the current node is not the one that the tree shows as selected.
 QString MenuOra();
 
 }  // namespace griglia
 
-/// The recipient commands of the pop-up menus. Unguarded.
+/// The recipient commands of the pop-up menus. Where the group of nodoCorrente was removed a recipient is
+/// neither added to it nor edited. Unguarded.
 namespace comandiDestinatario {
 
 /// Opens the recipient form, modally, for a new recipient in the current group.

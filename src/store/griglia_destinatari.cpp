@@ -22,25 +22,39 @@ frmDestinatario& Intitola(const QString& titolo) {
     return finestra;
 }
 
+/// Shows the form, and again with all that it holds as long as its saving failed. The grid then shows values
+/// that are not stored: it is filled anew in between.
+void Mostra(frmDestinatario& finestra) {
+    finestra.exec();
+    while (finestra.salvataggioFallito) {
+        Prosegui prosegui;
+        prosegui(griglia::RinfrescaGriglia);
+        griglia::ScegliRiga(finestra.txtIDuser->text());
+        finestra.exec();
+    }
+}
+
 }  // namespace
 
 void comandiDestinatario::Nuovo() {
+    if (!GruppoEsiste(NumeroNodoCorrente())) return;
     frmDestinatario& finestra = Intitola(bVAR::varAddDestinatario);
     finestra.txtIDgroup->setText(NumeroNodoCorrente());
     finestra.txtIDuser->setText("0");
     finestra.PulisciCampi();
     finestra.modo = 0;
-    finestra.exec();
+    Mostra(finestra);
 }
 
 void comandiDestinatario::Modifica() {
+    if (!GruppoEsiste(NumeroNodoCorrente())) return;
     frmDestinatario& finestra = Intitola(bVAR::varModDestinatario);
     const QString id = griglia::idCorrente();
     finestra.txtIDgroup->setText(NumeroNodoCorrente());
     finestra.txtIDuser->setText(id);
     finestra.CaricaUser(id.toInt());
     finestra.modo = 1;
-    finestra.exec();
+    Mostra(finestra);
 }
 
 void comandiDestinatario::Elimina(ado::Command& comando) {

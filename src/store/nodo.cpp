@@ -2,6 +2,7 @@
 
 #include "core/bGlobal.h"
 #include "core/Fallimento.h"
+#include "store/RecordsetDB.h"
 
 QString NumeroNodo(const QString& chiave) {
     return chiave.mid(1);
@@ -10,4 +11,14 @@ QString NumeroNodo(const QString& chiave) {
 QString NumeroNodoCorrente() {
     if (!nodoCorrente) fallisci(ErrorCode::ItemNotFound);
     return NumeroNodo(nodoCorrente->Key);
+}
+
+bool GruppoEsiste(const QString& numero) {
+    if (numero == QLatin1String("0")) return true;
+    return ripiega(true, [&] {
+        ado::Recordset rs = RecordsetDB();
+        rs.setSource("SELECT * FROM [tb_gruppi] WHERE id = " + numero + " ;");
+        esigi(rs.open());
+        return !rs.isEof();
+    });
 }

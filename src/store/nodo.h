@@ -8,3 +8,7 @@ QString NumeroNodo(const QString& chiave);
 
 /// The number of nodoCorrente. Unguarded: fails while no node was ever clicked.
 QString NumeroNodoCorrente();
+
+/// Whether the group is in the table; the root ("0") always is. Where the table cannot be read the group
+/// counts as being there, and the statement that follows meets the failure.
+bool GruppoEsiste(const QString& numero);

@@ -47,6 +47,19 @@ class TestImportCartella : public QObject {
         QVERIFY(stage.control<QPushButton>("cmdOK")->isDefault());
     }
 
+    void aRemovedGroupCountsAsNone() {
+        Stage stage;
+        nodoCorrente = Nodo{"K7", "Tolta"};
+        MessageDialog::queue(MessageDialog::Ok);
+        QCOMPARE(choose({true, {}}), std::optional<QString>());
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QCOMPARE(MessageDialog::shown()[0].text, "Selezionare una cartella dove aggiungere i destinatari.");
+        nodoCorrente = Nodo{"K1", "Clienti"};
+        QCOMPARE(choose({true, {}}), std::optional<QString>("1"));
+        nodoCorrente = Nodo{"K0", "Database Mailing"};
+        QCOMPARE(choose({true, {}}), std::optional<QString>("0"));
+    }
+
     void nameIsEnabledExactlyWithTheSecondOption() {
         Stage stage;
         stage.click("opt(1)");

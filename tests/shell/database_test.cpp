@@ -90,6 +90,56 @@ class TestDatabase : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
+    void noGroupOfTheOldDatabaseIsCurrentInTheNewOne() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        const QString other = otherDatabase(stage);
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queue(other);
+        stage.command("cmdMailingApri");
+        const int same = stage.addGroup(0, "Altri");
+        QCOMPARE(same, 1);
+        StoreStage::run("INSERT INTO [tb_destinatari] (id_grp, sel, rgs) VALUES (1, True, 'B');");
+        stage.groups().CaricaGruppiINI();
+        QVERIFY(!nodoCorrente);
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_Delete);
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        stage.dropNode(stage.at("K0"));
+        QCOMPARE(StoreStage::count("tb_gruppi", "id = 1"), 1);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        mouse::click(&stage.tree(), stage.emptySpace(), Qt::RightButton);
+        QCOMPARE(stage.takePopup(), QString());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void aCancelLeavesTheGroupCurrentButNoKeyActsOnIt() {
+        StoreStage stage;
+        stage.addRecipient(1, "A");
+        stage.window();
+        stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queueCancel();
+        stage.command("cmdMailingApri");
+        QCOMPARE(nodoCorrente->Key, "K1");
+        for (QWidget* place : {static_cast<QWidget*>(&stage.tree()), static_cast<QWidget*>(&stage.grd())}) {
+            place->setFocus();
+            QTest::keyClick(place, Qt::Key_Delete);
+            QTest::keyClick(place, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+        }
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QCOMPARE(SampleFolder::selected().size(), 1);
+        QVERIFY(!stage.onBar("cmdPopMailingNew"));
+        // The pop-up menus are there as before.
+        stage.clickCell(1, 5, Qt::RightButton);
+        QCOMPARE(stage.takePopup(), "popMailingGRD");
+        QVERIFY(stage.window().findChild<QAction*>("cmdPopMailingUserNew")->isEnabled());
+        stage.command("cmdPopMailingSelNotGRP");
+        QCOMPARE(SampleFolder::selected().size(), 0);
+    }
+
     void theGridIsBoundToTheNewDatabase() {
         StoreStage stage;
         stage.addRecipient(1, "A");

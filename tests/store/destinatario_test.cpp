@@ -1,4 +1,6 @@
 // The recipient form: its items, checks, statements and what it does to the grid.
+#include <sys/resource.h>
+#include <csignal>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -60,6 +62,14 @@ class TestDestinatario : public QObject {
     Q_OBJECT
 
     static QTreeWidget& lines(frmDestinatario& form) { return *form.prp->findChild<QTreeWidget*>(); }
+    /// Without room no file grows, so that a statement that writes fails and one that reads does not.
+    static void setRoomOnDisk(bool room) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        if (getrlimit(RLIMIT_FSIZE, &limit) != 0) qFatal("the limit of files cannot be read");
+        limit.rlim_cur = room ? limit.rlim_max : 0;
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) qFatal("the limit of files cannot be set");
+    }
     /// Opens the form on a new recipient of "Clienti", fills two items and saves.
     static void saveNew(StoreStage& stage, const QString& rgs, const QString& email = "a@x.it") {
         stage.whenFormOpens([&](frmDestinatario& form) {
@@ -356,21 +366,100 @@ class TestDestinatario : public QObject {
         QCOMPARE(value(stage.form(), "Nome"), "Anna");
     }
 
-    void failedStatementIsPassedOver() {
+    void failedEditIsToldAndTheFormComesBackAsItWas() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        const int beta = stage.addRecipient(1, "Beta", "b@x.it");
+        stage.clickNode("K1");
+        stage.clickCell(2, 5);
+        MessageDialog::queue(MessageDialog::Ok);
+        QStringList rows;
+        QStringList again;
+        QString box;
+        stage.whenFormOpens([&](frmDestinatario& form) {
+            set(form, "RagioneSociale", "Zeta");
+            set(form, "Spedire", false);
+            setRoomOnDisk(false);
+            save(form);
+            setRoomOnDisk(true);
+            QVERIFY(!form.isVisible());
+            stage.whenFormOpens([&](frmDestinatario& back) {
+                rows = stage.columnOfGrid(5);
+                again = {value(back, "RagioneSociale"),     value(back, "Email"),   value(back, "Spedire"),
+                         QString::number(back.modo),        back.txtIDuser->text(), back.txtIDgroup->text(),
+                         QString::number(stage.grd().Row())};
+                save(back);
+            });
+        });
+        stage.command("cmdPopMailingUserMod");
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QVERIFY(!MessageDialog::shown()[0].text.isEmpty());
+        QVERIFY(stage.oneBox(MessageDialog::shown()[0].text, 64));
+        QCOMPARE(rows, QStringList({"Alfa", "Beta"}));
+        QCOMPARE(again, QStringList({"Zeta", "b@x.it", "false", "1", QString::number(beta), "1", "2"}));
+        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(StoreStage::count("tb_destinatari", QString("rgs = 'Zeta' AND id = %1").arg(beta)), 1);
+        QCOMPARE(stage.columnOfGrid(5), QStringList({"Alfa", "Zeta"}));
+    }
+
+    void failedSaveOfANewRecipientKeepsWhatWasTyped() {
+        StoreStage stage;
+        stage.addRecipient(1, "Beta");
+        stage.clickNode("K1");
+        for (int i = 0; i < 2; ++i)
+            MessageDialog::queue(MessageDialog::Ok);
+        QStringList typed;
+        QStringList again;
+        stage.whenFormOpens([&](frmDestinatario& form) {
+            for (const Item& item : items()) {
+                set(form, item.key, QString("%1@x.it").arg(item.column).left(item.limit));
+                typed << value(form, item.key);
+            }
+            setRoomOnDisk(false);
+            save(form);
+            stage.whenFormOpens([&](frmDestinatario& back) {
+                save(back);
+                setRoomOnDisk(true);
+                stage.whenFormOpens([&](frmDestinatario& last) {
+                    for (const Item& item : items())
+                        again << value(last, item.key);
+                    QCOMPARE(last.modo, 0);
+                    QCOMPARE(last.windowTitle(), "Aggiungi destinatario ");
+                    save(last);
+                });
+            });
+        });
+        stage.command("cmdPopMailingUserNew");
+        QCOMPARE(MessageDialog::shown().size(), 2);
+        QCOMPARE(again, typed);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 2);
+        QCOMPARE(stage.grd().Rows(), 3);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void cancelAfterAFailedSaveLeavesTheGridAsTheTableIs() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
+        MessageDialog::queue(MessageDialog::Ok);
+        QString sentence;
         stage.whenFormOpens([&](frmDestinatario& form) {
             set(form, "RagioneSociale", "Zeta");
             stage.folder.hideDatabase();
             save(form);
-            QVERIFY(!form.isVisible());
+            stage.whenFormOpens([&](frmDestinatario& back) {
+                sentence = stage.grd().Notice();
+                stage.folder.showDatabase();
+                QTest::mouseClick(back.cmdAnnulla, Qt::LeftButton);
+            });
         });
         stage.command("cmdPopMailingUserMod");
-        stage.folder.showDatabase();
-        QVERIFY(MessageDialog::shown().isEmpty());
-        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(sentence, "Impossibile leggere i destinatari di questa cartella");
         QCOMPARE(StoreStage::column("SELECT * FROM [tb_destinatari];", "rgs"), QStringList("Alfa"));
+        QVERIFY(!stage.columnOfGrid(5).contains("Zeta"));
+        stage.clickNode("K1");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        QCOMPARE(stage.grd().Notice(), QString());
     }
 
     void focusOpensOnTheAddressOrTheFirstItem() {

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QLocale>
 #include <QTest>
+#include <QToolButton>
 
 #include "core/bGlobal.h"
 #include "platform/ui/CommandBars.h"
@@ -65,6 +66,9 @@ class StoreStage {
     QStringList columnOfGrid(int column);
     /// Name of the pop-up menu that is open; it is closed.
     QString takePopup();
+
+    /// Whether the button of a command on the bars is on.
+    bool onBar(const QString& name) { return window().findChild<QToolButton*>(name)->isEnabled(); }
 
     /// Runs `act` as soon as the recipient form is open, while it is modal.
     void whenFormOpens(std::function<void(frmDestinatario&)> act);

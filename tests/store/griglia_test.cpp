@@ -143,6 +143,37 @@ class TestGriglia : public QObject {
         QCOMPARE(stage.grd().CellChecked(), 2);
     }
 
+    void theSentenceOverAnEmptyGridIsTrueAfterRowsCameBehindItsBack() {
+        StoreStage stage;
+        QCOMPARE(stage.grd().EmptyText(), "Scegliere una cartella");
+        stage.clickNode("K1");
+        QCOMPARE(stage.grd().EmptyText(), "Nessun destinatario in questa cartella");
+        stage.command("cmdPopMailingRinomina");
+        QCOMPARE(stage.grd().EmptyText(), "Nessun destinatario in questa cartella");
+        QTimer::singleShot(0, &stage.window(), [&] {
+            stage.addRecipient(1, "Alfa");
+            QApplication::activeModalWidget()->hide();
+        });
+        stage.command("cmdMailingImpTXT");
+        QCOMPARE(stage.grd().Rows(), 1);
+        QCOMPARE(stage.grd().EmptyText(), "Fai clic sulla cartella per vedere i destinatari");
+        stage.clickNode("K1");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        MessageDialog::queue(MessageDialog::Yes);
+        stage.command("cmdPopMailingUserDel");
+        QCOMPARE(stage.grd().Rows(), 1);
+        QCOMPARE(stage.grd().EmptyText(), "Nessun destinatario in questa cartella");
+    }
+
+    void theSentenceOfAGroupOnTheScreenIsAboutThatGroup() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.clickNode("K1");
+        stage.addRecipient(b, "Beta");
+        stage.command("cmdPopMailingRinomina");
+        QCOMPARE(stage.grd().EmptyText(), "Nessun destinatario in questa cartella");
+    }
+
     void clickOnTheBoxWithoutDatabaseEndsTheProgram() {
         StoreStage stage;
         const int id = stage.addRecipient(1, "Alfa");
@@ -268,9 +299,7 @@ class TestGriglia : public QObject {
 
     void barOffersNewRecipientsOnlyWhereAMenuDoes() {
         StoreStage stage;
-        const auto isOn = [&](const char* name) {
-            return stage.window().Commands().GetToolButton(name)->isEnabled();
-        };
+        const auto isOn = [&](const char* name) { return stage.onBar(name); };
         stage.addRecipient(0, "Senza gruppo");
         QVERIFY(!isOn("cmdPopMailingNew"));
         QVERIFY(!isOn("cmdPopMailingUserNew"));

@@ -105,6 +105,43 @@ class TestGruppiAlbero : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
+    void clickThatCannotFillTheGridSaysSoOverItAndItsKeysRest() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        const int alfa = stage.addRecipient(1, "Alfa");
+        stage.addRecipient(b, "Beta");
+        stage.clickNode("K1");
+        stage.clickCell(1, 5);
+        const QPoint place = stage.at("K" + QString::number(b));
+        stage.folder.hideDatabase();
+        mouse::click(&stage.tree(), place);
+        stage.folder.showDatabase();
+        QCOMPARE(nodoCorrente->Text, "B");
+        QCOMPARE(stage.grd().Notice(), "Impossibile leggere i destinatari di questa cartella");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        stage.grd().setFocus();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_Insert, Qt::Key_Space})
+            QTest::keyClick(&stage.grd(), key);
+        stage.clickCell(1, 2);
+        QTest::mouseDClick(stage.grd().viewport(), Qt::LeftButton, {}, stage.cell(1, 5));
+        QCOMPARE(
+            StoreStage::count("tb_destinatari", QString("id = %1 AND id_grp = 1 AND sel = True").arg(alfa)),
+            1);
+        QVERIFY(ui::MessageDialog::shown().isEmpty());
+        stage.clickNode("K" + QString::number(b));
+        QCOMPARE(stage.grd().Notice(), QString());
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Beta"));
+        stage.clickCell(1, 2);
+        QCOMPARE(StoreStage::count("tb_destinatari", "sel = True"), 1);
+    }
+
+    void clickIntoEmptySpaceBeforeAnyOtherIsNoFailure() {
+        StoreStage stage;
+        mouse::click(&stage.tree(), stage.emptySpace());
+        QCOMPARE(stage.grd().Notice(), QString());
+        QCOMPARE(stage.grd().EmptyText(), "Scegliere una cartella");
+    }
+
     void clickWithoutDatabaseLeavesSilently() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");

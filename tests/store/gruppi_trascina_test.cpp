@@ -27,7 +27,7 @@ class TestGruppiTrascina : public QObject {
         QCOMPARE(stage.tree().SelectedItem()->Key(), "K1");
     }
 
-    void dropOfARecipientLoadsTheLevelOfTheSelectedNode() {
+    void dropOfARecipientLoadsTheLevelsOfTheSelectedNodeAndOfItsTarget() {
         StoreStage stage;
         const int b = stage.addGroup(0, "B");
         stage.addRecipient(1, "Alfa");
@@ -35,7 +35,7 @@ class TestGruppiTrascina : public QObject {
         stage.addGroup(1, "Sotto");
         stage.addGroup(b, "Sotto B");
         stage.dropRow(stage.at("K" + QString::number(b)));
-        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti(Sotto))");
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B), Clienti(Sotto))");
     }
 
     void newGroupUnderTheTargetOfADropComesBehindThoseOfTheTable() {
@@ -49,18 +49,72 @@ class TestGruppiTrascina : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B, Nuovo gruppo), Clienti)");
     }
 
-    void groupThatWasNeverClickedPassesTheGuardOfDeleting() {
+    void groupThatARecipientWasDroppedOnIsNotDeletedFromAboveItsSubgroups() {
         StoreStage stage;
         const int b = stage.addGroup(0, "B");
-        stage.addGroup(b, "Sotto B");
+        const int below = stage.addGroup(b, "Sotto B");
+        stage.addRecipient(below, "Beta", "beta@x.it");
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
         stage.dropRow(stage.at("K" + QString::number(b)));
-        MessageDialog::queue(MessageDialog::Yes);
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B), Clienti)");
+        MessageDialog::queue(MessageDialog::Ok);
         stage.command("cmdPopMailingDel");
-        QCOMPARE(MessageDialog::shown()[0].style, 36);
-        QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
-        QCOMPARE(StoreStage::count("tb_gruppi", "nome = 'Sotto B'"), 1);
+        QCOMPARE(MessageDialog::shown()[0].style, 64);
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B), Clienti)");
+        QCOMPARE(StoreStage::count("tb_gruppi", QString("id = %1").arg(b)), 1);
+    }
+
+    void keysAndBarDoNothingWhileAnotherGroupIsShownAsSelected() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa");
+        stage.addRecipient(1, "Beta");
+        stage.clickNode("K1");
+        stage.dropRow(stage.at("K" + QString::number(b)));
+        QCOMPARE(nodoCorrente->Text, "B");
+        for (QWidget* place : {static_cast<QWidget*>(&stage.tree()), static_cast<QWidget*>(&stage.grd())}) {
+            place->setFocus();
+            for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Return, Qt::Key_Insert, Qt::Key_F2})
+                if (place != &stage.tree() || key != Qt::Key_Return) QTest::keyClick(place, key);
+            QTest::keyClick(place, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+        }
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(StoreStage::count("tb_gruppi", "id > 0"), 2);
+        QCOMPARE(StoreStage::count("tb_destinatari", "sel = True"), 2);
+        for (const char* name : {"cmdPopMailingNew", "cmdPopMailingUserNew"})
+            QVERIFY(!stage.onBar(name));
+        // The menus of the right button act on the group of the drop all the same.
+        mouse::click(&stage.tree(), stage.emptySpace(), Qt::RightButton);
+        QCOMPARE(stage.takePopup(), "popMailing");
+        for (const char* name : {"cmdPopMailingNew", "cmdPopMailingUserNew"})
+            QVERIFY(stage.window().findChild<QAction*>(name)->isEnabled());
+        stage.command("cmdPopMailingNew");
+        QCOMPARE(stage.shape(), "Database Mailing(B(Nuovo gruppo), Clienti)");
+        stage.clickNode("K" + QString::number(b));
+        QVERIFY(stage.onBar("cmdPopMailingNew"));
+    }
+
+    void dragBeginsOnlyOnTheGroupThatMoves() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        const QString keyOfB = "K" + QString::number(b);
+        stage.clickNode("K1");
+        QCOMPARE(mouse::startDrag(&stage.tree(), stage.at(keyOfB)), 0);
+        mouse::move(&stage.tree(), stage.at("K0"));
+        mouse::release(&stage.tree(), stage.at("K0"));
+        QCOMPARE(stage.tree().SelectedItem()->Key(), "K1");
+        QCOMPARE(nodoCorrente->Key, "K1");
+        QCOMPARE(mouse::startDrag(&stage.tree(), stage.at("K1")), 1);
+        mouse::release(&stage.tree(), stage.at("K1"));
+        stage.clickNode(keyOfB);
+        QCOMPARE(mouse::startDrag(&stage.tree(), stage.at(keyOfB)), 1);
+        mouse::release(&stage.tree(), stage.at(keyOfB));
+    }
+
+    void noDragBeginsBeforeAnyClick() {
+        StoreStage stage;
+        QCOMPARE(mouse::startDrag(&stage.tree(), stage.at("K1")), 0);
     }
 
     void recipientDroppedOnTheRootBelongsToNoGroup() {
@@ -134,7 +188,7 @@ class TestGruppiTrascina : public QObject {
         const int c = stage.addGroup(0, "C");
         stage.clickNode("K" + QString::number(c));
         mouse::startDrag(&stage.tree(), stage.at("K" + QString::number(b)));
-        mouse::release(&stage.tree(), stage.at("K" + QString::number(b)));
+        mouse::release(&stage.tree(), stage.at("K0"));
         stage.dropNode(stage.at("K1"));
         QCOMPARE(stage.shape(), "Database Mailing(B, Clienti(C))");
         QCOMPARE(parentOf("C"), "1");
