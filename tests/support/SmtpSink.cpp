@@ -1,6 +1,7 @@
 #include "support/SmtpSink.h"
 
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace testing_support {
 
@@ -24,6 +25,30 @@ SmtpSink::~SmtpSink() {
         (*it)->disconnect(this);
 }
 
+void SmtpSink::answer(QTcpSocket* socket, const QByteArray& text) {
+    if (m_delayMs == 0)
+        socket->write(text);
+    else
+        QTimer::singleShot(m_delayMs, Qt::PreciseTimer, socket, [socket, text] {
+            if (socket->state() == QAbstractSocket::ConnectedState) socket->write(text);
+        });
+}
+
+QList<QByteArray> SmtpSink::held() const {
+    QList<QByteArray> recipients;
+    for (const Held& held : m_held)
+        recipients.append(held.recipient);
+    return recipients;
+}
+
+void SmtpSink::answerHeld(const QByteArray& text) {
+    QTcpSocket* const socket = m_held.takeFirst().socket;
+    if (text.isEmpty())
+        socket->disconnectFromHost();
+    else
+        answer(socket, text + "\r\n");
+}
+
 void SmtpSink::accept() {
     QTcpSocket* socket = m_server.nextPendingConnection();
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
@@ -31,9 +56,10 @@ void SmtpSink::accept() {
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
     connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
         m_sessions.remove(socket);
+        m_held.removeIf([socket](const Held& held) { return held.socket == socket; });
         socket->deleteLater();
     });
-    socket->write("220 sink ready\r\n");
+    answer(socket, "220 sink ready\r\n");
 }
 
 void SmtpSink::read(QTcpSocket* socket) {
@@ -56,24 +82,24 @@ void SmtpSink::takeLine(QTcpSocket* socket, Session& session, const QByteArray& 
     const QByteArray verb = line.left(4).toUpper();
     if (verb == "EHLO" || verb == "HELO") {
         m_greetings.append(verb);
-        socket->write(verb == "EHLO" ? "250-sink\r\n250-PIPELINING\r\n250 8BITMIME\r\n" : "250 sink\r\n");
+        answer(socket, verb == "EHLO" ? "250-sink\r\n250-PIPELINING\r\n250 8BITMIME\r\n" : "250 sink\r\n");
     } else if (verb == "MAIL") {
         session.message = {};
         session.message.sender = addressIn(line);
-        socket->write("250 ok\r\n");
+        answer(socket, "250 ok\r\n");
     } else if (verb == "RCPT") {
         takeRecipient(socket, session, addressIn(line));
     } else if (verb == "DATA") {
         session.inData = !session.message.recipient.isEmpty();
-        socket->write(session.inData ? "354 go on\r\n" : "503 no recipient\r\n");
+        answer(socket, session.inData ? "354 go on\r\n" : "503 no recipient\r\n");
     } else if (verb == "RSET" || verb == "NOOP") {
         session.message = {};
-        socket->write("250 ok\r\n");
+        answer(socket, "250 ok\r\n");
     } else if (verb == "QUIT") {
-        socket->write("221 bye\r\n");
+        answer(socket, "221 bye\r\n");
         socket->disconnectFromHost();
     } else {
-        socket->write("502 what\r\n");
+        answer(socket, "502 what\r\n");
     }
 }
 
@@ -89,10 +115,10 @@ void SmtpSink::takeRecipient(QTcpSocket* socket, Session& session, const QByteAr
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         m_sessions.remove(socket);
     } else if (treatment == Treatment::Refuse) {
-        socket->write("550 not here\r\n");
+        answer(socket, "550 not here\r\n");
     } else {
         session.message.recipient = recipient;
-        socket->write("250 ok\r\n");
+        answer(socket, "250 ok\r\n");
     }
     Q_EMIT attempted(QString::fromUtf8(recipient));
 }
@@ -104,12 +130,18 @@ void SmtpSink::takeData(QTcpSocket* socket, Session& session, const QByteArray& 
     }
     session.inData = false;
     if (m_treatments.value(session.message.recipient) == Treatment::RefuseData) {
-        socket->write("452 no room\r\n");
+        answer(socket, "452 no room\r\n");
         return;
     }
     m_messages.append(session.message);
+    const QByteArray recipient = session.message.recipient;
     if (m_onMessage) m_onMessage(session.message);
-    socket->write("250 taken\r\n");
+    Q_EMIT taken(recipient);
+    if (m_treatments.value(recipient) == Treatment::Hold) {
+        m_held.append({socket, recipient});
+        return;
+    }
+    answer(socket, "250 taken\r\n");
 }
 
 }  // namespace testing_support

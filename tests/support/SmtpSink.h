@@ -24,6 +24,7 @@ class SmtpSink : public QObject {
         RefuseData,  ///< 452 behind the message
         Hang,        ///< never answers RCPT
         Drop,        ///< closes the connection at RCPT
+        Hold,        ///< takes the message and answers it only when answerHeld() says so
     };
 
     struct Message {
@@ -37,6 +38,12 @@ class SmtpSink : public QObject {
 
     quint16 port() const { return m_server.serverPort(); }
     void treat(const QByteArray& recipient, Treatment treatment) { m_treatments[recipient] = treatment; }
+    /// Answers come this many milliseconds late.
+    void setDelay(int ms) { m_delayMs = ms; }
+    /// Gives the recipients whose message is held, the oldest first.
+    QList<QByteArray> held() const;
+    /// Sends `text` in answer to the oldest message that is held; an empty text closes its connection.
+    void answerHeld(const QByteArray& text);
     /// Runs before a message is answered.
     void onMessage(std::function<void(const Message&)> action) { m_onMessage = std::move(action); }
 
@@ -48,6 +55,8 @@ class SmtpSink : public QObject {
 
   Q_SIGNALS:
     void attempted(const QString& recipient);
+    /// A message has come whole and is not answered yet.
+    void taken(const QByteArray& recipient);
 
   private:
     struct Session {
@@ -56,6 +65,12 @@ class SmtpSink : public QObject {
         bool inData = false;
     };
 
+    struct Held {
+        QTcpSocket* socket;
+        QByteArray recipient;
+    };
+
+    void answer(QTcpSocket* socket, const QByteArray& text);
     void accept();
     void read(QTcpSocket* socket);
     void takeLine(QTcpSocket* socket, Session& session, const QByteArray& line);
@@ -63,6 +78,8 @@ class SmtpSink : public QObject {
     void takeData(QTcpSocket* socket, Session& session, const QByteArray& line);
 
     QTcpServer m_server;
+    int m_delayMs = 0;
+    QList<Held> m_held;
     QHash<QTcpSocket*, Session> m_sessions;
     QHash<QByteArray, Treatment> m_treatments;
     std::function<void(const Message&)> m_onMessage;
