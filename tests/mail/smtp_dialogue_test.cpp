@@ -222,6 +222,9 @@ INSTANTIATE_TEST_SUITE_P(DroppedInTheMiddleOfAReply, Dialogue, testing::ValuesIn
                              QList<Row> rows = atEachStep("S- 250-half", closed);
                              for (Row& row : rows)
                                  row.dialogues[0].append("DROP");
+                             // The first digits of the final reply say enough.
+                             rows.last().done = true;
+                             rows.last().text = "";
                              return rows;
                          }()),
                          [](const auto& row) { return row.param.name; });
@@ -333,16 +336,6 @@ TEST(SmtpSession, KeptSessionThatDiedUnnoticedIsReopened) {
 TEST(SmtpSession, KeptSessionIsReopenedOnlyOnce) {
     ScriptedServer server({hello + message + QByteArrayList{mailLine, "DROP"},
                            hello + QByteArrayList{mailLine, "DROP"}, hello + message});
-    Client client(server.port());
-    EXPECT_TRUE(client.send().done);
-    EXPECT_FALSE(client.send().done);
-    EXPECT_TRUE(client.send().done);
-    EXPECT_EQ(server.remainder(), "");
-}
-
-TEST(SmtpSession, KeptSessionThatDiesBehindAnAcceptedSenderIsNotReopened) {
-    ScriptedServer server(
-        {hello + message + QByteArrayList{mailLine, "S: 250 ok", rcptLine, "DROP"}, hello + message});
     Client client(server.port());
     EXPECT_TRUE(client.send().done);
     EXPECT_FALSE(client.send().done);

@@ -114,9 +114,12 @@ TEST_P(HostileServer, EndsAsToldAndTheNextRecipientIsServed) {
     prepare(client);
     client.smtp.TimeoutSecs = qint16(ending.timeoutSecs);
     const Heard first = client.send();
-    EXPECT_FALSE(first.done);
-    EXPECT_EQ(first.code, ending.code) << qPrintable(first.text);
-    EXPECT_TRUE(first.text.contains(QString::fromUtf8(ending.text))) << qPrintable(first.text);
+    const bool accepted = std::string(step.name) == "Body" && ending.lines[0].mid(3, 3) == "250";
+    EXPECT_EQ(first.done, accepted);
+    if (!accepted) {
+        EXPECT_EQ(first.code, ending.code) << qPrintable(first.text);
+        EXPECT_TRUE(first.text.contains(QString::fromUtf8(ending.text))) << qPrintable(first.text);
+    }
     client.smtp.TimeoutSecs = 10;
     const Heard second = client.send();
     EXPECT_TRUE(second.done) << second.code << ' ' << qPrintable(second.text);

@@ -127,6 +127,7 @@ class TestFrmInviaDiretto : public QObject {
         direct.stage.pick();
         direct.stage.start();
         direct.stage.smtp().TimeoutSecs = 1;
+        direct.stage.smtp().StageTimes.greeting = 0;
         QVERIFY(direct.stage.waitForEnd());
         QCOMPARE(SampleFolder::selected(), QStringList{"a@muto.example"});
         QCOMPARE(direct.alfa.attempts(), QStringList{"b@alfa.example"});

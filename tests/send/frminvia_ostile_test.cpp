@@ -77,7 +77,6 @@ class TestFrmInviaOstile : public QObject {
         QTest::newRow("mail") << session + without(envelope, 4);
         QTest::newRow("recipient") << session + without(envelope, 2);
         QTest::newRow("data") << session + envelope;
-        QTest::newRow("body") << session + envelope + without(body, 1);
         QTest::newRow("middle of a reply") << session + without(envelope, 2) + QByteArrayList{"S- 250-ha"};
         QTest::newRow("second message") << session + message + without(envelope, 4);
     }

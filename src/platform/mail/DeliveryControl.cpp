@@ -38,8 +38,7 @@ Route DeliveryControl::route(const QString& host) const {
 
 void DeliveryControl::Send() {
     if (m_running) {
-        m_session.abandon();
-        m_deferred.stop();
+        giveUp();
         log(QStringLiteral("abbandonato"));
     }
     m_running = true;
@@ -55,64 +54,35 @@ void DeliveryControl::Send() {
     logStart(host);
     if (const QString why = whyNotSent(addressIsFresh); !why.isEmpty()) {
         finish({false, 0, why});
-    } else if (host.isEmpty()) {
-        finish({false, 0, whyNoHost()});
-    } else if (ServerPort == 0) {
-        finish({false, 0, QStringLiteral("La porta del server non è valida.")});
+    } else if (AwaitedReply* const reply = awaitedFor(m_current)) {
+        m_transcript.remark(QStringLiteral("La risposta al messaggio di prima è ancora attesa"));
+        m_awaitedHere = reply;
     } else {
-        const Result<ComposedMessage> message = m_composer.compose(data());
-        if (message.ok()) {
-            m_messageId = message.value().messageId;
-            if (!message.value().signing.ok()) m_transcript.remark(message.value().signing.text());
-            m_session.deliver(route(host), message.value(),
-                              (TimeoutSecs > 0 ? TimeoutSecs : defaultTimeoutSecs) * 1000);
-        } else {
-            finish({false, 0, message.status().text()});
-        }
+        startNew(host);
     }
     m_insideSend = false;
 }
 
-/// Empty: it may be sent.
-QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
-    if (RecipientNumber == recipient::outsideRun) return {};
-    if (RecipientNumber == recipient::nobody)
-        return QStringLiteral("Il destinatario non è stato letto: nessun invio.");
-    if (m_stopped) return QStringLiteral("L'invio è stato fermato: nessun invio fino al prossimo avvio.");
-    if (!addressIsFresh)
-        return QStringLiteral("L'indirizzo del destinatario non è stato letto: nessun invio.");
-    if (m_acceptedInRun.contains({Database, RecipientNumber}))
-        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato in questo invio.");
-    if (!Accepted) return {};
-    if (Accepted->holds(m_current.database, m_current.number, m_current.address))
-        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato.");
-    if (Accepted->room() < 1) return QStringLiteral("Non c'è più spazio per ricordare i messaggi accettati.");
-    return {};
-}
-
-void DeliveryControl::noteAccepted(const Recipient& accepted) {
-    if (accepted.number == recipient::outsideRun) return;
-    m_acceptedInRun.insert({accepted.database.path, accepted.number});
-    if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
-}
-
-void DeliveryControl::BeginRun() {
-    m_stopped = false;
-    m_runIsNew = true;
-}
-
-void DeliveryControl::BeginTick() {
-    if (std::exchange(m_runIsNew, false)) m_acceptedInRun.clear();
-}
-
-void DeliveryControl::Marked(qint64 number) {
-    if (Accepted) Accepted->remove(DatabaseFile::at(Database), number);
-}
-
-void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbers) {
-    const DatabaseFile file = DatabaseFile::at(database);
-    for (const qint64 number : numbers)
-        if (Accepted) Accepted->remove(file, number);
+void DeliveryControl::startNew(const QString& host) {
+    if (host.isEmpty()) {
+        finish({false, 0, whyNoHost()});
+        return;
+    }
+    if (ServerPort == 0) {
+        finish({false, 0, QStringLiteral("La porta del server non è valida.")});
+        return;
+    }
+    const Result<ComposedMessage> message = m_composer.compose(data());
+    if (!message.ok()) {
+        finish({false, 0, message.status().text()});
+        return;
+    }
+    m_messageId = message.value().messageId;
+    if (!message.value().signing.ok()) m_transcript.remark(message.value().signing.text());
+    SmtpTimes times = StageTimes;
+    times.stall = (TimeoutSecs > 0 ? TimeoutSecs : defaultTimeoutSecs) * 1000;
+    m_waiting = Waiting{route(host), message.value(), times};
+    startWaiting();
 }
 
 QString DeliveryControl::whyNoHost() const {
@@ -144,8 +114,7 @@ MessageData DeliveryControl::data() const {
 void DeliveryControl::Abort() {
     m_stopped = true;
     if (!m_running) return;
-    m_session.abandon();
-    m_deferred.stop();
+    giveUp();
     m_outcome = {false, 0, QStringLiteral("Invio interrotto.")};
     report();
 }

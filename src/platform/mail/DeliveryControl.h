@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
@@ -7,8 +9,10 @@
 #include <QSet>
 #include <QString>
 #include <QTimer>
+#include <vector>
 
 #include "platform/mail/AcceptedList.h"
+#include "platform/mail/AwaitedReply.h"
 #include "platform/mail/Composer.h"
 #include "platform/mail/RecipientNumber.h"
 #include "platform/mail/Route.h"
@@ -43,12 +47,15 @@ class DeliveryControl : public QObject {
     Q_OBJECT
   public:
     explicit DeliveryControl(QObject* parent = nullptr);
+    /// Replies that are still awaited may come for some seconds; see SmtpTimes::farewell.
+    ~DeliveryControl() override;
 
     QString LogFile;          ///< path of the support log; see Transcript
     bool LogEnabled = false;  ///< keep that log
     qint32 HeloMode = 0;      ///< 0 greets with EHLO, 1 with HELO
     /// Longest time without progress: the server takes bytes or completes a reply. Below 1: 60 seconds.
     qint16 TimeoutSecs = 60;
+    SmtpTimes StageTimes;  ///< what some stages get at least; `stall` is taken from TimeoutSecs
     QString BodyText;
     QString BodyHtml;
     QString TemplateHtml;  ///< the body before personalisation: only local images that it names are embedded
@@ -92,6 +99,11 @@ class DeliveryControl : public QObject {
     /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
     /// SendDone and SendError follows, from the event loop, never from within this call. A message that is
     /// still under way is dropped without any signal.
+    ///
+    /// A message that was dropped or aborted when the server had got all of it may still be accepted. Its
+    /// reply is awaited on a connection of its own, and an acceptance goes into the list of accepted
+    /// messages. A message for the same row waits for that reply, and takes its outcome, instead of being
+    /// sent. While two replies are awaited no further message is started.
     void Send();
 
     /// Ends a running delivery with SendError before it returns. From here until BeginRun a message with a
@@ -112,10 +124,29 @@ class DeliveryControl : public QObject {
         qint64 number = recipient::outsideRun;
         QString address;
     };
+    /// A message that was given up after its final point.
+    struct Awaited {
+        Recipient recipient;
+        std::unique_ptr<AwaitedReply> reply;
+    };
+    /// A message that waits until fewer replies are awaited.
+    struct Waiting {
+        Route route;
+        ComposedMessage message;
+        SmtpTimes times;
+    };
     using RunKey = QPair<QString, qint64>;  ///< path of the database, number
 
+    // DeliveryControl_run.cpp: whom a message is for, and what becomes of those that were given up
     QString whyNotSent(bool addressIsFresh) const;
     void noteAccepted(const Recipient& accepted);
+    AwaitedReply* awaitedFor(const Recipient& recipient) const;
+    void giveUp();
+    void onLateReply(AwaitedReply* reply, bool accepted, int code);
+    void startWaiting();
+
+    // DeliveryControl.cpp
+    void startNew(const QString& host);
     MessageData data() const;
     QString whyNoHost() const;
     void finish(const DeliveryOutcome& outcome);
@@ -132,6 +163,9 @@ class DeliveryControl : public QObject {
     bool m_runIsNew = false;  ///< since BeginRun no tick has begun
     QSet<RunKey> m_acceptedInRun;
     Recipient m_current;
+    std::vector<Awaited> m_awaited;
+    AwaitedReply* m_awaitedHere = nullptr;  ///< the running message takes the outcome of this one
+    std::optional<Waiting> m_waiting;
     bool m_insideSend = false;
     DeliveryOutcome m_outcome;
     QByteArray m_messageId;

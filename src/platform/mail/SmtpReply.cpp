@@ -10,11 +10,15 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+int numberOf(QByteArrayView digits) {
+    return (digits[0] - '0') * 100 + (digits[1] - '0') * 10 + (digits[2] - '0');
+}
+
 /// Code at the head of a line, 0 where there is none.
 int codeOf(QByteArrayView line) {
     if (line.size() < 3 || line[0] < '2' || line[0] > '5' || !isDigit(line[1]) || !isDigit(line[2])) return 0;
     if (line.size() > 3 && line[3] != ' ' && line[3] != '-') return 0;
-    return (line[0] - '0') * 100 + (line[1] - '0') * 10 + (line[2] - '0');
+    return numberOf(line);
 }
 
 }  // namespace
@@ -47,6 +51,14 @@ ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset) {
         parse.next = at;
         return parse;
     }
+}
+
+bool isAcceptance(QByteArrayView reply) {
+    return reply.size() >= 3 && reply[0] == '2' && isDigit(reply[1]) && isDigit(reply[2]);
+}
+
+int acceptanceCode(QByteArrayView reply) {
+    return numberOf(reply);
 }
 
 QString printable(QByteArrayView text) {

@@ -35,6 +35,12 @@ struct ReplyParse {
 /// of one reply bear different codes, the last one counts.
 ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset);
 
+/// Whether these bytes say that the server has taken a message: what answers the final point begins with
+/// three digits, the first a 2. Whatever follows, and even if it never ends, the message will be delivered.
+bool isAcceptance(QByteArrayView reply);
+/// The three digits of an acceptance.
+int acceptanceCode(QByteArrayView reply);
+
 /// `text` in one line without control characters, as it can be shown or logged.
 QString printable(QByteArrayView text);
 

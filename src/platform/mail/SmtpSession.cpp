@@ -1,5 +1,6 @@
 #include "platform/mail/SmtpSession.h"
 
+#include <algorithm>
 #include <QHostAddress>
 #include <QNetworkProxy>
 #include <utility>
@@ -14,6 +15,7 @@ constexpr int idleMs = 30000;
 constexpr int goodbyeMs = 5000;
 constexpr quint16 implicitTlsPort = 465;
 constexpr qint64 readBufferSize = 65536;
+constexpr qsizetype longestShown = 200;  // of a reply that does not end
 
 QString describe(QAbstractSocket::SocketError error, const QSslSocket& socket, const Route& route) {
     switch (error) {
@@ -57,13 +59,13 @@ SmtpSession::~SmtpSession() {
     dropConnection();
 }
 
-void SmtpSession::deliver(const Route& route, const ComposedMessage& message, int timeoutMs) {
+void SmtpSession::deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times) {
     m_busy = true;
-    m_mailAccepted = false;
-    m_refused = false;
+    m_refused = m_mailAccepted = false;
+    m_pointGiven = m_answeredEarly = false;
     m_message = message;
     m_idle.stop();
-    m_timeoutMs = timeoutMs;
+    m_times = times;
     m_outstanding = 0;
     progress();
 
@@ -81,10 +83,30 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, in
     open();
 }
 
-void SmtpSession::abandon() {
+std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
     m_busy = false;
     m_stall.stop();
+    m_message = {};
+    std::unique_ptr<AwaitedReply> awaited;
+    if (hasGivenAll()) {
+        QSslSocket* const socket = std::exchange(m_socket, nullptr);
+        socket->disconnect(this);
+        awaited = std::make_unique<AwaitedReply>(socket, m_input.mid(m_inputRead),
+                                                 std::max(m_times.stall, m_times.finalReply));
+    }
     dropConnection();
+    return awaited;
+}
+
+/// The system has taken the whole message, the final point included, and the server has not answered it.
+bool SmtpSession::hasGivenAll() const {
+    return m_socket && m_pointGiven && !m_expected.isEmpty() && m_expected.first() == Step::Body &&
+           allTaken();
+}
+
+/// The server has taken the message, whatever else it may still say.
+bool SmtpSession::wasAccepted() const {
+    return hasGivenAll() && !m_answeredEarly && isAcceptance(QByteArrayView(m_input).sliced(m_inputRead));
 }
 
 void SmtpSession::open(LocalPort localPort) {
@@ -114,6 +136,7 @@ void SmtpSession::open(LocalPort localPort) {
                             .arg(m_route.host, QString::number(m_route.port),
                                  implicitTls() ? QStringLiteral(" (TLS)") : QString()));
     m_expected = {Step::Greeting};
+    progress();
     m_socket->connectToHost(m_route.host, m_route.port);
 }
 
@@ -128,6 +151,7 @@ bool SmtpSession::implicitTls() const {
 void SmtpSession::onConnected() {
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     m_bound = false;
+    m_connected.start();
     progress();
     if (!implicitTls()) return;
     m_handshaking = true;
@@ -136,7 +160,9 @@ void SmtpSession::onConnected() {
 }
 
 void SmtpSession::dropConnection() {
-    const bool midMessage = m_feeding;
+    // What the server has not got yet must not reach it when the message counts as failed.
+    const bool midMessage = m_feeding || (!m_expected.isEmpty() && m_expected.first() == Step::Body) ||
+                            (m_socket && m_pointGiven && !allTaken());
     m_ready = m_handshaking = m_feeding = false;
     m_idle.stop();
     m_expected.clear();
@@ -170,7 +196,33 @@ void SmtpSession::quit() {
 }
 
 void SmtpSession::progress() {
-    if (m_busy) m_stall.start(m_timeoutMs);
+    m_lookedAgain = false;
+    if (m_busy) m_stall.start(limitMs());
+}
+
+/// How long the present wait may last.
+int SmtpSession::limitMs() const {
+    const bool answering = m_socket && m_socket->state() == QAbstractSocket::ConnectedState &&
+                           !m_handshaking && !m_expected.isEmpty();
+    if (!answering) return m_times.stall;
+    switch (m_expected.first()) {
+        case Step::Greeting:
+            return m_greeters.contains(m_route.host) ? m_times.stall
+                                                     : std::max(m_times.stall, m_times.greeting);
+        case Step::Ehlo:
+        case Step::Helo:
+            return std::max(m_times.stall, m_times.hello);
+        case Step::Body:
+            return hasGivenAll() && !wasAccepted() ? std::max(m_times.stall, m_times.finalReply)
+                                                   : m_times.stall;
+        default:
+            return m_times.stall;
+    }
+}
+
+/// A host that has greeted in time, or not at all, is not waited for longer again.
+void SmtpSession::noteGreeting() {
+    if (m_connected.elapsed() <= m_times.stall || m_lookedAgain) m_greeters.insert(m_route.host);
 }
 
 void SmtpSession::onTaken() {
@@ -185,23 +237,36 @@ void SmtpSession::noteTaken() {
 
 void SmtpSession::onTimeout() {
     if (m_socket && isTaking(int(m_socket->socketDescriptor()))) return;
-    dropConnection();
-    fail(0, QStringLiteral("Tempo scaduto: il server non risponde."));
+    if (!m_lookedAgain) {
+        // No event may have been taken for a long time: what has come meanwhile is read first.
+        m_lookedAgain = true;
+        m_stall.start(0);
+        return;
+    }
+    if (m_socket && m_socket->state() == QAbstractSocket::ConnectedState && !m_handshaking &&
+        waitForInput(int(m_socket->socketDescriptor()), 0)) {
+        m_socket->waitForReadyRead(0);
+        if (!m_lookedAgain || !m_busy) return;
+    }
+    if (limitMs() > m_times.stall && m_expected.first() == Step::Greeting) noteGreeting();
+    lost(0, QStringLiteral("Tempo scaduto: il server non risponde."));
 }
 
 bool SmtpSession::isTaking(int descriptor) {
     // Large buffers of the system tell of progress late: the time counts from the last acknowledgement.
     const int outstanding = unacknowledgedOctets(descriptor);
     const int quietMs = msSinceAcknowledgement(descriptor);
-    if (outstanding >= m_outstanding || quietMs >= m_timeoutMs) return false;
+    const int limit = limitMs();
+    if (outstanding >= m_outstanding || quietMs >= limit) return false;
     m_outstanding = outstanding;
-    m_stall.start(m_timeoutMs - quietMs);
+    m_stall.start(limit - quietMs);
     return true;
 }
 
 void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
     // What the server said before it hung up still counts.
-    if (error == QAbstractSocket::RemoteHostClosedError && m_socket->bytesAvailable() > 0) {
+    if (error == QAbstractSocket::SocketTimeoutError) return;  // of the look before a time-out
+    if (m_socket->bytesAvailable() > 0) {
         const QSslSocket* const socket = m_socket;
         onReadyRead();
         if (m_socket != socket) return;
@@ -222,10 +287,18 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
     lost(0, m_handshaking ? handshakeFailure() : describe(error, *m_socket, m_route));
 }
 
-void SmtpSession::lost(int code, const QString& why) {
+void SmtpSession::lost(int code, const QString& why, Loss loss) {
+    const bool accepted = wasAccepted();
+    const QByteArray reply = accepted ? m_input.mid(m_inputRead, longestShown) : QByteArray();
     dropConnection();
     if (!m_busy) return;
-    if (m_reused && !m_mailAccepted && !m_refused) {
+    if (accepted) {
+        m_transcript.received(acceptanceCode(reply), reply.mid(4));
+        conclude({true, acceptanceCode(reply), printable(reply.mid(4))});
+        return;
+    }
+    const bool nothingGiven = loss == Loss::Dead ? !m_pointGiven : !m_mailAccepted;
+    if (m_reused && nothingGiven && !m_refused) {
         m_reused = false;
         m_transcript.remark(QStringLiteral("Connessione caduta, nuova connessione"));
         open();
@@ -240,6 +313,7 @@ void SmtpSession::fail(int code, const QString& why) {
 
 void SmtpSession::conclude(const DeliveryOutcome& outcome) {
     m_busy = false;
+    m_lookedAgain = false;
     m_stall.stop();
     m_message = {};
     if (m_socket && inputLeft()) dropConnection();

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <memory>
 #include <optional>
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QSslSocket>
 #include <QTimer>
 
+#include "platform/mail/AwaitedReply.h"
 #include "platform/mail/Message.h"
 #include "platform/mail/Route.h"
 #include "platform/mail/Sasl.h"
@@ -22,12 +26,25 @@ struct DeliveryOutcome {
     QString text;  ///< what the server said, or (Italian) what went wrong
 };
 
+/// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits get more where
+/// he chose less, since a server may look at the client or the message before it answers (RFC 5321 4.5.3.2).
+struct SmtpTimes {
+    int stall = 60000;
+    int greeting =
+        30000;  ///< at the first connection to a host in a run, and while it greets later than `stall`
+    int hello = 30000;        ///< the reply to EHLO or HELO
+    int finalReply = 600000;  ///< the reply to the final point: giving up there delivers the message twice
+    int farewell = 5000;      ///< replies that are still awaited when the program ends
+};
+
 /// One SMTP connection that is kept between messages.
 ///
 /// Steps of a connection: greeting, EHLO (HELO where that is refused), STARTTLS and EHLO again, AUTH; then
 /// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. A refused
 /// message leaves the connection in place: the next one is preceded by RSET. A kept connection that turns out
-/// to be dead or answers 421 before MAIL was accepted is opened anew, once.
+/// to be dead, or answers 421, is opened anew and the message tried there once, as long as neither the final
+/// point nor a write that holds it was given to the socket. One that answers out of order is treated so only
+/// before MAIL was accepted.
 class SmtpSession : public QObject {
     Q_OBJECT
   public:
@@ -35,11 +52,15 @@ class SmtpSession : public QObject {
     ~SmtpSession() override;
 
     /// Starts a delivery; none may be running. finished() follows, possibly from within this call.
-    /// `timeoutMs` bounds the time without progress.
-    void deliver(const Route& route, const ComposedMessage& message, int timeoutMs);
+    /// `times` bound the time without progress: the server takes bytes or completes a reply.
+    void deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times);
 
-    /// Drops the running delivery and its connection without any signal.
-    void abandon();
+    /// Drops the running delivery without any signal. Where the server has got all of the message its
+    /// connection is handed over, since the message may still be accepted; otherwise it is closed.
+    std::unique_ptr<AwaitedReply> abandon();
+
+    /// Forgets which hosts greet in time.
+    void beginRun() { m_greeters.clear(); }
 
   Q_SIGNALS:
     /// The delivery has ended; a new one may be started at once.
@@ -51,20 +72,27 @@ class SmtpSession : public QObject {
 
     enum class LocalPort { AsTold, Any };
 
+    /// Why a connection is of no more use: it is dead, or what came is not what was to come.
+    enum class Loss { Dead, Disorder };
+
     // SmtpSession.cpp: life of a connection and of a delivery
     void open(LocalPort localPort = LocalPort::AsTold);
     void dropConnection();
     void quit();
-    void lost(int code, const QString& why);
+    void lost(int code, const QString& why, Loss loss = Loss::Dead);
     void fail(int code, const QString& why);
     void conclude(const DeliveryOutcome& outcome);
     void progress();
+    int limitMs() const;
+    bool hasGivenAll() const;
+    bool wasAccepted() const;
     void onConnected();
     void onTaken();
     void noteTaken();
     void onSocketError(QAbstractSocket::SocketError error);
     void onTimeout();
     bool isTaking(int descriptor);
+    void noteGreeting();
     void noteLocalPortTaken();
     bool implicitTls() const;
 
@@ -124,6 +152,8 @@ class SmtpSession : public QObject {
     bool m_needsReset = false;  ///< the last message was refused
     bool m_bound = false;       ///< connecting from the local port that was asked for
     bool m_tlsSeen = false;     ///< the route's server has offered TLS before
+    QElapsedTimer m_connected;
+    QSet<QString> m_greeters;  ///< hosts that get no more than the user's time for their greeting
     SmtpExtensions m_extensions;
     QByteArray m_input;
     qsizetype m_inputRead = 0;
@@ -143,12 +173,15 @@ class SmtpSession : public QObject {
     bool m_reused = false;  ///< on a connection that was kept
     bool m_mailAccepted = false;
     bool m_refused = false;
-    int m_timeoutMs = 0;
+    bool m_lookedAgain = false;  ///< the time is up, and what has come meanwhile was read
+    SmtpTimes m_times;
     int m_outstanding = 0;  ///< octets that were not acknowledged when the system last took some
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
-    MessageText::Place m_fed;  ///< what stands before it was written
-    bool m_feeding = false;    ///< the body is going out, the final point was not written yet
+    MessageText::Place m_fed;      ///< what stands before it was written
+    bool m_feeding = false;        ///< the body is going out, the final point was not written yet
+    bool m_pointGiven = false;     ///< the write that holds the final point was given to the socket
+    bool m_answeredEarly = false;  ///< part of a reply came before the end of the message
 };
 
 }  // namespace mail

@@ -29,15 +29,22 @@ void SmtpSession::onReadyRead() {
     m_input += socket->readAll();
     // A reply can end the connection, and through finished() start the next delivery.
     while (m_socket == socket && !m_expected.isEmpty() && !m_handshaking) {
-        const ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
-        if (parse.state == ReplyParse::State::Incomplete) break;
+        ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
+        if (parse.state == ReplyParse::State::Incomplete) {
+            if (m_expected.first() == Step::Body && inputLeft() && !hasGivenAll()) m_answeredEarly = true;
+            if (wasAccepted() && m_stall.interval() > m_times.stall) progress();
+            break;
+        }
         if (parse.state == ReplyParse::State::Malformed) {
             const qsizetype shown = std::min<qsizetype>(m_input.size() - m_inputRead, 200);
             m_transcript.remark(QStringLiteral("Risposta non valida"));
-            lost(0, QStringLiteral("Risposta del server non valida: %1")
-                        .arg(printable(QByteArrayView(m_input).sliced(m_inputRead, shown))));
+            lost(0,
+                 QStringLiteral("Risposta del server non valida: %1")
+                     .arg(printable(QByteArrayView(m_input).sliced(m_inputRead, shown))),
+                 Loss::Disorder);
             return;
         }
+        if (wasAccepted()) parse.reply.code = acceptanceCode(QByteArrayView(m_input).sliced(m_inputRead));
         m_inputRead = parse.next;
         progress();
         onReply(m_expected.takeFirst(), parse.reply);
@@ -57,11 +64,12 @@ void SmtpSession::onUnexpectedInput() {
     SmtpReply reply = parseSmtpReply(m_input, m_inputRead).reply;
     if (reply.intermediate()) reply.text = "(omesso)";  // it may be a token of the login
     m_transcript.received(reply.code, reply.text);
-    lost(reply.code == 421 ? 421 : 0, reply.code == 421
-                                          ? printable(reply.text)
-                                          : QStringLiteral("Risposta del server inattesa: %1 %2")
-                                                .arg(reply.code)
-                                                .arg(printable(reply.text)));
+    if (reply.code == 421)
+        lost(421, printable(reply.text));
+    else
+        lost(0,
+             QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
+             Loss::Disorder);
 }
 
 bool SmtpSession::inputLeft() const {
@@ -77,6 +85,7 @@ void SmtpSession::onReply(Step step, const SmtpReply& reply) {
     }
     switch (step) {
         case Step::Greeting:
+            noteGreeting();
             if (reply.positive())
                 hello();
             else
@@ -128,6 +137,7 @@ void SmtpSession::writeCommands() {
     QSslSocket* const socket = m_socket;  // a failure takes m_socket away
     socket->write(std::exchange(m_output, {}));
     socket->flush();
+    if (m_socket == socket) progress();
 }
 
 QByteArray SmtpSession::greetingName() const {
@@ -206,7 +216,7 @@ QByteArray SmtpSession::envelopeCommand(Step step) const {
 
 void SmtpSession::onEnvelopeReply(Step step, const SmtpReply& reply) {
     if (reply.intermediate() || (step == Step::Reset && !reply.positive())) {
-        lost(reply.code, printable(reply.text));
+        lost(reply.code, printable(reply.text), Loss::Disorder);
         return;
     }
     if (reply.positive()) {
@@ -241,9 +251,9 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
     if (reply.positive()) {
         // No answer to DATA: replies and commands are out of step, and what answered MAIL is not known.
         m_mailAccepted = false;
-        lost(
-            0,
-            QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)));
+        lost(0,
+             QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
+             Loss::Disorder);
     } else if (!reply.intermediate()) {
         refuse(reply);
         settleRefusal();
@@ -269,6 +279,7 @@ void SmtpSession::feedBody() {
     for (int pieces = 1; m_socket == socket && m_feeding && allTaken(); ++pieces) {
         QByteArray piece = m_message.text.stuffed(m_fed, bodyPiece);
         m_feeding = !m_message.text.isEnd(m_fed);
+        m_pointGiven = !m_feeding;
         if (!m_feeding) piece += m_message.text.endsLine() ? ".\r\n" : "\r\n.\r\n";
         // However quickly the server reads, the event loop gets its turn.
         if (pieces == piecesInARow)
@@ -295,7 +306,7 @@ bool SmtpSession::allTaken() const {
 }
 
 void SmtpSession::onBodyReply(const SmtpReply& reply) {
-    const bool complete = !m_feeding && allTaken();
+    const bool complete = !m_feeding && allTaken() && !m_answeredEarly;
     const bool delivered = reply.positive() && complete;
     m_needsReset = !delivered;
     const DeliveryOutcome outcome{delivered, reply.code, printable(reply.text)};

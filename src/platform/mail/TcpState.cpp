@@ -3,6 +3,7 @@
 #include <linux/sockios.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 
@@ -26,6 +27,11 @@ qsizetype sendAtOnce(int descriptor, QByteArrayView octets) {
     const ssize_t taken =
         ::send(descriptor, octets.data(), size_t(octets.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
     return std::max<ssize_t>(taken, 0);
+}
+
+bool waitForInput(int descriptor, int ms) {
+    pollfd watched{descriptor, POLLIN, 0};
+    return descriptor >= 0 && ::poll(&watched, 1, ms) > 0;
 }
 
 void resetOnClose(int descriptor) {

@@ -15,6 +15,9 @@ int msSinceAcknowledgement(int descriptor);
 /// Hands octets to the system without waiting; gives how many it took, 0 where it takes none now or ever.
 qsizetype sendAtOnce(int descriptor, QByteArrayView octets);
 
+/// Waits until there is something to read, an end or an error included. False: nothing came within `ms`.
+bool waitForInput(int descriptor, int ms);
+
 /// Closing will throw away what is not acknowledged yet and reset the connection, instead of going on to
 /// serve a server that does not read.
 void resetOnClose(int descriptor);

@@ -1,0 +1,141 @@
+// Whom a message is for, what was accepted in a run, and the replies that are awaited aside.
+#include <algorithm>
+#include <QDeadlineTimer>
+#include <utility>
+
+#include "platform/mail/DeliveryControl.h"
+
+namespace mail {
+
+namespace {
+
+constexpr size_t mostAwaited = 2;
+constexpr qsizetype longestShown = 320;  // of a text that may be anything
+
+}  // namespace
+
+/// Empty: it may be sent.
+QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
+    if (RecipientNumber == recipient::outsideRun) return {};
+    if (RecipientNumber == recipient::nobody)
+        return QStringLiteral("Il destinatario non è stato letto: nessun invio.");
+    if (m_stopped) return QStringLiteral("L'invio è stato fermato: nessun invio fino al prossimo avvio.");
+    if (!addressIsFresh)
+        return QStringLiteral("L'indirizzo del destinatario non è stato letto: nessun invio.");
+    if (m_acceptedInRun.contains({Database, RecipientNumber}))
+        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato in questo invio.");
+    if (!Accepted) return {};
+    if (Accepted->holds(m_current.database, m_current.number, m_current.address))
+        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato.");
+    if (Accepted->room() <= int(m_awaited.size()))
+        return QStringLiteral("Non c'è più spazio per ricordare i messaggi accettati.");
+    return {};
+}
+
+void DeliveryControl::noteAccepted(const Recipient& accepted) {
+    if (accepted.number == recipient::outsideRun) return;
+    m_acceptedInRun.insert({accepted.database.path, accepted.number});
+    if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
+}
+
+void DeliveryControl::BeginRun() {
+    m_stopped = false;
+    m_runIsNew = true;
+    m_session.beginRun();
+}
+
+void DeliveryControl::BeginTick() {
+    if (std::exchange(m_runIsNew, false)) m_acceptedInRun.clear();
+}
+
+void DeliveryControl::Marked(qint64 number) {
+    if (Accepted) Accepted->remove(DatabaseFile::at(Database), number);
+}
+
+void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbers) {
+    const DatabaseFile file = DatabaseFile::at(database);
+    const QSet<qint64> chosen(numbers.begin(), numbers.end());
+    for (const qint64 number : chosen)
+        if (Accepted) Accepted->remove(file, number);
+    const auto forgotten = std::partition(m_awaited.begin(), m_awaited.end(), [&](const Awaited& awaited) {
+        return !chosen.contains(awaited.recipient.number) || !awaited.recipient.database.same(file);
+    });
+    const bool current = std::any_of(forgotten, m_awaited.end(), [&](const Awaited& awaited) {
+        return awaited.reply.get() == m_awaitedHere;
+    });
+    m_awaited.erase(forgotten, m_awaited.end());
+    if (current) {
+        m_awaitedHere = nullptr;
+        m_outcome = {false, 0, QStringLiteral("Il destinatario è stato selezionato di nuovo.")};
+        m_deferred.start();
+    }
+    startWaiting();
+}
+
+/// A reply that is awaited for this very row and address. Null: none.
+AwaitedReply* DeliveryControl::awaitedFor(const Recipient& recipient) const {
+    if (recipient.number == recipient::outsideRun) return nullptr;
+    const auto found = std::find_if(m_awaited.begin(), m_awaited.end(), [&](const Awaited& awaited) {
+        return awaited.recipient.number == recipient.number &&
+               awaited.recipient.address == recipient.address &&
+               awaited.recipient.database.same(recipient.database);
+    });
+    return found == m_awaited.end() ? nullptr : found->reply.get();
+}
+
+/// Ends the running message without a signal.
+void DeliveryControl::giveUp() {
+    m_deferred.stop();
+    m_waiting.reset();
+    m_awaitedHere = nullptr;
+    std::unique_ptr<AwaitedReply> reply = m_session.abandon();
+    if (!reply) return;
+    AwaitedReply* const shown = reply.get();
+    connect(shown, &AwaitedReply::ended, this,
+            [this, shown](bool accepted, int code) { onLateReply(shown, accepted, code); });
+    m_awaited.push_back({m_current, std::move(reply)});
+    m_transcript.remark(
+        QStringLiteral("La risposta al messaggio per %1 è attesa in disparte").arg(m_recipient));
+    shown->look();
+}
+
+void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) {
+    const auto found = std::find_if(m_awaited.begin(), m_awaited.end(),
+                                    [&](const Awaited& awaited) { return awaited.reply.get() == reply; });
+    Awaited awaited = std::move(*found);
+    m_awaited.erase(found);
+    reply->setParent(this);
+    awaited.reply.release()->deleteLater();
+    if (accepted) noteAccepted(awaited.recipient);
+    m_transcript.remark(QStringLiteral("Risposta in ritardo al messaggio per %1: %2")
+                            .arg(awaited.recipient.address.left(longestShown),
+                                 code ? QString::number(code) : QStringLiteral("nessuna")));
+    m_transcript.flush();
+    if (reply == m_awaitedHere) {
+        m_awaitedHere = nullptr;
+        finish({accepted, code, QStringLiteral("Risposta in ritardo al messaggio di prima")});
+    }
+    startWaiting();
+}
+
+void DeliveryControl::startWaiting() {
+    if (!m_waiting) return;
+    if (m_awaited.size() >= mostAwaited) {
+        if (m_insideSend) m_transcript.remark(QStringLiteral("Attesa: due risposte sono ancora attese"));
+        return;
+    }
+    const Waiting waiting = *std::exchange(m_waiting, std::nullopt);
+    m_session.deliver(waiting.route, waiting.message, waiting.times);
+}
+
+DeliveryControl::~DeliveryControl() {
+    if (m_running) giveUp();
+    const QDeadlineTimer deadline(StageTimes.farewell);
+    while (!m_awaited.empty() && Accepted) {
+        m_awaited.back().reply->waitForEnd(int(deadline.remainingTime()));
+        if (deadline.hasExpired()) break;
+    }
+    m_awaited.clear();
+}
+
+}  // namespace mail
