@@ -1,5 +1,5 @@
 // Messages that were given up after their final point: the server may have taken them all the same.
-#include <memory>
+#include <QTcpServer>
 
 #include "mail/smtp_run_fixture.h"
 #include "support/SmtpSink.h"
@@ -226,6 +226,36 @@ TEST_F(LateReply, OfOthersIsStillAwaitedWhenSomebodyIsChosenAnew) {
     client.smtp.Forget(QStringLiteral("/nessuna/altri.mdb"), {7});
     sink.answerHeld("250 taken");
     EXPECT_TRUE(until([&] { return client.remembers(7); }));
+}
+
+TEST_F(LateReply, ControlTellsWhoIsAwaitedAndWhenNobodyIs) {
+    int ended = 0;
+    QObject::connect(&client.smtp, &mail::DeliveryControl::AwaitedEnded, [&] { ++ended; });
+    EXPECT_FALSE(client.smtp.Awaiting());
+    stopAfterFinalPoint(7);
+    client.smtp.BeginRun();
+    stopAfterFinalPoint(8, bianchi);
+    EXPECT_TRUE(client.smtp.Awaiting());
+    EXPECT_EQ(client.smtp.Awaited(database), (QList<qint64>{7, 8}));
+    EXPECT_TRUE(client.smtp.Awaited(QStringLiteral("/nessuna/altri.mdb")).isEmpty());
+    sink.answerHeld("250 taken");
+    EXPECT_TRUE(until([&] { return client.remembers(7); }));
+    EXPECT_EQ(client.smtp.Awaited(database), QList<qint64>{8});
+    EXPECT_EQ(ended, 0);
+    sink.answerHeld("550 no");
+    EXPECT_TRUE(until([&] { return ended == 1; }));
+    EXPECT_FALSE(client.smtp.Awaiting());
+}
+
+TEST_F(LateReply, AwaitedConnectionLeavesTheLocalPortToNobody) {
+    QTcpServer probe;
+    ASSERT_TRUE(probe.listen(QHostAddress::LocalHost));
+    client.smtp.OutPort = probe.serverPort();
+    probe.close();
+    sink.treat("bianchi@example.it", SmtpSink::Treatment::Accept);
+    stopAfterFinalPoint(7);
+    client.smtp.BeginRun();
+    EXPECT_TRUE(client.tick(8, bianchi).done);
 }
 
 TEST_F(LateReply, IsGivenUpAtItsLimit) {

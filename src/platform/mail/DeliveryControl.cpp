@@ -141,6 +141,12 @@ void DeliveryControl::report() {
         Q_EMIT SendError(outcome.code, outcome.text);
 }
 
+void DeliveryControl::Remark(const QString& text) {
+    m_transcript.setFile(LogEnabled ? LogFile : QString());
+    m_transcript.remark(text);
+    m_transcript.flush();
+}
+
 void DeliveryControl::logStart(const QString& host) {
     if (!m_transcript.active()) return;
     m_transcript.remark(

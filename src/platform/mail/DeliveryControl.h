@@ -47,7 +47,7 @@ class DeliveryControl : public QObject {
     Q_OBJECT
   public:
     explicit DeliveryControl(QObject* parent = nullptr);
-    /// Replies that are still awaited may come for some seconds; see SmtpTimes::farewell.
+    /// Settles.
     ~DeliveryControl() override;
 
     QString LogFile;          ///< path of the support log; see Transcript
@@ -96,6 +96,14 @@ class DeliveryControl : public QObject {
     /// awaited counts for them any more.
     void Forget(const QString& database, const QList<qint64>& numbers);
 
+    /// The rows of the database whose messages were given up after the final point and whose reply is
+    /// awaited.
+    QList<qint64> Awaited(const QString& database) const;
+    /// Whether any reply is awaited.
+    bool Awaiting() const;
+    /// Writes a line of the caller into the support log, if there is one.
+    void Remark(const QString& text);
+
     /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
     /// SendDone and SendError follows, from the event loop, never from within this call. A message that is
     /// still under way is dropped without any signal.
@@ -110,12 +118,19 @@ class DeliveryControl : public QObject {
     /// number is not sent.
     void Abort();
 
+    /// Before the program ends: gives up the running message, and waits some seconds, without an event loop,
+    /// for the replies that are still awaited; see SmtpTimes::farewell. What comes later is lost, and such a
+    /// message may be sent twice.
+    void Settle();
+
   Q_SIGNALS:
     /// The server has taken the message.
     void SendDone();
     /// The message was not delivered, or whether it was cannot be known. `code` is the server's reply code
     /// and `text` what it said; without an answer `code` is 0 and `text` (Italian) tells what happened.
     void SendError(int code, const QString& text);
+    /// No reply is awaited any more.
+    void AwaitedEnded();
 
   private:
     /// Whom a message with a number is for.
@@ -125,7 +140,7 @@ class DeliveryControl : public QObject {
         QString address;
     };
     /// A message that was given up after its final point.
-    struct Awaited {
+    struct GivenUp {
         Recipient recipient;
         std::unique_ptr<AwaitedReply> reply;
     };
@@ -163,7 +178,7 @@ class DeliveryControl : public QObject {
     bool m_runIsNew = false;  ///< since BeginRun no tick has begun
     QSet<RunKey> m_acceptedInRun;
     Recipient m_current;
-    std::vector<Awaited> m_awaited;
+    std::vector<GivenUp> m_awaited;
     AwaitedReply* m_awaitedHere = nullptr;  ///< the running message takes the outcome of this one
     std::optional<Waiting> m_waiting;
     bool m_insideSend = false;

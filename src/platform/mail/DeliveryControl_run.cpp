@@ -57,12 +57,13 @@ void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbe
     const QSet<qint64> chosen(numbers.begin(), numbers.end());
     for (const qint64 number : chosen)
         if (Accepted) Accepted->remove(file, number);
-    const auto forgotten = std::partition(m_awaited.begin(), m_awaited.end(), [&](const Awaited& awaited) {
+    const auto forgotten = std::partition(m_awaited.begin(), m_awaited.end(), [&](const GivenUp& awaited) {
         return !chosen.contains(awaited.recipient.number) || !awaited.recipient.database.same(file);
     });
-    const bool current = std::any_of(forgotten, m_awaited.end(), [&](const Awaited& awaited) {
+    const bool current = std::any_of(forgotten, m_awaited.end(), [&](const GivenUp& awaited) {
         return awaited.reply.get() == m_awaitedHere;
     });
+    const bool forgotSome = forgotten != m_awaited.end();
     m_awaited.erase(forgotten, m_awaited.end());
     if (current) {
         m_awaitedHere = nullptr;
@@ -70,12 +71,13 @@ void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbe
         m_deferred.start();
     }
     startWaiting();
+    if (forgotSome && m_awaited.empty()) Q_EMIT AwaitedEnded();
 }
 
 /// A reply that is awaited for this very row and address. Null: none.
 AwaitedReply* DeliveryControl::awaitedFor(const Recipient& recipient) const {
     if (recipient.number == recipient::outsideRun) return nullptr;
-    const auto found = std::find_if(m_awaited.begin(), m_awaited.end(), [&](const Awaited& awaited) {
+    const auto found = std::find_if(m_awaited.begin(), m_awaited.end(), [&](const GivenUp& awaited) {
         return awaited.recipient.number == recipient.number &&
                awaited.recipient.address == recipient.address &&
                awaited.recipient.database.same(recipient.database);
@@ -101,8 +103,8 @@ void DeliveryControl::giveUp() {
 
 void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) {
     const auto found = std::find_if(m_awaited.begin(), m_awaited.end(),
-                                    [&](const Awaited& awaited) { return awaited.reply.get() == reply; });
-    Awaited awaited = std::move(*found);
+                                    [&](const GivenUp& awaited) { return awaited.reply.get() == reply; });
+    GivenUp awaited = std::move(*found);
     m_awaited.erase(found);
     reply->setParent(this);
     awaited.reply.release()->deleteLater();
@@ -116,6 +118,7 @@ void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) 
         finish({accepted, code, QStringLiteral("Risposta in ritardo al messaggio di prima")});
     }
     startWaiting();
+    if (m_awaited.empty()) Q_EMIT AwaitedEnded();
 }
 
 void DeliveryControl::startWaiting() {
@@ -128,14 +131,33 @@ void DeliveryControl::startWaiting() {
     m_session.deliver(waiting.route, waiting.message, waiting.times);
 }
 
-DeliveryControl::~DeliveryControl() {
+QList<qint64> DeliveryControl::Awaited(const QString& database) const {
+    const DatabaseFile file = DatabaseFile::at(database);
+    QList<qint64> numbers;
+    for (const GivenUp& awaited : m_awaited)
+        if (awaited.recipient.number != recipient::outsideRun && awaited.recipient.database.same(file))
+            numbers.append(awaited.recipient.number);
+    return numbers;
+}
+
+bool DeliveryControl::Awaiting() const {
+    return !m_awaited.empty();
+}
+
+void DeliveryControl::Settle() {
     if (m_running) giveUp();
-    const QDeadlineTimer deadline(StageTimes.farewell);
-    while (!m_awaited.empty() && Accepted) {
+    m_running = false;
+    const QDeadlineTimer deadline(Accepted ? StageTimes.farewell : 0);
+    while (!m_awaited.empty()) {
         m_awaited.back().reply->waitForEnd(int(deadline.remainingTime()));
         if (deadline.hasExpired()) break;
     }
     m_awaited.clear();
+}
+
+DeliveryControl::~DeliveryControl() {
+    blockSignals(true);  // whoever listens may be half gone
+    Settle();
 }
 
 }  // namespace mail
