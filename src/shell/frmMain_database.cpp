@@ -1,6 +1,5 @@
 // Opening another recipient database and saving a copy of the current one.
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QFile>
 
 #include "core/bFunctions.h"
 #include "core/bGlobal.h"
@@ -18,22 +17,12 @@
 
 namespace {
 
-/// Copies a database while nobody writes to it. The copy appears under its name only when it is complete.
+/// Copies a database as it is between two changes. Nothing of what stood under the new name is lost before
+/// the copy is complete.
 void CopiaDatabase(const QString& sorgente, const QString& destinazione) {
-    if (QFileInfo(sorgente).canonicalFilePath() == QFileInfo(destinazione).canonicalFilePath())
-        fallisci(ErrorCode::PathAccess);
     const auto database =
         esigi(jet::Database::open(QFile::encodeName(sorgente).toStdString(), {.readOnly = true}));
-    const jet::ReadScope nessunoScrive(*database);
-    esigi(nessunoScrive.status());
-    QFile da(sorgente);
-    QSaveFile a(destinazione);
-    if (!da.open(QIODevice::ReadOnly) || !a.open(QIODevice::WriteOnly)) fallisci(ErrorCode::PathAccess);
-    while (!da.atEnd()) {
-        const QByteArray blocco = da.read(1 << 20);
-        if (blocco.isEmpty() || a.write(blocco) != blocco.size()) fallisci(ErrorCode::DeviceIo);
-    }
-    if (!a.commit()) fallisci(ErrorCode::DeviceIo);
+    esigi(database->copyTo(QFile::encodeName(destinazione).toStdString()));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "support/HotJournal.h"
 #include "TestDatabase.h"
 
 namespace {
@@ -231,7 +232,7 @@ TEST_F(CommandTest, AnotherProgramSeesTheStatementWhenItReturns) {
     ASSERT_TRUE(table.ok());
     ASSERT_TRUE(table.value()->scan([&](jet::RowId, const jet::RowView&) { return ++rows, true; }).ok());
     EXPECT_EQ(rows, 1);
-    EXPECT_FALSE(QFile::exists(path + QStringLiteral("-journal")));
+    EXPECT_FALSE(hasHotJournal(path.toStdString()));
 }
 
 TEST_F(CommandTest, TheFileCanBeCopiedBetweenTwoStatements) {

@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "platform/ado/GroupedInserts.h"
+#include "support/HotJournal.h"
 #include "TestDatabase.h"
 
 namespace {
@@ -188,6 +189,6 @@ TEST_F(GroupedInsertsTest, WhatWasToldSurvivesTheDeathOfTheProgramAndNothingElse
         ::close(told[1]);
         EXPECT_EQ(count, last / 10 * 10);
         EXPECT_EQ(rowsInFile(path), count);
-        EXPECT_FALSE(QFile::exists(path + QStringLiteral("-journal")));
+        EXPECT_FALSE(hasHotJournal(path.toStdString()));
     }
 }

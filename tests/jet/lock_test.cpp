@@ -6,8 +6,11 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "jet/JetFixture.h"
+#include "platform/jet/OsFile.h"
+#include "support/HotJournal.h"
 
 using namespace jet;
 
@@ -57,6 +60,30 @@ class LockTest : public JetTest {
     };
 
     static Database::Options hasty() { return {.lockWait = {.limit = std::chrono::milliseconds(50)}}; }
+    // In a transaction that is open.
+    static void addRows(Database& database, int count) {
+        for (int i = 0; i < count; ++i)
+            insert(table(database), recipient(table(database), std::string(60, 'x')));
+    }
+    // Another process dies when its pages are written and its journal is hot.
+    void crash() {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            DatabasePtr database = open(path());
+            int syncs = 0;
+            setDiskHook([&](const DiskStep& step) {
+                if (step.kind == DiskStep::Kind::Sync && ++syncs == 2) ::_exit(9);
+                return DiskStep::Outcome::Proceed;
+            });
+            if (!database->begin().ok()) ::_exit(1);
+            addRows(*database, 200);
+            (void)database->commit();
+            ::_exit(1);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_EQ(WEXITSTATUS(status), 9);
+    }
     static void addRow(Database& database, const std::string& name) {
         EXPECT_OK(database.begin());
         insert(table(database), recipient(table(database), name));
@@ -70,20 +97,22 @@ TEST_F(LockTest, SecondWriterIsRefusedAfterABoundedWait) {
         if (!database->begin().ok()) ::_exit(1);
         pause();
     });
-    const auto outcome = Database::open(path(), hasty());
-    EXPECT_FAILS(ErrorCode::FileInUse, outcome);
-    EXPECT_TRUE(outcome.status().text().contains(QStringLiteral("in uso")));
-    other.finish();
     DatabasePtr database = open(path(), hasty());
+    const Status outcome = database->begin();
+    EXPECT_FAILS(ErrorCode::FileInUse, outcome);
+    EXPECT_TRUE(outcome.text().contains(QStringLiteral("in uso")));
+    other.finish();
     EXPECT_OK(database->begin());
     database->rollback();
 }
 
 TEST_F(LockTest, WaitThatIsGivenUpEndsAtOnce) {
     OtherProcess other([&](auto pause) {
-        DatabasePtr database = open(path());
+        DatabasePtr database = open(path(), {.cachedPages = 4});
         if (!database->begin().ok()) ::_exit(1);
+        addRows(*database, 200);  // pages are written ahead
         pause();
+        database->rollback();
     });
     int asked = 0;
     std::chrono::milliseconds last{0};
@@ -92,11 +121,10 @@ TEST_F(LockTest, WaitThatIsGivenUpEndsAtOnce) {
                                last = waited;
                                return ++asked < 5;
                            }};
-    DatabasePtr database;
     EXPECT_FAILS(ErrorCode::FileInUse, Database::open(path(), {.lockWait = patient}));
     EXPECT_EQ(asked, 5);
     other.finish();
-    database = open(path(), hasty());
+    DatabasePtr database = open(path(), hasty());
     OtherProcess another([&](auto pause) {
         DatabasePtr mine = open(path());
         if (!mine->begin().ok()) ::_exit(1);
@@ -112,20 +140,91 @@ TEST_F(LockTest, WaitThatIsGivenUpEndsAtOnce) {
     database->rollback();
 }
 
-TEST_F(LockTest, ReaderWaitsUntilTheWriterIsDone) {
-    DatabasePtr reader = open(path());
+TEST_F(LockTest, ReadersGoOnWhileAWriterWorks) {
+    DatabasePtr reader = open(path(), hasty());
     OtherProcess other([&](auto pause) {
         DatabasePtr database = open(path());
-        Table& recipients = table(*database);
         if (!database->begin().ok()) ::_exit(1);
-        insert(recipients, recipient(recipients, "x"));
+        addRows(*database, 1);
+        pause();
+        if (!database->commit().ok()) ::_exit(1);
+    });
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 0u);
+    DatabasePtr late = open(path(), hasty());
+    EXPECT_EQ(rowsOf(table(*late)).size(), 0u);
+    other.finish();
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 1u);
+    EXPECT_EQ(rowsOf(table(*late)).size(), 1u);
+}
+
+TEST_F(LockTest, ReaderWaitsWhilePagesOfALargeTransactionAreInTheFile) {
+    DatabasePtr reader = open(path());
+    OtherProcess other([&](auto pause) {
+        DatabasePtr database = open(path(), {.cachedPages = 4});
+        if (!database->begin().ok()) ::_exit(1);
+        addRows(*database, 200);
         pause();
         ::usleep(200000);
         if (!database->commit().ok()) ::_exit(1);
     });
+    EXPECT_FAILS(ErrorCode::FileInUse, Database::open(path(), hasty()));
     std::thread release([&] { other.finish(); });
-    EXPECT_EQ(rowsOf(table(*reader)).size(), 1u) << "half a transaction was seen";
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 200u) << "half a transaction was seen";
     release.join();
+}
+
+TEST_F(LockTest, JournalOfALivingWriterKeepsNoReaderOut) {
+    OtherProcess other([&](auto pause) {
+        DatabasePtr database = open(path());
+        bool paused = false;
+        setDiskHook([&](const DiskStep& step) {
+            // The journal is whole and hot, no page is written yet.
+            if (step.kind == DiskStep::Kind::Sync && !std::exchange(paused, true)) pause();
+            return DiskStep::Outcome::Proceed;
+        });
+        if (!database->begin().ok()) ::_exit(1);
+        addRows(*database, 1);
+        if (!database->commit().ok()) ::_exit(1);
+    });
+    EXPECT_TRUE(hasHotJournal(path()));
+    DatabasePtr reader = open(path(), hasty());
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 0u);
+    EXPECT_TRUE(hasHotJournal(path())) << "a living writer's journal was touched";
+    other.finish();
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 1u);
+}
+
+// The one who holds the writer's lock is about to roll the journal back, or to find that he need not.
+TEST_F(LockTest, JournalThatIsLeftIsRolledBackOnlyUnderTheWritersLock) {
+    const std::string before = bytesOf(path());
+    crash();
+    ASSERT_TRUE(hasHotJournal(path()));
+    ASSERT_NE(bytesOf(path()), before);
+    const std::string crashed = bytesOf(path());
+    OtherProcess other([&](auto pause) {
+        OsFile file(path(), OsFile::Access::ReadWrite);
+        if (!file.tryLock(OsFile::Lock::Exclusive, OsFile::Range::Writer)) ::_exit(1);
+        pause();
+    });
+    EXPECT_FAILS(ErrorCode::FileInUse, Database::open(path(), hasty()));
+    EXPECT_EQ(bytesOf(path()), crashed);
+    EXPECT_TRUE(hasHotJournal(path()));
+    other.finish();
+    EXPECT_OK(Database::open(path(), hasty()));
+    EXPECT_EQ(bytesOf(path()), before);
+}
+
+TEST_F(LockTest, JournalThatIsLeftIsRolledBackOnlyWhileNobodyReads) {
+    const std::string before = bytesOf(path());
+    DatabasePtr early = open(path());
+    crash();
+    OsFile holder(path(), OsFile::Access::Read);
+    ASSERT_TRUE(holder.tryLock(OsFile::Lock::Shared, OsFile::Range::Content));
+    EXPECT_FAILS(ErrorCode::FileInUse, Database::open(path(), hasty()));
+    EXPECT_TRUE(hasHotJournal(path()));
+    holder.tryLock(OsFile::Lock::None, OsFile::Range::Content);
+    EXPECT_EQ(rowsOf(table(*early)).size(), 0u);
+    EXPECT_EQ(bytesOf(path()), before);
 }
 
 TEST_F(LockTest, SeveralReadersDoNotDisturbEachOther) {
@@ -136,15 +235,21 @@ TEST_F(LockTest, SeveralReadersDoNotDisturbEachOther) {
     EXPECT_OK(second->table("tb_gruppi"));
 }
 
-TEST_F(LockTest, WriterWaitsForReaders) {
+TEST_F(LockTest, WriterWaitsForReadersBeforePagesAreWritten) {
+    const std::string before = bytesOf(path());
     DatabasePtr reader = open(path());
     DatabasePtr writer = open(path(), hasty());
     {
         const ReadScope scope(*reader);
-        EXPECT_FAILS(ErrorCode::FileInUse, writer->begin());
+        EXPECT_OK(writer->begin());
+        addRows(*writer, 1);
+        EXPECT_FAILS(ErrorCode::FileInUse, writer->commit());
+        EXPECT_FALSE(writer->inTransaction());
+        EXPECT_EQ(bytesOf(path()), before);
+        EXPECT_FALSE(hasHotJournal(path()));
     }
-    EXPECT_OK(writer->begin());
-    writer->rollback();
+    addRow(*writer, "x");
+    EXPECT_EQ(rowsOf(table(*reader)).size(), 1u);
 }
 
 TEST_F(LockTest, WriterGetsInBetweenReadersThatNeverAllPause) {
@@ -273,7 +378,9 @@ TEST_F(LockTest, ReadScopeCostsOneLockForManyCalls) {
     const ReadScope scope(*database);
     for (int i = 0; i < 10; ++i)
         EXPECT_TRUE(table(*database).row(id).value().has_value());
-    EXPECT_FAILS(ErrorCode::FileInUse, writer->begin());
+    EXPECT_OK(writer->begin());
+    addRows(*writer, 1);
+    EXPECT_FAILS(ErrorCode::FileInUse, writer->commit());
 }
 
 TEST_F(LockTest, TransactionInsideAnOwnReadScope) {
@@ -283,11 +390,39 @@ TEST_F(LockTest, TransactionInsideAnOwnReadScope) {
         const ReadScope scope(*database);
         addRow(*database, "x");
         EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
-        EXPECT_EQ(rowsOf(table(*other)).size(), 1u) << "the writer's lock outlived the transaction";
-        EXPECT_FAILS(ErrorCode::FileInUse, other->begin());
+        EXPECT_EQ(rowsOf(table(*other)).size(), 1u) << "the exclusive lock outlived the transaction";
+        EXPECT_OK(other->begin());  // the writer's lock went with the transaction
+        addRows(*other, 1);
+        EXPECT_FAILS(ErrorCode::FileInUse, other->commit());  // the scope has kept its lock
     }
-    EXPECT_OK(other->begin());
-    other->rollback();
+    addRow(*other, "y");
+}
+
+TEST_F(LockTest, TransactionInsideAReadScopeDoesNotWait) {
+    DatabasePtr database = open(path(), {.lockWait = {.limit = std::nullopt}});
+    DatabasePtr writer = open(path());
+    EXPECT_OK(writer->begin());
+    {
+        const ReadScope scope(*database);
+        EXPECT_FAILS(ErrorCode::FileInUse, database->begin());
+    }
+    writer->rollback();
+    EXPECT_OK(database->begin());
+    database->rollback();
+}
+
+TEST_F(LockTest, FileThatIsReplacedInATransactionIsNotWritten) {
+    DatabasePtr database = open(path());
+    create(path("altro.mdb")).reset();
+    const std::string other = bytesOf(path("altro.mdb"));
+    EXPECT_OK(database->begin());
+    addRows(*database, 1);
+    std::filesystem::rename(path("altro.mdb"), path());
+    EXPECT_FAILS(ErrorCode::FileNotFound, database->commit());
+    EXPECT_EQ(bytesOf(path()), other);
+    EXPECT_FALSE(hasHotJournal(path()));
+    addRow(*database, "x");
+    EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
 }
 
 TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
@@ -298,7 +433,7 @@ TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
         insert(table(*database), recipient(table(*database), "x"));
     }
     EXPECT_EQ(bytesOf(path()), before);
-    EXPECT_FALSE(std::filesystem::exists(path() + "-journal"));
+    EXPECT_FALSE(OsFile::exists(path() + "-journal"));
     DatabasePtr other = open(path(), hasty());
     EXPECT_OK(other->begin());
     other->rollback();

@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "jet/JetFixture.h"
+#include "support/HotJournal.h"
 
 using namespace jet;
 
@@ -305,7 +306,7 @@ TEST_F(TableTest, RolledBackTransactionLeavesNoTrace) {
     database->rollback();
     EXPECT_EQ(rowsOf(recipients).size(), 1u);
     EXPECT_EQ(bytesOf(path()), before);
-    EXPECT_FALSE(std::filesystem::exists(path() + "-journal"));
+    EXPECT_FALSE(hasHotJournal(path()));
     EXPECT_EQ(stored(change([&] { return insert(recipients, recipient(recipients, "z")); }))[0],
               Value(int64_t{2}));
 }

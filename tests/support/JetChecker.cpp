@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "support/HotJournal.h"
 #include "support/JetCheckerFile.h"
 #include "support/JetCheckerKeys.h"
 #include "support/JetCheckerLongs.h"
@@ -16,7 +17,7 @@ namespace {
 class Checker {
   public:
     explicit Checker(const std::string& path) : m_file(path) {
-        if (std::filesystem::exists(path + "-journal")) find("a journal was left beside the file");
+        if (hasHotJournal(path)) find("a hot journal was left beside the file");
     }
 
     std::vector<std::string> run() {

@@ -89,6 +89,10 @@ Result<bool> Database::refresh() {
     });
 }
 
+bool Database::roomReserved() {
+    return m_engine->file.roomReserved();
+}
+
 void Database::setLockWait(LockWait wait) {
     m_engine->file.setLockWait(std::move(wait));
 }

@@ -125,9 +125,14 @@ class Table {
 /// changed or replaced it in between; refresh() tells the caller whether that happened. Names are in UTF-8,
 /// paths in the file system's encoding.
 ///
-/// Other processes are kept out by an advisory lock on the file: shared while a call reads, exclusive from
-/// begin() to commit() or rollback(). Waiting for it is bounded; then FileInUse. Two Databases in one process
-/// exclude each other as well, so share one.
+/// Other processes are kept out by advisory locks on the file. There is one writer at a time, from begin() to
+/// commit() or rollback(); others read on meanwhile and see the file as it was at begin(). Nobody reads while
+/// pages are written: that is inside commit(), and in a transaction that outgrows the cache from then on.
+/// Waiting is as LockWait says; then FileInUse. Two Databases in one process keep each other out as well, so
+/// share one.
+///
+/// While a file is open for writing an empty journal stands beside it (`<file>-journal`), which keeps room on
+/// the disk for the next one; the last who closes the file removes it.
 ///
 /// Failures: FileNotFound, PathAccess, UnrecognizedFormat, InvalidPassword, FileInUse, ReadOnlyDatabase,
 /// DeviceIo, DamagedDatabase (what the file tells contradicts itself), DatabaseFull (2 GB), Internal (the
@@ -142,8 +147,10 @@ class Database {
         size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides
     };
 
-    /// Opens an existing file. A journal found beside it is rolled back first. Fails with a clear text for a
-    /// missing or unreadable file, a file that is no Jet database, one that is truncated, or a wrong
+    /// Opens an existing file. What a dead writer left is rolled back first; a journal that does not belong
+    /// to the file is set aside and told (Notices.h); one that somebody made who may not write the file, or
+    /// that is a link, makes opening fail (PathAccess). Fails with a clear text for a missing or unreadable
+    /// file, a file that is no Jet database, one that is truncated, or a wrong
     /// password. Files of Access 97 (Jet 3) are opened for reading only.
     static Result<std::unique_ptr<Database>> open(const std::string& path, const Options& options);
     static Result<std::unique_ptr<Database>> open(const std::string& path) { return open(path, {}); }
@@ -163,16 +170,28 @@ class Database {
     /// from outside and caches (also those of the caller) must be dropped; Table pointers are invalid then.
     Result<bool> refresh();
 
+    /// Whether the room for the journal of one row's update is taken on the disk, so that such an update
+    /// succeeds even when the disk gets full. Tries to take it where it is not. False where nothing can be
+    /// written, there is no room, or the file system writes every change to a new place.
+    bool roomReserved();
+
+    /// Writes a copy of the file as it is now to `target`, given as for open(). It appears under its name
+    /// when it is complete and on the disk; a file that is there is replaced then, and a hot journal beside
+    /// it is set aside and told (Notices.h). The file itself as target fails (PathAccess), a target that
+    /// others use does after the wait (FileInUse); whatever fails leaves the target as it was.
+    Status copyTo(const std::string& target);
+
     /// How the calls that follow wait for another process.
     void setLockWait(LockWait wait);
 
-    /// Starts a transaction: takes the write lock (bounded wait). The rollback journal is opened with the
-    /// first change; nothing is written to the file before it is synced. Refused (FileInUse) as well while
-    /// another program holds the NAME.ldb beside the file.
+    /// Starts a transaction: takes the writer's lock. Nothing is written to the file before the journal is
+    /// synced. Refused (FileInUse) as well while another program holds the NAME.ldb beside the file. Within a
+    /// ReadScope it does not wait: two that read and wait for each other would do so for ever.
     Status begin();
-    /// Makes the transaction durable: after it returns success the changes survive a crash (not that of the
-    /// machine when the folder could not be synced; then the next transaction fails, having changed nothing).
-    /// After a failure the file is as it was at begin().
+    /// Makes the transaction durable; waits until nobody reads. After it returns success the changes survive
+    /// a crash (not that of the machine when the emptied journal could not be synced; then the next
+    /// transaction tries that first, and fails where it fails again, having changed nothing). After a failure
+    /// the file is as it was at begin().
     Status commit();
     /// Puts the file back to what it was at begin().
     void rollback();

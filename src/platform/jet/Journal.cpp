@@ -1,116 +1,240 @@
 #include "platform/jet/Journal.h"
 
+#include <unistd.h>
+
+#include <chrono>
 #include <random>
 
 #include "platform/jet/Failure.h"
+#include "platform/jet/JournalReplay.h"
+#include "platform/jet/LockWait.h"
+#include "platform/jet/Notices.h"
 
 namespace jet {
 
-namespace {
+using Access = OsFile::Access;
+using Links = OsFile::Links;
+using Lock = OsFile::Lock;
+using Range = OsFile::Range;
 
-constexpr size_t headerLength = 32;
-constexpr size_t checkedHeader = 24;
-constexpr size_t checkedRecord = 4 + pageSize;
-constexpr size_t recordLength = checkedRecord + 8;
-constexpr char magic[] = "VJOURNAL";
-
-using HeaderBytes = std::array<uint8_t, headerLength>;
-using RecordBytes = std::array<uint8_t, recordLength>;
-
-// Guards against torn and never written records, not against an attacker. `length` is a multiple of 4.
-uint64_t checksum(const uint8_t* bytes, size_t length, uint64_t nonce) {
-    uint64_t sum = nonce ^ 0x9E3779B97F4A7C15u;
-    for (size_t i = 0; i < length; i += 4) {
-        sum = (sum ^ load32(bytes + i)) * 0xD6E8FEB86659FD93u;
-        sum ^= sum >> 32;
-    }
-    return sum;
+bool Journal::leadsTo(const OsFile& file) const {
+    FileState now;
+    return file.isOpen() && nameState(m_path, now) && sameFile(now, file.state());
 }
 
-}  // namespace
+void Journal::requireTrusted(const FileRights& rights, const OsFile& database) const {
+    if (isTrusted(rights, database.rights(), ::geteuid())) return;
+    fail(ErrorCode::PathAccess, "Il file \"", m_path,
+         "\" non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il "
+         "database. Il database non viene aperto finché il file resta al suo posto.");
+}
+
+OsFile Journal::open(const OsFile& database, Access access) const {
+    OsFile file(m_path, access, Links::Refuse);
+    requireTrusted(file.rights(), database);
+    return file;
+}
+
+Journal::Found Journal::stateOf(const OsFile& file) const {
+    journal::Header header;
+    switch (journal::readHeader(file, header)) {
+        case journal::HeaderState::Empty:
+            return Found::Idle;
+        case journal::HeaderState::Valid:
+            return Found::Hot;
+        case journal::HeaderState::Strange:
+            break;
+    }
+    return Found::Foreign;
+}
+
+Journal::Found Journal::look(const OsFile& database) const {
+    if (leadsTo(m_file)) {
+        requireTrusted(m_file.rights(), database);
+        return stateOf(m_file);
+    }
+    if (!OsFile::exists(m_path)) return Found::None;
+    try {
+        return stateOf(open(database, Access::Read));
+    } catch (const Failure& failure) {
+        if (failure.status.code() == ErrorCode::FileNotFound) return Found::None;  // just removed
+        throw;
+    }
+}
+
+bool Journal::isLeftBehind() const {
+    try {
+        return OsFile::exists(m_path) && stateOf(OsFile(m_path, Access::Read, Links::Refuse)) != Found::Idle;
+    } catch (const Failure&) {
+        return true;
+    }
+}
+
+void Journal::keepRoom(const OsFile& database) {
+    if (leadsTo(m_file)) {
+        requireTrusted(m_file.rights(), database);
+        return;
+    }
+    close();
+    // Others may make or remove it between two of these steps; then all is tried again.
+    const auto attempt = [&] {
+        OsFile file;
+        const bool there = OsFile::exists(m_path);
+        try {
+            if (there) {
+                file = open(database, Access::ReadWrite);
+            } else {
+                file = OsFile(m_path, Access::Create, Links::Refuse);
+                file.takeRights(database);
+            }
+        } catch (const Failure& failure) {
+            const bool gone = there && failure.status.code() == ErrorCode::FileNotFound;
+            if (gone || OsFile::exists(m_path) != there) return false;
+            throw;
+        }
+        if (!file.tryLock(Lock::Shared, Range::Content) || !leadsTo(file)) return false;
+        m_file = std::move(file);
+        return true;
+    };
+    if (!waitFor(LockWait{}, attempt))
+        fail(ErrorCode::FileInUse, "Il file \"", m_path, "\" è in uso da un altro programma.");
+    m_roomTaken = m_file.reserve(room);
+}
+
+bool Journal::roomKept() const {
+    return m_roomTaken && leadsTo(m_file);
+}
+
+void Journal::close() {
+    m_file = OsFile();
+    m_roomTaken = m_folderSynced = m_syncOwed = false;
+}
+
+void Journal::remove(const OsFile& database) {
+    if (!isOpen() && OsFile::exists(m_path)) m_file = open(database, Access::ReadWrite);
+    if (isOpen() && m_file.tryLock(Lock::Exclusive, Range::Content) && leadsTo(m_file) &&
+        stateOf(m_file) == Found::Idle)
+        OsFile::remove(m_path);
+    close();
+}
 
 void Journal::start(const OsFile& database, uint32_t pages) {
-    OsFile file(m_path, OsFile::Access::Create);
-    file.copyRights(database);
+    if (m_syncOwed) m_file.sync();
+    m_syncOwed = false;
+    m_file.takeRights(database);
     std::random_device random;
-    m_header = {pages, static_cast<uint64_t>(random()) << 32 | random()};
-    HeaderBytes bytes{};
-    std::memcpy(bytes.data(), magic, 8);
-    store32(&bytes[8], pageSize);
-    store32(&bytes[12], pages);
-    store64(&bytes[16], m_header.nonce);
-    store64(&bytes[24], checksum(bytes.data(), checkedHeader, 0));
-    file.write(0, bytes);
-    m_end = headerLength;
-    m_folderSynced = false;
-    m_file = std::move(file);
+    m_header = {pages, static_cast<uint64_t>(random()) << 32 | random(), 0};
+    Page first{};
+    database.read(0, first);
+    m_header.firstPage = journal::digest(first, m_header.nonce);
+    m_end = journal::recordsStart;
+    m_announcements.clear();
+    m_hot = false;
+    m_started = true;
 }
 
 void Journal::add(uint32_t page, const Page& original) {
-    RecordBytes record;
-    store32(record.data(), page);
-    std::memcpy(&record[4], original.data(), pageSize);
-    store64(&record[checkedRecord], checksum(record.data(), checkedRecord, m_header.nonce));
+    std::vector<uint8_t> record;
+    record.reserve(journal::originalLength);
+    journal::appendOriginal(record, m_end, m_header.nonce, page, original);
     m_file.write(m_end, record);
-    m_end += recordLength;
+    m_end += record.size();
+}
+
+void Journal::announce(uint32_t page, const Page& content) {
+    journal::appendAnnouncement(m_announcements, m_end + m_announcements.size(), m_header.nonce, page,
+                                content);
 }
 
 void Journal::sync() {
+    if (!m_announcements.empty()) m_file.write(m_end, m_announcements);
+    m_end += m_announcements.size();
+    m_announcements.clear();
+    if (!m_hot) {
+        m_hot = true;
+        m_file.write(0, journal::encode(m_header));
+    }
     m_file.sync();
     if (m_folderSynced) return;
     OsFile::syncFolderOf(m_path);
     m_folderSynced = true;
 }
 
+void Journal::empty(OsFile& file) {
+    file.write(0, journal::HeaderBytes{});
+}
+
 void Journal::finish() {
-    OsFile::remove(m_path);
-    m_file = OsFile();
+    try {
+        empty(m_file);
+    } catch (const Failure&) {
+        // Halfway done is done: everybody sees the header as it is read here.
+        if (stateOf(m_file) != Found::Idle) throw;
+        m_syncOwed = true;
+    }
+    m_started = m_hot = false;
+    try {
+        m_file.sync();
+        m_syncOwed = false;
+        if (m_end > room) m_file.truncate(room);
+    } catch (const Failure&) {
+        m_syncOwed = true;
+    }
+}
+
+// Where the header stays, putting back the records will change nothing.
+void Journal::discard() noexcept {
+    try {
+        if (m_hot) empty(m_file);
+        if (m_end > room) m_file.truncate(room);
+    } catch (const Failure&) {
+    }
+    m_announcements.clear();
+    m_started = m_hot = false;
+}
+
+void Journal::recover(OsFile& database) {
+    // That of an own transaction serves also when somebody has taken its name away.
+    const bool own = m_started;
+    m_started = m_hot = false;
+    m_announcements.clear();
+    OsFile other;
+    if (!own && !leadsTo(m_file)) other = open(database, Access::ReadWrite);
+    OsFile& file = other.isOpen() ? other : m_file;
+    journal::Header header;
+    switch (journal::readHeader(file, header)) {
+        case journal::HeaderState::Empty:
+            return;
+        case journal::HeaderState::Strange:
+            return setAside();
+        case journal::HeaderState::Valid:
+            break;
+    }
+    const JournalReplay replay(file, header, database);
+    if (!replay.fits()) return setAside();
+    replay.putBack(database);
+    empty(file);
+    file.sync();
+    if (file.state().size > room) file.truncate(room);
+}
+
+void Journal::setAside() {
+    const std::string wanted = m_path + ".scartato";
+    std::string name = wanted;
+    for (int n = 2; !OsFile::rename(m_path, name, false); ++n) {
+        if (n > 999) fail(ErrorCode::PathAccess, "Troppi file \"", wanted, "\".");
+        name = phrase(wanted, "-", n);
+    }
+    close();
+    notice(
+        phrase("Accanto al database c'era un giornale di modifiche interrotte che non gli appartiene. Il "
+               "database resta com'è; il giornale è stato messo da parte come \"",
+               name, "\"."));
     try {
         OsFile::syncFolderOf(m_path);
     } catch (const Failure&) {
-        // It has happened, and whoever reads the file next sees it. The next transaction fails in step 3.
+        // A journal that comes back is set aside once more.
     }
-}
-
-void Journal::discard() {
-    m_file = OsFile();
-    OsFile::remove(m_path);
-}
-
-bool Journal::readHeader(const OsFile& file, Header& header) {
-    HeaderBytes bytes;
-    if (file.read(0, bytes) != headerLength || std::memcmp(bytes.data(), magic, 8) != 0) return false;
-    if (load32(&bytes[8]) != pageSize || load64(&bytes[24]) != checksum(bytes.data(), checkedHeader, 0))
-        return false;
-    header = {load32(&bytes[12]), load64(&bytes[16])};
-    return header.pages <= maxPages;
-}
-
-bool Journal::isHot() const {
-    if (!exists()) return false;
-    Header header;
-    return readHeader(OsFile(m_path, OsFile::Access::Read), header);
-}
-
-void Journal::rollBack(OsFile& database) {
-    m_file = OsFile();
-    Header header;
-    const OsFile journal(m_path, OsFile::Access::Read);
-    if (readHeader(journal, header)) {
-        const FileState before = database.state();
-        RecordBytes record;
-        for (uint64_t at = headerLength; journal.read(at, record) == recordLength; at += recordLength) {
-            if (load64(&record[checkedRecord]) != checksum(record.data(), checkedRecord, header.nonce)) break;
-            const uint32_t page = load32(record.data());
-            if (page >= header.pages) break;
-            database.write(uint64_t{page} * pageSize, std::span(record).subspan(4, pageSize));
-        }
-        if (before.size > uint64_t{header.pages} * pageSize)
-            database.truncate(uint64_t{header.pages} * pageSize);
-        database.stampAfter(before.modifiedNs);
-        database.sync();
-    }
-    finish();
 }
 
 }  // namespace jet

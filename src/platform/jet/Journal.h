@@ -2,75 +2,108 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/jet/Format.h"
+#include "platform/jet/JournalFormat.h"
 #include "platform/jet/OsFile.h"
 
 namespace jet {
 
-/// The rollback journal `<file>-journal`: the original bytes of every page that a transaction changes.
+/// The rollback journal `<file>-journal`: the original bytes of every page that a transaction changes, and
+/// digests of what is written instead. Its layout stands in JournalFormat.h.
 ///
-/// Header, 32 bytes:
-///   0  8  "VJOURNAL"
-///   8  u32 page size
-///  12  u32 pages of the file before the transaction
-///  16  u64 nonce, part of each checksum
-///  24  u64 checksum of the 24 bytes before it
-/// then for each page, 4108 bytes:
-///   0  u32 page number
-///   4  4096 bytes as they were
-///   4100 u64 checksum of the 4100 bytes before it
+/// The file stays while its database is open for writing, with an empty header, so that the room for the next
+/// small transaction is taken already. Whoever keeps it open holds a shared lock on it, and only who gets
+/// that lock alone removes it. A journal is hot while its header is not empty.
 ///
 /// Steps of a transaction (PageFile drives them) and what a crash leaves:
-///   1  exclusive lock taken, no journal is left from others
-///   2  journal created, originals appended                    [start, add]
-///   3  journal synced, its folder synced                      [sync]
-///   4  changed pages written to the file, the file grows
+///   1  writer's lock taken; no hot journal is there; the name leads to the open journal   [keepRoom]
+///   2  originals appended, new contents announced                          [start, add, announce]
+///   3  author's lock taken, header written, journal synced (and its folder, the first time)    [sync]
+///   4  exclusive lock taken, changed pages written to the file, the file grows
 ///   5  the file synced
-///   6  journal removed: the transaction has happened          [finish]
-///   7  folder synced: it has happened for good
+///   6  header emptied: the transaction has happened                        [finish]
+///   7  journal synced: it has happened for good
 /// Invariants:
-///   J1 a page that existed before is written (4) only when its original stands in the synced journal (3)
-///   J2 the journal is removed (6) only when the file is synced (5)
-///   J3 who finds a journal and gets the exclusive lock rolls it back before reading anything else
-/// A crash before 3 is complete leaves an untouched file, and a journal of which only intact records count:
+///   J1 a page is written (4) only when its original and the digests of this new content stand in the synced
+///      journal (3)
+///   J2 the header is emptied (6) only when the file is synced (5)
+///   J3 who finds a hot journal whose author's lock nobody holds takes the writer's lock and the exclusive
+///      one, and rolls it back before reading anything else
+///   J4 nothing is rolled back unless all sectors of the file that the journal speaks of hold the original or
+///      an announced content; else the whole journal is set aside under another name, and told (Notices.h)
+///   J5 a journal is touched only when it is a plain file of somebody who may write the database
+/// A crash before 3 is complete leaves an untouched file, and a journal of which only whole records count:
 /// putting them back changes nothing. Between 3 and 6 the journal leads back to the state before. Between 6
-/// and 7 a power failure may bring the journal back and with it the state before; from 7 on only the new
-/// state is possible. A folder that cannot be synced in 7 makes no failure of what has happened: it is told
-/// by the next transaction, whose step 3 syncs the same folder before anything is changed. Steps 3 and 4 may
-/// be repeated for a large transaction.
+/// and 7 a power failure may bring the header back and with it the state before; from 7 on only the new
+/// state is possible. A journal that cannot be synced in 7 makes no failure of what has happened: the next
+/// transaction syncs it first, and fails where that fails. Steps 2 to 4 may be repeated for a large
+/// transaction.
 class Journal {
   public:
+    /// Kept for the next transaction: enough for one row, the indexes it stands in included.
+    static constexpr uint64_t room = 128 * 1024;
+
     explicit Journal(const std::string& databasePath) : m_path(databasePath + "-journal") {}
 
-    bool exists() const { return OsFile::exists(m_path); }
-    bool started() const { return m_file.isOpen(); }
+    const std::string& path() const { return m_path; }
+
+    /// Foreign: not empty, and not of this layout.
+    enum class Found { None, Idle, Hot, Foreign };
+    /// What stands under the name. Fails (PathAccess) for what must not be touched (J5), naming it.
+    Found look(const OsFile& database) const;
+    /// Whether something that is not empty stands under the name; without a database to judge it by.
+    bool isLeftBehind() const;
+
+    /// Opens the journal that the name leads to, makes it where there is none, and takes its room. Fails
+    /// where it cannot be opened; lack of room is told by roomKept() alone.
+    void keepRoom(const OsFile& database);
+    /// Whether the room is taken and the name still leads to it.
+    bool roomKept() const;
+    /// Closes the journal and removes it where it is not hot and nobody else keeps it open. The caller holds
+    /// the writer's lock and the exclusive one.
+    void remove(const OsFile& database);
+    /// Closes the journal.
+    void close();
+
+    /// Begins a transaction. Nothing is written yet.
     void start(const OsFile& database, uint32_t pages);
+    bool started() const { return m_started; }
     void add(uint32_t page, const Page& original);
+    void announce(uint32_t page, const Page& content);
     void sync();
     /// Steps 6 and 7. Fails in step 6 only.
     void finish();
-    /// Drops a journal whose pages were never changed in the file.
-    void discard();
+    /// Drops a transaction of which no page was written to the file.
+    void discard() noexcept;
 
-    /// Puts back what the journal holds, makes that durable and removes the journal. An incomplete one is
-    /// only removed. Can be repeated after a crash in the middle of it.
-    void rollBack(OsFile& database);
-    /// Whether the journal found has a valid header, so that the file cannot be read without rolling it back.
-    bool isHot() const;
+    /// Rolls a hot journal back, or sets it aside (J4). The caller holds the writer's lock and the exclusive
+    /// one. Can be repeated after a crash within it.
+    void recover(OsFile& database);
+    /// Renames the journal to `<file>-journal.scartato`, or with a number behind where that is taken, and
+    /// tells so.
+    void setAside();
 
   private:
-    struct Header {
-        uint32_t pages = 0;
-        uint64_t nonce = 0;
-    };
-    static bool readHeader(const OsFile& file, Header& header);
+    bool isOpen() const { return m_file.isOpen(); }
+    bool leadsTo(const OsFile& file) const;
+    OsFile open(const OsFile& database, OsFile::Access access) const;
+    void requireTrusted(const FileRights& rights, const OsFile& database) const;
+    static void empty(OsFile& file);
+    Found stateOf(const OsFile& file) const;
 
     std::string m_path;
     OsFile m_file;
-    Header m_header;
-    uint64_t m_end = 0;
+    bool m_roomTaken = false;
     bool m_folderSynced = false;
+    bool m_syncOwed = false;  // step 7 has failed
+
+    bool m_started = false;
+    bool m_hot = false;
+    journal::Header m_header;
+    uint64_t m_end = 0;
+    std::vector<uint8_t> m_announcements;
 };
 
 }  // namespace jet

@@ -2,13 +2,16 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <cstdio>
 #include <ctime>
+#include <iterator>
 
+#include "platform/jet/DiskTrouble.h"
 #include "platform/jet/Failure.h"
 
 namespace jet {
@@ -21,20 +24,10 @@ DiskStep::Outcome ask(const DiskStep& step) {
     return diskHook ? diskHook(step) : DiskStep::Outcome::Proceed;
 }
 
-[[noreturn]] void failIo(const char* doing, const std::string& path, int error) {
-    fail(ErrorCode::DeviceIo, "Errore del disco (", doing, ") sul file \"", path,
-         "\": ", std::strerror(error), ".");
-}
-
-[[noreturn]] void failOpen(const std::string& path, int error) {
-    if (error == ENOENT || error == ENOTDIR)
-        fail(ErrorCode::FileNotFound, "Impossibile trovare il file \"", path, "\".");
-    fail(ErrorCode::PathAccess, "Impossibile aprire il file \"", path, "\": ", std::strerror(error), ".");
-}
-
 // Whether the step is to be done.
 bool proceed(const DiskStep& step, const char* doing) {
     const DiskStep::Outcome outcome = ask(step);
+    if (outcome == DiskStep::Outcome::Full) failIo(doing, step.path, ENOSPC);
     if (outcome == DiskStep::Outcome::Fail || outcome == DiskStep::Outcome::Half)
         failIo(doing, step.path, EIO);
     return outcome == DiskStep::Outcome::Proceed;
@@ -55,6 +48,15 @@ void writeAll(int fd, uint64_t offset, std::span<const uint8_t> bytes, const std
     }
 }
 
+struct flock requestFor(OsFile::Range range) {
+    constexpr off_t behind = off_t{1} << 62;
+    struct flock request {};
+    request.l_whence = SEEK_SET;
+    request.l_start = range == OsFile::Range::Content ? 0 : behind + static_cast<off_t>(range) - 1;
+    request.l_len = range == OsFile::Range::Content ? behind : 1;
+    return request;
+}
+
 }  // namespace
 
 void setDiskHook(DiskHook hook) {
@@ -68,12 +70,21 @@ bool fileState(const std::string& path, FileState& state) {
     return true;
 }
 
-OsFile::OsFile(const std::string& path, Access access) : m_path(path) {
+bool nameState(const std::string& path, FileState& state) {
+    struct stat s;
+    if (::lstat(path.c_str(), &s) != 0) return false;
+    state = toState(s);
+    return true;
+}
+
+OsFile::OsFile(const std::string& path, Access access, Links links) : m_path(path) {
     if (access == Access::Create) (void)proceed({DiskStep::Kind::Create, m_path}, "creazione");
     // O_NONBLOCK: opening a pipe by mistake must not hang.
     const int mode = access == Access::Read ? O_RDONLY : O_RDWR;
     const int creation = access == Access::Create ? O_CREAT | O_EXCL : 0;
-    m_fd = ::open(path.c_str(), mode | creation | O_CLOEXEC | O_NONBLOCK, 0666);
+    const bool plain = links == Links::Refuse;
+    m_fd = ::open(path.c_str(), mode | creation | (plain ? O_NOFOLLOW : 0) | O_CLOEXEC | O_NONBLOCK,
+                  plain ? 0600 : 0666);
     if (m_fd < 0) failOpen(path, errno);
     struct stat s;
     if (::fstat(m_fd, &s) != 0 || !S_ISREG(s.st_mode)) {
@@ -125,6 +136,8 @@ void OsFile::write(uint64_t offset, std::span<const uint8_t> bytes) {
         case DiskStep::Outcome::Half:
             writeAll(m_fd, offset, bytes.first(bytes.size() / 2), m_path);
             break;
+        case DiskStep::Outcome::Full:
+            failIo("scrittura", m_path, ENOSPC);
         case DiskStep::Outcome::Fail:
             break;
     }
@@ -134,6 +147,20 @@ void OsFile::write(uint64_t offset, std::span<const uint8_t> bytes) {
 void OsFile::truncate(uint64_t size) {
     if (!proceed({DiskStep::Kind::Truncate, m_path, size}, "accorciamento")) return;
     if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0) failIo("accorciamento", m_path, errno);
+}
+
+bool OsFile::reserve(uint64_t size) {
+    // Those that never write in place: the next change of a page needs new room, whatever is reserved.
+    static constexpr uint32_t copiers[] = {0x9123683E, 0x2FC12FC1, 0xCA451A4E, 0xF2F52010, 0x3434};
+    try {
+        if (!proceed({DiskStep::Kind::Reserve, m_path, size}, "prenotazione")) return true;
+    } catch (const Failure&) {
+        return false;
+    }
+    struct statfs system;
+    if (::fallocate(m_fd, 0, 0, static_cast<off_t>(size)) != 0 || ::fstatfs(m_fd, &system) != 0) return false;
+    return std::find(std::begin(copiers), std::end(copiers), static_cast<uint32_t>(system.f_type)) ==
+           std::end(copiers);
 }
 
 void OsFile::sync() {
@@ -149,22 +176,41 @@ void OsFile::stampAfter(int64_t previousNs) {
     if (::futimens(m_fd, times) != 0) return;
 }
 
-void OsFile::copyRights(const OsFile& other) {
+FileRights OsFile::rights() const {
     struct stat s;
-    if (::fstat(other.m_fd, &s) != 0 || ::fchmod(m_fd, s.st_mode & 0777) != 0)
-        failIo("diritti", m_path, errno);
+    if (::fstat(m_fd, &s) != 0) failIo("lettura", m_path, errno);
+    return {s.st_uid, s.st_gid, s.st_mode & 0777u, s.st_nlink, S_ISREG(s.st_mode)};
+}
+
+// At no moment has the file a right that `other` has not.
+void OsFile::takeRights(const OsFile& other) {
+    const FileRights wanted = other.rights();
+    FileRights now = rights();
+    uint32_t mode = wanted.mode & 0666;
+    const bool administrator = ::geteuid() == 0;
+    const bool moves = now.group != wanted.group || (administrator && now.owner != wanted.owner);
+    if (!moves && now.mode == mode) return;
+    if (moves && ::fchmod(m_fd, 0600) == 0 &&
+        ::fchown(m_fd, administrator ? wanted.owner : static_cast<uid_t>(-1), wanted.group) == 0)
+        now.group = wanted.group;
+    if (now.group != wanted.group) mode &= ~uint32_t{070};
+    if (::fchmod(m_fd, mode) == 0 || (rights().mode & ~mode) == 0) return;
+    fail(ErrorCode::PathAccess, "Il file \"", m_path,
+         "\" può essere letto o scritto da chi non può farlo con \"", other.path(), "\".");
 }
 
 bool OsFile::tryLock(Lock lock, Range range) {
-    constexpr off_t gate = off_t{1} << 62;
-    struct flock request {};
-    request.l_start = range == Range::Gate ? gate : 0;
-    request.l_len = range == Range::Gate ? 1 : gate;
+    struct flock request = requestFor(range);
     request.l_type = lock == Lock::Shared ? F_RDLCK : lock == Lock::Exclusive ? F_WRLCK : F_UNLCK;
-    request.l_whence = SEEK_SET;
     if (::fcntl(m_fd, F_OFD_SETLK, &request) == 0) return true;
     if (errno == EAGAIN || errno == EACCES || errno == EINTR) return false;
     failIo("blocco", m_path, errno);
+}
+
+bool OsFile::lockedByOthers(Range range) const {
+    struct flock request = requestFor(range);
+    request.l_type = F_WRLCK;
+    return ::fcntl(m_fd, F_OFD_GETLK, &request) != 0 || request.l_type != F_UNLCK;
 }
 
 bool OsFile::lockedByOthers() const {
@@ -175,12 +221,26 @@ bool OsFile::lockedByOthers() const {
 }
 
 bool OsFile::exists(const std::string& path) {
-    return ::access(path.c_str(), F_OK) == 0;
+    struct stat s;
+    return ::lstat(path.c_str(), &s) == 0;
 }
 
 void OsFile::remove(const std::string& path) {
     if (!proceed({DiskStep::Kind::Remove, path}, "cancellazione")) return;
     if (::unlink(path.c_str()) != 0 && errno != ENOENT) failIo("cancellazione", path, errno);
+}
+
+bool OsFile::rename(const std::string& from, const std::string& to, bool replace) {
+    if (!proceed({DiskStep::Kind::Rename, to}, "cambio di nome")) return true;
+    if (!replace) {
+        if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
+        if (errno == EEXIST) return false;
+        if (errno != EINVAL && errno != ENOSYS) failIo("cambio di nome", to, errno);
+        // A file system without that rename: the locks of its callers let nobody of ours come in between.
+        if (exists(to)) return false;
+    }
+    if (::rename(from.c_str(), to.c_str()) != 0) failIo("cambio di nome", to, errno);
+    return true;
 }
 
 void OsFile::syncFolderOf(const std::string& path) {

@@ -5,18 +5,20 @@
 #include <span>
 #include <string>
 
+#include "platform/jet/FileRights.h"
+
 namespace jet {
 
 /// One step that changes the disk. Tests watch these, make them fail, cut them short or end the process at
 /// one.
 struct DiskStep {
-    enum class Kind { Create, Write, Sync, Truncate, Remove, SyncFolder };
-    /// Half: half of a write is done, then it fails. Skip: nothing is done and success is told, as by a disk
-    /// that does not keep its word.
-    enum class Outcome { Proceed, Fail, Half, Skip };
+    enum class Kind { Create, Write, Sync, Truncate, Reserve, Rename, Remove, SyncFolder };
+    /// Half: half of a write is done, then it fails. Full: it fails for lack of room. Skip: nothing is done
+    /// and success is told, as by a disk that does not keep its word.
+    enum class Outcome { Proceed, Fail, Half, Full, Skip };
     Kind kind;
     const std::string& path;
-    uint64_t offset = 0;                  ///< of a write; the new size of a truncation
+    uint64_t offset = 0;                  ///< of a write; the size of a truncation or reservation
     std::span<const uint8_t> bytes = {};  ///< of a write
 };
 using DiskHook = std::function<DiskStep::Outcome(const DiskStep&)>;
@@ -33,15 +35,23 @@ struct FileState {
 };
 /// State of the file at `path`; false when there is none or it cannot be asked.
 bool fileState(const std::string& path, FileState& state);
+/// The same for what bears the name itself, which may be a link.
+bool nameState(const std::string& path, FileState& state);
+/// Whether two states are of one file.
+inline bool sameFile(const FileState& one, const FileState& other) {
+    return one.inode == other.inode && one.device == other.device;
+}
 
 /// An open file. Its members throw Failure; sizes and offsets are bytes. Paths are in the file system's
 /// encoding.
 class OsFile {
   public:
     enum class Access { Read, ReadWrite, Create };  ///< Create: the file must not exist yet
+    /// Refuse: a symbolic link is not followed, and a file that is made is its owner's alone.
+    enum class Links { Follow, Refuse };
 
     OsFile() = default;
-    OsFile(const std::string& path, Access access);
+    OsFile(const std::string& path, Access access, Links links = Links::Follow);
     OsFile(OsFile&& other) noexcept;
     OsFile& operator=(OsFile&& other) noexcept;
     ~OsFile();
@@ -53,27 +63,39 @@ class OsFile {
     size_t read(uint64_t offset, std::span<uint8_t> bytes) const;
     void write(uint64_t offset, std::span<const uint8_t> bytes);
     void truncate(uint64_t size);
+    /// Takes room on the disk for the first `size` bytes, whatever they hold; a shorter file grows to that
+    /// size, with zeros. False where there is no room, or the file system cannot promise it for writes in
+    /// place (some write each change to a new place).
+    bool reserve(uint64_t size);
     void sync();
     /// Sets a modification time later than `previousNs`, so that no two states written by this engine carry
     /// the same one however coarse the file system's clock is. Not allowed to some users: then nothing
     /// happens.
     void stampAfter(int64_t previousNs);
 
-    /// Gives this file the access rights of `other`.
-    void copyRights(const OsFile& other);
+    FileRights rights() const;
+    /// Gives this file the group and the access rights of `other`; those of the group not where it cannot
+    /// have that group. Fails (PathAccess) when this file would keep more rights than `other`.
+    void takeRights(const OsFile& other);
 
     enum class Lock { None, Shared, Exclusive };
-    /// What a lock covers: all content, however the file grows, or a byte far behind it, through which
-    /// whoever wants the content has to pass.
-    enum class Range { Content, Gate };
+    /// What a lock covers: all content, however the file grows, or one of three bytes far behind it. Gate:
+    /// whoever wants the content has to pass it. Writer: held for a whole transaction. Author: held while the
+    /// journal is hot by the one who wrote it.
+    enum class Range { Content, Gate, Writer, Author };
     /// Changes the advisory lock on a range at once; false when another holder forbids it. The lock belongs
     /// to this open file, so two in one process exclude each other as well.
     bool tryLock(Lock lock, Range range);
-    /// Whether somebody else holds any lock on the file.
+    /// Whether somebody else holds a lock on the range, or any on the file.
+    bool lockedByOthers(Range range) const;
     bool lockedByOthers() const;
 
+    /// Whether the name is taken, be it by a link that leads nowhere.
     static bool exists(const std::string& path);
     static void remove(const std::string& path);
+    /// Renames a file; one that bears the new name is replaced. False when that was not wanted and there is
+    /// one.
+    static bool rename(const std::string& from, const std::string& to, bool replace);
     /// Makes the creation or removal of `path` itself durable.
     static void syncFolderOf(const std::string& path);
 

@@ -1,35 +1,86 @@
 #include "platform/jet/PageFile.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <span>
+
 #include "platform/jet/Failure.h"
+#include "platform/jet/FileLocks.h"
 #include "platform/jet/Jet3.h"
 
 namespace jet {
 
-PageFile::PageFile(std::string path, bool readOnly, const Limits& limits)
-    : m_path(std::move(path)), m_limits(limits), m_wantReadOnly(readOnly), m_journal(m_path) {
+namespace {
+
+// Under whatever name a database is opened, its journal has one.
+std::string realPath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    return error ? path : real.string();
+}
+
+}  // namespace
+
+PageFile::PageFile(const std::string& path, bool readOnly, const Limits& limits)
+    : m_path(realPath(path)), m_limits(limits), m_wantReadOnly(readOnly), m_journal(m_path) {
     open();
     beginRead();
     endRead();
+    (void)roomReserved();
 }
 
 PageFile::~PageFile() {
     if (m_writing) rollback();
+    letGoOfRoom();
+}
+
+bool PageFile::roomReserved() {
+    if (readOnly()) return false;
+    try {
+        if (m_journal.roomKept()) return true;
+        m_journal.keepRoom(m_file);
+    } catch (const Failure&) {
+        // Whether that matters is seen when something is written.
+    }
+    return m_journal.roomKept();
+}
+
+void PageFile::copyTo(OsFile& out) {
+    std::vector<uint8_t> block(1 << 20);
+    for (uint64_t at = 0;;) {
+        const size_t length = m_file.read(at, block);
+        if (length == 0) return;
+        out.write(at, std::span(block).first(length));
+        at += length;
+    }
 }
 
 void PageFile::open() {
     m_readOnly = m_wantReadOnly;
-    if (!m_readOnly) {
-        try {
-            m_file = OsFile(m_path, OsFile::Access::ReadWrite);
-        } catch (const Failure& failure) {
-            if (failure.status.code() != ErrorCode::PathAccess) throw;
-            m_readOnly = true;
+    try {
+        if (!m_readOnly) {
+            try {
+                m_file = OsFile(m_path, OsFile::Access::ReadWrite);
+            } catch (const Failure& failure) {
+                if (failure.status.code() != ErrorCode::PathAccess) throw;
+                m_readOnly = true;
+            }
         }
+        if (m_readOnly) m_file = OsFile(m_path, OsFile::Access::Read);
+    } catch (const Failure& failure) {
+        if (failure.status.code() == ErrorCode::FileNotFound) failMissing();
+        throw;
     }
-    if (m_readOnly) m_file = OsFile(m_path, OsFile::Access::Read);
     m_opened = m_file.state();
     // Before the journal is looked at: nothing is ever rolled back into a file of another kind.
     readHeader();
+}
+
+void PageFile::failMissing() const {
+    const std::string text = phrase("Impossibile trovare il file \"", m_path, "\".");
+    if (!m_journal.isLeftBehind()) fail(ErrorCode::FileNotFound, text);
+    fail(ErrorCode::FileNotFound, text, " Accanto è rimasto il giornale delle sue ultime modifiche, \"",
+         m_journal.path(), "\", che viene conservato: rimettere il file al suo posto.");
 }
 
 void PageFile::readHeader() {
@@ -116,11 +167,9 @@ void PageFile::requireWritable() const {
 void PageFile::beginWrite() {
     if (m_writing) fail(ErrorCode::NotSupported, "Una transazione è già in corso.");
     requireWritable();
-    refuseIfOpenElsewhere();
+    refuseIfOpenElsewhere(m_path);
     try {
-        if (!m_file.isOpen()) open();
-        (void)lockCurrent(OsFile::Lock::Exclusive);
-        if (m_journal.exists()) m_journal.rollBack(m_file);
+        lockForWriting();
         refreshState(m_file.state());
     } catch (...) {
         unlock();
@@ -164,9 +213,12 @@ Page PageFile::inFileForm(uint32_t n, const Page& page) const {
     return bytes;
 }
 
-// Steps 3 and 4.
+// Steps 2 (its end) to 4.
 void PageFile::writeChanged() {
-    m_journal.sync();
+    if (m_changed.empty()) return;
+    for (const auto& [n, page] : m_changed)
+        m_journal.announce(n, inFileForm(n, *page));
+    lockPages();
     m_pagesWritten = true;
     for (const auto& [n, page] : m_changed)
         m_file.write(uint64_t{n} * pageSize, inFileForm(n, *page));
@@ -197,8 +249,8 @@ void PageFile::commit() {
 // What cannot be put back now is put back by whoever opens the file next, from the journal.
 void PageFile::rollback() noexcept {
     try {
-        if (m_pagesWritten && m_journal.exists()) {
-            m_journal.rollBack(m_file);
+        if (m_pagesWritten) {
+            m_journal.recover(m_file);
         } else if (m_journal.started()) {
             m_journal.discard();
         }

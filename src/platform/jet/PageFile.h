@@ -15,10 +15,11 @@ namespace jet {
 /// The pages of a Jet file: bounded cache, locks against other processes, and transactions through the
 /// rollback journal. All members throw Failure.
 ///
-/// Locks are advisory locks on the database file: shared while something is read, exclusive in a transaction.
-/// A waiting writer lets no new reader in. Waiting is bounded; then FileInUse. A cached page is trusted only
-/// as long as device, inode, size and modification time of the file at the path are what they were when the
-/// lock was last held.
+/// Locks are advisory locks on the database file. Who reads holds the content shared; who writes holds the
+/// writer's lock from the start of the transaction and the content exclusive from the first page that is
+/// written to the end. One that waits to write pages lets no new reader in. A cached page is trusted only as
+/// long as device, inode, size and modification time of the file at the path are what they were when a lock
+/// was last held.
 class PageFile {
   public:
     struct Limits {
@@ -27,8 +28,8 @@ class PageFile {
         LockWait lockWait = {};
     };
 
-    /// Opens the file, rolls a journal back, checks page 0.
-    PageFile(std::string path, bool readOnly, const Limits& limits);
+    /// Opens the file, checks page 0, rolls a journal back, takes room for one where it may write.
+    PageFile(const std::string& path, bool readOnly, const Limits& limits);
     ~PageFile();
     PageFile(const PageFile&) = delete;
 
@@ -40,6 +41,7 @@ class PageFile {
     /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
     uint64_t generation() const { return m_generation; }
     uint32_t pageCount() const { return m_pageCount; }
+    const LockWait& lockWait() const { return m_limits.lockWait; }
     void setLockWait(LockWait wait) { m_limits.lockWait = std::move(wait); }
 
     /// Reading happens between these two; they may be nested.
@@ -47,6 +49,11 @@ class PageFile {
     void endRead();
     /// Page n. The bytes stay as long as the pointer is held.
     PagePtr page(uint32_t n);
+
+    /// Whether the room for a small transaction's journal is taken; tries to take it where it is not.
+    bool roomReserved();
+    /// Appends the whole file to `out`, which is empty.
+    void copyTo(OsFile& out);
 
     /// Fails (ReadOnlyDatabase) where beginWrite() would.
     void requireWritable() const;
@@ -65,13 +72,16 @@ class PageFile {
   private:
     void open();
     void readHeader();
-    void lock(OsFile& file, OsFile::Lock lock) const;
-    FileState lockCurrent(OsFile::Lock lock);
+    [[noreturn]] void failMissing() const;
+    FileState lockCurrent(OsFile::Range range);
     void unlock();
+    bool isJournalLeft() const;
     void recover();
+    void lockForWriting();
+    void lockPages();
+    void letGoOfRoom() noexcept;
     void refreshState(const FileState& now);
     void dropCache();
-    void refuseIfOpenElsewhere() const;
     void keep(uint32_t n, std::shared_ptr<Page> page);
     void evict();
     void writeChanged();

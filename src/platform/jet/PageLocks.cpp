@@ -1,74 +1,54 @@
 // The locks of a PageFile: other processes are kept out, what a dead one left is rolled back.
+#include <chrono>
+
 #include "platform/jet/Failure.h"
+#include "platform/jet/FileLocks.h"
 #include "platform/jet/PageFile.h"
 
 namespace jet {
 
-namespace {
-
-// NAME.ldb beside NAME.mdb: made by other programs while they have the database open.
-std::string foreignLockFile(const std::string& path) {
-    const size_t slash = path.rfind('/');
-    const size_t dot = path.rfind('.');
-    const bool hasSuffix = dot != std::string::npos && (slash == std::string::npos || dot > slash);
-    return path.substr(0, hasSuffix ? dot : path.size()) + ".ldb";
-}
-
-}  // namespace
-
-// A writer closes the gate first, so that it does not wait for ever while others come and go to read.
-void PageFile::lock(OsFile& file, OsFile::Lock kind) const {
-    using Lock = OsFile::Lock;
-    using Range = OsFile::Range;
-    const auto until = [&](const auto& attempt) {
-        if (!waitFor(m_limits.lockWait, attempt))
-            fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
-    };
-    if (kind == Lock::Exclusive) {
-        until([&] { return file.tryLock(kind, Range::Gate); });
-        until([&] { return file.tryLock(kind, Range::Content); });
-        return;
-    }
-    until([&] {
-        if (!file.tryLock(kind, Range::Gate)) return false;
-        const bool got = file.tryLock(kind, Range::Content);
-        file.tryLock(Lock::None, Range::Gate);
-        return got;
-    });
-}
+using Lock = OsFile::Lock;
+using Range = OsFile::Range;
 
 // Locks the file that the path names now, which may have been replaced since it was opened. Returns its
 // state.
-FileState PageFile::lockCurrent(OsFile::Lock kind) {
+FileState PageFile::lockCurrent(Range range) {
     for (int attempt = 0; attempt < 10; ++attempt) {
-        lock(m_file, kind);
+        if (range == Range::Writer) {
+            // Two that keep reading and wait for each other's end would wait for ever.
+            lockWriter(m_file,
+                       m_readers > 0 ? LockWait{.limit = std::chrono::milliseconds(0)} : m_limits.lockWait);
+        } else {
+            lockContent(m_file, Lock::Shared, m_limits.lockWait);
+        }
         FileState now;
-        if (!fileState(m_path, now))
-            fail(ErrorCode::FileNotFound, "Impossibile trovare il file \"", m_path, "\".");
-        if (now.inode == m_opened.inode && now.device == m_opened.device) return now;
+        if (!fileState(m_path, now)) failMissing();
+        if (sameFile(now, m_opened)) return now;
         m_file = OsFile();
         dropCache();
         open();
+        if (range == Range::Writer) requireWritable();
     }
     fail(ErrorCode::FileInUse, "Il database \"", m_path,
          "\" viene sostituito di continuo da un altro programma.");
 }
 
+// Lets go of everything but what the readers of this file need.
 void PageFile::unlock() {
     if (!m_file.isOpen()) return;
-    m_file.tryLock(m_readers > 0 ? OsFile::Lock::Shared : OsFile::Lock::None, OsFile::Range::Content);
-    m_file.tryLock(OsFile::Lock::None, OsFile::Range::Gate);
+    m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);
+    for (const Range range : {Range::Gate, Range::Author, Range::Writer})
+        m_file.tryLock(Lock::None, range);
 }
 
 void PageFile::beginRead() {
     if (m_readers == 0 && !m_writing) {
         try {
             if (!m_file.isOpen()) open();
-            FileState now = lockCurrent(OsFile::Lock::Shared);
-            // With this lock held no writer is alive: a journal is what a dead one left.
-            while (canHaveJournal() && m_journal.exists() && (!m_readOnly || m_journal.isHot())) {
+            FileState now = lockCurrent(Range::Content);
+            while (isJournalLeft()) {
                 recover();
-                now = lockCurrent(OsFile::Lock::Shared);
+                now = lockCurrent(Range::Content);
             }
             refreshState(now);
         } catch (...) {
@@ -83,7 +63,16 @@ void PageFile::endRead() {
     if (--m_readers == 0 && !m_writing) unlock();
 }
 
-// Invariant J3. Another process may have done it while this one waited for the exclusive lock.
+// With the content locked: whether a dead writer left a journal. That of a living one says nothing yet about
+// the file, since pages are written only while nobody reads.
+bool PageFile::isJournalLeft() const {
+    if (!canHaveJournal()) return false;
+    const Journal::Found found = m_journal.look(m_file);
+    if (found != Journal::Found::Hot && found != Journal::Found::Foreign) return false;
+    return !m_file.lockedByOthers(Range::Author);
+}
+
+// Invariant J3, for a reader. Another process may have done it while this one waited.
 void PageFile::recover() {
     OsFile file;
     try {
@@ -92,23 +81,59 @@ void PageFile::recover() {
         fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,
              "\" va ripristinato dopo un'interruzione, ma non può essere scritto.");
     }
-    m_file.tryLock(OsFile::Lock::None, OsFile::Range::Content);
-    lock(file, OsFile::Lock::Exclusive);
-    if (m_journal.exists()) m_journal.rollBack(file);
+    m_file.tryLock(Lock::None, Range::Content);
+    lockWriter(file, m_limits.lockWait);
+    lockContent(file, Lock::Exclusive, m_limits.lockWait);
+    FileState now;
+    if (!fileState(m_path, now) || !sameFile(now, file.state())) return;
+    if (m_journal.look(file) == Journal::Found::None) return;
+    m_journal.recover(file);
+    if (m_readOnly) m_journal.remove(file);
 }
 
-void PageFile::refuseIfOpenElsewhere() const {
-    const std::string path = foreignLockFile(m_path);
-    if (!OsFile::exists(path)) return;
+// The writer's lock, and a file in order. Whoever has that lock is the only one that writes, so the content
+// needs no lock for reading.
+void PageFile::lockForWriting() {
+    if (!m_file.isOpen()) open();
+    (void)lockCurrent(Range::Writer);
+    m_journal.keepRoom(m_file);
+    const Journal::Found found = m_journal.look(m_file);
+    if (found != Journal::Found::Hot && found != Journal::Found::Foreign) return;
+    lockContent(m_file, Lock::Exclusive, m_limits.lockWait);
+    m_journal.recover(m_file);
+    m_journal.keepRoom(m_file);
+    m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);
+    m_file.tryLock(Lock::None, Range::Gate);
+}
+
+// Before pages are written. Fails when the file is not the one under the name any more: a change of it would
+// be lost.
+void PageFile::lockPages() {
+    const auto requireInPlace = [&] {
+        FileState now;
+        if (fileState(m_path, now) && sameFile(now, m_opened)) return;
+        fail(ErrorCode::FileNotFound, "Il database \"", m_path,
+             "\" è stato spostato o sostituito: la modifica non è stata fatta.");
+    };
+    requireInPlace();
+    if (!m_file.tryLock(Lock::Exclusive, Range::Author))
+        fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
+    m_journal.sync();
+    if (m_pagesWritten) return;
+    lockContent(m_file, Lock::Exclusive, m_limits.lockWait);
+    requireInPlace();
+}
+
+// When the file is closed: nobody else keeps room, so the journal goes.
+void PageFile::letGoOfRoom() noexcept {
     try {
-        const bool held = OsFile(path, OsFile::Access::Read).lockedByOthers();
-        if (!held) OsFile::remove(path);
-        if (!held) return;
+        FileState now;
+        if (m_file.isOpen() && !readOnly() && fileState(m_path, now) && sameFile(now, m_opened) &&
+            m_file.tryLock(Lock::Exclusive, Range::Writer) && m_file.tryLock(Lock::Exclusive, Range::Content))
+            m_journal.remove(m_file);
     } catch (const Failure&) {
-        // It cannot be opened or removed: its maker still has it.
+        // An empty journal that stays does no harm.
     }
-    fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è aperto in un altro programma (", path,
-         "): non può essere modificato.");
 }
 
 }  // namespace jet

@@ -61,11 +61,11 @@ template <class Work>
 void apply(TableState& state, Work&& work) {
     try {
         work();
+        state.file.endStatement();
     } catch (const Failure& failure) {
         state.engine.doom = failure.status;
         throw;
     }
-    state.file.endStatement();
 }
 
 void requireTransaction(const TableState& state) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace jet {
+
+/// What the system's error number means, in Italian words that complete "Errore del disco … : ".
+std::string diskTrouble(int error);
+
+/// A disk operation on `path` has failed (DeviceIo).
+[[noreturn]] void failIo(const char* doing, const std::string& path, int error);
+/// `path` cannot be opened (FileNotFound or PathAccess; DeviceIo where the disk itself is the reason).
+[[noreturn]] void failOpen(const std::string& path, int error);
+
+}  // namespace jet

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "platform/jet/LockWait.h"
+#include "platform/jet/OsFile.h"
+
+namespace jet {
+
+/// The locks of a database file, which keep other processes out (docs/formats/jet.md). They fail with
+/// FileInUse when the wait is given up, and then hold nothing new.
+
+/// The content, shared or exclusive. Whoever wants it for himself closes the gate first, so that he does not
+/// wait for ever while others come and go to read; he keeps it closed.
+void lockContent(OsFile& file, OsFile::Lock kind, const LockWait& wait);
+/// The writer's lock.
+void lockWriter(OsFile& file, const LockWait& wait);
+
+/// Fails (FileInUse) when another program has the database open, as its file NAME.ldb shows. Removes one that
+/// was left behind.
+void refuseIfOpenElsewhere(const std::string& path);
+
+}  // namespace jet
