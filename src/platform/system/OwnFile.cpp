@@ -1,0 +1,133 @@
+#include "platform/system/OwnFile.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <cerrno>
+#include <QFile>
+#include <utility>
+
+namespace sys {
+
+namespace {
+
+Status failure() {
+    switch (errno) {
+        case ENOENT:
+            return {ErrorCode::FileNotFound, QString()};
+        case EWOULDBLOCK:
+            return {ErrorCode::FileInUse, QStringLiteral("Il file è in uso")};
+        case ENOSPC:
+        case EIO:
+        case EDQUOT:
+            return {ErrorCode::DeviceIo, QString()};
+        default:
+            return {ErrorCode::PathAccess, QString()};
+    }
+}
+
+/// Closes a file at the end of a scope.
+class Open {
+  public:
+    Open(const QString& path, int flags)
+        : m_file(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC | O_NOFOLLOW, 0600)) {}
+    ~Open() {
+        if (m_file >= 0) ::close(m_file);
+    }
+    Open(const Open&) = delete;
+    Open& operator=(const Open&) = delete;
+
+    int get() const { return m_file; }
+    int letGo() { return std::exchange(m_file, -1); }
+
+  private:
+    int m_file;
+};
+
+bool isFolder(const QString& path) {
+    struct stat found {};
+    return ::lstat(QFile::encodeName(path).constData(), &found) == 0 && S_ISDIR(found.st_mode);
+}
+
+QString folderOf(const QString& path) {
+    return path.left(path.lastIndexOf(u'/'));
+}
+
+bool writeAll(int file, const QByteArray& bytes) {
+    for (qsizetype done = 0; done < bytes.size();) {
+        const ssize_t wrote =
+            ::write(file, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        if (wrote < 0 && errno == EINTR) continue;
+        if (wrote < 0) return false;
+        done += wrote;
+    }
+    return ::fsync(file) == 0;
+}
+
+}  // namespace
+
+Status makeOwnFolder(const QString& path) {
+    if (::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || isFolder(path)) return {};
+    return {ErrorCode::PathAccess, QString()};
+}
+
+Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
+    if (!isFolder(folderOf(path))) return {ErrorCode::PathAccess, QString()};
+    const QByteArray aside = QFile::encodeName(path + QStringLiteral(".nuovo"));
+    ::unlink(aside.constData());
+    Open file(path + QStringLiteral(".nuovo"), O_WRONLY | O_CREAT | O_EXCL);
+    if (file.get() >= 0 && writeAll(file.get(), bytes) &&
+        ::rename(aside.constData(), QFile::encodeName(path).constData()) == 0)
+        return {};
+    const Status failed = failure();
+    if (file.get() >= 0) ::unlink(aside.constData());
+    return failed;
+}
+
+Result<QByteArray> readOwnFile(const QString& path, qint64 limit) {
+    if (!isFolder(folderOf(path))) return Status(ErrorCode::PathAccess, QString());
+    const Open open(path, O_RDONLY | O_NONBLOCK);
+    struct stat found {};
+    if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
+    if (!S_ISREG(found.st_mode)) return Status(ErrorCode::PathAccess, QString());
+    QFile file;
+    if (!file.open(open.get(), QIODevice::ReadOnly)) return Status(ErrorCode::DeviceIo, file.errorString());
+    QByteArray bytes = file.read(limit + 1);
+    if (file.error() != QFileDevice::NoError) return Status(ErrorCode::DeviceIo, file.errorString());
+    if (bytes.size() > limit) return Status(ErrorCode::Overflow, QString());
+    return bytes;
+}
+
+FileLock::FileLock(FileLock&& other) noexcept
+    : m_file(std::exchange(other.m_file, -1)), m_path(std::move(other.m_path)) {}
+
+FileLock& FileLock::operator=(FileLock&& other) noexcept {
+    std::swap(m_file, other.m_file);
+    std::swap(m_path, other.m_path);
+    return *this;
+}
+
+Status FileLock::take(const QString& path) {
+    release();
+    if (!isFolder(folderOf(path))) return {ErrorCode::PathAccess, QString()};
+    Open file(path, O_RDWR | O_CREAT | O_NONBLOCK);
+    if (file.get() < 0 || ::flock(file.get(), LOCK_EX | LOCK_NB) != 0) return failure();
+    // Whoever had it may have removed the file between the two steps: the name is another file's by now.
+    struct stat mine {};
+    if (::fstat(file.get(), &mine) != 0 || mine.st_nlink == 0) return {ErrorCode::FileInUse, QString()};
+    m_file = file.letGo();
+    m_path = path;
+    return {};
+}
+
+void FileLock::remove() {
+    if (held()) ::unlink(QFile::encodeName(m_path).constData());
+    release();
+}
+
+void FileLock::release() {
+    if (held()) ::close(std::exchange(m_file, -1));
+}
+
+}  // namespace sys

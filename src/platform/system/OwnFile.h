@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "platform/Status.h"
+
+/// Files of the data folder that hold what nobody else may read: made for their owner only, replaced whole,
+/// read with a bound. Links are not followed, neither by the file's name nor by its folder's.
+namespace sys {
+
+/// Makes the folder where it is missing. PathAccess where something else than a folder has its name.
+Status makeOwnFolder(const QString& path);
+
+/// Replaces the file by one with these bytes: written to `path` + ".nuovo", synced, and renamed, so that the
+/// name stands for the old or for the new bytes at any time, whenever the program ends.
+Status replaceOwnFile(const QString& path, const QByteArray& bytes);
+
+/// The bytes of an ordinary file. FileNotFound where there is none, Overflow where there are more than
+/// `limit`.
+Result<QByteArray> readOwnFile(const QString& path, qint64 limit);
+
+/// A lock that holds as long as the object, and never longer than the process: a file of its own that nobody
+/// else can lock meanwhile.
+class FileLock {
+  public:
+    FileLock() = default;
+    ~FileLock() { release(); }
+    FileLock(FileLock&& other) noexcept;
+    FileLock& operator=(FileLock&& other) noexcept;
+
+    /// Makes the file and locks it. FileInUse where somebody else has the lock.
+    Status take(const QString& path);
+    bool held() const { return m_file >= 0; }
+    /// Gives the lock back and removes its file.
+    void remove();
+
+  private:
+    void release();
+
+    int m_file = -1;
+    QString m_path;
+};
+
+}  // namespace sys
