@@ -106,6 +106,28 @@ TEST_F(ProgramFolder, UpgradeLeavesTextsThatTheUserChangedOrTookAway) {
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/LANG.lng")));
 }
 
+TEST_F(ProgramFolder, MissingTextsAreLaidDownAgainAndOthersStay) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    const QString templates = path(QStringLiteral("templates"));
+    const QString texts = folder + QStringLiteral("/LANG.lng");
+    ASSERT_TRUE(sys::fillProgramFolder(folder, templates).ok());
+    const QByteArray installed = bytesOf(texts);
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(QFile::remove(texts));
+        ASSERT_TRUE(sys::restoreTexts(folder, templates).ok());
+        EXPECT_EQ(bytesOf(texts), installed);
+    }
+    writeBytes(texts, "mine");
+    ASSERT_TRUE(sys::restoreTexts(folder, templates).ok());
+    EXPECT_EQ(bytesOf(texts), QByteArray("mine"));
+    ASSERT_TRUE(QFile::remove(texts));
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("gone")), texts));
+    ASSERT_TRUE(sys::restoreTexts(folder, templates).ok());
+    EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("gone")))) << "a link was followed";
+    EXPECT_TRUE(sys::restoreTexts(folder, path(QStringLiteral("nowhere"))).ok());
+}
+
 TEST_F(ProgramFolder, RenewalTellsWhereItCannotWrite) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));

@@ -103,6 +103,15 @@ Status renewTexts(const QString& folder, const QString& templates) {
     return replaceFile(notePath, installed + "\r\n");
 }
 
+Status restoreTexts(const QString& folder, const QString& templates) {
+    const QFileInfo installed(templates + QStringLiteral("/LANG.lng"));
+    const QString own = folder + u'/' + installed.fileName();
+    // A link that leads nowhere is somebody's doing.
+    if (!installed.isFile() || QFileInfo::exists(own) || QFileInfo(own).isSymLink()) return {};
+    if (copyFile(installed, folder)) return {};
+    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + own};
+}
+
 QString programFolder() {
     QString& folder = chosenFolder();
     if (!folder.isEmpty()) return folder;
@@ -117,6 +126,7 @@ QString programFolder() {
     const QString templates = installedTemplates(application);
     static_cast<void>(fillProgramFolder(chosen, templates));
     static_cast<void>(renewTexts(chosen, templates));
+    if (chosen != application) static_cast<void>(restoreTexts(chosen, templates));
     folder = withSlash(chosen);
     return folder;
 }

@@ -14,7 +14,8 @@ namespace sys {
 ///      copy, the build tree);
 ///   3. the user's own folder "vestrola" under the XDG data home.
 /// In cases 2 and 3 a folder without "data" is filled from the templates, and older language texts are
-/// renewed from them; a failure of that leaves it as it is.
+/// renewed from them; in case 3 language texts that are missing are laid down again. A failure of that leaves
+/// it as it is.
 QString programFolder();
 
 /// Replaces the folder; an empty text has it decided anew at the next call.
@@ -42,5 +43,9 @@ Status fillProgramFolder(const QString& folder, const QString& templates);
 /// earlier installation. Texts that the user changed or took away stay as they are. "data/LANG.imp" remembers
 /// which ones came from an installation, by their SHA-256 in hex.
 Status renewTexts(const QString& folder, const QString& templates);
+
+/// Lays "LANG.lng" down again from `templates` where the folder has none, since without it the main window
+/// comes up without its groups.
+Status restoreTexts(const QString& folder, const QString& templates);
 
 }  // namespace sys
