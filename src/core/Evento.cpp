@@ -2,9 +2,13 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <QString>
+#include <QApplication>
+#include <QWidget>
 
+#include "core/bGlobal.h"
+#include "core/Guasti.h"
 #include "core/Prodotto.h"
+#include "core/Riavvio.h"
 #include "platform/ui/MessageDialog.h"
 
 namespace {
@@ -28,11 +32,33 @@ void sostituisciTermine(std::function<void(int stato)> termine) {
     termineSostituito = std::move(termine);
 }
 
+namespace {
+
+/// What was being done, the file, and what comes now.
+QString dettagli(const Fallimento& fallimento) {
+    const Circostanze& circostanze = fallimento.circostanze();
+    QStringList righe;
+    if (!circostanze.operazione.isEmpty())
+        righe << QStringLiteral("Operazione: ") + circostanze.operazione;
+    else if (const QWidget* finestra = QApplication::activeWindow())
+        righe << QStringLiteral("Finestra: ") + finestra->windowTitle().trimmed();
+    const bool diDatabase = fallimento.numero() >= 3000 && fallimento.numero() < 4000;
+    const QString file = circostanze.file.isEmpty() && diDatabase ? percorsoDB : circostanze.file;
+    if (!file.isEmpty()) righe << QStringLiteral("File: ") + file;
+    if (!righe.isEmpty()) righe << QString();
+    righe << QStringLiteral("Il programma viene chiuso");
+    return righe.join(QStringLiteral("\r\n"));
+}
+
+}  // namespace
+
 void mostraEtermina(const Fallimento& fallimento) {
     fallimentoInMostra = true;
-    ui::MessageDialog::show(
+    guasti::Annota(fallimento);
+    const int risposta = ui::MessageDialog::showFailure(
         QStringLiteral("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),
-        ui::MessageDialog::Stop, prodotto::nome());
+        dettagli(fallimento), riavvio::Possibile(), prodotto::nome());
+    if (risposta == ui::MessageDialog::Restart) riavvio::Avvia();
     TerminaProgramma();
 }
 

@@ -22,7 +22,9 @@ struct ProgrammaTerminato {
     int stato;
 };
 
-/// Shows the failure ("Errore N:", an empty line, its text) and ends the program.
+/// Shows the failure ("Errore N:", an empty line, its text; below it what was being done and with which
+/// file), writes it down (Guasti.h) and ends the program, with a new start where the user asks for it
+/// (Riavvio.h).
 [[noreturn]] void mostraEtermina(const Fallimento& fallimento);
 
 /// False while a failure is on show: the program is about to end and takes no further events.

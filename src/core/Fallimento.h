@@ -4,6 +4,7 @@
 #include <QString>
 #include <utility>
 
+#include "core/Operazione.h"
 #include "platform/Status.h"
 
 /// The program's three ways of meeting a failure:
@@ -18,17 +19,21 @@
 /// A failed statement on its way up.
 class Fallimento : public std::exception {
   public:
-    Fallimento(int numero, QString testo, QString sorgente = {});
+    Fallimento(int numero, QString testo, QString sorgente = {}, const QString& file = {});
     int numero() const { return m_numero; }
     const QString& testo() const { return m_testo; }
     /// The module that failed, where it names itself.
     const QString& sorgente() const { return m_sorgente; }
+    /// What was being done when it failed, and with which file: the one that the failure is about, where it
+    /// tells, else that of the operation.
+    const Circostanze& circostanze() const { return m_circostanze; }
     const char* what() const noexcept override { return m_utf8.constData(); }
 
   private:
     int m_numero;
     QString m_testo;
     QString m_sorgente;
+    Circostanze m_circostanze;
     QByteArray m_utf8;
 };
 

@@ -82,6 +82,28 @@ QString testo(float numero) {
     return lingua.toString(numero, 'g', 7);
 }
 
+void applicaBuffer(QWidget& finestra) {
+    Prosegui prosegui;
+    prosegui([&] { finestra.move(pixel(posLeft), finestra.y()); });
+    prosegui([&] { finestra.move(finestra.x(), pixel(posTop)); });
+    prosegui([&] { finestra.resize(pixel(posWidth), finestra.height()); });
+    prosegui([&] { finestra.resize(finestra.width(), pixel(posHeight)); });
+    prosegui([&] { impostaStato(finestra); });
+}
+
+void riempiBuffer(const QWidget& finestra) {
+    posWindowState = statoDi(finestre::Main());
+    if (posWindowState != Normale) return;
+    posLeft = static_cast<float>(finestra.x() * twipsPerPixel);
+    posTop = static_cast<float>(finestra.y() * twipsPerPixel);
+    posWidth = static_cast<float>(finestra.width() * twipsPerPixel);
+    posHeight = static_cast<float>(finestra.height() * twipsPerPixel);
+}
+
+int statoDaScrivere() {
+    return posWindowState == int{Minimizzata} ? int{Normale} : posWindowState;
+}
+
 }  // namespace
 
 void CaricaPosizioneForm(QWidget& finestra) {
@@ -92,21 +114,11 @@ void CaricaPosizioneForm(QWidget& finestra) {
     for (QString riga; file.nextLine(riga);)
         if (riga.size() >= lunghezzaChiave) prosegui([&] { letta |= leggi(riga); });
     if (!letta) return;
-    prosegui([&] { finestra.move(pixel(posLeft), finestra.y()); });
-    prosegui([&] { finestra.move(finestra.x(), pixel(posTop)); });
-    prosegui([&] { finestra.resize(pixel(posWidth), finestra.height()); });
-    prosegui([&] { finestra.resize(finestra.width(), pixel(posHeight)); });
-    prosegui([&] { impostaStato(finestra); });
+    applicaBuffer(finestra);
 }
 
 void SalvaPosizioneForm(const QWidget& finestra) {
-    posWindowState = statoDi(finestre::Main());
-    if (posWindowState == Normale) {
-        posLeft = static_cast<float>(finestra.x() * twipsPerPixel);
-        posTop = static_cast<float>(finestra.y() * twipsPerPixel);
-        posWidth = static_cast<float>(finestra.width() * twipsPerPixel);
-        posHeight = static_cast<float>(finestra.height() * twipsPerPixel);
-    }
+    riempiBuffer(finestra);
     text::TextWriter file;
     esigi(file.open(fileDi(finestra), text::WriteMode::Output));
     esigi(file.print(u"[Form frmMain]"));
@@ -114,7 +126,20 @@ void SalvaPosizioneForm(const QWidget& finestra) {
     esigi(file.print("mnTop.........: " + testo(posTop)));
     esigi(file.print("mnWidth.......: " + testo(posWidth)));
     esigi(file.print("mnHeight......: " + testo(posHeight)));
-    const int stato = posWindowState == int{Minimizzata} ? int{Normale} : posWindowState;
-    esigi(file.print("mnWindowState.: " + QString::number(stato)));
+    esigi(file.print("mnWindowState.: " + QString::number(statoDaScrivere())));
     esigi(file.close());
+}
+
+Rettangolo PosizioneDi(const QWidget& finestra) {
+    riempiBuffer(finestra);
+    return {qRound(posLeft), qRound(posTop), qRound(posWidth), qRound(posHeight), statoDaScrivere()};
+}
+
+void MettiInPosizione(QWidget& finestra, const Rettangolo& posizione) {
+    posLeft = static_cast<float>(posizione.sinistra);
+    posTop = static_cast<float>(posizione.alto);
+    posWidth = static_cast<float>(posizione.larghezza);
+    posHeight = static_cast<float>(posizione.altezza);
+    posWindowState = static_cast<std::int16_t>(posizione.stato);
+    applicaBuffer(finestra);
 }

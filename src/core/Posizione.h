@@ -14,3 +14,17 @@ void CaricaPosizioneForm(QWidget& finestra);
 /// Writes a window's file. The state is always that of the main window; a rectangle goes into the buffer only
 /// while that state is normal, so that a maximised window keeps the rectangle that was read. Unguarded.
 void SalvaPosizioneForm(const QWidget& finestra);
+
+/// A placement that does not come from a file of the window, in the units of those files.
+struct Rettangolo {
+    int sinistra = 0;
+    int alto = 0;
+    int larghezza = 0;
+    int altezza = 0;
+    int stato = 0;
+};
+
+/// The placement of a window as SalvaPosizioneForm would write it.
+Rettangolo PosizioneDi(const QWidget& finestra);
+/// Puts a window there as CaricaPosizioneForm would, through the buffer. Passes over every failure.
+void MettiInPosizione(QWidget& finestra, const Rettangolo& posizione);

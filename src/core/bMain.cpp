@@ -5,12 +5,14 @@
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "core/Puntatore.h"
+#include "core/Riavvio.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "store/percorsoDBase.h"
 
 void SubMain() {
     Prosegui prosegui;
+    riavvio::SegnaAvvio();
     ScriviInizioLog();
     PuntatoreAttesa();
     CaricaPercorsoDBase();
@@ -23,4 +25,6 @@ void SubMain() {
     prosegui([] { finestre::Splash().hide(); });
     prosegui([] { finestre::ScaricaSplash(); });
     PuntatorePredefinito();
+    riavvio::SegnaFinestra();
+    riavvio::RiprendiGruppo();
 }

@@ -103,7 +103,9 @@ void frmImpTXT::cmdImportaTXT_Click() {
     const auto fatto = qScopeGuard(PuntatorePredefinito);
     ui::Busy lavoro;
     text::LineReader file;
-    esigi(file.open(PercorsoScritto(txtPath->text()), text::LineEnds::Any, text::Encoding::Detected));
+    const QString percorso = PercorsoScritto(txtPath->text());
+    const Operazione importazione("Importazione da file di testo", percorso);
+    esigi(file.open(percorso, text::LineEnds::Any, text::Encoding::Detected));
     const RigaTesto regola = Regola();
     QString riga;
     PuntoImportazione punto;

@@ -54,9 +54,17 @@ class [[nodiscard]] Status {
     inline QString text() const;
     const std::u16string& plainText() const { return m_text; }
 
+    /// The file that a failure is about; empty where that is not known.
+    const std::u16string& file() const { return m_file; }
+    Status about(std::u16string file) && {
+        m_file = std::move(file);
+        return std::move(*this);
+    }
+
   private:
     ErrorCode m_code = ErrorCode::None;
     std::u16string m_text;
+    std::u16string m_file;
 };
 
 /// A value or the Status that tells why there is none. value() may only be called when ok().

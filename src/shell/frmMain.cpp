@@ -9,6 +9,7 @@
 #include "core/Finestre.h"
 #include "core/Posizione.h"
 #include "core/Prodotto.h"
+#include "core/Riavvio.h"
 #include "lang/bLANG_applica.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
@@ -58,6 +59,7 @@ void frmMain::Carica() {
     finestre::Editor();
     CaricaLingua();
     CaricaPosizioneForm(*this);
+    riavvio::RiprendiPosizione();
     TitoloPrincipale();
     CaricaGruppi();
     finestre::ScaricaSplash();
@@ -104,6 +106,7 @@ void frmMain::ImpostaColoriGriglia() {
 void frmMain::closeEvent(QCloseEvent* chiusura) {
     chiusura->ignore();
     evento([this] {
+        const Operazione chiusa("Chiusura del programma");
         static_cast<void>(pannelli.saveLayout(fileDisposizione()));
         SalvaPosizioneForm(*this);
         TerminaProgramma(0);

@@ -18,6 +18,7 @@
 #include "lang/bVAR.h"
 #include "message/frmEditor.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "send/frmInvia.h"
 #include "send/Selezione.h"
@@ -105,9 +106,11 @@ void frmMain::ComandoPremuto(const QString& nome) {
     if (comandoInCorso) return;
     const QScopedValueRollback inCorso(comandoInCorso, true);
 
-    Accesso accesso = creaAccesso();
     const auto riga = std::find_if(std::begin(tabellaComandi), std::end(tabellaComandi),
                                    [&](const RigaComando& r) { return nome == QLatin1String(r.nome); });
+    const auto* pulsante = barre->GetToolButton(nome);
+    const Operazione comando(pulsante ? pulsante->Description() : QString());
+    Accesso accesso = creaAccesso();
     if (riga != std::end(tabellaComandi)) riga->esegui(*this, accesso);
     griglia::AggiornaFrase();
     AggiornaComandi();

@@ -32,6 +32,9 @@ class frmGruppi : public QWidget {
     void CaricaSottogruppi(const QString& chiave);
     /// Adds a node for the group as the last child of a node. Unguarded.
     void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
+    /// Clicks the last of these nodes, which stand one below the other from the root on; where a level is not
+    /// as it was, the last one that is there. Unguarded.
+    void Apri(const QStringList& chiavi);
     /// Name of the pop-up menu whose commands keys and bar buttons start at this moment; empty for none, also
     /// where the current node is not the one that the tree shows as selected.
     QString MenuOra() const;

@@ -56,6 +56,18 @@ void frmGruppi::TREENodeClick(const ui::GroupNodeRef& nodo) {
     nodoCorrente = Nodo{nodo->Key(), nodo->Text()};
 }
 
+void frmGruppi::Apri(const QStringList& chiavi) {
+    ui::GroupNodeRef ultimo;
+    for (const QString& chiave : chiavi) {
+        const ui::GroupNodeRef nodo = TREE->Node(chiave);
+        if (!nodo || nodo->Parent() != ultimo) break;
+        CaricaSottogruppi(chiave);
+        if (ultimo) esigi(TREE->Expand(ultimo->Key()));
+        ultimo = nodo;
+    }
+    if (ultimo) TREE->Click(ultimo);
+}
+
 void frmGruppi::TREEMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
     const QString menu = MenuDelNodo();
     if (pulsante == Qt::RightButton && !menu.isEmpty()) finestre::Main().Commands().showPopup(menu, punto);

@@ -1,8 +1,13 @@
 #include <QEventLoop>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include "core/bGlobal.h"
 #include "core/Evento.h"
+#include "platform/system/ProgramFolder.h"
+#include "platform/text/TextFile.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/Unattended.h"
 
@@ -11,10 +16,12 @@ using ui::MessageDialog;
 class TestEvento : public QObject {
     Q_OBJECT
 
+    QTemporaryDir folder;
     QList<int> ends;
 
   private Q_SLOTS:
     void init() {
+        sys::setProgramFolder(folder.path());
         ui::setUnattended(true);
         MessageDialog::reset();
         ends.clear();
@@ -43,7 +50,66 @@ class TestEvento : public QObject {
         QCOMPARE(box.text, "Errore 62:\r\n\r\nInput oltre la fine del file");
         QCOMPARE(box.title, "Vestrola");
         QCOMPARE(box.icon, QMessageBox::Critical);
-        QCOMPARE(int(box.buttons), int(QMessageBox::Ok));
+        QCOMPARE(int(box.buttons), int(QMessageBox::Close));
+        QCOMPARE(box.details, "Il programma viene chiuso");
+        QCOMPARE(ends, QList<int>{1});
+    }
+
+    void theBoxTellsWhatWasBeingDoneAndWithWhichFile() {
+        MessageDialog::queue(MessageDialog::Ok);
+        evento([] {
+            const Operazione command("Importa Mailing List da file di testo");
+            const Operazione import("Importazione da file di testo", "/a/lista.txt");
+            fallisci(ErrorCode::SubscriptOutOfRange);
+        });
+        QCOMPARE(MessageDialog::shown().constLast().details,
+                 "Operazione: Importazione da file di testo\r\nFile: /a/lista.txt\r\n\r\n"
+                 "Il programma viene chiuso");
+    }
+
+    void theFileThatTheFailureIsAboutGoesFirst() {
+        MessageDialog::queue(MessageDialog::Ok);
+        evento([] {
+            const Operazione import("Prova", "/a/lista.txt");
+            text::LineReader file;
+            esigi(file.open("/nowhere/b.txt", text::LineEnds::Any));
+        });
+        QCOMPARE(MessageDialog::shown().constLast().text, "Errore 53:\r\n\r\nImpossibile trovare il file");
+        QCOMPARE(MessageDialog::shown().constLast().details,
+                 "Operazione: Prova\r\nFile: /nowhere/b.txt\r\n\r\nIl programma viene chiuso");
+    }
+
+    void anOperationIsOverWithItsScopeAndAFailureOfTheDatabaseNamesTheDatabase() {
+        MessageDialog::queue(MessageDialog::Ok);
+        { const Operazione over("Prima", "/a/prima.txt"); }
+        const auto restored = qScopeGuard([path = percorsoDB] { percorsoDB = path; });
+        percorsoDB = "/a/data.mdb";
+        evento([] { fallisci(ErrorCode::FileInUse); });
+        QCOMPARE(MessageDialog::shown().constLast().details,
+                 "File: /a/data.mdb\r\n\r\nIl programma viene chiuso");
+    }
+
+    void theBoxThatAPersonSeesClosesByReturnAndByEsc_data() {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Esc") << int(Qt::Key_Escape);
+    }
+    void theBoxThatAPersonSeesClosesByReturnAndByEsc() {
+        QFETCH(int, key);
+        ui::setUnattended(false);
+        QStringList captions;
+        QString text;
+        QTimer::singleShot(0, this, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            for (const QAbstractButton* button : box->buttons())
+                captions << button->text();
+            text = box->text() + '|' + box->informativeText();
+            QTest::keyClick(box, Qt::Key(key));
+        });
+        evento([] { fallisci(ErrorCode::TypeMismatch); });
+        QCOMPARE(captions, QStringList("&Chiudi"));
+        QCOMPARE(text, "Errore 13:\n\nTipo non corrispondente|Il programma viene chiuso");
         QCOMPARE(ends, QList<int>{1});
     }
 

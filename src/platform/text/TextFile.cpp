@@ -11,11 +11,14 @@ namespace {
 
 constexpr qsizetype blockSize = 64 * 1024;
 
-Status pathAccess() {
-    return {ErrorCode::PathAccess, QStringLiteral("Errore di accesso al percorso/file")};
+Status failed(ErrorCode code, const QString& text, const QString& path) {
+    return Status(code, text).about(path.toStdU16String());
 }
-Status deviceIo() {
-    return {ErrorCode::DeviceIo, QStringLiteral("Errore di I/O del dispositivo")};
+Status pathAccess(const QString& path) {
+    return failed(ErrorCode::PathAccess, QStringLiteral("Errore di accesso al percorso/file"), path);
+}
+Status deviceIo(const QFile& file) {
+    return failed(ErrorCode::DeviceIo, QStringLiteral("Errore di I/O del dispositivo"), file.fileName());
 }
 
 qsizetype findLineEnd(QByteArrayView bytes, LineEnds ends) {
@@ -52,11 +55,11 @@ bool isUtf8(QFile& file) {
 Status openForInput(QFile& file, const QString& path) {
     const QFileInfo info(path);
     if (path.isEmpty() || !info.exists()) {
-        return {ErrorCode::FileNotFound, QStringLiteral("Impossibile trovare il file")};
+        return failed(ErrorCode::FileNotFound, QStringLiteral("Impossibile trovare il file"), path);
     }
-    if (!info.isFile()) return pathAccess();
+    if (!info.isFile()) return pathAccess(path);
     file.setFileName(path);
-    return file.open(QIODevice::ReadOnly) ? Status() : pathAccess();
+    return file.open(QIODevice::ReadOnly) ? Status() : pathAccess(path);
 }
 
 Status LineReader::open(const QString& path, LineEnds ends, Encoding encoding) {
@@ -101,7 +104,7 @@ bool LineReader::fill() {
     m_position = 0;
     const qint64 count = m_file.read(m_block.data(), blockSize);
     m_block.resize(qMax<qint64>(count, 0));
-    if (count < 0) m_status = deviceIo();
+    if (count < 0) m_status = deviceIo(m_file);
     if (m_fromUtf16.isValid() && count > 0) {
         m_block = m_toUtf8(m_fromUtf16(m_block));
         return !m_block.isEmpty() || fill();
@@ -120,7 +123,7 @@ bool LineReader::nextLine(QString& line) {
         const QByteArrayView rest = QByteArrayView(m_block).sliced(m_position);
         const qsizetype length = findLineEnd(rest, m_ends);
         if (bytes.size() + length > longestLine) {
-            m_status = deviceIo();
+            m_status = deviceIo(m_file);
             m_block.clear();
             return false;
         }
@@ -140,7 +143,7 @@ bool LineReader::nextLine(QString& line) {
 Status LineReader::readLine(QString& line) {
     if (nextLine(line)) return {};
     if (!m_status.ok()) return m_status;
-    return {ErrorCode::InputPastEnd, QStringLiteral("Input oltre la fine del file")};
+    return failed(ErrorCode::InputPastEnd, QStringLiteral("Input oltre la fine del file"), m_file.fileName());
 }
 
 TextWriter::~TextWriter() {
@@ -152,23 +155,23 @@ Status TextWriter::open(const QString& path, WriteMode mode, FileAccess access) 
     m_file.setFileName(path);
     const QIODevice::OpenMode flags = mode == WriteMode::Append ? QIODevice::Append : QIODevice::WriteOnly;
     const QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
-    if (access == FileAccess::Default) return m_file.open(flags) ? Status() : pathAccess();
-    if (!m_file.open(flags, ownerOnly)) return pathAccess();
+    if (access == FileAccess::Default) return m_file.open(flags) ? Status() : pathAccess(path);
+    if (!m_file.open(flags, ownerOnly)) return pathAccess(path);
     m_file.setPermissions(ownerOnly);  // an older file may belong to somebody else: then it stays as it is
     return {};
 }
 
 Status TextWriter::print(QStringView line) {
     const QByteArray bytes = toAnsi(line) + "\r\n";
-    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) return deviceIo();
+    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) return deviceIo(m_file);
     return {};
 }
 
 Status TextWriter::close() {
-    if (!m_file.isOpen()) return deviceIo();
+    if (!m_file.isOpen()) return deviceIo(m_file);
     const bool flushed = m_file.flush();
     m_file.close();
-    return flushed && m_file.error() == QFileDevice::NoError ? Status() : deviceIo();
+    return flushed && m_file.error() == QFileDevice::NoError ? Status() : deviceIo(m_file);
 }
 
 }  // namespace text

@@ -73,6 +73,8 @@ class GroupTree : public QTreeWidget {
     void setSelectedItem(const GroupNodeRef& node);
     /// Opens the nodes above it and scrolls to it.
     void EnsureVisible(const GroupNodeRef& node);
+    /// Selects a node and tells it, as a click does.
+    void Click(const GroupNodeRef& node);
     /// Null for empty space. In coordinates of the viewport.
     GroupNodeRef HitTest(const QPoint& position) const;
     /// Marks a node, or none.

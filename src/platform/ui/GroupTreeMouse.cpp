@@ -15,6 +15,11 @@ void GroupTree::clickNode(const GroupNodeRef& node) {
     Q_EMIT click();
 }
 
+void GroupTree::Click(const GroupNodeRef& node) {
+    setSelectedItem(node);
+    clickNode(node);
+}
+
 void GroupTree::mousePressEvent(QMouseEvent* event) {
     const QPoint position = event->position().toPoint();
     const GroupNodeRef node = HitTest(position);

@@ -1,5 +1,7 @@
 #include "platform/ui/MessageDialog.h"
 
+#include <algorithm>
+#include <QAbstractButton>
 #include <QApplication>
 
 #include "platform/ui/DialogOwner.h"
@@ -30,40 +32,68 @@ QMessageBox::StandardButtons buttonsOf(int style) {
                                : QMessageBox::StandardButtons(QMessageBox::Ok);
 }
 
+struct Offered {
+    QMessageBox::StandardButton button;
+    int answer;
+    const char* caption;  ///< null for the desktop's own
+};
+constexpr Offered answers[] = {{QMessageBox::Ok, MessageDialog::Ok, nullptr},
+                               {QMessageBox::Close, MessageDialog::Ok, "&Chiudi"},
+                               {QMessageBox::Retry, MessageDialog::Restart, "&Riavvia"},
+                               {QMessageBox::Yes, MessageDialog::Yes, nullptr},
+                               {QMessageBox::No, MessageDialog::No, nullptr}};
+
 int queuedAnswer(const MessageDialog::Shown& box) {
     if (queuedAnswers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
     const int answer = queuedAnswers.takeFirst();
-    const bool offered = box.buttons == QMessageBox::StandardButtons(QMessageBox::Ok)
-                             ? answer == MessageDialog::Ok
-                             : answer == MessageDialog::Yes || answer == MessageDialog::No;
+    const bool offered = std::any_of(std::begin(answers), std::end(answers), [&](const Offered& one) {
+        return box.buttons.testFlag(one.button) && answer == one.answer;
+    });
     if (!offered) failUnanswered("message box that has no such button", qUtf8Printable(box.text));
     return answer;
 }
 
+QString lines(QString text) {
+    return text.replace("\r\n", "\n");
+}
+
 int answerOfUser(const MessageDialog::Shown& box) {
-    QMessageBox dialog(box.icon, box.title, QString(box.text).replace("\r\n", "\n"), box.buttons,
-                       dialogOwner());
+    QMessageBox dialog(box.icon, box.title, lines(box.text), box.buttons, dialogOwner());
     dialog.setObjectName("messageDialog");
     dialog.setTextFormat(Qt::PlainText);
     if (box.defaultAnswer == MessageDialog::No && box.buttons.testFlag(QMessageBox::No))
         dialog.setDefaultButton(QMessageBox::No);
-    switch (dialog.exec()) {
-        case QMessageBox::Yes:
-            return MessageDialog::Yes;
-        case QMessageBox::No:
-            return MessageDialog::No;
-        default:
-            return MessageDialog::Ok;
+    dialog.setInformativeText(lines(box.details));
+    for (const Offered& one : answers)
+        if (QAbstractButton* button = dialog.button(one.button); button && one.caption)
+            button->setText(QString::fromLatin1(one.caption));
+    if (box.buttons.testFlag(QMessageBox::Close)) {
+        dialog.setDefaultButton(QMessageBox::Close);
+        dialog.setEscapeButton(QMessageBox::Close);
     }
+    const int pressed = dialog.exec();
+    for (const Offered& one : answers)
+        if (pressed == one.button) return one.answer;
+    return MessageDialog::Ok;
+}
+
+int answerTo(MessageDialog::Shown box) {
+    box.answer = unattended() ? queuedAnswer(box) : answerOfUser(box);
+    shownBoxes.append(box);
+    return box.answer;
 }
 
 }  // namespace
 
 int MessageDialog::show(const QString& text, int style, const QString& title, int defaultAnswer) {
-    Shown box{text, style, title, iconOf(style), buttonsOf(style), Ok, defaultAnswer};
-    box.answer = unattended() ? queuedAnswer(box) : answerOfUser(box);
-    shownBoxes.append(box);
-    return box.answer;
+    return answerTo({text, style, title, iconOf(style), buttonsOf(style), Ok, defaultAnswer, {}});
+}
+
+int MessageDialog::showFailure(const QString& text, const QString& details, bool offerRestart,
+                               const QString& title) {
+    QMessageBox::StandardButtons buttons = QMessageBox::Close;
+    if (offerRestart) buttons |= QMessageBox::Retry;
+    return answerTo({text, Stop, title, iconOf(Stop), buttons, Ok, Ok, details});
 }
 
 void MessageDialog::queue(int answer) {

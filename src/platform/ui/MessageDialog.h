@@ -12,7 +12,8 @@ class MessageDialog {
     /// What the user sees, by the number that the program's texts are written with: low bits for the buttons
     /// (0 OK, 4 Yes and No), then the icon (16 stop, 32 question, 64 information).
     enum Style : int { Plain = 0, Stop = 16, AskQuestion = 36, Notice = 64, AskNotice = 68 };
-    enum Answer : int { Ok = 1, Yes = 6, No = 7 };
+    /// Ok is also the one that closes a failure's box.
+    enum Answer : int { Ok = 1, Restart = 4, Yes = 6, No = 7 };
 
     /// A box as it was shown.
     struct Shown {
@@ -23,11 +24,17 @@ class MessageDialog {
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         int answer = Ok;
         int defaultAnswer = Yes;  ///< of a box of Yes and No: what Return presses
+        QString details;          ///< what stands below the text of a failure
     };
 
     /// Shows a box over the active window and waits for its answer. Lines are separated by CR LF. Closing a
     /// box of Yes and No by Esc answers No; `defaultAnswer` (Yes or No) tells what Return presses in it.
     static int show(const QString& text, int style, const QString& title, int defaultAnswer = Yes);
+
+    /// Shows a failure that ends the program, with the details below its text, and waits until it is closed
+    /// (Ok, the default, "Chiudi") or, where that is offered, answered by Restart ("Riavvia").
+    static int showFailure(const QString& text, const QString& details, bool offerRestart,
+                           const QString& title);
 
     /// For unattended runs: the answer of the next box that is not answered yet. A box that meets an empty
     /// queue ends the program, so that a run never hangs; so does an answer that the box does not offer.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+
+/// The new start that the box of a failure offers. The program comes back where it was: the main window in
+/// its place and the group that was open. What it needs for that goes through the file "riavvio.imp" of the
+/// data folder (docs/formats/riavvio.md), since there is no command line.
+namespace riavvio {
+
+/// The program begins to start.
+void SegnaAvvio();
+/// The main window has come up.
+void SegnaFinestra();
+bool FinestraMostrata();
+/// Whether a new start may be offered: the main window has come up, and ten seconds have gone by since the
+/// program began to start, so that a program that fails at once does not start over and over.
+bool Possibile();
+
+/// Writes the file and starts the program anew. Passes over every failure.
+void Avvia();
+
+/// For tests: what starts the program. An empty function puts the real start back.
+void sostituisciPartenza(std::function<void()> partenza);
+
+/// At the very start: takes the file in and removes it, and waits up to five seconds for the end of the
+/// program that wrote it, whose files and locks are free after that. A file that is older than a minute or
+/// not of this form does not count; a damaged one is set aside.
+void Raccogli();
+/// Puts the main window where it stood. Does nothing without a file.
+void RiprendiPosizione();
+/// Opens the group that was open, as far as it is still there. Does nothing without a file, or with one for
+/// another database.
+void RiprendiGruppo();
+
+}  // namespace riavvio

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <functional>
+
+namespace sys {
+
+/// Runs `handler` from the event loop when the system asks the program to end: at SIGTERM, SIGINT or SIGHUP.
+/// A signal that was ignored when the program began stays ignored. Each signal is heard once; a second one of
+/// its kind ends the program at once, so that one which does not come to its event loop can be ended too. To
+/// be called once, with a QCoreApplication.
+void onTerminationSignal(std::function<void()> handler);
+
+}  // namespace sys

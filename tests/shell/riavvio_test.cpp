@@ -1,0 +1,240 @@
+// The new start after a failure, and the end that the system asks for.
+#include "core/Riavvio.h"
+
+#include <unistd.h>
+#include <QProcess>
+#include <QScopeGuard>
+
+#include "core/bMain.h"
+#include "core/FineSessione.h"
+#include "platform/system/Clock.h"
+#include "platform/ui/Unattended.h"
+#include "shell/shell_support.h"
+
+using namespace testing_support;
+using ui::MessageDialog;
+
+class TestRiavvio : public QObject {
+    Q_OBJECT
+
+    int m_starts = 0;
+    int m_seconds = 0;
+
+    QString file(const StoreStage& stage, const QString& name = "riavvio.imp") const {
+        return stage.folder.path("data/" + name);
+    }
+    static void fail() {
+        evento([] { fallisci(ErrorCode::TypeMismatch); });
+    }
+    /// Ends the program by a failure, with a new start, as a user does half a minute after the start.
+    void failAndRestart() {
+        m_seconds = 30;
+        MessageDialog::queue(MessageDialog::Restart);
+        fail();
+        QCOMPARE(m_starts, 1);
+    }
+    /// The file, with its process replaced by one that has ended.
+    static QByteArray ofAnEndedProcess(QByteArray content) {
+        QProcess ended;
+        ended.start("/bin/true", QStringList());
+        const QByteArray number = QByteArray::number(ended.processId());
+        ended.waitForFinished();
+        return content.replace("processo=" + QByteArray::number(::getpid()), "processo=" + number);
+    }
+    void startAnew(StoreStage& stage) {
+        finestre::dimentica();
+        nodoCorrente.reset();
+        writeFile(file(stage), ofAnEndedProcess(readFile(file(stage))));
+        riavvio::Raccogli();
+        SubMain();
+    }
+
+  private Q_SLOTS:
+    void init() {
+        m_starts = 0;
+        m_seconds = 0;
+        const QDateTime begin(QDate(2026, 3, 1), QTime(9, 0));
+        sys::clock().now = [this, begin] { return begin.addSecs(m_seconds); };
+        riavvio::sostituisciPartenza([this] { ++m_starts; });
+    }
+    void cleanup() {
+        sys::clock() = sys::systemClock();
+        riavvio::sostituisciPartenza({});
+        riavvio::Raccogli();
+    }
+
+    void itIsOfferedTenSecondsAfterAStartAndNotBefore() {
+        StoreStage stage;
+        SubMain();
+        for (const auto& [seconds, offered] : {std::pair(0, false), {9, false}, {10, true}, {1000, true}}) {
+            m_seconds = seconds;
+            MessageDialog::queue(MessageDialog::Ok);
+            fail();
+            QCOMPARE(MessageDialog::shown().constLast().buttons.testFlag(QMessageBox::Retry), offered);
+        }
+        QCOMPARE(m_starts, 0);
+        QVERIFY(!QFile::exists(file(stage)));
+        QCOMPARE(stage.ends, QList<int>({1, 1, 1, 1}));
+    }
+
+    void itIsNotOfferedBeforeTheMainWindowHasComeUp() {
+        StoreStage stage;
+        riavvio::SegnaAvvio();
+        m_seconds = 60;
+        MessageDialog::queue(MessageDialog::Ok);
+        fail();
+        QCOMPARE(MessageDialog::shown().constLast().buttons,
+                 QMessageBox::StandardButtons(QMessageBox::Close));
+    }
+
+    void itStartsTheProgramAndStillEndsThisOneWithStatusOne() {
+        StoreStage stage;
+        SubMain();
+        failAndRestart();
+        QCOMPARE(stage.ends, QList<int>{1});
+        QVERIFY(!QFile::exists(stage.folder.path("data/frmMain.imp")));
+        QVERIFY(!QFile::exists(stage.folder.path("data/LayoutMain.imp")));
+        QVERIFY(QFile::exists(file(stage)));
+    }
+
+    void theNewStartHasThePlaceAndTheGroupOfTheOldOne() {
+        StoreStage stage;
+        const int upper = stage.addGroup(0, "Fiere");
+        const int lower = stage.addGroup(upper, "Milano");
+        stage.addRecipient(lower, "Rossi", "a@x.it");
+        SubMain();
+        stage.clickNode(QString("K%1").arg(upper));
+        stage.clickNode(QString("K%1").arg(lower));
+        finestre::Main().move(70, 80);
+        finestre::Main().resize(910, 550);
+        failAndRestart();
+        startAnew(stage);
+        QCOMPARE(finestre::Main().size(), QSize(910, 550));
+        QCOMPARE(finestre::Main().pos(), QPoint(70, 80));
+        QVERIFY(nodoCorrente);
+        QCOMPARE(nodoCorrente->Text, "Milano");
+        QCOMPARE(stage.tree().SelectedItem()->Text(), "Milano");
+        QCOMPARE(stage.columnOfGrid(3), QStringList("a@x.it"));
+        QVERIFY2(!QFile::exists(file(stage)), "it counts once");
+    }
+
+    void aGroupThatIsGoneLeavesTheOneAboveIt() {
+        StoreStage stage;
+        const int upper = stage.addGroup(0, "Fiere");
+        const int lower = stage.addGroup(upper, "Milano");
+        SubMain();
+        stage.clickNode(QString("K%1").arg(upper));
+        stage.clickNode(QString("K%1").arg(lower));
+        failAndRestart();
+        StoreStage::run(QString("DELETE FROM [tb_gruppi] WHERE id = %1 ;").arg(lower));
+        startAnew(stage);
+        QCOMPARE(nodoCorrente->Text, "Fiere");
+    }
+
+    void aPathOfAnotherDatabaseOpensNoGroup() {
+        StoreStage stage;
+        SubMain();
+        stage.clickNode("K1");
+        failAndRestart();
+        writeFile(file(stage), readFile(file(stage)).replace("database=", "database=x"));
+        startAnew(stage);
+        QVERIFY(!nodoCorrente);
+        QVERIFY(stage.ends == QList<int>{1});
+    }
+
+    void anOldFileDoesNotCount() {
+        StoreStage stage;
+        SubMain();
+        stage.clickNode("K1");
+        failAndRestart();
+        m_seconds += 61;
+        startAnew(stage);
+        QVERIFY(!nodoCorrente);
+        QVERIFY(!QFile::exists(file(stage)));
+    }
+
+    void aDamagedFileIsSetAside_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("other") << QByteArray("[Form frmMain]\r\n");
+        QTest::newRow("title alone") << QByteArray("[Riavvio]\r\n");
+        QTest::newRow("too long") << "[Riavvio]\r\n" + QByteArray(70000, 'x');
+        QTest::newRow("no numbers") << QByteArray(
+            "[Riavvio]\r\nprocesso=x\r\nora=2026-03-01T09:00:00Z\r\n"
+            "posizione=a b c d e\r\n");
+        QTest::newRow("four numbers")
+            << QByteArray("[Riavvio]\r\nprocesso=99\r\nora=2026-03-01T09:00:00Z\r\nposizione=1 2 3 4\r\n");
+    }
+    void aDamagedFileIsSetAside() {
+        QFETCH(QByteArray, content);
+        StoreStage stage;
+        writeFile(file(stage), content);
+        riavvio::Raccogli();
+        QVERIFY(!QFile::exists(file(stage)));
+        QCOMPARE(readFile(file(stage, "riavvio.imp.rovinato")), content);
+        SubMain();
+        QVERIFY(finestre::Main().isVisible());
+        QVERIFY(!nodoCorrente);
+    }
+
+    void numbersThatNoWindowCanHaveAreHarmless() {
+        StoreStage stage;
+        QProcess ended;
+        ended.start("/bin/true", QStringList());
+        const QByteArray number = QByteArray::number(ended.processId());
+        ended.waitForFinished();
+        writeFile(file(stage), "[Riavvio]\r\nprocesso=" + number +
+                                   "\r\nora=" + sys::clock().now().toUTC().toString(Qt::ISODate).toLatin1() +
+                                   "\r\nposizione=2147483647 -2147483648 2147483647 -1 99\r\n"
+                                   "database=%\r\ngruppi=K999 K0 K0\r\n");
+        riavvio::Raccogli();
+        SubMain();
+        QVERIFY(finestre::Main().isVisible());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void theEndOfTheSessionSavesLayoutAndPlacementWhateverWindowIsOpen() {
+        StoreStage stage;
+        SubMain();
+        bool modal = false;
+        closeModalWindow([&](QWidget& window) {
+            modal = window.objectName() == "frmImpTXT";
+            FineSessione();
+        });
+        stage.command("cmdMailingImpTXT");
+        QVERIFY(modal);
+        QCOMPARE(stage.ends, QList<int>{0});
+        QVERIFY(QFile::exists(stage.folder.path("data/LayoutMain.imp")));
+        QVERIFY(QFile::exists(stage.folder.path("data/frmMain.imp")));
+    }
+
+    void theEndOfTheSessionBeforeTheMainWindowIsUpSavesNothing() {
+        StoreStage stage;
+        riavvio::SegnaAvvio();
+        try {
+            FineSessione();
+        } catch (const ProgrammaTerminato&) {
+        }
+        QCOMPARE(stage.ends, QList<int>{0});
+        QVERIFY(!QFile::exists(stage.folder.path("data/frmMain.imp")));
+    }
+
+    void theEndOfTheSessionOverAFailureEndsWithItsStatusAndSavesNothing() {
+        StoreStage stage;
+        SubMain();
+        ui::setUnattended(false);
+        QTimer::singleShot(0, this, [] {
+            try {
+                FineSessione();
+            } catch (const ProgrammaTerminato&) {
+            }
+            if (QWidget* box = QApplication::activeModalWidget()) box->close();
+        });
+        fail();
+        QCOMPARE(stage.ends.constFirst(), 1);
+        QVERIFY(!QFile::exists(stage.folder.path("data/frmMain.imp")));
+    }
+};
+
+QTEST_MAIN(TestRiavvio)
+#include "riavvio_test.moc"
