@@ -8,6 +8,7 @@
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/IndexTree.h"
 #include "platform/jet/Key.h"
+#include "platform/jet/UsageMap.h"
 
 using namespace jet;
 
@@ -298,6 +299,30 @@ TEST_F(TreeTest, RandomKeysOfManyLengthsAgreeWithASet) {
         expected.erase(expected.begin());
     }
     EXPECT_TRUE(entries().empty());
+}
+
+TEST_F(TreeTest, SparseLeavesJoinTheirNeighbours) {
+    // Of each five keys one stays, in the order in which an import gives them.
+    const auto key = [](uint32_t i) { return longKey(static_cast<int32_t>(i)); };
+    constexpr uint32_t count = 20000;
+    for (uint32_t i = 0; i < count; ++i)
+        tree().insert(key(i), {100 + i, 0});
+    const size_t full = UsageMap(*file, index.mapPointer).pages().size();
+    for (uint32_t i = 0; i < count; ++i)
+        if (i % 5 != 0) {
+            EXPECT_TRUE(tree().erase(key(i), {100 + i, 0}));
+        }
+    EXPECT_EQ(entries().size(), count / 5);
+    const size_t sparse = UsageMap(*file, index.mapPointer).pages().size();
+    EXPECT_LT(3 * sparse, 2 * full);
+    for (uint32_t i = 0; i < count; i += 5)
+        EXPECT_EQ(tree().find(key(i)), (RowId{100 + i, 0}));
+    for (uint32_t i = count; i-- > 0;)
+        if (i % 5 == 0) {
+            EXPECT_TRUE(tree().erase(key(i), {100 + i, 0}));
+        }
+    EXPECT_TRUE(entries().empty());
+    EXPECT_EQ(UsageMap(*file, index.mapPointer).pages(), std::vector<uint32_t>{index.rootPage});
 }
 
 TEST_F(TreeTest, ManyEqualKeysShareALongPrefix) {

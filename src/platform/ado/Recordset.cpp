@@ -70,6 +70,7 @@ struct Recordset::Data {
     Status load();
     Result<Value> field(size_t column);
     Status updatable() const;
+    Status sameRow();
     Status post();
     std::optional<size_t> find(QStringView name) const;
 };
@@ -271,8 +272,25 @@ Status Recordset::addNew() {
     return {};
 }
 
+/// Whether the current row still is the one that was read. Where one was deleted another may stand in the
+/// end.
+Status Recordset::Data::sameRow() {
+    const Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    const jet::TableDefinition& definition = rows->table()->definition();
+    const std::optional<size_t> key = definition.longPrimaryKey();
+    jet::Bytes now;
+    const Result<bool> found = rows->table()->read(rows->id(current), now);
+    if (!found.ok()) return found.status();
+    if (!present || !found.value()) return gone;
+    const auto keyIn = [&](const jet::Bytes& row) { return jet::RowView(&definition, row).value(*key); };
+    return !key || keyIn(now) == keyIn(bytes) ? Status() : gone;
+}
+
 Status Recordset::Data::post() {
-    if (!adding) return rows->table()->update(rows->id(current), changes);
+    if (!adding) {
+        if (Status status = sameRow(); !status.ok()) return status;
+        return rows->table()->update(rows->id(current), changes);
+    }
     const auto& columns = rows->table()->definition().columns;
     std::vector<jet::Value> values(columns.size());
     for (size_t i = 0; i < columns.size(); ++i)

@@ -43,6 +43,25 @@ std::span<const uint8_t> DataPageView::bytes(size_t slot) const {
     return std::span(m_page).subspan(start, end - start);
 }
 
+size_t DataPageView::deletedSlot() const {
+    size_t slot = 0;
+    while (slot < m_count && flags(slot) != data::deleted)
+        ++slot;
+    return slot;
+}
+
+size_t DataPageView::room() const {
+    const size_t free = freeBytes();
+    if (deletedSlot() < m_count) return free;
+    return m_count < data::maxSlots && free > 2 ? free - 2 : 0;
+}
+
+bool DataPageView::isEmpty() const {
+    for (size_t slot = 0; slot < m_count; ++slot)
+        if (flags(slot) != data::deleted) return false;
+    return true;
+}
+
 void makeDataPage(Page& page, uint32_t owner) {
     page.fill(0);
     page[0] = DataPage;
@@ -61,6 +80,16 @@ uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uin
     store16(&page[data::slotCount], static_cast<uint32_t>(count + 1));
     storeFree(page);
     return static_cast<uint8_t>(count);
+}
+
+uint8_t putRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags) {
+    const DataPageView view(page, number);
+    const size_t slot = view.deletedSlot();
+    if (view.fits(row.size()) || slot == view.count()) return appendRow(page, number, row, flags);
+    resizeRow(page, number, slot, row.size(), flags);
+    const std::span<uint8_t> bytes = rowBytes(page, number, slot);
+    std::copy(row.begin(), row.end(), bytes.begin());
+    return static_cast<uint8_t>(slot);
 }
 
 void resizeRow(Page& page, uint32_t number, size_t slot, size_t length, uint16_t flags) {

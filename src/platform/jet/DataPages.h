@@ -19,8 +19,14 @@ class DataPageView {
     uint16_t flags(size_t slot) const { return rawSlot(slot) & ~data::offsetMask; }
     /// The bytes of a slot, whatever its flags; a slot that is not there has none.
     std::span<const uint8_t> bytes(size_t slot) const;
-    /// Whether a new row of that length finds room with its slot.
+    /// Whether a row of that length finds room with a slot of its own.
     bool fits(size_t length) const { return m_count < data::maxSlots && length + 2 <= freeBytes(); }
+    /// Length of the longest row that can be put on the page, if need be into a deleted slot.
+    size_t room() const;
+    /// The first deleted slot; count() when there is none.
+    size_t deletedSlot() const;
+    /// Whether no slot holds a row, a part of one or a pointer.
+    bool isEmpty() const;
 
   private:
     uint16_t rawSlot(size_t slot) const {
@@ -33,6 +39,9 @@ class DataPageView {
 
 /// Makes `page` an empty data page.
 void makeDataPage(Page& page, uint32_t owner);
+/// Puts a row on a page that has room() for it and returns its slot: a new one, or where that does not fit a
+/// deleted one, so that a slot's number comes again as late as possible. `flags` go into the slot.
+uint8_t putRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags = 0);
 /// Appends a row that fits and returns its slot. `flags` go into the slot.
 uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags = 0);
 /// Changes length and flags of a slot, moving the rows below it. The caller has seen to the room.

@@ -36,6 +36,8 @@ class IndexPage {
     void moveTail(size_t i, IndexPage& other);
 
     bool fits() const;
+    /// Bytes of the entries, each of them whole.
+    size_t used() const { return m_bytes.size(); }
     /// Writes the page. A leaf that needs it takes the longest prefix, a node none.
     void store(Page& page, uint32_t owner) const;
 

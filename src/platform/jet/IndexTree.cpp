@@ -12,6 +12,9 @@ namespace {
 // Deeper than any index of a 2 GB file: whoever gets here goes round in circles.
 constexpr size_t maxDepth = 20;
 
+// Leaves that are joined leave some room, so that the next insertion does not cut them again.
+constexpr size_t fullEnough = index::room * 7 / 8;
+
 Bytes entryOf(std::span<const uint8_t> key, RowId row) {
     Bytes entry(key.begin(), key.end());
     entry.push_back(static_cast<uint8_t>(row.page >> 16));
@@ -268,6 +271,54 @@ bool IndexTree::erase(std::span<const uint8_t> key, RowId row) {
     // Without an entry the common prefix can only become longer, so the leaf fits.
     store(path[depth].number, leaf);
     if (wasLast) greatestChanged(path, depth, greatest);
+    if (depth > 0) joinSparse(leaf);
+    return true;
+}
+
+// A look at the neighbour's free field, before it is taken apart.
+bool IndexTree::mayJoin(const IndexPage& leaf, uint32_t neighbour) const {
+    if (neighbour == 0) return false;
+    const size_t free = load16(&(*m_file.page(neighbour))[index::freeBytes]);
+    return leaf.used() + index::room <= fullEnough + free;
+}
+
+// Rule T7.
+void IndexTree::joinSparse(const IndexPage& leaf) {
+    if (leaf.used() > index::room / 2) return;
+    if (!mayJoin(leaf, leaf.next) && !mayJoin(leaf, leaf.previous)) return;
+    const Path path = descendForChange(leaf.keyAndRow(0));
+    if (path.size() < 2) return;
+    const Step& above = path[path.size() - 2];
+    if (above.child < above.page.count() && join(above, above.child)) return;
+    if (above.child > 0) (void)join(above, above.child - 1);
+}
+
+// Moves the entries of the leaf after the left one, both children of that node, to the left one. False when
+// they would not leave room there.
+bool IndexTree::join(const Step& above, size_t left) {
+    IndexPage parent = above.page;
+    const uint32_t number = parent.child(left);
+    const uint32_t emptied = parent.child(left + 1);
+    IndexPage page = load(number);
+    IndexPage right = load(emptied);
+    if (!page.leaf || !right.leaf || page.next != emptied || page.used() + right.used() > fullEnough)
+        return false;
+    right.moveTail(0, page);
+    page.next = right.next;
+    if (right.next != 0) link(right.next, index::previous, number);
+    if (left + 1 < parent.count()) {
+        const Bytes greatest = copyOf(parent.keyAndRow(left + 1));
+        parent.erase(left + 1);
+        parent.erase(left);
+        parent.insert(left, nodeEntry(greatest, number));
+    } else {
+        parent.erase(left);
+        parent.tail = number;
+    }
+    givePage(emptied);
+    store(number, page);
+    store(above.number, parent);
+    shrinkRoot();
     return true;
 }
 

@@ -19,6 +19,8 @@ namespace jet {
 ///   T4 the root keeps its page number: when it is full, its content goes to new pages below it, and when
 ///      only a tail is left, that child's content comes up
 ///   T5 the index's map holds just the pages of the tree
+///   T7 a leaf that becomes less than half full joins a neighbour below the same node, when both leave room
+///   on one page
 class IndexTree {
   public:
     IndexTree(PageFile& file, const TableDefinition& definition, const Index& index)
@@ -68,6 +70,9 @@ class IndexTree {
     void greatestChanged(const Path& path, size_t depth, const Bytes& greatest);
     void removeEmpty(const Path& path, size_t depth);
     void shrinkRoot();
+    bool mayJoin(const IndexPage& leaf, uint32_t neighbour) const;
+    void joinSparse(const IndexPage& leaf);
+    bool join(const Step& above, size_t left);
     static std::vector<Part> divide(IndexPage page, Bytes greatest, bool atEnd);
 
     PageFile& m_file;

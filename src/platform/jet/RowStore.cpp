@@ -8,13 +8,6 @@ namespace jet {
 
 namespace {
 
-// A page with less room than this that could not take a row leaves the map of pages with room; it returns
-// when it has so much again. Other programs leave out pages with up to 371 free bytes.
-constexpr size_t roomWorthKeeping = 372;
-
-// So many pages with some room are tried before a new one is taken.
-constexpr int pagesTried = 16;
-
 void storePointer(Page& page, RowId slot, RowId body) {
     const std::span<uint8_t> bytes = rowBytes(page, slot.page, slot.slot);
     bytes[0] = body.slot;
@@ -70,41 +63,18 @@ std::optional<RowStore::Stored> RowStore::find(RowId id) const {
     return Stored{std::move(page), bytes, id};
 }
 
-std::optional<uint32_t> RowStore::pageWithRoom(size_t length) {
-    UsageMap room(m_file, m_definition.roomMap);
-    if (m_lastPage != 0 && room.contains(m_lastPage)) {
-        const PagePtr page = m_file.page(m_lastPage);
-        if (view(*page, m_lastPage).fits(length)) return m_lastPage;
-    }
-
-    std::optional<uint32_t> found;
-    std::vector<uint32_t> full;
-    int tried = 0;
-    room.forEach([&](uint32_t number) {
-        const PagePtr page = m_file.page(number);
-        const DataPageView rows = view(*page, number);
-        if (rows.fits(length)) {
-            found = number;
-            return false;
-        }
-        if (rows.freeBytes() < roomWorthKeeping || rows.count() >= data::maxSlots) full.push_back(number);
-        return ++tried < pagesTried;
-    });
-    for (uint32_t number : full)
-        room.set(number, false);
-    return found;
-}
-
 RowId RowStore::put(std::span<const uint8_t> row, uint16_t flags) {
-    std::optional<uint32_t> number = pageWithRoom(row.size());
+    std::optional<uint32_t> number = m_room.find(row.size());
     if (!number) {
         number = GlobalMap(m_file).take();
         makeDataPage(m_file.change(*number), m_definition.page);
         UsageMap(m_file, m_definition.ownedMap).set(*number, true);
-        UsageMap(m_file, m_definition.roomMap).set(*number, true);
+        m_room.noteNew(*number);
     }
-    m_lastPage = *number;
-    return {*number, appendRow(m_file.change(*number), *number, row, flags)};
+    (void)view(*m_file.page(*number), *number);
+    const uint8_t slot = putRow(m_file.change(*number), *number, row, flags);
+    m_room.noteTaken(*number);
+    return {*number, slot};
 }
 
 // False when the page has no room for the longer row.
@@ -117,7 +87,10 @@ bool RowStore::replaceAt(RowId place, std::span<const uint8_t> row, uint16_t fla
     if (row.size() != oldLength) resizeRow(changed, place.page, place.slot, row.size(), flags);
     const std::span<uint8_t> bytes = rowBytes(changed, place.page, place.slot);
     std::copy(row.begin(), row.end(), bytes.begin());
-    if (row.size() < oldLength) noteRoom(place.page);
+    if (row.size() < oldLength)
+        m_room.noteFreed(place.page);
+    else
+        m_room.noteTaken(place.page);
     return true;
 }
 
@@ -131,7 +104,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
         remove(old->place);
     } else {
         resizeRow(m_file.change(id.page), id.page, id.slot, 4, data::pointer);
-        noteRoom(id.page);
+        m_room.noteFreed(id.page);
     }
     storePointer(m_file.change(id.page), id, body);
 }
@@ -143,17 +116,13 @@ void RowStore::erase(RowId id) {
     remove(id);
 }
 
+// A page on which no row and no new slot is left begins anew.
 void RowStore::remove(RowId place) {
-    resizeRow(m_file.change(place.page), place.page, place.slot, 0, data::deleted);
-    noteRoom(place.page);
-}
-
-// Room has returned on a page.
-void RowStore::noteRoom(uint32_t number) {
-    const PagePtr page = m_file.page(number);
-    const DataPageView rows = view(*page, number);
-    if (rows.freeBytes() >= roomWorthKeeping && rows.count() < data::maxSlots)
-        UsageMap(m_file, m_definition.roomMap).set(number, true);
+    Page& page = m_file.change(place.page);
+    resizeRow(page, place.page, place.slot, 0, data::deleted);
+    const DataPageView rows(page, place.page);
+    if (rows.count() == data::maxSlots && rows.isEmpty()) makeDataPage(page, m_definition.page);
+    m_room.noteFreed(place.page);
 }
 
 }  // namespace jet

@@ -7,6 +7,7 @@
 #include "platform/jet/Database.h"
 #include "platform/jet/DataPages.h"
 #include "platform/jet/PageFile.h"
+#include "platform/jet/PageRoom.h"
 
 namespace jet {
 
@@ -18,7 +19,8 @@ namespace jet {
 /// more than one hop.
 class RowStore {
   public:
-    RowStore(PageFile& file, const TableDefinition& definition) : m_file(file), m_definition(definition) {}
+    RowStore(PageFile& file, const TableDefinition& definition)
+        : m_file(file), m_definition(definition), m_room(file, definition.roomMap, definition.page) {}
 
     /// Calls `visit` for each row in page order until it returns false.
     void scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const;
@@ -36,20 +38,18 @@ class RowStore {
     void update(RowId id, std::span<const uint8_t> row);
     void erase(RowId id);
     /// Drops what was remembered, after pages were changed by somebody else.
-    void forget() { m_lastPage = 0; }
+    void forget() { m_room.forget(); }
 
   private:
     DataPageView view(const Page& page, uint32_t number) const;
     Stored body(RowId id, std::span<const uint8_t> pointer) const;
     RowId put(std::span<const uint8_t> row, uint16_t flags);
-    std::optional<uint32_t> pageWithRoom(size_t length);
     void remove(RowId place);
-    void noteRoom(uint32_t number);
     bool replaceAt(RowId place, std::span<const uint8_t> row, uint16_t flags);
 
     PageFile& m_file;
     const TableDefinition& m_definition;
-    uint32_t m_lastPage = 0;  ///< took the last new row; tried first
+    PageRoom m_room;
 };
 
 }  // namespace jet
