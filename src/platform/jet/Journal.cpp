@@ -73,6 +73,7 @@ bool Journal::isLeftBehind() const {
 void Journal::keepRoom(const OsFile& database) {
     if (leadsTo(m_file)) {
         requireTrusted(m_file.rights(), database);
+        if (!m_roomTaken) m_roomTaken = m_file.reserve(room);
         return;
     }
     close();
