@@ -1,0 +1,62 @@
+// One recipient whose message was accepted and who is not marked yet, and the file that remembers him.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QVector>
+
+namespace mail {
+
+/// The file that a recipient's number belongs to: where it stood when the message was sent, and what the
+/// system knows it by, so that it is found again where it was moved.
+struct DatabaseFile {
+    QString path;
+    quint64 device = 0;  ///< 0 with inode 0: there was no such file
+    quint64 inode = 0;
+
+    static DatabaseFile at(const QString& path);
+    /// The same path, or the same file under another one.
+    bool same(const DatabaseFile& other) const;
+};
+
+/// What docs/formats/accettati.md calls an entry. Of the path and of the address only digests are kept.
+struct AcceptedEntry {
+    static constexpr qsizetype size = 128;  ///< octets in the file; the head takes as many
+
+    qint64 number = 0;
+    quint64 device = 0;
+    quint64 inode = 0;
+    QByteArray path;     ///< SHA-256
+    QByteArray address;  ///< SHA-256
+
+    static AcceptedEntry of(const DatabaseFile& database, qint64 number, const QString& address);
+    /// Whether both are rows of one database.
+    bool sameDatabase(const AcceptedEntry& other) const;
+    /// Whether it stands for this address, compared octet by octet.
+    bool bears(const QString& servedAddress) const;
+    QByteArray bytes() const;
+    friend bool operator==(const AcceptedEntry&, const AcceptedEntry&) = default;
+};
+
+/// What a file of entries holds.
+struct AcceptedContent {
+    struct Place {
+        qsizetype slot = 0;
+        AcceptedEntry entry;
+    };
+    QVector<Place> entries;
+    qsizetype room = 0;  ///< entries that the file has room for, used or not
+    bool damaged =
+        false;  ///< something in it is neither an entry nor empty; what is sound is given all the same
+};
+
+/// Most entries of one file.
+inline constexpr qsizetype mostAccepted = 65536;
+
+/// The first octets of the file, an entry long.
+QByteArray acceptedHead();
+/// Reads any octets. A file without any is sound and has room for nothing.
+AcceptedContent parseAccepted(QByteArrayView file);
+
+}  // namespace mail
