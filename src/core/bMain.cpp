@@ -6,6 +6,8 @@
 #include "core/Finestre.h"
 #include "core/Puntatore.h"
 #include "core/Riavvio.h"
+#include "send/Accettati.h"
+#include "send/Accettati_avviso.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "store/percorsoDBase.h"
@@ -24,7 +26,10 @@ void SubMain() {
     prosegui([] { TitoloPrincipale(); });
     prosegui([] { finestre::Splash().hide(); });
     prosegui([] { finestre::ScaricaSplash(); });
+    // What cannot be taken out of the selection now is remembered on.
+    prosegui([] { ApplicaAccettati(); });
     PuntatorePredefinito();
     riavvio::SegnaFinestra();
     riavvio::RiprendiGruppo();
+    AvvisaAccettatiScartati();
 }

@@ -19,6 +19,7 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
+#include "send/Accettati.h"
 #include "shell/bTheme.h"
 #include "store/griglia.h"
 
@@ -30,7 +31,14 @@ frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     DisponiControlli();
     CollegaEtichette();
     CollegaEventi();
+    SMTP->Accepted = &accettati();
+    risposteAttese() = {[this] { return SMTP->Awaited(percorsoDB); },
+                        [this](const QList<qint64>& numeri) { SMTP->Forget(percorsoDB, numeri); }};
     resize(600, 340);
+}
+
+frmInvia::~frmInvia() {
+    risposteAttese() = {};
 }
 
 void frmInvia::CreaControlli() {
@@ -212,6 +220,7 @@ void frmInvia::CollegaEventi() {
     connect(tmr, &QTimer::timeout, this, [this] { evento([&] { tmr_Timer(); }); });
     connect(SMTP, &mail::DeliveryControl::SendDone, this, [this] { mailInviata = true; });
     connect(SMTP, &mail::DeliveryControl::SendError, this, [this] { mailFallita = true; });
+    connect(SMTP, &mail::DeliveryControl::AwaitedEnded, this, [this] { evento([&] { FineInvio(); }); });
 }
 
 /// The labels' column holds seven figures from the start, so that the bars never move during a run.
@@ -237,6 +246,9 @@ void frmInvia::chkBlocco_Click() {
 
 void frmInvia::cmdChiudi_Click() {
     hide();
+    // What cannot be taken out of the selection now is remembered on.
+    Prosegui prosegui;
+    prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); });
     if (nodoCorrente) griglia::RiempiGriglia();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <QDialog>
 
 #include "accounts/AccountFile.h"
 #include "core/Fallimento.h"
 #include "platform/html/HtmlDocument.h"
+#include "platform/mail/RunLock.h"
 #include "send/Limiti.h"
 
 class QCheckBox;
@@ -31,6 +33,7 @@ class frmInvia : public QDialog {
 
   public:
     explicit frmInvia(QWidget* parent = nullptr);
+    ~frmInvia() override;
 
     /// Counts the selected recipients and sets the bars and their labels to the start of a run. Unguarded.
     void SetPrgBar();
@@ -63,12 +66,14 @@ class frmInvia : public QDialog {
     void CaricaTimeout();
     void cmdInvia_Click();
     bool ControllaScelte();
+    bool PreparaElenco();
+    void FineInvio();
     void LeggiMessaggio(Prosegui& prosegui);
     void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);
 
     // frmInvia_tick.cpp: the engine
     void tmr_Timer();
-    qint32 LeggiDestinatario(Prosegui& prosegui);
+    std::optional<qint32> LeggiDestinatario(Prosegui& prosegui);
     void ScegliStrada(Prosegui& prosegui, int indiceAccount);
     void AttendiEsito();
     void ContaInviata(Prosegui& prosegui, qint32 idDestinatario);
@@ -115,6 +120,8 @@ class frmInvia : public QDialog {
     TabellaAccount account;
 
     // The run. The window stays loaded between runs, so each field keeps its value until it is set again.
+    mail::RunLock invioInCorso;  ///< from the click until the last tick; seen by other processes
+    bool nelGiro = false;        ///< a tick is under way
     bool fermaInvio = false;
     bool mailInviata = false;
     bool mailFallita = false;

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/bFunctions.h"
+#include "core/bGlobal.h"
 #include "core/bImpostazioni.h"
 #include "lang/bVAR.h"
 #include "message/MessaggioMss.h"
@@ -14,6 +15,8 @@
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
+#include "send/Accettati.h"
+#include "send/Accettati_avviso.h"
 #include "send/frmInvia.h"
 #include "send/Porta.h"
 #include "send/Selezione.h"
@@ -79,6 +82,7 @@ void frmInvia::cmdInvia_Click() {
     if (!ControllaScelte()) return;
     limite.bloccoAttivo = chkBlocco->isChecked();
     if (chkLog->isChecked() && !ChiediLog()) return;
+    if (!PreparaElenco()) return;
     AbilitaControlli(false);
     prosegui([&] { SetPrgBar(); });
     ImpostaPausa(prosegui);
@@ -96,6 +100,9 @@ void frmInvia::cmdInvia_Click() {
     CorpoTesto = goDHTML.bodyInnerText();
     ImpostaConsegna(prosegui, indiceAccount);
     limite.avvia(txtBloccoMin->text(), txtBloccoNum->text());
+    // The boxes above may have let a tick that was pending end a run.
+    invioInCorso.take(percorsoDB);
+    SMTP->BeginRun();
     tmr->start();
 }
 
@@ -113,6 +120,52 @@ bool frmInvia::ControllaScelte() {
     if (!text::isNumeric(txtBloccoMin->text()))
         return avvisa("Inserire l'intervallo in minuti per l'invio massimo di [X] email.");
     return true;
+}
+
+/// Sees to it that nobody whom an earlier run served is served again: no other process is sending, whoever is
+/// remembered leaves the selection, and there is room to remember those of this run. Otherwise nothing has
+/// changed.
+bool frmInvia::PreparaElenco() {
+    const auto avvisa = [](const QString& testo) {
+        MessageDialog::show(testo, MessageDialog::Notice, bVAR::Attenzione);
+    };
+    if (!invioInCorso.take(percorsoDB)) {
+        avvisa(
+            "Un'altra finestra di Vestrola sta inviando ai destinatari di questo database.\r\n"
+            "Riprovare quando avrà finito.");
+        return false;
+    }
+    Prosegui prosegui;
+    if (!prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); })) {
+        FineInvio();
+        avvisa(
+            "Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla selezione:\r\n" +
+            prosegui.testo() + "\r\nL'invio non è iniziato. Riprovare più tardi.");
+        return false;
+    }
+    AvvisaAccettatiScartati();
+    qint64 conto = 0;
+    prosegui([&] {
+        ado::Recordset rs = RecordsetDB();
+        conto = ContaSelezionati(rs);
+    });
+    const Status riservato = accettati().reserve(mail::DatabaseFile::at(percorsoDB), conto);
+    if (riservato.ok()) return true;
+    if (accettati().room() < 1) {
+        FineInvio();
+        avvisa(riservato.text() + "\r\nL'invio non è iniziato.");
+        return false;
+    }
+    avvisa(riservato.text() +
+           "\r\nSe il database non potrà essere aggiornato, non tutti i destinatari saranno serviti.");
+    return true;
+}
+
+/// Other processes may send again, once nothing of this run can come any more.
+void frmInvia::FineInvio() {
+    if (nelGiro || tmr->isActive() || SMTP->Awaiting()) return;
+    invioInCorso.release();
+    accettati().release();
 }
 
 void frmInvia::LeggiMessaggio(Prosegui& prosegui) {

@@ -35,11 +35,14 @@ void frmInvia::tmr_Timer() {
     Prosegui prosegui;
     const int indiceAccount = cmbAccount->currentData().toInt();
     tmr->stop();  // the only guard against a second tick
+    nelGiro = true;
+    SMTP->BeginTick();
 
     SMTP->BodyHtml = corpoHtml;
     SMTP->BodyText = CorpoTesto;
     SMTP->Subject = oggettoMail;
-    const qint32 idDestinatario = LeggiDestinatario(prosegui);
+    const std::optional<qint32> letto = LeggiDestinatario(prosegui);
+    const qint32 idDestinatario = letto.value_or(0);
 
     QCoreApplication::processEvents();
     // A stop and a new start may just have been taken: this tick is then the new run's first, and it re-arms
@@ -48,6 +51,7 @@ void frmInvia::tmr_Timer() {
     mailInviata = false;
     mailFallita = false;
     ScegliStrada(prosegui, indiceAccount);
+    SMTP->RecipientNumber = letto ? *letto : mail::recipient::nobody;
     SMTP->Send();
     AttendiEsito();
 
@@ -59,17 +63,20 @@ void frmInvia::tmr_Timer() {
     prgDaInviare->setValue(prgDaInviare->value() - 1);
     AggiornaDaInviare(prgDaInviare->value());
 
+    nelGiro = false;
     if (prgDaInviare->value() > 0 && !fermaInvio) {
         limite.applica();
         tmr->start();
     } else {
         AbilitaControlli(true);
+        FineInvio();
     }
 }
 
-/// Personalises the message for the recipient that is next and gives his number; 0 where it cannot be read.
-qint32 frmInvia::LeggiDestinatario(Prosegui& prosegui) {
-    qint32 idDestinatario = 0;
+/// Personalises the message for the recipient that is next and gives his number, if it can be read.
+std::optional<qint32> frmInvia::LeggiDestinatario(Prosegui& prosegui) {
+    std::optional<qint32> idDestinatario;
+    SMTP->Database = percorsoDB;
     ado::Recordset rs;
     prosegui([&] { rs = RecordsetDB(); });
     rs.setSource(
@@ -122,7 +129,7 @@ void frmInvia::AttendiEsito() {
 void frmInvia::ContaInviata(Prosegui& prosegui, qint32 idDestinatario) {
     prgInviate->setValue(prgInviate->value() + 1);
     AggiornaInviate(prgInviate->value());
-    prosegui([&] {
+    const bool tolto = prosegui([&] {
         ado::Command cmd;
         esigi(cmd.setActiveConnection(connDB));
         cmd.setCommandTimeout(0);
@@ -131,6 +138,7 @@ void frmInvia::ContaInviata(Prosegui& prosegui, qint32 idDestinatario) {
                            QString::number(idDestinatario) + ';');
         esigi(cmd.execute());
     });
+    if (tolto) SMTP->Marked(idDestinatario);
 }
 
 void frmInvia::ContaFallita() {
@@ -143,6 +151,7 @@ void frmInvia::cmdFerma_Click() {
     SMTP->Abort();
     fermaInvio = true;
     AbilitaControlli(true);
+    FineInvio();
 }
 
 void frmInvia::AbilitaControlli(bool valore) {

@@ -9,6 +9,7 @@
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
+#include "send/Accettati.h"
 #include "shell/frmMain.h"
 #include "store/frmDestinatario.h"
 #include "store/frmDestinatario_campi.h"
@@ -46,6 +47,7 @@ void frmDestinatario::cdmSalva_Click() {
     ado::Command comando;
     prosegui([&] { esigi(comando.setActiveConnection(connDB)); });
     comando.setCommandTimeout(0);
+    if (modo == 1) prosegui([this] { DimenticaAccettato(txtIDuser->text()); });
     comando.setCommandText(modo == 1 ? ComandoModifica() : ComandoNuovo());
     prosegui([&] { esigi(comando.execute()); });
     salvataggioFallito = prosegui.numero() != 0;

@@ -11,6 +11,7 @@
 #include "platform/text/NumberText.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
+#include "send/Accettati.h"
 #include "shell/frmMain.h"
 #include "store/frmGruppi.h"
 #include "store/griglia.h"
@@ -170,20 +171,24 @@ void comandiGruppo::SvuotaCartella(ado::Command& comando) {
 
 void comandiGruppo::SelAllGRP(ado::Command& comando) {
     if (!GruppoCorrenteEsiste()) return;
+    DimenticaAccettatiDelGruppo(NumeroNodoCorrente());
     Seleziona(comando,
               "UPDATE [tb_destinatari] SET sel = True WHERE id_grp = " + NumeroNodoCorrente() + " ;");
 }
 
 void comandiGruppo::SelNotGRP(ado::Command& comando) {
     if (!GruppoCorrenteEsiste()) return;
+    DimenticaAccettatiDelGruppo(NumeroNodoCorrente());
     Seleziona(comando,
               "UPDATE [tb_destinatari] SET sel = False WHERE id_grp = " + NumeroNodoCorrente() + " ;");
 }
 
 void comandiGruppo::SelAllDB(ado::Command& comando) {
+    DimenticaAccettati();
     Seleziona(comando, "UPDATE [tb_destinatari] SET sel = True;");
 }
 
 void comandiGruppo::SelNotDB(ado::Command& comando) {
+    DimenticaAccettati();
     Seleziona(comando, "UPDATE [tb_destinatari] SET sel = False;");
 }

@@ -13,6 +13,7 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
+#include "send/Accettati.h"
 #include "shell/frmMain.h"
 #include "store/frmGruppi.h"
 #include "store/nodo.h"
@@ -72,6 +73,7 @@ void grd_Click() {
     comando.setCommandTimeout(0);
     comando.setPrepared(true);
     const QString id = griglia::idCorrente();
+    DimenticaAccettato(id);
     if (grd().CellChecked() == 2) {
         grd().setCellChecked(1);
         comando.setCommandText("UPDATE [tb_destinatari] SET sel = True WHERE id = " + id + " ;");

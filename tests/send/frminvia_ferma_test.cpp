@@ -7,7 +7,7 @@ class TestFrmInviaFerma : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void stopWhileTheTimerCountsSendsOnceMoreAndCountsItAsFailed() {
+    void stopWhileTheTimerCountsLetsOneMoreTickFailThatSendsNothing() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();
         stage.click("cmdInvia");
@@ -19,23 +19,14 @@ class TestFrmInviaFerma : public QObject {
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
         QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
-        // The message was handed over all the same.
-        QTRY_COMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
-    }
-
-    void outcomeAfterThatStopComesLateAndChangesNothing() {
-        SendStage stage({"a@x.it", "b@x.it"});
-        stage.pick();
-        stage.click("cmdInvia");
-        stage.click("cmdFerma");
+        // What had been handed over would arrive before the messages of the next run.
+        stage.start();
         QVERIFY(stage.waitForEnd());
-        QTRY_COMPARE(stage.sink.messages().size(), 1);
-        QTest::qWait(50);
-        QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
-        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
     }
 
-    void stopTakenWhileATickPreparesStillSendsThatRecipient() {
+    void stopTakenWhileATickPreparesCountsThatRecipientAsFailed() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();
         stage.start();
@@ -157,14 +148,14 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
-    void messageThatAStopLeftUnderWayIsDroppedByTheNextRunWithoutAnOutcome() {
+    void messageThatAStopEndedIsSentByTheNextRun() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
-        stage.pick();
-        stage.click("cmdInvia");
-        stage.click("cmdFerma");
-        QVERIFY(stage.waitForEnd());
-        QTRY_COMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+        QObject::connect(
+            &stage.sink, &SmtpSink::attempted, &stage.sink, [&] { stage.click("cmdFerma"); },
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
         int outcomes = 0;
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, [&] { ++outcomes; });
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError, [&] { ++outcomes; });

@@ -9,6 +9,7 @@
 #include "core/Finestre.h"
 #include "lang/bVAR.h"
 #include "platform/ui/PropertyList.h"
+#include "send/Accettati.h"
 #include "store/griglia_stage.h"
 
 using namespace testing_support;
@@ -254,6 +255,20 @@ class TestDestinatario : public QObject {
         QCOMPARE(stage.columnOfGrid(5), QStringList({"Zeta", "Beta"}));
         stage.clickNode("K1");
         QCOMPARE(stage.columnOfGrid(5), QStringList({"Beta", "Zeta"}));
+    }
+
+    void savedFormIsNewerThanWhatIsRememberedOfARun() {
+        StoreStage stage;
+        const int id = stage.addRecipient(1, "Alfa");
+        const auto database = mail::DatabaseFile::at(percorsoDB);
+        QVERIFY(accettati().reserve(database, 1).ok());
+        accettati().add(database, id, "a@x.it");
+        stage.clickNode("K1");
+        stage.clickCell(1, 5);
+        stage.whenFormOpens([](frmDestinatario& form) { save(form); });
+        stage.command("cmdPopMailingUserMod");
+        ApplicaAccettati();
+        QCOMPARE(SampleFolder::selected(), QStringList("a@x.it"));
     }
 
     void apostropheIsDroppedWithoutAWarning() {

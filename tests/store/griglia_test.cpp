@@ -8,6 +8,7 @@
 
 #include "core/Finestre.h"
 #include "lang/bVAR.h"
+#include "send/Accettati.h"
 #include "send/frmInvia.h"
 #include "store/griglia.h"
 #include "store/griglia_stage.h"
@@ -38,6 +39,22 @@ class TestGriglia : public QObject {
                                  "C3",  "C4",  "C5",   "C6",    "C7",  "C8",  "C9"};
         for (int column = 0; column < wanted.size(); ++column)
             QCOMPARE(stage.grd().TextMatrix(1, column), wanted[column]);
+    }
+
+    void checkBoxIsNewerThanWhatIsRememberedOfARun() {
+        StoreStage stage;
+        const int id = stage.addRecipient(1, "Alfa");
+        const int other = stage.addRecipient(1, "Beta");
+        const auto database = mail::DatabaseFile::at(percorsoDB);
+        QVERIFY(accettati().reserve(database, 2).ok());
+        accettati().add(database, id, "a@x.it");
+        accettati().add(database, other, "a@x.it");
+        stage.clickNode("K1");
+        stage.clickCell(1, 2);
+        stage.clickCell(1, 2);
+        ApplicaAccettati();
+        QVERIFY(selected(id));
+        QVERIFY(!selected(other));
     }
 
     void headingsComeFromTheLanguageButForTwo() {

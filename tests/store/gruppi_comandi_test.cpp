@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "platform/ui/Unattended.h"
+#include "send/Accettati.h"
 #include "store/griglia_stage.h"
 
 using namespace testing_support;
@@ -329,6 +330,25 @@ class TestGruppiComandi : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList({"a@x.it", "b@x.it"}));
         stage.command("cmdPopMailingSelNotDB");
         QCOMPARE(SampleFolder::selected(), QStringList());
+    }
+
+    void selectionIsNewerThanWhatIsRememberedOfARun() {
+        for (const char* command : {"cmdPopMailingSelAllGRP", "cmdPopMailingSelAllDB"}) {
+            StoreStage stage;
+            const int b = stage.addGroup(0, "B");
+            const int alfa = stage.addRecipient(1, "Alfa", "a@x.it");
+            const int beta = stage.addRecipient(b, "Beta", "b@x.it");
+            const auto database = mail::DatabaseFile::at(percorsoDB);
+            QVERIFY(accettati().reserve(database, 2).ok());
+            accettati().add(database, alfa, "a@x.it");
+            accettati().add(database, beta, "b@x.it");
+            stage.clickNode("K1");
+            stage.command(command);
+            ApplicaAccettati();
+            const bool all = QString(command).endsWith("DB");
+            QCOMPARE(SampleFolder::selected(),
+                     all ? QStringList({"a@x.it", "b@x.it"}) : QStringList("a@x.it"));
+        }
     }
 
     void selectionRedrawsTheGroupOnTheScreen() {

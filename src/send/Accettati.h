@@ -1,0 +1,35 @@
+// The recipients who were served though their row still says that they are to be: the process's one list, and
+// what becomes of it.
+#pragma once
+
+#include <functional>
+#include <QList>
+#include <QString>
+
+#include "platform/mail/AcceptedList.h"
+
+/// The list of this process, which stands in the data folder; what others left there is taken over when it is
+/// first named. It lives as long as the process.
+mail::AcceptedList& accettati();
+
+/// Takes whoever is remembered for the current database out of the selection, where his row still bears the
+/// address that was served; what no longer fits is dropped, and `annota` gets a line for the log. Unguarded:
+/// fails where the database cannot be changed within 5 seconds; what was not done then is remembered on. Not
+/// in the middle of a run, which counts rows.
+void ApplicaAccettati(const std::function<void(const QString& riga)>& annota = {});
+
+/// Before the user selects a recipient anew or deselects him: his choice is newer than what is remembered, or
+/// what a server's reply that is still awaited may bring.
+void DimenticaAccettato(const QString& id);
+/// The same for all recipients of a group, given by its number. Unguarded.
+void DimenticaAccettatiDelGruppo(const QString& numero);
+/// The same for all recipients of the database.
+void DimenticaAccettati();
+
+/// The messages of the current database whose reply the send window still awaits. It sets both when it is
+/// made, and takes them away when it goes.
+struct RisposteAttese {
+    std::function<QList<qint64>()> numeri;
+    std::function<void(const QList<qint64>& numeri)> dimentica;
+};
+RisposteAttese& risposteAttese();

@@ -1,0 +1,5 @@
+// Tells the user about damaged files of accepted messages.
+#pragma once
+
+/// Shows a box for each file that was put aside since the last call.
+void AvvisaAccettatiScartati();
