@@ -1,0 +1,303 @@
+#!/usr/bin/env python3
+"""Nobody is served twice, and nobody by a copy that was made for nobody: runs of the built program during which a disk
+becomes full, the database is moved away or locked by another process, the user stops and goes on, a row has no address, or
+the server's reply is late. Over the whole story and the run after it each recipient with an address gets exactly one copy.
+
+    once_test.py BUILD_FOLDER [STORY [NUMBER]]
+
+STORY is one of the names below; without it all are played in their short form. NUMBER is how long the lock is held, in
+seconds ("locked"), how often the user stops ("stops"), or how many recipients a run has (otherwise).
+"""
+import csv
+import fcntl
+import os
+import pathlib
+import random
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+
+import desktop
+from desktop import fail
+from scripted_mail import ScriptedMail
+
+PRIVATE = "VESTROLA_TEST_MOUNTS"
+DISK = 4 * 1024 * 1024
+SEED = 20261122
+
+
+def isolate():
+    """Runs this script anew with mounts of its own, so that it can have a small file system; returns where that is so
+    already."""
+    if PRIVATE in os.environ:
+        return
+    unshare = ["unshare", "--mount"] + (["--map-root-user"] if os.geteuid() else [])
+    if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL, check=False).returncode:
+        print("skipped: the system allows no mounts")
+        raise SystemExit(0)
+    os.environ[PRIVATE] = "1"
+    os.execvp(unshare[0], [*unshare, sys.executable, *sys.argv])
+
+
+isolate()
+desktop.inside()
+from accessible import Window, act, has, is_shown, wait_for  # noqa: E402  looks for the bus when it is imported
+import pyatspi  # noqa: E402
+
+
+class Story:
+    """One program folder on a small file system, its recipients, its server, and the program with its windows."""
+
+    def __init__(self, stage, program, server, addresses):
+        self.stage, self.server = stage, server
+        self.addresses = addresses
+        self.names = {address: f"Nome{number:03d}" for number, address in enumerate(addresses) if address}
+        self.folder = stage.program_folder
+        self.folder.mkdir(parents=True, exist_ok=True)
+        subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={DISK},mode=700", "tmpfs", self.folder], check=True)
+        self._make_folder()
+        self.database = self.folder / "data" / "data.mdb"
+        self.message = stage.write_message()
+        self.program = program
+        self.window = None
+        self.start()
+
+    def _make_folder(self):
+        rows = [("gruppo", "rgs", "nom", "email", "sel")]
+        rows += [("Clienti", f"Ditta {number:04d}", f"Nome{number:03d}", address or "\\N", "1")
+                 for number, address in enumerate(self.addresses)]
+        with tempfile.NamedTemporaryFile("w", suffix=".tsv") as table:
+            table.write("".join("\t".join(row) + "\n" for row in rows))
+            table.flush()
+            subprocess.run([pathlib.Path(sys.argv[1]).resolve() / "demo" / "demo_make", self.folder, str(self.server.port),
+                            table.name], stdout=subprocess.DEVNULL, check=True,
+                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+
+    def start(self):
+        self.running = self.stage.start([self.program])
+        self.main = Window("frame", "Vestrola")
+
+    def hide(self):
+        """Moves the database away; gives its place."""
+        away = self.folder / "altrove.mdb"
+        self.database.rename(away)
+        return away
+
+    def kill(self):
+        self.running.kill()
+        self.running.wait()
+
+    def quit(self):
+        act(self.main.find("menu item", "File"), "ShowMenu")
+        act(self.main.find("menu item", "Esci"), "Press")
+        self.stage.ends(self.running, 0)
+
+    def selected(self):
+        exported = subprocess.run(["mdb-export", self.database, "tb_destinatari"], stdout=subprocess.PIPE, text=True,
+                                  check=True)
+        return sorted(row["email"] for row in csv.DictReader(exported.stdout.splitlines()) if row["sel"] != "0")
+
+    def open(self):
+        self.main.press("Invia messaggi")
+        self.window = Window("dialog", "Invia messaggi")
+        self.window.press("Apri messaggio")
+        chooser = Window("dialog", "Apri messaggio")
+        chooser.write("Nome del file:", str(self.message))
+        chooser.press("Apri")
+        chooser.gone()
+
+    def press_start(self):
+        self.window.press("Invia messaggi")
+
+    def stop(self):
+        self.window.press("Ferma invio")
+        self.window.find("push button", "Invia messaggi")
+
+    def close(self):
+        """Leaves the send window, once its button can be pressed again."""
+        self.window.press("Chiudi")
+        self.window.gone()
+
+    def run(self):
+        """A whole run, until nothing is left to do."""
+        self.press_start()
+        self.window.find("label", "Email da inviare: 0")
+        self.window.find("push button", "Chiudi")
+
+    def arrived(self, number):
+        """Waits until so many messages have come."""
+        wait_for(lambda: len(self.server.messages) >= number, f"message number {number}")
+
+    def run_again(self):
+        """The run after the story, where anybody is left."""
+        if self.selected():
+            self.open()
+            self.run()
+            self.close()
+
+    def check(self, what):
+        copies = self.server.copies()
+        twice = {address: number for address, number in copies.items() if number > 1}
+        wanted = {address for address in self.addresses if address}
+        raw = self.server.raw()
+        wrong = self.server.greeted_wrongly(self.names)
+        missing = wanted - set(copies)
+        left = self.selected()
+        figures = (f"{what}: {len(self.server.messages)} messages for {len(wanted)} recipients, more than one copy: "
+                   f"{twice or 'nobody'}, raw: {len(raw)}, made for somebody else: {len(wrong)}, never served: "
+                   f"{len(missing)}, still selected: {len(left)}")
+        print(figures, flush=True)
+        if twice or raw or wrong or missing or set(copies) - wanted or [address for address in left if address]:
+            return figures
+        return None
+
+    def end(self):
+        self.kill()
+        self.server.close()
+        subprocess.run(["umount", "--lazy", self.folder], check=True)
+
+
+def people(number):
+    return [f"persona{one:03d}@cliente.test" for one in range(number)]
+
+
+def served_slowly(addresses):
+    """A server that leaves time to act between the arrival of the fourth message and its acceptance."""
+    return ScriptedMail(delay=0.02, slow={addresses[3]: 1})
+
+
+def disk_full(make, number):
+    """The disk becomes full in the middle of the run; it has room again before the window is closed."""
+    addresses = people(number or 12)
+    story = make(served_slowly(addresses), addresses)
+    story.open()
+    story.press_start()
+    story.arrived(4)
+    filler = story.folder / "riempie"
+    with open(filler, "wb", buffering=0) as file:
+        try:
+            while True:
+                file.write(b"\0" * 4096)
+        except OSError:
+            pass
+    story.window.find("label", "Email da inviare: 0")
+    story.window.find("push button", "Chiudi")
+    filler.unlink()
+    story.close()
+    story.run_again()
+    return story
+
+
+def moved(make, number):
+    """The database is moved away in the middle of the run and back after its end."""
+    addresses = people(number or 12)
+    story = make(served_slowly(addresses), addresses)
+    story.open()
+    story.press_start()
+    story.arrived(4)
+    away = story.hide()
+    story.window.find("label", "Email da inviare: 0")
+    story.window.find("push button", "Chiudi")
+    away.rename(story.database)
+    story.close()
+    story.run_again()
+    return story
+
+
+def killed(make, number):
+    """The program is killed when a recipient has been accepted whose row cannot be marked."""
+    addresses = people(number or 8)
+    story = make(served_slowly(addresses), addresses)
+    story.open()
+    story.press_start()
+    story.arrived(4)
+    away = story.hide()
+    story.window.find("label", "Email inviate: 4")
+    story.kill()
+    away.rename(story.database)
+    story.start()
+    story.run_again()
+    return story
+
+
+def locked(make, seconds):
+    """Another process holds the whole database locked in the middle of the run."""
+    addresses = people(12)
+    story = make(served_slowly(addresses), addresses)
+    story.open()
+    story.press_start()
+    story.arrived(4)
+    ofd_setlkw = 38
+    with open(story.database, "r+b") as file:
+        fcntl.fcntl(file, ofd_setlkw, struct.pack("hhqqhi", fcntl.F_WRLCK, os.SEEK_SET, 0, (1 << 62) + 1, 0, 0))
+        time.sleep(seconds or 8)
+    story.window.find("label", "Email da inviare: 0")
+    story.window.find("push button", "Chiudi")
+    story.close()
+    story.run_again()
+    return story
+
+
+def stops(make, number):
+    """The user stops and goes on, at moments that fall anywhere in a delivery of 50 ms."""
+    number = number or 6
+    story = make(ScriptedMail(delay=0.05), people(min(20 + number // 2, 150)))
+    moment = random.Random(SEED)
+    story.open()
+    for _ in range(number):
+        if not story.selected():
+            break
+        before = len(story.server.messages)
+        story.press_start()
+        wait_for(lambda before=before: len(story.server.messages) > before
+                 or has(story.window.find("push button", "Invia messaggi"), pyatspi.STATE_ENABLED), "a message")
+        time.sleep(moment.uniform(0, 0.4))
+        story.stop()
+    story.run()
+    story.close()
+    story.run_again()
+    return story
+
+
+def null_address(make, number):
+    """A selected row has no e-mail at all."""
+    addresses = people(number or 6)
+    addresses[3] = None
+    story = make(ScriptedMail(), addresses)
+    story.open()
+    story.run()
+    story.close()
+    story.run_again()
+    return story
+
+
+def late_reply(make, number):
+    """The server's reply to one message takes longer than the time-out that the window offers first."""
+    addresses = people(number or 3)
+    story = make(ScriptedMail(slow={addresses[1]: 7}), addresses)
+    story.open()
+    story.run()
+    story.close()
+    story.run_again()
+    return story
+
+
+STORIES = {one.__name__: one for one in (disk_full, moved, killed, locked, stops, null_address, late_reply)}
+
+
+def play(stage, program):
+    names = sys.argv[2:3] or list(STORIES)
+    number = int(sys.argv[3]) if len(sys.argv) > 3 else None
+    findings = []
+    for name in names:
+        story = STORIES[name](lambda *arguments: Story(stage, program, *arguments), number)
+        findings.append(story.check(name))
+        story.end()
+    if any(findings):
+        fail("\n".join(filter(None, findings)))
+
+
+if __name__ == "__main__":
+    desktop.run(play)

@@ -1,0 +1,100 @@
+"""A mail server whose answer to each message is told by the test; it counts the copies that reach each recipient."""
+import email
+import email.policy
+import re
+import socket
+import threading
+import time
+
+
+class ScriptedMail:
+    """Listens on a free port of the loopback address. A message is noted once its final point has arrived, since the
+    server then has it, whatever becomes of the reply."""
+
+    def __init__(self, delay=0.0, slow=None):
+        """`delay`: seconds before each reply to a final point; `slow`: those for single recipients."""
+        self.delay, self.slow = delay, slow or {}
+        self.messages = []  # recipient and message, in the order of arrival
+        self.listener = socket.create_server(("127.0.0.1", 0), backlog=50)
+        self.port = self.listener.getsockname()[1]
+        threading.Thread(target=self._accept, daemon=True).start()
+
+    def _accept(self):
+        while True:
+            try:
+                connection, _ = self.listener.accept()
+            except OSError:
+                return
+            threading.Thread(target=self._serve, args=(connection,), daemon=True).start()
+
+    def _serve(self, connection):
+        try:
+            with connection, connection.makefile("rb") as lines:
+                connection.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
+                connection.sendall(b"220 prova.example\r\n")
+                self._talk(connection, lines)
+        except OSError:
+            pass
+
+    def _talk(self, connection, lines):
+        recipient = None
+        while True:
+            line = lines.readline()
+            word = line[:4].upper()
+            if not line:
+                return
+            if word == b"EHLO":
+                connection.sendall(b"250-prova.example\r\n250-PIPELINING\r\n250 8BITMIME\r\n")
+            elif word == b"DATA" and recipient:
+                connection.sendall(b"354 go on\r\n")
+                message = self._message(lines)
+                if message is None:
+                    return
+                self.messages.append((recipient, message))
+                time.sleep(self.slow.get(recipient, self.delay))
+                connection.sendall(b"250 taken\r\n")
+                recipient = None
+            elif word == b"QUIT":
+                connection.sendall(b"221 bye\r\n")
+                return
+            else:
+                if word == b"RCPT":
+                    recipient = re.search(rb"<([^>]*)>", line).group(1).decode()
+                connection.sendall(b"250 ok\r\n")
+
+    @staticmethod
+    def _message(lines):
+        message = []
+        while True:
+            line = lines.readline()
+            if not line:
+                return None
+            if line == b".\r\n":
+                return b"".join(message)
+            message.append(line[1:] if line.startswith(b".") else line)
+
+    def copies(self):
+        """How many messages each recipient got."""
+        count = {}
+        for recipient, _ in list(self.messages):
+            count[recipient] = count.get(recipient, 0) + 1
+        return count
+
+    def raw(self):
+        """The recipients of messages in which a placeholder stands, in the subject or in a text."""
+        found = []
+        for recipient, message in list(self.messages):
+            parsed = email.message_from_bytes(message, policy=email.policy.default)
+            texts = [str(parsed["Subject"])] + [part.get_content() for part in parsed.walk()
+                                                if part.get_content_maintype() == "text"]
+            if any(":::" in text for text in texts):
+                found.append(recipient)
+        return found
+
+    def greeted_wrongly(self, names):
+        """The recipients of messages made for somebody else; `names` tells what each message has to hold."""
+        return [recipient for recipient, message in list(self.messages)
+                if recipient in names and names[recipient].encode() not in message]
+
+    def close(self):
+        self.listener.close()
