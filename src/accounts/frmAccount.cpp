@@ -12,6 +12,7 @@
 #include "accounts/frmAccount_elenco.h"
 #include "core/Evento.h"
 #include "platform/text/NumberText.h"
+#include "platform/ui/DialogFrame.h"
 #include "shell/bTheme.h"
 
 frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
@@ -24,6 +25,7 @@ frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
     CollegaEventi();
     ScegliPredefinito();
     resize(730, 475);
+    ui::setUpDialog(*this);
     CaricaAccount();
     cmbSaluto->setCurrentIndex(0);
 }

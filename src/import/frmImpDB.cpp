@@ -11,6 +11,7 @@
 #include "import/RiquadroCampi.h"
 #include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "shell/bTheme.h"
 
@@ -38,6 +39,7 @@ frmImpDB::frmImpDB(QWidget* parent)
     CollegaEventi();
     AbilitaImportazione(false);
     ui::openAtLeast(*this, {700, 500});
+    ui::setUpDialog(*this);
 }
 
 void frmImpDB::CollegaEventi() {

@@ -17,6 +17,7 @@
 #include "platform/text/TextFile.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/FileDrop.h"
 #include "platform/ui/SeparatorEdit.h"
@@ -44,6 +45,7 @@ frmImpTXT::frmImpTXT(QWidget* parent)
     CollegaEventi();
     Carica();
     ui::openAtLeast(*this, {700, 440});
+    ui::setUpDialog(*this);
 }
 
 void frmImpTXT::CollegaEventi() {

@@ -7,6 +7,7 @@
 #include "import/disposizione.h"
 #include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "shell/bTheme.h"
 
 frmScelta::frmScelta(QWidget* parent)
@@ -21,6 +22,7 @@ frmScelta::frmScelta(QWidget* parent)
     connect(cmdOK, &QPushButton::clicked, this, [this] { evento([this] { cmdOK_Click(); }); });
     connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { cmdAnnulla_Click(); }); });
     ui::openAtLeast(*this, {440, 190});
+    ui::setUpDialog(*this);
 }
 
 void frmScelta::cmdOK_Click() {

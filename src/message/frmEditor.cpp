@@ -10,6 +10,7 @@
 #include "message/frmAllegati.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 #include "shell/bTheme.h"
@@ -34,6 +35,7 @@ frmEditor::frmEditor(QWidget* parent)
       pannelli(this) {
     setObjectName("frmEditor");
     setWindowModality(Qt::ApplicationModal);
+    ui::withoutCloseButton(*this);
     DHTML->setAccessibleName("Messaggio");
     CODE->focusProxy()->setAccessibleName("Origine del messaggio");
     WEB->setAccessibleName("Anteprima del messaggio");

@@ -19,6 +19,13 @@ QString conFiniRiga(QString testo) {
     return testo.replace(fineRiga, "\n").replace('\r', '\n').replace('\n', fineRiga);
 }
 
+/// The file name in a caption such as "[offerta.mss*]".
+QString nomeDel(const QString& titolo) {
+    QString nome = titolo.mid(1).chopped(titolo.size() > 1 ? 1 : 0);
+    if (nome.endsWith(u'*')) nome.chop(1);
+    return nome;
+}
+
 }  // namespace
 
 // There is no cancel: whatever is answered, here or in the file dialog, the command goes on.
@@ -54,7 +61,7 @@ void frmEditor::SalvaMessaggio() {
 }
 
 void frmEditor::SalvaMessaggioCome() {
-    const auto percorso = ui::FileDialog::save("Salva messaggio", filtro);
+    const auto percorso = ui::FileDialog::save("Salva messaggio", filtro, nomeDel(titoloFile));
     if (!percorso) return;
     Prosegui prosegui;
     prosegui([&] { Scrivi(*percorso); });

@@ -10,6 +10,7 @@
 #include "core/Finestre.h"
 #include "message/frmEditor.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/SourceEdit.h"
 #include "shell/bTheme.h"
@@ -74,6 +75,7 @@ frmPropBody::frmPropBody(QWidget* parent)
     connect(cdmSalva, &QPushButton::clicked, this, [this] { evento([this] { cdmSalva_Click(); }); });
     connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
     resize(440, 460);
+    ui::setUpDialog(*this);
 }
 
 void frmPropBody::PrendiValori() {

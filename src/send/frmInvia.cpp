@@ -17,6 +17,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "send/Accettati.h"
@@ -35,6 +36,7 @@ frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     risposteAttese() = {[this] { return SMTP->Awaited(percorsoDB); },
                         [this](const QList<qint64>& numeri) { SMTP->Forget(percorsoDB, numeri); }};
     resize(600, 340);
+    ui::setUpDialog(*this);
 }
 
 frmInvia::~frmInvia() {

@@ -19,7 +19,7 @@ void frmInvia::ImpostaTimeout(Prosegui& prosegui) {
 /// earlier run stays on.
 bool frmInvia::ChiediLog() {
     const auto percorso = ui::FileDialog::save(chkLog->text(), bVAR::FileAssistenza + " (*.xt1)|*.xt1|",
-                                               ui::FileDialog::Existing::Accept);
+                                               "assistenza.xt1", ui::FileDialog::Existing::Accept);
     SMTP->LogFile = percorso.value_or(QString());
     SMTP->LogEnabled = percorso.has_value();
     return percorso.has_value();

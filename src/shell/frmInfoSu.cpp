@@ -2,11 +2,13 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "core/bFunctions.h"
 #include "core/Evento.h"
 #include "core/Prodotto.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/LinkLabel.h"
 #include "shell/bTheme.h"
 #include "shell/Insegna.h"
@@ -20,7 +22,15 @@ frmInfoSu::frmInfoSu(QWidget* parent) : QDialog(parent) {
     CreaCollegamento(*colonna, "Link", prodotto::paginaWeb(), prodotto::paginaWeb());
     CreaCollegamento(*colonna, "MailTo", prodotto::indirizzoPosta(), prodotto::collegamentoPosta());
     colonna->addStretch();
+    auto* lblChiudi = new QLabel("Per chiudere: Esc o un clic");
+    lblChiudi->setObjectName("lblChiudi");
+    lblChiudi->setMargin(4);
+    QPalette tavolozza = lblChiudi->palette();
+    tavolozza.setColor(QPalette::WindowText, misto(20, 0, 165));
+    lblChiudi->setPalette(tavolozza);
+    colonna->addWidget(lblChiudi);
     resize(QSize(420, 240).expandedTo(sizeHint()));
+    ui::setUpDialog(*this);
 }
 
 void frmInfoSu::CreaCollegamento(QVBoxLayout& colonna, const char* nome, const QString& testo,

@@ -2,16 +2,16 @@
 
 #include <QDialog>
 
-/// The about window: name and version of the program, its web site and its mail address. A click, or Return
-/// or the space bar, hides it; nothing else does.
+/// The about window: name and version of the program, its web site and its mail address. A click, or Esc,
+/// Return or the space bar, hides it; its title bar does not.
 class frmInfoSu : public QDialog {
     Q_OBJECT
 
   public:
     explicit frmInfoSu(QWidget* parent = nullptr);
 
-    /// Esc has no effect.
-    void reject() override {}
+    /// What Esc does.
+    void reject() override { hide(); }
 
   protected:
     void closeEvent(QCloseEvent* chiusura) override;

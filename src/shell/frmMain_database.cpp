@@ -58,7 +58,8 @@ void frmMain::ApriDatabase() {
 }
 
 void frmMain::SalvaDatabase() {
-    const auto destinazione = ui::FileDialog::save(bVAR::MailingSalva, "Database Mailing List *.mdb|*.mdb");
+    const auto destinazione = ui::FileDialog::save(bVAR::MailingSalva, "Database Mailing List *.mdb|*.mdb",
+                                                   "Copia di " + NomeDaPercorso(percorsoDB));
     if (!destinazione) fallisci(ErrorCode::CancelSelected);
     PuntatoreAttesa();
     CopiaDatabase(percorsoDB, *destinazione);

@@ -8,6 +8,7 @@
 
 #include "core/Evento.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/PropertyList.h"
 #include "shell/bTheme.h"
 #include "shell/SchedaProprieta.h"
@@ -36,6 +37,7 @@ frmDestinatario::frmDestinatario(QWidget* parent)
     connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
     const QSize dimensione(ui::scaledToFont(*this, 460), ui::scaledToFont(*this, 640));
     resize(dimensione.boundedTo(screen()->availableSize()));
+    ui::setUpDialog(*this);
 }
 
 void frmDestinatario::CreaVoci() {

@@ -84,6 +84,7 @@ class TestInfoSu : public QObject {
         QTest::newRow("window") << QByteArray();
         QTest::newRow("name") << QByteArray("lblApplication");
         QTest::newRow("version") << QByteArray("lblVersion");
+        QTest::newRow("hint") << QByteArray("lblChiudi");
     }
     void aClickAnywhereElseHidesIt() {
         QFETCH(QByteArray, name);
@@ -94,22 +95,28 @@ class TestInfoSu : public QObject {
         QVERIFY(!window.isVisible());
     }
 
-    void titleBarAndEscAreRefused() {
+    void theTitleBarIsRefusedAndHasNoButtonForIt() {
         StoreStage stage;
         frmInfoSu& window = opened(stage);
         window.close();
         QVERIFY(window.isVisible());
-        QTest::keyClick(&window, Qt::Key_Escape);
-        QVERIFY(window.isVisible());
+        QVERIFY(!window.windowFlags().testFlag(Qt::WindowCloseButtonHint));
     }
 
-    void returnAndSpaceHideIt_data() {
+    void itSaysHowItIsClosed() {
+        StoreStage stage;
+        frmInfoSu& window = opened(stage);
+        QCOMPARE(window.findChild<QLabel*>("lblChiudi")->text(), "Per chiudere: Esc o un clic");
+    }
+
+    void escReturnAndSpaceHideIt_data() {
         QTest::addColumn<int>("key");
+        QTest::newRow("Esc") << int(Qt::Key_Escape);
         QTest::newRow("Return") << int(Qt::Key_Return);
         QTest::newRow("Enter") << int(Qt::Key_Enter);
         QTest::newRow("Space") << int(Qt::Key_Space);
     }
-    void returnAndSpaceHideIt() {
+    void escReturnAndSpaceHideIt() {
         QFETCH(int, key);
         StoreStage stage;
         frmInfoSu& window = opened(stage);

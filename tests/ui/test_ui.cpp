@@ -1,15 +1,24 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include "platform/ui/Desktop.h"
+#include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
@@ -154,7 +163,98 @@ class TestUi : public QObject {
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|", FileDialog::Existing::Accept), path);
+        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|", {}, FileDialog::Existing::Accept), path);
+    }
+
+    void saveProposesANameAndStartsInTheDocuments() {
+        ui::setUnattended(false);
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        const QString start = QFileInfo(documents).isDir() ? documents : QDir::homePath();
+        QString folder;
+        QString name;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            folder = dialog->directory().absolutePath();
+            name = dialog->findChild<QLineEdit*>("fileNameEdit")->text();
+            dialog->reject();
+        });
+        QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|", "assistenza.xt1"), std::nullopt);
+        QCOMPARE(folder, start);
+        QCOMPARE(name, "assistenza.xt1");
+        QCOMPARE(FileDialog::shown().constLast().proposal, "assistenza.xt1");
+    }
+
+    void aLaterDialogStartsWhereTheLastOneEnded() {
+        ui::setUnattended(false);
+        QTemporaryDir place;
+        QFile(place.filePath("a.txt")).open(QIODevice::WriteOnly);
+        QString folder;
+        const auto choose = [&](const QString& path) {
+            QTimer::singleShot(0, qApp, [&folder, path] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                QVERIFY(dialog);
+                folder = dialog->directory().absolutePath();
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+                QMetaObject::invokeMethod(dialog, path.isEmpty() ? "reject" : "accept");
+            });
+            return FileDialog::open("Apri", "Testo|*.txt");
+        };
+        QCOMPARE(choose(place.filePath("a.txt")), place.filePath("a.txt"));
+        QCOMPARE(choose({}), std::nullopt);
+        QCOMPARE(folder, QDir(place.path()).absolutePath());
+    }
+
+    void aNameThatTheFilterDoesNotShowMayBeTyped() {
+        ui::setUnattended(false);
+        QTemporaryDir place;
+        const QString path = place.filePath("lista.csv");
+        QFile(path).open(QIODevice::WriteOnly);
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        QCOMPARE(FileDialog::open("Apri", "File di Testo (*.TXT)|*.TXT"), path);
+    }
+
+    void aDialogThatNeedsMoreThanTheScreenScrollsAndKeepsEachControlInReach() {
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        QDialog dialog;
+        auto* column = new QVBoxLayout(&dialog);
+        for (int i = 0; i < 60; ++i)
+            column->addWidget(new QLineEdit);
+        auto* last = new QPushButton("Chiudi");
+        column->addWidget(last);
+        ui::setUpDialog(dialog);
+        QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        for (int opening = 0; opening < 2; ++opening) {
+            dialog.show();
+            QVERIFY(QTest::qWaitFor([&] { return room.contains(dialog.geometry()); }));
+            QVERIFY(!dialog.rect().contains(last->mapTo(&dialog, QPoint(5, 5))));
+            last->setFocus(Qt::TabFocusReason);
+            auto* area = dialog.findChild<QScrollArea*>("dialogContent");
+            QVERIFY(area);
+            area->ensureWidgetVisible(last);
+            QVERIFY(dialog.rect().contains(QRect(last->mapTo(&dialog, QPoint()), last->size())));
+            area->verticalScrollBar()->setValue(0);
+            dialog.hide();
+        }
+        QCOMPARE(dialog.findChildren<QScrollArea*>().size(), 1);
+    }
+
+    void aDialogThatFitsIsLeftAsItIsButBroughtBackOntoTheScreen() {
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        QDialog dialog;
+        (new QVBoxLayout(&dialog))->addWidget(new QLineEdit);
+        ui::setUpDialog(dialog);
+        dialog.resize(200, 100);
+        dialog.move(room.right() - 50, room.bottom() - 50);
+        dialog.show();
+        QVERIFY(QTest::qWaitFor([&] { return room.contains(dialog.geometry()); }));
+        QCOMPARE(dialog.size(), QSize(200, 100));
+        QVERIFY(!dialog.findChild<QScrollArea*>());
     }
 
     void realDialogThatIsCancelledGivesNothing() {

@@ -1,8 +1,11 @@
 #include "platform/ui/FileDialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
+#include <QStandardPaths>
 
 #include "platform/ui/DialogOwner.h"
 #include "platform/ui/Unattended.h"
@@ -13,6 +16,13 @@ namespace {
 
 QList<std::optional<QString>> queuedPaths;
 QList<FileDialog::Shown> shownDialogs;
+QString lastFolder;
+
+QString startFolder() {
+    if (!lastFolder.isEmpty() && QFileInfo(lastFolder).isDir()) return lastFolder;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
 
 QString withSuffix(const QString& path, const QString& suffix) {
     if (suffix.isEmpty() || QFileInfo(path).fileName().contains('.')) return path;
@@ -26,8 +36,14 @@ std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& a
     // The suffix is added, and the question about an existing file put, outside the dialog: a desktop's own
     // dialog would look at the name before it has its suffix.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return dialog.selectedFiles().constFirst();
+    const QPointer<QWidget> before = dialogOwner();
+    const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    // Left to itself the desktop may give the keyboard to nobody, after a list of names was open.
+    if (before) before->activateWindow();
+    if (!accepted) return std::nullopt;
+    const QString path = dialog.selectedFiles().constFirst();
+    lastFolder = QFileInfo(path).absolutePath();
+    return path;
 }
 
 bool mayReplace(const QString& path) {
@@ -40,7 +56,7 @@ bool mayReplace(const QString& path) {
 }
 
 std::optional<QString> openByUser(const FileDialog::Shown& asked) {
-    QFileDialog dialog(dialogOwner());
+    QFileDialog dialog(dialogOwner(), QString(), startFolder());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return runDialog(dialog, asked);
@@ -48,9 +64,9 @@ std::optional<QString> openByUser(const FileDialog::Shown& asked) {
 
 std::optional<QString> saveByUser(const FileDialog::Shown& asked, FileDialog::Existing existing) {
     const QString suffix = FileDialog::defaultSuffix(asked.filter);
-    QString start;
+    QString start = asked.proposal;
     for (;;) {
-        QFileDialog dialog(dialogOwner());
+        QFileDialog dialog(dialogOwner(), QString(), startFolder());
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         if (!start.isEmpty()) dialog.selectFile(start);
@@ -72,14 +88,15 @@ std::optional<QString> queuedAnswer(const FileDialog::Shown& asked) {
 }  // namespace
 
 std::optional<QString> FileDialog::open(const QString& title, const QString& filter) {
-    Shown asked{false, title, filter, std::nullopt};
+    Shown asked{false, title, filter, {}, std::nullopt};
     asked.answer = unattended() ? queuedAnswer(asked) : openByUser(asked);
     shownDialogs.append(asked);
     return asked.answer;
 }
 
-std::optional<QString> FileDialog::save(const QString& title, const QString& filter, Existing existing) {
-    Shown asked{true, title, filter, std::nullopt};
+std::optional<QString> FileDialog::save(const QString& title, const QString& filter, const QString& proposal,
+                                        Existing existing) {
+    Shown asked{true, title, filter, proposal, std::nullopt};
     asked.answer = unattended() ? queuedAnswer(asked) : saveByUser(asked, existing);
     shownDialogs.append(asked);
     return asked.answer;

@@ -7,7 +7,9 @@
 
 namespace ui {
 
-/// The one way to ask for a file. A cancelled dialog gives an empty optional.
+/// The one way to ask for a file. A cancelled dialog gives an empty optional. The first dialog of a run
+/// starts in the user's documents, each later one where the last one ended. Afterwards the window that was
+/// active before has the keyboard again.
 ///
 /// Filters are written "Description|*.ext|Description|*.ext|", with or without the closing bar; several
 /// patterns of one filter are separated by ";". The first pattern's extension is the default suffix of a
@@ -22,15 +24,17 @@ class FileDialog {
         bool save = false;
         QString title;
         QString filter;
+        QString proposal;  ///< of a save: the name that stands in the box at first
         std::optional<QString> answer;
     };
 
     /// Asks for an existing file.
     static std::optional<QString> open(const QString& title, const QString& filter);
-    /// Asks for a file to write; a name without suffix gets the default one. Existing::Ask puts the question
-    /// before an existing file is taken, and asks for another name on No.
+    /// Asks for a file to write; a name without suffix gets the default one. `proposal`, a name or a whole
+    /// path, stands in the box at first. Existing::Ask puts the question before an existing file is taken,
+    /// and asks for another name on No.
     static std::optional<QString> save(const QString& title, const QString& filter,
-                                       Existing existing = Existing::Ask);
+                                       const QString& proposal = {}, Existing existing = Existing::Ask);
 
     /// The filters in Qt's way of writing, and the default suffix (without point; empty where there is none).
     static QStringList nameFilters(const QString& filter);

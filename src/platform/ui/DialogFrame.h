@@ -1,0 +1,15 @@
+#pragma once
+
+class QWidget;
+
+namespace ui {
+
+/// For a window that refuses to be closed by its title bar: the frame shows no close button, which would do
+/// nothing. To be called before the window is shown.
+void withoutCloseButton(QWidget& window);
+
+/// The same, for a dialog with a layout that also has to stay in reach on a small screen: whatever size it
+/// asks for, it opens within the screen, and where its content needs more, the content gets scroll bars.
+void setUpDialog(QWidget& dialog);
+
+}  // namespace ui
