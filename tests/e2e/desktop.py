@@ -8,10 +8,12 @@ import email.policy
 import mailbox
 import os
 import pathlib
+import struct
 import subprocess
 import sys
 import tempfile
 import time
+import zlib
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 INSIDE = "VESTROLA_TEST_SESSION"
@@ -22,23 +24,45 @@ SUBJECT = "Invito per :::nom:::"
 TEXT = "Gentile :::nom:::, la aspettiamo."
 
 
-def inside():
-    """Runs the calling script anew on a screen and a session bus of its own and ends with its result; returns where that
-    is so already."""
+def inside(size="1280x1000"):
+    """Runs the calling script anew on a screen of this size and a session bus of its own and ends with its result; returns
+    where that is so already."""
     if INSIDE in os.environ:
         return
     own, server = os.pipe()
-    screen = subprocess.Popen(["Xvfb", "-displayfd", str(server), "-screen", "0", "1280x1000x24", "-nolisten", "tcp"],
-                              pass_fds=[server], stderr=subprocess.DEVNULL)
-    os.close(server)
-    with os.fdopen(own) as display:
-        environment = {**os.environ, INSIDE: "1", "DISPLAY": ":" + display.readline().strip()}
-    try:
-        raise SystemExit(subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment,
-                                        check=False).returncode)
-    finally:
-        screen.kill()
-        screen.wait()
+    with tempfile.TemporaryDirectory() as frame:
+        screen = subprocess.Popen(["Xvfb", "-displayfd", str(server), "-screen", "0", size + "x24", "-nolisten", "tcp",
+                                   "-fbdir", frame], pass_fds=[server], stderr=subprocess.DEVNULL)
+        os.close(server)
+        with os.fdopen(own) as display:
+            environment = {**os.environ, INSIDE: frame, "DISPLAY": ":" + display.readline().strip()}
+        try:
+            raise SystemExit(subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment,
+                                            check=False).returncode)
+        finally:
+            screen.kill()
+            screen.wait()
+
+
+def picture(path):
+    """Writes what the screen shows as a PNG file."""
+    dump = (pathlib.Path(os.environ[INSIDE]) / "Xvfb_screen0").read_bytes()
+    head = struct.unpack(">25I", dump[:100])  # XWD, version 7
+    size, width, height, stride, colours = head[0], head[4], head[5], head[12], head[19]
+    start = size + 12 * colours
+    lines = bytearray()
+    for line in range(height):
+        row = dump[start + line * stride:start + line * stride + 4 * width]
+        pixels = bytearray(3 * width)
+        pixels[0::3], pixels[1::3], pixels[2::3] = row[2::4], row[1::4], row[0::4]
+        lines += b"\0" + pixels
+
+    def chunk(kind, content):
+        return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
+
+    header = struct.pack(">2I5B", width, height, 8, 2, 0, 0, 0)
+    pathlib.Path(path).write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) +
+                                   chunk(b"IDAT", zlib.compress(bytes(lines), 6)) + chunk(b"IEND", b""))
 
 
 def fail(text):
