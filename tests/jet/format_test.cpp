@@ -219,8 +219,7 @@ TEST(ValueCodec, TextIsCountedInUtf16Units) {
     EXPECT_EQ(codeOf(textColumn(1), std::string("😀")), ErrorCode::FieldTooSmall);
 }
 
-TEST(ValueCodec, MemoAndOleAreRefused) {
-    EXPECT_EQ(codeOf(columnOf(Type::Memo), std::string("x")), ErrorCode::NotSupported);
+TEST(ValueCodec, OleIsRefused) {
     EXPECT_EQ(codeOf(columnOf(Type::Ole), Bytes{1}), ErrorCode::NotSupported);
 }
 

@@ -97,6 +97,27 @@ TEST_F(PropertiesTest, ColumnWithoutZeroLengthRefusesTheEmptyTextOnly) {
     EXPECT_OK(database->commit());
 }
 
+TEST_F(PropertiesTest, MemosKeepTheirProperties) {
+    create(path()).reset();
+    jettables::addTable(path(), "note", {{"uno", Type::Memo}, {"due", Type::Memo}}, {});
+    Bytes list = listStart();
+    addColumn(list, "uno", {{zeroLength, false}, {required, false}});
+    addColumn(list, "due", {{zeroLength, true}, {required, true}});
+    jettables::setProperties(path(), "note", list);
+    database = open(path());
+    Table& t = table(*database, "note");
+    EXPECT_OK(database->begin());
+    EXPECT_FAILS(ErrorCode::ValueRequired, t.insert(Row{std::string(), std::string("x")}));
+    EXPECT_FAILS(ErrorCode::ValueRequired, t.insert(Row{std::string("x"), {}}));
+    const RowId id = insert(t, {std::string(3000, 'x'), std::string()});
+    const std::pair<size_t, Value> empty{0, std::string()};
+    EXPECT_FAILS(ErrorCode::ValueRequired, t.update(id, std::span(&empty, 1)));
+    const std::pair<size_t, Value> null{1, Value()};
+    EXPECT_FAILS(ErrorCode::ValueRequired, t.update(id, std::span(&null, 1)));
+    EXPECT_OK(database->commit());
+    EXPECT_EQ(t.value(id, 0).value(), Value(std::string(3000, 'x')));
+}
+
 TEST_F(PropertiesTest, TableWithoutListAcceptsNullAndEmptyText) {
     Table& t = makeTable({});
     EXPECT_OK(database->begin());

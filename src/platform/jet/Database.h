@@ -103,7 +103,7 @@ class Table {
     /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null
     /// gets the next number; a greater one raises the counter. Only between begin() and commit(). Failures of
     /// values, naming the column: TypeMismatch, Overflow, FieldTooSmall, ValueRequired (Null, or empty text
-    /// where the column forbids it), RecordTooLarge, DuplicateKey, NotSupported (memo and OLE other than
+    /// where the column forbids it), RecordTooLarge, DuplicateKey, NotSupported (OLE other than
     /// Null, indexed text with characters whose key is not known). Taken for a column: yes/no: bool, or a
     /// number that is not 0 · whole numbers: int64_t, or bool as -1 and 0 · single, double: double or int64_t
     /// · everything else the alternative that reading gives.

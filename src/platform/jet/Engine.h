@@ -6,6 +6,7 @@
 
 #include "platform/jet/Database.h"
 #include "platform/jet/Failure.h"
+#include "platform/jet/LongValue.h"
 #include "platform/jet/PageFile.h"
 #include "platform/jet/RowStore.h"
 
@@ -34,6 +35,7 @@ struct TableState {
     void setAutoNumber(int32_t last);
     void addToRowCount(int change);
     void addToKeyCount(size_t index, int change);
+    LongValuePages& pagesOf(const Column& column);
 
     Engine& engine;
     PageFile& file;
@@ -41,6 +43,7 @@ struct TableState {
     TableDefinition definition;
     uint64_t generation;
     RowStore rows;
+    std::map<uint16_t, LongValuePages> longValues;  ///< by column number, as far as they were needed
     std::optional<int32_t> greatestNumber;  ///< in use when `generation` was first seen; see AutoNumber.h
     std::set<size_t> provedIndexes;         ///< their entries were held against their rows
     PagePtr borrowed;                       ///< page of the row that row() handed out

@@ -1,5 +1,6 @@
 #include "platform/jet/LongValue.h"
 
+#include <algorithm>
 #include <functional>
 #include <set>
 
@@ -11,9 +12,17 @@ namespace jet {
 
 namespace {
 
-constexpr size_t headLength = 12;
 constexpr unsigned inRow = 2;
 constexpr unsigned oneRow = 1;
+constexpr unsigned chain = 0;
+
+// Access keeps values of up to so many bytes in their rows.
+constexpr size_t longestInRow = 64;
+
+// What stands on a long-value page in place of its owner.
+uint32_t longValueOwner() {
+    return load32(reinterpret_cast<const uint8_t*>("LVAL"));
+}
 
 [[noreturn]] void failBroken() {
     failDamaged("un campo memo non è leggibile");
@@ -21,7 +30,7 @@ constexpr unsigned oneRow = 1;
 
 DataPageView longRows(const Page& page, uint32_t number) {
     const DataPageView rows(page, number);
-    if (std::memcmp(&page[data::owner], "LVAL", 4) != 0) failBroken();
+    if (rows.owner() != longValueOwner()) failBroken();
     return rows;
 }
 
@@ -31,12 +40,12 @@ struct Head {
     uint32_t pointer;
 
     Head(const PageFile& file, std::span<const uint8_t> stored) {
-        if (stored.size() < headLength) failBroken();
-        length = load32(stored.data()) & 0x3FFFFFFF;
+        if (stored.size() < longValueHead) failBroken();
+        length = longValueLength(stored);
         place = stored[3] >> 6;
         pointer = load32(&stored[4]);
         if (length > size_t{file.pageCount()} * pageSize) failBroken();
-        if (isInRow() && length > stored.size() - headLength) failBroken();
+        if (isInRow() && length > stored.size() - longValueHead) failBroken();
     }
     bool isInRow() const { return (place & inRow) != 0; }
 };
@@ -66,18 +75,23 @@ void forEachPiece(PageFile& file, const Head& head,
     }
 }
 
-bool isEmpty(const DataPageView& rows) {
-    for (size_t slot = 0; slot < rows.count(); ++slot)
-        if (rows.flags(slot) != data::deleted) return false;
-    return true;
+Bytes headOf(size_t length, unsigned place, uint32_t pointer) {
+    Bytes head(longValueHead);
+    store32(head.data(), static_cast<uint32_t>(length | size_t{place} << 30));
+    store32(&head[4], pointer);
+    return head;
 }
 
 }  // namespace
 
+size_t longValueLength(std::span<const uint8_t> stored) {
+    return stored.size() < longValueHead ? 0 : load32(stored.data()) & 0x3FFFFFFF;
+}
+
 Bytes readLongValue(PageFile& file, std::span<const uint8_t> stored) {
     const Head head(file, stored);
     if (head.isInRow()) {
-        const auto bytes = stored.subspan(headLength, head.length);
+        const auto bytes = stored.subspan(longValueHead, head.length);
         return {bytes.begin(), bytes.end()};
     }
     Bytes whole;
@@ -95,18 +109,61 @@ std::vector<RowId> longValueRows(PageFile& file, std::span<const uint8_t> stored
     return rows;
 }
 
-void freeLongValueRows(PageFile& file, const Column& column, std::span<const RowId> rows) {
-    if (rows.empty() || column.longOwned == 0) return;
-    UsageMap owned(file, column.longOwned);
+std::optional<Bytes> longValueInRow(std::span<const uint8_t> content) {
+    if (content.size() > longestInRow) return std::nullopt;
+    Bytes bytes = headOf(content.size(), inRow, 0);
+    bytes.insert(bytes.end(), content.begin(), content.end());
+    return bytes;
+}
+
+LongValuePages::LongValuePages(PageFile& file, const Column& column)
+    : m_file(file), m_owned(column.longOwned), m_room(file, column.longRoom, longValueOwner()) {}
+
+// The pointer to the row.
+uint32_t LongValuePages::put(std::span<const uint8_t> row) {
+    std::optional<uint32_t> number = m_room.find(row.size());
+    if (!number) {
+        number = GlobalMap(m_file).take();
+        makeDataPage(m_file.change(*number), longValueOwner());
+        UsageMap(m_file, m_owned).set(*number, true);
+        m_room.noteNew(*number);
+    }
+    const uint8_t slot = putRow(m_file.change(*number), *number, row);
+    m_room.noteTaken(*number);
+    return *number << 8 | slot;
+}
+
+Bytes LongValuePages::store(std::span<const uint8_t> content) {
+    if (m_owned == 0)
+        fail(ErrorCode::NotSupported, "Il database non ha posto per i testi lunghi di un campo memo.");
+    if (content.size() <= data::maxRow) return headOf(content.size(), oneRow, put(content));
+    // From the end, since each row names the next.
+    constexpr size_t piece = data::maxRow - 4;
+    uint32_t next = 0;
+    for (size_t from = (content.size() - 1) / piece * piece;; from -= piece) {
+        Bytes row(4);
+        store32(row.data(), next);
+        const auto bytes = content.subspan(from, std::min(piece, content.size() - from));
+        row.insert(row.end(), bytes.begin(), bytes.end());
+        next = put(row);
+        if (from == 0) return headOf(content.size(), chain, next);
+    }
+}
+
+void LongValuePages::free(std::span<const RowId> rows) {
+    if (rows.empty() || m_owned == 0) return;
+    UsageMap owned(m_file, m_owned);
     for (const RowId id : rows) {
         if (!owned.contains(id.page)) continue;
-        Page& page = file.change(id.page);
+        Page& page = m_file.change(id.page);
         resizeRow(page, id.page, id.slot, 0, data::deleted);
-        const bool empty = isEmpty(longRows(page, id.page));
-        if (column.longRoom != 0) UsageMap(file, column.longRoom).set(id.page, !empty);
-        if (!empty) continue;
+        if (!longRows(page, id.page).isEmpty()) {
+            m_room.noteFreed(id.page);
+            continue;
+        }
+        m_room.noteGone(id.page);
         owned.set(id.page, false);
-        GlobalMap(file).give(id.page);
+        GlobalMap(m_file).give(id.page);
     }
 }
 

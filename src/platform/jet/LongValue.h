@@ -1,12 +1,15 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "platform/jet/Database.h"
 #include "platform/jet/PageFile.h"
+#include "platform/jet/PageRoom.h"
 
-/// Memo and OLE values. What a row holds of one, 12 bytes and more:
+/// Memo and OLE values. Memos are read and written, OLE values only read. What a row holds of one, 12 bytes
+/// and more:
 ///   0 u32: low 30 bits length, top 2 bits place · 4 u32 pointer (u8 row, u24 page) · 8 u32
 ///   place 2: the bytes follow at 12 · place 1: one row of a long-value page · place 0: a chain of rows, each
 ///   beginning with the pointer to the next (0 = last)
@@ -14,14 +17,39 @@
 /// a pointer to something else, a length beyond the file's.
 namespace jet {
 
+/// Bytes of a value's length, place and pointer in its row.
+inline constexpr size_t longValueHead = 12;
+
+/// The length of a value, as its row tells it; 0 when the head is cut.
+size_t longValueLength(std::span<const uint8_t> stored);
+
 /// The bytes of a value, wherever they lie. `stored` is what its row holds.
 Bytes readLongValue(PageFile& file, std::span<const uint8_t> stored);
 
 /// The rows of long-value pages that hold the value; none when it lies in its own row.
 std::vector<RowId> longValueRows(PageFile& file, std::span<const uint8_t> stored);
 
-/// Deletes such rows of a value of `column`, and gives back the pages that become empty. Rows on pages that
-/// the column's map does not name are left as they are.
-void freeLongValueRows(PageFile& file, const Column& column, std::span<const RowId> rows);
+/// What a row holds of a value that needs no other row, as short ones do; nothing for a longer one.
+std::optional<Bytes> longValueInRow(std::span<const uint8_t> content);
+
+/// The long-value pages of one memo or OLE column.
+class LongValuePages {
+  public:
+    LongValuePages(PageFile& file, const Column& column);
+
+    /// Stores a value on them and returns the 12 bytes for its row. Throws Failure (NotSupported) when the
+    /// column has no map for its pages.
+    Bytes store(std::span<const uint8_t> content);
+    /// Deletes such rows of a value, and gives back the pages that become empty. Rows on pages that the
+    /// column's map does not name are left as they are.
+    void free(std::span<const RowId> rows);
+
+  private:
+    uint32_t put(std::span<const uint8_t> row);
+
+    PageFile& m_file;
+    uint32_t m_owned;
+    PageRoom m_room;
+};
 
 }  // namespace jet

@@ -166,6 +166,11 @@ bool Row::set(const Column& column, const Value& value) {
     return !same;
 }
 
+void Row::setStored(const Column& column, std::optional<Bytes> bytes) {
+    setMask(column, bytes.has_value());
+    m_variable[column.variableIndex] = std::move(bytes).value_or(Bytes());
+}
+
 std::vector<uint8_t> Row::bytes() const {
     std::vector<uint8_t> out(2);
     store16(out.data(), m_definition->maxColumns);

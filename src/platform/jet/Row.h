@@ -35,6 +35,8 @@ class Row {
     /// Stores a value; false when nothing changed by it. Throws Failure, naming the column, for a value that
     /// the column cannot hold.
     bool set(const Column& column, const Value& value);
+    /// Stores the bytes of a memo or OLE column, as in LongValue.h; nothing for Null.
+    void setStored(const Column& column, std::optional<Bytes> bytes);
     /// The bytes to store. Throws Failure (RecordTooLarge) beyond what a row may hold.
     std::vector<uint8_t> bytes() const;
 

@@ -36,6 +36,7 @@ void TableState::ensureCurrent() {
              "\" è stata cambiata da un altro programma.");
     generation = file.generation();
     rows.forget();
+    longValues.clear();
     greatestNumber.reset();
     provedIndexes.clear();
 }

@@ -12,8 +12,53 @@ namespace jet {
 
 namespace {
 
+bool isLong(const Column& column) {
+    return column.type == Type::Memo || column.type == Type::Ole;
+}
+
+// A memo or OLE value that changes: what is to be stored, nothing for Null or where it is in the row already,
+// and the rows of the value before.
+struct LongChange {
+    const Column* column;
+    std::optional<Bytes> content;
+    std::vector<RowId> before;
+};
+using LongChanges = std::vector<LongChange>;
+
+// Puts a memo value, or Null, into the row. What needs other pages has its length there and is left to
+// storeLong().
+LongChange setLong(Row& row, const Column& column, const Value& value) {
+    LongChange change{&column, encodeValue(column, value), {}};
+    if (!change.content) {
+        row.set(column, {});
+    } else if (std::optional<Bytes> inRow = longValueInRow(*change.content)) {
+        row.setStored(column, std::move(inRow));
+        change.content.reset();
+    } else {
+        Bytes head(longValueHead);
+        store32(head.data(), static_cast<uint32_t>(change.content->size()));
+        row.setStored(column, std::move(head));
+    }
+    return change;
+}
+
+void storeLong(TableState& state, Row& row, const LongChanges& changes) {
+    for (const LongChange& change : changes) {
+        LongValuePages& pages = state.pagesOf(*change.column);
+        pages.free(change.before);
+        if (change.content) row.setStored(*change.column, pages.store(*change.content));
+    }
+}
+
+bool sameLongValue(const TableState& state, const Row& stored, const Column& column, const Value& value) {
+    const StoredField old = stored.field(column);
+    if (old.null) return std::holds_alternative<std::monostate>(value);
+    return decodeValue(column, readLongValue(state.file, old.bytes)) == value;
+}
+
 // A column that can be written again without changing the row is no obstacle.
-bool changes(Row& row, const Column& column, const Value& value) {
+bool changes(const TableState& state, const Row& old, Row& row, const Column& column, const Value& value) {
+    if (isLong(column)) return !sameLongValue(state, old, column, value);
     std::string why;
     return !isWritable(column, why) || row.set(column, value);
 }
@@ -49,7 +94,7 @@ using LongRows = std::vector<std::pair<const Column*, std::vector<RowId>>>;
 LongRows longRowsOf(const TableState& state, const Row& row) {
     LongRows all;
     for (const Column& column : state.definition.columns) {
-        if (column.type != Type::Memo && column.type != Type::Ole) continue;
+        if (!isLong(column)) continue;
         const StoredField field = row.field(column);
         if (!field.null) all.emplace_back(&column, longValueRows(state.file, field.bytes));
     }
@@ -74,6 +119,10 @@ void requireTransaction(const TableState& state) {
 }
 
 }  // namespace
+
+LongValuePages& TableState::pagesOf(const Column& column) {
+    return longValues.try_emplace(column.number, file, column).first->second;
+}
 
 int32_t TableState::lastAutoNumber() {
     return static_cast<int32_t>(load32(&(*file.page(definition.page))[definition::autoNumber]));
@@ -148,8 +197,13 @@ Result<RowId> Table::insert(std::span<const Value> values) {
             fail(ErrorCode::TypeMismatch, "Il numero dei valori non è quello dei campi della tabella \"",
                  table.name, "\".");
         Row row(table);
-        for (size_t i = 0; i < values.size(); ++i)
-            row.set(table.columns[i], values[i]);
+        LongChanges longs;
+        for (size_t i = 0; i < values.size(); ++i) {
+            if (isLong(table.columns[i]))
+                longs.push_back(setLong(row, table.columns[i], values[i]));
+            else
+                row.set(table.columns[i], values[i]);
+        }
         const Column* counter = autoNumberColumn(table);
         if (counter && row.isNull(*counter)) row.set(*counter, int64_t{nextAutoNumber(*m_state)});
         for (const Column& column : table.columns)
@@ -159,13 +213,14 @@ Result<RowId> Table::insert(std::span<const Value> values) {
             keys.push_back(keyToWrite(table, index, fieldsOf(row)));
             requireFits(*m_state, index, row, keys.back());
         }
-        const Bytes bytes = row.bytes();
+        (void)row.bytes();  // too long a record is refused before anything is written
 
         RowId id;
         apply(*m_state, [&] {
+            storeLong(*m_state, row, longs);
             if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
                 m_state->setAutoNumber(*row.longValue(*counter));
-            id = m_state->rows.insert(bytes);
+            id = m_state->rows.insert(row.bytes());
             for (size_t i = 0; i < keys.size(); ++i)
                 insertEntry(*m_state, i, row, keys[i], id);
             m_state->addToRowCount(1);
@@ -184,12 +239,20 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
         if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
         const Row old(table, stored->bytes);
         Row row = old;
+        LongChanges longs;
         std::vector<uint16_t> numbers;
         for (const auto& [position, value] : changed) {
             const Column& column = table.columns[position];
-            if (!changes(row, column, value)) continue;
+            if (!changes(*m_state, old, row, column, value)) continue;
             if (column.autoNumber) refuse(table, phrase("il campo \"", column.name, "\" è un contatore"));
-            requireUpdatable(*m_state, position);
+            const bool emptied = column.type == Type::Ole && std::holds_alternative<std::monostate>(value);
+            if (!emptied) requireUpdatable(*m_state, position);
+            if (isLong(column)) {
+                LongChange change = setLong(row, column, value);
+                const StoredField before = old.field(column);
+                if (!before.null) change.before = longValueRows(m_state->file, before.bytes);
+                longs.push_back(std::move(change));
+            }
             requireAllowed(column, row);
             numbers.push_back(column.number);
         }
@@ -207,10 +270,11 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
             requireFits(*m_state, index, row, key);
             moved.emplace_back(i, std::move(key));
         }
-        const Bytes bytes = row.bytes();
+        (void)row.bytes();
 
         apply(*m_state, [&] {
-            m_state->rows.update(id, bytes);
+            storeLong(*m_state, row, longs);
+            m_state->rows.update(id, row.bytes());
             for (const auto& [i, key] : moved) {
                 eraseEntry(*m_state, i, old, id);
                 insertEntry(*m_state, i, row, key, id);
@@ -234,7 +298,7 @@ Status Table::erase(RowId id) {
             for (size_t i = 0; i < table.indexes.size(); ++i)
                 eraseEntry(*m_state, i, row, id);
             for (const auto& [column, rows] : values)
-                freeLongValueRows(m_state->file, *column, rows);
+                m_state->pagesOf(*column).free(rows);
             m_state->rows.erase(id);
             m_state->addToRowCount(-1);
         });

@@ -12,6 +12,9 @@ namespace jet {
 
 namespace {
 
+// In UTF-16 units; 30 bits hold the length in bytes.
+constexpr size_t longestMemo = (size_t{1} << 29) - 1;
+
 template <class Wanted>
 const Wanted& expect(const Column& column, const Value& value) {
     if (const Wanted* wanted = std::get_if<Wanted>(&value)) return *wanted;
@@ -54,9 +57,11 @@ Bytes singleBytes(const Column& column, double number) {
 
 Bytes textBytes(const Column& column, const std::string& utf8) {
     const std::u16string text = toUtf16(utf8);
-    if (text.size() > column.length / 2u)
+    const bool memo = column.type == Type::Memo;
+    if (text.size() > (memo ? longestMemo : column.length / 2u))
         fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name,
-             "\" è troppo piccolo per il testo (al massimo ", column.length / 2, " caratteri).");
+             "\" è troppo piccolo per il testo (al massimo ", memo ? longestMemo : column.length / 2u,
+             " caratteri).");
     if (std::optional<Bytes> bytes = encodeText(text, column.compressed)) return std::move(*bytes);
     fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
          "\" contiene caratteri che il database non può conservare.");
@@ -100,13 +105,11 @@ size_t fixedLength(const Column& column) {
 
 bool isWritable(const Column& column, std::string& why) {
     switch (column.type) {
-        case Type::Memo:
-            why = "è di tipo memo";
-            return false;
         case Type::Ole:
             why = "contiene un oggetto OLE";
             return false;
         case Type::Text:
+        case Type::Memo:
             why = "è un testo di lunghezza fissa";
             return !column.fixed;
         case Type::YesNo:
@@ -148,6 +151,7 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
         case Type::Date:
             return littleEndian(std::bit_cast<uint64_t>(finite(column, expect<Date>(column, value).days)), 8);
         case Type::Text:
+        case Type::Memo:
             return textBytes(column, expect<std::string>(column, value));
         case Type::Binary:
         case Type::Guid:

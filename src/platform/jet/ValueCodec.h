@@ -10,7 +10,8 @@ namespace jet {
 
 /// Bytes to store for a value, nothing for Null. Throws Failure for a value that the column cannot hold:
 /// another type (TypeMismatch), a number out of range (Overflow), text or bytes too long (FieldTooSmall), or
-/// a column that cannot be written (NotSupported); the text names the column.
+/// a column that cannot be written (NotSupported); the text names the column. Of a memo it is the content,
+/// which Row does not take (see LongValue.h).
 std::optional<Bytes> encodeValue(const Column& column, const Value& value);
 /// The value of a yes/no column; Null is False.
 bool yesNoValue(const Column& column, const Value& value);

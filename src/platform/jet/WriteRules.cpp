@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/jet/IndexTree.h"
+#include "platform/jet/LongValue.h"
 #include "platform/jet/ValueCodec.h"
 
 namespace jet {
@@ -79,8 +80,7 @@ void requireWritable(TableState& state) {
         requireKept(state, i);
     for (const Column& column : table.columns) {
         std::string why;
-        const bool longValue = column.type == Type::Memo || column.type == Type::Ole;  // Null can be written
-        if (!longValue && !isWritable(column, why))
+        if (column.type != Type::Ole && !isWritable(column, why))  // Null can be written
             refuse(table, phrase("il campo \"", column.name, "\" ", why));
         if (column.autoGuid)
             refuse(table, phrase("il campo \"", column.name, "\" è un contatore di tipo GUID"));
@@ -107,7 +107,9 @@ void requireAllowed(const Column& column, const Row& row) {
     const StoredField field = row.field(column);
     if (column.required && field.null)
         fail(ErrorCode::ValueRequired, "Il campo \"", column.name, "\" deve contenere un valore.");
-    if (!column.allowZeroLength && column.type == Type::Text && !field.null && field.bytes.empty())
+    const bool empty = (column.type == Type::Text && field.bytes.empty()) ||
+                       (column.type == Type::Memo && longValueLength(field.bytes) == 0);
+    if (!column.allowZeroLength && !field.null && empty)
         fail(ErrorCode::ValueRequired, "Il campo \"", column.name, "\" non può contenere un testo vuoto.");
 }
 
