@@ -35,11 +35,11 @@ class TestDatabase : public ::testing::Test {
 
     QString inFolder(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
-    Result<qint64> tryRun(const QString& statement) const {
+    Result<qint64> tryRun(const QString& statement, int timeout = 0) const {
         Command command;
         if (Status status = command.setActiveConnection(connection); !status.ok()) return status;
         command.setCommandText(statement);
-        command.setCommandTimeout(0);
+        command.setCommandTimeout(timeout);
         return command.execute();
     }
     /// Runs a statement that has to work; the number of rows it touched.

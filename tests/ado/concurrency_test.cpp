@@ -114,7 +114,7 @@ TEST_F(ConcurrencyTest, AFileThatStaysLockedEndsInAClearError) {
     auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());
     ASSERT_TRUE(other.value()->begin().ok());
-    const Status status = tryRun(QStringLiteral("UPDATE tb_gruppi SET nome = 'b'")).status();
+    const Status status = tryRun(QStringLiteral("UPDATE tb_gruppi SET nome = 'b'"), 1).status();
     EXPECT_EQ(status.code(), ErrorCode::FileInUse);
     EXPECT_TRUE(status.text().contains(QStringLiteral("in uso"))) << ado::words(status);
     other.value()->rollback();

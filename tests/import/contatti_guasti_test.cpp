@@ -4,6 +4,7 @@
 
 #include "import/contatti_stage.h"
 #include "platform/jet/Database.h"
+#include "support/Impatience.h"
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -136,6 +137,7 @@ class TestImportContattiGuasti : public QObject {
                           contactLine("eva@example.it", ""));
         stage.window();
         stage.chooseRoot();
+        const testing_support::Impatience impatience;
         auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
         QTimer::singleShot(0, [&] {
             esigi(other->begin());

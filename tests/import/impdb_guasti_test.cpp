@@ -6,6 +6,7 @@
 #include "import/impdb_stage.h"
 #include "platform/jet/Database.h"
 #include "store/Schema.h"
+#include "support/Impatience.h"
 
 using namespace testing_support;
 
@@ -169,6 +170,7 @@ class TestImportDbGuasti : public QObject {
     void aSourceThatSomebodyElseWritesToTellsSo() {
         DbStage stage;
         stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
+        const testing_support::Impatience impatience;
         auto other = esigi(jet::Database::open(stage.source().toStdString()));
         esigi(other->begin());
         stage.answerBox();
@@ -187,6 +189,7 @@ class TestImportDbGuasti : public QObject {
         stage.open();
         stage.feed(2, "mail");
         {
+            const testing_support::Impatience impatience;
             auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
             esigi(other->begin());
             stage.answerBox();

@@ -5,6 +5,7 @@
 
 #include "import/imptxt_stage.h"
 #include "platform/jet/Database.h"
+#include "support/Impatience.h"
 
 using namespace testing_support;
 
@@ -237,6 +238,7 @@ class TestImportTxtGuasti : public QObject {
         stage.chooseNode(1);
         stage.map(stage.write("a.txt", "a@x.it\r\n"), 1);
         {
+            const testing_support::Impatience impatience;
             auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
             esigi(other->begin());
             ui::MessageDialog::queue(ui::MessageDialog::Ok);

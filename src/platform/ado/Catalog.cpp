@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include "platform/ado/Session.h"
+#include "platform/ado/Waiting.h"
 
 namespace ado {
 
 Result<std::vector<Catalog::TableEntry>> Catalog::tables() const {
+    const Waiting waiting(m_timeout);
     const auto session = Session::open(m_connection);
     if (!session.ok()) return session.status();
     const auto entries = session.value()->database().catalog();
@@ -25,6 +27,7 @@ Result<std::vector<Catalog::TableEntry>> Catalog::tables() const {
 }
 
 Result<std::vector<Catalog::ColumnEntry>> Catalog::columns(const QString& table) const {
+    const Waiting waiting(m_timeout);
     const auto session = Session::open(m_connection);
     if (!session.ok()) return session.status();
     const auto found = session.value()->database().table(table.toStdString());

@@ -24,7 +24,11 @@ class Catalog {
         bool autoNumber = false;
     };
 
-    void setActiveConnection(const Connection& connection) { m_connection = connection.text(); }
+    /// Its time-out bounds the waits of this catalogue as well.
+    void setActiveConnection(const Connection& connection) {
+        m_connection = connection.text();
+        m_timeout = connection.connectionTimeout();
+    }
 
     /// All entries, by name without regard to case.
     Result<std::vector<TableEntry>> tables() const;
@@ -33,6 +37,7 @@ class Catalog {
 
   private:
     QString m_connection;
+    int m_timeout = Connection().connectionTimeout();
 };
 
 }  // namespace ado

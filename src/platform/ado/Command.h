@@ -10,13 +10,15 @@ namespace ado {
 /// One INSERT, UPDATE or DELETE statement given as text.
 class Command {
   public:
-    /// Names the database, and opens it so that a missing or foreign file is told here.
+    /// Names the database; fails for a missing or foreign file and a wrong password. It takes no lock, so it
+    /// never waits for other programs.
     Status setActiveConnection(const QString& connectionText);
     Status setActiveConnection(const Connection& connection) {
         return setActiveConnection(connection.text());
     }
     void setCommandText(const QString& statement) { m_statement = statement; }
-    /// Seconds after which a statement is given up and undone; 0 is without limit.
+    /// Seconds after which a statement is given up and undone; 0 is without limit. They bound its waits for
+    /// other programs (then FileInUse) and its own run (then Timeout) together.
     void setCommandTimeout(int seconds) { m_timeout = seconds; }
     /// A hint only: statements of the same shape are compiled once in any case.
     void setPrepared(bool prepared) { m_prepared = prepared; }

@@ -1,10 +1,12 @@
 #include "platform/ado/Connection.h"
 
 #include "platform/ado/Session.h"
+#include "platform/ado/Waiting.h"
 
 namespace ado {
 
 Status Connection::open(const QString& connectionText) {
+    const Waiting waiting(m_timeout);
     const auto session = Session::open(connectionText);
     if (!session.ok()) return session.status();
     m_text = connectionText;

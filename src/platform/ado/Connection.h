@@ -11,6 +11,9 @@ namespace ado {
 /// other through the shared pool of open files.
 class Connection {
   public:
+    /// Longest wait of open() for other programs, in seconds; 0 is without limit.
+    void setConnectionTimeout(int seconds) { m_timeout = seconds; }
+    int connectionTimeout() const { return m_timeout; }
     /// Fails for a text that cannot be understood, a missing, unreadable, damaged or foreign file, a wrong
     /// password. The text of the failure can be shown to the user.
     Status open(const QString& connectionText);
@@ -20,6 +23,7 @@ class Connection {
 
   private:
     QString m_text;
+    int m_timeout = 15;
 };
 
 /// Lets go of every open database file. For the moment before a file is replaced or removed; whatever comes

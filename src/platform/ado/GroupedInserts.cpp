@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/ado/Session.h"
+#include "platform/ado/Waiting.h"
 
 namespace ado {
 
@@ -17,10 +18,7 @@ GroupedInserts::~GroupedInserts() {
 Status GroupedInserts::setActiveConnection(const QString& connectionText) {
     if (Status status = commit(); !status.ok()) return status;
     m_connection = connectionText;
-    auto session = Session::open(connectionText);
-    if (!session.ok()) return session.status();
-    m_session = std::move(session).value();
-    return {};
+    return Session::attach(connectionText);
 }
 
 Status GroupedInserts::execute(const QString& text) {
@@ -29,19 +27,21 @@ Status GroupedInserts::execute(const QString& text) {
     if (!statement.ok()) return statement.status();
     if (statement.value().verb != StatementText::Verb::Insert || !statement.value().readFrom.isEmpty())
         return {ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una INSERT di valori.")};
+    const Waiting waiting(0);
     if (m_progress.taken == 0) {
-        auto session = Session::open(m_connection);
+        auto session = Session::beginGroup(m_connection, m_progress);
         if (!session.ok()) return session.status();
         m_session = std::move(session).value();
         m_began = Clock::now();
     }
-    Status status = m_session->insertInGroup(m_progress, statement.value());
+    Status status = m_session->insertInGroup(statement.value());
     if (!status.ok()) return status;
     if (m_progress.taken >= m_groupSize || Clock::now() - m_began >= m_groupAge) return commit();
     return {};
 }
 
 Status GroupedInserts::commit() {
+    const Waiting waiting(0);
     if (m_progress.taken > 0) m_session->commitGroup();
     return std::exchange(m_progress.failure, Status());
 }

@@ -43,7 +43,7 @@ class GroupedInserts {
     GroupedInserts(const GroupedInserts&) = delete;
     GroupedInserts& operator=(const GroupedInserts&) = delete;
 
-    /// Names the database, and opens it so that a missing or foreign file is told here.
+    /// Names the database; fails for a missing or foreign file.
     Status setActiveConnection(const QString& connectionText);
     Status setActiveConnection(const Connection& connection) {
         return setActiveConnection(connection.text());
@@ -54,10 +54,10 @@ class GroupedInserts {
     std::chrono::milliseconds groupAge() const { return m_groupAge; }
     void setGroupAge(std::chrono::milliseconds age) { m_groupAge = age; }
 
-    /// Takes one INSERT INTO … VALUES. Its failures are those of Command::execute(), besides NotSupported for
-    /// a statement of another kind; the statement then has done nothing, and the rows taken before it stay.
-    /// When the commit of a group fails, that failure is given once, here or by commit(), and none of the
-    /// group's rows stands in the file.
+    /// Takes one INSERT INTO … VALUES. It waits for other programs without end. Its failures are those of
+    /// Command::execute(), besides NotSupported for a statement of another kind; the statement then has done
+    /// nothing, and the rows taken before it stay. When the commit of a group fails, that failure is given
+    /// once, here or by commit(), and none of the group's rows stands in the file.
     Status execute(const QString& statement);
     /// Commits the rows taken since the last commit; nothing to do is success.
     Status commit();

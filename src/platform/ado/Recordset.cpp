@@ -6,6 +6,7 @@
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Rows.h"
+#include "platform/ado/Waiting.h"
 
 namespace ado {
 
@@ -52,6 +53,7 @@ struct Recordset::Data {
     std::unique_ptr<Rows> rows;  ///< null when closed
     size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
+    bool lost = false;     ///< the last move failed: no row is the current one, nor any mark
     jet::Bytes bytes;      ///< of the current row, where rows are told by their identities
     bool present = false;  ///< false: it was deleted since it was found
 
@@ -60,7 +62,7 @@ struct Recordset::Data {
     jet::RowId added;  ///< the row that was posted last
 
     /// Whether there is a current row; it may have been deleted.
-    bool onRow() const { return rows && !beforeFirst && current < rows->known(); }
+    bool onRow() const { return rows && !lost && !beforeFirst && current < rows->known(); }
     bool pending() const { return adding || !changes.empty(); }
     void drop() {
         adding = false;
@@ -82,7 +84,7 @@ Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
 Status Recordset::setActiveConnection(const QString& connectionText) {
     m_data->connection = connectionText;
-    return Session::open(connectionText).status();
+    return Session::attach(connectionText);
 }
 
 void Recordset::setCursorType(CursorType type) {
@@ -98,6 +100,7 @@ void Recordset::setSource(const QString& statement) {
 
 Status Recordset::open() {
     close();
+    const Waiting waiting(recordsetSeconds);
     const auto session = Session::open(m_data->connection);
     if (!session.ok()) return session.status();
     const Result<StatementText> statement = StatementText::read(m_data->source);
@@ -124,7 +127,7 @@ bool Recordset::isOpen() const {
 }
 
 bool Recordset::isBof() const {
-    return !m_data->rows || m_data->beforeFirst || m_data->rows->known() == 0;
+    return !m_data->rows || m_data->lost || m_data->beforeFirst || m_data->rows->known() == 0;
 }
 
 bool Recordset::isEof() const {
@@ -144,7 +147,7 @@ Status Recordset::move(qint64 rows) {
     if (!isOpen()) return notOpen();
     if (data.pending())
         if (Status status = update(); !status.ok()) return status;
-    if (rows == 0) return {};
+    if (rows == 0) return data.lost ? noCurrentRecord() : Status();
     if ((rows > 0 && isEof()) || (rows < 0 && isBof())) return noCurrentRecord();
     const qint64 from = data.beforeFirst ? -1 : static_cast<qint64>(data.current);
     if (rows < 0 && -rows > from) {
@@ -156,6 +159,7 @@ Status Recordset::move(qint64 rows) {
 
 qint64 Recordset::recordCount() {
     if (!isOpen() || m_data->cursorType == CursorType::ForwardOnly) return -1;
+    const Waiting waiting(recordsetSeconds);
     if (!m_data->session->refresh().ok() || !m_data->rows->finish().ok()) return -1;
     return static_cast<qint64>(m_data->rows->known());
 }
@@ -177,15 +181,21 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
     return static_cast<size_t>(found - names.begin());
 }
 
-/// Makes that row the current one, or the end mark when there are not so many.
+/// Makes that row the current one, or the end mark when there are not so many. After a failure there is no
+/// current row.
 Status Recordset::Data::goTo(size_t row) {
+    const Waiting waiting(recordsetSeconds);
+    lost = true;
     const jet::ReadScope reading(session->database());
     if (!reading.status().ok()) return reading.status();
     if (Status status = session->refresh(); !status.ok()) return status;
     if (Status status = rows->reach(row + 1); !status.ok()) return status;
     current = std::min(row, rows->known());
     beforeFirst = false;
-    return load();
+    lost = false;
+    Status status = load();
+    lost = !status.ok();
+    return status;
 }
 
 Status Recordset::Data::load() {
@@ -211,6 +221,7 @@ Result<Value> Recordset::Data::field(size_t column) {
     const jet::Type type = definition.columns[column].type;
     if (type != jet::Type::Memo && type != jet::Type::Ole)
         return Value(readable(definition.columns[column], jet::RowView(&definition, bytes).value(column)));
+    const Waiting waiting(recordsetSeconds);
     Result<jet::Value> value = rows->table()->longValue(rows->id(current), column);
     if (!value.ok()) return value.status();
     return Value(std::move(value).value());
@@ -243,6 +254,7 @@ Status Recordset::setValue(QStringView name, const Value& value) {
     if (!column) return unknownField(name.toString());
     if (!data.adding) {
         if (!data.onRow()) return noCurrentRecord();
+        const Waiting waiting(recordsetSeconds);
         const size_t changed = *column;
         if (Status status = data.rows->table()->updatable({&changed, 1}); !status.ok()) return status;
     }
@@ -257,16 +269,21 @@ Status Recordset::addNew() {
     if (Status status = data.updatable(); !status.ok()) return status;
     if (data.pending())
         if (Status status = update(); !status.ok()) return status;
-    if (Status status = data.session->refresh(); !status.ok()) return status;
-    if (Status status = data.rows->table()->writable(); !status.ok()) return status;
-    const auto& columns = data.rows->table()->definition().columns;
+    const Waiting waiting(recordsetSeconds);
+    JetTable& table = *data.rows->table();
     Changes fixed;
-    for (size_t i = 0; i < columns.size(); ++i) {
-        if (!columns[i].autoNumber) continue;
-        const Result<int32_t> number = data.rows->table()->takeAutoNumber();
-        if (!number.ok()) return number.status();
-        fixed.emplace_back(i, static_cast<int64_t>(number.value()));
-    }
+    Status status = data.session->write([&]() -> Status {
+        if (Status refused = table.writable(); !refused.ok()) return refused;
+        const auto& columns = table.definition().columns;
+        for (size_t i = 0; i < columns.size(); ++i) {
+            if (!columns[i].autoNumber) continue;
+            const Result<int32_t> number = table.takeAutoNumber();
+            if (!number.ok()) return number.status();
+            fixed.emplace_back(i, static_cast<int64_t>(number.value()));
+        }
+        return {};
+    });
+    if (!status.ok()) return status;
     data.changes = std::move(fixed);
     data.adding = true;
     return {};
@@ -307,11 +324,13 @@ Status Recordset::update() {
     Data& data = *m_data;
     if (Status status = data.updatable(); !status.ok()) return status;
     if (!data.pending()) return data.onRow() ? Status() : noCurrentRecord();
+    const Waiting waiting(recordsetSeconds);
     if (Status status = data.session->write([&] { return data.post(); }); !status.ok()) return status;
     if (data.adding) {
         data.rows->append(data.added);
         data.current = data.rows->known() - 1;
         data.beforeFirst = false;
+        data.lost = false;
     }
     data.drop();
     return data.load();

@@ -21,7 +21,11 @@ enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 /// shows a row as it was at the moment when it became the current one: fields that were changed since the
 /// recordset was opened show their new value, a row that was deleted since fails with NoCurrentRecord when it
 /// is read, rows inserted since are not seen. Rows that are equal in the sort columns come in the same order
-/// each time. No lock is held between two calls.
+/// each time. No lock is held between two calls; a call waits for other programs for 30 seconds at most.
+///
+/// A move that fails leaves no current row: fields cannot be read, and both marks are reported, until
+/// moveFirst() succeeds. Only where the change that is posted before a move is refused, the row stays with
+/// its change, so that it can be posted again.
 class Recordset {
   public:
     Recordset();
@@ -29,7 +33,8 @@ class Recordset {
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    /// Names the database, and opens it so that a missing or foreign file is told here.
+    /// Names the database; fails for a missing or foreign file and a wrong password. It takes no lock, so it
+    /// never waits for other programs.
     Status setActiveConnection(const QString& connectionText);
     Status setActiveConnection(const Connection& connection) {
         return setActiveConnection(connection.text());

@@ -9,7 +9,9 @@
 #include "platform/ado/JetModule.h"
 #include "platform/ado/Rows.h"
 #include "platform/ado/SqlTokens.h"
+#include "platform/ado/Waiting.h"
 #include "platform/jet/GeneralOrder.h"
+#include "platform/jet/Probe.h"
 
 namespace ado {
 
@@ -75,33 +77,51 @@ Status statementFailure(const QString& message) {
 
 }  // namespace
 
-Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
+/// The file and password of a connection text.
+struct Session::Target {
+    QString canonical;   ///< tells it from other files; empty where there is none
+    std::string native;  ///< in the file system's encoding
+    QString password;
+
+    static Result<Target> read(const QString& connectionText);
+};
+
+Result<Session::Target> Session::Target::read(const QString& connectionText) {
     const Result<ConnectionText> parsed = ConnectionText::parse(connectionText);
     if (!parsed.ok()) return parsed.status();
-    const ConnectionText& target = parsed.value();
-    const QString canonical = QFileInfo(target.path).canonicalFilePath();
-    const std::string native = QFile::encodeName(canonical.isEmpty() ? target.path : canonical).toStdString();
+    const ConnectionText& text = parsed.value();
+    const QString canonical = QFileInfo(text.path).canonicalFilePath();
+    const QByteArray native = QFile::encodeName(canonical.isEmpty() ? text.path : canonical);
+    return Target{canonical, native.toStdString(), text.password};
+}
+
+Status Session::attach(const QString& connectionText) {
+    const Result<Target> target = Target::read(connectionText);
+    return target.ok() ? jet::probe(target.value().native, target.value().password.toStdString())
+                       : target.status();
+}
+
+/// The pooled session of that file, or null; it has become the most recently used one.
+Result<std::shared_ptr<Session>> Session::pooled(const Target& target) {
     auto& entries = pool();
     const auto known = std::find_if(entries.begin(), entries.end(),
-                                    [&](const auto& entry) { return entry.path == canonical; });
+                                    [&](const auto& entry) { return entry.path == target.canonical; });
+    if (known == entries.end()) return std::shared_ptr<Session>();
+    if (known->password != target.password)
+        if (Status status = jet::probe(target.native, target.password.toStdString()); !status.ok())
+            return status;
+    std::rotate(known, known + 1, entries.end());
+    return entries.back().session;
+}
+
+Result<std::shared_ptr<Session>> Session::make(const Target& target) {
+    auto& entries = pool();
+    std::erase_if(entries, [&](const auto& entry) { return entry.path == target.canonical; });
     jet::Database::Options options;
     options.password = target.password.toStdString();
     options.cachedPages = cachedPages;
-    if (known != entries.end()) {
-        if (known->password != target.password) {
-            known->session->commitGroup();
-            const auto probe = jet::Database::open(native, options);
-            if (!probe.ok()) return probe.status();
-        }
-        const Status status = known->session->refresh();
-        if (status.code() == ErrorCode::FileInUse) return status;
-        if (status.ok()) {
-            std::rotate(known, known + 1, entries.end());
-            return entries.back().session;
-        }
-        entries.erase(known);
-    }
-    auto database = jet::Database::open(native, options);
+    options.lockWait = Waiting::lockWait();
+    auto database = jet::Database::open(target.native, options);
     if (!database.ok()) return database.status();
     std::shared_ptr<Session> session(new Session(std::move(database).value()));
     if (Status status = session->start(); !status.ok()) return status;
@@ -110,11 +130,45 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
                                        [](const auto& entry) { return entry.session.use_count() == 1; });
         if (idle != entries.end()) entries.erase(idle);
     }
-    entries.push_back({canonical, target.password, session});
+    entries.push_back({target.canonical, target.password, session});
     return session;
 }
 
+Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
+    const Result<Target> target = Target::read(connectionText);
+    if (!target.ok()) return target.status();
+    const auto known = pooled(target.value());
+    if (!known.ok()) return known;
+    if (known.value()) {
+        const Status status = known.value()->refresh();
+        if (status.ok()) return known;
+        if (status.code() == ErrorCode::FileInUse) return status;
+    }
+    return make(target.value());
+}
+
+/// The session of that file with a transaction begun on it.
+Result<std::shared_ptr<Session>> Session::openForWriting(const QString& connectionText) {
+    const Result<Target> target = Target::read(connectionText);
+    if (!target.ok()) return target.status();
+    const auto known = pooled(target.value());
+    if (!known.ok()) return known;
+    if (known.value()) {
+        known.value()->commitGroup();
+        const Status status = known.value()->begin();
+        if (status.ok()) return known;
+        if (status.code() == ErrorCode::FileInUse || status.code() == ErrorCode::ReadOnlyDatabase)
+            return status;
+    }
+    auto made = make(target.value());
+    if (!made.ok()) return made;
+    Status status = made.value()->begin();
+    if (!status.ok()) return status;
+    return made;
+}
+
 void Session::closeAll() {
+    const Waiting waiting(recordsetSeconds);
     for (const PoolEntry& entry : pool())
         entry.session->commitGroup();
     pool().clear();
@@ -265,11 +319,11 @@ Status Session::finishReaders() {
 }
 
 Status Session::begin() {
-    if (Status status = finishReaders(); !status.ok()) return status;
     if (Status status = m_database->begin(); !status.ok()) return status;
     for (auto& [name, table] : m_tables)
         table->beginStatement();
-    Status status = refresh();
+    Status status = finishReaders();
+    if (status.ok()) status = refresh();
     return status.ok() ? status : end(std::move(status));
 }
 
@@ -288,25 +342,32 @@ Status Session::write(const std::function<Status()>& work) {
     return end(work());
 }
 
-Status Session::insertInGroup(GroupProgress& group, const StatementText& statement) {
-    if (const auto target = table(statement.table); !target.ok()) return target.status();
-    const Result<Prepared> prepared = prepare(statement.sql, statement.values);
-    if (!prepared.ok()) return prepared.status();
-    if (m_group != &group) {
-        commitGroup();
-        if (Status status = begin(); !status.ok()) return status;
-        m_group = &group;
-    } else if (Status status = finishReaders(); !status.ok()) {
-        return status;
-    }
-    if (sqlite3_step(prepared.value().get()) == SQLITE_DONE) {
-        ++group.taken;
-        return {};
-    }
-    Status failure = takeFailure();
-    sqlite3_reset(prepared.value().get());
-    commitGroup();
-    return failure;
+Status Session::write(const QString& connectionText, const std::function<Status(Session&)>& work) {
+    const auto session = openForWriting(connectionText);
+    return session.ok() ? session.value()->end(work(*session.value())) : session.status();
+}
+
+Result<std::shared_ptr<Session>> Session::beginGroup(const QString& connectionText, GroupProgress& group) {
+    auto session = openForWriting(connectionText);
+    if (session.ok()) session.value()->m_group = &group;
+    return session;
+}
+
+Status Session::insertInGroup(const StatementText& statement) {
+    bool refused = false;
+    const auto insert = [&]() -> Status {
+        if (Status status = finishReaders(); !status.ok()) return status;
+        if (const auto target = table(statement.table); !target.ok()) return target.status();
+        const Result<Prepared> prepared = prepare(statement.sql, statement.values);
+        if (!prepared.ok()) return prepared.status();
+        refused = sqlite3_step(prepared.value().get()) != SQLITE_DONE;
+        return refused ? takeFailure() : Status();
+    };
+    Status status = insert();
+    if (status.ok()) ++m_group->taken;
+    // A group of nothing would keep the lock for nothing.
+    if (refused || m_group->taken == 0) commitGroup();
+    return status;
 }
 
 void Session::commitGroup() {

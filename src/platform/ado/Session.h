@@ -31,8 +31,13 @@ using Prepared = std::unique_ptr<sqlite3_stmt, KeepStatement>;
 /// and orders.
 class Session {
   public:
+    /// Whether `connectionText` names a file that can be a database. Takes no lock.
+    static Status attach(const QString& connectionText);
     /// The session of the file that `connectionText` names, in agreement with the file as it is now.
     static Result<std::shared_ptr<Session>> open(const QString& connectionText);
+    /// Runs `work` on that session as one transaction: durable when it succeeds, undone when it fails. The
+    /// writer's lock is taken before anything is read.
+    static Status write(const QString& connectionText, const std::function<Status(Session&)>& work);
     /// Empties the pool. A session that is in use lives on until its last user lets go of it.
     static void closeAll();
     ~Session();
@@ -49,12 +54,14 @@ class Session {
     /// Whatever is not reading, inserting, changing or deleting rows of known tables is refused.
     Result<Prepared> prepare(const QByteArray& sql, const std::vector<jet::Value>& values);
 
-    /// Runs `work` as one transaction: durable when it succeeds, undone when it fails.
+    /// The same for whoever has a session.
     Status write(const std::function<Status()>& work);
 
-    /// Runs an INSERT of one row inside the transaction of a group, which stays open when it succeeds; a row
-    /// that is refused ends the group with a commit of those before.
-    Status insertInGroup(GroupProgress& group, const StatementText& statement);
+    /// Begins the transaction of a group on the session of `connectionText`.
+    static Result<std::shared_ptr<Session>> beginGroup(const QString& connectionText, GroupProgress& group);
+    /// Runs an INSERT of one row inside the open group. A row that is refused ends the group with a commit of
+    /// those before.
+    Status insertInGroup(const StatementText& statement);
     /// Ends the open group and tells its progress how that went.
     void commitGroup();
 
@@ -75,6 +82,10 @@ class Session {
 
   private:
     explicit Session(std::unique_ptr<jet::Database> database) : m_database(std::move(database)) {}
+    struct Target;
+    static Result<std::shared_ptr<Session>> pooled(const Target& target);
+    static Result<std::shared_ptr<Session>> make(const Target& target);
+    static Result<std::shared_ptr<Session>> openForWriting(const QString& connectionText);
     Status start();
     Status finishReaders();
     Status begin();

@@ -5,6 +5,7 @@
 
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Rows.h"
+#include "platform/ado/Waiting.h"
 
 namespace ado {
 
@@ -22,6 +23,7 @@ constexpr uint32_t noRow = 0xffffffff;
 Snapshot::Snapshot() : m_definition(std::make_shared<jet::TableDefinition>()) {}
 
 Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& statement) {
+    const Waiting waiting(recordsetSeconds);
     const auto session = Session::open(connectionText);
     if (!session.ok()) return session.status();
     const Result<StatementText> text = StatementText::read(statement);

@@ -1,0 +1,44 @@
+#include "platform/ado/Waiting.h"
+
+#include <utility>
+
+namespace ado {
+
+namespace {
+
+WaitHook installed;
+Waiting* underWay = nullptr;  ///< the outermost one
+
+}  // namespace
+
+WaitHook setWaitHook(WaitHook hook) {
+    return std::exchange(installed, std::move(hook));
+}
+
+Waiting::Waiting(int seconds) {
+    if (seconds > 0) m_end = Clock::now() + std::chrono::seconds(seconds);
+    if (!underWay) underWay = this;
+}
+
+Waiting::~Waiting() {
+    if (underWay != this) return;
+    underWay = nullptr;
+    if (m_blocked && installed.over) installed.over();
+}
+
+bool Waiting::goOn(std::chrono::milliseconds waited) {
+    const Clock::time_point now = Clock::now();
+    if (m_givenUp || (m_end && now >= *m_end)) return false;
+    if (!m_blocked) m_blocked = now - waited;
+    const auto soFar = std::chrono::duration_cast<std::chrono::milliseconds>(now - *m_blocked);
+    m_givenUp = installed.goOn && !installed.goOn(soFar);
+    return !m_givenUp;
+}
+
+jet::LockWait Waiting::lockWait() {
+    return {std::nullopt, [](std::chrono::milliseconds waited) {
+                return underWay ? underWay->goOn(waited) : waited < std::chrono::seconds(recordsetSeconds);
+            }};
+}
+
+}  // namespace ado

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include "platform/jet/LockWait.h"
+
+namespace ado {
+
+/// Who is asked while a statement waits for another process. Neither function may throw, nor use the
+/// database.
+struct WaitHook {
+    /// Called every few milliseconds from the thread that waits, with the time since this statement first had
+    /// to wait; false gives the statement up, which then fails with FileInUse.
+    std::function<bool(std::chrono::milliseconds waited)> goOn;
+    /// Called once before a statement that had to wait returns, whatever became of it.
+    std::function<void()> over;
+};
+/// Installs the hook for all statements of the program and gives the one before; an empty one removes it.
+WaitHook setWaitHook(WaitHook hook);
+
+/// Longest wait, in seconds, of what has no time-out of its own: opening and moving a recordset, posting its
+/// changes.
+constexpr int recordsetSeconds = 30;
+
+/// One statement under way. All its waits together, and its own run, are bounded by its time-out.
+/// A statement within another one (a move that posts a change first) counts as part of that.
+class Waiting {
+  public:
+    using Clock = std::chrono::steady_clock;
+
+    /// `seconds` from now; 0 is without end.
+    explicit Waiting(int seconds);
+    ~Waiting();
+    Waiting(const Waiting&) = delete;
+
+    std::optional<Clock::time_point> end() const { return m_end; }
+    /// How the databases of this layer wait.
+    static jet::LockWait lockWait();
+
+  private:
+    bool goOn(std::chrono::milliseconds waited);
+
+    std::optional<Clock::time_point> m_end;
+    std::optional<Clock::time_point> m_blocked;  ///< when it first had to wait
+    bool m_givenUp = false;
+};
+
+}  // namespace ado

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "platform/PlainStatus.h"
+
+namespace jet {
+
+/// Whether the file at `path` can be a database that `password` opens, told by its first page alone. Takes no
+/// lock, so it never waits and disturbs nobody; damage behind the first page is met by Database::open(). Path
+/// and password as for Database. Fails with FileNotFound, PathAccess, UnrecognizedFormat, InvalidPassword or
+/// DeviceIo.
+Status probe(const std::string& path, const std::string& password);
+
+}  // namespace jet

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/ado/Waiting.h"
+
+namespace testing_support {
+
+/// While it lives, each wait for another process is given up at once, as by a user who presses Esc.
+class Impatience {
+  public:
+    Impatience() : m_before(ado::setWaitHook({[](std::chrono::milliseconds) { return false; }, {}})) {}
+    ~Impatience() { ado::setWaitHook(std::move(m_before)); }
+    Impatience(const Impatience&) = delete;
+
+  private:
+    ado::WaitHook m_before;
+};
+
+}  // namespace testing_support
