@@ -17,6 +17,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
@@ -97,6 +98,7 @@ void frmInvia::CreaControlli() {
     txtBloccoNum->setEnabled(false);
     txtBloccoMin->setEnabled(false);
     cmdFerma->setEnabled(false);
+    ui::DatabaseWait::makeStop(*cmdFerma);
     cmdInvia->setDefault(true);
 }
 

@@ -9,6 +9,7 @@
 #include "core/Evento.h"
 #include "platform/system/Clock.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DataGrid.h"
 #include "shell/frmMain.h"
 #include "store/frmGruppi.h"
@@ -136,6 +137,14 @@ void frmMain::CreaBarraStato() {
     barre->addProgress("stcProgress", "Avanzamento");
     barre->addStatic("stcData", {}, 0);
     AggiornaData();
+    new ui::DatabaseWait(
+        [stcHelp = barre->GetStatic("stcHelp"), prima = QString()](const QString& testo) mutable {
+            if (testo.isEmpty()) return stcHelp->setText(prima);
+            prima = stcHelp->Text();
+            stcHelp->setText(testo);
+            stcHelp->announce();
+        },
+        this);
 }
 
 void frmMain::AggiornaData() {

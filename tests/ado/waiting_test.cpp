@@ -1,11 +1,12 @@
 // What the data access layer does while another process works on the file. The other one is a second
 // jet::Database, which this process's locks keep out like any other program's.
-#include <fcntl.h>
+#include <optional>
 
 #include "ado/TestDatabase.h"
 #include "platform/ado/GroupedInserts.h"
 #include "platform/ado/Snapshot.h"
 #include "platform/ado/Waiting.h"
+#include "support/LockedFile.h"
 
 namespace {
 
@@ -34,17 +35,8 @@ class WaitingTest : public ado::TestDatabase {
         TestDatabase::TearDown();
     }
 
-    /// As a program that writes at this moment: nobody else can read or write.
-    void lock() {
-        m_file = ::open(path.toUtf8().constData(), O_RDWR | O_CLOEXEC);
-        struct flock all = {};
-        all.l_type = F_WRLCK;
-        ASSERT_EQ(::fcntl(m_file, F_OFD_SETLK, &all), 0);
-    }
-    void unlock() {
-        if (m_file >= 0) ::close(m_file);
-        m_file = -1;
-    }
+    void lock() { m_lock.emplace(path); }
+    void unlock() { m_lock.reset(); }
     /// The next waits end at the n-th question, by the lock's owner or by the user.
     void unlockAfter(int questions) {
         onWait = [this, left = questions]() mutable {
@@ -62,7 +54,7 @@ class WaitingTest : public ado::TestDatabase {
     std::function<bool()> onWait;
 
   private:
-    int m_file = -1;
+    std::optional<testing_support::LockedFile> m_lock;
 };
 
 }  // namespace
@@ -128,6 +120,9 @@ TEST_F(WaitingTest, GivingUpFailsEveryKindOfStatementAndChangesNothing) {
     EXPECT_EQ(inserts.execute("INSERT INTO tb_gruppi (nome) VALUES ('x')").code(), ErrorCode::FileInUse);
     EXPECT_TRUE(inserts.commit().ok()) << "nothing was taken";
     EXPECT_EQ(over, 6);
+    asked = 0;
+    EXPECT_EQ(inserts.execute("INSERT INTO tb_gruppi (nome) VALUES ('x')").code(), ErrorCode::FileInUse);
+    EXPECT_EQ(asked, 0) << "who gave up is not asked again for each row that is left";
     unlock();
     EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "uno|due|tre");
     EXPECT_TRUE(inserts.execute("INSERT INTO tb_gruppi (nome) VALUES ('x')").ok());

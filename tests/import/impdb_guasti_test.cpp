@@ -182,7 +182,7 @@ class TestImportDbGuasti : public QObject {
         QVERIFY(stage.enabled("cmdImportaDB"));
     }
 
-    void recipientsThatSomebodyElseWritesToTellSo() {
+    void recipientsThatSomebodyElseWritesToTakeNoRowsOnceTheUserGivesUp() {
         DbStage stage;
         stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
         stage.chooseNode();
@@ -192,12 +192,9 @@ class TestImportDbGuasti : public QObject {
             const testing_support::Impatience impatience;
             auto other = esigi(jet::Database::open(stage.folder.database().toStdString()));
             esigi(other->begin());
-            stage.answerBox();
             stage.click("cmdImportaDB");
         }
-        QCOMPARE(ui::MessageDialog::shown().size(), 1);
-        QVERIFY(!ui::MessageDialog::shown()[0].text.isEmpty());
-        QVERIFY(stage.dialog().isVisible());
+        QVERIFY(ui::MessageDialog::shown().isEmpty());
         QVERIFY(stage.ends.isEmpty());
         QCOMPARE(DbStage::recipients(), 0);
         stage.click("cmdImportaDB");

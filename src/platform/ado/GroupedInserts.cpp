@@ -27,9 +27,10 @@ Status GroupedInserts::execute(const QString& text) {
     if (!statement.ok()) return statement.status();
     if (statement.value().verb != StatementText::Verb::Insert || !statement.value().readFrom.isEmpty())
         return {ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una INSERT di valori.")};
-    const Waiting waiting(0);
+    const Waiting waiting(m_givenUp ? noWait : 0);
     if (m_progress.taken == 0) {
         auto session = Session::beginGroup(m_connection, m_progress);
+        m_givenUp = session.status().code() == ErrorCode::FileInUse;
         if (!session.ok()) return session.status();
         m_session = std::move(session).value();
         m_began = Clock::now();

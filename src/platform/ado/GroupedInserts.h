@@ -54,10 +54,11 @@ class GroupedInserts {
     std::chrono::milliseconds groupAge() const { return m_groupAge; }
     void setGroupAge(std::chrono::milliseconds age) { m_groupAge = age; }
 
-    /// Takes one INSERT INTO … VALUES. It waits for other programs without end. Its failures are those of
-    /// Command::execute(), besides NotSupported for a statement of another kind; the statement then has done
-    /// nothing, and the rows taken before it stay. When the commit of a group fails, that failure is given
-    /// once, here or by commit(), and none of the group's rows stands in the file.
+    /// Takes one INSERT INTO … VALUES. It waits for other programs without end; after a wait
+    /// that was given up (FileInUse) it takes rows again as soon as it need not wait. Its failures are those
+    /// of Command::execute(), besides NotSupported for a statement of another kind; the statement then has
+    /// done nothing, and the rows taken before it stay. When the commit of a group fails, that failure is
+    /// given once, here or by commit(), and none of the group's rows stands in the file.
     Status execute(const QString& statement);
     /// Commits the rows taken since the last commit; nothing to do is success.
     Status commit();
@@ -71,6 +72,7 @@ class GroupedInserts {
     std::chrono::milliseconds m_groupAge{250};
     std::chrono::steady_clock::time_point m_began;  ///< of the open group
     GroupProgress m_progress;
+    bool m_givenUp = false;  ///< the last wait
 };
 
 }  // namespace ado

@@ -103,6 +103,8 @@ Status Session::attach(const QString& connectionText) {
 
 /// The pooled session of that file, or null; it has become the most recently used one.
 Result<std::shared_ptr<Session>> Session::pooled(const Target& target) {
+    if (Waiting::asking())
+        return Status(ErrorCode::FileInUse, QStringLiteral("Un'altra istruzione è in attesa del database."));
     auto& entries = pool();
     const auto known = std::find_if(entries.begin(), entries.end(),
                                     [&](const auto& entry) { return entry.path == target.canonical; });

@@ -1,5 +1,6 @@
 #include "platform/ado/Waiting.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ado {
@@ -8,6 +9,7 @@ namespace {
 
 WaitHook installed;
 Waiting* underWay = nullptr;  ///< the outermost one
+bool hookRuns = false;
 
 }  // namespace
 
@@ -16,7 +18,7 @@ WaitHook setWaitHook(WaitHook hook) {
 }
 
 Waiting::Waiting(int seconds) {
-    if (seconds > 0) m_end = Clock::now() + std::chrono::seconds(seconds);
+    if (seconds != 0) m_end = Clock::now() + std::chrono::seconds(std::max(seconds, 0));
     if (!underWay) underWay = this;
 }
 
@@ -31,8 +33,14 @@ bool Waiting::goOn(std::chrono::milliseconds waited) {
     if (m_givenUp || (m_end && now >= *m_end)) return false;
     if (!m_blocked) m_blocked = now - waited;
     const auto soFar = std::chrono::duration_cast<std::chrono::milliseconds>(now - *m_blocked);
+    hookRuns = true;
     m_givenUp = installed.goOn && !installed.goOn(soFar);
+    hookRuns = false;
     return !m_givenUp;
+}
+
+bool Waiting::asking() {
+    return hookRuns;
 }
 
 jet::LockWait Waiting::lockWait() {

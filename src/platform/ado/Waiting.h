@@ -23,6 +23,8 @@ WaitHook setWaitHook(WaitHook hook);
 /// Longest wait, in seconds, of what has no time-out of its own: opening and moving a recordset, posting its
 /// changes.
 constexpr int recordsetSeconds = 30;
+/// For a statement that fails where it would have to wait.
+constexpr int noWait = -1;
 
 /// One statement under way. All its waits together, and its own run, are bounded by its time-out.
 /// A statement within another one (a move that posts a change first) counts as part of that.
@@ -30,12 +32,14 @@ class Waiting {
   public:
     using Clock = std::chrono::steady_clock;
 
-    /// `seconds` from now; 0 is without end.
+    /// `seconds` from now, or noWait; 0 is without end.
     explicit Waiting(int seconds);
     ~Waiting();
     Waiting(const Waiting&) = delete;
 
     std::optional<Clock::time_point> end() const { return m_end; }
+    /// Whether the hook is being asked: no statement may begin.
+    static bool asking();
     /// How the databases of this layer wait.
     static jet::LockWait lockWait();
 

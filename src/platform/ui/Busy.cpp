@@ -1,7 +1,6 @@
 #include "platform/ui/Busy.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 
 namespace ui {
 
@@ -34,7 +33,11 @@ void Busy::breathe() {
 }
 
 bool Busy::eventFilter(QObject*, QEvent* event) {
-    switch (event->type()) {
+    return isInput(event->type());
+}
+
+bool isInput(QEvent::Type type) {
+    switch (type) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QObject>
 
 namespace ui {
+
+/// Whether events of that type come from the user's hands.
+bool isInput(QEvent::Type type);
 
 /// One long piece of work that nothing may interrupt. While it lasts, windows go on being painted and answer
 /// the desktop's question whether they are alive, but clicks, keys and the like are thrown away, also those

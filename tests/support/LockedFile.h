@@ -1,0 +1,31 @@
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <QFile>
+#include <QString>
+
+namespace testing_support {
+
+/// Holds a database file as a program does that writes its pages: nobody else can read or write.
+class LockedFile {
+  public:
+    explicit LockedFile(const QString& path)
+        : m_file(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)) {
+        struct flock all = {};
+        all.l_type = F_WRLCK;
+        if (::fcntl(m_file, F_OFD_SETLK, &all) != 0) qFatal("somebody else holds the file");
+    }
+    ~LockedFile() { release(); }
+    LockedFile(const LockedFile&) = delete;
+
+    void release() {
+        if (m_file >= 0) ::close(m_file);
+        m_file = -1;
+    }
+
+  private:
+    int m_file;
+};
+
+}  // namespace testing_support
