@@ -223,3 +223,23 @@ TEST_F(WaitingTest, AStatementThatWaitsToWriteReadsWhatTheOtherOneWrote) {
     EXPECT_GT(asked, 0);
     EXPECT_EQ(column("SELECT * FROM tb_gruppi WHERE id = 1", "id_up"), "8");
 }
+
+TEST_F(WaitingTest, ReadingGoesOnWhileAnotherOneHasAStatementUnderWay) {
+    auto other = jet::Database::open(path.toStdString());
+    ASSERT_TRUE(other.ok());
+    auto table = other.value()->table("tb_gruppi");
+    ASSERT_TRUE(table.ok());
+    ASSERT_TRUE(other.value()->begin().ok());
+    const auto row = table.value()->findByPrimaryKey(2);
+    ASSERT_TRUE(row.ok() && row.value());
+    const std::pair<size_t, jet::Value> change{2, std::string("nuovo")};
+    ASSERT_TRUE(table.value()->update(*row.value(), {&change, 1}).ok());
+    for (const bool pooled : {true, false}) {
+        if (!pooled) ado::closeAll();
+        EXPECT_EQ(column("SELECT * FROM tb_gruppi ORDER BY id", "nome"), "uno|due|tre");
+        EXPECT_EQ(open("SELECT COUNT(*) FROM tb_gruppi").value(0).value().toInteger().value(), 3);
+    }
+    EXPECT_EQ(asked, 0);
+    ASSERT_TRUE(other.value()->commit().ok());
+    EXPECT_EQ(column("SELECT * FROM tb_gruppi ORDER BY id", "nome"), "uno|nuovo|tre");
+}

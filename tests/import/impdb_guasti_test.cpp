@@ -7,6 +7,7 @@
 #include "platform/jet/Database.h"
 #include "store/Schema.h"
 #include "support/Impatience.h"
+#include "support/LockedFile.h"
 
 using namespace testing_support;
 
@@ -170,14 +171,14 @@ class TestImportDbGuasti : public QObject {
     void aSourceThatSomebodyElseWritesToTellsSo() {
         DbStage stage;
         stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
-        const testing_support::Impatience impatience;
-        auto other = esigi(jet::Database::open(stage.source().toStdString()));
-        esigi(other->begin());
-        stage.answerBox();
-        stage.open();
-        QCOMPARE(ui::MessageDialog::shown().size(), 1);
-        QVERIFY(!stage.enabled("cmdImportaDB"));
-        other->rollback();
+        {
+            const testing_support::Impatience impatience;
+            const testing_support::LockedFile lock(stage.source());
+            stage.answerBox();
+            stage.open();
+            QCOMPARE(ui::MessageDialog::shown().size(), 1);
+            QVERIFY(!stage.enabled("cmdImportaDB"));
+        }
         stage.open();
         QVERIFY(stage.enabled("cmdImportaDB"));
     }
