@@ -26,9 +26,10 @@ void DimenticaAccettatiDelGruppo(const QString& numero);
 /// The same for all recipients of the database.
 void DimenticaAccettati();
 
-/// The messages of the current database whose reply the send window still awaits. It sets both when it is
-/// made, and takes them away when it goes.
+/// The messages of the current database whose reply the send window still awaits. It sets all three when it
+/// is made, and takes them away when it goes.
 struct RisposteAttese {
+    std::function<void()> concludi;  ///< before the program ends: waits some seconds for them
     std::function<QList<qint64>()> numeri;
     std::function<void(const QList<qint64>& numeri)> dimentica;
 };

@@ -34,7 +34,7 @@ frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     CollegaEtichette();
     CollegaEventi();
     SMTP->Accepted = &accettati();
-    risposteAttese() = {[this] { return SMTP->Awaited(percorsoDB); },
+    risposteAttese() = {[this] { SMTP->Settle(); }, [this] { return SMTP->Awaited(percorsoDB); },
                         [this](const QList<qint64>& numeri) { SMTP->Forget(percorsoDB, numeri); }};
     resize(600, 340);
     ui::setUpDialog(*this);

@@ -1,8 +1,10 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStorageInfo>
 #include <QTimer>
 
 #include "core/bFunctions.h"
@@ -10,6 +12,7 @@
 #include "core/bImpostazioni.h"
 #include "lang/bVAR.h"
 #include "message/MessaggioMss.h"
+#include "platform/ado/Connection.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/mail/Unsubscribe.h"
 #include "platform/text/NumberText.h"
@@ -122,6 +125,19 @@ bool frmInvia::ControllaScelte() {
     return true;
 }
 
+namespace {
+
+/// Whether the disk has no room even for the mark of one row. File systems that write each change to a new
+/// place keep none ahead; with some space left that is no matter.
+bool DiscoPienoPrimaDellInvio() {
+    constexpr qint64 poco = qint64{1} << 20;
+    if (QStorageInfo(QFileInfo(percorsoDB).absolutePath()).bytesAvailable() >= poco) return false;
+    ado::Connection database;
+    return database.open(connDB).ok() && !database.roomReserved();
+}
+
+}  // namespace
+
 /// Sees to it that nobody whom an earlier run served is served again: no other process is sending, whoever is
 /// remembered leaves the selection, and there is room to remember those of this run. Otherwise nothing has
 /// changed.
@@ -150,7 +166,14 @@ bool frmInvia::PreparaElenco() {
         conto = ContaSelezionati(rs);
     });
     const Status riservato = accettati().reserve(mail::DatabaseFile::at(percorsoDB), conto);
-    if (riservato.ok()) return true;
+    if (riservato.ok()) {
+        if (DiscoPienoPrimaDellInvio())
+            avvisa(
+                "Il disco del database è pieno. Chi riceve il messaggio resta selezionato finché non c'è di "
+                "nuovo "
+                "posto, ma non lo riceve una seconda volta.");
+        return true;
+    }
     if (accettati().room() < 1) {
         FineInvio();
         avvisa(riservato.text() + "\r\nL'invio non è iniziato.");

@@ -16,6 +16,7 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
+#include "send/Accettati.h"
 #include "shell/bTheme.h"
 #include "shell/frmSplash.h"
 #include "store/frmGruppi.h"
@@ -111,6 +112,7 @@ void frmMain::closeEvent(QCloseEvent* chiusura) {
         const Operazione chiusa("Chiusura del programma");
         static_cast<void>(pannelli.saveLayout(fileDisposizione()));
         SalvaPosizioneForm(*this);
+        if (risposteAttese().concludi) risposteAttese().concludi();
         TerminaProgramma(0);
     });
 }

@@ -2,10 +2,11 @@
 """Kills the program in the middle of a run, twenty times, and starts it again: nobody is lost, and each kill serves at most
 one recipient twice.
 
-    kill_test.py BUILD_FOLDER [KILLS]
+    kill_test.py BUILD_FOLDER [KILLS [RECIPIENTS]]
 
-Each run is killed with SIGKILL a random moment after the server took its first message of that run, so that the kills
-spread over the time between the delivery, the change in the database and the next delivery.
+Each run is killed with SIGKILL a random moment after the server took one of the first messages of that run, so that the
+kills spread over the time between the delivery, the change in the database and the next delivery. Without a number of
+RECIPIENTS they are those of the demo.
 """
 import csv
 import os
@@ -32,13 +33,20 @@ def wait_for(condition, seconds, what):
 class Stage:
     """A sample folder with its catch-all server."""
 
-    def __init__(self, build, work):
+    def __init__(self, build, work, people):
         self.build, self.program, self.messages = build, work / "vestrola", work / "messages"
         self.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
         self.server = subprocess.Popen([sys.executable, str(ROOT / "demo" / "catch_all.py"), str(self.messages)],
                                        stdout=subprocess.PIPE, text=True)
         port = self.server.stdout.readline().split()[1]
-        made = subprocess.run([str(build / "demo" / "demo_make"), str(self.program), port], env=self.environment,
+        table = []
+        if people:
+            table = [str(work / "people.tsv")]
+            rows = [("gruppo", "rgs", "nom", "email", "sel")]
+            rows += [("Clienti", f"Ditta {address}", "Nome", address, "1") for address in people]
+            pathlib.Path(table[0]).write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+        self.wanted = people or selected_recipients()
+        made = subprocess.run([str(build / "demo" / "demo_make"), str(self.program), port, *table], env=self.environment,
                               stdout=subprocess.PIPE, text=True, check=True)
         self.message = made.stdout.strip()
         self.database = self.program / "data" / "data.mdb"
@@ -68,17 +76,20 @@ def fail(text):
 
 def play(stage, kills, moment):
     """Up to `kills` killed runs over one folder, then one to the end; returns how many were killed."""
-    wanted = selected_recipients()
+    wanted = stage.wanted
     done = 0
     while done < kills:
         before = stage.received()
         if len(set(before)) >= len(wanted) - 1:
             break
         run = stage.start()
-        wait_for(lambda: len(stage.received()) > len(before) or run.poll() is not None, 60, "the first message of a run")
+        # So that a run is never over before the kill.
+        arrived = min(len(wanted) - 1, len(before) + moment.randint(1, 3))
+        wait_for(lambda: len(stage.received()) >= arrived or run.poll() is not None, 60, "the first messages of a run")
         if run.poll() is not None:
             fail(f"a run ended by itself with {run.returncode}")
-        time.sleep(moment.uniform(0, 0.06))
+        # Half of the kills fall around the acceptance, the other half anywhere up to the next one.
+        time.sleep(moment.uniform(0, moment.choice((0.02, 0.25))))
         run.kill()
         run.wait()
         done += 1
@@ -116,11 +127,12 @@ def check_pages(database):
 def main():
     build = pathlib.Path(sys.argv[1]).resolve()
     kills = int(sys.argv[2]) if len(sys.argv) > 2 else 20
+    people = [f"persona{number:03d}@cliente.test" for number in range(int(sys.argv[3]))] if len(sys.argv) > 3 else []
     moment = random.Random(SEED)
     killed = twice = 0
     while killed < kills:
         with tempfile.TemporaryDirectory() as folder:
-            stage = Stage(build, pathlib.Path(folder))
+            stage = Stage(build, pathlib.Path(folder), people)
             try:
                 more, extra = play(stage, kills - killed, moment)
                 check_pages(stage.database)

@@ -1,6 +1,7 @@
 #include <QCloseEvent>
 #include <QDir>
 
+#include "send/Accettati.h"
 #include "shell/shell_support.h"
 
 using namespace testing_support;
@@ -20,6 +21,16 @@ class TestEnd : public QObject {
         QVERIFY(MessageDialog::shown().isEmpty());
         // No window is unloaded: the process ends instead.
         QVERIFY(window.isVisible());
+    }
+
+    void repliesThatAreStillAwaitedGetTheirTimeBeforeTheEnd() {
+        StoreStage stage;
+        QList<qsizetype> endsBefore;
+        risposteAttese().concludi = [&] { endsBefore << stage.ends.size(); };
+        stage.window().close();
+        risposteAttese() = {};
+        QCOMPARE(endsBefore, QList<qsizetype>{0});
+        QCOMPARE(stage.ends, QList<int>{0});
     }
 
     void theExitCommandArrivesAtTheSamePlace() {

@@ -13,6 +13,11 @@ Status Connection::open(const QString& connectionText) {
     return {};
 }
 
+bool Connection::roomReserved() const {
+    const auto session = Session::open(m_text);
+    return session.ok() && session.value()->database().roomReserved();
+}
+
 void closeAll() {
     Session::closeAll();
 }

@@ -20,6 +20,8 @@ class Connection {
     void close() { m_text.clear(); }
     bool isOpen() const { return !m_text.isEmpty(); }
     const QString& text() const { return m_text; }
+    /// Whether a row can be updated even when the disk gets full; see jet::Database::roomReserved().
+    bool roomReserved() const;
 
   private:
     QString m_text;
