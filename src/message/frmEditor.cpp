@@ -53,6 +53,7 @@ frmEditor::frmEditor(QWidget* parent)
     pannelli.addPane("dckAllegati", "Allegati", Qt::BottomDockWidgetArea, 120);
     CollegaViste();
     resize(1000, 680);
+    ui::bringIntoReach(*this);
 }
 
 void frmEditor::Carica() {

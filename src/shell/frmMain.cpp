@@ -12,10 +12,12 @@
 #include "core/Prodotto.h"
 #include "core/Riavvio.h"
 #include "lang/bLANG_applica.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
+#include "platform/ui/DialogFrame.h"
 #include "send/Accettati.h"
 #include "shell/bTheme.h"
 #include "shell/frmSplash.h"
@@ -62,6 +64,8 @@ void frmMain::Carica() {
     finestre::Editor();
     CaricaLingua();
     CaricaPosizioneForm(*this);
+    // The installed placement is nobody's choice; a saved one stands as it was saved, on any screen.
+    if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
     riavvio::RiprendiPosizione();
     TitoloPrincipale();
     CaricaGruppi();

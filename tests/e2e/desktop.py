@@ -44,6 +44,11 @@ def inside(size="1280x1000"):
             screen.wait()
 
 
+def pictures():
+    """Where pictures are kept: the folder that VESTROLA_SHOTS names, else one that goes away."""
+    return pathlib.Path(os.environ.get("VESTROLA_SHOTS") or os.environ[INSIDE])
+
+
 def picture(path):
     """Writes what the screen shows as a PNG file."""
     dump = (pathlib.Path(os.environ[INSIDE]) / "Xvfb_screen0").read_bytes()

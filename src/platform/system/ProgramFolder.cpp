@@ -18,6 +18,11 @@ QString& chosenFolder() {
     return folder;
 }
 
+bool& newFolder() {
+    static bool isNew = false;
+    return isNew;
+}
+
 QString withSlash(const QString& folder) {
     return folder.endsWith(u'/') ? folder : folder + u'/';
 }
@@ -124,11 +129,17 @@ QString programFolder() {
     const QString chosen = chooseProgramFolder(
         application, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     const QString templates = installedTemplates(application);
+    const bool filled = QFileInfo::exists(chosen + QStringLiteral("/data"));
     static_cast<void>(fillProgramFolder(chosen, templates));
+    newFolder() = !filled;
     static_cast<void>(renewTexts(chosen, templates));
     if (chosen != application) static_cast<void>(restoreTexts(chosen, templates));
     folder = withSlash(chosen);
     return folder;
+}
+
+bool programFolderIsNew() {
+    return newFolder();
 }
 
 void setProgramFolder(const QString& folder) {

@@ -18,6 +18,9 @@ namespace sys {
 /// it as it is.
 QString programFolder();
 
+/// Whether programFolder() has filled a folder that was not there, which makes this the first start over it.
+bool programFolderIsNew();
+
 /// Replaces the folder; an empty text has it decided anew at the next call.
 void setProgramFolder(const QString& folder);
 

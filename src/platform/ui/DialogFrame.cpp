@@ -42,18 +42,6 @@ void scrollContent(QWidget& window) {
     window.setMinimumSize(0, 0);
 }
 
-/// Brings a window back into the room that it has.
-void bringIntoReach(QWidget& window) {
-    const QRect room = roomFor(window);
-    window.resize(window.size().boundedTo(room.size()));
-    QRect place(window.geometry());
-    place.moveRight(qMin(place.right(), room.right()));
-    place.moveBottom(qMin(place.bottom(), room.bottom()));
-    place.moveLeft(qMax(place.left(), room.left()));
-    place.moveTop(qMax(place.top(), room.top()));
-    if (place.topLeft() != window.geometry().topLeft()) window.setGeometry(place);
-}
-
 class InReach : public QObject {
   public:
     using QObject::QObject;
@@ -82,6 +70,17 @@ class InReach : public QObject {
 };
 
 }  // namespace
+
+void bringIntoReach(QWidget& window) {
+    const QRect room = roomFor(window);
+    window.resize(window.size().boundedTo(room.size()));
+    QRect place(window.geometry());
+    place.moveRight(qMin(place.right(), room.right()));
+    place.moveBottom(qMin(place.bottom(), room.bottom()));
+    place.moveLeft(qMax(place.left(), room.left()));
+    place.moveTop(qMax(place.top(), room.top()));
+    if (place.topLeft() != window.geometry().topLeft()) window.setGeometry(place);
+}
 
 void withoutCloseButton(QWidget& window) {
     // Of a window that names no button at all the toolkit tells the window manager nothing, which then draws

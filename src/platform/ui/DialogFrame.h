@@ -12,4 +12,7 @@ void withoutCloseButton(QWidget& window);
 /// asks for, it opens within the screen, and where its content needs more, the content gets scroll bars.
 void setUpDialog(QWidget& dialog);
 
+/// Makes a window no larger than its screen and moves it back onto it.
+void bringIntoReach(QWidget& window);
+
 }  // namespace ui
