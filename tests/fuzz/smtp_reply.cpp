@@ -30,6 +30,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         require(parse.next > offset && parse.next <= bytes.size());
         require(parse.reply.code >= 200 && parse.reply.code <= 599);
         require(!parse.reply.text.contains('\0'));
+        // The first line decides whether a message was taken, however much of the rest is there.
+        const bool accepted = mail::isAcceptance(QByteArrayView(bytes).sliced(offset));
+        require(accepted == (bytes[offset] == '2'));
+        require(mail::isAcceptance(QByteArrayView(bytes).sliced(offset, 3)) == accepted);
         // The same bytes, one short, are not a reply yet.
         require(mail::parseSmtpReply(bytes.left(parse.next - 1), offset).state == State::Incomplete);
         for (const QChar c : mail::printable(parse.reply.text))

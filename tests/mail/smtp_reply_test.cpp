@@ -98,6 +98,15 @@ TEST(SmtpExtensions, GreetingLineOffersNothing) {
     EXPECT_FALSE(mail::SmtpExtensions::read("a\n\n  \nXSTARTTLS").startTls);
 }
 
+TEST(SmtpReply, ThreeDigitsAreAnAcceptance) {
+    for (const char* reply : {"250", "250 ok\r\n", "250-ok\r\n550 no", "200", "299x", "2500", "250\t"})
+        EXPECT_TRUE(mail::isAcceptance(reply)) << reply;
+    for (const char* reply :
+         {"", "2", "25", "2 50", " 250", "2a0", "25\xc2\xb2", "550", "354 250", "150", "\r\n250"})
+        EXPECT_FALSE(mail::isAcceptance(reply)) << reply;
+    EXPECT_EQ(mail::acceptanceCode("251-forwarded"), 251);
+}
+
 QByteArray stuffed(const QByteArray& data, qsizetype limit) {
     QByteArray all;
     for (qsizetype offset = 0; offset < data.size();)

@@ -86,7 +86,6 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
 std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
     m_busy = false;
     m_stall.stop();
-    m_message = {};
     std::unique_ptr<AwaitedReply> awaited;
     if (hasGivenAll()) {
         QSslSocket* const socket = std::exchange(m_socket, nullptr);
@@ -95,6 +94,7 @@ std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
                                                  std::max(m_times.stall, m_times.finalReply));
     }
     dropConnection();
+    m_message = {};
     return awaited;
 }
 
@@ -136,6 +136,7 @@ void SmtpSession::open(LocalPort localPort) {
                             .arg(m_route.host, QString::number(m_route.port),
                                  implicitTls() ? QStringLiteral(" (TLS)") : QString()));
     m_expected = {Step::Greeting};
+    m_outstanding = 0;
     progress();
     m_socket->connectToHost(m_route.host, m_route.port);
 }
