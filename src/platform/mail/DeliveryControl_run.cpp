@@ -147,6 +147,7 @@ bool DeliveryControl::Awaiting() const {
 void DeliveryControl::Settle() {
     if (m_running) giveUp();
     m_running = false;
+    if (m_awaited.empty()) return;
     const QDeadlineTimer deadline(Accepted ? StageTimes.farewell : 0);
     while (!m_awaited.empty()) {
         m_awaited.back().reply->waitForEnd(int(deadline.remainingTime()));
