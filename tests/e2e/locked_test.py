@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Another program holds the database while the built program wants to write: it waits and then goes on, it closes only
-afterwards, and Esc gives the statement up, which is a failure like any other.
+"""Another program holds the database while the built program wants to write: it waits and then goes on, and Esc gives the
+statement up, which is a failure like any other.
 
     locked_test.py BUILD_FOLDER
 """
@@ -55,20 +55,6 @@ def play(stage, program):
 
     lock = Lock(database)
     keys("space")
-    keys("alt+F4")
-    time.sleep(2)
-    lock.release()
-    stage.ends(running, 0)
-
-    running = stage.start([program])
-    main = Window("frame", "Vestrola")
-    main.wait_focus("tree", "Gruppi mailing")
-    keys("Down", "space")
-    main.find("table cell", desktop.ADDRESS)
-    if ticked(main):
-        desktop.fail("the tick that waited was not taken away before the program closed")
-    lock = Lock(database)
-    keys("Tab", "space")
 
     def given_up():
         keys("Escape")  # once for the wait, once for the box that tells the failure
@@ -76,7 +62,7 @@ def play(stage, program):
     wait_for(given_up, "the end after Esc")
     stage.ends(running, 1)
     lock.release()
-    print("a wait ends with the other program, lets nothing in, and can be given up")
+    print("a wait ends with the other program, and can be given up")
 
 
 if __name__ == "__main__":
