@@ -84,6 +84,18 @@ void setOrders(Page& page, const TablePlan& table, const std::vector<Index>& ind
     }
 }
 
+// Definitions are planned with the language of texts where a numeric has its digits and decimals.
+void setDigits(Page& page, const std::vector<Column>& columns, size_t indexes) {
+    size_t at = definition::indexCounts + definition::indexCountLength * indexes;
+    for (const Column& column : columns) {
+        if (column.type == Type::Numeric) {
+            page[at + 11] = column.precision;
+            page[at + 12] = column.scale;
+        }
+        at += definition::columnLength;
+    }
+}
+
 // Adds a row, its index entries and its part of the row count.
 void addRowTo(PageFile& file, const TableDefinition& table, const jet::Row& row) {
     const RowId id = RowStore(file, table).insert(row.bytes());
@@ -195,6 +207,7 @@ void addTable(const std::string& path, const std::string& name, const std::vecto
         Page& definition = file.change(page);
         std::copy(bytes.begin(), bytes.end(), definition.begin());
         setOrders(definition, table, indexes);
+        setDigits(definition, columns, indexes.size());
         addToCatalog(file, name, page);
     });
 }

@@ -15,6 +15,8 @@ struct Column {
     jet::Type type;
     uint16_t length = 0;  ///< text: characters; binary: bytes
     bool autoNumber = false;
+    uint8_t precision = 0;  ///< of a numeric: its digits, and how many of them are decimals
+    uint8_t scale = 0;
 };
 
 struct Index {

@@ -40,7 +40,25 @@ std::optional<double> realOf(const jet::Value& value) {
     if (const auto* amount = std::get_if<jet::Currency>(&value))
         return static_cast<double>(amount->tenThousandths) / 10000;
     if (const auto* text = std::get_if<std::string>(&value)) return readNumber(*text);
+    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) return readNumber(decimal->text);
     return std::nullopt;
+}
+
+/// All digits of a number, as it stands or as users of the current locale write it.
+Result<jet::Value> fitNumeric(const jet::Value& value, const jet::Column& column) {
+    const std::optional<double> number = realOf(value);
+    if (!number) return mismatch(column);
+    std::string plain = plainDecimal(*number);
+    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) plain = decimal->text;
+    if (const auto* whole = std::get_if<int64_t>(&value)) plain = std::to_string(*whole);
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        QString written = QString::fromStdString(*text).trimmed();
+        if (!written.contains(u'.')) written.replace(QLocale().decimalPoint(), QStringLiteral("."));
+        const bool isPlain = written.toStdString().find_first_not_of("+-.0123456789") == std::string::npos;
+        if (isPlain && written.count(u'.') <= 1) plain = written.toStdString();
+    }
+    auto bytes = numericBytes(plain, column);
+    return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : overflow(column);
 }
 
 std::optional<double> daysOf(const jet::Value& value) {
@@ -96,10 +114,7 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
             }
             break;
         case Type::Numeric:
-            if (const std::optional<double> number = realOf(raw)) {
-                auto bytes = numericBytes(*number, column);
-                return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : overflow(column);
-            }
+            if (!std::holds_alternative<jet::Bytes>(raw)) return fitNumeric(raw, column);
             break;
         default:
             break;

@@ -1,6 +1,7 @@
 #include "platform/ado/JetModule.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -245,6 +246,12 @@ void give(sqlite3_context* context, const jet::Value& value) {
     if (const auto* date = std::get_if<jet::Date>(&value)) return sqlite3_result_double(context, date->days);
     if (const auto* amount = std::get_if<jet::Currency>(&value))
         return sqlite3_result_double(context, static_cast<double>(amount->tenThousandths) / 10000);
+    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) {
+        // A comparison makes a number of the text, since the column is numeric.
+        constexpr size_t digitsOfADouble = 15;
+        if (decimal->text.size() > digitsOfADouble) return giveText(context, decimal->text);
+        return sqlite3_result_double(context, std::strtod(decimal->text.c_str(), nullptr));
+    }
     if (const auto* text = std::get_if<std::string>(&value)) return giveText(context, *text);
     if (const auto* bytes = std::get_if<jet::Bytes>(&value))
         return sqlite3_result_blob64(context, bytes->data(), bytes->size(), SQLITE_TRANSIENT);

@@ -1,8 +1,8 @@
 #include "platform/ado/RawValue.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
+#include <array>
+#include <charconv>
 #include <QUuid>
 
 namespace ado {
@@ -27,24 +27,55 @@ QByteArray swapped(const char* bytes) {
     return guid;
 }
 
-jet::Value numericValue(const jet::Bytes& bytes, int scale) {
-    long double number = 0;
-    uint64_t whole = 0;
-    bool fits = true;
+using Magnitude = std::array<uint32_t, groups>;  ///< the highest group first
+
+/// Multiplies and adds; false when the number does not fit.
+bool appendDigit(Magnitude& number, uint32_t digit) {
+    uint64_t carry = digit;
+    for (size_t group = groups; group-- > 0;) {
+        carry += uint64_t{number[group]} * 10;
+        number[group] = static_cast<uint32_t>(carry);
+        carry >>= 32;
+    }
+    return carry == 0;
+}
+
+/// Divides by ten; what is left over.
+uint32_t takeDigit(Magnitude& number) {
+    uint64_t rest = 0;
+    for (uint32_t& group : number) {
+        rest = rest << 32 | group;
+        group = static_cast<uint32_t>(rest / 10);
+        rest %= 10;
+    }
+    return static_cast<uint32_t>(rest);
+}
+
+Magnitude magnitudeOf(const jet::Bytes& bytes) {
+    Magnitude number;
     for (size_t group = 0; group < groups; ++group) {
         const uint8_t* p = &bytes[1 + group * groupLength];
-        const uint32_t digits = p[0] | p[1] << 8 | p[2] << 16 | static_cast<uint32_t>(p[3]) << 24;
-        fits = fits && whole >> 31 == 0;
-        whole = whole << 32 | digits;
-        number = number * 4294967296.0L + digits;
+        number[group] = p[0] | p[1] << 8 | p[2] << 16 | static_cast<uint32_t>(p[3]) << 24;
     }
+    return number;
+}
+
+jet::Value numericValue(const jet::Bytes& bytes, size_t scale) {
+    Magnitude number = magnitudeOf(bytes);
     const bool minus = bytes[0] & negative;
-    if (scale == 0 && fits) {
-        const auto value = static_cast<int64_t>(whole);
+    if (scale == 0 && number[0] == 0 && number[1] == 0 && number[2] >> 31 == 0) {
+        const auto value = static_cast<int64_t>(uint64_t{number[2]} << 32 | number[3]);
         return minus ? -value : value;
     }
-    number /= std::pow(10.0L, static_cast<long double>(scale));
-    return static_cast<double>(minus ? -number : number);
+    std::string digits;  // from the last
+    while (number != Magnitude{} || digits.size() <= scale)
+        digits += static_cast<char>('0' + takeDigit(number));
+    if (scale > 0) digits.insert(scale, 1, '.');
+    std::reverse(digits.begin(), digits.end());
+    if (scale > 0) digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') digits.pop_back();
+    if (minus && digits != "0") digits.insert(0, 1, '-');
+    return jet::Decimal{digits};
 }
 
 }  // namespace
@@ -70,22 +101,46 @@ std::optional<jet::Bytes> guidBytes(const std::string& text) {
     return jet::Bytes(bytes.begin(), bytes.end());
 }
 
-std::optional<jet::Bytes> numericBytes(double number, const jet::Column& column) {
-    const long double scaled =
-        std::round(std::fabs(static_cast<long double>(number)) * std::pow(10.0L, column.scale));
-    constexpr uint8_t mostDigits = 28;
-    if (!(scaled < std::pow(10.0L, std::min(column.precision, mostDigits)))) return std::nullopt;
-    jet::Bytes bytes(numericLength);
-    bytes[0] = number < 0 && scaled > 0 ? negative : 0;
-    long double rest = scaled;
-    for (size_t group = groups; group-- > 0;) {
-        const long double above = std::floor(rest / 4294967296.0L);
-        const auto digits = static_cast<uint32_t>(rest - above * 4294967296.0L);
-        for (size_t i = 0; i < groupLength; ++i)
-            bytes[1 + group * groupLength + i] = static_cast<uint8_t>(digits >> 8 * i);
-        rest = above;
+std::optional<jet::Bytes> numericBytes(std::string_view number, const jet::Column& column) {
+    constexpr size_t mostDigits = 28;
+    const bool minus = number.starts_with('-');
+    if (minus || number.starts_with('+')) number.remove_prefix(1);
+    const size_t point = std::min(number.find('.'), number.size());
+    std::string digits(number.substr(0, point));
+    std::string decimals(number.substr(std::min(point + 1, number.size())));
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (digits.size() + decimals.size() == 0 || !std::all_of(digits.begin(), digits.end(), isDigit) ||
+        !std::all_of(decimals.begin(), decimals.end(), isDigit))
+        return std::nullopt;
+    const bool up = decimals.size() > column.scale && decimals[column.scale] >= '5';
+    decimals.resize(column.scale, '0');
+    digits += decimals;
+    if (up) {
+        size_t at = digits.size();
+        while (at > 0 && digits[at - 1] == '9')
+            digits[--at] = '0';
+        if (at > 0)
+            ++digits[at - 1];
+        else
+            digits.insert(0, 1, '1');
     }
+    digits.erase(0, digits.find_first_not_of('0'));
+    if (digits.size() > std::min<size_t>(column.precision, mostDigits)) return std::nullopt;
+    Magnitude magnitude{};
+    for (const char digit : digits)
+        if (!appendDigit(magnitude, static_cast<uint32_t>(digit - '0'))) return std::nullopt;
+    jet::Bytes bytes(numericLength);
+    bytes[0] = minus && !digits.empty() ? negative : 0;
+    for (size_t group = 0; group < groups; ++group)
+        for (size_t i = 0; i < groupLength; ++i)
+            bytes[1 + group * groupLength + i] = static_cast<uint8_t>(magnitude[group] >> 8 * i);
     return bytes;
+}
+
+std::string plainDecimal(double number) {
+    std::array<char, 512> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    return {text.data(), end.ptr};
 }
 
 }  // namespace ado

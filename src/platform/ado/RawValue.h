@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "platform/jet/TableDefinition.h"
 
@@ -8,13 +10,17 @@ namespace ado {
 
 /// The engine hands out GUIDs and numerics as the bytes that stand in the file.
 
-/// `stored`, of that column, as a text in braces for a GUID, as a number for a numeric (a whole one where it
-/// has no decimals and is not too long); everything else, and bytes of a wrong length, as it is.
+/// `stored`, of that column, as a text in braces for a GUID, as a whole number for a numeric without decimals
+/// that is not too long, as a Decimal with all its digits for another one; everything else, and bytes of a
+/// wrong length, as it is.
 jet::Value readable(const jet::Column& column, jet::Value stored);
 
 /// Bytes of a GUID written with or without its braces.
 std::optional<jet::Bytes> guidBytes(const std::string& text);
-/// Bytes of a numeric; nothing for a number that has too many digits for the column.
-std::optional<jet::Bytes> numericBytes(double number, const jet::Column& column);
+/// Bytes of a numeric, rounded to the column's decimals, from a number written plainly (a sign, digits, a
+/// point and digits, no exponent). Nothing for what is no such number, or has too many digits for the column.
+std::optional<jet::Bytes> numericBytes(std::string_view number, const jet::Column& column);
+/// A number in that form, with the digits that tell it from every other double.
+std::string plainDecimal(double number);
 
 }  // namespace ado

@@ -21,6 +21,7 @@ OrderBlock::Id packed(jet::RowId id) {
 }
 
 constexpr char nullMark = 0x00;
+constexpr size_t numericLength = 17;
 constexpr char valueMark = 0x7f;
 
 void appendBigEndian(std::string& key, uint64_t bits) {
@@ -40,6 +41,21 @@ void appendReal(std::string& key, double number) {
 /// True sorts before False, as -1 before 0.
 void appendYesNo(std::string& key, bool yes) {
     key.push_back(static_cast<char>(yes ? 0x00 : 0xff));
+}
+
+/// The sign, then the whole number that all numerics of a column are; all bytes inverted below 0.
+void appendNumeric(std::string& key, const jet::Bytes& bytes) {
+    const size_t start = key.size();
+    key.push_back(static_cast<char>(0x80));
+    bool zero = true;
+    for (size_t i = 1; i < numericLength; ++i) {
+        const uint8_t byte = bytes[(i - 1) / 4 * 4 + 4 - (i - 1) % 4];
+        zero = zero && byte == 0;
+        key.push_back(static_cast<char>(byte));
+    }
+    if (zero || (bytes[0] & 0x80) == 0) return;
+    for (size_t i = start; i < key.size(); ++i)
+        key[i] = static_cast<char>(~key[i]);
 }
 
 void appendField(std::string& key, const jet::RowView& row, size_t column) {
@@ -71,6 +87,8 @@ void appendField(std::string& key, const jet::RowView& row, size_t column) {
         appendReal(key, date->days);
     } else if (const auto* real = std::get_if<double>(&value)) {
         appendReal(key, *real);
+    } else if (const auto* bytes = std::get_if<jet::Bytes>(&value); bytes && bytes->size() == numericLength) {
+        appendNumeric(key, *bytes);
     } else {
         key.back() = nullMark;  // a damaged row
     }
@@ -118,6 +136,7 @@ bool OrderSpec::canSort(Type type) {
         case Type::Double:
         case Type::Date:
         case Type::Text:
+        case Type::Numeric:
             return true;
         default:
             return false;

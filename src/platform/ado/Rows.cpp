@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/ado/RawValue.h"
+
 namespace ado {
 
 namespace {
@@ -80,11 +82,14 @@ Value Rows::valueOf(int column) const {
         const double amount = sqlite3_column_double(statement, column);
         return Value(jet::Value(jet::Currency{std::llround(amount * 10000)}));
     }
+    if (is("NUMERIC") && type == SQLITE_FLOAT)
+        return Value(jet::Value(jet::Decimal{plainDecimal(sqlite3_column_double(statement, column))}));
     if (type == SQLITE_INTEGER) return static_cast<qint64>(sqlite3_column_int64(statement, column));
     if (type == SQLITE_FLOAT) return sqlite3_column_double(statement, column);
     const auto size = static_cast<size_t>(sqlite3_column_bytes(statement, column));
     if (type == SQLITE_TEXT) {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+        if (is("NUMERIC")) return Value(jet::Value(jet::Decimal{std::string(text, size)}));
         return Value(jet::Value(std::string(text, size)));
     }
     const auto* bytes = static_cast<const uint8_t*>(sqlite3_column_blob(statement, column));

@@ -54,8 +54,8 @@ std::optional<double> readNumber(const std::string& utf8) {
 
 Value::Type Value::type() const {
     // in the order of the alternatives of jet::Value
-    constexpr Type types[] = {Type::Null, Type::YesNo,    Type::Integer, Type::Real,
-                              Type::Date, Type::Currency, Type::Text,    Type::Binary};
+    constexpr Type types[] = {Type::Null,     Type::YesNo, Type::Integer, Type::Real,   Type::Date,
+                              Type::Currency, Type::Text,  Type::Binary,  Type::Decimal};
     return types[m_value.index()];
 }
 
@@ -80,6 +80,11 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
             return mismatch;
         case Type::Text:
             return QString::fromStdString(std::get<std::string>(m_value));
+        case Type::Decimal: {
+            QString text = QString::fromStdString(std::get<jet::Decimal>(m_value).text);
+            if (text.startsWith(u'-')) text.replace(0, 1, locale.negativeSign());
+            return text.replace(u'.', locale.decimalPoint());
+        }
         case Type::Binary:
             break;
     }
@@ -110,6 +115,8 @@ Result<qint64> Value::toInteger() const {
             if (!number) return mismatch;
             return rounded(*number);
         }
+        case Type::Decimal:
+            return rounded(readNumber(std::get<jet::Decimal>(m_value).text).value_or(0));
         case Type::Binary:
             break;
     }
@@ -135,6 +142,8 @@ Result<bool> Value::toBool() const {
             return std::get<jet::Currency>(m_value).tenThousandths != 0;
         case Type::Date:
             return std::get<jet::Date>(m_value).days != 0;
+        case Type::Decimal:
+            return std::get<jet::Decimal>(m_value).text != "0";
         default: {
             const Result<qint64> number = toInteger();
             if (!number.ok()) return number.status();

@@ -14,7 +14,7 @@ namespace ado {
 /// the empty text.
 class Value {
   public:
-    enum class Type { Null, YesNo, Integer, Real, Currency, Date, Text, Binary };
+    enum class Type { Null, YesNo, Integer, Real, Currency, Date, Text, Binary, Decimal };
 
     Value() = default;  ///< Null
     Value(bool yesNo) : m_value(yesNo) {}

@@ -54,9 +54,17 @@ struct Currency {
     bool operator==(const Currency&) const = default;
 };
 
+/// A number written out, with a point before the decimals: for one with more digits than a double keeps. Rows
+/// never hold it; see ado/RawValue.h.
+struct Decimal {
+    std::string text;
+    bool operator==(const Decimal&) const = default;
+};
+
 /// One value of a row. std::monostate is Null, which is distinct from the empty text.
 ///   yes/no: bool · byte, integer, long: int64_t · single, double: double · date: Date · currency: Currency
 ///   text, memo: std::string in UTF-8 · everything else: the raw Bytes
-using Value = std::variant<std::monostate, bool, int64_t, double, Date, Currency, std::string, Bytes>;
+using Value =
+    std::variant<std::monostate, bool, int64_t, double, Date, Currency, std::string, Bytes, Decimal>;
 
 }  // namespace jet
