@@ -7,6 +7,7 @@
 #include "core/bImpostazioni.h"
 #include "core/Fallimento.h"
 #include "platform/ado/Command.h"
+#include "platform/ado/Waiting.h"
 #include "store/RecordsetDB.h"
 
 namespace {
@@ -87,6 +88,7 @@ RisposteAttese& risposteAttese() {
 
 void ApplicaAccettati(const std::function<void(const QString&)>& annota) {
     const auto fine = Orologio::now() + attesaMassima;
+    const ado::Waiting attesa(static_cast<int>(attesaMassima.count()));  // of the reading as well
     mail::AcceptedList& elenco = accettati();
     elenco.refresh();
     const auto database = mail::DatabaseFile::at(percorsoDB);
