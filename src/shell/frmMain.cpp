@@ -1,7 +1,6 @@
 #include "shell/frmMain.h"
 
 #include <QCloseEvent>
-#include <QScreen>
 
 #include "core/bGlobal.h"
 #include "core/bImpostazioni.h"
@@ -48,8 +47,7 @@ frmMain::frmMain()
     CreaBarre();
     CreaBarraStato();
     pannelli.addPane("dckGruppi", "Gruppi mailing", Qt::LeftDockWidgetArea, ui::scaledToFont(*this, 230));
-    // On a small screen without a placement file no button may be out of reach.
-    resize(QSize(1080, 640).boundedTo(screen()->availableSize() - QSize(8, 32)));
+    resize(1080, 640);
 }
 
 void frmMain::Carica() {

@@ -164,7 +164,8 @@ class TestFrmAccountAspetto : public QObject {
         stage.window->hide();
         makeTextsLonger(*stage.window);
         stage.window->show();
-        QTest::qWait(20);
+        QVERIFY(QTest::qWaitForWindowExposed(stage.window.get()));
+        QCoreApplication::sendPostedEvents();
         QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         QVERIFY2(stage.window->width() <= 900, qPrintable(QString::number(stage.window->width())));
         keepPicture(*stage.window, "account_lunghi");

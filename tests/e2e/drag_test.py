@@ -61,7 +61,7 @@ def play(stage, program):
     groups(main, Table(database, "tb_gruppi", "nome"))
     float_the_pane(main)
     recipients(main, Table(database, "tb_destinatari", "email"), Table(database, "tb_gruppi", "nome"))
-    Window("alert", "Vestrola").press("OK")  # the failure of the recipient that was dropped on nothing
+    Window("alert", "Vestrola").press("Chiudi")  # the failure of the recipient that was dropped on nothing
     stage.ends(running, 1)
     print("recipients and groups dragged to groups, to the root, to a descendant and to nothing")
 

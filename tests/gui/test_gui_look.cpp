@@ -30,7 +30,7 @@ class TestLook : public QObject {
         makeTextsLonger(*stage.window);
         stage.window->SetPrgBar();
         stage.open();
-        QTest::qWait(20);
+        QCoreApplication::sendPostedEvents();
         QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         QVERIFY(stage.window->width() <= 800);
         keepPicture(*stage.window, "invia_lunghi");
@@ -53,13 +53,22 @@ class TestLook : public QObject {
         stage.pick();
         stage.click("chkBlocco");
         int taken = 0;
+        QList<double> duringRun;
+        QStringList faults{"not looked at"};
         QObject::connect(&stage.sink, &SmtpSink::attempted, [&] {
             ++taken;
             stage.sink.treat("a@x.it", taken % 2 ? SmtpSink::Treatment::Refuse : SmtpSink::Treatment::Accept);
-            if (taken == 6) keepPicture(*stage.window, "invia_corsa");
+            if (taken != 6) return;
+            duringRun = stage.counters();
+            faults = faultsOfLayout(*stage.window);
+            keepPicture(*stage.window, "invia_corsa");
         });
         stage.start();
         QVERIFY(stage.waitForEnd());
+        QCOMPARE(duringRun, (QList<double>{3, 2, 3}));
+        QCOMPARE(faults, QStringList());
+        QCOMPARE(stage.counters(), (QList<double>{0, 4, 4}));
+        QCOMPARE(faultsOfLayout(*stage.window), QStringList());
         keepPicture(*stage.window, "invia_fine");
     }
 
@@ -80,7 +89,7 @@ class TestLook : public QObject {
         SendStage stage({"a@x.it"});
         const QRect before = stage.control<QWidget>("prgFallite")->geometry();
         stage.control<QLabel>("lblFallite")->setText("Email non inviate: 9.999.999");
-        QTest::qWait(20);
+        QCoreApplication::sendPostedEvents();
         QCOMPARE(stage.control<QWidget>("prgFallite")->geometry(), before);
     }
 
@@ -142,6 +151,8 @@ class TestLook : public QObject {
         TitoloPrincipale();
         finestre::Main().show();
         QVERIFY(QTest::qWaitForWindowExposed(&finestre::Main()));
+        QCOMPARE(finestre::Main().windowTitle(), "Vestrola - Ver. 3.0.2130");
+        QCOMPARE(faultsOfLayout(finestre::Main()), QStringList());
         keepPicture(finestre::Main(), "principale");
     }
 };

@@ -74,7 +74,6 @@ struct Windows {
             ui::openAtLeast(window, window.size());
             show(window, name);
         };
-        finestre::Main().resize(1080, 640);  // as designed, whatever the screen of the test
         look(finestre::Main(), "frmMain");
         finestre::Invia().SetPrgBar();
         finestre::Invia().CaricaDati();

@@ -1,7 +1,11 @@
 // Pause, time-out and block limit of a run, and its log.
 #include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QScopeGuard>
 
 #include "lang/bVAR.h"
+#include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;
@@ -213,8 +217,26 @@ class TestFrmInviaLimiti : public QObject {
         log.close();
         stage.pick();
         stage.click("chkLog");
-        FileDialog::queue(log.fileName());
+        // The real dialog: a question about the file that is there would be another modal window.
+        ui::setUnattended(false);
+        const auto unattended = qScopeGuard([] { ui::setUnattended(true); });
+        QStringList asked;
+        QTimer answer;
+        answer.callOnTimeout([&] {
+            QWidget* window = QApplication::activeModalWidget();
+            if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
+                asked << "dialog";
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(log.fileName());
+                QMetaObject::invokeMethod(dialog, "accept");
+            } else if (auto* question = qobject_cast<QMessageBox*>(window)) {
+                asked << question->text();
+                question->reject();
+            }
+        });
+        answer.start(0);
         stage.start();
+        answer.stop();
+        QCOMPARE(asked, QStringList("dialog"));
         QVERIFY(stage.waitForEnd());
         QVERIFY(MessageDialog::shown().isEmpty());
         QVERIFY(log.open(QIODevice::ReadOnly));

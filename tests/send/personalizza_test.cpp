@@ -154,6 +154,13 @@ TEST(RecipientColumns, AreReadFromTheCurrentRow) {
     ado::closeAll();
 }
 
+TEST(Personalisation, ACapitalOneIsLeftAloneBesideAnExactOne) {
+    const Row values{{"rgs", "Alfa"}, {"nom", "Ada"}};
+    EXPECT_EQ(personalized(":::RGS::: :::rgs::: :::Rgs::: :::nom::::::NOM:::", values),
+              ":::RGS::: Alfa :::Rgs::: Ada:::NOM:::");
+    EXPECT_EQ(personalized(":::rgs::::::RGS:::", values), "Alfa:::RGS:::");
+}
+
 TEST(Personalisation, ValueInALinkBecomesNoPartOfIt) {
     ValoriSegnaposto values;
     values[1] = QStringLiteral("a&cc=b@c.it/?#:::email:::\r\n è");

@@ -256,7 +256,7 @@ class TestBars : public QObject {
         QCOMPARE(stage.help(), "Invia i messaggi");
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(&stage.window(), &leave);
-        QTest::qWait(20);
+        QCoreApplication::processEvents();
         QCOMPARE(stage.help(), "Invia i messaggi");
         stage.window().Commands().GetToolButton("cmdEsci")->setDescription("Vai via");
         stage.window().findChild<QAction*>("cmdEsci")->hover();
@@ -301,11 +301,10 @@ class TestBars : public QObject {
         QCOMPARE(before.bottom(), expected().bottom());
         window.resize(1200, 700);
         window.resizeDocks({pane}, {300}, Qt::Horizontal);
-        QTest::qWait(20);
-        QCOMPARE(window.grd().geometry().right(), expected().right());
+        QTRY_VERIFY(window.grd().geometry() != before);
+        QTRY_COMPARE(window.grd().geometry().right(), expected().right());
         QCOMPARE(window.grd().geometry().left(), expected().left());
         QCOMPARE(window.grd().geometry().bottom(), expected().bottom());
-        QVERIFY(window.grd().geometry() != before);
     }
 
     void theWindowOpensAtItsDesignSize() {
@@ -332,7 +331,7 @@ class TestBars : public QObject {
         stage.grd().setFixedColor(Qt::red);
         stage.grd().setBackColor(Qt::red);
         stage.window().resize(1090, 650);
-        QTest::qWait(20);
+        QTRY_COMPARE(stage.grd().lineColor(), QColor(128, 128, 128));
         QCOMPARE(coloriTema[24], 128u | 128u << 8 | 128u << 16);
         QCOMPARE(stage.grd().lineColor(), QColor(128, 128, 128));
         QCOMPARE(stage.grd().fixedColor(), QColor(212, 208, 200));

@@ -12,17 +12,11 @@
 #include "lang/bVAR.h"
 #include "platform/ui/PropertyList.h"
 #include "store/griglia_stage.h"
+#include "support/LookCheck.h"
 
 using namespace testing_support;
 
 namespace {
-
-void keepPicture(QWidget& window, const QString& name) {
-    const QString folder = qEnvironmentVariable("VESTROLA_SHOTS");
-    if (!folder.isEmpty()) QDir().mkpath(folder);
-    QTest::qWait(30);
-    if (!folder.isEmpty() && !window.grab().save(folder + '/' + name + ".png")) qFatal("no picture");
-}
 
 void makeLonger(QString& text) {
     text += QString(text.size() / 3 + 1, 'm');
@@ -69,6 +63,7 @@ class TestAspetto : public QObject {
     void picturesOfTheMainWindow() {
         StoreStage stage;
         stage.window();
+        QCOMPARE(faultsOfLayout(stage.window()), QStringList());
         keepPicture(stage.window(), "main_inizio");
         stage.clickNode("K1");
         keepPicture(stage.window(), "main_cartella_vuota");
@@ -80,6 +75,8 @@ class TestAspetto : public QObject {
         QVERIFY(stage.tree().Expand('K' + italy).ok());
         stage.clickCell(4, 5);
         stage.grd().setFocus();
+        QCOMPARE(faultsOfLayout(stage.window()), QStringList());
+        QCOMPARE(stage.grd().Rows(), 201);
         keepPicture(stage.window(), "main_cartella");
         stage.clickNode("K" + italy, Qt::RightButton);
         QWidget* menu = QApplication::activePopupWidget();
@@ -88,6 +85,7 @@ class TestAspetto : public QObject {
         menu->close();
         stage.tree().setFocus();
         stage.command("cmdPopMailingRinomina");
+        QVERIFY(stage.tree().findChild<QLineEdit*>());
         keepPicture(stage.window(), "main_rinomina");
     }
 
@@ -96,6 +94,10 @@ class TestAspetto : public QObject {
         makeTextsLonger();
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
+        QCOMPARE(faultsOfLayout(stage.window()), QStringList());
+        const QHeaderView* head = stage.grd().horizontalHeader();
+        for (int section = 0; section < head->count(); ++section)
+            if (!head->isSectionHidden(section)) QVERIFY(head->sectionSize(section) >= 40);
         keepPicture(stage.window(), "main_lunghi");
     }
 

@@ -133,11 +133,15 @@ class TestGriglia : public QObject {
 
     void clickBesideTheBoxWritesNothing() {
         StoreStage stage;
-        const int id = stage.addRecipient(1, "Alfa");
+        const int off = stage.addRecipient(1, "Alfa", "a@x.it", false);
+        const int on = stage.addRecipient(1, "Beta", "b@x.it", true);
         stage.clickNode("K1");
-        stage.clickCell(1, 3);
-        stage.clickCell(1, 5);
-        QVERIFY(selected(id));
+        for (const int row : {1, 2})
+            for (const int column : {3, 5}) {
+                stage.clickCell(row, column);
+                QVERIFY(!selected(off));
+                QVERIFY(selected(on));
+            }
     }
 
     void clickOnAHeadingDoesNothing() {
