@@ -425,6 +425,27 @@ TEST_F(LockTest, FileThatIsReplacedInATransactionIsNotWritten) {
     EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
 }
 
+TEST_F(LockTest, FileThatIsMovedAwayInATransactionTakesItsRowsWithIt) {
+    DatabasePtr database = open(path());
+    EXPECT_OK(database->begin());
+    addRows(*database, 3);
+    std::filesystem::rename(path(), path("spostato.mdb"));
+    EXPECT_OK(database->commit());
+    EXPECT_FAILS(ErrorCode::FileNotFound, database->begin());
+    database.reset();
+    std::filesystem::rename(path("spostato.mdb"), path());
+    database = open(path());
+    EXPECT_EQ(rowsOf(table(*database)).size(), 3u);
+}
+
+TEST_F(LockTest, FileThatIsDeletedInATransactionIsNotWritten) {
+    DatabasePtr database = open(path());
+    EXPECT_OK(database->begin());
+    addRows(*database, 1);
+    std::filesystem::remove(path());
+    EXPECT_FAILS(ErrorCode::FileNotFound, database->commit());
+}
+
 TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
     const std::string before = bytesOf(path());
     {

@@ -106,14 +106,15 @@ void PageFile::lockForWriting() {
     m_file.tryLock(Lock::None, Range::Gate);
 }
 
-// Before pages are written. Fails when the file is not the one under the name any more: a change of it would
-// be lost.
+// Before pages are written. Fails when another file bears the name now, or none has this one's content any
+// more: a change of it would be lost. One that was moved away takes the change with it; its journal waits
+// under the old name.
 void PageFile::lockPages() {
     const auto requireInPlace = [&] {
         FileState now;
-        if (fileState(m_path, now) && sameFile(now, m_opened)) return;
+        if (fileState(m_path, now) ? sameFile(now, m_opened) : m_file.rights().links > 0) return;
         fail(ErrorCode::FileNotFound, "Il database \"", m_path,
-             "\" è stato spostato o sostituito: la modifica non è stata fatta.");
+             "\" è stato sostituito o cancellato: la modifica non è stata fatta.");
     };
     requireInPlace();
     if (!m_file.tryLock(Lock::Exclusive, Range::Author))
