@@ -92,6 +92,7 @@ TEST_F(ConcurrencyTest, AnImportLetsOthersInBetweenItsGroups) {
     const pid_t import = start([this] {
         ado::GroupedInserts inserts;
         inserts.setGroupSize(20);
+        inserts.setGroupAge(std::chrono::hours(1));  // or a slow machine ends groups early
         if (!inserts.setActiveConnection(connection).ok()) return false;
         for (int i = 0; i < 10 * rounds; ++i)
             if (!inserts.execute(QStringLiteral("INSERT INTO tb_destinatari (rgs) VALUES ('%1')").arg(i))
