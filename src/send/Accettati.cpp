@@ -1,7 +1,6 @@
 #include "send/Accettati.h"
 
-#include <algorithm>
-#include <chrono>
+#include <optional>
 
 #include "core/bGlobal.h"
 #include "core/bImpostazioni.h"
@@ -12,13 +11,7 @@
 
 namespace {
 
-using Orologio = std::chrono::steady_clock;
-constexpr std::chrono::seconds attesaMassima{5};
-
-int SecondiRimasti(Orologio::time_point fine) {
-    const auto rimasti = std::chrono::ceil<std::chrono::seconds>(fine - Orologio::now());
-    return std::max(1, static_cast<int>(rimasti.count()));
-}
+constexpr int attesaMassima = 5;  // seconds, all statements for one recipient together
 
 ado::Recordset RigheDi(qint64 numero, const QString& condizione = {}) {
     ado::Recordset rs = RecordsetDB();
@@ -37,12 +30,13 @@ std::optional<QString> IndirizzoDi(qint64 numero) {
 }
 
 /// False where the row no longer bears the address that was served.
-bool TogliDallaSelezione(const mail::AcceptedEntry& accettato, Orologio::time_point fine) {
+bool TogliDallaSelezione(const mail::AcceptedEntry& accettato) {
+    const ado::Waiting attesa(attesaMassima);
     std::optional<QString> email = IndirizzoDi(accettato.number);
     if (!email || !accettato.bears(*email)) return false;
     ado::Command cmd;
     esigi(cmd.setActiveConnection(connDB));
-    cmd.setCommandTimeout(SecondiRimasti(fine));
+    cmd.setCommandTimeout(attesaMassima);
     cmd.setPrepared(false);
     cmd.setCommandText(
         "UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = " + QString::number(accettato.number) +
@@ -87,13 +81,11 @@ RisposteAttese& risposteAttese() {
 }
 
 void ApplicaAccettati(const std::function<void(const QString&)>& annota) {
-    const auto fine = Orologio::now() + attesaMassima;
-    const ado::Waiting attesa(static_cast<int>(attesaMassima.count()));  // of the reading as well
     mail::AcceptedList& elenco = accettati();
     elenco.refresh();
     const auto database = mail::DatabaseFile::at(percorsoDB);
     for (const mail::AcceptedEntry& accettato : elenco.of(database)) {
-        if (!TogliDallaSelezione(accettato, fine) && annota)
+        if (!TogliDallaSelezione(accettato) && annota)
             annota(QStringLiteral(
                        "Destinatario numero %1: già servito, ma la sua riga non ha più quell'indirizzo. "
                        "Resta com'è.")

@@ -160,11 +160,8 @@ bool frmInvia::PreparaElenco() {
         return false;
     }
     AvvisaAccettatiScartati();
-    qint64 conto = 0;
-    prosegui([&] {
-        ado::Recordset rs = RecordsetDB();
-        conto = ContaSelezionati(rs);
-    });
+    // The window is modal: there are not more than when it was opened.
+    const auto conto = static_cast<qsizetype>(prgDaInviare->maximum());
     const Status riservato = accettati().reserve(mail::DatabaseFile::at(percorsoDB), conto);
     if (riservato.ok()) {
         if (DiscoPienoPrimaDellInvio())

@@ -116,6 +116,26 @@ class TestFrmInviaAccettati : public QObject {
         QCOMPARE(stage.sink.attempts(), QStringList{"b@x.it"});
     }
 
+    void databaseThatAnotherProcessKeepsLockedEndsTheClickWithABox() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        remember(1, "a@x.it");
+        stage.pick();
+        const int held = ::open(QFile::encodeName(percorsoDB).constData(), O_RDWR | O_CLOEXEC);
+        struct flock whole {};
+        whole.l_type = F_WRLCK;
+        whole.l_whence = SEEK_SET;
+        whole.l_len = (off_t{1} << 62) + 16;
+        QCOMPARE(::fcntl(held, F_OFD_SETLK, &whole), 0);
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.click("cmdInvia");
+        QVERIFY2(boxes().contains("L'invio non è iniziato"), qPrintable(boxes()));
+        QVERIFY(!stage.timer().isActive());
+        ::close(held);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), QStringList{"b@x.it"});
+    }
+
     void closingTakesThemOutToo() {
         SendStage stage({"a@x.it", "b@x.it"});
         remember(1, "a@x.it");

@@ -4,11 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <QFile>
 #include <QScopeGuard>
 #include <thread>
+#include <utility>
 
 namespace mail {
 

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <QString>
+#include <utility>
 
 #include "platform/mail/AcceptedEntry.h"
 #include "platform/Status.h"

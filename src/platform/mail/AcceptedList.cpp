@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QFile>
 #include <QSet>
+#include <utility>
 
 namespace mail {
 
@@ -98,7 +99,7 @@ Status AcceptedList::makeFile() {
         const QString path = fileName(m_folder, number);
         auto file = AcceptedFile::open(path, AcceptedFile::Create::IfMissing);
         if (!file || !file->own()) continue;
-        const Status begun = file->reserve(0);
+        Status begun = file->reserve(0);
         if (!begun.ok()) return begun;
         if (use(std::move(*file))) {
             const Status reserved = m_file->reserve(roomAtFirst + m_entries.size());
@@ -138,7 +139,7 @@ Status AcceptedList::reserve(const DatabaseFile& database, qsizetype count) {
     m_last = database;
     if (m_folder.isEmpty()) return {};
     if (!m_file) {
-        const Status made = makeFile();
+        Status made = makeFile();
         if (!made.ok()) return made;
     }
     Status reserved = m_file->reserve(m_entries.size() + count);

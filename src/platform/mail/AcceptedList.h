@@ -4,6 +4,7 @@
 #include <optional>
 #include <QStringList>
 #include <QVector>
+#include <utility>
 
 #include "platform/mail/AcceptedEntry.h"
 #include "platform/mail/AcceptedFile.h"
