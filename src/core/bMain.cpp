@@ -6,6 +6,7 @@
 #include "core/Finestre.h"
 #include "core/Puntatore.h"
 #include "core/Riavvio.h"
+#include "platform/ui/MessageDialog.h"
 #include "send/Accettati.h"
 #include "send/Accettati_avviso.h"
 #include "shell/frmMain.h"
@@ -17,7 +18,7 @@ void SubMain() {
     riavvio::SegnaAvvio();
     ScriviInizioLog();
     PuntatoreAttesa();
-    CaricaPercorsoDBase();
+    const QString avvisoPercorso = CaricaPercorsoDBase();
     // Naming the main window creates and loads it before the caption is stored.
     prosegui([] { TitoloPrincipale(); });
     // The splash stays on top while the main window comes up.
@@ -32,4 +33,6 @@ void SubMain() {
     riavvio::SegnaFinestra();
     riavvio::RiprendiGruppo();
     AvvisaAccettatiScartati();
+    if (!avvisoPercorso.isEmpty())
+        ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, "Attenzione");
 }

@@ -1,6 +1,7 @@
 #include "store/percorsoDBase.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "core/bGlobal.h"
@@ -27,10 +28,12 @@ class DatabasePath : public testing::Test {
     QString file() const { return cartellaDati() + QStringLiteral("pathDBase.imp"); }
     QString read(const QByteArray& bytes) const {
         writeBytes(file(), bytes);
-        CaricaPercorsoDBase();
+        EXPECT_EQ(CaricaPercorsoDBase(), QString());
         EXPECT_EQ(connDB, prefix + percorsoDB);
         return percorsoDB;
     }
+    QString whole() const { return cartellaDati() + QStringLiteral("pathDBase.utf8"); }
+    static QString aside() { return QStringLiteral("messo da parte"); }
 
   private:
     QTemporaryDir m_folder;
@@ -57,7 +60,7 @@ TEST_F(DatabasePath, FirstLineMayBeAnything) {
 }
 
 TEST_F(DatabasePath, MissingFileLeavesThePathEmpty) {
-    CaricaPercorsoDBase();
+    EXPECT_EQ(CaricaPercorsoDBase(), QString());
     EXPECT_TRUE(percorsoDB.isEmpty());
     EXPECT_EQ(prefissoConnDB, prefix);
     EXPECT_EQ(connDB, prefix);
@@ -69,18 +72,82 @@ TEST_F(DatabasePath, FileWithoutASecondLineLeavesThePathEmpty) {
 }
 
 TEST_F(DatabasePath, ChangeRewritesTheFileAndTheConnection) {
-    CaricaPercorsoDBase();
+    EXPECT_EQ(CaricaPercorsoDBase(), QString());
     CambiaPercorsoDBase(QStringLiteral("/dati/città.mdb"));
     EXPECT_EQ(bytesOf(file()), QByteArray("[Path dabatase Quintara]\r\n/dati/citt\xE0.mdb\r\n"));
     EXPECT_EQ(connDB, prefix + QStringLiteral("/dati/città.mdb"));
-    CaricaPercorsoDBase();
+    EXPECT_EQ(CaricaPercorsoDBase(), QString());
     EXPECT_EQ(percorsoDB, QStringLiteral("/dati/città.mdb"));
 }
 
 TEST_F(DatabasePath, ChangeHoldsWhereTheFileCannotBeWritten) {
-    CaricaPercorsoDBase();
+    EXPECT_EQ(CaricaPercorsoDBase(), QString());
     ASSERT_TRUE(QDir().mkpath(file()));
     CambiaPercorsoDBase(QStringLiteral("/dati/lista.mdb"));
     EXPECT_EQ(percorsoDB, QStringLiteral("/dati/lista.mdb"));
     EXPECT_EQ(connDB, prefix + percorsoDB);
+}
+
+TEST_F(DatabasePath, PathsOutsideTheCodePageAreFoundAgain) {
+    EXPECT_EQ(CaricaPercorsoDBase(), QString());
+    for (const QString& path :
+         {QStringLiteral("/dati/\u0142\u00F3d\u017A.mdb"), QStringLiteral("/dati/citta\u0300.mdb"),
+          QStringLiteral("/\u65E5\u672C/\U0001F4E7 ?.mdb")}) {
+        CambiaPercorsoDBase(path);
+        EXPECT_TRUE(bytesOf(file()).contains('?'));
+        percorsoDB.clear();
+        EXPECT_EQ(CaricaPercorsoDBase(), QString());
+        EXPECT_EQ(percorsoDB, path);
+        EXPECT_EQ(connDB, prefix + path);
+        EXPECT_EQ(QFile::permissions(whole()) &
+                      (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
+                  QFile::Permissions());
+    }
+    EXPECT_EQ(bytesOf(file()), QByteArray("[Path dabatase Quintara]\r\n/??/? ?.mdb\r\n"));
+}
+
+TEST_F(DatabasePath, TheWholePathIsKeptOnlyForAPathThatNeedsIt) {
+    CambiaPercorsoDBase(QStringLiteral("/dati/\u0142.mdb"));
+    EXPECT_EQ(bytesOf(whole()), QByteArray("/dati/\xC5\x82.mdb\r\n"));
+    CambiaPercorsoDBase(QStringLiteral("/dati/citt\u00E0.mdb"));
+    EXPECT_FALSE(QFile::exists(whole()));
+}
+
+TEST_F(DatabasePath, AWholePathThatIsNotTheOneOfTheFirstFileIsNotUsed) {
+    writeBytes(whole(), "/dati/\xC5\x82.mdb\r\n");
+    EXPECT_EQ(read("h\r\n/dati/a.mdb\r\n"), QStringLiteral("/dati/a.mdb"));
+    EXPECT_EQ(read("h\r\nXXX\r\n"), cartellaDati() + QStringLiteral("data.mdb"));
+    EXPECT_EQ(read("h\r\n/dati/?.mdb\r\n"), QStringLiteral("/dati/\u0142.mdb"));
+    EXPECT_TRUE(QFile::exists(whole()));
+}
+
+TEST_F(DatabasePath, ADamagedWholePathIsSetAsideAndTold) {
+    const QByteArray damaged[] = {"",
+                                  "\r\n",
+                                  "/dati/\xC5\x82.mdb",
+                                  "/dati/\xC5.mdb\r\n",
+                                  QByteArray("/dati/\0.mdb\r\n", 12),
+                                  "/dati/\xC5\x82\r\n.mdb\r\n",
+                                  QByteArray(20000, 'a') + "\r\n"};
+    for (const QByteArray& bytes : damaged) {
+        writeBytes(whole(), bytes);
+        writeBytes(file(), "h\r\n/dati/?.mdb\r\n");
+        EXPECT_TRUE(CaricaPercorsoDBase().contains(aside())) << bytes.left(40).toStdString();
+        EXPECT_EQ(percorsoDB, QStringLiteral("/dati/?.mdb"));
+        EXPECT_FALSE(QFile::exists(whole()));
+        EXPECT_EQ(bytesOf(whole() + QStringLiteral(".guasto")), bytes);
+    }
+    EXPECT_EQ(CaricaPercorsoDBase(), QString()) << "told once";
+}
+
+TEST_F(DatabasePath, ALinkIsNotFollowed) {
+    const QString target = cartellaDati() + QStringLiteral("altro.txt");
+    writeBytes(target, "/dati/\xC5\x82.mdb\r\n");
+    ASSERT_TRUE(QFile::link(target, whole()));
+    writeBytes(file(), "h\r\n/dati/?.mdb\r\n");
+    EXPECT_FALSE(CaricaPercorsoDBase().isEmpty());
+    EXPECT_EQ(percorsoDB, QStringLiteral("/dati/?.mdb"));
+    ASSERT_TRUE(QFile::link(target, whole()));
+    CambiaPercorsoDBase(QStringLiteral("/dati/\u017A.mdb"));
+    EXPECT_EQ(bytesOf(target), QByteArray("/dati/\xC5\x82.mdb\r\n"));
 }

@@ -43,7 +43,7 @@ SampleFolder::SampleFolder() {
     esigi(esigi(file->table("tb_gruppi"))->insert(group));
     esigi(file->commit());
     CambiaPercorsoDBase(database());
-    CaricaPercorsoDBase();
+    static_cast<void>(CaricaPercorsoDBase());
     write(cartellaDati() + "Account.imp", {});
     write(path("LANG.lng"),
           "[<LNG1>]Italiano\r\n[<MDLO>]: bVAR\r\n[<NOME>]Lingua[<LNG1>]&Lingua[<LNG2>]\r\n");

@@ -10,8 +10,47 @@ Status malformed() {
     return {ErrorCode::SyntaxError, QStringLiteral("Formato della stringa di connessione non valido.")};
 }
 
+/// Whether a text begins with a key of a connection text and its equal sign.
+bool beginsWithKey(QStringView text) {
+    static const QStringList keys{"provider",
+                                  "data source",
+                                  "mode",
+                                  "user id",
+                                  "password",
+                                  "persist security info",
+                                  "uid",
+                                  "pwd",
+                                  "extended properties",
+                                  "file name",
+                                  "initial catalog",
+                                  "locale identifier",
+                                  "prompt",
+                                  "connect timeout",
+                                  "general timeout",
+                                  "ole db services",
+                                  "cache authentication",
+                                  "encrypt password",
+                                  "mask password",
+                                  "window handle"};
+    const qsizetype equal = text.indexOf(u'=');
+    if (equal < 0) return false;
+    const QString key = text.left(equal).toString().simplified().toLower();
+    return keys.contains(key) || key.startsWith(QLatin1String("jet oledb:"));
+}
+
+/// Where a path that begins at `at` without quotes ends: it may hold semicolons.
+qsizetype endOfPath(const QString& text, qsizetype at) {
+    for (qsizetype end = text.indexOf(u';', at); end >= 0; end = text.indexOf(u';', end + 1)) {
+        qsizetype next = end;
+        while (next < text.size() && (text[next] == u';' || text[next].isSpace()))
+            ++next;
+        if (next == text.size() || beginsWithKey(QStringView(text).mid(next))) return end;
+    }
+    return -1;
+}
+
 /// Cuts the value that begins at `at`, quoted or not, and moves `at` behind its closing semicolon.
-std::optional<QString> takeValue(const QString& text, qsizetype& at) {
+std::optional<QString> takeValue(const QString& text, qsizetype& at, bool path) {
     while (at < text.size() && text[at].isSpace())
         ++at;
     QString value;
@@ -29,7 +68,7 @@ std::optional<QString> takeValue(const QString& text, qsizetype& at) {
         at = end < 0 ? text.size() : end + 1;
         return value;
     }
-    const qsizetype end = text.indexOf(u';', at);
+    const qsizetype end = path ? endOfPath(text, at) : text.indexOf(u';', at);
     value = text.mid(at, end < 0 ? -1 : end - at).trimmed();
     at = end < 0 ? text.size() : end + 1;
     return value;
@@ -53,7 +92,7 @@ Result<ConnectionText> ConnectionText::parse(const QString& text) {
         }
         const QString key = text.mid(at, equal - at).simplified().toLower();
         at = equal + 1;
-        const std::optional<QString> value = takeValue(text, at);
+        const std::optional<QString> value = takeValue(text, at, key == QLatin1String("data source"));
         if (key.isEmpty() || !value) return malformed();
         if (key == QLatin1String("data source")) {
             result.path = *value;
