@@ -17,6 +17,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/CountLabel.h"
 #include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
@@ -67,6 +68,9 @@ void frmInvia::CreaControlli() {
     const auto etichetta = [&](const char* nome, const char* testo) {
         return nomina(new QLabel(testo), nome);
     };
+    const auto conteggio = [&](const char* nome, const char* testo) {
+        return nomina(new ui::CountLabel(testo), nome);
+    };
     // In the order in which the keyboard goes round them.
     lblFile = etichetta("lblFile", "File messaggio da inviare:");
     txtFile = casella("txtFile");
@@ -83,11 +87,11 @@ void frmInvia::CreaControlli() {
     txtBloccoMin = casella("txtBloccoMin", "5");
     lblBlocco2 = etichetta("lblBlocco2", "minuti.");
     chkLog = nomina(new QCheckBox("Crea File per assistenza."), "chkLog");
-    lblDaInviare = etichetta("lblDaInviare", "Email da inviare:");
+    lblDaInviare = conteggio("lblDaInviare", "Email da inviare:");
     prgDaInviare = nomina(new ui::ProgressCounter, "prgDaInviare");
-    lblFallite = etichetta("lblFallite", "Email non inviate:");
+    lblFallite = conteggio("lblFallite", "Email non inviate:");
     prgFallite = nomina(new ui::ProgressCounter, "prgFallite");
-    lblInviate = etichetta("lblInviate", "Email inviate:");
+    lblInviate = conteggio("lblInviate", "Email inviate:");
     prgInviate = nomina(new ui::ProgressCounter, "prgInviate");
     cmdInvia = pulsante("cmdInvia", "&Invia messaggi", "document-send");
     cmdFerma = pulsante("cmdFerma", "&Ferma invio", "media-playback-stop");
@@ -231,7 +235,7 @@ void frmInvia::CollegaEventi() {
 void frmInvia::AllargaEtichette() {
     const QString cifre = ' ' + text::formatGrouped(9999999);
     int larghezza = 0;
-    for (QLabel* etichetta : {lblDaInviare, lblFallite, lblInviate}) {
+    for (const ui::CountLabel* etichetta : {lblDaInviare, lblFallite, lblInviate}) {
         const QString nome = etichetta->text().left(etichetta->text().indexOf(':') + 1);
         larghezza =
             qMax(larghezza, etichetta->fontMetrics().size(Qt::TextShowMnemonic, nome + cifre).width());

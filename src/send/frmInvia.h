@@ -20,8 +20,9 @@ namespace mail {
 class DeliveryControl;
 }
 namespace ui {
+class CountLabel;
 class ProgressCounter;
-}
+}  // namespace ui
 
 /// The send window: its set-up and the engine that walks the selection, one recipient for each tick of `tmr`.
 ///
@@ -84,6 +85,10 @@ class frmInvia : public QDialog {
     void AggiornaFallite(double n);
     void AggiornaInviate(double n);
 
+    // frmInvia_conteggi.cpp: the figures of the run
+    void DipingiConteggi();
+    void RaccontaConteggi(bool finito);
+
     // frmInvia_limiti.cpp: pause, time-out and log
     void ImpostaPausa(Prosegui& prosegui);
     void ImpostaTimeout(Prosegui& prosegui);
@@ -104,11 +109,11 @@ class frmInvia : public QDialog {
     QLineEdit* txtBloccoMin;
     QLabel* lblBlocco2;
     QCheckBox* chkLog;
-    QLabel* lblDaInviare;
+    ui::CountLabel* lblDaInviare;
     ui::ProgressCounter* prgDaInviare;
-    QLabel* lblFallite;
+    ui::CountLabel* lblFallite;
     ui::ProgressCounter* prgFallite;
-    QLabel* lblInviate;
+    ui::CountLabel* lblInviate;
     ui::ProgressCounter* prgInviate;
     QPushButton* cmdInvia;
     QPushButton* cmdFerma;
@@ -131,4 +136,5 @@ class frmInvia : public QDialog {
     QString oggettoMail;
     QString disiscrizione;  ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;
+    QDateTime ultimoRacconto;  ///< when assistive programs were told the figures last
 };

@@ -11,6 +11,7 @@
 #include "platform/ado/Command.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
+#include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
 #include "send/bMXQuery.h"
 #include "send/frmInvia.h"
@@ -65,10 +66,13 @@ void frmInvia::tmr_Timer() {
 
     nelGiro = false;
     if (prgDaInviare->value() > 0 && !fermaInvio) {
+        RaccontaConteggi(false);
+        if (limite.bloccoAttivo) DipingiConteggi();
         limite.applica();
         tmr->start();
     } else {
         AbilitaControlli(true);
+        RaccontaConteggi(true);
         FineInvio();
     }
 }
@@ -156,14 +160,15 @@ void frmInvia::cmdFerma_Click() {
 
 void frmInvia::AbilitaControlli(bool valore) {
     const bool fuocoSuFerma = focusWidget() == cmdFerma;  // also while another program is in front
+    // The focus goes where the next step is, before what has it is taken away: else it would go from one
+    // control to the next as they are turned off.
+    QPushButton* prossimo = valore ? cmdChiudi : cmdFerma;
+    prossimo->setEnabled(true);
+    prossimo->setDefault(true);
+    if (!valore || fuocoSuFerma) prossimo->setFocus();
     for (QWidget* controllo : std::initializer_list<QWidget*>{chkLog, txtFile, cmdFile, cmbAccount, cmbPausa,
                                                               cmbTimeout, chkBlocco, cmdChiudi, cmdInvia})
         controllo->setEnabled(valore);
-    // The focus goes where the next step is, before its button is taken away.
-    QPushButton* prossimo = valore ? cmdChiudi : cmdFerma;
-    if (!valore) cmdFerma->setEnabled(true);
-    prossimo->setDefault(true);
-    if (!valore || fuocoSuFerma) prossimo->setFocus();
     if (valore) cmdFerma->setEnabled(false);
 }
 

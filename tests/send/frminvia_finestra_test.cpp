@@ -1,4 +1,6 @@
 // The window around a run: how it is left and opened again, where focus and default button go.
+#include <QAccessible>
+#include <QApplication>
 #include <QScopeGuard>
 
 #include "shell/bTheme.h"
@@ -76,6 +78,50 @@ class TestFrmInviaFinestra : public QObject {
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.window->focusWidget(), stage.control<QPushButton>("cmdChiudi"));
         QVERIFY(stage.control<QPushButton>("cmdChiudi")->isDefault());
+    }
+
+    void pressingSendMovesTheFocusOnce() {
+        SendStage stage({"a@x.it"});
+        stage.pick();
+        stage.control<QWidget>("cmdInvia")->setFocus();
+        QStringList moves;
+        connect(qApp, &QApplication::focusChanged, stage.window.get(), [&](QWidget*, const QWidget* now) {
+            if (now) moves << now->objectName();
+        });
+        QTest::keyClick(stage.control<QWidget>("cmdInvia"), Qt::Key_Space);
+        QCOMPARE(moves, QStringList("cmdFerma"));
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(moves, QStringList({"cmdFerma", "cmdChiudi"}));
+    }
+
+    void aRunDescribesItselfEveryFiveSecondsAndAtItsEnd() {
+        TestClock clock;
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it", "d@x.it", "e@x.it", "f@x.it"});
+        stage.sink.treat("b@x.it", SmtpSink::Treatment::Refuse);
+        stage.pick();
+        QStringList seen;
+        // Six messages, of which each takes two seconds.
+        const auto served = [&] {
+            seen << stage.window->accessibleDescription();
+            clock.advance(2);
+        };
+        connect(&stage.smtp(), &mail::DeliveryControl::SendDone, stage.window.get(), served);
+        connect(&stage.smtp(), &mail::DeliveryControl::SendError, stage.window.get(), served);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        const QString first = "Email da inviare: 5, Email non inviate: 0, Email inviate: 1";
+        const QString fourth = "Email da inviare: 2, Email non inviate: 1, Email inviate: 3";
+        QCOMPARE(seen, QStringList({"", first, first, first, fourth, fourth}));
+        QCOMPARE(stage.window->accessibleDescription(),
+                 "Invio terminato, Email da inviare: 0, Email non inviate: 1, Email inviate: 5");
+        for (const char* name : {"lblDaInviare", "lblFallite", "lblInviate"})
+            QCOMPARE(
+                QAccessible::queryAccessibleInterface(stage.control<QLabel>(name))->text(QAccessible::Name),
+                stage.label(name));
+        QCOMPARE(QAccessible::queryAccessibleInterface(stage.control<QWidget>("prgInviate"))
+                     ->valueInterface()
+                     ->currentValue(),
+                 QVariant(5.0));
     }
 
     void focusMovesOnAtTheEndAlsoWhileAnotherWindowIsInFront() {

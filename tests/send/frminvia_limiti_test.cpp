@@ -21,6 +21,19 @@ QStringList addresses(int count) {
     return list;
 }
 
+/// Tells which widget is being painted.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(std::function<void(QWidget*)> painted) : m_painted(std::move(painted)) {}
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) m_painted(static_cast<QWidget*>(watched));
+        return false;
+    }
+
+  private:
+    std::function<void(QWidget*)> m_painted;
+};
+
 }  // namespace
 
 class TestFrmInviaLimiti : public QObject {
@@ -87,6 +100,32 @@ class TestFrmInviaLimiti : public QObject {
         QVERIFY(stage.run());
         QCOMPARE(stage.counters(), (QList<double>{0, 0, 7}));
         QCOMPARE(clock.slept(), 600000);  // behind the third and the sixth
+    }
+
+    void whatIsSeenDuringTheWaitIsTrue() {
+        TestClock clock;
+        SendStage stage(addresses(5));
+        stage.sink.treat("r1@x.it", SmtpSink::Treatment::Refuse);
+        QHash<QObject*, QString> painted;
+        PaintWatch watch([&](QWidget* widget) {
+            const auto* label = qobject_cast<QLabel*>(widget);
+            painted[widget] =
+                label ? label->text() : QString::number(qobject_cast<ui::ProgressCounter*>(widget)->value());
+        });
+        for (const char* name :
+             {"lblDaInviare", "lblFallite", "lblInviate", "prgDaInviare", "prgFallite", "prgInviate"})
+            stage.control<QWidget>(name)->installEventFilter(&watch);
+        QStringList seen;
+        clock.onSleep([&] {
+            if (!seen.isEmpty()) return;
+            for (const char* name :
+                 {"lblDaInviare", "lblFallite", "lblInviate", "prgDaInviare", "prgFallite", "prgInviate"})
+                seen << painted[stage.control<QWidget>(name)];
+        });
+        useBlock(stage, "3", "5");
+        QVERIFY(stage.run());
+        QCOMPARE(seen, QStringList({"Email da inviare: 2", "Email non inviate: 1", "Email inviate: 2", "2",
+                                    "1", "2"}));
     }
 
     void failedRecipientsCountToo() {

@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QPainter>
 
+#include "platform/system/Clock.h"
+
 namespace ui {
 
 namespace {
@@ -54,9 +56,15 @@ void ProgressCounter::setValue(double value) {
     const int before = barLength();
     m_value = value;
     if (barLength() != before) repaint();
-    QAccessibleValueChangeEvent event(this, value);
-    QAccessible::updateAccessibility(&event);
+    constexpr qint64 secondsBetween = 5;
+    if (value == 0 || !m_toldAt.isValid() || m_toldAt.secsTo(sys::clock().now()) >= secondsBetween) tell();
     Q_EMIT valueChanged(value);
+}
+
+void ProgressCounter::tell() {
+    m_toldAt = sys::clock().now();
+    QAccessibleValueChangeEvent event(this, m_value);
+    QAccessible::updateAccessibility(&event);
 }
 
 void ProgressCounter::setBarColor(const QColor& color) {

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QColor>
+#include <QDateTime>
 #include <QWidget>
 
 namespace ui {
 
 /// A progress bar that is also a counter: it holds its value and its maximum as they were given, also outside
 /// the range from 0 to the maximum; only the drawing is clamped. It shows no text. Assistive programs see a
-/// progress bar with its value and range.
+/// progress bar with its value and range; they are told of a change at most every five seconds, of the value 0
+/// at once, and by tell().
 class ProgressCounter : public QWidget {
     Q_OBJECT
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
@@ -22,6 +24,8 @@ class ProgressCounter : public QWidget {
     /// What changes to the eye is drawn at once: work that holds the events back shows its progress all the
     /// same.
     void setValue(double value);
+    /// Tells assistive programs the present value.
+    void tell();
 
     /// Colour of the filled part; the palette's highlight colour where none was set.
     void setBarColor(const QColor& color);
@@ -43,6 +47,7 @@ class ProgressCounter : public QWidget {
 
     double m_maximum = 100;
     double m_value = 0;
+    QDateTime m_toldAt;
     QColor m_barColor;
 };
 

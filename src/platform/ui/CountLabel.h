@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QLabel>
+
+namespace ui {
+
+/// A label whose text changes often. Assistive programs find the present text in it at any time, but are told
+/// of a change only by tell(): a plain label tells each of them.
+class CountLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit CountLabel(const QString& text, QWidget* parent = nullptr);
+
+    void tell();
+};
+
+}  // namespace ui
