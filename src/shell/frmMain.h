@@ -68,7 +68,7 @@ class frmMain : public QMainWindow {
     void CreaMenu();
     void CreaBarre();
     void CreaBarraStato();
-    /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars.
+    /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars; F10 opens the first menu.
     void CreaGiroFuoco(frmGruppi& gruppi);
     void AggiornaData();
 

@@ -163,6 +163,9 @@ void frmMain::AggiornaComandi() {
 
 void frmMain::CreaGiroFuoco(frmGruppi& gruppi) {
     setTabOrder(gruppi.TREE, destinatari);
+    auto* menu = new QShortcut(Qt::Key_F10, this);
+    connect(menu, &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     auto* giro = new QShortcut(Qt::Key_F6, this);
     connect(giro, &QShortcut::activated, this, [this, &gruppi] {
         evento([&] {

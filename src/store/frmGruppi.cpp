@@ -42,6 +42,7 @@ frmGruppi::frmGruppi(QWidget* parent) : QWidget(parent), TREE(new ui::GroupTree(
     area->setContentsMargins(0, 0, 0, 0);
     area->addWidget(TREE);
     CollegaEventi();
+    CollegaTaglia();
 }
 
 void frmGruppi::AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome) {
@@ -123,6 +124,7 @@ void frmGruppi::DimenticaNodo() {
     nodoCorrente.reset();
     chiaveNodo.clear();
     livelloMancato.clear();
+    DimenticaTaglio();
 }
 
 QString frmGruppi::MenuDelNodo() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QString>
 #include <QWidget>
 
@@ -58,8 +59,24 @@ class frmGruppi : public QWidget {
     void TREEAfterLabelEdit(const QString& testo, bool* annulla);
     void TREEDragDrop(const ui::GroupNodeRef& nodo);
     void TREEOLEDragDrop(const ui::GroupNodeRef& nodo);
+    void SpostaDestinatario(const QString& id, const ui::GroupNodeRef& nodo);
+    bool SpostaGruppo(const QString& chiave, const ui::GroupNodeRef& nodo);
+
+    // frmGruppi_taglia.cpp
+    void CollegaTaglia();
+    void TagliaDestinatario();
+    void TagliaGruppo();
+    void Incolla();
+    void DimenticaTaglio();
+
+    /// What Ctrl+X marked.
+    struct Taglio {
+        bool gruppo;
+        QString chiave;  ///< key of the group, or number of the recipient
+    };
 
     QString chiaveNodo;          ///< key of the node last clicked: the group that a drag moves
     QString livelloMancato;      ///< key of the node whose level the last click failed to load
     QString chiaveDestinazione;  ///< key of the node under a group drop
+    std::optional<Taglio> tagliato;
 };

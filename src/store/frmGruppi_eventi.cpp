@@ -82,17 +82,22 @@ void frmGruppi::TREEAfterLabelEdit(const QString& testo, bool* annulla) {
     if (nodoCorrente && nodoCorrente->Key == chiaveNodo) nodoCorrente->Text = testo;
 }
 
-/// A recipient came from the grid. The level of its new group is loaded, since the group's commands, which
-/// look at its children in the tree, take it from here on.
+/// A recipient came from the grid.
 void frmGruppi::TREEDragDrop(const ui::GroupNodeRef& nodo) {
     if (!nodo) fallisci(ErrorCode::ItemNotFound);
+    SpostaDestinatario(griglia::idCorrente(), nodo);
+}
+
+/// Makes the node current and puts the recipient into its group. The level of its new group is loaded, since
+/// the group's commands, which look at its children in the tree, take it from here on.
+void frmGruppi::SpostaDestinatario(const QString& id, const ui::GroupNodeRef& nodo) {
     nodoCorrente = Nodo{nodo->Key(), nodo->Text()};
     CaricaSottogruppi(nodo->Key());
     ado::Command comando;
     esigi(comando.setActiveConnection(connDB));
     comando.setCommandTimeout(0);
     comando.setCommandText("UPDATE [tb_destinatari] SET id_grp = " + NumeroNodoCorrente() +
-                           " WHERE id = " + griglia::idCorrente() + " ;");
+                           " WHERE id = " + id + " ;");
     esigi(comando.execute());
     TREEClick();
 }
@@ -100,13 +105,17 @@ void frmGruppi::TREEDragDrop(const ui::GroupNodeRef& nodo) {
 /// A group came from this tree: the one last clicked, whatever was dragged. The tree refuses to put a node
 /// below itself, and the table is reached only after that.
 void frmGruppi::TREEOLEDragDrop(const ui::GroupNodeRef& nodo) {
-    if (!nodo) return;
+    if (nodo) SpostaGruppo(chiaveNodo, nodo);
+}
+
+/// False where a step failed; those that follow it did not run.
+bool frmGruppi::SpostaGruppo(const QString& chiave, const ui::GroupNodeRef& nodo) {
     Prosegui prosegui;
-    prosegui([&] {
+    return prosegui([&] {
         CaricaSottogruppi(nodo->Key());
         chiaveDestinazione = nodo->Key();
-        if (chiaveNodo.isEmpty() || chiaveNodo == chiaveDestinazione) return;
-        esigi(TREE->Move(chiaveNodo, chiaveDestinazione));
-        ScriviGruppo(chiaveNodo, u"id_up", NumeroNodo(chiaveDestinazione).toInt());
+        if (chiave.isEmpty() || chiave == chiaveDestinazione) return;
+        esigi(TREE->Move(chiave, chiaveDestinazione));
+        ScriviGruppo(chiave, u"id_up", NumeroNodo(chiaveDestinazione).toInt());
     });
 }

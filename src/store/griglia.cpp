@@ -153,6 +153,11 @@ void griglia::AggiornaFrase() {
     if (!vuota) grd().setEmptyText("Fai clic sulla cartella per vedere i destinatari");
 }
 
+QString griglia::SegnaRiga() {
+    grd().markRow(grd().Row());
+    return grd().TextMatrix(grd().Row(), colonnaEmail);
+}
+
 void griglia::ScegliRiga(const QString& id) {
     static_cast<void>(grd().setCurrentRow(colonnaId, id));
 }

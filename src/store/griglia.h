@@ -24,6 +24,8 @@ void RinfrescaGriglia();
 void SegnaNonLetta();
 /// Sees that the sentence over an empty grid is true: an import adds rows behind its back.
 void AggiornaFrase();
+/// Marks the current row as one that is to move; gives the recipient's address.
+QString SegnaRiga();
 /// Makes the recipient's row the current one, if the grid shows it.
 void ScegliRiga(const QString& id);
 

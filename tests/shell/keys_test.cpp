@@ -92,6 +92,24 @@ class TestKeys : public QObject {
         QCOMPARE(order, (QStringList{"TREE", "grd", "cmdMailingApri", "TREE"}));
     }
 
+    void f10ReachesTheMenuBarAndEscLeavesIt() {
+        StoreStage stage;
+        stage.window();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+        QWidget* menu = QApplication::activePopupWidget();
+        QVERIFY(menu);
+        QCOMPARE(menu->objectName(), "mnuFile");
+        QTest::keyClick(menu, Qt::Key_Right);
+        menu = QApplication::activePopupWidget();
+        QVERIFY(menu);
+        QCOMPARE(menu->objectName(), "mnuEditor");
+        QTest::keyClick(menu, Qt::Key_Escape);
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(focus(), "Menu");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(focus(), "TREE");
+    }
+
     void popUpCommandsOfTheBarAreOffBeforeAnyClick() {
         StoreStage stage;
         QVERIFY(!enabled(stage, "cmdPopMailingNew"));

@@ -185,6 +185,18 @@ class TestAspetto : public QObject {
             QCOMPARE(QAccessible::queryAccessibleInterface(it.key())->text(QAccessible::Name), it.value());
     }
 
+    void aRowOfTheGridIsNamedByItsAddress() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa", "alfa@x.it");
+        stage.addRecipient(1, "Beta", "beta@x.it");
+        stage.clickNode("K1");
+        QAccessibleTableInterface* rows =
+            QAccessible::queryAccessibleInterface(&stage.grd())->tableInterface();
+        QCOMPARE(rows->rowDescription(0), "alfa@x.it");
+        QCOMPARE(rows->cellAt(1, 2)->tableCellInterface()->rowHeaderCells()[0]->text(QAccessible::Name),
+                 "beta@x.it");
+    }
+
     void tabLeavesTheListForTheButtons() {
         StoreStage stage;
         stage.clickNode("K1");

@@ -1,4 +1,5 @@
 // The group commands of the pop-up menus.
+#include <QAccessible>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScopeGuard>
@@ -161,6 +162,7 @@ class TestGruppiComandi : public QObject {
         QString selected;
         QString help;
         QString text;
+        QString read;
         bool inSight = false;
         ui::setUnattended(false);
         const auto back = qScopeGuard([] { ui::setUnattended(true); });
@@ -169,6 +171,7 @@ class TestGruppiComandi : public QObject {
             if (!box || !QTest::qWaitForWindowExposed(box)) qFatal("no question");
             QApplication::setActiveWindow(box);
             text = box->text();
+            read = QAccessible::queryAccessibleInterface(box)->text(QAccessible::Description);
             help = stage.help();
             selected = stage.tree().SelectedItem()->Text();
             inSight = stage.tree().visualItemRect(stage.tree().selectedItems().constFirst()).isValid();
@@ -178,6 +181,7 @@ class TestGruppiComandi : public QObject {
         QCOMPARE(text,
                  "Sicuro di voler eliminare questo gruppo?\n"
                  "Tutti i destinatari appartenenti a questo gruppo saranno cancellati.");
+        QCOMPARE(read, text);
         QCOMPARE(selected, "Altro");
         QVERIFY(inSight);
         QCOMPARE(help, "Altro: 3 destinatari");

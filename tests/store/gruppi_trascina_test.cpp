@@ -256,6 +256,77 @@ class TestGruppiTrascina : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(Clienti(B))");
     }
 
+    void recipientIsCutAndPastedByKeys() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addGroup(b, "Sotto B");
+        stage.addRecipient(1, "Alfa", "alfa@x.it");
+        const int beta = stage.addRecipient(1, "Beta", "beta@x.it");
+        stage.addRecipient(b, "Acca", "acca@x.it");
+        stage.clickNode("K1");
+        stage.clickCell(2, 5);
+        stage.grd().setFocus();
+        QTest::keyClick(&stage.grd(), Qt::Key_X, Qt::ControlModifier);
+        QVERIFY(stage.help().contains("beta@x.it"));
+        QVERIFY(stage.grd().model()->index(1, 5).data(Qt::FontRole).isValid());
+        QVERIFY(!stage.grd().model()->index(0, 5).data(Qt::FontRole).isValid());
+        stage.tree().setFocus();
+        while (nodoCorrente->Text != "B")
+            QTest::keyClick(&stage.tree(), Qt::Key_Up);
+        QTest::keyClick(&stage.tree(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(StoreStage::count("tb_destinatari", QString("id_grp = %1 AND id = %2").arg(b).arg(beta)), 1);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        QCOMPARE(stage.columnOfGrid(5), QStringList({"Acca", "Beta"}));
+        QCOMPARE(stage.grd().Row(), 2);
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B), Clienti)");
+        // A second paste has nothing to move.
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void groupIsCutAndPastedByKeys() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        const int below = stage.addGroup(b, "Sotto B");
+        const QString keyOfB = "K" + QString::number(b);
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_X, Qt::ControlModifier);
+        stage.clickNode(keyOfB);
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B, Clienti))");
+        QCOMPARE(parentOf("Clienti"), QString::number(b));
+        // Not below itself.
+        QTest::keyClick(&stage.tree(), Qt::Key_X, Qt::ControlModifier);
+        stage.clickNode("K" + QString::number(below));
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B, Clienti))");
+        QCOMPARE(parentOf("B"), "0");
+        QCOMPARE(stage.help(), "La cartella non può essere spostata in Sotto B");
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void escapeTakesTheCutBackAndARootIsNeverCut() {
+        StoreStage stage;
+        stage.addGroup(0, "B");
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_X, Qt::ControlModifier);
+        QTest::keyClick(&stage.tree(), Qt::Key_Escape);
+        stage.clickNode("K0");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_X, Qt::ControlModifier);
+        stage.clickNode("K1");
+        stage.tree().setFocus();
+        QTest::keyClick(&stage.tree(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stage.shape(), "Database Mailing(B, Clienti)");
+    }
+
     void groupDroppedWithoutDatabaseLeavesSilently() {
         StoreStage stage;
         const int b = stage.addGroup(0, "B");

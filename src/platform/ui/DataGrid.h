@@ -41,6 +41,8 @@ class DataGrid : public QTableView {
     /// Empties all cells, the headings included.
     void Clear() { m_model->clearTexts(); }
     void RemoveItem(int row) { m_model->removeGridRow(row); }
+    /// Shows a row as one that is to move, and the one before as usual again; 0 for none. A fill forgets it.
+    void markRow(int row) { m_model->markRow(row); }
     /// In pixels; 0 hides the column.
     void setColWidth(int column, int width);
     /// Widths of all columns in the table's order, the leading one first; for use before the first fill.

@@ -1,6 +1,8 @@
 #include "platform/ui/GridModel.h"
 
 #include <numeric>
+#include <QFont>
+#include <utility>
 
 namespace ui {
 
@@ -40,6 +42,13 @@ void GridModel::removeGridRow(int row) {
     beginRemoveRows({}, row - 1, row - 1);
     m_rows.remove(static_cast<size_t>(row - 1));
     endRemoveRows();
+}
+
+void GridModel::markRow(int row) {
+    const QPersistentModelIndex before = std::exchange(m_marked, index(row - 1, 0));
+    for (const QPersistentModelIndex& changed : {before, m_marked})
+        if (changed.isValid())
+            Q_EMIT dataChanged(changed, index(changed.row(), columnCount() - 1), {Qt::FontRole});
 }
 
 void GridModel::moveGridColumn(int from, int to) {
@@ -123,6 +132,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::CheckStateRole:
             if (!box) return {};
             return isChecked(row, column) ? Qt::Checked : Qt::Unchecked;
+        case Qt::FontRole: {
+            if (!m_marked.isValid() || m_marked.row() != index.row()) return {};
+            QFont marked;
+            marked.setItalic(true);
+            return marked;
+        }
         case Qt::AccessibleTextRole:
             return box ? text(0, column) : text(row, column);
         default:

@@ -26,6 +26,8 @@ class GridModel : public QAbstractTableModel {
     void clearTexts();
     void truncate(int rows);
     void removeGridRow(int row);
+    /// Shows a row in another font; 0 for none.
+    void markRow(int row);
     void moveGridColumn(int from, int to);
 
     int gridRows() const { return static_cast<int>(m_rows.size()) + 1; }
@@ -59,6 +61,7 @@ class GridModel : public QAbstractTableModel {
     QStringList m_headings;    ///< by source column
     QHash<quint64, QString> m_written;
     int m_nameColumn = 0;
+    QPersistentModelIndex m_marked;  ///< any cell of the row
 };
 
 }  // namespace ui

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <utility>
 
 #include "platform/ui/GroupTreeItem.h"
 #include "platform/ui/ItemViewAccess.h"
@@ -149,6 +150,14 @@ GroupNodeRef GroupTree::HitTest(const QPoint& position) const {
 void GroupTree::setDropHighlight(const GroupNodeRef& node) {
     m_highlight = node;
     viewport()->update();
+}
+
+void GroupTree::setMarked(const GroupNodeRef& node) {
+    QFont italic;
+    italic.setItalic(true);
+    const GroupNodeRef before = std::exchange(m_marked, node);
+    if (before && before->m_item) before->m_item->setData(0, Qt::FontRole, {});
+    if (node && node->m_item) node->m_item->setData(0, Qt::FontRole, italic);
 }
 
 void GroupTree::StartLabelEdit() {

@@ -80,6 +80,8 @@ class GroupTree : public QTreeWidget {
     /// Marks a node, or none.
     void setDropHighlight(const GroupNodeRef& node);
     GroupNodeRef DropHighlight() const { return m_highlight; }
+    /// Shows a node as one that is to move, and the one before as usual again; null for none.
+    void setMarked(const GroupNodeRef& node);
     /// Opens the selected node's text for editing, unless beforeLabelEdit cancels.
     void StartLabelEdit();
 
@@ -130,6 +132,7 @@ class GroupTree : public QTreeWidget {
     std::map<QString, QIcon> m_images;
     QString m_emptyText;
     GroupNodeRef m_highlight;
+    GroupNodeRef m_marked;
     GroupNodeRef m_pressed;
     GroupNodeRef m_lastClicked;
     bool m_pressedEmptySpace = false;

@@ -61,6 +61,8 @@ int answerOfUser(const MessageDialog::Shown& box) {
     QMessageBox dialog(box.icon, box.title, lines(box.text), box.buttons, dialogOwner());
     dialog.setObjectName("messageDialog");
     dialog.setTextFormat(Qt::PlainText);
+    // A screen reader reads the name of a window that comes up, and its description with it.
+    dialog.setAccessibleDescription(dialog.text());
     if (box.defaultAnswer == MessageDialog::No && box.buttons.testFlag(QMessageBox::No))
         dialog.setDefaultButton(QMessageBox::No);
     dialog.setInformativeText(lines(box.details));

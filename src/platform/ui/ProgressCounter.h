@@ -8,8 +8,8 @@ namespace ui {
 
 /// A progress bar that is also a counter: it holds its value and its maximum as they were given, also outside
 /// the range from 0 to the maximum; only the drawing is clamped. It shows no text. Assistive programs see a
-/// progress bar with its value and range; they are told of a change at most every five seconds, of the value 0
-/// at once, and by tell().
+/// progress bar with its value and range; they are told of a change at most every five seconds, of the value
+/// 0 at once, and by tell().
 class ProgressCounter : public QWidget {
     Q_OBJECT
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum)

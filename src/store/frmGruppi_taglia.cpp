@@ -1,0 +1,75 @@
+// Moving recipients and groups without the mouse: Ctrl+X marks what is to move, Ctrl+V on a group moves it
+// there, Esc takes the mark back.
+#include <QShortcut>
+
+#include "core/bGlobal.h"
+#include "core/Evento.h"
+#include "core/Finestre.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/DataGrid.h"
+#include "shell/frmMain.h"
+#include "store/frmGruppi.h"
+#include "store/griglia.h"
+
+namespace {
+
+void Racconta(const QString& testo) {
+    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+    stcHelp.setText(testo);
+    stcHelp.announce();
+}
+
+}  // namespace
+
+void frmGruppi::CollegaTaglia() {
+    ui::DataGrid& grd = finestre::Main().grd();
+    const auto tasto = [this](QWidget* dove, const QKeySequence& tasti, void (frmGruppi::*gestore)()) {
+        auto* scorciatoia = new QShortcut(tasti, dove);
+        scorciatoia->setContext(Qt::WidgetShortcut);
+        connect(scorciatoia, &QShortcut::activated, this,
+                [this, gestore] { evento([&] { (this->*gestore)(); }); });
+    };
+    tasto(&grd, Qt::CTRL | Qt::Key_X, &frmGruppi::TagliaDestinatario);
+    tasto(TREE, Qt::CTRL | Qt::Key_X, &frmGruppi::TagliaGruppo);
+    tasto(TREE, Qt::CTRL | Qt::Key_V, &frmGruppi::Incolla);
+    tasto(&grd, Qt::Key_Escape, &frmGruppi::DimenticaTaglio);
+    tasto(TREE, Qt::Key_Escape, &frmGruppi::DimenticaTaglio);
+}
+
+void frmGruppi::TagliaDestinatario() {
+    if (griglia::MenuOra().isEmpty()) return;
+    DimenticaTaglio();
+    tagliato = Taglio{false, griglia::idCorrente()};
+    Racconta("Destinatario da spostare: " + griglia::SegnaRiga() + ". Ctrl+V su una cartella lo sposta");
+}
+
+void frmGruppi::TagliaGruppo() {
+    if (MenuOra() != "popMailing") return;
+    DimenticaTaglio();
+    tagliato = Taglio{true, nodoCorrente->Key};
+    TREE->setMarked(TREE->Node(nodoCorrente->Key));
+    Racconta("Cartella da spostare: " + nodoCorrente->Text + ". Ctrl+V su un'altra cartella la sposta");
+}
+
+/// The mark goes with the move, whatever comes of it.
+void frmGruppi::Incolla() {
+    if (!tagliato || MenuOra().isEmpty()) return;
+    const Taglio taglio = *tagliato;
+    DimenticaTaglio();
+    const ui::GroupNodeRef nodo = TREE->SelectedItem();
+    if (!taglio.gruppo) {
+        SpostaDestinatario(taglio.chiave, nodo);
+        griglia::ScegliRiga(taglio.chiave);
+        Racconta("Destinatario spostato in " + nodo->Text());
+        return;
+    }
+    const bool spostato = taglio.chiave != nodo->Key() && SpostaGruppo(taglio.chiave, nodo);
+    Racconta(spostato ? "Cartella spostata in " + nodo->Text()
+                      : "La cartella non può essere spostata in " + nodo->Text());
+}
+
+void frmGruppi::DimenticaTaglio() {
+    tagliato.reset();
+    TREE->setMarked(nullptr);
+    finestre::Main().grd().markRow(0);
+}
