@@ -1,0 +1,108 @@
+#include "platform/system/OwnFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+struct OwnFileTest : testing::Test {
+    QTemporaryDir folder;
+    QString path = folder.filePath("a");
+
+    void link(const QString& target) const { ASSERT_TRUE(QFile::link(target, path)); }
+    void put(const QString& file, const QByteArray& bytes) const {
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bytes);
+    }
+    static QByteArray get(const QString& file) {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+};
+
+}  // namespace
+
+TEST_F(OwnFileTest, AFileIsReplacedWholeAndForItsOwnerOnly) {
+    ASSERT_TRUE(sys::replaceOwnFile(path, "uno").ok());
+    ASSERT_TRUE(sys::replaceOwnFile(path, QByteArray(300'000, 'x')).ok());
+    EXPECT_EQ(sys::readOwnFile(path, 300'000).value(), QByteArray(300'000, 'x'));
+    struct stat found {};
+    ASSERT_EQ(stat(QFile::encodeName(path).constData(), &found), 0);
+    EXPECT_EQ(found.st_mode & 0777U, 0600U);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"a"});
+}
+
+TEST_F(OwnFileTest, ALinkIsReplacedAndNotFollowed) {
+    const QString target = folder.filePath("altro");
+    put(target, "resta");
+    link(target);
+    EXPECT_FALSE(sys::readOwnFile(path, 100).ok());
+    ASSERT_TRUE(sys::replaceOwnFile(path, "mio").ok());
+    EXPECT_EQ(get(target), "resta");
+    EXPECT_EQ(sys::readOwnFile(path, 100).value(), "mio");
+}
+
+TEST_F(OwnFileTest, ReadingIsBounded) {
+    ASSERT_TRUE(sys::replaceOwnFile(path, "1234").ok());
+    EXPECT_EQ(sys::readOwnFile(path, 4).value(), "1234");
+    EXPECT_EQ(sys::readOwnFile(path, 3).status().code(), ErrorCode::Overflow);
+    EXPECT_EQ(sys::readOwnFile(folder.filePath("manca"), 3).status().code(), ErrorCode::FileNotFound);
+    EXPECT_FALSE(sys::readOwnFile(folder.path(), 3).ok());
+    ASSERT_EQ(mkfifo(QFile::encodeName(folder.filePath("tubo")).constData(), 0600), 0);
+    EXPECT_FALSE(sys::readOwnFile(folder.filePath("tubo"), 3).ok());
+}
+
+TEST_F(OwnFileTest, AFolderThatIsALinkIsRefused) {
+    QDir(folder.path()).mkdir("vera");
+    link(folder.filePath("vera"));
+    EXPECT_FALSE(sys::makeOwnFolder(path).ok());
+    EXPECT_FALSE(sys::replaceOwnFile(path + "/x", "y").ok());
+    sys::FileLock lock;
+    EXPECT_FALSE(lock.take(path + "/x").ok());
+    EXPECT_TRUE(sys::makeOwnFolder(folder.filePath("vera")).ok());
+    EXPECT_TRUE(sys::makeOwnFolder(folder.filePath("nuova")).ok());
+    EXPECT_EQ(QDir(folder.filePath("vera")).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(OwnFileTest, ALockHoldsAsLongAsItsObject) {
+    sys::FileLock other;
+    {
+        sys::FileLock lock;
+        ASSERT_TRUE(lock.take(path).ok());
+        EXPECT_EQ(other.take(path).code(), ErrorCode::FileInUse);
+        sys::FileLock moved = std::move(lock);
+        EXPECT_EQ(other.take(path).code(), ErrorCode::FileInUse);
+    }
+    ASSERT_TRUE(other.take(path).ok());
+    other.remove();
+    EXPECT_FALSE(other.held());
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(OwnFileTest, ALockEndsWithAKilledProcess) {
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        sys::FileLock lock;
+        const char done = lock.take(path).ok() ? 'y' : 'n';
+        if (write(ready[1], &done, 1) == 1) pause();
+        _exit(1);
+    }
+    char done = 0;
+    ASSERT_EQ(read(ready[0], &done, 1), 1);
+    EXPECT_EQ(done, 'y');
+    sys::FileLock lock;
+    EXPECT_EQ(lock.take(path).code(), ErrorCode::FileInUse);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_TRUE(lock.take(path).ok());
+    close(ready[0]);
+    close(ready[1]);
+}
