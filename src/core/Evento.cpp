@@ -14,11 +14,17 @@
 namespace {
 
 std::function<void(int)> termineSostituito;
+std::function<void()> azioneFinale;
 bool fallimentoInMostra = false;
 
 }  // namespace
 
+void PrimaDellaFine(std::function<void()> azione) {
+    azioneFinale = std::move(azione);
+}
+
 void TerminaProgramma(int stato) {
+    if (azioneFinale) azioneFinale();
     fallimentoInMostra = false;
     if (termineSostituito) {
         termineSostituito(stato);
@@ -54,6 +60,7 @@ QString dettagli(const Fallimento& fallimento) {
 
 void mostraEtermina(const Fallimento& fallimento) {
     fallimentoInMostra = true;
+    if (azioneFinale) azioneFinale();
     guasti::Annota(fallimento);
     const int risposta = ui::MessageDialog::showFailure(
         QStringLiteral("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),

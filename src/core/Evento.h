@@ -10,8 +10,12 @@
 /// thrown across the toolkit's event loop, nested loops of modal windows and of the send engine's wait
 /// included, since each handler has its own edge.
 
-/// Ends the program at once, with the given exit status: no window gets its own unload, nothing is saved.
+/// Ends the program at once, with the given exit status: no window gets its own unload, nothing is saved but
+/// what PrimaDellaFine() was given.
 [[noreturn]] void TerminaProgramma(int stato = 1);
+
+/// What runs at the start of every TerminaProgramma. It must not fail, nor wait for events.
+void PrimaDellaFine(std::function<void()> azione);
 
 /// For tests: what runs instead of the end of the process. The handler that called TerminaProgramma is left
 /// all the same, up to its evento(). An empty function puts the real end back.

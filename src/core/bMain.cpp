@@ -1,11 +1,16 @@
 #include "core/bMain.h"
 
+#include <QApplication>
+#include <QTimer>
+
 #include "core/bError.h"
 #include "core/CentraForm.h"
+#include "core/Evento.h"
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "core/Puntatore.h"
 #include "core/Riavvio.h"
+#include "message/frmEditor.h"
 #include "platform/ui/MessageDialog.h"
 #include "send/Accettati.h"
 #include "send/Accettati_avviso.h"
@@ -35,4 +40,6 @@ void SubMain() {
     AvvisaAccettatiScartati();
     if (!avvisoPercorso.isEmpty())
         ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, "Attenzione");
+    // The offer waits for an answer, so it comes with the first events.
+    QTimer::singleShot(0, qApp, [] { evento([] { finestre::Editor().OffriRecupero(); }); });
 }

@@ -29,11 +29,12 @@ frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexago
 }
 
 void frmColor::PrendiColore() {
-    color->setColor(ColoreDaHex(finestre::Editor().DHTML->execCommand(HtmlView::GetForeColor).toString()));
+    const Result<QVariant> colore = finestre::Editor().DHTML->execCommand(HtmlView::GetForeColor);
+    if (colore.ok()) color->setColor(ColoreDaHex(colore.value().toString()));
 }
 
 void frmColor::ColorePreso(quint32 colore) {
     frmEditor& editor = finestre::Editor();
-    editor.DHTML->execCommand(HtmlView::SetForeColor, HexDaColore(colore));
+    static_cast<void>(editor.DHTML->execCommand(HtmlView::SetForeColor, HexDaColore(colore)));
     editor.Commands().closePopup("popColors");
 }

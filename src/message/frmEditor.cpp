@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QTreeWidget>
+#include <QWindow>
 
 #include "core/bImpostazioni.h"
 #include "core/Fallimento.h"
@@ -13,6 +14,7 @@
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
+#include "platform/ui/WindowOwner.h"
 #include "shell/bTheme.h"
 
 namespace {
@@ -52,6 +54,7 @@ frmEditor::frmEditor(QWidget* parent)
     CreaTasti();
     pannelli.addPane("dckAllegati", "Allegati", Qt::BottomDockWidgetArea, 120);
     CollegaViste();
+    CollegaCopia();
     resize(1000, 680);
     ui::bringIntoReach(*this);
 }
@@ -75,7 +78,14 @@ void frmEditor::Carica() {
 void frmEditor::MostraModale() {
     QEventLoop finoAllaChiusura;
     attesa = &finoAllaChiusura;
+    // The browser is of another kind than the other controls: a window that gets it while it is on the screen
+    // is made anew there. Made anew it forgets its state, even before it shows.
+    const Qt::WindowStates stato = windowState();
+    DHTML->wake();
+    winId();
+    windowHandle()->setWindowStates(stato);
     show();
+    if (parentWidget()) ui::setWindowOwner(*this, *parentWidget());
     barre->GetEdit("txtOggetto")->setFocus();
     finoAllaChiusura.exec();
     attesa = nullptr;
@@ -89,10 +99,11 @@ frmAllegati& frmEditor::Allegati() {
 
 // fileAperto and percorsoFile stay: a new document is saved over the file that was opened or saved last.
 void frmEditor::NuovoMessaggio() {
+    LasciaCopia();
     Prosegui prosegui;
-    DHTML->setDocumentHTML(pagineVuote);
-    CODE->setText(pagineVuote);
-    WEB->setDocumentHTML(pagineVuote);
+    static_cast<void>(DHTML->setDocumentHTML(pagineVuote));
+    ScriviOrigine(pagineVuote);
+    static_cast<void>(WEB->setDocumentHTML(pagineVuote));
     titoloFile = "[NuovoFile.mss]";
     barre->GetEdit("txtOggetto")->setText({});
     for (const char* spento : {"cmdPriBassa", "cmdPriAlta", "cmdShowDetails"})

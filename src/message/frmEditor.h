@@ -1,7 +1,13 @@
 #pragma once
 
+#include <optional>
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
+#include <vector>
 
+#include "message/CopiaRecupero.h"
+#include "message/MessaggioMss.h"
 #include "platform/html/HtmlView.h"
 #include "platform/ui/DockPanes.h"
 
@@ -35,13 +41,18 @@ class frmEditor : public QMainWindow {
     void NuovoMessaggio();
     /// Asks for a file and reads it. Passes over every failure.
     void ApriMessaggio();
-    /// Writes over percorsoFile. Unguarded.
+    /// Writes over percorsoFile. Unguarded; the rescue copy is written first. Where the design view does not
+    /// answer, a notice says so and nothing is written.
     void SalvaMessaggio();
     /// Asks for a file and writes it. Passes over every failure: title and path change even where the writing
-    /// failed.
+    /// failed; then a notice says so, and the document is marked as changed.
     void SalvaMessaggioCome();
     /// Saves placement and layout and hides the window. Unguarded.
     void ChiudiEditor();
+
+    /// Offers the rescue copies that earlier runs left, one by one. The first that is wanted becomes the
+    /// document, and the window comes up over the main one until it is hidden.
+    void OffriRecupero();
 
     void ImpostaTitolo();
     /// The one way to mark the document as changed.
@@ -91,7 +102,11 @@ class frmEditor : public QMainWindow {
     // frmEditor_eventi.cpp: what the views report
     void CollegaViste();
     void CambiaScheda(int da, int a);
-    void MostraBody(int scheda);
+    Status SpostaBody(int da, int a);
+    Status MostraBody(int scheda);
+    void ScriviOrigine(const QString& testo);
+    bool Riuscita(const Status& stato);
+    static void AvvisaVista(const Status& stato, const QString& seguito);
     void MostraSchedaInStato();
     void MenuModifica(const QPoint& punto);
 
@@ -108,9 +123,23 @@ class frmEditor : public QMainWindow {
 
     // frmEditor_file.cpp
     void ChiediSalvataggio();
-    void Scrivi(const QString& percorso);
+    std::optional<MessaggioMss> PrendiMessaggio();
+    MessaggioMss Testata();
+    void ImpostaTestata(const QString& oggetto, const QString& priorita);
+    bool AggiungiAllegato(const AllegatoMss& allegato);
     void LeggiMessaggio(const QString& percorso);
     void ImpostaFile(const QString& percorso);
+
+    // frmEditor_recupero.cpp: the rescue copy of the document
+    void CollegaCopia();
+    void DocumentoMutato();
+    void ScriviCopia();
+    void CopiaPrimaDiScrivere(const QString& corpo);
+    void CopiaDopoScrittura(const QString& corpo);
+    void ButtaCopia();
+    void LasciaCopia();
+    void RiprendiCopia(CopiaTrovata& trovata);
+    MessaggioRecuperato DaRecuperare(const QString& corpo);
 
     // frmEditor_dialoghi.cpp: what the design view leaves to windows
     void DialogoImmagine();
@@ -123,4 +152,14 @@ class frmEditor : public QMainWindow {
     ui::FindDialog* ricerca = nullptr;
     QStringList lstFont;  ///< the fonts of the desktop in the order of their names
     QEventLoop* attesa = nullptr;
+    bool scriveOrigine = false;  ///< the text of the source view is set, not typed
+    bool tornaIndietro = false;  ///< a change of tab is being taken back
+
+    CopiaRecupero copia;                         ///< of the document
+    std::vector<CopiaRecupero> lasciate;         ///< of documents that were left without being saved
+    std::optional<MessaggioRecuperato> salvato;  ///< the document as it was saved last
+    bool rinunciato = false;                     ///< the user does not want what the document holds
+    bool copiaDovuta = false;                    ///< the document changed since its copy was written
+    QTimer tempoCopia;
+    QElapsedTimer primaMutazione;  ///< since the first change that the copy does not hold
 };

@@ -66,8 +66,8 @@ bool frmEditor::ComandoDueViste(const QString& nome) {
 
 bool frmEditor::ComandoDesign(const QString& nome) {
     if (nome == "cmbFontName" || nome == "cmbFontSize") {
-        DHTML->execCommand(nome == "cmbFontName" ? HtmlView::SetFontName : HtmlView::SetFontSize,
-                           barre->GetComboBox(nome)->Text());
+        EseguiDesign(nome == "cmbFontName" ? HtmlView::SetFontName : HtmlView::SetFontSize,
+                     barre->GetComboBox(nome)->Text());
         if (tb->currentIndex() == Modifica) DHTML->setFocus();
         return true;
     }
@@ -88,7 +88,7 @@ bool frmEditor::ComandoInserimento(const QString& nome) {
 
 void frmEditor::InserisciHTML(const QString& testo) {
     // Without a selection nothing is inserted; the mark is set all the same.
-    DHTML->insertHTML(testo);
+    Riuscita(DHTML->insertHTML(testo).status());
     SegnaModificato();
 }
 
@@ -113,18 +113,20 @@ void frmEditor::CambiaPriorita(const QString& scelta, const QString& altra) {
     strumento.setChecked(strumento.Checked() == 0 ? 1 : 0);
     barre->GetToolButton(altra)->setChecked(0);
     SegnaModificato();
+    DocumentoMutato();
 }
 
 bool frmEditor::ComandoAllegati(const QString& nome) {
     if (nome == "cmdAllegatiNew") {
         Prosegui prosegui;
         if (const auto percorso = ui::FileDialog::open("Inserisci allegato", "Tutti i file(*.*)|*.*"))
-            prosegui([&] { Allegati().InsFile(*percorso); });
+            if (prosegui([&] { Allegati().InsFile(*percorso); })) DocumentoMutato();
         // Also after a cancel.
         SegnaModificato();
     } else if (nome == "cmdAllegatiDel") {
         Allegati().TogliScelto();
         SegnaModificato();
+        DocumentoMutato();
     } else {
         return false;
     }
@@ -148,8 +150,11 @@ bool frmEditor::ComandoFile(const QString& nome) {
     } else if (nome == "cmdStampa") {
         DHTML->print(true);
     } else if (nome == "cmdProprieta") {
-        finestre::PropBody().PrendiValori();
-        finestre::PropBody().exec();
+        const Status presi = finestre::PropBody().PrendiValori();
+        if (!presi.ok())
+            AvvisaVista(presi, "Riprova fra qualche istante.");
+        else
+            finestre::PropBody().exec();
     } else {
         return false;
     }
@@ -171,7 +176,7 @@ void frmEditor::EseguiDesign(int numero, const QString& valore) {
             Trova();
             break;
         default:
-            DHTML->execCommand(numero, valore);
+            Riuscita(DHTML->execCommand(numero, valore).status());
     }
 }
 

@@ -9,8 +9,10 @@
 #include "platform/ui/TabStrip.h"
 
 void frmEditor::DialogoImmagine() {
-    ui::ImageDialog dialogo(this, DHTML->selectedImage().value_or(HtmlView::ImageInfo()));
-    if (dialogo.exec() == QDialog::Accepted) DHTML->insertImage(dialogo.image());
+    const auto scelta = DHTML->selectedImage();
+    if (!Riuscita(scelta.status())) return;
+    ui::ImageDialog dialogo(this, scelta.value().value_or(HtmlView::ImageInfo()));
+    if (dialogo.exec() == QDialog::Accepted) Riuscita(DHTML->insertImage(dialogo.image()).status());
     DHTML->setFocus();
 }
 
@@ -18,20 +20,24 @@ void frmEditor::DialogoCollegamento() {
     ui::LinkDialog::Offers variabili;
     for (const Variabile& variabile : variabiliMessaggio)
         variabili.emplace_back(variabile.didascalia, variabile.testo);
-    const QString indirizzo = DHTML->linkAddress();
-    const bool conTesto = indirizzo.isEmpty() && DHTML->selectedText().isEmpty() && !DHTML->selectedImage();
-    ui::LinkDialog dialogo(this, indirizzo, conTesto, variabili);
-    if (dialogo.exec() == QDialog::Accepted) DHTML->setLink(dialogo.address(), dialogo.text());
+    const auto indirizzo = DHTML->linkAddress();
+    const auto testo = DHTML->selectedText();
+    const auto immagine = DHTML->selectedImage();
+    if (!Riuscita(indirizzo.status()) || !Riuscita(testo.status()) || !Riuscita(immagine.status())) return;
+    const bool conTesto = indirizzo.value().isEmpty() && testo.value().isEmpty() && !immagine.value();
+    ui::LinkDialog dialogo(this, indirizzo.value(), conTesto, variabili);
+    if (dialogo.exec() == QDialog::Accepted)
+        Riuscita(DHTML->setLink(dialogo.address(), dialogo.text()).status());
     DHTML->setFocus();
 }
 
 void frmEditor::DialogoProprietaElemento() {
-    const QList<HtmlView::Element> elementi = DHTML->elementsAtCaret();
-    if (elementi.isEmpty()) return;
-    ui::ElementDialog dialogo(this, elementi);
+    const auto elementi = DHTML->elementsAtCaret();
+    if (!Riuscita(elementi.status()) || elementi.value().isEmpty()) return;
+    ui::ElementDialog dialogo(this, elementi.value());
     if (dialogo.exec() == QDialog::Accepted)
         for (const auto& [livello, attributi] : dialogo.changes())
-            DHTML->setElementAttributes(livello, attributi);
+            if (!Riuscita(DHTML->setElementAttributes(livello, attributi).status())) break;
     DHTML->setFocus();
 }
 
@@ -41,7 +47,8 @@ void frmEditor::Trova() {
             if (tb->currentIndex() == Origine) return CODE->find(testo, maiuscole, indietro);
             const unsigned opzioni =
                 (maiuscole ? HtmlView::FindCaseSensitive : 0U) | (indietro ? HtmlView::FindBackwards : 0U);
-            return DHTML->find(testo, opzioni);
+            const Result<bool> trovato = DHTML->find(testo, opzioni);
+            return Riuscita(trovato.status()) && trovato.value();
         });
     ricerca->present();
 }

@@ -1,10 +1,13 @@
 // What the three views and the tabs report, and the state of the tools that follows from it.
+#include <QScopedValueRollback>
 #include <QTabBar>
+#include <utility>
 
 #include "core/Evento.h"
 #include "message/frmEditor.h"
 #include "message/frmEditor_comandi.h"
 #include "platform/ui/CommandBars.h"
+#include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
 
 void frmEditor::CollegaViste() {
@@ -15,8 +18,8 @@ void frmEditor::CollegaViste() {
     setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
     setTabOrder(DHTML, tb->tabBar());
     quando(DHTML, &HtmlView::documentComplete, [this] {
-        DHTML->execCommand(HtmlView::SetFontName, "Verdana");
-        DHTML->execCommand(HtmlView::SetFontSize, "2");
+        static_cast<void>(DHTML->execCommand(HtmlView::SetFontName, "Verdana"));
+        static_cast<void>(DHTML->execCommand(HtmlView::SetFontSize, "2"));
     });
     quando(DHTML, &HtmlView::displayChanged, [this] {
         if (tb->currentIndex() == Modifica) AggiornaStatoDesign();
@@ -50,10 +53,13 @@ void frmEditor::MostraSchedaInStato() {
 }
 
 void frmEditor::CambiaScheda(int da, int a) {
-    if (da == Modifica) MostraBody(a);
-    if (da == Origine) {
-        DHTML->setDocumentHTML(CODE->Text());
-        if (a == Anteprima) WEB->setDocumentHTML(CODE->Text());
+    if (tornaIndietro) return;
+    if (const Status spostato = SpostaBody(da, a); !spostato.ok()) {
+        {
+            const QScopedValueRollback indietro(tornaIndietro, true);
+            tb->setCurrentIndex(da);
+        }
+        return AvvisaVista(spostato, "Riprova fra qualche istante.");
     }
     ImpostaBarre(a == Modifica);
     if (a == Modifica) AggiornaStatoDesign();
@@ -61,17 +67,48 @@ void frmEditor::CambiaScheda(int da, int a) {
     if (!tb->tabBar()->hasFocus()) tb->currentWidget()->setFocus();
 }
 
+/// Fails, with every view as it was, where the design view does not answer.
+Status frmEditor::SpostaBody(int da, int a) {
+    if (da == Modifica) return MostraBody(a);
+    if (da != Origine) return {};
+    if (Status pronta = DHTML->responds(); !pronta.ok()) return pronta;
+    const QString testo = CODE->Text();
+    if (Status messo = DHTML->setDocumentHTML(testo); !messo.ok()) return messo;
+    if (a == Anteprima) static_cast<void>(WEB->setDocumentHTML(testo));
+    return {};
+}
+
 /// Hands the body of the design view to the view of another tab.
-void frmEditor::MostraBody(int scheda) {
-    if (scheda == Modifica) return;
-    const QString corpo = DHTML->documentHTML();
-    CODE->setText(corpo);
-    if (scheda == Anteprima) WEB->setDocumentHTML(corpo);
+Status frmEditor::MostraBody(int scheda) {
+    if (scheda == Modifica) return {};
+    const Result<QString> corpo = DHTML->documentHTML();
+    if (!corpo.ok()) return corpo.status();
+    ScriviOrigine(corpo.value());
+    if (scheda == Anteprima) static_cast<void>(WEB->setDocumentHTML(corpo.value()));
+    return {};
+}
+
+void frmEditor::ScriviOrigine(const QString& testo) {
+    const QScopedValueRollback scrive(scriveOrigine, true);
+    CODE->setText(testo);
+}
+
+/// False, with the reason in the status bar, where a call of the design view failed.
+bool frmEditor::Riuscita(const Status& stato) {
+    if (!stato.ok()) barre->GetStatic("stcHelp")->setText(stato.text());
+    return stato.ok();
+}
+
+void frmEditor::AvvisaVista(const Status& stato, const QString& seguito) {
+    ui::MessageDialog::show(stato.text() + "\r\n" + seguito, ui::MessageDialog::Notice, "Attenzione");
 }
 
 void frmEditor::AggiornaStatoDesign() {
-    barre->GetComboBox("cmbFontName")->setText(DHTML->execCommand(HtmlView::GetFontName).toString());
-    barre->GetComboBox("cmbFontSize")->setText(DHTML->execCommand(HtmlView::GetFontSize).toString());
+    for (const auto& [casella, comando] :
+         {std::pair("cmbFontName", HtmlView::GetFontName), std::pair("cmbFontSize", HtmlView::GetFontSize)}) {
+        const Result<QVariant> valore = DHTML->execCommand(comando);
+        if (valore.ok()) barre->GetComboBox(casella)->setText(valore.value().toString());
+    }
     for (const SoloDesign& comando : comandiDesign) {
         ui::Command& strumento = *barre->GetToolButton(comando.nome);
         if (comando.segue == SoloDesign::Formato)

@@ -15,8 +15,9 @@ const QString filtro = QStringLiteral("Message File (*.mss)|*.mss");
 const QString fineRiga = QStringLiteral("\r\n");
 
 /// The lines of a file end in CR LF, also inside the body.
-QString conFiniRiga(QString testo) {
-    return testo.replace(fineRiga, "\n").replace('\r', '\n').replace('\n', fineRiga);
+MessaggioMss conFiniRiga(MessaggioMss messaggio) {
+    messaggio.CorpoHTML.replace(fineRiga, "\n").replace('\r', '\n').replace('\n', fineRiga);
+    return messaggio;
 }
 
 /// The file name in a caption such as "[offerta.mss*]".
@@ -34,20 +35,32 @@ void frmEditor::ChiediSalvataggio() {
     const int risposta =
         ui::MessageDialog::show("Il messaggio non è stato salvato.\r\nVuoi salvarlo prima di continuare?",
                                 ui::MessageDialog::AskNotice, "Attenzione");
-    if (risposta != ui::MessageDialog::Yes) return;
+    if (risposta != ui::MessageDialog::Yes) return ButtaCopia();
     fileAperto ? SalvaMessaggio() : SalvaMessaggioCome();
 }
 
-/// The body is that of the design view, whatever view is on show.
-void frmEditor::Scrivi(const QString& percorso) {
+/// The message without its body.
+MessaggioMss frmEditor::Testata() {
     MessaggioMss messaggio;
     messaggio.Oggetto = barre->GetEdit("txtOggetto")->Text();
     messaggio.Priorita = "NR";
     if (barre->GetToolButton("cmdPriBassa")->Checked() == 1) messaggio.Priorita = "LW";
     if (barre->GetToolButton("cmdPriAlta")->Checked() == 1) messaggio.Priorita = "HI";
     messaggio.Allegati = Allegati().Percorsi();
-    messaggio.CorpoHTML = conFiniRiga(DHTML->documentHTML());
-    ScriviMessaggio(percorso, messaggio);
+    return messaggio;
+}
+
+/// The message as it stands; none, after a notice, where the design view does not answer. The body is that of
+/// the design view, whatever view is on show.
+std::optional<MessaggioMss> frmEditor::PrendiMessaggio() {
+    const Result<QString> corpo = DHTML->documentHTML();
+    if (!corpo.ok()) {
+        AvvisaVista(corpo.status(), "Il messaggio non è stato salvato: riprova fra qualche istante.");
+        return std::nullopt;
+    }
+    MessaggioMss messaggio = Testata();
+    messaggio.CorpoHTML = corpo.value();
+    return messaggio;
 }
 
 void frmEditor::ImpostaFile(const QString& percorso) {
@@ -56,18 +69,30 @@ void frmEditor::ImpostaFile(const QString& percorso) {
 }
 
 void frmEditor::SalvaMessaggio() {
-    Scrivi(percorsoFile);
+    const auto messaggio = PrendiMessaggio();
+    if (!messaggio) return;
+    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
+    ScriviMessaggio(percorsoFile, conFiniRiga(*messaggio));
     ImpostaFile(percorsoFile);
+    CopiaDopoScrittura(messaggio->CorpoHTML);
 }
 
 void frmEditor::SalvaMessaggioCome() {
     const auto percorso = ui::FileDialog::save("Salva messaggio", filtro, nomeDel(titoloFile));
     if (!percorso) return;
+    const auto messaggio = PrendiMessaggio();
+    if (!messaggio) return;
+    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
     Prosegui prosegui;
-    prosegui([&] { Scrivi(*percorso); });
+    const bool scritto = prosegui([&] { ScriviMessaggio(*percorso, conFiniRiga(*messaggio)); });
     ImpostaFile(*percorso);
     fileAperto = true;
     percorsoFile = *percorso;
+    if (scritto) return CopiaDopoScrittura(messaggio->CorpoHTML);
+    SegnaModificato();
+    ui::MessageDialog::show("Il messaggio non è stato salvato in " + *percorso + ":\r\n" + prosegui.testo() +
+                                "\r\nSalvalo con un altro nome.",
+                            ui::MessageDialog::Notice, "Attenzione");
 }
 
 void frmEditor::ApriMessaggio() {
@@ -77,30 +102,37 @@ void frmEditor::ApriMessaggio() {
     LeggiMessaggio(*percorso);
 }
 
-void frmEditor::LeggiMessaggio(const QString& percorso) {
-    Prosegui prosegui;
-    LettoreMss lettore(percorso);
-    barre->GetEdit("txtOggetto")->setText(lettore.oggetto());
-    const QString priorita = lettore.priorita();
+void frmEditor::ImpostaTestata(const QString& oggetto, const QString& priorita) {
+    barre->GetEdit("txtOggetto")->setText(oggetto);
     barre->GetToolButton("cmdPriBassa")->setChecked(priorita == "LW" ? 1 : 0);
     barre->GetToolButton("cmdPriAlta")->setChecked(priorita == "HI" ? 1 : 0);
-    bool lasciato = false;
-    while (const auto allegato = lettore.allegato()) {
-        if (allegato->presente) {
-            prosegui([&] { Allegati().InsFile(allegato->percorso); });
-        } else {
-            ui::MessageDialog::show(AvvisoAllegatoMancante(allegato->nome), ui::MessageDialog::Notice,
-                                    "Attenzione");
-            lasciato = true;
-        }
+}
+
+/// False, after a notice, for one that is not there.
+bool frmEditor::AggiungiAllegato(const AllegatoMss& allegato) {
+    if (allegato.presente) {
+        Prosegui prosegui;
+        prosegui([&] { Allegati().InsFile(allegato.percorso); });
+        return true;
     }
+    ui::MessageDialog::show(AvvisoAllegatoMancante(allegato.nome), ui::MessageDialog::Notice, "Attenzione");
+    return false;
+}
+
+void frmEditor::LeggiMessaggio(const QString& percorso) {
+    LettoreMss lettore(percorso);
+    const QString oggetto = lettore.oggetto();
+    ImpostaTestata(oggetto, lettore.priorita());
+    bool lasciato = false;
+    while (const auto allegato = lettore.allegato())
+        if (!AggiungiAllegato(*allegato)) lasciato = true;
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
     QString corpo = lettore.corpo();
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
-    DHTML->setDocumentHTML(corpo);
+    static_cast<void>(DHTML->setDocumentHTML(corpo));
     // Whichever view is on show shows the message that was opened.
-    MostraBody(tb->currentIndex());
+    if (!MostraBody(tb->currentIndex()).ok()) ScriviOrigine(corpo);
     ImpostaFile(percorso);
     fileAperto = true;
     percorsoFile = percorso;

@@ -11,6 +11,7 @@
 #include "message/frmEditor.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
+#include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/SourceEdit.h"
 #include "shell/bTheme.h"
@@ -78,29 +79,52 @@ frmPropBody::frmPropBody(QWidget* parent)
     ui::setUpDialog(*this);
 }
 
-void frmPropBody::PrendiValori() {
-    HtmlView& DHTML = *finestre::Editor().DHTML;
+Status frmPropBody::PrendiValori() {
+    const HtmlView& DHTML = *finestre::Editor().DHTML;
+    for (const auto& [chiave, nome] : margini) {
+        const Result<QString> valore = DHTML.bodyAttribute(nome);
+        if (!valore.ok()) return valore.status();
+        prp->Item(chiave)->setValue(valore.value());
+    }
+    for (const auto& [chiave, quale] : colori) {
+        const Result<QString> valore = DHTML.pageColor(quale);
+        if (!valore.ok()) return valore.status();
+        prp->Item(chiave)->setValue(ColoreDaHex(valore.value()));
+    }
+    const Result<QString> valore = DHTML.bodyAttribute(sfondo.nome);
+    if (!valore.ok()) return valore.status();
+    prp->Item(sfondo.chiave)->setValue(valore.value());
+    return {};
+}
+
+/// Ends at the first call that the design view does not answer.
+Status frmPropBody::Scrivi() {
+    frmEditor& editor = finestre::Editor();
+    HtmlView& DHTML = *editor.DHTML;
+    for (const char* margine : {"leftmargin", "topmargin"})
+        if (Status tolto = DHTML.removeBodyAttribute(margine); !tolto.ok()) return tolto;
     for (const auto& [chiave, nome] : margini)
-        prp->Item(chiave)->setValue(DHTML.bodyAttribute(nome));
+        if (Status messo = DHTML.setBodyAttribute(nome, prp->Item(chiave)->Value().toString()); !messo.ok())
+            return messo;
     for (const auto& [chiave, quale] : colori)
-        prp->Item(chiave)->setValue(ColoreDaHex(DHTML.pageColor(quale)));
-    prp->Item(sfondo.chiave)->setValue(DHTML.bodyAttribute(sfondo.nome));
+        if (Status messo = DHTML.setPageColor(quale, HexDaColore(prp->Item(chiave)->Value().toUInt()));
+            !messo.ok())
+            return messo;
+    const QString immagine = prp->Item(sfondo.chiave)->Value().toString();
+    if (Status messo = DHTML.setBodyAttribute(sfondo.nome, immagine); !messo.ok()) return messo;
+    const Result<QString> corpo = DHTML.documentHTML();
+    if (!corpo.ok()) return corpo.status();
+    editor.CODE->setText(corpo.value());
+    static_cast<void>(DHTML.setDocumentHTML(editor.CODE->Text()));
+    DHTML.update();
+    return {};
 }
 
 void frmPropBody::cdmSalva_Click() {
-    frmEditor& editor = finestre::Editor();
-    HtmlView& DHTML = *editor.DHTML;
-    DHTML.removeBodyAttribute("leftmargin");
-    DHTML.removeBodyAttribute("topmargin");
-    for (const auto& [chiave, nome] : margini)
-        DHTML.setBodyAttribute(nome, prp->Item(chiave)->Value().toString());
-    for (const auto& [chiave, quale] : colori)
-        DHTML.setPageColor(quale, HexDaColore(prp->Item(chiave)->Value().toUInt()));
-    DHTML.setBodyAttribute(sfondo.nome, prp->Item(sfondo.chiave)->Value().toString());
-    editor.CODE->setText(DHTML.documentHTML());
-    DHTML.setDocumentHTML(editor.CODE->Text());
-    DHTML.update();
-    hide();
+    const Status scritte = Scrivi();
+    if (scritte.ok()) return hide();
+    ui::MessageDialog::show(scritte.text() + "\r\nRiprova fra qualche istante.", ui::MessageDialog::Notice,
+                            "Attenzione");
 }
 
 void frmPropBody::closeEvent(QCloseEvent* chiusura) {

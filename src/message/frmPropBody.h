@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "platform/Status.h"
+
 class QLabel;
 class QPushButton;
 namespace ui {
@@ -16,8 +18,8 @@ class frmPropBody : public QDialog {
   public:
     explicit frmPropBody(QWidget* parent = nullptr);
 
-    /// Fills the list from the document of the design view.
-    void PrendiValori();
+    /// Fills the list from the document of the design view. Fails where that does not answer.
+    Status PrendiValori();
 
     /// The window is left by its buttons only: Esc has no effect.
     void reject() override {}
@@ -32,5 +34,6 @@ class frmPropBody : public QDialog {
     void showEvent(QShowEvent* mostra) override;
 
   private:
+    Status Scrivi();
     void cdmSalva_Click();
 };

@@ -10,7 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "platform/html/HtmlView.h"
+#include "html/SureView.h"
 
 /// Where an element is drawn, in the view's places.
 inline QRect placeOf(const HtmlView& view, const QString& selector) {
@@ -117,13 +117,13 @@ class Desk {
 
     void killRenderer() const { ::killRenderer(view); }
 
-    HtmlView view;
+    SureView view;
     QString address;  ///< of the page that documents are written into
 };
 
 /// True when reading the document again gives the same one.
 inline bool isStable(const QString& html) {
-    HtmlView again(HtmlView::Mode::Design);
+    SureView again(HtmlView::Mode::Design);
     again.setDocumentHTML(html);
     return again.documentHTML() == html;
 }

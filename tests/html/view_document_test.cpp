@@ -14,7 +14,7 @@ class ViewDocument : public QObject {
 
   private Q_SLOTS:
     void noCodeOfTheBrowserIsLoadedBeforeAViewIsShown() {
-        HtmlView view(HtmlView::Mode::Design);
+        SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<p>ciao");
         QVERIFY(!view.documentHTML().isEmpty());
         QVERIFY(!browserCodeIsLoaded());
@@ -23,7 +23,7 @@ class ViewDocument : public QObject {
     }
 
     void keepsItsTextUntilItIsShown() {
-        HtmlView view(HtmlView::Mode::Design);
+        SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<P>ciao");
         QVERIFY(!view.isLive());
         QVERIFY(view.inputWidget() == nullptr);
@@ -32,7 +32,7 @@ class ViewDocument : public QObject {
     }
 
     void showingBringsTheBrowserWithTheText() {
-        HtmlView view(HtmlView::Mode::Design);
+        SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<P>ciao");
         QSignalSpy complete(&view, &HtmlView::documentComplete);
         view.show();
@@ -50,7 +50,7 @@ class ViewDocument : public QObject {
     }
 
     void documentSetWhileTheBrowserComesIsTheOneThatShows() {
-        HtmlView view(HtmlView::Mode::Design);
+        SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<p>uno</p>");
         view.show();
         view.setDocumentHTML("<p>due</p>");

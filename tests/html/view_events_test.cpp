@@ -24,7 +24,7 @@ class ViewEvents : public QObject {
     void shortcutsOfTheWindowAreNoStrokesOfTheDocument() {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
-        HtmlView view(HtmlView::Mode::Design);
+        SureView view(HtmlView::Mode::Design);
         box->addWidget(&view);
         view.setDocumentHTML("<p>uno</p>");
         QShortcut bold(QKeySequence("Ctrl+B"), &window);
@@ -50,7 +50,7 @@ class ViewEvents : public QObject {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
         auto* subject = new QLineEdit(&window);
-        auto* view = new HtmlView(HtmlView::Mode::Design, &window);
+        auto* view = new SureView(HtmlView::Mode::Design, &window);
         box->addWidget(subject);
         box->addWidget(view);
         view->setDocumentHTML("<p>uno</p>");
@@ -115,7 +115,7 @@ class ViewEvents : public QObject {
     void focusSetBeforeTheBrowserIsThereReachesTheDocument() {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
-        auto* view = new HtmlView(HtmlView::Mode::Design, &window);
+        auto* view = new SureView(HtmlView::Mode::Design, &window);
         box->addWidget(view);
         view->setDocumentHTML("<p>x</p>");
         view->setFocus();
@@ -129,7 +129,7 @@ class ViewEvents : public QObject {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
         auto* subject = new QLineEdit(&window);
-        auto* view = new HtmlView(HtmlView::Mode::Design, &window);
+        auto* view = new SureView(HtmlView::Mode::Design, &window);
         auto* behind = new QLineEdit(&window);
         for (QWidget* control :
              {static_cast<QWidget*>(subject), static_cast<QWidget*>(view), static_cast<QWidget*>(behind)})

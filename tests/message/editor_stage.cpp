@@ -83,7 +83,7 @@ void EditorStage::type(const QString& text) {
 }
 
 void EditorStage::fill(const QString& body) {
-    design().setDocumentHTML("<html><body>" + body + "</body></html>");
+    static_cast<void>(design().setDocumentHTML("<html><body>" + body + "</body></html>"));
 }
 
 void EditorStage::select(const QString& selector, int from, int to) {
@@ -97,7 +97,7 @@ void EditorStage::select(const QString& selector, int from, int to) {
 }
 
 QString EditorStage::body() {
-    const QString html = design().documentHTML();
+    const QString html = design().documentHTML().value();
     const qsizetype from = html.indexOf('>', html.indexOf("<body")) + 1;
     return html.mid(from, html.lastIndexOf("</body>") - from);
 }

@@ -304,7 +304,7 @@ class TestComandi : public QObject {
         QTRY_VERIFY(stage().body().contains("tre"));
         stage().editor().titoloFile = "[NuovoFile.mss]";
         stage().start("cmdSelezionaTutto");
-        QVERIFY(stage().design().selectedText().contains("due"));
+        QVERIFY(stage().design().selectedText().value().contains("due"));
         QVERIFY(!stage().marked());
     }
 

@@ -185,14 +185,14 @@ class TestDialoghi : public QObject {
         QVERIFY(!EditorStage::in<QPushButton>(dialog, "cmdNext").isEnabled());
         set(dialog, "txtFind", "due");
         click(dialog, "cmdNext");
-        QCOMPARE(stage().design().selectedText(), "DUE");
+        QCOMPARE(stage().design().selectedText().value(), "DUE");
         click(dialog, "cmdNext");
-        QCOMPARE(stage().design().selectedText(), "due");
+        QCOMPARE(stage().design().selectedText().value(), "due");
         click(dialog, "cmdPrevious");
-        QCOMPARE(stage().design().selectedText(), "DUE");
+        QCOMPARE(stage().design().selectedText().value(), "DUE");
         EditorStage::in<QCheckBox>(dialog, "chkCase").setChecked(true);
         click(dialog, "cmdNext");
-        QCOMPARE(stage().design().selectedText(), "due");
+        QCOMPARE(stage().design().selectedText().value(), "due");
         set(dialog, "txtFind", "tre");
         click(dialog, "cmdNext");
         QCOMPARE(EditorStage::in<QLabel>(dialog, "lblAnswer").text(), "Testo non trovato.");

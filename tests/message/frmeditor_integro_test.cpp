@@ -57,7 +57,7 @@ class TestIntegro : public QObject {
         const QString first = reader.documentHTML();
         ScriviMessaggio(stage().path("n.mss"), {"Notizie", "NR", {}, first.contains("&#") ? first : html});
         reopen("n.mss");
-        QVERIFY(stage().design().documentHTML() == first);
+        QVERIFY(stage().design().documentHTML().value() == first);
         stage().start("cmdSalva");
         const QByteArray saved = stage().bytes("n.mss");
         QCOMPARE(QString::fromLatin1(bodyOf(saved)).count(":::"), html.count(":::"));
@@ -65,7 +65,7 @@ class TestIntegro : public QObject {
         for (int round = 0; round < rounds; ++round) {
             reopen("n.mss");
             throughTheTabs();
-            QVERIFY(stage().design().documentHTML() == first);
+            QVERIFY(stage().design().documentHTML().value() == first);
             stage().start("cmdSalva");
             QVERIFY(stage().bytes("n.mss") == saved);
         }
@@ -97,7 +97,7 @@ class TestIntegro : public QObject {
         stage().start("cmdVarNom");
         stage().saveAs("s.mss");
         const QString offered = LeggiCorpoMss(stage().path("s.mss"));
-        QString written = stage().design().documentHTML();
+        QString written = stage().design().documentHTML().value();
         QCOMPARE(offered, written.replace("\n", "\r\n") + "\r\n");
         QVERIFY2(offered.contains("Gentile"), qPrintable(offered));
         QVERIFY2(offered.contains(":::nom:::"), qPrintable(offered));

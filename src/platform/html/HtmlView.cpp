@@ -14,12 +14,20 @@ HtmlView::HtmlView(Mode mode, QWidget* parent)
 
 HtmlView::~HtmlView() = default;
 
-QString HtmlView::documentHTML() const {
+Result<QString> HtmlView::documentHTML() const {
     return m_live->text();
 }
 
-void HtmlView::setDocumentHTML(const QString& html) {
-    m_live->setSource(html);
+Status HtmlView::setDocumentHTML(const QString& html) {
+    return m_live->setSource(html);
+}
+
+Status HtmlView::responds() const {
+    return m_live->responds();
+}
+
+QString HtmlView::knownHTML() const {
+    return m_live->knownText();
 }
 
 QWidget* HtmlView::inputWidget() const {
@@ -35,7 +43,8 @@ void HtmlView::wake() {
 }
 
 QVariant HtmlView::evaluate(const QString& script) const {
-    return m_live->ask(script);
+    const Result<QVariant> value = m_live->ask(script);
+    return value.ok() ? value.value() : QVariant();
 }
 
 void HtmlView::setShowDetails(bool on) {

@@ -10,6 +10,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "platform/Status.h"
+
 class QPrinter;
 
 /// Design and browse view of an HTML document.
@@ -22,6 +24,12 @@ class QPrinter;
 /// most a few seconds, ordinarily about a millisecond) timers and sockets go on and the user's input is held
 /// back. When the browser's process dies, it is started again with the text as it last stood; undo starts
 /// anew.
+///
+/// A browser that gives no answer in time is a failure of the call (Timeout): what was asked is not known,
+/// and never answered with what was true earlier; what was to be changed may still change when the browser
+/// goes on. After such a failure the next calls but documentHTML() and responds() wait for a moment only,
+/// until the browser answers again. A browser that cannot be had is a failure too (FileNotFound), except for
+/// the text of the document.
 ///
 /// Safety: page scripts and event handlers never run, nothing is fetched from a network, images of local
 /// files and `data:` images show, links, forms, refreshes, frames and dropped files never lead the view away.
@@ -105,16 +113,24 @@ class HtmlView : public QWidget {
     /// The document in its one normal form, the same that HtmlDocument gives for it: lines end in LF as they
     /// stand in the document, and a character that Windows-1252 does not hold is a numeric reference (in
     /// style sheets a CSS escape).
-    QString documentHTML() const;
+    Result<QString> documentHTML() const;
 
     /// Replaces the document, the undo list and the selection (the caret is at the start). Any text is a
     /// document. Ends in documentComplete(), during the call if the browser is there, else after it was
-    /// loaded.
-    void setDocumentHTML(const QString& html);
+    /// loaded. The document is replaced in any case: with a failure, when the browser goes on.
+    Status setDocumentHTML(const QString& html);
+
+    /// Whether the browser answers now. True as well while no browser holds the document.
+    Status responds() const;
+
+    /// The document as it is known without asking the browser: as of the last followed(), documentHTML() or
+    /// setDocumentHTML(). It may be older than the document, so it is for copies that are kept for an
+    /// emergency.
+    QString knownHTML() const;
 
     /// Replaces what is selected by the fragment and puts the caret behind it; undone as one step. False when
     /// the view has no selection, in Browse mode, or when nothing was inserted.
-    bool insertHTML(const QString& fragment);
+    Result<bool> insertHTML(const QString& fragment);
 
     // --- Commands
 
@@ -122,7 +138,7 @@ class HtmlView : public QWidget {
     /// size ("1" to "7"), its colour ("#rrggbb"), each empty where the selection is mixed. All others answer
     /// whether they were done. SetFontName takes a name, SetFontSize "1" to "7", SetForeColor "#rrggbb"; with
     /// nothing selected they hold for the text typed next. One undo step each.
-    QVariant execCommand(int command, const QString& value = QString());
+    Result<QVariant> execCommand(int command, const QString& value = QString());
 
     /// State at the present selection, without asking the browser: as of the last displayChanged().
     CommandStatus queryStatus(int command) const;
@@ -131,45 +147,45 @@ class HtmlView : public QWidget {
     bool commandEnabled(int command) const { return queryStatus(command) >= Enabled; }
 
     /// The selected text, as plain text; empty for a mere caret.
-    QString selectedText() const;
+    Result<QString> selectedText() const;
 
     /// Selects the next occurrence from the selection on, round the end of the document if need be. False
     /// when there is none.
-    bool find(const QString& text, unsigned flags = 0);
+    Result<bool> find(const QString& text, unsigned flags = 0);
 
     // --- Dialogs' needs
 
     /// The selected image (it was clicked), for the image dialog; none for anything else.
-    std::optional<ImageInfo> selectedImage() const;
+    Result<std::optional<ImageInfo>> selectedImage() const;
     /// Inserts the image, or changes the selected one (its other attributes stay). A source that is an
     /// absolute path becomes a file address. One undo step.
-    bool insertImage(const ImageInfo& image);
+    Result<bool> insertImage(const ImageInfo& image);
 
     /// The address of the link that holds the selection, as written; empty without one.
-    QString linkAddress() const;
+    Result<QString> linkAddress() const;
     /// Makes the selection a link, or changes the address of the link that holds it; an empty address takes
     /// the link away. With nothing selected and no link around, inserts `text` (the address where that is
     /// empty) as a link. One undo step.
-    bool setLink(const QString& address, const QString& text = QString());
+    Result<bool> setLink(const QString& address, const QString& text = QString());
 
     /// The elements that hold the selection, innermost first (a selected image or form field is the first),
     /// up to and with the body.
-    QList<Element> elementsAtCaret() const;
+    Result<QList<Element>> elementsAtCaret() const;
     /// Gives the element at `level` of elementsAtCaret() exactly these attributes. One undo step. False when
     /// there is no such element or a name cannot be one.
-    bool setElementAttributes(int level, const Attributes& attributes);
+    Result<bool> setElementAttributes(int level, const Attributes& attributes);
 
     // --- The page. These are no undo steps.
 
     /// An attribute of the body as written; empty where it is not set. Names without regard to case.
-    QString bodyAttribute(const QString& name) const;
-    void setBodyAttribute(const QString& name, const QString& value);
-    void removeBodyAttribute(const QString& name);
+    Result<QString> bodyAttribute(const QString& name) const;
+    Status setBodyAttribute(const QString& name, const QString& value);
+    Status removeBodyAttribute(const QString& name);
 
     /// A colour of the page as written in the body. Where it is not set: "#ffffff" for the background,
     /// "#000000" for text, "#0000ff" for links and active links, "#800080" for visited ones.
-    QString pageColor(PageColor color) const;
-    void setPageColor(PageColor color, const QString& value);
+    Result<QString> pageColor(PageColor color) const;
+    Status setPageColor(PageColor color, const QString& value);
 
     // --- Appearance. Neither touches the document; both stay on over setDocumentHTML().
 
@@ -205,6 +221,9 @@ class HtmlView : public QWidget {
     /// The selection, the document or the state of a command changed: read the states anew. At most once for
     /// each turn of the event loop.
     void displayChanged();
+    /// knownHTML() has taken in the changes of the document that were made so far, by whomever: soon after
+    /// each change, later for a large document, and at the latest during the next documentHTML().
+    void followed();
     /// A key was released over the document. The keys of a stroke that was a shortcut of the window (Ctrl+S)
     /// do not count.
     void keyReleased();

@@ -6,15 +6,12 @@
 
 // What a command is to a view: whether it is there now, and how it is run.
 
-QVariant HtmlView::Live::freshState(const QString& name) {
+Result<QString> HtmlView::Live::freshState(const QString& name) {
     awaitStrokes();
-    const QVariantMap fresh = ask(QStringLiteral("editor.commands.state()")).toMap();
-    if (!fresh.isEmpty()) state = fresh;
+    const Result<QVariant> fresh = ask(QStringLiteral("editor.commands.state()"));
+    if (!fresh.ok()) return fresh.status();
+    if (!fresh.value().toMap().isEmpty()) state = fresh.value().toMap();
     return state.value(name).toString();
-}
-
-bool HtmlView::Live::runCommand(int command, const QString& value) {
-    return change(QStringLiteral("commands.run"), {command, value}).toBool();
 }
 
 HtmlView::CommandStatus HtmlView::Live::status(int command) const {
@@ -69,7 +66,7 @@ HtmlView::CommandStatus HtmlView::Live::status(int command) const {
 
 void HtmlView::Live::showMarks(const QString& name, bool on) {
     marks[name] = on;
-    if (live) ask(QStringLiteral("editor.marks.show(%1)").arg(arguments({name, on})));
+    if (live) browser.run(QStringLiteral("editor.marks.show(%1)").arg(arguments({name, on})), [](auto&) {});
 }
 
 bool HtmlView::Live::print(bool prompt) {

@@ -21,23 +21,30 @@ QJsonArray pairs(const HtmlView::Attributes& attributes) {
 
 }  // namespace
 
-QVariant HtmlView::execCommand(int command, const QString& value) {
+Result<QVariant> HtmlView::execCommand(int command, const QString& value) {
+    const auto answer = [](const auto& result) -> Result<QVariant> {
+        if (!result.ok()) return result.status();
+        return QVariant(result.value());
+    };
     switch (command) {
         case GetFontName:
-            return m_live->freshState(QStringLiteral("fontName"));
+            return answer(m_live->freshState(QStringLiteral("fontName")));
         case GetFontSize:
-            return m_live->freshState(QStringLiteral("fontSize"));
+            return answer(m_live->freshState(QStringLiteral("fontSize")));
         case GetForeColor:
-            return m_live->freshState(QStringLiteral("foreColor"));
+            return answer(m_live->freshState(QStringLiteral("foreColor")));
         case Paste:
-            return m_live->paste();
+            return answer(m_live->paste());
         case FindText:
         case Hyperlink:
         case Image:
         case Properties:
-            return false;
-        default:
-            return m_live->runCommand(command, value);
+            return QVariant(false);
+        default: {
+            const Result<QVariant> done = m_live->change(QStringLiteral("commands.run"), {command, value});
+            if (!done.ok()) return done.status();
+            return QVariant(done.value().toBool());
+        }
     }
 }
 
@@ -45,48 +52,54 @@ HtmlView::CommandStatus HtmlView::queryStatus(int command) const {
     return m_live->status(command);
 }
 
-bool HtmlView::insertHTML(const QString& fragment) {
-    return m_live->mode == Mode::Design &&
-           m_live->change(QStringLiteral("insert.fragment"), {fragment}).toBool();
+Result<bool> HtmlView::insertHTML(const QString& fragment) {
+    return m_live->changeDone(QStringLiteral("insert.fragment"), {fragment});
 }
 
-QString HtmlView::selectedText() const {
-    return m_live->ask(QStringLiteral("getSelection().toString()")).toString();
+Result<QString> HtmlView::selectedText() const {
+    return m_live->askText(QStringLiteral("getSelection().toString()"));
 }
 
-bool HtmlView::find(const QString& text, unsigned flags) {
+Result<bool> HtmlView::find(const QString& text, unsigned flags) {
     const QJsonArray values{text, (flags & FindCaseSensitive) != 0, (flags & FindBackwards) != 0};
-    return !text.isEmpty() && m_live->change(QStringLiteral("find"), values).toBool();
+    if (text.isEmpty()) return false;
+    const Result<QVariant> found = m_live->change(QStringLiteral("find"), values);
+    if (!found.ok()) return found.status();
+    return found.value().toBool();
 }
 
-std::optional<HtmlView::ImageInfo> HtmlView::selectedImage() const {
-    const QVariantMap found = m_live->ask(QStringLiteral("editor.insert.describeImage()")).toMap();
-    if (found.isEmpty()) return std::nullopt;
+Result<std::optional<HtmlView::ImageInfo>> HtmlView::selectedImage() const {
+    const Result<QVariant> answer = m_live->ask(QStringLiteral("editor.insert.describeImage()"));
+    if (!answer.ok()) return answer.status();
+    const QVariantMap found = answer.value().toMap();
+    if (found.isEmpty()) return std::optional<ImageInfo>();
     const auto text = [&found](const char* name) { return found.value(QLatin1String(name)).toString(); };
-    return ImageInfo{text("source"), text("alternativeText"), text("width"), text("height"), text("align")};
+    return std::optional<ImageInfo>(
+        ImageInfo{text("source"), text("alternativeText"), text("width"), text("height"), text("align")});
 }
 
-bool HtmlView::insertImage(const ImageInfo& image) {
+Result<bool> HtmlView::insertImage(const ImageInfo& image) {
     const QJsonObject info{{"source", sourceAddress(image.source)},
                            {"alternativeText", image.alternativeText},
                            {"width", image.width},
                            {"height", image.height},
                            {"align", image.align}};
-    return m_live->mode == Mode::Design && m_live->change(QStringLiteral("insert.image"), {info}).toBool();
+    return m_live->changeDone(QStringLiteral("insert.image"), {info});
 }
 
-QString HtmlView::linkAddress() const {
-    return m_live->ask(QStringLiteral("editor.insert.linkAddress()")).toString();
+Result<QString> HtmlView::linkAddress() const {
+    return m_live->askText(QStringLiteral("editor.insert.linkAddress()"));
 }
 
-bool HtmlView::setLink(const QString& address, const QString& text) {
-    return m_live->mode == Mode::Design &&
-           m_live->change(QStringLiteral("insert.link"), {address, text}).toBool();
+Result<bool> HtmlView::setLink(const QString& address, const QString& text) {
+    return m_live->changeDone(QStringLiteral("insert.link"), {address, text});
 }
 
-QList<HtmlView::Element> HtmlView::elementsAtCaret() const {
+Result<QList<HtmlView::Element>> HtmlView::elementsAtCaret() const {
+    const Result<QVariant> answer = m_live->ask(QStringLiteral("editor.elements.describe()"));
+    if (!answer.ok()) return answer.status();
     QList<Element> elements;
-    for (const QVariant& each : m_live->ask(QStringLiteral("editor.elements.describe()")).toList()) {
+    for (const QVariant& each : answer.value().toList()) {
         const QVariantMap described = each.toMap();
         Element element{described.value(QStringLiteral("tag")).toString(), {}};
         for (const QVariant& attribute : described.value(QStringLiteral("attributes")).toList()) {
@@ -98,28 +111,27 @@ QList<HtmlView::Element> HtmlView::elementsAtCaret() const {
     return elements;
 }
 
-bool HtmlView::setElementAttributes(int level, const Attributes& attributes) {
-    return m_live->mode == Mode::Design &&
-           m_live->change(QStringLiteral("elements.setAttributes"), {level, pairs(attributes)}).toBool();
+Result<bool> HtmlView::setElementAttributes(int level, const Attributes& attributes) {
+    return m_live->changeDone(QStringLiteral("elements.setAttributes"), {level, pairs(attributes)});
 }
 
-QString HtmlView::bodyAttribute(const QString& name) const {
-    return m_live->ask(QStringLiteral("editor.page.attribute(%1)").arg(Live::arguments({name}))).toString();
+Result<QString> HtmlView::bodyAttribute(const QString& name) const {
+    return m_live->askText(QStringLiteral("editor.page.attribute(%1)").arg(Live::arguments({name})));
 }
 
-void HtmlView::setBodyAttribute(const QString& name, const QString& value) {
-    m_live->ask(QStringLiteral("editor.page.setAttribute(%1)").arg(Live::arguments({name, value})));
+Status HtmlView::setBodyAttribute(const QString& name, const QString& value) {
+    return m_live->tell(QStringLiteral("editor.page.setAttribute(%1)").arg(Live::arguments({name, value})));
 }
 
-void HtmlView::removeBodyAttribute(const QString& name) {
-    m_live->ask(QStringLiteral("editor.page.removeAttribute(%1)").arg(Live::arguments({name})));
+Status HtmlView::removeBodyAttribute(const QString& name) {
+    return m_live->tell(QStringLiteral("editor.page.removeAttribute(%1)").arg(Live::arguments({name})));
 }
 
-QString HtmlView::pageColor(PageColor color) const {
-    return m_live->ask(QStringLiteral("editor.page.color(%1)").arg(static_cast<int>(color))).toString();
+Result<QString> HtmlView::pageColor(PageColor color) const {
+    return m_live->askText(QStringLiteral("editor.page.color(%1)").arg(static_cast<int>(color)));
 }
 
-void HtmlView::setPageColor(PageColor color, const QString& value) {
-    m_live->ask(
+Status HtmlView::setPageColor(PageColor color, const QString& value) {
+    return m_live->tell(
         QStringLiteral("editor.page.setColor(%1)").arg(Live::arguments({static_cast<int>(color), value})));
 }

@@ -63,6 +63,7 @@ bool HtmlView::Live::ensure() {
 // The place of the document tells the reader what happened; the text itself is safe
 void HtmlView::Live::fail(const QString& reason) {
     m_failed = true;
+    m_failure = reason;
     wakeWaiting();
     delete std::exchange(browser.widget, nullptr);
     m_notice = new QLabel(reason, &view);
@@ -71,15 +72,19 @@ void HtmlView::Live::fail(const QString& reason) {
     view.layout()->addWidget(m_notice);
 }
 
-void HtmlView::Live::setSource(const QString& html) {
+Status HtmlView::Live::setSource(const QString& html) {
     awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
     m_followTimer.setInterval(0);  // what the last document cost says nothing about this one
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
-    if (!live && !m_writing) return;
+    if (!live && !m_writing) return {};
     write();
-    if (live) waitFor([this] { return !m_writing; }, startMilliseconds);
+    if (!live) return {};
+    waitFor([this] { return !m_writing || !live; }, m_stalled ? patience(Wait::Brief) : startMilliseconds);
+    if (!m_writing || !live) return {};
+    m_stalled = true;
+    return noAnswer();
 }
 
 // The document that was given up may have been the reason
@@ -95,12 +100,14 @@ void HtmlView::Live::write() {
     for (auto mark = marks.cbegin(); mark != marks.cend(); ++mark)
         shown[mark.key()] = mark.value();
     m_writing = true;
-    browser.run(QStringLiteral("editor.load(%1); editor.commands.state()")
+    browser.run(QStringLiteral("editor.load(%1); [editor.commands.state(), editor.history.version]")
                     .arg(arguments({m_source, mode == Mode::Design, shown})),
                 [this, number = ++m_lastWrite](const QVariant& answer) {
                     if (number != m_lastWrite) return;
                     m_writing = false;
-                    state = answer.toMap();
+                    m_stalled = false;
+                    state = answer.toList().value(0).toMap();
+                    m_toldVersion = answer.toList().value(1).toInt();
                     written();
                 });
 }
@@ -127,9 +134,20 @@ void HtmlView::Live::takeInput() {
     if (view.hasFocus() || browser.widget->hasFocus()) input->setFocus();
 }
 
-QString HtmlView::Live::text() {
+Result<QString> HtmlView::Live::text() {
     awaitStrokes();
-    if (live) takeText(ask(QStringLiteral("editor.text.readNewer(%1)").arg(m_version)));
+    if (live) {
+        const Result<QVariant> newer =
+            ask(QStringLiteral("editor.text.readNewer(%1)").arg(m_version), Wait::Long);
+        if (newer.ok()) takeText(newer.value());
+        tellFollowed();
+        // Of a process that died meanwhile nothing newer than the copy can be had.
+        if (!newer.ok() && live) return newer.status();
+    }
+    return knownText();
+}
+
+QString HtmlView::Live::knownText() {
     if (m_text.isNull()) {
         HtmlDocument document;
         document.setDocumentHTML(m_source);
@@ -145,6 +163,10 @@ void HtmlView::Live::takeText(const QVariant& answer) {
     m_text = html::ansiForm(newer.value(QStringLiteral("text")).toString());
 }
 
+void HtmlView::Live::tellFollowed() {
+    if (m_version >= 0 && std::exchange(m_toldVersion, m_version) != m_version) Q_EMIT view.followed();
+}
+
 // Keeps the copy that outlives the browser's process
 void HtmlView::Live::follow() {
     if (!live) return;
@@ -154,13 +176,15 @@ void HtmlView::Live::follow() {
                 [this, work, document = m_lastWrite](const QVariant& answer) {
                     if (document != m_lastWrite) return;
                     takeText(answer);
+                    tellFollowed();
                     m_followTimer.setInterval(static_cast<int>(work.elapsed()) * restPerWork);
                 });
 }
 
 void HtmlView::Live::keepText() {
     live = false;
-    m_source = text();
+    m_source = knownText();
+    m_stalled = false;
     m_stateDue = false;
     m_writing = false;
     ++m_lastWrite;  // the process may be gone, its answers still come
@@ -170,7 +194,7 @@ void HtmlView::Live::keepText() {
 }
 
 void HtmlView::Live::end() {
-    text();
+    static_cast<void>(text());
     keepText();
     m_failed = true;
     delete std::exchange(browser.widget, nullptr);

@@ -25,20 +25,27 @@ struct HtmlView::Live {
     void begin();
     /// Brings the browser up and waits for it; false where that fails.
     bool ensure();
-    void setSource(const QString& html);
-    QString text();
+    Status setSource(const QString& html);
+    Result<QString> text();
+    /// The text without asking the browser.
+    QString knownText();
+    Status responds();
 
-    /// The value of a script, invalid when there is no answer in time.
-    QVariant ask(const QString& script);
+    /// How long a question waits while the browser owes the answer to an earlier one.
+    enum class Wait { Brief, Long };
+    /// The value of a script, or why there is none: no answer in time, or no browser.
+    Result<QVariant> ask(const QString& script, Wait wait = Wait::Brief);
     /// Runs editor.<function>(values...) as one undo step and takes over the states as they are after it.
-    QVariant change(const QString& function, const QJsonArray& values = {});
+    Result<QVariant> change(const QString& function, const QJsonArray& values = {});
+    Result<bool> changeDone(const QString& function, const QJsonArray& values = {});
+    Result<QString> askText(const QString& script);
+    Status tell(const QString& script);
     /// Values as they stand between the brackets of a call in a script.
     static QString arguments(const QJsonArray& values);
-    bool paste();
+    Result<bool> paste();
     void awaitStrokes();
 
-    QVariant freshState(const QString& name);
-    bool runCommand(int command, const QString& value);
+    Result<QString> freshState(const QString& name);
     CommandStatus status(int command) const;
     void showMarks(const QString& name, bool on);
     bool print(bool prompt);
@@ -65,8 +72,11 @@ struct HtmlView::Live {
     void end();
     void follow();
     void takeText(const QVariant& answer);
+    void tellFollowed();
     void refreshState();
     void wakeWaiting();
+    static Status noAnswer();
+    int patience(Wait wait) const;
     bool waitFor(const std::function<bool()>& done, int milliseconds);
     bool dropped(const QPoint& place, const QMimeData& data);
     bool focusArrives(Qt::FocusReason reason);
@@ -74,9 +84,12 @@ struct HtmlView::Live {
     QString m_source;
     QString m_text;  // null: as m_source gives it
     int m_version = -1;
+    int m_toldVersion = -1;  // of the last followed(), or of the document as it was loaded
     bool m_writing = false;
     int m_lastWrite = 0;  // only the answer to this one counts
     bool m_failed = false;
+    QString m_failure;
+    bool m_stalled = false;  // a question got no answer, and none came since
     bool m_stateDue = false;
     bool m_strokeIsShortcut = false;
     int m_strokes = 0;      // keys released over the input widget

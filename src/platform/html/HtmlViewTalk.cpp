@@ -17,18 +17,23 @@
 namespace {
 
 constexpr int answerMilliseconds = 5000;
-constexpr int millisecondsPerMegabyte = 3000;
+constexpr int millisecondsPerMegabyte = 10000;
+constexpr int stalledMilliseconds = 300;
 constexpr int strokesMilliseconds = 400;
 
 }  // namespace
+
+Status HtmlView::Live::noAnswer() {
+    return {ErrorCode::Timeout, QStringLiteral("La vista del messaggio non risponde.")};
+}
 
 QString HtmlView::Live::arguments(const QJsonArray& values) {
     const QByteArray list = QJsonDocument(values).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(list.mid(1, list.size() - 2));
 }
 
-QVariant HtmlView::Live::ask(const QString& script) {
-    if (!ensure()) return {};
+Result<QVariant> HtmlView::Live::ask(const QString& script, Wait wait) {
+    if (!ensure()) return m_failed ? Status(ErrorCode::FileNotFound, m_failure) : noAnswer();
     struct Answer {
         bool there = false;
         QVariant value;
@@ -37,12 +42,36 @@ QVariant HtmlView::Live::ask(const QString& script) {
     browser.run(script, [this, answer](const QVariant& value) {
         answer->there = true;
         answer->value = value;
+        m_stalled = false;
         wakeWaiting();
     });
+    waitFor([this, &answer] { return answer->there || !live; }, patience(wait));
+    if (answer->there) return answer->value;
+    m_stalled = live;
+    return noAnswer();
+}
+
+// How long an answer may take
+int HtmlView::Live::patience(Wait wait) const {
+    if (m_stalled && wait == Wait::Brief) return stalledMilliseconds;
     const qsizetype megabytes = (m_source.size() + m_text.size()) >> 20;
-    waitFor([this, &answer] { return answer->there || !live; },
-            answerMilliseconds + millisecondsPerMegabyte * static_cast<int>(megabytes));
-    return answer->value;
+    return answerMilliseconds + millisecondsPerMegabyte * static_cast<int>(megabytes);
+}
+
+Result<QString> HtmlView::Live::askText(const QString& script) {
+    const Result<QVariant> answer = ask(script);
+    if (!answer.ok()) return answer.status();
+    return answer.value().toString();
+}
+
+Status HtmlView::Live::tell(const QString& script) {
+    return ask(script).status();
+}
+
+Status HtmlView::Live::responds() {
+    const Status answered = live ? ask(QStringLiteral("1"), Wait::Long).status() : Status();
+    // A process that died meanwhile left its text.
+    return live ? answered : Status();
 }
 
 // Keys take another way into the browser's process than scripts do, and may come later
@@ -51,33 +80,46 @@ void HtmlView::Live::awaitStrokes() {
     QElapsedTimer elapsed;
     elapsed.start();
     do {
-        m_strokesSeen = ask(QStringLiteral("editor.strokes")).toInt();
+        const Result<QVariant> seen = ask(QStringLiteral("editor.strokes"));
+        if (!seen.ok()) return;  // they are still on their way
+        m_strokesSeen = seen.value().toInt();
     } while (live && m_strokesSeen < m_strokes && elapsed.elapsed() < strokesMilliseconds);
     m_strokes = m_strokesSeen;
 }
 
-QVariant HtmlView::Live::change(const QString& function, const QJsonArray& values) {
+Result<QVariant> HtmlView::Live::change(const QString& function, const QJsonArray& values) {
     awaitStrokes();  // what was typed before comes before
-    const QVariantMap answer = ask(QStringLiteral("(() => { const result = editor.step(() => editor.%1(%2));"
-                                                  " return { result, state: editor.commands.state() }; })()")
-                                       .arg(function, arguments(values)))
-                                   .toMap();
-    if (!answer.isEmpty()) state = answer.value(QStringLiteral("state")).toMap();
-    return answer.value(QStringLiteral("result"));
+    const Result<QVariant> answer =
+        ask(QStringLiteral("(() => { const result = editor.step(() => editor.%1(%2));"
+                           " return { result, state: editor.commands.state() }; })()")
+                .arg(function, arguments(values)));
+    if (!answer.ok()) return answer.status();
+    const QVariantMap done = answer.value().toMap();
+    if (!done.isEmpty()) state = done.value(QStringLiteral("state")).toMap();
+    return done.value(QStringLiteral("result"));
 }
 
-bool HtmlView::Live::paste() {
+Result<bool> HtmlView::Live::changeDone(const QString& function, const QJsonArray& values) {
+    if (mode != Mode::Design) return false;
+    const Result<QVariant> result = change(function, values);
+    if (!result.ok()) return result.status();
+    return result.value().toBool();
+}
+
+Result<bool> HtmlView::Live::paste() {
     const QMimeData* data = QApplication::clipboard()->mimeData();
-    return mode == Mode::Design && data != nullptr &&
-           change(QStringLiteral("insert.paste"), {clipboardContent(*data)}).toBool();
+    if (data == nullptr) return false;
+    return changeDone(QStringLiteral("insert.paste"), {clipboardContent(*data)});
 }
 
 bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
     const QJsonObject content = clipboardContent(data);
-    if (mode != Mode::Design || content.isEmpty()) return false;
-    const bool inserted = change(QStringLiteral("insert.dropAt"), {place.x(), place.y(), content}).toBool();
-    if (inserted) Q_EMIT view.dropped();
-    return inserted;
+    if (content.isEmpty()) return false;
+    const Result<bool> inserted =
+        changeDone(QStringLiteral("insert.dropAt"), {place.x(), place.y(), content});
+    if (!inserted.ok() || !inserted.value()) return false;
+    Q_EMIT view.dropped();
+    return true;
 }
 
 bool HtmlView::Live::waitFor(const std::function<bool()>& done, int milliseconds) {
@@ -109,7 +151,7 @@ void HtmlView::Live::heard(const QString& message) {
     if (what == QLatin1String("doubleClick")) {
         Q_EMIT view.doubleClicked();
     } else if (what == QLatin1String("paste")) {
-        paste();
+        static_cast<void>(paste());
     } else {
         if (what == QLatin1String("changed") && !m_followTimer.isActive()) m_followTimer.start();
         refreshState();
@@ -120,6 +162,7 @@ void HtmlView::Live::refreshState() {
     if (std::exchange(m_stateDue, true)) return;
     browser.run(QStringLiteral("editor.commands.state()"), [this](const QVariant& answer) {
         m_stateDue = false;
+        m_stalled = false;
         if (!live) return;
         state = answer.toMap();
         Q_EMIT view.displayChanged();

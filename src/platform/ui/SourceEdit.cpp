@@ -45,6 +45,7 @@ SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent), m_edit(new QsciScinti
 
     m_edit->viewport()->installEventFilter(this);
     connect(m_edit, &QsciScintilla::selectionChanged, this, &SourceEdit::selectionChanged);
+    connect(m_edit, &QsciScintilla::textChanged, this, &SourceEdit::textChanged);
     connect(m_edit, &QsciScintilla::cursorPositionChanged, this, [this] { Q_EMIT selectionChanged(); });
     connect(m_edit, &QsciScintilla::linesChanged, this, [this] {
         m_edit->setMarginWidth(lineNumbers, QString(QString::number(m_edit->lines()).size() + 1, u'0'));
@@ -55,6 +56,10 @@ SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent), m_edit(new QsciScinti
 
 QString SourceEdit::Text() const {
     return m_edit->text();
+}
+
+qsizetype SourceEdit::length() const {
+    return m_edit->length();
 }
 
 void SourceEdit::setText(const QString& text) {

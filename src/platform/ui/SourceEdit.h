@@ -35,6 +35,8 @@ class SourceEdit : public QWidget {
     explicit SourceEdit(QWidget* parent = nullptr);
 
     QString Text() const;
+    /// In bytes, as a measure of what Text() costs.
+    qsizetype length() const;
     /// Drops the undo list and puts the caret at the start. A character of code 0 ends the text.
     void setText(const QString& text);
 
@@ -56,6 +58,8 @@ class SourceEdit : public QWidget {
 
   Q_SIGNALS:
     void selectionChanged();
+    /// By the user or by setText().
+    void textChanged();
     void mouseUp();
     void contextMenuRequested(const QPoint& globalPosition);
     void pointerEntered();

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <optional>
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "platform/system/OwnFile.h"
+
+/// Rescue copies: what a message in the editor holds, in files of the folder "recuperati" of the data folder,
+/// so that it outlives every end of the program. docs/formats/recuperati.md shows the file.
+
+/// A message as its rescue copy holds it. Nothing is lost on the way to the file: neither characters outside
+/// Windows-1252 nor a body that is under way in the source view.
+struct MessaggioRecuperato {
+    QString titolo;  ///< of its file in the editor, as "offerta.mss"
+    QString Oggetto;
+    QString Priorita;  ///< "HI", "NR" or "LW"
+    QStringList Allegati;
+    QString CorpoHTML;               ///< of the design view
+    std::optional<QString> Origine;  ///< of the source view, where that has not moved to the design view
+    bool operator==(const MessaggioRecuperato&) const = default;
+};
+
+/// The copy of one document. It is locked from the first write on, for as long as this object lives, so that
+/// no other program offers it.
+class CopiaRecupero {
+  public:
+    /// Writes the copy over the one before. Unguarded; the one before stays where the writing fails.
+    void Scrivi(const MessaggioRecuperato& messaggio);
+    /// Removes the copy, if there is one.
+    void Togli();
+    bool Esiste() const { return blocco.held(); }
+
+  private:
+    friend class CopiaTrovata;
+
+    QString percorso;
+    sys::FileLock blocco;
+};
+
+/// A copy that a program left behind, locked while it is looked at.
+class CopiaTrovata {
+  public:
+    /// Those that no living program has, the newest first. One that is damaged is set aside, and named in
+    /// `danneggiate`. Passes over every failure.
+    static std::vector<CopiaTrovata> Cerca(QStringList& danneggiate);
+
+    const MessaggioRecuperato& Messaggio() const { return messaggio; }
+    const QDateTime& Quando() const { return quando; }
+    /// The user does not want it: it is kept under another name, with the four that were refused before it.
+    void MettiDaParte();
+    /// Makes it the copy of the document that takes the message over.
+    CopiaRecupero Prendi() { return std::move(copia); }
+
+  private:
+    CopiaRecupero copia;
+    MessaggioRecuperato messaggio;
+    QDateTime quando;
+};

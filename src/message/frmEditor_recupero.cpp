@@ -1,0 +1,147 @@
+// The rescue copy of the document: when it is written, when it goes away, how it is offered.
+#include <algorithm>
+#include <QLocale>
+#include <QPointer>
+#include <utility>
+
+#include "core/bFunctions.h"
+#include "core/Evento.h"
+#include "core/Fallimento.h"
+#include "message/frmEditor.h"
+#include "platform/html/HtmlDocument.h"
+#include "platform/ui/CommandBars.h"
+#include "platform/ui/MessageDialog.h"
+#include "platform/ui/SourceEdit.h"
+#include "platform/ui/TabStrip.h"
+
+namespace {
+
+// Milliseconds from the last change to the copy, and from the first one that it does not hold at most.
+constexpr qint64 dopoUltima = 1000;
+constexpr qint64 dopoPrima = 5000;
+constexpr qint64 dopoPrimaGrande = 15000;
+constexpr qsizetype corpoGrande = 1024 * 1024;
+
+}  // namespace
+
+void frmEditor::CollegaCopia() {
+    tempoCopia.setSingleShot(true);
+    connect(&tempoCopia, &QTimer::timeout, this, [this] { ScriviCopia(); });
+    connect(DHTML, &HtmlView::followed, this, [this] { DocumentoMutato(); });
+    connect(barre, &ui::CommandBars::textEdited, this, [this] { DocumentoMutato(); });
+    connect(CODE, &ui::SourceEdit::textChanged, this, [this] {
+        if (tb->currentIndex() == Origine && !scriveOrigine) DocumentoMutato();
+    });
+    PrimaDellaFine([questo = QPointer(this)] {
+        if (questo && questo->copiaDovuta) questo->ScriviCopia();
+    });
+}
+
+void frmEditor::DocumentoMutato() {
+    if (rinunciato) return;
+    if (!std::exchange(copiaDovuta, true)) primaMutazione.start();
+    const bool grande = std::max(DHTML->knownHTML().size(), CODE->length()) > corpoGrande;
+    const qint64 rimane = (grande ? dopoPrimaGrande : dopoPrima) - primaMutazione.elapsed();
+    tempoCopia.start(static_cast<int>(std::clamp<qint64>(rimane, 0, dopoUltima)));
+}
+
+MessaggioRecuperato frmEditor::DaRecuperare(const QString& corpo) {
+    const MessaggioMss testata = Testata();
+    MessaggioRecuperato messaggio{titoloFile.mid(1).chopped(IsModificato() ? 2 : 1),
+                                  testata.Oggetto,
+                                  testata.Priorita,
+                                  testata.Allegati,
+                                  corpo,
+                                  {}};
+    if (tb->currentIndex() != Origine) return messaggio;
+    const QString origine = CODE->Text();
+    if (origine == corpo) return messaggio;
+    HtmlDocument spostata;
+    spostata.setDocumentHTML(origine);
+    if (spostata.documentHTML() != corpo) messaggio.Origine = origine;
+    return messaggio;
+}
+
+/// Writes what is known of the document without waiting for the browser: a copy must not stop the user.
+void frmEditor::ScriviCopia() {
+    tempoCopia.stop();
+    copiaDovuta = false;
+    const MessaggioRecuperato messaggio = DaRecuperare(DHTML->knownHTML());
+    // The last change before a save may become known after it.
+    if (messaggio == salvato) return copia.Togli();
+    Prosegui prosegui;
+    prosegui([&] { copia.Scrivi(messaggio); });
+}
+
+void frmEditor::CopiaPrimaDiScrivere(const QString& corpo) {
+    Prosegui prosegui;
+    prosegui([&] { copia.Scrivi(DaRecuperare(corpo)); });
+}
+
+/// The file holds all that the copy does, unless a text of the source view has not moved yet.
+void frmEditor::CopiaDopoScrittura(const QString& corpo) {
+    tempoCopia.stop();
+    copiaDovuta = false;
+    MessaggioRecuperato scritto = DaRecuperare(corpo);
+    const bool tutto = !std::exchange(scritto.Origine, std::nullopt);
+    salvato = std::move(scritto);
+    if (tutto) copia.Togli();
+}
+
+void frmEditor::ButtaCopia() {
+    rinunciato = true;
+    tempoCopia.stop();
+    copiaDovuta = false;
+    copia.Togli();
+}
+
+/// A document goes. What was not saved of it stays in its copy, which nobody is offered before this program
+/// has ended.
+void frmEditor::LasciaCopia() {
+    static_cast<void>(DHTML->documentHTML());  // takes in the last change, if it can be had
+    if (copiaDovuta) ScriviCopia();
+    if (copia.Esiste()) lasciate.push_back(std::exchange(copia, CopiaRecupero()));
+    salvato.reset();
+    rinunciato = false;
+}
+
+void frmEditor::OffriRecupero() {
+    QStringList danneggiate;
+    std::vector<CopiaTrovata> trovate = CopiaTrovata::Cerca(danneggiate);
+    for (const QString& copiaDanneggiata : std::as_const(danneggiate))
+        ui::MessageDialog::show(
+            "Una copia di recupero è danneggiata e non si può leggere.\r\nIl file resta in " +
+                copiaDanneggiata,
+            ui::MessageDialog::Notice, "Attenzione");
+    for (CopiaTrovata& trovata : trovate) {
+        const MessaggioRecuperato& messaggio = trovata.Messaggio();
+        const int risposta = ui::MessageDialog::show(
+            QString("Il messaggio %1 non è stato salvato prima della fine del programma.\r\nOggetto: %2\r\n"
+                    "Ultima modifica: %3\r\nVuoi recuperarlo?")
+                .arg(messaggio.titolo, messaggio.Oggetto,
+                     QLocale().toString(trovata.Quando(), QLocale::ShortFormat)),
+            ui::MessageDialog::AskNotice, "Attenzione");
+        if (risposta == ui::MessageDialog::Yes) {
+            RiprendiCopia(trovata);
+            return MostraModale();
+        }
+        trovata.MettiDaParte();
+    }
+}
+
+void frmEditor::RiprendiCopia(CopiaTrovata& trovata) {
+    const MessaggioRecuperato messaggio = trovata.Messaggio();
+    NuovoMessaggio();
+    ImpostaTestata(messaggio.Oggetto, messaggio.Priorita);
+    for (const QString& percorso : messaggio.Allegati)
+        AggiungiAllegato({percorso, NomeDaPercorso(percorso), FileEsiste(percorso)});
+    static_cast<void>(DHTML->setDocumentHTML(messaggio.CorpoHTML));
+    static_cast<void>(MostraBody(tb->currentIndex()));
+    if (messaggio.Origine) {
+        tb->setCurrentIndex(Origine);
+        CODE->setText(*messaggio.Origine);
+    }
+    fileAperto = false;
+    SegnaModificato();
+    copia = trovata.Prendi();
+}

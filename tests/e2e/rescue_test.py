@@ -1,0 +1,154 @@
+#!/usr/bin/env python3
+"""Kills the built program while a message is written, starts it again and takes the message up from its rescue copy; then
+stops the browser's process, saves, and sees that nothing older is written. Looks at the editor's window meanwhile: its
+state, its owner and its modality hold from its first opening on.
+
+    rescue_test.py BUILD_FOLDER
+"""
+import os
+import pathlib
+import signal
+import subprocess
+
+import desktop
+from desktop import fail
+
+desktop.inside()
+from accessible import Window, wait_for  # noqa: E402  looks for the bus when it is imported
+
+
+def keys(*names):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
+
+
+def type_text(text):
+    subprocess.run(["xdotool", "type", "--clearmodifiers", str(text)], check=True)
+
+
+def properties(name):
+    """What the window manager is told of the program's window of that name: its number, and its properties."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{name}"], stdout=subprocess.PIPE, text=True,
+                           check=True).stdout.split()
+    if len(found) != 1:
+        fail(f"{len(found)} windows are called {name}")
+    told = subprocess.run(["xprop", "-id", found[0]], stdout=subprocess.PIPE, text=True, check=True).stdout
+    return int(found[0]), {line.split("(")[0]: line for line in told.splitlines() if "(" in line}
+
+
+def copies(stage):
+    return b"".join(file.read_bytes() for file in (stage.program_folder / "data" / "recuperati").glob("*.copia"))
+
+
+def renderers(running):
+    """The processes that hold the documents of a program."""
+    found, parents = [], {}
+    for folder in pathlib.Path("/proc").iterdir():
+        if folder.name.isdigit():
+            try:
+                parents[int(folder.name)] = int((folder / "stat").read_text().rsplit(")", 1)[1].split()[1])
+                if b"--type=renderer" in (folder / "cmdline").read_bytes():
+                    found.append(int(folder.name))
+            except OSError:
+                pass  # it has ended
+    def belongs(process):
+        while process in parents and process != running.pid:
+            process = parents[process]
+        return process == running.pid
+    return [process for process in found if belongs(process)]
+
+
+def check_window(maximised):
+    main, _ = properties("Vestrola")
+    _, told = properties("Editor Messaggi")
+    state = told.get("_NET_WM_STATE", "")
+    if ("MAXIMIZED" in state) != maximised:
+        fail(f"the editor's state is {state}, maximised should be {maximised}")
+    if "_NET_WM_STATE_MODAL" not in state:
+        fail(f"the editor is not modal: {state}")
+    owner = told.get("WM_TRANSIENT_FOR", "")
+    if f"{main:#x}" not in owner:
+        fail(f"the editor belongs to {owner!r} instead of {main:#x}")
+
+
+def write_and_kill(stage, program):
+    running = stage.start([program])
+    Window("frame", "Vestrola")
+    keys("ctrl+n")
+    editor = Window("frame", "Editor Messaggi")
+    editor.wait_focus("text", "Oggetto")
+    check_window(maximised=False)
+    editor.find("document web", "")
+    type_text("Listino")
+    keys("Tab")
+    type_text(desktop.TEXT)
+    wait_for(lambda: b"aspettiamo." in copies(stage) and b"Listino" in copies(stage), "a copy of what was typed")
+    running.send_signal(signal.SIGKILL)
+    running.wait()
+
+
+def take_up(stage, program):
+    place = stage.program_folder / "data" / "frmEditor.imp"
+    place.write_bytes(b"\r\n".join([b"[Form frmMain]", b"mnLeft........: 1500", b"mnTop.........: 1500",
+                                    b"mnWidth.......: 12000", b"mnHeight......: 9000", b"mnWindowState.: 2", b""]))
+    running = stage.start([program])
+    Window("frame", "Vestrola", active=False)
+    question = Window("alert", "Attenzione", active=False)
+    question.press("Sì")
+    editor = Window("frame", "Editor Messaggi - [NuovoFile.mss*]")
+    editor.wait_focus("text", "Oggetto")
+    editor.find("document web", "")
+    check_window(maximised=True)
+    return running, editor
+
+
+def save_over_a_stalled_browser(stage, running):
+    path = stage.work / "nuovo.mss"
+    stopped = renderers(running)
+    if not stopped:
+        fail("no process holds the document")
+    for process in stopped:
+        os.kill(process, signal.SIGSTOP)
+    save(path)
+    notice = Window("alert", "Attenzione")
+    if path.exists():
+        fail(f"something was written: {path.read_bytes()}")
+    for process in stopped:
+        os.kill(process, signal.SIGCONT)
+    notice.press("OK")
+    notice.gone()
+    save(path)
+    wait_for(lambda: path.is_file() and path.read_bytes().endswith(b"[<END-MESS>]\r\n"), "the message in its file")
+    written = path.read_text(encoding="cp1252")
+    if "[<INI-SUBJ>]Listino[<END-SUBJ>]" not in written or desktop.TEXT not in written:
+        fail(f"the saved message is {written}")
+    wait_for(lambda: not copies(stage), "the copy to go")
+
+
+def save(path):
+    Window("frame", "Editor Messaggi")
+    keys("ctrl+s")
+    chooser = Window("dialog", "Salva messaggio")
+    chooser.wait_focus("text", "Nome del file:")
+    type_text(path)
+    keys("Return")
+    chooser.gone()
+
+
+def play(stage, program):
+    write_and_kill(stage, program)
+    running, editor = take_up(stage, program)
+    save_over_a_stalled_browser(stage, running)
+    keys("ctrl+w")
+    editor.gone()
+    Window("frame", "Vestrola")
+    keys("ctrl+q")
+    stage.ends(running, 0)
+    again = stage.start([program])
+    Window("frame", "Vestrola")
+    keys("ctrl+q")
+    stage.ends(again, 0)
+    print("a message outlived SIGKILL, and a stalled browser had nothing older saved")
+
+
+if __name__ == "__main__":
+    desktop.run(play)

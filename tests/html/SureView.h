@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include "platform/html/HtmlView.h"
+
+/// What a call of a view gave; ends the test where the browser gave no answer.
+template <class T>
+T sure(const Result<T>& answer) {
+    if (!answer.ok()) qFatal("%s", qUtf8Printable(answer.status().text()));
+    return answer.value();
+}
+
+inline void sure(const Status& done) {
+    if (!done.ok()) qFatal("%s", qUtf8Printable(done.text()));
+}
+
+/// A view whose browser answers, for tests that are not about one that does not.
+class SureView : public HtmlView {
+  public:
+    using HtmlView::HtmlView;
+
+    QString documentHTML() const { return sure(HtmlView::documentHTML()); }
+    void setDocumentHTML(const QString& html) { sure(HtmlView::setDocumentHTML(html)); }
+    bool insertHTML(const QString& fragment) { return sure(HtmlView::insertHTML(fragment)); }
+    QVariant execCommand(int command, const QString& value = {}) {
+        return sure(HtmlView::execCommand(command, value));
+    }
+    QString selectedText() const { return sure(HtmlView::selectedText()); }
+    bool find(const QString& text, unsigned flags = 0) { return sure(HtmlView::find(text, flags)); }
+    std::optional<ImageInfo> selectedImage() const { return sure(HtmlView::selectedImage()); }
+    bool insertImage(const ImageInfo& image) { return sure(HtmlView::insertImage(image)); }
+    QString linkAddress() const { return sure(HtmlView::linkAddress()); }
+    bool setLink(const QString& address, const QString& text = {}) {
+        return sure(HtmlView::setLink(address, text));
+    }
+    QList<Element> elementsAtCaret() const { return sure(HtmlView::elementsAtCaret()); }
+    bool setElementAttributes(int level, const Attributes& attributes) {
+        return sure(HtmlView::setElementAttributes(level, attributes));
+    }
+    QString bodyAttribute(const QString& name) const { return sure(HtmlView::bodyAttribute(name)); }
+    void setBodyAttribute(const QString& name, const QString& value) {
+        sure(HtmlView::setBodyAttribute(name, value));
+    }
+    void removeBodyAttribute(const QString& name) { sure(HtmlView::removeBodyAttribute(name)); }
+    QString pageColor(PageColor color) const { return sure(HtmlView::pageColor(color)); }
+    void setPageColor(PageColor color, const QString& value) { sure(HtmlView::setPageColor(color, value)); }
+};

@@ -1,0 +1,150 @@
+// A browser that stalls never has an older text taken for the message's: what was asked of it fails, with a
+// notice, and goes on when the browser does.
+#include <csignal>
+
+#include "html/ViewFixture.h"
+#include "message/editor_stage.h"
+
+using namespace testing_support;
+using ui::FileDialog;
+using ui::MessageDialog;
+
+namespace {
+
+/// Holds the process that has the view's document, from begin to end.
+class Stall {
+  public:
+    explicit Stall(const HtmlView& view)
+        : m_process(
+              view.findChild<QObject*>(QStringLiteral("page"))->property("renderProcessPid").toLongLong()) {
+        if (m_process <= 0) qFatal("no process to hold");
+        send(SIGSTOP);
+    }
+    ~Stall() { send(SIGCONT); }
+    Stall(const Stall&) = delete;
+    Stall& operator=(const Stall&) = delete;
+
+  private:
+    void send(int signal) const { ::kill(static_cast<pid_t>(m_process), signal); }
+
+    qint64 m_process;
+};
+
+}  // namespace
+
+class TestStallo : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<EditorStage> m_stage;
+    EditorStage& stage() { return *m_stage; }
+
+    void savedAs(const QString& name) {
+        stage().fill("<p>vecchio</p>");
+        stage().saveAs(name);
+    }
+    /// The text is in the document, and no copy outside of the browser's process has it yet.
+    void typeHeld() { stage().type("nuovo "); }
+
+  private Q_SLOTS:
+    void initTestCase() { m_stage = std::make_unique<EditorStage>(); }
+    void cleanupTestCase() { m_stage.reset(); }
+    void init() { stage().begin(); }
+
+    void aSaveWritesNothingAndKeepsTheMark() {
+        savedAs("a.mss");
+        const QByteArray before = stage().bytes("a.mss");
+        {
+            const Stall stall(stage().design());
+            typeHeld();
+            stage().editor().Commands().GetEdit("txtOggetto")->setText("Listino");
+            MessageDialog::queue(MessageDialog::Ok);
+            stage().start("cmdSalva");
+            QVERIFY(stage().bytes("a.mss") == before);
+            QVERIFY(stage().marked());
+            QCOMPARE(MessageDialog::shown().size(), 1);
+            QCOMPARE(MessageDialog::shown()[0].style, int{MessageDialog::Notice});
+            QCOMPARE(MessageDialog::shown()[0].title, "Attenzione");
+        }
+        QTRY_VERIFY(stage().body().contains("nuovo"));
+        stage().start("cmdSalva");
+        QVERIFY(stage().bytes("a.mss").contains("nuovo"));
+        QVERIFY(stage().bytes("a.mss").contains("Listino"));
+        QVERIFY(!stage().marked());
+    }
+
+    void aSaveUnderANameTakesNeitherTitleNorPath() {
+        stage().fill("<p>vecchio</p>");
+        {
+            const Stall stall(stage().design());
+            typeHeld();
+            FileDialog::queue(stage().path("mai.mss"));
+            MessageDialog::queue(MessageDialog::Ok);
+            stage().start("cmdSalvaAs");
+        }
+        QCOMPARE(stage().title(), "Editor Messaggi - [NuovoFile.mss*]");
+        QVERIFY(!stage().editor().fileAperto);
+        QVERIFY(!QFile::exists(stage().path("mai.mss")));
+    }
+
+    void aChangeOfTabStaysWhereItIs() {
+        stage().fill("<p>vecchio</p>");
+        stage().chooseTab(1);
+        stage().chooseTab(0);
+        {
+            const Stall stall(stage().design());
+            typeHeld();
+            MessageDialog::queue(MessageDialog::Ok);
+            stage().editor().tb->setCurrentIndex(1);
+            QCOMPARE(stage().editor().tb->currentIndex(), 0);
+            QCOMPARE(MessageDialog::shown().size(), 1);
+            QVERIFY(stage().tool("cmdBold").isEnabled());
+        }
+        QTRY_VERIFY(stage().body().contains("nuovo"));
+        stage().chooseTab(1);
+        QVERIFY(stage().source().Text().contains("nuovo"));
+    }
+
+    void theSourceStaysOnShowWithWhatWasTypedThere() {
+        stage().fill("<p>vecchio</p>");
+        stage().chooseTab(1);
+        stage().source().setText("<p>battuto</p>");
+        for (const int tab : {0, 2}) {
+            const Stall stall(stage().design());
+            MessageDialog::queue(MessageDialog::Ok);
+            stage().editor().tb->setCurrentIndex(tab);
+            QCOMPARE(stage().editor().tb->currentIndex(), 1);
+            QCOMPARE(stage().source().Text(), "<p>battuto</p>");
+        }
+        QCOMPARE(MessageDialog::shown().size(), 2);
+        QCOMPARE(stage().body(), "<p>vecchio</p>");
+        stage().chooseTab(0);
+        QCOMPARE(stage().body(), "<p>battuto</p>");
+    }
+
+    void thePropertiesOfThePageDoNotOpenAndCommandsSayWhy() {
+        stage().fill("<p>vecchio</p>");
+        {
+            const Stall stall(stage().design());
+            MessageDialog::queue(MessageDialog::Ok);
+            stage().start("cmdProprieta");
+            QCOMPARE(MessageDialog::shown().size(), 1);
+            stage().start("cmdLink");
+            QVERIFY2(stage().hint().contains("non risponde"), qPrintable(stage().hint()));
+        }
+        QTRY_COMPARE(stage().body(), "<p>vecchio</p>");
+    }
+
+    void aMessageThatIsOpenedMeanwhileIsThereAfterwards() {
+        savedAs("b.mss");
+        stage().editor().NuovoMessaggio();
+        {
+            const Stall stall(stage().design());
+            stage().open("b.mss");
+            QCOMPARE(stage().title(), "Editor Messaggi - [b.mss]");
+        }
+        QTRY_COMPARE(stage().body(), "<p>vecchio</p>");
+    }
+};
+
+QTEST_MAIN(TestStallo)
+#include "frmeditor_stallo_test.moc"
