@@ -11,9 +11,10 @@ class ScriptedMail:
     """Listens on a free port of the loopback address. A message is noted once its final point has arrived, since the
     server then has it, whatever becomes of the reply."""
 
-    def __init__(self, delay=0.0, slow=None):
-        """`delay`: seconds before each reply to a final point; `slow`: those for single recipients."""
-        self.delay, self.slow = delay, slow or {}
+    def __init__(self, delay=0.0, slow=None, refused=()):
+        """`delay`: seconds before each reply to a final point; `slow`: those for single recipients; `refused`: the
+        recipients that the server does not take."""
+        self.delay, self.slow, self.refused = delay, slow or {}, refused
         self.messages = []  # recipient and message, in the order of arrival
         self.listener = socket.create_server(("127.0.0.1", 0), backlog=50)
         self.port = self.listener.getsockname()[1]
@@ -45,7 +46,9 @@ class ScriptedMail:
                 return
             if word == b"EHLO":
                 connection.sendall(b"250-prova.example\r\n250-PIPELINING\r\n250 8BITMIME\r\n")
-            elif word == b"DATA" and recipient:
+            elif word == b"DATA" and not recipient:
+                connection.sendall(b"503 nobody to send to\r\n")
+            elif word == b"DATA":
                 connection.sendall(b"354 go on\r\n")
                 message = self._message(lines)
                 if message is None:
@@ -58,8 +61,12 @@ class ScriptedMail:
                 connection.sendall(b"221 bye\r\n")
                 return
             else:
-                if word == b"RCPT":
-                    recipient = re.search(rb"<([^>]*)>", line).group(1).decode()
+                named = re.search(rb"<([^>]*)>", line).group(1).decode() if word == b"RCPT" else None
+                recipient = named or recipient
+                if named in self.refused:
+                    recipient = None
+                    connection.sendall(b"550 unknown here\r\n")
+                    continue
                 connection.sendall(b"250 ok\r\n")
 
     @staticmethod
