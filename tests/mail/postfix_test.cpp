@@ -57,7 +57,7 @@ class RealServer : public testing::Test {
                              loop.quit();
                          });
         for (const auto& message : messages) {
-            QTimer::singleShot(0, &session, [&] { session.deliver(route, message, 20000); });
+            QTimer::singleShot(0, &session, [&] { session.deliver(route, message, {.stall = 20000}); });
             loop.exec();
             EXPECT_TRUE(outcome.delivered) << outcome.text.toStdString() << s_server->log().toStdString();
         }
