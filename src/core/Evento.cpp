@@ -9,6 +9,7 @@
 #include "core/Guasti.h"
 #include "core/Prodotto.h"
 #include "core/Riavvio.h"
+#include "platform/ado/Notices.h"
 #include "platform/ui/MessageDialog.h"
 
 namespace {
@@ -67,6 +68,11 @@ void mostraEtermina(const Fallimento& fallimento) {
         dettagli(fallimento), riavvio::Possibile(), prodotto::nome());
     if (risposta == ui::MessageDialog::Restart) riavvio::Avvia();
     TerminaProgramma();
+}
+
+void mostraAvvisi() {
+    for (const QString& testo : ado::takeNotices())
+        ui::MessageDialog::show(testo, ui::MessageDialog::Notice, QStringLiteral("Attenzione"));
 }
 
 bool accettaEventi() {

@@ -34,16 +34,34 @@ struct ProgrammaTerminato {
 /// False while a failure is on show: the program is about to end and takes no further events.
 bool accettaEventi();
 
-/// Runs one event handler.
+/// Shows what the database engine has set aside meanwhile, a box for each sentence.
+void mostraAvvisi();
+
+/// Counts the handlers that are under way inside one another.
+class HandlerInCorso {
+  public:
+    HandlerInCorso() { ++s_quanti; }
+    ~HandlerInCorso() { --s_quanti; }
+    HandlerInCorso(const HandlerInCorso&) = delete;
+    static bool alcuno() { return s_quanti > 0; }
+
+  private:
+    static inline int s_quanti = 0;
+};
+
+/// Runs one event handler. After the outermost one comes what the engine has to say: no tick waits for that
+/// box.
 template <class Gestore>
 void evento(Gestore&& gestore) {
     if (!accettaEventi()) return;
     try {
         try {
+            const HandlerInCorso inCorso;
             std::forward<Gestore>(gestore)();
         } catch (const Fallimento& fallimento) {
             mostraEtermina(fallimento);
         }
+        if (!HandlerInCorso::alcuno()) mostraAvvisi();
     } catch (const ProgrammaTerminato&) {
     }
 }

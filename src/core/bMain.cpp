@@ -1,6 +1,5 @@
 #include "core/bMain.h"
 
-#include <QApplication>
 #include <QTimer>
 
 #include "core/bError.h"
@@ -11,6 +10,7 @@
 #include "core/Puntatore.h"
 #include "core/Riavvio.h"
 #include "message/frmEditor.h"
+#include "platform/ado/Notices.h"
 #include "platform/ui/MessageDialog.h"
 #include "send/Accettati.h"
 #include "send/Accettati_avviso.h"
@@ -20,6 +20,7 @@
 
 void SubMain() {
     Prosegui prosegui;
+    ado::keepNotices();
     riavvio::SegnaAvvio();
     ScriviInizioLog();
     PuntatoreAttesa();
@@ -38,8 +39,9 @@ void SubMain() {
     riavvio::SegnaFinestra();
     riavvio::RiprendiGruppo();
     AvvisaAccettatiScartati();
+    mostraAvvisi();
     if (!avvisoPercorso.isEmpty())
         ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, "Attenzione");
     // The offer waits for an answer, so it comes with the first events.
-    QTimer::singleShot(0, qApp, [] { evento([] { finestre::Editor().OffriRecupero(); }); });
+    QTimer::singleShot(0, &finestre::Main(), [] { evento([] { finestre::Editor().OffriRecupero(); }); });
 }

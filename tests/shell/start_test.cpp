@@ -8,6 +8,7 @@
 
 #include "core/bMain.h"
 #include "core/CentraForm.h"
+#include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "platform/system/Clock.h"
 #include "platform/system/ProgramFolder.h"
@@ -16,6 +17,7 @@
 #include "shell/frmSplash.h"
 #include "shell/shell_support.h"
 #include "store/percorsoDBase.h"
+#include "store/RecordsetDB.h"
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -67,6 +69,37 @@ class TestStart : public QObject {
         ui::setUnattended(true);
         while (QApplication::overrideCursor())
             QApplication::restoreOverrideCursor();
+    }
+
+    void aJournalThatDoesNotBelongToTheDatabaseIsSetAsideAndTold() {
+        StoreStage stage;
+        writeFile(stage.folder.database() + "-journal", QByteArray(5000, 'x'));
+        MessageDialog::queue(MessageDialog::Ok);
+        start();
+        const auto boxes = MessageDialog::shown();
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(boxes[0].title, "Attenzione");
+        QVERIFY(boxes[0].text.contains("data.mdb-journal.scartato"));
+        QCOMPARE(readFile(stage.folder.database() + "-journal.scartato"), QByteArray(5000, 'x'));
+    }
+
+    void aNoticeOfTheEngineComesAfterTheOutermostHandler() {
+        StoreStage stage;
+        start();
+        ado::closeAll();
+        writeFile(stage.folder.database() + "-journal", QByteArray(5000, 'x'));
+        MessageDialog::queue(MessageDialog::Ok);
+        qsizetype within = -1;
+        evento([&] {
+            evento([] {
+                ado::Recordset groups = RecordsetDB();
+                groups.setSource("SELECT * FROM [tb_gruppi];");
+                esigi(groups.open());
+            });
+            within = MessageDialog::shown().size();
+        });
+        QCOMPARE(within, 0);
+        QCOMPARE(MessageDialog::shown().size(), 1);
     }
 
     void theStartWritesTheLogReadsThePathAndShowsTheTitledWindow() {
@@ -379,7 +412,7 @@ class TestStart : public QObject {
         start();
         QCOMPARE(percorsoDB, folder + "/data/data.mdb");
         QCOMPARE(stage.tree().Count(), 1);
-        QCOMPARE(finestre::Main().size(), QSize(1080, 640));
+        QCOMPARE(finestre::Main().size(), QSize(990, 640));  // within 1024 by 768
         QCOMPARE(finestre::Main().Commands().GetList("cmdLang")->SelectedIndex(), 0);
         QVERIFY(finestre::Main().Commands().GetList("cmdLang")->Count() >= 2);
         QCOMPARE(readFile(folder + "/data/Account.imp"), QByteArray());

@@ -1,0 +1,15 @@
+// What the database engine did to files beside a database that the user should know of, kept until it can be
+// shown.
+#pragma once
+
+#include <QStringList>
+
+namespace ado {
+
+/// Keeps these sentences from now on; before, they go to the standard error stream. To be called once, at the
+/// start.
+void keepNotices();
+/// The sentences (Italian) since the last call.
+QStringList takeNotices();
+
+}  // namespace ado
