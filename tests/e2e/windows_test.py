@@ -77,7 +77,7 @@ def focused(window):
     return pyatspi.findDescendant(window.frame, lambda one: has(one, pyatspi.STATE_FOCUSED))
 
 
-def check_dialog(main, opening, name, leaving, role="dialog", buttons=True, enlarged=False):
+def check_dialog(main, opening, name, leaving, role="dialog", buttons=True):
     """Opens a window from the main one and leaves it."""
     opening()
     window = Window(role, name)
@@ -85,10 +85,10 @@ def check_dialog(main, opening, name, leaving, role="dialog", buttons=True, enla
     number = active()
     check_within_screen(number, name)
     owner = property_of(number, "WM_TRANSIENT_FOR")
-    if owner and int(owner[0], 16) != main:
+    if not owner or int(owner[0], 16) != main:
         fail(f"{name!r} belongs to {owner} instead of {main:#x}")
-    if role == "dialog" and (not owner or "_NET_WM_STATE_MODAL" not in property_of(number, "_NET_WM_STATE")):
-        fail(f"{name!r} is no modal window of the main one")
+    if "_NET_WM_STATE_MODAL" not in property_of(number, "_NET_WM_STATE"):
+        fail(f"{name!r} is no modal window")
     order = stacked()
     if order.index(number) < order.index(main):
         fail(f"{name!r} stands below the main window")
