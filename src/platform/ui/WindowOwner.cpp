@@ -14,7 +14,7 @@ void setWindowOwner(QWidget& window, const QWidget& owner) {
     window.windowHandle()->setTransientParent(above);
     // Under X11 the toolkit tells it of dialogs alone (ICCCM 4.1.2.6).
     const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) return;
+    if (QGuiApplication::platformName() != QLatin1String("xcb") || x11 == nullptr) return;
     const xcb_window_t number = static_cast<xcb_window_t>(above->winId());
     xcb_change_property(x11->connection(), XCB_PROP_MODE_REPLACE, own, XCB_ATOM_WM_TRANSIENT_FOR,
                         XCB_ATOM_WINDOW, 32, 1, &number);
