@@ -27,7 +27,7 @@ mail::DeliveryOutcome sendText(const mail::MessageText& text, quint16 port) {
         outcome = told;
         loop.quit();
     });
-    QTimer::singleShot(0, &session, [&] { session.deliver(route, composed, 10000); });
+    QTimer::singleShot(0, &session, [&] { session.deliver(route, composed, {.stall = 10000}); });
     loop.exec();
     return outcome;
 }
