@@ -68,6 +68,7 @@ class frmInvia : public QDialog {
     void cmdInvia_Click();
     bool ControllaScelte();
     bool PreparaElenco();
+    void AvvisaFirma();
     void FineInvio();
     void LeggiMessaggio(Prosegui& prosegui);
     void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);

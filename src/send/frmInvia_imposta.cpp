@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QStorageInfo>
 #include <QTimer>
+#include <tuple>
+#include <utility>
 
 #include "core/bFunctions.h"
 #include "core/bGlobal.h"
@@ -14,6 +16,7 @@
 #include "message/MessaggioMss.h"
 #include "platform/ado/Connection.h"
 #include "platform/mail/DeliveryControl.h"
+#include "platform/mail/DkimSigner.h"
 #include "platform/mail/Unsubscribe.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
@@ -84,8 +87,13 @@ void frmInvia::cmdInvia_Click() {
     Prosegui prosegui;
     if (!ControllaScelte()) return;
     limite.bloccoAttivo = chkBlocco->isChecked();
+    const auto logPrima = std::pair(SMTP->LogFile, SMTP->LogEnabled);
     if (chkLog->isChecked() && !ChiediLog()) return;
-    if (!PreparaElenco()) return;
+    if (!PreparaElenco()) {
+        std::tie(SMTP->LogFile, SMTP->LogEnabled) = logPrima;
+        return;
+    }
+    AvvisaFirma();
     AbilitaControlli(false);
     prosegui([&] { SetPrgBar(); });
     ImpostaPausa(prosegui);
@@ -179,6 +187,15 @@ bool frmInvia::PreparaElenco() {
     avvisa(riservato.text() +
            "\r\nSe il database non potrà essere aggiornato, non tutti i destinatari saranno serviti.");
     return true;
+}
+
+/// Tells of a key that cannot sign before a whole run goes out without a signature.
+void frmInvia::AvvisaFirma() {
+    const Account& mittente = account.at(cmbAccount->currentData().toInt());
+    const Status firma = mail::DkimSigner::usable(cartellaDati() + "dkim", mittente.txtEmail);
+    if (!firma.ok())
+        MessageDialog::show(firma.text() + "\r\nI messaggi di questo invio partono senza firma.",
+                            MessageDialog::Notice, bVAR::Attenzione);
 }
 
 /// Other processes may send again, once nothing of this run can come any more.

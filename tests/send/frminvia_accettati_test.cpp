@@ -187,6 +187,21 @@ class TestFrmInviaAccettati : public QObject {
         QCOMPARE(MessageDialog::shown().size(), 1);
     }
 
+    void clickThatEndsThereLeavesTheLogAsItWas() {
+        SendStage stage({"a@x.it"});
+        mail::RunLock other;
+        QVERIFY(other.take(percorsoDB));
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.pick();
+        stage.click("chkLog");
+        ui::FileDialog::queue(stage.folder.path("registro.xt1"));
+        stage.click("cmdInvia");
+        auto* control = stage.window->findChild<mail::DeliveryControl*>("SMTP");
+        QVERIFY(control);
+        QCOMPARE(control->LogFile, QString());
+        QVERIFY(!control->LogEnabled);
+    }
+
     void runIsSeenByOthersFromTheClickToItsEnd() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();

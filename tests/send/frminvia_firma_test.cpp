@@ -2,6 +2,7 @@
 #include <QFile>
 
 #include "mail/dkim_support.h"
+#include "platform/ui/MessageDialog.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;
@@ -30,14 +31,19 @@ class TestFrmInviaFirma : public QObject {
         QVERIFY(!stage.sink.messages()[0].data.contains("DKIM-Signature"));
     }
 
-    void badKeyIsToldInTheLogAndTheMessagesGoOutUnsigned() {
+    void badKeyIsToldBeforeTheRunAndInTheLogAndTheMessagesGoOutUnsigned() {
         SendStage stage({"a@x.it", "b@x.it"});
         compose::makeFile(stage.folder.path("data/dkim/klukla.example.pem"), "nessuna chiave segreta");
         compose::makeFile(stage.folder.path("data/dkim/klukla.example.selector"), "maggio\r\n");
         stage.pick();
         stage.click("chkLog");
         ui::FileDialog::queue(stage.folder.path("registro.xt1"));
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
         stage.start();
+        const auto boxes = ui::MessageDialog::shown();
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY2(boxes[0].text.contains("DKIM") && boxes[0].text.contains("senza firma"),
+                 qPrintable(boxes[0].text));
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.sink.messages().size(), 2);
         for (const SmtpSink::Message& message : stage.sink.messages())
