@@ -26,7 +26,7 @@ editor.marks = {
             .filter((name) => this.shown[name])
             .map((name) => {
                 const sheet = new CSSStyleSheet();
-                sheet.replaceSync(this.sheets[name]);
+                sheet.replaceSync('@media screen {' + this.sheets[name] + '}'); // nothing of them is printed
                 return sheet;
             });
     },
