@@ -10,6 +10,7 @@
 #include "core/bImpostazioni.h"
 #include "core/Fallimento.h"
 #include "lang/bVAR.h"
+#include "platform/text/AnsiCodec.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 
@@ -65,6 +66,32 @@ Account frmAccount::LeggiControlli() const {
     return letto;
 }
 
+namespace {
+
+/// Tells what the file of the accounts has lost, before every recipient sees it. Of a password no character
+/// is shown.
+void AvvisaCaratteri(const Account& valori) {
+    struct Casella {
+        const char* nome;
+        const QString& testo;
+        bool segreta = false;
+    };
+    QStringList righe;
+    for (const auto& [nome, testo, segreta] :
+         {Casella{"Nome visualizzato", valori.txtNomeVisual}, Casella{"Email", valori.txtEmail},
+          Casella{"Server SMTP", valori.txtServerSMTP}, Casella{"Username", valori.txtUsername},
+          Casella{"Password", valori.txtPassword, true}}) {
+        const QStringList persi = text::outsideAnsi(testo);
+        if (!persi.isEmpty()) righe << QString(nome) + (segreta ? QString() : ": " + persi.join(' '));
+    }
+    if (righe.isEmpty()) return;
+    ui::MessageDialog::show(
+        "Il file degli account non può contenere questi caratteri:\r\n" + righe.join("\r\n"),
+        ui::MessageDialog::Notice, bVAR::Attenzione);
+}
+
+}  // namespace
+
 void frmAccount::cmdNuovo_Click() {
     if (!ValidaAccount()) return;
     TogliSeparatori();
@@ -73,9 +100,11 @@ void frmAccount::cmdNuovo_Click() {
     const int numero = NuovoAccount(percorsoAccount(), account, nuovo);
     lstAccount->addItem(VoceAccount(nuovo));
     // A list that is shorter than the table has no such position: the choice stays as it is.
-    if (numero >= lstAccount->count()) return;
-    lstAccount->setListIndex(numero);
-    prosegui([this] { lstAccount_Click(); });
+    if (numero < lstAccount->count()) {
+        lstAccount->setListIndex(numero);
+        prosegui([this] { lstAccount_Click(); });
+    }
+    AvvisaCaratteri(nuovo);
 }
 
 void frmAccount::cmdModifica_Click() {
@@ -85,6 +114,7 @@ void frmAccount::cmdModifica_Click() {
     const Account valori = LeggiControlli();
     if (QListWidgetItem* voce = lstAccount->item(posizione)) voce->setText(VoceAccount(valori));
     ModificaAccount(percorsoAccount(), account, lstAccount->count(), posizione, valori);
+    AvvisaCaratteri(valori);
 }
 
 /// With entries but none chosen, the first account leaves the table and the file while the list keeps all its

@@ -11,6 +11,7 @@
 #include "accounts/frmAccount.h"
 #include "accounts/frmAccount_elenco.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/LineEdit.h"
 #include "shell/bTheme.h"
 
 namespace {
@@ -58,7 +59,7 @@ void frmAccount::CreaControlli() {
 
 void frmAccount::CreaCaselle() {
     const auto casella = [this](const char* nome, int limite, const char* testo = "") {
-        auto* nuova = ui::named(new QLineEdit(testo, this), nome);
+        auto* nuova = ui::named(new ui::LineEdit(testo, this), nome);
         nuova->setMaxLength(limite);
         nuova->setMinimumHeight(ui::fieldHeight);
         return nuova;

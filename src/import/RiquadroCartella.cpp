@@ -7,6 +7,7 @@
 
 #include "core/Evento.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/LineEdit.h"
 #include "shell/bTheme.h"
 
 RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent)
@@ -14,7 +15,7 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
       lbl(ui::named(new QLabel("Come vuoi inserire i nuovi destinatari?", this), nomeEtichetta)),
       opt{ui::named(new QRadioButton("Aggiungi i destinatari nella cartella selezionata.", this), "opt(0)"),
           ui::named(new QRadioButton("Aggiungi i destinatari in una nuova cartella.", this), "opt(1)")},
-      txtCartella(ui::named(new QLineEdit("Nuova cartella", this), "txtCartella")) {
+      txtCartella(ui::named(new ui::LineEdit("Nuova cartella", this), "txtCartella")) {
     opt[0]->setChecked(true);
     txtCartella->setEnabled(false);
     txtCartella->setMinimumHeight(ui::fieldHeight);

@@ -13,15 +13,16 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/LineEdit.h"
 #include "shell/bTheme.h"
 
 frmImpDB::frmImpDB(QWidget* parent)
     : QDialog(parent),
       lblDatabase(ui::named(new QLabel("Percorso Database:", this), "lbl(0)")),
-      txtDatabase(ui::named(new QLineEdit(this), "txtDatabase")),
+      txtDatabase(ui::named(new ui::LineEdit(this), "txtDatabase")),
       cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
       lblPassword(ui::named(new QLabel("Password Database:", this), "lbl(3)")),
-      txtPassword(ui::named(new QLineEdit(this), "txtPassword")),
+      txtPassword(ui::named(new ui::LineEdit(this), "txtPassword")),
       cmdApri(ui::commandButton("Apri", "cmdApri", this)),
       lblTabelle(ui::named(new QLabel("Tabelle esistenti:", this), "lbl(1)")),
       cmbTab(ui::named(new QComboBox(this), "cmbTab")),

@@ -20,6 +20,7 @@
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/FileDrop.h"
+#include "platform/ui/LineEdit.h"
 #include "platform/ui/SeparatorEdit.h"
 #include "shell/bTheme.h"
 #include "store/RecordsetDB.h"
@@ -27,7 +28,7 @@
 frmImpTXT::frmImpTXT(QWidget* parent)
     : QDialog(parent),
       lblPercorso(ui::named(new QLabel("Percorso file di testo:", this), "lbl(0)")),
-      txtPath(ui::named(new QLineEdit(this), "txtPath")),
+      txtPath(ui::named(new ui::LineEdit(this), "txtPath")),
       cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
       lblSeparatore(ui::named(new QLabel("Separatore campi:", this), "lbl(1)")),
       txtSep(ui::named(new ui::SeparatorEdit(this), "txtSep")),

@@ -4,6 +4,7 @@
 #include "message/frmAllegati.h"
 #include "message/frmEditor.h"
 #include "message/MessaggioMss.h"
+#include "platform/text/AnsiCodec.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
@@ -25,6 +26,19 @@ QString nomeDel(const QString& titolo) {
     QString nome = titolo.mid(1).chopped(titolo.size() > 1 ? 1 : 0);
     if (nome.endsWith(u'*')) nome.chop(1);
     return nome;
+}
+
+/// Tells what the file has lost, before every recipient sees it. The body loses nothing.
+void AvvisaCaratteri(const MessaggioMss& messaggio) {
+    const QStringList oggetto = text::outsideAnsi(messaggio.Oggetto);
+    const QStringList allegati = text::outsideAnsi(messaggio.Allegati.join(QString()));
+    if (oggetto.isEmpty() && allegati.isEmpty()) return;
+    QString testo = "Il file del messaggio non può contenere questi caratteri, al loro posto c'è \"?\":";
+    if (!oggetto.isEmpty()) testo += "\r\nOggetto: " + oggetto.join(' ');
+    if (!allegati.isEmpty())
+        testo += "\r\nPercorsi degli allegati: " + allegati.join(' ') +
+                 "\r\nQuesti allegati non saranno trovati: rinomina i file.";
+    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
 }
 
 }  // namespace
@@ -75,6 +89,7 @@ void frmEditor::SalvaMessaggio() {
     ScriviMessaggio(percorsoFile, conFiniRiga(*messaggio));
     ImpostaFile(percorsoFile);
     CopiaDopoScrittura(messaggio->CorpoHTML);
+    AvvisaCaratteri(*messaggio);
 }
 
 void frmEditor::SalvaMessaggioCome() {
@@ -88,7 +103,10 @@ void frmEditor::SalvaMessaggioCome() {
     ImpostaFile(*percorso);
     fileAperto = true;
     percorsoFile = *percorso;
-    if (scritto) return CopiaDopoScrittura(messaggio->CorpoHTML);
+    if (scritto) {
+        CopiaDopoScrittura(messaggio->CorpoHTML);
+        return AvvisaCaratteri(*messaggio);
+    }
     SegnaModificato();
     ui::MessageDialog::show("Il messaggio non è stato salvato in " + *percorso + ":\r\n" + prosegui.testo() +
                                 "\r\nSalvalo con un altro nome.",

@@ -21,6 +21,7 @@
 #include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/LineEdit.h"
 #include "platform/ui/ProgressCounter.h"
 #include "send/Accettati.h"
 #include "shell/bTheme.h"
@@ -56,7 +57,7 @@ void frmInvia::CreaControlli() {
         return controllo;
     };
     const auto casella = [&](const char* nome, const char* testo = "") {
-        auto* controllo = nomina(new QLineEdit(testo), nome);
+        auto* controllo = nomina(new ui::LineEdit(testo), nome);
         controllo->setMinimumHeight(ui::fieldHeight);
         return controllo;
     };

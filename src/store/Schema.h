@@ -22,6 +22,9 @@ struct Colonna {
     int massimo = 0;  ///< most characters of a text; 0 for no limit of the program's own
 };
 
+/// Characters that the column of a group's name holds.
+inline constexpr int larghezzaNomeGruppo = 255;
+
 inline constexpr std::array<Colonna, 3> colonneGruppi{{
     {u"id", Tipo::Contatore},
     {u"id_up", Tipo::Lungo},

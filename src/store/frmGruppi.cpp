@@ -12,6 +12,7 @@
 #include "shell/frmMain.h"
 #include "store/griglia.h"
 #include "store/nodo.h"
+#include "store/Schema.h"
 
 namespace {
 
@@ -37,6 +38,7 @@ frmGruppi::frmGruppi(QWidget* parent) : QWidget(parent), TREE(new ui::GroupTree(
     TREE->setImage("Mailing", "server-database");
     TREE->setImage("Close", "folder");
     TREE->setImage("Open", "folder-open");
+    TREE->setLongestLabel(schema::larghezzaNomeGruppo);
     TREE->setEmptyText("Nuova cartella: tasto destro sulla radice");
     auto* area = new QVBoxLayout(this);
     area->setContentsMargins(0, 0, 0, 0);

@@ -233,8 +233,16 @@ class TestFrmAccountArchivio : public QObject {
             if (operation == "elimina") {
                 stage.key(Qt::Key_Delete);
             } else {
-                stage.fill(step["fields_1_to_10"].toVariant().toStringList());
+                const QStringList fields = step["fields_1_to_10"].toVariant().toStringList();
+                const QStringList lost = text::outsideAnsi(fields.join(QString()));
+                if (!lost.isEmpty()) MessageDialog::queue(MessageDialog::Ok);
+                stage.fill(fields);
                 stage.click(operation == "nuovo" ? "cmdNuovo" : "cmdModifica");
+                // What the file has lost is told once it is written.
+                QCOMPARE(MessageDialog::shown().size(), lost.isEmpty() ? 0 : 1);
+                for (const QString& character : lost)
+                    QVERIFY2(stage.box().contains(character), qPrintable(stage.box()));
+                MessageDialog::reset();
             }
             QVERIFY2(MessageDialog::shown().isEmpty(), qPrintable(stage.box()));
             QCOMPARE(stage.records(), step["file_after_decoded"].toVariant().toStringList());
@@ -282,3 +290,4 @@ int main(int argc, char** argv) {
 }
 
 #include "frmaccount_archivio_test.moc"
+#include "platform/text/AnsiCodec.h"

@@ -249,7 +249,10 @@ class TestRecupero : public QObject {
         QVERIFY(stage().marked());
         QVERIFY(!stage().editor().fileAperto);
         QCOMPARE(copies().size(), 1);
+        MessageDialog::queue(MessageDialog::Ok);
         stage().saveAs("dopo.mss");
+        QCOMPARE(MessageDialog::shown().size(), 3);
+        QVERIFY(MessageDialog::shown()[2].text.endsWith("Oggetto: Ł ź"));
         QCOMPARE(copies(), QStringList());
     }
 

@@ -37,3 +37,9 @@ TEST(Blanks, OnlyTheBlankAtTheEndsIsTaken) {
     EXPECT_TRUE(text::trimBlanks(u"   ").isEmpty());
     EXPECT_TRUE(text::trimBlanks(u"").isEmpty());
 }
+
+TEST(AnsiCodec, NamesWhatTheCodePageDoesNotHold) {
+    EXPECT_EQ(text::outsideAnsi(u"perché € \u0081"), QStringList());
+    EXPECT_EQ(text::outsideAnsi(u"Łódź Ł \U0001F384"), (QStringList{"Ł", "ź", "\U0001F384"}));
+    EXPECT_EQ(text::outsideAnsi({}), QStringList());
+}

@@ -34,4 +34,15 @@ QByteArray toAnsi(QStringView text) {
     return result;
 }
 
+QStringList outsideAnsi(QStringView text) {
+    QStringList outside;
+    while (!text.isEmpty()) {
+        const QStringView before = text;
+        const char32_t character = takeCharacter(text);
+        const QString one = before.chopped(text.size()).toString();
+        if (!ansiCode(character) && !outside.contains(one)) outside << one;
+    }
+    return outside;
+}
+
 }  // namespace text

@@ -4,6 +4,7 @@
 #include <optional>
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include "platform/text/AnsiTable.h"
 
@@ -23,5 +24,8 @@ QString fromAnsi(QByteArrayView bytes);
 
 /// A character outside the code page becomes one "?", also where it takes two UTF-16 units.
 QByteArray toAnsi(QStringView text);
+
+/// The characters of a text that the code page does not hold, each once, in the order of the text.
+QStringList outsideAnsi(QStringView text);
 
 }  // namespace text

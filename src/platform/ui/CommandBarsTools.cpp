@@ -10,6 +10,7 @@
 
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/LineEdit.h"
 
 namespace ui {
 
@@ -22,6 +23,7 @@ constexpr int labelGap = 8;
 ComboTool::ComboTool(const QString& name, const QString& description, int width) {
     setObjectName(name);
     setEditable(true);
+    setLineEdit(new LineEdit);
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
@@ -48,7 +50,7 @@ void ComboTool::setDescription(const QString& description) {
 }
 
 EditTool::EditTool(const QString& name, const QString& label, const QString& description)
-    : m_label(new QLabel(this)), m_edit(new QLineEdit(this)) {
+    : m_label(new QLabel(this)), m_edit(new LineEdit(this)) {
     m_label->setObjectName(name + "Label");
     m_label->setBuddy(m_edit);
     m_edit->setObjectName(name);

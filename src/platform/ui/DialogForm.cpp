@@ -8,11 +8,12 @@
 #include <QPushButton>
 
 #include "platform/ui/Controls.h"
+#include "platform/ui/LineEdit.h"
 
 namespace ui {
 
 QLineEdit* textField(const QString& name, QWidget* parent) {
-    auto* field = named(new QLineEdit(parent), name);
+    auto* field = named(new LineEdit(parent), name);
     field->setMinimumHeight(fieldHeight);
     return field;
 }

@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include "platform/ui/DialogOwner.h"
+#include "platform/ui/LineEdit.h"
 #include "platform/ui/Unattended.h"
 
 namespace ui {
@@ -33,6 +34,8 @@ std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& a
     dialog.setObjectName("fileDialog");
     dialog.setWindowTitle(asked.title);
     dialog.setNameFilters(FileDialog::nameFilters(asked.filter));
+    for (QLineEdit* box : dialog.findChildren<QLineEdit*>())
+        LineEdit::keepToOneLine(*box);
     // The suffix is added, and the question about an existing file put, outside the dialog: a desktop's own
     // dialog would look at the name before it has its suffix.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);

@@ -49,6 +49,8 @@ class GroupTree : public QTreeWidget {
 
     /// Names an icon of the icon theme for use as a node's image.
     void setImage(const QString& image, const QString& iconName);
+    /// Lets no longer text be typed into a label than this many UTF-16 units; 0 for any.
+    void setLongestLabel(int length) { m_longestLabel = length; }
     /// Painted in the middle while no node has a child.
     void setEmptyText(const QString& text);
 
@@ -130,6 +132,7 @@ class GroupTree : public QTreeWidget {
 
     std::map<QString, GroupTreeItem*> m_items;
     std::map<QString, QIcon> m_images;
+    int m_longestLabel = 0;
     QString m_emptyText;
     GroupNodeRef m_highlight;
     GroupNodeRef m_marked;

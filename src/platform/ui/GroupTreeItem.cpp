@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/ui/Controls.h"
+#include "platform/ui/LineEdit.h"
 
 namespace ui {
 
@@ -77,6 +78,16 @@ void GroupTreeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
 QSize GroupTreeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
     return {hint.width(), qMax(rowHeight, option.fontMetrics.height() + 6)};
+}
+
+QWidget* GroupTreeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                         const QModelIndex& index) const {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto* box = qobject_cast<QLineEdit*>(editor)) {
+        LineEdit::keepToOneLine(*box);
+        if (m_tree->m_longestLabel > 0) box->setMaxLength(m_tree->m_longestLabel);
+    }
+    return editor;
 }
 
 void GroupTreeDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const {

@@ -11,6 +11,7 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataGridColors.h"
 #include "platform/ui/ItemViewAccess.h"
+#include "platform/ui/LineEdit.h"
 
 namespace ui {
 
@@ -142,7 +143,7 @@ QSize PropertyListDelegate::sizeHint(const QStyleOptionViewItem& option, const Q
 QWidget* PropertyListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                             const QModelIndex& index) const {
     if (rowOf(index).kind() == PropertyListRow::Kind::Boolean || index.column() != 1) return nullptr;
-    auto* editor = new QLineEdit(parent);
+    auto* editor = new LineEdit(parent);
     editor->setFrame(false);
     editor->setAccessibleName(rowOf(index).caption());
     editor->setTextMargins(textMargin - 2, 0, 0, 0);

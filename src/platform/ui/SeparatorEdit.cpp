@@ -14,7 +14,7 @@ bool isTabKey(const QKeyEvent& key) {
 
 }  // namespace
 
-SeparatorEdit::SeparatorEdit(QWidget* parent) : QLineEdit(parent) {
+SeparatorEdit::SeparatorEdit(QWidget* parent) : LineEdit(parent) {
     setToolTip(QStringLiteral("Ctrl+Tab inserisce una tabulazione"));
     connect(this, &QLineEdit::textChanged, this, [this] { tellTabs(); });
     tellTabs();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QLineEdit>
+#include "platform/ui/LineEdit.h"
 
 namespace ui {
 
 /// A text box for what stands between two fields of a file. Ctrl+Tab puts a tab in, which the box shows as an
 /// arrow.
-class SeparatorEdit : public QLineEdit {
+class SeparatorEdit : public LineEdit {
   public:
     explicit SeparatorEdit(QWidget* parent = nullptr);
 
