@@ -9,6 +9,7 @@
 #include "core/Fallimento.h"
 #include "core/Posizione.h"
 #include "message/frmAllegati.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
@@ -56,7 +57,6 @@ frmEditor::frmEditor(QWidget* parent)
     CollegaViste();
     CollegaCopia();
     resize(1000, 680);
-    ui::bringIntoReach(*this);
 }
 
 void frmEditor::Carica() {
@@ -64,6 +64,7 @@ void frmEditor::Carica() {
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
     CaricaPosizioneForm(*this);
+    if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
     tb->setColours({coloreTema(9), coloreTema(10), coloreTema(1)});
     tb->setCurrentIndex(Modifica);
     RiempiFont();
