@@ -9,6 +9,7 @@
 #include "core/Fallimento.h"
 #include "core/Finestre.h"
 #include "lang/bVAR.h"
+#include "platform/text/AnsiCodec.h"
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -240,7 +241,9 @@ class TestFrmAccountArchivio : public QObject {
                 stage.click(operation == "nuovo" ? "cmdNuovo" : "cmdModifica");
                 // What the file has lost is told once it is written.
                 QCOMPARE(MessageDialog::shown().size(), lost.isEmpty() ? 0 : 1);
-                for (const QString& character : lost)
+                constexpr int password = 6;  // nothing of it is shown
+                for (const QString& character :
+                     text::outsideAnsi((fields.mid(0, password) + fields.mid(password + 1)).join(QString())))
                     QVERIFY2(stage.box().contains(character), qPrintable(stage.box()));
                 MessageDialog::reset();
             }
@@ -290,4 +293,3 @@ int main(int argc, char** argv) {
 }
 
 #include "frmaccount_archivio_test.moc"
-#include "platform/text/AnsiCodec.h"
