@@ -103,7 +103,7 @@ TEST_F(DatabasePath, PathsOutsideTheCodePageAreFoundAgain) {
                       (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
                   QFile::Permissions());
     }
-    EXPECT_EQ(bytesOf(file()), QByteArray("[Path dabatase Quintara]\r\n/??/? ?.mdb\r\n"));
+    EXPECT_EQ(bytesOf(file()), QByteArray("[Path dabatase Quintara]\r\n/?\?/? ?.mdb\r\n"));
 }
 
 TEST_F(DatabasePath, TheWholePathIsKeptOnlyForAPathThatNeedsIt) {
