@@ -14,6 +14,7 @@ class LockedFile {
         : m_file(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)) {
         struct flock all = {};
         all.l_type = F_WRLCK;
+        all.l_len = (off_t{1} << 62) + 1024;  // the engine's own; a run's mark lies far behind
         if (::fcntl(m_file, F_OFD_SETLK, &all) != 0) qFatal("somebody else holds the file");
     }
     ~LockedFile() { release(); }
