@@ -160,6 +160,6 @@ class frmEditor : public QMainWindow {
     std::optional<MessaggioRecuperato> salvato;  ///< the document as it was saved last
     bool rinunciato = false;                     ///< the user does not want what the document holds
     bool copiaDovuta = false;                    ///< the document changed since its copy was written
-    QTimer tempoCopia;
+    QTimer tempoCopia{this};
     QElapsedTimer primaMutazione;  ///< since the first change that the copy does not hold
 };

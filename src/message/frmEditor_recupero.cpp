@@ -25,6 +25,7 @@ constexpr qsizetype corpoGrande = 1024 * 1024;
 }  // namespace
 
 void frmEditor::CollegaCopia() {
+    tempoCopia.setObjectName("tempoCopia");
     tempoCopia.setSingleShot(true);
     connect(&tempoCopia, &QTimer::timeout, this, [this] { ScriviCopia(); });
     connect(DHTML, &HtmlView::followed, this, [this] { DocumentoMutato(); });

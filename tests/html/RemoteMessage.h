@@ -1,8 +1,11 @@
 #pragma once
 
+#include <memory>
+#include <QList>
 #include <QString>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTest>
 
 /// A server on this machine that counts who comes, whatever they want.
 class CountingServer : public QTcpServer {
@@ -10,14 +13,26 @@ class CountingServer : public QTcpServer {
     CountingServer() {
         if (!listen(QHostAddress::LocalHost)) qFatal("no port");
         connect(this, &QTcpServer::newConnection, this, [this] {
-            ++visits;
-            delete nextPendingConnection();
+            const std::unique_ptr<QTcpSocket> visitor(nextPendingConnection());
+            m_ports.append(visitor->peerPort());
         });
     }
     QString address(const QString& path) const {
         return QStringLiteral("http://127.0.0.1:%1/%2").arg(serverPort()).arg(path);
     }
-    int visits = 0;
+    /// How many came before this call: the server serves in order, so a visitor of the test's own ends the
+    /// count.
+    qsizetype visitsSoFar() {
+        QTcpSocket last;
+        last.connectToHost(QHostAddress::LocalHost, serverPort());
+        if (!QTest::qWaitFor([&] { return m_ports.contains(last.localPort()); })) qFatal("nobody is served");
+        const qsizetype before = m_ports.indexOf(last.localPort());
+        m_ports.removeAt(before);
+        return before;
+    }
+
+  private:
+    QList<quint16> m_ports;
 };
 
 /// A message that asks for something below the address in every way that HTML knows.

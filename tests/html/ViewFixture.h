@@ -1,6 +1,7 @@
 #pragma once
 
 #include <csignal>
+#include <functional>
 #include <QApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -22,6 +23,37 @@ inline QRect placeOf(const HtmlView& view, const QString& selector) {
     return QRectF(box.value(0).toDouble(), box.value(1).toDouble(), box.value(2).toDouble(),
                   box.value(3).toDouble())
         .toRect();
+}
+
+/// Returns when the page has had the clicks and keys that were sent to it, and has been answered on what it
+/// asked the browser for: the pointer moves after them, and a picture that is not there is asked for last.
+/// What the page told the view meanwhile has come too.
+inline void settle(const HtmlView& view) {
+    const auto happens = [&](const char* event, const std::function<void()>& act) {
+        const QString count = QStringLiteral("globalThis.%1Events").arg(QLatin1String(event));
+        const int before = view.evaluate(count + QStringLiteral(" || 0")).toInt();
+        act();
+        if (!QTest::qWaitFor([&] { return view.evaluate(count).toInt() > before; }, 30000))
+            qFatal("no %s in the page", event);
+    };
+    happens("move", [&] {
+        view.evaluate(
+            QStringLiteral("{ addEventListener('mousemove', () => { globalThis.moveEvents ="
+                           " (globalThis.moveEvents || 0) + 1 }, { capture: true, once: true }); 1 }"));
+        static bool right = false;
+        const QPointF place((right = !right) ? 2 : 3, 2);
+        QMouseEvent move(QEvent::MouseMove, place, view.inputWidget()->mapToGlobal(place), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(view.inputWidget(), &move);
+    });
+    happens("picture", [&] {
+        view.evaluate(
+            QStringLiteral("{ const picture = new Image;"
+                           " picture.onerror = () => { globalThis.pictureEvents ="
+                           " (globalThis.pictureEvents || 0) + 1 };"
+                           " picture.src = 'file:///assente.png'; 1 }"));
+    });
+    view.evaluate(QStringLiteral("1"));  // the answer to what the page told last comes before this one's
 }
 
 /// Ends the process that holds the document, as a crash would.

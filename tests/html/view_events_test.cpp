@@ -66,7 +66,7 @@ class ViewEvents : public QObject {
     void displayChangeFollowsTheSelectionOncePerTurn() {
         Desk desk("<p>uno <b>due</b></p>");
         desk.view.execCommand(HtmlView::GetFontName);
-        QTest::qWait(20);
+        settle(desk.view);
         QSignalSpy changed(&desk.view, &HtmlView::displayChanged);
         QVERIFY(!desk.view.commandState(HtmlView::Bold));
         desk.caretIn("b", 1);
@@ -76,7 +76,7 @@ class ViewEvents : public QObject {
 
     void typingChangesTheDisplay() {
         Desk desk("<p>uno</p>");
-        QTest::qWait(20);
+        settle(desk.view);
         QSignalSpy changed(&desk.view, &HtmlView::displayChanged);
         desk.type("a");
         QTRY_VERIFY(changed.count() > 0);

@@ -253,7 +253,7 @@ class ViewInsert : public QObject {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(file.fileName())});
         QVERIFY(!dropOn(m_desk->view, data, {20, 20}));
-        QTest::qWait(50);
+        settle(m_desk->view);
         QCOMPARE(m_desk->body(), QString("<p>uno</p>"));
         QCOMPARE(m_desk->view.evaluate("location.href").toString(), m_desk->address);
     }

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLabel>
 #include <QPrinter>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -26,8 +27,8 @@ class ViewSafety : public QObject {
         QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
                           desk.placeOf("#link").center());
         desk.press(Qt::Key_Return, Qt::NoModifier, "\r");
-        QTest::qWait(700);
-        QCOMPARE(server.visits, 0);
+        settle(desk.view);
+        QCOMPARE(server.visitsSoFar(), 0);
     }
 
     // The test's own ground: without the filter somebody would have come
@@ -35,7 +36,9 @@ class ViewSafety : public QObject {
         CountingServer server;
         QTcpSocket socket;
         socket.connectToHost(QHostAddress::LocalHost, server.serverPort());
-        QTRY_COMPARE(server.visits, 1);
+        QVERIFY(socket.waitForConnected());
+        QCOMPARE(server.visitsSoFar(), 1);
+        QCOMPARE(server.visitsSoFar(), 1);
     }
 
     void noScriptOfAMessageRuns_data() {
@@ -62,7 +65,7 @@ class ViewSafety : public QObject {
         }
         desk.press(Qt::Key_Left);
         desk.view.evaluate("document.querySelector('#a').click()");
-        QTest::qWait(300);
+        settle(desk.view);
         QVERIFY(!desk.view.documentHTML().contains("fatto=\"1\""));
         QCOMPARE(desk.view.documentHTML(), before);
     }
@@ -92,8 +95,8 @@ class ViewSafety : public QObject {
             QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
                               desk.placeOf("#x").center());
         }
-        QTest::qWait(300);
-        QCOMPARE(server.visits, 0);
+        settle(desk.view);
+        QCOMPARE(server.visitsSoFar(), 0);
         QCOMPARE(desk.view.evaluate("location.href").toString(), desk.address);
         QVERIFY(desk.body().contains("<p>testo</p>"));
         QCOMPARE(
@@ -128,7 +131,7 @@ class ViewSafety : public QObject {
                            "<iframe src='file:///etc/passwd'></iframe>")
                 .arg(folder.path()),
             HtmlView::Mode::Browse);
-        QTest::qWait(300);
+        settle(desk.view);
         QCOMPARE(desk.view.evaluate("getComputedStyle(document.querySelector('p')).color").toString(),
                  QString("rgb(0, 0, 0)"));
     }
@@ -136,7 +139,7 @@ class ViewSafety : public QObject {
     void textOutlivesTheBrowsersProcess() {
         Desk desk("<p>uno</p>");
         desk.type("due ");
-        QTest::qWait(100);  // the copy follows at once, but later
+        QTRY_VERIFY(desk.view.knownHTML().contains("due uno"));
         QSignalSpy complete(&desk.view, &HtmlView::documentComplete);
         endBrowserOf(desk.view);
         QCOMPARE(desk.body(), QString("<p>due uno</p>"));
@@ -183,7 +186,7 @@ class ViewSafety : public QObject {
             QTRY_VERIFY(desk.view.isLive());
             endBrowserOf(desk.view);
         }
-        QTest::qWait(200);
+        QTRY_VERIFY(desk.view.findChild<QLabel*>());  // the notice in the document's place
         QVERIFY(!desk.view.isLive());
         QCOMPARE(desk.body(), QString("<p>uno</p>"));
         QCOMPARE(desk.view.HtmlView::execCommand(HtmlView::Bold).status().code(), ErrorCode::FileNotFound);

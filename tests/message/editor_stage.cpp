@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "core/Finestre.h"
+#include "html/ViewFixture.h"
 
 namespace testing_support {
 
@@ -37,7 +38,7 @@ void EditorStage::begin() {
     editor().NuovoMessaggio();
     tool("cmdAllegatiDel").setEnabled(false);
     design().setFocus();
-    QTest::qWait(10);
+    settle(design());
     // What the last test left under way marks nothing in this one.
     editor().titoloFile = "[NuovoFile.mss]";
     editor().ImpostaTitolo();
@@ -93,7 +94,7 @@ void EditorStage::select(const QString& selector, int from, int to) {
                           .arg(selector)
                           .arg(from)
                           .arg(to));
-    QTest::qWait(30);
+    settle(design());
 }
 
 QString EditorStage::body() {

@@ -4,6 +4,7 @@
 #include <QTabBar>
 
 #include "core/Finestre.h"
+#include "html/ViewFixture.h"
 #include "message/editor_stage.h"
 
 using namespace testing_support;
@@ -72,7 +73,7 @@ class TestDocumento : public QObject {
 
     void leavingTheBodyForAnotherControlMarksTheDocument() {
         stage().design().setFocus();
-        QTest::qWait(20);
+        settle(stage().design());
         QVERIFY(!stage().marked());
         EditorStage::in<QLineEdit>(stage().editor(), "txtOggetto").setFocus();
         QTRY_VERIFY(stage().marked());
@@ -288,7 +289,7 @@ class TestDocumento : public QObject {
         stage().editor().NuovoMessaggio();
         for (const int tab : {2, 1, 2, 0})
             stage().chooseTab(tab);
-        QTest::qWait(30);
+        settle(stage().design());
         QVERIFY(!stage().marked());
     }
 

@@ -122,7 +122,10 @@ class TestRecupero : public QObject {
         QVERIFY(stage().bytes("a.mss").contains('x'));
         // The next copy that is due would come after this one's.
         stage().editor().titoloFile = "[a.mss]";
-        QTest::qWait(1500);
+        Q_EMIT stage().design().followed();
+        const auto* due = stage().editor().findChild<QTimer*>("tempoCopia");
+        QVERIFY(due->isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(!due->isActive(), patience);
         QCOMPARE(copies(), QStringList());
         stage().type("y");
         QTRY_COMPARE_WITH_TIMEOUT(copies().size(), 1, patience);

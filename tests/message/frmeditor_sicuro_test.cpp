@@ -2,6 +2,7 @@
 // the browser's process.
 #include <QClipboard>
 #include <QImage>
+#include <QLabel>
 
 #include "html/RemoteMessage.h"
 #include "html/ViewFixture.h"
@@ -165,11 +166,11 @@ class TestSicuro : public QObject {
                 QTest::mouseClick(view.inputWidget(), Qt::LeftButton, {}, placeOf(view, target).center());
                 view.evaluate(QString("document.querySelector('%1').click(); 1").arg(target));
             }
-            QTest::qWait(300);
+            settle(view);
             QCOMPARE(view.documentHTML().value(), first);
             QVERIFY(!view.evaluate("document.body.hasAttribute('fatto')").toBool());
         }
-        QCOMPARE(server.visits, 0);
+        QCOMPARE(server.visitsSoFar(), 0);
         QCOMPARE(addressOf(*editor.DHTML), design);
         stage().start("cmdSalva");
         QCOMPARE(saved().remove('\r').trimmed(), first);
@@ -179,7 +180,7 @@ class TestSicuro : public QObject {
         stage().fill("<p>Gentile cliente</p>");
         stage().caret("p", 0);
         stage().type("Spett. ");
-        QTest::qWait(1500);  // the copy follows at once, but later
+        QTRY_VERIFY(stage().design().knownHTML().contains("Spett. "));
         endBrowserOf(stage().design());
         QVERIFY(stage().marked());
         stage().saveAs("s.mss");
@@ -219,7 +220,7 @@ class TestSicuro : public QObject {
             QTRY_VERIFY_WITH_TIMEOUT(stage().design().isLive(), browserStart);
             endBrowserOf(stage().design());
         }
-        QTest::qWait(200);
+        QTRY_VERIFY(stage().design().findChild<QLabel*>());  // the notice in the document's place
         QVERIFY(!stage().design().isLive());
         stage().chooseTab(1);
         QVERIFY(stage().source().Text().contains("<p>uno</p>"));
