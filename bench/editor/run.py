@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""The design view: its first opening, and the lag of a key in a newsletter of 100 KB.
+"""The editor: the design view's first opening, the lag of a key in a newsletter of 100 KB, and 5 MB in the source view.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-Peers: a bare browser view with the same document; and one frame of a screen with 60 Hz. Every measurement is a process
-of its own, the two openings in turn.
+Peers: a bare browser view with the same document; one frame of a screen with 60 Hz; and the preview of the same text.
+Every measurement is a process of its own, the two openings in turn.
 """
 import json
 import os
@@ -41,10 +41,14 @@ def main():
         ours.append(measure(build / "edit_view", "--open")["ms"])
     opening = tools.median(ours)
     keys = measure(build / "edit_view", "--keys")
+    sources = [(name, measure(build / "source_view", *arguments))
+               for name, arguments in (("", ()), (" of one line", ("--line",)))]
     print(json.dumps([
         record("first opening of the design view", opening, "a bare browser view", opening / tools.median(bare), 2.0),
         record("key to changed mark in 100 KB", keys["mark"], "a frame", keys["mark"] / FRAME, 1.0),
         record("program's work for that key's states and text", keys["work"], "a frame", keys["work"] / FRAME, 1.0),
+        *(record(f"source view of 5 MB{name}", shown["source"], "the preview", shown["source"] / shown["preview"], 3.0)
+          for name, shown in sources),
     ]))
 
 

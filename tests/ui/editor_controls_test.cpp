@@ -1,5 +1,7 @@
 // The controls of the editor: the colour hexagon, the source view, the tabs.
+#include <QAbstractScrollArea>
 #include <QAccessible>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -99,6 +101,24 @@ class TestEditorControls : public QObject {
         list->child(red)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(picked.size(), 1);
         QVERIFY(list->child(red)->state().selected);
+    }
+
+    void theSourceShowsEachTextWrappedFromItsStart() {
+        SourceEdit edit;
+        edit.resize(400, 200);
+        edit.show();
+        const auto* area = edit.findChild<QAbstractScrollArea*>("sourceText");
+        const QString line = QString("parola ").repeated(2000);
+        for (const QString& text : {line, line + "\n" + line, QString("a\n").repeated(500) + line}) {
+            edit.setText(text);
+            QCOMPARE(area->verticalScrollBar()->value(), 0);
+            QTRY_VERIFY(area->verticalScrollBar()->maximum() > 50 + text.count('\n'));
+            QVERIFY(!area->horizontalScrollBar()->isVisible());
+            QTest::keyClick(edit.focusProxy(), Qt::Key_X);
+            QCOMPARE(edit.Text(), "x" + text);
+            QTest::keyClick(edit.focusProxy(), Qt::Key_End, Qt::ControlModifier);
+            QTRY_VERIFY(area->verticalScrollBar()->value() > 0);
+        }
     }
 
     void theSourceHandsItsTextOutAsItWasSet_data() {

@@ -31,7 +31,6 @@ SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent), m_edit(new QsciScinti
     m_edit->setFrameShape(QFrame::NoFrame);
     m_edit->setUtf8(true);
     m_edit->setLexer(new QsciLexerHTML(m_edit));
-    m_edit->setWrapMode(QsciScintilla::WrapWord);
     m_edit->setMarginType(lineNumbers, QsciScintilla::NumberMargin);
     m_edit->setMarginWidth(otherMargin, 0);
     m_edit->setTabWidth(4);
@@ -64,8 +63,14 @@ qsizetype SourceEdit::length() const {
 
 void SourceEdit::setText(const QString& text) {
     m_edit->setEolMode(lineEndsOf(text));
+    // While lines wrap, a new text has all of its lines laid out at once, and a caret that is moved its own
+    // line, which may be the whole text. Afterwards those in sight are, and the others in idle time.
+    m_edit->setWrapMode(QsciScintilla::WrapNone);
     m_edit->setText(text);
-    m_edit->setCursorPosition(0, 0);
+    m_edit->SendScintilla(QsciScintilla::SCI_SETEMPTYSELECTION, 0UL);
+    m_edit->SendScintilla(QsciScintilla::SCI_SETFIRSTVISIBLELINE, 0UL);
+    m_edit->SendScintilla(QsciScintilla::SCI_SETXOFFSET, 0UL);
+    m_edit->setWrapMode(QsciScintilla::WrapWord);
     // What a text replaces cannot be taken back.
     m_edit->SendScintilla(QsciScintilla::SCI_EMPTYUNDOBUFFER);
 }
