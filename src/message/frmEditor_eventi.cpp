@@ -10,15 +10,23 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
 
+namespace {
+
+const QString fontPredefinito = QStringLiteral("Verdana");
+
+}  // namespace
+
 void frmEditor::CollegaViste() {
     const auto quando = [this](auto* mittente, auto segnale, auto&& fai) {
         connect(mittente, segnale, this,
                 [fai](const auto&... argomenti) { evento([&] { fai(argomenti...); }); });
     };
+    for (HtmlView* vista : {DHTML, WEB})
+        vista->setDefaultFont(fontPredefinito);
     setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
     setTabOrder(DHTML, tb->tabBar());
     quando(DHTML, &HtmlView::documentComplete, [this] {
-        static_cast<void>(DHTML->execCommand(HtmlView::SetFontName, "Verdana"));
+        static_cast<void>(DHTML->execCommand(HtmlView::SetFontName, fontPredefinito));
         static_cast<void>(DHTML->execCommand(HtmlView::SetFontSize, "2"));
     });
     quando(DHTML, &HtmlView::displayChanged, [this] {

@@ -75,6 +75,15 @@ class TestStato : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void aNewTableIsInTheFontThatANewDocumentStartsWith() {
+        stage().start("cmdTable");
+        const QString body = stage().body();
+        stage().caret("td", 2);
+        QTRY_COMPARE(bars().GetComboBox("cmbFontName")->Text(), "Verdana");
+        QVERIFY(!body.contains("Verdana"));
+        QCOMPARE(stage().body(), body);
+    }
+
     void theTableToolsAreOnInATableOnly() {
         stage().fill("<p>fuori</p><table><tbody><tr><td>1</td></tr></tbody></table>");
         stage().caret("td", 1);

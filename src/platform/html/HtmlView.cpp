@@ -47,6 +47,10 @@ QVariant HtmlView::evaluate(const QString& script) const {
     return value.ok() ? value.value() : QVariant();
 }
 
+void HtmlView::setDefaultFont(const QString& family) {
+    m_live->setDefaultFont(family);
+}
+
 void HtmlView::setShowDetails(bool on) {
     m_live->showMarks(QStringLiteral("details"), on);
 }

@@ -187,7 +187,12 @@ class HtmlView : public QWidget {
     Result<QString> pageColor(PageColor color) const;
     Status setPageColor(PageColor color, const QString& value);
 
-    // --- Appearance. Neither touches the document; both stay on over setDocumentHTML().
+    // --- Appearance. None touches the document; all stay over setDocumentHTML().
+
+    /// Shows text that names no font, or none that is there, in this font or in the one without serifs that
+    /// stands in for it; GetFontName gives the family for such text. A font that a command sets is written
+    /// even where the text is shown in it already. To be called before the view is shown.
+    void setDefaultFont(const QString& family);
 
     /// Marks of the elements that cannot be seen (paragraphs, line breaks, blocks, forms).
     void setShowDetails(bool on);

@@ -1,3 +1,5 @@
+#include <QFont>
+#include <QFontInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <utility>
@@ -12,6 +14,12 @@ Result<QString> HtmlView::Live::freshState(const QString& name) {
     if (!fresh.ok()) return fresh.status();
     if (!fresh.value().toMap().isEmpty()) state = fresh.value().toMap();
     return state.value(name).toString();
+}
+
+Result<QString> HtmlView::Live::fontName() {
+    Result<QString> name = freshState(QStringLiteral("fontName"));
+    if (name.ok() && !m_standardFont.isEmpty() && name.value() == m_standardFont) return m_defaultFont;
+    return name;
 }
 
 HtmlView::CommandStatus HtmlView::Live::status(int command) const {
@@ -62,6 +70,15 @@ HtmlView::CommandStatus HtmlView::Live::status(int command) const {
         default:
             return Unsupported;
     }
+}
+
+// The browser writes no font that the text is shown in anyway, and a font that was only shown would reach no
+// recipient. It finds a family in any case of letters, but takes two spellings for two fonts.
+void HtmlView::Live::setDefaultFont(const QString& family) {
+    QFont font(family);
+    font.setStyleHint(QFont::SansSerif);
+    m_defaultFont = family;
+    m_standardFont = QFontInfo(font).family().toUpper();
 }
 
 void HtmlView::Live::showMarks(const QString& name, bool on) {

@@ -28,7 +28,7 @@ Result<QVariant> HtmlView::execCommand(int command, const QString& value) {
     };
     switch (command) {
         case GetFontName:
-            return answer(m_live->freshState(QStringLiteral("fontName")));
+            return answer(m_live->fontName());
         case GetFontSize:
             return answer(m_live->freshState(QStringLiteral("fontSize")));
         case GetForeColor:

@@ -51,6 +51,7 @@ void HtmlView::Live::begin() {
     const Status loaded = createBrowserOf(&view, events, browser);
     if (!loaded.ok()) return fail(loaded.text());
     view.layout()->addWidget(browser.widget);
+    if (!m_standardFont.isEmpty()) browser.setStandardFont(m_standardFont);
     browser.start();
 }
 

@@ -46,7 +46,9 @@ struct HtmlView::Live {
     void awaitStrokes();
 
     Result<QString> freshState(const QString& name);
+    Result<QString> fontName();
     CommandStatus status(int command) const;
+    void setDefaultFont(const QString& family);
     void showMarks(const QString& name, bool on);
     bool print(bool prompt);
 
@@ -81,6 +83,8 @@ struct HtmlView::Live {
     bool dropped(const QPoint& place, const QMimeData& data);
     bool focusArrives(Qt::FocusReason reason);
 
+    QString m_defaultFont;   // as it was set
+    QString m_standardFont;  // as the browser knows it
     QString m_source;
     QString m_text;  // null: as m_source gives it
     int m_version = -1;

@@ -22,6 +22,8 @@ struct Browser {
     /// the browser's process dies meanwhile.
     std::function<void(const QString& script, std::function<void(const QVariant&)> done)> run;
     std::function<void(QPrinter&, std::function<void(bool)> done)> print;
+    /// Font of text that names none, or none that is there. Holds for documents that are loaded later.
+    std::function<void(const QString& family)> setStandardFont;
 };
 
 /// What the plug-in tells. Always from the event loop, never during a call.

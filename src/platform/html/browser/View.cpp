@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QPrinter>
 #include <QWebEngineScript>
+#include <QWebEngineSettings>
 
 View::View(const BrowserEvents& events, QWidget* parent)
     : QWebEngineView(parent),
@@ -61,6 +62,9 @@ extern "C" Q_DECL_EXPORT void createBrowser(QWidget* parent, const BrowserEvents
     browser.start = [view] { view->document().start(); };
     browser.run = [view](const QString& script, const std::function<void(const QVariant&)>& done) {
         view->run(script, done);
+    };
+    browser.setStandardFont = [view](const QString& family) {
+        view->settings()->setFontFamily(QWebEngineSettings::StandardFont, family);
     };
     browser.print = [view](QPrinter& printer, const std::function<void(bool)>& done) {
         QObject::connect(view, &QWebEngineView::printFinished, view, done, Qt::SingleShotConnection);
