@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
 """The story of a first day, on the built program from outside: an empty folder; 1,000 recipients from a text file and 50
-from an Access database; a second group, a drag, an edit; a newsletter with a table, a picture, a link with a placeholder
-and an attachment; an account; a run that is stopped and one that sends the rest under a block limit, with three
-recipients that the server refuses; a restart. With VESTROLA_SHOTS set to a folder, pictures are left there.
+from an Access database; a second group, a drag, an edit; a newsletter with a table, a picture, a link with a placeholder,
+a piece of a web page that is pasted, and an attachment; an account; a run that is stopped and one that sends the rest
+under a block limit, with three recipients that the server refuses; a restart. With VESTROLA_SHOTS set to a folder,
+pictures are left there.
 
     first_day_test.py BUILD_FOLDER
 """
 import csv
+import email
+import email.policy
 import os
 import pathlib
 import subprocess
@@ -17,7 +20,7 @@ from desktop import fail
 
 desktop.inside()
 desktop.PATIENCE = 150  # the wait of the block limit lasts up to a minute
-from accessible import Window, act, has, wait_for  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, act, click, has, wait_for  # noqa: E402  looks for the bus when it is imported
 from assistive_test import type_into  # noqa: E402
 from drag_test import drag, middle  # noqa: E402
 from keyboard_test import add_account, keys, make_group, type_text  # noqa: E402
@@ -26,6 +29,7 @@ import pyatspi  # noqa: E402
 
 MANY, FEW, BLOCK = 1000, 50, 30
 REFUSED = {f"f{number:02}@fiera.test" for number in (7, 21, 42)}
+OFFER = "<meta charset=\"utf-8\"><p>Offerta <b>:::nom:::</b> di giugno</p>"
 LINK = "https://bottega.test/?n=:::nom:::"
 
 
@@ -129,6 +133,16 @@ def choose_file(title, path):
     chooser.gone()
 
 
+def paste(stage, html):
+    """What a neighbour has copied goes into the control that has the keyboard."""
+    neighbour = stage.start([pathlib.Path(sys.argv[1]).resolve() / "tests" / "e2e" / "e2e_clipboard"], stdin=subprocess.PIPE,
+                            stdout=subprocess.PIPE, text=True)
+    neighbour.stdin.write(html)
+    neighbour.stdin.close()
+    wait_for(neighbour.stdout.readline, "the neighbour's clipboard")
+    keys("ctrl+v")
+
+
 def write_newsletter(stage):
     attachment, picture, path = stage.work / "listino.txt", stage.work / "foto.png", stage.work / "notizie.mss"
     attachment.write_text("listino", encoding="ascii")
@@ -151,10 +165,11 @@ def write_newsletter(stage):
     image.write("File o indirizzo", str(picture))
     image.press("OK")
     image.gone()
-    keys("ctrl+Next")  # the source view
-    keys("ctrl+Home")
-    type_text('<table border="1"><tr><td>uno</td><td>due</td></tr></table>')
-    keys("ctrl+Prior")
+    keys("ctrl+End")
+    paste(stage, OFFER)
+    keys("ctrl+End")
+    click(editor.find("push button", "Tabella"))
+    keys("Down", "Return")
     keys("ctrl+shift+a")
     choose_file("Inserisci allegato", attachment)
     keys("ctrl+s")
@@ -165,7 +180,7 @@ def write_newsletter(stage):
         return text if text.endswith("[<END-MESS>]\n") else None
 
     saved = wait_for(whole, "the whole message in its file")
-    for part in ("<table", "<td>due</td>", LINK, "foto.png", "Gentile :::nom:::", str(attachment)):
+    for part in ("Cella2", "Offerta <b>:::nom:::</b>", LINK, "foto.png", "Gentile :::nom:::", str(attachment)):
         if part not in saved:
             fail(f"{part!r} is not in the saved message {saved!r}")
     keep("messaggio")
@@ -204,6 +219,14 @@ def run(message, stopped_at=None):
     return told["Email inviate"], told["Email non inviate"]
 
 
+def check_newsletter(message):
+    """What was pasted and what was inserted have come, with the recipient's own name."""
+    text = email.message_from_bytes(message, policy=email.policy.default).get_body(("html",)).get_content()
+    for part in ("Offerta <b>Zoe</b>", "Cella2"):
+        if part not in text:
+            fail(f"{part!r} is not in the message that came: {text!r}")
+
+
 def play(stage, program):
     database = stage.program_folder / "data" / "data.mdb"
     server = ScriptedMail(delay=0.1, refused=REFUSED)
@@ -236,6 +259,7 @@ def play(stage, program):
         fail(f"after the stop {len(left)} were left, {first} delivered")
     if b"Zoe" not in dict(server.messages)[changed]:
         fail("the message to the changed recipient does not name Zoe")
+    check_newsletter(dict(server.messages)[changed])
 
     keys("ctrl+q")
     stage.ends(running, 0)

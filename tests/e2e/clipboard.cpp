@@ -1,0 +1,20 @@
+// Holds HTML from the standard input on the clipboard, as the browser that it was copied from would, until
+// it is ended. Says "ready" when it is there.
+#include <cstdio>
+#include <memory>
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMimeData>
+
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) return 1;
+    auto content = std::make_unique<QMimeData>();
+    content->setHtml(QString::fromUtf8(input.readAll()));
+    QGuiApplication::clipboard()->setMimeData(content.release());
+    std::puts("ready");
+    std::fflush(stdout);
+    return QGuiApplication::exec();
+}
