@@ -56,7 +56,8 @@ qint64 addGroup(const QString& name) {
 void fillDatabase(const QString& path, const QString& recipients) {
     esigi(jet::createEmptyDatabase(path.toStdString()));
     CambiaPercorsoDBase(path);
-    CaricaPercorsoDBase();
+    if (const QString notice = CaricaPercorsoDBase(); !notice.isEmpty())
+        fallisci(ErrorCode::PathAccess, notice);
     const QStringList lines = readText(recipients).split('\n', Qt::SkipEmptyParts);
     const QStringList columns = lines.first().split('\t');
     QHash<QString, qint64> groups;

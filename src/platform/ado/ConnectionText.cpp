@@ -1,6 +1,7 @@
 #include "platform/ado/ConnectionText.h"
 
 #include <optional>
+#include <QStringList>
 
 namespace ado {
 

@@ -13,7 +13,6 @@ constexpr size_t guidLength = 16;
 
 // A numeric: 0x80 or 0 for the sign, then the digits as a whole number of four groups, the highest first,
 // each little endian.
-constexpr size_t numericLength = 17;
 constexpr size_t groups = 4;
 constexpr size_t groupLength = 4;
 constexpr uint8_t negative = 0x80;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,9 @@
 namespace ado {
 
 /// The engine hands out GUIDs and numerics as the bytes that stand in the file.
+
+/// Bytes of a numeric: its sign, then four groups of digits.
+inline constexpr std::size_t numericLength = 17;
 
 /// `stored`, of that column, as a text in braces for a GUID, as a whole number for a numeric without decimals
 /// that is not too long, as a Decimal with all its digits for another one; everything else, and bytes of a

@@ -292,7 +292,7 @@ Status Recordset::addNew() {
 /// Whether the current row still is the one that was read. Where one was deleted another may stand in the
 /// end.
 Status Recordset::Data::sameRow() {
-    const Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const std::optional<size_t> key = definition.longPrimaryKey();
     jet::Bytes now;

@@ -1,4 +1,5 @@
 #include "platform/ado/RowOrder.h"
+#include "platform/ado/RawValue.h"
 
 #include <algorithm>
 #include <bit>
@@ -21,7 +22,6 @@ OrderBlock::Id packed(jet::RowId id) {
 }
 
 constexpr char nullMark = 0x00;
-constexpr size_t numericLength = 17;
 constexpr char valueMark = 0x7f;
 
 void appendBigEndian(std::string& key, uint64_t bits) {

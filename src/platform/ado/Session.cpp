@@ -139,7 +139,7 @@ Result<std::shared_ptr<Session>> Session::make(const Target& target) {
 Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
     const Result<Target> target = Target::read(connectionText);
     if (!target.ok()) return target.status();
-    const auto known = pooled(target.value());
+    auto known = pooled(target.value());
     if (!known.ok()) return known;
     if (known.value()) {
         const Status status = known.value()->refresh();
@@ -153,7 +153,7 @@ Result<std::shared_ptr<Session>> Session::open(const QString& connectionText) {
 Result<std::shared_ptr<Session>> Session::openForWriting(const QString& connectionText) {
     const Result<Target> target = Target::read(connectionText);
     if (!target.ok()) return target.status();
-    const auto known = pooled(target.value());
+    auto known = pooled(target.value());
     if (!known.ok()) return known;
     if (known.value()) {
         known.value()->commitGroup();

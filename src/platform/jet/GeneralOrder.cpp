@@ -219,7 +219,7 @@ Weight weightOf(char32_t code) {
 constexpr size_t indexedCharacters = 255;
 constexpr uint8_t noAccent = 0x02;
 constexpr uint8_t partEnd = 0x01;
-constexpr char32_t replacement = 0xfffd;
+constexpr char32_t brokenCode = 0xfffd;
 
 /// The next code point of `text` from `at` on, which is moved behind it.
 char32_t nextCodePoint(std::string_view text, size_t& at) {
@@ -227,10 +227,10 @@ char32_t nextCodePoint(std::string_view text, size_t& at) {
     const uint8_t first = byte(at++);
     if (first < 0x80) return first;
     const size_t more = first >= 0xf0 ? 3 : first >= 0xe0 ? 2 : 1;
-    if (first < 0xc2 || first > 0xf4 || at + more > text.size()) return replacement;
+    if (first < 0xc2 || first > 0xf4 || at + more > text.size()) return brokenCode;
     char32_t code = first & (0x3f >> more);
     for (size_t i = 0; i < more; ++i) {
-        if ((byte(at + i) & 0xc0) != 0x80) return replacement;
+        if ((byte(at + i) & 0xc0) != 0x80) return brokenCode;
         code = code << 6 | (byte(at + i) & 0x3f);
     }
     at += more;

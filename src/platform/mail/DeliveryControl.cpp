@@ -10,7 +10,6 @@ namespace mail {
 namespace {
 
 constexpr int defaultTimeoutSecs = 60;
-constexpr qsizetype longestShown = 320;  // of a text that may be anything
 
 }  // namespace
 

@@ -133,6 +133,8 @@ class DeliveryControl : public QObject {
     void AwaitedEnded();
 
   private:
+    static constexpr qsizetype longestShown = 320;  ///< of an address, which may be any text
+
     /// Whom a message with a number is for.
     struct Recipient {
         DatabaseFile database;

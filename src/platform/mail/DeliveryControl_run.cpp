@@ -10,7 +10,6 @@ namespace mail {
 namespace {
 
 constexpr size_t mostAwaited = 2;
-constexpr qsizetype longestShown = 320;  // of a text that may be anything
 
 }  // namespace
 

@@ -15,7 +15,7 @@ constexpr int idleMs = 30000;
 constexpr int goodbyeMs = 5000;
 constexpr quint16 implicitTlsPort = 465;
 constexpr qint64 readBufferSize = 65536;
-constexpr qsizetype longestShown = 200;  // of a reply that does not end
+constexpr qsizetype longestReplyShown = 200;  // of a reply that does not end
 
 QString describe(QAbstractSocket::SocketError error, const QSslSocket& socket, const Route& route) {
     switch (error) {
@@ -290,7 +290,7 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
 
 void SmtpSession::lost(int code, const QString& why, Loss loss) {
     const bool accepted = wasAccepted();
-    const QByteArray reply = accepted ? m_input.mid(m_inputRead, longestShown) : QByteArray();
+    const QByteArray reply = accepted ? m_input.mid(m_inputRead, longestReplyShown) : QByteArray();
     dropConnection();
     if (!m_busy) return;
     if (accepted) {

@@ -80,7 +80,7 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
     if (file.get() >= 0 && writeAll(file.get(), bytes) &&
         ::rename(aside.constData(), QFile::encodeName(path).constData()) == 0)
         return {};
-    const Status failed = failure();
+    Status failed = failure();
     if (file.get() >= 0) ::unlink(aside.constData());
     return failed;
 }
