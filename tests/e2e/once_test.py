@@ -167,6 +167,40 @@ def served_slowly(addresses):
     return ScriptedMail(delay=0.02, slow={addresses[3]: 1})
 
 
+def fill(folder):
+    """Takes all room of the file system; gives the file that holds it."""
+    filler = folder / "riempie"
+    with open(filler, "wb", buffering=0) as file:
+        try:
+            while True:
+                file.write(b"\0" * 4096)
+        except OSError:
+            pass
+    return filler
+
+
+def full_before(make, number):
+    """The disk is full when the run is to begin: it does not, and a box says why."""
+    addresses = people(number or 4)
+    story = make(ScriptedMail(), addresses)
+    story.open()
+    filler = fill(story.folder)
+    story.press_start()
+    box = Window("alert", "Attenzione")
+    if "L'invio non è iniziato." not in box.frame.description:
+        fail(f"the box says {box.frame.description!r}")
+    box.press("OK")
+    box.gone()
+    story.window.find("push button", "Invia messaggi")
+    if story.server.messages or story.selected() != addresses:
+        fail("a run began on a full disk")
+    filler.unlink()
+    story.run()
+    story.close()
+    story.run_again()
+    return story
+
+
 def disk_full(make, number):
     """The disk becomes full in the middle of the run; it has room again before the window is closed."""
     addresses = people(number or 12)
@@ -174,13 +208,7 @@ def disk_full(make, number):
     story.open()
     story.press_start()
     story.arrived(4)
-    filler = story.folder / "riempie"
-    with open(filler, "wb", buffering=0) as file:
-        try:
-            while True:
-                file.write(b"\0" * 4096)
-        except OSError:
-            pass
+    filler = fill(story.folder)
     story.window.find("label", "Email da inviare: 0")
     story.window.find("push button", "Chiudi")
     filler.unlink()
@@ -282,7 +310,7 @@ def late_reply(make, number):
     return story
 
 
-STORIES = {one.__name__: one for one in (disk_full, moved, killed, locked, stops, null_address, late_reply)}
+STORIES = {one.__name__: one for one in (disk_full, full_before, moved, killed, locked, stops, null_address, late_reply)}
 
 
 def play(stage, program):
