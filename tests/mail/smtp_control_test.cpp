@@ -23,10 +23,9 @@ TEST(DeliveryControl, EmptyServerNameIsAnError) {
 
 /// A name from the DNS can be anything; nothing listens that could be connected to.
 TEST(DeliveryControl, ServerNameThatIsNoHostEndsBeforeConnectingAndIsNotLogged) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::Any));
+    Unasked server;
     QTemporaryDir folder;
-    Client client(server.serverPort());
+    Client client(server.port());
     client.smtp.LogFile = folder.filePath(QStringLiteral("prova.xt1"));
     client.smtp.LogEnabled = true;
     const QStringList names{
@@ -42,7 +41,7 @@ TEST(DeliveryControl, ServerNameThatIsNoHostEndsBeforeConnectingAndIsNotLogged) 
             EXPECT_TRUE(heard.text.contains(QStringLiteral("non è valido"))) << qPrintable(heard.text);
         }
     }
-    EXPECT_FALSE(server.waitForNewConnection(50));
+    EXPECT_FALSE(server.wasAsked());
     QFile log(client.smtp.LogFile);
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     const QByteArray text = log.readAll();
@@ -86,9 +85,8 @@ TEST(DeliveryControl, RefusedConnectionIsAnError) {
 
 /// Nothing listens for connections at the address of a refused message: it must end before connecting.
 TEST(DeliveryControl, AddressThatIsNotOnePlainAddressEndsBeforeConnecting) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    Client client(server.serverPort());
+    Unasked server;
+    Client client(server.port());
     const char* const bad[] = {"",
                                "rossi",
                                "@example.it",
@@ -111,7 +109,7 @@ TEST(DeliveryControl, AddressThatIsNotOnePlainAddressEndsBeforeConnecting) {
     client.smtp.ToAddress = QStringLiteral("rossi@example.it");
     client.smtp.FromAddress = QStringLiteral("mittente@example.it>\r\nRCPT TO:<altro@example.it");
     EXPECT_FALSE(client.send().done);
-    EXPECT_FALSE(server.waitForNewConnection(50));
+    EXPECT_FALSE(server.wasAsked());
 }
 
 TEST(DeliveryControl, LineBreaksInAnyValueAddNoCommandAndNoHeader) {
@@ -146,7 +144,7 @@ TEST(DeliveryControl, BodyOfDotsArrivesAsItIs) {
 TEST(DeliveryControl, AbortWithoutADeliveryDoesNothing) {
     Client client(25);
     client.smtp.Abort();
-    client.turn();
+    letAMessagePass();
     EXPECT_TRUE(client.heard.isEmpty());
 }
 
@@ -157,15 +155,14 @@ TEST(DeliveryControl, AbortEndsTheDeliveryBeforeItReturns) {
         ScriptedServer server({whole.mid(0, lines) + QByteArrayList{"WAIT"}, hello + message});
         Client client(server.port());
         client.smtp.Send();
-        while (server.waits() == 0)
-            client.turn(5);
+        ASSERT_TRUE(client.turnUntil([&] { return server.waits() == 1; })) << lines;
         ASSERT_TRUE(client.heard.isEmpty()) << lines;
         client.smtp.Abort();
         ASSERT_EQ(client.heard.size(), 1) << lines;
         EXPECT_FALSE(client.heard[0].done);
         EXPECT_EQ(client.heard[0].code, 0);
         client.smtp.Abort();
-        client.turn();
+        letAMessagePass();
         EXPECT_EQ(client.heard.size(), 1) << lines;
         EXPECT_TRUE(client.send().done) << lines;
         EXPECT_EQ(server.remainder(), "") << lines;
@@ -179,7 +176,7 @@ TEST(DeliveryControl, AbortRightBehindSend) {
     client.smtp.Send();
     client.smtp.Abort();
     EXPECT_EQ(client.heard.size(), 1);
-    client.turn();
+    letAMessagePass();
     EXPECT_EQ(client.heard.size(), 1);
     client.smtp.ServerName = QStringLiteral("127.0.0.1");
     EXPECT_TRUE(client.send().done);
@@ -193,7 +190,7 @@ TEST(DeliveryControl, SendOverARunningMessageDropsThatOneSilently) {
         ScriptedServer server({whole.mid(0, lines) + QByteArrayList{"WAIT"}, hello + message});
         Client client(server.port());
         client.smtp.Send();
-        client.turn(30);
+        ASSERT_TRUE(client.turnUntil([&] { return server.waits() == 1; })) << lines;
         EXPECT_TRUE(client.send().done) << lines;
         EXPECT_EQ(server.remainder(), "") << lines;
     }
@@ -264,12 +261,11 @@ TEST(DeliveryControl, AbortAndSendInTheMiddleOfALargeMessage) {
 }
 
 TEST(DeliveryControl, AttachmentThatCannotBeReadIsAnError) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    Client client(server.serverPort());
+    Unasked server;
+    Client client(server.port());
     client.smtp.Attachments.Add(QStringLiteral("/no/such/file.pdf"), QStringLiteral("file.pdf"));
     EXPECT_FALSE(client.send().done);
-    EXPECT_FALSE(server.waitForNewConnection(50));
+    EXPECT_FALSE(server.wasAsked());
 }
 
 TEST(DeliveryControl, ClearedAttachmentsAreGone) {

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QList>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTimer>
 
 #include "platform/mail/DeliveryControl.h"
@@ -60,6 +64,17 @@ class Client {
         loop.exec();
     }
 
+    /// Lets the event loop run until the condition holds, but not for ever.
+    template <class Condition>
+    static bool turnUntil(Condition condition) {
+        const QDeadlineTimer patience(20000);
+        while (!condition()) {
+            if (patience.hasExpired()) return false;
+            turn();
+        }
+        return true;
+    }
+
     mail::DeliveryControl smtp;
     QList<Heard> heard;
 
@@ -70,6 +85,26 @@ class Client {
     }
 
     QEventLoop m_loop;
+};
+
+/// A server that must not be asked.
+class Unasked {
+  public:
+    Unasked() { EXPECT_TRUE(m_server.listen(QHostAddress::Any)); }
+    quint16 port() const { return m_server.serverPort(); }
+    /// Whether somebody came before this call: the server takes them in order, so a visitor of its own is the
+    /// first otherwise.
+    bool wasAsked() {
+        QTcpSocket visitor;
+        visitor.connectToHost(QHostAddress::LocalHost, port());
+        EXPECT_TRUE(visitor.waitForConnected());
+        EXPECT_TRUE(m_server.hasPendingConnections() || m_server.waitForNewConnection(20000));
+        const std::unique_ptr<QTcpSocket> first(m_server.nextPendingConnection());
+        return !first || first->peerPort() != visitor.localPort();
+    }
+
+  private:
+    QTcpServer m_server;
 };
 
 // Parts of dialogues.
@@ -93,3 +128,12 @@ inline const QByteArrayList groupedMessage{"C: MAIL FROM:<mittente@example.it>",
                                            "BODY",
                                            "S: 250 taken"};
 inline const QByteArrayList reset{"C: RSET", "S: 250 flushed"};
+
+/// Sends a message by a control and a server of its own. Whatever another control had due before has come
+/// when it returns.
+inline void letAMessagePass() {
+    testing_support::ScriptedServer server({hello + message});
+    Client client(server.port());
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}

@@ -145,6 +145,10 @@ void ScriptedServer::step(const QByteArray& line) {
         }
     } else if (line.startsWith("PAUSE ")) {
         msleep(line.mid(6).toULong());
+    } else if (line == "GATE") {
+        ++m_waits;
+        while (!m_gate.tryAcquire(1, sliceMs))
+            if (isInterruptionRequested()) throw Unexpected{"the test does not go on"};
     } else if (line == "DROP" || line == "RESET") {
         close(line == "RESET");
     } else {

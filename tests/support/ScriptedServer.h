@@ -31,6 +31,7 @@ namespace testing_support {
 ///   WAIT         waits until the client closes
 ///   HOLD         does nothing until the client closes, not even read
 ///   PAUSE n      waits n milliseconds
+///   GATE         waits until the test calls goOn()
 ///   DROP         closes
 ///   RESET        closes with a reset
 /// A dialogue that has ended is closed.
@@ -48,8 +49,11 @@ class ScriptedServer : public QThread {
     /// Waits until every dialogue was played and gives what went otherwise than written; empty: nothing.
     std::string remainder();
 
-    /// How often a dialogue has come to a WAIT.
+    /// How often a dialogue has come to a WAIT or a GATE.
     int waits() const { return m_waits; }
+
+    /// Lets a dialogue pass one GATE.
+    void goOn() { m_gate.release(); }
 
     // After remainder():
     const QByteArrayList& bodies() const { return m_bodies; }  ///< as received, dots still stuffed
@@ -79,6 +83,7 @@ class ScriptedServer : public QThread {
     const QHash<QByteArray, Answer> m_answers;
     QSemaphore m_listening;
     std::atomic<int> m_waits = 0;
+    QSemaphore m_gate;
     QSslSocket* m_socket = nullptr;
     QByteArray m_input;
     QByteArray m_problem;

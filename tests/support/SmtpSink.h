@@ -52,6 +52,8 @@ class SmtpSink : public QObject {
     const QStringList& attempts() const { return m_attempts; }
     /// First greeting of each connection: "EHLO" or "HELO".
     const QList<QByteArray>& greetings() const { return m_greetings; }
+    /// How many connections are open.
+    qsizetype connected() const { return m_sessions.size(); }
 
   Q_SIGNALS:
     void attempted(const QString& recipient);
