@@ -1,5 +1,6 @@
 #include "message/CopiaRecupero.h"
 
+#include <algorithm>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QJsonArray>
@@ -16,6 +17,12 @@ namespace {
 // Four times the longest body that a message file may have.
 constexpr qint64 copiaMassima = 256LL * 1024 * 1024;
 constexpr int messeDaParte = 5;
+
+// Milliseconds from the last change to the copy, and from the first one that it does not hold at most.
+constexpr qint64 dopoUltima = 1000;
+constexpr qint64 dopoPrima = 5000;
+constexpr qint64 dopoPrimaGrande = 15000;
+constexpr qsizetype corpoGrande = 1024 * 1024;  // characters
 
 const QByteArray intestazione = QByteArrayLiteral("VESTROLA-RECUPERO 1\n");
 const QString copie = QStringLiteral(".copia");
@@ -98,6 +105,11 @@ void togliResti() {
 }
 
 }  // namespace
+
+int AttesaCopia(qsizetype caratteri, qint64 dallaPrima) {
+    const qint64 rimane = (caratteri > corpoGrande ? dopoPrimaGrande : dopoPrima) - dallaPrima;
+    return static_cast<int>(std::clamp<qint64>(rimane, 0, dopoUltima));
+}
 
 void CopiaRecupero::Scrivi(const MessaggioRecuperato& messaggio) {
     if (!Esiste()) {

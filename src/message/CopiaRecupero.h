@@ -23,6 +23,11 @@ struct MessaggioRecuperato {
     bool operator==(const MessaggioRecuperato&) const = default;
 };
 
+/// How many milliseconds after a change of a body of so many characters its copy is to be written.
+/// `dallaPrima`: the milliseconds since the first change that the copy does not hold. It is put off by each
+/// change, but not for ever.
+int AttesaCopia(qsizetype caratteri, qint64 dallaPrima);
+
 /// The copy of one document. It is locked from the first write on, for as long as this object lives, so that
 /// no other program offers it.
 class CopiaRecupero {

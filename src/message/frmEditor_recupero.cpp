@@ -14,16 +14,6 @@
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 
-namespace {
-
-// Milliseconds from the last change to the copy, and from the first one that it does not hold at most.
-constexpr qint64 dopoUltima = 1000;
-constexpr qint64 dopoPrima = 5000;
-constexpr qint64 dopoPrimaGrande = 15000;
-constexpr qsizetype corpoGrande = 1024 * 1024;
-
-}  // namespace
-
 void frmEditor::CollegaCopia() {
     tempoCopia.setObjectName("tempoCopia");
     tempoCopia.setSingleShot(true);
@@ -41,9 +31,8 @@ void frmEditor::CollegaCopia() {
 void frmEditor::DocumentoMutato() {
     if (rinunciato) return;
     if (!std::exchange(copiaDovuta, true)) primaMutazione.start();
-    const bool grande = std::max(DHTML->knownHTML().size(), CODE->length()) > corpoGrande;
-    const qint64 rimane = (grande ? dopoPrimaGrande : dopoPrima) - primaMutazione.elapsed();
-    tempoCopia.start(static_cast<int>(std::clamp<qint64>(rimane, 0, dopoUltima)));
+    tempoCopia.start(
+        AttesaCopia(std::max(DHTML->knownHTML().size(), CODE->length()), primaMutazione.elapsed()));
 }
 
 MessaggioRecuperato frmEditor::DaRecuperare(const QString& corpo) {

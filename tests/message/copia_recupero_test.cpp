@@ -250,6 +250,24 @@ TEST_F(CopiaRecuperoTest, AWriteThatFailsLeavesTheCopyBefore) {
     EXPECT_EQ(bytes(only(".copia")), before);
 }
 
+TEST(AttesaCopiaTest, IsASecondFromEachChangeButNotForEver) {
+    EXPECT_EQ(AttesaCopia(0, 0), 1000);
+    EXPECT_EQ(AttesaCopia(0, 4000), 1000);
+    EXPECT_EQ(AttesaCopia(0, 4400), 600);
+    EXPECT_EQ(AttesaCopia(0, 5000), 0);
+    EXPECT_EQ(AttesaCopia(0, 3600000), 0);
+}
+
+TEST(AttesaCopiaTest, OfAnAlwaysChangingBodyOfMoreThanAMegabyteIsLonger) {
+    constexpr qsizetype megabyte = 1024 * 1024;
+    EXPECT_EQ(AttesaCopia(megabyte, 5000), 0);
+    EXPECT_EQ(AttesaCopia(megabyte + 1, 0), 1000);
+    EXPECT_EQ(AttesaCopia(megabyte + 1, 5000), 1000);
+    EXPECT_EQ(AttesaCopia(megabyte + 1, 14400), 600);
+    EXPECT_EQ(AttesaCopia(megabyte + 1, 15000), 0);
+    EXPECT_EQ(AttesaCopia(megabyte + 1, 3600000), 0);
+}
+
 TEST_F(CopiaRecuperoTest, WhatAKillLeavesWithoutACopyIsCleared) {
     {
         CopiaRecupero copy;
