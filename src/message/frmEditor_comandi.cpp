@@ -148,7 +148,8 @@ bool frmEditor::ComandoFile(const QString& nome) {
     } else if (nome == "cmdSalvaAs") {
         SalvaMessaggioCome();
     } else if (nome == "cmdStampa") {
-        DHTML->print(true);
+        const Result<bool> stampato = DHTML->print(true, barre->GetEdit("txtOggetto")->Text());
+        if (!stampato.ok()) AvvisaVista(stampato.status(), "Il messaggio non è stato stampato.");
     } else if (nome == "cmdProprieta") {
         const Status presi = finestre::PropBody().PrendiValori();
         if (!presi.ok())

@@ -38,6 +38,7 @@ class SureView : public HtmlView {
     bool setElementAttributes(int level, const Attributes& attributes) {
         return sure(HtmlView::setElementAttributes(level, attributes));
     }
+    bool print(bool prompt, const QString& title = {}) { return sure(HtmlView::print(prompt, title)); }
     QString bodyAttribute(const QString& name) const { return sure(HtmlView::bodyAttribute(name)); }
     void setBodyAttribute(const QString& name, const QString& value) {
         sure(HtmlView::setBodyAttribute(name, value));

@@ -2,7 +2,6 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
-#include <QPrinter>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 
@@ -193,29 +192,6 @@ class ViewSafety : public QObject {
         desk.view.setDocumentHTML("<p>due</p>");
         QTRY_VERIFY(desk.view.isLive());
         QCOMPARE(desk.body(), QString("<p>due</p>"));
-    }
-
-    void printsThroughThePrompt() {
-        QTemporaryDir folder;
-        Desk desk("<h1>Listino</h1>");
-        int asked = 0;
-        desk.view.setPrintPrompt([&asked](QPrinter&) {
-            ++asked;
-            return false;
-        });
-        QVERIFY(!desk.view.print(true));
-        QCOMPARE(asked, 1);
-        const QString path = folder.filePath("a.pdf");
-        desk.view.setPrintPrompt([&path](QPrinter& printer) {
-            printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(path);
-            return true;
-        });
-        QVERIFY(desk.view.print(true));
-        QFile printed(path);
-        QVERIFY(printed.open(QIODevice::ReadOnly));
-        QVERIFY(printed.read(5) == "%PDF-");
-        QVERIFY(printed.size() > 1000);
     }
 };
 

@@ -63,8 +63,8 @@ void HtmlView::setPrintPrompt(std::function<bool(QPrinter&)> prompt) {
     m_live->printPrompt = std::move(prompt);
 }
 
-bool HtmlView::print(bool prompt) {
-    return m_live->print(prompt);
+Result<bool> HtmlView::print(bool prompt, const QString& title) {
+    return m_live->print(prompt, title);
 }
 
 void HtmlView::showEvent(QShowEvent* event) {

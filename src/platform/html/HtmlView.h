@@ -201,9 +201,10 @@ class HtmlView : public QWidget {
 
     // --- Printing
 
-    /// Prints the document. With `prompt` the user is asked first. False when the user declined or the
-    /// printing failed.
-    bool print(bool prompt);
+    /// Prints the document, as text and vectors, to the printer or the PDF file that the user chose. With
+    /// `prompt` the user is asked first; false when the user declined. `title` names the printed document
+    /// where it has no title of its own.
+    Result<bool> print(bool prompt, const QString& title = QString());
     /// The question that print(true) puts: may change the printer, false cancels. The default is the
     /// desktop's print dialog.
     void setPrintPrompt(std::function<bool(QPrinter&)> prompt);

@@ -1,7 +1,5 @@
 #include <QFont>
 #include <QFontInfo>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <utility>
 
 #include "platform/html/HtmlViewLive.h"
@@ -84,25 +82,4 @@ void HtmlView::Live::setDefaultFont(const QString& family) {
 void HtmlView::Live::showMarks(const QString& name, bool on) {
     marks[name] = on;
     if (live) browser.run(QStringLiteral("editor.marks.show(%1)").arg(arguments({name, on})), [](auto&) {});
-}
-
-bool HtmlView::Live::print(bool prompt) {
-    if (!ensure()) return false;
-    QPrinter printer(QPrinter::HighResolution);
-    if (prompt) {
-        const bool wanted =
-            printPrompt ? printPrompt(printer) : QPrintDialog(&printer, &view).exec() == QDialog::Accepted;
-        if (!wanted) return false;
-    }
-    bool over = false;
-    bool printed = false;
-    browser.print(printer, [this, &over, &printed](bool success) {
-        over = true;
-        printed = success;
-        wakeWaiting();
-    });
-    // the printer stands here, so this is left only when nobody prints on it any more
-    while (!over && browser.widget != nullptr)
-        waitFor([&over] { return over; }, 60000);
-    return printed;
 }

@@ -50,7 +50,7 @@ struct HtmlView::Live {
     CommandStatus status(int command) const;
     void setDefaultFont(const QString& family);
     void showMarks(const QString& name, bool on);
-    bool print(bool prompt);
+    Result<bool> print(bool prompt, const QString& title);
 
     bool filter(QEvent& event);
 
@@ -63,6 +63,9 @@ struct HtmlView::Live {
     Browser browser;
 
   private:
+    Result<QByteArray> pages(const QPrinter& printer);
+    static Status writePdf(const QString& path, const QByteArray& document);
+    Result<bool> printPictures(QPrinter& printer);
     void fail(const QString& reason);
     void write();
     void written();

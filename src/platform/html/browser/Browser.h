@@ -1,11 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <QByteArray>
 #include <QString>
 #include <QVariant>
 
 class QMimeData;
 class QPoint;
+class QPageLayout;
+class QPageRanges;
 class QPrinter;
 class QWidget;
 
@@ -21,6 +24,10 @@ struct Browser {
     /// Runs a script in that world and hands over the value of its last expression; `done` is not called when
     /// the browser's process dies meanwhile.
     std::function<void(const QString& script, std::function<void(const QVariant&)> done)> run;
+    /// The document as a PDF; an empty one where that fails.
+    std::function<void(const QPageLayout&, const QPageRanges&, std::function<void(const QByteArray&)> done)>
+        pdf;
+    /// The document as pictures of its pages.
     std::function<void(QPrinter&, std::function<void(bool)> done)> print;
     /// Font of text that names none, or none that is there. Holds for documents that are loaded later.
     std::function<void(const QString& family)> setStandardFont;

@@ -3,6 +3,8 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPageLayout>
+#include <QPageRanges>
 #include <QPrinter>
 #include <QWebEngineScript>
 #include <QWebEngineSettings>
@@ -28,6 +30,12 @@ View::View(const BrowserEvents& events, QWidget* parent)
 void View::run(const QString& script, const std::function<void(const QVariant&)>& done) {
     m_page->runJavaScript(script, QWebEngineScript::ApplicationWorld,
                           [this, done](const QVariant& answer) { handOn([done, answer] { done(answer); }); });
+}
+
+void View::printToPdf(const QPageLayout& layout, const QPageRanges& ranges,
+                      const std::function<void(const QByteArray&)>& done) {
+    m_page->printToPdf([this, done](const QByteArray& pdf) { handOn([done, pdf] { done(pdf); }); }, layout,
+                       ranges);
 }
 
 void View::handOn(std::function<void()> news) {
@@ -65,6 +73,10 @@ extern "C" Q_DECL_EXPORT void createBrowser(QWidget* parent, const BrowserEvents
     };
     browser.setStandardFont = [view](const QString& family) {
         view->settings()->setFontFamily(QWebEngineSettings::StandardFont, family);
+    };
+    browser.pdf = [view](const QPageLayout& layout, const QPageRanges& ranges,
+                         const std::function<void(const QByteArray&)>& done) {
+        view->printToPdf(layout, ranges, done);
     };
     browser.print = [view](QPrinter& printer, const std::function<void(bool)>& done) {
         QObject::connect(view, &QWebEngineView::printFinished, view, done, Qt::SingleShotConnection);

@@ -16,6 +16,9 @@ class View : public QWebEngineView {
     Page& document() { return *m_page; }
     void run(const QString& script, const std::function<void(const QVariant&)>& done);
 
+    void printToPdf(const QPageLayout& layout, const QPageRanges& ranges,
+                    const std::function<void(const QByteArray&)>& done);
+
   protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;

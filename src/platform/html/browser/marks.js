@@ -21,13 +21,16 @@ editor.marks = {
         this.apply();
     },
 
+    // Of them nothing is printed, and neither is the caret
     apply() {
-        document.adoptedStyleSheets = Object.keys(this.sheets)
-            .filter((name) => this.shown[name])
-            .map((name) => {
-                const sheet = new CSSStyleSheet();
-                sheet.replaceSync('@media screen {' + this.sheets[name] + '}'); // nothing of them is printed
-                return sheet;
-            });
+        const marks = Object.keys(this.sheets).filter((name) => this.shown[name]);
+        document.adoptedStyleSheets = [
+            '@media print { * { caret-color: transparent !important; } }',
+            ...marks.map((name) => '@media screen {' + this.sheets[name] + '}'),
+        ].map((rules) => {
+            const sheet = new CSSStyleSheet();
+            sheet.replaceSync(rules);
+            return sheet;
+        });
     },
 };
