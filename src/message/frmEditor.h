@@ -30,6 +30,7 @@ class frmEditor : public QMainWindow {
 
   public:
     explicit frmEditor(QWidget* parent = nullptr);
+    ~frmEditor() override;
 
     /// The load of the window, run once by the first mention (finestre::Editor).
     void Carica();

@@ -1,4 +1,5 @@
 // What the three views and the tabs report, and the state of the tools that follows from it.
+#include <initializer_list>
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <utility>
@@ -50,6 +51,12 @@ void frmEditor::CollegaViste() {
     quando(CODE, &ui::SourceEdit::pointerEntered, [this] { MostraSchedaInStato(); });
     quando(tb, &ui::TabStrip::pointerEntered, [this] { MostraSchedaInStato(); });
     quando(tb, &ui::TabStrip::tabChanged, [this](int da, int a) { CambiaScheda(da, a); });
+}
+
+/// What the views say while they go finds no editor any more.
+frmEditor::~frmEditor() {
+    for (QObject* mittente : std::initializer_list<QObject*>{DHTML, WEB, CODE, tb})
+        mittente->disconnect(this);
 }
 
 void frmEditor::MenuModifica(const QPoint& punto) {
