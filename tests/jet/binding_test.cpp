@@ -227,6 +227,8 @@ TEST_F(BindingTest, LinksAndFoldersAreNoJournals) {
 }
 
 TEST_F(BindingTest, JournalOfSomebodyWhoMayNotWriteTheDatabaseIsNotTouched) {
+    // The rule itself is tested for any user in isTrusted(); here it is played with a real file of somebody
+    // else.
     if (::geteuid() != 0) GTEST_SKIP() << "only the administrator can give a file away";
     crash();
     const std::string crashed = bytesOf(path());

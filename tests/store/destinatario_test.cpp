@@ -1,4 +1,5 @@
-// The recipient form: its items, checks, statements and what it does to the grid.
+// The recipient form: its items, checks, statements and what it does to the grid. Above 500 lines: all of it
+// works one form over one stage, and its tests are read beside each other.
 #include <sys/resource.h>
 #include <csignal>
 #include <QLabel>

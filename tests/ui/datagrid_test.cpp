@@ -1,3 +1,5 @@
+// The grid: cells, marks, keys, mouse and what assistive programs get of it. Above 500 lines: one control,
+// whose tests share one model and its hands.
 #include <QAccessible>
 #include <QDialog>
 #include <QHeaderView>
