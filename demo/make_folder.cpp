@@ -15,15 +15,15 @@
 #include <QPdfWriter>
 #include <QTextStream>
 
-#include "accounts/AccountFile.h"
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
-#include "message/MessaggioMss.h"
+#include "modules/accounts/AccountFile.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
+#include "modules/message/MessaggioMss.h"
+#include "modules/store/percorsoDBase.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
 #include "platform/system/ProgramFolder.h"
-#include "store/percorsoDBase.h"
 
 namespace {
 

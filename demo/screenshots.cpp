@@ -12,25 +12,25 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "accounts/frmAccount.h"
-#include "core/bGlobal.h"
-#include "core/Finestre.h"
-#include "import/frmImpDB.h"
-#include "import/frmImpTXT.h"
-#include "import/frmScelta.h"
-#include "message/frmAllegati.h"
-#include "message/frmEditor.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
 #include "platform/ui/TabStrip.h"
-#include "send/frmInvia.h"
-#include "shell/frmInfoSu.h"
-#include "shell/frmMain.h"
-#include "shell/frmSplash.h"
-#include "store/frmDestinatario.h"
 #include "unattended.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/entry/Finestre.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/frmImpTXT.h"
+#include "windows/import/frmScelta.h"
+#include "windows/message/frmAllegati.h"
+#include "windows/message/frmEditor.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmInfoSu.h"
+#include "windows/shell/frmMain.h"
+#include "windows/shell/frmSplash.h"
+#include "windows/store/frmDestinatario.h"
 
 namespace {
 

@@ -11,12 +11,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/Finestre.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/frmInvia.h"
-#include "shell/frmMain.h"
 #include "unattended.h"
+#include "windows/entry/Finestre.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmMain.h"
 
 namespace {
 

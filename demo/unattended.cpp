@@ -5,11 +5,11 @@
 #include <QLocale>
 #include <QTimer>
 
-#include "core/bMain.h"
-#include "core/Prodotto.h"
+#include "modules/core/Prodotto.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/Unattended.h"
+#include "windows/entry/bMain.h"
 
 int runUnattended(int argc, char** argv, const char* usage,
                   const std::function<void(const QStringList& arguments)>& play) {

@@ -1,13 +1,13 @@
 #include <QApplication>
 
-#include "core/bMain.h"
-#include "core/FineSessione.h"
-#include "core/Prodotto.h"
-#include "core/Riavvio.h"
+#include "modules/core/Prodotto.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/Contrast.h"
 #include "platform/ui/Desktop.h"
-#include "shell/bTheme.h"
+#include "windows/core/FineSessione.h"
+#include "windows/core/Riavvio.h"
+#include "windows/entry/bMain.h"
+#include "windows/shell/bTheme.h"
 
 int main(int argc, char** argv) {
     QApplication programma(argc, argv);

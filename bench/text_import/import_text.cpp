@@ -9,9 +9,9 @@
 #include <QCoreApplication>
 #include <QFile>
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "import/RigaTesto.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/RigaTesto.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/jet/Database.h"
 #include "platform/text/TextFile.h"

@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "accounts/AccountFile.h"
-#include "core/Fallimento.h"
+#include "modules/accounts/AccountFile.h"
+#include "modules/core/Fallimento.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "mail/wire_reader.h"
 #include "platform/mail/Composer.h"
+#include "platform/mail/wire_reader.h"
 
 namespace {
 

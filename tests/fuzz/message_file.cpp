@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/Fallimento.h"
-#include "message/MessaggioMss.h"
+#include "modules/core/Fallimento.h"
+#include "modules/message/MessaggioMss.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const QTemporaryDir folder;

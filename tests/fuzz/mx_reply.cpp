@@ -2,8 +2,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "core/Fallimento.h"
-#include "send/bMXQuery.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/bMXQuery.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QByteArray datagram(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));

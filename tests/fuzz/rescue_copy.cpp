@@ -8,8 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/bImpostazioni.h"
-#include "message/CopiaRecupero.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/message/CopiaRecupero.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace {

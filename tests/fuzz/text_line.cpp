@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "core/Fallimento.h"
-#include "import/RigaTesto.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/RigaTesto.h"
 #include "platform/text/AnsiCodec.h"
 
 namespace {

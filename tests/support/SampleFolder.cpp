@@ -3,14 +3,14 @@
 #include <QDir>
 #include <QFile>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
+#include "modules/store/percorsoDBase.h"
+#include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
 #include "platform/system/ProgramFolder.h"
-#include "store/percorsoDBase.h"
-#include "store/Schema.h"
 
 namespace testing_support {
 

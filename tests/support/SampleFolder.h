@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include "accounts/AccountFile.h"
-#include "message/MessaggioMss.h"
+#include "modules/accounts/AccountFile.h"
+#include "modules/message/MessaggioMss.h"
 
 namespace testing_support {
 

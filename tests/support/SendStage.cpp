@@ -2,11 +2,11 @@
 
 #include <QLocale>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "lang/bVAR.h"
+#include "modules/core/bGlobal.h"
+#include "modules/lang/bVAR.h"
 #include "platform/system/Clock.h"
 #include "platform/ui/Unattended.h"
+#include "windows/core/Evento.h"
 
 namespace testing_support {
 

@@ -17,9 +17,9 @@
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/frmInvia.h"
 #include "support/SampleFolder.h"
 #include "support/SmtpSink.h"
+#include "windows/send/frmInvia.h"
 
 namespace testing_support {
 

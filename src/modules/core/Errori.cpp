@@ -1,4 +1,4 @@
-#include "core/Errori.h"
+#include "modules/core/Errori.h"
 
 #include <array>
 

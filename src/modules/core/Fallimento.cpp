@@ -1,6 +1,6 @@
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 
-#include "core/Errori.h"
+#include "modules/core/Errori.h"
 
 Fallimento::Fallimento(int numero, QString testo, QString sorgente, const QString& file)
     : m_numero(numero),

@@ -4,7 +4,7 @@
 #include <QString>
 #include <utility>
 
-#include "core/Operazione.h"
+#include "modules/core/Operazione.h"
 #include "platform/Status.h"
 
 /// The program's three ways of meeting a failure:

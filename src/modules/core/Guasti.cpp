@@ -1,10 +1,10 @@
-#include "core/Guasti.h"
+#include "modules/core/Guasti.h"
 
 #include <QFile>
 #include <QRegularExpression>
 
-#include "core/bImpostazioni.h"
-#include "core/Prodotto.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Prodotto.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 
 /// The last failures that ended the program: the file "guasti.txt" of the data folder, which
 /// docs/formats/guasti.md shows. Nothing reads it but people.

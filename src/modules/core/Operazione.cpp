@@ -1,4 +1,4 @@
-#include "core/Operazione.h"
+#include "modules/core/Operazione.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "core/Prodotto.h"
+#include "modules/core/Prodotto.h"
 
 QString prodotto::nome() {
     return QStringLiteral("Vestrola");

@@ -1,7 +1,7 @@
-#include "core/bError.h"
+#include "modules/core/bError.h"
 
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
 #include "platform/text/DateText.h"
 #include "platform/text/TextFile.h"

@@ -1,9 +1,9 @@
-#include "core/bFunctions.h"
+#include "modules/core/bFunctions.h"
 
 #include <QFile>
 #include <QRegularExpression>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/ConnectionText.h"

@@ -1,4 +1,4 @@
-#include "core/bImpostazioni.h"
+#include "modules/core/bImpostazioni.h"
 
 #include "platform/system/ProgramFolder.h"
 

@@ -1,7 +1,7 @@
-#include "import/Inserimento.h"
+#include "modules/import/Inserimento.h"
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
 
 QString inserimento::Taglia(QStringView valore, Colonna colonna) {
     return valore.left(limiti[colonna]).toString();

@@ -1,10 +1,10 @@
-#include "import/RigaTesto.h"
+#include "modules/import/RigaTesto.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "core/bFunctions.h"
-#include "core/Fallimento.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
 
 namespace {
 

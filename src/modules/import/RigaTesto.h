@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "import/campi.h"
+#include "modules/import/campi.h"
 
 /// Where an import stands: the line that is read, counted from 1, and the recipients it has inserted.
 struct PuntoImportazione {

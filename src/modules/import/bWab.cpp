@@ -1,8 +1,8 @@
-#include "import/bWab.h"
+#include "modules/import/bWab.h"
 
 #include <array>
 
-#include "core/bFunctions.h"
+#include "modules/core/bFunctions.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/Blanks.h"
 

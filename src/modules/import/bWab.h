@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "import/Inserimento.h"
+#include "modules/import/Inserimento.h"
 #include "platform/contacts/AddressBook.h"
 
 /// Reads the properties of one entry of the address book, in their order, into the columns of a recipient:

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "import/Inserimento.h"
+#include "modules/import/Inserimento.h"
 
 /// The 19 boxes in which the user says what feeds which column, the same in both windows that have them.
 namespace campi {

@@ -1,9 +1,9 @@
-#include "lang/bLANG.h"
+#include "modules/lang/bLANG.h"
 
 #include <limits>
 
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/text/TextFile.h"
 
 namespace {

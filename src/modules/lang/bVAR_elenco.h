@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 
 /// Every text of bVAR by its name in the language file.
 namespace bVAR {

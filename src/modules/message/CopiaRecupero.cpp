@@ -1,4 +1,4 @@
-#include "message/CopiaRecupero.h"
+#include "modules/message/CopiaRecupero.h"
 
 #include <algorithm>
 #include <QCryptographicHash>
@@ -9,8 +9,8 @@
 #include <QUuid>
 #include <utility>
 
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "message/MessaggioMss.h"
+#include "modules/message/MessaggioMss.h"
 
 #include <cstdint>
 #include <limits>
 
-#include "core/bFunctions.h"
-#include "core/Fallimento.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
 #include "platform/text/Blanks.h"
 
 namespace {

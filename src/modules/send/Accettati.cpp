@@ -1,13 +1,13 @@
-#include "send/Accettati.h"
+#include "modules/send/Accettati.h"
 
 #include <optional>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Waiting.h"
-#include "store/RecordsetDB.h"
 
 namespace {
 

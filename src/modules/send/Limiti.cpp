@@ -1,8 +1,8 @@
-#include "send/Limiti.h"
+#include "modules/send/Limiti.h"
 
 #include <cmath>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
 #include "platform/text/NumberText.h"
 

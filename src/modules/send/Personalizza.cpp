@@ -1,9 +1,9 @@
-#include "send/Personalizza.h"
+#include "modules/send/Personalizza.h"
 
 #include <bitset>
 #include <QUrl>
 
-#include "core/Errori.h"
+#include "modules/core/Errori.h"
 
 const std::array<QString, numeroSegnaposto> colonneSegnaposto{
     QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),

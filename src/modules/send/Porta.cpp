@@ -1,8 +1,8 @@
-#include "send/Porta.h"
+#include "modules/send/Porta.h"
 
 #include <limits>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/text/NumberText.h"
 
 quint16 NumeroPorta(const QString& testo) {

@@ -1,6 +1,6 @@
-#include "send/Selezione.h"
+#include "modules/send/Selezione.h"
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 
 qint64 ContaSelezionati(ado::Recordset& rs) {
     rs.setSource("SELECT * FROM [tb_destinatari] WHERE sel = True ;");

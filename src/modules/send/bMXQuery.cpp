@@ -1,8 +1,8 @@
-#include "send/bMXQuery.h"
+#include "modules/send/bMXQuery.h"
 
 #include <optional>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/dns/HostLookup.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/Blanks.h"

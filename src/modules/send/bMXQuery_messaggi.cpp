@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <limits>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/bMXQuery.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/Blanks.h"
-#include "send/bMXQuery.h"
 
 namespace {
 

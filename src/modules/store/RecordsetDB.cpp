@@ -1,7 +1,7 @@
-#include "store/RecordsetDB.h"
+#include "modules/store/RecordsetDB.h"
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
 
 ado::Recordset RecordsetDB() {
     ado::Recordset rs;

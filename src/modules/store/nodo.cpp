@@ -1,8 +1,8 @@
-#include "store/nodo.h"
+#include "modules/store/nodo.h"
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "store/RecordsetDB.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/store/RecordsetDB.h"
 
 QString NumeroNodo(const QString& chiave) {
     return chiave.mid(1);

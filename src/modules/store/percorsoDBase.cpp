@@ -1,11 +1,11 @@
-#include "store/percorsoDBase.h"
+#include "modules/store/percorsoDBase.h"
 
 #include <QFile>
 #include <QStringDecoder>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/system/OwnFile.h"
 #include "platform/text/AnsiCodec.h"

@@ -1,4 +1,4 @@
-#include "accounts/frmAccount.h"
+#include "windows/accounts/frmAccount.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -9,11 +9,11 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "accounts/frmAccount_elenco.h"
-#include "core/Evento.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/DialogFrame.h"
-#include "shell/bTheme.h"
+#include "windows/accounts/frmAccount_elenco.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/bTheme.h"
 
 frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
     setObjectName("frmAccount");

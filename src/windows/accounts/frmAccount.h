@@ -3,7 +3,7 @@
 #include <array>
 #include <QDialog>
 
-#include "accounts/AccountFile.h"
+#include "modules/accounts/AccountFile.h"
 
 class ElencoAccount;
 class QAction;

@@ -4,15 +4,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "accounts/frmAccount.h"
-#include "accounts/frmAccount_elenco.h"
-#include "core/bFunctions.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
-#include "lang/bVAR.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/accounts/frmAccount_elenco.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "accounts/frmAccount.h"
-#include "accounts/frmAccount_elenco.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
-#include "shell/bTheme.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/accounts/frmAccount_elenco.h"
+#include "windows/shell/bTheme.h"
 
 namespace {
 

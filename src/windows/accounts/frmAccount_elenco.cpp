@@ -1,4 +1,4 @@
-#include "accounts/frmAccount_elenco.h"
+#include "windows/accounts/frmAccount_elenco.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>

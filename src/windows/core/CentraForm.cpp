@@ -1,4 +1,4 @@
-#include "core/CentraForm.h"
+#include "windows/core/CentraForm.h"
 
 #include <QScreen>
 #include <QWidget>

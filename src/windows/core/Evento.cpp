@@ -1,16 +1,16 @@
-#include "core/Evento.h"
+#include "windows/core/Evento.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <QApplication>
 #include <QWidget>
 
-#include "core/bGlobal.h"
-#include "core/Guasti.h"
-#include "core/Prodotto.h"
-#include "core/Riavvio.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Guasti.h"
+#include "modules/core/Prodotto.h"
 #include "platform/ado/Notices.h"
 #include "platform/ui/MessageDialog.h"
+#include "windows/core/Riavvio.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <utility>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 
 /// The edge between the program and the toolkit: every handler of a window event runs inside evento(). A
 /// failure that no procedure on the way took stops here: it is shown and the program ends. Nothing is ever

@@ -1,12 +1,12 @@
-#include "core/FineSessione.h"
+#include "windows/core/FineSessione.h"
 
 #include <QApplication>
 
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "core/Riavvio.h"
 #include "platform/system/TerminationSignal.h"
-#include "shell/frmMain.h"
+#include "windows/core/Evento.h"
+#include "windows/core/Riavvio.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
 
 void FineSessione() {
     if (!riavvio::FinestraMostrata()) TerminaProgramma(0);

@@ -1,4 +1,4 @@
-#include "core/Puntatore.h"
+#include "windows/core/Puntatore.h"
 
 #include <QApplication>
 

@@ -1,4 +1,4 @@
-#include "core/Riavvio.h"
+#include "windows/core/Riavvio.h"
 
 #include <poll.h>
 #include <sys/syscall.h>
@@ -9,15 +9,15 @@
 #include <QMap>
 #include <QProcess>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "core/Posizione.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
+#include "windows/entry/Finestre.h"
+#include "windows/entry/Posizione.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
 
 namespace riavvio {
 

@@ -1,19 +1,19 @@
-#include "core/Finestre.h"
+#include "windows/entry/Finestre.h"
 
 #include <QPointer>
 
-#include "accounts/frmAccount.h"
-#include "import/frmImpDB.h"
-#include "import/frmImpTXT.h"
-#include "import/frmScelta.h"
-#include "lang/bLANG.h"
-#include "message/frmEditor.h"
-#include "message/frmPropBody.h"
-#include "send/frmInvia.h"
-#include "shell/frmInfoSu.h"
-#include "shell/frmMain.h"
-#include "shell/frmSplash.h"
-#include "store/frmDestinatario.h"
+#include "modules/lang/bLANG.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/frmImpTXT.h"
+#include "windows/import/frmScelta.h"
+#include "windows/message/frmEditor.h"
+#include "windows/message/frmPropBody.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmInfoSu.h"
+#include "windows/shell/frmMain.h"
+#include "windows/shell/frmSplash.h"
+#include "windows/store/frmDestinatario.h"
 
 // The program ends without unloading its windows, so nothing here is destroyed at the end.
 

@@ -1,18 +1,18 @@
-#include "core/Posizione.h"
+#include "windows/entry/Posizione.h"
 
 #include <cmath>
 #include <limits>
 #include <QLocale>
 #include <QWidget>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/text/Blanks.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/TextFile.h"
-#include "shell/frmMain.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
 
 namespace {
 

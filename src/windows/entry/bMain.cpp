@@ -1,22 +1,22 @@
-#include "core/bMain.h"
+#include "windows/entry/bMain.h"
 
 #include <QTimer>
 
-#include "core/bError.h"
-#include "core/CentraForm.h"
-#include "core/Evento.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "core/Puntatore.h"
-#include "core/Riavvio.h"
-#include "message/frmEditor.h"
+#include "modules/core/bError.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/Accettati.h"
+#include "modules/store/percorsoDBase.h"
 #include "platform/ado/Notices.h"
 #include "platform/ui/MessageDialog.h"
-#include "send/Accettati.h"
-#include "send/Accettati_avviso.h"
-#include "shell/frmMain.h"
-#include "shell/frmSplash.h"
-#include "store/percorsoDBase.h"
+#include "windows/core/CentraForm.h"
+#include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
+#include "windows/core/Riavvio.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmEditor.h"
+#include "windows/send/Accettati_avviso.h"
+#include "windows/shell/frmMain.h"
+#include "windows/shell/frmSplash.h"
 
 void SubMain() {
     Prosegui prosegui;

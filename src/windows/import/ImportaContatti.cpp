@@ -1,12 +1,12 @@
-#include "import/ImportaContatti.h"
+#include "windows/import/ImportaContatti.h"
 
-#include "core/Finestre.h"
-#include "import/cartella.h"
-#include "import/frmScelta.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/ProgressCounter.h"
-#include "shell/frmMain.h"
-#include "store/RecordsetDB.h"
+#include "windows/entry/Finestre.h"
+#include "windows/import/cartella.h"
+#include "windows/import/frmScelta.h"
+#include "windows/shell/frmMain.h"
 
 ui::ProgressCounter& ImportaContatti::stcProgress() {
     return *finestre::Main().Commands().GetProgress("stcProgress");

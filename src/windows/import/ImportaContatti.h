@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/Fallimento.h"
-#include "import/Inserimento.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/Inserimento.h"
 
 namespace ui {
 class ProgressCounter;

@@ -1,10 +1,10 @@
-#include "import/ImportaOutlook.h"
+#include "windows/import/ImportaOutlook.h"
 
 #include <QCoreApplication>
 
-#include "core/bFunctions.h"
-#include "import/ImportaContatti.h"
+#include "modules/core/bFunctions.h"
 #include "platform/contacts/ContactFolder.h"
+#include "windows/import/ImportaContatti.h"
 
 namespace {
 

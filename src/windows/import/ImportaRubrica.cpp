@@ -1,11 +1,11 @@
-#include "import/ImportaRubrica.h"
+#include "windows/import/ImportaRubrica.h"
 
 #include <QScopeGuard>
 #include <vector>
 
-#include "core/Puntatore.h"
-#include "import/bWab.h"
-#include "import/ImportaContatti.h"
+#include "modules/import/bWab.h"
+#include "windows/core/Puntatore.h"
+#include "windows/import/ImportaContatti.h"
 
 void ImportaRubrica() {
     ImportaContatti importa;

@@ -1,4 +1,4 @@
-#include "import/RiquadroCampi.h"
+#include "windows/import/RiquadroCampi.h"
 
 #include <algorithm>
 #include <QAbstractItemView>

@@ -3,7 +3,7 @@
 #include <array>
 #include <QWidget>
 
-#include "import/campi.h"
+#include "modules/import/campi.h"
 
 class QComboBox;
 class QGridLayout;

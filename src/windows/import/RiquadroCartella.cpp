@@ -1,14 +1,14 @@
-#include "import/RiquadroCartella.h"
+#include "windows/import/RiquadroCartella.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "core/Evento.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
-#include "shell/bTheme.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/bTheme.h"
 
 RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent)
     : QWidget(parent),

@@ -3,7 +3,7 @@
 #include <array>
 #include <QWidget>
 
-#include "import/cartella.h"
+#include "windows/import/cartella.h"
 
 class QLabel;
 class QLineEdit;

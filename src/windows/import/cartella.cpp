@@ -1,14 +1,14 @@
-#include "import/cartella.h"
+#include "windows/import/cartella.h"
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "core/Puntatore.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/store/nodo.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/nodo.h"
+#include "windows/core/Puntatore.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
 
 void cartella::senzaGuardia(const std::function<void()>& istruzione) {
     istruzione();

@@ -1,13 +1,13 @@
-#include "import/disposizione.h"
+#include "windows/import/disposizione.h"
 
 #include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
-#include "import/RiquadroCampi.h"
-#include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
+#include "windows/import/RiquadroCampi.h"
+#include "windows/import/RiquadroCartella.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "import/frmImpDB.h"
+#include "windows/import/frmImpDB.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -6,15 +6,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "core/Evento.h"
-#include "import/disposizione.h"
-#include "import/RiquadroCampi.h"
-#include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
-#include "shell/bTheme.h"
+#include "windows/core/Evento.h"
+#include "windows/import/disposizione.h"
+#include "windows/import/RiquadroCampi.h"
+#include "windows/import/RiquadroCartella.h"
+#include "windows/shell/bTheme.h"
 
 frmImpDB::frmImpDB(QWidget* parent)
     : QDialog(parent),

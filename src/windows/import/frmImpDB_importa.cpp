@@ -3,17 +3,17 @@
 #include <QLineEdit>
 #include <QScopeGuard>
 
-#include "core/bFunctions.h"
-#include "core/Fallimento.h"
-#include "core/Puntatore.h"
-#include "import/frmImpDB.h"
-#include "import/RiquadroCampi.h"
-#include "import/RiquadroCartella.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/MessageDialog.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Puntatore.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/RiquadroCampi.h"
+#include "windows/import/RiquadroCartella.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "import/frmImpTXT.h"
+#include "windows/import/frmImpTXT.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -7,13 +7,9 @@
 #include <QPushButton>
 #include <QScopeGuard>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Puntatore.h"
-#include "import/disposizione.h"
-#include "import/RigaTesto.h"
-#include "import/RiquadroCampi.h"
-#include "import/RiquadroCartella.h"
+#include "modules/core/bFunctions.h"
+#include "modules/import/RigaTesto.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/text/TextFile.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/Controls.h"
@@ -22,8 +18,12 @@
 #include "platform/ui/FileDrop.h"
 #include "platform/ui/LineEdit.h"
 #include "platform/ui/SeparatorEdit.h"
-#include "shell/bTheme.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
+#include "windows/import/disposizione.h"
+#include "windows/import/RiquadroCampi.h"
+#include "windows/import/RiquadroCartella.h"
+#include "windows/shell/bTheme.h"
 
 frmImpTXT::frmImpTXT(QWidget* parent)
     : QDialog(parent),

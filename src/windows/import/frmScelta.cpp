@@ -1,14 +1,14 @@
-#include "import/frmScelta.h"
+#include "windows/import/frmScelta.h"
 
 #include <QCloseEvent>
 #include <QPushButton>
 
-#include "core/Evento.h"
-#include "import/disposizione.h"
-#include "import/RiquadroCartella.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
-#include "shell/bTheme.h"
+#include "windows/core/Evento.h"
+#include "windows/import/disposizione.h"
+#include "windows/import/RiquadroCartella.h"
+#include "windows/shell/bTheme.h"
 
 frmScelta::frmScelta(QWidget* parent)
     : QDialog(parent),

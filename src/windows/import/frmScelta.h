@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-#include "import/cartella.h"
+#include "windows/import/cartella.h"
 
 class QPushButton;
 class RiquadroCartella;

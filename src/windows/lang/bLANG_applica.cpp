@@ -1,13 +1,13 @@
-#include "lang/bLANG_applica.h"
+#include "windows/lang/bLANG_applica.h"
 
 #include <QScopeGuard>
 
-#include "core/Finestre.h"
-#include "lang/bLANG_chiavi.h"
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
+#include "windows/entry/Finestre.h"
+#include "windows/lang/bLANG_chiavi.h"
+#include "windows/shell/frmMain.h"
 
 namespace {
 

@@ -1,24 +1,24 @@
-#include "lang/bLANG_chiavi.h"
+#include "windows/lang/bLANG_chiavi.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 
-#include "accounts/frmAccount.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "import/campi.h"
-#include "import/frmImpDB.h"
-#include "import/frmImpTXT.h"
-#include "import/frmScelta.h"
-#include "lang/bLANG_chiavi_barre.h"
-#include "lang/bVAR_elenco.h"
-#include "message/frmPropBody.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/campi.h"
+#include "modules/lang/bVAR_elenco.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
-#include "send/frmInvia.h"
-#include "store/frmDestinatario.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/entry/Finestre.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/frmImpTXT.h"
+#include "windows/import/frmScelta.h"
+#include "windows/lang/bLANG_chiavi_barre.h"
+#include "windows/message/frmPropBody.h"
+#include "windows/send/frmInvia.h"
+#include "windows/store/frmDestinatario.h"
 
 namespace {
 

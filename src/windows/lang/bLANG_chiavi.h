@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "lang/bLANG.h"
+#include "modules/lang/bLANG.h"
 
 /// The keys of the language file and what each of them sets: a text of bVAR, or one property of one control
 /// of a window. A window that a key names is created by the first text that arrives for it.

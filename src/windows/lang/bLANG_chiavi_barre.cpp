@@ -1,11 +1,11 @@
-#include "lang/bLANG_chiavi_barre.h"
+#include "windows/lang/bLANG_chiavi_barre.h"
 
-#include "core/Finestre.h"
-#include "message/frmEditor.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/TabStrip.h"
-#include "shell/frmMain.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmEditor.h"
+#include "windows/shell/frmMain.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <QHash>
 
-#include "lang/bLANG.h"
+#include "modules/lang/bLANG.h"
 
 namespace bLANG {
 

@@ -1,4 +1,4 @@
-#include "message/frmAllegati.h"
+#include "windows/message/frmAllegati.h"
 
 #include <QFileInfo>
 #include <QHeaderView>
@@ -8,12 +8,12 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "message/frmEditor.h"
+#include "modules/core/bFunctions.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmEditor.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
-#include "message/frmColor.h"
+#include "windows/message/frmColor.h"
 
 #include <QVBoxLayout>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "message/frmEditor.h"
+#include "modules/core/bFunctions.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/CommandBars.h"
-#include "shell/bTheme.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmEditor.h"
+#include "windows/shell/bTheme.h"
 
 frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexagon(this)) {
     RilevaTema(this);

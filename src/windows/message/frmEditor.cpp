@@ -1,14 +1,12 @@
-#include "message/frmEditor.h"
+#include "windows/message/frmEditor.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QTreeWidget>
 #include <QWindow>
 
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
-#include "core/Posizione.h"
-#include "message/frmAllegati.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
@@ -16,7 +14,9 @@
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 #include "platform/ui/WindowOwner.h"
-#include "shell/bTheme.h"
+#include "windows/entry/Posizione.h"
+#include "windows/message/frmAllegati.h"
+#include "windows/shell/bTheme.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <vector>
 
-#include "message/CopiaRecupero.h"
-#include "message/MessaggioMss.h"
+#include "modules/message/CopiaRecupero.h"
+#include "modules/message/MessaggioMss.h"
 #include "platform/html/HtmlView.h"
 #include "platform/ui/DockPanes.h"
 

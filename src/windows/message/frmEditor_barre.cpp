@@ -7,12 +7,12 @@
 #include <QToolButton>
 #include <vector>
 
-#include "core/Evento.h"
-#include "message/frmColor.h"
-#include "message/frmEditor.h"
-#include "message/variabili.h"
+#include "modules/message/variabili.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/core/Evento.h"
+#include "windows/message/frmColor.h"
+#include "windows/message/frmEditor.h"
 
 namespace {
 

@@ -2,16 +2,16 @@
 #include <algorithm>
 #include <array>
 
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "message/frmAllegati.h"
-#include "message/frmEditor.h"
-#include "message/frmEditor_comandi.h"
-#include "message/frmPropBody.h"
-#include "message/variabili.h"
+#include "modules/core/Fallimento.h"
+#include "modules/message/variabili.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmAllegati.h"
+#include "windows/message/frmEditor.h"
+#include "windows/message/frmEditor_comandi.h"
+#include "windows/message/frmPropBody.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // What the design view leaves to windows: image, link, properties of an element, search.
-#include "message/frmEditor.h"
-#include "message/variabili.h"
+#include "modules/message/variabili.h"
 #include "platform/ui/ElementDialog.h"
 #include "platform/ui/FindDialog.h"
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/message/frmEditor.h"
 
 void frmEditor::DialogoImmagine() {
     const auto scelta = DHTML->selectedImage();

@@ -4,12 +4,12 @@
 #include <QTabBar>
 #include <utility>
 
-#include "core/Evento.h"
-#include "message/frmEditor.h"
-#include "message/frmEditor_comandi.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/core/Evento.h"
+#include "windows/message/frmEditor.h"
+#include "windows/message/frmEditor_comandi.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 // The document and its file.
-#include "core/bFunctions.h"
-#include "core/Fallimento.h"
-#include "message/frmAllegati.h"
-#include "message/frmEditor.h"
-#include "message/MessaggioMss.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
+#include "modules/message/MessaggioMss.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/message/frmAllegati.h"
+#include "windows/message/frmEditor.h"
 
 namespace {
 

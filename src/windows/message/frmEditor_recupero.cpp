@@ -4,15 +4,15 @@
 #include <QPointer>
 #include <utility>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Fallimento.h"
-#include "message/frmEditor.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/core/Evento.h"
+#include "windows/message/frmEditor.h"
 
 void frmEditor::CollegaCopia() {
     tempoCopia.setObjectName("tempoCopia");

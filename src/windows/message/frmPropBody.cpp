@@ -1,21 +1,21 @@
-#include "message/frmPropBody.h"
+#include "windows/message/frmPropBody.h"
 
 #include <array>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "message/frmEditor.h"
+#include "modules/core/bFunctions.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/SourceEdit.h"
-#include "shell/bTheme.h"
-#include "shell/SchedaProprieta.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/frmEditor.h"
+#include "windows/shell/bTheme.h"
+#include "windows/shell/SchedaProprieta.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "send/Accettati_avviso.h"
+#include "windows/send/Accettati_avviso.h"
 
+#include "modules/send/Accettati.h"
 #include "platform/ui/MessageDialog.h"
-#include "send/Accettati.h"
 
 void AvvisaAccettatiScartati() {
     const QStringList scartati = accettati().takeSetAside();

@@ -1,4 +1,4 @@
-#include "send/frmInvia.h"
+#include "windows/send/frmInvia.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -10,10 +10,10 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "lang/bVAR.h"
-#include "message/MessaggioMss.h"
+#include "modules/core/bGlobal.h"
+#include "modules/lang/bVAR.h"
+#include "modules/message/MessaggioMss.h"
+#include "modules/send/Accettati.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/Controls.h"
@@ -23,9 +23,9 @@
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/Accettati.h"
-#include "shell/bTheme.h"
-#include "store/griglia.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/bTheme.h"
+#include "windows/store/griglia.h"
 
 frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
     setObjectName("frmInvia");

@@ -3,11 +3,11 @@
 #include <optional>
 #include <QDialog>
 
-#include "accounts/AccountFile.h"
-#include "core/Fallimento.h"
+#include "modules/accounts/AccountFile.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/Limiti.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/mail/RunLock.h"
-#include "send/Limiti.h"
 
 class QCheckBox;
 class QComboBox;

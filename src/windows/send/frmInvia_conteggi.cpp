@@ -5,7 +5,7 @@
 #include "platform/system/Clock.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/frmInvia.h"
+#include "windows/send/frmInvia.h"
 
 namespace {
 

@@ -9,11 +9,15 @@
 #include <tuple>
 #include <utility>
 
-#include "core/bFunctions.h"
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "lang/bVAR.h"
-#include "message/MessaggioMss.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/lang/bVAR.h"
+#include "modules/message/MessaggioMss.h"
+#include "modules/send/Accettati.h"
+#include "modules/send/Porta.h"
+#include "modules/send/Selezione.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Connection.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/mail/DkimSigner.h"
@@ -21,12 +25,8 @@
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/Accettati.h"
-#include "send/Accettati_avviso.h"
-#include "send/frmInvia.h"
-#include "send/Porta.h"
-#include "send/Selezione.h"
-#include "store/RecordsetDB.h"
+#include "windows/send/Accettati_avviso.h"
+#include "windows/send/frmInvia.h"
 
 using ui::MessageDialog;
 

@@ -2,10 +2,10 @@
 #include <QComboBox>
 #include <QTimer>
 
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/ui/FileDialog.h"
-#include "send/frmInvia.h"
+#include "windows/send/frmInvia.h"
 
 void frmInvia::ImpostaPausa(Prosegui& prosegui) {
     prosegui([&] { tmr->setInterval(MillisecondiPausa(cmbPausa->currentText())); });

@@ -7,17 +7,17 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "core/bGlobal.h"
+#include "modules/core/bGlobal.h"
+#include "modules/send/bMXQuery.h"
+#include "modules/send/Personalizza.h"
+#include "modules/send/Porta.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
-#include "send/bMXQuery.h"
-#include "send/frmInvia.h"
-#include "send/Personalizza.h"
-#include "send/Porta.h"
-#include "store/RecordsetDB.h"
+#include "windows/send/frmInvia.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "shell/Insegna.h"
+#include "windows/shell/Insegna.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "core/bGlobal.h"
-#include "core/Prodotto.h"
-#include "shell/bTheme.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Prodotto.h"
+#include "windows/shell/bTheme.h"
 
 namespace {
 

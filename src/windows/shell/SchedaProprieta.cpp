@@ -1,4 +1,4 @@
-#include "shell/SchedaProprieta.h"
+#include "windows/shell/SchedaProprieta.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -7,7 +7,7 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
-#include "shell/bTheme.h"
+#include "windows/shell/bTheme.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "shell/bTheme.h"
+#include "windows/shell/bTheme.h"
 
 #include <array>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "core/bGlobal.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ui/Contrast.h"
 
 namespace {

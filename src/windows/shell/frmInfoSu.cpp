@@ -1,17 +1,17 @@
-#include "shell/frmInfoSu.h"
+#include "windows/shell/frmInfoSu.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "core/bFunctions.h"
-#include "core/Evento.h"
-#include "core/Prodotto.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Prodotto.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/LinkLabel.h"
-#include "shell/bTheme.h"
-#include "shell/Insegna.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/bTheme.h"
+#include "windows/shell/Insegna.h"
 
 frmInfoSu::frmInfoSu(QWidget* parent) : QDialog(parent) {
     setObjectName("frmInfoSu");

@@ -6,14 +6,14 @@
 #include <QToolBar>
 #include <vector>
 
-#include "core/Evento.h"
 #include "platform/system/Clock.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DataGrid.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/griglia.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

@@ -1,19 +1,19 @@
 // Opening another recipient database and saving a copy of the current one.
 #include <QFile>
 
-#include "core/bFunctions.h"
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "core/Puntatore.h"
-#include "lang/bVAR.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
+#include "modules/store/percorsoDBase.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/percorsoDBase.h"
+#include "windows/core/Puntatore.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "shell/frmSplash.h"
+#include "windows/shell/frmSplash.h"
 
 #include <QVBoxLayout>
 
-#include "core/CentraForm.h"
-#include "core/Prodotto.h"
-#include "shell/bTheme.h"
-#include "shell/Insegna.h"
+#include "modules/core/Prodotto.h"
+#include "windows/core/CentraForm.h"
+#include "windows/shell/bTheme.h"
+#include "windows/shell/Insegna.h"
 
 frmSplash::frmSplash()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |

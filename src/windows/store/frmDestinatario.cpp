@@ -1,4 +1,4 @@
-#include "store/frmDestinatario.h"
+#include "windows/store/frmDestinatario.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -6,14 +6,14 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include "core/Evento.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/PropertyList.h"
-#include "shell/bTheme.h"
-#include "shell/SchedaProprieta.h"
-#include "store/frmDestinatario_campi.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Evento.h"
+#include "windows/shell/bTheme.h"
+#include "windows/shell/SchedaProprieta.h"
+#include "windows/store/frmDestinatario_campi.h"
 
 frmDestinatario::frmDestinatario(QWidget* parent)
     : QDialog(parent),

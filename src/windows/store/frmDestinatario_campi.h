@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 
 /// One text of a recipient, as the recipient form shows it.
 struct CampoDestinatario {

@@ -1,19 +1,19 @@
 // Checking and saving the recipient.
 #include <QLineEdit>
 
-#include "core/bFunctions.h"
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/Accettati.h"
 #include "platform/ado/Command.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
-#include "send/Accettati.h"
-#include "shell/frmMain.h"
-#include "store/frmDestinatario.h"
-#include "store/frmDestinatario_campi.h"
-#include "store/griglia.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmDestinatario.h"
+#include "windows/store/frmDestinatario_campi.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

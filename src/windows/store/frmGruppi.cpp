@@ -1,18 +1,18 @@
-#include "store/frmGruppi.h"
+#include "windows/store/frmGruppi.h"
 
 #include <QVBoxLayout>
 
-#include "core/bFunctions.h"
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "core/Puntatore.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/bGlobal.h"
+#include "modules/store/nodo.h"
+#include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
-#include "store/griglia.h"
-#include "store/nodo.h"
-#include "store/Schema.h"
+#include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

@@ -1,22 +1,22 @@
-#include "store/frmGruppi_comandi.h"
+#include "windows/store/frmGruppi_comandi.h"
 
 #include <QScopeGuard>
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "core/Puntatore.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/Accettati.h"
+#include "modules/store/nodo.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
-#include "send/Accettati.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/griglia.h"
-#include "store/nodo.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Puntatore.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

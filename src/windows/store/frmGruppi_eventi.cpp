@@ -1,14 +1,14 @@
 // What the user does to the tree.
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
+#include "modules/core/bGlobal.h"
+#include "modules/store/nodo.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/ui/CommandBars.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/griglia.h"
-#include "store/nodo.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

@@ -2,14 +2,14 @@
 // there, Esc takes the mark back.
 #include <QShortcut>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/griglia.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

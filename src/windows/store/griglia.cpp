@@ -1,23 +1,23 @@
-#include "store/griglia.h"
+#include "windows/store/griglia.h"
 
 #include <QScopeGuard>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "core/Puntatore.h"
-#include "lang/bVAR.h"
+#include "modules/core/bGlobal.h"
+#include "modules/lang/bVAR.h"
+#include "modules/send/Accettati.h"
+#include "modules/store/nodo.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
-#include "send/Accettati.h"
-#include "shell/frmMain.h"
-#include "store/frmGruppi.h"
-#include "store/nodo.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmGruppi.h"
 
 namespace {
 

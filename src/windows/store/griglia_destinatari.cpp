@@ -2,16 +2,16 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
+#include "modules/store/nodo.h"
 #include "platform/ado/Command.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
-#include "store/frmDestinatario.h"
-#include "store/griglia.h"
-#include "store/nodo.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmDestinatario.h"
+#include "windows/store/griglia.h"
 
 namespace {
 

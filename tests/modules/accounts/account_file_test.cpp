@@ -1,9 +1,9 @@
-#include "accounts/AccountFile.h"
+#include "modules/accounts/AccountFile.h"
 
 #include <QTemporaryDir>
 
-#include "accounts/bBinary.h"
-#include "core/Fallimento.h"
+#include "modules/accounts/bBinary.h"
+#include "modules/core/Fallimento.h"
 #include "support/Vectors.h"
 
 namespace {

@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "accounts/AccountFile.h"
-#include "accounts/bBinary.h"
+#include "modules/accounts/AccountFile.h"
+#include "modules/accounts/bBinary.h"
 #include "support/Vectors.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "accounts/bBinary.h"
+#include "modules/accounts/bBinary.h"
 
 #include "support/Vectors.h"
 

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-#include "core/bError.h"
+#include "modules/core/bError.h"
 #include "platform/system/Clock.h"
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"

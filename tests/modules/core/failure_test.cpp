@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/Errori.h"
-#include "core/Fallimento.h"
+#include "modules/core/Errori.h"
+#include "modules/core/Fallimento.h"
 
 TEST(Failure, UnguardedStatementThrowsNumberAndText) {
     try {

@@ -1,4 +1,4 @@
-#include "core/bFunctions.h"
+#include "modules/core/bFunctions.h"
 
 #include <unistd.h>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "core/Guasti.h"
+#include "modules/core/Guasti.h"
 
 #include <sys/stat.h>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/bImpostazioni.h"
+#include "modules/core/bImpostazioni.h"
 #include "platform/system/ProgramFolder.h"
 
 TEST(Paths, EndInOneSeparatorSoThatNamesAreAppended) {

@@ -1,8 +1,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "core/bFunctions.h"
-#include "core/Fallimento.h"
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "support/JetTables.h"

@@ -1,5 +1,5 @@
 // What an entry of the address book becomes on its way into a row.
-#include "import/bWab.h"
+#include "modules/import/bWab.h"
 
 #include <QTemporaryDir>
 

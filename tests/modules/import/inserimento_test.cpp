@@ -1,14 +1,14 @@
 // What the imports share: the statement, the limits, and the rows on disk.
-#include "import/Inserimento.h"
+#include "modules/import/Inserimento.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
 
-#include "core/bGlobal.h"
-#include "core/Fallimento.h"
-#include "import/campi.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/campi.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
 #include "support/JetChecker.h"

@@ -1,10 +1,10 @@
 // One line of a delimited text file, and the files whose statements are known.
-#include "import/RigaTesto.h"
+#include "modules/import/RigaTesto.h"
 
 #include <QCryptographicHash>
 #include <QTemporaryDir>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/text/TextFile.h"
 #include "support/Vectors.h"
 

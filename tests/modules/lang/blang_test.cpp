@@ -1,12 +1,12 @@
 // The language files: every sample of tests/data/lang, and what a reader may meet in a file that was edited
 // by hand. A sample tells the entries of the list, the numbers, the texts that arrive and whether the reading
 // fails.
-#include "lang/bLANG.h"
+#include "modules/lang/bLANG.h"
 
 #include <QSet>
 #include <QTemporaryDir>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 

@@ -1,4 +1,4 @@
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 
 #include <gtest/gtest.h>
 

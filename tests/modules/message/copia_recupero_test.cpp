@@ -1,6 +1,6 @@
 // Rescue copies as files: what they hold, who may read and take them, what becomes of damaged and refused
 // ones.
-#include "message/CopiaRecupero.h"
+#include "modules/message/CopiaRecupero.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -8,8 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/bImpostazioni.h"
-#include "core/Fallimento.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace {

@@ -1,9 +1,9 @@
-#include "message/MessaggioMss.h"
+#include "modules/message/MessaggioMss.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "core/Fallimento.h"
+#include "modules/core/Fallimento.h"
 #include "support/Vectors.h"
 
 namespace {

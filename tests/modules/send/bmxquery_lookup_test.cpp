@@ -1,6 +1,6 @@
 #include <QTemporaryDir>
 
-#include "send/bmxquery_server.h"
+#include "modules/send/bmxquery_server.h"
 
 using namespace testing_support;
 

@@ -1,5 +1,5 @@
+#include "modules/send/bmxquery_state.h"
 #include "platform/text/AnsiCodec.h"
-#include "send/bmxquery_state.h"
 
 namespace {
 

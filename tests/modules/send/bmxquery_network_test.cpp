@@ -2,7 +2,7 @@
 
 #include <QDir>
 
-#include "send/bmxquery_server.h"
+#include "modules/send/bmxquery_server.h"
 
 using namespace std::chrono_literals;
 using namespace testing_support;

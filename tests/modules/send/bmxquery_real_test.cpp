@@ -1,7 +1,7 @@
 // The look-up against real name servers on port 53, found through an /etc/resolv.conf of the test's own.
 #include <memory>
 
-#include "send/bmxquery_state.h"
+#include "modules/send/bmxquery_state.h"
 #include "support/NameServer.h"
 #include "support/PrivateNetwork.h"
 

@@ -2,8 +2,8 @@
 
 #include <chrono>
 
-#include "dns/UdpResponder.h"
-#include "send/bmxquery_state.h"
+#include "modules/send/bmxquery_state.h"
+#include "platform/dns/UdpResponder.h"
 
 /// Far beyond what a test may last: whoever waits for its end fails.
 inline constexpr auto senzaFine = std::chrono::minutes(60);

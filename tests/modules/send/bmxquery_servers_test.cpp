@@ -1,6 +1,6 @@
 #include <QTemporaryDir>
 
-#include "send/bmxquery_state.h"
+#include "modules/send/bmxquery_state.h"
 
 namespace {
 

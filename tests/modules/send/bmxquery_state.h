@@ -5,8 +5,8 @@
 #include <QJsonObject>
 #include <utility>
 
-#include "core/Fallimento.h"
-#include "send/bMXQuery.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/bMXQuery.h"
 #include "support/Vectors.h"
 
 /// Every test of the look-up begins like a new process.

@@ -1,4 +1,4 @@
-#include "send/Limiti.h"
+#include "modules/send/Limiti.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "send/Personalizza.h"
+#include "modules/send/Personalizza.h"
 
 #include <map>
 #include <QTemporaryDir>

@@ -1,11 +1,11 @@
-#include "store/percorsoDBase.h"
+#include "modules/store/percorsoDBase.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 

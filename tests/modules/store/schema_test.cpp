@@ -1,4 +1,4 @@
-#include "store/Schema.h"
+#include "modules/store/Schema.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <map>
 
-#include "ado/TestDatabase.h"
-#include "jet/OutsideReaders.h"
+#include "platform/ado/TestDatabase.h"
+#include "platform/jet/OutsideReaders.h"
 #include "support/MemoryFolder.h"
 
 namespace ado {

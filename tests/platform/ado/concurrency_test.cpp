@@ -4,8 +4,8 @@
 #include <chrono>
 #include <functional>
 
-#include "ado/TestDatabase.h"
 #include "platform/ado/GroupedInserts.h"
+#include "platform/ado/TestDatabase.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Every kind of SELECT on every table of databases made by other programs gives what mdbtools reads there.
 #include <QDate>
 
-#include "ado/Samples.h"
+#include "platform/ado/Samples.h"
 #include "platform/jet/GeneralOrder.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // INSERT, UPDATE and DELETE of every shape on every table of databases made by other programs: mdbtools reads
 // what has to stand there afterwards and the page checker finds nothing; or the statement is refused and the
 // file stays as it was.
-#include "ado/Samples.h"
+#include "platform/ado/Samples.h"
 #include "support/JetChecker.h"
 
 namespace {

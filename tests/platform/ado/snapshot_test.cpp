@@ -1,6 +1,6 @@
 #include "platform/ado/Snapshot.h"
 
-#include "ado/TestDatabase.h"
+#include "platform/ado/TestDatabase.h"
 
 namespace ado {
 

@@ -2,9 +2,9 @@
 // jet::Database, which this process's locks keep out like any other program's.
 #include <optional>
 
-#include "ado/TestDatabase.h"
 #include "platform/ado/GroupedInserts.h"
 #include "platform/ado/Snapshot.h"
+#include "platform/ado/TestDatabase.h"
 #include "platform/ado/Waiting.h"
 #include "support/LockedFile.h"
 

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "contacts/BookFixture.h"
+#include "platform/contacts/BookFixture.h"
 #include "support/Vectors.h"
 
 using contacts::AddressBook;

@@ -9,8 +9,8 @@
 #include <QTemporaryDir>
 #include <thread>
 
-#include "contacts/BookFixture.h"
-#include "contacts/card_printer.h"
+#include "platform/contacts/BookFixture.h"
+#include "platform/contacts/card_printer.h"
 
 using contacts::findMailClientBook;
 using contacts::readMailClientBook;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "contacts/card_printer.h"
+#include "platform/contacts/card_printer.h"
 
 using contacts::Card;
 using contacts::readVCards;

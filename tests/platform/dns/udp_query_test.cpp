@@ -5,7 +5,7 @@
 #include <chrono>
 #include <QDir>
 
-#include "dns/UdpResponder.h"
+#include "platform/dns/UdpResponder.h"
 
 using namespace std::chrono_literals;
 using namespace testing_support;

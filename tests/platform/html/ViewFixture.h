@@ -11,7 +11,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "html/SureView.h"
+#include "platform/html/SureView.h"
 
 /// Where an element is drawn, in the view's places.
 inline QRect placeOf(const HtmlView& view, const QString& selector) {

@@ -1,6 +1,6 @@
 #include <QClipboard>
 
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // Every command by its number, on a document with a selection, and its undoing.
 class ViewCommands : public QObject {

@@ -1,9 +1,9 @@
 #include <QDir>
 #include <QFile>
 
-#include "html/LargeNewsletter.h"
-#include "html/ViewFixture.h"
 #include "platform/html/HtmlDocument.h"
+#include "platform/html/LargeNewsletter.h"
+#include "platform/html/ViewFixture.h"
 #include "platform/text/AnsiCodec.h"
 
 // Newsletters as people really write and paste them: the view and the reader without a browser agree on each.

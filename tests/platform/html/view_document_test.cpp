@@ -1,7 +1,7 @@
 #include <QFile>
 
-#include "html/ViewFixture.h"
 #include "platform/html/HtmlDocument.h"
+#include "platform/html/ViewFixture.h"
 
 class ViewDocument : public QObject {
     Q_OBJECT

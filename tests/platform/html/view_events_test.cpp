@@ -2,7 +2,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // What the view tells of the user's doings.
 class ViewEvents : public QObject {

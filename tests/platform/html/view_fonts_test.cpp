@@ -1,6 +1,6 @@
 #include <QFontInfo>
 
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // The font of text that names none: shown, told, and never in the document unless a command writes it.
 class ViewFonts : public QObject {

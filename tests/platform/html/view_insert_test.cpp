@@ -2,7 +2,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // What comes into a document from outside: fragments, images, links, the clipboard, drops.
 class ViewInsert : public QObject {

@@ -1,4 +1,4 @@
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // The elements around the caret and the page itself, as the dialogs show and change them.
 class ViewPage : public QObject {

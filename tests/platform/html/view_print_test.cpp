@@ -4,8 +4,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "html/ViewFixture.h"
 #include "platform/html/HtmlViewPrintJob.h"
+#include "platform/html/ViewFixture.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 
-#include "html/RemoteMessage.h"
-#include "html/ViewFixture.h"
+#include "platform/html/RemoteMessage.h"
+#include "platform/html/ViewFixture.h"
 
 // A message does nothing but show, and a browser that dies takes nothing along.
 class ViewSafety : public QObject {

@@ -1,6 +1,6 @@
 #include <QRegularExpression>
 
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
 
 // Rows and columns at the caret. Tables are written shortly here: rows by "/", cells by "|", "2x1:" ahead of
 // a cell's text for its column and row span; "." is an empty cell.

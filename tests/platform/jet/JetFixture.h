@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "jet/OutsideReaders.h"
 #include "platform/jet/Database.h"
+#include "platform/jet/OutsideReaders.h"
 #include "platform/Status.h"
 #include "support/JetChecker.h"
 

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/JetText.h"
 #include "platform/jet/Notices.h"
 #include "platform/jet/OsFile.h"

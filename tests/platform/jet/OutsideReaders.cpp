@@ -1,4 +1,4 @@
-#include "jet/OutsideReaders.h"
+#include "platform/jet/OutsideReaders.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 // Auto-numbers of files whose counter lies below the greatest number in use, as some real ones do.
 #include <limits>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
 using namespace jet;

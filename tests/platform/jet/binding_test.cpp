@@ -3,9 +3,9 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
-#include "jet/JournalFixture.h"
 #include "platform/jet/FileRights.h"
 #include "platform/jet/Format.h"
+#include "platform/jet/JournalFixture.h"
 #include "platform/jet/JournalFormat.h"
 
 class BindingTest : public JournalTest {

@@ -1,6 +1,6 @@
 // The page checker itself: it finds nothing in sound files and something in each kind of damage.
-#include "jet/JetFixture.h"
 #include "platform/jet/Format.h"
+#include "platform/jet/JetFixture.h"
 
 using namespace jet;
 

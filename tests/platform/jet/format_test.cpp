@@ -3,10 +3,10 @@
 #include <QFile>
 #include <QProcess>
 
-#include "jet/JetFixture.h"
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Failure.h"
 #include "platform/jet/Header.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/JetText.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/ValueCodec.h"

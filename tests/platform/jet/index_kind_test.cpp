@@ -1,7 +1,7 @@
 // Indexes of every kind that a user's table may carry, on tables made for the purpose.
 #include <random>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
 using namespace jet;

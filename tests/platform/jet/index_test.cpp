@@ -3,10 +3,10 @@
 #include <numeric>
 #include <random>
 
-#include "jet/JetFixture.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/IndexTree.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/UsageMap.h"
 

@@ -3,8 +3,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "jet/JournalFixture.h"
 #include "platform/jet/Journal.h"
+#include "platform/jet/JournalFixture.h"
 
 class JournalRoomTest : public JournalTest {
   protected:

@@ -2,7 +2,7 @@
 // them the file holds exactly the state before or after the transaction.
 #include <fcntl.h>
 
-#include "jet/JournalFixture.h"
+#include "platform/jet/JournalFixture.h"
 
 TEST_F(JournalTest, FailureOfAnyStepLeavesTheStateBefore) {
     learnAfter();

@@ -1,10 +1,10 @@
 // Keys of index entries: each one that stands in a file made by other programs is made again from its row.
-#include "jet/JetFixture.h"
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/Failure.h"
 #include "platform/jet/GeneralOrder.h"
 #include "platform/jet/IndexPage.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/JetText.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/RowStore.h"

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <random>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 
 using namespace jet;
 

@@ -8,7 +8,7 @@
 #include <thread>
 #include <utility>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/OsFile.h"
 #include "support/HotJournal.h"
 

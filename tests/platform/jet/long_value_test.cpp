@@ -1,7 +1,7 @@
 // Memo and OLE values: in the row, in one row elsewhere, in a chain of rows.
-#include "jet/JetFixture.h"
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/Row.h"
 #include "platform/jet/RowStore.h"
 #include "platform/jet/UsageMap.h"

@@ -1,7 +1,7 @@
 // Memo values are written: in the row, in one row elsewhere, in a chain of rows.
 #include <random>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/UsageMap.h"
 #include "support/JetTables.h"
 

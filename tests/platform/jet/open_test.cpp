@@ -6,9 +6,9 @@
 #include <bit>
 #include <random>
 
-#include "jet/JetFixture.h"
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Header.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/JetText.h"
 #include "platform/jet/OsFile.h"
 

@@ -2,7 +2,7 @@
 // sector.
 #include <random>
 
-#include "jet/JournalFixture.h"
+#include "platform/jet/JournalFixture.h"
 
 class PowerTest : public JournalTest {
   protected:

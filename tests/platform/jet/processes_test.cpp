@@ -8,7 +8,7 @@
 #include <random>
 #include <set>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 
 using namespace jet;
 

@@ -1,7 +1,7 @@
 // Required and AllowZeroLength, as the catalogue tells them.
-#include "jet/JetFixture.h"
 #include "platform/jet/ColumnProperties.h"
 #include "platform/jet/DefinitionWriter.h"
+#include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
 using namespace jet;

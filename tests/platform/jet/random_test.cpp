@@ -4,8 +4,8 @@
 #include <random>
 #include <set>
 
-#include "jet/JetFixture.h"
-#include "jet/OutsideReaders.h"
+#include "platform/jet/JetFixture.h"
+#include "platform/jet/OutsideReaders.h"
 
 using namespace jet;
 

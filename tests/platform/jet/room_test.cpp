@@ -1,8 +1,8 @@
 // Room of deleted rows is found again: files do not grow by importing and deleting.
 #include <random>
 
-#include "jet/JetFixture.h"
 #include "platform/jet/Format.h"
+#include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
 using namespace jet;

@@ -1,9 +1,9 @@
 // Files made by other programs: every value is read as an independent reader reads it, and what cannot be
 // kept right is refused. The samples lie outside the sources; where they are missing, each test says so and
 // passes.
-#include "jet/JetFixture.h"
-#include "jet/OutsideReaders.h"
 #include "platform/jet/Header.h"
+#include "platform/jet/JetFixture.h"
+#include "platform/jet/OutsideReaders.h"
 
 using namespace jet;
 

@@ -1,7 +1,7 @@
 // Rows of a table: what is written is what is read, what cannot be kept is refused.
 #include <limits>
 
-#include "jet/JetFixture.h"
+#include "platform/jet/JetFixture.h"
 #include "support/HotJournal.h"
 
 using namespace jet;

@@ -2,9 +2,9 @@
 #include <random>
 #include <set>
 
-#include "jet/JetFixture.h"
 #include "platform/jet/DataPages.h"
 #include "platform/jet/Failure.h"
+#include "platform/jet/JetFixture.h"
 #include "platform/jet/UsageMap.h"
 
 using namespace jet;

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "mail/compose_support.h"
+#include "platform/mail/compose_support.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/QuotedPrintable.h"
 

@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "mail/compose_support.h"
+#include "platform/mail/compose_support.h"
 
 using namespace compose;
 

@@ -5,7 +5,7 @@
 #include <QSet>
 #include <QTimeZone>
 
-#include "mail/compose_support.h"
+#include "platform/mail/compose_support.h"
 #include "platform/mail/HeaderText.h"
 #include "platform/mail/Identity.h"
 #include "platform/mail/Unsubscribe.h"

@@ -1,11 +1,11 @@
 // What becomes of the addresses in a body: made fit to be followed, and listed in the text form.
 #include <gtest/gtest.h>
 
-#include "mail/compose_support.h"
-#include "mail/wire_reader.h"
+#include "platform/mail/compose_support.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/TextPart.h"
 #include "platform/mail/WebAddress.h"
+#include "platform/mail/wire_reader.h"
 
 using compose::plainMessage;
 

@@ -9,9 +9,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "mail/compose_support.h"
-#include "mail/hostile_values.h"
+#include "platform/mail/compose_support.h"
 #include "platform/mail/HeaderText.h"
+#include "platform/mail/hostile_values.h"
 
 using namespace compose;
 

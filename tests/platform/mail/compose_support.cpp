@@ -1,4 +1,4 @@
-#include "mail/compose_support.h"
+#include "platform/mail/compose_support.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-#include "mail/wire_reader.h"
+#include "platform/mail/wire_reader.h"
 
 namespace compose {
 namespace {

@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QString>
 
-#include "mail/compose_support.h"
+#include "platform/mail/compose_support.h"
 
 namespace compose {
 

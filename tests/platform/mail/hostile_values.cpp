@@ -1,4 +1,4 @@
-#include "mail/hostile_values.h"
+#include "platform/mail/hostile_values.h"
 
 #include <QStringList>
 

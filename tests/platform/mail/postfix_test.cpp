@@ -2,10 +2,10 @@
 #include <QMap>
 #include <QTemporaryDir>
 
-#include "mail/dkim_support.h"
-#include "mail/hostile_values.h"
-#include "mail/smtp_fixture.h"
-#include "mail/wire_reader.h"
+#include "platform/mail/dkim_support.h"
+#include "platform/mail/hostile_values.h"
+#include "platform/mail/smtp_fixture.h"
+#include "platform/mail/wire_reader.h"
 #include "support/Postfix.h"
 #include "support/PrivateNetwork.h"
 

@@ -1,5 +1,5 @@
 // What the session does with servers that play by the rules, and with those that do not.
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 

@@ -1,6 +1,6 @@
 // A server that misbehaves at any step of a whole dialogue, with TLS and login: each ending has its one
 // outcome, and the next recipient is served.
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 #include "support/FullPort.h"
 
 using testing_support::FullPort;

@@ -1,5 +1,5 @@
 // A program of its own, since it lasts longer than the half minute for which a connection is kept.
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 

@@ -1,5 +1,5 @@
 // TLS from the start belongs to port 465 alone, so these tests run in a network of their own.
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 #include "support/PrivateNetwork.h"
 
 using testing_support::ScriptedServer;

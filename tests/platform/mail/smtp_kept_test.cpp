@@ -1,5 +1,5 @@
 // Kept connections that turn out dead, and what the first line of the final reply says.
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 

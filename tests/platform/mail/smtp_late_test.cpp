@@ -1,7 +1,7 @@
 // Messages that were given up after their final point: the server may have taken them all the same.
 #include <QTcpServer>
 
-#include "mail/smtp_run_fixture.h"
+#include "platform/mail/smtp_run_fixture.h"
 #include "support/SmtpSink.h"
 
 using testing_support::SmtpSink;

@@ -4,7 +4,7 @@
 #include <QSslConfiguration>
 #include <QTemporaryDir>
 
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;

@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "mail/smtp_run_fixture.h"
+#include "platform/mail/smtp_run_fixture.h"
 
 using mail::DatabaseFile;
 using testing_support::ScriptedServer;

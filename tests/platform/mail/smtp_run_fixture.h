@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 inline const QString database = QStringLiteral("/nessuna/data.mdb");
 inline const QString rossi = QStringLiteral("rossi@example.it");

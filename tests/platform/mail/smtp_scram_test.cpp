@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "mail/scram_server.h"
-#include "mail/smtp_fixture.h"
+#include "platform/mail/scram_server.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 using testing_support::TlsIdentity;

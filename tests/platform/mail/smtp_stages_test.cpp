@@ -1,7 +1,7 @@
 // How long each stage may last. The time-out is a second, what a stage gets at least is scaled down.
 #include <QThread>
 
-#include "mail/smtp_fixture.h"
+#include "platform/mail/smtp_fixture.h"
 
 using testing_support::ScriptedServer;
 

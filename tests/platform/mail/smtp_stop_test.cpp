@@ -2,7 +2,7 @@
 #include <map>
 #include <random>
 
-#include "mail/smtp_run_fixture.h"
+#include "platform/mail/smtp_run_fixture.h"
 #include "support/SmtpSink.h"
 
 using testing_support::SmtpSink;

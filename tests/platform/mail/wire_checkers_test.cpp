@@ -2,9 +2,9 @@
 #include <QSet>
 #include <QTemporaryDir>
 
-#include "mail/dkim_support.h"
-#include "mail/hostile_values.h"
-#include "mail/wire_reader.h"
+#include "platform/mail/dkim_support.h"
+#include "platform/mail/hostile_values.h"
+#include "platform/mail/wire_reader.h"
 
 using namespace compose;
 

@@ -2,9 +2,9 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include "mail/hostile_values.h"
-#include "mail/smtp_fixture.h"
-#include "mail/wire_reader.h"
+#include "platform/mail/hostile_values.h"
+#include "platform/mail/smtp_fixture.h"
+#include "platform/mail/wire_reader.h"
 
 using testing_support::ScriptedServer;
 

@@ -1,4 +1,4 @@
-#include "mail/wire_html.h"
+#include "platform/mail/wire_html.h"
 
 #include <gumbo.h>
 

@@ -4,10 +4,10 @@
 #include <QSet>
 #include <QTemporaryDir>
 
-#include "mail/compose_support.h"
-#include "mail/hostile_values.h"
-#include "mail/wire_reader.h"
+#include "platform/mail/compose_support.h"
+#include "platform/mail/hostile_values.h"
 #include "platform/mail/Unsubscribe.h"
+#include "platform/mail/wire_reader.h"
 
 using namespace compose;
 

@@ -1,11 +1,11 @@
-#include "mail/wire_reader.h"
+#include "platform/mail/wire_reader.h"
 
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 
-#include "mail/wire_html.h"
-#include "mail/wire_text.h"
+#include "platform/mail/wire_html.h"
+#include "platform/mail/wire_text.h"
 
 namespace wire {
 namespace {

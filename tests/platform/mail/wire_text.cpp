@@ -1,4 +1,4 @@
-#include "mail/wire_text.h"
+#include "platform/mail/wire_text.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>

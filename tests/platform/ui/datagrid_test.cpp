@@ -9,9 +9,9 @@
 #include <QToolTip>
 
 #include "platform/ui/DataGrid.h"
+#include "platform/ui/datagrid_support.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/ItemViewAccess.h"
-#include "ui/datagrid_support.h"
 
 using ui::DataGrid;
 

@@ -4,10 +4,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/ui/datagrid_support.h"
 #include "platform/ui/DataGridDrag.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/GroupTree.h"
-#include "ui/datagrid_support.h"
 
 using ui::dragContent;
 using ui::Dragged;

@@ -1,9 +1,9 @@
 // How the account window is opened: by its command, modal over the main window, the same one every time.
 #include <QTimer>
 
-#include "accounts/frmaccount_stage.h"
-#include "core/Finestre.h"
-#include "store/griglia_stage.h"
+#include "windows/accounts/frmaccount_stage.h"
+#include "windows/entry/Finestre.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 

@@ -4,12 +4,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "accounts/frmaccount_stage.h"
-#include "core/Evento.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
 #include "platform/text/AnsiCodec.h"
+#include "windows/accounts/frmaccount_stage.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -1,10 +1,10 @@
 // What the account window shows before anybody touches it: texts, limits, states, colours, order and room.
 #include <QAccessible>
 
-#include "accounts/frmaccount_stage.h"
-#include "core/bGlobal.h"
-#include "shell/bTheme.h"
+#include "modules/core/bGlobal.h"
 #include "support/LookCheck.h"
+#include "windows/accounts/frmaccount_stage.h"
+#include "windows/shell/bTheme.h"
 
 using namespace testing_support;
 

@@ -3,8 +3,8 @@
 #include <QContextMenuEvent>
 #include <QTimer>
 
-#include "accounts/frmaccount_stage.h"
-#include "core/Evento.h"
+#include "windows/accounts/frmaccount_stage.h"
+#include "windows/core/Evento.h"
 
 using namespace testing_support;
 

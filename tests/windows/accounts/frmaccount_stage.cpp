@@ -1,12 +1,12 @@
-#include "accounts/frmaccount_stage.h"
+#include "windows/accounts/frmaccount_stage.h"
 
 #include <QFile>
 #include <QLocale>
 
-#include "accounts/bBinary.h"
-#include "core/Evento.h"
-#include "lang/bVAR.h"
+#include "modules/accounts/bBinary.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ui/Unattended.h"
+#include "windows/core/Evento.h"
 
 namespace testing_support {
 

@@ -10,12 +10,12 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "accounts/frmAccount.h"
-#include "accounts/frmAccount_elenco.h"
-#include "core/Prodotto.h"
+#include "modules/core/Prodotto.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/MessageDialog.h"
 #include "support/SampleFolder.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/accounts/frmAccount_elenco.h"
 
 namespace testing_support {
 

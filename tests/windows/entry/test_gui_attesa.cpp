@@ -10,9 +10,9 @@
 #include "platform/ado/Command.h"
 #include "platform/ado/Waiting.h"
 #include "platform/ui/DatabaseWait.h"
-#include "store/griglia_stage.h"
 #include "support/LockedFile.h"
 #include "support/SendStage.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using std::chrono::milliseconds;

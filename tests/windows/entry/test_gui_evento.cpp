@@ -4,12 +4,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
+#include "modules/core/bGlobal.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/text/TextFile.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/Unattended.h"
+#include "windows/core/Evento.h"
 
 using ui::MessageDialog;
 

@@ -3,10 +3,10 @@
 #include <QScopeGuard>
 #include <QTimer>
 
-#include "core/Evento.h"
-#include "import/contatti_stage.h"
-#include "import/imptxt_stage.h"
 #include "platform/jet/OsFile.h"
+#include "windows/core/Evento.h"
+#include "windows/import/contatti_stage.h"
+#include "windows/import/imptxt_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -4,13 +4,13 @@
 #include <QAccessible>
 #include <QScopedValueRollback>
 
-#include "core/Finestre.h"
-#include "core/Prodotto.h"
-#include "lang/bVAR.h"
+#include "modules/core/Prodotto.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ui/Desktop.h"
-#include "shell/frmMain.h"
 #include "support/LookCheck.h"
 #include "support/SendStage.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
 
 using namespace testing_support;
 

@@ -1,11 +1,11 @@
 #include <QAction>
 #include <QFile>
 
-#include "accounts/bBinary.h"
-#include "core/Finestre.h"
+#include "modules/accounts/bBinary.h"
 #include "platform/ui/CommandBars.h"
-#include "shell/frmMain.h"
 #include "support/SendStage.h"
+#include "windows/entry/Finestre.h"
+#include "windows/shell/frmMain.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -2,10 +2,10 @@
 #include <QFile>
 #include <QTest>
 
-#include "core/bGlobal.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ui/Contrast.h"
-#include "shell/bTheme.h"
 #include "support/ColorContrast.h"
+#include "windows/shell/bTheme.h"
 
 using testing_support::contrast;
 

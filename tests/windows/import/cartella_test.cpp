@@ -1,9 +1,9 @@
 // The small window that asks for the group, and what the choice of the group does.
-#include "import/cartella.h"
+#include "windows/import/cartella.h"
 
-#include "import/frmScelta.h"
-#include "import/import_stage.h"
-#include "store/RecordsetDB.h"
+#include "modules/store/RecordsetDB.h"
+#include "windows/import/frmScelta.h"
+#include "windows/import/import_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -2,9 +2,9 @@
 // asked for stays, rows that came in stay, and the database is in good order.
 #include <sys/stat.h>
 
-#include "import/contatti_stage.h"
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
+#include "windows/import/contatti_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

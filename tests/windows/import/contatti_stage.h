@@ -6,10 +6,10 @@
 #include <QJsonObject>
 #include <QTimer>
 
-#include "import/frmScelta.h"
-#include "import/import_stage.h"
 #include "platform/contacts/ContactFolder.h"
 #include "platform/ui/ProgressCounter.h"
+#include "windows/import/frmScelta.h"
+#include "windows/import/import_stage.h"
 
 namespace testing_support {
 

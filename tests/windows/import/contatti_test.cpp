@@ -1,5 +1,5 @@
 // The imports from the address book and from Outlook, from the question for the group to the rows on disk.
-#include "import/contatti_stage.h"
+#include "windows/import/contatti_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -1,10 +1,10 @@
 // What the windows of the text import and of the Access import have in common.
 #include <QTimer>
 
-#include "import/impdb_stage.h"
-#include "import/imptxt_stage.h"
 #include "platform/ui/ProgressCounter.h"
-#include "shell/bTheme.h"
+#include "windows/import/impdb_stage.h"
+#include "windows/import/imptxt_stage.h"
+#include "windows/shell/bTheme.h"
 
 using namespace testing_support;
 

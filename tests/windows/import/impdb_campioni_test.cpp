@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QProcess>
 
-#include "import/impdb_stage.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Command.h"
+#include "windows/import/impdb_stage.h"
 
 using namespace testing_support;
 

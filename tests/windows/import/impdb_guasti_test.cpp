@@ -3,11 +3,11 @@
 
 #include <QTimer>
 
-#include "import/impdb_stage.h"
+#include "modules/store/Schema.h"
 #include "platform/jet/Database.h"
-#include "store/Schema.h"
 #include "support/Impatience.h"
 #include "support/LockedFile.h"
+#include "windows/import/impdb_stage.h"
 
 using namespace testing_support;
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/frmImpDB.h"
-#include "import/import_stage.h"
 #include "support/JetTables.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/import_stage.h"
 
 namespace testing_support {
 

@@ -1,10 +1,10 @@
 // The window of the Access import: listing, mapping, and what the walk over the records does.
-#include "import/frmImpDB.h"
+#include "windows/import/frmImpDB.h"
 
 #include <QTimer>
 
-#include "import/campi.h"
-#include "import/impdb_stage.h"
+#include "modules/import/campi.h"
+#include "windows/import/impdb_stage.h"
 
 using namespace testing_support;
 using jet::Type;

@@ -8,12 +8,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "import/Inserimento.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/Inserimento.h"
 #include "platform/ado/Connection.h"
-#include "store/griglia_stage.h"
 #include "support/JetChecker.h"
+#include "windows/entry/Finestre.h"
+#include "windows/store/griglia_stage.h"
 
 namespace testing_support {
 

@@ -3,9 +3,9 @@
 
 #include <QTimer>
 
-#include "import/imptxt_stage.h"
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
+#include "windows/import/imptxt_stage.h"
 
 using namespace testing_support;
 

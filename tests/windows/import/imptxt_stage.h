@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/frmImpTXT.h"
-#include "import/import_stage.h"
+#include "windows/import/frmImpTXT.h"
+#include "windows/import/import_stage.h"
 
 namespace testing_support {
 

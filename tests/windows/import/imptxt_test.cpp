@@ -1,5 +1,5 @@
 // The window of the text import: its controls, and files that import as they should.
-#include "import/frmImpTXT.h"
+#include "windows/import/frmImpTXT.h"
 
 #include <QDropEvent>
 #include <QJsonArray>
@@ -8,9 +8,9 @@
 #include <QMimeData>
 #include <QTimer>
 
-#include "import/campi.h"
-#include "import/import_stage.h"
-#include "import/imptxt_stage.h"
+#include "modules/import/campi.h"
+#include "windows/import/import_stage.h"
+#include "windows/import/imptxt_stage.h"
 
 using namespace testing_support;
 

@@ -5,23 +5,23 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 
-#include "accounts/frmAccount.h"
-#include "import/frmImpDB.h"
-#include "import/frmImpTXT.h"
-#include "import/frmScelta.h"
-#include "lang/bLANG_chiavi.h"
-#include "lang/lang_stage.h"
-#include "message/frmEditor.h"
-#include "message/frmPropBody.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/TabStrip.h"
-#include "send/frmInvia.h"
-#include "shell/frmMain.h"
-#include "store/frmDestinatario.h"
-#include "store/frmGruppi.h"
+#include "windows/accounts/frmAccount.h"
+#include "windows/import/frmImpDB.h"
+#include "windows/import/frmImpTXT.h"
+#include "windows/import/frmScelta.h"
+#include "windows/lang/bLANG_chiavi.h"
+#include "windows/lang/lang_stage.h"
+#include "windows/message/frmEditor.h"
+#include "windows/message/frmPropBody.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmDestinatario.h"
+#include "windows/store/frmGruppi.h"
 
 using namespace testing_support;
 

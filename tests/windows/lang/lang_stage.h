@@ -4,12 +4,12 @@
 #include <QFile>
 #include <QTest>
 
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "lang/bVAR_elenco.h"
+#include "modules/lang/bVAR_elenco.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/Unattended.h"
 #include "support/SampleFolder.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
 
 /// What the tests of the language share: the keys, and a program folder around each test.
 namespace testing_support {

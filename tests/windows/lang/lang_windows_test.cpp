@@ -2,15 +2,15 @@
 #include <QAbstractButton>
 #include <QMenu>
 
-#include "core/bMain.h"
-#include "core/Fallimento.h"
-#include "lang/lang_stage.h"
+#include "modules/core/Fallimento.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
-#include "send/frmInvia.h"
-#include "shell/frmMain.h"
-#include "store/frmDestinatario.h"
+#include "windows/entry/bMain.h"
+#include "windows/lang/lang_stage.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmDestinatario.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -1,4 +1,4 @@
-#include "message/editor_stage.h"
+#include "windows/message/editor_stage.h"
 
 #include <QApplication>
 #include <QFile>
@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "core/Finestre.h"
-#include "html/ViewFixture.h"
+#include "platform/html/ViewFixture.h"
+#include "windows/entry/Finestre.h"
 
 namespace testing_support {
 

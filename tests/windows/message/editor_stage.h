@@ -6,14 +6,14 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "message/frmAllegati.h"
-#include "message/frmEditor.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
-#include "store/griglia_stage.h"
+#include "windows/message/frmAllegati.h"
+#include "windows/message/frmEditor.h"
+#include "windows/store/griglia_stage.h"
 
 namespace testing_support {
 

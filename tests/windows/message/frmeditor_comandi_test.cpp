@@ -6,8 +6,8 @@
 #include <QProcess>
 #include <QToolBar>
 
-#include "core/Finestre.h"
-#include "message/editor_stage.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 

@@ -5,11 +5,11 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-#include "message/editor_stage.h"
 #include "platform/ui/ElementDialog.h"
 #include "platform/ui/FindDialog.h"
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 

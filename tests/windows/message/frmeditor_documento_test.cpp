@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QTabBar>
 
-#include "core/Finestre.h"
-#include "html/ViewFixture.h"
-#include "message/editor_stage.h"
+#include "platform/html/ViewFixture.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 using ui::FileDialog;

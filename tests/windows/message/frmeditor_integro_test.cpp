@@ -2,11 +2,11 @@
 // stays what it was when it was opened. And what was written is what the send window offers.
 #include <QDir>
 
-#include "html/LargeNewsletter.h"
-#include "message/editor_stage.h"
-#include "message/MessaggioMss.h"
+#include "modules/message/MessaggioMss.h"
 #include "platform/html/HtmlDocument.h"
+#include "platform/html/LargeNewsletter.h"
 #include "platform/text/AnsiCodec.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 

@@ -3,12 +3,12 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
-#include "core/bFunctions.h"
-#include "core/Finestre.h"
-#include "message/editor_stage.h"
-#include "message/frmPropBody.h"
+#include "modules/core/bFunctions.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/PropertyList.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/editor_stage.h"
+#include "windows/message/frmPropBody.h"
 
 using namespace testing_support;
 using ui::FileDialog;

@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QTimer>
 
-#include "core/bImpostazioni.h"
-#include "message/CopiaRecupero.h"
-#include "message/editor_stage.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/message/CopiaRecupero.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 using ui::FileDialog;

@@ -4,10 +4,10 @@
 #include <QImage>
 #include <QLabel>
 
-#include "html/RemoteMessage.h"
-#include "html/ViewFixture.h"
-#include "message/editor_stage.h"
-#include "message/MessaggioMss.h"
+#include "modules/message/MessaggioMss.h"
+#include "platform/html/RemoteMessage.h"
+#include "platform/html/ViewFixture.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 

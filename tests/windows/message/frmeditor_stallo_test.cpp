@@ -2,8 +2,8 @@
 // notice, and goes on when the browser does.
 #include <csignal>
 
-#include "html/ViewFixture.h"
-#include "message/editor_stage.h"
+#include "platform/html/ViewFixture.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 using ui::FileDialog;

@@ -7,9 +7,9 @@
 #include <QToolBar>
 #include <QTreeWidget>
 
-#include "core/Finestre.h"
-#include "message/editor_stage.h"
 #include "platform/ui/ColorHexagon.h"
+#include "windows/entry/Finestre.h"
+#include "windows/message/editor_stage.h"
 
 using namespace testing_support;
 

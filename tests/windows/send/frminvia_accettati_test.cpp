@@ -7,14 +7,14 @@
 #include <QDir>
 #include <QFile>
 
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/send/Accettati.h"
 #include "platform/ado/Command.h"
 #include "platform/mail/RunLock.h"
 #include "platform/ui/Unattended.h"
-#include "send/Accettati.h"
-#include "send/Accettati_avviso.h"
 #include "support/SendStage.h"
+#include "windows/send/Accettati_avviso.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QScopeGuard>
 
-#include "shell/bTheme.h"
 #include "support/SendStage.h"
+#include "windows/shell/bTheme.h"
 
 using namespace testing_support;
 

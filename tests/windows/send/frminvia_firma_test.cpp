@@ -1,7 +1,7 @@
 // Signatures of a run, made with the keys in the data folder.
 #include <QFile>
 
-#include "mail/dkim_support.h"
+#include "platform/mail/dkim_support.h"
 #include "platform/ui/MessageDialog.h"
 #include "support/SendStage.h"
 

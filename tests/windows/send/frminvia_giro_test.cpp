@@ -7,9 +7,9 @@
 #include <QUdpSocket>
 #include <thread>
 
-#include "accounts/bBinary.h"
-#include "core/bImpostazioni.h"
-#include "send/bMXQuery.h"
+#include "modules/accounts/bBinary.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/send/bMXQuery.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;

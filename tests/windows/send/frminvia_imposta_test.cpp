@@ -3,10 +3,10 @@
 #include <QFileInfo>
 #include <QLocale>
 
-#include "accounts/bBinary.h"
-#include "core/bGlobal.h"
-#include "core/bImpostazioni.h"
-#include "lang/bVAR.h"
+#include "modules/accounts/bBinary.h"
+#include "modules/core/bGlobal.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/lang/bVAR.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;

@@ -4,7 +4,7 @@
 #include <QMessageBox>
 #include <QScopeGuard>
 
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
 

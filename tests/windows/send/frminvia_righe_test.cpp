@@ -3,7 +3,7 @@
 #include <QDirIterator>
 #include <QScopeGuard>
 
-#include "core/bGlobal.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ado/Command.h"
 #include "platform/system/Clock.h"
 #include "support/SendStage.h"

@@ -1,9 +1,9 @@
 // Whole runs over recipients and messages whose values try to widen what is sent: another file, another
 // recipient, another header, another command.
-#include "mail/compose_support.h"
-#include "mail/wire_reader.h"
-#include "send/Personalizza.h"
-#include "store/Schema.h"
+#include "modules/send/Personalizza.h"
+#include "modules/store/Schema.h"
+#include "platform/mail/compose_support.h"
+#include "platform/mail/wire_reader.h"
 #include "support/SendStage.h"
 
 using namespace testing_support;

@@ -10,8 +10,8 @@
 #include "platform/system/Clock.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/DockPanes.h"
-#include "shell/bTheme.h"
-#include "shell/shell_support.h"
+#include "windows/shell/bTheme.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 

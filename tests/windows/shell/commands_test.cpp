@@ -4,9 +4,9 @@
 #include <QTimer>
 
 #include "platform/system/ProgramFolder.h"
-#include "send/frmInvia.h"
-#include "shell/frmInfoSu.h"
-#include "shell/shell_support.h"
+#include "windows/send/frmInvia.h"
+#include "windows/shell/frmInfoSu.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

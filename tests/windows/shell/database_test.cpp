@@ -2,7 +2,7 @@
 #include <QDir>
 
 #include "platform/jet/Database.h"
-#include "shell/shell_support.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 using ui::FileDialog;

@@ -1,8 +1,8 @@
 #include <QCloseEvent>
 #include <QDir>
 
-#include "send/Accettati.h"
-#include "shell/shell_support.h"
+#include "modules/send/Accettati.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

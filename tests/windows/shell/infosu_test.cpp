@@ -3,8 +3,8 @@
 #include <QTimer>
 
 #include "platform/ui/LinkLabel.h"
-#include "shell/frmInfoSu.h"
-#include "shell/shell_support.h"
+#include "windows/shell/frmInfoSu.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 

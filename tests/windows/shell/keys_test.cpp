@@ -3,7 +3,7 @@
 #include <QToolButton>
 
 #include "platform/ui/Desktop.h"
-#include "shell/shell_support.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 

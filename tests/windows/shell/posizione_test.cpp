@@ -1,7 +1,7 @@
 #include <QDir>
 
-#include "core/Posizione.h"
-#include "shell/shell_support.h"
+#include "windows/entry/Posizione.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 

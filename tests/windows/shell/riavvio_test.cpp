@@ -1,15 +1,15 @@
 // The new start after a failure, and the end that the system asks for.
-#include "core/Riavvio.h"
+#include "windows/core/Riavvio.h"
 
 #include <unistd.h>
 #include <QProcess>
 #include <QScopeGuard>
 
-#include "core/bMain.h"
-#include "core/FineSessione.h"
 #include "platform/system/Clock.h"
 #include "platform/ui/Unattended.h"
-#include "shell/shell_support.h"
+#include "windows/core/FineSessione.h"
+#include "windows/entry/bMain.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -8,11 +8,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/bGlobal.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
-#include "store/griglia_stage.h"
+#include "modules/core/bGlobal.h"
+#include "modules/lang/bVAR.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/store/griglia_stage.h"
 
 namespace testing_support {
 

@@ -6,18 +6,18 @@
 #include <QScreen>
 #include <QTimer>
 
-#include "core/bMain.h"
-#include "core/CentraForm.h"
+#include "modules/store/percorsoDBase.h"
+#include "modules/store/RecordsetDB.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "platform/system/Clock.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/Unattended.h"
-#include "shell/frmSplash.h"
-#include "shell/shell_support.h"
-#include "store/percorsoDBase.h"
-#include "store/RecordsetDB.h"
+#include "windows/core/CentraForm.h"
+#include "windows/entry/bMain.h"
+#include "windows/shell/frmSplash.h"
+#include "windows/shell/shell_support.h"
 
 using namespace testing_support;
 using ui::FileDialog;

@@ -7,11 +7,11 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
+#include "modules/send/Accettati.h"
 #include "platform/ui/PropertyList.h"
-#include "send/Accettati.h"
-#include "store/griglia_stage.h"
+#include "windows/entry/Finestre.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -9,10 +9,10 @@
 #include <QScreen>
 #include <QTreeWidget>
 
-#include "lang/bVAR.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ui/PropertyList.h"
-#include "store/griglia_stage.h"
 #include "support/LookCheck.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 

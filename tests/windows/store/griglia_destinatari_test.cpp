@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "platform/ui/PropertyList.h"
-#include "store/griglia_stage.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

@@ -1,16 +1,16 @@
-#include "store/griglia_stage.h"
+#include "windows/store/griglia_stage.h"
 
 #include <QApplication>
 #include <QTimer>
 
-#include "core/Evento.h"
-#include "core/Fallimento.h"
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/Unattended.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
 
 namespace testing_support {
 

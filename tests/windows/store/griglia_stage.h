@@ -7,18 +7,18 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "core/bGlobal.h"
+#include "modules/core/bGlobal.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
+#include "platform/ui/datagrid_support.h"
 #include "platform/ui/DataGridDrag.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
 #include "platform/ui/MessageDialog.h"
-#include "shell/frmMain.h"
-#include "store/frmDestinatario.h"
-#include "store/frmGruppi.h"
 #include "support/SampleFolder.h"
-#include "ui/datagrid_support.h"
+#include "windows/shell/frmMain.h"
+#include "windows/store/frmDestinatario.h"
+#include "windows/store/frmGruppi.h"
 
 namespace testing_support {
 

@@ -6,13 +6,13 @@
 #include <QSignalSpy>
 #include <QTimer>
 
-#include "core/Finestre.h"
-#include "lang/bVAR.h"
-#include "send/Accettati.h"
-#include "send/frmInvia.h"
-#include "store/griglia.h"
-#include "store/griglia_stage.h"
+#include "modules/lang/bVAR.h"
+#include "modules/send/Accettati.h"
 #include "support/SmtpSink.h"
+#include "windows/entry/Finestre.h"
+#include "windows/send/frmInvia.h"
+#include "windows/store/griglia.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

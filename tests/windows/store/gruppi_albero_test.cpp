@@ -1,7 +1,7 @@
 // The tree: how it is built, what a click does, labels and pop-up menus.
 #include <QLineEdit>
 
-#include "store/griglia_stage.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 

@@ -5,9 +5,9 @@
 #include <QScopeGuard>
 #include <QTimer>
 
+#include "modules/send/Accettati.h"
 #include "platform/ui/Unattended.h"
-#include "send/Accettati.h"
-#include "store/griglia_stage.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;

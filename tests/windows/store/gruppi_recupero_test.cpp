@@ -1,12 +1,12 @@
 // What happens at the load of the tree when the database cannot be used.
 #include <QFile>
 
-#include "core/bImpostazioni.h"
-#include "core/Evento.h"
-#include "core/Finestre.h"
+#include "modules/core/bImpostazioni.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
-#include "store/griglia_stage.h"
+#include "windows/core/Evento.h"
+#include "windows/entry/Finestre.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::FileDialog;

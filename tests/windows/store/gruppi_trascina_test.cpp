@@ -1,5 +1,5 @@
 // Drag and drop: recipients and groups onto the tree.
-#include "store/griglia_stage.h"
+#include "windows/store/griglia_stage.h"
 
 using namespace testing_support;
 using ui::MessageDialog;
