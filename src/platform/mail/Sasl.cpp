@@ -68,10 +68,6 @@ SaslExchange::SaslExchange(SaslExchange&&) noexcept = default;
 SaslExchange& SaslExchange::operator=(SaslExchange&&) noexcept = default;
 SaslExchange::~SaslExchange() = default;
 
-QByteArrayList saslMechanisms() {
-    return {"SCRAM-SHA-256", "CRAM-MD5", "PLAIN", "LOGIN"};
-}
-
 Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QString& user,
                                          const QString& password, const QString& host) {
     if (user.contains(QChar::Null) || password.contains(QChar::Null))

@@ -2,22 +2,18 @@
 
 #include <memory>
 #include <QByteArray>
-#include <QByteArrayList>
 #include <QString>
 
 #include "platform/Status.h"
 
 namespace mail {
 
-/// The mechanisms that can be used, the strongest first.
-QByteArrayList saslMechanisms();
-
 /// One login by one mechanism (RFC 4422). All tokens are bare bytes; their base64 form is the dialogue's
 /// affair.
 class SaslExchange {
   public:
-    /// `mechanism` is one of saslMechanisms(). Fails when user or password hold a NUL (TypeMismatch),
-    /// or characters that the mechanism cannot digest (NotSupported).
+    /// `mechanism` is SCRAM-SHA-256, SCRAM-SHA-1, CRAM-MD5, PLAIN or LOGIN. Fails when user or password hold
+    /// a NUL (TypeMismatch), or characters that the mechanism cannot digest (NotSupported).
     static Result<SaslExchange> start(const QByteArray& mechanism, const QString& user,
                                       const QString& password, const QString& host);
     SaslExchange(SaslExchange&&) noexcept;

@@ -171,7 +171,7 @@ void SmtpSession::dropConnection() {
     m_output.clear();
     m_input.clear();
     m_inputRead = 0;
-    m_exchange.reset();
+    m_login.reset();
     if (!m_socket) return;
     if (midMessage) resetOnClose(int(m_socket->socketDescriptor()));
     QSslSocket* const socket = std::exchange(m_socket, nullptr);

@@ -10,9 +10,9 @@
 #include <QTimer>
 
 #include "platform/mail/AwaitedReply.h"
+#include "platform/mail/Login.h"
 #include "platform/mail/Message.h"
 #include "platform/mail/Route.h"
-#include "platform/mail/Sasl.h"
 #include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
 #include "platform/mail/Transcript.h"
@@ -130,11 +130,7 @@ class SmtpSession : public QObject {
     QString security() const;
     QString handshakeFailure() const;
     void startLogin();
-    void startMechanism();
-    void passOverMechanism(const Status& why);
-    QByteArray withheld(const QByteArray& token);
-    void onAuthReply(const SmtpReply& reply);
-    void onChallenge(const QByteArray& text);
+    void takeLoginStep(const LoginStep& step);
 
     Transcript& m_transcript;
     Route m_route;
@@ -161,12 +157,7 @@ class SmtpSession : public QObject {
     QList<Step> m_expected;  ///< steps whose replies are outstanding
     QList<Step> m_plan;      ///< steps of the envelope that are still to be sent
 
-    // login under way
-    QByteArrayList m_mechanisms;
-    std::optional<SaslExchange> m_exchange;
-    QByteArray m_firstResponse;     ///< first token of a mechanism in which the client begins
-    bool m_initialResponse = true;  ///< it goes out with the AUTH command
-    int m_authSteps = 0;
+    std::optional<Login> m_login;  ///< under way
 
     // delivery under way
     bool m_busy = false;

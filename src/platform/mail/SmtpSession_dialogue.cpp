@@ -99,7 +99,7 @@ void SmtpSession::onReply(Step step, const SmtpReply& reply) {
             onStartTlsReply(reply);
             break;
         case Step::Auth:
-            onAuthReply(reply);
+            takeLoginStep(m_login->onReply(reply));
             break;
         case Step::Reset:
         case Step::Mail:

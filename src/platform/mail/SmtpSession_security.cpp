@@ -9,9 +9,6 @@ namespace mail {
 
 namespace {
 
-constexpr int maxAuthSteps = 16;
-constexpr qsizetype maxCommandLine = 510;  // RFC 5321 4.5.3.1.4, without the line end
-
 /// The system's certificates and those of the folder.
 QList<QSslCertificate> trustedCertificates(const QString& folder) {
     static const QList<QSslCertificate> system = QSslConfiguration::systemCaCertificates();
@@ -40,12 +37,6 @@ QString describe(const QSslError& error) {
         default:
             return error.errorString();
     }
-}
-
-/// The answer says nothing about the credentials: the server does not know the mechanism, or not in this
-/// form.
-bool isMechanismRefusal(int code) {
-    return code == 500 || code == 501 || code == 502 || code == 504;
 }
 
 }  // namespace
@@ -115,104 +106,34 @@ QString SmtpSession::handshakeFailure() const {
 }
 
 void SmtpSession::startLogin() {
-    m_mechanisms = saslMechanisms();
-    if (!m_heloOnly)
-        m_mechanisms.removeIf([this](const QByteArray& name) { return !m_extensions.auth.contains(name); });
-    if (m_mechanisms.isEmpty()) {
-        conclude({false, 0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto.")});
-        return;
-    }
-    m_initialResponse = true;
-    startMechanism();
+    LoginTerms terms;
+    if (!m_heloOnly) terms.offered = m_extensions.auth;
+    terms.verifiedTls = m_socket->isEncrypted() && !m_route.opportunisticTls;
+    m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password}, terms);
+    takeLoginStep(m_login->begin());
 }
 
-void SmtpSession::startMechanism() {
-    const QByteArray& mechanism = m_mechanisms.first();
-    m_authSteps = 0;
-    m_firstResponse.clear();
-    Result<SaslExchange> exchange =
-        SaslExchange::start(mechanism, m_route.user, m_route.password, m_route.host);
-    if (!exchange.ok()) {
-        passOverMechanism(exchange.status());
-        return;
-    }
-    m_exchange = std::move(exchange).value();
-
-    QByteArray line = "AUTH " + mechanism;
-    if (m_exchange->clientFirst()) {
-        const Result<QByteArray> token = m_exchange->step({});
-        if (!token.ok()) {
-            passOverMechanism(token.status());
-            return;
-        }
-        m_firstResponse = withheld(token.value());
-        m_initialResponse = m_initialResponse && line.size() + 1 + m_firstResponse.size() <= maxCommandLine;
-        if (m_initialResponse) line += ' ' + m_firstResponse;
-    }
-    command(Step::Auth, line, "AUTH " + mechanism);
-    writeCommands();
-}
-
-/// The mechanism cannot be used with these credentials or this server; `why` counts where it was the last.
-void SmtpSession::passOverMechanism(const Status& why) {
-    if (m_mechanisms.size() == 1) {
-        conclude({false, 0, why.text()});
-        return;
-    }
-    m_mechanisms.removeFirst();
-    m_initialResponse = true;
-    startMechanism();
-}
-
-/// The base64 form of a token, which from now on the transcript leaves out, bare or encoded.
-QByteArray SmtpSession::withheld(const QByteArray& token) {
-    QByteArray line = token.toBase64();
-    m_transcript.addSecret(token);
-    m_transcript.addSecret(line);
-    return line;
-}
-
-void SmtpSession::onAuthReply(const SmtpReply& reply) {
-    if (reply.intermediate()) {
-        onChallenge(reply.text);
-    } else if (reply.positive()) {
-        const bool proved = m_exchange->complete();
-        m_exchange.reset();
-        if (!proved) {
+void SmtpSession::takeLoginStep(const LoginStep& step) {
+    for (const QByteArray& secret : step.secrets)
+        m_transcript.addSecret(secret);
+    switch (step.kind) {
+        case LoginStep::Kind::Send:
+            command(Step::Auth, step.line, step.shown);
+            writeCommands();
+            break;
+        case LoginStep::Kind::Done:
+            m_login.reset();
+            m_authenticated = true;
+            afterHello();
+            break;
+        case LoginStep::Kind::Untrusted:
             dropConnection();
-            conclude({false, 0, QStringLiteral("Il server non ha completato l'autenticazione.")});
-            return;
-        }
-        m_authenticated = true;
-        afterHello();
-    } else if (m_authSteps == 0 && reply.code == 501 && m_exchange->clientFirst() && m_initialResponse) {
-        m_initialResponse = false;
-        startMechanism();
-    } else if (m_authSteps == 0 && isMechanismRefusal(reply.code) && m_mechanisms.size() > 1) {
-        passOverMechanism({});
-    } else {
-        reject(reply);
+            conclude({false, step.code, step.text});
+            break;
+        case LoginStep::Kind::Failed:
+            conclude({false, step.code, step.text});
+            break;
     }
-}
-
-void SmtpSession::onChallenge(const QByteArray& text) {
-    ++m_authSteps;
-    // The first token again: not sent so far, or passed over by a server that knows no initial responses.
-    const bool wantsFirst = m_authSteps == 1 && m_exchange->clientFirst() &&
-                            (!m_initialResponse || text.isEmpty() || m_exchange->complete());
-    const auto challenge =
-        QByteArray::fromBase64Encoding(text.trimmed(), QByteArray::AbortOnBase64DecodingErrors);
-    // What LOGIN asks with is a prompt for people; there are servers that write it as it is.
-    const bool readable = wantsFirst || challenge || m_mechanisms.first() == "LOGIN";
-    Result<QByteArray> answer = QByteArray();
-    if (!wantsFirst && readable) answer = m_exchange->step(*challenge);
-    if (!readable || !answer.ok() || m_authSteps > maxAuthSteps) {
-        dropConnection();
-        conclude({false, 0, QStringLiteral("Il server non ha completato l'autenticazione.")});
-        return;
-    }
-    command(Step::Auth, wantsFirst ? m_firstResponse : withheld(answer.value()), "(omesso)");
-    writeCommands();
 }
 
 }  // namespace mail

@@ -44,8 +44,7 @@ TEST_F(ImplicitTls, StartTlsIsNotAskedForAgain) {
 
 TEST_F(ImplicitTls, GreetingByHeloWithLogin) {
     ScriptedServer server(
-        {QByteArrayList{"TLS", "S: 220 ready", "C: HELO *", "S: 250 ready", "C: AUTH SCRAM-SHA-256 *",
-                        "S: 504 no", "C: AUTH CRAM-MD5", "S: 504 no", "C: AUTH PLAIN *", "S: 235 ok"} +
+        {QByteArrayList{"TLS", "S: 220 ready", "C: HELO *", "S: 250 ready", "C: AUTH PLAIN *", "S: 235 ok"} +
          message},
         TestCertificates::get().good(), implicitTls);
     Client client(implicitTls);

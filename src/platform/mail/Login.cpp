@@ -1,0 +1,119 @@
+#include "platform/mail/Login.h"
+
+#include <utility>
+
+namespace mail {
+
+namespace {
+
+constexpr int maxChallenges = 16;
+constexpr qsizetype maxCommandLine = 510;  // RFC 5321 4.5.3.1.4, without the line end
+
+LoginStep failed(int code, const QString& text) {
+    LoginStep step;
+    step.code = code;
+    step.text = text;
+    return step;
+}
+
+LoginStep failed(const SmtpReply& reply) {
+    return failed(reply.code, printable(reply.text));
+}
+
+/// The server has not proved itself, or speaks another language: no further mechanism is tried with it.
+LoginStep untrusted() {
+    LoginStep step = failed(0, QStringLiteral("Il server non ha completato l'autenticazione."));
+    step.kind = LoginStep::Kind::Untrusted;
+    return step;
+}
+
+LoginStep send(const QByteArray& line, const QByteArray& shown, const QByteArrayList& secrets) {
+    LoginStep step;
+    step.kind = LoginStep::Kind::Send;
+    step.line = line;
+    step.shown = shown;
+    step.secrets = secrets;
+    return step;
+}
+
+}  // namespace
+
+Login::Login(LoginIdentity identity, const LoginTerms& terms)
+    : m_identity(std::move(identity)), m_mechanisms(terms) {}
+
+LoginStep Login::begin() {
+    return tryMechanism();
+}
+
+LoginStep Login::tryMechanism() {
+    for (; !m_mechanisms.isEmpty(); m_mechanisms.skip()) {
+        const QByteArray& mechanism = m_mechanisms.current();
+        m_challenges = 0;
+        m_firstResponse.clear();
+        Result<SaslExchange> exchange =
+            SaslExchange::start(mechanism, m_identity.user, m_identity.password, m_identity.host);
+        if (!exchange.ok()) {
+            m_whyNotUsable = exchange.status().text();
+            continue;
+        }
+        m_exchange = std::move(exchange).value();
+        if (!m_exchange->clientFirst()) return send("AUTH " + mechanism, "AUTH " + mechanism, {});
+
+        const Result<QByteArray> token = m_exchange->step({});
+        if (!token.ok()) {
+            m_whyNotUsable = token.status().text();
+            continue;
+        }
+        m_firstResponse = token.value().toBase64();
+        QByteArray line = "AUTH " + mechanism;
+        m_initialResponse = m_initialResponse && line.size() + 1 + m_firstResponse.size() <= maxCommandLine;
+        if (m_initialResponse) line += ' ' + m_firstResponse;
+        return send(line, "AUTH " + mechanism, {token.value(), m_firstResponse});
+    }
+    return noneLeft();
+}
+
+/// What is told where no mechanism is left: what the server said of the credentials counts most.
+LoginStep Login::noneLeft() const {
+    if (const auto& refusal = m_mechanisms.credentialsRefusal()) return failed(*refusal);
+    if (m_lastRefusal) return failed(*m_lastRefusal);
+    if (!m_whyNotUsable.isEmpty()) return failed(0, m_whyNotUsable);
+    return failed(0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto."));
+}
+
+LoginStep Login::onReply(const SmtpReply& reply) {
+    if (reply.intermediate()) return onChallenge(reply.text);
+    if (!reply.positive()) return onRefusal(reply);
+    if (!m_exchange->complete()) return untrusted();
+    LoginStep done;
+    done.kind = LoginStep::Kind::Done;
+    return done;
+}
+
+LoginStep Login::onRefusal(const SmtpReply& reply) {
+    if (reply.code < 500) return failed(reply);
+    if (m_challenges == 0 && reply.code == 501 && m_exchange->clientFirst() && m_initialResponse) {
+        m_initialResponse = false;  // there are servers that know none
+        return tryMechanism();
+    }
+    m_lastRefusal = reply;
+    m_initialResponse = true;
+    return m_mechanisms.refused(reply) ? tryMechanism() : noneLeft();
+}
+
+LoginStep Login::onChallenge(const QByteArray& text) {
+    if (++m_challenges > maxChallenges) return untrusted();
+    // The first token again: not sent so far, or skipped by a server that knows no initial responses.
+    if (m_challenges == 1 && m_exchange->clientFirst() &&
+        (!m_initialResponse || text.isEmpty() || m_exchange->complete()))
+        return send(m_firstResponse, "(omesso)", {});
+    const auto challenge =
+        QByteArray::fromBase64Encoding(text.trimmed(), QByteArray::AbortOnBase64DecodingErrors);
+    // What LOGIN asks with is a prompt for people; there are servers that write it as it is.
+    if (!challenge && m_mechanisms.current() != "LOGIN") return untrusted();
+    const Result<QByteArray> answer = m_exchange->step(*challenge);
+    if (!answer.ok()) return untrusted();
+    return send(answer.value().toBase64(), "(omesso)", {answer.value(), answer.value().toBase64()});
+}
+
+}  // namespace mail

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <optional>
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QString>
+
+#include "platform/mail/LoginMechanisms.h"
+#include "platform/mail/Sasl.h"
+#include "platform/mail/SmtpReply.h"
+
+namespace mail {
+
+/// Who logs in, and where.
+struct LoginIdentity {
+    QString host;  ///< as the account names it
+    QString user;
+    QString password;
+};
+
+/// What a login does next.
+struct LoginStep {
+    enum class Kind {
+        Send,       ///< send `line`, and hand the reply to Login::onReply()
+        Done,       ///< logged in
+        Failed,     ///< the connection may be ended in good order
+        Untrusted,  ///< failed, and the server is not to be talked to any more
+    };
+    Kind kind = Kind::Failed;
+    QByteArray line;         ///< without its end
+    QByteArray shown;        ///< what a log may hold of it
+    QByteArrayList secrets;  ///< what no log may ever hold, of this line and of the replies to come
+
+    int code = 0;  ///< of the reply that ended a failed login; 0: without one
+    QString text;  ///< why it failed: the server's words, or Italian
+};
+
+/// One login over SMTP (RFC 4954): tries mechanisms until one succeeds or none is left, and carries out the
+/// exchange of each. It holds no connection: the caller sends its lines and hands it the replies.
+class Login {
+  public:
+    Login(LoginIdentity identity, const LoginTerms& terms);
+
+    LoginStep begin();
+    LoginStep onReply(const SmtpReply& reply);
+
+  private:
+    LoginStep tryMechanism();
+    LoginStep onChallenge(const QByteArray& text);
+    LoginStep onRefusal(const SmtpReply& reply);
+    LoginStep noneLeft() const;
+
+    const LoginIdentity m_identity;
+    LoginMechanisms m_mechanisms;
+    std::optional<SaslExchange> m_exchange;
+    std::optional<SmtpReply> m_lastRefusal;
+    QString m_whyNotUsable;         ///< of the last mechanism that these credentials cannot be used with
+    QByteArray m_firstResponse;     ///< first token of a mechanism in which the client begins, in base64
+    bool m_initialResponse = true;  ///< it goes out with the AUTH command
+    int m_challenges = 0;           ///< of the present exchange
+};
+
+}  // namespace mail

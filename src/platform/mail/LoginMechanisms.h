@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <QByteArray>
+#include <QByteArrayList>
+
+#include "platform/mail/SmtpReply.h"
+
+namespace mail {
+
+/// What the choice of a mechanism depends on.
+struct LoginTerms {
+    /// What the server offers, in capitals; none where it was greeted with HELO and offers nothing.
+    std::optional<QByteArrayList> offered = std::nullopt;
+    bool verifiedTls = false;  ///< encrypted, towards the server that the account names
+};
+
+/// The mechanisms that a login tries, one after the other (RFC 4954), and what a refusal leads to.
+class LoginMechanisms {
+  public:
+    explicit LoginMechanisms(const LoginTerms& terms);
+
+    /// No mechanism is left.
+    bool isEmpty() const { return m_left.isEmpty(); }
+    /// The one to try; there has to be one.
+    const QByteArray& current() const { return m_left.first(); }
+
+    /// The current mechanism cannot be used with these credentials: the next one becomes current.
+    void skip() { m_left.removeFirst(); }
+    /// The server has refused the current mechanism by a reply of 4xx or 5xx. True: the next one is current.
+    /// False: the login has failed.
+    bool refused(const SmtpReply& reply);
+    /// The reply that refused the credentials themselves, if one did.
+    const std::optional<SmtpReply>& credentialsRefusal() const { return m_credentialsRefusal; }
+
+  private:
+    QByteArrayList m_left;
+    bool m_guessed;
+    std::optional<SmtpReply> m_credentialsRefusal;
+};
+
+}  // namespace mail
