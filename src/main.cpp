@@ -4,10 +4,10 @@
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/Contrast.h"
 #include "platform/ui/Desktop.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/FineSessione.h"
 #include "windows/core/Riavvio.h"
 #include "windows/entry/bMain.h"
-#include "windows/shell/bTheme.h"
 
 int main(int argc, char** argv) {
     QApplication programma(argc, argv);

@@ -12,8 +12,8 @@
 #include "platform/text/NumberText.h"
 #include "platform/ui/DialogFrame.h"
 #include "windows/accounts/frmAccount_elenco.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/shell/bTheme.h"
 
 frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
     setObjectName("frmAccount");

@@ -12,7 +12,7 @@
 #include "platform/ui/LineEdit.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/accounts/frmAccount_elenco.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 namespace {
 

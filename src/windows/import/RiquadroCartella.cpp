@@ -7,8 +7,8 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/shell/bTheme.h"
 
 RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent)
     : QWidget(parent),

@@ -10,11 +10,11 @@
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 #include "windows/import/disposizione.h"
 #include "windows/import/RiquadroCampi.h"
 #include "windows/import/RiquadroCartella.h"
-#include "windows/shell/bTheme.h"
 
 frmImpDB::frmImpDB(QWidget* parent)
     : QDialog(parent),

@@ -18,12 +18,12 @@
 #include "platform/ui/FileDrop.h"
 #include "platform/ui/LineEdit.h"
 #include "platform/ui/SeparatorEdit.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 #include "windows/core/Puntatore.h"
 #include "windows/import/disposizione.h"
 #include "windows/import/RiquadroCampi.h"
 #include "windows/import/RiquadroCartella.h"
-#include "windows/shell/bTheme.h"
 
 frmImpTXT::frmImpTXT(QWidget* parent)
     : QDialog(parent),

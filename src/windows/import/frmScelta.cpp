@@ -5,10 +5,10 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 #include "windows/import/disposizione.h"
 #include "windows/import/RiquadroCartella.h"
-#include "windows/shell/bTheme.h"
 
 frmScelta::frmScelta(QWidget* parent)
     : QDialog(parent),

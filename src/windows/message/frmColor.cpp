@@ -5,10 +5,10 @@
 #include "modules/core/bFunctions.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/CommandBars.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/frmEditor.h"
-#include "windows/shell/bTheme.h"
 
 frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexagon(this)) {
     RilevaTema(this);

@@ -14,9 +14,9 @@
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 #include "platform/ui/WindowOwner.h"
+#include "windows/core/bTheme.h"
 #include "windows/entry/Posizione.h"
 #include "windows/message/frmAllegati.h"
-#include "windows/shell/bTheme.h"
 
 namespace {
 

@@ -11,11 +11,11 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/SourceEdit.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
+#include "windows/core/SchedaProprieta.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/frmEditor.h"
-#include "windows/shell/bTheme.h"
-#include "windows/shell/SchedaProprieta.h"
 
 namespace {
 

@@ -23,8 +23,8 @@
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
 #include "platform/ui/ProgressCounter.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/shell/bTheme.h"
 #include "windows/store/griglia.h"
 
 frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {

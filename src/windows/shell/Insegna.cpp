@@ -5,7 +5,7 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/core/Prodotto.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "modules/core/Prodotto.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/LinkLabel.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/shell/bTheme.h"
 #include "windows/shell/Insegna.h"
 
 frmInfoSu::frmInfoSu(QWidget* parent) : QDialog(parent) {

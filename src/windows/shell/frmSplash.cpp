@@ -3,8 +3,8 @@
 #include <QVBoxLayout>
 
 #include "modules/core/Prodotto.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/CentraForm.h"
-#include "windows/shell/bTheme.h"
 #include "windows/shell/Insegna.h"
 
 frmSplash::frmSplash()

@@ -10,9 +10,9 @@
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/PropertyList.h"
+#include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/shell/bTheme.h"
-#include "windows/shell/SchedaProprieta.h"
+#include "windows/core/SchedaProprieta.h"
 #include "windows/store/frmDestinatario_campi.h"
 
 frmDestinatario::frmDestinatario(QWidget* parent)

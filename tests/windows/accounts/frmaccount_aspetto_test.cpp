@@ -4,7 +4,7 @@
 #include "modules/core/bGlobal.h"
 #include "support/LookCheck.h"
 #include "windows/accounts/frmaccount_stage.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 using namespace testing_support;
 

@@ -5,7 +5,7 @@
 #include "modules/core/bGlobal.h"
 #include "platform/ui/Contrast.h"
 #include "support/ColorContrast.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 using testing_support::contrast;
 

@@ -2,9 +2,9 @@
 #include <QTimer>
 
 #include "platform/ui/ProgressCounter.h"
+#include "windows/core/bTheme.h"
 #include "windows/import/impdb_stage.h"
 #include "windows/import/imptxt_stage.h"
-#include "windows/shell/bTheme.h"
 
 using namespace testing_support;
 

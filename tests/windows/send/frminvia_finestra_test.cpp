@@ -4,7 +4,7 @@
 #include <QScopeGuard>
 
 #include "support/SendStage.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 using namespace testing_support;
 

@@ -10,7 +10,7 @@
 #include "platform/system/Clock.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/DockPanes.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 #include "windows/shell/shell_support.h"
 
 using namespace testing_support;

@@ -1,4 +1,4 @@
-#include "windows/shell/SchedaProprieta.h"
+#include "windows/core/SchedaProprieta.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -7,7 +7,7 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 namespace {
 

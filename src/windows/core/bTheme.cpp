@@ -1,4 +1,4 @@
-#include "windows/shell/bTheme.h"
+#include "windows/core/bTheme.h"
 
 #include <array>
 #include <cmath>
