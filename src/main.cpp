@@ -5,9 +5,9 @@
 #include "platform/ui/Contrast.h"
 #include "platform/ui/Desktop.h"
 #include "windows/core/bTheme.h"
-#include "windows/core/FineSessione.h"
-#include "windows/core/Riavvio.h"
 #include "windows/entry/bMain.h"
+#include "windows/entry/FineSessione.h"
+#include "windows/entry/Riavvio.h"
 
 int main(int argc, char** argv) {
     QApplication programma(argc, argv);

@@ -10,12 +10,12 @@
 #include "modules/core/Prodotto.h"
 #include "platform/ado/Notices.h"
 #include "platform/ui/MessageDialog.h"
-#include "windows/core/Riavvio.h"
 
 namespace {
 
 std::function<void(int)> termineSostituito;
 std::function<void()> azioneFinale;
+NuovoAvvio nuovoAvvio;
 bool fallimentoInMostra = false;
 
 }  // namespace
@@ -33,6 +33,10 @@ void TerminaProgramma(int stato) {
     }
     std::fflush(nullptr);
     std::_Exit(stato);
+}
+
+void OffriNuovoAvvio(NuovoAvvio offerta) {
+    nuovoAvvio = std::move(offerta);
 }
 
 void sostituisciTermine(std::function<void(int stato)> termine) {
@@ -65,8 +69,8 @@ void mostraEtermina(const Fallimento& fallimento) {
     guasti::Annota(fallimento);
     const int risposta = ui::MessageDialog::showFailure(
         QStringLiteral("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),
-        dettagli(fallimento), riavvio::Possibile(), prodotto::nome());
-    if (risposta == ui::MessageDialog::Restart) riavvio::Avvia();
+        dettagli(fallimento), nuovoAvvio.possibile && nuovoAvvio.possibile(), prodotto::nome());
+    if (risposta == ui::MessageDialog::Restart) nuovoAvvio.avvia();
     TerminaProgramma();
 }
 

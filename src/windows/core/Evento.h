@@ -21,14 +21,20 @@ void PrimaDellaFine(std::function<void()> azione);
 /// all the same, up to its evento(). An empty function puts the real end back.
 void sostituisciTermine(std::function<void(int stato)> termine);
 
+/// The new start of the program that the box of a failure offers. Without one the box offers only the end.
+struct NuovoAvvio {
+    std::function<bool()> possibile;  ///< at this moment
+    std::function<void()> avvia;      ///< comes back; the program then ends
+};
+void OffriNuovoAvvio(NuovoAvvio offerta);
+
 /// What TerminaProgramma throws under a replaced end, on its way to evento(). Nothing else may catch it.
 struct ProgrammaTerminato {
     int stato;
 };
 
 /// Shows the failure ("Errore N:", an empty line, its text; below it what was being done and with which
-/// file), writes it down (Guasti.h) and ends the program, with a new start where the user asks for it
-/// (Riavvio.h).
+/// file), writes it down (Guasti.h) and ends the program, with a new start where the user asks for it.
 [[noreturn]] void mostraEtermina(const Fallimento& fallimento);
 
 /// False while a failure is on show: the program is about to end and takes no further events.

@@ -1,5 +1,5 @@
 // The new start after a failure, and the end that the system asks for.
-#include "windows/core/Riavvio.h"
+#include "windows/entry/Riavvio.h"
 
 #include <unistd.h>
 #include <QProcess>
@@ -7,8 +7,8 @@
 
 #include "platform/system/Clock.h"
 #include "platform/ui/Unattended.h"
-#include "windows/core/FineSessione.h"
 #include "windows/entry/bMain.h"
+#include "windows/entry/FineSessione.h"
 #include "windows/shell/shell_support.h"
 
 using namespace testing_support;

@@ -1,4 +1,4 @@
-#include "windows/core/Riavvio.h"
+#include "windows/entry/Riavvio.h"
 
 #include <poll.h>
 #include <sys/syscall.h>
@@ -14,6 +14,7 @@
 #include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
+#include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
 #include "windows/entry/Posizione.h"
 #include "windows/shell/frmMain.h"
@@ -113,6 +114,7 @@ void attendiFine(qint64 processo) {
 void SegnaAvvio() {
     avvio = sys::clock().now();
     finestraMostrata = false;
+    OffriNuovoAvvio({Possibile, Avvia});
 }
 
 void SegnaFinestra() {

@@ -1,11 +1,11 @@
-#include "windows/core/FineSessione.h"
+#include "windows/entry/FineSessione.h"
 
 #include <QApplication>
 
 #include "platform/system/TerminationSignal.h"
 #include "windows/core/Evento.h"
-#include "windows/core/Riavvio.h"
 #include "windows/entry/Finestre.h"
+#include "windows/entry/Riavvio.h"
 #include "windows/shell/frmMain.h"
 
 void FineSessione() {

@@ -7,7 +7,7 @@
 /// data folder (docs/formats/riavvio.md), since there is no command line.
 namespace riavvio {
 
-/// The program begins to start.
+/// The program begins to start. From here on the box of a failure may offer a new start.
 void SegnaAvvio();
 /// The main window has come up.
 void SegnaFinestra();
