@@ -40,7 +40,7 @@ SendStage::SendStage(const QList<SampleFolder::Columns>& recipients) {
     bVAR::AddDestinatario = "Nessun destinatario";
     if (!recipients.isEmpty()) folder.addRecipients(recipients);
     folder.addAccount(SampleFolder::loopbackAccount(sink.port()));
-    window = std::make_unique<frmInvia>();
+    window = std::make_unique<frmInvia>([] {});
     open();
 }
 

@@ -4,6 +4,7 @@
 
 #include "modules/lang/bLANG.h"
 #include "windows/accounts/frmAccount.h"
+#include "windows/entry/Posizione.h"
 #include "windows/import/frmImpDB.h"
 #include "windows/import/frmImpTXT.h"
 #include "windows/import/frmScelta.h"
@@ -14,6 +15,7 @@
 #include "windows/shell/frmMain.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/frmDestinatario.h"
+#include "windows/store/griglia.h"
 
 // The program ends without unloading its windows, so nothing here is destroyed at the end.
 
@@ -23,12 +25,16 @@ QPointer<frmMain> principale;
 QPointer<frmSplash> apertura;
 QPointer<frmEditor> scrittura;
 
-/// A window that stands over another one and belongs to it.
-template <class Finestra>
-Finestra& dialogo(QWidget& sopra = finestre::Main()) {
+/// A window that stands over another one and belongs to it, made from what it needs of others.
+template <class Finestra, class... Cose>
+Finestra& dialogo(QWidget& sopra, Cose&&... cose) {
     static QPointer<Finestra> finestra;
-    if (!finestra) finestra = new Finestra(&sopra);
+    if (!finestra) finestra = new Finestra(std::forward<Cose>(cose)..., &sopra);
     return *finestra;
+}
+
+Posizionamento posizionamento() {
+    return {CaricaPosizioneForm, SalvaPosizioneForm};
 }
 
 }  // namespace
@@ -42,43 +48,43 @@ frmMain& finestre::Main() {
 }
 
 frmAccount& finestre::Account() {
-    return dialogo<frmAccount>();
+    return dialogo<frmAccount>(Main());
 }
 
 frmInvia& finestre::Invia() {
-    return dialogo<frmInvia>();
+    return dialogo<frmInvia>(Main(), griglia::RiempiGriglia);
 }
 
 frmDestinatario& finestre::Destinatario() {
-    return dialogo<frmDestinatario>();
+    return dialogo<frmDestinatario>(Main());
 }
 
 frmInfoSu& finestre::InfoSu() {
-    return dialogo<frmInfoSu>();
+    return dialogo<frmInfoSu>(Main());
 }
 
 frmEditor& finestre::Editor() {
     if (!scrittura) {
-        scrittura = new frmEditor(&Main());
+        scrittura = new frmEditor({posizionamento(), PropBody}, &Main());
         scrittura->Carica();
     }
     return *scrittura;
 }
 
 frmPropBody& finestre::PropBody() {
-    return dialogo<frmPropBody>(Editor());
+    return dialogo<frmPropBody>(Editor(), *Editor().DHTML, *Editor().CODE);
 }
 
 frmScelta& finestre::Scelta() {
-    return dialogo<frmScelta>();
+    return dialogo<frmScelta>(Main());
 }
 
 frmImpTXT& finestre::ImpTXT() {
-    return dialogo<frmImpTXT>();
+    return dialogo<frmImpTXT>(Main());
 }
 
 frmImpDB& finestre::ImpDB() {
-    return dialogo<frmImpDB>();
+    return dialogo<frmImpDB>(Main());
 }
 
 frmSplash& finestre::Splash() {

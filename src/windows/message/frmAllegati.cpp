@@ -12,8 +12,6 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "windows/core/Evento.h"
-#include "windows/entry/Finestre.h"
-#include "windows/message/frmEditor.h"
 
 namespace {
 
@@ -41,7 +39,8 @@ QString Dimensione(qint64 byte) {
 
 }  // namespace
 
-frmAllegati::frmAllegati(QWidget* parent) : QWidget(parent), LIST(new Elenco(this)) {
+frmAllegati::frmAllegati(ui::CommandBars& barre, QWidget* parent)
+    : QWidget(parent), LIST(new Elenco(this)), barreEditor(barre) {
     setObjectName("frmAllegati");
     setWindowTitle("Allegati");
     LIST->setObjectName("LIST");
@@ -101,7 +100,7 @@ QStringList frmAllegati::Percorsi() const {
 
 bool frmAllegati::eventFilter(QObject* osservato, QEvent* che) {
     if (che->type() == QEvent::MouseMove)
-        evento([] { finestre::Editor().Commands().GetStatic("stcHelp")->setText("Allegati"); });
+        evento([this] { barreEditor.GetStatic("stcHelp")->setText("Allegati"); });
     if (che->type() == QEvent::MouseButtonRelease) {
         const auto* rilascio = static_cast<QMouseEvent*>(che);
         evento([&] { LISTMouseUp(rilascio->button(), rilascio->globalPosition().toPoint()); });
@@ -110,7 +109,6 @@ bool frmAllegati::eventFilter(QObject* osservato, QEvent* che) {
 }
 
 void frmAllegati::LISTMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
-    ui::CommandBars& barre = finestre::Editor().Commands();
-    barre.GetToolButton("cmdAllegatiDel")->setEnabled(LIST->topLevelItemCount() > 0);
-    if (pulsante == Qt::RightButton) barre.showPopup("popAllegati", punto);
+    barreEditor.GetToolButton("cmdAllegatiDel")->setEnabled(LIST->topLevelItemCount() > 0);
+    if (pulsante == Qt::RightButton) barreEditor.showPopup("popAllegati", punto);
 }

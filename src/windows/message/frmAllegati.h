@@ -4,6 +4,9 @@
 #include <QWidget>
 
 class QTreeWidget;
+namespace ui {
+class CommandBars;
+}
 
 /// The attachments of the message on show, docked in the pane "dckAllegati" of the editor. The list is their
 /// only store: a message file is written straight from it.
@@ -11,7 +14,8 @@ class frmAllegati : public QWidget {
     Q_OBJECT
 
   public:
-    explicit frmAllegati(QWidget* parent = nullptr);
+    /// `barre` of the editor, which outlive the window, hold its commands, its menu and the status text.
+    explicit frmAllegati(ui::CommandBars& barre, QWidget* parent = nullptr);
 
     /// Empties rows and columns and adds the three columns "File", "Size" and "Path".
     void IniList();
@@ -31,4 +35,6 @@ class frmAllegati : public QWidget {
     enum Colonna { File = 0, Size = 1, Path = 2 };
 
     void LISTMouseUp(Qt::MouseButton pulsante, const QPoint& punto);
+
+    ui::CommandBars& barreEditor;
 };

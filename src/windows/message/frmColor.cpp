@@ -3,14 +3,14 @@
 #include <QVBoxLayout>
 
 #include "modules/core/bFunctions.h"
+#include "platform/html/HtmlView.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/CommandBars.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/entry/Finestre.h"
-#include "windows/message/frmEditor.h"
 
-frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexagon(this)) {
+frmColor::frmColor(HtmlView& vista, ui::CommandBars& barre, QWidget* parent)
+    : QWidget(parent), color(new ui::ColorHexagon(this)), DHTML(vista), barreEditor(barre) {
     RilevaTema(this);
     setObjectName("pwnColor");
     setAccessibleName("Tabella colori");
@@ -29,12 +29,11 @@ frmColor::frmColor(QWidget* parent) : QWidget(parent), color(new ui::ColorHexago
 }
 
 void frmColor::PrendiColore() {
-    const Result<QVariant> colore = finestre::Editor().DHTML->execCommand(HtmlView::GetForeColor);
+    const Result<QVariant> colore = DHTML.execCommand(HtmlView::GetForeColor);
     if (colore.ok()) color->setColor(ColoreDaHex(colore.value().toString()));
 }
 
 void frmColor::ColorePreso(quint32 colore) {
-    frmEditor& editor = finestre::Editor();
-    static_cast<void>(editor.DHTML->execCommand(HtmlView::SetForeColor, HexDaColore(colore)));
-    editor.Commands().closePopup("popColors");
+    static_cast<void>(DHTML.execCommand(HtmlView::SetForeColor, HexDaColore(colore)));
+    barreEditor.closePopup("popColors");
 }

@@ -2,16 +2,19 @@
 
 #include <QWidget>
 
+class HtmlView;
 namespace ui {
 class ColorHexagon;
-}
+class CommandBars;
+}  // namespace ui
 
 /// The colours for the text, hosted in the panel "pwnColor" of the editor's bar.
 class frmColor : public QWidget {
     Q_OBJECT
 
   public:
-    explicit frmColor(QWidget* parent = nullptr);
+    /// The colours of `vista`, in a panel of `barre`; both outlive the window.
+    frmColor(HtmlView& vista, ui::CommandBars& barre, QWidget* parent = nullptr);
 
     /// Selects the colour that the text has at the selection of the design view.
     void PrendiColore();
@@ -20,4 +23,7 @@ class frmColor : public QWidget {
 
   private:
     void ColorePreso(quint32 colore);
+
+    HtmlView& DHTML;
+    ui::CommandBars& barreEditor;
 };

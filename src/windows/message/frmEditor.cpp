@@ -15,7 +15,6 @@
 #include "platform/ui/TabStrip.h"
 #include "platform/ui/WindowOwner.h"
 #include "windows/core/bTheme.h"
-#include "windows/entry/Posizione.h"
 #include "windows/message/frmAllegati.h"
 
 namespace {
@@ -28,12 +27,13 @@ QString fileDisposizione() {
 
 }  // namespace
 
-frmEditor::frmEditor(QWidget* parent)
+frmEditor::frmEditor(Vicini intorno, QWidget* parent)
     : QMainWindow(parent),
       DHTML(ui::named(new HtmlView(HtmlView::Mode::Design), "DHTML")),
       CODE(ui::named(new ui::SourceEdit, "CODE")),
       WEB(ui::named(new HtmlView(HtmlView::Mode::Browse), "WEB")),
       tb(ui::named(new ui::TabStrip(this), "tb")),
+      vicini(std::move(intorno)),
       barre(new ui::CommandBars(this)),
       pannelli(this) {
     setObjectName("frmEditor");
@@ -63,7 +63,7 @@ void frmEditor::Carica() {
     RilevaTema(this);
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
-    CaricaPosizioneForm(*this);
+    vicini.posizione.carica(*this);
     if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
     tb->setColours({coloreTema(9), coloreTema(10), coloreTema(1)});
     tb->setCurrentIndex(Modifica);
@@ -71,7 +71,7 @@ void frmEditor::Carica() {
     CODE->setFontName("Courier New");
     CODE->setColours({coloreTema(0), coloreTema(20), coloreTema(13), coloreTema(1)});
     NuovoMessaggio();
-    auto* allegati = new frmAllegati;
+    auto* allegati = new frmAllegati(*barre);
     pannelli.DockWindows("dckAllegati")->setContent(allegati);
     barre->offerPopup(allegati->LIST, [] { return QStringLiteral("popAllegati"); });
 }
@@ -136,7 +136,7 @@ void frmEditor::ImpostaBarre(bool attive) {
 }
 
 void frmEditor::ChiudiEditor() {
-    SalvaPosizioneForm(*this);
+    vicini.posizione.salva(*this);
     static_cast<void>(pannelli.saveLayout(fileDisposizione()));
     hide();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -10,8 +11,10 @@
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/HtmlView.h"
 #include "platform/ui/DockPanes.h"
+#include "windows/core/Posizionamento.h"
 
 class frmAllegati;
+class frmPropBody;
 class QEventLoop;
 namespace ui {
 class CommandBars;
@@ -29,7 +32,13 @@ class frmEditor : public QMainWindow {
     Q_OBJECT
 
   public:
-    explicit frmEditor(QWidget* parent = nullptr);
+    /// What the window needs of others.
+    struct Vicini {
+        Posizionamento posizione;
+        std::function<frmPropBody&()> PropBody;  ///< made over this window when it is first named
+    };
+
+    explicit frmEditor(Vicini intorno, QWidget* parent = nullptr);
     ~frmEditor() override;
 
     /// The load of the window, run once by the first mention (finestre::Editor).
@@ -148,6 +157,7 @@ class frmEditor : public QMainWindow {
     void DialogoProprietaElemento();
     void Trova();
 
+    const Vicini vicini;
     ui::CommandBars* barre;
     ui::DockPanes pannelli;
     ui::FindDialog* ricerca = nullptr;

@@ -175,7 +175,7 @@ void frmEditor::CreaBarre() {
     addToolBarBreak();
     barre->addComboBox("cmbFontName", "Seleziona font", larghezzaFont);
     barre->addComboBox("cmbFontSize", "Font size", larghezzaCorpo);
-    auto* pwnColor = new frmColor(this);
+    auto* pwnColor = new frmColor(*DHTML, *barre, this);
     barre->addCustomPopup({"popColors", "Tabella colori", "Tabella colori", "format-text-color"}, pwnColor);
     connect(barre, &ui::CommandBars::popupOpening, pwnColor,
             [pwnColor] { evento([pwnColor] { pwnColor->PrendiColore(); }); });

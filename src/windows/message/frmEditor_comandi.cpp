@@ -7,7 +7,6 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/TabStrip.h"
-#include "windows/entry/Finestre.h"
 #include "windows/message/frmAllegati.h"
 #include "windows/message/frmEditor.h"
 #include "windows/message/frmEditor_comandi.h"
@@ -151,11 +150,12 @@ bool frmEditor::ComandoFile(const QString& nome) {
         const Result<bool> stampato = DHTML->print(true, barre->GetEdit("txtOggetto")->Text());
         if (!stampato.ok()) AvvisaVista(stampato.status(), "Il messaggio non è stato stampato.");
     } else if (nome == "cmdProprieta") {
-        const Status presi = finestre::PropBody().PrendiValori();
+        frmPropBody& proprieta = vicini.PropBody();
+        const Status presi = proprieta.PrendiValori();
         if (!presi.ok())
             AvvisaVista(presi, "Riprova fra qualche istante.");
         else
-            finestre::PropBody().exec();
+            proprieta.exec();
     } else {
         return false;
     }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "modules/core/bFunctions.h"
+#include "platform/html/HtmlView.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/MessageDialog.h"
@@ -14,8 +15,6 @@
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 #include "windows/core/SchedaProprieta.h"
-#include "windows/entry/Finestre.h"
-#include "windows/message/frmEditor.h"
 
 namespace {
 
@@ -48,12 +47,14 @@ constexpr Attributo sfondo{"Immaginedisfondo", "background"};
 
 }  // namespace
 
-frmPropBody::frmPropBody(QWidget* parent)
+frmPropBody::frmPropBody(HtmlView& vista, ui::SourceEdit& origine, QWidget* parent)
     : QDialog(parent),
       lbl(ui::named(new QLabel("Proprietà messaggio", this), "lbl")),
       prp(ui::named(new ui::PropertyList(this), "prp")),
       cdmSalva(ui::commandButton("&Salva", "cdmSalva", this)),
-      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
+      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)),
+      DHTML(vista),
+      CODE(origine) {
     RilevaTema(this);
     setObjectName("frmPropBody");
     setWindowTitle("Proprietà messaggio");
@@ -80,7 +81,6 @@ frmPropBody::frmPropBody(QWidget* parent)
 }
 
 Status frmPropBody::PrendiValori() {
-    const HtmlView& DHTML = *finestre::Editor().DHTML;
     for (const auto& [chiave, nome] : margini) {
         const Result<QString> valore = DHTML.bodyAttribute(nome);
         if (!valore.ok()) return valore.status();
@@ -99,8 +99,6 @@ Status frmPropBody::PrendiValori() {
 
 /// Ends at the first call that the design view does not answer.
 Status frmPropBody::Scrivi() {
-    frmEditor& editor = finestre::Editor();
-    HtmlView& DHTML = *editor.DHTML;
     for (const char* margine : {"leftmargin", "topmargin"})
         if (Status tolto = DHTML.removeBodyAttribute(margine); !tolto.ok()) return tolto;
     for (const auto& [chiave, nome] : margini)
@@ -114,8 +112,8 @@ Status frmPropBody::Scrivi() {
     if (Status messo = DHTML.setBodyAttribute(sfondo.nome, immagine); !messo.ok()) return messo;
     const Result<QString> corpo = DHTML.documentHTML();
     if (!corpo.ok()) return corpo.status();
-    editor.CODE->setText(corpo.value());
-    static_cast<void>(DHTML.setDocumentHTML(editor.CODE->Text()));
+    CODE.setText(corpo.value());
+    static_cast<void>(DHTML.setDocumentHTML(CODE.Text()));
     DHTML.update();
     return {};
 }

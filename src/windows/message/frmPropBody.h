@@ -5,10 +5,12 @@
 #include "platform/Status.h"
 
 class QLabel;
+class HtmlView;
 class QPushButton;
 namespace ui {
 class PropertyList;
-}
+class SourceEdit;
+}  // namespace ui
 
 /// Margins, colours and background image of the message page, all of them attributes of the body element.
 /// Saving writes every one, changed or not, and never marks the message as changed.
@@ -16,7 +18,8 @@ class frmPropBody : public QDialog {
     Q_OBJECT
 
   public:
-    explicit frmPropBody(QWidget* parent = nullptr);
+    /// The page of `vista`; saving shows its new text in `origine`. Both outlive the window.
+    frmPropBody(HtmlView& vista, ui::SourceEdit& origine, QWidget* parent = nullptr);
 
     /// Fills the list from the document of the design view. Fails where that does not answer.
     Status PrendiValori();
@@ -36,4 +39,7 @@ class frmPropBody : public QDialog {
   private:
     Status Scrivi();
     void cdmSalva_Click();
+
+    HtmlView& DHTML;
+    ui::SourceEdit& CODE;
 };

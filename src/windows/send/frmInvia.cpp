@@ -25,9 +25,9 @@
 #include "platform/ui/ProgressCounter.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
-#include "windows/store/griglia.h"
 
-frmInvia::frmInvia(QWidget* parent) : QDialog(parent) {
+frmInvia::frmInvia(std::function<void()> riempiGriglia, QWidget* parent)
+    : QDialog(parent), RiempiGriglia(std::move(riempiGriglia)) {
     setObjectName("frmInvia");
     setWindowTitle(" Invia messaggi");
     RilevaTema(this);
@@ -258,7 +258,7 @@ void frmInvia::cmdChiudi_Click() {
     // What cannot be taken out of the selection now is remembered on.
     Prosegui prosegui;
     prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); });
-    if (nodoCorrente) griglia::RiempiGriglia();
+    if (nodoCorrente) RiempiGriglia();
 }
 
 void frmInvia::cmdFile_Click() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <QDialog>
 
@@ -33,7 +34,8 @@ class frmInvia : public QDialog {
     Q_OBJECT
 
   public:
-    explicit frmInvia(QWidget* parent = nullptr);
+    /// `riempiGriglia` fills the grid anew with the recipients of the current node. Unguarded.
+    explicit frmInvia(std::function<void()> riempiGriglia, QWidget* parent = nullptr);
     ~frmInvia() override;
 
     /// Counts the selected recipients and sets the bars and their labels to the start of a run. Unguarded.
@@ -95,6 +97,7 @@ class frmInvia : public QDialog {
     void ImpostaTimeout(Prosegui& prosegui);
     bool ChiediLog();
 
+    const std::function<void()> RiempiGriglia;
     QLabel* lblFile;
     QLineEdit* txtFile;
     QPushButton* cmdFile;

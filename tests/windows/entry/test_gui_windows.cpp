@@ -90,7 +90,7 @@ struct Windows {
         show(finestre::PropBody(), "frmPropBody");
         finestre::Editor().NuovoMessaggio();
         show(finestre::Editor(), "frmEditor");
-        frmColor colours;
+        frmColor colours(*finestre::Editor().DHTML, finestre::Editor().Commands());
         showOwn(colours, "frmColor");
         ui::FindDialog find(&finestre::Main(), [](const QString&, bool, bool) { return false; });
         showOwn(find, "FindDialog");

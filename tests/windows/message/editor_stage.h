@@ -11,6 +11,7 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/entry/Posizione.h"
 #include "windows/message/frmAllegati.h"
 #include "windows/message/frmEditor.h"
 #include "windows/store/griglia_stage.h"
@@ -82,6 +83,11 @@ class EditorStage : public StoreStage {
     void show();
     static void whenModal(std::function<bool(QWidget&)> act);
 };
+
+/// What the program hands the editor, for one of a test's own; it has no window of page properties.
+inline frmEditor::Vicini aroundEditor() {
+    return {{CaricaPosizioneForm, SalvaPosizioneForm}, {}};
+}
 
 /// The body rows of a message file.
 QByteArray bodyOf(const QByteArray& file);

@@ -105,7 +105,7 @@ class TestIntegro : public QObject {
 
     void theBrowserComesWithTheFirstOpeningOnly() {
         // A window of its own, as at the start of the program.
-        frmEditor another;
+        frmEditor another(aroundEditor());
         another.Carica();
         QVERIFY(!another.DHTML->isLive());
         QVERIFY(!another.WEB->isLive());

@@ -176,7 +176,7 @@ class TestStato : public QObject {
     }
 
     void theLoadChoosesTheFirstFontAndSizeAndTheLookOfTheSource() {
-        frmEditor another;
+        frmEditor another(aroundEditor());
         another.Carica();
         QCOMPARE(another.Commands().GetComboBox("cmbFontName")->Text(), "Arial");
         QCOMPARE(another.Commands().GetComboBox("cmbFontSize")->Text(), "3");
@@ -191,7 +191,7 @@ class TestStato : public QObject {
         auto& pane = EditorStage::in<QDockWidget>(stage().editor(), "dckAllegati");
         pane.hide();
         stage().start("cmdEsci");
-        frmEditor another;
+        frmEditor another(aroundEditor());
         another.Carica();
         QCOMPARE(another.geometry().size(), QSize(900, 600));
         QVERIFY(EditorStage::in<QDockWidget>(another, "dckAllegati").isHidden());

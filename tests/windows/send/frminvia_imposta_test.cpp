@@ -146,7 +146,7 @@ class TestFrmInviaImposta : public QObject {
     void withoutAnAccountNumberedZeroNothingIsChosen() {
         SendStage fresh({"a@x.it"});
         writeAccountLines({"2|Due|due@x.it|h|25|0|||EHLO|0|1"});
-        fresh.window = std::make_unique<frmInvia>();
+        fresh.window = std::make_unique<frmInvia>([] {});
         fresh.open();
         QCOMPARE(fresh.control<QComboBox>("cmbAccount")->count(), 1);
         QCOMPARE(fresh.control<QComboBox>("cmbAccount")->currentIndex(), -1);
