@@ -241,6 +241,10 @@ class HtmlView : public QWidget {
     void doubleClicked();
     /// Something was dropped on the document and inserted.
     void dropped();
+    /// Text that was pasted or dropped named files of this machine, which the document did not hold already;
+    /// it came in without them. Their addresses, at most 100. Files that were themselves pasted or dropped
+    /// are none of these.
+    void leftOut(const QStringList& addresses);
     /// The pointer came over the view.
     void pointerEntered();
 

@@ -146,12 +146,14 @@ void HtmlView::Live::wakeWaiting() {
 }
 
 void HtmlView::Live::heard(const QString& message) {
-    const QString what =
-        QJsonDocument::fromJson(message.toUtf8()).object().value(QLatin1String("what")).toString();
+    const QJsonObject told = QJsonDocument::fromJson(message.toUtf8()).object();
+    const QString what = told.value(QLatin1String("what")).toString();
     if (what == QLatin1String("doubleClick")) {
         Q_EMIT view.doubleClicked();
     } else if (what == QLatin1String("paste")) {
         static_cast<void>(paste());
+    } else if (what == QLatin1String("leftOut")) {
+        Q_EMIT view.leftOut(told.value(QLatin1String("detail")).toVariant().toStringList());
     } else {
         if (what == QLatin1String("changed") && !m_followTimer.isActive()) m_followTimer.start();
         refreshState();

@@ -2,6 +2,7 @@
 #include <initializer_list>
 #include <QScopedValueRollback>
 #include <QTabBar>
+#include <QUrl>
 #include <utility>
 
 #include "platform/ui/CommandBars.h"
@@ -14,6 +15,18 @@
 namespace {
 
 const QString fontPredefinito = QStringLiteral("Verdana");
+
+void AvvisaLasciatiFuori(const QStringList& indirizzi) {
+    constexpr qsizetype mostrati = 5;
+    QString testo =
+        "Il testo incollato nominava file di questo computer, che sarebbero partiti con il messaggio. "
+        "Sono stati lasciati fuori:";
+    for (const QString& indirizzo : indirizzi.first(qMin(mostrati, indirizzi.size())))
+        testo += "\r\n" + QUrl(indirizzo).toDisplayString().left(200);
+    if (indirizzi.size() > mostrati) testo += QString("\r\ne altri %1").arg(indirizzi.size() - mostrati);
+    testo += "\r\nPer mettere un'immagine nel messaggio usa \"Inserisci immagine\".";
+    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
+}
 
 }  // namespace
 
@@ -35,6 +48,7 @@ void frmEditor::CollegaViste() {
     });
     quando(DHTML, &HtmlView::keyReleased, [this] { SegnaModificato(); });
     quando(DHTML, &HtmlView::dropped, [this] { SegnaModificato(); });
+    quando(DHTML, &HtmlView::leftOut, [](const QStringList& indirizzi) { AvvisaLasciatiFuori(indirizzi); });
     quando(DHTML, &HtmlView::validated, [this] {
         // A font is chosen for the document from outside of it, which changes nothing by itself.
         const QWidget* ora = focusWidget();

@@ -206,6 +206,78 @@ class ViewInsert : public QObject {
         QCOMPARE(m_desk->body(), QString("<p>a<a>b</a></p><p>x</p>"));
     }
 
+    void pastedHtmlBringsInNoFileOfThisMachine_data() {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char* name, const QString& html, const QString& result) {
+            QTest::newRow(name) << html << result;
+        };
+        row("image", "<p>a<img src=\"file:///etc/passwd\">b</p>", "<p>ab</p>");
+        row("hidden image", "<p>a<img style=\"display:none\" src=\"FILE://localhost/etc/passwd\">b</p>",
+            "<p>ab</p>");
+        row("broken scheme", "<p>a<img src=\" fi&#9;le&#10;:///etc/passwd\">b</p>", "<p>ab</p>");
+        row("plain path", "<p>a<img src=\"/etc/passwd\">b</p>", "<p>ab</p>");
+        row("backslashes", "<p>a<img src=\"\\\\server\\x.png\">b</p>", "<p>ab</p>");
+        row("set of images",
+            "<p>a<img src=\"https://x.test/a.png\" srcset=\"a.png 1x, file:///b.png 2x\">b</p>", "<p>ab</p>");
+        row("background", "<table background=\"file:///etc/x.png\"><tr><td>a</td></tr></table>",
+            "<table><tbody><tr><td>a</td></tr></tbody></table>");
+        row("style", "<p style=\"background:url('file:///etc/x.png')\">a</p>", "<p>a</p>");
+        row("style with escapes", "<p style=\"background:url(\\66 ile:///etc/x.png)\">a</p>", "<p>a</p>");
+        row("style with a plain escape", "<p style=\"background:url(f\\ile:///etc/x.png)\">a</p>",
+            "<p>a</p>");
+        row("link", "<p><a href=\"file:///etc/passwd\">a</a></p>", "<p><a>a</a></p>");
+        row("form control named like a method",
+            "<form><input name=\"getAttributeNames\"></form><p>a<img src=\"file:///etc/passwd\">b</p>",
+            "<form><input name=\"getAttributeNames\"></form><p>ab</p>");
+        row("of the web", "<p>a<img src=\"https://x.test/a.png\">b</p>",
+            "<p>a<img src=\"https://x.test/a.png\">b</p>");
+        row("placeholder", "<p>a<img src=\":::campo1:::\">b</p>", "<p>a<img src=\":::campo1:::\">b</p>");
+        row("inside", "<p>a<img src=\"data:image/gif;base64,R0lG\">b</p>",
+            "<p>a<img src=\"data:image/gif;base64,R0lG\">b</p>");
+    }
+    void pastedHtmlBringsInNoFileOfThisMachine() {
+        QFETCH(QString, html);
+        QFETCH(QString, result);
+        QSignalSpy leftOut(&m_desk->view, &HtmlView::leftOut);
+        m_desk->view.setDocumentHTML("");
+        paste(html);
+        QCOMPARE(m_desk->body(), result);
+        m_desk->view.evaluate("1");  // the answer comes after what the page told before
+        QCOMPARE(leftOut.count(), html == result ? 0 : 1);
+    }
+
+    void droppedHtmlBringsInNoFileOfThisMachine() {
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        QSignalSpy leftOut(&m_desk->view, &HtmlView::leftOut);
+        QMimeData data;
+        data.setHtml("x<img src=\"file:///etc/passwd\"><img src=\"file:///etc/shadow\">y");
+        QVERIFY(dropOn(m_desk->view, data, m_desk->placeOf("p").topLeft() + QPoint(0, 5)));
+        QCOMPARE(m_desk->body(), QString("<p>xyuno</p>"));
+        m_desk->view.evaluate("1");
+        QCOMPARE(leftOut.count(), 1);
+        QCOMPARE(leftOut[0][0].toStringList(), (QStringList{"file:///etc/passwd", "file:///etc/shadow"}));
+    }
+
+    void cutImageComesBackWhereItIsPasted() {
+        const QString path = imageFile("mia.png");
+        m_desk->view.setDocumentHTML("<p>x</p>");
+        QVERIFY(m_desk->view.insertImage({path, "", "", "", ""}));
+        const QString with = m_desk->body();
+        QSignalSpy leftOut(&m_desk->view, &HtmlView::leftOut);
+        m_desk->selectAll();
+        QVERIFY(m_desk->view.execCommand(HtmlView::Cut).toBool());
+        QVERIFY(!m_desk->body().contains("mia.png"));
+        QTRY_VERIFY(QGuiApplication::clipboard()->mimeData()->html().contains("mia.png"));
+        QVERIFY(m_desk->view.execCommand(HtmlView::Paste).toBool());
+        QVERIFY2(m_desk->body().contains("mia.png"), qPrintable(m_desk->body()));
+        m_desk->view.setDocumentHTML("<p>altro</p>");
+        QVERIFY(m_desk->view.execCommand(HtmlView::Paste).toBool());
+        QVERIFY(!m_desk->body().contains("mia.png"));
+        m_desk->view.evaluate("1");
+        QCOMPARE(leftOut.count(), 1);
+    }
+
     void pastedTextKeepsItsLines() {
         m_desk->view.setDocumentHTML("<p>x</p>");
         paste(QString(), "uno <b>\r\n  due\ntre");

@@ -102,6 +102,20 @@ class TestSicuro : public QObject {
         QCOMPARE(stage().body(), body);
     }
 
+    void pastedTextLosesItsLocalFilesAndANoticeNamesThem() {
+        auto* data = new QMimeData;
+        data->setHtml("<p>uno<img style=\"display:none\" src=\"file:///etc/x.png\"></p>");
+        QApplication::clipboard()->setMimeData(data);
+        stage().fill("<p><br></p>");
+        stage().caret("p", 0);
+        ui::MessageDialog::reset();
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
+        QTest::keyClick(stage().design().inputWidget(), Qt::Key_V, Qt::ControlModifier);
+        QTRY_COMPARE(ui::MessageDialog::shown().size(), 1);
+        QVERIFY(ui::MessageDialog::shown()[0].text.contains("file:///etc/x.png"));
+        QCOMPARE(stage().body(), "<p>uno</p>");
+    }
+
     void aDroppedPictureLandsAsContentMarksAndCanBeUndone() {
         stage().fill("<p>uno</p><p id=\"b\">due</p>");
         QMimeData data;

@@ -46,6 +46,7 @@ const editor = {
 
     begin() {
         this.listen();
+        this.insert.own.clear();
         this.marks.apply();
         if (this.editable) {
             document.designMode = 'on';
@@ -86,6 +87,8 @@ const editor = {
         on('keydown', (event) => this.key(event));
         on('keyup', () => (this.strokes += 1));
         on('paste', (event) => this.paste(event));
+        on('copy', () => this.insert.noteOwn());
+        on('cut', () => this.insert.noteOwn());
         on('compositionstart', () => this.history.seal());
     },
 

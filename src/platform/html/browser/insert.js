@@ -93,12 +93,71 @@ editor.insert = {
             .querySelectorAll('script,style,meta,link,title,base,xml,object,embed,applet,iframe,frame,noscript,template')
             .forEach((node) => node.remove());
         this.dropComments(source);
+        this.dropLocal(source);
         source.body.querySelectorAll('*').forEach((element) => this.cleanElement(element));
         const range = this.range();
         if (!range) return false;
         const content = document.createDocumentFragment();
         content.append(...Array.from(source.body.childNodes));
         return this.nodes(range, content);
+    },
+
+    addresses: 'src,srcset,imagesrcset,href,background,poster,data,lowsrc,dynsrc,longdesc,cite,action,formaction,ping'.split(','),
+
+    // The local files that an attribute names, each as the browser's own address for it. The URL parser skips
+    // blanks and controls in front, and tabs and line breaks anywhere; a style may be written with escapes.
+    localFiles(name, value) {
+        let texts = [value];
+        if (/srcset$/.test(name)) texts = value.split(/[\s,]+/);
+        if (name === 'style') texts = this.plainStyle(value).split(/[()"',]+/);
+        const local = name === 'style' || this.addresses.includes(name) ? /^(file:|[/\\])/i : /^file:/i;
+        return texts
+            .map((text) => text.replace(/[\t\n\r]/g, '').replace(/^[\0-\x20]+/, ''))
+            .filter((text) => local.test(text))
+            .map((text) => {
+                try {
+                    return new URL(text, 'file:///').href;
+                } catch {
+                    return text;
+                }
+            });
+    },
+
+    plainStyle(style) {
+        const character = (_, code, plain) => plain || String.fromCharCode(parseInt(code, 16) & 0xffff);
+        return style.replace(/\/\*[^]*?\*\//g, '').replace(/\\(?:([0-9a-f]{1,6})\s?|([^\n]))/gi, character);
+    },
+
+    // Names and local files of the attributes of a document that name any. Through the prototypes: a form
+    // control may be named like a method.
+    namingLocalFiles(source, found) {
+        for (const element of Document.prototype.querySelectorAll.call(source, '*')) {
+            for (const name of Element.prototype.getAttributeNames.call(element)) {
+                const files = this.localFiles(name, Element.prototype.getAttribute.call(element, name));
+                if (files.length) found(element, name, files);
+            }
+        }
+    },
+
+    own: new Set(), // local files that the document holds, or held when something was copied or cut from it
+
+    noteOwn() {
+        this.namingLocalFiles(document, (element, name, files) => files.forEach((file) => this.own.add(file)));
+    },
+
+    // A page that was copied must not name files of this machine, which would then travel with the message. Its
+    // images go, other elements lose what names the file. What the document holds already may come back.
+    dropLocal(source) {
+        this.noteOwn();
+        const dropped = new Set();
+        this.namingLocalFiles(source, (element, name, files) => {
+            const foreign = files.filter((file) => !this.own.has(file));
+            if (!foreign.length) return;
+            foreign.forEach((file) => dropped.add(file));
+            if (element.localName === 'img') Element.prototype.remove.call(element);
+            else Element.prototype.removeAttribute.call(element, name);
+        });
+        if (dropped.size) editor.tell('leftOut', Array.from(dropped).slice(0, 100));
     },
 
     between(html) {
