@@ -75,7 +75,11 @@ LoginStep Login::tryMechanism() {
 
 /// What is told where no mechanism is left: what the server said of the credentials counts most.
 LoginStep Login::noneLeft() const {
-    if (const auto& refusal = m_mechanisms.credentialsRefusal()) return failed(*refusal);
+    if (const auto& refusal = m_mechanisms.credentialsRefusal()) {
+        LoginStep step = failed(*refusal);
+        step.credentialsRefused = true;
+        return step;
+    }
     if (m_lastRefusal) return failed(*m_lastRefusal);
     if (!m_whyNotUsable.isEmpty()) return failed(0, m_whyNotUsable);
     return failed(0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto."));

@@ -31,8 +31,9 @@ struct LoginStep {
     QByteArray shown;        ///< what a log may hold of it
     QByteArrayList secrets;  ///< what no log may ever hold, of this line and of the replies to come
 
-    int code = 0;  ///< of the reply that ended a failed login; 0: without one
-    QString text;  ///< why it failed: the server's words, or Italian
+    int code = 0;                     ///< of the reply that ended a failed login; 0: without one
+    QString text;                     ///< why it failed: the server's words, or Italian
+    bool credentialsRefused = false;  ///< they would be refused again
 };
 
 /// One login over SMTP (RFC 4954): tries mechanisms until one succeeds or none is left, and carries out the

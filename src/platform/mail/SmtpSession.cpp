@@ -77,10 +77,20 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
         return;
     }
     quit();
+    if (const auto refusal = m_refusedLogin.answerFor(route)) {
+        m_transcript.remark(QStringLiteral("Accesso già rifiutato dal server, non ritentato"));
+        conclude(*refusal);
+        return;
+    }
     if (route.host != m_route.host || route.port != m_route.port) m_tlsSeen = false;
     m_route = route;
     m_plainOnly = false;
     open();
+}
+
+void SmtpSession::beginRun() {
+    m_greeters.clear();
+    m_refusedLogin.forget();
 }
 
 std::unique_ptr<AwaitedReply> SmtpSession::abandon() {

@@ -10,8 +10,10 @@
 #include <QTimer>
 
 #include "platform/mail/AwaitedReply.h"
+#include "platform/mail/DeliveryOutcome.h"
 #include "platform/mail/Login.h"
 #include "platform/mail/Message.h"
+#include "platform/mail/RefusedLogin.h"
 #include "platform/mail/Route.h"
 #include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
@@ -19,22 +21,16 @@
 
 namespace mail {
 
-/// What became of a message.
-struct DeliveryOutcome {
-    bool delivered = false;
-    int code = 0;  ///< the server's reply code, 0 without an answer
-    QString text;  ///< what the server said, or (Italian) what went wrong
-};
-
 /// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits get more where
 /// he chose less, since a server may look at the client or the message before it answers (RFC 5321 4.5.3.2).
 struct SmtpTimes {
     int stall = 60000;
     int greeting =
         30000;  ///< at the first connection to a host in a run, and while it greets later than `stall`
-    int hello = 30000;        ///< the reply to EHLO or HELO
-    int finalReply = 600000;  ///< the reply to the final point: giving up there delivers the message twice
-    int farewell = 5000;      ///< replies that are still awaited when the program ends
+    int hello = 30000;          ///< the reply to EHLO or HELO
+    int finalReply = 600000;    ///< the reply to the final point: giving up there delivers the message twice
+    int farewell = 5000;        ///< replies that are still awaited when the program ends
+    int refusedLogin = 300000;  ///< a login that was refused for its password is not tried again so long
 };
 
 /// One SMTP connection that is kept between messages.
@@ -59,8 +55,8 @@ class SmtpSession : public QObject {
     /// connection is handed over, since the message may still be accepted; otherwise it is closed.
     std::unique_ptr<AwaitedReply> abandon();
 
-    /// Forgets which hosts greet in time.
-    void beginRun() { m_greeters.clear(); }
+    /// Forgets which hosts greet in time, and a login that was refused.
+    void beginRun();
 
   Q_SIGNALS:
     /// The delivery has ended; a new one may be started at once.
@@ -131,6 +127,7 @@ class SmtpSession : public QObject {
     QString handshakeFailure() const;
     void startLogin();
     void takeLoginStep(const LoginStep& step);
+    void failLogin(const LoginStep& step);
 
     Transcript& m_transcript;
     Route m_route;
@@ -158,6 +155,7 @@ class SmtpSession : public QObject {
     QList<Step> m_plan;      ///< steps of the envelope that are still to be sent
 
     std::optional<Login> m_login;  ///< under way
+    RefusedLogin m_refusedLogin;
 
     // delivery under way
     bool m_busy = false;

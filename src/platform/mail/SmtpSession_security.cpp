@@ -128,12 +128,18 @@ void SmtpSession::takeLoginStep(const LoginStep& step) {
             break;
         case LoginStep::Kind::Untrusted:
             dropConnection();
-            conclude({false, step.code, step.text});
+            failLogin(step);
             break;
         case LoginStep::Kind::Failed:
-            conclude({false, step.code, step.text});
+            failLogin(step);
             break;
     }
+}
+
+void SmtpSession::failLogin(const LoginStep& step) {
+    const DeliveryOutcome outcome{false, step.code, step.text, true};
+    if (step.credentialsRefused) m_refusedLogin.note(m_route, outcome, m_times.refusedLogin);
+    conclude(outcome);
 }
 
 }  // namespace mail
