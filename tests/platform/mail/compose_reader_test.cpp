@@ -50,8 +50,8 @@ class ReadByPython : public ::testing::Test {
         for (const auto& composed : m_composed)
             all += QByteArray::number(composed.text.whole().size()) + '\n' + composed.text.whole();
         QProcess python;
-        python.start(systemPython,
-                     {TEST_DATA_DIR "/../mail/check_message.py", makeFile(m_folder.filePath("all"), all)});
+        python.start(systemPython, {TEST_DATA_DIR "/../platform/mail/check_message.py",
+                                    makeFile(m_folder.filePath("all"), all)});
         EXPECT_TRUE(python.waitForFinished(200000));
         EXPECT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
         QJsonArray results = QJsonDocument::fromJson(python.readAllStandardOutput()).array();

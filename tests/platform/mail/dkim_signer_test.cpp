@@ -52,8 +52,8 @@ class Dkim : public ::testing::Test {
             all += QByteArray::number(message.size()) + '\n' + message;
         const QString path = makeFile(s_folder->filePath("messages"), all);
         return run("/usr/bin/python3",
-                   {TEST_DATA_DIR "/../mail/check_dkim.py", path, "maggio.sel-1._domainkey.orto.example",
-                    QString::fromLatin1(s_record)})
+                   {TEST_DATA_DIR "/../platform/mail/check_dkim.py", path,
+                    "maggio.sel-1._domainkey.orto.example", QString::fromLatin1(s_record)})
             .trimmed()
             .split('\n');
     }

@@ -40,7 +40,7 @@ TEST_F(WireCheckers, SpamFilterSeesNothingMalformed) {
     const QByteArrayList messages = corpus();
     for (const QByteArray& message : messages)
         all += QByteArray::number(message.size()) + '\n' + message;
-    const QByteArrayList hits = run("perl", {TEST_DATA_DIR "/../mail/check_spam.pl",
+    const QByteArrayList hits = run("perl", {TEST_DATA_DIR "/../platform/mail/check_spam.pl",
                                              makeFile(m_folder.filePath("messages"), all), m_folder.path()})
                                     .chopped(1)
                                     .split('\n');
@@ -63,7 +63,7 @@ TEST_F(WireCheckers, SpamFilterSeesWhatIsMalformed) {
     QByteArray bad = corpus().first();
     bad.replace("MIME-Version: 1.0\r\n", "").replace("Date: ", "Date: x").replace("Message-ID: ", "X: ");
     const QByteArray hits =
-        run("perl", {TEST_DATA_DIR "/../mail/check_spam.pl",
+        run("perl", {TEST_DATA_DIR "/../platform/mail/check_spam.pl",
                      makeFile(m_folder.filePath("bad"), QByteArray::number(bad.size()) + '\n' + bad),
                      m_folder.path()});
     for (const char* rule : {"INVALID_DATE", "MISSING_MID"})

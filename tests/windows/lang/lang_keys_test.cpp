@@ -160,7 +160,7 @@ class TestLangKeys : public QObject {
     void everyKeyOfAWindowThatExistsIsKnownAndNoOther() {
         LangStage stage;
         QStringList known = bLANG::ChiaviNote();
-        QStringList wanted = keysWithTarget();
+        QStringList wanted = allKeys();
         known.sort();
         wanted.sort();
         QCOMPARE(wanted.size(), 373);
@@ -170,7 +170,7 @@ class TestLangKeys : public QObject {
     void everyKeySetsExactlyThePropertyThatItNames() {
         LangStage stage;
         finestre::Main();
-        for (const QString& key : keysWithTarget()) {
+        for (const QString& key : allKeys()) {
             QVERIFY2(!valueOf(key).isNull() || key.startsWith("bVAR."), qPrintable(key));
             const QMap<QString, QString> before = everyText();
             const bLANG::Destinazione assign = bLANG::DestinazioneDi(key);
@@ -201,7 +201,7 @@ class TestLangKeys : public QObject {
         LangStage stage;
         finestre::Main();
         QMap<QString, QString> designed;
-        for (const QString& key : keysWithTarget())
+        for (const QString& key : allKeys())
             if (!key.startsWith("bVAR.")) designed[key] = valueOf(key);
         finestre::dimentica();
         stage.install();
@@ -232,7 +232,7 @@ class TestLangKeys : public QObject {
         bLANG::LeggiTesti([&](const QString& key) {
             return bLANG::Destinazione([&texts, key](const QString& text) { texts[key] = text; });
         });
-        QStringList wanted = keysWithTarget();
+        QStringList wanted = allKeys();
         wanted.sort();
         QCOMPARE(QStringList(texts.keys()), wanted);
         for (const QString& text : texts)

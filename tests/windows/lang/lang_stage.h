@@ -32,18 +32,11 @@ inline QString sectionOf(const QString& key) {
     return key.section('.', 0, 0);
 }
 
-/// The keys of the sections whose window is in the program, and of the program's own texts.
-inline QStringList keysWithTarget() {
-    const QString sources = dataFolder + "../../src";
+/// Every key that the program knows.
+inline QStringList allKeys() {
     QStringList keys;
-    for (const QByteArray& line : contentOf(dataFolder + "lang/keys.txt").split('\n')) {
-        const QString key = QString::fromUtf8(line);
-        bool there = key.startsWith("bVAR.");
-        for (const QString& folder : QDir(sources).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-            there = there || (!key.isEmpty() &&
-                              QFile::exists(QString("%1/%2/%3.h").arg(sources, folder, sectionOf(key))));
-        if (there) keys += key;
-    }
+    for (const QByteArray& line : contentOf(dataFolder + "lang/keys.txt").split('\n'))
+        if (!line.isEmpty()) keys += QString::fromUtf8(line);
     return keys;
 }
 
