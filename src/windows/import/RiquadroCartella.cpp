@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include "modules/store/Schema.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
 #include "windows/core/bTheme.h"
@@ -18,6 +19,7 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
       txtCartella(ui::named(new ui::LineEdit("Nuova cartella", this), "txtCartella")) {
     opt[0]->setChecked(true);
     txtCartella->setEnabled(false);
+    txtCartella->setMaxLength(schema::larghezzaNomeGruppo);
     txtCartella->setMinimumHeight(ui::fieldHeight);
     lbl->setBuddy(opt[0]);
     for (QRadioButton* opzione : opt) {

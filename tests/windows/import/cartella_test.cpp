@@ -133,6 +133,17 @@ class TestImportCartella : public QObject {
                      stage.form().palette().color(QPalette::Window));
     }
 
+    void aNameLongerThanTheColumnCannotBeTyped() {
+        Stage stage;
+        stage.window();
+        stage.click("opt(1)");
+        auto* name = stage.control<QLineEdit>("txtCartella");
+        name->selectAll();
+        name->insert(QString(300, 'n'));
+        const QString id = choose({false, name->text()}).value();
+        QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), QString(255, 'n'));
+    }
+
     void selectedGroupIsTheCurrentNode() {
         Stage stage;
         stage.window();
