@@ -105,6 +105,11 @@ class HtmlView : public QWidget {
         QString align;   ///< "left", "right", "top", "middle", "bottom" or empty
     };
 
+    struct LinkInfo {
+        QString address;            ///< as written; empty for no link
+        bool unsubscribes = false;  ///< rel holds "unsubscribe" (RFC 2369)
+    };
+
     explicit HtmlView(Mode mode, QWidget* parent = nullptr);
     ~HtmlView() override;
 
@@ -161,12 +166,13 @@ class HtmlView : public QWidget {
     /// absolute path becomes a file address. One undo step.
     Result<bool> insertImage(const ImageInfo& image);
 
-    /// The address of the link that holds the selection, as written; empty without one.
-    Result<QString> linkAddress() const;
-    /// Makes the selection a link, or changes the address of the link that holds it; an empty address takes
-    /// the link away. With nothing selected and no link around, inserts `text` (the address where that is
-    /// empty) as a link. One undo step.
-    Result<bool> setLink(const QString& address, const QString& text = QString());
+    /// The link that holds the selection.
+    Result<LinkInfo> link() const;
+    /// Makes the selection a link, or changes the link that holds it; an empty address takes the link away.
+    /// With nothing selected and no link around, inserts `text` (the address where that is empty) as a link.
+    /// One undo step. A link that is to unsubscribe and does not yet gets rel="unsubscribe one-click" (RFC
+    /// 8058), one that is to no more loses both words; other words of rel stay.
+    Result<bool> setLink(const LinkInfo& link, const QString& text = QString());
 
     /// The elements that hold the selection, innermost first (a selected image or form field is the first),
     /// up to and with the body.

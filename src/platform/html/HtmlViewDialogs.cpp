@@ -87,12 +87,16 @@ Result<bool> HtmlView::insertImage(const ImageInfo& image) {
     return m_live->changeDone(QStringLiteral("insert.image"), {info});
 }
 
-Result<QString> HtmlView::linkAddress() const {
-    return m_live->askText(QStringLiteral("editor.insert.linkAddress()"));
+Result<HtmlView::LinkInfo> HtmlView::link() const {
+    const Result<QVariant> answer = m_live->ask(QStringLiteral("editor.insert.describeLink()"));
+    if (!answer.ok()) return answer.status();
+    const QVariantMap found = answer.value().toMap();
+    return LinkInfo{found.value(QStringLiteral("address")).toString(),
+                    found.value(QStringLiteral("unsubscribes")).toBool()};
 }
 
-Result<bool> HtmlView::setLink(const QString& address, const QString& text) {
-    return m_live->changeDone(QStringLiteral("insert.link"), {address, text});
+Result<bool> HtmlView::setLink(const LinkInfo& link, const QString& text) {
+    return m_live->changeDone(QStringLiteral("insert.link"), {link.address, link.unsubscribes, text});
 }
 
 Result<QList<HtmlView::Element>> HtmlView::elementsAtCaret() const {

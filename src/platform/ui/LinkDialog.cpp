@@ -1,9 +1,11 @@
 #include "platform/ui/LinkDialog.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 
 namespace ui {
@@ -15,16 +17,21 @@ const QString mailScheme = QStringLiteral("mailto:");
 
 }  // namespace
 
-LinkDialog::LinkDialog(QWidget* parent, const QString& address, bool withText, const Offers& offers)
+LinkDialog::LinkDialog(QWidget* parent, const HtmlView::LinkInfo& link, bool withText, const Offers& offers)
     : QDialog(parent),
       m_kind(choiceField("cmbKind", {"Indirizzo web", "Posta elettronica"}, this)),
       m_address(textField("txtAddress", this)),
+      m_unsubscribes(named(new QCheckBox("Collegamento di &disiscrizione", this), "chkUnsubscribes")),
       m_text(textField("txtText", this)) {
     setObjectName("linkDialog");
     setWindowTitle("Collegamento");
+    const QString& address = link.address;
     const bool mail = address.startsWith(mailScheme, Qt::CaseInsensitive);
     m_kind->setCurrentIndex(mail ? Mail : Web);
     m_address->setText(mail ? address.mid(mailScheme.size()) : address);
+    m_unsubscribes->setChecked(link.unsubscribes);
+    m_unsubscribes->setToolTip(
+        "I programmi di posta lo offrono al destinatario per disiscriversi con un clic");
     QComboBox* offered = choiceField("cmbOffers", {"Inserisci nell'indirizzo..."}, this);
     for (const auto& [caption, text] : offers)
         offered->addItem(caption, text);
@@ -40,6 +47,7 @@ LinkDialog::LinkDialog(QWidget* parent, const QString& address, bool withText, c
     form.addField("&Variabile:", offered);
     m_text->setVisible(withText);
     if (withText) form.addField("T&esto:", m_text);
+    form.addField({}, m_unsubscribes);
     QPushButton* ok = form.addButton("&OK", "cmdOk");
     if (!address.isEmpty()) {
         QPushButton* remove = form.addButton("Ri&muovi", "cmdRemove");
@@ -56,6 +64,10 @@ LinkDialog::LinkDialog(QWidget* parent, const QString& address, bool withText, c
     const auto enable = [this, ok] { ok->setEnabled(!m_address->text().trimmed().isEmpty()); };
     connect(m_address, &QLineEdit::textChanged, this, enable);
     enable();
+}
+
+HtmlView::LinkInfo LinkDialog::link() const {
+    return {address(), m_unsubscribes->isChecked()};
 }
 
 QString LinkDialog::address() const {

@@ -4,12 +4,16 @@
 #include <QList>
 #include <QPair>
 
+#include "platform/html/HtmlView.h"
+
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 
 namespace ui {
 
-/// Asks for the address of a link: a web address or a mail link, with texts offered to be put into it.
+/// Asks for the address of a link: a web address or a mail link, with texts offered to be put into it, and
+/// whether it is the one by which recipients sign off.
 class LinkDialog : public QDialog {
     Q_OBJECT
 
@@ -17,17 +21,20 @@ class LinkDialog : public QDialog {
     /// Caption and text of what is offered.
     using Offers = QList<QPair<QString, QString>>;
 
-    /// `address` is that of the link at hand, empty for a new one. With `withText` the words of the link are
+    /// `link` is the one at hand, without an address for a new one. With `withText` the words of the link are
     /// asked for as well.
-    LinkDialog(QWidget* parent, const QString& address, bool withText, const Offers& offers);
+    LinkDialog(QWidget* parent, const HtmlView::LinkInfo& link, bool withText, const Offers& offers);
 
-    /// Empty where the link is to be taken away.
-    QString address() const;
+    /// Without an address where the link is to be taken away.
+    HtmlView::LinkInfo link() const;
     QString text() const;
 
   private:
+    QString address() const;
+
     QComboBox* m_kind;
     QLineEdit* m_address;
+    QCheckBox* m_unsubscribes;
     QLineEdit* m_text;
 };
 

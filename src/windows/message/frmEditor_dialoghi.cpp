@@ -20,14 +20,15 @@ void frmEditor::DialogoCollegamento() {
     ui::LinkDialog::Offers variabili;
     for (const Variabile& variabile : variabiliMessaggio)
         variabili.emplace_back(variabile.didascalia, variabile.testo);
-    const auto indirizzo = DHTML->linkAddress();
+    const auto collegamento = DHTML->link();
     const auto testo = DHTML->selectedText();
     const auto immagine = DHTML->selectedImage();
-    if (!Riuscita(indirizzo.status()) || !Riuscita(testo.status()) || !Riuscita(immagine.status())) return;
-    const bool conTesto = indirizzo.value().isEmpty() && testo.value().isEmpty() && !immagine.value();
-    ui::LinkDialog dialogo(this, indirizzo.value(), conTesto, variabili);
+    if (!Riuscita(collegamento.status()) || !Riuscita(testo.status()) || !Riuscita(immagine.status())) return;
+    const bool conTesto =
+        collegamento.value().address.isEmpty() && testo.value().isEmpty() && !immagine.value();
+    ui::LinkDialog dialogo(this, collegamento.value(), conTesto, variabili);
     if (dialogo.exec() == QDialog::Accepted)
-        Riuscita(DHTML->setLink(dialogo.address(), dialogo.text()).status());
+        Riuscita(DHTML->setLink(dialogo.link(), dialogo.text()).status());
     DHTML->setFocus();
 }
 

@@ -30,9 +30,9 @@ class SureView : public HtmlView {
     bool find(const QString& text, unsigned flags = 0) { return sure(HtmlView::find(text, flags)); }
     std::optional<ImageInfo> selectedImage() const { return sure(HtmlView::selectedImage()); }
     bool insertImage(const ImageInfo& image) { return sure(HtmlView::insertImage(image)); }
-    QString linkAddress() const { return sure(HtmlView::linkAddress()); }
-    bool setLink(const QString& address, const QString& text = {}) {
-        return sure(HtmlView::setLink(address, text));
+    LinkInfo link() const { return sure(HtmlView::link()); }
+    bool setLink(const LinkInfo& link, const QString& text = {}) {
+        return sure(HtmlView::setLink(link, text));
     }
     QList<Element> elementsAtCaret() const { return sure(HtmlView::elementsAtCaret()); }
     bool setElementAttributes(int level, const Attributes& attributes) {

@@ -226,7 +226,7 @@ class ViewCommands : public QObject {
             QCOMPARE(browse.view.queryStatus(id), HtmlView::Disabled);
         }
         QVERIFY(!browse.view.insertHTML("<hr>"));
-        QVERIFY(!browse.view.setLink("x"));
+        QVERIFY(!browse.view.setLink({"x"}));
         QVERIFY(!browse.view.insertImage({"x", {}, {}, {}, {}}));
         browse.type("due");
         QCOMPARE(browse.body(), QString("<p>uno</p>"));

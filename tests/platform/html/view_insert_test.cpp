@@ -152,16 +152,16 @@ class ViewInsert : public QObject {
         m_desk->view.setDocumentHTML("<p>vai <b>qui</b> ora</p>");
         m_desk->view.find("qui");
         const QString address = "http://example.it/?u=:::email:::&c=1";
-        QVERIFY(m_desk->view.setLink(address));
+        QVERIFY(m_desk->view.setLink({address}));
         QCOMPARE(
             m_desk->body(),
             QString("<p>vai <b><a href=\"http://example.it/?u=:::email:::&amp;c=1\">qui</a></b> ora</p>"));
-        QCOMPARE(m_desk->view.linkAddress(), address);
-        QVERIFY(m_desk->view.setLink("mailto::::email:::"));
+        QCOMPARE(m_desk->view.link().address, address);
+        QVERIFY(m_desk->view.setLink({"mailto::::email:::"}));
         QVERIFY(m_desk->body().contains("href=\"mailto::::email:::\""));
-        QVERIFY(m_desk->view.setLink(""));
+        QVERIFY(m_desk->view.setLink({}));
         QCOMPARE(m_desk->body(), QString("<p>vai <b>qui</b> ora</p>"));
-        QCOMPARE(m_desk->view.linkAddress(), QString());
+        QCOMPARE(m_desk->view.link().address, QString());
         for (int i = 0; i < 3; ++i)
             QVERIFY(m_desk->view.execCommand(HtmlView::Undo).toBool());
         QCOMPARE(m_desk->body(), QString("<p>vai <b>qui</b> ora</p>"));
@@ -169,10 +169,49 @@ class ViewInsert : public QObject {
 
     void linkWithoutSelectionBringsItsText() {
         m_desk->view.setDocumentHTML("<p>x</p>");
-        QVERIFY(m_desk->view.setLink(":::campo1:::", "Il tuo <sito>"));
+        QVERIFY(m_desk->view.setLink({":::campo1:::"}, "Il tuo <sito>"));
         QCOMPARE(m_desk->body(), QString("<p><a href=\":::campo1:::\">Il tuo &lt;sito&gt;</a>x</p>"));
         m_desk->type("y");
         QVERIFY(m_desk->body().contains("</a>yx") || m_desk->body().contains("y</a>x"));
+    }
+
+    void theMarkOfALinkThatUnsubscribesLeavesTheOtherWords() {
+        m_desk->view.setDocumentHTML(
+            "<p><a rel=\"nofollow Unsubscribe\" href=\"https://x.it/a\">via</a></p>");
+        m_desk->view.find("via");
+        HtmlView::LinkInfo link = m_desk->view.link();
+        QVERIFY(link.unsubscribes);
+        link.address = "https://x.it/b";
+        QVERIFY(m_desk->view.setLink(link));
+        QCOMPARE(m_desk->body(),
+                 QString("<p><a rel=\"nofollow Unsubscribe\" href=\"https://x.it/b\">via</a></p>"));
+        link.unsubscribes = false;
+        QVERIFY(m_desk->view.setLink(link));
+        QCOMPARE(m_desk->body(), QString("<p><a rel=\"nofollow\" href=\"https://x.it/b\">via</a></p>"));
+        QVERIFY(!m_desk->view.link().unsubscribes);
+        link.unsubscribes = true;
+        QVERIFY(m_desk->view.setLink(link));
+        const QString marked =
+            "<p><a rel=\"nofollow unsubscribe one-click\" href=\"https://x.it/b\">via</a></p>";
+        QCOMPARE(m_desk->body(), marked);
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(m_desk->view.execCommand(HtmlView::Undo).toBool());
+        QVERIFY(m_desk->view.link().unsubscribes);
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(m_desk->view.execCommand(HtmlView::Redo).toBool());
+        QCOMPARE(m_desk->body(), marked);
+    }
+
+    void aNewLinkMayUnsubscribe() {
+        m_desk->view.setDocumentHTML("<p>x <b>y</b></p>");
+        m_desk->view.find("x y");
+        QVERIFY(m_desk->view.setLink({"https://x.it/u", true}));
+        QVERIFY2(m_desk->body().contains("<a href=\"https://x.it/u\" rel=\"unsubscribe one-click\">"),
+                 qPrintable(m_desk->body()));
+        m_desk->view.setDocumentHTML("<p>x</p>");
+        QVERIFY(m_desk->view.setLink({"https://x.it/u", true}, "via"));
+        QCOMPARE(m_desk->body(),
+                 QString("<p><a href=\"https://x.it/u\" rel=\"unsubscribe one-click\">via</a>x</p>"));
     }
 
     void pastedTextOfAWordProcessorLandsAsContent() {

@@ -94,7 +94,7 @@ struct Windows {
         showOwn(colours, "frmColor");
         ui::FindDialog find(&finestre::Main(), [](const QString&, bool, bool) { return false; });
         showOwn(find, "FindDialog");
-        ui::LinkDialog link(&finestre::Main(), "https://www.esempio.it", true,
+        ui::LinkDialog link(&finestre::Main(), {"https://www.esempio.it"}, true,
                             {{"Ragione sociale", ":::rgs:::"}});
         showOwn(link, "LinkDialog");
         ui::ImageDialog image(&finestre::Main(), {});

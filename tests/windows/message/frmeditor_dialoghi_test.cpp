@@ -1,14 +1,17 @@
 // The windows that the design view asks for: image, link, properties of an element, search.
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
 
+#include "platform/mail/dkim_support.h"
 #include "platform/ui/ElementDialog.h"
 #include "platform/ui/FindDialog.h"
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
+#include "support/SendStage.h"
 #include "windows/message/editor_stage.h"
 
 using namespace testing_support;
@@ -133,6 +136,62 @@ class TestDialoghi : public QObject {
         stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) { click(dialog, "cmdRemove"); });
         stage().start("cmdLink");
         QCOMPARE(stage().body(), "<p>testo</p>");
+    }
+
+    void theLinkDialogShowsAndChangesWhetherALinkUnsubscribes() {
+        stage().fill("<p><a rel=\"nofollow unsubscribe\" href=\"https://x.it/u\">via</a></p>");
+        stage().caret("a", 1);
+        stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) {
+            auto& box = EditorStage::in<QCheckBox>(dialog, "chkUnsubscribes");
+            QVERIFY(box.isChecked());
+            const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&box);
+            QCOMPARE(told->text(QAccessible::Name), "Collegamento di disiscrizione");
+            QVERIFY(!told->text(QAccessible::Description).isEmpty());
+            auto& address = EditorStage::in<QLineEdit>(dialog, "txtAddress");
+            for (QWidget* at = &address; at != &box; at = dialog.focusWidget())
+                QTest::keyClick(at, Qt::Key_Tab);
+            QTest::keyClick(&box, Qt::Key_Space);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        stage().start("cmdLink");
+        QCOMPARE(stage().body(), "<p><a rel=\"nofollow\" href=\"https://x.it/u\">via</a></p>");
+        stage().caret("a", 1);
+        stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) {
+            auto& box = EditorStage::in<QCheckBox>(dialog, "chkUnsubscribes");
+            QVERIFY(!box.isChecked());
+            box.setChecked(true);
+            click(dialog, "cmdOk");
+        });
+        stage().start("cmdLink");
+        QCOMPARE(stage().body(),
+                 "<p><a rel=\"nofollow unsubscribe one-click\" href=\"https://x.it/u\">via</a></p>");
+        stage().caret("a", 1);
+        stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) { click(dialog, "cmdRemove"); });
+        stage().start("cmdLink");
+        QCOMPARE(stage().body(), "<p>via</p>");
+    }
+
+    void theUnsubscribeLinkOfTheDialogStandsInTheHeadersOfADeliveredMessage() {
+        stage().fill("<p>Non scrivetemi</p>");
+        stage().select("p", 0, 14);
+        stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) {
+            set(dialog, "txtAddress", "https://orto.example/via?chi=:::email:::");
+            EditorStage::in<QCheckBox>(dialog, "chkUnsubscribes").setChecked(true);
+            click(dialog, "cmdOk");
+        });
+        stage().start("cmdLink");
+        stage().saveAs("invito.mss");
+
+        SendStage run({"ada@cliente.example"});
+        compose::makeDkimKey(run.folder.path("data/dkim"), "klukla.example", "maggio");
+        run.pick(stage().path("invito.mss"));
+        run.start();
+        QVERIFY(run.waitForEnd());
+        QCOMPARE(run.sink.messages().size(), 1);
+        const QByteArray head = run.sink.messages()[0].data;
+        QVERIFY2(head.contains("\r\nList-Unsubscribe: <https://orto.example/via?chi=ada%40cliente.example>,"),
+                 head.constData());
+        QCOMPARE(run.header(0, "List-Unsubscribe-Post"), "List-Unsubscribe=One-Click");
     }
 
     void theAttributesOfAnElementAreEditedAsAList() {

@@ -250,23 +250,41 @@ editor.insert = {
         return this.nodes(range, content);
     },
 
-    linkAddress() {
+    describeLink() {
         const link = editor.closest('a[href]');
-        return link ? link.getAttribute('href') : '';
+        return link ? { address: link.getAttribute('href'), unsubscribes: this.unsubscribes(link) } : null;
     },
 
-    link(address, text) {
+    relWords(link) {
+        return (link.getAttribute('rel') || '').split(/[\t\n\f\r ]+/).filter(Boolean);
+    },
+
+    unsubscribes(link) {
+        return this.relWords(link).some((word) => word.toLowerCase() === 'unsubscribe');
+    },
+
+    setUnsubscribes(link, wanted) {
+        if (this.unsubscribes(link) === wanted) return;
+        const words = this.relWords(link).filter((word) => !/^(unsubscribe|one-click)$/i.test(word));
+        if (wanted) words.push('unsubscribe', 'one-click');
+        if (words.length) link.setAttribute('rel', words.join(' '));
+        else link.removeAttribute('rel');
+    },
+
+    link(address, unsubscribes, text) {
         const range = this.range();
         if (!range) return false;
         const around = editor.closest('a[href]');
         if (!address) return around ? this.unwrap(around) : document.execCommand('unlink');
         if (around) {
             around.setAttribute('href', address);
+            this.setUnsubscribes(around, unsubscribes);
             return true;
         }
-        if (!range.collapsed) return this.linkSelection(address);
+        if (!range.collapsed) return this.linkSelection(address, unsubscribes);
         const link = document.createElement('a');
         link.setAttribute('href', address);
+        this.setUnsubscribes(link, unsubscribes);
         link.append(text || address);
         const content = document.createDocumentFragment();
         content.append(link);
@@ -274,10 +292,13 @@ editor.insert = {
     },
 
     // The browser's command resolves addresses, which would spoil a placeholder: it gets a mark of ours first.
-    linkSelection(address) {
+    linkSelection(address, unsubscribes) {
         const mark = 'vestrola-link:';
         if (!document.execCommand('createLink', false, mark)) return false;
-        document.querySelectorAll('a[href="' + mark + '"]').forEach((link) => link.setAttribute('href', address));
+        document.querySelectorAll('a[href="' + mark + '"]').forEach((link) => {
+            link.setAttribute('href', address);
+            this.setUnsubscribes(link, unsubscribes);
+        });
         return true;
     },
 
