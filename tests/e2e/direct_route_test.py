@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Sends over the direct route with the built program, in a network of its own: a real name server leads to the mail servers
 of three domains, one of which is down. Its recipients stay selected and the others are served; once it is up, a second run
-serves them and nobody else. The send window is worked as an assistive program works it.
+serves them and nobody else. A fourth domain leads to a server inside that the list of own servers does not name: nothing
+ever connects there. The send window is worked as an assistive program works it.
 
     direct_route_test.py BUILD_FOLDER
 """
@@ -22,7 +23,8 @@ from desktop import fail, wait_for
 ISOLATED = "VESTROLA_TEST_NETWORK"
 SERVERS = {"alfa.example": "127.0.0.2", "beta.example": "127.0.0.3", "spento.example": "127.0.0.4"}
 DOWN = "spento.example"
-RECIPIENTS = [f"{name}@{domain}" for name in ("ada", "bice") for domain in SERVERS]
+HOSTILE, INSIDE_SERVER = "ladro.example", "127.0.0.9"
+RECIPIENTS = [f"{name}@{domain}" for name in ("ada", "bice") for domain in SERVERS] + [f"ada@{HOSTILE}"]
 
 
 def raise_loopback():
@@ -59,7 +61,7 @@ def start_name_server(stage):
     lines = ["server:", "interface: 127.0.0.1", "do-daemonize: no", "use-syslog: no", 'chroot: ""', 'username: ""',
              f'directory: "{stage.work}"', 'pidfile: ""', "do-ip6: no", 'module-config: "iterator"',
              'local-zone: "." static']
-    for domain, address in SERVERS.items():
+    for domain, address in {**SERVERS, HOSTILE: INSIDE_SERVER}.items():
         lines += [f'local-data: "{domain}. MX 10 mx.{domain}."', f'local-data: "mx.{domain}. A {address}"']
     settings = stage.work / "unbound.conf"
     settings.write_text("\n".join(lines) + "\n", encoding="ascii")
@@ -98,6 +100,10 @@ def make_program_folder(stage):
                    env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
 
 
+    names = "".join(f"mx.{domain}\n" for domain in SERVERS)
+    (stage.program_folder / "data" / "mx-interni.txt").write_text(names, encoding="ascii")
+
+
 def selected(stage):
     exported = subprocess.run(["mdb-export", stage.program_folder / "data" / "data.mdb", "tb_destinatari"],
                               stdout=subprocess.PIPE, text=True, check=True)
@@ -117,20 +123,26 @@ def play(stage, program):
     make_program_folder(stage)
     start_name_server(stage)
     servers = {domain: MailServer(stage, domain) for domain in SERVERS if domain != DOWN}
+    inside = socket.create_server((INSIDE_SERVER, 25))
+    inside.setblocking(False)
     message = stage.write_message()
     running = stage.start([program])
     main = Window("frame", "Vestrola")
 
-    send(main, message, delivered=4, failed=2)
+    send(main, message, delivered=4, failed=3)
     for domain, server in servers.items():
         expect(server.served(), of(domain), f"what came to {domain}")
-    expect(selected(stage), of(DOWN), "still selected")
+    expect(selected(stage), sorted(of(DOWN) + of(HOSTILE)), "still selected")
 
     servers[DOWN] = MailServer(stage, DOWN)
-    send(main, message, delivered=2, failed=0)
+    send(main, message, delivered=2, failed=1)
     for domain, server in servers.items():
         expect(server.served(), of(domain), f"what came to {domain} in both runs")
-    expect(selected(stage), [], "still selected at the end")
+    expect(selected(stage), of(HOSTILE), "still selected at the end")
+    try:
+        fail(f"a connection came to the inside: {inside.accept()}")
+    except BlockingIOError:
+        pass
 
     act(main.find("menu item", "File"), "ShowMenu")
     act(main.find("menu item", "Esci"), "Press")

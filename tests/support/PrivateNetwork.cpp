@@ -1,7 +1,9 @@
 #include "support/PrivateNetwork.h"
 
+#include <arpa/inet.h>
 #include <fcntl.h>
 #include <net/if.h>
+#include <netinet/in.h>
 #include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/mount.h>
@@ -43,6 +45,18 @@ bool enterPrivateNetwork() {
     if (::unshare(CLONE_NEWUSER | CLONE_NEWNET | CLONE_NEWNS) != 0) return false;
     return write("/proc/self/setgroups", "deny") && write("/proc/self/uid_map", "0 " + user + " 1") &&
            write("/proc/self/gid_map", "0 " + group + " 1") && raiseLoopback();
+}
+
+bool addLoopbackAddress(const char* address) {
+    const int any = ::socket(AF_INET, SOCK_DGRAM, 0);
+    ifreq request{};
+    std::strcpy(request.ifr_name, "lo:1");
+    auto* const place = reinterpret_cast<sockaddr_in*>(&request.ifr_addr);
+    place->sin_family = AF_INET;
+    const bool added = any >= 0 && ::inet_pton(AF_INET, address, &place->sin_addr) == 1 &&
+                       ::ioctl(any, SIOCSIFADDR, &request) == 0;
+    ::close(any);
+    return added;
 }
 
 bool replaceResolverConfiguration(const QByteArray& text) {

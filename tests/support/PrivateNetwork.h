@@ -11,6 +11,10 @@ namespace testing_support {
 /// The superuser stays who he is; anybody else becomes the superuser of a world without other users.
 bool enterPrivateNetwork();
 
+/// Inside a private network: gives its loopback one more IPv4 address, by which a test has a server of the
+/// public internet.
+bool addLoopbackAddress(const char* address);
+
 /// Inside a private network: what the process and its children read in /etc/resolv.conf from now on.
 bool replaceResolverConfiguration(const QByteArray& text);
 

@@ -1,5 +1,6 @@
 #include "platform/mail/DeliveryControl.h"
 
+#include <QHostAddress>
 #include <utility>
 
 #include "platform/mail/DomainName.h"
@@ -26,6 +27,8 @@ Route DeliveryControl::route(const QString& host) const {
     route.localPort = OutPort;
     route.greetWithHelo = HeloMode == 1;
     route.opportunisticTls = OpportunisticTls;
+    route.publicOnly = PublicServersOnly;
+    route.insideHosts = InsideHosts;
     route.certificateFolder = CertificateFolder;
     route.login = UseAuth;
     if (UseAuth) {
@@ -67,6 +70,11 @@ void DeliveryControl::startNew(const QString& host) {
         finish({false, 0, whyNoHost()});
         return;
     }
+    // An address is no mail exchanger (RFC 5321 5.1), whosever it is.
+    if (PublicServersOnly && !QHostAddress(host).isNull()) {
+        finish({false, 0, noMailServer()});
+        return;
+    }
     if (ServerPort == 0) {
         finish({false, 0, QStringLiteral("La porta del server non è valida.")});
         return;
@@ -87,8 +95,7 @@ void DeliveryControl::startNew(const QString& host) {
 QString DeliveryControl::whyNoHost() const {
     const QStringView name = text::trimBlanks(ServerName);
     // A null MX names the root (RFC 7505)
-    if (OpportunisticTls && (name.isEmpty() || name == u"."))
-        return QStringLiteral("Il dominio del destinatario non ha un server di posta.");
+    if (OpportunisticTls && (name.isEmpty() || name == u".")) return noMailServer();
     return name.isEmpty() ? QStringLiteral("Manca il nome del server.")
                           : QStringLiteral("Il nome del server non è valido.");
 }

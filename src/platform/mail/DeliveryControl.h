@@ -81,9 +81,11 @@ class DeliveryControl : public QObject {
     QString UserName;
     QString ServerName;
     AttachmentList Attachments;
-    bool OpportunisticTls = false;  ///< see Route; set on the direct route to the recipient's own server
-    QString CertificateFolder;      ///< see Route
-    QString DkimFolder;             ///< see DkimSigner
+    bool OpportunisticTls = false;   ///< see Route; set on the direct route to the recipient's own server
+    bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
+    QStringList InsideHosts;         ///< see Route
+    QString CertificateFolder;       ///< see Route
+    QString DkimFolder;              ///< see DkimSigner
 
     /// A new run: messages with a number may be sent again after an Abort. What was accepted counts for the
     /// run before until a tick begins: a tick that is under way has read its row already.

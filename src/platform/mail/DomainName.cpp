@@ -28,7 +28,8 @@ bool isLabel(const QByteArray& label) {
 
 // No top-level domain is one, but the system's resolver reads such a name as an address (RFC 3696 2)
 bool isNumber(const QByteArray& label) {
-    return std::all_of(label.begin(), label.end(), isDigit) || label.startsWith("0x");
+    return std::all_of(label.begin(), label.end(), isDigit) || label.startsWith("0x") ||
+           label.startsWith("0X");
 }
 
 bool isIpAddress(const QString& text) {

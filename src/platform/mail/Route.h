@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace mail {
 
@@ -14,6 +15,10 @@ struct Route {
     /// plain text. True: TLS is taken as it comes, unverified, and left out when it cannot be had.
     bool opportunisticTls = false;
     QString certificateFolder;  ///< its *.pem files are trusted besides the system's; empty: none
+    /// Only servers of the public internet (see isPublicAddress) are connected to, by the very address that
+    /// was judged. The names in `insideHosts` (lower case, no final point) are free of that.
+    bool publicOnly = false;
+    QStringList insideHosts;
     bool login = false;
     QString user;
     QString password;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <QHostAddress>
+#include <QHostInfo>
 #include <QNetworkProxy>
 #include <utility>
 
+#include "platform/mail/InsideAddress.h"
 #include "platform/mail/TcpState.h"
 
 namespace mail {
@@ -85,6 +87,7 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
     if (route.host != m_route.host || route.port != m_route.port) m_tlsSeen = false;
     m_route = route;
     m_plainOnly = false;
+    m_addresses.clear();
     open();
 }
 
@@ -148,7 +151,40 @@ void SmtpSession::open(LocalPort localPort) {
     m_expected = {Step::Greeting};
     m_outstanding = 0;
     progress();
-    m_socket->connectToHost(m_route.host, m_route.port);
+    connectToServer();
+}
+
+void SmtpSession::connectToServer() {
+    if (!m_route.publicOnly || m_route.insideHosts.contains(m_route.host.toLower())) {
+        m_socket->connectToHost(m_route.host, m_route.port);
+    } else if (!m_addresses.isEmpty()) {
+        connectToNext();
+    } else {
+        m_lookup = QHostInfo::lookupHost(m_route.host, this, &SmtpSession::onLookedUp);
+    }
+}
+
+/// The name is not looked up again after its addresses were judged: it may lead elsewhere then.
+void SmtpSession::onLookedUp(const QHostInfo& found) {
+    if (found.lookupId() != m_lookup) return;
+    m_lookup = -1;
+    for (const QHostAddress& address : found.addresses())
+        if (isPublicAddress(address)) m_addresses.append(address);
+    if (!m_addresses.isEmpty()) {
+        connectToNext();
+    } else if (found.addresses().isEmpty()) {
+        lost(0, QStringLiteral("Server %1 non trovato.").arg(m_route.host));
+    } else {
+        m_transcript.remark(QStringLiteral("%1 ha solo indirizzi di reti interne: se è un server della "
+                                           "propria rete, scriverne il nome in mx-interni.txt")
+                                .arg(m_route.host));
+        lost(0, noMailServer());
+    }
+}
+
+void SmtpSession::connectToNext() {
+    m_socket->setPeerVerifyName(m_route.host);
+    m_socket->connectToHost(m_addresses.takeFirst(), m_route.port);
 }
 
 void SmtpSession::noteLocalPortTaken() {
@@ -160,6 +196,7 @@ bool SmtpSession::implicitTls() const {
 }
 
 void SmtpSession::onConnected() {
+    m_addresses.clear();
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     m_bound = false;
     m_connected.start();
@@ -182,6 +219,7 @@ void SmtpSession::dropConnection() {
     m_input.clear();
     m_inputRead = 0;
     m_login.reset();
+    if (m_lookup >= 0) QHostInfo::abortHostLookup(std::exchange(m_lookup, -1));
     if (!m_socket) return;
     if (midMessage) resetOnClose(int(m_socket->socketDescriptor()));
     QSslSocket* const socket = std::exchange(m_socket, nullptr);
@@ -284,6 +322,7 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
     }
     if (m_bound && isLocalPortError(error)) {
         noteLocalPortTaken();
+        m_addresses.clear();
         dropConnection();
         open(LocalPort::Any);
         return;
@@ -291,6 +330,11 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
     if (m_handshaking && m_route.opportunisticTls && !implicitTls()) {
         m_transcript.remark(QStringLiteral("TLS non riuscito, nuova connessione in chiaro"));
         m_plainOnly = true;
+        dropConnection();
+        open();
+        return;
+    }
+    if (!m_addresses.isEmpty()) {
         dropConnection();
         open();
         return;

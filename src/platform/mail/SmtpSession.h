@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <QElapsedTimer>
+#include <QHostAddress>
 #include <QList>
 #include <QObject>
 #include <QSet>
@@ -19,7 +20,14 @@
 #include "platform/mail/SmtpReply.h"
 #include "platform/mail/Transcript.h"
 
+class QHostInfo;
+
 namespace mail {
+
+/// What a delivery to a domain without a server of the public internet ends in.
+inline QString noMailServer() {
+    return QStringLiteral("Il dominio del destinatario non ha un server di posta.");
+}
 
 /// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits get more where
 /// he chose less, since a server may look at the client or the message before it answers (RFC 5321 4.5.3.2).
@@ -73,6 +81,9 @@ class SmtpSession : public QObject {
 
     // SmtpSession.cpp: life of a connection and of a delivery
     void open(LocalPort localPort = LocalPort::AsTold);
+    void connectToServer();
+    void onLookedUp(const QHostInfo& found);
+    void connectToNext();
     void dropConnection();
     void quit();
     void lost(int code, const QString& why, Loss loss = Loss::Dead);
@@ -142,9 +153,11 @@ class SmtpSession : public QObject {
     bool m_startTlsRefused = false;
     bool m_handshaking = false;
     bool m_authenticated = false;
-    bool m_needsReset = false;  ///< the last message was refused
-    bool m_bound = false;       ///< connecting from the local port that was asked for
-    bool m_tlsSeen = false;     ///< the route's server has offered TLS before
+    bool m_needsReset = false;        ///< the last message was refused
+    bool m_bound = false;             ///< connecting from the local port that was asked for
+    bool m_tlsSeen = false;           ///< the route's server has offered TLS before
+    int m_lookup = -1;                ///< number of the look-up of the host that is under way
+    QList<QHostAddress> m_addresses;  ///< of the host, judged, that were not tried yet
     QElapsedTimer m_connected;
     QSet<QString> m_greeters;  ///< hosts that get no more than the user's time for their greeting
     SmtpExtensions m_extensions;

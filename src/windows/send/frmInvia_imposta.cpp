@@ -15,6 +15,7 @@
 #include "modules/lang/bVAR.h"
 #include "modules/message/MessaggioMss.h"
 #include "modules/send/Accettati.h"
+#include "modules/send/MxInterni.h"
 #include "modules/send/Porta.h"
 #include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
@@ -231,6 +232,7 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     SMTP->BodyFormat = 1;
     SMTP->TemplateHtml = corpoHtml;
     disiscrizione = mail::markedUnsubscribe(corpoHtml);
+    SMTP->InsideHosts = MxInterni();
     SMTP->CertificateFolder = cartellaDati() + "certificati";
     SMTP->DkimFolder = cartellaDati() + "dkim";
 }

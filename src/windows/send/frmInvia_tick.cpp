@@ -109,6 +109,7 @@ void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
     const auto usaSMTP = numero(mittente.chkUsaSMTP);
     const bool diretta = usaSMTP.ok() && usaSMTP.value() == 0;
     SMTP->OpportunisticTls = diretta;
+    SMTP->PublicServersOnly = diretta;
     if (diretta) {
         // Without a mail exchanger there is no host, and the delivery fails.
         prosegui([&] { MXQuery(DominioDi(SMTP->ToAddress)); });

@@ -61,6 +61,43 @@ TEST(DeliveryControl, NullMxEndsBeforeConnecting) {
     }
 }
 
+/// Refuses servers inside, whatever name leads there.
+TEST(DeliveryControl, DirectRouteDoesNotConnectToAnInsideAddress) {
+    Unasked server;
+    Client client(server.port());
+    client.smtp.PublicServersOnly = true;
+    for (const char* name : {"localhost", "LOCALHOST.", "127.0.0.1", "::1", "::ffff:127.0.0.1"}) {
+        client.smtp.ServerName = QString::fromLatin1(name);
+        const Heard heard = client.send();
+        EXPECT_FALSE(heard.done) << name;
+        EXPECT_TRUE(heard.text.contains(QStringLiteral("non ha un server di posta")))
+            << name << qPrintable(heard.text);
+    }
+    EXPECT_FALSE(server.wasAsked());
+}
+
+TEST(DeliveryControl, DirectRouteTakesNoAddressForAServerNotEvenAPublicOne) {
+    Client client(25);
+    client.smtp.PublicServersOnly = true;
+    client.smtp.InsideHosts = QStringList{QStringLiteral("127.0.0.1"), QStringLiteral("192.0.2.1")};
+    for (const char* name : {"127.0.0.1", "192.0.2.1", "8.8.8.8"}) {
+        client.smtp.ServerName = QString::fromLatin1(name);
+        EXPECT_TRUE(client.send().text.contains(QStringLiteral("non ha un server di posta"))) << name;
+    }
+}
+
+TEST(DeliveryControl, DirectRouteReachesAnInsideServerThatIsAllowed) {
+    ScriptedServer server({QByteArrayList{"S: 554 chiuso"}});
+    Client client(server.port());
+    client.smtp.PublicServersOnly = true;
+    client.smtp.InsideHosts = QStringList{QStringLiteral("localhost")};
+    client.smtp.ServerName = QStringLiteral("LocalHost");
+    EXPECT_EQ(client.send().code, 554);
+    client.smtp.InsideHosts.clear();
+    EXPECT_EQ(client.send().code, 0);
+    EXPECT_EQ(server.remainder(), "");
+}
+
 TEST(DeliveryControl, PortZeroIsAnError) {
     Client client(0);
     EXPECT_FALSE(client.send().done);

@@ -9,17 +9,29 @@ namespace {
 
 const bool isolated = enterPrivateNetwork();
 
+// A documentation address (RFC 5737), which no network closes off.
+const char* const publicAddress = "203.0.113.25";
+
 NameServer::Records records() {
     return {{{"alfa.example", 10, "mx.alfa.example"},
              {"beta.example", 10, "mx.beta.example"},
              {"spento.example", 10, "mx.spento.example"},
              {"fantasma.example", 10, "mx.fantasma.example"},
              {"nullo.example", 0, ""},
-             {"muto.example", 10, "mx.muto.example"}},
+             {"muto.example", 10, "mx.muto.example"},
+             {"locale.example", 10, "localhost"},
+             {"numero.example", 10, "127.0.0.6"},
+             {"interno.example", 10, "mx.interno.example"},
+             {"pubblico.example", 10, "mx.pubblico.example"},
+             {"misto.example", 10, "mx.misto.example"}},
             {{"mx.alfa.example", "127.0.0.2"},
              {"mx.beta.example", "127.0.0.3"},
              {"mx.spento.example", "127.0.0.4"},
              {"mx.muto.example", "127.0.0.5"},
+             {"mx.interno.example", "127.0.0.6"},
+             {"mx.pubblico.example", publicAddress},
+             {"mx.misto.example", "127.0.0.6"},
+             {"mx.misto.example", publicAddress},
              {"solo.example", "127.0.0.2"}},
             {}};
 }
@@ -39,6 +51,12 @@ class DirectStage {
         account.txtUsername = "utente";
         account.txtPassword = "segreto";
         stage.folder.addAccount(account);
+        QFile ownNet(stage.folder.path("data/mx-interni.txt"));
+        if (!ownNet.open(QIODevice::WriteOnly)) qFatal("no list of own servers");
+        ownNet.write(
+            "# della nostra rete\r\nMX.alfa.example.\r\nmx.beta.example\r\n"
+            "mx.spento.example # a volte\r\nmx.muto.example\r\n127.0.0.6\r\n");
+        ownNet.close();
         stage.open();
         stage.control<QComboBox>("cmbAccount")->setCurrentIndex(1);
     }
@@ -92,6 +110,28 @@ class TestFrmInviaDiretto : public QObject {
         QCOMPARE(direct.alfa.attempts(), QStringList{"a@alfa.example"});
         QCOMPARE(direct.beta.attempts(), QStringList{"h@beta.example"});
         QCOMPARE(direct.stage.counters(), (QList<double>{0, 6, 2}));
+    }
+
+    void hostileDomainsLeadToNoServerInside() {
+        SmtpSink inside{QHostAddress("127.0.0.6"), 25}, here{QHostAddress("127.0.0.1"), 25};
+        DirectStage direct({"a@locale.example", "b@numero.example", "c@interno.example", "d@alfa.example"});
+        QVERIFY(direct.stage.run());
+        QCOMPARE(inside.attempts(), QStringList());
+        QCOMPARE(here.attempts(), QStringList());
+        QCOMPARE(direct.alfa.attempts(), QStringList{"d@alfa.example"});
+        QCOMPARE(SampleFolder::selected(),
+                 (QStringList{"a@locale.example", "b@numero.example", "c@interno.example"}));
+        QCOMPARE(direct.stage.counters(), (QList<double>{0, 3, 1}));
+    }
+
+    void publicServerIsServedAlsoWhereItsNameLeadsInsideToo() {
+        QVERIFY(addLoopbackAddress(publicAddress));
+        SmtpSink inside{QHostAddress("127.0.0.6"), 25}, outside{QHostAddress(publicAddress), 25};
+        DirectStage direct({"a@pubblico.example", "b@misto.example"});
+        QVERIFY(direct.stage.run());
+        QCOMPARE(outside.attempts(), (QStringList{"a@pubblico.example", "b@misto.example"}));
+        QCOMPARE(inside.attempts(), QStringList());
+        QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
     void refusedRecipientStaysAndTheSessionGoesOn() {
