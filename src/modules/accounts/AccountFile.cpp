@@ -4,6 +4,7 @@
 
 #include "modules/accounts/bBinary.h"
 #include "modules/core/Fallimento.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/TextFile.h"
 
@@ -44,15 +45,15 @@ Account& voce(TabellaAccount& tabella, int posizione) {
     return tabella[static_cast<std::size_t>(posizione)];
 }
 
-void apri(text::TextWriter& file, const QString& percorso, text::WriteMode modo) {
-    esigi(file.open(percorso, modo, text::FileAccess::OwnerOnly));
+void apri(sys::TextWriter& file, const QString& percorso, sys::WriteMode modo) {
+    esigi(file.open(percorso, modo, sys::FileKind::Secret));
 }
 
 // Writes the first `quanti` accounts of the table, numbered by their positions.
 void riscrivi(const QString& percorso, TabellaAccount& tabella, int quanti) {
     Prosegui prosegui;
-    text::TextWriter file;
-    prosegui([&] { apri(file, percorso, text::WriteMode::Output); });
+    sys::TextWriter file;
+    prosegui([&] { apri(file, percorso, sys::WriteMode::Output); });
     for (int i = 0; i < quanti; ++i) {
         prosegui([&] { esigi(file.print(inRiga(voce(tabella, i), i))); });
     }
@@ -91,8 +92,8 @@ int NuovoAccount(const QString& percorso, TabellaAccount& tabella, Account nuovo
     int numero = 0;
     prosegui([&] { numero = esigi(text::toInt16(static_cast<double>(tabella.size()))); });
     nuovo.idAccount = QString::number(numero);
-    text::TextWriter file;
-    prosegui([&] { apri(file, percorso, text::WriteMode::Append); });
+    sys::TextWriter file;
+    prosegui([&] { apri(file, percorso, sys::WriteMode::Append); });
     prosegui([&] { esigi(file.print(inRiga(nuovo, numero))); });
     prosegui([&] { esigi(file.close()); });
     const auto indice = static_cast<std::size_t>(numero);

@@ -3,13 +3,16 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/DateText.h"
-#include "platform/text/TextFile.h"
 
 void ScriviInizioLog() {
     Prosegui prosegui;
-    text::TextWriter file;
-    prosegui([&] { esigi(file.open(PercorsoApp() + QStringLiteral("Error.txt"), text::WriteMode::Output)); });
+    sys::TextWriter file;
+    prosegui([&] {
+        esigi(file.open(PercorsoApp() + QStringLiteral("Error.txt"), sys::WriteMode::Output,
+                        sys::FileKind::Own));
+    });
     prosegui([&] {
         esigi(file.print(QStringLiteral("Inizio applicazione: ") + text::dateTimeText(sys::clock().now())));
     });

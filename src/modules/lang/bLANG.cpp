@@ -4,6 +4,7 @@
 
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/TextFile.h"
 
 namespace {
@@ -101,8 +102,8 @@ void bLANG::ElencaLingue(QStringList& voci) {
 }
 
 void bLANG::ScriviLinguaInUso(const QString& nome) {
-    text::TextWriter file;
-    esigi(file.open(percorsoScelta(), text::WriteMode::Output));
+    sys::TextWriter file;
+    esigi(file.open(percorsoScelta(), sys::WriteMode::Output, sys::FileKind::Own));
     esigi(file.print(nome));
     esigi(file.close());
 }

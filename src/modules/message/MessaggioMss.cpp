@@ -5,6 +5,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/Blanks.h"
 
 namespace {
@@ -37,8 +38,8 @@ void aggiungi(QString& corpo, const QString& riga) {
 }  // namespace
 
 void ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio) {
-    text::TextWriter file;
-    esigi(file.open(percorso, text::WriteMode::Output));
+    sys::TextWriter file;
+    esigi(file.open(percorso, sys::WriteMode::Output, sys::kindByFolder(percorso)));
     esigi(file.print(iniSubj + messaggio.Oggetto + endSubj));
     esigi(file.print(iniPrio + messaggio.Priorita + endPrio));
     esigi(file.print(iniAllg));

@@ -8,6 +8,7 @@
 #include "modules/core/Fallimento.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/system/OwnFile.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/TextFile.h"
 
@@ -90,8 +91,8 @@ QString CaricaPercorsoDBase() {
 
 void CambiaPercorsoDBase(const QString& percorso) {
     Prosegui prosegui;
-    text::TextWriter file;
-    prosegui([&] { esigi(file.open(fileDelPercorso(), text::WriteMode::Output)); });
+    sys::TextWriter file;
+    prosegui([&] { esigi(file.open(fileDelPercorso(), sys::WriteMode::Output, sys::FileKind::Own)); });
     prosegui([&] { esigi(file.print(u"[Path dabatase Quintara]")); });
     prosegui([&] { esigi(file.print(percorso)); });
     prosegui([&] { esigi(file.close()); });

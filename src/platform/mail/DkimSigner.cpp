@@ -5,12 +5,12 @@
 #include <dkim.h>
 #undef _Bool
 
-#include <QFile>
 #include <QSslKey>
 
 #include "platform/mail/AddrSpec.h"
 #include "platform/mail/DomainName.h"
 #include "platform/mail/FileStamp.h"
+#include "platform/system/OwnFile.h"
 
 namespace mail {
 namespace {
@@ -69,11 +69,6 @@ Status unusable(const QString& why) {
     return {ErrorCode::NotSupported, QStringLiteral("Messaggio non firmato (DKIM): %1.").arg(why)};
 }
 
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(largestKeyFile) : QByteArray();
-}
-
 // Hands over one header field after the other, each with its folded lines
 DKIM_STAT readHeaders(DKIM* signature, QByteArrayView block) {
     DKIM_STAT state = DKIM_STAT_OK;
@@ -111,13 +106,19 @@ struct DkimSigner::State {
     void follow(const QString& newPlace) {
         const FileStamp newKeyStamp = FileStamp::of(newPlace + ".pem"),
                         newSelectorStamp = FileStamp::of(newPlace + ".selector");
-        if (newPlace == place && newKeyStamp == keyStamp && newSelectorStamp == selectorStamp) return;
+        if (newPlace == place && newKeyStamp == keyStamp && newSelectorStamp == selectorStamp && usable.ok())
+            return;  // what could not be used may have got other rights, which no stamp shows
         place = newPlace;
         keyStamp = newKeyStamp;
         selectorStamp = newSelectorStamp;
-        key = contents(place + ".pem");
-        selector = contents(place + ".selector").trimmed();
+        const auto keyRead = sys::readGuardedFile(place + ".pem", largestKeyFile),
+                   selectorRead =
+                       sys::readGuardedFile(place + ".selector", largestKeyFile, sys::Others::Read);
+        key = keyRead.ok() ? keyRead.value() : QByteArray();
+        selector = selectorRead.ok() ? selectorRead.value().trimmed() : QByteArray();
         usable = check();
+        for (const auto* read : {&selectorRead, &keyRead})
+            if (read->status().code() == ErrorCode::PathAccess) usable = unusable(read->status().text());
     }
 
     /// Whether there is a file of the domain. A domain literal has none, and no other domain can lead out of

@@ -15,7 +15,8 @@ namespace mail {
 /// that none can be put in front of a signed message (RFC 6376 8.15).
 ///
 /// The key is a PEM file `<domain>.pem` of RSA with at least 2048 bits, the selector the one word in
-/// `<domain>.selector` beside it; the domain in lower case and as A-labels. They are read again when their
+/// `<domain>.selector` beside it; the domain in lower case and as A-labels. Nobody but the user may
+/// read or write the key, nor write the selector. They are read again when their
 /// size or time of change differ.
 class DkimSigner {
   public:

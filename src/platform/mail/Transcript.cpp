@@ -4,15 +4,16 @@
 #include <QDateTime>
 
 #include "platform/mail/SmtpReply.h"
+#include "platform/system/OutputFile.h"
 
 namespace mail {
 
 void Transcript::setFile(const QString& path) {
-    if (m_file.isOpen() && m_file.fileName() == path) return;
+    if (m_file.isOpen() && m_path == path) return;
     m_file.close();
+    m_path = path;
     if (path.isEmpty()) return;
-    m_file.setFileName(path);
-    m_file.open(QIODevice::WriteOnly | QIODevice::Append);
+    static_cast<void>(sys::openForWriting(m_file, path, sys::WriteMode::Append, sys::FileKind::Own));
 }
 
 void Transcript::addSecret(const QByteArray& secret) {

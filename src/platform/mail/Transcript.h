@@ -7,7 +7,8 @@
 namespace mail {
 
 /// The support log (.xt1): UTF-8 text, lines ended by CR LF, each "date time direction text" in local time.
-/// Directions: ">" to the server, "<" from the server, "*" a remark of the program. It is appended to.
+/// Directions: ">" to the server, "<" from the server, "*" a remark of the program. It is appended to, made
+/// for its owner alone, and never reached through a link.
 ///
 /// A log that cannot be opened or written is left out silently: it never harms a delivery.
 class Transcript {
@@ -35,6 +36,7 @@ class Transcript {
     bool holdsSecret(QByteArrayView text) const;
 
     QFile m_file;
+    QString m_path;
     QByteArrayList m_secrets;
 };
 

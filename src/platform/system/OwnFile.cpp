@@ -6,7 +6,10 @@
 #include <unistd.h>
 #include <cerrno>
 #include <QFile>
+#include <QFileInfo>
 #include <utility>
+
+#include "platform/system/OutputFile.h"
 
 namespace sys {
 
@@ -50,10 +53,6 @@ bool isFolder(const QString& path) {
     return ::lstat(QFile::encodeName(path).constData(), &found) == 0 && S_ISDIR(found.st_mode);
 }
 
-QString folderOf(const QString& path) {
-    return path.left(path.lastIndexOf(u'/'));
-}
-
 bool writeAll(int file, const QByteArray& bytes) {
     for (qsizetype done = 0; done < bytes.size();) {
         const ssize_t wrote =
@@ -65,6 +64,15 @@ bool writeAll(int file, const QByteArray& bytes) {
     return ::fsync(file) == 0;
 }
 
+Result<QByteArray> readUpTo(int open, qint64 limit) {
+    QFile file;
+    if (!file.open(open, QIODevice::ReadOnly)) return Status(ErrorCode::DeviceIo, file.errorString());
+    QByteArray bytes = file.read(limit + 1);
+    if (file.error() != QFileDevice::NoError) return Status(ErrorCode::DeviceIo, file.errorString());
+    if (bytes.size() > limit) return Status(ErrorCode::Overflow, QString());
+    return bytes;
+}
+
 }  // namespace
 
 Status makeOwnFolder(const QString& path) {
@@ -73,7 +81,7 @@ Status makeOwnFolder(const QString& path) {
 }
 
 Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
-    if (!isFolder(folderOf(path))) return {ErrorCode::PathAccess, QString()};
+    if (!folderIsSafe(path)) return {ErrorCode::PathAccess, QString()};
     const QByteArray aside = QFile::encodeName(path + QStringLiteral(".nuovo"));
     ::unlink(aside.constData());
     Open file(path + QStringLiteral(".nuovo"), O_WRONLY | O_CREAT | O_EXCL);
@@ -86,19 +94,31 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
 }
 
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit) {
-    if (!isFolder(folderOf(path))) return Status(ErrorCode::PathAccess, QString());
+    if (!folderIsSafe(path)) return Status(ErrorCode::PathAccess, QString());
     const Open open(path, O_RDONLY | O_NONBLOCK);
     struct stat found {};
     if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
     if (!S_ISREG(found.st_mode)) return Status(ErrorCode::PathAccess, QString());
-    QFile file;
-    if (!file.open(open.get(), QIODevice::ReadOnly)) return Status(ErrorCode::DeviceIo, file.errorString());
-    QByteArray bytes = file.read(limit + 1);
-    if (file.error() != QFileDevice::NoError) return Status(ErrorCode::DeviceIo, file.errorString());
-    if (bytes.size() > limit) return Status(ErrorCode::Overflow, QString());
-    return bytes;
+    return readUpTo(open.get(), limit);
 }
 
+Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others others) {
+    if (!folderIsSafe(path) || !mayFollow(path))
+        return Status(ErrorCode::PathAccess,
+                      QStringLiteral("%1 è un collegamento di un altro utente").arg(path));
+    const Open open(QFileInfo(path).canonicalFilePath(), O_RDONLY | O_NONBLOCK);
+    struct stat found {};
+    if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
+    const bool owned = found.st_uid == ::geteuid() || found.st_uid == 0;
+    const mode_t tooMuch = others == Others::Nothing ? 077 : 022;
+    if (!S_ISREG(found.st_mode) || !owned || (found.st_mode & tooMuch) != 0)
+        return Status(ErrorCode::PathAccess,
+                      QStringLiteral("altri utenti possono %1 %2: deve essere un file dell'utente con i "
+                                     "permessi %3")
+                          .arg(others == Others::Nothing ? "leggere o scrivere" : "scrivere", path,
+                               others == Others::Nothing ? "600" : "644"));
+    return readUpTo(open.get(), limit);
+}
 FileLock::FileLock(FileLock&& other) noexcept
     : m_file(std::exchange(other.m_file, -1)), m_path(std::move(other.m_path)) {}
 
@@ -110,7 +130,7 @@ FileLock& FileLock::operator=(FileLock&& other) noexcept {
 
 Status FileLock::take(const QString& path) {
     release();
-    if (!isFolder(folderOf(path))) return {ErrorCode::PathAccess, QString()};
+    if (!folderIsSafe(path)) return {ErrorCode::PathAccess, QString()};
     Open file(path, O_RDWR | O_CREAT | O_NONBLOCK);
     if (file.get() < 0 || ::flock(file.get(), LOCK_EX | LOCK_NB) != 0) return failure();
     // Whoever had it may have removed the file between the two steps: the name is another file's by now.

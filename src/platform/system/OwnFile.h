@@ -6,7 +6,8 @@
 #include "platform/Status.h"
 
 /// Files of the data folder that hold what nobody else may read: made for their owner only, replaced whole,
-/// read with a bound. Links are not followed, neither by the file's name nor by its folder's.
+/// read with a bound. Links are not followed, but where the file's
+/// folder is one of the user's own or of the administrator's.
 namespace sys {
 
 /// Makes the folder where it is missing. PathAccess where something else than a folder has its name.
@@ -19,6 +20,14 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes);
 /// The bytes of an ordinary file. FileNotFound where there is none, Overflow where there are more than
 /// `limit`.
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit);
+
+/// What users may do with a file besides its owner, who is the user or the administrator.
+enum class Others { Nothing, Read };
+
+/// The bytes of a file that has to be out of the reach of others: a key, a token. Fails as readOwnFile(), and
+/// with PathAccess where others can do more with it than `others` says; the text tells that and names the
+/// file. A link is followed where it is the user's own or the administrator's.
+Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others others = Others::Nothing);
 
 /// A lock that holds as long as the object, and never longer than the process: a file of its own that nobody
 /// else can lock meanwhile.

@@ -1,13 +1,16 @@
 #include "platform/system/ProgramFolder.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
+
+#include "platform/system/OwnFile.h"
 
 namespace sys {
 
@@ -27,20 +30,14 @@ QString withSlash(const QString& folder) {
     return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
-bool makeOwnFolder(const QString& path) {
-    return QDir().mkpath(path) &&
-           QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
 bool copyFile(const QFileInfo& file, const QString& folder) {
     const QString target = folder + u'/' + file.fileName();
     if (QFileInfo::exists(target)) return true;
-    return QFile::copy(file.filePath(), target) &&
-           QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    QFile source(file.filePath());
+    return source.open(QFile::ReadOnly) && replaceOwnFile(target, source.readAll()).ok();
 }
 
 bool copyFiles(const QString& from, const QString& to) {
-    if (!QFileInfo(to).isDir() && !makeOwnFolder(to)) return false;
     const auto files = QDir(from).entryInfoList(QDir::Files);
     return std::all_of(files.begin(), files.end(), [&](const QFileInfo& file) { return copyFile(file, to); });
 }
@@ -52,11 +49,22 @@ QByteArray digestOf(const QString& path) {
     return file.open(QFile::ReadOnly) && digest.addData(&file) ? digest.result().toHex() : QByteArray();
 }
 
-/// Puts bytes in the place of a file, all or none.
 Status replaceFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return {};
+    if (replaceOwnFile(path, bytes).ok()) return {};
     return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + path};
+}
+
+bool makeFolder(const QString& folder) {
+    return QDir().mkpath(QFileInfo(folder).path()) && makeOwnFolder(folder).ok();
+}
+
+/// Makes a folder that is empty and the user's own, whatever had its name. A link is taken away; what it
+/// leads to stays.
+bool makeAnew(const QString& folder) {
+    const QFileInfo there(folder);
+    const bool gone =
+        there.isSymLink() || there.isFile() ? QFile::remove(folder) : QDir(folder).removeRecursively();
+    return gone && ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0;
 }
 
 }  // namespace
@@ -83,8 +91,8 @@ Status fillProgramFolder(const QString& folder, const QString& templates) {
     const QString data = folder + QStringLiteral("/data");
     if (QFileInfo::exists(data)) return {};
     const QString unfinished = data + QStringLiteral(".nuova");
-    QDir(unfinished).removeRecursively();
-    const bool filled = copyFiles(templates, folder) &&
+    const bool filled = (QFileInfo(folder).isDir() || makeFolder(folder)) && makeAnew(unfinished) &&
+                        copyFiles(templates, folder) &&
                         copyFiles(templates + QStringLiteral("/data"), unfinished) &&
                         QDir().rename(unfinished, data);
     return filled

@@ -146,32 +146,4 @@ Status LineReader::readLine(QString& line) {
     return failed(ErrorCode::InputPastEnd, QStringLiteral("Input oltre la fine del file"), m_file.fileName());
 }
 
-TextWriter::~TextWriter() {
-    if (m_file.isOpen()) m_file.close();
-}
-
-Status TextWriter::open(const QString& path, WriteMode mode, FileAccess access) {
-    if (m_file.isOpen()) m_file.close();
-    m_file.setFileName(path);
-    const QIODevice::OpenMode flags = mode == WriteMode::Append ? QIODevice::Append : QIODevice::WriteOnly;
-    const QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
-    if (access == FileAccess::Default) return m_file.open(flags) ? Status() : pathAccess(path);
-    if (!m_file.open(flags, ownerOnly)) return pathAccess(path);
-    m_file.setPermissions(ownerOnly);  // an older file may belong to somebody else: then it stays as it is
-    return {};
-}
-
-Status TextWriter::print(QStringView line) {
-    const QByteArray bytes = toAnsi(line) + "\r\n";
-    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) return deviceIo(m_file);
-    return {};
-}
-
-Status TextWriter::close() {
-    if (!m_file.isOpen()) return deviceIo(m_file);
-    const bool flushed = m_file.flush();
-    m_file.close();
-    return flushed && m_file.error() == QFileDevice::NoError ? Status() : deviceIo(m_file);
-}
-
 }  // namespace text

@@ -6,8 +6,8 @@
 
 #include "platform/Status.h"
 
-/// Text files, line by line. The bytes are Windows-1252 (AnsiCodec.h), but where the reader is asked to find
-/// out.
+/// Reads text files, line by line; sys::TextWriter writes them. The bytes are Windows-1252 (AnsiCodec.h), but
+/// where the reader is asked to find out.
 namespace text {
 
 /// Opens an ordinary file for reading. FileNotFound where there is none; PathAccess for a folder, a device, a
@@ -65,31 +65,6 @@ class LineReader {
     QStringDecoder m_fromUtf16;  ///< valid for a file of UTF-16, whose blocks become UTF-8
     QStringEncoder m_toUtf8;
     Status m_status;
-};
-
-enum class WriteMode {
-    Output,  ///< starts with an empty file
-    Append,  ///< goes on behind what is there
-};
-
-/// Who may open a file that the writer creates.
-enum class FileAccess {
-    Default,    ///< what the user's settings say
-    OwnerOnly,  ///< its owner alone; a file that is already there is narrowed too, where the user may
-};
-
-/// Writes lines that end in CR LF. What was written stays when a later line fails. Closes the file with
-/// itself, but only close() tells whether the last lines arrived.
-class TextWriter {
-  public:
-    ~TextWriter();
-
-    Status open(const QString& path, WriteMode mode, FileAccess access = FileAccess::Default);
-    Status print(QStringView line);
-    Status close();
-
-  private:
-    QFile m_file;
 };
 
 }  // namespace text

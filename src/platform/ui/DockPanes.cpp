@@ -3,8 +3,9 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QMainWindow>
-#include <QSaveFile>
 #include <QtEndian>
+
+#include "platform/system/OwnFile.h"
 
 namespace ui {
 
@@ -74,13 +75,8 @@ Status DockPanes::saveLayout(const QString& path) const {
     uchar numbers[headerSize - 8];
     qToLittleEndian(static_cast<quint32>(arrangement.size()), numbers);
     qToLittleEndian(qChecksum(arrangement), numbers + 4);
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(magic.toByteArray());
-        file.write(reinterpret_cast<const char*>(numbers), sizeof numbers);
-        file.write(arrangement);
-        if (file.commit()) return {};
-    }
+    const QByteArray head(reinterpret_cast<const char*>(numbers), sizeof numbers);
+    if (sys::replaceOwnFile(path, magic.toByteArray() + head + arrangement).ok()) return {};
     return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file \"%1\".").arg(path)};
 }
 

@@ -8,6 +8,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "platform/system/TextWriter.h"
 #include "platform/text/Blanks.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/TextFile.h"
@@ -119,8 +120,8 @@ void CaricaPosizioneForm(QWidget& finestra) {
 
 void SalvaPosizioneForm(const QWidget& finestra) {
     riempiBuffer(finestra);
-    text::TextWriter file;
-    esigi(file.open(fileDi(finestra), text::WriteMode::Output));
+    sys::TextWriter file;
+    esigi(file.open(fileDi(finestra), sys::WriteMode::Output, sys::FileKind::Own));
     esigi(file.print(u"[Form frmMain]"));
     esigi(file.print("mnLeft........: " + testo(posLeft)));
     esigi(file.print("mnTop.........: " + testo(posTop)));

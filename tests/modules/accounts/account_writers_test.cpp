@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+#include <unistd.h>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -176,4 +178,31 @@ TEST_F(AccountWriters, FileIsForItsOwnerAlone) {
     add(simple(QStringLiteral("a")));
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     EXPECT_EQ(QFile::permissions(path()) & others, QFile::Permissions());
+}
+
+TEST_F(AccountWriters, FileThatAnotherUserMadeBeforehandTakesNoPassword) {
+    writeBytes(path(), "");
+    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0666), 0);
+    if (::chown(QFile::encodeName(path()).constData(), 65534, static_cast<gid_t>(-1)) != 0)
+        GTEST_SKIP() << "only the administrator can give a file away";
+    Account secret = simple(QStringLiteral("a"));
+    secret.txtPassword = QStringLiteral("segreta");
+    add(secret);
+    change(0, secret);
+    EXPECT_EQ(bytesOf(path()), QByteArray());
+    ASSERT_EQ(table.size(), 1u);
+}
+
+TEST_F(AccountWriters, LinkTakesNoPassword) {
+    const QString elsewhere = path() + QStringLiteral(".altrove");
+    writeBytes(elsewhere, "");
+    ASSERT_TRUE(QFile::link(elsewhere, path()));
+    Account secret = simple(QStringLiteral("a"));
+    secret.txtPassword = QStringLiteral("segreta");
+    add(secret);
+    EXPECT_EQ(bytesOf(elsewhere), QByteArray());
+    change(0, secret);
+    EXPECT_EQ(bytesOf(elsewhere), QByteArray());
+    EXPECT_FALSE(QFileInfo(path()).isSymLink());
+    EXPECT_EQ(records(), QStringList(QStringLiteral("0|a|a@b.it||25|0||segreta|EHLO|0|0")));
 }

@@ -1,9 +1,11 @@
 #include "modules/message/MessaggioMss.h"
 
+#include <sys/stat.h>
 #include <QDir>
 #include <QTemporaryDir>
 
 #include "modules/core/Fallimento.h"
+#include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
 namespace {
@@ -254,6 +256,22 @@ TEST_F(MessageFile, EndlessBodyIsGivenUp) {
 
 TEST_F(MessageFile, WriterFailsWhereTheFileCannotBeOpened) {
     EXPECT_THROW(ScriviMessaggio(path(QStringLiteral("missing/m.mss")), {}), Fallimento);
+}
+
+TEST_F(MessageFile, FileOfTheDataFolderIsForItsOwnerAloneAndOthersAreAsTheUsersSettingsSay) {
+    const mode_t before = ::umask(022);
+    sys::setProgramFolder(QFileInfo(path()).path());
+    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("data"))));
+    const auto modeOfNew = [](const QString& file) {
+        ScriviMessaggio(file, {QStringLiteral("s"), QStringLiteral("NR"), {}, {}});
+        struct stat made {};
+        EXPECT_EQ(::stat(QFile::encodeName(file).constData(), &made), 0);
+        return made.st_mode & 0777U;
+    };
+    EXPECT_EQ(modeOfNew(path(QStringLiteral("data/m.mss"))), 0600U);
+    EXPECT_EQ(modeOfNew(path()), 0644U);
+    sys::setProgramFolder({});
+    ::umask(before);
 }
 
 TEST_F(MessageFile, WriterTruncatesWhatWasThere) {

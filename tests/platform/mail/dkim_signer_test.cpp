@@ -222,9 +222,26 @@ TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
     expectUnsigned(message, "la chiave manca");
     for (const QByteArray& key :
          {QByteArray(), QByteArray("no key"), QByteArray(1000000, 'x'), QByteArray(100, '\0')}) {
-        makeFile(s_folder->filePath("broken.example.pem"), key);
+        QFile::setPermissions(makeFile(s_folder->filePath("broken.example.pem"), key),
+                              QFile::ReadOwner | QFile::WriteOwner);
         expectUnsigned(message, "non è una chiave RSA");
     }
+}
+
+TEST_F(Dkim, KeyThatOthersCanReadIsToldAndUsedAgainOnceTheyCannot) {
+    auto message = signedMessage();
+    message.fromAddress = "a@open.example";
+    const QString pem = s_folder->filePath("open.example.pem");
+    const QString selector = makeFile(s_folder->filePath("open.example.selector"), "aperto");
+    QFile::copy(s_folder->filePath("orto.example.pem"), pem);
+    const auto ours = QFile::ReadOwner | QFile::WriteOwner;
+    QFile::setPermissions(pem, ours | QFile::ReadOther);
+    expectUnsigned(message, "altri utenti possono leggere o scrivere");
+    EXPECT_TRUE(mail::DkimSigner::usable(s_folder->path(), message.fromAddress).text().contains(pem));
+    QFile::setPermissions(pem, ours);
+    EXPECT_TRUE(compose(message).text.whole().contains("aperto"));
+    QFile::setPermissions(selector, ours | QFile::WriteGroup);
+    EXPECT_FALSE(mail::DkimSigner::usable(s_folder->path(), message.fromAddress).ok());
 }
 
 TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {

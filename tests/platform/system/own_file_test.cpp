@@ -58,10 +58,15 @@ TEST_F(OwnFileTest, ReadingIsBounded) {
     EXPECT_FALSE(sys::readOwnFile(folder.filePath("tubo"), 3).ok());
 }
 
-TEST_F(OwnFileTest, AFolderThatIsALinkIsRefused) {
+TEST_F(OwnFileTest, AFolderThatIsALinkIsRefusedWhereItIsAStrangers) {
     QDir(folder.path()).mkdir("vera");
     link(folder.filePath("vera"));
     EXPECT_FALSE(sys::makeOwnFolder(path).ok());
+    EXPECT_TRUE(sys::replaceOwnFile(path + "/mio", "y").ok());
+    EXPECT_EQ(sys::readOwnFile(path + "/mio", 1).value(), "y");
+    ASSERT_TRUE(QFile::remove(path + "/mio"));
+    if (::lchown(QFile::encodeName(path).constData(), 65534, static_cast<gid_t>(-1)) != 0)
+        GTEST_SKIP() << "only the administrator can give a link away";
     EXPECT_FALSE(sys::replaceOwnFile(path + "/x", "y").ok());
     sys::FileLock lock;
     EXPECT_FALSE(lock.take(path + "/x").ok());
@@ -105,4 +110,29 @@ TEST_F(OwnFileTest, ALockEndsWithAKilledProcess) {
     EXPECT_TRUE(lock.take(path).ok());
     close(ready[0]);
     close(ready[1]);
+}
+
+TEST_F(OwnFileTest, ASecretIsReadWhereOnlyItsOwnerCan) {
+    ASSERT_TRUE(sys::replaceOwnFile(path, "chiave").ok());
+    EXPECT_EQ(sys::readGuardedFile(path, 6).value(), "chiave");
+    EXPECT_EQ(sys::readGuardedFile(path, 5).status().code(), ErrorCode::Overflow);
+    EXPECT_EQ(sys::readGuardedFile(folder.filePath("manca"), 5).status().code(), ErrorCode::FileNotFound);
+    for (const mode_t wide : {0640, 0604, 0620, 0602}) {
+        ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), wide), 0);
+        const Status status = sys::readGuardedFile(path, 6).status();
+        EXPECT_EQ(status.code(), ErrorCode::PathAccess);
+        EXPECT_TRUE(status.text().contains(path) && status.text().contains("600"));
+    }
+    EXPECT_FALSE(sys::readGuardedFile(path, 6, sys::Others::Read).ok());
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0644), 0);
+    EXPECT_TRUE(sys::readGuardedFile(path, 6, sys::Others::Read).ok());
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0400), 0);
+    const QString linked = folder.filePath("collegamento");
+    ASSERT_TRUE(QFile::link(path, linked));
+    EXPECT_EQ(sys::readGuardedFile(linked, 6).value(), "chiave");
+    if (::lchown(QFile::encodeName(linked).constData(), 65534, static_cast<gid_t>(-1)) != 0)
+        GTEST_SKIP() << "only the administrator can give a link away";
+    EXPECT_FALSE(sys::readGuardedFile(linked, 6).ok());
+    ASSERT_EQ(::chown(QFile::encodeName(path).constData(), 65534, static_cast<gid_t>(-1)), 0);
+    EXPECT_FALSE(sys::readGuardedFile(path, 6).ok());
 }

@@ -77,6 +77,19 @@ TEST_F(ProgramFolder, InterruptedFirstStartIsMadeGood) {
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/data.nuova")));
 }
 
+TEST_F(ProgramFolder, LinkInTheWayOfAFirstStartLosesNothingOfWhatItLeadsTo) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    const QString documents = path(QStringLiteral("documenti"));
+    ASSERT_TRUE(QDir().mkpath(folder) && QDir().mkpath(documents));
+    writeBytes(documents + QStringLiteral("/lettera"), "resta");
+    ASSERT_TRUE(QFile::link(documents, folder + QStringLiteral("/data.nuova")));
+    ASSERT_TRUE(sys::fillProgramFolder(folder, path(QStringLiteral("templates"))).ok());
+    EXPECT_EQ(QDir(documents).entryList(QDir::Files), QStringList{"lettera"});
+    EXPECT_TRUE(QFileInfo(folder + QStringLiteral("/data")).isDir());
+    EXPECT_FALSE(QFileInfo(folder + QStringLiteral("/data")).isSymLink());
+}
+
 TEST_F(ProgramFolder, UpgradeRenewsTheTextsOfAnEarlierInstallation) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));

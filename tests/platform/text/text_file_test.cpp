@@ -9,11 +9,8 @@
 #include "support/Vectors.h"
 
 using text::Encoding;
-using text::FileAccess;
 using text::LineEnds;
 using text::LineReader;
-using text::TextWriter;
-using text::WriteMode;
 
 namespace {
 
@@ -181,53 +178,4 @@ TEST_F(TextFile, OnlyAnOrdinaryFileCanBeOpened) {
     QString line;
     EXPECT_TRUE(reader.atEnd());
     EXPECT_FALSE(reader.nextLine(line));
-}
-
-TEST_F(TextFile, WriterEndsEachLineWithCarriageReturnAndLineFeed) {
-    TextWriter writer;
-    ASSERT_TRUE(writer.open(path(), WriteMode::Output).ok());
-    EXPECT_TRUE(writer.print(u"Perché € Ω").ok());
-    EXPECT_TRUE(writer.print(u"").ok());
-    EXPECT_TRUE(writer.close().ok());
-    EXPECT_EQ(bytesOf(path()), QByteArray("Perch\xe9 \x80 ?\r\n\r\n"));
-}
-
-TEST_F(TextFile, OutputEmptiesAndAppendGoesOn) {
-    writeBytes(path(), "old");
-    TextWriter writer;
-    ASSERT_TRUE(writer.open(path(), WriteMode::Append).ok());
-    EXPECT_TRUE(writer.print(u"er").ok());
-    EXPECT_TRUE(writer.close().ok());
-    EXPECT_EQ(bytesOf(path()), QByteArray("older\r\n"));
-    ASSERT_TRUE(writer.open(path(), WriteMode::Output).ok());
-    EXPECT_TRUE(writer.close().ok());
-    EXPECT_EQ(bytesOf(path()), QByteArray());
-}
-
-TEST_F(TextFile, WriterTellsWhereItCannotWrite) {
-    TextWriter writer;
-    EXPECT_EQ(writer.open(path(QStringLiteral("missing/file")), WriteMode::Output).code(),
-              ErrorCode::PathAccess);
-    EXPECT_EQ(writer.print(u"x").code(), ErrorCode::DeviceIo);
-    EXPECT_EQ(writer.close().code(), ErrorCode::DeviceIo);
-}
-
-TEST_F(TextFile, FullDiskIsToldAtTheLatestWhenClosing) {
-    ASSERT_TRUE(QFileInfo::exists(QStringLiteral("/dev/full")));
-    TextWriter writer;
-    ASSERT_TRUE(writer.open(QStringLiteral("/dev/full"), WriteMode::Output).ok());
-    const bool printed = writer.print(u"x").ok();
-    const bool closed = writer.close().ok();
-    EXPECT_FALSE(printed && closed);
-}
-
-TEST_F(TextFile, OwnerOnlyFileIsClosedToOthers) {
-    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-    TextWriter writer;
-    ASSERT_TRUE(writer.open(path(), WriteMode::Append, FileAccess::OwnerOnly).ok());
-    EXPECT_EQ(QFile::permissions(path()) & others, QFile::Permissions());
-    ASSERT_TRUE(writer.close().ok());
-    ASSERT_TRUE(QFile::setPermissions(path(), QFile::permissions(path()) | QFile::ReadOther));
-    ASSERT_TRUE(writer.open(path(), WriteMode::Output, FileAccess::OwnerOnly).ok());
-    EXPECT_EQ(QFile::permissions(path()) & others, QFile::Permissions());
 }
