@@ -45,7 +45,8 @@ TestCertificates::TestCertificates() {
                     "subjectAltName=DNS:localhost", "-days", "30"});
     m_selfSigned =
         load(m_work.filePath(QStringLiteral("self.key")), m_work.filePath(QStringLiteral("self.pem")));
-    m_good = issue(QStringLiteral("good"), QStringLiteral("DNS:localhost,IP:127.0.0.1"), 30);
+    m_good =
+        issue(QStringLiteral("good"), QStringLiteral("DNS:localhost,IP:127.0.0.1,DNS:posta.example"), 30);
     m_expired = issue(QStringLiteral("expired"), QStringLiteral("DNS:localhost"), -1);
     m_wrongName = issue(QStringLiteral("wrong"), QStringLiteral("DNS:mail.invalid"), 30);
 }

@@ -22,7 +22,7 @@ class TestCertificates {
     /// Folder that holds the authority's certificate as a .pem file, to be trusted.
     QString trustFolder() const { return m_trust.path(); }
 
-    const TlsIdentity& good() const { return m_good; }  ///< for localhost and 127.0.0.1, by the authority
+    const TlsIdentity& good() const { return m_good; }  ///< for localhost, 127.0.0.1, posta.example
     const TlsIdentity& selfSigned() const { return m_selfSigned; }  ///< for localhost
     const TlsIdentity& expired() const { return m_expired; }        ///< for localhost, by the authority
     const TlsIdentity& wrongName() const { return m_wrongName; }    ///< for another host, by the authority

@@ -30,6 +30,8 @@ Route DeliveryControl::route(const QString& host) const {
     route.publicOnly = PublicServersOnly;
     route.insideHosts = InsideHosts;
     route.certificateFolder = CertificateFolder;
+    route.tlsListFile = TlsListFile;
+    route.clearListFile = ClearListFile;
     route.login = UseAuth;
     if (UseAuth) {
         route.user = UserName;

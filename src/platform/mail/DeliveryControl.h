@@ -85,6 +85,8 @@ class DeliveryControl : public QObject {
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
     QStringList InsideHosts;         ///< see Route
     QString CertificateFolder;       ///< see Route
+    QString TlsListFile;             ///< see Route
+    QString ClearListFile;           ///< see Route
     QString DkimFolder;              ///< see DkimSigner
 
     /// A new run: messages with a number may be sent again after an Abort. What was accepted counts for the

@@ -38,8 +38,8 @@ LoginStep send(const QByteArray& line, const QByteArray& shown, const QByteArray
 
 }  // namespace
 
-Login::Login(LoginIdentity identity, const LoginTerms& terms)
-    : m_identity(std::move(identity)), m_mechanisms(terms) {}
+Login::Login(LoginIdentity identity, const LoginTerms& terms, QString clearListFile)
+    : m_identity(std::move(identity)), m_clearListFile(std::move(clearListFile)), m_mechanisms(terms) {}
 
 LoginStep Login::begin() {
     return tryMechanism();
@@ -80,6 +80,11 @@ LoginStep Login::noneLeft() const {
         step.credentialsRefused = true;
         return step;
     }
+    if (m_mechanisms.leftOutInTheClear())
+        return failed(0, QStringLiteral("La password non viene inviata in chiaro a %1, che non offre una "
+                                        "connessione TLS. Per inviarla ugualmente scrivere il nome del "
+                                        "server nel file %2.")
+                             .arg(m_identity.host, m_clearListFile));
     if (m_lastRefusal) return failed(*m_lastRefusal);
     if (!m_whyNotUsable.isEmpty()) return failed(0, m_whyNotUsable);
     return failed(0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto."));

@@ -40,7 +40,8 @@ struct LoginStep {
 /// exchange of each. It holds no connection: the caller sends its lines and hands it the replies.
 class Login {
   public:
-    Login(LoginIdentity identity, const LoginTerms& terms);
+    /// `clearListFile` is named where only a password in the clear would help; see passwordMayGoInTheClear().
+    Login(LoginIdentity identity, const LoginTerms& terms, QString clearListFile);
 
     LoginStep begin();
     LoginStep onReply(const SmtpReply& reply);
@@ -52,6 +53,7 @@ class Login {
     LoginStep noneLeft() const;
 
     const LoginIdentity m_identity;
+    const QString m_clearListFile;
     LoginMechanisms m_mechanisms;
     std::optional<SaslExchange> m_exchange;
     std::optional<SmtpReply> m_lastRefusal;

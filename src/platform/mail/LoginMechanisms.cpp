@@ -50,6 +50,9 @@ LoginMechanisms::LoginMechanisms(const LoginTerms& terms)
     : m_left(inOrder(terms)), m_guessed(!terms.offered) {
     if (terms.offered)
         m_left.removeIf([&](const QByteArray& name) { return !terms.offered->contains(name); });
+    if (terms.verifiedTls || terms.clearAllowed) return;
+    m_leftOutInTheClear =
+        m_left.removeIf([](const QByteArray& name) { return sendingThePassword().contains(name); }) > 0;
 }
 
 bool LoginMechanisms::refused(const SmtpReply& reply) {

@@ -12,7 +12,8 @@ namespace mail {
 struct LoginTerms {
     /// What the server offers, in capitals; none where it was greeted with HELO and offers nothing.
     std::optional<QByteArrayList> offered = std::nullopt;
-    bool verifiedTls = false;  ///< encrypted, towards the server that the account names
+    bool verifiedTls = false;   ///< encrypted, towards the server that the account names
+    bool clearAllowed = false;  ///< the password itself may be sent without that as well
 };
 
 /// The mechanisms that a login tries, one after the other (RFC 4954), and what a refusal leads to.
@@ -25,6 +26,9 @@ class LoginMechanisms {
     /// The one to try; there has to be one.
     const QByteArray& current() const { return m_left.first(); }
 
+    /// A mechanism was left out because it would send the password in the clear.
+    bool leftOutInTheClear() const { return m_leftOutInTheClear; }
+
     /// The current mechanism cannot be used with these credentials: the next one becomes current.
     void skip() { m_left.removeFirst(); }
     /// The server has refused the current mechanism by a reply of 4xx or 5xx. True: the next one is current.
@@ -36,6 +40,7 @@ class LoginMechanisms {
   private:
     QByteArrayList m_left;
     bool m_guessed;
+    bool m_leftOutInTheClear = false;
     std::optional<SmtpReply> m_credentialsRefusal;
 };
 

@@ -12,9 +12,12 @@ struct Route {
     quint16 localPort = 0;       ///< 0: any
     bool greetWithHelo = false;  ///< HELO instead of EHLO: no extensions
     /// False: TLS is used whenever it is offered, its certificate has to be good, and there is no way back to
-    /// plain text. True: TLS is taken as it comes, unverified, and left out when it cannot be had.
+    /// plain text, now or later. True: TLS is taken as it comes, unverified, and left out when it cannot be
+    /// had.
     bool opportunisticTls = false;
     QString certificateFolder;  ///< its *.pem files are trusted besides the system's; empty: none
+    QString tlsListFile;        ///< see TlsMemory; not used where TLS is opportunistic
+    QString clearListFile;      ///< see passwordMayGoInTheClear()
     /// Only servers of the public internet (see isPublicAddress) are connected to, by the very address that
     /// was judged. The names in `insideHosts` (lower case, no final point) are free of that.
     bool publicOnly = false;

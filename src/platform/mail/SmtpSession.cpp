@@ -84,7 +84,6 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
         conclude(*refusal);
         return;
     }
-    if (route.host != m_route.host || route.port != m_route.port) m_tlsSeen = false;
     m_route = route;
     m_plainOnly = false;
     m_addresses.clear();
@@ -128,6 +127,8 @@ void SmtpSession::open(LocalPort localPort) {
     m_socket->setReadBufferSize(readBufferSize);
     m_authenticated = m_needsReset = m_startTlsRefused = false;
     m_heloOnly = m_route.greetWithHelo;
+    m_mustEncrypt =
+        !m_route.opportunisticTls && m_tlsMemory.knows(m_route.tlsListFile, m_route.host, m_route.port);
     m_transcript.setSecrets({});
     if (m_route.login) m_transcript.addSecret(m_route.password.toUtf8());
 

@@ -18,6 +18,7 @@
 #include "platform/mail/Route.h"
 #include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
+#include "platform/mail/TlsMemory.h"
 #include "platform/mail/Transcript.h"
 
 class QHostInfo;
@@ -131,6 +132,7 @@ class SmtpSession : public QObject {
     // SmtpSession_security.cpp: TLS and login
     bool wantsTls() const;
     bool missesTls() const;
+    void noteTlsOffer();
     void prepareTls();
     void onStartTlsReply(const SmtpReply& reply);
     void onEncrypted();
@@ -155,7 +157,7 @@ class SmtpSession : public QObject {
     bool m_authenticated = false;
     bool m_needsReset = false;        ///< the last message was refused
     bool m_bound = false;             ///< connecting from the local port that was asked for
-    bool m_tlsSeen = false;           ///< the route's server has offered TLS before
+    bool m_mustEncrypt = false;       ///< the account's server offers TLS, or has offered it before
     int m_lookup = -1;                ///< number of the look-up of the host that is under way
     QList<QHostAddress> m_addresses;  ///< of the host, judged, that were not tried yet
     QElapsedTimer m_connected;
@@ -169,6 +171,7 @@ class SmtpSession : public QObject {
 
     std::optional<Login> m_login;  ///< under way
     RefusedLogin m_refusedLogin;
+    TlsMemory m_tlsMemory;
 
     // delivery under way
     bool m_busy = false;

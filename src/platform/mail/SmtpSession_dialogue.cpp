@@ -171,11 +171,14 @@ void SmtpSession::onHello(Step step, const SmtpReply& reply) {
 
 void SmtpSession::afterHello() {
     if (wantsTls()) {
-        m_tlsSeen = m_tlsSeen || m_extensions.startTls;
+        if (m_extensions.startTls) noteTlsOffer();
         command(Step::StartTls, "STARTTLS");
         writeCommands();
     } else if (missesTls()) {
-        conclude({false, 0, QStringLiteral("Il server non offre più la connessione TLS.")});
+        conclude({false, 0,
+                  QStringLiteral("Il server non offre più la connessione TLS, che ha offerto in passato. Per "
+                                 "dimenticarlo cancellare la sua riga dal file %1.")
+                      .arg(m_route.tlsListFile)});
     } else if (m_route.login && !m_authenticated) {
         startLogin();
     } else {

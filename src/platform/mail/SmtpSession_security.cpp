@@ -3,6 +3,7 @@
 #include <QSslCipher>
 #include <QSslConfiguration>
 
+#include "platform/mail/ClearPassword.h"
 #include "platform/mail/SmtpSession.h"
 
 namespace mail {
@@ -43,11 +44,22 @@ QString describe(const QSslError& error) {
 
 bool SmtpSession::wantsTls() const {
     if (m_plainOnly || m_startTlsRefused || m_socket->isEncrypted()) return false;
-    return m_heloOnly ? m_route.login : m_extensions.startTls;
+    return m_heloOnly ? m_route.login || m_mustEncrypt : m_extensions.startTls;
 }
 
 bool SmtpSession::missesTls() const {
-    return m_tlsSeen && !m_route.opportunisticTls && !m_route.greetWithHelo && !m_socket->isEncrypted();
+    return m_mustEncrypt && !m_socket->isEncrypted();
+}
+
+/// The server cannot do without TLS any more. On port 465 it never could.
+void SmtpSession::noteTlsOffer() {
+    if (m_route.opportunisticTls || implicitTls()) return;
+    m_mustEncrypt = true;
+    const Status remembered = m_tlsMemory.remember(m_route.tlsListFile, m_route.host, m_route.port);
+    if (!remembered.ok() && !m_route.tlsListFile.isEmpty())
+        m_transcript.remark(
+            QStringLiteral("Il server offre TLS, ma non è stato possibile scriverlo nel file %1")
+                .arg(m_route.tlsListFile));
 }
 
 void SmtpSession::prepareTls() {
@@ -70,6 +82,7 @@ void SmtpSession::onStartTlsReply(const SmtpReply& reply) {
             lost(0, QStringLiteral("Il server ha aggiunto testo in chiaro alla risposta a STARTTLS."));
             return;
         }
+        noteTlsOffer();
         m_handshaking = true;
         prepareTls();
         m_socket->startClientEncryption();
@@ -83,7 +96,6 @@ void SmtpSession::onStartTlsReply(const SmtpReply& reply) {
 
 void SmtpSession::onEncrypted() {
     m_handshaking = false;
-    m_tlsSeen = true;
     m_input.clear();
     m_inputRead = 0;
     m_transcript.remark(security());
@@ -109,7 +121,9 @@ void SmtpSession::startLogin() {
     LoginTerms terms;
     if (!m_heloOnly) terms.offered = m_extensions.auth;
     terms.verifiedTls = m_socket->isEncrypted() && !m_route.opportunisticTls;
-    m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password}, terms);
+    terms.clearAllowed = passwordMayGoInTheClear(m_route.host, m_route.clearListFile);
+    m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password}, terms,
+                    m_route.clearListFile);
     takeLoginStep(m_login->begin());
 }
 

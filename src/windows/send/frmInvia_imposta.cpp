@@ -234,5 +234,7 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     disiscrizione = mail::markedUnsubscribe(corpoHtml);
     SMTP->InsideHosts = MxInterni();
     SMTP->CertificateFolder = cartellaDati() + "certificati";
+    SMTP->TlsListFile = cartellaDati() + "tls.txt";
+    SMTP->ClearListFile = cartellaDati() + "senza-tls.txt";
     SMTP->DkimFolder = cartellaDati() + "dkim";
 }

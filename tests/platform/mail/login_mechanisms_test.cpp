@@ -41,8 +41,20 @@ TEST(LoginMechanisms, UnderVerifiedTlsThePasswordComesBeforeTheOldDigest) {
 
 TEST(LoginMechanisms, WithoutTlsEveryDigestComesBeforeThePassword) {
     const QByteArrayList order{"SCRAM-SHA-256", "SCRAM-SHA-1", "CRAM-MD5", "PLAIN", "LOGIN"};
+    EXPECT_EQ(tried({.offered = everything, .clearAllowed = true}), order);
+    EXPECT_EQ(tried({.clearAllowed = true}), order);
+}
+
+TEST(LoginMechanisms, PasswordIsLeftOutWhereItMayNotGoInTheClear) {
+    const QByteArrayList order{"SCRAM-SHA-256", "SCRAM-SHA-1", "CRAM-MD5"};
     EXPECT_EQ(tried({.offered = everything}), order);
     EXPECT_EQ(tried({}), order);
+    const auto leftOut = [](const LoginTerms& terms) { return LoginMechanisms(terms).leftOutInTheClear(); };
+    EXPECT_TRUE(leftOut({}));
+    EXPECT_TRUE(leftOut({.offered = QByteArrayList{"LOGIN"}}));
+    EXPECT_FALSE(leftOut({.offered = QByteArrayList{"CRAM-MD5"}}));
+    EXPECT_FALSE(leftOut({.verifiedTls = true}));
+    EXPECT_FALSE(leftOut({.clearAllowed = true}));
 }
 
 TEST(LoginMechanisms, GuessesUnderTlsBeginWithWhatNearlyEveryServerKnows) {
@@ -59,11 +71,11 @@ TEST(LoginMechanisms, OnlyWhatIsOfferedAndKnownIsTried) {
 
 TEST(LoginMechanisms, RefusalOfTheMechanismIsFollowedByTheNext) {
     for (const int code : {500, 501, 502, 504, 534, 538})
-        EXPECT_EQ(tries({.offered = everything}, {{code, "no"}}), 5) << code;
+        EXPECT_EQ(tries({.offered = everything, .clearAllowed = true}, {{code, "no"}}), 5) << code;
     for (const char* text :
          {"no mechanism available", "Unsupported authentication MECHANISM.", "Unbekannter Mechanismus",
           "meccanismo sconosciuto", "mécanisme inconnu", "mecanismo desconocido"})
-        EXPECT_EQ(tries({.offered = everything}, {{535, text}}), 5) << text;
+        EXPECT_EQ(tries({.offered = everything, .verifiedTls = true}, {{535, text}}), 5) << text;
 }
 
 TEST(LoginMechanisms, RefusalOfThePasswordIsFinalWhereTheListIsTheServers) {

@@ -306,6 +306,15 @@ class TestFrmInviaGiro : public QObject {
         QVERIFY(!stage.smtp().OpportunisticTls);
     }
 
+    void listsOfMailServersLieInTheDataFolder() {
+        SendStage stage({"a@x.it"});
+        stage.open();
+        QVERIFY(stage.run());
+        QCOMPARE(stage.smtp().TlsListFile, cartellaDati() + "tls.txt");
+        QCOMPARE(stage.smtp().ClearListFile, cartellaDati() + "senza-tls.txt");
+        QVERIFY(!QFile::exists(stage.smtp().TlsListFile));  // this server offers no TLS
+    }
+
     void accountWithoutLoginClearsTheLoginOfAnEarlierRun() {
         SendStage stage({"a@x.it"});
         writeAccount(QString("0|Z|z@x.it|127.0.0.1|%1|0|utente|segreta|EHLO|0|1").arg(stage.sink.port()));
