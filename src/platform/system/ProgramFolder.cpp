@@ -67,6 +67,16 @@ bool makeAnew(const QString& folder) {
     return gone && ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0;
 }
 
+/// Copies a file of the templates to where the folder has none.
+Status restoreFile(const QString& folder, const QString& templates, const QString& name) {
+    const QFileInfo installed(templates + name);
+    const QFileInfo own(folder + name);
+    // A link that leads nowhere is somebody's doing.
+    if (!installed.isFile() || own.exists() || own.isSymLink()) return {};
+    if (makeFolder(own.path()) && copyFile(installed, own.path())) return {};
+    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + own.filePath()};
+}
+
 }  // namespace
 
 QString installedTemplates(const QString& applicationFolder) {
@@ -117,12 +127,12 @@ Status renewTexts(const QString& folder, const QString& templates) {
 }
 
 Status restoreTexts(const QString& folder, const QString& templates) {
-    const QFileInfo installed(templates + QStringLiteral("/LANG.lng"));
-    const QString own = folder + u'/' + installed.fileName();
-    // A link that leads nowhere is somebody's doing.
-    if (!installed.isFile() || QFileInfo::exists(own) || QFileInfo(own).isSymLink()) return {};
-    if (copyFile(installed, folder)) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + own};
+    return restoreFile(folder, templates, QStringLiteral("/LANG.lng"));
+}
+
+Status restoreProviders(const QString& folder, const QString& templates) {
+    if (!QFileInfo::exists(folder + QStringLiteral("/data"))) return {};
+    return restoreFile(folder, templates, QStringLiteral("/data/oauth/providers.json"));
 }
 
 QString programFolder() {
@@ -142,6 +152,7 @@ QString programFolder() {
     newFolder() = !filled;
     static_cast<void>(renewTexts(chosen, templates));
     if (chosen != application) static_cast<void>(restoreTexts(chosen, templates));
+    static_cast<void>(restoreProviders(chosen, templates));
     folder = withSlash(chosen);
     return folder;
 }

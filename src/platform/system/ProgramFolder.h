@@ -14,8 +14,8 @@ namespace sys {
 ///      copy, the build tree);
 ///   3. the user's own folder "vestrola" under the XDG data home.
 /// In cases 2 and 3 a folder without "data" is filled from the templates, and older language texts are
-/// renewed from them; in case 3 language texts that are missing are laid down again. A failure of that leaves
-/// it as it is.
+/// renewed from them; in case 3 language texts that are missing are laid down again; the providers of logins
+/// where they are missing. A failure of that leaves it as it is.
 QString programFolder();
 
 /// Whether programFolder() has filled a folder that was not there, which makes this the first start over it.
@@ -50,5 +50,9 @@ Status renewTexts(const QString& folder, const QString& templates);
 /// Lays "LANG.lng" down again from `templates` where the folder has none, since without it the main window
 /// comes up without its groups.
 Status restoreTexts(const QString& folder, const QString& templates);
+
+/// Lays "data/oauth/providers.json" down from `templates` where the folder has none; not where "data" itself
+/// is missing.
+Status restoreProviders(const QString& folder, const QString& templates);
 
 }  // namespace sys

@@ -15,7 +15,8 @@ class ProgramFolder : public testing::Test {
   protected:
     QString path(const QString& name) const { return m_folder.filePath(name); }
     void makeTemplates() const {
-        ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("templates/data"))));
+        ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("templates/data/oauth"))));
+        writeBytes(path(QStringLiteral("templates/data/oauth/providers.json")), "{}");
         writeBytes(path(QStringLiteral("templates/LANG.lng")), "lang");
         writeBytes(path(QStringLiteral("templates/data/Account.imp")), "");
         writeBytes(path(QStringLiteral("templates/data/pathDBase.imp")), "header\r\nXXX\r\n");
@@ -65,6 +66,22 @@ TEST_F(ProgramFolder, LaterStartsLeaveItAlone) {
     ASSERT_TRUE(sys::fillProgramFolder(folder, path(QStringLiteral("templates"))).ok());
     EXPECT_EQ(bytesOf(folder + QStringLiteral("/data/Account.imp")), QByteArray("mine"));
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/data/pathDBase.imp")));
+}
+
+TEST_F(ProgramFolder, ProvidersAreLaidDownWhereTheyAreMissingAndThenLeftAlone) {
+    makeTemplates();
+    const QString folder = path(QStringLiteral("home/vestrola"));
+    const QString templates = path(QStringLiteral("templates"));
+    const QString providers = folder + QStringLiteral("/data/oauth/providers.json");
+    ASSERT_TRUE(sys::restoreProviders(folder, templates).ok());
+    EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/data")));
+    ASSERT_TRUE(sys::fillProgramFolder(folder, templates).ok());
+    ASSERT_TRUE(sys::restoreProviders(folder, templates).ok());
+    EXPECT_EQ(bytesOf(providers), QByteArray("{}"));
+    EXPECT_FALSE(QFile::permissions(folder + QStringLiteral("/data/oauth")) & QFile::ReadOther);
+    writeBytes(providers, "mine");
+    ASSERT_TRUE(sys::restoreProviders(folder, templates).ok());
+    EXPECT_EQ(bytesOf(providers), QByteArray("mine"));
 }
 
 TEST_F(ProgramFolder, InterruptedFirstStartIsMadeGood) {

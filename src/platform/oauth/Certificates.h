@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QList>
+#include <QSslCertificate>
+#include <QString>
+
+namespace oauth {
+
+/// The authorities that connections trust: the system's, and those of the *.pem files of the folder. Without
+/// a folder the system's alone.
+QList<QSslCertificate> trustedCertificates(const QString& folder);
+
+}  // namespace oauth

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+
+#include "platform/oauth/Provider.h"
+#include "platform/oauth/RedirectListener.h"
+#include "platform/oauth/TokenRequest.h"
+
+namespace oauth {
+
+/// A user's consent, asked for in his browser: authorization code with PKCE (RFC 6749 4.1, RFC 7636,
+/// RFC 8252). The token goes into its file.
+class Consent : public QObject {
+    Q_OBJECT
+  public:
+    /// Milliseconds.
+    struct Limits {
+        int answer = 300000;  ///< for the user in his browser
+        int request = 30000;  ///< for the token endpoint
+    };
+
+    /// `folder` is the one of providers and tokens; for `certificateFolder` see TokenRequest.
+    Consent(const QString& folder, const QString& certificateFolder, QObject* parent = nullptr);
+
+    Limits limits;
+
+    /// Begins, and drops a consent that is under way. The address is to be opened in the browser; finished()
+    /// follows from the event loop, unless cancel() comes first. Fails where the provider has no client_id,
+    /// with a text that says where it goes, and where nothing can be listened on.
+    Result<QUrl> start(const Provider& provider, const QString& user);
+    /// Without any signal.
+    void cancel();
+    bool waiting() const { return m_listener || m_request; }
+
+  Q_SIGNALS:
+    /// The token is in its file, or why it is not (Italian).
+    void finished(const Status& outcome);
+
+  private:
+    QUrl address(const QByteArray& state) const;
+    void onAnswer(const QByteArray& code, const QByteArray& error);
+    void onToken(const Result<Token>& token);
+    void end(const Status& outcome);
+
+    const QString m_folder;
+    const QString m_certificateFolder;
+    Provider m_provider;
+    QString m_user;
+    QByteArray m_verifier;
+    QString m_redirectUri;
+    QTimer m_limit;
+    std::unique_ptr<RedirectListener> m_listener;
+    std::unique_ptr<TokenRequest> m_request;
+};
+
+}  // namespace oauth

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <QDateTime>
+#include <QHash>
+#include <QObject>
+
+#include "platform/oauth/TokenRequest.h"
+
+namespace oauth {
+
+/// A token that a login can use.
+struct Access {
+    QByteArray token;
+    QString remark;  ///< for the support log; empty: nothing to say
+};
+
+/// Gives the access tokens of logins, from their files as long as they last, else renewed by the provider
+/// that the host belongs to. A host that belongs to none gets no token.
+///
+/// A consent that is gone is remembered, with its reason, until the file changes or beginRun(), so that it is
+/// asked about once and not for each recipient.
+class TokenSource : public QObject {
+    Q_OBJECT
+  public:
+    using Done = std::function<void(const Result<Access>& access)>;
+
+    explicit TokenSource(QObject* parent = nullptr) : QObject(parent) {}
+
+    /// The folders of providers and tokens, and of further certificates; see TokenRequest.
+    void setFolders(const QString& folder, const QString& certificateFolder);
+
+    /// The token for `user` at `host`. `done` is called once, from within this call or from the event loop,
+    /// after `limitMs` at the latest; it may begin the next request. A request that is under way is dropped.
+    void get(const QString& host, const QString& user, int limitMs, Done done);
+    /// `done` is not called any more.
+    void cancel() { m_request.reset(); }
+
+    /// A server did not take this token: the next request renews it, whatever its file says.
+    void refuse(const QByteArray& token) { m_refused = token; }
+    void beginRun() { m_gone.clear(); }
+
+  private:
+    struct Gone {
+        QByteArray refreshToken;
+        Status why;
+    };
+
+    void renew(const Provider& provider, const QString& path, const Token& old, int limitMs, Done done);
+    Result<Access> onRenewed(const Provider& provider, const QString& path, const Token& old,
+                             const Result<Token>& answer);
+
+    QString m_folder;
+    QString m_certificateFolder;
+    QHash<QString, Token> m_unwritten;  ///< by path: tokens that their file could not take
+    QHash<QString, Gone> m_gone;        ///< by path
+    QByteArray m_refused;
+    std::unique_ptr<TokenRequest> m_request;
+};
+
+}  // namespace oauth
