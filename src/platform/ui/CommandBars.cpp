@@ -8,6 +8,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "platform/ui/MenuButtonAccess.h"
+
 namespace ui {
 
 namespace {
@@ -118,7 +120,9 @@ int CommandList::SelectedIndex() const {
     return static_cast<int>(m_group->actions().indexOf(m_group->checkedAction())) + 1;
 }
 
-CommandBars::CommandBars(QMainWindow* window) : QObject(window), m_window(window) {}
+CommandBars::CommandBars(QMainWindow* window) : QObject(window), m_window(window) {
+    installMenuButtonAccess();
+}
 
 Command* CommandBars::makeCommand(const CommandDesign& design) {
     auto* action = new QAction(QIcon::fromTheme(design.icon), design.caption, this);
@@ -214,7 +218,6 @@ void CommandBars::addItems(QWidget* place, const QStringList& items) {
         if (!bar) continue;
         auto* button = static_cast<QToolButton*>(bar->widgetForAction(command->m_action));
         button->setObjectName(item);
-        // A button of that mode offers assistive programs no press.
         if (command->m_action->menu()) button->setPopupMode(QToolButton::InstantPopup);
         button->installEventFilter(this);
     }

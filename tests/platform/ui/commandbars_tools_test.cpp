@@ -1,8 +1,10 @@
 // The tools of a bar that are more than a button, and bars that are off.
+#include <QAccessible>
 #include <QMainWindow>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -173,6 +175,32 @@ class TestCommandBarsTools : public QObject {
         auto* button = w.find<QToolButton>("popTable");
         QCOMPARE(w.find<QMenu>("popTable")->pos(), button->mapToGlobal(QPoint(0, button->height())));
         w.find<QMenu>("popTable")->hide();
+    }
+
+    void assistiveProgramsOpenTheMenuOfAButton() {
+        Window w;
+        auto* menu = w.find<QMenu>("popTable");
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w.find<QToolButton>("popTable"));
+        QCOMPARE(face->text(QAccessible::Name), "Tabella");
+        QVERIFY(face->state().hasPopup);
+        for (const QString& action :
+             {QAccessibleActionInterface::showMenuAction(), QAccessibleActionInterface::pressAction()}) {
+            QVERIFY2(face->actionInterface()->actionNames().contains(action), qPrintable(action));
+            face->actionInterface()->doAction(action);
+            QVERIFY2(!menu->isVisible(), "who asks is answered before the menu is left");
+            QTimer::singleShot(0, menu, [menu, &w] {
+                QCOMPARE(menu->pos(),
+                         w.find<QToolButton>("popTable")
+                             ->mapToGlobal(QPoint(0, w.find<QToolButton>("popTable")->height())));
+                menu->hide();
+            });
+            QCoreApplication::processEvents();
+            QVERIFY(!menu->isVisible());
+        }
+        w.bars.setBarEnabled("Html", false);
+        face->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QCoreApplication::processEvents();
+        QVERIFY(!menu->isVisible());
     }
 
     void aBarThatIsOffIsDisabledAndItsKeysAreDead() {
