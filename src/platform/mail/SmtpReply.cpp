@@ -1,6 +1,7 @@
 #include "platform/mail/SmtpReply.h"
 
-#include "platform/mail/HeaderText.h"
+#include <algorithm>
+#include <QList>
 
 namespace mail {
 
@@ -12,6 +13,19 @@ bool isDigit(char c) {
 
 int numberOf(QByteArrayView digits) {
     return (digits[0] - '0') * 100 + (digits[1] - '0') * 10 + (digits[2] - '0');
+}
+
+/// Controls, line separators, and what turns the direction of a text or cannot be seen.
+bool steersDisplay(uint character) {
+    switch (QChar::category(character)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            return true;
+        default:
+            return false;
+    }
 }
 
 /// Code at the head of a line, 0 where there is none.
@@ -62,7 +76,11 @@ int acceptanceCode(QByteArrayView reply) {
 }
 
 QString printable(QByteArrayView text) {
-    return singleLine(QString::fromUtf8(text));
+    if (std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        return QString::fromLatin1(text);
+    QList<uint> shown = QString::fromUtf8(text).toUcs4();
+    std::replace_if(shown.begin(), shown.end(), steersDisplay, uint{' '});
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(shown.constData()), shown.size());
 }
 
 }  // namespace mail

@@ -41,7 +41,8 @@ bool isAcceptance(QByteArrayView reply);
 /// The three digits of an acceptance.
 int acceptanceCode(QByteArrayView reply);
 
-/// `text` in one line without control characters, as it can be shown or logged.
+/// `text` in one line, as it can be shown or logged: each control character, and each character without a
+/// shape of its own that changes how others look (direction marks), has become a blank.
 QString printable(QByteArrayView text);
 
 }  // namespace mail

@@ -114,7 +114,7 @@ QString SmtpSession::security() const {
 QString SmtpSession::handshakeFailure() const {
     const QList<QSslError> errors = m_socket->sslHandshakeErrors();
     const QString why = errors.isEmpty() ? m_socket->errorString() : describe(errors.first());
-    return QStringLiteral("Connessione TLS non riuscita: %1.").arg(why);
+    return QStringLiteral("Connessione TLS non riuscita: %1.").arg(printable(why.toUtf8()));
 }
 
 void SmtpSession::startLogin() {

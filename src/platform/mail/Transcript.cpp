@@ -8,6 +8,12 @@
 
 namespace mail {
 
+namespace {
+
+constexpr qsizetype longestShown = 1000;  // of a line: what a server says may be thirty times as long
+
+}  // namespace
+
 void Transcript::setFile(const QString& path) {
     if (m_file.isOpen() && m_path == path) return;
     m_file.close();
@@ -56,7 +62,12 @@ void Transcript::remark(const QString& text) {
 void Transcript::line(char direction, QByteArrayView text) {
     const QByteArray time =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toLatin1();
-    m_file.write(time + ' ' + direction + ' ' + printable(text).toUtf8() + "\r\n");
+    QString shown = printable(text);
+    if (shown.size() > longestShown) {
+        shown.truncate(shown.at(longestShown - 1).isHighSurrogate() ? longestShown - 1 : longestShown);
+        shown += u'…';
+    }
+    m_file.write(time + ' ' + direction + ' ' + shown.toUtf8() + "\r\n");
 }
 
 void Transcript::flush() {

@@ -1,5 +1,6 @@
 // Login: which mechanisms are tried, what is refused, and what never appears in a log. User "utente",
 // password "segreto-più".
+#include <algorithm>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QMessageAuthenticationCode>
@@ -274,6 +275,35 @@ TEST_F(SmtpLogin, CredentialsNeverAppearInTheTranscript) {
         for (const QByteArray& secret : {QByteArray("segreto"), plainToken, passwordToken, cramToken,
                                          digest.toHex(), userToken, cramChallenge})
             EXPECT_FALSE(log.contains(secret)) << secret.constData() << '\n' << log.constData();
+    }
+}
+
+TEST_F(SmtpLogin, NothingThatAServerSaysSteersTheDisplayOfATranscript) {
+    const QByteArray hostile = "\x1b[2J\x07\xc2\x9b\xe2\x80\xae\x9b";
+    const QByteArrayList greeted{"S: 220 " + hostile, "C: EHLO *", "S: 250-" + hostile,
+                                 "S: 250 AUTH PLAIN " + hostile, "C: AUTH PLAIN *"};
+    const QList<QByteArrayList> dialogues{
+        {"S: 554 " + hostile, "C: QUIT"},
+        greeted + QByteArrayList{"S: 535-" + hostile, "S: 535 " + hostile, "C: QUIT"},
+        greeted + QByteArrayList{"S: 235 " + hostile, "C: MAIL*", "S: 550 " + hostile},
+        {"S: 220 x", "S: 250 " + hostile, "WAIT"},
+        {"S: 2" + hostile, "WAIT"},
+        {"S: 220 x", "C: EHLO *", "S: 421 " + hostile, "DROP"}};
+    for (const QByteArrayList& dialogue : dialogues) {
+        const QTemporaryDir folder;
+        ScriptedServer server({dialogue});
+        Client client(server.port());
+        prepare(client);
+        client.smtp.LogFile = folder.filePath(QStringLiteral("prova.xt1"));
+        client.smtp.LogEnabled = true;
+        client.send();
+        EXPECT_EQ(server.remainder(), "");
+        QFile file(client.smtp.LogFile);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray log = file.readAll().replace("\r\n", "");
+        EXPECT_TRUE(log.contains("[2J"));
+        EXPECT_TRUE(std::none_of(log.begin(), log.end(), [](char c) { return c >= 0 && c < ' '; }));
+        EXPECT_FALSE(log.contains("\xc2\x9b") || log.contains("\xe2\x80\xae")) << log.constData();
     }
 }
 

@@ -55,3 +55,38 @@ TEST_F(Transcript, SamePathAgainKeepsTheOpenFile) {
     transcript.setFile({});
     EXPECT_FALSE(transcript.active());
 }
+
+TEST_F(Transcript, HoldsNothingThatSteersADisplay) {
+    const QByteArray hostile =
+        "a\r\x1b[2J\x07\x7f\xc2\x9b"
+        "31m\xe2\x80\xae\xe2\x80\xa8\xe2\x81\xa6\xe2\x80\x8b\xef\xbb\xbf\xf3\xa0\x81\x81\x9bz";
+    mail::Transcript transcript;
+    transcript.setFile(path());
+    transcript.received(250, hostile);
+    transcript.received(550, hostile + '\n' + hostile);
+    transcript.remark(QString::fromUtf8(hostile));
+    transcript.sent(hostile);
+    transcript.flush();
+    const QString log = QString::fromUtf8(bytesOf(path()));
+    EXPECT_EQ(log.count("\r\n"), 5);
+    EXPECT_EQ(log.count("a  [2J   31m"), 5) << log.toStdString();
+    for (const uint character : QString(log).remove("\r\n").toUcs4()) {
+        const QChar::Category category = QChar::category(character);
+        EXPECT_TRUE(category != QChar::Other_Control && category != QChar::Other_Format &&
+                    category != QChar::Separator_Line)
+            << std::hex << character;
+    }
+}
+
+TEST_F(Transcript, LongLinesAreCut) {
+    mail::Transcript transcript;
+    transcript.setFile(path());
+    transcript.received(250, QByteArray(4000, 'x') + '\n' + QByteArray("😀").repeated(2000));
+    transcript.remark(QString(40000, u'y'));
+    transcript.flush();
+    const QString log = QString::fromUtf8(bytesOf(path()));
+    EXPECT_EQ(log.count(u'…'), 3);
+    EXPECT_FALSE(log.contains(QChar::ReplacementCharacter));
+    for (const QString& line : log.split("\r\n"))
+        EXPECT_LT(line.size(), 1040);
+}
