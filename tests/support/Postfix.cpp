@@ -92,13 +92,18 @@ void Postfix::configure(quint16 relayPort) {
                          "transport_maps = inline:{ { altrove.example = smtp:[127.0.0.1]:" +
                          QByteArray::number(relayPort) + " } }\n");
     QByteArray master = services;
+    master += QByteArray::number(onlyPasswords) + " inet n - n - - smtpd -o smtpd_sasl_path=passwords\n";
     for (qsizetype i = 0; i < mechanisms().size(); ++i) {
         master += QByteArray::number(firstMechanism + i) +
                   " inet n - n - - smtpd -o smtpd_sasl_mechanism_filter=" + mechanisms()[i].toLower() + '\n';
     }
     write("master.cf", master);
-    write("sasl/smtpd.conf", "pwcheck_method: auxprop\nauxprop_plugin: sasldb\nmech_list: " +
-                                 mechanisms().join(' ') + "\nsasldb_path: " + folder + "/sasl/users\n");
+    const auto writeSasl = [&](const char* name, const QByteArrayList& known) {
+        write(name, "pwcheck_method: auxprop\nauxprop_plugin: sasldb\nmech_list: " + known.join(' ') +
+                        "\nsasldb_path: " + folder + "/sasl/users\n");
+    };
+    writeSasl("sasl/smtpd.conf", mechanisms());
+    writeSasl("sasl/passwords.conf", {"PLAIN", "LOGIN"});
     const TlsIdentity& identity = TestCertificates::get().good();
     write("key.pem", identity.key.toPem());
     write("certificate.pem", identity.certificate.toPem());

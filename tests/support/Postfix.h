@@ -16,7 +16,10 @@ class Postfix {
     static constexpr quint16 submission = 587;       ///< STARTTLS, every mechanism
     static constexpr quint16 implicitTls = 465;      ///< TLS from the start
     static constexpr quint16 firstMechanism = 2001;  ///< one port for each of mechanisms(), in order
-    static QByteArrayList mechanisms() { return {"PLAIN", "LOGIN", "CRAM-MD5", "SCRAM-SHA-256"}; }
+    static QByteArrayList mechanisms() {
+        return {"PLAIN", "LOGIN", "CRAM-MD5", "SCRAM-SHA-256", "SCRAM-SHA-1"};
+    }
+    static constexpr quint16 onlyPasswords = 2000;  ///< knows no mechanism but PLAIN and LOGIN
     static inline const QString user = QStringLiteral("utente");
     static inline const QString password = QStringLiteral("perché-no");
 

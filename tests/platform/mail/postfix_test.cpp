@@ -43,6 +43,14 @@ class RealServer : public testing::Test {
         route.password = Postfix::password;
     }
 
+    static void logIn(Client& client) {
+        client.smtp.ServerName = QStringLiteral("localhost");
+        client.smtp.CertificateFolder = TestCertificates::get().trustFolder();
+        client.smtp.UseAuth = true;
+        client.smtp.UserName = Postfix::user;
+        client.smtp.UserPassword = Postfix::password;
+    }
+
     // Delivers composed messages one after the other over one session
     static void deliver(const QList<mail::ComposedMessage>& messages, quint16 port) {
         mail::Route route;
@@ -140,6 +148,33 @@ TEST_F(RealServer, EachMechanismLogsIn) {
         EXPECT_TRUE(s_server->log().contains("sasl_method=" + mechanism)) << mechanism.constData();
 }
 
+// After HELO the server names no mechanism, and answers 535 to one that it does not know.
+TEST_F(RealServer, GreetingByHeloLogsInWhateverTheServerKnows) {
+    for (const quint16 port : {Postfix::submission, Postfix::implicitTls, Postfix::onlyPasswords}) {
+        Client client(port);
+        logIn(client);
+        client.smtp.HeloMode = 1;
+        for (int i = 0; i < 5; ++i) {
+            const Heard heard = client.send();
+            EXPECT_TRUE(heard.done) << port << ' ' << heard.code << ' ' << qPrintable(heard.text);
+        }
+    }
+}
+
+TEST_F(RealServer, WrongPasswordCostsOneLoginInARun) {
+    const auto logins = [] { return s_server->log().count("authentication failed"); };
+    for (const auto& [heloMode, cost] : {std::pair(0, 1), std::pair(1, 2)}) {
+        const auto before = logins();
+        Client client(Postfix::onlyPasswords);
+        logIn(client);
+        client.smtp.HeloMode = heloMode;
+        client.smtp.UserPassword = "falso";
+        for (int i = 0; i < 20; ++i)
+            EXPECT_EQ(client.send().code, 535);
+        EXPECT_EQ(logins() - before, cost) << s_server->log().constData();
+    }
+}
+
 TEST_F(RealServer, TranscriptTellsTheWholeStoryWithoutASecret) {
     const QTemporaryDir folder;
     const QByteArray password = Postfix::password.toUtf8(), user = Postfix::user.toUtf8();
@@ -148,11 +183,7 @@ TEST_F(RealServer, TranscriptTellsTheWholeStoryWithoutASecret) {
         ports += QByteArray::number(Postfix::firstMechanism + i);
     for (const QByteArray& port : ports) {
         Client client(port.toUShort());
-        client.smtp.ServerName = QStringLiteral("localhost");
-        client.smtp.CertificateFolder = TestCertificates::get().trustFolder();
-        client.smtp.UseAuth = true;
-        client.smtp.UserName = Postfix::user;
-        client.smtp.UserPassword = Postfix::password;
+        logIn(client);
         client.smtp.LogFile = folder.filePath(port + ".xt1");
         client.smtp.LogEnabled = true;
         EXPECT_TRUE(client.send().done);
