@@ -4,7 +4,7 @@
 
 #include "modules/lang/bLANG.h"
 #include "windows/accounts/frmAccount.h"
-#include "windows/entry/Posizione.h"
+#include "windows/entry/Vicini.h"
 #include "windows/import/frmImpDB.h"
 #include "windows/import/frmImpTXT.h"
 #include "windows/import/frmScelta.h"
@@ -33,15 +33,11 @@ Finestra& dialogo(QWidget& sopra, Cose&&... cose) {
     return *finestra;
 }
 
-Posizionamento posizionamento() {
-    return {CaricaPosizioneForm, SalvaPosizioneForm};
-}
-
 }  // namespace
 
 frmMain& finestre::Main() {
     if (!principale) {
-        principale = new frmMain;
+        principale = new frmMain(IntornoAMain());
         principale->Carica();
     }
     return *principale;
@@ -65,7 +61,7 @@ frmInfoSu& finestre::InfoSu() {
 
 frmEditor& finestre::Editor() {
     if (!scrittura) {
-        scrittura = new frmEditor({posizionamento(), PropBody}, &Main());
+        scrittura = new frmEditor(IntornoAEditor(), &Main());
         scrittura->Carica();
     }
     return *scrittura;
@@ -80,11 +76,11 @@ frmScelta& finestre::Scelta() {
 }
 
 frmImpTXT& finestre::ImpTXT() {
-    return dialogo<frmImpTXT>(Main());
+    return dialogo<frmImpTXT>(Main(), IntornoAgliImport().NuovoNodo);
 }
 
 frmImpDB& finestre::ImpDB() {
-    return dialogo<frmImpDB>(Main());
+    return dialogo<frmImpDB>(Main(), IntornoAgliImport().NuovoNodo);
 }
 
 frmSplash& finestre::Splash() {

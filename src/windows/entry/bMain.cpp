@@ -26,11 +26,11 @@ void SubMain() {
     PuntatoreAttesa();
     const QString avvisoPercorso = CaricaPercorsoDBase();
     // Naming the main window creates and loads it before the caption is stored.
-    prosegui([] { TitoloPrincipale(); });
+    prosegui([] { TitoloPrincipale(finestre::Main()); });
     // The splash stays on top while the main window comes up.
     prosegui([] { CentraForm(finestre::Splash()); });
     prosegui([] { finestre::Main().show(); });
-    prosegui([] { TitoloPrincipale(); });
+    prosegui([] { TitoloPrincipale(finestre::Main()); });
     prosegui([] { finestre::Splash().hide(); });
     prosegui([] { finestre::ScaricaSplash(); });
     // What cannot be taken out of the selection now is remembered on.

@@ -2,15 +2,26 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/import/Inserimento.h"
+#include "windows/import/cartella.h"
 
+class frmScelta;
 namespace ui {
 class ProgressCounter;
 }
+
+/// What an import of contacts needs of the windows.
+struct ViciniContatti {
+    std::function<frmScelta&()> Scelta;                 ///< the question for the group
+    std::function<ui::ProgressCounter&()> stcProgress;  ///< the counter in the status bar
+    cartella::NuovoNodo NuovoNodo;
+};
 
 /// What the imports from the address book and from Outlook have in common: the question for the group, the
 /// counter in the status bar, and errors that are ignored from the first statement to the last.
 class ImportaContatti {
   public:
+    explicit ImportaContatti(ViciniContatti intorno) : vicini(std::move(intorno)) {}
+
     /// Asks for the group. False when the user gave up, or wanted the current group and there is none.
     bool Comincia();
 
@@ -23,8 +34,7 @@ class ImportaContatti {
     void Finisci();
 
   private:
-    static ui::ProgressCounter& stcProgress();
-
+    const ViciniContatti vicini;
     Prosegui prosegui;
     Inserimento inserimento;
     QString gruppo;

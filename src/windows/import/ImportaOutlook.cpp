@@ -29,8 +29,8 @@ inserimento::Valori ValoriDi(const contacts::Contact& contatto) {
 
 }  // namespace
 
-void ImportaOutlook() {
-    ImportaContatti importa;
+void ImportaOutlook(const ViciniContatti& vicini) {
+    ImportaContatti importa(vicini);
     if (!importa.Comincia()) return;
     const auto cartella = contacts::readContactFolder(contacts::findOutlookFile(contacts::outlookFolders()));
     if (!cartella.ok()) return;

@@ -7,8 +7,8 @@
 #include "windows/core/Puntatore.h"
 #include "windows/import/ImportaContatti.h"
 
-void ImportaRubrica() {
-    ImportaContatti importa;
+void ImportaRubrica(const ViciniContatti& vicini) {
+    ImportaContatti importa(vicini);
     if (!importa.Comincia()) return;
     contacts::AddressBook rubrica;
     if (!rubrica.open().ok()) return;

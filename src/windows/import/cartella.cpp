@@ -6,9 +6,6 @@
 #include "platform/ado/Recordset.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Puntatore.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
-#include "windows/store/frmGruppi.h"
 
 void cartella::senzaGuardia(const std::function<void()>& istruzione) {
     istruzione();
@@ -16,7 +13,8 @@ void cartella::senzaGuardia(const std::function<void()>& istruzione) {
 
 namespace {
 
-QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Passo& passo) {
+QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Passo& passo,
+                    const cartella::NuovoNodo& nuovoNodo) {
     QString id = "0";
     rs.setSource("SELECT * FROM [tb_gruppi];");
     passo([&] { esigi(rs.open()); });
@@ -26,15 +24,15 @@ QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Pas
     passo([&] { id = esigi(esigi(rs.value(u"id")).toText()); });
     passo([&] { esigi(rs.update()); });
     rs.close();
-    passo([&] { finestre::Main().Gruppi().AggiungiNodo("K0", id, nome); });
+    passo([&] { nuovoNodo(id, nome); });
     return id;
 }
 
 }  // namespace
 
 std::optional<QString> cartella::Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,
-                                        const Passo& passo) {
-    if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo);
+                                        const Passo& passo, const NuovoNodo& nuovoNodo) {
+    if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo, nuovoNodo);
     // Rows of a group that was removed would be seen by nobody and get mail all the same.
     if (nodoCorrente && GruppoEsiste(NumeroNodo(nodoCorrente->Key))) return NumeroNodo(nodoCorrente->Key);
     PuntatorePredefinito();

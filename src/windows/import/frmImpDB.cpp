@@ -16,8 +16,9 @@
 #include "windows/import/RiquadroCampi.h"
 #include "windows/import/RiquadroCartella.h"
 
-frmImpDB::frmImpDB(QWidget* parent)
+frmImpDB::frmImpDB(cartella::NuovoNodo nuovoNodo, QWidget* parent)
     : QDialog(parent),
+      NuovoNodo(std::move(nuovoNodo)),
       lblDatabase(ui::named(new QLabel("Percorso Database:", this), "lbl(0)")),
       txtDatabase(ui::named(new ui::LineEdit(this), "txtDatabase")),
       cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "windows/import/cartella.h"
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -19,7 +21,7 @@ class frmImpDB : public QDialog {
     Q_OBJECT
 
   public:
-    explicit frmImpDB(QWidget* parent = nullptr);
+    explicit frmImpDB(cartella::NuovoNodo nuovoNodo, QWidget* parent = nullptr);
 
     void reject() override {}
 
@@ -38,6 +40,7 @@ class frmImpDB : public QDialog {
     void cmbTab_Click();
     void cmdImportaDB_Click();
 
+    const cartella::NuovoNodo NuovoNodo;
     QLabel* lblDatabase;
     QLineEdit* txtDatabase;
     QPushButton* cmdSfoglia;

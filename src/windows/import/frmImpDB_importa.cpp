@@ -148,9 +148,9 @@ void frmImpDB::cmdImportaDB_Click() {
         mostra(prosegui.testo());
         return;
     }
-    const auto gruppo =
-        cartella::Scegli(riquadroCartella->Scelta(), rs,
-                         "Impossibile continuare.\r\n" + cartella::avvisoCartella, std::ref(prosegui));
+    const auto gruppo = cartella::Scegli(riquadroCartella->Scelta(), rs,
+                                         "Impossibile continuare.\r\n" + cartella::avvisoCartella,
+                                         std::ref(prosegui), NuovoNodo);
     if (!gruppo) return;
     prosegui([&] { esigi(rs.setActiveConnection(sorgente)); });
     rs.setSource("SELECT * FROM [" + tabella + "] ;");

@@ -25,8 +25,9 @@
 #include "windows/import/RiquadroCampi.h"
 #include "windows/import/RiquadroCartella.h"
 
-frmImpTXT::frmImpTXT(QWidget* parent)
+frmImpTXT::frmImpTXT(cartella::NuovoNodo nuovoNodo, QWidget* parent)
     : QDialog(parent),
+      NuovoNodo(std::move(nuovoNodo)),
       lblPercorso(ui::named(new QLabel("Percorso file di testo:", this), "lbl(0)")),
       txtPath(ui::named(new ui::LineEdit(this), "txtPath")),
       cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
@@ -98,8 +99,8 @@ void frmImpTXT::cmdImportaTXT_Click() {
     ado::Recordset rs = RecordsetDB();
     Inserimento inserimento;
     inserimento.Prepara();
-    const auto gruppo =
-        cartella::Scegli(riquadroCartella->Scelta(), rs, cartella::avvisoCartella, cartella::senzaGuardia);
+    const auto gruppo = cartella::Scegli(riquadroCartella->Scelta(), rs, cartella::avvisoCartella,
+                                         cartella::senzaGuardia, NuovoNodo);
     if (!gruppo) return;
 
     PuntatoreAttesa();

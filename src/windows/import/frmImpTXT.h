@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "windows/import/cartella.h"
+
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -16,7 +18,7 @@ class frmImpTXT : public QDialog {
     Q_OBJECT
 
   public:
-    explicit frmImpTXT(QWidget* parent = nullptr);
+    explicit frmImpTXT(cartella::NuovoNodo nuovoNodo, QWidget* parent = nullptr);
 
     void reject() override {}
 
@@ -31,6 +33,7 @@ class frmImpTXT : public QDialog {
     void cmdImportaTXT_Click();
     RigaTesto Regola() const;
 
+    const cartella::NuovoNodo NuovoNodo;
     QLabel* lblPercorso;
     QLineEdit* txtPath;
     QPushButton* cmdSfoglia;

@@ -5,41 +5,33 @@
 #include "modules/lang/bVAR.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
-#include "windows/entry/Finestre.h"
 #include "windows/lang/bLANG_chiavi.h"
-#include "windows/shell/frmMain.h"
+#include "windows/lang/bLANG_finestre.h"
 
-namespace {
-
-ui::CommandList& cmdLang() {
-    return *finestre::Main().Commands().GetList("cmdLang");
+void CaricaLingua(const bLANG::FinestreTradotte& finestre) {
+    ElencaLingue(*finestre.Main.Commands().GetList("cmdLang"));
+    ApplicaLingua(finestre);
 }
 
-}  // namespace
-
-void CaricaLingua() {
-    ElencaLingue();
-    ApplicaLingua();
-}
-
-void ElencaLingue() {
-    cmdLang().Clear();
+void ElencaLingue(ui::CommandList& cmdLang) {
+    cmdLang.Clear();
     QStringList voci;
     // What was read before a failure stands in the list.
-    const auto mostra = qScopeGuard([&voci] {
+    const auto mostra = qScopeGuard([&] {
         for (const QString& voce : voci)
-            cmdLang().AddText(voce);
+            cmdLang.AddText(voce);
     });
     bLANG::ElencaLingue(voci);
 }
 
-void ApplicaLingua() {
-    bLANG::LeggiTesti(bLANG::DestinazioneDi);
-    finestre::Main().Commands().GetPopupMenu("mnuLingua")->setCaption(bVAR::Lingua);
+void ApplicaLingua(const bLANG::FinestreTradotte& finestre) {
+    const bLANG::Chiavi chiavi = bLANG::TutteLeChiavi(finestre);
+    bLANG::LeggiTesti([&chiavi](const QString& chiave) { return chiavi.value(chiave); });
+    finestre.Main.Commands().GetPopupMenu("mnuLingua")->setCaption(bVAR::Lingua);
 }
 
-void CambiaLingua() {
-    const QString voce = cmdLang().Caption(cmdLang().SelectedIndex());
+void CambiaLingua(ui::CommandList& cmdLang) {
+    const QString voce = cmdLang.Caption(cmdLang.SelectedIndex());
     if (bLANG::eSegnata(voce)) return;
     bLANG::ScriviLinguaInUso(voce);
     ui::MessageDialog::show(bVAR::ChangeLang01, ui::MessageDialog::Notice, bVAR::Attenzione);

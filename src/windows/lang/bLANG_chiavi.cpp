@@ -10,24 +10,19 @@
 #include "modules/lang/bVAR_elenco.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/PropertyList.h"
-#include "windows/accounts/frmAccount.h"
-#include "windows/entry/Finestre.h"
-#include "windows/import/frmImpDB.h"
-#include "windows/import/frmImpTXT.h"
-#include "windows/import/frmScelta.h"
 #include "windows/lang/bLANG_chiavi_barre.h"
-#include "windows/message/frmPropBody.h"
-#include "windows/send/frmInvia.h"
-#include "windows/store/frmDestinatario.h"
+#include "windows/lang/bLANG_finestre.h"
 
 namespace {
 
 using bLANG::Chiavi;
+using bLANG::FinestreTradotte;
+using Istanza = std::function<QWidget&()>;
 
 /// A window, how it is reached, and its controls that have a caption.
 struct Finestra {
     const char* nome;
-    QWidget& (*istanza)();
+    Istanza FinestreTradotte::*istanza;
     bool conTitolo;  ///< whether the window's own caption has a key
     std::initializer_list<const char*> didascalie;
     bool conCampi = false;  ///< the labels of the 19 boxes, and the name of a new group
@@ -35,36 +30,27 @@ struct Finestra {
 
 const Finestra finestreTradotte[] = {
     {"frmAccount",
-     []() -> QWidget& { return finestre::Account(); },
+     &FinestreTradotte::Account,
      true,
      {"lbl(0)",       "lbl(1)",      "lbl(2)",    "lbl(3)",   "lbl(4)",      "lbl(5)",    "lbl(6)",
       "lbl(7)",       "lbl(8)",      "lbl(9)",    "lbl(10)",  "lbl(11)",     "lbl(12)",   "chkUsaSMTP",
       "chkAutentick", "chkAvanzate", "cmdChiudi", "cmdNuovo", "cmdModifica", "mnuElimina"}},
     {"frmInvia",
-     []() -> QWidget& { return finestre::Invia(); },
+     &FinestreTradotte::Invia,
      true,
      {"lblFile", "lblMittente", "lblPausa", "lblTimeOut", "lblDaInviare", "lblFallite", "lblInviate",
       "chkLog", "chkBlocco", "lblBlocco1", "lblBlocco2", "cmdChiudi", "cmdFerma", "cmdInvia"}},
-    {"frmPropBody",
-     []() -> QWidget& { return finestre::PropBody(); },
-     true,
-     {"lbl", "cmdAnnulla", "cdmSalva"}},
-    {"frmDestinatario",
-     []() -> QWidget& { return finestre::Destinatario(); },
-     false,
-     {"cmdAnnulla", "cdmSalva"}},
-    {"frmScelta",
-     []() -> QWidget& { return finestre::Scelta(); },
-     true,
-     {"lbl", "opt(0)", "opt(1)", "cmdOK", "cmdAnnulla"}},
+    {"frmPropBody", &FinestreTradotte::PropBody, true, {"lbl", "cmdAnnulla", "cdmSalva"}},
+    {"frmDestinatario", &FinestreTradotte::Destinatario, false, {"cmdAnnulla", "cdmSalva"}},
+    {"frmScelta", &FinestreTradotte::Scelta, true, {"lbl", "opt(0)", "opt(1)", "cmdOK", "cmdAnnulla"}},
     {"frmImpDB",
-     []() -> QWidget& { return finestre::ImpDB(); },
+     &FinestreTradotte::ImpDB,
      true,
      {"lbl(0)", "lbl(1)", "lbl(2)", "lbl(3)", "opt(0)", "opt(1)", "cmdSfoglia", "cmdApri", "cmdImportaDB",
       "cmdChiudi"},
      true},
     {"frmImpTXT",
-     []() -> QWidget& { return finestre::ImpTXT(); },
+     &FinestreTradotte::ImpTXT,
      true,
      {"lbl(0)", "lbl(1)", "lbl(2)", "opt(0)", "opt(1)", "cmdSfoglia", "cmdImportaTXT", "cmdChiudi"},
      true},
@@ -97,67 +83,55 @@ void aggiungiVariabili(Chiavi& chiavi) {
         };
 }
 
-void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra) {
+void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (const char* nome : finestra.didascalie)
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = [istanza = finestra.istanza,
-                                                                            nome](const QString& testo) {
-            impostaDidascalia(istanza(), nome, testo);
-        };
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] =
+            [istanza, nome](const QString& testo) { impostaDidascalia(istanza(), nome, testo); };
     if (finestra.conTitolo)
-        chiavi[QStringLiteral("%1.Caption").arg(finestra.nome)] =
-            [istanza = finestra.istanza](const QString& testo) { istanza().setWindowTitle(testo); };
+        chiavi[QStringLiteral("%1.Caption").arg(finestra.nome)] = [istanza](const QString& testo) {
+            istanza().setWindowTitle(testo);
+        };
 }
 
 /// What the windows of the imports have in common.
-void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra) {
+void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (int i = 0; i < campi::quanti; ++i) {
         const QString nome = QStringLiteral("lblcmp(%1)").arg(i);
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = [istanza = finestra.istanza,
-                                                                            nome](const QString& testo) {
-            impostaDidascalia(istanza(), nome, testo);
-        };
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] =
+            [istanza, nome](const QString& testo) { impostaDidascalia(istanza(), nome, testo); };
     }
-    chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] =
-        [istanza = finestra.istanza](const QString& testo) {
-            istanza().findChild<QLineEdit*>("txtCartella")->setText(testo);
-        };
+    chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] = [istanza](const QString& testo) {
+        istanza().findChild<QLineEdit*>("txtCartella")->setText(testo);
+    };
 }
 
-void aggiungiVoci(Chiavi& chiavi) {
-    const auto aggiungi = [&chiavi](const char* finestra, const char* voce, ui::PropertyList* (*prp)()) {
+void aggiungiVoci(Chiavi& chiavi, const FinestreTradotte& finestre) {
+    const auto aggiungi = [&chiavi](const char* finestra, const char* voce, const Istanza& istanza) {
         chiavi[QStringLiteral("%1.prp.Item(\"%2\").Caption").arg(finestra, voce)] =
-            [voce, prp](const QString& testo) { prp()->Item(voce)->setCaption(testo); };
+            [voce, istanza](const QString& testo) {
+                istanza().findChild<ui::PropertyList*>("prp")->Item(voce)->setCaption(testo);
+            };
     };
     for (const char* voce : {"Datidestinatario", "altro"})
-        aggiungi("frmDestinatario", voce, [] { return finestre::Destinatario().prp; });
+        aggiungi("frmDestinatario", voce, finestre.Destinatario);
     for (const char* voce :
          {"Margini pagina", "Sinistra", "Superiore", "Larghezza", "Altezza", "Colori", "Sfondo", "Testo",
           "Link", "LinkAttivi", "LinkVisitati", "Immagini", "Immaginedisfondo"})
-        aggiungi("frmPropBody", voce, [] { return finestre::PropBody().prp; });
-}
-
-const Chiavi& tutteLeChiavi() {
-    static const Chiavi chiavi = [] {
-        Chiavi nuove;
-        aggiungiVariabili(nuove);
-        bLANG::aggiungiMain(nuove);
-        bLANG::aggiungiEditor(nuove);
-        for (const Finestra& finestra : finestreTradotte) {
-            aggiungiFinestra(nuove, finestra);
-            if (finestra.conCampi) aggiungiCampi(nuove, finestra);
-        }
-        aggiungiVoci(nuove);
-        return nuove;
-    }();
-    return chiavi;
+        aggiungi("frmPropBody", voce, finestre.PropBody);
 }
 
 }  // namespace
 
-bLANG::Destinazione bLANG::DestinazioneDi(const QString& chiave) {
-    return tutteLeChiavi().value(chiave);
-}
-
-QStringList bLANG::ChiaviNote() {
-    return tutteLeChiavi().keys();
+Chiavi bLANG::TutteLeChiavi(const FinestreTradotte& finestre) {
+    Chiavi chiavi;
+    aggiungiVariabili(chiavi);
+    aggiungiMain(chiavi, finestre);
+    aggiungiEditor(chiavi, finestre);
+    for (const Finestra& finestra : finestreTradotte) {
+        const Istanza& istanza = finestre.*finestra.istanza;
+        aggiungiFinestra(chiavi, finestra, istanza);
+        if (finestra.conCampi) aggiungiCampi(chiavi, finestra, istanza);
+    }
+    aggiungiVoci(chiavi, finestre);
+    return chiavi;
 }

@@ -1,17 +1,18 @@
 #pragma once
 
-#include <QStringList>
+#include <QHash>
 
 #include "modules/lang/bLANG.h"
 
-/// The keys of the language file and what each of them sets: a text of bVAR, or one property of one control
-/// of a window. A window that a key names is created by the first text that arrives for it.
 namespace bLANG {
 
-/// Empty for a key that is not known.
-Destinazione DestinazioneDi(const QString& chiave);
+struct FinestreTradotte;
 
-/// Every known key, in no order.
-QStringList ChiaviNote();
+/// The keys of the language file and what each of them sets: a text of bVAR, or one property of one control
+/// of a window.
+using Chiavi = QHash<QString, Destinazione>;
+
+/// Every known key. A window that a key names is made by the first text that arrives for it.
+Chiavi TutteLeChiavi(const FinestreTradotte& finestre);
 
 }  // namespace bLANG

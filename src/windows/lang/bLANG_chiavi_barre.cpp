@@ -3,13 +3,12 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/TabStrip.h"
-#include "windows/entry/Finestre.h"
-#include "windows/message/frmEditor.h"
-#include "windows/shell/frmMain.h"
+#include "windows/lang/bLANG_finestre.h"
 
 namespace {
 
 using bLANG::Chiavi;
+using bLANG::FinestraConBarre;
 
 /// Commands of the main window: each has a caption and a description.
 constexpr const char* pulsantiMain[] = {
@@ -118,63 +117,62 @@ QString inizio(const char* finestra, const char* genere, const char* nome) {
 }
 
 /// The two keys of a button or menu.
-template <auto istanza>
-void aggiungiComando(Chiavi& chiavi, const char* finestra, const char* genere, const char* nome,
+void aggiungiComando(Chiavi& chiavi, const FinestraConBarre& istanza, const char* finestra,
+                     const char* genere, const char* nome,
                      ui::Command* (ui::CommandBars::*trova)(const QString&) const) {
     const QString chiave = inizio(finestra, genere, nome);
-    chiavi[chiave + "Caption"] = [nome, trova](const QString& testo) {
-        (istanza().Commands().*trova)(nome)->setCaption(testo);
+    chiavi[chiave + "Caption"] = [nome, trova, barre = istanza.Commands](const QString& testo) {
+        (barre().*trova)(nome)->setCaption(testo);
     };
-    chiavi[chiave + "Description"] = [nome, trova](const QString& testo) {
-        (istanza().Commands().*trova)(nome)->setDescription(testo);
+    chiavi[chiave + "Description"] = [nome, trova, barre = istanza.Commands](const QString& testo) {
+        (barre().*trova)(nome)->setDescription(testo);
     };
 }
 
 /// What the two windows have alike: buttons, menus, the status text, one pane.
-template <auto istanza, class Pulsanti, class Menu>
-void aggiungiBarre(Chiavi& chiavi, const char* finestra, const Pulsanti& pulsanti, const Menu& menu,
-                   const char* pannello) {
+template <class Pulsanti, class Menu>
+void aggiungiBarre(Chiavi& chiavi, const FinestraConBarre& istanza, const char* finestra,
+                   const Pulsanti& pulsanti, const Menu& menu, const char* pannello) {
     for (const char* nome : pulsanti)
-        aggiungiComando<istanza>(chiavi, finestra, "GetToolButton", nome, &ui::CommandBars::GetToolButton);
+        aggiungiComando(chiavi, istanza, finestra, "GetToolButton", nome, &ui::CommandBars::GetToolButton);
     for (const char* nome : menu)
-        aggiungiComando<istanza>(chiavi, finestra, "GetPopupMenu", nome, &ui::CommandBars::GetPopupMenu);
-    chiavi[inizio(finestra, "GetStatic", "stcHelp") + "Text"] = [](const QString& testo) {
-        istanza().Commands().GetStatic("stcHelp")->setText(testo);
-    };
+        aggiungiComando(chiavi, istanza, finestra, "GetPopupMenu", nome, &ui::CommandBars::GetPopupMenu);
+    chiavi[inizio(finestra, "GetStatic", "stcHelp") + "Text"] =
+        [barre = istanza.Commands](const QString& testo) { barre().GetStatic("stcHelp")->setText(testo); };
     chiavi[QStringLiteral("%1.Dks.DockWindows(\"%2\").Caption").arg(finestra, pannello)] =
-        [pannello](const QString& testo) {
-            istanza().DockWindows().DockWindows(pannello)->setCaption(testo);
+        [pannello, pannelli = istanza.DockWindows](const QString& testo) {
+            pannelli().DockWindows(pannello)->setCaption(testo);
         };
 }
 
 }  // namespace
 
-void bLANG::aggiungiMain(Chiavi& chiavi) {
-    aggiungiBarre<finestre::Main>(chiavi, "frmMain", pulsantiMain, menuMain, "dckGruppi");
+void bLANG::aggiungiMain(Chiavi& chiavi, const FinestreTradotte& finestre) {
+    aggiungiBarre(chiavi, finestre.Main, "frmMain", pulsantiMain, menuMain, "dckGruppi");
 }
 
-void bLANG::aggiungiEditor(Chiavi& chiavi) {
+void bLANG::aggiungiEditor(Chiavi& chiavi, const FinestreTradotte& finestre) {
     constexpr auto editor = "frmEditor";
-    aggiungiBarre<finestre::Editor>(chiavi, editor, pulsantiEditor, menuEditor, "dckAllegati");
+    const auto& barre = finestre.Editor.Commands;
+    const auto& tb = finestre.SchedeEditor;
+    aggiungiBarre(chiavi, finestre.Editor, editor, pulsantiEditor, menuEditor, "dckAllegati");
     for (const char* nome : {"cmbFontName", "cmbFontSize"})
-        chiavi[inizio(editor, "GetComboBox", nome) + "Description"] = [nome](const QString& testo) {
-            finestre::Editor().Commands().GetComboBox(nome)->setDescription(testo);
+        chiavi[inizio(editor, "GetComboBox", nome) + "Description"] = [nome, barre](const QString& testo) {
+            barre().GetComboBox(nome)->setDescription(testo);
         };
-    chiavi[inizio(editor, "GetCustomPopup", "popColors") + "Description"] = [](const QString& testo) {
-        finestre::Editor().Commands().GetCustomPopup("popColors")->setDescription(testo);
+    chiavi[inizio(editor, "GetCustomPopup", "popColors") + "Description"] = [barre](const QString& testo) {
+        barre().GetCustomPopup("popColors")->setDescription(testo);
     };
-    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Label"] = [](const QString& testo) {
-        finestre::Editor().Commands().GetEdit("txtOggetto")->setLabel(testo);
+    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Label"] = [barre](const QString& testo) {
+        barre().GetEdit("txtOggetto")->setLabel(testo);
     };
-    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Description"] = [](const QString& testo) {
-        finestre::Editor().Commands().GetEdit("txtOggetto")->setDescription(testo);
+    chiavi[inizio(editor, "GetEdit", "txtOggetto") + "Description"] = [barre](const QString& testo) {
+        barre().GetEdit("txtOggetto")->setDescription(testo);
     };
     for (int scheda = 0; scheda < 3; ++scheda) {
-        chiavi[QStringLiteral("frmEditor.tb.TabCaption(%1)").arg(scheda)] = [scheda](const QString& testo) {
-            finestre::Editor().tb->setTabCaption(scheda, testo);
-        };
-        chiavi[QStringLiteral("frmEditor.tb.TabToolTip(%1)").arg(scheda)] = [scheda](const QString& testo) {
-            finestre::Editor().tb->setTabToolTip(scheda, testo);
-        };
+        chiavi[QStringLiteral("frmEditor.tb.TabCaption(%1)").arg(scheda)] =
+            [scheda, tb](const QString& testo) { tb().setTabCaption(scheda, testo); };
+        chiavi[QStringLiteral("frmEditor.tb.TabToolTip(%1)").arg(scheda)] =
+            [scheda, tb](const QString& testo) { tb().setTabToolTip(scheda, testo); };
     }
 }

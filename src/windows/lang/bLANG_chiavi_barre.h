@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QHash>
-
-#include "modules/lang/bLANG.h"
+#include "windows/lang/bLANG_chiavi.h"
 
 namespace bLANG {
 
-using Chiavi = QHash<QString, Destinazione>;
-
 /// The keys of the two windows that have bars: commands, menus, tools, panes, tabs.
-void aggiungiMain(Chiavi& chiavi);
-void aggiungiEditor(Chiavi& chiavi);
+void aggiungiMain(Chiavi& chiavi, const FinestreTradotte& finestre);
+void aggiungiEditor(Chiavi& chiavi, const FinestreTradotte& finestre);
 
 }  // namespace bLANG

@@ -15,10 +15,6 @@
 #include "windows/core/bTheme.h"
 #include "windows/core/CentraForm.h"
 #include "windows/core/Evento.h"
-#include "windows/entry/Finestre.h"
-#include "windows/entry/Posizione.h"
-#include "windows/entry/Riavvio.h"
-#include "windows/lang/bLANG_applica.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
@@ -31,8 +27,9 @@ QString fileDisposizione() {
 
 }  // namespace
 
-frmMain::frmMain()
-    : barre(new ui::CommandBars(this)),
+frmMain::frmMain(Vicini intorno)
+    : vicini(std::move(intorno)),
+      barre(new ui::CommandBars(this)),
       pannelli(this),
       destinatari(new ui::DataGrid),
       dati(new ui::DataControl(this)) {
@@ -51,32 +48,46 @@ frmMain::frmMain()
 }
 
 void frmMain::Carica() {
-    griglia::Collega(*this);
-    CentraForm(finestre::Splash());
+    griglia::Collega(PerGruppiEGriglia());
+    CentraForm(vicini.Splash());
     SvuotaGriglia();
     RilevaTema(this);
     ImpostaColori();
     // Without a layout that can be read the bars and panes stand as they were designed.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
     // From here on it exists, hidden, and is never unloaded.
-    finestre::Editor();
-    CaricaLingua();
-    CaricaPosizioneForm(*this);
+    vicini.CreaEditor();
+    vicini.CaricaLingua();
+    vicini.posizione.carica(*this);
     // The installed placement is nobody's choice; a saved one stands as it was saved, on any screen.
     if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
-    riavvio::RiprendiPosizione();
-    TitoloPrincipale();
+    vicini.RiprendiPosizione();
+    TitoloPrincipale(*this);
     CaricaGruppi();
-    finestre::ScaricaSplash();
+    vicini.ScaricaSplash();
 }
 
 void frmMain::CaricaGruppi() {
-    auto* gruppi = new frmGruppi;
-    pannelli.DockWindows("dckGruppi")->setContent(gruppi);
+    auto* gruppi = new frmGruppi(PerGruppiEGriglia());
+    ui::DockPane& pannello = *pannelli.DockWindows("dckGruppi");
+    gruppi->TREE->setAccessibleName(pannello.Caption());
+    pannello.setContent(gruppi);
     gruppi->CaricaGruppiINI();
     CreaGiroFuoco(*gruppi);
     gruppi->TREE->setFocus();
     AggiornaComandi();
+}
+
+Principale frmMain::PerGruppiEGriglia() {
+    return {*destinatari,
+            *dati,
+            *barre,
+            [this]() -> frmGruppi& { return Gruppi(); },
+            vicini.Destinatario,
+            [this] { SvuotaGriglia(); },
+            [this] { AggiornaComandi(); },
+            ChiediDatabase,
+            [this](const QString& percorso) { CambiaDatabase(percorso); }};
 }
 
 frmGruppi& frmMain::Gruppi() {
@@ -113,7 +124,7 @@ void frmMain::closeEvent(QCloseEvent* chiusura) {
     evento([this] {
         const Operazione chiusa("Chiusura del programma");
         static_cast<void>(pannelli.saveLayout(fileDisposizione()));
-        SalvaPosizioneForm(*this);
+        vicini.posizione.salva(*this);
         if (risposteAttese().concludi) risposteAttese().concludi();
         TerminaProgramma(0);
     });
@@ -132,6 +143,6 @@ void frmMain::changeEvent(QEvent* cambiamento) {
     if (cambiamento->type() == QEvent::ActivationChange) evento([this] { AggiornaData(); });
 }
 
-void TitoloPrincipale() {
-    finestre::Main().setWindowTitle(prodotto::nome() + " - " + prodotto::versione());
+void TitoloPrincipale(frmMain& principale) {
+    principale.setWindowTitle(prodotto::nome() + " - " + prodotto::versione());
 }

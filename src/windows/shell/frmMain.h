@@ -1,13 +1,18 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <QMainWindow>
 
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/DockPanes.h"
+#include "windows/core/Posizionamento.h"
+#include "windows/store/Principale.h"
 
+class frmDestinatario;
 class frmGruppi;
+class frmSplash;
 namespace ui {
 class CommandBars;
 class DataControl;
@@ -27,10 +32,34 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    frmMain();
+    /// Opens another window, modally, and comes back when it is closed, or runs an import with its questions.
+    /// Unguarded.
+    using Apertura = std::function<void()>;
 
-    /// The load of the window, run once by the first mention (finestre::Main): splash, theme, layout,
-    /// editor, language, placement, group tree. Unguarded: what stands behind a failed step does not run.
+    /// What the window needs of others. Each of them is made when it is first named.
+    struct Vicini {
+        std::function<frmSplash&()> Splash;  ///< loads it anew after it was unloaded
+        std::function<void()> ScaricaSplash;
+        std::function<void()> CreaEditor;    ///< makes it, hidden
+        std::function<void()> CaricaLingua;  ///< unguarded
+        Posizionamento posizione;
+        std::function<void()> RiprendiPosizione;  ///< of the program that started this one anew, if any
+        std::function<frmDestinatario&()> Destinatario;
+        Apertura Account;
+        Apertura Editor;  ///< with an empty document
+        Apertura Invia;   ///< with the selected recipients counted
+        Apertura ImpTXT;
+        Apertura ImpDB;
+        Apertura ImportaRubrica;
+        Apertura ImportaOutlook;
+        Apertura InfoSu;
+        std::function<void()> CambiaLingua;  ///< to what was picked in the list of languages
+    };
+
+    explicit frmMain(Vicini intorno);
+
+    /// The load of the window, run once by the first mention: splash, theme, layout, editor, language,
+    /// placement, group tree. Unguarded: what stands behind a failed step does not run.
     void Carica();
 
     ui::CommandBars& Commands() { return *barre; }
@@ -86,10 +115,12 @@ class frmMain : public QMainWindow {
     void SalvaDatabase();
 
     void CaricaGruppi();
+    Principale PerGruppiEGriglia();
     void ImpostaColori();
     /// The two colours of the grid that follow a change of the desktop's colours.
     void ImpostaColoriGriglia();
 
+    const Vicini vicini;
     ui::CommandBars* barre;
     ui::DockPanes pannelli;
     ui::DataGrid* destinatari;
@@ -97,5 +128,5 @@ class frmMain : public QMainWindow {
     bool comandoInCorso = false;
 };
 
-/// Sets the caption of the main window: the product's name and version.
-void TitoloPrincipale();
+/// Sets the caption of the window: the product's name and version.
+void TitoloPrincipale(frmMain& principale);

@@ -14,16 +14,6 @@
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
-#include "windows/accounts/frmAccount.h"
-#include "windows/entry/Finestre.h"
-#include "windows/import/frmImpDB.h"
-#include "windows/import/frmImpTXT.h"
-#include "windows/import/ImportaOutlook.h"
-#include "windows/import/ImportaRubrica.h"
-#include "windows/lang/bLANG_applica.h"
-#include "windows/message/frmEditor.h"
-#include "windows/send/frmInvia.h"
-#include "windows/shell/frmInfoSu.h"
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi_comandi.h"
 #include "windows/store/griglia.h"
@@ -37,44 +27,49 @@ namespace {
 
 using Accesso = std::optional<AccessoComando>;
 
-/// A command that needs nothing but the prepared command, or the prepared recordset.
+/// A command that needs nothing but the prepared command.
 template <void (*routine)(ado::Command&)>
 void conComando(frmMain&, Accesso& accesso) {
     routine(accesso->comando);
-}
-template <void (*routine)(ado::Recordset&)>
-void conRecordset(frmMain&, Accesso& accesso) {
-    routine(accesso->rs);
 }
 template <void (*routine)()>
 void solo(frmMain&, Accesso&) {
     routine();
 }
 
+/// The same for a command on a group of the tree.
+template <void (*routine)(frmGruppi&, ado::Command&)>
+void delGruppo(frmMain& finestra, Accesso& accesso) {
+    routine(finestra.Gruppi(), accesso->comando);
+}
+template <void (*routine)(frmGruppi&, ado::Recordset&)>
+void delGruppo(frmMain& finestra, Accesso& accesso) {
+    routine(finestra.Gruppi(), accesso->rs);
+}
+
 }  // namespace
 
 // The first equal name decides.
 const frmMain::RigaComando frmMain::tabellaComandi[] = {
-    {"cmdFileAccount", [](frmMain&, Accesso&) { finestre::Account().exec(); }},
+    {"cmdFileAccount", [](frmMain& finestra, Accesso&) { finestra.vicini.Account(); }},
     {"cmdEsci", [](frmMain& finestra, Accesso&) { finestra.close(); }},
-    {"cmdEditor",
-     [](frmMain&, Accesso&) {
-         finestre::Editor().NuovoMessaggio();
-         finestre::Editor().MostraModale();
-     }},
+    {"cmdEditor", [](frmMain& finestra, Accesso&) { finestra.vicini.Editor(); }},
     {"cmdMailingSalva", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingSalva(accesso); }},
     {"cmdMailingApri", [](frmMain& finestra, Accesso& accesso) { finestra.cmdMailingApri(accesso); }},
-    {"cmdMailingImpTXT", [](frmMain&, Accesso&) { finestre::ImpTXT().exec(); }},
-    {"cmdMailingImpOE", solo<ImportaRubrica>},
-    {"cmdMailingImpMSO", solo<ImportaOutlook>},
-    {"cmdMailingImpDB", [](frmMain&, Accesso&) { finestre::ImpDB().exec(); }},
+    {"cmdMailingImpTXT", [](frmMain& finestra, Accesso&) { finestra.vicini.ImpTXT(); }},
+    {"cmdMailingImpOE", [](frmMain& finestra, Accesso&) { finestra.vicini.ImportaRubrica(); }},
+    {"cmdMailingImpMSO", [](frmMain& finestra, Accesso&) { finestra.vicini.ImportaOutlook(); }},
+    {"cmdMailingImpDB", [](frmMain& finestra, Accesso&) { finestra.vicini.ImpDB(); }},
     {"cmdInvia", [](frmMain& finestra, Accesso& accesso) { finestra.cmdInvia(accesso); }},
-    {"cmdPopMailingHead", conRecordset<comandiGruppo::Testa>},
-    {"cmdPopMailingDel", conComando<comandiGruppo::Elimina>},
+    {"cmdPopMailingHead", delGruppo<comandiGruppo::Testa>},
+    {"cmdPopMailingDel", delGruppo<comandiGruppo::Elimina>},
     {"cmdPopMailingCopia",
-     [](frmMain&, Accesso& accesso) { comandiGruppo::Copia(accesso->rs, accesso->comando); }},
-    {"cmdPopMailingRinomina", solo<comandiGruppo::Rinomina>},
-    {"cmdPopMailingNew", conRecordset<comandiGruppo::Nuovo>},
+     [](frmMain& finestra, Accesso& accesso) {
+         comandiGruppo::Copia(finestra.Gruppi(), accesso->rs, accesso->comando);
+     }},
+    {"cmdPopMailingRinomina",
+     [](frmMain& finestra, Accesso&) { comandiGruppo::Rinomina(finestra.Gruppi()); }},
+    {"cmdPopMailingNew", delGruppo<comandiGruppo::Nuovo>},
     {"cmdPopMailingSelAllGRP", conComando<comandiGruppo::SelAllGRP>},
     {"cmdPopMailingSelNotGRP", conComando<comandiGruppo::SelNotGRP>},
     {"cmdPopMailingSelAllDB", conComando<comandiGruppo::SelAllDB>},
@@ -82,12 +77,12 @@ const frmMain::RigaComando frmMain::tabellaComandi[] = {
     {"cmdPopMailingUserNew", solo<comandiDestinatario::Nuovo>},
     {"cmdPopMailingUserMod", solo<comandiDestinatario::Modifica>},
     {"cmdPopMailingUserDel", conComando<comandiDestinatario::Elimina>},
-    {"cmdPopMailingSvuotaCartella", conComando<comandiGruppo::SvuotaCartella>},
+    {"cmdPopMailingSvuotaCartella", delGruppo<comandiGruppo::SvuotaCartella>},
     {"cmdHelpGuida", [](frmMain& finestra, Accesso&) { finestra.cmdHelpGuida(); }},
     {"cmdHelpHomePage", [](frmMain&, Accesso&) { ApriShell(prodotto::paginaWeb()); }},
     {"cmdHelpInviaMail", [](frmMain&, Accesso&) { ApriShell(prodotto::collegamentoPosta()); }},
-    {"cmdHelpInfoSu", [](frmMain&, Accesso&) { finestre::InfoSu().exec(); }},
-    {"cmdLang", solo<CambiaLingua>},
+    {"cmdHelpInfoSu", [](frmMain& finestra, Accesso&) { finestra.vicini.InfoSu(); }},
+    {"cmdLang", [](frmMain& finestra, Accesso&) { finestra.vicini.CambiaLingua(); }},
 };
 
 namespace {
@@ -140,10 +135,7 @@ void frmMain::cmdInvia(Accesso& accesso) {
         ui::MessageDialog::show(bVAR::AddDestinatario, ui::MessageDialog::Notice, bVAR::Attenzione);
         return;
     }
-    frmInvia& invio = finestre::Invia();
-    invio.SetPrgBar();
-    invio.CaricaDati();
-    invio.exec();
+    vicini.Invia();
 }
 
 void frmMain::cmdHelpGuida() {

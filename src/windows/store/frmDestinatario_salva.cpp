@@ -9,8 +9,6 @@
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/PropertyList.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/frmDestinatario_campi.h"
 #include "windows/store/griglia.h"
@@ -80,7 +78,7 @@ void frmDestinatario::AggiornaGriglia() {
         griglia::RiempiGriglia();
         return;
     }
-    ui::DataGrid& grd = finestre::Main().grd();
+    ui::DataGrid& grd = griglia::grd();
     // A fill after a failed save need not have found the recipient.
     if (ripiega(QString(), griglia::idCorrente) != txtIDuser->text()) {
         griglia::RinfrescaGriglia();

@@ -10,8 +10,6 @@
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Evento.h"
 #include "windows/core/Puntatore.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/griglia.h"
 
 namespace {
@@ -29,11 +27,11 @@ ado::Recordset LivelloDi(const QString& numero) {
 
 }  // namespace
 
-frmGruppi::frmGruppi(QWidget* parent) : QWidget(parent), TREE(new ui::GroupTree(this)) {
+frmGruppi::frmGruppi(const Principale& finestra, QWidget* parent)
+    : QWidget(parent), principale(finestra), TREE(new ui::GroupTree(this)) {
     setObjectName("frmGruppi");
     setWindowTitle("Gruppi mailing");
     TREE->setObjectName("TREE");
-    TREE->setAccessibleName(finestre::Main().DockWindows().DockWindows("dckGruppi")->Caption());
     TREE->setFrameShape(QFrame::NoFrame);
     TREE->setImage("Mailing", "server-database");
     TREE->setImage("Close", "folder");
@@ -78,7 +76,7 @@ void frmGruppi::ChiediAltroDatabase() {
     ui::MessageDialog::show(
         "Impossibile trovare il database.\r\nCaricare un'altro database prima di continuare.",
         ui::MessageDialog::Stop, "Attenzione");
-    const auto percorso = frmMain::ChiediDatabase();
+    const auto percorso = principale.ChiediDatabase();
     if (!percorso) {
         ui::MessageDialog::show(
             "Si è scelto di non continuare.\r\n"
@@ -91,7 +89,7 @@ void frmGruppi::ChiediAltroDatabase() {
         ui::MessageDialog::show("Formato file errato", ui::MessageDialog::Notice, "Attenzione");
         TerminaProgramma();
     }
-    finestre::Main().CambiaDatabase(*percorso);
+    principale.CambiaDatabase(*percorso);
     PuntatorePredefinito();
 }
 
@@ -113,7 +111,7 @@ void frmGruppi::TREEClick() {
         griglia::RiempiGriglia();
     });
     if (!riempita) griglia::SegnaNonLetta();
-    finestre::Main().AggiornaComandi();
+    principale.AggiornaComandi();
 }
 
 void frmGruppi::CompletaLivello(const QString& chiave) {

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "platform/ui/GroupTree.h"
+#include "windows/store/Principale.h"
 
 namespace ado {
 class Recordset;
@@ -19,7 +20,7 @@ class frmGruppi : public QWidget {
     Q_OBJECT
 
   public:
-    explicit frmGruppi(QWidget* parent = nullptr);
+    explicit frmGruppi(const Principale& finestra, QWidget* parent = nullptr);
 
     /// Builds the tree anew from the database. When the database cannot be used the user is asked for another
     /// one, until the tree is there; a refusal, or a file that is no recipient database, ends the program.
@@ -44,6 +45,7 @@ class frmGruppi : public QWidget {
     /// Loads the level of a node again if the last click on it could not. Unguarded.
     void CompletaLivello(const QString& chiave);
 
+    const Principale principale;
     ui::GroupTree* const TREE;
 
   private:
@@ -64,6 +66,7 @@ class frmGruppi : public QWidget {
 
     // frmGruppi_taglia.cpp
     void CollegaTaglia();
+    void Racconta(const QString& testo);
     void TagliaDestinatario();
     void TagliaGruppo();
     void Incolla();

@@ -13,8 +13,6 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Puntatore.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
 
@@ -53,9 +51,9 @@ void Seleziona(ado::Command& comando, const QString& istruzione) {
 }
 
 /// Null where the node has left the tree.
-ui::GroupNodeRef NodoNellAlbero() {
+ui::GroupNodeRef NodoNellAlbero(const frmGruppi& gruppi) {
     if (!nodoCorrente) fallisci(ErrorCode::ItemNotFound);
-    return finestre::Main().Gruppi().TREE->Node(nodoCorrente->Key);
+    return gruppi.TREE->Node(nodoCorrente->Key);
 }
 
 /// Whether the group of nodoCorrente is there. The commands of one that was removed do nothing.
@@ -78,16 +76,16 @@ QString NomeConDestinatari() {
 /// Asks before recipients of the current group are deleted; true for Yes. Meanwhile the tree shows its node
 /// as selected, whichever was, and the status bar names it: what is asked about is what the user sees. Return
 /// answers No.
-bool ConfermaCancellazione(const QString& domanda, int stile) {
-    ui::GroupTree& albero = *finestre::Main().Gruppi().TREE;
-    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+bool ConfermaCancellazione(frmGruppi& gruppi, const QString& domanda, int stile) {
+    ui::GroupTree& albero = *gruppi.TREE;
+    ui::StaticItem& stcHelp = *gruppi.principale.Commands.GetStatic("stcHelp");
     const QString testoPrima = stcHelp.Text();
     const ui::GroupNodeRef sceltoPrima = albero.SelectedItem();
     const auto comePrima = qScopeGuard([&] {
         albero.setSelectedItem(sceltoPrima);
         stcHelp.setText(testoPrima);
     });
-    if (const ui::GroupNodeRef nodo = NodoNellAlbero()) {
+    if (const ui::GroupNodeRef nodo = NodoNellAlbero(gruppi)) {
         albero.setSelectedItem(nodo);
         albero.EnsureVisible(nodo);
     }
@@ -98,18 +96,17 @@ bool ConfermaCancellazione(const QString& domanda, int stile) {
 
 }  // namespace
 
-void comandiGruppo::Nuovo(ado::Recordset& rs) {
-    if (!NodoNellAlbero()) return;
+void comandiGruppo::Nuovo(frmGruppi& gruppi, ado::Recordset& rs) {
+    if (!NodoNellAlbero(gruppi)) return;
     const QString padre = 'K' + NumeroNodoCorrente();
     const QString nome = "Nuovo gruppo";
-    frmGruppi& gruppi = finestre::Main().Gruppi();
     // The click may have failed to load the level.
     gruppi.CaricaSottogruppi(padre);
     gruppi.AggiungiNodo(padre, AggiungiGruppo(rs, padre, nome), nome);
 }
 
-void comandiGruppo::Copia(ado::Recordset& rs, ado::Command& comando) {
-    const ui::GroupNodeRef nodo = NodoNellAlbero();
+void comandiGruppo::Copia(frmGruppi& gruppi, ado::Recordset& rs, ado::Command& comando) {
+    const ui::GroupNodeRef nodo = NodoNellAlbero(gruppi);
     if (!nodo) return;
     const ui::GroupNodeRef padre = nodo->Parent();
     if (!padre) fallisci(ErrorCode::ItemNotFound);
@@ -118,39 +115,40 @@ void comandiGruppo::Copia(ado::Recordset& rs, ado::Command& comando) {
     Esegui(comando, "INSERT INTO tb_destinatari (id_grp," + colonneCopiate + ") " + "SELECT " + id +
                         " as id_grp, " + colonneCopiate + " " +
                         "FROM tb_destinatari WHERE id_grp = " + NumeroNodoCorrente() + " ;");
-    finestre::Main().Gruppi().AggiungiNodo(padre->Key(), id, nome);
+    gruppi.AggiungiNodo(padre->Key(), id, nome);
 }
 
-void comandiGruppo::Elimina(ado::Command& comando) {
-    const ui::GroupNodeRef nodo = NodoNellAlbero();
+void comandiGruppo::Elimina(frmGruppi& gruppi, ado::Command& comando) {
+    const ui::GroupNodeRef nodo = NodoNellAlbero(gruppi);
     if (!nodo) return;
-    finestre::Main().Gruppi().CompletaLivello(nodo->Key());
+    gruppi.CompletaLivello(nodo->Key());
     if (nodo->Children() > 0) {
         MessageDialog::show(
             "Impossibile eliminare questo gruppo.\r\nEliminare tutti i sottogruppi prima di continuare.",
             MessageDialog::Notice, "Attenzione");
         return;
     }
-    if (!ConfermaCancellazione("Sicuro di voler eliminare questo gruppo?\r\n"
+    if (!ConfermaCancellazione(gruppi,
+                               "Sicuro di voler eliminare questo gruppo?\r\n"
                                "Tutti i destinatari appartenenti a questo gruppo saranno cancellati.",
                                MessageDialog::AskQuestion))
         return;
     Esegui(comando, "DELETE FROM [tb_destinatari] WHERE id_grp = " + NumeroNodoCorrente() + " ;");
     Esegui(comando, "DELETE FROM [tb_gruppi] WHERE id = " + NumeroNodoCorrente() + " ;");
-    ui::GroupTree& albero = *finestre::Main().Gruppi().TREE;
+    ui::GroupTree& albero = *gruppi.TREE;
     esigi(albero.Remove(nodoCorrente->Key));
     // Nothing is chosen until the next click; otherwise the neighbour would look as if it were.
     albero.clearSelection();
 }
 
-void comandiGruppo::Rinomina() {
-    finestre::Main().Gruppi().TREE->StartLabelEdit();
+void comandiGruppo::Rinomina(frmGruppi& gruppi) {
+    gruppi.TREE->StartLabelEdit();
 }
 
-void comandiGruppo::Testa(ado::Recordset& rs) {
-    if (!NodoNellAlbero() || nodoCorrente->Key == "K0") return;
+void comandiGruppo::Testa(frmGruppi& gruppi, ado::Recordset& rs) {
+    if (!NodoNellAlbero(gruppi) || nodoCorrente->Key == "K0") return;
     const QString numero = NumeroNodoCorrente();
-    esigi(finestre::Main().Gruppi().TREE->Move(nodoCorrente->Key, "K0"));
+    esigi(gruppi.TREE->Move(nodoCorrente->Key, "K0"));
     rs.setSource("SELECT * FROM [tb_gruppi] WHERE id = " + numero + " ;");
     esigi(rs.open());
     esigi(rs.setValue(u"id_up", 0));
@@ -158,9 +156,10 @@ void comandiGruppo::Testa(ado::Recordset& rs) {
     rs.close();
 }
 
-void comandiGruppo::SvuotaCartella(ado::Command& comando) {
+void comandiGruppo::SvuotaCartella(frmGruppi& gruppi, ado::Command& comando) {
     if (!GruppoCorrenteEsiste()) return;
-    if (!ConfermaCancellazione("Sicuro di voler svuotare questa cartella?\r\n"
+    if (!ConfermaCancellazione(gruppi,
+                               "Sicuro di voler svuotare questa cartella?\r\n"
                                "Tutti i destinatari verranno cancellati.\r\n"
                                "Operazione irreversibile.",
                                MessageDialog::AskNotice))

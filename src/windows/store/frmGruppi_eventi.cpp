@@ -5,8 +5,6 @@
 #include "platform/ado/Command.h"
 #include "platform/ui/CommandBars.h"
 #include "windows/core/Evento.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
 
@@ -41,13 +39,13 @@ void frmGruppi::CollegaEventi() {
     connect(TREE, &GroupTree::afterLabelEdit, this, [this](const QString& testo, bool* annulla) {
         evento([&] { TREEAfterLabelEdit(testo, annulla); });
     });
-    connect(TREE, &GroupTree::mouseMove, this, [] {
-        evento([] { finestre::Main().Commands().GetStatic("stcHelp")->setText("Mailing List"); });
+    connect(TREE, &GroupTree::mouseMove, this, [this] {
+        evento([this] { principale.Commands.GetStatic("stcHelp")->setText("Mailing List"); });
     });
     connect(TREE, &GroupTree::mouseUp, this, [this](Qt::MouseButton pulsante, const QPoint& punto) {
         evento([&] { TREEMouseUp(pulsante, punto); });
     });
-    finestre::Main().Commands().offerPopup(TREE, [this] { return MenuOra(); });
+    principale.Commands.offerPopup(TREE, [this] { return MenuOra(); });
 }
 
 void frmGruppi::TREENodeClick(const ui::GroupNodeRef& nodo) {
@@ -70,7 +68,7 @@ void frmGruppi::Apri(const QStringList& chiavi) {
 
 void frmGruppi::TREEMouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
     const QString menu = MenuDelNodo();
-    if (pulsante == Qt::RightButton && !menu.isEmpty()) finestre::Main().Commands().showPopup(menu, punto);
+    if (pulsante == Qt::RightButton && !menu.isEmpty()) principale.Commands.showPopup(menu, punto);
 }
 
 void frmGruppi::TREEAfterLabelEdit(const QString& testo, bool* annulla) {

@@ -6,23 +6,17 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "windows/core/Evento.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
 
-namespace {
-
-void Racconta(const QString& testo) {
-    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+void frmGruppi::Racconta(const QString& testo) {
+    ui::StaticItem& stcHelp = *principale.Commands.GetStatic("stcHelp");
     stcHelp.setText(testo);
     stcHelp.announce();
 }
 
-}  // namespace
-
 void frmGruppi::CollegaTaglia() {
-    ui::DataGrid& grd = finestre::Main().grd();
+    ui::DataGrid& grd = principale.grd;
     const auto tasto = [this](QWidget* dove, const QKeySequence& tasti, void (frmGruppi::*gestore)()) {
         auto* scorciatoia = new QShortcut(tasti, dove);
         scorciatoia->setContext(Qt::WidgetShortcut);
@@ -71,5 +65,5 @@ void frmGruppi::Incolla() {
 void frmGruppi::DimenticaTaglio() {
     tagliato.reset();
     TREE->setMarked(nullptr);
-    finestre::Main().grd().markRow(0);
+    principale.grd.markRow(0);
 }

@@ -1,5 +1,7 @@
 #include "windows/store/griglia.h"
 
+#include <cassert>
+#include <optional>
 #include <QScopeGuard>
 
 #include "modules/core/bGlobal.h"
@@ -15,9 +17,8 @@
 #include "platform/ui/DataGrid.h"
 #include "windows/core/Evento.h"
 #include "windows/core/Puntatore.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
+#include "windows/store/Principale.h"
 
 namespace {
 
@@ -29,9 +30,15 @@ constexpr int primaColonnaTradotta = 5;
 
 const QString fraseVuota = QStringLiteral("Nessun destinatario in questa cartella");
 
-ui::DataGrid& grd() {
-    return finestre::Main().grd();
+/// None before the first main window, and after the end of one.
+std::optional<Principale> collegata;
+
+const Principale& FinestraDellaGriglia() {
+    assert(collegata);
+    return *collegata;
 }
+
+using griglia::grd;
 
 /// Headings of the columns from primaColonnaTradotta on.
 QStringList IntestazioniTradotte() {
@@ -45,7 +52,7 @@ QStringList IntestazioniTradotte() {
 void Aggiorna() {
     PuntatoreAttesa();
     const auto fatto = qScopeGuard(PuntatorePredefinito);
-    const Status letta = finestre::Main().Adodc().Refresh();
+    const Status letta = FinestraDellaGriglia().Adodc.Refresh();
     if (!letta.ok()) griglia::SegnaNonLetta();
     esigi(letta);
 }
@@ -62,7 +69,7 @@ void grd_AfterDataRefresh() {
     for (const QString& testo : IntestazioniTradotte())
         grd().setTextMatrix(0, colonna++, testo);
     grd().setEmptyText(fraseVuota);
-    finestre::Main().AggiornaComandi();
+    FinestraDellaGriglia().AggiornaComandi();
 }
 
 /// The cell changes first and the table second; nothing is read back.
@@ -89,7 +96,7 @@ void grd_DblClick() {
 }
 
 void grd_MouseMove(Qt::MouseButtons pulsanti) {
-    ui::StaticItem& stcHelp = *finestre::Main().Commands().GetStatic("stcHelp");
+    ui::StaticItem& stcHelp = *FinestraDellaGriglia().Commands.GetStatic("stcHelp");
     stcHelp.setText("Email presenti: " + text::formatGrouped(grd().Rows() - 1));
     stcHelp.announce();
     if (pulsanti & Qt::LeftButton && grd().Row() > 0) grd().Drag();
@@ -97,14 +104,24 @@ void grd_MouseMove(Qt::MouseButtons pulsanti) {
 
 void grd_MouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
     if (pulsante == Qt::RightButton && grd().Rows() > 1)
-        finestre::Main().Commands().showPopup("popMailingGRD", punto);
+        FinestraDellaGriglia().Commands.showPopup("popMailingGRD", punto);
 }
 
 }  // namespace
 
-void griglia::Collega(frmMain& principale) {
+ui::DataGrid& griglia::grd() {
+    return FinestraDellaGriglia().grd;
+}
+
+frmDestinatario& griglia::Destinatario() {
+    return FinestraDellaGriglia().Destinatario();
+}
+
+void griglia::Collega(const Principale& finestra) {
     using ui::DataGrid;
-    DataGrid* grd = &principale.grd();
+    DataGrid* grd = &finestra.grd;
+    collegata.emplace(finestra);
+    QObject::connect(grd, &QObject::destroyed, grd, [] { collegata.reset(); });
     // In the order of the table, behind the leading column: id, id_grp, rgs, nom, piva, ind, cap, loc, prov,
     // tel, fax, email, campo1 to campo9, sel.
     std::vector<int> larghezze{0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
@@ -121,12 +138,12 @@ void griglia::Collega(frmMain& principale) {
     QObject::connect(grd, &DataGrid::mouseUp, grd, [](Qt::MouseButton pulsante, const QPoint& punto) {
         evento([&] { grd_MouseUp(pulsante, punto); });
     });
-    principale.Commands().offerPopup(grd, MenuOra);
+    finestra.Commands.offerPopup(grd, MenuOra);
 }
 
 void griglia::RiempiGriglia() {
-    finestre::Main().SvuotaGriglia();
-    ui::DataControl& Adodc = finestre::Main().Adodc();
+    FinestraDellaGriglia().SvuotaGriglia();
+    ui::DataControl& Adodc = FinestraDellaGriglia().Adodc;
     Adodc.setConnectionString(connDB);
     Adodc.setRecordSource("SELECT * FROM tb_destinatari WHERE id_grp = " + NumeroNodoCorrente() +
                           " ORDER BY rgs ASC;");
@@ -134,7 +151,7 @@ void griglia::RiempiGriglia() {
 }
 
 void griglia::RinfrescaGriglia() {
-    finestre::Main().SvuotaGriglia();
+    FinestraDellaGriglia().SvuotaGriglia();
     Aggiorna();
 }
 
@@ -146,7 +163,7 @@ void griglia::AggiornaFrase() {
     if (grd().Rows() > 1 || grd().EmptyText() != fraseVuota) return;
     const bool vuota = ripiega(true, [] {
         ado::Recordset rs = RecordsetDB();
-        rs.setSource(finestre::Main().Adodc().RecordSource());
+        rs.setSource(FinestraDellaGriglia().Adodc.RecordSource());
         esigi(rs.open());
         return rs.isEof();
     });
@@ -172,7 +189,7 @@ QString griglia::idCorrente() {
 }
 
 QString griglia::MenuOra() {
-    if (grd().Rows() == 1 || !grd().Notice().isEmpty() || finestre::Main().Gruppi().MenuOra().isEmpty())
+    if (grd().Rows() == 1 || !grd().Notice().isEmpty() || FinestraDellaGriglia().Gruppi().MenuOra().isEmpty())
         return {};
     return QStringLiteral("popMailingGRD");
 }

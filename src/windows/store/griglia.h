@@ -5,15 +5,23 @@
 namespace ado {
 class Command;
 }
-class frmMain;
+class frmDestinatario;
+namespace ui {
+class DataGrid;
+}
+struct Principale;
 
 /// The recipient grid of the main window: how it is filled, and what a user does in it. It has no model of
 /// its own: each write goes to the table as a statement, and the cell on the screen is changed to match.
 namespace griglia {
 
-/// Gives the grid its first widths, its events and its pop-up menu. Once, when the main window has its grid,
-/// its data control and its command bars.
-void Collega(frmMain& principale);
+/// Gives the grid of the main window its first widths, its events and its pop-up menu. To be called first, by
+/// each main window when it has its grid, its data control and its command bars.
+void Collega(const Principale& finestra);
+
+/// The grid, and the form of its recipients.
+ui::DataGrid& grd();
+frmDestinatario& Destinatario();
 
 /// Fills the grid with the recipients of the current node. Unguarded.
 void RiempiGriglia();

@@ -8,15 +8,13 @@
 #include "platform/ado/Command.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
-#include "windows/entry/Finestre.h"
-#include "windows/shell/frmMain.h"
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/griglia.h"
 
 namespace {
 
 frmDestinatario& Intitola(const QString& titolo) {
-    frmDestinatario& finestra = finestre::Destinatario();
+    frmDestinatario& finestra = griglia::Destinatario();
     finestra.setWindowTitle(titolo + ' ');
     finestra.lbl->setText(titolo);
     return finestra;
@@ -64,6 +62,5 @@ void comandiDestinatario::Elimina(ado::Command& comando) {
         return;
     comando.setCommandText("DELETE FROM [tb_destinatari] WHERE id = " + griglia::idCorrente() + " ;");
     esigi(comando.execute());
-    ui::DataGrid& grd = finestre::Main().grd();
-    grd.RemoveItem(grd.Row());
+    griglia::grd().RemoveItem(griglia::grd().Row());
 }

@@ -148,7 +148,7 @@ class TestLook : public QObject {
 
     void pictureOfTheMainWindow() {
         SendStage stage({"a@x.it"});
-        TitoloPrincipale();
+        TitoloPrincipale(finestre::Main());
         finestre::Main().show();
         QVERIFY(QTest::qWaitForWindowExposed(&finestre::Main()));
         QCOMPARE(finestre::Main().windowTitle(), "Vestrola - Ver. 3.0.2130");

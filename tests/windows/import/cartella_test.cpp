@@ -2,6 +2,7 @@
 #include "windows/import/cartella.h"
 
 #include "modules/store/RecordsetDB.h"
+#include "windows/entry/Vicini.h"
 #include "windows/import/frmScelta.h"
 #include "windows/import/import_stage.h"
 
@@ -22,7 +23,8 @@ class Stage : public ImportStage {
 
 std::optional<QString> choose(const cartella::Scelta& choice) {
     ado::Recordset rs = RecordsetDB();
-    return cartella::Scegli(choice, rs, cartella::avvisoCartella, cartella::senzaGuardia);
+    return cartella::Scegli(choice, rs, cartella::avvisoCartella, cartella::senzaGuardia,
+                            finestre::IntornoAgliImport().NuovoNodo);
 }
 
 }  // namespace
@@ -210,8 +212,8 @@ class TestImportCartella : public QObject {
         stage.folder.hideDatabase();
         ado::closeAll();
         Prosegui prosegui;
-        const auto gruppo =
-            cartella::Scegli({false, "Fiera"}, rs, cartella::avvisoCartella, std::ref(prosegui));
+        const auto gruppo = cartella::Scegli({false, "Fiera"}, rs, cartella::avvisoCartella,
+                                             std::ref(prosegui), finestre::IntornoAgliImport().NuovoNodo);
         QCOMPARE(gruppo.value(), "0");
         QVERIFY(prosegui.numero() != 0);
         QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
