@@ -1,8 +1,14 @@
+#include <sys/prctl.h>
+#include <csignal>
+#include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "platform/html/HtmlViewPrintJob.h"
 #include "platform/html/ViewFixture.h"
@@ -30,6 +36,68 @@ int coloured(const QImage& image) {
     return count;
 }
 
+/// A print spooler of the test's own with one queue, "banco", which keeps what it was given.
+class Spooler {
+  public:
+    Spooler() {
+        QDir folder(m_folder.path());
+        for (const char* name : {"spool/tmp", "cache", "run", "etc"})
+            folder.mkpath(name);
+        const QString socket = folder.filePath("run/cups");
+        write("etc/cupsd.conf", "Listen " + socket +
+                                    "\nLogLevel debug\nMaxLogSize 0\nDefaultAuthType None\nBrowsing No\n"
+                                    "PreserveJobFiles Yes\n<Location />\nAllow all\n</Location>\n"
+                                    "<Policy default>\n<Limit All>\nAllow all\n</Limit>\n</Policy>\n");
+        QString files = "FileDevice Yes\nPrintcap\nDataDir /usr/share/cups\nServerBin /usr/lib/cups\n";
+        for (const auto& [name, place] : {std::pair("ServerRoot", "etc"),
+                                          {"StateDir", "run"},
+                                          {"CacheDir", "cache"},
+                                          {"RequestRoot", "spool"},
+                                          {"TempDir", "spool/tmp"},
+                                          {"AccessLog", "access"},
+                                          {"PageLog", "pages"},
+                                          {"ErrorLog", "log"}})
+            files += QString("%1 %2\n").arg(name, folder.filePath(place));
+        write("etc/cups-files.conf", files);
+        m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+        m_process.start("/usr/sbin/cupsd", {"-f", "-c", folder.filePath("etc/cupsd.conf"), "-s",
+                                            folder.filePath("etc/cups-files.conf")});
+        if (!QTest::qWaitFor([&] { return QFile::exists(socket); }, 30000)) qFatal("no spooler");
+        qputenv("CUPS_SERVER", socket.toLocal8Bit());
+        toolOutput("/usr/sbin/lpadmin", {"-p", "banco", "-E", "-v", "file:///dev/null", "-m", "raw"});
+        toolOutput("/usr/sbin/lpadmin", {"-d", "banco"});
+    }
+    ~Spooler() {
+        qunsetenv("CUPS_SERVER");
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    /// What the log says, up to the end of the job.
+    QByteArray logOfJob(int number) const {
+        QByteArray log;
+        const QByteArray end = "[Job " + QByteArray::number(number) + "] Job completed.";
+        const bool ended = QTest::qWaitFor(
+            [&] {
+                QFile file(path("log"));
+                log = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+                return log.contains(end);
+            },
+            30000);
+        if (!ended) qFatal("the job does not end: %s", log.constData());
+        return log;
+    }
+
+  private:
+    void write(const QString& name, const QString& text) const {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) qFatal("cannot write");
+    }
+    QTemporaryDir m_folder;
+    QProcess m_process;
+};
+
 }  // namespace
 
 // What comes out when a document is printed.
@@ -37,6 +105,8 @@ class ViewPrint : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_folder;
+    // The printing library asks for its server once.
+    Spooler m_spooler;
 
     /// Prints into a file as the user would choose it; its path.
     QString printed(
@@ -148,6 +218,27 @@ class ViewPrint : public QObject {
         QVERIFY(!spool(m_folder.filePath("manca"), {}, document, 60000).ok());
         QVERIFY(!spool("/bin/sh", {"-c", "exec sleep 600"}, document, 100).ok());
         QVERIFY(!spool("/bin/sh", {"-c", "kill -9 $$"}, document, 60000).ok());
+    }
+
+    void theSystemsSpoolerGetsTextAndTheChoicesOfTheDialog() {
+        Desk desk("<p>Gentile cliente</p>");
+        QTimer dialogs;
+        connect(&dialogs, &QTimer::timeout, this, [&dialogs] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            dialogs.stop();
+            dialog->findChild<QSpinBox*>("copies")->setValue(3);
+            dialog->accept();
+        });
+        dialogs.start(0);
+        QVERIFY(desk.view.print(true, "Listino di maggio"));
+        const QString job = m_spooler.path("spool/d00001-001");
+        QVERIFY(toolOutput("pdftotext", {job, "-"}).contains("Gentile cliente"));
+        QVERIFY(toolOutput("pdfinfo", {job}).contains("Listino di maggio"));
+        const QByteArray log = m_spooler.logOfJob(1);
+        for (const char* part :
+             {"argv[0]=\"banco\"", "argv[3]=\"Listino di maggio\"", "argv[4]=\"3\"", "media=", "number-up=1"})
+            QVERIFY2(log.contains(part), log.constData());
     }
 
     void aFileThatCannotBeWrittenIsAFailure() {
