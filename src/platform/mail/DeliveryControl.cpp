@@ -36,6 +36,7 @@ Route DeliveryControl::route(const QString& host) const {
     if (UseAuth) {
         route.user = UserName;
         route.password = UserPassword;
+        route.bearer = UserPassword == oauth::passwordWord;
     }
     return route;
 }
@@ -128,6 +129,7 @@ void DeliveryControl::Abort() {
 }
 
 void DeliveryControl::finish(const DeliveryOutcome& outcome) {
+    noteLogin(outcome);
     m_outcome = outcome;
     if (m_insideSend)
         m_deferred.start();

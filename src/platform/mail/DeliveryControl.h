@@ -18,6 +18,7 @@
 #include "platform/mail/Route.h"
 #include "platform/mail/SmtpSession.h"
 #include "platform/mail/Transcript.h"
+#include "platform/oauth/TokenSource.h"
 
 namespace mail {
 
@@ -77,7 +78,7 @@ class DeliveryControl : public QObject {
     bool UseAuth = false;
     quint16 OutPort = 0;  ///< local port; any other one is taken when it cannot be had. 0: any
     quint16 ServerPort = 25;
-    QString UserPassword;
+    QString UserPassword;  ///< oauth::passwordWord: an access token of OAuthFolder takes its place
     QString UserName;
     QString ServerName;
     AttachmentList Attachments;
@@ -85,6 +86,7 @@ class DeliveryControl : public QObject {
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
     QStringList InsideHosts;         ///< see Route
     QString CertificateFolder;       ///< see Route
+    QString OAuthFolder;             ///< see oauth::TokenSource
     QString TlsListFile;             ///< see Route
     QString ClearListFile;           ///< see Route
     QString DkimFolder;              ///< see DkimSigner
@@ -166,6 +168,11 @@ class DeliveryControl : public QObject {
     void onLateReply(AwaitedReply* reply, bool accepted, int code);
     void startWaiting();
 
+    // DeliveryControl_token.cpp: the token that takes the place of a password
+    void deliver(const Waiting& waiting);
+    void onToken(const Waiting& waiting, const Result<oauth::Access>& access);
+    void noteLogin(const DeliveryOutcome& outcome);
+
     // DeliveryControl.cpp
     void startNew(const QString& host);
     MessageData data() const;
@@ -179,6 +186,8 @@ class DeliveryControl : public QObject {
     Transcript m_transcript;
     Composer m_composer;
     SmtpSession m_session;
+    oauth::TokenSource m_tokens;
+    QByteArray m_token;  ///< the one that the running message logs in with; empty: none
     bool m_running = false;
     bool m_stopped = false;   ///< since an Abort
     bool m_runIsNew = false;  ///< since BeginRun no tick has begun

@@ -41,6 +41,7 @@ void DeliveryControl::BeginRun() {
     m_stopped = false;
     m_runIsNew = true;
     m_session.beginRun();
+    m_tokens.beginRun();
 }
 
 void DeliveryControl::BeginTick() {
@@ -88,6 +89,7 @@ AwaitedReply* DeliveryControl::awaitedFor(const Recipient& recipient) const {
 void DeliveryControl::giveUp() {
     m_deferred.stop();
     m_waiting.reset();
+    m_tokens.cancel();
     m_awaitedHere = nullptr;
     std::unique_ptr<AwaitedReply> reply = m_session.abandon();
     if (!reply) return;
@@ -127,7 +129,7 @@ void DeliveryControl::startWaiting() {
         return;
     }
     const Waiting waiting = *std::exchange(m_waiting, std::nullopt);
-    m_session.deliver(waiting.route, waiting.message, waiting.times);
+    deliver(waiting);
 }
 
 QList<qint64> DeliveryControl::Awaited(const QString& database) const {

@@ -50,8 +50,7 @@ LoginStep Login::tryMechanism() {
         const QByteArray& mechanism = m_mechanisms.current();
         m_challenges = 0;
         m_firstResponse.clear();
-        Result<SaslExchange> exchange =
-            SaslExchange::start(mechanism, m_identity.user, m_identity.password, m_identity.host);
+        Result<SaslExchange> exchange = exchangeBy(mechanism);
         if (!exchange.ok()) {
             m_whyNotUsable = exchange.status().text();
             continue;
@@ -73,13 +72,25 @@ LoginStep Login::tryMechanism() {
     return noneLeft();
 }
 
+Result<SaslExchange> Login::exchangeBy(const QByteArray& mechanism) const {
+    const auto& [host, user, password, port, bearer] = m_identity;
+    return bearer ? SaslExchange::startBearer(mechanism, user, password, host, port)
+                  : SaslExchange::start(mechanism, user, password, host);
+}
+
+LoginStep Login::refusedCredentials(const SmtpReply& refusal) const {
+    LoginStep step = failed(refusal);
+    step.credentialsRefused = true;
+    // The server's words are of user names and passwords, of which there are none here.
+    if (m_identity.bearer)
+        step.text = QStringLiteral("Il server non accetta il consenso di OAuth 2.0 per l'utente %1: %2")
+                        .arg(m_identity.user, step.text);
+    return step;
+}
+
 /// What is told where no mechanism is left: what the server said of the credentials counts most.
 LoginStep Login::noneLeft() const {
-    if (const auto& refusal = m_mechanisms.credentialsRefusal()) {
-        LoginStep step = failed(*refusal);
-        step.credentialsRefused = true;
-        return step;
-    }
+    if (const auto& refusal = m_mechanisms.credentialsRefusal()) return refusedCredentials(*refusal);
     if (m_mechanisms.leftOutInTheClear())
         return failed(0, QStringLiteral("La password non viene inviata in chiaro a %1, che non offre una "
                                         "connessione TLS. Per inviarla ugualmente scrivere il nome del "
@@ -87,6 +98,7 @@ LoginStep Login::noneLeft() const {
                              .arg(m_identity.host, m_clearListFile));
     if (m_lastRefusal) return failed(*m_lastRefusal);
     if (!m_whyNotUsable.isEmpty()) return failed(0, m_whyNotUsable);
+    if (m_identity.bearer) return failed(0, QStringLiteral("Il server non offre l'accesso con OAuth 2.0."));
     return failed(0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto."));
 }
 
@@ -114,7 +126,7 @@ LoginStep Login::onChallenge(const QByteArray& text) {
     if (++m_challenges > maxChallenges) return untrusted();
     // The first token again: not sent so far, or skipped by a server that knows no initial responses.
     if (m_challenges == 1 && m_exchange->clientFirst() &&
-        (!m_initialResponse || text.isEmpty() || m_exchange->complete()))
+        (!m_initialResponse || text.isEmpty() || (m_exchange->complete() && !m_identity.bearer)))
         return send(m_firstResponse, "(omesso)", {});
     const auto challenge =
         QByteArray::fromBase64Encoding(text.trimmed(), QByteArray::AbortOnBase64DecodingErrors);

@@ -16,6 +16,8 @@ struct LoginIdentity {
     QString host;  ///< as the account names it
     QString user;
     QString password;
+    quint16 port = 25;
+    bool bearer = false;  ///< `password` is an access token
 };
 
 /// What a login does next.
@@ -51,6 +53,8 @@ class Login {
     LoginStep onChallenge(const QByteArray& text);
     LoginStep onRefusal(const SmtpReply& reply);
     LoginStep noneLeft() const;
+    Result<SaslExchange> exchangeBy(const QByteArray& mechanism) const;
+    LoginStep refusedCredentials(const SmtpReply& refusal) const;
 
     const LoginIdentity m_identity;
     const QString m_clearListFile;

@@ -15,6 +15,9 @@ const QByteArrayList& sendingThePassword() {
 /// Best first. CRAM-MD5 needs a server that keeps the password itself, and many offer it that do not; in the
 /// clear it still is better than the password.
 QByteArrayList inOrder(const LoginTerms& terms) {
+    // Of the two that take a token, providers that came early know the older one alone.
+    if (terms.bearer && !terms.offered) return {"XOAUTH2", "OAUTHBEARER"};
+    if (terms.bearer) return {"OAUTHBEARER", "XOAUTH2"};
     const QByteArrayList digests{"SCRAM-SHA-256", "SCRAM-SHA-1"};
     const QByteArrayList oldDigest{"CRAM-MD5"};
     if (!terms.verifiedTls) return digests + oldDigest + sendingThePassword();

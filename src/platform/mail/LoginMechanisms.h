@@ -14,6 +14,7 @@ struct LoginTerms {
     std::optional<QByteArrayList> offered = std::nullopt;
     bool verifiedTls = false;   ///< encrypted, towards the server that the account names
     bool clearAllowed = false;  ///< the password itself may be sent without that as well
+    bool bearer = false;        ///< an access token takes the place of the password
 };
 
 /// The mechanisms that a login tries, one after the other (RFC 4954), and what a refusal leads to.

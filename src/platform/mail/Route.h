@@ -25,6 +25,9 @@ struct Route {
     bool login = false;
     QString user;
     QString password;
+    /// `password` is an access token of OAuth 2.0. Without TLS and a good certificate the login fails before
+    /// it is sent.
+    bool bearer = false;
 
     bool operator==(const Route&) const = default;
 };

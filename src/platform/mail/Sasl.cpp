@@ -1,7 +1,10 @@
 #include "platform/mail/Sasl.h"
 
 #include <gsasl.h>
+#include <QByteArrayList>
 #include <utility>
+
+#include "platform/mail/BearerTokens.h"
 
 namespace mail {
 
@@ -50,7 +53,8 @@ bool sendsPassword(const QByteArray& mechanism) {
 }  // namespace
 
 struct SaslExchange::State {
-    Gsasl_session* session = nullptr;
+    Gsasl_session* session = nullptr;  ///< null: a token is brought instead of an exchange of the library
+    QByteArrayList answers;            ///< what is left to be said then
     bool clientFirst = false;
     bool derivesKey = false;
     bool complete = false;
@@ -91,12 +95,27 @@ Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QStr
     return SaslExchange(std::move(state));
 }
 
+Result<SaslExchange> SaslExchange::startBearer(const QByteArray& mechanism, const QString& user,
+                                               const QString& token, const QString& host, quint16 port) {
+    const Result<QByteArray> response = bearerResponse(mechanism, user, token.toLatin1(), host, port);
+    if (!response.ok()) return response.status();
+    auto state = std::make_unique<State>();
+    state->clientFirst = true;
+    state->answers = {response.value(), bearerFarewell(mechanism)};
+    return SaslExchange(std::move(state));
+}
+
 bool SaslExchange::clientFirst() const {
     return m_state->clientFirst;
 }
 
 Result<QByteArray> SaslExchange::step(const QByteArray& challenge) {
     if (m_state->derivesKey && asksTooMuch(challenge)) return failure(GSASL_MECHANISM_PARSE_ERROR);
+    if (!m_state->session) {
+        if (m_state->answers.isEmpty()) return failure(GSASL_MECHANISM_CALLED_TOO_MANY_TIMES);
+        m_state->complete = m_state->answers.size() == 2;  // an error is told after that
+        return m_state->answers.takeFirst();
+    }
     char* output = nullptr;
     size_t size = 0;
     const int code =

@@ -16,6 +16,10 @@ class SaslExchange {
     /// a NUL (TypeMismatch), or characters that the mechanism cannot digest (NotSupported).
     static Result<SaslExchange> start(const QByteArray& mechanism, const QString& user,
                                       const QString& password, const QString& host);
+    /// `mechanism` is OAUTHBEARER or XOAUTH2; see bearerResponse(). A challenge after the first token tells
+    /// of an error.
+    static Result<SaslExchange> startBearer(const QByteArray& mechanism, const QString& user,
+                                            const QString& token, const QString& host, quint16 port);
     SaslExchange(SaslExchange&&) noexcept;
     SaslExchange& operator=(SaslExchange&&) noexcept;
     ~SaslExchange();

@@ -1,23 +1,14 @@
 // TLS and login of a session.
-#include <QDir>
 #include <QSslCipher>
 #include <QSslConfiguration>
 
 #include "platform/mail/ClearPassword.h"
 #include "platform/mail/SmtpSession.h"
+#include "platform/oauth/Certificates.h"
 
 namespace mail {
 
 namespace {
-
-/// The system's certificates and those of the folder.
-QList<QSslCertificate> trustedCertificates(const QString& folder) {
-    static const QList<QSslCertificate> system = QSslConfiguration::systemCaCertificates();
-    QList<QSslCertificate> all = system;
-    for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.pem")}, QDir::Files))
-        all += QSslCertificate::fromPath(file.filePath(), QSsl::Pem);
-    return all;
-}
 
 QString describe(const QSslError& error) {
     switch (error.error()) {
@@ -70,7 +61,7 @@ void SmtpSession::prepareTls() {
     } else {
         configuration.setPeerVerifyMode(QSslSocket::VerifyPeer);
         if (!m_route.certificateFolder.isEmpty())
-            configuration.setCaCertificates(trustedCertificates(m_route.certificateFolder));
+            configuration.setCaCertificates(oauth::trustedCertificates(m_route.certificateFolder));
     }
     m_socket->setSslConfiguration(configuration);
 }
@@ -122,8 +113,18 @@ void SmtpSession::startLogin() {
     if (!m_heloOnly) terms.offered = m_extensions.auth;
     terms.verifiedTls = m_socket->isEncrypted() && !m_route.opportunisticTls;
     terms.clearAllowed = passwordMayGoInTheClear(m_route.host, m_route.clearListFile);
-    m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password}, terms,
-                    m_route.clearListFile);
+    terms.bearer = m_route.bearer;
+    if (terms.bearer && !terms.verifiedTls) {
+        conclude(
+            {false, 0,
+             QStringLiteral("Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta "
+                            "da TLS con un certificato valido.")
+                 .arg(m_route.host),
+             true});
+        return;
+    }
+    m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password, m_route.port, m_route.bearer},
+                    terms, m_route.clearListFile);
     takeLoginStep(m_login->begin());
 }
 

@@ -23,6 +23,16 @@ void TokenSource::setFolders(const QString& folder, const QString& certificateFo
     m_certificateFolder = certificateFolder;
 }
 
+void TokenSource::refuse(const QByteArray& token) {
+    if (!m_renewedRefused) m_refused = token;
+}
+
+void TokenSource::beginRun() {
+    m_gone.clear();
+    m_refused.clear();
+    m_renewedRefused = false;
+}
+
 void TokenSource::get(const QString& host, const QString& user, int limitMs, Done done) {
     cancel();
     const Result<QList<Provider>> providers = readProviders(m_folder);
@@ -77,6 +87,7 @@ Result<Access> TokenSource::onRenewed(const Provider& provider, const QString& p
             m_gone.insert(path, {old.refresh, answer.status()});
         return answer.status();
     }
+    m_renewedRefused = m_renewedRefused || old.access == m_refused;
     Token token = answer.value();
     if (token.refresh.isEmpty()) token.refresh = old.refresh;
     m_unwritten.remove(path);

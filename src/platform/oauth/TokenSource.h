@@ -10,6 +10,9 @@
 
 namespace oauth {
 
+/// The password of an account that logs in with a token.
+inline constexpr QStringView passwordWord = u"OAuth2";
+
 /// A token that a login can use.
 struct Access {
     QByteArray token;
@@ -37,9 +40,10 @@ class TokenSource : public QObject {
     /// `done` is not called any more.
     void cancel() { m_request.reset(); }
 
-    /// A server did not take this token: the next request renews it, whatever its file says.
-    void refuse(const QByteArray& token) { m_refused = token; }
-    void beginRun() { m_gone.clear(); }
+    /// A server did not take this token: the next request renews it, whatever its file says. That is done
+    /// once until beginRun(), since a server that refuses the new one, too, means the user.
+    void refuse(const QByteArray& token);
+    void beginRun();
 
   private:
     struct Gone {
@@ -55,7 +59,8 @@ class TokenSource : public QObject {
     QString m_certificateFolder;
     QHash<QString, Token> m_unwritten;  ///< by path: tokens that their file could not take
     QHash<QString, Gone> m_gone;        ///< by path
-    QByteArray m_refused;
+    QByteArray m_refused;               ///< the token to be renewed
+    bool m_renewedRefused = false;
     std::unique_ptr<TokenRequest> m_request;
 };
 

@@ -237,4 +237,5 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     SMTP->TlsListFile = cartellaDati() + "tls.txt";
     SMTP->ClearListFile = cartellaDati() + "senza-tls.txt";
     SMTP->DkimFolder = cartellaDati() + "dkim";
+    SMTP->OAuthFolder = cartellaDati() + "oauth";
 }
