@@ -1,6 +1,8 @@
 #include "modules/send/bMXQuery.h"
 
 #include <optional>
+#include <QSet>
+#include <utility>
 
 #include "modules/core/Fallimento.h"
 #include "platform/dns/HostLookup.h"
@@ -14,7 +16,19 @@ constexpr qsizetype caratteriNome = 256;    // room for the name of a host
 constexpr qsizetype posizioneRisposte = 6;  // of the number of answers in a reply
 constexpr qsizetype posizioneDomanda = 12;  // of the question, behind the header
 
-[[noreturn]] void fallisciMX(const QString& testo) {
+/// The domains about which the server was silent in this run, in lower case.
+QSet<QString>& dominiMuti() {
+    static QSet<QString> muti;
+    return muti;
+}
+
+/// On the way up to the parent domains a temporary reason stays: who waits may still reach the domain itself.
+void NotaMotivo(MotivoMX motivo) {
+    if (!MotivoTemporaneo(motivoMX)) motivoMX = motivo;
+}
+
+[[noreturn]] void fallisciMX(MotivoMX motivo, const QString& testo) {
+    NotaMotivo(motivo);
     fallisci(erroreMX, testo, QStringLiteral("MXQuery"));
 }
 
@@ -26,16 +40,24 @@ std::optional<std::uint32_t> IndirizzoIP(const QString& host) {
 
 // One query for queryDomain: the buffer with the reply, or none without a socket or an address of the server.
 std::optional<QByteArray> Interroga() {
-    dns::UdpQuery query(reteDNS.attesa);
+    const QString dominio = queryDomain.toLower();
+    const bool muto = dominiMuti().contains(dominio);
+    dns::UdpQuery query(muto ? reteDNS.attesaBreve : reteDNS.attesa, muto ? 1 : 2);
     if (!query.isOpen()) return std::nullopt;
     const std::optional<std::uint32_t> server = IndirizzoIP(dnsServers.at(0));
     if (!server) return std::nullopt;
     if (!query.send(*server, reteDNS.porta, ComponiQuery(queryDomain)).ok()) {
-        fallisciMX(QStringLiteral("Problem sending MX query"));
+        fallisciMX(MotivoMX::NonInterrogato, QStringLiteral("Problem sending MX query"));
     }
     Result<QByteArray> risposta = query.receive(dimensioneRisposta);
+    const bool silenzio = risposta.status().code() == ErrorCode::Timeout;
+    if (silenzio)
+        dominiMuti().insert(dominio);
+    else
+        dominiMuti().remove(dominio);
     if (!risposta.ok() || risposta.value().isEmpty())
-        fallisciMX(QStringLiteral("Problem receiving MX query"));
+        fallisciMX(silenzio ? MotivoMX::Silenzio : MotivoMX::NonInterrogato,
+                   QStringLiteral("Problem receiving MX query"));
     return std::move(risposta).value().leftJustified(dimensioneRisposta, '\0');
 }
 
@@ -45,22 +67,37 @@ QString DominioDi(const QString& indirizzo) {
     return text::trimBlanks(QStringView(indirizzo).mid(indirizzo.indexOf(u'@') + 1)).toString();
 }
 
+void NuovoGiroMX() {
+    dominiMuti().clear();
+}
+
 QString MXQuery(QString domain) {
+    motivoMX = MotivoMX::Nessuno;
     for (;;) {
         mxCount = 0;
         bestMX.clear();
         mxList.assign(1, {});
         if (dnsCount == 0) TrovaDNS();
-        if (dnsCount == 0) fallisciMX(QStringLiteral("No DNS entries found, MX Query cannot contine."));
+        if (dnsCount == 0)
+            fallisciMX(MotivoMX::SenzaDNS, QStringLiteral("No DNS entries found, MX Query cannot contine."));
         if (domain.isEmpty()) domain = dnsDomain;
-        if (domain.size() < caratteriDominio) fallisciMX(QStringLiteral("No Valid Domain Specified"));
+        if (domain.size() < caratteriDominio)
+            fallisciMX(MotivoMX::NonValido, QStringLiteral("No Valid Domain Specified"));
         queryDomain = domain;
 
         const std::optional<QByteArray> risposta = Interroga();
-        if (!risposta) return {};
+        if (!risposta) {
+            NotaMotivo(MotivoMX::NonInterrogato);
+            return {};
+        }
+        NotaMotivo(MotivoDiRisposta(*risposta));
         qsizetype posizione = posizioneRisposte;
         const std::uint16_t risposte = LeggiParola(*risposta, posizione);
-        if (risposte != 0) return LeggiRisposta(*risposta, posizioneDomanda, risposte);
+        if (risposte != 0) {
+            LeggiRisposta(*risposta, posizioneDomanda, risposte);
+            if (!bestMX.isEmpty()) motivoMX = MotivoMX::Nessuno;
+            return bestMX;
+        }
 
         // No exchanger: below the own base domain the parent is asked.
         const qsizetype punto = queryDomain.indexOf(u'.');

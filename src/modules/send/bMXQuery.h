@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <vector>
 
+#include "modules/send/MotivoMX.h"
 #include "platform/dns/ResolverConfig.h"
 #include "platform/dns/UdpQuery.h"
 #include "platform/Status.h"
@@ -31,28 +32,34 @@ QString DominioDi(const QString& indirizzo);
 /// domain below the machine's own base domain the parent domains are asked then. It also answers empty, and
 /// fails not, without a socket or an address of the server.
 ///
-/// Holds the thread until the server answers or refuses, at most twice attesa per query. Unguarded. Its own
+/// Holds the thread until the server answers or refuses, at most twice attesa per query; for a domain about
+/// which the server was silent before in this run (NuovoGiroMX) only attesaBreve, once. Unguarded. Its own
 /// failures have the number erroreMX and the source "MXQuery"; a reply that is read beyond its end fails with
 /// SubscriptOutOfRange and leaves bestMX as far as it got.
 QString MXQuery(QString domain);
 
+/// A run begins: every domain is waited for in full length again.
+void NuovoGiroMX();
+
 inline constexpr ErrorCode erroreMX{20000};
 
 // What the look-ups leave behind, and what they keep until the program ends.
-inline QString bestMX;                ///< result of the last look-up; empty if none
-inline QString queryDomain;           ///< domain of the last query
-inline std::vector<MXRecord> mxList;  ///< the exchangers of the last reply, ascending
-inline std::int16_t mxCount = 0;      ///< entries of mxList that came from a reply
-inline QStringList dnsServers;        ///< servers found; only the first one is asked
-inline int dnsCount = 0;              ///< their number; 0 means not found yet
-inline QString dnsDomain;             ///< the machine's own domain
-inline QString dnsBaseDomain;         ///< its last two labels
+inline QString bestMX;                         ///< result of the last look-up; empty if none
+inline MotivoMX motivoMX = MotivoMX::Nessuno;  ///< why the last look-up left bestMX empty
+inline QString queryDomain;                    ///< domain of the last query
+inline std::vector<MXRecord> mxList;           ///< the exchangers of the last reply, ascending
+inline std::int16_t mxCount = 0;               ///< entries of mxList that came from a reply
+inline QStringList dnsServers;                 ///< servers found; only the first one is asked
+inline int dnsCount = 0;                       ///< their number; 0 means not found yet
+inline QString dnsDomain;                      ///< the machine's own domain
+inline QString dnsBaseDomain;                  ///< its last two labels
 
 /// Where a look-up turns to; tests point it at servers of their own.
 struct ReteDNS {
     QString configurazione = dns::resolverConfigPath;
     std::uint16_t porta = 53;
     std::chrono::milliseconds attesa = dns::UdpQuery::usualWait;
+    std::chrono::milliseconds attesaBreve{1000};
 };
 inline ReteDNS reteDNS;
 

@@ -45,6 +45,7 @@ QByteArray NomeDNS(const QString& domain) {
     QByteArray nome;
     for (const QByteArray& etichetta : text::toAnsi(domain).split('.')) {
         if (etichetta.size() > std::numeric_limits<std::uint8_t>::max()) {
+            motivoMX = MotivoMX::NonValido;
             fallisci(erroreMX, QStringLiteral("Problem sending MX query"), QStringLiteral("MXQuery"));
         }
         nome += static_cast<char>(etichetta.size());

@@ -33,8 +33,8 @@ std::optional<ssize_t> receiveUntil(const QDeadlineTimer& deadline, int socket, 
 
 }  // namespace
 
-UdpQuery::UdpQuery(std::chrono::milliseconds wait)
-    : m_socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), m_wait(wait) {}
+UdpQuery::UdpQuery(std::chrono::milliseconds wait, int questions)
+    : m_socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), m_wait(wait), m_questions(questions) {}
 
 UdpQuery::~UdpQuery() {
     if (isOpen()) ::close(m_socket);
@@ -55,13 +55,13 @@ Status UdpQuery::send(std::uint32_t address, std::uint16_t port, const QByteArra
 Result<QByteArray> UdpQuery::receive(qsizetype longest) {
     QByteArray datagram(longest, '\0');
     std::optional<ssize_t> size = receiveUntil(QDeadlineTimer(m_wait), m_socket, datagram);
-    if (!size) {
+    for (int asked = 1; !size && asked < m_questions; ++asked) {
         if (::send(m_socket, m_question.constData(), static_cast<size_t>(m_question.size()), 0) < 0) {
             return failure(errno);
         }
         size = receiveUntil(QDeadlineTimer(m_wait), m_socket, datagram);
     }
-    if (!size) return failure(ETIMEDOUT);
+    if (!size) return Status(ErrorCode::Timeout, QString::fromLocal8Bit(std::strerror(ETIMEDOUT)));
     if (*size < 0) return failure(errno);
     datagram.truncate(*size);
     return datagram;

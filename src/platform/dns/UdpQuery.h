@@ -10,13 +10,14 @@ namespace dns {
 
 /// One question and one answer over UDP (RFC 1035, 4.2.1). The socket is connected: only datagrams of the
 /// server that was asked arrive, and a port that nobody serves is told at once. It is closed with the object.
-/// All waiting blocks the thread. Every failure is DeviceIo with the system's reason.
+/// All waiting blocks the thread. Silence is Timeout, every other failure DeviceIo, with the system's reason.
 class UdpQuery {
   public:
-    /// How long receive() waits before it repeats the question, and how long once more after that.
+    /// How long receive() waits after each question.
     static constexpr std::chrono::milliseconds usualWait{5000};
 
-    explicit UdpQuery(std::chrono::milliseconds wait = usualWait);
+    /// `questions` is how often the question is asked while no answer comes.
+    explicit UdpQuery(std::chrono::milliseconds wait = usualWait, int questions = 2);
     ~UdpQuery();
     UdpQuery(const UdpQuery&) = delete;
     UdpQuery& operator=(const UdpQuery&) = delete;
@@ -27,13 +28,14 @@ class UdpQuery {
     /// Sends the question. `address` is an IPv4 address in host byte order.
     Status send(std::uint32_t address, std::uint16_t port, const QByteArray& question);
 
-    /// The first datagram that arrives, cut to `longest` bytes. The question is sent once more when the wait
-    /// ends without any.
+    /// The first datagram that arrives, cut to `longest` bytes. The question is sent again when the wait ends
+    /// without any.
     Result<QByteArray> receive(qsizetype longest);
 
   private:
     int m_socket;
     std::chrono::milliseconds m_wait;
+    int m_questions;
     QByteArray m_question;
 };
 

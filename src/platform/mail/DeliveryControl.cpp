@@ -97,6 +97,7 @@ void DeliveryControl::startNew(const QString& host) {
 
 QString DeliveryControl::whyNoHost() const {
     const QStringView name = text::trimBlanks(ServerName);
+    if (OpportunisticTls && !NoServerReason.isEmpty()) return NoServerReason;
     // A null MX names the root (RFC 7505)
     if (OpportunisticTls && (name.isEmpty() || name == u".")) return noMailServer();
     return name.isEmpty() ? QStringLiteral("Manca il nome del server.")

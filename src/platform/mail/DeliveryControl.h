@@ -81,6 +81,9 @@ class DeliveryControl : public QObject {
     QString UserPassword;  ///< oauth::passwordWord: an access token of OAuthFolder takes its place
     QString UserName;
     QString ServerName;
+    /// What a message without a usable ServerName is reported with where OpportunisticTls is set; empty: a
+    /// sentence of the control's own.
+    QString NoServerReason;
     AttachmentList Attachments;
     bool OpportunisticTls = false;   ///< see Route; set on the direct route to the recipient's own server
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then

@@ -15,6 +15,7 @@
 #include "modules/lang/bVAR.h"
 #include "modules/message/MessaggioMss.h"
 #include "modules/send/Accettati.h"
+#include "modules/send/bMXQuery.h"
 #include "modules/send/MxInterni.h"
 #include "modules/send/Porta.h"
 #include "modules/send/Selezione.h"
@@ -115,6 +116,7 @@ void frmInvia::cmdInvia_Click() {
     // The boxes above may have let a tick that was pending end a run.
     invioInCorso.take(percorsoDB);
     SMTP->BeginRun();
+    NuovoGiroMX();
     tmr->start();
 }
 

@@ -114,6 +114,7 @@ void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
         // Without a mail exchanger there is no host, and the delivery fails.
         prosegui([&] { MXQuery(DominioDi(SMTP->ToAddress)); });
         SMTP->ServerName = bestMX;
+        SMTP->NoServerReason = TestoMotivo(motivoMX);
         SMTP->ServerPort = 25;
     } else {
         SMTP->ServerName = mittente.txtServerSMTP;

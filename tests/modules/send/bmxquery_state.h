@@ -18,6 +18,8 @@ class ConStatoMX : public ::testing::Test {
   private:
     static void azzera() {
         bestMX.clear();
+        motivoMX = MotivoMX::Nessuno;
+        NuovoGiroMX();
         queryDomain.clear();
         mxList.clear();
         mxCount = 0;

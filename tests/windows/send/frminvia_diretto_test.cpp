@@ -1,4 +1,8 @@
 // A whole run over the direct route: real name servers, and mail servers on port 25 of their own addresses.
+#include <QFile>
+#include <utility>
+
+#include "modules/send/MotivoMX.h"
 #include "support/NameServer.h"
 #include "support/PrivateNetwork.h"
 #include "support/SendStage.h"
@@ -103,6 +107,8 @@ class TestFrmInviaDiretto : public QObject {
     void domainsWithoutAServerFailWithoutHarmToTheOthers() {
         DirectStage direct({"a@alfa.example", "b@niente.example", "c@nullo.example", "d@solo.example",
                             "e@fantasma.example", "f@it", "g", "h@beta.example"});
+        direct.stage.smtp().LogFile = direct.stage.folder.path("prova.xt1");
+        direct.stage.smtp().LogEnabled = true;
         QVERIFY(direct.stage.run());
         QCOMPARE(SampleFolder::selected(),
                  (QStringList{"b@niente.example", "c@nullo.example", "d@solo.example", "e@fantasma.example",
@@ -110,6 +116,17 @@ class TestFrmInviaDiretto : public QObject {
         QCOMPARE(direct.alfa.attempts(), QStringList{"a@alfa.example"});
         QCOMPARE(direct.beta.attempts(), QStringList{"h@beta.example"});
         QCOMPARE(direct.stage.counters(), (QList<double>{0, 6, 2}));
+        QFile log(direct.stage.smtp().LogFile);
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(log.readAll());
+        for (const auto& [recipient, reason] : {std::pair("b@niente.example", MotivoMX::Inesistente),
+                                                {"c@nullo.example", MotivoMX::SenzaPosta},
+                                                {"d@solo.example", MotivoMX::Vuota},
+                                                {"f@it", MotivoMX::NonValido},
+                                                {"g", MotivoMX::NonValido}})
+            QVERIFY2(text.contains(QString("Destinatario %1, Message-ID -, non consegnato: %2")
+                                       .arg(recipient, TestoMotivo(reason))),
+                     recipient);
     }
 
     void hostileDomainsLeadToNoServerInside() {
