@@ -20,6 +20,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/message/MessaggioMss.h"
+#include "modules/store/NuovoDatabase.h"
 #include "modules/store/percorsoDBase.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
@@ -54,7 +55,7 @@ qint64 addGroup(const QString& name) {
 }
 
 void fillDatabase(const QString& path, const QString& recipients) {
-    esigi(jet::createEmptyDatabase(path.toStdString()));
+    esigi(schema::CreaDatabase(path.toStdString()));
     CambiaPercorsoDBase(path);
     if (const QString notice = CaricaPercorsoDBase(); !notice.isEmpty())
         fallisci(ErrorCode::PathAccess, notice);

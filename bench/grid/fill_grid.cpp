@@ -20,6 +20,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
@@ -150,7 +151,7 @@ qint64 bytesOfRows(const QString& path) {
 void showEmpty(QTableView& view) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("small.mdb"));
-    demand(jet::createEmptyDatabase(path.toStdString()));
+    demand(schema::CreaDatabase(path.toStdString()));
     ado::Command command;
     demand(command.setActiveConnection(connectionTo(path)));
     command.setCommandText(

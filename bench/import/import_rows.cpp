@@ -9,6 +9,7 @@
 #include <fstream>
 #include <string>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/GroupedInserts.h"
 #include "platform/jet/Database.h"
 
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[2]);
-    demand(jet::createEmptyDatabase(path.toStdString()));
+    demand(schema::CreaDatabase(path.toStdString()));
     ado::GroupedInserts inserts;
     inserts.setGroupSize(std::atoi(argv[3]));
     inserts.setGroupAge(std::chrono::hours(1));

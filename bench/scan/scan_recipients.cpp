@@ -9,6 +9,7 @@
 #include <cstring>
 #include <string>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/Database.h"
 #include "platform/jet/JetText.h"
 
@@ -58,7 +59,7 @@ Status addGroups(jet::Database& database) {
 }
 
 int make(const std::string& path, size_t rows) {
-    if (const Status status = jet::createEmptyDatabase(path); !status.ok()) return failed(status);
+    if (const Status status = schema::CreaDatabase(path); !status.ok()) return failed(status);
     auto opened = jet::Database::open(path);
     if (!opened.ok()) return failed(opened.status());
     jet::Database& database = *opened.value();

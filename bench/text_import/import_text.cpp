@@ -12,6 +12,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
 #include "modules/import/RigaTesto.h"
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/jet/Database.h"
 #include "platform/text/TextFile.h"
@@ -62,7 +63,7 @@ void printStatements(const QString& path, qint64 group) {
 }
 
 void importInto(const QString& path, const QString& database) {
-    esigi(jet::createEmptyDatabase(database.toStdString()));
+    esigi(schema::CreaDatabase(database.toStdString()));
     connDB = ado::connectionPrefix + database;
     Inserimento inserts;
     inserts.Prepara();

@@ -10,6 +10,7 @@
 #include <iterator>
 #include <vector>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/Database.h"
 #include "platform/jet/OsFile.h"
 #include "support/JetTables.h"
@@ -55,7 +56,7 @@ std::string contentOf(const std::string& name) {
 // A file with `groups` groups and `recipients` recipients, some of them moved.
 std::string soundFile(int groups, int recipients) {
     removeFiles();
-    require(jet::createEmptyDatabase(fileName()).ok());
+    require(schema::CreaDatabase(fileName()).ok());
     {
         auto opened = jet::Database::open(fileName());
         require(opened.ok());

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
@@ -54,7 +55,7 @@ class List {
     void make() {
         ado::closeAll();
         QFile::remove(path());
-        demand(jet::createEmptyDatabase(path().toStdString()).ok());
+        demand(schema::CreaDatabase(path().toStdString()).ok());
         for (const char* group : {"0, 'Clienti'", "0, 'Fornitori'", "1, 'Estero'"})
             run(QStringLiteral("INSERT INTO tb_gruppi (id_up, nome) VALUES (%1)").arg(QLatin1String(group)));
         for (const char* recipient :

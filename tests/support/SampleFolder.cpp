@@ -6,6 +6,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "modules/store/NuovoDatabase.h"
 #include "modules/store/percorsoDBase.h"
 #include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
@@ -36,7 +37,7 @@ void write(const QString& path, const QByteArray& content) {
 SampleFolder::SampleFolder() {
     QDir(m_dir.path()).mkdir("data");
     sys::setProgramFolder(m_dir.path() + '/');
-    esigi(jet::createEmptyDatabase(database().toStdString()));
+    esigi(schema::CreaDatabase(database().toStdString()));
     auto file = esigi(jet::Database::open(database().toStdString()));
     esigi(file->begin());
     const jet::Value group[] = {{}, int64_t{0}, std::string("Clienti")};

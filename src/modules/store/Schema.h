@@ -3,7 +3,8 @@
 #include <array>
 #include <string_view>
 
-/// The two tables of a recipient database, as the program expects them. It never creates one.
+/// The two tables of a recipient database, as the program expects them. It never creates one; the build does
+/// (NuovoDatabase.h).
 namespace schema {
 
 inline constexpr std::u16string_view tabellaGruppi = u"tb_gruppi";

@@ -217,8 +217,4 @@ class ReadScope {
     Status m_status;
 };
 
-/// Writes an empty database (system tables, catalogue, the two tables of the recipient list with their
-/// primary keys and field properties) to `path`, given as for Database::open(). Fails when the file exists.
-Status createEmptyDatabase(const std::string& path);
-
 }  // namespace jet

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/jet/Database.h"
 #include "platform/jet/DataPages.h"
 #include "platform/jet/EmptyTables.h"
 #include "platform/jet/Failure.h"
 #include "platform/jet/GeneralOrder.h"
 #include "platform/jet/Header.h"
 #include "platform/jet/IndexPage.h"
+#include "platform/jet/Names.h"
 #include "platform/jet/OsFile.h"
 
 namespace jet {
@@ -52,7 +52,7 @@ struct Object {
     size_t propertyLength = 0;
 };
 
-Bytes objectRow(const Object& object) {
+Bytes objectRow(const Object& object, uint32_t propertiesPage) {
     Writer w;
     w.u16(17);
     w.u32(object.id);
@@ -113,35 +113,84 @@ Bytes withRow(Bytes key, uint32_t page, uint8_t slot) {
     return key;
 }
 
+bool isPlainName(const std::string& name) {
+    constexpr size_t longest = 64;
+    return !name.empty() && name.size() <= longest && std::all_of(name.begin(), name.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+    });
+}
+
+/// Tables, or columns: each has a name of its own.
+template <class Named>
+bool areNamedApart(const std::vector<Named>& all) {
+    for (size_t i = 0; i < all.size(); ++i) {
+        if (!isPlainName(all[i].name)) return false;
+        for (size_t k = 0; k < i; ++k)
+            if (sameName(all[i].name, all[k].name)) return false;
+    }
+    return true;
+}
+
+bool canBeMade(const NewColumn& column) {
+    if (column.type == Type::Text)
+        return column.characters >= 1 && column.characters <= 255 && !column.autoNumber;
+    if (column.characters != 0 || column.emptyAllowed) return false;
+    return column.type == Type::Long || (column.type == Type::YesNo && !column.autoNumber);
+}
+
+bool canBeMade(const NewTable& table) {
+    const auto& columns = table.columns;
+    return !columns.empty() && columns.front().type == Type::Long && areNamedApart(columns) &&
+           std::all_of(columns.begin(), columns.end(), [](const NewColumn& c) { return canBeMade(c); }) &&
+           std::count_if(columns.begin(), columns.end(), [](const NewColumn& c) { return c.autoNumber; }) < 2;
+}
+
+bool canBeMade(const std::vector<NewTable>& tables) {
+    return areNamedApart(tables) && std::all_of(tables.begin(), tables.end(), [](const NewTable& table) {
+               return canBeMade(table) && !sameName(table.name.substr(0, 4), "MSys");
+           });
+}
+
 class Builder {
   public:
-    explicit Builder(EmptyContent content) : m_content(content) {}
+    explicit Builder(const std::vector<NewTable>& tables) : m_tables(tables) {
+        if (!canBeMade(tables)) failInternal("le tabelle nuove sono descritte male");
+        for (const NewTable& table : tables)
+            m_lists.push_back(propertyList(table.columns));
+    }
 
     std::vector<Page> build() {
-        const bool user = m_content != EmptyContent::SystemTables;
-        const bool properties = m_content == EmptyContent::WithProperties;
-        m_pages.resize(properties ? 23 : user ? 22 : 16);
+        const bool properties =
+            std::any_of(m_lists.begin(), m_lists.end(), [](const Bytes& list) { return !list.empty(); });
+        if (properties) m_propertiesPage = pageOf(m_tables.size());
+        const size_t pages = pageOf(m_tables.size()) + (properties ? 1 : 0);
+        if (pages > pagesOfGlobalMap) failInternal("le tabelle nuove sono troppe");
+        m_pages.resize(pages);
         for (Page& page : m_pages)
             page.fill(0);
         std::vector<Object> objects = systemObjects();
-        if (user) {
-            objects.push_back({groupsPage, tablesId, "tb_gruppi", 1, admin, 0});
-            objects.push_back({recipientsPage, tablesId, "tb_destinatari", 1, admin, 0});
-            writeUserTable(userPlan(groupsPage, groupColumns));
-            writeUserTable(userPlan(recipientsPage, recipientColumns));
+        for (size_t i = 0; i < m_tables.size(); ++i) {
+            objects.push_back({pageOf(i), tablesId, m_tables[i].name, 1, admin, 0});
+            writeUserTable(userPlan(pageOf(i), m_tables[i].columns));
         }
         if (properties) writeProperties(objects);
         writeHeader();
         writeGlobalMap();
         writeSystemMaps();
         writeObjects(objects);
-        writeAces(user);
+        writeAces();
         writeDefinition(queriesPlan());
         writeDefinition(relationshipsPlan());
         return std::move(m_pages);
     }
 
   private:
+    static constexpr size_t pagesOfGlobalMap = 512;
+
+    static uint32_t pageOf(size_t table) {
+        return firstUserPage + pagesOfUserTable * static_cast<uint32_t>(table);
+    }
+
     static std::vector<Object> systemObjects() {
         constexpr uint32_t root = 0x0F000000;
         constexpr uint32_t system = 0x80000000;
@@ -193,7 +242,7 @@ class Builder {
         Page& p = m_pages[globalMapPage];
         makeDataPage(p, 1);
         Bytes free = mapRow({});
-        for (size_t page = m_pages.size(); page < 512; ++page)
+        for (size_t page = m_pages.size(); page < pagesOfGlobalMap; ++page)
             free[map::bits + page / 8] |= static_cast<uint8_t>(1u << (page % 8));
         appendRow(p, globalMapPage, free);
         appendRow(p, globalMapPage, mapRow({}));
@@ -202,7 +251,7 @@ class Builder {
     void writeSystemMaps() {
         std::vector<Bytes> rows(31, mapRow({}));
         rows[0] = rows[1] = mapRow({objectRowsPage});
-        if (m_content == EmptyContent::WithProperties) rows[10] = rows[11] = mapRow({propertiesPage});
+        if (m_propertiesPage != 0) rows[10] = rows[11] = mapRow({m_propertiesPage});
         rows[16] = mapRow({objectsByNameRoot});
         rows[17] = mapRow({objectsByIdRoot});
         rows[18] = rows[19] = mapRow({aceRowsPage});
@@ -218,6 +267,7 @@ class Builder {
 
     void writeDefinition(const TablePlan& plan) {
         const Bytes bytes = definitionBytes(plan);
+        if (bytes.size() > pageSize - 8) failInternal("una tabella nuova ha troppe colonne");
         std::copy(bytes.begin(), bytes.end(), m_pages[plan.page].begin());
         for (const IndexPlan& index : plan.indexes)
             if (m_pages[index.root][0] == 0) IndexPage().store(m_pages[index.root], plan.page);
@@ -228,6 +278,7 @@ class Builder {
         IndexPage page;
         for (const Bytes& entry : entries)
             page.insert(page.count(), entry);
+        if (!page.fits()) failInternal("le tabelle nuove sono troppe");
         page.store(m_pages[root], owner);
     }
 
@@ -240,14 +291,15 @@ class Builder {
         appendRow(maps, plan.page + 1, mapRow({plan.page + 2}));
     }
 
+    /// The tables are the last of the objects.
     void writeProperties(std::vector<Object>& objects) {
-        Page& p = m_pages[propertiesPage];
+        Page& p = m_pages[m_propertiesPage];
         makeDataPage(p, load32(reinterpret_cast<const uint8_t*>("LVAL")));
-        for (Object& object : objects) {
-            if (object.id != groupsPage && object.id != recipientsPage) continue;
-            const Bytes list = propertyList(object.id == groupsPage ? groupColumns : recipientColumns);
-            object.propertyRow = appendRow(p, propertiesPage, list);
-            object.propertyLength = list.size();
+        for (size_t i = 0; i < m_lists.size(); ++i) {
+            if (m_lists[i].empty()) continue;
+            Object& object = objects[objects.size() - m_lists.size() + i];
+            object.propertyRow = appendRow(p, m_propertiesPage, m_lists[i]);
+            object.propertyLength = m_lists[i].size();
         }
     }
 
@@ -257,7 +309,7 @@ class Builder {
         std::vector<Bytes> byName;
         std::vector<Bytes> byId;
         for (const Object& object : objects) {
-            const uint8_t slot = appendRow(rows, objectRowsPage, objectRow(object));
+            const uint8_t slot = appendRow(rows, objectRowsPage, objectRow(object, m_propertiesPage));
             Bytes key;
             appendLong(key, object.parent);
             std::string name;
@@ -273,7 +325,7 @@ class Builder {
         writeDefinition(objectsPlan(static_cast<uint32_t>(objects.size())));
     }
 
-    void writeAces(bool user) {
+    void writeAces() {
         std::vector<Ace> aces{{catalogPage, admin, 0x60000},
                               {acesPage, admin, 0x60000},
                               {queriesPage, admin, 0x60000},
@@ -290,13 +342,11 @@ class Builder {
                               {catalogPage, users, 0x14},
                               {tablesId, users, 0xFFEFF, true},
                               {relationshipsId, users, 0xFFFFF, true}};
-        uint32_t objects = 8;
-        for (uint32_t table : {groupsPage, recipientsPage}) {
-            if (!user) break;
-            aces.push_back({table, admin, 0xF00FE});
-            aces.push_back({table, users, 0xFFEFF});
-            ++objects;
+        for (size_t i = 0; i < m_tables.size(); ++i) {
+            aces.push_back({pageOf(i), admin, 0xF00FE});
+            aces.push_back({pageOf(i), users, 0xFFEFF});
         }
+        const uint32_t objects = static_cast<uint32_t>(systemObjects().size() + m_tables.size());
         Page& rows = m_pages[aceRowsPage];
         makeDataPage(rows, acesPage);
         std::vector<Bytes> byObject;
@@ -309,20 +359,22 @@ class Builder {
         writeDefinition(acesPlan(static_cast<uint32_t>(aces.size()), objects));
     }
 
-    EmptyContent m_content;
+    const std::vector<NewTable>& m_tables;
+    std::vector<Bytes> m_lists;     ///< of each table: the properties of its columns
+    uint32_t m_propertiesPage = 0;  ///< 0: there are none
     std::vector<Page> m_pages;
 };
 
 }  // namespace
 
-std::vector<Page> emptyDatabase(EmptyContent content) {
-    return Builder(content).build();
+std::vector<Page> emptyDatabase(const std::vector<NewTable>& tables) {
+    return Builder(tables).build();
 }
 
-Status createEmptyDatabase(const std::string& path) {
+Status createDatabase(const std::string& path, const std::vector<NewTable>& tables) {
     return guarded([&]() -> Status {
         if (OsFile::exists(path)) fail(ErrorCode::PathAccess, "Il file \"", path, "\" esiste già.");
-        const std::vector<Page> pages = emptyDatabase(EmptyContent::WithProperties);
+        const std::vector<Page> pages = emptyDatabase(tables);
         OsFile file(path, OsFile::Access::Create);
         try {
             for (size_t n = 0; n < pages.size(); ++n)

@@ -3,17 +3,13 @@
 #include <vector>
 
 #include "platform/jet/Format.h"
+#include "platform/jet/NewDatabase.h"
 
 namespace jet {
 
-/// How much an empty database holds.
-enum class EmptyContent {
-    SystemTables,     ///< 16 pages: what any file needs
-    RecipientTables,  ///< and the two tables of the recipient list
-    WithProperties,   ///< and the field properties that allow empty text
-};
-
-/// The pages of a new database, made from nothing. The same bytes at each call.
-std::vector<Page> emptyDatabase(EmptyContent content);
+/// The pages of a new database, made from nothing: 16 with what any file needs, three for each table, and one
+/// with the properties of columns where any text may be empty. The same description gives the same bytes.
+/// Throws Failure for one that cannot be written.
+std::vector<Page> emptyDatabase(const std::vector<NewTable>& tables);
 
 }  // namespace jet

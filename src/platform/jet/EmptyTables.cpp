@@ -1,6 +1,6 @@
 #include "platform/jet/EmptyTables.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace jet::empty {
 
@@ -15,19 +15,6 @@ constexpr uint8_t variableFlags = 0x12;
 constexpr uint8_t ownerFlags = 0x32;
 
 }  // namespace
-
-const std::vector<UserColumn> groupColumns{
-    {"id", Type::Long, 0, true}, {"id_up", Type::Long}, {"nome", Type::Text, 255}};
-
-const std::vector<UserColumn> recipientColumns{
-    {"id", Type::Long, 0, true}, {"id_grp", Type::Long},      {"rgs", Type::Text, 70},
-    {"nom", Type::Text, 70},     {"piva", Type::Text, 15},    {"ind", Type::Text, 255},
-    {"cap", Type::Text, 10},     {"loc", Type::Text, 70},     {"prov", Type::Text, 2},
-    {"tel", Type::Text, 15},     {"fax", Type::Text, 15},     {"email", Type::Text, 255},
-    {"campo1", Type::Text, 255}, {"campo2", Type::Text, 255}, {"campo3", Type::Text, 255},
-    {"campo4", Type::Text, 255}, {"campo5", Type::Text, 255}, {"campo6", Type::Text, 255},
-    {"campo7", Type::Text, 255}, {"campo8", Type::Text, 255}, {"campo9", Type::Text, 255},
-    {"sel", Type::YesNo}};
 
 TablePlan objectsPlan(uint32_t rows) {
     const auto text = [](const char* name, Type type, uint16_t number, uint16_t index, uint16_t length) {
@@ -118,10 +105,10 @@ TablePlan relationshipsPlan() {
             {{"szObject", 1, false}, {"szReferencedObject", 2, false}, {"szRelationship", 0, false}}};
 }
 
-TablePlan userPlan(uint32_t page, const std::vector<UserColumn>& columns) {
+TablePlan userPlan(uint32_t page, const std::vector<NewColumn>& columns) {
     TablePlan plan{page, 'N', 0, 0, pointerTo(page + 1, 0), {}, {}, {{"PrimaryKey", 0, true}}};
     uint16_t fixedOffset = 0;
-    for (const UserColumn& column : columns) {
+    for (const NewColumn& column : columns) {
         const uint16_t number = static_cast<uint16_t>(plan.columns.size());
         if (column.type == Type::Text) {
             plan.columns.push_back({column.name, Type::Text, number, plan.variables, 0x02, 0,
@@ -140,16 +127,18 @@ TablePlan userPlan(uint32_t page, const std::vector<UserColumn>& columns) {
     return plan;
 }
 
-Bytes propertyList(const std::vector<UserColumn>& columns) {
+Bytes propertyList(const std::vector<NewColumn>& columns) {
     static const std::string property = "AllowZeroLength";
+    const auto allowed = [](const NewColumn& column) { return column.emptyAllowed; };
+    if (std::none_of(columns.begin(), columns.end(), allowed)) return {};
     Writer w;
     w.bytes = {'M', 'R', '2', 0};
     w.u32(static_cast<uint32_t>(8 + 2 * property.size()));
     w.u16(0x80);
     w.name(property);
-    for (const UserColumn& column : columns) {
-        if (column.type != Type::Text) continue;
-        const uint32_t nameBlock = static_cast<uint32_t>(6 + 2 * std::strlen(column.name));
+    for (const NewColumn& column : columns) {
+        if (!allowed(column)) continue;
+        const uint32_t nameBlock = static_cast<uint32_t>(6 + 2 * column.name.size());
         const uint32_t propertyLength = 9;
         w.u32(6 + nameBlock + propertyLength);
         w.u16(1);

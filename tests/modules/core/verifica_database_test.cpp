@@ -3,6 +3,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "support/JetTables.h"
@@ -27,7 +28,7 @@ QByteArray wide(const QByteArray& text) {
 
 class DatabaseCheck : public testing::Test {
   protected:
-    void SetUp() override { ASSERT_TRUE(jet::createEmptyDatabase(path().toStdString()).ok()); }
+    void SetUp() override { ASSERT_TRUE(schema::CreaDatabase(path().toStdString()).ok()); }
     void TearDown() override { ado::closeAll(); }
 
     QString path() const { return m_folder.filePath(QStringLiteral("x.mdb")); }

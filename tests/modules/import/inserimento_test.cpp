@@ -1,5 +1,6 @@
 // What the imports share: the statement, the limits, and the rows on disk.
 #include "modules/import/Inserimento.h"
+#include "modules/store/NuovoDatabase.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,7 +23,7 @@ namespace {
 class InsertedRow : public testing::Test {
   protected:
     InsertedRow() {
-        esigi(jet::createEmptyDatabase(m_dir.filePath("data.mdb").toStdString()));
+        esigi(schema::CreaDatabase(m_dir.filePath("data.mdb").toStdString()));
         connDB = "Provider = Microsoft.Jet.OLEDB.4.0; Data Source = " + m_dir.filePath("data.mdb");
     }
     ~InsertedRow() override {

@@ -1,4 +1,5 @@
 #include "modules/send/Personalizza.h"
+#include "modules/store/NuovoDatabase.h"
 
 #include <map>
 #include <QTemporaryDir>
@@ -128,7 +129,7 @@ TEST(Personalisation, TextOfNothingButColonsTakesTimeInProportion) {
 TEST(RecipientColumns, AreReadFromTheCurrentRow) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("data.mdb"));
-    ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString()).ok());
+    ASSERT_TRUE(schema::CreaDatabase(path.toStdString()).ok());
     const QString connection = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ") + path;
     ado::Recordset rows;
     ASSERT_TRUE(rows.setActiveConnection(connection).ok());

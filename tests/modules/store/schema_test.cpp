@@ -2,6 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <QCryptographicHash>
+
+#include "modules/store/NuovoDatabase.h"
+#include "platform/jet/EmptyDatabase.h"
+
+namespace {
+
+std::string sha256(const std::vector<jet::Page>& pages) {
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const jet::Page& page : pages)
+        hash.addData(QByteArray(reinterpret_cast<const char*>(page.data()), jet::pageSize));
+    return hash.result().toHex().toStdString();
+}
+
+}  // namespace
+
 TEST(Schema, RecipientsHaveTheirTwentyTwoColumnsInOrder) {
     const std::array<std::u16string_view, 22> order{
         u"id",     u"id_grp", u"rgs",    u"nom",    u"piva",   u"ind",    u"cap",    u"loc",
@@ -16,4 +32,16 @@ TEST(Schema, TextsHaveTheirLimits) {
                                      255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 0};
     for (std::size_t i = 0; i < limits.size(); ++i)
         EXPECT_EQ(schema::colonneDestinatari[i].massimo, limits[i]) << i;
+}
+
+TEST(NewDatabase, HasTheKnownBytes) {
+    EXPECT_EQ(sha256(jet::emptyDatabase(schema::TabelleNuove())),
+              "b1c55eb849af1f66c8dd237aa4565266530dc0c678c4cf2c2be1f901b59777f7");
+}
+
+TEST(NewDatabase, WithoutEmptyTextsHasTheKnownBytes) {
+    EXPECT_EQ(sha256(jet::emptyDatabase(
+                  {schema::TabellaNuova(schema::tabellaGruppi, schema::colonneGruppi, false),
+                   schema::TabellaNuova(schema::tabellaDestinatari, schema::colonneDestinatari, false)})),
+              "62eb82bb914a22e91abf17873efe6426a3fde206f3693c03411226c4648e06d1");
 }

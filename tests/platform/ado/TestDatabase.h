@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Connection.h"
@@ -27,7 +28,7 @@ class TestDatabase : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(m_folder.isValid());
         path = m_folder.filePath(QStringLiteral("lista di prova.mdb"));
-        const Status status = jet::createEmptyDatabase(path.toStdString());
+        const Status status = schema::CreaDatabase(path.toStdString());
         ASSERT_TRUE(status.ok()) << words(status);
         connection = connectionTo(path);
     }

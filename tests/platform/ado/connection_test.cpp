@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <QDir>
 
+#include "modules/store/NuovoDatabase.h"
 #include "TestDatabase.h"
 
 namespace {
@@ -125,7 +126,7 @@ TEST_F(ConnectionTest, TwoSpellingsOfOnePathShareTheirChanges) {
 TEST_F(ConnectionTest, AReplacedFileIsSeenByTheNextStatement) {
     run("INSERT INTO tb_gruppi (nome) VALUES ('vecchio')");
     const QString other = inFolder("altra.mdb");
-    ASSERT_TRUE(jet::createEmptyDatabase(other.toStdString()).ok());
+    ASSERT_TRUE(schema::CreaDatabase(other.toStdString()).ok());
     EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "vecchio");
     ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
     EXPECT_EQ(column("SELECT * FROM tb_gruppi", "nome"), "");
@@ -221,7 +222,7 @@ TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {
     std::vector<ado::Recordset> open_;
     for (int i = 0; i < 7; ++i) {
         const QString file = inFolder(qPrintable(QStringLiteral("lista%1.mdb").arg(i)));
-        ASSERT_TRUE(jet::createEmptyDatabase(file.toStdString()).ok());
+        ASSERT_TRUE(schema::CreaDatabase(file.toStdString()).ok());
         connection = ado::connectionTo(file);
         run(QStringLiteral("INSERT INTO tb_gruppi (nome) VALUES ('%1')").arg(i));
         run("INSERT INTO tb_gruppi (nome) VALUES ('x')");

@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <csignal>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/GroupedInserts.h"
 #include "support/HotJournal.h"
 #include "TestDatabase.h"
@@ -158,7 +159,7 @@ TEST_F(GroupedInsertsTest, ARecordsetThatWasOpenedInsideAGroupKeepsItsRows) {
 TEST_F(GroupedInsertsTest, AReplacedFileGetsTheNextGroup) {
     add(10);
     const QString other = inFolder("altra.mdb");
-    ASSERT_TRUE(jet::createEmptyDatabase(other.toStdString()).ok());
+    ASSERT_TRUE(schema::CreaDatabase(other.toStdString()).ok());
     ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
     add(10);
     EXPECT_EQ(rowsInFile(path), 10);
@@ -169,7 +170,7 @@ TEST_F(GroupedInsertsTest, WhatWasToldSurvivesTheDeathOfTheProgramAndNothingElse
     for (const int last : {4, 10, 37}) {
         ado::closeAll();
         ASSERT_TRUE(QFile::remove(path));
-        ASSERT_TRUE(jet::createEmptyDatabase(path.toStdString()).ok());
+        ASSERT_TRUE(schema::CreaDatabase(path.toStdString()).ok());
         int told[2];
         ASSERT_EQ(::pipe(told), 0);
         const pid_t child = ::fork();

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/Database.h"
 #include "platform/jet/OutsideReaders.h"
 #include "platform/Status.h"
@@ -29,7 +30,7 @@ class JetTest : public ::testing::Test {
 
     /// A fresh empty database, opened.
     DatabasePtr create(const std::string& file) {
-        const Status status = jet::createEmptyDatabase(file);
+        const Status status = schema::CreaDatabase(file);
         if (!status.ok()) throw std::runtime_error(status.text().toStdString());
         return open(file);
     }

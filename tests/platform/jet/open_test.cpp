@@ -6,6 +6,7 @@
 #include <bit>
 #include <random>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Header.h"
 #include "platform/jet/JetFixture.h"
@@ -27,14 +28,14 @@ class OpenTest : public JetTest {
     }
     std::string emptyBytes() {
         std::string bytes;
-        for (const Page& page : emptyDatabase(EmptyContent::WithProperties))
+        for (const Page& page : emptyDatabase(schema::TabelleNuove()))
             bytes.append(reinterpret_cast<const char*>(page.data()), pageSize);
         return bytes;
     }
     // The empty database with page 0 changed under its mask.
     template <class Change>
     std::string withHeader(Change&& change) {
-        std::vector<Page> pages = emptyDatabase(EmptyContent::WithProperties);
+        std::vector<Page> pages = emptyDatabase(schema::TabelleNuove());
         maskHeader(pages[0]);
         change(pages[0]);
         maskHeader(pages[0]);
@@ -215,9 +216,9 @@ TEST_F(OpenTest, TableIsFoundWithoutRegardToCase) {
 
 TEST_F(OpenTest, NewDatabaseReplacesNothing) {
     writeBytes(path(), "mio");
-    EXPECT_FAILS(ErrorCode::PathAccess, createEmptyDatabase(path()));
+    EXPECT_FAILS(ErrorCode::PathAccess, schema::CreaDatabase(path()));
     EXPECT_EQ(bytesOf(path()), "mio");
-    EXPECT_FAILS(ErrorCode::FileNotFound, createEmptyDatabase(path("nessuna/data.mdb")));
+    EXPECT_FAILS(ErrorCode::FileNotFound, schema::CreaDatabase(path("nessuna/data.mdb")));
 }
 
 TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {

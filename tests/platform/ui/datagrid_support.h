@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
@@ -17,7 +18,7 @@
 class TestList {
   public:
     TestList() {
-        const Status status = jet::createEmptyDatabase(path().toStdString());
+        const Status status = schema::CreaDatabase(path().toStdString());
         if (!status.ok()) qFatal("%s", qUtf8Printable(status.text()));
     }
     ~TestList() { ado::closeAll(); }

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 
+#include "modules/store/NuovoDatabase.h"
 #include "modules/store/Schema.h"
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
@@ -18,7 +19,7 @@ constexpr int manyRecords = 20000;
 /// Opens a recipient database with many rows as the source: "n1@x.it", "n2@x.it", …
 void openLongSource(DbStage& stage) {
     const QString path = stage.source();
-    esigi(jet::createEmptyDatabase(path.toStdString()));
+    esigi(schema::CreaDatabase(path.toStdString()));
     auto file = esigi(jet::Database::open(path.toStdString()));
     jet::Table* table = esigi(file->table("tb_destinatari"));
     esigi(file->begin());

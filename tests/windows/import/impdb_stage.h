@@ -1,5 +1,6 @@
 #pragma once
 
+#include "modules/store/NuovoDatabase.h"
 #include "support/JetTables.h"
 #include "windows/import/frmImpDB.h"
 #include "windows/import/import_stage.h"
@@ -22,7 +23,7 @@ class DbStage : public ImportStage {
     /// Adds a table to the source, which is made at its first mention, beside the two of a recipient
     /// database.
     void addTable(const std::string& name, const Columns& columns, const std::vector<Row>& rows) {
-        if (!QFile::exists(source())) esigi(jet::createEmptyDatabase(source().toStdString()));
+        if (!QFile::exists(source())) esigi(schema::CreaDatabase(source().toStdString()));
         jettables::addTable(source().toStdString(), name, columns, {});
         for (const Row& row : rows)
             jettables::addRow(source().toStdString(), name, row);

@@ -1,4 +1,5 @@
 // The window of the Access import: listing, mapping, and what the walk over the records does.
+#include "modules/store/NuovoDatabase.h"
 #include "windows/import/frmImpDB.h"
 
 #include <QTimer>
@@ -295,7 +296,7 @@ class TestImportDb : public QObject {
 
     void onlySystemTablesGiveAnEmptyListAndAnImportThatStopsAtOnce() {
         DbStage stage;
-        esigi(jet::createEmptyDatabase(stage.source().toStdString()));
+        esigi(schema::CreaDatabase(stage.source().toStdString()));
         QFile file(stage.source());
         QVERIFY(file.open(QIODevice::ReadWrite));
         QByteArray bytes = file.readAll();

@@ -1,6 +1,7 @@
 // Opening another recipient database, and saving a copy of the current one.
 #include <QDir>
 
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/Database.h"
 #include "windows/shell/shell_support.h"
 
@@ -26,14 +27,14 @@ class TestDatabase : public QObject {
 
     static QString otherDatabase(const StoreStage& stage) {
         const QString path = stage.folder.path("altra.mdb");
-        if (!jet::createEmptyDatabase(path.toStdString()).ok()) qFatal("no other database");
+        if (!schema::CreaDatabase(path.toStdString()).ok()) qFatal("no other database");
         return path;
     }
     /// A sound database whose table of the recipients has another name of the same length.
     static QByteArray groupsOnly() {
         const QTemporaryDir folder;
         const QString path = folder.filePath("gruppi.mdb");
-        if (!jet::createEmptyDatabase(path.toStdString()).ok()) qFatal("no database of groups");
+        if (!schema::CreaDatabase(path.toStdString()).ok()) qFatal("no database of groups");
         const auto wide = [](const QString& text) {
             return QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
         };

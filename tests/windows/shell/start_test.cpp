@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "modules/store/NuovoDatabase.h"
 #include "modules/store/percorsoDBase.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Connection.h"
@@ -407,7 +408,7 @@ class TestStart : public QObject {
         const QTemporaryDir user;
         const QString folder = user.filePath("vestrola");
         QVERIFY(sys::fillProgramFolder(folder, TEST_DATA_DIR "/../../assets/templates").ok());
-        QVERIFY(jet::createEmptyDatabase((folder + "/data/data.mdb").toStdString()).ok());
+        QVERIFY(schema::CreaDatabase((folder + "/data/data.mdb").toStdString()).ok());
         sys::setProgramFolder(folder);
         start();
         QCOMPARE(percorsoDB, folder + "/data/data.mdb");

@@ -2,6 +2,7 @@
 #include <QFile>
 
 #include "modules/core/bImpostazioni.h"
+#include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "windows/core/Evento.h"
@@ -118,7 +119,7 @@ class TestGruppiRecupero : public QObject {
         QVERIFY(text.open(QIODevice::WriteOnly));
         text.write("testo");
         text.close();
-        QVERIFY(jet::createEmptyDatabase(stage.folder.path("gruppi.mdb").toStdString()).ok());
+        QVERIFY(schema::CreaDatabase(stage.folder.path("gruppi.mdb").toStdString()).ok());
         renameInFile(stage.folder.path("gruppi.mdb"), "tb_destinatari", "tb_destinatarx");
         stage.folder.hideDatabase();
         MessageDialog::queue(MessageDialog::Ok);

@@ -1,7 +1,7 @@
 // vestrola_makedb FILE: writes the empty recipient database. The build makes the default data.mdb with it.
 #include <cstdio>
 
-#include "platform/jet/Database.h"
+#include "modules/store/NuovoDatabase.h"
 #include "platform/jet/JetText.h"
 
 int main(int argc, char** argv) {
@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: vestrola_makedb FILE\n");
         return 2;
     }
-    const Status status = jet::createEmptyDatabase(argv[1]);
+    const Status status = schema::CreaDatabase(argv[1]);
     if (!status.ok()) std::fprintf(stderr, "vestrola_makedb: %s\n", jet::toUtf8(status.plainText()).c_str());
     return status.ok() ? 0 : 1;
 }
