@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/mail/DomainName.h"
+#include "platform/mail/ServerVerdict.h"
 #include "platform/text/Blanks.h"
 
 namespace mail {
@@ -142,6 +143,8 @@ void DeliveryControl::report() {
     const DeliveryOutcome outcome = std::exchange(m_outcome, {});
     m_running = false;
     if (outcome.delivered) noteAccepted(m_current);
+    if (const QString verdict = m_transcript.active() ? verdictOf(outcome) : QString(); !verdict.isEmpty())
+        m_transcript.remark(m_transcript.withoutSecrets(verdict));
     log(QStringLiteral("%1: %2").arg(
         outcome.delivered ? QStringLiteral("consegnato") : QStringLiteral("non consegnato"),
         (outcome.code ? QString::number(outcome.code) + u' ' : QString()) +

@@ -432,6 +432,39 @@ TEST_F(SupportLog, TellsWhyAMessageIsNotSigned) {
     EXPECT_FALSE(contents(path()).contains("segreto"));
 }
 
+TEST_F(SupportLog, TellsInItalianWhatAServerHasAgainstAMessage) {
+    const QByteArrayList upToBody = message.mid(0, message.size() - 1);
+    ScriptedServer server(
+        {hello + QByteArrayList{message[0], "S: 550-5.7.1 this looks", "S: 550 5.7.1 like spam"} +
+             QByteArrayList{message[0], message[1], message[2], "S: 450 4.7.1 sending too fast"} + reset +
+             upToBody + QByteArrayList{"S: 554 5.7.26 no DMARC"} + reset + message + message.mid(0, 1) +
+             QByteArrayList{"S: 530 5.7.0 Authentication required", "C: QUIT"},
+         {"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250 AUTH PLAIN", "C: AUTH PLAIN *",
+          "S: 535 5.7.8 too many wrong passwords", "C: QUIT"},
+         {"S: 554 5.7.1 unsolicited", "C: QUIT"}});
+    Client client(server.port());
+    client.smtp.LogFile = path();
+    client.smtp.LogEnabled = true;
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(client.send().done, i == 3);
+    client.smtp.UseAuth = true;
+    client.smtp.UserName = client.smtp.UserPassword = QStringLiteral("x");
+    EXPECT_FALSE(client.send().done);
+    client.smtp.UseAuth = false;
+    EXPECT_FALSE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+    const QByteArray log = contents(path());
+    for (const char* line :
+         {"* Il server considera il messaggio posta indesiderata (spam), codice 5.7.1: this "
+          "looks 5.7.1 like spam\r\n",
+          "* Il server limita il numero o la frequenza degli invii, per ora, codice 4.7.1: "
+          "sending too fast\r\n",
+          "* Il server rifiuta il messaggio per le sue regole, codice 5.7.26: no DMARC\r\n",
+          "posta indesiderata (spam), codice 5.7.1: unsolicited\r\n"})
+        EXPECT_EQ(log.count(line), 1) << line << '\n' << log.constData();
+    EXPECT_EQ(log.count("* Il server "), 4) << log.constData();
+}
+
 TEST_F(SupportLog, IsAppendedTo) {
     QFile old(path());
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));

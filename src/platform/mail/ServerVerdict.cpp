@@ -1,0 +1,48 @@
+#include "platform/mail/ServerVerdict.h"
+
+#include <QRegularExpression>
+
+namespace mail {
+
+namespace {
+
+bool saysSpam(const QString& words) {
+    static const QRegularExpression spam(
+        QStringLiteral("spam|junk|unsolicited|indesiderat|\\bbulk\\b|\\bu[bc]e\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    return words.contains(spam);
+}
+
+bool saysRate(const QString& words) {
+    static const QRegularExpression rate(
+        QStringLiteral(
+            "\\brate|\\blimit|too (many|much|fast)|throttl|quota|exceed|frequen|\\btropp[aeio]\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    return words.contains(rate);
+}
+
+/// The server wants a login, a better one, or TLS.
+bool wantsSecurity(int code) {
+    return code == 530 || code == 534 || code == 535 || code == 538;
+}
+
+}  // namespace
+
+QString verdictOf(const DeliveryOutcome& outcome) {
+    static const QRegularExpression form(QStringLiteral("^([45]\\.7\\.\\d{1,3})(?!\\d)\\s*(.*)$"));
+    if (outcome.delivered || outcome.ofLogin || wantsSecurity(outcome.code)) return {};
+    const QRegularExpressionMatch match = form.match(outcome.text.trimmed());
+    if (!match.hasMatch()) return {};
+    const QString words = match.captured(2);
+    // A server that slows a sender down often speaks of spam as well; one that refuses for good means it.
+    const bool temporary = outcome.code < 500;
+    QString verdict = QStringLiteral("Il server rifiuta il messaggio per le sue regole");
+    if (saysRate(words) && (temporary || !saysSpam(words)))
+        verdict = QStringLiteral("Il server limita il numero o la frequenza degli invii");
+    else if (saysSpam(words))
+        verdict = QStringLiteral("Il server considera il messaggio posta indesiderata (spam)");
+    return QStringLiteral("%1%2, codice %3: %4")
+        .arg(verdict, temporary ? QStringLiteral(", per ora") : QString(), match.captured(1), words);
+}
+
+}  // namespace mail
