@@ -11,6 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     qsizetype count = 6;
     const std::uint16_t answers = LeggiParola(buffer, count);
     Prosegui prosegui;
+    if (MotivoDiRisposta(buffer) == MotivoMX::Nessuno) std::abort();
     const bool sorted = prosegui([&] { LeggiRisposta(buffer, 12, answers); });
 
     if (static_cast<size_t>(mxCount) != mxList.size() || mxCount > answers) std::abort();

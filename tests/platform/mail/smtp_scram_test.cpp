@@ -122,6 +122,16 @@ TEST_F(SmtpScram, WrongSignatureOfTheServerIsRefused) {
     refuses(helloScram + QByteArrayList{"A: first", "A: final"}, fault);
 }
 
+TEST_F(SmtpScram, ServerWithoutAProofIsOfferedNoOtherMechanism) {
+    QByteArrayList hello = helloScram;
+    hello.last() += " SCRAM-SHA-1 PLAIN LOGIN CRAM-MD5";
+    ScramServer::Fault fault;
+    fault.signature = true;
+    refuses(hello + QByteArrayList{"A: first", "A: final"}, fault);
+    refuses(hello + QByteArrayList{"A: first", "C: *", "S: 235 welcome"}, {});
+    refuses(hello + QByteArrayList{"C: AUTH SCRAM-SHA-256 *", "S: 235 welcome"}, {});
+}
+
 TEST_F(SmtpScram, NonceThatIsNotTheClientsIsRefused) {
     ScramServer::Fault fault;
     fault.nonce = "fyko+d2lbbFgONRv9qkxdawL3rfcNHYJY1ZVvWVs7j";
