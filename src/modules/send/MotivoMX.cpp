@@ -5,11 +5,11 @@
 namespace {
 
 constexpr qsizetype inizioDomanda = 12;
-constexpr std::uint8_t maschera = 0x0F;   // of the response code
-constexpr std::uint8_t troncata = 0x02;   // among the flags
-constexpr std::uint8_t puntatore = 0xC0;  // both bits: the name goes on elsewhere
-constexpr int tipoCNAME = 5;
-constexpr int tipoMX = 15;
+constexpr std::uint8_t maschera = 0x0F;      // of the response code
+constexpr std::uint8_t troncata = 0x02;      // among the flags
+constexpr std::uint8_t bitPuntatore = 0xC0;  // both bits: the name goes on elsewhere
+constexpr int recordCNAME = 5;
+constexpr int recordMX = 15;
 
 /// Reads a reply forward; behind its end there are zeros.
 class Lettore {
@@ -26,7 +26,7 @@ class Lettore {
         for (;;) {
             const std::uint8_t lunghezza = byte(posizione);
             if (lunghezza == 0) return posizione + 1;
-            if (lunghezza >= puntatore) return posizione + 2;
+            if (lunghezza >= bitPuntatore) return posizione + 2;
             posizione += 1 + lunghezza;
         }
     }
@@ -39,11 +39,11 @@ MotivoMX MotivoDiPrimaRisposta(const Lettore& lettore) {
     qsizetype posizione = inizioDomanda;
     for (int domande = lettore.parola(4); domande > 0; --domande)
         posizione = lettore.dopoNome(posizione) + 4;
-    const bool compressa = lettore.byte(posizione) >= puntatore;
+    const bool compressa = lettore.byte(posizione) >= bitPuntatore;
     posizione = lettore.dopoNome(posizione);
     const int tipo = lettore.parola(posizione);
-    if (tipo == tipoCNAME) return MotivoMX::Alias;
-    if (tipo != tipoMX) return MotivoMX::AltraForma;
+    if (tipo == recordCNAME) return MotivoMX::Alias;
+    if (tipo != recordMX) return MotivoMX::AltraForma;
     const qsizetype nome = posizione + 12;  // over type, class, time to live, length and preference
     if (lettore.parola(posizione + 8) == 3 && lettore.byte(nome) == 0) return MotivoMX::SenzaPosta;
     return compressa ? MotivoMX::AltraForma : MotivoMX::NonCompressa;
