@@ -2,17 +2,17 @@
 // that platform/contacts/HelperOutput.h tells. A process of its own, because the library that reads such
 // files can be brought down by a damaged one: whatever was printed before counts. Exit status 0 after the
 // last entry, 1 where there is no such folder.
-#include <sys/prctl.h>
-#include <sys/resource.h>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <initializer_list>
 #include <memory>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+
+#include "helpers/Walls.h"
 
 extern "C" {
 #include <libpst/libpst.h>
@@ -30,24 +30,18 @@ struct FreeItem {
 };
 using Item = std::unique_ptr<pst_item, FreeItem>;
 
-/// A damaged file may not eat the machine, and the helper does not outlive the program.
-void limitItself() {
-    const auto limit = [](__rlimit_resource resource, rlim_t value) {
-        const rlimit both{value, value};
-        setrlimit(resource, &both);
-    };
-    limit(RLIMIT_CORE, 0);
-    limit(RLIMIT_CPU, 60);
-#ifndef __SANITIZE_ADDRESS__
-    limit(RLIMIT_AS, rlim_t{4} << 30);
-#endif
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-}
-
 void print(const QJsonObject& object) {
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
     fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
     fflush(stdout);
+}
+
+void printWalls(const walls::Raised& raised) {
+    QJsonArray standing;
+    if (raised.files) standing.append("files");
+    if (raised.calls) standing.append("calls");
+    if (raised.memory) standing.append("memory");
+    print({{QStringLiteral("walls"), standing}});
 }
 
 QString textOf(pst_item* item, pst_string& value) {
@@ -132,11 +126,20 @@ void printEntries(pst_file& file, const pst_desc_tree* folder) {
 
 }  // namespace
 
+#ifdef __SANITIZE_ADDRESS__
+// Looking for leaks takes a second thread, which the walls forbid.
+extern "C" const char* __asan_default_options() {
+    return "detect_leaks=0";
+}
+#endif
+
 int main(int argc, char** argv) {
     if (argc != 2) return 1;
-    limitItself();
+    const walls::Raised limits = walls::limitOnly();
     pst_file file{};
-    if (pst_open(&file, argv[1], "WINDOWS-1252") != 0 || pst_load_index(&file) != 0) return 1;
+    if (pst_open(&file, argv[1], "WINDOWS-1252") != 0) return 1;
+    printWalls(walls::raise(limits));
+    if (pst_load_index(&file) != 0) return 1;
     pst_load_extended_attributes(&file);
     const pst_desc_tree* folder = contactsFolder(file);
     if (folder == nullptr) return 1;

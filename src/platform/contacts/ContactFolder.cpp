@@ -1,5 +1,9 @@
 #include "platform/contacts/ContactFolder.h"
 
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
@@ -15,7 +19,7 @@ namespace contacts {
 
 namespace {
 
-constexpr qsizetype largestOutput = 128LL * 1024 * 1024;
+constexpr std::chrono::milliseconds betweenQuestions{20};
 
 QString& chosenHelper() {
     static QString program;
@@ -54,25 +58,40 @@ void setOutlookHelper(const QString& program) {
     chosenHelper() = program;
 }
 
-Result<ContactFolder> readContactFolder(const QString& path, std::chrono::milliseconds patience) {
+QStringList allWalls() {
+    return {QStringLiteral("files"), QStringLiteral("calls"), QStringLiteral("memory")};
+}
+
+Result<ContactFolder> readContactFolder(const QString& path, std::chrono::milliseconds patience,
+                                        const std::function<bool(std::chrono::milliseconds waited)>& goOn) {
+    using std::chrono::milliseconds;
     QProcess helper;
     helper.setProgram(outlookHelper());
     helper.setArguments({QFileInfo(path).absoluteFilePath()});
     helper.setStandardInputFile(QProcess::nullDevice());
     helper.setStandardErrorFile(QProcess::nullDevice());
+    helper.setChildProcessModifier([] { ::setsid(); });  // a process group of its own
     const QDeadlineTimer deadline(patience);
     helper.start(QIODevice::ReadOnly);
-    QByteArray output;
-    while (output.size() < largestOutput &&
-           helper.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
-        output += helper.readAllStandardOutput();
+    const bool started = helper.waitForStarted(static_cast<int>(patience.count()));
+    const auto group = static_cast<pid_t>(helper.processId());
+    HelperOutput output;
+    bool wanted = started;
+    bool givenUp = false;
+    while (wanted && !deadline.hasExpired()) {
+        const milliseconds left(deadline.remainingTime());
+        helper.waitForReadyRead(static_cast<int>(std::min(left, betweenQuestions).count()));
+        const bool ended = helper.state() == QProcess::NotRunning;
+        wanted = output.take(helper.readAllStandardOutput()) && !ended;
+        givenUp = goOn && !goOn(patience - milliseconds(deadline.remainingTime()));
+        wanted = wanted && !givenUp;
     }
-    output += helper.readAllStandardOutput();
-    const bool started = helper.error() != QProcess::FailedToStart;
+    if (group > 0) ::kill(-group, SIGKILL);
     helper.kill();
     helper.waitForFinished();
 
-    if (auto folder = readHelperOutput(output)) return *std::move(folder);
+    if (givenUp) return Status(ErrorCode::CancelSelected, QStringLiteral("Lettura interrotta."));
+    if (auto folder = std::move(output).folder()) return *std::move(folder);
     if (!started) return Status(ErrorCode::FileNotFound, QStringLiteral("Il lettore di Outlook non c'è."));
     if (deadline.hasExpired()) {
         return Status(ErrorCode::Timeout, QStringLiteral("Outlook non ha risposto in tempo."));

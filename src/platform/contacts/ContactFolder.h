@@ -1,7 +1,9 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -22,13 +24,33 @@ struct Contact {
     QString businessFaxNumber;
 };
 
+/// The entries of a folder, kept as the helper wrote them and decoded one at a time: what a hostile file
+/// makes of them takes no more room than it had on its way.
+class ContactList {
+  public:
+    std::size_t size() const { return m_ends.size(); }
+    bool empty() const { return m_ends.empty(); }
+    /// None for an entry that is no contact, such as a distribution list. `index` is below size().
+    std::optional<Contact> operator[](std::size_t index) const;
+
+    /// Adds an entry: a line of the helper's, see HelperOutput.h.
+    void append(QByteArrayView line);
+
+  private:
+    QByteArray m_lines;
+    std::vector<qsizetype> m_ends;  ///< where each entry ends
+};
+
 /// The default contacts folder of Microsoft Outlook, as its data file (.pst, .ost) holds it.
 struct ContactFolder {
-    int count = 0;  ///< entries of the folder
-    /// The entries, in the folder's order; none for one that is no contact, such as a distribution list.
-    /// Fewer than `count` where the file could not be read to its end.
-    std::vector<std::optional<Contact>> items;
+    int count = 0;      ///< entries of the folder as the helper counts them: fit to be shown, and no more
+    ContactList items;  ///< in the folder's order; fewer than counted where the file could not be read on
+    /// The walls that the helper says it has raised: "files", "calls", "memory".
+    QStringList walls;
 };
+
+/// The walls that every helper raises where the system lets it.
+QStringList allWalls();
 
 /// Where Outlook's data files are looked for, in this order: the user's documents, their folders "Outlook
 /// Files" and "File di Outlook", the program's data folder.
@@ -45,9 +67,12 @@ void setOutlookHelper(const QString& program);
 /// Reads the contacts folder of a data file. The file is read by the helper in a process of its own, since
 /// what can be in such a file has brought its readers down before. A helper that cannot be started, or ends,
 /// hangs or talks rubbish before it told the count, gives FileNotFound, Timeout or UnrecognizedFormat;
-/// afterwards its end is the end of the entries. Blocks for as long as the helper works, at most for
-/// `patience`; takes at most 128 MB of what it says.
-Result<ContactFolder> readContactFolder(const QString& path,
-                                        std::chrono::milliseconds patience = std::chrono::seconds(60));
+/// afterwards its end is the end of the entries; the count is not believed. The helper is ended with
+/// all processes that it may have started. Blocks for as long as it works, at most for `patience`; takes at
+/// most 64 MB of what it says. `goOn` is asked every few milliseconds with the time that has passed, and ends
+/// the reading with CancelSelected where it answers false.
+Result<ContactFolder> readContactFolder(
+    const QString& path, std::chrono::milliseconds patience = std::chrono::seconds(60),
+    const std::function<bool(std::chrono::milliseconds waited)>& goOn = {});
 
 }  // namespace contacts

@@ -75,7 +75,8 @@ ViciniContatti finestre::IntornoAgliImport() {
     return {.Scelta = Scelta,
             .stcProgress = []() -> ui::ProgressCounter& { return *barreDiMain().GetProgress("stcProgress"); },
             .NuovoNodo = [](const QString& id,
-                            const QString& nome) { Main().Gruppi().AggiungiNodo("K0", id, nome); }};
+                            const QString& nome) { Main().Gruppi().AggiungiNodo("K0", id, nome); },
+            .MostraAttesa = [](const QString& testo) { Main().MostraAttesa(testo); }};
 }
 
 bLANG::FinestreTradotte finestre::Tradotte() {

@@ -14,6 +14,8 @@ struct ViciniContatti {
     std::function<frmScelta&()> Scelta;                 ///< the question for the group
     std::function<ui::ProgressCounter&()> stcProgress;  ///< the counter in the status bar
     cartella::NuovoNodo NuovoNodo;
+    /// Shows in the status bar what is waited for; an empty text brings back what stood there.
+    std::function<void(const QString&)> MostraAttesa;
 };
 
 /// What the imports from the address book and from Outlook have in common: the question for the group, the

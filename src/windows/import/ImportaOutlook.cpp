@@ -1,9 +1,12 @@
 #include "windows/import/ImportaOutlook.h"
 
+#include <chrono>
 #include <QCoreApplication>
+#include <utility>
 
 #include "modules/core/bFunctions.h"
 #include "platform/contacts/ContactFolder.h"
+#include "platform/ui/WaitNotice.h"
 #include "windows/import/ImportaContatti.h"
 
 namespace {
@@ -27,22 +30,45 @@ inserimento::Valori ValoriDi(const contacts::Contact& contatto) {
     return valori;
 }
 
+Result<contacts::ContactFolder> LeggiOutlook(const ViciniContatti& vicini) {
+    ui::WaitNotice attesa("Lettura dei contatti di Outlook in corso… Esc per interrompere",
+                          vicini.MostraAttesa, nullptr);
+    auto cartella = contacts::readContactFolder(contacts::findOutlookFile(contacts::outlookFolders()),
+                                                std::chrono::seconds(60),
+                                                [&](auto passato) { return attesa.goOn(passato); });
+    attesa.over();
+    return cartella;
+}
+
+/// Tells in the status bar which walls the system did not let the reader raise.
+void AvvisaSenzaMura(const ViciniContatti& vicini, const QStringList& mura) {
+    QStringList mancano;
+    for (const auto& [muro, nome] : {std::pair("files", "file"), std::pair("calls", "chiamate di sistema"),
+                                     std::pair("memory", "memoria")})
+        if (!mura.contains(QLatin1String(muro))) mancano << QLatin1String(nome);
+    if (!mancano.isEmpty())
+        vicini.MostraAttesa("Outlook letto senza queste protezioni del sistema: " + mancano.join(", "));
+}
+
 }  // namespace
 
 void ImportaOutlook(const ViciniContatti& vicini) {
     ImportaContatti importa(vicini);
     if (!importa.Comincia()) return;
-    const auto cartella = contacts::readContactFolder(contacts::findOutlookFile(contacts::outlookFolders()));
+    const auto cartella = LeggiOutlook(vicini);
     if (!cartella.ok()) return;
 
+    const contacts::ContactList& voci = cartella.value().items;
     importa.Conta(cartella.value().count);
     QCoreApplication::processEvents();
-    for (const auto& voce : cartella.value().items) {
+    for (std::size_t i = 0; i < voci.size(); ++i) {
         QCoreApplication::processEvents();
+        const auto voce = voci[i];
         if (!voce || !EmailValida(voce->email1Address) || voce->email1Address.size() < minimoIndirizzo)
             continue;
         importa.Inserisci(ValoriDi(*voce));
         importa.Avanza();
     }
     importa.Finisci();
+    AvvisaSenzaMura(vicini, cartella.value().walls);
 }

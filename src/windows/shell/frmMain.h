@@ -73,6 +73,9 @@ class frmMain : public QMainWindow {
     /// runs, further ones are ignored.
     void ComandoPremuto(const QString& nome);
 
+    /// Shows in the status bar what is waited for; an empty text brings back what stood there.
+    void MostraAttesa(const QString& testo);
+
     /// The open dialog for a recipient database; empty when it was cancelled.
     static std::optional<QString> ChiediDatabase();
     /// Makes another database the current one: path file, connection text, no current node, and an empty grid
@@ -125,6 +128,7 @@ class frmMain : public QMainWindow {
     ui::DockPanes pannelli;
     ui::DataGrid* destinatari;
     ui::DataControl* dati;
+    QString primaDellAttesa;
     bool comandoInCorso = false;
 };
 

@@ -137,14 +137,15 @@ void frmMain::CreaBarraStato() {
     barre->addProgress("stcProgress", "Avanzamento");
     barre->addStatic("stcData", {}, 0);
     AggiornaData();
-    new ui::DatabaseWait(
-        [stcHelp = barre->GetStatic("stcHelp"), prima = QString()](const QString& testo) mutable {
-            if (testo.isEmpty()) return stcHelp->setText(prima);
-            prima = stcHelp->Text();
-            stcHelp->setText(testo);
-            stcHelp->announce();
-        },
-        this);
+    new ui::DatabaseWait([this](const QString& testo) { MostraAttesa(testo); }, this);
+}
+
+void frmMain::MostraAttesa(const QString& testo) {
+    auto* stcHelp = barre->GetStatic("stcHelp");
+    if (testo.isEmpty()) return stcHelp->setText(primaDellAttesa);
+    primaDellAttesa = stcHelp->Text();
+    stcHelp->setText(testo);
+    stcHelp->announce();
 }
 
 void frmMain::AggiornaData() {

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include "support/Vectors.h"
 
@@ -64,7 +65,7 @@ TEST(ContactFolder, HelperIsGivenTheFile) {
     const HelperScript helper("echo '{\"count\":1}'\necho '{\"CompanyName\":\"'\"$1 $#\"'\"}'\n");
     const auto folder = readContactFolder("/tmp/nome con 'apici' $(x).pst");
     ASSERT_TRUE(folder.ok());
-    EXPECT_EQ(folder.value().items.at(0)->companyName, "/tmp/nome con 'apici' $(x).pst 1");
+    EXPECT_EQ(folder.value().items[0]->companyName, "/tmp/nome con 'apici' $(x).pst 1");
 }
 
 TEST(ContactFolder, HelperThatEndsEarlyLeavesTheGoodEntries) {
@@ -115,6 +116,28 @@ TEST(ContactFolder, HelperThatHangsIsEnded) {
     const QByteArray pid = bytesOf(helper.path("pid")).trimmed();
     ASSERT_FALSE(pid.isEmpty());
     EXPECT_FALSE(QFileInfo::exists("/proc/" + pid));
+}
+
+TEST(ContactFolder, WhatTheHelperHasStartedEndsWithIt) {
+    const HelperScript helper("sleep 600 & echo $! > \"${0%/*}/pid\"\necho '{\"count\":0}'\nwait");
+    EXPECT_TRUE(readContactFolder("x.pst").ok());
+    const QByteArray pid = bytesOf(helper.path("pid")).trimmed();
+    ASSERT_FALSE(pid.isEmpty());
+    for (int i = 0; i < 500 && QFileInfo::exists("/proc/" + pid); ++i) {
+        // somebody has to fetch its end
+        if (bytesOf("/proc/" + pid + "/stat").contains(") Z ")) return;
+        QThread::msleep(10);
+    }
+    EXPECT_FALSE(QFileInfo::exists("/proc/" + pid));
+}
+
+TEST(ContactFolder, ReadingEndsWhenTheUserGivesUp) {
+    const HelperScript helper(twoOfThree + QByteArray("exec sleep 600"));
+    int asked = 0;
+    const auto folder =
+        readContactFolder("x.pst", 60s, [&](std::chrono::milliseconds) { return ++asked < 5; });
+    EXPECT_EQ(folder.status().code(), ErrorCode::CancelSelected);
+    EXPECT_EQ(asked, 5);
 }
 
 TEST(ContactFolder, WhatTheHelperSaysAsideIsNotRead) {

@@ -64,7 +64,7 @@ TEST(HelperOutput, EntriesBeyondTheCountAreNotTaken) {
 TEST(HelperOutput, ValueThatIsNoTextIsEmpty) {
     const auto folder = readHelperOutput("{\"count\":1}\n{\"Email1Address\":5,\"CompanyName\":null}\n");
     ASSERT_TRUE(folder);
-    ASSERT_TRUE(folder->items.at(0));
+    ASSERT_TRUE(folder->items[0]);
     EXPECT_EQ(folder->items[0]->email1Address, "");
 }
 

@@ -53,7 +53,8 @@ QStringList contactsOfReadpst(const QString& file) {
 
 QStringList contactsOf(const ContactFolder& folder) {
     QStringList lines;
-    for (const auto& item : folder.items) {
+    for (std::size_t i = 0; i < folder.items.size(); ++i) {
+        const auto item = folder.items[i];
         if (!item) continue;
         lines.append(item->email1Address + '|' + item->companyName + '|' + item->businessTelephoneNumber);
     }
@@ -133,7 +134,7 @@ TEST_F(OutlookHelper, FileThatChangesMeanwhileNeverHarms) {
     for (int reading = 0; reading < 60; ++reading) {
         const auto found = readContactFolder(path, 5s);
         if (!found.ok()) continue;
-        EXPECT_LE(found.value().items.size(), static_cast<std::size_t>(found.value().count));
+        EXPECT_LE(found.value().items.size(), 6u);
         for (const QString& contact : contactsOf(found.value()))
             EXPECT_TRUE(expected.contains(contact) || contact.startsWith('|')) << contact.toStdString();
     }
@@ -150,6 +151,7 @@ TEST_F(OutlookHelper, DamagedFilesNeverHarm) {
     int whole = 0, cut = 0, refused = 0;
     for (const char* name : {"a_SampleContacts1.pst", "accents.pst", "j_dist-list.pst"}) {
         const QByteArray good = bytesOf(sample(name));
+        const std::size_t all = ContactFolder(read(name)).items.size();
         for (int variant = 0; variant < 100; ++variant) {
             QByteArray bytes = good;
             const int changes = 1 << (variant % 10);
@@ -160,13 +162,12 @@ TEST_F(OutlookHelper, DamagedFilesNeverHarm) {
             }
             if (variant % 10 == 9) bytes.truncate(static_cast<qsizetype>(seed % bytes.size()));
             writeBytes(path, bytes);
-            const auto read = readContactFolder(path, 5s);
-            if (!read.ok()) {
+            const auto found = readContactFolder(path, 5s);
+            if (!found.ok()) {
                 ++refused;
             } else {
-                const auto items = static_cast<int>(read.value().items.size());
-                EXPECT_LE(items, read.value().count);
-                ++(items == read.value().count ? whole : cut);
+                EXPECT_LE(found.value().items.size(), all);
+                ++(found.value().items.size() == all ? whole : cut);
             }
         }
     }

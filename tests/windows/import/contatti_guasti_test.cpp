@@ -37,6 +37,26 @@ void commands() {
 
 }  // namespace
 
+/// Presses Esc as soon as the window paints that it waits for Outlook.
+class EscWhenPainted : public QObject {
+  public:
+    explicit EscWhenPainted(frmMain& main) : m_main(main) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        const QString said = m_main.Commands().GetStatic("stcHelp")->Text();
+        if (event->type() != QEvent::Paint || !said.startsWith("Lettura dei contatti")) return false;
+        ++paints;
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_main.windowHandle(), &key);
+        return false;
+    }
+
+    int paints = 0;
+
+  private:
+    frmMain& m_main;
+};
+
 class TestImportContattiGuasti : public QObject {
     Q_OBJECT
 
@@ -125,6 +145,20 @@ class TestImportContattiGuasti : public QObject {
         QCOMPARE(stage.progressMaximum(), 5.0);
         QCOMPARE(stage.progressNow(), 0.0);
         QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void escEndsAHelperThatHangsWhileTheWindowIsPainted() {
+        ContactStage stage;
+        stage.writeHelper("{\"count\":2}\n" + contactLine("uno@example.it", "Uno"), "exec sleep 600\n");
+        stage.window();
+        stage.chooseRoot();
+        const QString before = stage.window().Commands().GetStatic("stcHelp")->Text();
+        EscWhenPainted esc(stage.window());
+        stage.import("cmdMailingImpMSO");
+        QVERIFY(esc.paints > 0);
+        QCOMPARE(stage.inserted("email"), QStringList());
+        QCOMPARE(stage.window().Commands().GetStatic("stcHelp")->Text(), before);
         QCOMPARE(stage.faults(), QStringList());
     }
 

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class QAbstractButton;
+class QLabel;
+
+namespace ui {
+
+/// What the user sees and can do while the program waits for another one. A wait that lasts is shown in the
+/// status bar and, where a modal window or the splash is in front, on that window. From then on Esc gives it
+/// up; a stop button does so at any time, and is clicked once the wait is over. Windows are only painted
+/// meanwhile: a request to close one is repeated afterwards, other mouse and key events are dropped, timers,
+/// sockets and posted events come when the event loop turns again.
+class WaitNotice : public QObject {
+    Q_OBJECT
+
+  public:
+    /// `words` say what is waited for. `tell` sets the text in the status bar; an empty one when the wait is
+    /// over.
+    WaitNotice(QString words, std::function<void(const QString&)> tell, QObject* parent);
+    ~WaitNotice() override;
+
+    /// To be called every few milliseconds with the time since the wait began; false where it was given up.
+    bool goOn(std::chrono::milliseconds waited);
+    /// To be called once after a wait, whatever became of it.
+    void over();
+
+    /// Makes it a stop button.
+    static void makeStop(QAbstractButton& button);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void turn();
+    void show();
+    QAbstractButton* stopMeant(QObject* receiver, QEvent* event) const;
+
+    std::function<void(const QString&)> m_tell;
+    QString m_words;
+    std::chrono::milliseconds m_turned{};  ///< when, since the wait began; 0: not yet
+    bool m_shown = false;
+    bool m_givenUp = false;
+    QPointer<QLabel> m_notice;  ///< on the window in front
+    QPointer<QAbstractButton> m_pressed;
+    QList<QPointer<QObject>> m_closing;  ///< windows that were asked to close
+};
+
+}  // namespace ui
