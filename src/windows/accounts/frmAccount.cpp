@@ -23,6 +23,7 @@ frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
     ColoraControlli();
     DisponiControlli();
     CollegaEventi();
+    CollegaBrowser();
     ScegliPredefinito();
     resize(730, 475);
     ui::setUpDialog(*this);
@@ -63,12 +64,16 @@ void frmAccount::showEvent(QShowEvent* mostra) {
     QDialog::showEvent(mostra);
     // The captions may have changed since the last opening.
     CollegaEtichette();
-    const int larghezza = qMax(width(), sizeHint().width());
-    resize(larghezza, qMax(height(), layout()->totalHeightForWidth(larghezza)));
+    AdattaAltezza();
     if (lstAccount->count() > 0)
         lstAccount->setFocus();
     else
         txtNomeVisual->setFocus();
+}
+
+void frmAccount::AdattaAltezza() {
+    const int larghezza = qMax(width(), sizeHint().width());
+    resize(larghezza, qMax(height(), layout()->totalHeightForWidth(larghezza)));
 }
 
 /// A box that takes the focus selects its text. The press that gives it the focus must not put the caret

@@ -14,10 +14,21 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QPushButton;
+class Status;
+
+namespace oauth {
+class Consent;
+}
+namespace ui {
+class LinkLabel;
+}
 
 /// The account window: sender accounts are made, changed and deleted here, each at the press of a button,
 /// which writes the account file at once. The window reads the file when it is created and is only hidden
 /// afterwards, so that list and table live until the program ends.
+///
+/// Where the server belongs to a provider of OAuth 2.0, a link under the password leads to its page in the
+/// browser. What comes of that is put into the controls; the user saves it as anything else.
 ///
 /// A list position is taken as an index of the table. The two part after the only account was deleted and
 /// another one was made, since the table never becomes empty.
@@ -34,6 +45,7 @@ class frmAccount : public QDialog {
   protected:
     void closeEvent(QCloseEvent* chiusura) override;
     void showEvent(QShowEvent* mostra) override;
+    void hideEvent(QHideEvent* nascosta) override;
     bool eventFilter(QObject* oggetto, QEvent* accaduto) override;
 
   private:
@@ -48,6 +60,7 @@ class frmAccount : public QDialog {
     QWidget* DisponiAvanzate();
     void ColoraControlli();
     void CollegaEtichette();
+    void AdattaAltezza();
 
     // frmAccount.cpp: what the controls do
     void CollegaEventi();
@@ -70,6 +83,13 @@ class frmAccount : public QDialog {
     void cmdNuovo_Click();
     void cmdModifica_Click();
 
+    // frmAccount_browser.cpp: the login by the browser
+    void CollegaBrowser();
+    void AggiornaAccesso();
+    void MostraAttesa();
+    void lnkBrowser_Click();
+    void AccessoFinito(const Status& esito);
+
     ElencoAccount* lstAccount;
     QLineEdit* txtNomeVisual;
     QLineEdit* txtEmail;
@@ -79,6 +99,7 @@ class frmAccount : public QDialog {
     QCheckBox* chkAutentick;
     QLineEdit* txtUsername;
     QLineEdit* txtPassword;
+    ui::LinkLabel* lnkBrowser;
     QCheckBox* chkAvanzate;
     QComboBox* cmbSaluto;
     QLineEdit* txtOutPort;
@@ -93,6 +114,7 @@ class frmAccount : public QDialog {
     /// Their object names are "lbl(0)" to "lbl(12)".
     std::array<QLabel*, 13> lbl;
 
+    oauth::Consent* consenso;
     TabellaAccount account;
     QLineEdit* appenaPremuta = nullptr;  ///< the box that takes the focus by the mouse press under way
 };

@@ -10,6 +10,7 @@
 
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
+#include "platform/ui/LinkLabel.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/accounts/frmAccount_elenco.h"
 #include "windows/core/bTheme.h"
@@ -86,6 +87,8 @@ void frmAccount::CreaCaselle() {
     txtUsername = casella("txtUsername", 255);
     txtPassword = casella("txtPassword", 255);
     txtPassword->setEchoMode(QLineEdit::Password);
+    lnkBrowser = ui::named(new ui::LinkLabel(QString(), this), "lnkBrowser");
+    lnkBrowser->hide();
     chkAvanzate = spunta("chkAvanzate", "Avanzate");
     cmbSaluto = ui::named(new QComboBox(this), "cmbSaluto");
     cmbSaluto->addItems({"EHLO", "HELO"});
@@ -200,6 +203,7 @@ QGridLayout* frmAccount::DisponiModulo() {
     campo(lbl[10], txtUsername, nullptr);
     stacca(ui::controlSpacing);
     campo(lbl[11], txtPassword, nullptr);
+    modulo->addWidget(lnkBrowser, riga++, 1, Qt::AlignLeft);
     stacca(ui::controlSpacing);
     modulo->addWidget(DisponiAvanzate(), riga++, 0, 1, 2);
     stacca(ui::controlSpacing);

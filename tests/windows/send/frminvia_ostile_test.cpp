@@ -1,7 +1,11 @@
 // The send window in front of servers that misbehave: a stop at every step of the dialogue, and a run that
 // meets one of them after the other.
 #include <QDir>
+#include <QNetworkProxy>
 
+#include "platform/oauth/Provider.h"
+#include "platform/oauth/TokenFile.h"
+#include "support/AuthorizationServer.h"
 #include "support/FullPort.h"
 #include "support/ScriptedServer.h"
 #include "support/SendStage.h"
@@ -31,16 +35,34 @@ class HostileStage {
     }
 
     /// Makes and chooses another account, which leads there.
-    void lead(quint16 port) {
+    void lead(quint16 port, const QString& password = "segreto") {
         Account account = SampleFolder::loopbackAccount(port);
         account.txtServerSMTP = "localhost";
         account.chkAutentick = "1";
         account.txtUsername = "utente";
-        account.txtPassword = "segreto";
+        account.txtPassword = password;
         stage.folder.addAccount(account);
         stage.open();
         auto* accounts = stage.control<QComboBox>("cmbAccount");
         accounts->setCurrentIndex(accounts->count() - 1);
+    }
+
+    /// Gives the user a token of the provider that is good for so long, and leads the account to `port` with
+    /// it.
+    void leadByToken(const AuthorizationServer& provider, int secs, quint16 port) {
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+        const QString folder = stage.folder.path("data/oauth");
+        QDir().mkpath(folder);
+        QFile providers(oauth::providersPath(folder));
+        if (!providers.open(QIODevice::WriteOnly)) qFatal("cannot write the providers");
+        providers.write(provider.providers());
+        providers.close();
+        const QDateTime end = QDateTime::currentDateTimeUtc().addSecs(secs);
+        if (!oauth::writeToken(folder, oauth::tokenPath(folder, "prova", "utente"),
+                               {"accesso-0", "rinnovo-0", end})
+                 .ok())
+            qFatal("cannot write the token");
+        lead(port, "OAuth2");
     }
 
     /// Whether the window still paints itself while a delivery is under way.
@@ -64,6 +86,33 @@ class TestFrmInviaOstile : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void tokenOfTheDataFolderLogsIn() {
+        const AuthorizationServer provider;
+        QByteArrayList dialogue = greeting + without(handshake, 2);
+        dialogue += {"S: 250 AUTH XOAUTH2", "C: AUTH XOAUTH2 *", "S: 235 welcome"};
+        ScriptedServer server({dialogue + message + message}, TestCertificates::get().good());
+        HostileStage hostile({"a@x.it", "b@x.it"}, 25);
+        hostile.leadByToken(provider, 3600, server.port());
+        QVERIFY(hostile.stage.run());
+        QCOMPARE(hostile.stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(server.remainder(), "");
+        QVERIFY(QByteArray::fromBase64(server.lines()[3].mid(13)).contains("auth=Bearer accesso-0\x01"));
+    }
+
+    void stopDuringTheRenewalOfATokenEndsTheDelivery() {
+        AuthorizationServer provider;
+        provider.hold();
+        HostileStage hostile({"a@x.it", "b@x.it"}, 25);
+        hostile.leadByToken(provider, 0, 25);
+        hostile.stage.pick();
+        hostile.stage.start();
+        QTRY_VERIFY(!provider.requests().isEmpty());
+        QVERIFY(hostile.isAlive());
+        hostile.stage.click("cmdFerma");
+        QVERIFY(hostile.stage.waitForEnd());
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+    }
+
     void stopEndsADeliveryAtEachStepAndTheNextRunServesAll_data() {
         QTest::addColumn<QByteArrayList>("silent");
         QTest::newRow("greeting") << QByteArrayList{};
