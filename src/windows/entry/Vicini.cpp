@@ -42,7 +42,7 @@ ui::CommandBars& barreDiMain() {
 
 /// A window by its base class.
 template <auto istanza>
-QWidget& finestra() {
+QWidget& comeWidget() {
     return istanza();
 }
 
@@ -84,11 +84,11 @@ bLANG::FinestreTradotte finestre::Tradotte() {
             .Editor = {[]() -> ui::CommandBars& { return Editor().Commands(); },
                        []() -> ui::DockPanes& { return Editor().DockWindows(); }},
             .SchedeEditor = []() -> ui::TabStrip& { return *Editor().tb; },
-            .Account = finestra<Account>,
-            .Invia = finestra<Invia>,
-            .PropBody = finestra<PropBody>,
-            .Destinatario = finestra<Destinatario>,
-            .Scelta = finestra<Scelta>,
-            .ImpDB = finestra<ImpDB>,
-            .ImpTXT = finestra<ImpTXT>};
+            .Account = comeWidget<Account>,
+            .Invia = comeWidget<Invia>,
+            .PropBody = comeWidget<PropBody>,
+            .Destinatario = comeWidget<Destinatario>,
+            .Scelta = comeWidget<Scelta>,
+            .ImpDB = comeWidget<ImpDB>,
+            .ImpTXT = comeWidget<ImpTXT>};
 }

@@ -41,7 +41,7 @@ class frmEditor : public QMainWindow {
     explicit frmEditor(Vicini intorno, QWidget* parent = nullptr);
     ~frmEditor() override;
 
-    /// The load of the window, run once by the first mention (finestre::Editor).
+    /// The load of the window, run once by the first mention.
     void Carica();
     /// Shows the window over the main one; comes back when it is hidden.
     void MostraModale();
