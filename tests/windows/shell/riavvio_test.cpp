@@ -1,9 +1,13 @@
 // The new start after a failure, and the end that the system asks for.
 #include "windows/entry/Riavvio.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
+#include <chrono>
+#include <csignal>
 #include <QProcess>
 #include <QScopeGuard>
+#include <thread>
 
 #include "platform/system/Clock.h"
 #include "platform/ui/Unattended.h"
@@ -140,6 +144,26 @@ class TestRiavvio : public QObject {
         startAnew(stage);
         QVERIFY(!nodoCorrente);
         QVERIFY(stage.ends == QList<int>{1});
+    }
+
+    void theNewStartWaitsForTheEndOfTheOldProgram() {
+        StoreStage stage;
+        const pid_t old = ::fork();
+        if (old == 0)
+            while (true)
+                ::pause();
+        writeFile(file(stage), "[Riavvio]\r\nprocesso=" + QByteArray::number(old) +
+                                   "\r\nora=" + sys::clock().now().toUTC().toString(Qt::ISODate).toLatin1() +
+                                   "\r\nposizione=1 2 3 4 0\r\ndatabase=\r\ngruppi=\r\n");
+        std::thread end([old] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+            ::kill(old, SIGTERM);
+        });
+        riavvio::Raccogli();
+        const pid_t ended = ::waitpid(old, nullptr, WNOHANG);
+        end.join();
+        if (ended != old) ::waitpid(old, nullptr, 0);
+        QCOMPARE(ended, old);
     }
 
     void anOldFileDoesNotCount() {
