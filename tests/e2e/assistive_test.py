@@ -30,7 +30,8 @@ def play(stage, program):
     hear("object:state-changed:checked", "table cell", lambda: tick(main), ["Send"])
     hear_the_count(main)
     add_account(main, server.port)
-    send(main, message)
+    hear("object:state-changed:showing", "notification", lambda: send(main, message),
+         ["Invio terminato, Email da inviare: 0, Email non inviate: 0, Email inviate: 1"])
 
     server.check_the_one_message()
     if has(main.find("table cell", "Send"), pyatspi.STATE_CHECKED):
@@ -81,8 +82,12 @@ def hear(event_name, role, doing, wanted):
     told = []
 
     def listen(event):
-        if event.source.getRoleName() == role:
-            told.append(event.source.name)
+        begins = event.detail1 == 1 or not event.type.startswith("object:state-changed")
+        try:
+            if begins and event.source.getRoleName() == role:
+                told.append(event.source.name)
+        except GLib.GError:
+            pass  # it has gone meanwhile
 
     def heard():
         while GLib.MainContext.default().iteration(False):

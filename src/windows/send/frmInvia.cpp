@@ -16,6 +16,7 @@
 #include "modules/send/Accettati.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
+#include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/DatabaseWait.h"
@@ -94,6 +95,7 @@ void frmInvia::CreaControlli() {
     prgFallite = nomina(new ui::ProgressCounter, "prgFallite");
     lblInviate = conteggio("lblInviate", "Email inviate:");
     prgInviate = nomina(new ui::ProgressCounter, "prgInviate");
+    voce = new ui::Announcer(this);
     cmdInvia = pulsante("cmdInvia", "&Invia messaggi", "document-send");
     cmdFerma = pulsante("cmdFerma", "&Ferma invio", "media-playback-stop");
     cmdChiudi = pulsante("cmdChiudi", "&Chiudi", nullptr);

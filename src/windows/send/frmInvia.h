@@ -21,6 +21,7 @@ namespace mail {
 class DeliveryControl;
 }
 namespace ui {
+class Announcer;
 class CountLabel;
 class ProgressCounter;
 }  // namespace ui
@@ -119,6 +120,7 @@ class frmInvia : public QDialog {
     ui::ProgressCounter* prgFallite;
     ui::CountLabel* lblInviate;
     ui::ProgressCounter* prgInviate;
+    ui::Announcer* voce;
     QPushButton* cmdInvia;
     QPushButton* cmdFerma;
     QPushButton* cmdChiudi;

@@ -1,8 +1,8 @@
 // The figures of a run: on the screen before a wait, and told to assistive programs.
 #include <array>
-#include <QAccessible>
 
 #include "platform/system/Clock.h"
+#include "platform/ui/Announcer.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/send/frmInvia.h"
@@ -37,6 +37,5 @@ void frmInvia::RaccontaConteggi(bool finito) {
     for (ui::ProgressCounter* barra : {prgDaInviare, prgFallite, prgInviate})
         barra->tell();
     setAccessibleDescription(racconto);
-    QAccessibleEvent avviso(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&avviso);
+    voce->say(racconto);
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScopeGuard>
 
+#include "platform/ui/Announcer.h"
 #include "support/SendStage.h"
 #include "windows/core/bTheme.h"
 
@@ -114,6 +115,11 @@ class TestFrmInviaFinestra : public QObject {
         QCOMPARE(seen, QStringList({"", first, first, first, fourth, fourth}));
         QCOMPARE(stage.window->accessibleDescription(),
                  "Invio terminato, Email da inviare: 0, Email non inviate: 1, Email inviate: 5");
+        const QAccessibleInterface* voice =
+            QAccessible::queryAccessibleInterface(stage.window->findChild<ui::Announcer*>());
+        QCOMPARE(voice->role(), QAccessible::Notification);
+        QCOMPARE(voice->text(QAccessible::Name), stage.window->accessibleDescription());
+        QVERIFY(!voice->state().invisible);
         for (const char* name : {"lblDaInviare", "lblFallite", "lblInviate"})
             QCOMPARE(
                 QAccessible::queryAccessibleInterface(stage.control<QLabel>(name))->text(QAccessible::Name),

@@ -1,0 +1,33 @@
+#include "platform/ui/Announcer.h"
+
+#include <QAccessibleWidget>
+
+namespace ui {
+
+namespace {
+
+QAccessibleInterface* accessibleAnnouncer(const QString&, QObject* object) {
+    auto* announcer = qobject_cast<Announcer*>(object);
+    return announcer ? new QAccessibleWidget(announcer, QAccessible::Notification) : nullptr;
+}
+
+}  // namespace
+
+Announcer::Announcer(QWidget* window) : QWidget(window) {
+    static const bool installed = (QAccessible::installFactory(accessibleAnnouncer), true);
+    Q_UNUSED(installed)
+    setFixedSize(1, 1);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+// Qt 6.4 hands the alert to no assistive program; that a notification shows, it does.
+void Announcer::say(const QString& sentence) {
+    hide();
+    setAccessibleName(sentence);
+    show();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+}  // namespace ui
