@@ -58,7 +58,7 @@ void comandiDestinatario::Modifica() {
 void comandiDestinatario::Elimina(ado::Command& comando) {
     using ui::MessageDialog;
     if (MessageDialog::show("Sicuro di voler cancellare questo destinatario?\r\nOperazione irreversibile.",
-                            MessageDialog::AskNotice, "Attenzione") != MessageDialog::Yes)
+                            MessageDialog::AskNotice, "Attenzione", MessageDialog::No) != MessageDialog::Yes)
         return;
     comando.setCommandText("DELETE FROM [tb_destinatari] WHERE id = " + griglia::idCorrente() + " ;");
     esigi(comando.execute());

@@ -95,6 +95,7 @@ class TestGrigliaDestinatari : public QObject {
         stage.command("cmdPopMailingUserDel");
         QVERIFY(
             stage.oneBox("Sicuro di voler cancellare questo destinatario?\r\nOperazione irreversibile.", 68));
+        QCOMPARE(MessageDialog::shown().constLast().defaultAnswer, int(MessageDialog::No));
         QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
         QCOMPARE(stage.grd().Rows(), 2);
     }
