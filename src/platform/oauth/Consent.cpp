@@ -92,9 +92,8 @@ void Consent::onToken(const Result<Token>& token) {
 }
 
 void Consent::end(const Status& outcome) {
-    const Status told = outcome;
     cancel();
-    Q_EMIT finished(told);
+    Q_EMIT finished(outcome);
 }
 
 }  // namespace oauth

@@ -33,7 +33,7 @@ class EntryReader {
         QStringList all;
         if (!m_entry.value(field).isArray()) blame(field, QStringLiteral("non è un elenco"));
         const QJsonArray values = m_entry.value(field).toArray();
-        for (const QJsonValue& value : values)
+        for (const auto& value : values)
             all.append(text(field, value));
         if (all.isEmpty()) blame(field, QStringLiteral("l'elenco è vuoto"));
         if (all.contains(QString())) blame(field, QStringLiteral("una voce è vuota"));
@@ -41,7 +41,7 @@ class EntryReader {
     }
 
     QUrl endpoint(const QString& field) {
-        const QUrl url(text(field), QUrl::StrictMode);
+        QUrl url(text(field), QUrl::StrictMode);
         if (!url.isValid() || url.host().isEmpty())
             blame(field, QStringLiteral("non è un indirizzo"));
         else if (url.scheme() != QLatin1String("https"))
@@ -77,7 +77,7 @@ class EntryReader {
 
     QString text(const QString& field, const QJsonValue& value) {
         static const QRegularExpression printable(QStringLiteral("\\A[\\x20-\\x7E]*\\z"));
-        const QString all = value.toString();
+        QString all = value.toString();
         if (!value.isString())
             blame(field, QStringLiteral("non è un testo"));
         else if (all.size() > longestText || !printable.match(all).hasMatch())

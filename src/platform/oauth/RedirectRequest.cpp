@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <QByteArrayList>
 
 namespace oauth {
 
