@@ -262,6 +262,8 @@ int SmtpSession::limitMs() const {
         case Step::Ehlo:
         case Step::Helo:
             return std::max(m_times.stall, m_times.hello);
+        case Step::Auth:
+            return std::max(m_times.stall, m_times.login);
         case Step::Body:
             return hasGivenAll() && !wasAccepted() ? std::max(m_times.stall, m_times.finalReply)
                                                    : m_times.stall;

@@ -37,6 +37,7 @@ struct SmtpTimes {
     int greeting =
         30000;  ///< at the first connection to a host in a run, and while it greets later than `stall`
     int hello = 30000;          ///< the reply to EHLO or HELO
+    int login = 30000;          ///< each reply of a login: servers delay the refusal of a wrong password
     int finalReply = 600000;    ///< the reply to the final point: giving up there delivers the message twice
     int farewell = 5000;        ///< replies that are still awaited when the program ends
     int refusedLogin = 300000;  ///< a login that was refused for its password is not tried again so long

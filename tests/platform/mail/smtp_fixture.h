@@ -34,7 +34,7 @@ class Client {
         smtp.BodyText = QStringLiteral("Buongiorno");
         smtp.BodyHtml = QStringLiteral("<html><body>Buongiorno</body></html>");
         smtp.TimeoutSecs = 10;
-        smtp.StageTimes = {.greeting = 0, .hello = 0, .finalReply = 0, .farewell = 0};
+        smtp.StageTimes = {.greeting = 0, .hello = 0, .login = 0, .finalReply = 0, .farewell = 0};
         QObject::connect(&smtp, &mail::DeliveryControl::SendDone, [this] { hear({true, 0, {}}); });
         QObject::connect(&smtp, &mail::DeliveryControl::SendError, [this](int code, const QString& text) {
             hear({false, code, text});

@@ -8,7 +8,7 @@ using testing_support::ScriptedServer;
 namespace {
 
 constexpr int generous = 600000;
-constexpr mail::SmtpTimes none{.greeting = 0, .hello = 0, .finalReply = 0, .farewell = 0};
+constexpr mail::SmtpTimes none{.greeting = 0, .hello = 0, .login = 0, .finalReply = 0, .farewell = 0};
 const QByteArrayList lateHello{"PAUSE 1600", "S: 220 ready", "C: EHLO *", "S: 250 ready"};
 
 /// A client whose time-out is a second.
@@ -78,6 +78,18 @@ TEST(Stages, ReplyToHeloMayBeLate) {
     HastyClient client(server.port(), with(&mail::SmtpTimes::hello, generous));
     client.smtp.HeloMode = 1;
     EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(Stages, RefusalOfAPasswordMayBeLateAndIsKept) {
+    ScriptedServer server({{"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250 AUTH LOGIN", "C: AUTH LOGIN",
+                            "PAUSE 1600", "S: 334 VXNlcm5hbWU6", "C: *", "S: 334 UGFzc3dvcmQ6", "C: *",
+                            "PAUSE 1600", "S: 535 wrong", "C: QUIT"}});
+    HastyClient client(server.port(), with(&mail::SmtpTimes::login, generous));
+    client.smtp.UseAuth = true;
+    client.smtp.UserName = client.smtp.UserPassword = QStringLiteral("x");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(client.send().code, 535);
     EXPECT_EQ(server.remainder(), "");
 }
 
