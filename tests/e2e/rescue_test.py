@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Kills the built program while a message is written, starts it again and takes the message up from its rescue copy; then
-stops the browser's process, saves, and sees that nothing older is written. Looks at the editor's window meanwhile: its
+stops the browser's process, saves, and sees that nothing older is written; then lets a save fail, and takes the text up
+again in the new start that the failure offers. Looks at the editor's window meanwhile: its
 state, its owner and its modality hold from its first opening on.
 
     rescue_test.py BUILD_FOLDER
@@ -9,12 +10,16 @@ import os
 import pathlib
 import signal
 import subprocess
+import time
 
 import desktop
 from desktop import fail
 
 desktop.inside()
 from accessible import Window, wait_for  # noqa: E402  looks for the bus when it is imported
+
+
+OFFER = 10  # seconds after a start in which no new one is offered
 
 
 def keys(*names):
@@ -101,8 +106,7 @@ def take_up(stage, program):
     return running, editor
 
 
-def save_over_a_stalled_browser(stage, running):
-    path = stage.work / "nuovo.mss"
+def save_over_a_stalled_browser(stage, running, path):
     stopped = renderers(running)
     if not stopped:
         fail("no process holds the document")
@@ -134,20 +138,48 @@ def save(path):
     chooser.gone()
 
 
-def play(stage, program):
-    write_and_kill(stage, program)
-    running, editor = take_up(stage, program)
-    save_over_a_stalled_browser(stage, running)
+def restart_after_a_failed_save(stage, running, path):
+    """The text that could not be saved is offered in the new start."""
+    path.unlink()
+    path.mkdir()
+    editor = Window("frame", "Editor Messaggi")
+    editor.find("text", "Oggetto").queryComponent().grabFocus()
+    editor.wait_focus("text", "Oggetto")
+    type_text("Poscritto")
+    wait_for(lambda: b"Poscritto" in copies(stage), "a copy of what was added")
+    keys("ctrl+s")
+    Window("alert", "Vestrola").press("Riavvia")
+    stage.ends(running, 1)
+    question = Window("alert", "Attenzione", active=False)
+    second = question.frame.getApplication().get_process_id()
+    question.press("Sì")
+    editor = Window("frame", "Editor Messaggi - [NuovoFile.mss*]")
+    editor.wait_focus("text", "Oggetto")
+    if "Poscritto" not in editor.find("text", "Oggetto").queryText().getText(0, -1):
+        fail("the new start lost what was added")
     keys("ctrl+w")
+    Window("alert", "Attenzione").press("No")
     editor.gone()
+    if copies(stage):
+        fail("the copy is still there after No")
     Window("frame", "Vestrola")
     keys("ctrl+q")
-    stage.ends(running, 0)
+    wait_for(lambda: not os.path.exists(f"/proc/{second}"), "the end of the new start")
+
+
+def play(stage, program):
+    path = stage.work / "nuovo.mss"
+    write_and_kill(stage, program)
+    begin = time.monotonic()
+    running, _ = take_up(stage, program)
+    save_over_a_stalled_browser(stage, running, path)
+    time.sleep(max(0.0, begin + OFFER + 1 - time.monotonic()))  # the offer is a matter of time
+    restart_after_a_failed_save(stage, running, path)
     again = stage.start([program])
     Window("frame", "Vestrola")
     keys("ctrl+q")
     stage.ends(again, 0)
-    print("a message outlived SIGKILL, and a stalled browser had nothing older saved")
+    print("a message outlived SIGKILL and a failed save, and a stalled browser had nothing older saved")
 
 
 if __name__ == "__main__":
