@@ -71,17 +71,17 @@ void frmInvia::CaricaAccount() {
 
 void frmInvia::CaricaPausa() {
     cmbPausa->clear();
-    for (const char* voce : {"0.0 ", "0.5 ", "1.0 ", "1.5 ", "2.0 ", "2.5 ", "3.0 ", "3.5 ", "4.0 ", "4.5 ",
-                             "5.0 ", "10 ", "20 ", "30 ", "60 "})
-        cmbPausa->addItem(voce + bVAR::goSecondi);
+    for (const char* scelta : {"0.0 ", "0.5 ", "1.0 ", "1.5 ", "2.0 ", "2.5 ", "3.0 ", "3.5 ", "4.0 ", "4.5 ",
+                               "5.0 ", "10 ", "20 ", "30 ", "60 "})
+        cmbPausa->addItem(scelta + bVAR::goSecondi);
     cmbPausa->setCurrentIndex(0);
 }
 
 void frmInvia::CaricaTimeout() {
     cmbTimeout->clear();
     // Two blanks behind the 5: the value is read back from the first three characters.
-    for (const char* voce : {"5  ", "10 ", "20 ", "30 ", "60 "})
-        cmbTimeout->addItem(voce + bVAR::goSecondi);
+    for (const char* scelta : {"5  ", "10 ", "20 ", "30 ", "60 "})
+        cmbTimeout->addItem(scelta + bVAR::goSecondi);
     cmbTimeout->setCurrentIndex(0);
 }
 
