@@ -37,18 +37,31 @@ void write(const QString& path, const QByteArray& content) {
 SampleFolder::SampleFolder() {
     QDir(m_dir.path()).mkdir("data");
     sys::setProgramFolder(m_dir.path() + '/');
-    esigi(schema::CreaDatabase(database().toStdString()));
-    auto file = esigi(jet::Database::open(database().toStdString()));
-    esigi(file->begin());
-    const jet::Value group[] = {{}, int64_t{0}, std::string("Clienti")};
-    esigi(esigi(file->table("tb_gruppi"))->insert(group));
-    esigi(file->commit());
+    makeDatabase(schema::TabelleNuove());
     CambiaPercorsoDBase(database());
     static_cast<void>(CaricaPercorsoDBase());
     write(cartellaDati() + "Account.imp", {});
     write(path("LANG.lng"),
           "[<LNG1>]Italiano\r\n[<MDLO>]: bVAR\r\n[<NOME>]Lingua[<LNG1>]&Lingua[<LNG2>]\r\n");
     write(path("LANGz.lng"), "Italiano\r\n");
+}
+
+/// With the group "Clienti".
+void SampleFolder::makeDatabase(const std::vector<jet::NewTable>& tables) const {
+    esigi(jet::createDatabase(database().toStdString(), tables));
+    auto file = esigi(jet::Database::open(database().toStdString()));
+    esigi(file->begin());
+    const jet::Value group[] = {{}, int64_t{0}, std::string("Clienti")};
+    esigi(esigi(file->table("tb_gruppi"))->insert(group));
+    esigi(file->commit());
+}
+
+void SampleFolder::narrowGroupNames(int characters) {
+    ado::closeAll();
+    QFile::remove(database());
+    std::vector<jet::NewTable> tables = schema::TabelleNuove();
+    tables.front().columns.back().characters = static_cast<uint16_t>(characters);
+    makeDatabase(tables);
 }
 
 SampleFolder::~SampleFolder() {

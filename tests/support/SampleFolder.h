@@ -8,6 +8,7 @@
 
 #include "modules/accounts/AccountFile.h"
 #include "modules/message/MessaggioMss.h"
+#include "platform/jet/NewDatabase.h"
 
 namespace testing_support {
 
@@ -45,11 +46,16 @@ class SampleFolder {
     /// Subject ":::rgs:::", body "Gentile :::nom:::", normal priority, no attachment.
     QString writeMessage() const;
 
+    /// Puts a database in place whose column of the groups' names is narrower than a new one's.
+    void narrowGroupNames(int characters);
+
     /// Takes the database away and puts it back.
     void hideDatabase();
     void showDatabase();
 
   private:
+    void makeDatabase(const std::vector<jet::NewTable>& tables) const;
+
     QTemporaryDir m_dir;
     TabellaAccount m_accounts;
 };

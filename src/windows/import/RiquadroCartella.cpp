@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "modules/store/Schema.h"
+#include "modules/store/larghezzaNome.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
 #include "windows/core/bTheme.h"
@@ -19,7 +19,6 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
       txtCartella(ui::named(new ui::LineEdit("Nuova cartella", this), "txtCartella")) {
     opt[0]->setChecked(true);
     txtCartella->setEnabled(false);
-    txtCartella->setMaxLength(schema::larghezzaNomeGruppo);
     txtCartella->setMinimumHeight(ui::fieldHeight);
     lbl->setBuddy(opt[0]);
     for (QRadioButton* opzione : opt) {
@@ -44,9 +43,10 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
 }
 
 /// The box of the name has no caption of its own: it is called after its option, whose text the language file
-/// may have changed.
+/// may have changed. It takes what the column of the present database holds.
 void RiquadroCartella::showEvent(QShowEvent* mostra) {
     QWidget::showEvent(mostra);
+    txtCartella->setMaxLength(LarghezzaNomeGruppo());
     txtCartella->setAccessibleName(ui::spokenCaption(opt[1]->text()));
 }
 

@@ -5,7 +5,6 @@
 #include "modules/core/bFunctions.h"
 #include "modules/core/bGlobal.h"
 #include "modules/store/nodo.h"
-#include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Evento.h"
@@ -36,7 +35,6 @@ frmGruppi::frmGruppi(const Principale& finestra, QWidget* parent)
     TREE->setImage("Mailing", "server-database");
     TREE->setImage("Close", "folder");
     TREE->setImage("Open", "folder-open");
-    TREE->setLongestLabel(schema::larghezzaNomeGruppo);
     TREE->setEmptyText("Nuova cartella: tasto destro sulla radice");
     auto* area = new QVBoxLayout(this);
     area->setContentsMargins(0, 0, 0, 0);

@@ -1,5 +1,6 @@
 // What the user does to the tree.
 #include "modules/core/bGlobal.h"
+#include "modules/store/larghezzaNome.h"
 #include "modules/store/nodo.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
@@ -34,8 +35,10 @@ void frmGruppi::CollegaEventi() {
             [this](const ui::GroupNodeRef& nodo, bool* annulla) { *annulla = nodo->Key() != chiaveNodo; });
     connect(TREE, &GroupTree::draggedOver, TREE, &GroupTree::setDropHighlight);
     connect(TREE, &GroupTree::click, this, [this] { evento([this] { TREEClick(); }); });
-    connect(TREE, &GroupTree::beforeLabelEdit, this,
-            [this](bool* annulla) { *annulla = chiaveNodo == "K0"; });
+    connect(TREE, &GroupTree::beforeLabelEdit, this, [this](bool* annulla) {
+        *annulla = chiaveNodo == "K0";
+        if (!*annulla) TREE->setLongestLabel(LarghezzaNomeGruppo());
+    });
     connect(TREE, &GroupTree::afterLabelEdit, this, [this](const QString& testo, bool* annulla) {
         evento([&] { TREEAfterLabelEdit(testo, annulla); });
     });

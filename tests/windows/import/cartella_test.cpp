@@ -146,6 +146,20 @@ class TestImportCartella : public QObject {
         QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), QString(255, 'n'));
     }
 
+    void aNameLongerThanTheColumnOfThisDatabaseCannotBeTyped() {
+        Stage stage;
+        stage.folder.narrowGroupNames(20);
+        stage.window();
+        stage.form().hide();
+        stage.form().show();
+        stage.click("opt(1)");
+        auto* name = stage.control<QLineEdit>("txtCartella");
+        QCOMPARE(name->text(), "Nuova cartella");
+        name->insert(QString(300, 'n'));
+        const QString id = choose({false, name->text()}).value();
+        QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;").size(), 20);
+    }
+
     void selectedGroupIsTheCurrentNode() {
         Stage stage;
         stage.window();

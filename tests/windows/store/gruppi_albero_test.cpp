@@ -240,6 +240,16 @@ class TestGruppiAlbero : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
+    void nameLongerThanTheColumnOfThisDatabaseCannotBeTyped() {
+        StoreStage stage;
+        stage.folder.narrowGroupNames(20);
+        stage.clickNode("K1");
+        stage.command("cmdPopMailingRinomina");
+        typeLabel(stage, QString(300, 'x'));
+        QCOMPARE(StoreStage::look("SELECT nome FROM [tb_gruppi] WHERE id = 1;"), QString(20, 'x'));
+        QVERIFY(stage.ends.isEmpty());
+    }
+
     void renameOfAGroupThatWentAwayEndsTheProgram() {
         StoreStage stage;
         stage.clickNode("K1");
