@@ -5,6 +5,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "platform/html/Bounds.h"
 #include "platform/system/TextWriter.h"
 #include "platform/text/Blanks.h"
 
@@ -19,20 +20,15 @@ const QString endAllg = QStringLiteral("[<END-ALLG>]");
 const QString iniMess = QStringLiteral("[<INI-MESS>]");
 const QString endMess = QStringLiteral("[<END-MESS>]");
 
-// A body of more characters than this is no message: it ends the reading before it takes the memory.
-constexpr qsizetype corpoMassimo = 64 * 1024 * 1024;
-
 QString senzaMarcatori(QString riga, const QString& inizio, const QString& fine) {
     riga.remove(inizio).remove(fine);
     return text::trimBlanks(riga).toString();
 }
 
-// Adds a line of the body; fails when the body grows beyond its limit.
-void aggiungi(QString& corpo, const QString& riga) {
-    if (corpo.size() + riga.size() > corpoMassimo) {
-        fallisci(ErrorCode::Overflow, QStringLiteral("Il messaggio è troppo grande"));
-    }
+// Adds a line of the body. False once there is more than anybody takes: the rest needs no reading.
+bool aggiungi(QString& corpo, const QString& riga) {
     corpo += riga + QStringLiteral("\r\n");
+    return corpo.size() <= html::mostCharacters;
 }
 
 }  // namespace
@@ -86,11 +82,9 @@ std::optional<AllegatoMss> LettoreMss::allegato() {
 QString LettoreMss::corpo() {
     QString corpo;
     leggiRiga();  // the row that opens the body, whatever it holds
-    Prosegui prosegui;
     bool altre = m_riga != endMess;
-    while (altre && leggiRiga() && text::trimBlanks(m_riga) != endMess) {
-        altre = prosegui([&] { aggiungi(corpo, m_riga); });
-    }
+    while (altre && leggiRiga() && text::trimBlanks(m_riga) != endMess)
+        altre = aggiungi(corpo, m_riga);
     return corpo;
 }
 
@@ -113,7 +107,6 @@ QString LeggiCorpoMss(const QString& percorso) {
     QString corpo;
     while (true) {
         esigi(file.readLine(riga));
-        if (text::trimBlanks(riga) == endMess) return corpo;
-        aggiungi(corpo, riga);
+        if (text::trimBlanks(riga) == endMess || !aggiungi(corpo, riga)) return corpo;
     }
 }

@@ -2,14 +2,17 @@
 
 #include <QString>
 
+#include "platform/Status.h"
+
 /// An HTML document held in memory without a browser: text goes in, the document's normal form and its
 /// visible text come out. Page scripts do not run and nothing is loaded.
 ///
 /// Any text is a document: it is read as the HTML standard tells browsers to (missing tags supplied, wrong
-/// ones mended). A text whose reading would take unbounded time or memory is read without its tags.
+/// ones mended). One that is too large or too deep (platform/html/Bounds.h) is refused.
 class HtmlDocument {
   public:
-    void setDocumentHTML(const QString& html);
+    /// A failure (Overflow) where the text is refused; the document is then the one it was.
+    Status setDocumentHTML(const QString& html);
 
     /// The normal form: the parsed document written by the serialisation rules of the HTML standard. Lines
     /// end in LF as the parser leaves them. Empty until a document was set. Setting the normal form gives the

@@ -121,8 +121,10 @@ class HtmlView : public QWidget {
     Result<QString> documentHTML() const;
 
     /// Replaces the document, the undo list and the selection (the caret is at the start). Any text is a
-    /// document. Ends in documentComplete(), during the call if the browser is there, else after it was
-    /// loaded. The document is replaced in any case: with a failure, when the browser goes on.
+    /// document that is not too large or too deep (platform/html/Bounds.h): such a one is refused (Overflow),
+    /// and nothing changes. Ends in documentComplete(), during the call if the browser is there, else after
+    /// it was loaded. After any other failure the document is replaced all the same, when the browser goes
+    /// on.
     Status setDocumentHTML(const QString& html);
 
     /// Whether the browser answers now. True as well while no browser holds the document.

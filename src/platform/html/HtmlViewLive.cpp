@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "platform/html/Bounds.h"
 #include "platform/html/ClipboardContent.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/html/HtmlViewPlugin.h"
@@ -74,6 +75,7 @@ void HtmlView::Live::fail(const QString& reason) {
 }
 
 Status HtmlView::Live::setSource(const QString& html) {
+    if (Status fits = html::readable(html); !fits.ok()) return fits;
     awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
@@ -151,8 +153,8 @@ Result<QString> HtmlView::Live::text() {
 QString HtmlView::Live::knownText() {
     if (m_text.isNull()) {
         HtmlDocument document;
-        document.setDocumentHTML(m_source);
-        m_text = document.documentHTML();
+        // It was read when it came; what bounds the time of a reading may hit this one
+        m_text = document.setDocumentHTML(m_source).ok() ? document.documentHTML() : m_source;
     }
     return m_text;
 }

@@ -21,8 +21,16 @@ void shareContexts() {
     qt_gl_set_global_share_context(context);
 }
 
+/// No page names a host that is looked up, and nothing is sent through a proxy: the engine is told at its
+/// start that there is no such name. Rules that the user's own flags hold come before and are overruled.
+void closeNameResolution() {
+    static constexpr char variable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+    qputenv(variable, qgetenv(variable) + " --host-resolver-rules=\"MAP * ~NOTFOUND\" --no-proxy-server");
+}
+
 CreateBrowser* load(QString& failure) {
     shareContexts();
+    closeNameResolution();
     const QString program = QCoreApplication::applicationDirPath();
     for (const QString& folder : QStringLiteral(VESTROLA_PLUGIN_FOLDERS).split(':')) {
         const QString path = program + '/' + folder + QStringLiteral("/libvestrola_browser.so");

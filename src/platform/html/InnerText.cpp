@@ -98,8 +98,7 @@ struct Opened {
     bool hasPart = false;  // it had a row or a cell already
 };
 
-/// Goes through the body with a path of its own instead of the call stack, since a document's depth has no
-/// bound.
+/// Goes through the body with a path of its own instead of the call stack.
 class Walk {
   public:
     explicit Walk(const GumboNode& body) { open(body, Layout()); }

@@ -1,8 +1,12 @@
 #include "platform/html/ParseTree.h"
 
+#include <algorithm>
 #include <csetjmp>
 #include <csignal>
 #include <ctime>
+#include <vector>
+
+#include "platform/html/Bounds.h"
 
 namespace {
 
@@ -112,35 +116,38 @@ QByteArray withMarks(const QByteArray& text) {
     return from == 0 ? text : marked + text.mid(from);
 }
 
-QByteArray withoutTags(const QByteArray& text) {
-    QByteArray plain;
-    plain.reserve(text.size());
-    bool inTag = false;
-    for (const char c : text) {
-        if (c == '<') inTag = true;
-        if (!inTag) plain += c;
-        if (c == '>') inTag = false;
+int depthOf(const GumboNode& document) {
+    struct Opened {
+        const GumboNode* node;
+        unsigned nextChild = 0;
+    };
+    std::vector<Opened> path{{&document}};
+    std::size_t deepest = 0;
+    while (!path.empty()) {
+        Opened& current = path.back();
+        const GumboVector& children = childrenOf(*current.node);
+        if (current.nextChild == children.length) {
+            path.pop_back();
+            continue;
+        }
+        path.push_back({static_cast<const GumboNode*>(children.data[current.nextChild++])});
+        if (elementOf(*path.back().node) != nullptr) deepest = std::max(deepest, path.size() - 1);
     }
-    return plain;
+    return static_cast<int>(deepest);
 }
 
 }  // namespace
 
-ParseTree::ParseTree(const QByteArray& utf8) : m_text(withMarks(utf8)) {
-    if (!parse()) {
-        m_text = withoutTags(utf8);
-        m_memory.release();
-        parse();
-    }
-}
-
-bool ParseTree::parse() {
+ParseTree::ParseTree(const QByteArray& utf8)
+    : m_text(withMarks(utf8)),
+      m_status(html::boundTags({utf8.constData(), static_cast<std::size_t>(utf8.size())})) {
+    if (!m_status.ok()) return;
     const auto length = static_cast<std::size_t>(m_text.size());
     Guard guard{&m_memory, memoryAtLeast + memoryPerByte * length,
                 processorSeconds() + secondsAtLeast + secondsPerByte * static_cast<double>(length)};
     const AssertionNet net(guard);
     m_document = parseWithin(guard, m_text);
-    return m_document != nullptr;
+    m_status = m_document != nullptr ? html::boundDepth(depthOf(*m_document)) : html::unreadable();
 }
 
 const GumboVector& childrenOf(const GumboNode& node) {

@@ -6,24 +6,27 @@
 #include <memory_resource>
 #include <QByteArray>
 
+#include "platform/Status.h"
+
 /// Gumbo's tree of one document, with all the memory it takes.
 ///
-/// The time and the memory of a parse are bounded: nesting and open formatting elements can make the work of
-/// the standard's algorithm grow with the square of the text. A document that exceeds the bounds is read
-/// again without its tags, so that its text survives. No ordinary document comes near them.
+/// Nesting, attributes and open formatting elements can make the work of the standard's algorithm grow with
+/// the square of the text. So the tags are looked at first, and the time and the memory of the parse are
+/// bounded as well; what exceeds the bounds of platform/html/Bounds.h, or these, is refused.
 class ParseTree {
   public:
     explicit ParseTree(const QByteArray& utf8);
     ParseTree(const ParseTree&) = delete;
     ParseTree& operator=(const ParseTree&) = delete;
 
-    /// Never null; lives as long as this object. Its depth has no bound: walk it without recursion.
+    /// Why the document was refused.
+    const Status& status() const { return m_status; }
+    /// Where the status is ok: not null, and no deeper than html::mostDepth. Lives as long as this object.
     const GumboNode* document() const { return m_document; }
 
   private:
-    bool parse();
-
     QByteArray m_text;  // the tree points into it
+    Status m_status;
     std::pmr::unsynchronized_pool_resource m_memory;
     const GumboNode* m_document = nullptr;
 };

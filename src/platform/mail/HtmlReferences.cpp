@@ -6,12 +6,18 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/mail/HtmlTokens.h"
+#include "platform/html/HtmlTokens.h"
 
 namespace mail {
 namespace {
 
 using namespace std::string_view_literals;
+using html::HtmlTag;
+using html::HtmlTokens;
+using html::isHtmlBlank;
+using html::sameHtmlText;
+using html::startsWithHtmlText;
+using html::trimmedHtml;
 using std::string_view;
 
 constexpr qsizetype longestLinkText = 300;

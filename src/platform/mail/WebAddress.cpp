@@ -5,12 +5,13 @@
 #include <cstdint>
 #include <QString>
 
-#include "platform/mail/HtmlTokens.h"
+#include "platform/html/HtmlTokens.h"
 
 namespace mail {
 namespace {
 
 using namespace std::string_view_literals;
+using html::startsWithHtmlText;
 using std::string_view;
 
 bool mayStand(char c) {

@@ -88,7 +88,9 @@ void frmEditor::CambiaScheda(int da, int a) {
             const QScopedValueRollback indietro(tornaIndietro, true);
             tb->setCurrentIndex(da);
         }
-        return AvvisaVista(spostato, "Riprova fra qualche istante.");
+        return AvvisaVista(spostato, spostato.code() == ErrorCode::Overflow
+                                         ? "Il testo resta nell'origine, il messaggio è quello di prima."
+                                         : "Riprova fra qualche istante.");
     }
     ImpostaBarre(a == Modifica);
     if (a == Modifica) AggiornaStatoDesign();
@@ -96,7 +98,7 @@ void frmEditor::CambiaScheda(int da, int a) {
     if (!tb->tabBar()->hasFocus()) tb->currentWidget()->setFocus();
 }
 
-/// Fails, with every view as it was, where the design view does not answer.
+/// Fails, with every view as it was, where the design view does not answer or refuses the text.
 Status frmEditor::SpostaBody(int da, int a) {
     if (da == Modifica) return MostraBody(a);
     if (da != Origine) return {};
@@ -112,8 +114,12 @@ Status frmEditor::MostraBody(int scheda) {
     if (scheda == Modifica) return {};
     const Result<QString> corpo = DHTML->documentHTML();
     if (!corpo.ok()) return corpo.status();
+    if (scheda == Anteprima) {
+        // An answer that does not come is no reason to stay; a body that grew too large to be shown is.
+        const Status mostrato = WEB->setDocumentHTML(corpo.value());
+        if (mostrato.code() == ErrorCode::Overflow) return mostrato;
+    }
     ScriviOrigine(corpo.value());
-    if (scheda == Anteprima) static_cast<void>(WEB->setDocumentHTML(corpo.value()));
     return {};
 }
 

@@ -1,7 +1,11 @@
 // The document and its file.
+#include <utility>
+#include <vector>
+
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
 #include "modules/message/MessaggioMss.h"
+#include "platform/html/Bounds.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
@@ -39,6 +43,15 @@ void AvvisaCaratteri(const MessaggioMss& messaggio) {
         testo += "\r\nPercorsi degli allegati: " + allegati.join(' ') +
                  "\r\nQuesti allegati non saranno trovati: rinomina i file.";
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
+}
+
+/// Tells of a body that has grown beyond what its readers take, while it is still here.
+void AvvisaLimiti(const QString& corpo) {
+    const Status leggibile = html::readable(corpo);
+    if (!leggibile.ok())
+        ui::MessageDialog::show(
+            "Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.\r\n" + leggibile.text(),
+            ui::MessageDialog::Notice, "Attenzione");
 }
 
 }  // namespace
@@ -86,10 +99,12 @@ void frmEditor::SalvaMessaggio() {
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
     CopiaPrimaDiScrivere(messaggio->CorpoHTML);
-    ScriviMessaggio(percorsoFile, conFiniRiga(*messaggio));
+    const MessaggioMss scritto = conFiniRiga(*messaggio);
+    ScriviMessaggio(percorsoFile, scritto);
     ImpostaFile(percorsoFile);
     CopiaDopoScrittura(messaggio->CorpoHTML);
     AvvisaCaratteri(*messaggio);
+    AvvisaLimiti(scritto.CorpoHTML);
 }
 
 void frmEditor::SalvaMessaggioCome() {
@@ -99,13 +114,15 @@ void frmEditor::SalvaMessaggioCome() {
     if (!messaggio) return;
     CopiaPrimaDiScrivere(messaggio->CorpoHTML);
     Prosegui prosegui;
-    const bool scritto = prosegui([&] { ScriviMessaggio(*percorso, conFiniRiga(*messaggio)); });
+    const MessaggioMss daScrivere = conFiniRiga(*messaggio);
+    const bool scritto = prosegui([&] { ScriviMessaggio(*percorso, daScrivere); });
     ImpostaFile(*percorso);
     fileAperto = true;
     percorsoFile = *percorso;
     if (scritto) {
         CopiaDopoScrittura(messaggio->CorpoHTML);
-        return AvvisaCaratteri(*messaggio);
+        AvvisaCaratteri(*messaggio);
+        return AvvisaLimiti(daScrivere.CorpoHTML);
     }
     SegnaModificato();
     ui::MessageDialog::show("Il messaggio non è stato salvato in " + *percorso + ":\r\n" + prosegui.testo() +
@@ -115,9 +132,7 @@ void frmEditor::SalvaMessaggioCome() {
 
 void frmEditor::ApriMessaggio() {
     const auto percorso = ui::FileDialog::open("Apri messaggio", filtro);
-    if (!percorso) return;
-    NuovoMessaggio();
-    LeggiMessaggio(*percorso);
+    if (percorso) LeggiMessaggio(*percorso);
 }
 
 void frmEditor::ImpostaTestata(const QString& oggetto, const QString& priorita) {
@@ -137,17 +152,25 @@ bool frmEditor::AggiungiAllegato(const AllegatoMss& allegato) {
     return false;
 }
 
+/// The document on show goes only once the file is known to hold one that can take its place.
 void frmEditor::LeggiMessaggio(const QString& percorso) {
     LettoreMss lettore(percorso);
     const QString oggetto = lettore.oggetto();
-    ImpostaTestata(oggetto, lettore.priorita());
-    bool lasciato = false;
-    while (const auto allegato = lettore.allegato())
-        if (!AggiungiAllegato(*allegato)) lasciato = true;
+    const QString priorita = lettore.priorita();
+    std::vector<AllegatoMss> allegati;
+    while (auto allegato = lettore.allegato())
+        allegati.push_back(std::move(*allegato));
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
     QString corpo = lettore.corpo();
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
+    if (const Status leggibile = html::readable(corpo); !leggibile.ok())
+        return AvvisaVista(leggibile, "Il messaggio nella finestra resta quello di prima.");
+    NuovoMessaggio();
+    ImpostaTestata(oggetto, priorita);
+    bool lasciato = false;
+    for (const AllegatoMss& allegato : allegati)
+        if (!AggiungiAllegato(allegato)) lasciato = true;
     static_cast<void>(DHTML->setDocumentHTML(corpo));
     // Whichever view is on show shows the message that was opened.
     if (!MostraBody(tb->currentIndex()).ok()) ScriviOrigine(corpo);

@@ -47,8 +47,8 @@ MessaggioRecuperato frmEditor::DaRecuperare(const QString& corpo) {
     const QString origine = CODE->Text();
     if (origine == corpo) return messaggio;
     HtmlDocument spostata;
-    spostata.setDocumentHTML(origine);
-    if (spostata.documentHTML() != corpo) messaggio.Origine = origine;
+    const bool spostabile = spostata.setDocumentHTML(origine).ok();
+    if (!spostabile || spostata.documentHTML() != corpo) messaggio.Origine = origine;
     return messaggio;
 }
 
@@ -125,12 +125,14 @@ void frmEditor::RiprendiCopia(CopiaTrovata& trovata) {
     ImpostaTestata(messaggio.Oggetto, messaggio.Priorita);
     for (const QString& percorso : messaggio.Allegati)
         AggiungiAllegato({percorso, NomeDaPercorso(percorso), FileEsiste(percorso)});
-    static_cast<void>(DHTML->setDocumentHTML(messaggio.CorpoHTML));
+    const Status messo = DHTML->setDocumentHTML(messaggio.CorpoHTML);
     static_cast<void>(MostraBody(tb->currentIndex()));
-    if (messaggio.Origine) {
+    const bool rifiutato = messo.code() == ErrorCode::Overflow;
+    if (messaggio.Origine || rifiutato) {
         tb->setCurrentIndex(Origine);
-        CODE->setText(*messaggio.Origine);
+        CODE->setText(messaggio.Origine.value_or(messaggio.CorpoHTML));
     }
+    if (rifiutato) AvvisaVista(messo, "Il testo recuperato è nell'origine.");
     fileAperto = false;
     SegnaModificato();
     copia = trovata.Prendi();

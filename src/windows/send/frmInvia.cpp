@@ -23,6 +23,7 @@
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
+#include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
@@ -266,7 +267,12 @@ void frmInvia::cmdChiudi_Click() {
 void frmInvia::cmdFile_Click() {
     const auto percorso = ui::FileDialog::open(bVAR::goApriEmail, "Message File (*.mss)|*.mss");
     if (!percorso) fallisci(ErrorCode::CancelSelected);
-    goDHTML.setDocumentHTML(LeggiCorpoMss(*percorso));
+    if (const Status messo = goDHTML.setDocumentHTML(LeggiCorpoMss(*percorso)); !messo.ok()) {
+        const QString prima = txtFile->text().isEmpty() ? QString("Nessun messaggio è stato scelto.")
+                                                        : "Il messaggio scelto resta " + txtFile->text();
+        ui::MessageDialog::show(messo.text() + "\r\n" + prima, ui::MessageDialog::Notice, bVAR::Attenzione);
+        return;
+    }
     txtFile->setText(*percorso);
     cmdInvia->setDefault(true);
 }

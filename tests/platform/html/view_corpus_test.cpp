@@ -12,7 +12,7 @@ class ViewCorpus : public QObject {
 
     static QString withoutBrowser(const QString& html) {
         HtmlDocument document;
-        document.setDocumentHTML(html);
+        if (!document.setDocumentHTML(html).ok()) qFatal("the text is refused");
         return document.documentHTML();
     }
 
@@ -96,13 +96,25 @@ class ViewCorpus : public QObject {
         QVERIFY(withoutBrowser(html).contains("<body>" + reader + "</body>"));
     }
 
-    void flattensWhatIsNestedDeeperThan512Elements() {
-        m_desk->view.setDocumentHTML(QStringLiteral("<div>").repeated(600) + "x" +
-                                     QStringLiteral("</div>").repeated(600));
-        const QString flattened = m_desk->view.documentHTML();
-        QCOMPARE(flattened.count("<div>"), 600);
-        QVERIFY(flattened.contains("</div><div>"));
-        QVERIFY(isStable(flattened));
+    void keepsWhatIsNestedAsDeepAsTheReadersTake() {
+        const QString html =
+            QStringLiteral("<div>").repeated(498) + "x" + QStringLiteral("</div>").repeated(498);
+        m_desk->view.setDocumentHTML(html);
+        QCOMPARE(m_desk->body(), html);
+        QVERIFY(withoutBrowser(html).contains("<body>" + html + "</body>"));
+    }
+
+    void refusesWhatTheOtherReaderRefuses() {
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        const QString before = m_desk->view.documentHTML();
+        for (const QString& html : {QString("<div>").repeated(100000), QString("<div>").repeated(499),
+                                    QString((16 << 20) + 1, 'x')}) {
+            const Status set = m_desk->view.HtmlView::setDocumentHTML(html);
+            QCOMPARE(set.code(), ErrorCode::Overflow);
+            QCOMPARE(set.text(), HtmlDocument().setDocumentHTML(html).text());
+            QCOMPARE(m_desk->view.documentHTML(), before);
+        }
+        QVERIFY(m_desk->view.responds().ok());
     }
 };
 

@@ -2,11 +2,39 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QStandardPaths>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 
 #include "platform/html/RemoteMessage.h"
 #include "platform/html/ViewFixture.h"
+#include "support/NamesAsked.h"
+#include "support/PrivateNetwork.h"
+
+using namespace testing_support;
+
+namespace {
+
+const bool isolated = enterPrivateNetwork() && replaceResolverConfiguration("nameserver 127.0.0.1\n");
+
+// In every way in which a page has names looked up without asking for anything there
+const char* const namesPage =
+    "<html><head><meta http-equiv='x-dns-prefetch-control' content='on'>"
+    "<meta http-equiv='X-DNS-Prefetch&#45;Control' content=' ON '>"
+    "<link rel=dns-prefetch href='//b.example'><link rel=preconnect href='http://c.example'>"
+    "<link rel=preload as=image href='http://d.example/x'></head><body><p>testo</p>"
+    "<a id=link href='http://a.example/x'>vai</a><img src='http://e.example/x.png'>"
+    "<area href='http://f.example/'><svg><a href='http://g.example/'><text>x</text></a></svg>"
+    "<iframe srcdoc=\"<meta http-equiv=x-dns-prefetch-control content=on><a href='http://h.example/'>x</a>"
+    "\"></iframe><form action='http://i.example/'><input type=submit></form></body></html>";
+
+/// What a page puts off for some milliseconds comes before the last of so many frames.
+void rest(const HtmlView& view) {
+    for (int i = 0; i < 12; ++i)
+        settle(view);
+}
+
+}  // namespace
 
 // A message does nothing but show, and a browser that dies takes nothing along.
 class ViewSafety : public QObject {
@@ -28,6 +56,60 @@ class ViewSafety : public QObject {
         desk.press(Qt::Key_Return, Qt::NoModifier, "\r");
         settle(desk.view);
         QCOMPARE(server.visitsSoFar(), 0);
+    }
+
+    void noNameIsLookedUpAndNothingIsSent_data() { nothingIsFetchedWhileEditingAndPreviewing_data(); }
+    void noNameIsLookedUpAndNothingIsSent() {
+        QFETCH(bool, design);
+        if (!isolated) QSKIP("this system allows no network of the test's own");
+        NamesAsked names;
+        names.soFar();
+        const auto before = networkAttempts();
+        QVERIFY2(before.count("Udp:OutDatagrams") > 0, "the kernel does not count");
+        Desk desk(namesPage, design ? HtmlView::Mode::Design : HtmlView::Mode::Browse);
+        rest(desk.view);
+        QTest::mouseClick(desk.view.inputWidget(), Qt::LeftButton, Qt::NoModifier,
+                          desk.placeOf("#link").center());
+        settle(desk.view);
+        desk.view.setDocumentHTML(QString(namesPage).replace(".example", ".example.org"));
+        rest(desk.view);
+        const auto after = networkAttempts();
+        QCOMPARE(names.soFar(), QByteArrayList());
+        QVERIFY(after == before);
+        QVERIFY(networkAttempts() != before);  // the test's own question counts
+        // the page's own means are no part of the document
+        const QString html = desk.view.documentHTML();
+        QVERIFY(html.contains("<meta http-equiv=\"x-dns-prefetch-control\" content=\"on\">"));
+        QCOMPARE(html.count("<meta"), 3);
+    }
+
+    void dataIsTakenForImagesAlone() {
+        const QString font =
+            QStandardPaths::locate(QStandardPaths::FontsLocation, "truetype/dejavu/DejaVuSans.ttf");
+        QFile file(font);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString face = "data:font/ttf;base64," + QString::fromLatin1(file.readAll().toBase64());
+        Desk desk("<style>@font-face { font-family: F; src: url(" + face +
+                      ") } @import url(data:text/css,p{color:rgb(4,5,6)}); b { font-family: F }</style>"
+                      "<style>@import url(data:text/css,p{background-color:rgb(4,5,6)});</style>"
+                      "<link rel=stylesheet href=\"data:text/css,p{color:rgb(1,2,3)}\">"
+                      "<p style=\"font-weight: bold\">x <b>y</b></p><img src=\"data:image/gif;base64,"
+                      "R0lGODlhAQABAIAAAAAAAP///yH5BAEAAAAALAAAAAABAAEAAAIBRAA7\">"
+                      "<object data=\"data:text/html,x\"></object><iframe src=\"data:text/html,x\"></iframe>",
+                  HtmlView::Mode::Browse);
+        QTRY_COMPARE(desk.view.evaluate("document.images[0].naturalWidth").toInt(), 1);
+        settle(desk.view);
+        const QString style = "getComputedStyle(document.querySelector('p'))";
+        QCOMPARE(desk.view.evaluate(style + ".color").toString(), QString("rgb(0, 0, 0)"));
+        QCOMPARE(desk.view.evaluate(style + ".backgroundColor").toString(), QString("rgba(0, 0, 0, 0)"));
+        QCOMPARE(desk.view.evaluate(style + ".fontWeight").toString(), QString("700"));
+        QTRY_COMPARE(desk.view.evaluate("Array.from(document.fonts, (face) => face.status)[0]").toString(),
+                     QString("error"));
+        QCOMPARE(desk.view
+                     .evaluate("Array.from(document.querySelectorAll('iframe,object'), (each) =>"
+                               " each.contentDocument ? each.contentDocument.body.innerHTML : '').join()")
+                     .toString(),
+                 QString(","));
     }
 
     // The test's own ground: without the filter somebody would have come

@@ -57,6 +57,77 @@ class TestDocumento : public QObject {
         QCOMPARE(stage().editor().WEB->documentHTML().value(), stage().design().documentHTML().value());
     }
 
+    void aFileWhoseBodyIsRefusedLeavesTheDocumentOnShow_data() {
+        QTest::addColumn<QByteArray>("body");
+        QTest::newRow("deep") << QByteArray("<div>").repeated(100000);
+        QTest::newRow("large") << QByteArray(17 << 20, 'x');
+        QTest::newRow("larger than memory is spent on") << (QByteArray(1 << 20, 'x') + "\r\n").repeated(70);
+    }
+    void aFileWhoseBodyIsRefusedLeavesTheDocumentOnShow() {
+        QFETCH(QByteArray, body);
+        stage().write("buono.mss", message("uno", "HI", "", "<p>uno</p>\r\n"));
+        stage().open("buono.mss");
+        change();
+        QTRY_VERIFY(stage().body().contains("x"));
+        const QString before = stage().body();
+        stage().write("cattivo.mss", message("due", "LW", "/manca.txt\r\n", body + "\r\n"));
+        MessageDialog::queue(MessageDialog::No);
+        MessageDialog::queue(MessageDialog::Ok);
+        stage().open("cattivo.mss");
+        QCOMPARE(MessageDialog::queued(), 0);
+        QCOMPARE(MessageDialog::shown().size(), 2);  // the guard's, and this one
+        QVERIFY(MessageDialog::shown()[1].text.startsWith("Il corpo del messaggio non si può aprire: "));
+        QCOMPARE(MessageDialog::shown()[1].style, int{MessageDialog::Notice});
+        QCOMPARE(MessageDialog::shown()[1].title, "Attenzione");
+        QCOMPARE(stage().body(), before);
+        QCOMPARE(stage().subject(), "uno");
+        QCOMPARE(stage().tool("cmdPriAlta").Checked(), 1);
+        QCOMPARE(stage().title(), "Editor Messaggi - [buono.mss*]");
+        QCOMPARE(stage().editor().percorsoFile, stage().path("buono.mss"));
+        stage().start("cmdSalva");
+        QVERIFY(bodyOf(stage().bytes("buono.mss")).contains(before.trimmed().toLatin1()));
+    }
+
+    void aSourceThatIsRefusedStaysInItsViewAndTheDocumentAsItWas() {
+        stage().fill("<p>uno</p>");
+        const QString before = stage().body();
+        stage().chooseTab(1);
+        const QString deep = QString("<div>").repeated(30000);
+        stage().source().setText(deep);
+        for (const int tab : {0, 2}) {
+            MessageDialog::reset();
+            MessageDialog::queue(MessageDialog::Ok);
+            QTabBar* tabs = stage().editor().tb->tabBar();
+            QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+            QCOMPARE(stage().editor().tb->currentIndex(), 1);
+            QCOMPARE(MessageDialog::shown().size(), 1);
+            QVERIFY(MessageDialog::shown()[0].text.contains("uno dentro l'altro"));
+            QCOMPARE(stage().source().Text(), deep);
+            QCOMPARE(stage().body(), before);
+        }
+        stage().source().setText("<p>due</p>");
+        stage().chooseTab(0);
+        QCOMPARE(stage().body(), "<p>due</p>");
+    }
+
+    void aBodyThatGrewTooDeepIsSavedWithANotice() {
+        stage().fill("<p>uno</p>");
+        stage().design().evaluate(
+            "{ let place = document.body; for (let i = 0; i < 505; i += 1)"
+            " place = place.appendChild(document.createElement('div'));"
+            " place.append('fondo'); 1 }");
+        MessageDialog::queue(MessageDialog::Ok);
+        stage().saveAs("profondo.mss");
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QVERIFY(MessageDialog::shown()[0].text.contains("non si potrà né aprire né inviare"));
+        QCOMPARE(bodyOf(stage().bytes("profondo.mss")).count("<div>"), 505);
+        MessageDialog::queue(MessageDialog::Ok);
+        stage().chooseTab(1);
+        QCOMPARE(stage().source().Text().count("<div>"), 505);
+        stage().source().setText("<p>due</p>");
+        stage().chooseTab(0);
+    }
+
     void aKeyInTheDesignViewMarksTheDocument() {
         change();
         QTRY_COMPARE(stage().editor().titoloFile, "[NuovoFile.mss*]");

@@ -352,6 +352,34 @@ class TestFrmInviaImposta : public QObject {
         QVERIFY(!stage.sink.messages().constFirst().data.contains("secondo corpo"));
     }
 
+    void fileWhoseBodyIsRefusedLeavesThePickedOneAndItsBody_data() {
+        QTest::addColumn<QString>("body");
+        QTest::newRow("deep") << QString("<div>").repeated(100000);
+        QTest::newRow("large") << QString(17 << 20, 'x');
+        QTest::newRow("larger than memory is spent on") << (QString(1 << 20, 'x') + "\r\n").repeated(70);
+    }
+    void fileWhoseBodyIsRefusedLeavesThePickedOneAndItsBody() {
+        QFETCH(QString, body);
+        SendStage stage({"a@x.it"});
+        const QString good = stage.folder.writeMessage("m.mss", {"Uno", "NR", {}, "<p>corpo uno</p>"});
+        const QString bad = stage.folder.writeMessage("n.mss", {"Due", "NR", {}, body});
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.pick(bad);
+        QCOMPARE(stage.control<QLineEdit>("txtFile")->text(), "");
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QVERIFY(MessageDialog::shown()[0].text.startsWith("Il corpo del messaggio non si può aprire: "));
+        QCOMPARE(MessageDialog::shown()[0].style, int{MessageDialog::Notice});
+        stage.pick(good);
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.pick(bad);
+        QCOMPARE(MessageDialog::shown().size(), 2);
+        QCOMPARE(stage.control<QLineEdit>("txtFile")->text(), good);
+        QVERIFY(stage.ends.isEmpty());
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QVERIFY(stage.sink.messages().constFirst().data.contains("corpo uno"));
+    }
+
     void typedPathSendsTheBodyThatWasPickedBefore() {
         SendStage stage({"a@x.it"});
         stage.pick(

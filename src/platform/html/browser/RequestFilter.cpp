@@ -12,9 +12,16 @@ bool isLocalImage(const QWebEngineUrlRequestInfo& request) {
            url.host().isEmpty() && QFileInfo(url.toLocalFile()).isFile();
 }
 
+// The empty document comes as data too; the page navigates to no other
+bool isCarried(const QWebEngineUrlRequestInfo& request) {
+    const auto type = request.resourceType();
+    return request.requestUrl().scheme() == QLatin1String("data") &&
+           (type == QWebEngineUrlRequestInfo::ResourceTypeImage ||
+            type == QWebEngineUrlRequestInfo::ResourceTypeMainFrame);
+}
+
 }  // namespace
 
 void RequestFilter::interceptRequest(QWebEngineUrlRequestInfo& request) {
-    const bool carried = request.requestUrl().scheme() == QLatin1String("data");
-    request.block(!carried && !isLocalImage(request));
+    request.block(!isCarried(request) && !isLocalImage(request));
 }

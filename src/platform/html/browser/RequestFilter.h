@@ -2,8 +2,8 @@
 
 #include <QWebEngineUrlRequestInterceptor>
 
-/// Lets a document load what it carries itself (`data:`) and images of this machine, and nothing else: no
-/// network, no other kind of local file.
+/// Lets a document load images that it carries itself (`data:`) or that lie on this machine, and nothing
+/// else: no network, no font, style or medium, no other kind of local file.
 class RequestFilter : public QWebEngineUrlRequestInterceptor {
   public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;

@@ -1,9 +1,9 @@
-#include "platform/mail/HtmlTokens.h"
+#include "platform/html/HtmlTokens.h"
 
 #include <algorithm>
 #include <array>
 
-namespace mail {
+namespace html {
 namespace {
 
 using namespace std::string_view_literals;
@@ -127,13 +127,17 @@ string_view HtmlTokens::readUntil(Condition stop) {
 void HtmlTokens::readTag() {
     m_tag = {};
     m_tag.name = readUntil([](char c) { return isHtmlBlank(c) || c == '/' || c == '>'; });
+    const std::size_t from = m_at;
     for (;;) {
-        readUntil([](char c) { return !isHtmlBlank(c) && c != '/'; });
+        const string_view between = readUntil([](char c) { return !isHtmlBlank(c) && c != '/'; });
         if (atEnd()) return;
         if (m_html[m_at] == '>') {
+            m_tag.attributes = m_html.substr(from, m_at - from);
+            m_tag.selfClosing = !between.empty() && between.back() == '/';
             ++m_at;
             return;
         }
+        ++m_tag.attributeCount;
         readAttribute();
     }
 }
@@ -172,4 +176,4 @@ std::size_t HtmlTokens::endOfRawText() const {
     return m_html.size();
 }
 
-}  // namespace mail
+}  // namespace html

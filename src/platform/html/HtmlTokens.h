@@ -3,13 +3,16 @@
 #include <cstddef>
 #include <string_view>
 
-namespace mail {
+namespace html {
 
-/// The attributes of one tag that a message's composition asks for, as they stand in the source: character
-/// references are not decoded. Absent ones have a null data(). Of two attributes of one name the first
-/// counts.
+/// One tag: its name, and the attributes that a message's composition asks for, as they stand in the source:
+/// character references are not decoded. Absent ones have a null data(). Of two attributes of one name the
+/// first counts.
 struct HtmlTag {
     std::string_view name, src, background, style, charset, httpEquiv, content, rel, href, alt;
+    std::string_view attributes;  ///< all of them, as they stand in the source
+    int attributeCount = 0;       ///< those that stand there twice too
+    bool selfClosing = false;     ///< ends in "/>", which means something in drawings and formulas alone
 };
 
 /// Reads the markup of an HTML text from start to end as browsers divide it (HTML standard 13.2.5), without
@@ -28,6 +31,8 @@ class HtmlTokens {
         End,
     };
     Kind next();
+    /// Called after a start tag: its content is no raw text, as in a drawing.
+    void readAsMarkup() { m_rawTextNext = false; }
     /// The last start tag or end tag.
     const HtmlTag& tag() const { return m_tag; }
     /// Of Text and RawText.
@@ -62,4 +67,4 @@ bool startsWithHtmlText(std::string_view text, std::string_view start);
 bool isHtmlBlank(char c);
 std::string_view trimmedHtml(std::string_view text);
 
-}  // namespace mail
+}  // namespace html
