@@ -5,7 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSslConfiguration>
-#include <QSslSocket>
+#include <utility>
 
 namespace testing_support {
 
@@ -71,7 +71,17 @@ void AuthorizationServer::hold(const QByteArray& trickle) {
     m_trickle = trickle;
 }
 
+void AuthorizationServer::goOn() {
+    m_holding = false;
+    for (const QPointer<QSslSocket>& client : std::exchange(m_held, {})) {
+        if (!client) continue;
+        client->write(answerTo(m_requests.last()));
+        client->disconnectFromHost();
+    }
+}
+
 void AuthorizationServer::incomingConnection(qintptr descriptor) {
+    m_asked = true;
     auto* client = new QSslSocket(this);
     client->setSocketDescriptor(descriptor);
     connect(client, &QTcpSocket::readyRead, this, [this, client] { read(client); });
@@ -102,6 +112,7 @@ void AuthorizationServer::read(QSslSocket* client) {
     m_input.remove(client);
     m_requests.append(QUrlQuery(QString::fromUtf8(body.replace('+', "%20"))));
     if (m_holding) {
+        m_held.append(client);
         keepSending(client);
     } else {
         client->write(m_fixed.isEmpty() ? answerTo(m_requests.last()) : m_fixed);

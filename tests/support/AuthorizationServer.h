@@ -2,13 +2,13 @@
 
 #include <QHash>
 #include <QList>
+#include <QPointer>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QUrl>
 #include <QUrlQuery>
 
 #include "support/TestCertificates.h"
-
-class QSslSocket;
 
 namespace testing_support {
 
@@ -35,6 +35,8 @@ class AuthorizationServer : public QTcpServer {
     /// Nothing is answered but what answerWith() was given and then `trickle`, again and again as long as the
     /// client stays.
     void hold(const QByteArray& trickle = {});
+    /// Answers what was held as if nothing had been, and holds no more.
+    void goOn();
     /// Refresh tokens are refused as RFC 6749 5.2 has it.
     void withdraw() { m_withdrawn = true; }
     /// What tokens say about themselves from now on.
@@ -43,6 +45,8 @@ class AuthorizationServer : public QTcpServer {
 
     /// The forms that came to the token endpoint.
     const QList<QUrlQuery>& requests() const { return m_requests; }
+    /// Whether anybody has connected.
+    bool hasBeenAsked() const { return m_asked; }
     /// The newest access token.
     QByteArray newestToken() const { return "accesso-" + QByteArray::number(m_tokens); }
     /// Octets that clients have taken of what was to be sent.
@@ -68,6 +72,7 @@ class AuthorizationServer : public QTcpServer {
     QHash<QSslSocket*, QByteArray> m_input;
     QHash<QString, Code> m_codes;
     QList<QUrlQuery> m_requests;
+    QList<QPointer<QSslSocket>> m_held;
     QByteArray m_fixed;
     QByteArray m_trickle;
     QByteArray m_scope = "posta.invio";
@@ -76,6 +81,7 @@ class AuthorizationServer : public QTcpServer {
     qint64 m_taken = 0;
     bool m_withdrawn = false;
     bool m_holding = false;
+    bool m_asked = false;
 };
 
 }  // namespace testing_support

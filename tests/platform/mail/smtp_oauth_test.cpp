@@ -322,6 +322,23 @@ TEST_F(SmtpOAuth, AbortDuringTheRenewalEndsTheMessageAtOnceAndForGood) {
     EXPECT_EQ(server.remainder(), "");
 }
 
+TEST_F(SmtpOAuth, TokenThatComesAfterAnAbortSendsNothing) {
+    giveToken(0);
+    provider.hold();
+    Unasked server;
+    RunClient client(server.port());
+    prepare(client);
+    client.begin(1);
+    ASSERT_TRUE(Client::turnUntil([&] { return !provider.requests().isEmpty(); }));
+    client.smtp.Abort();
+    provider.goOn();
+    // A whole login of somebody who comes later takes longer than the answer that is on its way.
+    giveToken(3600, "accesso-9");
+    delivers(login("accesso-9"));
+    EXPECT_EQ(client.heard.size(), 1);
+    EXPECT_FALSE(server.wasAsked());
+}
+
 TEST_F(SmtpOAuth, NextSendDropsAMessageThatWaitsForItsToken) {
     giveToken(0);
     provider.hold();

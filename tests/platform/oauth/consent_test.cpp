@@ -212,6 +212,18 @@ INSTANTIATE_TEST_SUITE_P(
                   "non è valida"}),
     [](const auto& row) { return row.param.name; });
 
+TEST_F(OAuthConsent, RedirectOfTheTokenEndpointIsNotFollowed) {
+    AuthorizationServer elsewhere;
+    for (const char* status : {"302 Found", "307 Temporary Redirect", "308 Permanent Redirect"}) {
+        server.answerWith(QByteArray("HTTP/1.1 ") + status + "\r\nLocation: https://localhost:" +
+                          QByteArray::number(elsewhere.serverPort()) + "/token\r\nContent-Length: 0\r\n\r\n");
+        EXPECT_TRUE(login().text().contains("altro indirizzo")) << status;
+    }
+    EXPECT_TRUE(elsewhere.requests().isEmpty());
+    EXPECT_FALSE(elsewhere.hasBeenAsked());
+    expectNothingWritten();
+}
+
 TEST_F(OAuthConsent, AnswerWithoutEndIsBounded) {
     server.answerWith("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(8 * 1024 * 1024, ' '));
     EXPECT_TRUE(login().text().contains("troppo grande"));

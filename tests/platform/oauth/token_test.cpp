@@ -128,12 +128,13 @@ TEST_F(OAuth, TokenComesBackFromItsFileWhichIsTheOwnersAlone) {
 
 TEST_F(OAuth, LinksAreNotFollowedToATokenNorFromOne) {
     const QString elsewhere = temporary.filePath("altrui.json");
-    write(elsewhere, "altrui");
-    QDir().mkpath(folder + "/prova");
+    ASSERT_TRUE(oauth::writeToken(folder, tokenFile, {"altrui", "r", now}).ok());
+    ASSERT_TRUE(QFile::rename(tokenFile, elsewhere));
+    ASSERT_TRUE(readToken(elsewhere).ok());
     ASSERT_TRUE(QFile::link(elsewhere, tokenFile));
     EXPECT_FALSE(readToken(tokenFile).ok());
     EXPECT_TRUE(oauth::writeToken(folder, tokenFile, {"a", "r", now}).ok());
-    EXPECT_EQ(read(elsewhere), "altrui");
+    EXPECT_EQ(readToken(elsewhere).value().access, "altrui");
     EXPECT_FALSE(QFileInfo(tokenFile).isSymLink());
 
     const QString other = folder + "/altro/x.json";
