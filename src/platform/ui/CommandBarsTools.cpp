@@ -11,6 +11,7 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
+#include "platform/ui/Reachable.h"
 
 namespace ui {
 
@@ -97,6 +98,7 @@ void CommandBars::addCustomPopup(const CommandDesign& design, QWidget* panel) {
     m_customPopups[design.name] = {button, panel};
     panel->setWindowFlags(Qt::Popup);
     connect(button->m_action, &QAction::triggered, this, [this, name = design.name] {
+        if (!isReachable(*m_window)) return;
         const CustomPopup& popup = m_customPopups.at(name);
         Q_EMIT popupOpening(name);
         popup.panel->adjustSize();

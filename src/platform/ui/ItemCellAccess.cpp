@@ -1,13 +1,12 @@
 #include "platform/ui/ItemCellAccess.h"
 
 #include <algorithm>
-#include <QApplication>
 #include <QHeaderView>
 #include <QTableView>
 #include <QTreeView>
 
-#include "platform/ui/Busy.h"
 #include "platform/ui/ItemViewAccess.h"
+#include "platform/ui/Reachable.h"
 
 namespace ui {
 
@@ -15,13 +14,6 @@ namespace {
 
 QRect onScreen(const QWidget& widget, const QRect& place) {
     return {widget.mapToGlobal(place.topLeft()), place.size()};
-}
-
-/// Whether the user could reach the control with the mouse.
-bool isReachable(const QWidget& control) {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return control.isEnabled() && control.isVisible() && !Busy::any() &&
-           (!modal || modal == control.window() || modal->isAncestorOf(&control));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "platform/ui/Controls.h"
+#include "platform/ui/Reachable.h"
 
 namespace ui {
 
@@ -31,7 +32,7 @@ class AccessibleMenuButton : public QAccessibleWidget {
     void doAction(const QString& action) override {
         if (action != showMenuAction() && action != pressAction()) {
             QAccessibleWidget::doAction(action);
-        } else if (button()->isEnabled()) {
+        } else if (isReachable(*button())) {
             // showMenu() returns when the menu is left, and whoever asks waits for an answer
             QMetaObject::invokeMethod(button(), &QToolButton::showMenu, Qt::QueuedConnection);
         }

@@ -1,5 +1,6 @@
 // The tools of a bar that are more than a button, and bars that are off.
 #include <QAccessible>
+#include <QDialog>
 #include <QMainWindow>
 #include <QMenu>
 #include <QSignalSpy>
@@ -201,6 +202,30 @@ class TestCommandBarsTools : public QObject {
         face->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
         QCoreApplication::processEvents();
         QVERIFY(!menu->isVisible());
+    }
+
+    void menusAndPanelsWaitForNoWindowInFront() {
+        Window w;
+        QDialog dialog(&w.window);
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        const auto press = [&w](const char* name) {
+            QAccessible::queryAccessibleInterface(w.find<QToolButton>(name))
+                ->actionInterface()
+                ->doAction(QAccessibleActionInterface::pressAction());
+            QCoreApplication::processEvents();
+        };
+        press("popColors");
+        QVERIFY(!w.panel->isVisible());
+        QTimer::singleShot(0, w.find<QMenu>("popTable"), [&w] {
+            if (w.find<QMenu>("popTable")->isVisible()) qFatal("the menu shows over another window");
+        });
+        press("popTable");
+        dialog.hide();
+        press("popColors");
+        QTRY_VERIFY(w.panel->isVisible());
+        w.panel->hide();
     }
 
     void aBarThatIsOffIsDisabledAndItsKeysAreDead() {

@@ -1,0 +1,12 @@
+#pragma once
+
+class QWidget;
+
+namespace ui {
+
+/// Whether the user could reach the control with the mouse: it is on and in sight, no window stands in front
+/// that has to be left first, and nothing runs that takes no clicks. An action of an assistive program counts
+/// for no more than a click.
+bool isReachable(const QWidget& control);
+
+}  // namespace ui
