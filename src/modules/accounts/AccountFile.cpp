@@ -4,6 +4,7 @@
 
 #include "modules/accounts/bBinary.h"
 #include "modules/core/Fallimento.h"
+#include "platform/system/CoreDumps.h"
 #include "platform/system/TextWriter.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/TextFile.h"
@@ -68,6 +69,7 @@ QString VoceAccount(const Account& account) {
 
 bool CaricaAccount(const QString& percorso, TabellaAccount& tabella,
                    const std::function<void(const Account& account, int numero)>& aggiungi) {
+    sys::forbidCoreDumps();
     text::LineReader file;
     esigi(file.open(percorso, text::LineEnds::Any));
     bool lette = false;

@@ -38,7 +38,7 @@ QString VoceAccount(const Account& account);
 /// but never makes it shorter, and is then handed to `aggiungi` with its number, so that a list can show it.
 /// Returns whether there was a line. Unguarded: a file that is missing, a line with too few fields or a
 /// number that is none, is negative or above 32767 fails; what the lines before gave stays. Fields behind the
-/// eleventh are dropped.
+/// eleventh are dropped. From the first call on the process leaves no core dump, as it may hold passwords.
 bool CaricaAccount(const QString& percorso, TabellaAccount& tabella,
                    const std::function<void(const Account& account, int numero)>& aggiungi);
 

@@ -5,6 +5,7 @@
 
 #include "platform/mail/DomainName.h"
 #include "platform/mail/ServerVerdict.h"
+#include "platform/system/Keyring.h"
 #include "platform/text/Blanks.h"
 
 namespace mail {
@@ -77,6 +78,10 @@ void DeliveryControl::startNew(const QString& host) {
     // An address is no mail exchanger (RFC 5321 5.1), whosever it is.
     if (PublicServersOnly && !QHostAddress(host).isNull()) {
         finish({false, 0, noMailServer()});
+        return;
+    }
+    if (UseAuth && sys::keyring::isMarker(UserPassword)) {
+        finish({false, 0, QStringLiteral("Il portachiavi non ha dato la password di questo account.")});
         return;
     }
     if (ServerPort == 0) {

@@ -78,6 +78,7 @@ class DeliveryControl : public QObject {
     bool UseAuth = false;
     quint16 OutPort = 0;  ///< local port; any other one is taken when it cannot be had. 0: any
     quint16 ServerPort = 25;
+    /// A marker of the keyring (sys/Keyring.h) is never sent: the message fails without a connection.
     QString UserPassword;  ///< oauth::passwordWord: an access token of OAuthFolder takes its place
     QString UserName;
     QString ServerName;

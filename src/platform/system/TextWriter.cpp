@@ -1,5 +1,7 @@
 #include "platform/system/TextWriter.h"
 
+#include <unistd.h>
+
 #include "platform/text/AnsiCodec.h"
 
 namespace sys {
@@ -16,6 +18,7 @@ Status TextWriter::writeFailed() const {
 Status TextWriter::open(const QString& path, WriteMode mode, FileKind kind) {
     if (m_file.isOpen()) m_file.close();
     m_path = path;
+    m_kind = kind;
     return openForWriting(m_file, path, mode, kind);
 }
 
@@ -27,7 +30,7 @@ Status TextWriter::print(QStringView line) {
 
 Status TextWriter::close() {
     if (!m_file.isOpen()) return writeFailed();
-    const bool flushed = m_file.flush();
+    const bool flushed = m_file.flush() && (m_kind != FileKind::Secret || ::fsync(m_file.handle()) == 0);
     m_file.close();
     return flushed && m_file.error() == QFileDevice::NoError ? Status() : writeFailed();
 }

@@ -17,6 +17,7 @@ class TextWriter {
     /// As openForWriting() says.
     Status open(const QString& path, WriteMode mode, FileKind kind);
     Status print(QStringView line);
+    /// A Secret is on the disk when it has succeeded.
     Status close();
 
   private:
@@ -24,6 +25,7 @@ class TextWriter {
 
     QFile m_file;
     QString m_path;
+    FileKind m_kind = FileKind::Document;
 };
 
 }  // namespace sys

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "modules/accounts/Portachiavi.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/DialogFrame.h"
 #include "windows/accounts/frmAccount_elenco.h"
@@ -64,6 +65,7 @@ void frmAccount::showEvent(QShowEvent* mostra) {
     QDialog::showEvent(mostra);
     // The captions may have changed since the last opening.
     CollegaEtichette();
+    chkPortachiavi->setVisible(portachiavi::Usato(account) || sys::keyring::available());
     AdattaAltezza();
     if (lstAccount->count() > 0)
         lstAccount->setFocus();
@@ -116,6 +118,7 @@ void frmAccount::lstAccount_Click() {
     chkAutentick_Click();
     txtUsername->setText(scelto.txtUsername);
     txtPassword->setText(scelto.txtPassword);
+    chkPortachiavi->setChecked(sys::keyring::isMarker(scelto.txtPassword));
     chkUsaSMTP->setChecked(text::leadingNumber(scelto.chkUsaSMTP) != 0);
     for (QWidget* controllo : std::initializer_list<QWidget*>{lbl[7], txtServerSMTP, txtServerPORT})
         controllo->setEnabled(chkUsaSMTP->isChecked());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <QDialog>
 
 #include "modules/accounts/AccountFile.h"
@@ -80,6 +81,9 @@ class frmAccount : public QDialog {
     void EliminaAccount(int indice);
     void AzzeraControlli();
     Account LeggiControlli() const;
+    /// What is to be written of the controls, the password in its place; none where it cannot be put there,
+    /// which is told.
+    std::optional<Account> Custodisci(bool nuovo);
     void cmdNuovo_Click();
     void cmdModifica_Click();
 
@@ -99,6 +103,7 @@ class frmAccount : public QDialog {
     QCheckBox* chkAutentick;
     QLineEdit* txtUsername;
     QLineEdit* txtPassword;
+    QCheckBox* chkPortachiavi;  ///< on show where there is a keyring, or an account that uses one
     ui::LinkLabel* lnkBrowser;
     QCheckBox* chkAvanzate;
     QComboBox* cmbSaluto;

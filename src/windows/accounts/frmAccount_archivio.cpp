@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bFunctions.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
@@ -11,6 +12,7 @@
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/WaitNotice.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/accounts/frmAccount_elenco.h"
 
@@ -92,11 +94,25 @@ void AvvisaCaratteri(const Account& valori) {
 
 }  // namespace
 
+std::optional<Account> frmAccount::Custodisci(bool nuovo) {
+    ui::WaitNotice attesa(
+        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+    const auto custodito =
+        portachiavi::Custodisci(LeggiControlli(), account, nuovo, chkPortachiavi->isChecked(),
+                                [&](auto passato) { return attesa.goOn(passato); });
+    attesa.over();
+    if (custodito.ok()) return custodito.value();
+    ui::MessageDialog::show(custodito.status().text(), ui::MessageDialog::Notice, bVAR::Attenzione);
+    return std::nullopt;
+}
+
 void frmAccount::cmdNuovo_Click() {
     if (!ValidaAccount()) return;
     TogliSeparatori();
     Prosegui prosegui;
-    const Account nuovo = LeggiControlli();
+    const auto custodito = Custodisci(true);
+    if (!custodito) return;
+    const Account& nuovo = *custodito;
     const int numero = NuovoAccount(percorsoAccount(), account, nuovo);
     lstAccount->addItem(VoceAccount(nuovo));
     // A list that is shorter than the table has no such position: the choice stays as it is.
@@ -111,9 +127,14 @@ void frmAccount::cmdModifica_Click() {
     if (!ValidaAccount()) return;
     TogliSeparatori();
     const int posizione = lstAccount->ListIndex();
-    const Account valori = LeggiControlli();
+    const auto custodito = Custodisci(false);
+    if (!custodito) return;
+    const Account& valori = *custodito;
+    const TabellaAccount prima = account;
     if (QListWidgetItem* voce = lstAccount->item(posizione)) voce->setText(VoceAccount(valori));
     ModificaAccount(percorsoAccount(), account, lstAccount->count(), posizione, valori);
+    portachiavi::Ripulisci(prima, percorsoAccount(), lstAccount->count());
+    txtPassword->setText(valori.txtPassword);
     AvvisaCaratteri(valori);
 }
 
@@ -121,7 +142,10 @@ void frmAccount::cmdModifica_Click() {
 /// entries: each step that fails for the position -1 is passed over.
 void frmAccount::EliminaAccount(int indice) {
     Prosegui prosegui;
-    ::EliminaAccount(percorsoAccount(), account, lstAccount->count(), indice);
+    const TabellaAccount prima = account;
+    const int voci = lstAccount->count();
+    ::EliminaAccount(percorsoAccount(), account, voci, indice);
+    portachiavi::Ripulisci(prima, percorsoAccount(), voci - 1);
     if (indice >= 0) lstAccount->RemoveItem(indice);
     const int rimaste = lstAccount->count();
     lstAccount->setListIndex(indice + 1 <= rimaste ? indice : rimaste - 1);
@@ -134,6 +158,7 @@ void frmAccount::AzzeraControlli() {
     for (QLineEdit* casella : {txtNomeVisual, txtEmail, txtServerSMTP, txtUsername, txtPassword})
         casella->clear();
     txtServerPORT->setText("25");
+    chkPortachiavi->setChecked(false);
     chkAutentick->setChecked(false);
     cmbSaluto->setCurrentIndex(0);
     txtOutPort->setText("0");

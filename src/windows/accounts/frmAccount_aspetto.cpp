@@ -87,6 +87,8 @@ void frmAccount::CreaCaselle() {
     txtUsername = casella("txtUsername", 255);
     txtPassword = casella("txtPassword", 255);
     txtPassword->setEchoMode(QLineEdit::Password);
+    chkPortachiavi = spunta("chkPortachiavi", "Conserva la password nel portachiavi del desktop.");
+    chkPortachiavi->hide();
     lnkBrowser = ui::named(new ui::LinkLabel(QString(), this), "lnkBrowser");
     lnkBrowser->hide();
     chkAvanzate = spunta("chkAvanzate", "Avanzate");
@@ -104,7 +106,7 @@ void frmAccount::CreaMenu() {
 }
 
 void frmAccount::ColoraControlli() {
-    for (QWidget* controllo : std::initializer_list<QWidget*>{this, chkUsaSMTP, chkAutentick})
+    for (QWidget* controllo : std::initializer_list<QWidget*>{this, chkUsaSMTP, chkAutentick, chkPortachiavi})
         coloraSfondo(controllo, 0);
     for (QWidget* controllo : std::initializer_list<QWidget*>{chkAvanzate, pic})
         coloraSfondo(controllo, 24);
@@ -203,6 +205,7 @@ QGridLayout* frmAccount::DisponiModulo() {
     campo(lbl[10], txtUsername, nullptr);
     stacca(ui::controlSpacing);
     campo(lbl[11], txtPassword, nullptr);
+    modulo->addWidget(chkPortachiavi, riga++, 1);
     modulo->addWidget(lnkBrowser, riga++, 1, Qt::AlignLeft);
     stacca(ui::controlSpacing);
     modulo->addWidget(DisponiAvanzate(), riga++, 0, 1, 2);
@@ -254,6 +257,6 @@ void frmAccount::CollegaEtichette() {
     collega(10, txtUsername);
     collega(11, txtPassword);
     collega(12, txtOutPort);
-    for (QCheckBox* casella : {chkUsaSMTP, chkAutentick, chkAvanzate})
+    for (QCheckBox* casella : {chkUsaSMTP, chkAutentick, chkPortachiavi, chkAvanzate})
         casella->setAccessibleName(ui::spokenCaption(casella->text()));
 }

@@ -136,7 +136,8 @@ class frmInvia : public QDialog {
     bool fermaInvio = false;
     bool mailInviata = false;
     bool mailFallita = false;
-    qint32 saltaRecord = 0;  ///< rows to step over at the head of the selection: the failures of this run
+    qint32 saltaRecord = 0;    ///< rows to step over at the head of the selection: the failures of this run
+    QString passwordMittente;  ///< of the account, from the file or the keyring
     QString corpoHtml;
     QString CorpoTesto;
     QString oggettoMail;

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bFunctions.h"
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
@@ -27,6 +28,7 @@
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
+#include "platform/ui/WaitNotice.h"
 #include "windows/send/Accettati_avviso.h"
 #include "windows/send/frmInvia.h"
 
@@ -226,6 +228,10 @@ void frmInvia::LeggiMessaggio(Prosegui& prosegui) {
 
 void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     const Account& mittente = account.at(indiceAccount);
+    ui::WaitNotice attesa(
+        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+    passwordMittente = portachiavi::PasswordDi(mittente, [&](auto passato) { return attesa.goOn(passato); });
+    attesa.over();
     SMTP->FromAddress = mittente.txtEmail;
     SMTP->FromName = mittente.txtNomeVisual;
     SMTP->HeloMode = mittente.cmbSaluto == "EHLO" ? 0 : 1;

@@ -123,7 +123,7 @@ void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
     const auto autentica = numero(mittente.chkAutentick);
     SMTP->UseAuth = !diretta && autentica.ok() && autentica.value() == 1;
     SMTP->UserName = SMTP->UseAuth ? mittente.txtUsername : QString();
-    SMTP->UserPassword = SMTP->UseAuth ? mittente.txtPassword : QString();
+    SMTP->UserPassword = SMTP->UseAuth ? passwordMittente : QString();
 }
 
 /// Turns the event loop between its tests, so that the window lives and the outcome arrives in either order.

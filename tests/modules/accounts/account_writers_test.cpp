@@ -1,4 +1,8 @@
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <QDir>
 #include <QFile>
@@ -205,4 +209,28 @@ TEST_F(AccountWriters, LinkTakesNoPassword) {
     EXPECT_EQ(bytesOf(elsewhere), QByteArray());
     EXPECT_FALSE(QFileInfo(path()).isSymLink());
     EXPECT_EQ(records(), QStringList(QStringLiteral("0|a|a@b.it||25|0||segreta|EHLO|0|0")));
+}
+
+// In a process of its own that dies with a password in its memory.
+TEST_F(AccountWriters, ProcessThatHasReadThemLeavesNoCoreDump) {
+    add(simple(QStringLiteral("a")));
+    const QByteArray folder = QFile::encodeName(QFileInfo(path()).path());
+    const auto dumpsAfter = [&](bool reads) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const rlimit all{RLIM_INFINITY, RLIM_INFINITY};
+            if (::chdir(folder.constData()) != 0) ::_exit(2);
+            ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
+            ::setrlimit(RLIMIT_CORE, &all);
+            if (reads) load();
+            ::signal(SIGABRT, SIG_DFL);
+            ::abort();
+        }
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status));
+        return WCOREDUMP(status) != 0;
+    };
+    if (!dumpsAfter(false)) GTEST_SKIP() << "this machine writes no core dumps";
+    EXPECT_FALSE(dumpsAfter(true));
 }

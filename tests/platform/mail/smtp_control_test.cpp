@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "platform/mail/smtp_fixture.h"
+#include "platform/system/Keyring.h"
 
 using testing_support::ScriptedServer;
 
@@ -96,6 +97,19 @@ TEST(DeliveryControl, DirectRouteReachesAnInsideServerThatIsAllowed) {
     client.smtp.InsideHosts.clear();
     EXPECT_EQ(client.send().code, 0);
     EXPECT_EQ(server.remainder(), "");
+}
+
+TEST(DeliveryControl, MarkerOfTheKeyringIsNeverSentAsAPassword) {
+    Unasked server;
+    Client client(server.port());
+    client.smtp.UseAuth = true;
+    client.smtp.UserName = QStringLiteral("ada");
+    client.smtp.UserPassword = sys::keyring::newMarker();
+    const Heard heard = client.send();
+    EXPECT_FALSE(heard.done);
+    EXPECT_EQ(heard.code, 0);
+    EXPECT_TRUE(heard.text.contains(QStringLiteral("portachiavi")));
+    EXPECT_FALSE(server.wasAsked());
 }
 
 TEST(DeliveryControl, PortZeroIsAnError) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+/// A session bus of its own with a real keyring on it, unlocked; the environment of this process leads to it
+/// as long as the object lives.
+class PrivateKeyring {
+  public:
+    PrivateKeyring();
+    ~PrivateKeyring();
+    PrivateKeyring(const PrivateKeyring&) = delete;
+
+    /// False where the programs are not installed.
+    bool runs() const { return m_runs; }
+
+  private:
+    QTemporaryDir m_folder;
+    QByteArray m_before;
+    QProcess m_bus;
+    QProcess m_keyring;
+    bool m_runs = false;
+};
