@@ -253,6 +253,11 @@ class HtmlView : public QWidget {
     /// it came in without them. Their addresses, at most 100. Files that were themselves pasted or dropped
     /// are none of these.
     void leftOut(const QStringList& addresses);
+    /// Text that was pasted or dropped is shown with things of the web, which are loaded wherever the message
+    /// is read: pictures, backgrounds, and whom a link tells of a click. Their addresses, at most 100.
+    void staysOnTheWeb(const QStringList& addresses);
+    /// What was pasted or dropped is too large or too deep, and was not inserted; a text for the user.
+    void refused(const QString& reason);
     /// The pointer came over the view.
     void pointerEntered();
 

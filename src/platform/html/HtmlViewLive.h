@@ -43,6 +43,7 @@ struct HtmlView::Live {
     /// Values as they stand between the brackets of a call in a script.
     static QString arguments(const QJsonArray& values);
     Result<bool> paste();
+    Result<bool> paste(const QJsonObject& content);
     void awaitStrokes();
 
     Result<QString> freshState(const QString& name);

@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <utility>
 
+#include "platform/html/Bounds.h"
 #include "platform/html/ClipboardContent.h"
 #include "platform/html/HtmlViewLive.h"
 
@@ -20,6 +21,12 @@ constexpr int answerMilliseconds = 5000;
 constexpr int millisecondsPerMegabyte = 10000;
 constexpr int stalledMilliseconds = 300;
 constexpr int strokesMilliseconds = 400;
+
+// What comes from outside has the bounds of a body
+Status contentFits(const QJsonObject& content) {
+    Status text = html::boundSize(content.value(QLatin1String("text")).toString().size());
+    return text.ok() ? html::readable(content.value(QLatin1String("html")).toString()) : text;
+}
 
 }  // namespace
 
@@ -109,12 +116,21 @@ Result<bool> HtmlView::Live::changeDone(const QString& function, const QJsonArra
 Result<bool> HtmlView::Live::paste() {
     const QMimeData* data = QApplication::clipboard()->mimeData();
     if (data == nullptr) return false;
-    return changeDone(QStringLiteral("insert.paste"), {clipboardContent(*data)});
+    return paste(clipboardContent(*data));
+}
+
+Result<bool> HtmlView::Live::paste(const QJsonObject& content) {
+    if (Status fits = contentFits(content); !fits.ok()) return fits;
+    return changeDone(QStringLiteral("insert.paste"), {content});
 }
 
 bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
     const QJsonObject content = clipboardContent(data);
     if (content.isEmpty()) return false;
+    if (const Status fits = contentFits(content); !fits.ok()) {
+        Q_EMIT view.refused(fits.text());
+        return false;
+    }
     const Result<bool> inserted =
         changeDone(QStringLiteral("insert.dropAt"), {place.x(), place.y(), content});
     if (!inserted.ok() || !inserted.value()) return false;
@@ -151,7 +167,11 @@ void HtmlView::Live::heard(const QString& message) {
     if (what == QLatin1String("doubleClick")) {
         Q_EMIT view.doubleClicked();
     } else if (what == QLatin1String("paste")) {
-        static_cast<void>(paste());
+        const QJsonObject content = told.value(QLatin1String("detail")).toObject();
+        const Result<bool> pasted = content.isEmpty() ? paste() : paste(content);
+        if (pasted.status().code() == ErrorCode::Overflow) Q_EMIT view.refused(pasted.status().text());
+    } else if (what == QLatin1String("remote")) {
+        Q_EMIT view.staysOnTheWeb(told.value(QLatin1String("detail")).toVariant().toStringList());
     } else if (what == QLatin1String("leftOut")) {
         Q_EMIT view.leftOut(told.value(QLatin1String("detail")).toVariant().toStringList());
     } else {

@@ -28,6 +28,20 @@ void AvvisaLasciatiFuori(const QStringList& indirizzi) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
 }
 
+/// What readers of the message will load from elsewhere, by the hosts that then learn of it.
+QString RestaSulWeb(const QStringList& indirizzi) {
+    constexpr qsizetype mostrati = 3;
+    QStringList siti;
+    for (const QString& indirizzo : indirizzi)
+        siti << QUrl(indirizzo.trimmed()).host();
+    siti.removeAll(QString());
+    siti.removeDuplicates();
+    const QString elenco = siti.first(qMin(mostrati, siti.size())).join(", ");
+    return QString("Nel testo incollato %1 element%2 sul web%3")
+        .arg(indirizzi.size())
+        .arg(indirizzi.size() == 1 ? "o resta" : "i restano", elenco.isEmpty() ? QString() : ": " + elenco);
+}
+
 }  // namespace
 
 void frmEditor::CollegaViste() {
@@ -49,6 +63,11 @@ void frmEditor::CollegaViste() {
     quando(DHTML, &HtmlView::keyReleased, [this] { SegnaModificato(); });
     quando(DHTML, &HtmlView::dropped, [this] { SegnaModificato(); });
     quando(DHTML, &HtmlView::leftOut, [](const QStringList& indirizzi) { AvvisaLasciatiFuori(indirizzi); });
+    quando(DHTML, &HtmlView::staysOnTheWeb, [this](const QStringList& indirizzi) {
+        barre->GetStatic("stcHelp")->setText(RestaSulWeb(indirizzi));
+    });
+    quando(DHTML, &HtmlView::refused,
+           [this](const QString& motivo) { barre->GetStatic("stcHelp")->setText(motivo); });
     quando(DHTML, &HtmlView::validated, [this] {
         // A font is chosen for the document from outside of it, which changes nothing by itself.
         const QWidget* ora = focusWidget();

@@ -317,6 +317,109 @@ class ViewInsert : public QObject {
         QCOMPARE(leftOut.count(), 1);
     }
 
+    void pastedControlsDoNotStandInForWhatCleans_data() {
+        QTest::addColumn<QString>("html");
+        for (const char* name :
+             {"attributes", "getAttribute", "getAttributeNames", "removeAttribute", "setAttribute",
+              "localName", "childNodes", "replaceWith", "parentNode", "querySelectorAll"})
+            QTest::newRow(name)
+                << QString(
+                       "<form onclick=\"f()\" action=\" java\tscript:f()\" style=\"behavior:url(x)\">"
+                       "<input name=\"%1\" onfocus=\"f()\"></form>")
+                       .arg(name);
+        for (const char* name : {"body", "querySelectorAll", "createTreeWalker", "documentElement"})
+            QTest::newRow(qPrintable(QString("document ") + name))
+                << QString(
+                       "<form name=\"%1\" onclick=\"f()\"></form><img name=\"%1\" onerror=\"f()\">"
+                       "<a href=\"javascript:f()\">x</a>")
+                       .arg(name);
+    }
+    void pastedControlsDoNotStandInForWhatCleans() {
+        QFETCH(QString, html);
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        paste(html);
+        const QString body = m_desk->body();
+        QVERIFY2(body.contains("<form"), qPrintable(body));
+        for (const char* bad : {"f()", "behavior"})
+            QVERIFY2(!body.contains(bad), qPrintable(body));
+    }
+
+    void pastedAddressesHaveASchemeThatIsKnown_data() {
+        QTest::addColumn<QString>("attribute");
+        QTest::addColumn<bool>("stays");
+        for (const char* good : {"href='http://esempio.it/:::campo1:::'", "href='https://:::campo1:::/x'",
+                                 "href='mailto::::email:::'", "href=':::campo1:::'", "href='#sotto'",
+                                 "href='a/b.html'", "href='tel:+391234'", "href=' HTTP://esempio.it '"})
+            QTest::newRow(good) << good << true;
+        for (const char* bad : {"href='javascript:f()'",
+                                "href='java&#9;script:f()'",
+                                "href='&#1;java&#10;script:f()'",
+                                "href='JavaScript:f()'",
+                                "href='vbscript:f()'",
+                                "href='data:text/html,f()'",
+                                "href='blob:f()'",
+                                "href='view-source:f()'",
+                                "href='unknown:f()'",
+                                "action='javascript:f()'",
+                                "formaction='java&NewLine;script:f()'",
+                                "src='data:text/html,f()'",
+                                "background='javascript:f()'",
+                                "srcset='javascript:f() 2x'",
+                                "poster='javascript:f()'",
+                                "ping='javascript:f()'",
+                                "style='background:url(java\\73 cript:f())'",
+                                "style='width:expression(f())'",
+                                "srcdoc='f()'",
+                                "xlink:href='f()'",
+                                "oNclick='f()'"})
+            QTest::newRow(bad) << bad << false;
+    }
+    void pastedAddressesHaveASchemeThatIsKnown() {
+        QFETCH(QString, attribute);
+        QFETCH(bool, stays);
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        paste("<a class=\"k\" " + attribute + ">vai</a>");
+        const QString body = m_desk->body();
+        QVERIFY2(body.contains(stays ? "<a class=\"k\" href=" : "<a class=\"k\">vai</a>"), qPrintable(body));
+        QVERIFY2(!body.contains("f()"), qPrintable(body));
+    }
+
+    void pastedThingsOfTheWebStayAndAreTold() {
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        QSignalSpy told(&m_desk->view, &HtmlView::staysOnTheWeb);
+        paste(
+            "<p style=\"background:url('http://a.example/a;b.png');color:red\">x</p>"
+            "<img src=\"x.png\" srcset=\"http://b.example/1.png 1x, http://c.example/2.png 2x\">"
+            "<video poster=\"http://d.example/p.png\"></video><a href=\"http://z.example/\" "
+            "ping=\"http://e.example/ http://f.example/\">y</a>"
+            "<p style=\"background:url(data:image/png;base64,AAAA)\">z</p>");
+        QTRY_COMPARE(told.count(), 1);
+        QStringList hosts;
+        for (const QString& address : told[0][0].toStringList())
+            hosts << QUrl(address).host();
+        QCOMPARE(hosts.join(' '), QString("a.example b.example c.example d.example e.example f.example"));
+        QVERIFY(m_desk->body().contains("url('http://a.example/a;b.png'); color:red"));
+        QVERIFY(m_desk->body().contains("url(data:image/png;base64,AAAA)"));
+        paste("<a href=\"http://z.example/\">senza</a>");
+        QTRY_VERIFY(m_desk->body().contains("senza"));
+        settle(m_desk->view);
+        QCOMPARE(told.count(), 1);
+    }
+
+    void pastedTextThatIsTooDeepIsRefused() {
+        m_desk->view.setDocumentHTML("<p>uno</p>");
+        QSignalSpy refused(&m_desk->view, &HtmlView::refused);
+        auto* data = new QMimeData;
+        data->setHtml(QString("<div>").repeated(30000));
+        QGuiApplication::clipboard()->setMimeData(data);
+        QCOMPARE(m_desk->view.HtmlView::execCommand(HtmlView::Paste).status().code(), ErrorCode::Overflow);
+        QMimeData other;
+        other.setHtml(QString("<div>").repeated(30000));
+        QVERIFY(!dropOn(m_desk->view, other, {20, 20}));
+        QCOMPARE(refused.count(), 1);
+        QCOMPARE(m_desk->body(), QString("<p>uno</p>"));
+    }
+
     void pastedTextKeepsItsLines() {
         m_desk->view.setDocumentHTML("<p>x</p>");
         paste(QString(), "uno <b>\r\n  due\ntre");

@@ -153,6 +153,25 @@ class TestSicuro : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void whatAPastedTextLeavesOnTheWebIsToldAndTooDeepATextIsRefused() {
+        stage().fill("<p>uno</p>");
+        stage().caret("p", 0);
+        auto* data = new QMimeData;
+        data->setHtml(
+            "<p><img src=\"http://foto.example/1.png\"><img src=\"http://foto.example/2.png\">due</p>");
+        QApplication::clipboard()->setMimeData(data);
+        stage().start("cmdIncolla");
+        QTRY_COMPARE(stage().hint(), "Nel testo incollato 2 elementi restano sul web: foto.example");
+        const QString body = stage().body();
+        QVERIFY(body.contains("http://foto.example/2.png"));
+        data = new QMimeData;
+        data->setHtml(QString("<div>").repeated(30000));
+        QApplication::clipboard()->setMimeData(data);
+        stage().start("cmdIncolla");
+        QVERIFY2(stage().hint().contains("uno dentro l'altro"), qPrintable(stage().hint()));
+        QCOMPARE(stage().body(), body);
+    }
+
     void aHostileMessageNeitherRunsNorFetchesNorLeads() {
         CountingServer server;
         const QString act = QString::fromLatin1(script);

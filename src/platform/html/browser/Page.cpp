@@ -23,7 +23,7 @@ const QString emptyDocument = QStringLiteral(
 QString editingScripts() {
     QString scripts;
     for (const char* name :
-         {"editor", "text", "history", "table", "insert", "commands", "elements", "page", "marks"}) {
+         {"editor", "text", "history", "table", "insert", "clean", "commands", "elements", "page", "marks"}) {
         QFile file(QStringLiteral(":/vestrola/browser/%1.js").arg(QLatin1String(name)));
         if (file.open(QIODevice::ReadOnly)) scripts += QString::fromUtf8(file.readAll());
     }

@@ -89,16 +89,12 @@ editor.insert = {
     // Text of other programs: what is content stays, what steers their own layout engine goes.
     foreign(html) {
         const source = new DOMParser().parseFromString(this.between(html), 'text/html');
-        source
-            .querySelectorAll('script,style,meta,link,title,base,xml,object,embed,applet,iframe,frame,noscript,template')
-            .forEach((node) => node.remove());
-        this.dropComments(source);
-        this.dropLocal(source);
-        source.body.querySelectorAll('*').forEach((element) => this.cleanElement(element));
+        const { nodes, remote } = editor.clean.document(source);
+        if (remote.length) editor.tell('remote', remote.slice(0, 100));
         const range = this.range();
         if (!range) return false;
         const content = document.createDocumentFragment();
-        content.append(...Array.from(source.body.childNodes));
+        content.append(...nodes);
         return this.nodes(range, content);
     },
 
@@ -170,36 +166,6 @@ editor.insert = {
         if (!/^\s*<(col|colgroup|thead|tbody|tr|td|th)\b/i.test(marked)) return marked;
         const tables = html.slice(0, start).match(/<table\b[^>]*>/gi) || ['<table>'];
         return tables.pop() + marked + '</table>';
-    },
-
-    dropComments(source) {
-        const walker = source.createTreeWalker(source, NodeFilter.SHOW_COMMENT);
-        const comments = [];
-        while (walker.nextNode()) comments.push(walker.currentNode);
-        comments.forEach((comment) => comment.remove());
-    },
-
-    cleanElement(element) {
-        for (const { name, value } of Array.from(element.attributes)) {
-            const bad =
-                /^on|^xmlns|:/.test(name) ||
-                (/^(href|src|action|background|formaction)$/.test(name) && /^\s*(javascript|vbscript):/i.test(value)) ||
-                (name === 'class' && /^(mso|xl\d)/i.test(value)) ||
-                (name === 'lang' && element.localName === 'span');
-            if (bad) element.removeAttribute(name);
-        }
-        this.cleanStyle(element);
-        const foreign = element.localName.includes(':');
-        const bare = element.localName === 'span' && element.attributes.length === 0;
-        if (foreign || bare) element.replaceWith(...element.childNodes);
-    },
-
-    cleanStyle(element) {
-        const style = element.getAttribute('style');
-        if (style === null) return;
-        const kept = style.split(';').filter((part) => part.trim() && !/^\s*(mso-|tab-stops|page:)/i.test(part));
-        if (kept.length) element.setAttribute('style', kept.map((part) => part.trim()).join('; '));
-        else element.removeAttribute('style');
     },
 
     paste(clipboard) {
