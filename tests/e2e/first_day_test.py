@@ -20,7 +20,7 @@ from desktop import fail
 
 desktop.inside()
 desktop.PATIENCE = 150  # the wait of the block limit lasts up to a minute
-from accessible import Window, act, has, wait_for  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, act, click, has, wait_for  # noqa: E402  looks for the bus when it is imported
 from assistive_test import type_into  # noqa: E402
 from drag_test import drag, middle  # noqa: E402
 from keyboard_test import add_account, keys, make_group, type_text  # noqa: E402
@@ -168,7 +168,7 @@ def write_newsletter(stage):
     keys("ctrl+End")
     paste(stage, OFFER)
     keys("ctrl+End")
-    editor.press("Tabella")
+    click(editor.find("push button", "Tabella"))
     keys("Down", "Return")
     keys("ctrl+shift+a")
     choose_file("Inserisci allegato", attachment)
