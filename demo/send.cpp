@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "unattended.h"
 #include "windows/entry/Finestre.h"
@@ -64,6 +65,8 @@ void runOnce(const Choices& choices) {
         ui::FileDialog::queue(choices.log);
         click(window, "chkLog");
     }
+    // To the question about the attachment and the logo: the message was not saved in the editor.
+    ui::MessageDialog::queue(ui::MessageDialog::Yes);
     click(window, "cmdInvia");
     waitForEnd(window, choices.screenshot);
     click(window, "cmdChiudi");

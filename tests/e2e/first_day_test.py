@@ -206,6 +206,10 @@ def run(message, stopped_at=None):
         window.write("email ogni … minuti.", "1")
     window.press("Invia messaggi")
     if stopped_at:
+        # The attachment and the picture lie outside the home: asked about once.
+        question = Window("dialog", "Attenzione")
+        question.press("Sì")
+        question.gone()
         wait_for(lambda: figures(window)["Email inviate"] >= stopped_at, f"{stopped_at} messages")
         window.press("Ferma invio")
         keep("fermato")

@@ -6,11 +6,13 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "modules/message/MessaggiNoti.h"
 #include "modules/store/NuovoDatabase.h"
 #include "modules/store/percorsoDBase.h"
 #include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
+#include "platform/system/HomeFolder.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace testing_support {
@@ -37,6 +39,7 @@ void write(const QString& path, const QByteArray& content) {
 SampleFolder::SampleFolder() {
     QDir(m_dir.path()).mkdir("data");
     sys::setProgramFolder(m_dir.path() + '/');
+    sys::setHomeFolder(m_dir.path());
     makeDatabase(schema::TabelleNuove());
     CambiaPercorsoDBase(database());
     static_cast<void>(CaricaPercorsoDBase());
@@ -67,6 +70,7 @@ void SampleFolder::narrowGroupNames(int characters) {
 SampleFolder::~SampleFolder() {
     ado::closeAll();
     sys::setProgramFolder({});
+    sys::setHomeFolder({});
 }
 
 int SampleFolder::addRecipients(const QList<Columns>& recipients) {
@@ -118,7 +122,8 @@ void SampleFolder::addAccount(const Account& account) {
 }
 
 QString SampleFolder::writeMessage(const QString& name, const MessaggioMss& message) const {
-    ScriviMessaggio(path(name), message);
+    const QByteArray bytes = ScriviMessaggio(path(name), message);
+    messaggiNoti::Annota(path(name), messaggiNoti::Impronta(bytes), {});
     return path(name);
 }
 

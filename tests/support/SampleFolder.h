@@ -12,7 +12,8 @@
 
 namespace testing_support {
 
-/// A program folder in a temporary place, made the program's own by the constructor: an empty database with
+/// A program folder in a temporary place, made the program's own and the user's home
+/// by the constructor: an empty database with
 /// the group "Clienti", no account, a language file that leaves the windows' own texts. The destructor lets
 /// go of the database and gives the program its former folder back.
 class SampleFolder {
@@ -41,7 +42,7 @@ class SampleFolder {
     static Account loopbackAccount(quint16 port);
     void addAccount(const Account& account);
 
-    /// Writes a message file; gives its path.
+    /// Writes a message file as the editor saves it, so that it is known; gives its path.
     QString writeMessage(const QString& name, const MessaggioMss& message) const;
     /// Subject ":::rgs:::", body "Gentile :::nom:::", normal priority, no attachment.
     QString writeMessage() const;

@@ -46,7 +46,9 @@ QByteArray inByte(const MessaggioRecuperato& messaggio) {
                       {"oggetto", messaggio.Oggetto},
                       {"priorita", messaggio.Priorita},
                       {"allegati", QJsonArray::fromStringList(messaggio.Allegati)},
-                      {"corpo", messaggio.CorpoHTML}};
+                      {"corpo", messaggio.CorpoHTML},
+                      {"estraneo", messaggio.estraneo},
+                      {"propri", QJsonArray::fromStringList(messaggio.propri)}};
     if (messaggio.Origine) campi["origine"] = *messaggio.Origine;
     const QByteArray contenuto = QJsonDocument(campi).toJson(QJsonDocument::Compact);
     return intestazione + impronta(contenuto) + contenuto;
@@ -69,6 +71,9 @@ std::optional<MessaggioRecuperato> daByte(const QByteArray& byte) {
         messaggio.Allegati << allegato.toString();
     messaggio.CorpoHTML = campi["corpo"].toString();
     if (campi.contains(QLatin1String("origine"))) messaggio.Origine = campi["origine"].toString();
+    messaggio.estraneo = campi["estraneo"].toBool(true);
+    for (const QJsonValue proprio : campi["propri"].toArray())
+        messaggio.propri << proprio.toString();
     return messaggio;
 }
 

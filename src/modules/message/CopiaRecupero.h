@@ -20,6 +20,9 @@ struct MessaggioRecuperato {
     QStringList Allegati;
     QString CorpoHTML;               ///< of the design view
     std::optional<QString> Origine;  ///< of the source view, where that has not moved to the design view
+    /// Where the document came from; see frmEditor. A copy that does not say so came from anywhere.
+    bool estraneo = true;
+    QStringList propri{};
     bool operator==(const MessaggioRecuperato&) const = default;
 };
 

@@ -1,12 +1,16 @@
 #include "modules/message/MessaggioMss.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <QFile>
+#include <utility>
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
 #include "platform/html/Bounds.h"
 #include "platform/system/TextWriter.h"
+#include "platform/text/AnsiCodec.h"
 #include "platform/text/Blanks.h"
 
 namespace {
@@ -19,6 +23,8 @@ const QString iniAllg = QStringLiteral("[<INI-ALLG>]");
 const QString endAllg = QStringLiteral("[<END-ALLG>]");
 const QString iniMess = QStringLiteral("[<INI-MESS>]");
 const QString endMess = QStringLiteral("[<END-MESS>]");
+
+constexpr qint64 fileMassimo = 256LL * 1024 * 1024;
 
 QString senzaMarcatori(QString riga, const QString& inizio, const QString& fine) {
     riga.remove(inizio).remove(fine);
@@ -33,25 +39,40 @@ bool aggiungi(QString& corpo, const QString& riga) {
 
 }  // namespace
 
-void ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio) {
+QByteArray ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio) {
     sys::TextWriter file;
+    QByteArray scritto;
+    const auto stampa = [&](const QString& riga) {
+        esigi(file.print(riga));
+        scritto += text::toAnsi(riga) + "\r\n";
+    };
     esigi(file.open(percorso, sys::WriteMode::Output, sys::kindByFolder(percorso)));
-    esigi(file.print(iniSubj + messaggio.Oggetto + endSubj));
-    esigi(file.print(iniPrio + messaggio.Priorita + endPrio));
-    esigi(file.print(iniAllg));
+    stampa(iniSubj + messaggio.Oggetto + endSubj);
+    stampa(iniPrio + messaggio.Priorita + endPrio);
+    stampa(iniAllg);
     if (messaggio.Allegati.size() > std::numeric_limits<std::int16_t>::max()) fallisci(ErrorCode::Overflow);
     for (const QString& allegato : messaggio.Allegati)
-        esigi(file.print(allegato));
-    esigi(file.print(endAllg));
-    esigi(file.print(iniMess));
-    esigi(file.print(messaggio.CorpoHTML));
-    esigi(file.print(endMess));
+        stampa(allegato);
+    stampa(endAllg);
+    stampa(iniMess);
+    stampa(messaggio.CorpoHTML);
+    stampa(endMess);
     esigi(file.close());
+    return scritto;
 }
 
-LettoreMss::LettoreMss(const QString& percorso) {
-    Prosegui prosegui;
-    prosegui([&] { esigi(m_file.open(percorso, text::LineEnds::CarriageReturn)); });
+FileMss LeggiFileMss(const QString& percorso) {
+    FileMss letto{percorso, {}, false, {}};
+    QFile file;
+    letto.aperto = text::openForInput(file, percorso);
+    if (!letto.aperto.ok()) return letto;
+    letto.byte = file.read(std::min(file.size(), fileMassimo));
+    letto.intero = file.error() == QFile::NoError && file.atEnd();
+    return letto;
+}
+
+LettoreMss::LettoreMss(const FileMss& file) {
+    m_file.openBytes(file.byte, text::LineEnds::CarriageReturn, file.percorso);
 }
 
 bool LettoreMss::leggiRiga() {
@@ -88,6 +109,31 @@ QString LettoreMss::corpo() {
     return corpo;
 }
 
+QStringList MessaggioLetto::nominati() const {
+    QStringList percorsi;
+    for (const AllegatoMss& allegato : allegati)
+        percorsi << allegato.percorso;
+    return percorsi;
+}
+
+QStringList MessaggioLetto::presenti() const {
+    QStringList percorsi;
+    for (const AllegatoMss& allegato : allegati)
+        if (allegato.presente) percorsi << allegato.percorso;
+    return percorsi;
+}
+
+MessaggioLetto LeggiMss(const FileMss& file) {
+    LettoreMss lettore(file);
+    MessaggioLetto letto;
+    letto.oggetto = lettore.oggetto();
+    letto.priorita = lettore.priorita();
+    while (auto allegato = lettore.allegato())
+        letto.allegati << *std::move(allegato);
+    letto.corpo = lettore.corpo();
+    return letto;
+}
+
 int NumeroPriorita(const QString& priorita) {
     if (priorita == QLatin1String("HI")) return 1;
     if (priorita == QLatin1String("LW")) return 5;
@@ -98,9 +144,10 @@ QString AvvisoAllegatoMancante(const QString& nome) {
     return QStringLiteral("Il file ") + nome + QStringLiteral(" allegato non esiste più o è stato spostato.");
 }
 
-QString LeggiCorpoMss(const QString& percorso) {
+QString LeggiCorpoMss(const FileMss& letto) {
+    esigi(letto.aperto);
     text::LineReader file;
-    esigi(file.open(percorso, text::LineEnds::CarriageReturn));
+    file.openBytes(letto.byte, text::LineEnds::CarriageReturn, letto.percorso);
     QString riga;
     while (text::trimBlanks(riga) != iniMess)
         esigi(file.readLine(riga));

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -17,9 +19,21 @@ struct MessaggioMss {
     QString CorpoHTML;
 };
 
-/// Writes the message over the file at `percorso`. Unguarded; a failure midway leaves the part that was
-/// written.
-void ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio);
+/// Writes the message over the file at `percorso` and gives the bytes that were written. Unguarded; a failure
+/// midway leaves the part that was written.
+QByteArray ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio);
+
+/// A message file as it was read, once: whatever is judged and whatever is used are the same bytes, also
+/// where somebody else may change the file meanwhile.
+struct FileMss {
+    QString percorso;
+    QByteArray byte;
+    bool intero = false;  ///< `byte` is all of it: it could be read to its end and is not too long for that
+    Status aperto;        ///< why the file could not be opened
+};
+
+/// Passes over every failure. At most 256 MB are read.
+FileMss LeggiFileMss(const QString& percorso);
 
 /// One row of the attachment block.
 struct AllegatoMss {
@@ -35,7 +49,8 @@ struct AllegatoMss {
 /// lines, and a file that ends early ends the attachments and the body with what there was.
 class LettoreMss {
   public:
-    explicit LettoreMss(const QString& percorso);
+    explicit LettoreMss(const FileMss& file);
+    explicit LettoreMss(const QString& percorso) : LettoreMss(LeggiFileMss(percorso)) {}
 
     QString oggetto();
     QString priorita();
@@ -50,6 +65,19 @@ class LettoreMss {
     bool m_inAllegati = false;
 };
 
+/// What a message file holds, read in one go by LettoreMss.
+struct MessaggioLetto {
+    QString oggetto;
+    QString priorita;
+    QList<AllegatoMss> allegati;
+    QString corpo;
+
+    /// The paths of the attachments, of all and of those that are there.
+    QStringList nominati() const;
+    QStringList presenti() const;
+};
+MessaggioLetto LeggiMss(const FileMss& file);
+
 /// The number of a priority for the delivery: 1 for "HI", 5 for "LW", 3 for anything else.
 int NumeroPriorita(const QString& priorita);
 
@@ -58,4 +86,7 @@ QString AvvisoAllegatoMancante(const QString& nome);
 
 /// The reader of the preview: the body alone, wherever it begins. Unguarded: fails when the file cannot be
 /// opened or ends before the body does.
-QString LeggiCorpoMss(const QString& percorso);
+QString LeggiCorpoMss(const FileMss& file);
+inline QString LeggiCorpoMss(const QString& percorso) {
+    return LeggiCorpoMss(LeggiFileMss(percorso));
+}

@@ -258,6 +258,8 @@ class HtmlView : public QWidget {
     void staysOnTheWeb(const QStringList& addresses);
     /// What was pasted or dropped is too large or too deep, and was not inserted; a text for the user.
     void refused(const QString& reason);
+    /// Image files were pasted or dropped and stand in the document now. Their addresses.
+    void filesInserted(const QStringList& addresses);
     /// The pointer came over the view.
     void pointerEntered();
 

@@ -85,6 +85,7 @@ struct HtmlView::Live {
     int patience(Wait wait) const;
     bool waitFor(const std::function<bool()>& done, int milliseconds);
     bool dropped(const QPoint& place, const QMimeData& data);
+    void tellFiles(const QJsonObject& content);
     bool focusArrives(Qt::FocusReason reason);
 
     QString m_defaultFont;   // as it was set

@@ -121,7 +121,15 @@ Result<bool> HtmlView::Live::paste() {
 
 Result<bool> HtmlView::Live::paste(const QJsonObject& content) {
     if (Status fits = contentFits(content); !fits.ok()) return fits;
-    return changeDone(QStringLiteral("insert.paste"), {content});
+    Result<bool> inserted = changeDone(QStringLiteral("insert.paste"), {content});
+    if (inserted.ok() && inserted.value()) tellFiles(content);
+    return inserted;
+}
+
+void HtmlView::Live::tellFiles(const QJsonObject& content) {
+    const QVariantList images = content.value(QLatin1String("images")).toArray().toVariantList();
+    if (!images.isEmpty() && !content.contains(QLatin1String("html")))
+        Q_EMIT view.filesInserted(QVariant(images).toStringList());
 }
 
 bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
@@ -134,6 +142,7 @@ bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
     const Result<bool> inserted =
         changeDone(QStringLiteral("insert.dropAt"), {place.x(), place.y(), content});
     if (!inserted.ok() || !inserted.value()) return false;
+    tellFiles(content);
     Q_EMIT view.dropped();
     return true;
 }

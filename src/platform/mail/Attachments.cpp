@@ -1,7 +1,6 @@
 #include "platform/mail/Attachments.h"
 
 #include <algorithm>
-#include <QFile>
 
 #include "platform/mail/FilePart.h"
 
@@ -14,24 +13,23 @@ Status unusable(ErrorCode code, const Attachment& file, const QString& why) {
     return {code, QStringLiteral("L'allegato %1 %2.").arg(file.name.isEmpty() ? file.path : file.name, why)};
 }
 
-Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp) {
+Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp, const CarriedFiles& allowed) {
     if (!stamp.exists()) return unusable(ErrorCode::FileNotFound, file, QStringLiteral("non esiste"));
     if (stamp.size > largestAttachment)
         return unusable(ErrorCode::RecordTooLarge, file, QStringLiteral("è troppo grande"));
-    QFile source(file.path);
-    if (!source.open(QIODevice::ReadOnly)) {
-        return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
-    }
-    const QByteArray content = source.read(std::min(source.size(), largestAttachment));
-    if (source.error() != QFile::NoError) {
-        return unusable(ErrorCode::PathAccess, file, QStringLiteral("non si può leggere"));
-    }
-    return attachmentPart(file.name.isEmpty() ? file.path : file.name, content);
+    const auto content = readCarried(file.path, allowed, largestAttachment);
+    if (!content.ok()) return unusable(content.status().code(), file, content.status().text());
+    return attachmentPart(file.name.isEmpty() ? file.path : file.name, content.value());
 }
 
 }  // namespace
 
-Status Attachments::follow(const QVector<Attachment>& list) {
+Status Attachments::follow(const QVector<Attachment>& list, const CarriedFiles& allowed) {
+    if (allowed != m_allowed) {
+        m_known.clear();
+        m_parts.clear();
+        m_allowed = allowed;
+    }
     std::vector<Known> known;
     std::vector<SharedLines> parts;
     for (const Attachment& file : list) {
@@ -43,7 +41,7 @@ Status Attachments::follow(const QVector<Attachment>& list) {
         if (same != m_known.end() && stamp.exists()) {
             parts.push_back(m_parts[static_cast<std::size_t>(same - m_known.begin())]);
         } else {
-            auto part = encode(file, stamp);
+            auto part = encode(file, stamp, allowed);
             if (!part.ok()) return part.status();
             parts.emplace_back(std::move(part).value());
         }

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "platform/mail/CarriedFile.h"
 #include "platform/mail/FileStamp.h"
 #include "platform/mail/Message.h"
 #include "platform/mail/MessageText.h"
@@ -14,7 +15,8 @@ class Attachments {
   public:
     /// Brings the parts in line with the list. Fails when a file is missing, cannot be read or is too large
     /// for any server (FileNotFound, PathAccess, RecordTooLarge); the text names the attachment.
-    Status follow(const QVector<Attachment>& list);
+    /// A file that is none of `allowed` is PathAccess.
+    Status follow(const QVector<Attachment>& list, const CarriedFiles& allowed = {});
 
     /// One complete part for each attachment of the list, in its order.
     const std::vector<SharedLines>& parts() const { return m_parts; }
@@ -25,6 +27,7 @@ class Attachments {
         FileStamp stamp;
     };
 
+    CarriedFiles m_allowed;
     std::vector<Known> m_known;  // same order as m_parts
     std::vector<SharedLines> m_parts;
 };

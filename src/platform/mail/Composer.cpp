@@ -99,9 +99,9 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     if (!from.ok()) return from.status();
     const auto to = parseAddrSpec(message.toAddress);
     if (!to.ok()) return to.status();
-    const Status attached = m_state->attachments.follow(message.attachments);
+    const Status attached = m_state->attachments.follow(message.attachments, message.carried);
     if (!attached.ok()) return attached;
-    m_state->images.follow(message.templateHtml);
+    m_state->images.follow(message.templateHtml, message.carried);
 
     Body body{{}, message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
     // As it travels: what stands around a NUL has to mean the same to every reader.

@@ -123,6 +123,7 @@ MessageData DeliveryControl::data() const {
     data.unsubscribeLink = UnsubscribeLink;
     data.priority = Priority;
     data.attachments = Attachments.items();
+    data.carried = FilesToCarry;
     data.dkimFolder = DkimFolder;
     return data;
 }
@@ -158,6 +159,11 @@ void DeliveryControl::report() {
         Q_EMIT SendDone();
     else
         Q_EMIT SendError(outcome.code, outcome.text);
+}
+
+Status DeliveryControl::OpenLog() {
+    m_transcript.setFile(LogEnabled ? LogFile : QString());
+    return m_transcript.status();
 }
 
 void DeliveryControl::Remark(const QString& text) {

@@ -86,6 +86,8 @@ class DeliveryControl : public QObject {
     /// sentence of the control's own.
     QString NoServerReason;
     AttachmentList Attachments;
+    CarriedFiles
+        FilesToCarry;  ///< attachments and images that may be read; a message that needs another fails
     bool OpportunisticTls = false;   ///< see Route; set on the direct route to the recipient's own server
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
     QStringList InsideHosts;         ///< see Route
@@ -111,6 +113,8 @@ class DeliveryControl : public QObject {
     QList<qint64> Awaited(const QString& database) const;
     /// Whether any reply is awaited.
     bool Awaiting() const;
+    /// Opens the support log now, where one is asked for: why it cannot be written, if so.
+    Status OpenLog();
     /// Writes a line of the caller into the support log, if there is one.
     void Remark(const QString& text);
 

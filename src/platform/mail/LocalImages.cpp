@@ -1,7 +1,6 @@
 #include "platform/mail/LocalImages.h"
 
 #include <algorithm>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QUrl>
 
@@ -12,20 +11,6 @@ namespace mail {
 namespace {
 
 constexpr qint64 roomForImages = qint64{10} << 20;
-
-// Absolute path of a file on this machine, or empty: file:///..., file://localhost/... or a plain path, with
-// slashes of either kind. Two slashes in front name another machine.
-QString localPath(const QByteArray& address) {
-    QString path = QString::fromUtf8(address);
-    path.replace(u'\\', u'/');
-    if (path.startsWith(u"file:", Qt::CaseInsensitive)) {
-        path = QUrl::fromPercentEncoding(path.mid(5).toUtf8());
-        if (path.startsWith(u"//localhost/", Qt::CaseInsensitive)) path = path.mid(11);
-        if (path.startsWith(u"///")) path = path.mid(2);
-    }
-    const bool isAbsolute = path.startsWith(u'/') && !path.startsWith(u"//") && !path.contains(QChar(0));
-    return isAbsolute ? path : QString();
-}
 
 // By the signatures that the formats define; empty for anything else
 QByteArray imageType(const QByteArray& content) {
@@ -45,22 +30,47 @@ QByteArray newContentId() {
 
 }  // namespace
 
-bool LocalImages::isCurrent(const QString& templateHtml) const {
-    return templateHtml == m_template && std::all_of(m_seen.begin(), m_seen.end(), [](const Seen& seen) {
-               return FileStamp::of(seen.path) == seen.stamp;
-           });
+// file:///..., file://localhost/... or a plain path, with slashes of either kind. Two slashes in front name
+// another machine.
+QString localImagePath(const QByteArray& address) {
+    QString path = QString::fromUtf8(address);
+    path.replace(u'\\', u'/');
+    if (path.startsWith(u"file:", Qt::CaseInsensitive)) {
+        path = QUrl::fromPercentEncoding(path.mid(5).toUtf8());
+        if (path.startsWith(u"//localhost/", Qt::CaseInsensitive)) path = path.mid(11);
+        if (path.startsWith(u"///")) path = path.mid(2);
+    }
+    const bool isAbsolute = path.startsWith(u'/') && !path.startsWith(u"//") && !path.contains(QChar(0));
+    return isAbsolute ? path : QString();
 }
 
-void LocalImages::follow(const QString& templateHtml) {
-    if (isCurrent(templateHtml)) return;
+QStringList localImagePaths(const QString& templateHtml) {
+    QStringList paths;
+    for (const auto& reference : findReferences(templateHtml.toUtf8()).images) {
+        const QString path = localImagePath(reference.value);
+        if (!path.isEmpty()) paths << path;
+    }
+    paths.removeDuplicates();
+    return paths;
+}
+
+bool LocalImages::isCurrent(const QString& templateHtml, const CarriedFiles& allowed) const {
+    return templateHtml == m_template && allowed == m_allowed &&
+           std::all_of(m_seen.begin(), m_seen.end(),
+                       [](const Seen& seen) { return FileStamp::of(seen.path) == seen.stamp; });
+}
+
+void LocalImages::follow(const QString& templateHtml, const CarriedFiles& allowed) {
+    if (isCurrent(templateHtml, allowed)) return;
     m_template = templateHtml;
+    m_allowed = allowed;
     m_seen.clear();
     m_images.clear();
     m_places.clear();
     qint64 room = roomForImages;
     QHash<QString, int> placeOfPath;
     for (const auto& reference : findReferences(templateHtml.toUtf8()).images) {
-        const QString path = localPath(reference.value);
+        const QString path = localImagePath(reference.value);
         if (path.isEmpty()) continue;
         auto place = placeOfPath.find(path);
         if (place == placeOfPath.end()) place = placeOfPath.insert(path, take(path, room));
@@ -71,9 +81,10 @@ void LocalImages::follow(const QString& templateHtml) {
 int LocalImages::take(const QString& path, qint64& room) {
     const FileStamp stamp = FileStamp::of(path);
     m_seen.push_back({path, stamp});
-    QFile file(path);
-    if (!stamp.exists() || stamp.size > room || !file.open(QIODevice::ReadOnly)) return -1;
-    const QByteArray content = file.read(room);
+    if (!stamp.exists() || stamp.size > room) return -1;
+    const auto read = readCarried(path, m_allowed, room);
+    if (!read.ok()) return -1;
+    const QByteArray& content = read.value();
     const QByteArray type = imageType(content);
     if (type.isEmpty()) return -1;
     room -= content.size();

@@ -2,12 +2,21 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
+#include "platform/mail/CarriedFile.h"
 #include "platform/mail/FileStamp.h"
 #include "platform/mail/MessageText.h"
 
 namespace mail {
+
+/// The path that an address of an image stands for, where that is a file on this machine; else empty. Links
+/// are not resolved.
+QString localImagePath(const QByteArray& address);
+
+/// The paths that a template names as images, each once and in its order, whether they are there or not.
+QStringList localImagePaths(const QString& templateHtml);
 
 /// The images on this machine that a template names, ready to travel inside messages.
 ///
@@ -21,8 +30,9 @@ class LocalImages {
         SharedLines part;      ///< the complete part
     };
 
-    /// Looks again at the files if the template or one of them has changed.
-    void follow(const QString& templateHtml);
+    /// Looks again at the files if the template, what is allowed, or one of them has changed. Files that are
+    /// none of `allowed` are left out.
+    void follow(const QString& templateHtml, const CarriedFiles& allowed = {});
 
     const std::vector<Image>& images() const { return m_images; }
 
@@ -35,10 +45,11 @@ class LocalImages {
         FileStamp stamp;
     };
 
-    bool isCurrent(const QString& templateHtml) const;
+    bool isCurrent(const QString& templateHtml, const CarriedFiles& allowed) const;
     int take(const QString& path, qint64& room);
 
     QString m_template;
+    CarriedFiles m_allowed;
     std::vector<Seen> m_seen;
     std::vector<Image> m_images;
     QHash<QByteArray, int> m_places;

@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include "platform/mail/AddrSpec.h"
+#include "platform/mail/CarriedFile.h"
 #include "platform/mail/MessageText.h"
 
 namespace mail {
@@ -29,7 +30,8 @@ struct MessageData {
     QString unsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
     int priority = 3;         ///< 1 high, 5 low, anything else normal
     QVector<Attachment> attachments;
-    QString dkimFolder;  ///< see DkimSigner; empty: nothing is signed
+    CarriedFiles carried;  ///< of attachments and images, those that may be read
+    QString dkimFolder;    ///< see DkimSigner; empty: nothing is signed
 };
 
 /// A message ready for the wire.

@@ -18,8 +18,9 @@ void Transcript::setFile(const QString& path) {
     if (m_file.isOpen() && m_path == path) return;
     m_file.close();
     m_path = path;
+    m_status = {};
     if (path.isEmpty()) return;
-    static_cast<void>(sys::openForWriting(m_file, path, sys::WriteMode::Append, sys::FileKind::Own));
+    m_status = sys::openForWriting(m_file, path, sys::WriteMode::Append, sys::FileKind::Own);
 }
 
 void Transcript::addSecret(const QByteArray& secret) {

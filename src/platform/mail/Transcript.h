@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QString>
 
+#include "platform/Status.h"
+
 namespace mail {
 
 /// The support log (.xt1): UTF-8 text, lines ended by CR LF, each "date time direction text" in local time.
@@ -15,6 +17,9 @@ class Transcript {
   public:
     /// Writes to `path` from now on; an empty path ends the log.
     void setFile(const QString& path);
+
+    /// Why the log could not be opened, if it could not.
+    const Status& status() const { return m_status; }
 
     bool active() const { return m_file.isOpen(); }
 
@@ -37,6 +42,7 @@ class Transcript {
 
     QFile m_file;
     QString m_path;
+    Status m_status;
     QByteArrayList m_secrets;
 };
 

@@ -75,6 +75,18 @@ Status LineReader::open(const QString& path, LineEnds ends, Encoding encoding) {
     return m_status;
 }
 
+void LineReader::openBytes(const QByteArray& bytes, LineEnds ends, const QString& name) {
+    if (m_file.isOpen()) m_file.close();
+    m_file.setFileName(name);
+    m_block = bytes;
+    m_position = 0;
+    m_ends = ends;
+    m_encoding = Encoding::Ansi;
+    m_utf8 = false;
+    m_fromUtf16 = QStringDecoder();
+    m_status = {};
+}
+
 // Leaves the file behind its byte order mark. A file that cannot be read fails later, as its lines are.
 void LineReader::detect() {
     const QByteArray start = m_file.peek(3);

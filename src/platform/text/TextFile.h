@@ -37,6 +37,9 @@ class LineReader {
 
     Status open(const QString& path, LineEnds ends, Encoding encoding = Encoding::Ansi);
 
+    /// Reads Windows-1252 bytes that the caller has, as if they stood in a file of that name.
+    void openBytes(const QByteArray& bytes, LineEnds ends, const QString& name);
+
     /// True when no line is left, or when nothing is open.
     bool atEnd();
 

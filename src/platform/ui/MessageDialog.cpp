@@ -46,9 +46,10 @@ constexpr Offered answers[] = {{QMessageBox::Ok, MessageDialog::Ok, nullptr},
 int queuedAnswer(const MessageDialog::Shown& box) {
     if (queuedAnswers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
     const int answer = queuedAnswers.takeFirst();
-    const bool offered = std::any_of(std::begin(answers), std::end(answers), [&](const Offered& one) {
-        return box.buttons.testFlag(one.button) && answer == one.answer;
-    });
+    const bool offered = (answer == MessageDialog::YesAlways && box.remembers) ||
+                         std::any_of(std::begin(answers), std::end(answers), [&](const Offered& one) {
+                             return box.buttons.testFlag(one.button) && answer == one.answer;
+                         });
     if (!offered) failUnanswered("message box that has no such button", qUtf8Printable(box.text));
     return answer;
 }
@@ -85,6 +86,12 @@ int answerTo(MessageDialog::Shown box) {
     return box.answer;
 }
 
+int answerOfUser(const ListQuestion::Content& question) {
+    ListQuestion dialog(dialogOwner(), question);
+    if (dialog.exec() != QDialog::Accepted) return MessageDialog::No;
+    return dialog.remembers() ? MessageDialog::YesAlways : MessageDialog::Yes;
+}
+
 }  // namespace
 
 int MessageDialog::show(const QString& text, int style, const QString& title, int defaultAnswer) {
@@ -96,6 +103,22 @@ int MessageDialog::showFailure(const QString& text, const QString& details, bool
     QMessageBox::StandardButtons buttons = QMessageBox::Close;
     if (offerRestart) buttons |= QMessageBox::Retry;
     return answerTo({text, Stop, title, iconOf(Stop), buttons, Ok, Ok, details});
+}
+
+int MessageDialog::askAbout(const ListQuestion::Content& question) {
+    Shown box{question.text,
+              AskNotice,
+              question.title,
+              iconOf(AskNotice),
+              buttonsOf(AskNotice),
+              Ok,
+              No,
+              {},
+              question.rows,
+              !question.remember.isEmpty()};
+    box.answer = unattended() ? queuedAnswer(box) : answerOfUser(question);
+    shownBoxes.append(box);
+    return box.answer;
 }
 
 void MessageDialog::queue(int answer) {

@@ -3,6 +3,9 @@
 #include <QList>
 #include <QMessageBox>
 #include <QString>
+#include <QStringList>
+
+#include "platform/ui/ListQuestion.h"
 
 namespace ui {
 
@@ -13,7 +16,8 @@ class MessageDialog {
     /// (0 OK, 4 Yes and No), then the icon (16 stop, 32 question, 64 information).
     enum Style : int { Plain = 0, Stop = 16, AskQuestion = 36, Notice = 64, AskNotice = 68 };
     /// Ok is also the one that closes a failure's box.
-    enum Answer : int { Ok = 1, Restart = 4, Yes = 6, No = 7 };
+    /// YesAlways is Yes to a question with a list whose check box is on.
+    enum Answer : int { Ok = 1, Restart = 4, Yes = 6, No = 7, YesAlways = 8 };
 
     /// A box as it was shown.
     struct Shown {
@@ -23,8 +27,10 @@ class MessageDialog {
         QMessageBox::Icon icon = QMessageBox::NoIcon;
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         int answer = Ok;
-        int defaultAnswer = Yes;  ///< of a box of Yes and No: what Return presses
-        QString details;          ///< what stands below the text of a failure
+        int defaultAnswer = Yes;    ///< of a box of Yes and No: what Return presses
+        QString details;            ///< what stands below the text of a failure
+        QList<QStringList> rows{};  ///< of a question with a list
+        bool remembers = false;     ///< it has a check box
     };
 
     /// Shows a box over the active window and waits for its answer. Lines are separated by CR LF. Closing a
@@ -35,6 +41,9 @@ class MessageDialog {
     /// (Ok, the default, "Chiudi") or, where that is offered, answered by Restart ("Riavvia").
     static int showFailure(const QString& text, const QString& details, bool offerRestart,
                            const QString& title);
+
+    /// Asks about a list of things, with "No" as what Return and Esc press: Yes, YesAlways or No.
+    static int askAbout(const ListQuestion::Content& question);
 
     /// For unattended runs: the answer of the next box that is not answered yet. A box that meets an empty
     /// queue ends the program, so that a run never hangs; so does an answer that the box does not offer.

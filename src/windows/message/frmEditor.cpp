@@ -114,6 +114,8 @@ void frmEditor::NuovoMessaggio() {
     DHTML->setShowBorders(true);
     ImpostaTitolo();
     prosegui([this] { Allegati().ClearList(); });
+    estraneo = false;
+    propri.clear();
 }
 
 void frmEditor::ImpostaTitolo() {

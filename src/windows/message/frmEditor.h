@@ -139,6 +139,8 @@ class frmEditor : public QMainWindow {
     bool AggiungiAllegato(const AllegatoMss& allegato);
     void LeggiMessaggio(const QString& percorso);
     void ImpostaFile(const QString& percorso);
+    void RiconosciFile(const FileMss& file, const MessaggioLetto& letto);
+    void AnnotaNoto(const QByteArray& scritto, const MessaggioMss& messaggio) const;
 
     // frmEditor_recupero.cpp: the rescue copy of the document
     void CollegaCopia();
@@ -163,6 +165,10 @@ class frmEditor : public QMainWindow {
     ui::FindDialog* ricerca = nullptr;
     QStringList lstFont;  ///< the fonts of the desktop in the order of their names
     QEventLoop* attesa = nullptr;
+    /// The document came in with a message file that is not known, or not wholly. Of what it names, `propri`
+    /// is what the user chose himself or confirmed before.
+    bool estraneo = false;
+    QStringList propri;
     bool scriveOrigine = false;  ///< the text of the source view is set, not typed
     bool tornaIndietro = false;  ///< a change of tab is being taken back
 

@@ -119,7 +119,10 @@ bool frmEditor::ComandoAllegati(const QString& nome) {
     if (nome == "cmdAllegatiNew") {
         Prosegui prosegui;
         if (const auto percorso = ui::FileDialog::open("Inserisci allegato", "Tutti i file(*.*)|*.*"))
-            if (prosegui([&] { Allegati().InsFile(*percorso); })) DocumentoMutato();
+            if (prosegui([&] { Allegati().InsFile(*percorso); })) {
+                propri << *percorso;
+                DocumentoMutato();
+            }
         // Also after a cancel.
         SegnaModificato();
     } else if (nome == "cmdAllegatiDel") {

@@ -1,5 +1,6 @@
 // What the design view leaves to windows: image, link, properties of an element, search.
 #include "modules/message/variabili.h"
+#include "platform/mail/LocalImages.h"
 #include "platform/ui/ElementDialog.h"
 #include "platform/ui/FindDialog.h"
 #include "platform/ui/ImageDialog.h"
@@ -12,7 +13,12 @@ void frmEditor::DialogoImmagine() {
     const auto scelta = DHTML->selectedImage();
     if (!Riuscita(scelta.status())) return;
     ui::ImageDialog dialogo(this, scelta.value().value_or(HtmlView::ImageInfo()));
-    if (dialogo.exec() == QDialog::Accepted) Riuscita(DHTML->insertImage(dialogo.image()).status());
+    if (dialogo.exec() == QDialog::Accepted) {
+        const QString percorso = mail::localImagePath(dialogo.image().source.toUtf8());
+        const bool nuova = !scelta.value() || dialogo.image().source != scelta.value()->source;
+        if (nuova && !percorso.isEmpty()) propri << percorso;
+        Riuscita(DHTML->insertImage(dialogo.image()).status());
+    }
     DHTML->setFocus();
 }
 

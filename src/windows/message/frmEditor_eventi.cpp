@@ -5,6 +5,7 @@
 #include <QUrl>
 #include <utility>
 
+#include "platform/mail/LocalImages.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
@@ -62,6 +63,10 @@ void frmEditor::CollegaViste() {
     });
     quando(DHTML, &HtmlView::keyReleased, [this] { SegnaModificato(); });
     quando(DHTML, &HtmlView::dropped, [this] { SegnaModificato(); });
+    quando(DHTML, &HtmlView::filesInserted, [this](const QStringList& indirizzi) {
+        for (const QString& indirizzo : indirizzi)
+            propri << mail::localImagePath(indirizzo.toUtf8());
+    });
     quando(DHTML, &HtmlView::leftOut, [](const QStringList& indirizzi) { AvvisaLasciatiFuori(indirizzi); });
     quando(DHTML, &HtmlView::staysOnTheWeb, [this](const QStringList& indirizzi) {
         barre->GetStatic("stcHelp")->setText(RestaSulWeb(indirizzi));

@@ -1,9 +1,7 @@
 // The document and its file.
-#include <utility>
-#include <vector>
-
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "modules/message/MessaggiNoti.h"
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/Bounds.h"
 #include "platform/text/AnsiCodec.h"
@@ -99,12 +97,13 @@ void frmEditor::SalvaMessaggio() {
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
     CopiaPrimaDiScrivere(messaggio->CorpoHTML);
-    const MessaggioMss scritto = conFiniRiga(*messaggio);
-    ScriviMessaggio(percorsoFile, scritto);
+    const MessaggioMss daScrivere = conFiniRiga(*messaggio);
+    const QByteArray scritto = ScriviMessaggio(percorsoFile, daScrivere);
     ImpostaFile(percorsoFile);
+    AnnotaNoto(scritto, *messaggio);
     CopiaDopoScrittura(messaggio->CorpoHTML);
     AvvisaCaratteri(*messaggio);
-    AvvisaLimiti(scritto.CorpoHTML);
+    AvvisaLimiti(daScrivere.CorpoHTML);
 }
 
 void frmEditor::SalvaMessaggioCome() {
@@ -115,11 +114,13 @@ void frmEditor::SalvaMessaggioCome() {
     CopiaPrimaDiScrivere(messaggio->CorpoHTML);
     Prosegui prosegui;
     const MessaggioMss daScrivere = conFiniRiga(*messaggio);
-    const bool scritto = prosegui([&] { ScriviMessaggio(*percorso, daScrivere); });
+    QByteArray byte;
+    const bool scritto = prosegui([&] { byte = ScriviMessaggio(*percorso, daScrivere); });
     ImpostaFile(*percorso);
     fileAperto = true;
     percorsoFile = *percorso;
     if (scritto) {
+        AnnotaNoto(byte, *messaggio);
         CopiaDopoScrittura(messaggio->CorpoHTML);
         AvvisaCaratteri(*messaggio);
         return AvvisaLimiti(daScrivere.CorpoHTML);
@@ -128,6 +129,16 @@ void frmEditor::SalvaMessaggioCome() {
     ui::MessageDialog::show("Il messaggio non è stato salvato in " + *percorso + ":\r\n" + prosegui.testo() +
                                 "\r\nSalvalo con un altro nome.",
                             ui::MessageDialog::Notice, "Attenzione");
+}
+
+/// What came in with a file that is not known stays so. A file that is written anew has been asked about for
+/// what lies apart all the same.
+void frmEditor::AnnotaNoto(const QByteArray& scritto, const MessaggioMss& messaggio) const {
+    messaggiNoti::Noto noto{{}, messaggiNoti::Confermati(percorsoFile)};
+    if (estraneo)
+        for (const QString& nominato : messaggiNoti::FileNominati(messaggio.Allegati, messaggio.CorpoHTML))
+            if (!propri.contains(nominato)) noto.daConfermare << nominato;
+    messaggiNoti::Annota(percorsoFile, messaggiNoti::Impronta(scritto), noto);
 }
 
 void frmEditor::ApriMessaggio() {
@@ -152,24 +163,29 @@ bool frmEditor::AggiungiAllegato(const AllegatoMss& allegato) {
     return false;
 }
 
+void frmEditor::RiconosciFile(const FileMss& file, const MessaggioLetto& letto) {
+    const auto noto =
+        file.intero ? messaggiNoti::Cerca(file.percorso, messaggiNoti::Impronta(file.byte)) : std::nullopt;
+    estraneo = !noto || !noto->daConfermare.isEmpty();
+    if (!noto || !estraneo) return;
+    for (const QString& nominato : messaggiNoti::FileNominati(letto.nominati(), letto.corpo))
+        if (!noto->daConfermare.contains(nominato)) propri << nominato;
+}
+
 /// The document on show goes only once the file is known to hold one that can take its place.
 void frmEditor::LeggiMessaggio(const QString& percorso) {
-    LettoreMss lettore(percorso);
-    const QString oggetto = lettore.oggetto();
-    const QString priorita = lettore.priorita();
-    std::vector<AllegatoMss> allegati;
-    while (auto allegato = lettore.allegato())
-        allegati.push_back(std::move(*allegato));
+    const FileMss file = LeggiFileMss(percorso);
+    const MessaggioLetto letto = LeggiMss(file);
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
-    QString corpo = lettore.corpo();
+    QString corpo = letto.corpo;
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
     if (const Status leggibile = html::readable(corpo); !leggibile.ok())
         return AvvisaVista(leggibile, "Il messaggio nella finestra resta quello di prima.");
     NuovoMessaggio();
-    ImpostaTestata(oggetto, priorita);
+    ImpostaTestata(letto.oggetto, letto.priorita);
     bool lasciato = false;
-    for (const AllegatoMss& allegato : allegati)
+    for (const AllegatoMss& allegato : letto.allegati)
         if (!AggiungiAllegato(allegato)) lasciato = true;
     static_cast<void>(DHTML->setDocumentHTML(corpo));
     // Whichever view is on show shows the message that was opened.
@@ -177,5 +193,6 @@ void frmEditor::LeggiMessaggio(const QString& percorso) {
     ImpostaFile(percorso);
     fileAperto = true;
     percorsoFile = percorso;
+    RiconosciFile(file, letto);
     if (lasciato) SegnaModificato();
 }

@@ -42,7 +42,9 @@ MessaggioRecuperato frmEditor::DaRecuperare(const QString& corpo) {
                                   testata.Priorita,
                                   testata.Allegati,
                                   corpo,
-                                  {}};
+                                  {},
+                                  estraneo,
+                                  propri};
     if (tb->currentIndex() != Origine) return messaggio;
     const QString origine = CODE->Text();
     if (origine == corpo) return messaggio;
@@ -134,6 +136,8 @@ void frmEditor::RiprendiCopia(CopiaTrovata& trovata) {
     }
     if (rifiutato) AvvisaVista(messo, "Il testo recuperato è nell'origine.");
     fileAperto = false;
+    estraneo = messaggio.estraneo;
+    propri = messaggio.propri;
     SegnaModificato();
     copia = trovata.Prendi();
 }

@@ -12,7 +12,6 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/lang/bVAR.h"
-#include "modules/message/MessaggioMss.h"
 #include "modules/send/Accettati.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
@@ -21,9 +20,7 @@
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DialogFrame.h"
-#include "platform/ui/FileDialog.h"
 #include "platform/ui/LineEdit.h"
-#include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
@@ -262,17 +259,4 @@ void frmInvia::cmdChiudi_Click() {
     Prosegui prosegui;
     prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); });
     if (nodoCorrente) RiempiGriglia();
-}
-
-void frmInvia::cmdFile_Click() {
-    const auto percorso = ui::FileDialog::open(bVAR::goApriEmail, "Message File (*.mss)|*.mss");
-    if (!percorso) fallisci(ErrorCode::CancelSelected);
-    if (const Status messo = goDHTML.setDocumentHTML(LeggiCorpoMss(*percorso)); !messo.ok()) {
-        const QString prima = txtFile->text().isEmpty() ? QString("Nessun messaggio è stato scelto.")
-                                                        : "Il messaggio scelto resta " + txtFile->text();
-        ui::MessageDialog::show(messo.text() + "\r\n" + prima, ui::MessageDialog::Notice, bVAR::Attenzione);
-        return;
-    }
-    txtFile->setText(*percorso);
-    cmdInvia->setDefault(true);
 }

@@ -6,9 +6,18 @@
 
 #include "modules/accounts/AccountFile.h"
 #include "modules/core/Fallimento.h"
+#include "modules/message/MessaggiNoti.h"
+#include "modules/message/MessaggioMss.h"
 #include "modules/send/Limiti.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/mail/RunLock.h"
+
+/// A message file as it was when it was read, and what is known of it.
+struct FonteMss {
+    QString percorso;
+    QByteArray impronta;  ///< empty where the file was not read to its end
+    std::optional<messaggiNoti::Noto> noto;
+};
 
 class QCheckBox;
 class QComboBox;
@@ -62,7 +71,6 @@ class frmInvia : public QDialog {
     void AllargaEtichette();
     void chkBlocco_Click();
     void cmdChiudi_Click();
-    void cmdFile_Click();
 
     // frmInvia_imposta.cpp: lists, checks and the preparation of a run
     void CaricaAccount();
@@ -73,8 +81,13 @@ class frmInvia : public QDialog {
     bool PreparaElenco();
     void AvvisaFirma();
     void FineInvio();
-    void LeggiMessaggio(Prosegui& prosegui);
     void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);
+
+    // frmInvia_file.cpp: the message file and what it carries away
+    void cmdFile_Click();
+    bool ChiediFile(const FileMss& file, const MessaggioLetto& letto);
+    void AvvisaLog();
+    void UsaMessaggio(const MessaggioLetto& letto);
 
     // frmInvia_tick.cpp: the engine
     void tmr_Timer();
@@ -129,6 +142,8 @@ class frmInvia : public QDialog {
     QTimer* tmr;
 
     TabellaAccount account;
+    FonteMss fonteCorpo;        ///< of the body in goDHTML
+    QStringList allegatiCorpo;  ///< attachments of that file
 
     // The run. The window stays loaded between runs, so each field keeps its value until it is set again.
     mail::RunLock invioInCorso;  ///< from the click until the last tick; seen by other processes
@@ -141,7 +156,8 @@ class frmInvia : public QDialog {
     QString corpoHtml;
     QString CorpoTesto;
     QString oggettoMail;
-    QString disiscrizione;  ///< the template's link marked rel="unsubscribe"
+    QStringList filePermessi;  ///< attachments and images of the run, links resolved
+    QString disiscrizione;     ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;
     QDateTime ultimoRacconto;  ///< when assistive programs were told the figures last
 };

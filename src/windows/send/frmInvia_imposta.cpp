@@ -93,10 +93,15 @@ void frmInvia::cmdInvia_Click() {
     limite.bloccoAttivo = chkBlocco->isChecked();
     const auto logPrima = std::pair(SMTP->LogFile, SMTP->LogEnabled);
     if (chkLog->isChecked() && !ChiediLog()) return;
-    if (!PreparaElenco()) {
+    const FileMss file = LeggiFileMss(txtFile->text());
+    const MessaggioLetto letto = LeggiMss(file);
+    const bool pronto = PreparaElenco();
+    if (!pronto || !ChiediFile(file, letto)) {
+        if (pronto) FineInvio();
         std::tie(SMTP->LogFile, SMTP->LogEnabled) = logPrima;
         return;
     }
+    AvvisaLog();
     AvvisaFirma();
     AbilitaControlli(false);
     prosegui([&] { SetPrgBar(); });
@@ -104,13 +109,14 @@ void frmInvia::cmdInvia_Click() {
     saltaRecord = 0;
     fermaInvio = false;
     const int indiceAccount = cmbAccount->currentData().toInt();
-    if (!FileEsiste(txtFile->text())) {
+    if (!file.aperto.ok() || !FileEsiste(txtFile->text())) {
         // The controls stay locked: cmdFerma is the way to go on.
         MessageDialog::show("Il File messaggio è stato eliminato o spostato.", MessageDialog::Notice,
                             "Attenzione");
         return;
     }
-    LeggiMessaggio(prosegui);
+    UsaMessaggio(letto);
+    // The body goes out as it stood when the file was picked; what the file holds now is not looked at.
     corpoHtml = goDHTML.documentHTML();
     CorpoTesto = goDHTML.bodyInnerText();
     ImpostaConsegna(prosegui, indiceAccount);
@@ -208,22 +214,6 @@ void frmInvia::FineInvio() {
     if (nelGiro || tmr->isActive() || SMTP->Awaiting()) return;
     invioInCorso.release();
     accettati().release();
-}
-
-void frmInvia::LeggiMessaggio(Prosegui& prosegui) {
-    LettoreMss lettore(txtFile->text());
-    prosegui([&] { oggettoMail = lettore.oggetto(); });
-    prosegui([&] { SMTP->Priority = NumeroPriorita(lettore.priorita()); });
-    SMTP->Attachments.Clear();
-    while (const auto allegato = lettore.allegato()) {
-        if (allegato->presente) {
-            SMTP->Attachments.Add(allegato->percorso, allegato->nome);
-        } else {
-            MessageDialog::show(AvvisoAllegatoMancante(allegato->nome), MessageDialog::Notice, "Attenzione");
-        }
-    }
-    // The body goes out as it stood when the file was picked; what the file holds now is not looked at.
-    lettore.corpo();
 }
 
 void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {

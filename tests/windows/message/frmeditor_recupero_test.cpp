@@ -5,6 +5,7 @@
 
 #include "modules/core/bImpostazioni.h"
 #include "modules/message/CopiaRecupero.h"
+#include "modules/message/MessaggiNoti.h"
 #include "windows/message/editor_stage.h"
 
 using namespace testing_support;
@@ -220,6 +221,20 @@ class TestRecupero : public QObject {
         stage().start("cmdAllegatiDel");  // none is chosen
         QCOMPARE(stage().ends, QList<int>{1});
         QVERIFY2(all().contains(">x<"), all());
+    }
+
+    void whatCameInWithAReceivedMessageStaysUnknownThroughItsCopy() {
+        const QString image = stage().path("loro.png"), own = stage().path("mia.png");
+        const QString body = "<p><img src=\"" + image + "\"><img src=\"" + own + "\"></p>";
+        for (const bool received : {true, false}) {
+            leave({"ricevuto.mss", "", "NR", {}, body, {}, received, {own}});
+            MessageDialog::queue(MessageDialog::Yes);
+            takeUp([this] { stage().saveAs("recuperato.mss"); });
+            const auto known = messaggiNoti::Cerca(stage().path("recuperato.mss"),
+                                                   messaggiNoti::Impronta(stage().bytes("recuperato.mss")));
+            QVERIFY(known.has_value());
+            QCOMPARE(known->daConfermare, received ? QStringList{image} : QStringList());
+        }
     }
 
     void nothingIsOfferedWhereThereIsNoCopy() {

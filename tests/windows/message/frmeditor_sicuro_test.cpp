@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QLabel>
 
+#include "modules/message/MessaggiNoti.h"
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/RemoteMessage.h"
 #include "platform/html/ViewFixture.h"
@@ -49,6 +50,10 @@ class TestSicuro : public QObject {
     EditorStage& stage() { return *m_stage; }
     QString visibleText() { return stage().design().evaluate("document.body.textContent").toString(); }
     QString saved() { return QString::fromLatin1(bodyOf(stage().bytes("s.mss"))); }
+    QByteArray saved(const QString& name) { return bodyOf(stage().bytes(name)); }
+    std::optional<messaggiNoti::Noto> knownOf(const QString& name) {
+        return messaggiNoti::Cerca(stage().path(name), messaggiNoti::Impronta(stage().bytes(name)));
+    }
     QString imageFile() {
         QImage image(20, 10, QImage::Format_RGB32);
         image.fill(Qt::red);
@@ -100,6 +105,57 @@ class TestSicuro : public QObject {
         QCOMPARE(stage().body(), "<p><br></p>");
         stage().start("cmdRedo");
         QCOMPARE(stage().body(), body);
+    }
+
+    void savedMessageIsKnownWithAllThatItNames() {
+        stage().fill("<p>uno<img src=\"file://" + imageFile() + "\"></p>");
+        stage().editor().Allegati().InsFile(imageFile());
+        stage().saveAs("s.mss");
+        const auto known = knownOf("s.mss");
+        QVERIFY(known.has_value());
+        QCOMPARE(known->daConfermare, QStringList());
+        stage().write("s.mss", stage().bytes("s.mss").replace("uno", "due"));
+        QVERIFY(!knownOf("s.mss").has_value());
+    }
+
+    void filesOfAReceivedMessageStayUnknownThroughSavesUntilConfirmed() {
+        const QString image = imageFile(), theirs = stage().path("loro.pdf"), mine = stage().path("mio.pdf");
+        stage().write("loro.pdf", "x");
+        stage().write("mio.pdf", "x");
+        ScriviMessaggio(stage().path("ricevuto.mss"),
+                        {"Offerta", "NR", {theirs}, "<p>uno<img src=\"" + image + "\"></p>"});
+        stage().open("ricevuto.mss");
+        ui::FileDialog::queue(mine);
+        stage().start("cmdAllegatiNew");
+        stage().start("cmdSalva");
+        const QStringList unknown{theirs, image};
+        QVERIFY(knownOf("ricevuto.mss").has_value());
+        QCOMPARE(knownOf("ricevuto.mss")->daConfermare, unknown);
+        stage().open("ricevuto.mss");
+        stage().saveAs("altro.mss");
+        QCOMPARE(knownOf("altro.mss")->daConfermare, unknown);
+        // Confirmed, as the send window does, and saved once more.
+        messaggiNoti::Annota(stage().path("altro.mss"), messaggiNoti::Impronta(stage().bytes("altro.mss")),
+                             {});
+        stage().open("altro.mss");
+        stage().start("cmdSalva");
+        QCOMPARE(knownOf("altro.mss")->daConfermare, QStringList());
+        // The next document is the user's own again.
+        stage().start("cmdNewMess");
+        stage().editor().Allegati().InsFile(theirs);
+        stage().saveAs("mio.mss");
+        QCOMPARE(knownOf("mio.mss")->daConfermare, QStringList());
+    }
+
+    void pictureThatTheUserDropsIntoAReceivedMessageIsHisOwn() {
+        ScriviMessaggio(stage().path("ricevuto.mss"), {"Offerta", "NR", {}, "<p>uno</p>"});
+        stage().open("ricevuto.mss");
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(imageFile())});
+        QVERIFY(dropOn(stage().design(), data, placeOf(stage().design(), "p").topLeft() + QPoint(1, 5)));
+        stage().start("cmdSalva");
+        QVERIFY(saved("ricevuto.mss").contains("foto.png"));
+        QCOMPARE(knownOf("ricevuto.mss")->daConfermare, QStringList());
     }
 
     void pastedTextLosesItsLocalFilesAndANoticeNamesThem() {

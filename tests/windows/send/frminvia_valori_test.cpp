@@ -197,6 +197,7 @@ class TestFrmInviaValori : public QObject {
                             "\"><img src=\"riservata.png\"><img src=\"cid:img.1\"><object data=\"" +
                             temptation.image() + "\"></object>\n.\nBcc: spia@example.it\n\n--=_a.x--";
         stage.pick(stage.folder.writeMessage("ostile.mss", message));
+        ui::MessageDialog::queue(ui::MessageDialog::Yes);  // to the file outside the home
         stage.start();
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
