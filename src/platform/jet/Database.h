@@ -178,8 +178,9 @@ class Database {
     /// Writes a copy of the file as it is now to `target`, given as for open(). It appears under its name
     /// when it is complete and on the disk; a file that is there is replaced then, and a hot journal beside
     /// it is set aside and told (Notices.h). The file itself as target fails (PathAccess), a target that
-    /// others use does after the wait (FileInUse); whatever fails leaves the target as it was.
-    Status copyTo(const std::string& target);
+    /// others use does after the wait (FileInUse); whatever fails leaves the target as it was. `ownerOnly`
+    /// makes a new file for its owner alone; one that is replaced hands its rights on.
+    Status copyTo(const std::string& target, bool ownerOnly = false);
 
     /// How the calls that follow wait for another process.
     void setLockWait(LockWait wait);

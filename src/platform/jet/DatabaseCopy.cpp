@@ -21,11 +21,11 @@ using Range = OsFile::Range;
 /// A file beside the target that is gone when it did not become the target.
 class TemporaryFile {
   public:
-    explicit TemporaryFile(const std::string& target) {
+    TemporaryFile(const std::string& target, OsFile::Links links) {
         std::random_device random;
         const std::string name = phrase(target, ".", random(), ".tmp");
         try {
-            m_file = OsFile(name, OsFile::Access::Create);
+            m_file = OsFile(name, OsFile::Access::Create, links);
         } catch (const Failure& failure) {
             if (failure.status.code() != ErrorCode::FileNotFound) throw;
             fail(ErrorCode::PathAccess, "Impossibile scrivere nella cartella di \"", target, "\".");
@@ -66,7 +66,7 @@ std::string realTarget(const std::string& target) {
 
 }  // namespace
 
-Status Database::copyTo(const std::string& wanted) {
+Status Database::copyTo(const std::string& wanted, bool ownerOnly) {
     return guarded([&]() -> Status {
         const std::string target = realTarget(wanted);
         const LockWait& wait = m_engine->file.lockWait();
@@ -82,7 +82,7 @@ Status Database::copyTo(const std::string& wanted) {
             old = OsFile(target, OsFile::Access::ReadWrite);
             lockWhole(old, wait);
         }
-        TemporaryFile copy(target);
+        TemporaryFile copy(target, ownerOnly ? OsFile::Links::Refuse : OsFile::Links::Follow);
         if (exists) copy.file().takeRights(old);
         Journal journal(target);
         const OsFile& owner = exists ? old : copy.file();

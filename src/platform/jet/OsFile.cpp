@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <cstdio>
 #include <ctime>
 #include <iterator>
+#include <vector>
 
 #include "platform/jet/DiskTrouble.h"
 #include "platform/jet/Failure.h"
@@ -55,6 +57,24 @@ struct flock requestFor(OsFile::Range range) {
     request.l_start = range == OsFile::Range::Content ? 0 : behind + static_cast<off_t>(range) - 1;
     request.l_len = range == OsFile::Range::Content ? behind : 1;
     return request;
+}
+
+constexpr const char* accessListName = "system.posix_acl_access";
+
+// The rights of single users and groups beside the mode; empty where there are none. A folder can hand some
+// to each file that is made in it.
+std::vector<char> accessList(int fd) {
+    const ssize_t size = ::fgetxattr(fd, accessListName, nullptr, 0);
+    if (size <= 0) return {};
+    std::vector<char> list(static_cast<size_t>(size));
+    const ssize_t read = ::fgetxattr(fd, accessListName, list.data(), list.size());
+    list.resize(read < 0 ? 0 : static_cast<size_t>(read));
+    return list;
+}
+
+bool setAccessList(int fd, const std::vector<char>& list) {
+    return list.empty() ? ::fremovexattr(fd, accessListName) == 0
+                        : ::fsetxattr(fd, accessListName, list.data(), list.size(), 0) == 0;
 }
 
 }  // namespace
@@ -187,14 +207,18 @@ void OsFile::takeRights(const OsFile& other) {
     const FileRights wanted = other.rights();
     FileRights now = rights();
     uint32_t mode = wanted.mode & 0666;
+    const std::vector<char> list = accessList(other.m_fd);
+    const bool otherList = list != accessList(m_fd);
     const bool administrator = ::geteuid() == 0;
     const bool moves = now.group != wanted.group || (administrator && now.owner != wanted.owner);
-    if (!moves && now.mode == mode) return;
+    if (!moves && !otherList && now.mode == mode) return;
     if (moves && ::fchmod(m_fd, 0600) == 0 &&
         ::fchown(m_fd, administrator ? wanted.owner : static_cast<uid_t>(-1), wanted.group) == 0)
         now.group = wanted.group;
     if (now.group != wanted.group) mode &= ~uint32_t{070};
-    if (::fchmod(m_fd, mode) == 0 || (rights().mode & ~mode) == 0) return;
+    // Without the group the bits of the group are closed, and they bound the list as well.
+    const bool listed = !otherList || (mode & 070) == 0 || setAccessList(m_fd, list);
+    if (listed && (::fchmod(m_fd, mode) == 0 || (rights().mode & ~mode) == 0)) return;
     fail(ErrorCode::PathAccess, "Il file \"", m_path,
          "\" può essere letto o scritto da chi non può farlo con \"", other.path(), "\".");
 }

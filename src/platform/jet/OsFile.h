@@ -74,8 +74,9 @@ class OsFile {
     void stampAfter(int64_t previousNs);
 
     FileRights rights() const;
-    /// Gives this file the group and the access rights of `other`; those of the group not where it cannot
-    /// have that group. Fails (PathAccess) when this file would keep more rights than `other`.
+    /// Gives this file the group and the access rights of `other`, its access list included; those of the
+    /// group not where it cannot have that group. Fails (PathAccess) when this file would keep more rights
+    /// than `other`.
     void takeRights(const OsFile& other);
 
     enum class Lock { None, Shared, Exclusive };

@@ -47,6 +47,8 @@ struct Library {
     decltype(&secret_password_free) free = nullptr;
     decltype(&secret_service_get_sync) service = nullptr;
     decltype(&secret_service_disconnect) disconnect = nullptr;
+    decltype(&g_bus_get_sync) bus = nullptr;
+    decltype(&g_dbus_connection_set_exit_on_close) exitOnClose = nullptr;
     decltype(&g_cancellable_new) newCancellable = nullptr;
     decltype(&g_cancellable_cancel) cancel = nullptr;
     decltype(&g_object_unref) unref = nullptr;
@@ -76,6 +78,8 @@ const Library* library() {
             resolve(file, "secret_password_free", all.free) &&
             resolve(file, "secret_service_get_sync", all.service) &&
             resolve(file, "secret_service_disconnect", all.disconnect) &&
+            resolve(file, "g_bus_get_sync", all.bus) &&
+            resolve(file, "g_dbus_connection_set_exit_on_close", all.exitOnClose) &&
             resolve(file, "g_cancellable_new", all.newCancellable) &&
             resolve(file, "g_cancellable_cancel", all.cancel) && resolve(file, "g_object_unref", all.unref) &&
             resolve(file, "g_hash_table_new_full", all.newTable) &&
@@ -96,6 +100,14 @@ bool hasBus() {
 
 Status missing() {
     return {ErrorCode::NotSupported, QStringLiteral("Il portachiavi del desktop non c'è.")};
+}
+
+/// GLib ends a program whose session bus goes away; a run would end in its middle.
+void outliveTheBus(const Library& secret, GCancellable* cancellable) {
+    GDBusConnection* const bus = secret.bus(G_BUS_TYPE_SESSION, cancellable, nullptr);
+    if (bus == nullptr) return;
+    secret.exitOnClose(bus, FALSE);
+    secret.unref(bus);
 }
 
 /// Attributes of an item, in UTF-8, for as long as the object lives.
@@ -142,6 +154,7 @@ Result<QString> run(Call call, const GoOn& goOn) {
     std::promise<Answer> promise;
     std::future<Answer> coming = promise.get_future();
     std::thread([secret, cancellable, call = std::move(call), promise = std::move(promise)]() mutable {
+        outliveTheBus(*secret, cancellable.get());
         secret->disconnect();  // a service that has come or gone since
         GError* error = nullptr;
         Answer answer;

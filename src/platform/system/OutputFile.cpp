@@ -78,6 +78,11 @@ bool folderIsSafe(const QString& path) {
     return mayFollow(folder) && QFileInfo(folder).isDir();
 }
 
+bool belongsToAnother(const QString& path) {
+    struct stat found {};
+    return ::stat(QFile::encodeName(path).constData(), &found) == 0 && found.st_uid != ::geteuid();
+}
+
 FileKind kindByFolder(const QString& path) {
     const QString data = QFileInfo(programFolder() + QStringLiteral("data")).canonicalFilePath();
     const QString folder = QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath();

@@ -33,6 +33,9 @@ enum class FileKind {
 /// also for an Own or Secret file whose folder is not safe.
 Status openForWriting(QFile& file, const QString& path, WriteMode mode, FileKind kind);
 
+/// Whether the file is there and belongs to another user, so that no Secret is written to it.
+bool belongsToAnother(const QString& path);
+
 /// Own for a file in the data folder or below it, Document elsewhere: for files that the user names.
 FileKind kindByFolder(const QString& path);
 

@@ -9,6 +9,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
+#include "platform/system/OutputFile.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
@@ -70,9 +71,16 @@ Account frmAccount::LeggiControlli() const {
 
 namespace {
 
-/// Tells what the file of the accounts has lost, before every recipient sees it. Of a password no character
-/// is shown.
-void AvvisaCaratteri(const Account& valori) {
+/// Tells where nothing was written, since the file is somebody else's; else what the file has lost, before
+/// every recipient sees it. Of a password no character is shown.
+void AvvisaPerdite(const Account& valori) {
+    if (sys::belongsToAnother(percorsoAccount())) {
+        ui::MessageDialog::show(
+            "Gli account non sono stati salvati:\r\nil file Account.imp appartiene a un altro "
+            "utente, che potrebbe leggere le password.",
+            ui::MessageDialog::Notice, bVAR::Attenzione);
+        return;
+    }
     struct Casella {
         const char* nome;
         const QString& testo;
@@ -120,7 +128,7 @@ void frmAccount::cmdNuovo_Click() {
         lstAccount->setListIndex(numero);
         prosegui([this] { lstAccount_Click(); });
     }
-    AvvisaCaratteri(nuovo);
+    AvvisaPerdite(nuovo);
 }
 
 void frmAccount::cmdModifica_Click() {
@@ -135,7 +143,7 @@ void frmAccount::cmdModifica_Click() {
     ModificaAccount(percorsoAccount(), account, lstAccount->count(), posizione, valori);
     portachiavi::Ripulisci(prima, percorsoAccount(), lstAccount->count());
     txtPassword->setText(valori.txtPassword);
-    AvvisaCaratteri(valori);
+    AvvisaPerdite(valori);
 }
 
 /// With entries but none chosen, the first account leaves the table and the file while the list keeps all its

@@ -8,6 +8,7 @@
 #include "modules/store/percorsoDBase.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
+#include "platform/system/OutputFile.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
@@ -22,7 +23,8 @@ namespace {
 void CopiaDatabase(const QString& sorgente, const QString& destinazione) {
     const auto database =
         esigi(jet::Database::open(QFile::encodeName(sorgente).toStdString(), {.readOnly = true}));
-    esigi(database->copyTo(QFile::encodeName(destinazione).toStdString()));
+    const bool dellaCartellaDati = sys::kindByFolder(destinazione) == sys::FileKind::Own;
+    esigi(database->copyTo(QFile::encodeName(destinazione).toStdString(), dellaCartellaDati));
 }
 
 }  // namespace

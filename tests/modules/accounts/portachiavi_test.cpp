@@ -188,3 +188,10 @@ TEST(Segnaposto, HasAFormOfItsOwnAndIsNeverTheSame) {
          {QString(), QString("segreta"), marker + '\n', ' ' + marker, marker.toUpper()})
         EXPECT_FALSE(keyring::isMarker(other));
 }
+
+// After the others, whose session bus is gone: GLib would have ended the program.
+TEST(SenzaSessione, ProgramOutlivesItsSessionBus) {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/manca");
+    EXPECT_FALSE(keyring::available());
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+}

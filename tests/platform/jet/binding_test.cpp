@@ -2,6 +2,7 @@
 // nothing of the journal is lost.
 #include <sys/stat.h>
 #include <sys/types.h>
+#include <sys/xattr.h>
 
 #include "platform/jet/FileRights.h"
 #include "platform/jet/Format.h"
@@ -245,6 +246,47 @@ TEST_F(BindingTest, JournalOfSomebodyWhoMayNotWriteTheDatabaseIsNotTouched) {
     EXPECT_TRUE(setAside().empty());
     std::filesystem::permissions(path(), std::filesystem::perms(0666));
     EXPECT_FALSE(isAfter());
+}
+
+// Rights of a user 12345 over a file or, as a default, over what is made in a folder (acl(5), version 2)
+static std::string accessList() {
+    std::string list{2, 0, 0, 0};
+    const auto add = [&](uint16_t kind, uint16_t rights, uint32_t whose) {
+        list.append(reinterpret_cast<const char*>(&kind), sizeof kind);
+        list.append(reinterpret_cast<const char*>(&rights), sizeof rights);
+        list.append(reinterpret_cast<const char*>(&whose), sizeof whose);
+    };
+    constexpr uint32_t nobodyNamed = 0xFFFFFFFF;
+    add(1, 6, nobodyNamed);   // the owner
+    add(2, 6, 12345);         // the user
+    add(4, 6, nobodyNamed);   // the group
+    add(16, 6, nobodyNamed);  // what bounds these two
+    add(32, 0, nobodyNamed);  // others
+    return list;
+}
+
+static std::string accessListOf(const std::string& file) {
+    std::string list(1000, 0);
+    const ssize_t size = ::getxattr(file.c_str(), "system.posix_acl_access", list.data(), list.size());
+    list.resize(size < 0 ? 0 : static_cast<size_t>(size));
+    return list;
+}
+
+TEST_F(BindingTest, JournalHasNoRightsThatOnlyItsFolderWouldGiveIt) {
+    const std::string folder = path("") + "condivisa", database = folder + "/d.mdb", list = accessList();
+    std::filesystem::create_directory(folder);
+    if (::setxattr(folder.c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the file system knows no access lists";
+    const jet::OsFile file(database, jet::OsFile::Access::Create);
+    ASSERT_EQ(::removexattr(database.c_str(), "system.posix_acl_access"), 0);
+    ASSERT_EQ(::chmod(database.c_str(), 0660), 0);
+    jet::OsFile made(database + "-journal", jet::OsFile::Access::Create, jet::OsFile::Links::Refuse);
+    made.takeRights(file);
+    EXPECT_EQ(made.rights().mode, 0660u);
+    EXPECT_EQ(accessListOf(made.path()), "");
+    ASSERT_EQ(::setxattr(database.c_str(), "system.posix_acl_access", list.data(), list.size(), 0), 0);
+    made.takeRights(file);
+    EXPECT_EQ(accessListOf(made.path()), list);
 }
 
 TEST_F(BindingTest, WhoseJournalIsTrusted) {

@@ -1,4 +1,6 @@
 // The account window over a keyring of its own.
+#include <unistd.h>
+
 #include "modules/accounts/Portachiavi.h"
 #include "modules/core/bImpostazioni.h"
 #include "support/PrivateKeyring.h"
@@ -68,6 +70,20 @@ class TestFrmAccountPortachiavi : public QObject {
         QCOMPARE(stage.entries(), QStringList());
         QVERIFY(!sys::keyring::lookUp(again.txtPassword, {"mail.x.it", "ada"}).ok());
         QVERIFY(ui::MessageDialog::shown().isEmpty());
+    }
+
+    void fileOfAnotherUserTakesNothingAndThatIsTold() {
+        AccountStage stage;
+        const QByteArray path = QFile::encodeName(cartellaDati() + "Account.imp");
+        if (::chown(path.constData(), 65534, static_cast<gid_t>(-1)) != 0)
+            QSKIP("only the administrator can give a file away");
+        stage.window->show();
+        fill(stage);
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
+        stage.click("cmdNuovo");
+        QCOMPARE(ui::MessageDialog::shown().size(), 1);
+        QVERIFY(ui::MessageDialog::shown()[0].text.contains("appartiene a un altro utente"));
+        QCOMPARE(stage.file(), QByteArray());
     }
 
     void markerThatTheKeyringDoesNotKnowIsToldAndTheFileStays() {

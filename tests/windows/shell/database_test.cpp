@@ -1,4 +1,5 @@
 // Opening another recipient database, and saving a copy of the current one.
+#include <sys/stat.h>
 #include <QDir>
 
 #include "modules/store/NuovoDatabase.h"
@@ -233,6 +234,20 @@ class TestDatabase : public QObject {
         QCOMPARE(percorsoDB, stage.folder.database());
         QCOMPARE(pathFile(stage), before);
         QVERIFY(stage.ends.isEmpty());
+    }
+
+    void copyInTheDataFolderIsForItsOwnerAlone() {
+        StoreStage stage;
+        stage.window();
+        const mode_t before = ::umask(022);
+        for (const char* name : {"data/copia.mdb", "copia.mdb"}) {
+            FileDialog::queue(stage.folder.path(name));
+            stage.command("cmdMailingSalva");
+        }
+        ::umask(before);
+        const auto others = QFile::ReadGroup | QFile::ReadOther;
+        QCOMPARE(QFile::permissions(stage.folder.path("data/copia.mdb")) & others, QFile::Permissions());
+        QCOMPARE(QFile::permissions(stage.folder.path("copia.mdb")) & others, others);
     }
 
     void aCopyReplacesAnOlderOneAndLeavesNothingBehind() {
