@@ -44,9 +44,6 @@ function(vestrola_windows)
   target_sources(vestrola_windows PRIVATE ${ARGN})
 endfunction()
 
-# The code of a test is compiled quickly rather than well.
-set(VESTROLA_TEST_OPTIONS -O0)
-
 # vestrola_gtest(<name> SOURCES ... LIBRARIES ...): a GoogleTest program with a QCoreApplication
 function(vestrola_gtest name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
@@ -61,10 +58,6 @@ function(vestrola_gtest name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()
-
-# The sanitizers find faults of the browser's own, which are none of ours.
-set(VESTROLA_SANITIZER_ENVIRONMENT
-    "ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
 
 # vestrola_qtest(<name> SOURCES ... LIBRARIES ...): a Qt Test program with real widgets, offscreen
 function(vestrola_qtest name)
@@ -87,7 +80,7 @@ function(vestrola_qtest name)
                                              TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;${VESTROLA_SANITIZER_ENVIRONMENT}")
+                       "${VESTROLA_WINDOW_ENVIRONMENT}")
 endfunction()
 
 # vestrola_fuzz(<name> SOURCES ... LIBRARIES ...): a libFuzzer target when fuzzing is built; otherwise a

@@ -6,6 +6,8 @@
 #include "modules/core/Fallimento.h"
 #include "support/Vectors.h"
 
+namespace account_file_test {
+
 namespace {
 
 constexpr std::array<const char*, Account::numeroCampi> names{
@@ -129,3 +131,5 @@ TEST_F(AccountFile, NumberIsReadInTheUsersLocale) {
     EXPECT_EQ(numbers, std::vector<int>{2});
     EXPECT_EQ(table.at(2).idAccount, QStringLiteral(" 1,5 "));
 }
+
+}  // namespace account_file_test

@@ -12,6 +12,8 @@
 #include "modules/accounts/bBinary.h"
 #include "support/Vectors.h"
 
+namespace account_writers_test {
+
 namespace {
 
 Account fromFields(const QStringList& fields) {
@@ -234,3 +236,5 @@ TEST_F(AccountWriters, ProcessThatHasReadThemLeavesNoCoreDump) {
     if (!dumpsAfter(false)) GTEST_SKIP() << "this machine writes no core dumps";
     EXPECT_FALSE(dumpsAfter(true));
 }
+
+}  // namespace account_writers_test

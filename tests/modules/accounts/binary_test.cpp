@@ -2,6 +2,8 @@
 
 #include "support/Vectors.h"
 
+namespace binary_test {
+
 TEST(Binary, CodesTextsAsTheVectorsSay) {
     for (const QJsonValue vector : vectorsOf(QStringLiteral("account/coding.json"))) {
         const QString operation = vector[QLatin1String("op")].toString();
@@ -34,3 +36,5 @@ TEST(Binary, LongTextTakesTimeInProportion) {
     const QString text(2'000'000, u'à');
     EXPECT_EQ(BitInTesto(TestoInBit(text)), text);
 }
+
+}  // namespace binary_test

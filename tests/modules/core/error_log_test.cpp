@@ -8,6 +8,8 @@
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
+namespace error_log_test {
+
 namespace {
 
 class ErrorLog : public testing::Test {
@@ -71,3 +73,5 @@ TEST_F(ErrorLog, FileThatCannotBeWrittenIsPassedOver) {
     sys::setProgramFolder(QStringLiteral("/nonexistent"));
     EXPECT_NO_THROW(ScriviInizioLog());
 }
+
+}  // namespace error_log_test

@@ -3,6 +3,8 @@
 #include "modules/core/Errori.h"
 #include "modules/core/Fallimento.h"
 
+namespace failure_test {
+
 TEST(Failure, UnguardedStatementThrowsNumberAndText) {
     try {
         esigi(Status(ErrorCode::FileNotFound, QStringLiteral("manca")));
@@ -60,3 +62,5 @@ TEST(Failure, FallBackGivesTheDefault) {
     EXPECT_EQ(ripiega(7, []() -> int { fallisci(ErrorCode::Overflow); }), 7);
     EXPECT_EQ(ripiega(7, [] { return 8; }), 8);
 }
+
+}  // namespace failure_test

@@ -5,6 +5,8 @@
 
 #include "support/Vectors.h"
 
+namespace functions_test {
+
 TEST(FileExists, OnlyWhatCanBeOpenedForInputDoes) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("l'àllegato.pdf"));
@@ -141,3 +143,5 @@ TEST(NameOfPath, StandsBehindTheLastSlashOrBackslash) {
 TEST(OpenThroughTheDesktop, PassesFailuresOver) {
     EXPECT_FALSE(ApriShell(QStringLiteral("no address")));
 }
+
+}  // namespace functions_test

@@ -10,6 +10,8 @@
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
+namespace guasti_test {
+
 namespace {
 
 class Guasti : public testing::Test {
@@ -110,3 +112,5 @@ TEST_F(Guasti, AFolderThatCannotBeWrittenIsPassedOver) {
     sys::setProgramFolder("/nowhere");
     EXPECT_NO_THROW(guasti::Annota(Fallimento(9, "a")));
 }
+
+}  // namespace guasti_test

@@ -3,6 +3,8 @@
 #include "modules/core/bImpostazioni.h"
 #include "platform/system/ProgramFolder.h"
 
+namespace paths_test {
+
 TEST(Paths, EndInOneSeparatorSoThatNamesAreAppended) {
     sys::setProgramFolder(QStringLiteral("/opt/vestrola"));
     EXPECT_EQ(PercorsoApp(), QStringLiteral("/opt/vestrola/"));
@@ -13,3 +15,5 @@ TEST(Paths, EndInOneSeparatorSoThatNamesAreAppended) {
     EXPECT_EQ(PercorsoApp(), QStringLiteral("/"));
     sys::setProgramFolder({});
 }
+
+}  // namespace paths_test

@@ -9,6 +9,8 @@
 #include "support/JetTables.h"
 #include "support/Vectors.h"
 
+namespace verifica_database_test {
+
 namespace {
 
 // What every caller does: a failure leaves the result False.
@@ -111,3 +113,5 @@ TEST_F(DatabaseCheck, OtherPeoplesDatabasesAreNotUsable) {
 TEST_F(DatabaseCheck, PathCannotSmuggleAnythingIntoTheConnection) {
     EXPECT_FALSE(usable(path() + QStringLiteral(";Data Source = ") + path() + QStringLiteral(".missing")));
 }
+
+}  // namespace verifica_database_test

@@ -5,6 +5,8 @@
 
 #include "support/Vectors.h"
 
+namespace bwab_test {
+
 using namespace inserimento;
 
 namespace {
@@ -57,3 +59,5 @@ TEST(AddressBookEntry, EntryWithoutAddressIsRefused) {
     EXPECT_FALSE(readCard("FN:Ada"));
     EXPECT_FALSE(readCard("FN:Ada\nEMAIL:ada@example.museum"));
 }
+
+}  // namespace bwab_test

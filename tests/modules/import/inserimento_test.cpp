@@ -15,6 +15,8 @@
 #include "support/JetChecker.h"
 #include "support/Vectors.h"
 
+namespace inserimento_test {
+
 using namespace inserimento;
 
 namespace {
@@ -165,3 +167,5 @@ TEST(PreparedInsert, FailsWhereTheDatabaseIsMissing) {
     EXPECT_THROW(comando.Prepara(), Fallimento);
     connDB.clear();
 }
+
+}  // namespace inserimento_test

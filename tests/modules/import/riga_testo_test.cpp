@@ -8,6 +8,8 @@
 #include "platform/text/TextFile.h"
 #include "support/Vectors.h"
 
+namespace riga_testo_test {
+
 using namespace inserimento;
 
 namespace {
@@ -200,3 +202,5 @@ TEST(TextLine, OfSeparatorsAloneIsReadNoFurtherThanTheChoiceGoes) {
     const QString riga = "a@x.it" + QString(8 << 20, u';');
     EXPECT_EQ(regola(1, 18).Leggi(riga)->at(nom), "");
 }
+
+}  // namespace riga_testo_test

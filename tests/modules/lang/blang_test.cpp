@@ -10,6 +10,8 @@
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
+namespace blang_test {
+
 namespace {
 
 using Coppie = QList<QPair<QString, QString>>;
@@ -214,3 +216,5 @@ TEST(LanguageEntry, IsMarkedByItsFirstTwoCharacters) {
     EXPECT_FALSE(bLANG::eSegnata("> Italiano"));
     EXPECT_FALSE(bLANG::eSegnata(""));
 }
+
+}  // namespace blang_test

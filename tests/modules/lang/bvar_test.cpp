@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace bvar_test {
+
 TEST(LanguageTexts, AreEmptyUntilALanguageIsRead) {
     const std::vector<const QString*> texts{&bVAR::Attenzione,
                                             &bVAR::Lingua,
@@ -50,3 +52,5 @@ TEST(LanguageTexts, AreEmptyUntilALanguageIsRead) {
     for (const QString* text : texts)
         EXPECT_TRUE(text->isEmpty());
 }
+
+}  // namespace bvar_test

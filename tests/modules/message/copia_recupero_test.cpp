@@ -12,6 +12,8 @@
 #include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
 
+namespace copia_recupero_test {
+
 namespace {
 
 class CopiaRecuperoTest : public testing::Test {
@@ -278,3 +280,5 @@ TEST_F(CopiaRecuperoTest, WhatAKillLeavesWithoutACopyIsCleared) {
     EXPECT_TRUE(offered().empty());
     EXPECT_EQ(QDir(place()).entryList(QDir::Files), QStringList());
 }
+
+}  // namespace copia_recupero_test

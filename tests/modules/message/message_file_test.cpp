@@ -9,6 +9,8 @@
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
+namespace message_file_test {
+
 namespace {
 
 struct Reading {
@@ -299,3 +301,5 @@ TEST(Priority, OnlyTheTwoCapitalCodesAreNotNormal) {
     for (const char* code : {"NR", "hi", "lw", "", "HIGH"})
         EXPECT_EQ(NumeroPriorita(QLatin1String(code)), 3) << code;
 }
+
+}  // namespace message_file_test

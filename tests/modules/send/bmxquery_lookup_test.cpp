@@ -2,6 +2,8 @@
 
 #include "modules/send/bmxquery_server.h"
 
+namespace bmxquery_lookup_test {
+
 using namespace testing_support;
 
 namespace {
@@ -188,3 +190,5 @@ TEST_F(MXLookup, ServerMayBeAHostName) {
 }
 
 }  // namespace
+
+}  // namespace bmxquery_lookup_test

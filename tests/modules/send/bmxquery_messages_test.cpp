@@ -1,6 +1,8 @@
 #include "modules/send/bmxquery_state.h"
 #include "platform/text/AnsiCodec.h"
 
+namespace bmxquery_messages_test {
+
 namespace {
 
 class MXMessages : public ConStatoMX {};
@@ -272,3 +274,5 @@ TEST_F(MXMessages, SortingIsAscendingAndStable) {
 }
 
 }  // namespace
+
+}  // namespace bmxquery_messages_test

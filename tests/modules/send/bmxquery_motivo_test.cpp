@@ -1,6 +1,8 @@
 // Why a look-up led to no exchanger, and how long a silent name server is waited for.
 #include "modules/send/bmxquery_server.h"
 
+namespace bmxquery_motivo_test {
+
 using namespace std::chrono_literals;
 using namespace testing_support;
 
@@ -163,3 +165,5 @@ TEST_F(MXMotivo, DomainThatAnswersAgainIsWaitedForInFullLength) {
 }
 
 }  // namespace
+
+}  // namespace bmxquery_motivo_test

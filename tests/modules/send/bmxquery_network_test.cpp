@@ -4,6 +4,8 @@
 
 #include "modules/send/bmxquery_server.h"
 
+namespace bmxquery_network_test {
+
 using namespace std::chrono_literals;
 using namespace testing_support;
 
@@ -149,3 +151,5 @@ TEST_F(MXNetwork, SocketsAreClosedHoweverALookupEnds) {
 }
 
 }  // namespace
+
+}  // namespace bmxquery_network_test

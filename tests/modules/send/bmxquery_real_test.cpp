@@ -5,6 +5,8 @@
 #include "support/NameServer.h"
 #include "support/PrivateNetwork.h"
 
+namespace bmxquery_real_test {
+
 using testing_support::NameServer;
 using Program = NameServer::Program;
 
@@ -144,3 +146,5 @@ TEST_F(RealNameServer, ConfigurationWithoutServersIsTheFirstError) {
     EXPECT_EQ(fallimentoDi([] { MXQuery("uno.example"); }).testo(),
               "No DNS entries found, MX Query cannot contine.");
 }
+
+}  // namespace bmxquery_real_test

@@ -2,6 +2,8 @@
 
 #include "modules/send/bmxquery_state.h"
 
+namespace bmxquery_servers_test {
+
 namespace {
 
 class MXServers : public ConStatoMX {
@@ -107,3 +109,5 @@ TEST_F(MXServers, DomainIsTheTextBehindTheFirstAt) {
 }
 
 }  // namespace
+
+}  // namespace bmxquery_servers_test

@@ -5,6 +5,8 @@
 #include "platform/system/Clock.h"
 #include "support/Vectors.h"
 
+namespace limiti_test {
+
 namespace {
 
 // Lets the hours pass in no time, under the Italian number format.
@@ -191,3 +193,5 @@ TEST_F(Limits, TimeIsReadInWholeSecondsOfTheClock) {
     EXPECT_EQ(limit.bloccoTrascorsi, 60);
     EXPECT_LE(sleeps, 60) << "it sleeps from second to second";
 }
+
+}  // namespace limiti_test

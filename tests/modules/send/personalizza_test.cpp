@@ -7,6 +7,8 @@
 #include "platform/jet/Database.h"
 #include "support/Vectors.h"
 
+namespace personalizza_test {
+
 namespace {
 
 /// A row: a column that is absent is missing from the table, one without a value is Null.
@@ -171,3 +173,5 @@ TEST(Personalisation, ValueInALinkBecomesNoPartOfIt) {
               QStringLiteral("https://x.it/a%26cc%3Db%40c.it%2F%3F%23%3A%3A%3Aemail%3A%3A%3A%0D%0A%20%C3%A8"
                              "?e=o%27neil%2Bx%40example.it&t=:::tel:::"));
 }
+
+}  // namespace personalizza_test

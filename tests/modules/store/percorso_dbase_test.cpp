@@ -9,6 +9,8 @@
 #include "platform/system/ProgramFolder.h"
 #include "support/Vectors.h"
 
+namespace percorso_dbase_test {
+
 namespace {
 
 const QString prefix = QStringLiteral("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = ");
@@ -151,3 +153,5 @@ TEST_F(DatabasePath, ALinkIsNotFollowed) {
     CambiaPercorsoDBase(QStringLiteral("/dati/\u017A.mdb"));
     EXPECT_EQ(bytesOf(target), QByteArray("/dati/\xC5\x82.mdb\r\n"));
 }
+
+}  // namespace percorso_dbase_test

@@ -7,6 +7,8 @@
 #include "modules/store/NuovoDatabase.h"
 #include "platform/jet/EmptyDatabase.h"
 
+namespace schema_test {
+
 namespace {
 
 std::string sha256(const std::vector<jet::Page>& pages) {
@@ -45,3 +47,5 @@ TEST(NewDatabase, WithoutEmptyTextsHasTheKnownBytes) {
                    schema::TabellaNuova(schema::tabellaDestinatari, schema::colonneDestinatari, false)})),
               "62eb82bb914a22e91abf17873efe6426a3fde206f3693c03411226c4648e06d1");
 }
+
+}  // namespace schema_test

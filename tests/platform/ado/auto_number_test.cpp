@@ -3,6 +3,8 @@
 #include "support/JetTables.h"
 #include "TestDatabase.h"
 
+namespace auto_number_test {
+
 namespace {
 
 class AutoNumberWaysTest : public ado::TestDatabase {
@@ -84,3 +86,5 @@ TEST_F(AutoNumberWaysTest, ARowTypedBetweenTwoGroups) {
     EXPECT_TRUE(inserts.commit().ok());
     EXPECT_EQ(column("SELECT id FROM tb_destinatari WHERE id_grp = 7 ORDER BY id", "id"), "91|92|93");
 }
+
+}  // namespace auto_number_test

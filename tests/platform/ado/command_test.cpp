@@ -1,6 +1,8 @@
 #include "support/HotJournal.h"
 #include "TestDatabase.h"
 
+namespace command_test {
+
 namespace {
 
 class CommandTest : public ado::TestDatabase {
@@ -245,3 +247,5 @@ TEST_F(CommandTest, TheFileCanBeCopiedBetweenTwoStatements) {
     connection = ado::connectionTo(copy);
     EXPECT_EQ(count("id_grp = 1"), 3);
 }
+
+}  // namespace command_test

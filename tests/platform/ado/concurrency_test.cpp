@@ -7,6 +7,8 @@
 #include "platform/ado/GroupedInserts.h"
 #include "platform/ado/TestDatabase.h"
 
+namespace concurrency_test {
+
 namespace {
 
 class ConcurrencyTest : public ado::TestDatabase {
@@ -147,3 +149,5 @@ TEST_F(ConcurrencyTest, ARecordsetThatIsOpenHoldsNobodyUp) {
     }
     EXPECT_EQ(names.join(u'|').toStdString(), "prima|prima|dopo|prima|prima");
 }
+
+}  // namespace concurrency_test

@@ -6,6 +6,8 @@
 #include "modules/store/NuovoDatabase.h"
 #include "TestDatabase.h"
 
+namespace connection_test {
+
 namespace {
 
 class ConnectionTest : public ado::TestDatabase {
@@ -233,3 +235,5 @@ TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {
         EXPECT_EQ(open_[static_cast<size_t>(i)].recordCount(), 2);
     }
 }
+
+}  // namespace connection_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace connection_text_test {
+
 namespace {
 
 using ado::ConnectionText;
@@ -80,3 +82,5 @@ TEST(ConnectionText, ATextWithoutDataSourceNamesNoFile) {
 TEST(ConnectionText, AnotherProviderIsRefused) {
     EXPECT_EQ(failure("Provider=SQLOLEDB;Data Source=x"), ErrorCode::NotSupported);
 }
+
+}  // namespace connection_text_test

@@ -1,6 +1,8 @@
 // Tables whose columns have names that cannot be: the table is refused, all else works on.
 #include "TestDatabase.h"
 
+namespace damaged_names_test {
+
 namespace {
 
 class DamagedNamesTest : public ado::TestDatabase {
@@ -86,3 +88,5 @@ TEST_F(DamagedNamesTest, TableThatSqlCannotNameLeavesTheOthersAlone) {
         EXPECT_EQ(run("DELETE FROM tb_gruppi WHERE id > 1"), 1);
     }
 }
+
+}  // namespace damaged_names_test

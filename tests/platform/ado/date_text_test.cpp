@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace date_text_test {
+
 namespace {
 
 using ado::DateOrder;
@@ -56,3 +58,5 @@ TEST(DateText, WhatWasShownIsReadBack) {
     EXPECT_FALSE(ado::dateText(2958466, QLocale()));
     EXPECT_FALSE(ado::dateText(-657435, QLocale()));
 }
+
+}  // namespace date_text_test

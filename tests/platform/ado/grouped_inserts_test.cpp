@@ -8,6 +8,8 @@
 #include "support/HotJournal.h"
 #include "TestDatabase.h"
 
+namespace grouped_inserts_test {
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -193,3 +195,5 @@ TEST_F(GroupedInsertsTest, WhatWasToldSurvivesTheDeathOfTheProgramAndNothingElse
         EXPECT_FALSE(hasHotJournal(path.toStdString()));
     }
 }
+
+}  // namespace grouped_inserts_test

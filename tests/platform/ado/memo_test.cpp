@@ -2,6 +2,8 @@
 #include "support/JetTables.h"
 #include "TestDatabase.h"
 
+namespace memo_test {
+
 namespace {
 
 class MemoFieldTest : public ado::TestDatabase {
@@ -34,3 +36,5 @@ TEST_F(MemoFieldTest, StatementsInsertAndChangeThem) {
     EXPECT_EQ(run("DELETE FROM [note] WHERE id <= 4"), 4);
     EXPECT_EQ(notes(), text(5) + "|(null)|" + text(3000) + "|" + text(3000));
 }
+
+}  // namespace memo_test

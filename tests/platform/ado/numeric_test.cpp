@@ -4,6 +4,8 @@
 #include "support/JetTables.h"
 #include "TestDatabase.h"
 
+namespace numeric_test {
+
 namespace {
 
 const char* const numbers[] = {"1234567890123456789012.345678",
@@ -103,3 +105,5 @@ TEST(NumericBytes, RoundHalfAwayFromZeroAndKeepTheirLimits) {
     EXPECT_EQ(ado::plainDecimal(0.1), "0.1");
     EXPECT_EQ(ado::plainDecimal(1e22), "10000000000000000000000");
 }
+
+}  // namespace numeric_test

@@ -6,6 +6,8 @@
 #include "platform/jet/GeneralOrder.h"
 #include "TestDatabase.h"
 
+namespace orders_test {
+
 namespace {
 
 const char* const queue =
@@ -213,3 +215,5 @@ TEST_F(OrdersTest, ManyDifferentOrdersOfOneTableAreAllRight) {
         }
     }
 }
+
+}  // namespace orders_test

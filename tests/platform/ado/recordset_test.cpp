@@ -1,5 +1,7 @@
 #include "TestDatabase.h"
 
+namespace recordset_test {
+
 namespace {
 
 using ado::CursorType;
@@ -300,3 +302,5 @@ TEST_F(RecordsetTest, AMissingColumnOrTableFailsAtOpening) {
     rows.setSource(QStringLiteral("SELECT * FROM [tb_gruppi] WHERE"));
     EXPECT_EQ(rows.open().code(), ErrorCode::SyntaxError);
 }
+
+}  // namespace recordset_test

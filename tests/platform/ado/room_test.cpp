@@ -4,6 +4,8 @@
 #include "platform/ado/GroupedInserts.h"
 #include "TestDatabase.h"
 
+namespace room_test {
+
 namespace {
 
 class RoomOfImportsTest : public ado::TestDatabase {
@@ -73,3 +75,5 @@ TEST_F(RoomOfImportsTest, SixRoundsOfImportAndDeletion) {
     std::printf("[ ROOM     ] %lld bytes after the first round, %lld after the last\n", first, size());
     EXPECT_LT(static_cast<double>(size()), 1.3 * static_cast<double>(first));
 }
+
+}  // namespace room_test

@@ -4,6 +4,8 @@
 #include "platform/ado/OrderBlock.h"
 #include "TestDatabase.h"
 
+namespace row_order_test {
+
 using ado::OrderBlock;
 
 namespace {
@@ -75,3 +77,5 @@ TEST(OrderBlock, AppendedRowsStandAsInserted) {
     expectSame(appended, rows);
     expectSame(inserted, rows);
 }
+
+}  // namespace row_order_test

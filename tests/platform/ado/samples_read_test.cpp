@@ -4,6 +4,8 @@
 #include "platform/ado/Samples.h"
 #include "platform/jet/GeneralOrder.h"
 
+namespace samples_read_test {
+
 namespace {
 
 using jet::Type;
@@ -218,3 +220,5 @@ TEST_F(SamplesReadTest, TheCatalogueTellsTablesFromLinksQueriesAndSystemTables) 
         EXPECT_EQ(seen.size(), 4u);
     }
 }
+
+}  // namespace samples_read_test

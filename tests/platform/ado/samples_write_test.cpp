@@ -4,6 +4,8 @@
 #include "platform/ado/Samples.h"
 #include "support/JetChecker.h"
 
+namespace samples_write_test {
+
 namespace {
 
 using jet::Type;
@@ -259,3 +261,5 @@ TEST_F(SamplesWriteTest, NewRowsThroughARecordset) {
         EXPECT_GT(done, 5);
     }
 }
+
+}  // namespace samples_write_test

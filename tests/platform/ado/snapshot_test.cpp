@@ -2,7 +2,7 @@
 
 #include "platform/ado/TestDatabase.h"
 
-namespace ado {
+namespace ado::snapshot_test {
 
 namespace {
 
@@ -146,4 +146,4 @@ TEST(SnapshotOfSample, LongMemoTextsComeWhole) {
     closeAll();
 }
 
-}  // namespace ado
+}  // namespace ado::snapshot_test

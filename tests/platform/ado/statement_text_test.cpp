@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace statement_text_test {
+
 namespace {
 
 using ado::StatementText;
@@ -156,3 +158,5 @@ TEST(StatementText, TheLongestRecipientPassesAndAnEndlessTextDoesNot) {
     EXPECT_EQ(failure("SELECT * FROM t WHERE a = '" + std::string(64000, 'x') + "'"),
               ErrorCode::NotSupported);
 }
+
+}  // namespace statement_text_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace value_test {
+
 namespace {
 
 using ado::Value;
@@ -94,3 +96,5 @@ TEST(Value, TextsAreReadAsNumbers) {
 TEST(Value, BinaryDataHasNoText) {
     EXPECT_EQ(Value(jet::Value(jet::Bytes{1, 2})).toText(italian).status().code(), ErrorCode::TypeMismatch);
 }
+
+}  // namespace value_test

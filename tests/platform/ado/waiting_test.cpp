@@ -8,6 +8,8 @@
 #include "platform/ado/Waiting.h"
 #include "support/LockedFile.h"
 
+namespace waiting_test {
+
 namespace {
 
 using std::chrono::milliseconds;
@@ -243,3 +245,5 @@ TEST_F(WaitingTest, ReadingGoesOnWhileAnotherOneHasAStatementUnderWay) {
     ASSERT_TRUE(other.value()->commit().ok());
     EXPECT_EQ(column("SELECT * FROM tb_gruppi ORDER BY id", "nome"), "uno|nuovo|tre");
 }
+
+}  // namespace waiting_test

@@ -9,6 +9,8 @@
 #include "platform/contacts/BookFixture.h"
 #include "support/Vectors.h"
 
+namespace address_book_test {
+
 using contacts::AddressBook;
 using contacts::Entry;
 using contacts::PropertyTag;
@@ -215,3 +217,5 @@ TEST_F(AddressBookTest, WhatIsNoOrdinaryFileCountsAsEmpty) {
     AddressBook open = opened();
     EXPECT_EQ(open.entryCount(), 1);
 }
+
+}  // namespace address_book_test

@@ -10,6 +10,8 @@
 
 #include "support/Vectors.h"
 
+namespace contact_folder_test {
+
 using contacts::findOutlookFile;
 using contacts::readContactFolder;
 using namespace std::chrono_literals;
@@ -162,3 +164,5 @@ TEST(OutlookFile, FolderNamedLikeOneIsNotTaken) {
     ASSERT_TRUE(QDir(folder.path()).mkdir("a.pst"));
     EXPECT_EQ(findOutlookFile({folder.path()}), "");
 }
+
+}  // namespace contact_folder_test

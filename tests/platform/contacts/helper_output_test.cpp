@@ -4,6 +4,8 @@
 
 #include "support/Vectors.h"
 
+namespace helper_output_test {
+
 using contacts::readHelperOutput;
 
 namespace {
@@ -80,3 +82,5 @@ TEST(HelperOutput, DeepNestingIsRubbish) {
     ASSERT_TRUE(folder);
     EXPECT_TRUE(folder->items.empty());
 }
+
+}  // namespace helper_output_test

@@ -4,6 +4,8 @@
 
 #include "platform/contacts/card_printer.h"
 
+namespace ldif_test {
+
 using contacts::readLdif;
 
 TEST(Ldif, EachAttributeFeedsItsText) {
@@ -103,3 +105,5 @@ TEST(Ldif, MoreEntriesThanTheBoundAreNotTaken) {
 TEST(Ldif, VersionMayStandInTheFirstEntry) {
     EXPECT_EQ(readLdif("version: 1\ndn: x\nmail: a@example.it\n").front().emailAddress, "a@example.it");
 }
+
+}  // namespace ldif_test

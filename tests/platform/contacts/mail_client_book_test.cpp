@@ -12,6 +12,8 @@
 #include "platform/contacts/BookFixture.h"
 #include "platform/contacts/card_printer.h"
 
+namespace mail_client_book_test {
+
 using contacts::findMailClientBook;
 using contacts::readMailClientBook;
 
@@ -259,3 +261,5 @@ TEST(MailClientBook, BookOfTheRealProgram) {
                                                       "00100", "Roma", "0543 1", "0543 2"}));
     EXPECT_EQ(cards.value()[4].emailAddress, "");
 }
+
+}  // namespace mail_client_book_test

@@ -12,6 +12,8 @@
 #include "platform/contacts/VCard.h"
 #include "support/Vectors.h"
 
+namespace outlook_file_test {
+
 using contacts::ContactFolder;
 using contacts::readContactFolder;
 using namespace std::chrono_literals;
@@ -176,3 +178,5 @@ TEST_F(OutlookHelper, DamagedFilesNeverHarm) {
     EXPECT_GT(refused, 0);
     printf("%d whole, %d cut short, %d not reached\n", whole, cut, refused);
 }
+
+}  // namespace outlook_file_test

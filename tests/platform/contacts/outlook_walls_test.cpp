@@ -9,6 +9,8 @@
 #include "platform/contacts/HelperOutput.h"
 #include "support/Vectors.h"
 
+namespace outlook_walls_test {
+
 using contacts::ContactFolder;
 using contacts::readContactFolder;
 
@@ -104,3 +106,5 @@ TEST_F(OutlookWalls, AccentsAreReadWithAndWithoutLandlock) {
         EXPECT_EQ(folder.value().items[3]->lastNameAndFirstName, "Tòlle, Màrgaret J.");
     }
 }
+
+}  // namespace outlook_walls_test

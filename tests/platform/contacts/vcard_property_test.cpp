@@ -4,6 +4,8 @@
 
 #include "support/Vectors.h"
 
+namespace vcard_property_test {
+
 using contacts::readProperty;
 using contacts::VCardStyle;
 
@@ -51,3 +53,5 @@ TEST(VCardProperty, BrokenQuotedPrintableIsReadWithoutHarm) {
         EXPECT_EQ(readProperty("FN;QUOTED-PRINTABLE:" + value, VCardStyle::Old).name, "FN");
     }
 }
+
+}  // namespace vcard_property_test

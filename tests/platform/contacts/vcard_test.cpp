@@ -4,6 +4,8 @@
 
 #include "platform/contacts/card_printer.h"
 
+namespace vcard_test {
+
 using contacts::Card;
 using contacts::readVCards;
 
@@ -202,3 +204,5 @@ TEST(VCard, CardsOfOtherPrograms) {
     EXPECT_EQ(cards[4].emailAddress, "luca.molto.lungo@example.it");
     EXPECT_EQ(readVCards(bytesOf(SHARED_DIR "/addressbook/v21_raw.vcf")).front().companyName, "Città");
 }
+
+}  // namespace vcard_test

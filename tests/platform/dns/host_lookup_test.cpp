@@ -5,6 +5,8 @@
 #include <netdb.h>
 #include <netinet/in.h>
 
+namespace host_lookup_test {
+
 namespace {
 
 TEST(HostLookup, AddressIsReadInHostByteOrder) {
@@ -35,3 +37,5 @@ TEST(HostLookup, NameOfAnAddressIsWhatTheSystemKnows) {
 }
 
 }  // namespace
+
+}  // namespace host_lookup_test

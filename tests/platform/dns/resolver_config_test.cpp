@@ -6,6 +6,8 @@
 
 #include "support/Vectors.h"
 
+namespace resolver_config_test {
+
 using dns::readResolverConfig;
 using dns::ResolverConfig;
 
@@ -80,3 +82,5 @@ TEST(ResolverConfig, FolderInTheFilesPlaceIsAnEmptySetUp) {
 }
 
 }  // namespace
+
+}  // namespace resolver_config_test

@@ -7,6 +7,8 @@
 
 #include "platform/dns/UdpResponder.h"
 
+namespace udp_query_test {
+
 using namespace std::chrono_literals;
 using namespace testing_support;
 using dns::UdpQuery;
@@ -126,3 +128,5 @@ TEST(UdpQuery, SocketIsClosedWithTheObject) {
 }
 
 }  // namespace
+
+}  // namespace udp_query_test

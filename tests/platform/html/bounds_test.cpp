@@ -3,6 +3,8 @@
 #include "platform/html/Bounds.h"
 #include "platform/html/HtmlDocument.h"
 
+namespace bounds_test {
+
 namespace {
 
 QString nested(const QString& tag, int depth) {
@@ -99,3 +101,5 @@ TEST(Bounds, LooseWritingIsNoDepth) {
 }
 
 }  // namespace
+
+}  // namespace bounds_test

@@ -6,6 +6,8 @@
 
 #include "platform/html/HtmlDocument.h"
 
+namespace corpus_test {
+
 namespace {
 
 // Newsletters as people really write and paste them, from all ages of the web
@@ -61,3 +63,5 @@ TEST(NewsletterCorpus, IsThere) {
 }
 
 }  // namespace
+
+}  // namespace corpus_test

@@ -10,6 +10,8 @@
 #include "platform/mail/TextPart.h"
 #include "platform/mail/WebAddress.h"
 
+namespace growth_test {
+
 namespace {
 
 std::uint64_t steps = 0;
@@ -58,3 +60,5 @@ TEST(GrowthCount, StepsAreCounted) {
 }
 
 }  // namespace
+
+}  // namespace growth_test

@@ -2,6 +2,8 @@
 
 #include "platform/html/HtmlDocument.h"
 
+namespace inner_text_test {
+
 namespace {
 
 // The visible text with line ends as "\n" and U+00A0 as it is
@@ -134,3 +136,5 @@ TEST(InnerText, DeepNestingKeepsTheText) {
 }
 
 }  // namespace
+
+}  // namespace inner_text_test

@@ -2,6 +2,8 @@
 
 #include "platform/html/HtmlDocument.h"
 
+namespace normal_form_test {
+
 namespace {
 
 QString normalForm(const QString& html) {
@@ -213,3 +215,5 @@ TEST(NormalForm, LargeDocumentIsWhole) {
 }
 
 }  // namespace
+
+}  // namespace normal_form_test

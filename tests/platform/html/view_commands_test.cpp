@@ -1,6 +1,9 @@
 #include <QClipboard>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_commands_test {
 
 // Every command by its number, on a document with a selection, and its undoing.
 class ViewCommands : public QObject {
@@ -235,5 +238,8 @@ class ViewCommands : public QObject {
     }
 };
 
-QTEST_MAIN(ViewCommands)
+TEST_CLASS(ViewCommands);
+
+}  // namespace view_commands_test
+
 #include "view_commands_test.moc"

@@ -5,6 +5,9 @@
 #include "platform/html/LargeNewsletter.h"
 #include "platform/html/ViewFixture.h"
 #include "platform/text/AnsiCodec.h"
+#include "support/TestClass.h"
+
+namespace view_corpus_test {
 
 // Newsletters as people really write and paste them: the view and the reader without a browser agree on each.
 class ViewCorpus : public QObject {
@@ -118,5 +121,8 @@ class ViewCorpus : public QObject {
     }
 };
 
-QTEST_MAIN(ViewCorpus)
+TEST_CLASS(ViewCorpus);
+
+}  // namespace view_corpus_test
+
 #include "view_corpus_test.moc"

@@ -2,6 +2,9 @@
 
 #include "platform/html/HtmlDocument.h"
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_document_test {
 
 class ViewDocument : public QObject {
     Q_OBJECT
@@ -88,5 +91,8 @@ class ViewDocument : public QObject {
     }
 };
 
-QTEST_MAIN(ViewDocument)
+TEST_CLASS(ViewDocument);
+
+}  // namespace view_document_test
+
 #include "view_document_test.moc"

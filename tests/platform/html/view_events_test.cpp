@@ -3,6 +3,9 @@
 #include <QVBoxLayout>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_events_test {
 
 // What the view tells of the user's doings.
 class ViewEvents : public QObject {
@@ -155,5 +158,8 @@ class ViewEvents : public QObject {
     }
 };
 
-QTEST_MAIN(ViewEvents)
+TEST_CLASS(ViewEvents);
+
+}  // namespace view_events_test
+
 #include "view_events_test.moc"

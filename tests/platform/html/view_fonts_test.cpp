@@ -1,6 +1,9 @@
 #include <QFontInfo>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_fonts_test {
 
 // The font of text that names none: shown, told, and never in the document unless a command writes it.
 class ViewFonts : public QObject {
@@ -112,5 +115,8 @@ class ViewFonts : public QObject {
     }
 };
 
-QTEST_MAIN(ViewFonts)
+TEST_CLASS(ViewFonts);
+
+}  // namespace view_fonts_test
+
 #include "view_fonts_test.moc"

@@ -3,6 +3,9 @@
 #include <QTemporaryDir>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_insert_test {
 
 // What comes into a document from outside: fragments, images, links, the clipboard, drops.
 class ViewInsert : public QObject {
@@ -481,5 +484,8 @@ class ViewInsert : public QObject {
     }
 };
 
-QTEST_MAIN(ViewInsert)
+TEST_CLASS(ViewInsert);
+
+}  // namespace view_insert_test
+
 #include "view_insert_test.moc"

@@ -1,4 +1,7 @@
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_page_test {
 
 // The elements around the caret and the page itself, as the dialogs show and change them.
 class ViewPage : public QObject {
@@ -120,5 +123,8 @@ class ViewPage : public QObject {
     }
 };
 
-QTEST_MAIN(ViewPage)
+TEST_CLASS(ViewPage);
+
+}  // namespace view_page_test
+
 #include "view_page_test.moc"

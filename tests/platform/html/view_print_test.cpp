@@ -12,6 +12,9 @@
 
 #include "platform/html/HtmlViewPrintJob.h"
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_print_test {
 
 namespace {
 
@@ -281,5 +284,8 @@ class ViewPrint : public QObject {
     }
 };
 
-QTEST_MAIN(ViewPrint)
+TEST_CLASS(ViewPrint);
+
+}  // namespace view_print_test
+
 #include "view_print_test.moc"

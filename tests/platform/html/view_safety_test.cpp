@@ -10,6 +10,9 @@
 #include "platform/html/ViewFixture.h"
 #include "support/NamesAsked.h"
 #include "support/PrivateNetwork.h"
+#include "support/TestClass.h"
+
+namespace view_safety_test {
 
 using namespace testing_support;
 
@@ -277,5 +280,8 @@ class ViewSafety : public QObject {
     }
 };
 
-QTEST_MAIN(ViewSafety)
+TEST_CLASS(ViewSafety);
+
+}  // namespace view_safety_test
+
 #include "view_safety_test.moc"

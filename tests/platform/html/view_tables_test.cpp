@@ -1,6 +1,9 @@
 #include <QRegularExpression>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
+
+namespace view_tables_test {
 
 // Rows and columns at the caret. Tables are written shortly here: rows by "/", cells by "|", "2x1:" ahead of
 // a cell's text for its column and row span; "." is an empty cell.
@@ -218,5 +221,8 @@ class ViewTables : public QObject {
     }
 };
 
-QTEST_MAIN(ViewTables)
+TEST_CLASS(ViewTables);
+
+}  // namespace view_tables_test
+
 #include "view_tables_test.moc"

@@ -4,6 +4,8 @@
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
+namespace auto_number_test {
+
 using namespace jet;
 
 class AutoNumberTest : public JetTest {
@@ -117,3 +119,5 @@ TEST_F(AutoNumberTest, GreatestNumberThereIsEndsTheCounting) {
     EXPECT_OK(database->commit());
     EXPECT_FAILS(ErrorCode::Overflow, prova.takeAutoNumber());
 }
+
+}  // namespace auto_number_test

@@ -9,6 +9,8 @@
 #include "platform/jet/JournalFixture.h"
 #include "platform/jet/JournalFormat.h"
 
+namespace binding_test {
+
 class BindingTest : public JournalTest {
   protected:
     // A database of another history: its bytes.
@@ -426,3 +428,5 @@ TEST_F(BindingTest, OpenFileItselfIsNoTargetOfACopy) {
     EXPECT_FAILS(ErrorCode::PathAccess, source->copyTo(path("terzo-nome.mdb")));
     EXPECT_EQ(bytesOf(path()), before);
 }
+
+}  // namespace binding_test

@@ -2,6 +2,8 @@
 #include "platform/jet/Format.h"
 #include "platform/jet/JetFixture.h"
 
+namespace checker_test {
+
 using namespace jet;
 
 class CheckerTest : public JetTest {
@@ -158,3 +160,5 @@ TEST_F(CheckerTest, FileThatIsNone) {
     bytes = "abc";
     expectFinding("no number of pages");
 }
+
+}  // namespace checker_test

@@ -11,6 +11,8 @@
 #include "platform/jet/Key.h"
 #include "platform/jet/ValueCodec.h"
 
+namespace format_test {
+
 using namespace jet;
 
 namespace {
@@ -216,3 +218,5 @@ TEST(ValueCodec, BytesTooShortForTheirTypeAreNull) {
     EXPECT_EQ(decodeValue(columnOf(Type::Long), Bytes{1, 2, 3}), Value());
     EXPECT_EQ(decodeValue(columnOf(Type::Double), Bytes{}), Value());
 }
+
+}  // namespace format_test

@@ -11,6 +11,8 @@
 #include "platform/jet/Database.h"
 #include "platform/Status.h"
 
+namespace general_order_test {
+
 namespace {
 
 std::string key(const QString& text, bool ascending = true) {
@@ -249,3 +251,5 @@ TEST(GeneralOrder, AgreesWithTheIndexOfEveryLatin1Character) {
 TEST(GeneralOrder, AgreesWithTheIndexesOfNorthwind) {
     testRealFile("nw-Northwind-b.mdb", 1000);
 }
+
+}  // namespace general_order_test

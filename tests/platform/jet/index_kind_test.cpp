@@ -4,6 +4,8 @@
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
+namespace index_kind_test {
+
 using namespace jet;
 
 class IndexKindsTest : public JetTest {
@@ -276,3 +278,5 @@ TEST_F(IndexKindsTest, TextInAnUnindexedColumnMayHoldAnything) {
     EXPECT_OK(database->commit());
     expectSoundForAll(path());
 }
+
+}  // namespace index_kind_test

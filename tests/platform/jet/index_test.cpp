@@ -10,6 +10,8 @@
 #include "platform/jet/Key.h"
 #include "platform/jet/UsageMap.h"
 
+namespace index_test {
+
 using namespace jet;
 
 class IndexTest : public JetTest {
@@ -399,3 +401,5 @@ TEST(IndexPage, LeafTakesAPrefixOnlyWhenItNeedsOne) {
         EXPECT_TRUE(std::equal(leaf.entry(i).begin(), leaf.entry(i).end(), again.entry(i).begin(),
                                again.entry(i).end()));
 }
+
+}  // namespace index_test

@@ -6,6 +6,8 @@
 #include "platform/jet/Journal.h"
 #include "platform/jet/JournalFixture.h"
 
+namespace journal_room_test {
+
 class JournalRoomTest : public JournalTest {
   protected:
     static Status setName(Database& database, RowId id, const std::string& name) {
@@ -186,3 +188,5 @@ TEST_F(JournalRoomTest, FileThatMayNotGrowIsLeftAsItWas) {
     EXPECT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
+
+}  // namespace journal_room_test

@@ -4,6 +4,8 @@
 
 #include "platform/jet/JournalFixture.h"
 
+namespace journal_test {
+
 TEST_F(JournalTest, FailureOfAnyStepLeavesTheStateBefore) {
     learnAfter();
     using Kind = DiskStep::Kind;
@@ -204,3 +206,5 @@ TEST_F(JournalTest, IncompleteJournalIsEmptied) {
         EXPECT_TRUE(notices.empty());
     }
 }
+
+}  // namespace journal_test

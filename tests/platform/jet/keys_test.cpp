@@ -10,6 +10,8 @@
 #include "platform/jet/RowStore.h"
 #include "support/Vectors.h"
 
+namespace keys_test {
+
 using namespace jet;
 
 class KeysTest : public JetTest {
@@ -298,3 +300,5 @@ TEST_F(OneKeyTest, OverlongKeyIsRefused) {
                             }),
                  Failure);
 }
+
+}  // namespace keys_test

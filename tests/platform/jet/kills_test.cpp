@@ -10,6 +10,8 @@
 
 #include "platform/jet/JetFixture.h"
 
+namespace kills_test {
+
 using namespace jet;
 
 class KillsTest : public JetTest {
@@ -142,3 +144,5 @@ TEST_F(KillsTest, EveryStatementThatReturnedStandsInTheFile) {
     expectSoundForAll(path());
     EXPECT_FALSE(std::filesystem::exists(path() + "-journal.scartato"));
 }
+
+}  // namespace kills_test

@@ -12,6 +12,8 @@
 #include "platform/jet/OsFile.h"
 #include "support/HotJournal.h"
 
+namespace lock_test {
+
 using namespace jet;
 
 class LockTest : public JetTest {
@@ -459,3 +461,5 @@ TEST_F(LockTest, DatabaseThatGoesAwayUndoesItsTransaction) {
     EXPECT_OK(other->begin());
     other->rollback();
 }
+
+}  // namespace lock_test

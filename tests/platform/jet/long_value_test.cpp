@@ -7,6 +7,8 @@
 #include "platform/jet/UsageMap.h"
 #include "support/JetTables.h"
 
+namespace long_value_test {
+
 using namespace jet;
 
 class LongValueTest : public JetTest {
@@ -171,3 +173,5 @@ TEST_F(LongValueTest, LengthBeyondTheFileIsDamage) {
     damageHead([](uint8_t* head) { store32(head, 0x3FFFFFFF); });
     expectDamage();
 }
+
+}  // namespace long_value_test

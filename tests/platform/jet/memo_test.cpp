@@ -5,6 +5,8 @@
 #include "platform/jet/UsageMap.h"
 #include "support/JetTables.h"
 
+namespace memo_test {
+
 using namespace jet;
 
 class MemoTest : public JetTest {
@@ -211,3 +213,5 @@ TEST_F(MemoTest, RandomChangesAgreeWithAModel) {
         EXPECT_EQ(stored(id), wanted);
     expectSoundAndReadByOthers();
 }
+
+}  // namespace memo_test

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <QString>
 
+namespace names_test {
+
 using namespace jet;
 
 namespace {
@@ -55,3 +57,5 @@ TEST(Names, EveryLetterFoldsAsInQt) {
             << std::hex << static_cast<uint32_t>(c);
     }
 }
+
+}  // namespace names_test

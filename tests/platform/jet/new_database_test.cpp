@@ -3,6 +3,8 @@
 #include "platform/jet/Failure.h"
 #include "platform/jet/JetFixture.h"
 
+namespace new_database_test {
+
 using namespace jet;
 
 namespace {
@@ -107,3 +109,5 @@ TEST_F(NewDatabaseTest, MoreThanFindsRoomIsRefusedAndLeavesNoFile) {
     EXPECT_OK(createDatabase(path(), many));
     expectSound(path());
 }
+
+}  // namespace new_database_test

@@ -13,6 +13,8 @@
 #include "platform/jet/JetText.h"
 #include "platform/jet/OsFile.h"
 
+namespace open_test {
+
 using namespace jet;
 
 class OpenTest : public JetTest {
@@ -444,3 +446,5 @@ TEST_F(DamageTest, FailureInTheMiddleOfAChangeUndoesTheTransaction) {
     EXPECT_FALSE(database->inTransaction());
     EXPECT_EQ(bytesOf(path()), bytes);
 }
+
+}  // namespace open_test

@@ -4,6 +4,8 @@
 
 #include "platform/jet/JournalFixture.h"
 
+namespace power_test {
+
 class PowerTest : public JournalTest {
   protected:
     struct Recorded {
@@ -171,3 +173,5 @@ TEST_F(PowerTest, SmallTransactionCostsThreeSyncs) {
         EXPECT_EQ(syncs, i == 0 ? 4 : 3);  // the first one syncs the folder as well
     }
 }
+
+}  // namespace power_test

@@ -10,6 +10,8 @@
 
 #include "platform/jet/JetFixture.h"
 
+namespace processes_test {
+
 using namespace jet;
 
 class ProcessesTest : public JetTest {
@@ -163,3 +165,5 @@ TEST_F(ProcessesTest, WritersThatAreKilledLeaveASoundFile) {
         expectSound(path());
     }
 }
+
+}  // namespace processes_test

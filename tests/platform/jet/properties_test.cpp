@@ -4,6 +4,8 @@
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
+namespace properties_test {
+
 using namespace jet;
 
 class PropertiesTest : public JetTest {
@@ -155,3 +157,5 @@ TEST_F(PropertiesTest, CutAndForeignListsAreReadAsFarAsTheyHold) {
     applyProperties(list, table);
     EXPECT_FALSE(table.columns[0].required);
 }
+
+}  // namespace properties_test

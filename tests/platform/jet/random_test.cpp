@@ -7,6 +7,8 @@
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/OutsideReaders.h"
 
+namespace random_test {
+
 using namespace jet;
 
 class RandomTest : public JetTest {
@@ -228,3 +230,5 @@ TEST_F(RandomTest, RealFilesStaySoundAndReadable) {
     }
     std::printf("%d operations on %zu tables of %zu files\n", operations(), places.size(), files.size());
 }
+
+}  // namespace random_test

@@ -5,6 +5,8 @@
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
+namespace room_test {
+
 using namespace jet;
 
 class RoomTest : public JetTest {
@@ -125,3 +127,5 @@ INSTANTIATE_TEST_SUITE_P(Lengths, RowLengthTest, ::testing::ValuesIn(allLengths(
     return std::to_string(test.param.least) + "To" + std::to_string(test.param.most) +
            (test.param.reopened ? "Reopened" : "");
 });
+
+}  // namespace room_test

@@ -5,6 +5,8 @@
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/OutsideReaders.h"
 
+namespace samples_test {
+
 using namespace jet;
 
 using SamplesTest = JetTest;
@@ -371,3 +373,5 @@ TEST_F(SamplesTest, StoredCounterBelowTheGreatestKeyIsNotUsed) {
     DatabasePtr database = open(file);
     EXPECT_EQ(table(*database, "Orders").takeAutoNumber().value(), 11078);  // 10248 is what the file says
 }
+
+}  // namespace samples_test

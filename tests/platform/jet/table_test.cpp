@@ -4,6 +4,8 @@
 #include "platform/jet/JetFixture.h"
 #include "support/HotJournal.h"
 
+namespace table_test {
+
 using namespace jet;
 
 class TableTest : public JetTest {
@@ -334,3 +336,5 @@ TEST_F(TableTest, SystemTablesAreRefused) {
     const size_t column = 0;
     EXPECT_FAILS(ErrorCode::NotSupported, table(*database, "MSysACEs").updatable(std::span(&column, 1)));
 }
+
+}  // namespace table_test

@@ -7,6 +7,8 @@
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/UsageMap.h"
 
+namespace usage_map_test {
+
 using namespace jet;
 
 class UsageMapTest : public JetTest {
@@ -180,3 +182,5 @@ TEST_F(UsageMapTest, MapThatCannotBeReadIsDamage) {
     store32(&rowBytes(file->change(17), 17, 0)[map::pages], 18);  // an index page
     EXPECT_THROW(map().pages(), Failure);
 }
+
+}  // namespace usage_map_test

@@ -14,6 +14,8 @@
 #include "platform/mail/AcceptedList.h"
 #include "platform/mail/RunLock.h"
 
+namespace accepted_list_test {
+
 using namespace mail;
 
 namespace {
@@ -293,3 +295,5 @@ TEST(RunLockTest, IsHadByOneAtATimeAndGoesWithTheFile) {
 }
 
 }  // namespace
+
+}  // namespace accepted_list_test

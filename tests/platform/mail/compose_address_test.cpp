@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace compose_address_test {
+
 using mail::parseAddrSpec;
 
 namespace {
@@ -111,3 +113,5 @@ TEST(AddrSpec, LengthIsBounded) {
 }
 
 }  // namespace
+
+}  // namespace compose_address_test

@@ -4,6 +4,8 @@
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/QuotedPrintable.h"
 
+namespace compose_body_test {
+
 using namespace compose;
 
 namespace {
@@ -199,3 +201,5 @@ TEST(HtmlReferences, CommentsScriptsAndTextAreNoTags) {
 }
 
 }  // namespace
+
+}  // namespace compose_body_test

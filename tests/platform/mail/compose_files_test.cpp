@@ -5,6 +5,8 @@
 
 #include "platform/mail/compose_support.h"
 
+namespace compose_files_test {
+
 using namespace compose;
 
 namespace {
@@ -287,3 +289,5 @@ TEST_F(ComposeImages, MixedStandsAroundRelatedAroundAlternative) {
 }
 
 }  // namespace
+
+}  // namespace compose_files_test

@@ -11,6 +11,8 @@
 #include "platform/mail/Unsubscribe.h"
 #include "platform/system/Clock.h"
 
+namespace compose_headers_test {
+
 using namespace compose;
 
 namespace {
@@ -303,3 +305,5 @@ TEST(ComposeHeaders, MarkedLinkAddsNoHeader) {
 }
 
 }  // namespace
+
+}  // namespace compose_headers_test

@@ -7,6 +7,8 @@
 #include "platform/mail/WebAddress.h"
 #include "platform/mail/wire_reader.h"
 
+namespace compose_links_test {
+
 using compose::plainMessage;
 
 namespace {
@@ -157,3 +159,5 @@ TEST(ComposeText, MessageWithoutHtmlIsItsTextAlone) {
 }
 
 }  // namespace
+
+}  // namespace compose_links_test

@@ -13,6 +13,8 @@
 #include "platform/mail/HeaderText.h"
 #include "platform/mail/hostile_values.h"
 
+namespace compose_reader_test {
+
 using namespace compose;
 
 namespace {
@@ -212,3 +214,5 @@ TEST_F(ReadByPython, FileNamesComeBack) {
 }
 
 }  // namespace
+
+}  // namespace compose_reader_test

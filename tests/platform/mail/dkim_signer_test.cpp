@@ -6,6 +6,8 @@
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/wire_reader.h"
 
+namespace dkim_signer_test {
+
 using namespace compose;
 
 namespace {
@@ -274,3 +276,5 @@ TEST_F(Dkim, FilesAreReadAgainWhenTheyChange) {
 }
 
 }  // namespace
+
+}  // namespace dkim_signer_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace domain_name_test {
+
 using mail::connectableHost;
 
 namespace {
@@ -74,3 +76,5 @@ TEST(ConnectableHost, LengthIsBounded) {
 }
 
 }  // namespace
+
+}  // namespace domain_name_test

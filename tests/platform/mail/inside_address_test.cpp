@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace inside_address_test {
+
 using mail::isPublicAddress;
 
 namespace {
@@ -61,3 +63,5 @@ TEST(PublicAddress, Ipv4InsideIpv6IsNoWayRound) {
 }
 
 }  // namespace
+
+}  // namespace inside_address_test

@@ -5,6 +5,8 @@
 
 #include "platform/mail/LoginMechanisms.h"
 
+namespace login_mechanisms_test {
+
 using mail::LoginMechanisms;
 using mail::LoginTerms;
 using mail::SmtpReply;
@@ -111,3 +113,5 @@ TEST(LoginMechanisms, OnlyARefusalOfThePasswordIsKept) {
 }
 
 }  // namespace
+
+}  // namespace login_mechanisms_test

@@ -9,6 +9,8 @@
 #include "support/Postfix.h"
 #include "support/PrivateNetwork.h"
 
+namespace postfix_test {
+
 using testing_support::Postfix;
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
@@ -257,3 +259,5 @@ TEST_F(RealServer, RelayedMessageKeepsItsSignature) {
 }
 
 }  // namespace
+
+}  // namespace postfix_test

@@ -8,6 +8,8 @@
 #include "platform/mail/DomainName.h"
 #include "platform/mail/TlsMemory.h"
 
+namespace server_list_test {
+
 namespace {
 
 class ServerList : public testing::Test {
@@ -147,3 +149,5 @@ TEST_F(ServerList, ServerIsKnownForTheRunWhereTheFileCannotBeWritten) {
 }
 
 }  // namespace
+
+}  // namespace server_list_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace server_verdict_test {
+
 namespace {
 
 QString verdict(int code, const char* text) {
@@ -53,3 +55,5 @@ TEST(ServerVerdict, OtherOutcomesHaveNone) {
 }
 
 }  // namespace
+
+}  // namespace server_verdict_test

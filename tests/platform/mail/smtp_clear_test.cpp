@@ -9,6 +9,8 @@
 #include "support/NameServer.h"
 #include "support/PrivateNetwork.h"
 
+namespace smtp_clear_test {
+
 using testing_support::NameServer;
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
@@ -274,3 +276,5 @@ TEST_F(InTheClear, OtherPortsOfTheServerAreNotBound) {
 }
 
 }  // namespace
+
+}  // namespace smtp_clear_test

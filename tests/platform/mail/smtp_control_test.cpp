@@ -7,6 +7,8 @@
 #include "platform/mail/smtp_fixture.h"
 #include "platform/system/Keyring.h"
 
+namespace smtp_control_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -531,3 +533,5 @@ TEST_F(SupportLog, HostileTextStaysInItsLine) {
 }
 
 }  // namespace
+
+}  // namespace smtp_control_test

@@ -1,6 +1,8 @@
 // What the session does with servers that play by the rules, and with those that do not.
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_dialogue_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -464,3 +466,5 @@ TEST(SmtpSession, AcceptanceBeforeTheEndIsNoAcceptance) {
 }
 
 }  // namespace
+
+}  // namespace smtp_dialogue_test

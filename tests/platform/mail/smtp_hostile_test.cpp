@@ -3,6 +3,8 @@
 #include "platform/mail/smtp_fixture.h"
 #include "support/FullPort.h"
 
+namespace smtp_hostile_test {
+
 using testing_support::FullPort;
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
@@ -231,3 +233,5 @@ TEST(SmtpSession, HostThatNeverTakesTheConnectionEndsInTheTimeout) {
 }
 
 }  // namespace
+
+}  // namespace smtp_hostile_test

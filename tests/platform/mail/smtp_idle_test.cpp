@@ -1,6 +1,8 @@
 // A program of its own, since it lasts longer than the half minute for which a connection is kept.
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_idle_test {
+
 using testing_support::ScriptedServer;
 
 TEST(SmtpSession, ConnectionThatIsNotUsedIsClosedWithQuit) {
@@ -13,3 +15,5 @@ TEST(SmtpSession, ConnectionThatIsNotUsedIsClosedWithQuit) {
     EXPECT_TRUE(client.send().done);
     EXPECT_EQ(server.remainder(), "");
 }
+
+}  // namespace smtp_idle_test

@@ -2,6 +2,8 @@
 #include "platform/mail/smtp_fixture.h"
 #include "support/PrivateNetwork.h"
 
+namespace smtp_implicit_tls_test {
+
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
 
@@ -84,3 +86,5 @@ TEST_F(ImplicitTls, SilenceInTheHandshakeEndsInTheTimeout) {
 }
 
 }  // namespace
+
+}  // namespace smtp_implicit_tls_test

@@ -1,6 +1,8 @@
 // Kept connections that turn out dead, and what the first line of the final reply says.
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_kept_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -144,3 +146,5 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 }  // namespace
+
+}  // namespace smtp_kept_test

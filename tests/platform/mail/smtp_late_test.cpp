@@ -4,6 +4,8 @@
 #include "platform/mail/smtp_run_fixture.h"
 #include "support/SmtpSink.h"
 
+namespace smtp_late_test {
+
 using testing_support::SmtpSink;
 
 namespace {
@@ -325,3 +327,5 @@ TEST(LateReplyAtTheEnd, IsStillReadWhenTheControlGoes) {
 }
 
 }  // namespace
+
+}  // namespace smtp_late_test

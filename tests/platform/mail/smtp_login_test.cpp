@@ -8,6 +8,8 @@
 
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_login_test {
+
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
 
@@ -308,3 +310,5 @@ TEST_F(SmtpLogin, NothingThatAServerSaysSteersTheDisplayOfATranscript) {
 }
 
 }  // namespace
+
+}  // namespace smtp_login_test

@@ -8,6 +8,8 @@
 #include "platform/oauth/TokenFile.h"
 #include "support/AuthorizationServer.h"
 
+namespace smtp_oauth_test {
+
 using testing_support::AuthorizationServer;
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
@@ -381,3 +383,5 @@ TEST_F(SmtpOAuth, UserNameWithControlCharactersIsRefused) {
 }
 
 }  // namespace
+
+}  // namespace smtp_oauth_test

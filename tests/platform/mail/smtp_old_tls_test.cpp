@@ -6,6 +6,8 @@
 
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_old_tls_test {
+
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
 using testing_support::TlsIdentity;
@@ -108,3 +110,5 @@ TEST_F(OldTls, OpportunisticRouteGoesOnWithOnePlainAttempt) {
 }
 
 }  // namespace
+
+}  // namespace smtp_old_tls_test

@@ -5,6 +5,8 @@
 
 #include "platform/mail/smtp_run_fixture.h"
 
+namespace smtp_recipient_test {
+
 using mail::DatabaseFile;
 using testing_support::ScriptedServer;
 
@@ -208,3 +210,5 @@ TEST(Recipient, TranscriptTellsWhyNothingWasSent) {
 }
 
 }  // namespace
+
+}  // namespace smtp_recipient_test

@@ -1,6 +1,8 @@
 // A login that was refused for its password is not tried again at once.
 #include "platform/mail/smtp_run_fixture.h"
 
+namespace smtp_refused_login_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -124,3 +126,5 @@ TEST(RefusedLogin, GuessesAfterAHeloCostTwoLogins) {
 }
 
 }  // namespace
+
+}  // namespace smtp_refused_login_test

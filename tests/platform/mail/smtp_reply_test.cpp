@@ -5,6 +5,8 @@
 #include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
 
+namespace smtp_reply_test {
+
 using mail::parseSmtpReply;
 using State = mail::ReplyParse::State;
 
@@ -132,3 +134,5 @@ TEST(DotStuffing, IsTheSameForEveryPieceSize) {
 }
 
 }  // namespace
+
+}  // namespace smtp_reply_test

@@ -4,6 +4,8 @@
 
 #include "platform/mail/Sasl.h"
 
+namespace smtp_sasl_test {
+
 namespace {
 
 const char* const user = "utente";
@@ -120,3 +122,5 @@ TEST(Sasl, ServerThatCannotProveItselfIsRefused) {
 }
 
 }  // namespace
+
+}  // namespace smtp_sasl_test

@@ -5,6 +5,8 @@
 #include "platform/mail/scram_server.h"
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_scram_test {
+
 using testing_support::ScriptedServer;
 using testing_support::TlsIdentity;
 
@@ -193,3 +195,5 @@ TEST_F(SmtpScram, ChallengeThatComesTwiceIsRefusedAndNotLogged) {
 }
 
 }  // namespace
+
+}  // namespace smtp_scram_test

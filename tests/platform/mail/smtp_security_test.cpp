@@ -1,6 +1,8 @@
 // TLS: what is accepted, and what is refused.
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_security_test {
+
 using testing_support::ScriptedServer;
 using testing_support::TestCertificates;
 using testing_support::TlsIdentity;
@@ -193,3 +195,5 @@ TEST_F(SmtpTls, RefusedStartTlsOnAnOpportunisticRouteIsPassedOver) {
 }
 
 }  // namespace
+
+}  // namespace smtp_security_test

@@ -3,6 +3,8 @@
 
 #include "platform/mail/smtp_fixture.h"
 
+namespace smtp_stages_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -168,3 +170,5 @@ TEST(Stages, StopEndsEachOfThem) {
 }
 
 }  // namespace
+
+}  // namespace smtp_stages_test

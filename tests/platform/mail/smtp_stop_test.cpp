@@ -5,6 +5,8 @@
 #include "platform/mail/smtp_run_fixture.h"
 #include "support/SmtpSink.h"
 
+namespace smtp_stop_test {
+
 using testing_support::SmtpSink;
 
 namespace {
@@ -98,3 +100,5 @@ TEST(StopAndGoOn, AHundredTimesBringsNobodyTwoCopies) {
 }
 
 }  // namespace
+
+}  // namespace smtp_stop_test

@@ -6,6 +6,8 @@
 
 #include "support/Vectors.h"
 
+namespace transcript_test {
+
 namespace {
 
 class Transcript : public testing::Test {
@@ -90,3 +92,5 @@ TEST_F(Transcript, LongLinesAreCut) {
     for (const QString& line : log.split("\r\n"))
         EXPECT_LT(line.size(), 1040);
 }
+
+}  // namespace transcript_test

@@ -6,6 +6,8 @@
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/wire_reader.h"
 
+namespace wire_checkers_test {
+
 using namespace compose;
 
 namespace {
@@ -96,3 +98,5 @@ TEST_F(WireCheckers, MimeReaderFindsEachPartWhole) {
 }
 
 }  // namespace
+
+}  // namespace wire_checkers_test

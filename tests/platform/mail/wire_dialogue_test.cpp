@@ -6,6 +6,8 @@
 #include "platform/mail/smtp_fixture.h"
 #include "platform/mail/wire_reader.h"
 
+namespace wire_dialogue_test {
+
 using testing_support::ScriptedServer;
 
 namespace {
@@ -130,3 +132,5 @@ TEST(WireDialogue, EachKindOfValueArrivesUnderEachSetOfExtensions) {
 }
 
 }  // namespace
+
+}  // namespace wire_dialogue_test

@@ -9,6 +9,8 @@
 #include "platform/mail/Unsubscribe.h"
 #include "platform/mail/wire_reader.h"
 
+namespace wire_message_test {
+
 using namespace compose;
 
 namespace {
@@ -211,3 +213,5 @@ INSTANTIATE_TEST_SUITE_P(Alone, WireMessage, ::testing::Values(false));
 INSTANTIATE_TEST_SUITE_P(WithAttachmentsAndImages, WireMessage, ::testing::Values(true));
 
 }  // namespace
+
+}  // namespace wire_message_test

@@ -3,6 +3,8 @@
 #include "oauth_fixture.h"
 #include "platform/oauth/TokenFile.h"
 
+namespace consent_test {
+
 namespace {
 
 using oauth::Consent;
@@ -294,3 +296,5 @@ TEST_F(OAuthConsent, FolderThatCannotBeWrittenIsTold) {
 }
 
 }  // namespace
+
+}  // namespace consent_test

@@ -1,6 +1,8 @@
 // The file of the providers: what is installed, and what is refused.
 #include "oauth_fixture.h"
 
+namespace provider_test {
+
 namespace {
 
 using oauth::parseProviders;
@@ -123,3 +125,5 @@ TEST_F(OAuth, HugeProvidersFileIsRefused) {
 }
 
 }  // namespace
+
+}  // namespace provider_test

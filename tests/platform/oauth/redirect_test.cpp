@@ -5,6 +5,8 @@
 #include "platform/oauth/RedirectListener.h"
 #include "platform/oauth/RedirectRequest.h"
 
+namespace redirect_test {
+
 namespace {
 
 using oauth::parseRedirectRequest;
@@ -125,3 +127,5 @@ TEST_F(OAuthListener, IsNotToBeReachedFromOutside) {
 }
 
 }  // namespace
+
+}  // namespace redirect_test

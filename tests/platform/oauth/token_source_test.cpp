@@ -3,6 +3,8 @@
 #include "platform/oauth/TokenFile.h"
 #include "platform/oauth/TokenSource.h"
 
+namespace token_source_test {
+
 namespace {
 
 using oauth::Access;
@@ -171,3 +173,5 @@ TEST_F(OAuthTokenSource, NextRequestCanBeginFromWithinAnAnswer) {
 }
 
 }  // namespace
+
+}  // namespace token_source_test

@@ -7,6 +7,8 @@
 #include "platform/oauth/Token.h"
 #include "platform/oauth/TokenFile.h"
 
+namespace token_test {
+
 namespace {
 
 using oauth::parseTokenAnswer;
@@ -177,3 +179,5 @@ TEST_F(OAuth, UserNameTooLongForAFileIsAClearError) {
 }
 
 }  // namespace
+
+}  // namespace token_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace clock_test {
+
 TEST(Clock, StartsAsTheMachinesClock) {
     const QDateTime before = QDateTime::currentDateTime();
     const QDateTime now = sys::clock().now();
@@ -19,3 +21,5 @@ TEST(Clock, CanBeSet) {
     EXPECT_EQ(sys::clock().now().time(), QTime(14, 0));
     sys::clock() = sys::systemClock();
 }
+
+}  // namespace clock_test

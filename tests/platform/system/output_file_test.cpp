@@ -9,6 +9,8 @@
 
 #include "platform/system/ProgramFolder.h"
 
+namespace output_file_test {
+
 using sys::FileKind;
 using sys::WriteMode;
 
@@ -169,3 +171,5 @@ TEST_F(OutputFile, WhatTheUserNamesInTheDataFolderIsTheProgramsOwn) {
     EXPECT_EQ(sys::kindByFolder(folder.filePath("data2/m.mss")), FileKind::Document);
     EXPECT_EQ(sys::kindByFolder(QString()), FileKind::Document);
 }
+
+}  // namespace output_file_test

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+namespace own_file_test {
+
 namespace {
 
 struct OwnFileTest : testing::Test {
@@ -136,3 +138,5 @@ TEST_F(OwnFileTest, ASecretIsReadWhereOnlyItsOwnerCan) {
     ASSERT_EQ(::chown(QFile::encodeName(path).constData(), 65534, static_cast<gid_t>(-1)), 0);
     EXPECT_FALSE(sys::readGuardedFile(path, 6).ok());
 }
+
+}  // namespace own_file_test

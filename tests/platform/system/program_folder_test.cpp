@@ -9,6 +9,8 @@
 
 #include "support/Vectors.h"
 
+namespace program_folder_test {
+
 namespace {
 
 class ProgramFolder : public testing::Test {
@@ -191,3 +193,5 @@ TEST_F(ProgramFolder, EndsInASlashAndCanBeReplaced) {
     EXPECT_EQ(sys::programFolder(), QCoreApplication::applicationDirPath() + u'/');
     sys::setProgramFolder({});
 }
+
+}  // namespace program_folder_test

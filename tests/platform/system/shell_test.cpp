@@ -9,6 +9,8 @@
 
 #include "support/Vectors.h"
 
+namespace shell_test {
+
 namespace {
 
 // Puts an opener of its own in front of the desktop's, which writes down what it was given.
@@ -60,3 +62,5 @@ TEST_F(Shell, TellsThatThereIsNoOpener) {
     EXPECT_EQ(sys::openAddress(QStringLiteral("https://www.quintara.example/")).code(),
               ErrorCode::PathAccess);
 }
+
+}  // namespace shell_test

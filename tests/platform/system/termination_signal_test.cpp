@@ -7,6 +7,8 @@
 #include <unistd.h>
 #include <QEventLoop>
 
+namespace termination_signal_test {
+
 namespace {
 
 /// The status of a process that runs `play` and would otherwise wait for events for ever.
@@ -56,3 +58,5 @@ TEST(TerminationSignal, OneThatIsIgnoredStaysIgnored) {
     EXPECT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 8);
 }
+
+}  // namespace termination_signal_test

@@ -7,6 +7,8 @@
 
 #include "support/Vectors.h"
 
+namespace text_writer_test {
+
 using sys::FileKind;
 using sys::WriteMode;
 
@@ -59,3 +61,5 @@ TEST_F(TextWriter, FullDiskIsToldAtTheLatestWhenClosing) {
     const bool closed = writer.close().ok();
     EXPECT_FALSE(printed && closed);
 }
+
+}  // namespace text_writer_test

@@ -5,6 +5,8 @@
 #include "platform/text/Blanks.h"
 #include "support/Vectors.h"
 
+namespace ansi_codec_test {
+
 TEST(AnsiCodec, EveryByteComesBackFromItsCharacter) {
     for (int code = 0; code < 256; ++code) {
         const QByteArray byte(1, static_cast<char>(code));
@@ -43,3 +45,5 @@ TEST(AnsiCodec, NamesWhatTheCodePageDoesNotHold) {
     EXPECT_EQ(text::outsideAnsi(u"Łódź Ł \U0001F384"), (QStringList{"Ł", "ź", "\U0001F384"}));
     EXPECT_EQ(text::outsideAnsi({}), QStringList());
 }
+
+}  // namespace ansi_codec_test

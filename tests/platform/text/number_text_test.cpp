@@ -5,6 +5,8 @@
 #include "platform/text/DateText.h"
 #include "support/Vectors.h"
 
+namespace number_text_test {
+
 namespace {
 
 const QLocale italian(QLocale::Italian, QLocale::Italy);
@@ -98,3 +100,5 @@ TEST(DateTimeText, ShowsTheShortFormsToTheSecond) {
     const QString american = text::dateTimeText(moment, english);
     EXPECT_TRUE(american.startsWith(QStringLiteral("3/9/26 7:05:08"))) << american.toStdString();
 }
+
+}  // namespace number_text_test

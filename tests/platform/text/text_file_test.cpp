@@ -8,6 +8,8 @@
 
 #include "support/Vectors.h"
 
+namespace text_file_test {
+
 using text::Encoding;
 using text::LineEnds;
 using text::LineReader;
@@ -179,3 +181,5 @@ TEST_F(TextFile, OnlyAnOrdinaryFileCanBeOpened) {
     EXPECT_TRUE(reader.atEnd());
     EXPECT_FALSE(reader.nextLine(line));
 }
+
+}  // namespace text_file_test

@@ -13,6 +13,9 @@
 
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Desktop.h"
+#include "support/TestClass.h"
+
+namespace commandbars_test {
 
 using ui::CommandBars;
 using Scope = ui::CommandDesign::Scope;
@@ -322,11 +325,8 @@ class TestCommandBars : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestCommandBars test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestCommandBars, ui::setUpDesktop);
+
+}  // namespace commandbars_test
 
 #include "commandbars_test.moc"

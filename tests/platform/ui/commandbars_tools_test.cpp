@@ -10,6 +10,9 @@
 #include <QToolButton>
 
 #include "platform/ui/CommandBars.h"
+#include "support/TestClass.h"
+
+namespace commandbars_tools_test {
 
 using ui::CommandBars;
 
@@ -258,5 +261,8 @@ class TestCommandBarsTools : public QObject {
     }
 };
 
-QTEST_MAIN(TestCommandBarsTools)
+TEST_CLASS(TestCommandBarsTools);
+
+}  // namespace commandbars_tools_test
+
 #include "commandbars_tools_test.moc"

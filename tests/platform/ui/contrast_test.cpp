@@ -5,6 +5,9 @@
 #include <QTest>
 
 #include "platform/ui/Contrast.h"
+#include "support/TestClass.h"
+
+namespace contrast_test {
 
 class Portal : public QObject {
     Q_OBJECT
@@ -55,5 +58,8 @@ class TestContrast : public QObject {
     }
 };
 
-QTEST_MAIN(TestContrast)
+TEST_CLASS(TestContrast);
+
+}  // namespace contrast_test
+
 #include "contrast_test.moc"

@@ -12,6 +12,9 @@
 #include "platform/ui/datagrid_support.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/ItemViewAccess.h"
+#include "support/TestClass.h"
+
+namespace datagrid_test {
 
 using ui::DataGrid;
 
@@ -513,12 +516,8 @@ class TestDataGrid : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    QLocale::setDefault(QLocale("it_IT"));
-    TestDataGrid test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestDataGrid, ui::setUpDesktop);
+
+}  // namespace datagrid_test
 
 #include "datagrid_test.moc"

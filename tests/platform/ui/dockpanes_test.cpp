@@ -8,6 +8,9 @@
 #include <QToolBar>
 
 #include "platform/ui/DockPanes.h"
+#include "support/TestClass.h"
+
+namespace dockpanes_test {
 
 using ui::DockPanes;
 
@@ -162,5 +165,8 @@ class TestDockPanes : public QObject {
     }
 };
 
-QTEST_MAIN(TestDockPanes)
+TEST_CLASS(TestDockPanes);
+
+}  // namespace dockpanes_test
+
 #include "dockpanes_test.moc"

@@ -9,6 +9,9 @@
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
+#include "support/TestClass.h"
+
+namespace editor_controls_test {
 
 using ui::ColorHexagon;
 using ui::SourceEdit;
@@ -202,5 +205,8 @@ class TestEditorControls : public QObject {
     }
 };
 
-QTEST_MAIN(TestEditorControls)
+TEST_CLASS(TestEditorControls);
+
+}  // namespace editor_controls_test
+
 #include "editor_controls_test.moc"

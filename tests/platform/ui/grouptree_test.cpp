@@ -8,6 +8,9 @@
 #include "platform/ui/DataGridDrag.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/GroupTree.h"
+#include "support/TestClass.h"
+
+namespace grouptree_test {
 
 using ui::dragContent;
 using ui::Dragged;
@@ -468,11 +471,8 @@ class TestGroupTree : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestGroupTree test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestGroupTree, ui::setUpDesktop);
+
+}  // namespace grouptree_test
 
 #include "grouptree_test.moc"

@@ -5,6 +5,9 @@
 
 #include "platform/ui/GroupTree.h"
 #include "platform/ui/LineEdit.h"
+#include "support/TestClass.h"
+
+namespace line_edit_test {
 
 class TestLineEdit : public QObject {
     Q_OBJECT
@@ -56,5 +59,8 @@ class TestLineEdit : public QObject {
     }
 };
 
-QTEST_MAIN(TestLineEdit)
+TEST_CLASS(TestLineEdit);
+
+}  // namespace line_edit_test
+
 #include "line_edit_test.moc"

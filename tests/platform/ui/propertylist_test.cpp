@@ -10,6 +10,9 @@
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/PropertyList.h"
+#include "support/TestClass.h"
+
+namespace propertylist_test {
 
 using ui::PropertyList;
 
@@ -334,11 +337,8 @@ class TestPropertyList : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestPropertyList test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestPropertyList, ui::setUpDesktop);
+
+}  // namespace propertylist_test
 
 #include "propertylist_test.moc"

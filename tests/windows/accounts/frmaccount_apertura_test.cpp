@@ -1,9 +1,13 @@
 // How the account window is opened: by its command, modal over the main window, the same one every time.
 #include <QTimer>
 
+#include "support/AsInTheProgram.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/griglia_stage.h"
+
+namespace frmaccount_apertura_test {
 
 using namespace testing_support;
 
@@ -45,8 +49,8 @@ class TestFrmAccountApertura : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    return runWithDesktop<TestFrmAccountApertura>(argc, argv);
-}
+TEST_CLASS_WITH(TestFrmAccountApertura, asInTheProgram);
+
+}  // namespace frmaccount_apertura_test
 
 #include "frmaccount_apertura_test.moc"

@@ -7,9 +7,13 @@
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
 #include "platform/text/AnsiCodec.h"
+#include "support/AsInTheProgram.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
+
+namespace frmaccount_archivio_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -288,8 +292,8 @@ class TestFrmAccountArchivio : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    return runWithDesktop<TestFrmAccountArchivio>(argc, argv);
-}
+TEST_CLASS_WITH(TestFrmAccountArchivio, asInTheProgram);
+
+}  // namespace frmaccount_archivio_test
 
 #include "frmaccount_archivio_test.moc"

@@ -2,9 +2,13 @@
 #include <QAccessible>
 
 #include "modules/core/bGlobal.h"
+#include "support/AsInTheProgram.h"
 #include "support/LookCheck.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
 #include "windows/core/bTheme.h"
+
+namespace frmaccount_aspetto_test {
 
 using namespace testing_support;
 
@@ -288,8 +292,8 @@ class TestFrmAccountAspetto : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    return runWithDesktop<TestFrmAccountAspetto>(argc, argv);
-}
+TEST_CLASS_WITH(TestFrmAccountAspetto, asInTheProgram);
+
+}  // namespace frmaccount_aspetto_test
 
 #include "frmaccount_aspetto_test.moc"

@@ -8,9 +8,13 @@
 
 #include "platform/oauth/TokenFile.h"
 #include "platform/ui/LinkLabel.h"
+#include "support/AsInTheProgram.h"
 #include "support/AuthorizationServer.h"
 #include "support/LookCheck.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
+
+namespace frmaccount_browser_test {
 
 using namespace testing_support;
 
@@ -288,8 +292,8 @@ class TestFrmAccountBrowser : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    return runWithDesktop<TestFrmAccountBrowser>(argc, argv);
-}
+TEST_CLASS_WITH(TestFrmAccountBrowser, asInTheProgram);
+
+}  // namespace frmaccount_browser_test
 
 #include "frmaccount_browser_test.moc"

@@ -3,8 +3,12 @@
 #include <QContextMenuEvent>
 #include <QTimer>
 
+#include "support/AsInTheProgram.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
 #include "windows/core/Evento.h"
+
+namespace frmaccount_elenco_test {
 
 using namespace testing_support;
 
@@ -389,8 +393,8 @@ class TestFrmAccountElenco : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    return runWithDesktop<TestFrmAccountElenco>(argc, argv);
-}
+TEST_CLASS_WITH(TestFrmAccountElenco, asInTheProgram);
+
+}  // namespace frmaccount_elenco_test
 
 #include "frmaccount_elenco_test.moc"

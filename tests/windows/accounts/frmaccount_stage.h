@@ -69,14 +69,4 @@ class AccountStage {
     QString box() const;
 };
 
-/// The main routine of the account window's tests.
-template <class Test>
-int runWithDesktop(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(prodotto::nome());
-    ui::setUpDesktop(application);
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
-
 }  // namespace testing_support

@@ -1,10 +1,13 @@
 // The small window that asks for the group, and what the choice of the group does.
 #include "windows/import/cartella.h"
+#include "support/TestClass.h"
 
 #include "modules/store/RecordsetDB.h"
 #include "windows/entry/Vicini.h"
 #include "windows/import/frmScelta.h"
 #include "windows/import/import_stage.h"
+
+namespace cartella_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -235,5 +238,8 @@ class TestImportCartella : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportCartella)
+TEST_CLASS(TestImportCartella);
+
+}  // namespace cartella_test
+
 #include "cartella_test.moc"

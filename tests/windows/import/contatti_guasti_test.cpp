@@ -4,7 +4,10 @@
 
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
+#include "support/TestClass.h"
 #include "windows/import/contatti_stage.h"
+
+namespace contatti_guasti_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -241,5 +244,8 @@ class TestImportContattiGuasti : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportContattiGuasti)
+TEST_CLASS(TestImportContattiGuasti);
+
+}  // namespace contatti_guasti_test
+
 #include "contatti_guasti_test.moc"

@@ -1,5 +1,8 @@
 // The imports from the address book and from Outlook, from the question for the group to the rows on disk.
+#include "support/TestClass.h"
 #include "windows/import/contatti_stage.h"
+
+namespace contatti_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -328,5 +331,8 @@ class TestImportContatti : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportContatti)
+TEST_CLASS(TestImportContatti);
+
+}  // namespace contatti_test
+
 #include "contatti_test.moc"

@@ -2,9 +2,12 @@
 #include <QTimer>
 
 #include "platform/ui/ProgressCounter.h"
+#include "support/TestClass.h"
 #include "windows/core/bTheme.h"
 #include "windows/import/impdb_stage.h"
 #include "windows/import/imptxt_stage.h"
+
+namespace finestre_test {
 
 using namespace testing_support;
 
@@ -235,5 +238,8 @@ class TestImportFinestre : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportFinestre)
+TEST_CLASS(TestImportFinestre);
+
+}  // namespace finestre_test
+
 #include "finestre_test.moc"

@@ -5,7 +5,10 @@
 
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Command.h"
+#include "support/TestClass.h"
 #include "windows/import/impdb_stage.h"
+
+namespace impdb_campioni_test {
 
 using namespace testing_support;
 
@@ -254,5 +257,8 @@ class TestImportDbCampioni : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportDbCampioni)
+TEST_CLASS(TestImportDbCampioni);
+
+}  // namespace impdb_campioni_test
+
 #include "impdb_campioni_test.moc"

@@ -8,7 +8,10 @@
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
 #include "support/LockedFile.h"
+#include "support/TestClass.h"
 #include "windows/import/impdb_stage.h"
+
+namespace impdb_guasti_test {
 
 using namespace testing_support;
 
@@ -205,5 +208,8 @@ class TestImportDbGuasti : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportDbGuasti)
+TEST_CLASS(TestImportDbGuasti);
+
+}  // namespace impdb_guasti_test
+
 #include "impdb_guasti_test.moc"

@@ -1,11 +1,14 @@
 // The window of the Access import: listing, mapping, and what the walk over the records does.
 #include "modules/store/NuovoDatabase.h"
+#include "support/TestClass.h"
 #include "windows/import/frmImpDB.h"
 
 #include <QTimer>
 
 #include "modules/import/campi.h"
 #include "windows/import/impdb_stage.h"
+
+namespace impdb_test {
 
 using namespace testing_support;
 using jet::Type;
@@ -428,5 +431,8 @@ class TestImportDb : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportDb)
+TEST_CLASS(TestImportDb);
+
+}  // namespace impdb_test
+
 #include "impdb_test.moc"

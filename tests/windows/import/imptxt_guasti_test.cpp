@@ -5,7 +5,10 @@
 
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
+#include "support/TestClass.h"
 #include "windows/import/imptxt_stage.h"
+
+namespace imptxt_guasti_test {
 
 using namespace testing_support;
 
@@ -268,5 +271,8 @@ class TestImportTxtGuasti : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportTxtGuasti)
+TEST_CLASS(TestImportTxtGuasti);
+
+}  // namespace imptxt_guasti_test
+
 #include "imptxt_guasti_test.moc"

@@ -1,4 +1,5 @@
 // The window of the text import: its controls, and files that import as they should.
+#include "support/TestClass.h"
 #include "windows/import/frmImpTXT.h"
 
 #include <QDropEvent>
@@ -12,13 +13,15 @@
 #include "windows/import/import_stage.h"
 #include "windows/import/imptxt_stage.h"
 
+namespace imptxt_test {
+
 using namespace testing_support;
 
 namespace {
 
 const QString dataFolder = QStringLiteral(TEST_DATA_DIR "/txt/");
 
-QJsonArray vectors() {
+QJsonArray expectedRows() {
     QFile file(dataFolder + "expected.json");
     if (!file.open(QIODevice::ReadOnly)) qFatal("no vectors");
     return QJsonDocument::fromJson(file.readAll()).object()["vectors"].toArray();
@@ -88,7 +91,7 @@ class TestImportTxt : public QObject {
 
     void vectors_data() {
         QTest::addColumn<QJsonObject>("vector");
-        for (const QJsonValue& value : ::vectors())
+        for (const QJsonValue& value : expectedRows())
             QTest::newRow(qPrintable(value["name"].toString())) << value.toObject();
     }
     void vectors() {
@@ -225,5 +228,8 @@ class TestImportTxt : public QObject {
     }
 };
 
-QTEST_MAIN(TestImportTxt)
+TEST_CLASS(TestImportTxt);
+
+}  // namespace imptxt_test
+
 #include "imptxt_test.moc"

@@ -10,6 +10,7 @@
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/TabStrip.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/entry/Vicini.h"
 #include "windows/import/frmImpDB.h"
@@ -23,6 +24,8 @@
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/frmGruppi.h"
+
+namespace lang_keys_test {
 
 using namespace testing_support;
 
@@ -279,5 +282,8 @@ class TestLangKeys : public QObject {
     }
 };
 
-QTEST_MAIN(TestLangKeys)
+TEST_CLASS(TestLangKeys);
+
+}  // namespace lang_keys_test
+
 #include "lang_keys_test.moc"

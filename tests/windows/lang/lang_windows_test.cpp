@@ -6,11 +6,14 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
+#include "support/TestClass.h"
 #include "windows/entry/bMain.h"
 #include "windows/lang/lang_stage.h"
 #include "windows/send/frmInvia.h"
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmDestinatario.h"
+
+namespace lang_windows_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -149,5 +152,8 @@ class TestLangWindows : public QObject {
     }
 };
 
-QTEST_MAIN(TestLangWindows)
+TEST_CLASS(TestLangWindows);
+
+}  // namespace lang_windows_test
+
 #include "lang_windows_test.moc"

@@ -6,8 +6,11 @@
 #include <QProcess>
 #include <QToolBar>
 
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_comandi_test {
 
 using namespace testing_support;
 
@@ -466,5 +469,8 @@ class TestComandi : public QObject {
     }
 };
 
-QTEST_MAIN(TestComandi)
+TEST_CLASS(TestComandi);
+
+}  // namespace frmeditor_comandi_test
+
 #include "frmeditor_comandi_test.moc"

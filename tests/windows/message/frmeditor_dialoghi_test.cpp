@@ -12,7 +12,10 @@
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_dialoghi_test {
 
 using namespace testing_support;
 
@@ -266,5 +269,8 @@ class TestDialoghi : public QObject {
     }
 };
 
-QTEST_MAIN(TestDialoghi)
+TEST_CLASS(TestDialoghi);
+
+}  // namespace frmeditor_dialoghi_test
+
 #include "frmeditor_dialoghi_test.moc"

@@ -4,8 +4,11 @@
 #include <QTabBar>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_documento_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -399,5 +402,8 @@ class TestDocumento : public QObject {
     }
 };
 
-QTEST_MAIN(TestDocumento)
+TEST_CLASS(TestDocumento);
+
+}  // namespace frmeditor_documento_test
+
 #include "frmeditor_documento_test.moc"

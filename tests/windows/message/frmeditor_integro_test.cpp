@@ -6,7 +6,10 @@
 #include "platform/html/HtmlDocument.h"
 #include "platform/html/LargeNewsletter.h"
 #include "platform/text/AnsiCodec.h"
+#include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_integro_test {
 
 using namespace testing_support;
 
@@ -113,5 +116,8 @@ class TestIntegro : public QObject {
     }
 };
 
-QTEST_MAIN(TestIntegro)
+TEST_CLASS(TestIntegro);
+
+}  // namespace frmeditor_integro_test
+
 #include "frmeditor_integro_test.moc"

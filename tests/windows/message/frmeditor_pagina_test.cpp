@@ -6,9 +6,12 @@
 #include "modules/core/bFunctions.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/PropertyList.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
 #include "windows/message/frmPropBody.h"
+
+namespace frmeditor_pagina_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -287,5 +290,8 @@ class TestPagina : public QObject {
     }
 };
 
-QTEST_MAIN(TestPagina)
+TEST_CLASS(TestPagina);
+
+}  // namespace frmeditor_pagina_test
+
 #include "frmeditor_pagina_test.moc"

@@ -6,7 +6,10 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/message/CopiaRecupero.h"
 #include "modules/message/MessaggiNoti.h"
+#include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_recupero_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -323,5 +326,8 @@ class TestRecupero : public QObject {
     }
 };
 
-QTEST_MAIN(TestRecupero)
+TEST_CLASS(TestRecupero);
+
+}  // namespace frmeditor_recupero_test
+
 #include "frmeditor_recupero_test.moc"

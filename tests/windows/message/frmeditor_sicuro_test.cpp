@@ -8,7 +8,10 @@
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/RemoteMessage.h"
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_sicuro_test {
 
 using namespace testing_support;
 
@@ -324,5 +327,8 @@ class TestSicuro : public QObject {
     }
 };
 
-QTEST_MAIN(TestSicuro)
+TEST_CLASS(TestSicuro);
+
+}  // namespace frmeditor_sicuro_test
+
 #include "frmeditor_sicuro_test.moc"

@@ -3,7 +3,10 @@
 #include <csignal>
 
 #include "platform/html/ViewFixture.h"
+#include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_stallo_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -146,5 +149,8 @@ class TestStallo : public QObject {
     }
 };
 
-QTEST_MAIN(TestStallo)
+TEST_CLASS(TestStallo);
+
+}  // namespace frmeditor_stallo_test
+
 #include "frmeditor_stallo_test.moc"

@@ -8,8 +8,11 @@
 #include <QTreeWidget>
 
 #include "platform/ui/ColorHexagon.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
+
+namespace frmeditor_stato_test {
 
 using namespace testing_support;
 
@@ -357,5 +360,8 @@ class TestStato : public QObject {
     }
 };
 
-QTEST_MAIN(TestStato)
+TEST_CLASS(TestStato);
+
+}  // namespace frmeditor_stato_test
+
 #include "frmeditor_stato_test.moc"

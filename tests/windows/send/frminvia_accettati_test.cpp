@@ -14,7 +14,10 @@
 #include "platform/mail/RunLock.h"
 #include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/send/Accettati_avviso.h"
+
+namespace frminvia_accettati_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -304,5 +307,8 @@ class TestFrmInviaAccettati : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaAccettati)
+TEST_CLASS(TestFrmInviaAccettati);
+
+}  // namespace frminvia_accettati_test
+
 #include "frminvia_accettati_test.moc"

@@ -6,6 +6,9 @@
 #include "support/NameServer.h"
 #include "support/PrivateNetwork.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_diretto_test {
 
 using namespace testing_support;
 
@@ -191,5 +194,8 @@ class TestFrmInviaDiretto : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaDiretto)
+TEST_CLASS(TestFrmInviaDiretto);
+
+}  // namespace frminvia_diretto_test
+
 #include "frminvia_diretto_test.moc"

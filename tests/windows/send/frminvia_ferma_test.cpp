@@ -1,5 +1,8 @@
 // A stop in each state of a run, and what may happen before the tick that it leaves pending.
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_ferma_test {
 
 using namespace testing_support;
 
@@ -182,5 +185,8 @@ class TestFrmInviaFerma : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaFerma)
+TEST_CLASS(TestFrmInviaFerma);
+
+}  // namespace frminvia_ferma_test
+
 #include "frminvia_ferma_test.moc"

@@ -5,6 +5,9 @@
 #include "modules/message/MessaggioMss.h"
 #include "platform/mail/compose_support.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_file_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -271,5 +274,8 @@ class TestFrmInviaFile : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaFile)
+TEST_CLASS(TestFrmInviaFile);
+
+}  // namespace frminvia_file_test
+
 #include "frminvia_file_test.moc"

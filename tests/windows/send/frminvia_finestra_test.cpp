@@ -5,7 +5,10 @@
 
 #include "platform/ui/Announcer.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/core/bTheme.h"
+
+namespace frminvia_finestra_test {
 
 using namespace testing_support;
 
@@ -143,5 +146,8 @@ class TestFrmInviaFinestra : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaFinestra)
+TEST_CLASS(TestFrmInviaFinestra);
+
+}  // namespace frminvia_finestra_test
+
 #include "frminvia_finestra_test.moc"

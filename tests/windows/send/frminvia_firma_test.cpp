@@ -4,6 +4,9 @@
 #include "platform/mail/dkim_support.h"
 #include "platform/ui/MessageDialog.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_firma_test {
 
 using namespace testing_support;
 
@@ -57,5 +60,8 @@ class TestFrmInviaFirma : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaFirma)
+TEST_CLASS(TestFrmInviaFirma);
+
+}  // namespace frminvia_firma_test
+
 #include "frminvia_firma_test.moc"

@@ -11,6 +11,9 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/send/bMXQuery.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_giro_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -431,5 +434,8 @@ class TestFrmInviaGiro : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaGiro)
+TEST_CLASS(TestFrmInviaGiro);
+
+}  // namespace frminvia_giro_test
+
 #include "frminvia_giro_test.moc"

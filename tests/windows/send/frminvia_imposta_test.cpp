@@ -8,6 +8,9 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/lang/bVAR.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_imposta_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -511,5 +514,8 @@ class TestFrmInviaImposta : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaImposta)
+TEST_CLASS(TestFrmInviaImposta);
+
+}  // namespace frminvia_imposta_test
+
 #include "frminvia_imposta_test.moc"

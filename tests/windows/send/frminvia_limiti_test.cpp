@@ -7,6 +7,9 @@
 #include "modules/lang/bVAR.h"
 #include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_limiti_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -285,5 +288,8 @@ class TestFrmInviaLimiti : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaLimiti)
+TEST_CLASS(TestFrmInviaLimiti);
+
+}  // namespace frminvia_limiti_test
+
 #include "frminvia_limiti_test.moc"

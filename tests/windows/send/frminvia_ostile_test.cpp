@@ -9,6 +9,9 @@
 #include "support/FullPort.h"
 #include "support/ScriptedServer.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_ostile_test {
 
 using namespace testing_support;
 
@@ -240,5 +243,8 @@ class TestFrmInviaOstile : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaOstile)
+TEST_CLASS(TestFrmInviaOstile);
+
+}  // namespace frminvia_ostile_test
+
 #include "frminvia_ostile_test.moc"

@@ -7,6 +7,9 @@
 #include "platform/ado/Command.h"
 #include "platform/system/Clock.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_righe_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -185,5 +188,8 @@ class TestFrmInviaRighe : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaRighe)
+TEST_CLASS(TestFrmInviaRighe);
+
+}  // namespace frminvia_righe_test
+
 #include "frminvia_righe_test.moc"

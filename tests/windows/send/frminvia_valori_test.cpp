@@ -5,6 +5,9 @@
 #include "platform/mail/compose_support.h"
 #include "platform/mail/wire_reader.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
+
+namespace frminvia_valori_test {
 
 using namespace testing_support;
 
@@ -210,5 +213,8 @@ class TestFrmInviaValori : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmInviaValori)
+TEST_CLASS(TestFrmInviaValori);
+
+}  // namespace frminvia_valori_test
+
 #include "frminvia_valori_test.moc"

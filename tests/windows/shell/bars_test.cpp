@@ -10,8 +10,11 @@
 #include "platform/system/Clock.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/DockPanes.h"
+#include "support/TestClass.h"
 #include "windows/core/bTheme.h"
 #include "windows/shell/shell_support.h"
+
+namespace bars_test {
 
 using namespace testing_support;
 
@@ -346,11 +349,8 @@ class TestBars : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestBars test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestBars, ui::setUpDesktop);
+
+}  // namespace bars_test
 
 #include "bars_test.moc"

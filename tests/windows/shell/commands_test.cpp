@@ -4,9 +4,12 @@
 #include <QTimer>
 
 #include "platform/system/ProgramFolder.h"
+#include "support/TestClass.h"
 #include "windows/send/frmInvia.h"
 #include "windows/shell/frmInfoSu.h"
 #include "windows/shell/shell_support.h"
+
+namespace commands_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -268,5 +271,8 @@ class TestCommands : public QObject {
     }
 };
 
-QTEST_MAIN(TestCommands)
+TEST_CLASS(TestCommands);
+
+}  // namespace commands_test
+
 #include "commands_test.moc"

@@ -4,7 +4,10 @@
 
 #include "modules/store/NuovoDatabase.h"
 #include "platform/jet/Database.h"
+#include "support/TestClass.h"
 #include "windows/shell/shell_support.h"
+
+namespace database_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -296,5 +299,8 @@ class TestDatabase : public QObject {
     }
 };
 
-QTEST_MAIN(TestDatabase)
+TEST_CLASS(TestDatabase);
+
+}  // namespace database_test
+
 #include "database_test.moc"

@@ -2,7 +2,10 @@
 #include <QDir>
 
 #include "modules/send/Accettati.h"
+#include "support/TestClass.h"
 #include "windows/shell/shell_support.h"
+
+namespace end_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -64,5 +67,8 @@ class TestEnd : public QObject {
     }
 };
 
-QTEST_MAIN(TestEnd)
+TEST_CLASS(TestEnd);
+
+}  // namespace end_test
+
 #include "end_test.moc"

@@ -3,8 +3,11 @@
 #include <QTimer>
 
 #include "platform/ui/LinkLabel.h"
+#include "support/TestClass.h"
 #include "windows/shell/frmInfoSu.h"
 #include "windows/shell/shell_support.h"
+
+namespace infosu_test {
 
 using namespace testing_support;
 
@@ -158,5 +161,8 @@ class TestInfoSu : public QObject {
     }
 };
 
-QTEST_MAIN(TestInfoSu)
+TEST_CLASS(TestInfoSu);
+
+}  // namespace infosu_test
+
 #include "infosu_test.moc"

@@ -3,7 +3,10 @@
 #include <QToolButton>
 
 #include "platform/ui/Desktop.h"
+#include "support/TestClass.h"
 #include "windows/shell/shell_support.h"
+
+namespace keys_test {
 
 using namespace testing_support;
 
@@ -151,11 +154,8 @@ class TestKeys : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestKeys test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestKeys, ui::setUpDesktop);
+
+}  // namespace keys_test
 
 #include "keys_test.moc"

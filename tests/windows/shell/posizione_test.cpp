@@ -1,7 +1,10 @@
 #include <QDir>
 
+#include "support/TestClass.h"
 #include "windows/entry/Posizione.h"
 #include "windows/shell/shell_support.h"
+
+namespace posizione_test {
 
 using namespace testing_support;
 
@@ -294,5 +297,8 @@ class TestPosizione : public QObject {
     }
 };
 
-QTEST_MAIN(TestPosizione)
+TEST_CLASS(TestPosizione);
+
+}  // namespace posizione_test
+
 #include "posizione_test.moc"

@@ -1,5 +1,6 @@
 // The new start after a failure, and the end that the system asks for.
 #include "windows/entry/Riavvio.h"
+#include "support/TestClass.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -14,6 +15,8 @@
 #include "windows/entry/bMain.h"
 #include "windows/entry/FineSessione.h"
 #include "windows/shell/shell_support.h"
+
+namespace riavvio_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -260,5 +263,8 @@ class TestRiavvio : public QObject {
     }
 };
 
-QTEST_MAIN(TestRiavvio)
+TEST_CLASS(TestRiavvio);
+
+}  // namespace riavvio_test
+
 #include "riavvio_test.moc"

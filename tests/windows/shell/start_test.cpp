@@ -15,10 +15,13 @@
 #include "platform/system/ProgramFolder.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/Unattended.h"
+#include "support/TestClass.h"
 #include "windows/core/CentraForm.h"
 #include "windows/entry/bMain.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/shell/shell_support.h"
+
+namespace start_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -458,5 +461,8 @@ class TestStart : public QObject {
     }
 };
 
-QTEST_MAIN(TestStart)
+TEST_CLASS(TestStart);
+
+}  // namespace start_test
+
 #include "start_test.moc"

@@ -10,8 +10,11 @@
 #include "modules/lang/bVAR.h"
 #include "modules/send/Accettati.h"
 #include "platform/ui/PropertyList.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/griglia_stage.h"
+
+namespace destinatario_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -537,5 +540,8 @@ class TestDestinatario : public QObject {
     }
 };
 
-QTEST_MAIN(TestDestinatario)
+TEST_CLASS(TestDestinatario);
+
+}  // namespace destinatario_test
+
 #include "destinatario_test.moc"

@@ -12,7 +12,10 @@
 #include "modules/lang/bVAR.h"
 #include "platform/ui/PropertyList.h"
 #include "support/LookCheck.h"
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace griglia_aspetto_test {
 
 using namespace testing_support;
 
@@ -212,5 +215,8 @@ class TestAspetto : public QObject {
     }
 };
 
-QTEST_MAIN(TestAspetto)
+TEST_CLASS(TestAspetto);
+
+}  // namespace griglia_aspetto_test
+
 #include "griglia_aspetto_test.moc"

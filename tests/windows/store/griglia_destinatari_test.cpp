@@ -3,7 +3,10 @@
 #include <QLineEdit>
 
 #include "platform/ui/PropertyList.h"
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace griglia_destinatari_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -137,5 +140,8 @@ class TestGrigliaDestinatari : public QObject {
     }
 };
 
-QTEST_MAIN(TestGrigliaDestinatari)
+TEST_CLASS(TestGrigliaDestinatari);
+
+}  // namespace griglia_destinatari_test
+
 #include "griglia_destinatari_test.moc"

@@ -9,10 +9,13 @@
 #include "modules/lang/bVAR.h"
 #include "modules/send/Accettati.h"
 #include "support/SmtpSink.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/send/frmInvia.h"
 #include "windows/store/griglia.h"
 #include "windows/store/griglia_stage.h"
+
+namespace griglia_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -351,5 +354,8 @@ class TestGriglia : public QObject {
     }
 };
 
-QTEST_MAIN(TestGriglia)
+TEST_CLASS(TestGriglia);
+
+}  // namespace griglia_test
+
 #include "griglia_test.moc"

@@ -1,7 +1,10 @@
 // The tree: how it is built, what a click does, labels and pop-up menus.
 #include <QLineEdit>
 
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace gruppi_albero_test {
 
 using namespace testing_support;
 
@@ -261,5 +264,8 @@ class TestGruppiAlbero : public QObject {
     }
 };
 
-QTEST_MAIN(TestGruppiAlbero)
+TEST_CLASS(TestGruppiAlbero);
+
+}  // namespace gruppi_albero_test
+
 #include "gruppi_albero_test.moc"

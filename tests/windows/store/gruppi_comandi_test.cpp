@@ -7,7 +7,10 @@
 
 #include "modules/send/Accettati.h"
 #include "platform/ui/Unattended.h"
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace gruppi_comandi_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -390,5 +393,8 @@ class TestGruppiComandi : public QObject {
     }
 };
 
-QTEST_MAIN(TestGruppiComandi)
+TEST_CLASS(TestGruppiComandi);
+
+}  // namespace gruppi_comandi_test
+
 #include "gruppi_comandi_test.moc"

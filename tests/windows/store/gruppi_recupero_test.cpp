@@ -5,9 +5,12 @@
 #include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
+#include "support/TestClass.h"
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/griglia_stage.h"
+
+namespace gruppi_recupero_test {
 
 using namespace testing_support;
 using ui::FileDialog;
@@ -162,5 +165,8 @@ class TestGruppiRecupero : public QObject {
     }
 };
 
-QTEST_MAIN(TestGruppiRecupero)
+TEST_CLASS(TestGruppiRecupero);
+
+}  // namespace gruppi_recupero_test
+
 #include "gruppi_recupero_test.moc"

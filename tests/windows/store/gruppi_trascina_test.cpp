@@ -1,5 +1,8 @@
 // Drag and drop: recipients and groups onto the tree.
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace gruppi_trascina_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -341,5 +344,8 @@ class TestGruppiTrascina : public QObject {
     }
 };
 
-QTEST_MAIN(TestGruppiTrascina)
+TEST_CLASS(TestGruppiTrascina);
+
+}  // namespace gruppi_trascina_test
+
 #include "gruppi_trascina_test.moc"

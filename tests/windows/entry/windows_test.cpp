@@ -14,6 +14,7 @@
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
 #include "support/LookCheck.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/core/bTheme.h"
 #include "windows/entry/Finestre.h"
@@ -27,6 +28,8 @@
 #include "windows/shell/frmInfoSu.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/griglia_stage.h"
+
+namespace windows_test {
 
 using namespace testing_support;
 
@@ -210,5 +213,8 @@ class TestWindows : public QObject {
     }
 };
 
-QTEST_MAIN(TestWindows)
-#include "test_gui_windows.moc"
+TEST_CLASS(TestWindows);
+
+}  // namespace windows_test
+
+#include "windows_test.moc"

@@ -4,8 +4,11 @@
 #include "modules/accounts/bBinary.h"
 #include "platform/ui/CommandBars.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/shell/frmMain.h"
+
+namespace main_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -78,5 +81,8 @@ class TestMain : public QObject {
     }
 };
 
-QTEST_MAIN(TestMain)
-#include "test_gui_main.moc"
+TEST_CLASS(TestMain);
+
+}  // namespace main_test
+
+#include "main_test.moc"

@@ -23,6 +23,9 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "platform/ui/Unattended.h"
+#include "support/TestClass.h"
+
+namespace desktop_test {
 
 using ui::FileDialog;
 using ui::MessageDialog;
@@ -347,11 +350,8 @@ class TestUi : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    ui::setUpDesktop(application);
-    TestUi test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestUi, ui::setUpDesktop);
 
-#include "test_ui.moc"
+}  // namespace desktop_test
+
+#include "desktop_test.moc"

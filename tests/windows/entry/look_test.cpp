@@ -7,10 +7,14 @@
 #include "modules/core/Prodotto.h"
 #include "modules/lang/bVAR.h"
 #include "platform/ui/Desktop.h"
+#include "support/AsInTheProgram.h"
 #include "support/LookCheck.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/shell/frmMain.h"
+
+namespace look_test {
 
 using namespace testing_support;
 
@@ -157,12 +161,8 @@ class TestLook : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(prodotto::nome());
-    ui::setUpDesktop(application);
-    TestLook test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS_WITH(TestLook, asInTheProgram);
 
-#include "test_gui_look.moc"
+}  // namespace look_test
+
+#include "look_test.moc"

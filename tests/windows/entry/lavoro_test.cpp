@@ -4,9 +4,12 @@
 #include <QTimer>
 
 #include "platform/jet/OsFile.h"
+#include "support/TestClass.h"
 #include "windows/core/Evento.h"
 #include "windows/import/contatti_stage.h"
 #include "windows/import/imptxt_stage.h"
+
+namespace lavoro_test {
 
 using namespace testing_support;
 using ui::MessageDialog;
@@ -242,5 +245,8 @@ class TestLavoro : public QObject {
     }
 };
 
-QTEST_MAIN(TestLavoro)
-#include "test_gui_lavoro.moc"
+TEST_CLASS(TestLavoro);
+
+}  // namespace lavoro_test
+
+#include "lavoro_test.moc"

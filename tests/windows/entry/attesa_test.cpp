@@ -12,7 +12,10 @@
 #include "platform/ui/DatabaseWait.h"
 #include "support/LockedFile.h"
 #include "support/SendStage.h"
+#include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
+
+namespace attesa_test {
 
 using namespace testing_support;
 using std::chrono::milliseconds;
@@ -268,5 +271,8 @@ class TestAttesa : public QObject {
     }
 };
 
-QTEST_MAIN(TestAttesa)
-#include "test_gui_attesa.moc"
+TEST_CLASS(TestAttesa);
+
+}  // namespace attesa_test
+
+#include "attesa_test.moc"

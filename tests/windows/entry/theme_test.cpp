@@ -5,7 +5,10 @@
 #include "modules/core/bGlobal.h"
 #include "platform/ui/Contrast.h"
 #include "support/ColorContrast.h"
+#include "support/TestClass.h"
 #include "windows/core/bTheme.h"
+
+namespace theme_test {
 
 using testing_support::contrast;
 
@@ -138,5 +141,8 @@ class TestTheme : public QObject {
     }
 };
 
-QTEST_MAIN(TestTheme)
-#include "test_gui_theme.moc"
+TEST_CLASS(TestTheme);
+
+}  // namespace theme_test
+
+#include "theme_test.moc"

@@ -9,7 +9,10 @@
 #include "platform/text/TextFile.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/Unattended.h"
+#include "support/TestClass.h"
 #include "windows/core/Evento.h"
+
+namespace evento_test {
 
 using ui::MessageDialog;
 
@@ -193,5 +196,8 @@ class TestEvento : public QObject {
     }
 };
 
-QTEST_MAIN(TestEvento)
-#include "test_gui_evento.moc"
+TEST_CLASS(TestEvento);
+
+}  // namespace evento_test
+
+#include "evento_test.moc"
