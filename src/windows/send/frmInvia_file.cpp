@@ -43,7 +43,7 @@ QStringList Riga(const FileInPartenza& file) {
 }
 
 ui::ListQuestion::Content Domanda(QList<FileInPartenza> file) {
-    std::ranges::stable_partition(file, &FileInPartenza::riposto);
+    std::stable_partition(file.begin(), file.end(), [](const FileInPartenza& uno) { return uno.riposto; });
     ui::ListQuestion::Content domanda{bVAR::Attenzione, {}, {"File", "Dimensione", "Tipo", "Nota"}, {}, {}};
     for (const FileInPartenza& uno : file)
         domanda.rows << Riga(uno);
