@@ -23,9 +23,10 @@ class Window:
     """One window of the program, by the role and the start of the name that it has."""
 
     def __init__(self, role, name, active=True):
-        self.frame = wait_for(lambda: self._shown(role, name), f"the window {name!r}")
+        # Looked for anew each time: what was found first may belong to a program that has just ended.
+        wait_for(lambda: self._shown(role, name, active=False), f"the window {name!r}")
+        self.frame = wait_for(lambda: self._shown(role, name, active), f"{name!r} to be the active window")
         # The window manager may still move it.
-        wait_for(lambda: has(self.frame, pyatspi.STATE_ACTIVE) or not active, f"{name!r} to be the active window")
         wait_for(self._stands_still, f"{name!r} to stand still")
 
     def _stands_still(self):
@@ -34,13 +35,18 @@ class Window:
         return extents(self.frame) == before
 
     @staticmethod
-    def _shown(role, name):
+    def _shown(role, name, active):
+        def wanted(window):
+            return (window and window.getRoleName() == role and window.name.strip().startswith(name) and is_shown(window)
+                    and (has(window, pyatspi.STATE_ACTIVE) or not active))
+
         for application in pyatspi.Registry.getDesktop(0):
-            if application is None or application.name != "Vestrola":
-                continue
-            for window in application:
-                if window and window.getRoleName() == role and window.name.strip().startswith(name) and is_shown(window):
-                    return window
+            try:
+                found = application is not None and application.name == "Vestrola" and next(filter(wanted, application), None)
+            except GLib.GError:
+                continue  # it has ended, or is too busy to answer
+            if found:
+                return found
         return None
 
     def find(self, role, name):

@@ -149,5 +149,9 @@ void frmEditor::closeEvent(QCloseEvent* chiusura) {
 
 void frmEditor::hideEvent(QHideEvent* nascosta) {
     QMainWindow::hideEvent(nascosta);
-    if (attesa && !nascosta->spontaneous()) attesa->quit();
+    if (nascosta->spontaneous()) return;
+    // Left to itself the desktop may give the keyboard to nobody, when a question over the editor closed just
+    // before it.
+    if (parentWidget()) parentWidget()->activateWindow();
+    if (attesa) attesa->quit();
 }
