@@ -10,6 +10,9 @@ set(VESTROLA_TESTS_TOGETHER 60000)
 # The sanitizers find faults of the browser's own, which are none of ours.
 set(VESTROLA_SANITIZER_ENVIRONMENT
     "ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
+# What GLib keeps is known by the whole way to it, through code without frame pointers.
+set(VESTROLA_KEYRING_ENVIRONMENT
+    "ASAN_OPTIONS=new_delete_type_mismatch=0:fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
 set(VESTROLA_WINDOW_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;${VESTROLA_SANITIZER_ENVIRONMENT}")
 
