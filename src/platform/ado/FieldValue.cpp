@@ -13,12 +13,12 @@ namespace {
 
 using jet::Type;
 
-Status mismatch(const jet::Column& column) {
+Status mismatchOf(const jet::Column& column) {
     return {ErrorCode::TypeMismatch, QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".")
                                          .arg(QString::fromStdString(column.name))};
 }
 
-Status overflow(const jet::Column& column) {
+Status overflowOf(const jet::Column& column) {
     return {
         ErrorCode::Overflow,
         QStringLiteral("Valore troppo grande per il campo \"%1\".").arg(QString::fromStdString(column.name))};
@@ -27,8 +27,8 @@ Status overflow(const jet::Column& column) {
 Result<jet::Value> fitInteger(const Value& value, const jet::Column& column) {
     const Result<qint64> number = value.toInteger();
     if (!number.ok())
-        return number.status().code() == ErrorCode::Overflow ? overflow(column) : mismatch(column);
-    if (!jet::wholeRange(column.type).contains(number.value())) return overflow(column);
+        return number.status().code() == ErrorCode::Overflow ? overflowOf(column) : mismatchOf(column);
+    if (!jet::wholeRange(column.type).contains(number.value())) return overflowOf(column);
     return jet::Value(static_cast<int64_t>(number.value()));
 }
 
@@ -47,7 +47,7 @@ std::optional<double> realOf(const jet::Value& value) {
 /// All digits of a number, as it stands or as users of the current locale write it.
 Result<jet::Value> fitNumeric(const jet::Value& value, const jet::Column& column) {
     const std::optional<double> number = realOf(value);
-    if (!number) return mismatch(column);
+    if (!number) return mismatchOf(column);
     std::string plain = plainDecimal(*number);
     if (const auto* decimal = std::get_if<jet::Decimal>(&value)) plain = decimal->text;
     if (const auto* whole = std::get_if<int64_t>(&value)) plain = std::to_string(*whole);
@@ -58,7 +58,7 @@ Result<jet::Value> fitNumeric(const jet::Value& value, const jet::Column& column
         if (isPlain && written.count(u'.') <= 1) plain = written.toStdString();
     }
     auto bytes = numericBytes(plain, column);
-    return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : overflow(column);
+    return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : overflowOf(column);
 }
 
 std::optional<double> daysOf(const jet::Value& value) {
@@ -70,9 +70,9 @@ std::optional<double> daysOf(const jet::Value& value) {
 Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& column) {
     if (std::holds_alternative<jet::Currency>(value)) return value;
     const std::optional<double> number = realOf(value);
-    if (!number) return mismatch(column);
+    if (!number) return mismatchOf(column);
     const double scaled = std::nearbyint(*number * 10000);
-    if (!(std::fabs(scaled) < 9.2e18)) return overflow(column);
+    if (!(std::fabs(scaled) < 9.2e18)) return overflowOf(column);
     return jet::Value(jet::Currency{static_cast<int64_t>(scaled)});
 }
 
@@ -84,7 +84,7 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
     switch (column.type) {
         case Type::YesNo: {
             const Result<bool> yes = Value(std::move(raw)).toBool();
-            return yes.ok() ? Result<jet::Value>(jet::Value(yes.value())) : mismatch(column);
+            return yes.ok() ? Result<jet::Value>(jet::Value(yes.value())) : mismatchOf(column);
         }
         case Type::Byte:
         case Type::Integer:
@@ -95,22 +95,23 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
         case Type::Single:
         case Type::Double: {
             const std::optional<double> number = realOf(raw);
-            return number ? Result<jet::Value>(jet::Value(*number)) : mismatch(column);
+            return number ? Result<jet::Value>(jet::Value(*number)) : mismatchOf(column);
         }
         case Type::Date: {
             const std::optional<double> days = daysOf(raw);
-            return days ? Result<jet::Value>(jet::Value(jet::Date{*days})) : mismatch(column);
+            return days ? Result<jet::Value>(jet::Value(jet::Date{*days})) : mismatchOf(column);
         }
         case Type::Text:
         case Type::Memo: {
             if (std::holds_alternative<std::string>(raw)) return raw;
             const Result<QString> text = Value(std::move(raw)).toText(QLocale::c());
-            return text.ok() ? Result<jet::Value>(jet::Value(text.value().toStdString())) : mismatch(column);
+            return text.ok() ? Result<jet::Value>(jet::Value(text.value().toStdString()))
+                             : mismatchOf(column);
         }
         case Type::Guid:
             if (const auto* text = std::get_if<std::string>(&raw)) {
                 auto bytes = guidBytes(*text);
-                return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : mismatch(column);
+                return bytes ? Result<jet::Value>(jet::Value(std::move(*bytes))) : mismatchOf(column);
             }
             break;
         case Type::Numeric:
@@ -119,7 +120,7 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
         default:
             break;
     }
-    return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(std::move(raw)) : mismatch(column);
+    return std::holds_alternative<jet::Bytes>(raw) ? Result<jet::Value>(std::move(raw)) : mismatchOf(column);
 }
 
 }  // namespace ado

@@ -12,12 +12,12 @@ namespace {
 constexpr qsizetype maximumLabel = 63;
 constexpr qsizetype maximumName = 253;
 
-bool isDigit(char c) {
+bool isDecimal(char c) {
     return c >= '0' && c <= '9';
 }
 
 bool isLetterOrDigit(char c) {
-    return isDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return isDecimal(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 bool isLabel(const QByteArray& label) {
@@ -28,7 +28,7 @@ bool isLabel(const QByteArray& label) {
 
 // No top-level domain is one, but the system's resolver reads such a name as an address (RFC 3696 2)
 bool isNumber(const QByteArray& label) {
-    return std::all_of(label.begin(), label.end(), isDigit) || label.startsWith("0x") ||
+    return std::all_of(label.begin(), label.end(), isDecimal) || label.startsWith("0x") ||
            label.startsWith("0X");
 }
 

@@ -140,7 +140,7 @@ Status frmEditor::MostraBody(int scheda) {
     if (!corpo.ok()) return corpo.status();
     if (scheda == Anteprima) {
         // An answer that does not come is no reason to stay; a body that grew too large to be shown is.
-        const Status mostrato = WEB->setDocumentHTML(corpo.value());
+        Status mostrato = WEB->setDocumentHTML(corpo.value());
         if (mostrato.code() == ErrorCode::Overflow) return mostrato;
     }
     ScriviOrigine(corpo.value());
