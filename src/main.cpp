@@ -10,8 +10,8 @@
 #include "windows/entry/Riavvio.h"
 
 int main(int argc, char** argv) {
+    QApplication::setApplicationName(prodotto::nome());  // known to whoever asks the application for it
     QApplication programma(argc, argv);
-    QApplication::setApplicationName(prodotto::nome());
     ui::setUpDesktop(programma);
     sys::programFolder();  // made, or mended, before anything is read from it
     riavvio::Raccogli();
