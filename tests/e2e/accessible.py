@@ -42,7 +42,10 @@ class Window:
 
         for application in pyatspi.Registry.getDesktop(0):
             try:
-                found = application is not None and application.name == "Vestrola" and next(filter(wanted, application), None)
+                if application is None:
+                    continue
+                application.clear_cache()  # a program that was starting may have answered before it knew its name
+                found = application.name == "Vestrola" and next(filter(wanted, application), None)
             except GLib.GError:
                 continue  # it has ended, or is too busy to answer
             if found:
