@@ -1,10 +1,12 @@
 #include "platform/ui/ListQuestion.h"
 
+#include <algorithm>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -52,7 +54,10 @@ ListQuestion::ListQuestion(QWidget* parent, const Content& content) : QDialog(pa
     }
     area->addWidget(buttons);
     no->setFocus();
-    resize(640, 340);
+    // Wide enough for whole paths, as far as the screen goes.
+    const int frame = list->frameWidth() * 2 + windowMargin * 2;
+    const int widest = screen()->availableGeometry().width() * 9 / 10;
+    resize(std::max(640, std::min(list->header()->length() + frame, widest)), 340);
 }
 
 bool ListQuestion::remembers() const {
