@@ -12,7 +12,7 @@ using Program = NameServer::Program;
 
 namespace {
 
-const bool isolated = testing_support::enterPrivateNetwork();
+const bool isolated = testing_support::enterPrivateNetwork(__FILE__);
 
 NameServer::Records records() {
     NameServer::Records all{

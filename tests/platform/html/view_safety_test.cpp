@@ -18,7 +18,7 @@ using namespace testing_support;
 
 namespace {
 
-const bool isolated = enterPrivateNetwork() && replaceResolverConfiguration("nameserver 127.0.0.1\n");
+const bool isolated = enterPrivateNetwork(__FILE__) && replaceResolverConfiguration("nameserver 127.0.0.1\n");
 
 // In every way in which a page has names looked up without asking for anything there
 const char* const namesPage =

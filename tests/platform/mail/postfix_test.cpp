@@ -18,7 +18,7 @@ using testing_support::TestCertificates;
 namespace {
 
 constexpr quint16 relayPort = 2500;
-const bool isolated = testing_support::enterPrivateNetwork();
+const bool isolated = testing_support::enterPrivateNetwork(__FILE__);
 
 class RealServer : public testing::Test {
   protected:

@@ -18,7 +18,7 @@ using testing_support::TlsIdentity;
 
 namespace {
 
-const bool isolated = testing_support::enterPrivateNetwork();
+const bool isolated = testing_support::enterPrivateNetwork(__FILE__);
 const QString name = QStringLiteral("posta.example");
 
 const QByteArrayList quit{"C: QUIT", "S: 221 bye"};

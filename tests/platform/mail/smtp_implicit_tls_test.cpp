@@ -10,7 +10,7 @@ using testing_support::TestCertificates;
 namespace {
 
 constexpr quint16 implicitTls = 465;
-const bool isolated = testing_support::enterPrivateNetwork();
+const bool isolated = testing_support::enterPrivateNetwork(__FILE__);
 
 class ImplicitTls : public testing::Test {
   protected:

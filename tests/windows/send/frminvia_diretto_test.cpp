@@ -14,7 +14,7 @@ using namespace testing_support;
 
 namespace {
 
-const bool isolated = enterPrivateNetwork();
+const bool isolated = enterPrivateNetwork(__FILE__);
 
 // A documentation address (RFC 5737), which no network closes off.
 const char* const publicAddress = "203.0.113.25";
