@@ -8,6 +8,7 @@
 #include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstring>
@@ -35,6 +36,20 @@ bool isRun(const char* source) {
     return words.value(1).isEmpty() || words[1] == QFileInfo(QFile::decodeName(source)).baseName().toUtf8();
 }
 
+/// With mounts that the rest of the system does not see.
+bool leaveWorld() {
+    return ::unshare(CLONE_NEWNET | CLONE_NEWNS) == 0 &&
+           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+/// Tried by a child, since there is no way back for a process that got half of the way, as in a chroot.
+bool superuserMayEnter() {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(leaveWorld() ? 0 : 1);
+    int state = 0;
+    return child > 0 && ::waitpid(child, &state, 0) == child && WIFEXITED(state) && WEXITSTATUS(state) == 0;
+}
+
 bool raiseLoopback() {
     const int any = ::socket(AF_INET, SOCK_DGRAM, 0);
     ifreq request{};
@@ -49,8 +64,7 @@ bool raiseLoopback() {
 
 bool enterPrivateNetwork(const char* source) {
     if (!isRun(source)) return false;
-    if (::unshare(CLONE_NEWNET | CLONE_NEWNS) == 0)
-        return raiseLoopback() && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+    if (superuserMayEnter()) return leaveWorld() && raiseLoopback();
     const std::string user = std::to_string(::getuid()), group = std::to_string(::getgid());
     if (::unshare(CLONE_NEWUSER | CLONE_NEWNET | CLONE_NEWNS) != 0) return false;
     return write("/proc/self/setgroups", "deny") && write("/proc/self/uid_map", "0 " + user + " 1") &&
