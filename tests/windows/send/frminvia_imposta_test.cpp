@@ -1,4 +1,5 @@
 // The set-up of a run: the window's lists, the choice of the message, the checks and what a start prepares.
+// Above 500 lines: one click in its told order, whose steps are read beside each other.
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
