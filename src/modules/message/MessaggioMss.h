@@ -44,7 +44,7 @@ struct AllegatoMss {
 };
 
 /// The reader of the editor and of the send set-up. The steps are called once each in the order in which they
-/// stand, the attachments until there is no more. It passes over every failure: a line that cannot be read
+/// stand, the attachments until there is no more. It ignores every failure: a line that cannot be read
 /// counts as the one before (as empty, if it is the first), a file that cannot be opened as one without
 /// lines, and a file that ends early ends the attachments and the body with what there was.
 class LettoreMss {

@@ -11,7 +11,7 @@ namespace sys {
 
 enum class WriteMode {
     Output,  ///< starts with an empty file
-    Append,  ///< goes on behind what is there
+    Append,  ///< keeps what is there and appends
 };
 
 /// What a file is for: decides who may read it where it is made, and what is refused where it is there.
