@@ -18,7 +18,8 @@ class ScriptedMail:
         self.messages = []  # recipient and message, in the order of arrival
         self.listener = socket.create_server(("127.0.0.1", 0), backlog=50)
         self.port = self.listener.getsockname()[1]
-        threading.Thread(target=self._accept, daemon=True).start()
+        self.accepting = threading.Thread(target=self._accept, daemon=True)
+        self.accepting.start()
 
     def _accept(self):
         while True:
@@ -104,4 +105,8 @@ class ScriptedMail:
                 if recipient in names and names[recipient].encode() not in message]
 
     def close(self):
+        # The thread has to be out of accept() first: the descriptor's number goes to the next server, and a call that the
+        # kernel restarts takes that server's connections.
+        self.listener.shutdown(socket.SHUT_RDWR)
+        self.accepting.join()
         self.listener.close()
