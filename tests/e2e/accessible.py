@@ -8,15 +8,28 @@ import desktop
 from desktop import fail
 
 
-def wait_for(condition, what):
+def wait_for(condition, what, instead=None):
     """The first true value of `condition`, which may look at what is about to come or to go: a window that closes
-    meanwhile, or a program that is too busy to answer, is looked at again."""
+    meanwhile, or a program that is too busy to answer, is looked at again. `instead` says what is there if it never comes."""
     def answered():
         try:
             return condition()
         except GLib.GError:
             return None
-    return desktop.wait_for(answered, what)
+    return desktop.wait_for(answered, what, instead)
+
+
+def shown_windows():
+    """Every window that the registry knows, for the report of a failure."""
+    told = []
+    for application in pyatspi.Registry.getDesktop(0):
+        try:
+            windows = [f"{one.getRoleName()} {one.name!r}{'' if is_shown(one) else ' (hidden)'}"
+                       f"{' (active)' if has(one, pyatspi.STATE_ACTIVE) else ''}" for one in application if one]
+            told.append(f"{application.name!r}: {', '.join(windows) or 'no window'}")
+        except (AttributeError, GLib.GError) as error:
+            told.append(f"no answer ({error})")
+    return "; ".join(told) or "no application"
 
 
 class Window:
@@ -24,8 +37,8 @@ class Window:
 
     def __init__(self, role, name, active=True):
         # Looked for anew each time: what was found first may belong to a program that has just ended.
-        wait_for(lambda: self._shown(role, name, active=False), f"the window {name!r}")
-        self.frame = wait_for(lambda: self._shown(role, name, active), f"{name!r} to be the active window")
+        wait_for(lambda: self._shown(role, name, active=False), f"the window {name!r}", shown_windows)
+        self.frame = wait_for(lambda: self._shown(role, name, active), f"{name!r} to be the active window", shown_windows)
         # The window manager may still move it.
         wait_for(self._stands_still, f"{name!r} to stand still")
 

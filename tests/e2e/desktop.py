@@ -74,15 +74,15 @@ def fail(text):
     raise SystemExit(f"FAILED: {text}")
 
 
-def wait_for(condition, what):
-    """The first true value of `condition`."""
+def wait_for(condition, what, instead=None):
+    """The first true value of `condition`; `instead` says what is there if it never comes."""
     end = time.monotonic() + PATIENCE
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > end:
-            fail(f"waited {PATIENCE} s for {what}")
+            fail(f"waited {PATIENCE} s for {what}" + (f"; there is {instead()}" if instead else ""))
         time.sleep(0.05)
 
 
