@@ -141,11 +141,15 @@ Command* CommandBars::makeCommand(const CommandDesign& design) {
 }
 
 void CommandBars::addCommand(const CommandDesign& design) {
+    addCommand(design, [this, name = design.name] { Q_EMIT commandStarted(name); });
+}
+
+void CommandBars::addCommand(const CommandDesign& design, std::function<void()> handler) {
     Command* command = makeCommand(design);
     m_commands[design.name] = command;
-    connect(command->m_action, &QAction::triggered, this, [this, command] {
+    connect(command->m_action, &QAction::triggered, this, [this, command, handler = std::move(handler)] {
         command->m_action->setChecked(command->m_checked);
-        start(command->name());
+        run(handler);
     });
 }
 
@@ -155,9 +159,13 @@ void CommandBars::watch(QAction* action, const Command* command) {
 }
 
 void CommandBars::start(const QString& name) {
+    run([&] { Q_EMIT commandStarted(name); });
+}
+
+void CommandBars::run(const std::function<void()>& handler) {
     if (m_running) return;
     const QScopedValueRollback running(m_running, true);
-    Q_EMIT commandStarted(name);
+    handler();
 }
 
 void CommandBars::addMenu(const QString& name, const QString& caption, const QString& description,

@@ -114,6 +114,8 @@ class CommandBars : public QObject {
     explicit CommandBars(QMainWindow* window);
 
     void addCommand(const CommandDesign& design);
+    /// A command with a handler of its own, which runs in place of the signal.
+    void addCommand(const CommandDesign& design, std::function<void()> handler);
     /// A menu, to be named in a menu bar or in a list of items, or to be shown by showPopup().
     void addMenu(const QString& name, const QString& caption, const QString& description,
                  const QStringList& items);
@@ -175,6 +177,7 @@ class CommandBars : public QObject {
     Command* makeCommand(const CommandDesign& design);
     void watch(QAction* action, const Command* command);
     void start(const QString& name);
+    void run(const std::function<void()>& handler);
     void addItems(QWidget* place, const QStringList& items);
     QAction* offeredAction(QWidget* where, const QKeyEvent* key) const;
     bool filterOffered(QWidget* where, QEvent* event);

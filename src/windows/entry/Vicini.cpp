@@ -5,6 +5,7 @@
 #include "windows/entry/Finestre.h"
 #include "windows/entry/Posizione.h"
 #include "windows/entry/Riavvio.h"
+#include "windows/entry/Strumenti.h"
 #include "windows/import/frmImpDB.h"
 #include "windows/import/frmImpTXT.h"
 #include "windows/import/frmScelta.h"
@@ -64,7 +65,8 @@ frmMain::Vicini finestre::IntornoAMain() {
             .ImportaRubrica = [] { ::ImportaRubrica(IntornoAgliImport()); },
             .ImportaOutlook = [] { ::ImportaOutlook(IntornoAgliImport()); },
             .InfoSu = [] { InfoSu().exec(); },
-            .CambiaLingua = [] { ::CambiaLingua(*barreDiMain().GetList("cmdLang")); }};
+            .CambiaLingua = [] { ::CambiaLingua(*barreDiMain().GetList("cmdLang")); },
+            .strumenti = Strumenti()};
 }
 
 frmEditor::Vicini finestre::IntornoAEditor() {

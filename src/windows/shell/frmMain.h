@@ -3,6 +3,9 @@
 #include <functional>
 #include <optional>
 #include <QMainWindow>
+#include <QString>
+#include <QStringList>
+#include <vector>
 
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
@@ -27,7 +30,8 @@ struct AccessoComando {
 };
 
 /// The main window: the doorway to everything else. It holds the menus and bars, the grid of recipients and
-/// the pane of the groups. All of its commands come through ComandoPremuto.
+/// the pane of the groups. All of its commands come through ComandoPremuto, but for those of the menu
+/// "Strumenti", each of which has its own handler.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
@@ -35,6 +39,18 @@ class frmMain : public QMainWindow {
     /// Opens another window, modally, and comes back when it is closed, or runs an import with its questions.
     /// Unguarded.
     using Apertura = std::function<void()>;
+
+    /// A command of the menu "Strumenti". The caption holds its mnemonic; the icon is a name of the icon
+    /// theme.
+    struct Strumento {
+        QString nome;
+        QString didascalia;
+        QString descrizione;
+        QString icona;
+        Apertura apri;
+    };
+    /// The commands between two separators.
+    using GruppoStrumenti = std::vector<Strumento>;
 
     /// What the window needs of others. Each of them is made when it is first named.
     struct Vicini {
@@ -54,6 +70,7 @@ class frmMain : public QMainWindow {
         Apertura ImportaOutlook;
         Apertura InfoSu;
         std::function<void()> CambiaLingua;  ///< to what was picked in the list of languages
+        std::vector<GruppoStrumenti> strumenti = {};
     };
 
     explicit frmMain(Vicini intorno);
@@ -98,6 +115,8 @@ class frmMain : public QMainWindow {
     // frmMain_barre.cpp: menus, bars, status bar
     void CreaComandi();
     void CreaMenu();
+    /// Adds the commands of the menu "Strumenti"; gives its items.
+    QStringList CreaStrumenti();
     void CreaBarre();
     void CreaBarraStato();
     /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars; F10 opens the first menu.
@@ -112,6 +131,8 @@ class frmMain : public QMainWindow {
     void cmdMailingApri(Accesso& accesso);
     void cmdInvia(Accesso& accesso);
     void cmdHelpGuida();
+    /// What a command of the menu "Strumenti" does. Ignored while another command runs. Unguarded.
+    void ApriStrumento(const Strumento& strumento);
 
     // frmMain_database.cpp
     void ApriDatabase();

@@ -108,7 +108,12 @@ void frmMain::CreaMenu() {
     barre->addMenu("mnuHelp", "&Help", "Help",
                    {"cmdHelpGuida", "|", "cmdHelpHomePage", "cmdHelpInviaMail", "|", "cmdHelpInfoSu"});
     barre->addListMenu("mnuLingua", "&Lingua", "Lingua", "cmdLang");
-    barre->addMenuBar("Menu", {"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp"});
+    QStringList menu{"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp"};
+    if (const QStringList strumenti = CreaStrumenti(); !strumenti.isEmpty()) {
+        barre->addMenu("mnuStrumenti", "&Strumenti", "Strumenti", strumenti);
+        menu << "mnuStrumenti";
+    }
+    barre->addMenuBar("Menu", menu);
 
     barre->addMenu("popMailing", "", "",
                    {"cmdPopMailingNew", "cmdPopMailingCopia", "cmdPopMailingDel", "cmdPopMailingRinomina",
@@ -119,6 +124,19 @@ void frmMain::CreaMenu() {
     barre->addMenu("popMailingGRD", "", "",
                    {"cmdPopMailingUserNew", "cmdPopMailingUserMod", "cmdPopMailingUserDel", "|",
                     "cmdPopMailingSelAllGRP", "cmdPopMailingSelNotGRP", "|", "cmdPopMailingSvuotaCartella"});
+}
+
+QStringList frmMain::CreaStrumenti() {
+    QStringList voci;
+    for (const GruppoStrumenti& gruppo : vicini.strumenti) {
+        if (!gruppo.empty() && !voci.isEmpty()) voci << "|";
+        for (const Strumento& strumento : gruppo) {
+            barre->addCommand({strumento.nome, strumento.didascalia, strumento.descrizione, strumento.icona},
+                              [this, &strumento] { evento([&] { ApriStrumento(strumento); }); });
+            voci << strumento.nome;
+        }
+    }
+    return voci;
 }
 
 // In the order of the work: recipients, message, sending.

@@ -1,4 +1,4 @@
-// The one handler of all commands.
+// The one handler of all commands, and that of the tools.
 #include <algorithm>
 #include <iterator>
 #include <QScopedValueRollback>
@@ -107,6 +107,15 @@ void frmMain::ComandoPremuto(const QString& nome) {
     const Operazione comando(pulsante ? pulsante->Description() : QString());
     Accesso accesso = creaAccesso();
     if (riga != std::end(tabellaComandi)) riga->esegui(*this, accesso);
+    griglia::AggiornaFrase();
+    AggiornaComandi();
+}
+
+void frmMain::ApriStrumento(const Strumento& strumento) {
+    if (comandoInCorso) return;
+    const QScopedValueRollback inCorso(comandoInCorso, true);
+    const Operazione comando(strumento.descrizione);
+    strumento.apri();
     griglia::AggiornaFrase();
     AggiornaComandi();
 }
