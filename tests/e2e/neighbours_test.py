@@ -9,27 +9,18 @@ import pathlib
 import shutil
 import signal
 import stat
-import subprocess
 import sys
 import tempfile
-import time
 
-PATIENCE = 60  # seconds; only a broken program uses them up
+import desktop
+from desktop import fail
+
+desktop.inside()
+from accessible import Window  # noqa: E402  looks for the bus when it is imported
+
 LETTER = b"Cara mamma,"
 WRITTEN = ("Error.txt", "data/frmMain.imp", "data/LayoutMain.imp")
 STRANGER = 65534
-
-
-def fail(text):
-    raise SystemExit(f"FAILED: {text}")
-
-
-def wait_for(condition, what):
-    end = time.monotonic() + PATIENCE
-    while not condition():
-        if time.monotonic() > end:
-            fail(f"waited {PATIENCE} s for {what}")
-        time.sleep(0.05)
 
 
 def sample(build, folder):
@@ -58,29 +49,14 @@ def plant(folder, letters, how):
         yield letter
 
 
-def start_and_end(build, folder):
-    environment = {**os.environ, "VESTROLA_FOLDER": str(folder), "QT_QPA_PLATFORM": "offscreen",
-                   "QTWEBENGINE_DISABLE_SANDBOX": "1"}
-    program = subprocess.Popen([str(build / "vestrola")], env=environment, stderr=subprocess.DEVNULL, umask=0)
-    try:
-        # the engine of the database opens it once the start is over
-        wait_for(lambda: program.poll() is not None or (folder / "data" / "data.mdb-journal").exists()
-                 or has_open(program, folder / "data" / "data.mdb"), "the database to be opened")
-        program.send_signal(signal.SIGTERM)
-        program.wait(PATIENCE)
-    finally:
-        program.kill()
-        program.wait()
+def start_and_end(stage, build, folder):
+    program = stage.start([build / "vestrola"], env={**os.environ, "VESTROLA_FOLDER": str(folder)}, umask=0)
+    Window("frame", "Vestrola")  # a program that is told to end before stores no places of windows
+    program.send_signal(signal.SIGTERM)
+    stage.ends(program, 0)
 
 
-def has_open(program, path):
-    try:
-        return any(os.path.samefile(one, path) for one in pathlib.Path(f"/proc/{program.pid}/fd").iterdir())
-    except FileNotFoundError:
-        return False
-
-
-def main():
+def play(stage, _):
     build = pathlib.Path(sys.argv[1]).resolve()
     for how in (os.symlink, os.link):
         with tempfile.TemporaryDirectory() as work:
@@ -88,7 +64,7 @@ def main():
             letters.mkdir()
             sample(build, folder)
             planted = list(plant(folder, letters, how))
-            start_and_end(build, folder)
+            start_and_end(stage, build, folder)
             for letter in planted:
                 if letter.read_bytes() != LETTER:
                     fail(f"{letter.name} was written through the link")
@@ -100,4 +76,4 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    desktop.run(play)
