@@ -19,10 +19,17 @@ def wait_for(condition, what, instead=None):
     return desktop.wait_for(answered, what, instead)
 
 
+def applications():
+    """What the registry knows now. What it has told before is not asked for again: a start or an end may have been missed."""
+    registry = pyatspi.Registry.getDesktop(0)
+    registry.clear_cache()
+    return registry
+
+
 def shown_windows():
     """Every window that the registry knows, for the report of a failure."""
     told = []
-    for application in pyatspi.Registry.getDesktop(0):
+    for application in applications():
         try:
             windows = [f"{one.getRoleName()} {one.name!r}{'' if is_shown(one) else ' (hidden)'}"
                        f"{' (active)' if has(one, pyatspi.STATE_ACTIVE) else ''}" for one in application if one]
@@ -53,7 +60,7 @@ class Window:
             return (window and window.getRoleName() == role and window.name.strip().startswith(name) and is_shown(window)
                     and (has(window, pyatspi.STATE_ACTIVE) or not active))
 
-        for application in pyatspi.Registry.getDesktop(0):
+        for application in applications():
             try:
                 if application is None:
                     continue

@@ -10,7 +10,7 @@ import desktop
 from desktop import fail
 
 desktop.inside()
-from accessible import is_shown, wait_for  # noqa: E402  looks for the bus when it is imported
+from accessible import applications, is_shown, wait_for  # noqa: E402  looks for the bus when it is imported
 import pyatspi  # noqa: E402
 
 
@@ -19,7 +19,7 @@ def main_windows():
     def shows_groups(window):
         return pyatspi.findDescendant(
             window, lambda one: one.getRoleName() == "table cell" and one.name == "Database Mailing" and is_shown(one))
-    programs = [program for program in pyatspi.Registry.getDesktop(0) if program is not None and program.name == "Vestrola"]
+    programs = [program for program in applications() if program is not None and program.name == "Vestrola"]
     return [window for program in programs for window in program
             if window and window.getRoleName() == "frame" and window.name.startswith("Vestrola") and is_shown(window)
             and shows_groups(window)]
