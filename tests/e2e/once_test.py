@@ -5,7 +5,8 @@ the server's reply is late. Over the whole story and the run after it each recip
 
     once_test.py BUILD_FOLDER [STORY [NUMBER]]
 
-STORY is one of the names below; without it all are played in their short form. NUMBER is how long the lock is held, in
+STORY is one of the names below, or a share of them such as 2/4: the second, the sixth and so on. Without it all are played in
+their short form. NUMBER is how long the lock is held, in
 seconds ("locked"), how often the user stops ("stops"), or how many recipients a run has (otherwise).
 """
 import csv
@@ -313,8 +314,15 @@ def late_reply(make, number):
 STORIES = {one.__name__: one for one in (disk_full, full_before, moved, killed, locked, stops, null_address, late_reply)}
 
 
+def chosen(story):
+    if "/" not in story:
+        return [story]
+    first, step = map(int, story.split("/"))
+    return list(STORIES)[first - 1::step]
+
+
 def play(stage, program):
-    names = sys.argv[2:3] or list(STORIES)
+    names = chosen(sys.argv[2]) if len(sys.argv) > 2 else list(STORIES)
     number = int(sys.argv[3]) if len(sys.argv) > 3 else None
     if number:
         desktop.PATIENCE = 600
