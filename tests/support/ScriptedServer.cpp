@@ -76,6 +76,7 @@ void ScriptedServer::run() {
             m_peerPorts.append(socket.peerPort());
             m_input.clear();
             play(m_dialogues[i]);
+            ++m_ended;
         }
     } catch (const Unexpected& unexpected) {
         m_problem = unexpected.text;
@@ -115,9 +116,11 @@ void ScriptedServer::step(const QByteArray& line) {
     } else if (line == "BODY") {
         takeBody();
     } else if (line.startsWith("READ ")) {
-        while (m_input.size() < line.mid(5).toInt())
-            receive();
-        m_input.remove(0, line.mid(5).toInt());
+        take(line.mid(5).toInt());
+    } else if (line == "CHUNK") {
+        const QByteArrayList words = m_lines.value(m_lines.size() - 1).split(' ');
+        if (words.size() != 3 || words[0] != "BDAT") throw Unexpected{"no BDAT before"};
+        m_bodies.append(take(words[1].toInt()));
     } else if (line == "EMPTY") {
         if (m_socket->waitForReadyRead(1)) m_input += m_socket->readAll();
         if (!m_input.isEmpty()) throw Unexpected{"also came: " + m_input.left(200)};
@@ -208,6 +211,14 @@ void ScriptedServer::takeBody() {
     }
     m_bodies.append(m_input.left(end));
     m_input.remove(0, end + 3);
+}
+
+QByteArray ScriptedServer::take(qsizetype octets) {
+    while (m_input.size() < octets)
+        receive();
+    const QByteArray taken = m_input.left(octets);
+    m_input.remove(0, octets);
+    return taken;
 }
 
 void ScriptedServer::waitForEnd() {

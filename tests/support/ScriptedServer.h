@@ -24,6 +24,7 @@ namespace testing_support {
 ///   C: pattern   expects a line; "*" stands for any text
 ///   A: name      expects a line and sends what that answer makes of it
 ///   BODY         reads a message up to the final point and keeps it
+///   CHUNK        reads as many octets as the last line said, which was a BDAT, and keeps them like a body
 ///   READ n       reads n octets
 ///   EMPTY        expects that nothing more has come
 ///   TLS          becomes the server's side of a TLS handshake
@@ -52,6 +53,9 @@ class ScriptedServer : public QThread {
     /// How often a dialogue has come to a WAIT or a GATE.
     int waits() const { return m_waits; }
 
+    /// How many dialogues have ended, their connections closed by the server or by both.
+    int ended() const { return m_ended; }
+
     /// Lets a dialogue pass one GATE.
     void goOn() { m_gate.release(); }
 
@@ -74,6 +78,7 @@ class ScriptedServer : public QThread {
     QByteArray takeLine();
     void expect(const QByteArray& pattern);
     void takeBody();
+    QByteArray take(qsizetype octets);
     void waitForEnd();
     void close(bool reset);
 
@@ -83,6 +88,7 @@ class ScriptedServer : public QThread {
     const QHash<QByteArray, Answer> m_answers;
     QSemaphore m_listening;
     std::atomic<int> m_waits = 0;
+    std::atomic<int> m_ended = 0;
     QSemaphore m_gate;
     QSslSocket* m_socket = nullptr;
     QByteArray m_input;

@@ -7,8 +7,8 @@
 
 namespace mail {
 
-AwaitedReply::AwaitedReply(QSslSocket* socket, const QByteArray& input, int limitMs)
-    : m_socket(socket), m_input(input) {
+AwaitedReply::AwaitedReply(QSslSocket* socket, const QByteArray& input, int before, int limitMs)
+    : m_socket(socket), m_input(input), m_before(before) {
     m_socket->setParent(this);
     connect(m_socket, &QSslSocket::readyRead, this, &AwaitedReply::look);
     connect(m_socket, &QSslSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
@@ -28,13 +28,17 @@ AwaitedReply::~AwaitedReply() {
 void AwaitedReply::look() {
     if (m_ended) return;
     m_input += m_socket->readAll();
-    if (isAcceptance(m_input)) {
+    if (m_before == 0 && isAcceptance(m_input)) {
         end(true, acceptanceCode(m_input));
         return;
     }
     const ReplyParse parse = parseSmtpReply(m_input, 0);
-    if (parse.state == ReplyParse::State::Complete)
-        end(parse.reply.positive(), parse.reply.code);
+    if (parse.state == ReplyParse::State::Complete && m_before > 0 && parse.reply.positive()) {
+        --m_before;
+        m_input.remove(0, parse.next);
+        look();
+    } else if (parse.state == ReplyParse::State::Complete)
+        end(false, parse.reply.code);
     else if (parse.state == ReplyParse::State::Malformed || m_lost ||
              m_socket->state() != QAbstractSocket::ConnectedState)
         end(false, 0);

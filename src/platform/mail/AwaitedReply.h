@@ -12,9 +12,10 @@ namespace mail {
 class AwaitedReply : public QObject {
     Q_OBJECT
   public:
-    /// Takes `socket`, which is connected, from its owner. `input` is what was read of the reply so far, and
-    /// `limitMs` how long the reply is waited for.
-    AwaitedReply(QSslSocket* socket, const QByteArray& input, int limitMs);
+    /// Takes `socket`, which is connected, from its owner. `input` is what was read so far and not used,
+    /// `before` how many replies to the envelope come first, and `limitMs` how long all of them are waited
+    /// for. A refusal of the envelope decides.
+    AwaitedReply(QSslSocket* socket, const QByteArray& input, int before, int limitMs);
     ~AwaitedReply() override;
 
     /// Looks at what has come. To be called once ended() is connected.
@@ -34,6 +35,7 @@ class AwaitedReply : public QObject {
 
     QSslSocket* m_socket;
     QByteArray m_input;
+    int m_before;
     QTimer m_limit;
     bool m_lost = false;
     bool m_ended = false;

@@ -9,6 +9,7 @@ SmtpExtensions SmtpExtensions::read(const QByteArray& text) {
         QByteArrayList words = lines[i].simplified().split(' ');
         const QByteArray keyword = words.takeFirst();
         if (keyword == "PIPELINING") offered.pipelining = true;
+        if (keyword == "CHUNKING") offered.chunking = true;
         if (keyword == "SIZE") offered.size = true;
         if (keyword == "8BITMIME") offered.eightBitMime = true;
         if (keyword == "SMTPUTF8") offered.smtputf8 = true;

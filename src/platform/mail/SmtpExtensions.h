@@ -8,6 +8,7 @@ namespace mail {
 /// Service extensions that a server offered in its answer to EHLO (RFC 5321 4.1.1.1).
 struct SmtpExtensions {
     bool pipelining = false;    ///< RFC 2920
+    bool chunking = false;      ///< RFC 3030
     bool size = false;          ///< RFC 1870
     bool eightBitMime = false;  ///< RFC 6152
     bool smtputf8 = false;      ///< RFC 6531

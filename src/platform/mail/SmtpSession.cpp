@@ -64,7 +64,7 @@ SmtpSession::~SmtpSession() {
 void SmtpSession::deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times) {
     m_busy = true;
     m_refused = m_mailAccepted = false;
-    m_pointGiven = m_answeredEarly = false;
+    m_pointGiven = m_inFlight = m_answeredEarly = false;
     m_message = message;
     m_idle.stop();
     m_times = times;
@@ -92,6 +92,7 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
 
 void SmtpSession::beginRun() {
     m_greeters.clear();
+    m_grounded.clear();
     m_refusedLogin.forget();
 }
 
@@ -99,10 +100,10 @@ std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
     m_busy = false;
     m_stall.stop();
     std::unique_ptr<AwaitedReply> awaited;
-    if (hasGivenAll()) {
+    if (hasGivenAll() && !m_refused) {
         QSslSocket* const socket = std::exchange(m_socket, nullptr);
         socket->disconnect(this);
-        awaited = std::make_unique<AwaitedReply>(socket, m_input.mid(m_inputRead),
+        awaited = std::make_unique<AwaitedReply>(socket, m_input.mid(m_inputRead), int(m_expected.size()) - 1,
                                                  std::max(m_times.stall, m_times.finalReply));
     }
     dropConnection();
@@ -112,13 +113,13 @@ std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
 
 /// The system has taken the whole message, the final point included, and the server has not answered it.
 bool SmtpSession::hasGivenAll() const {
-    return m_socket && m_pointGiven && !m_expected.isEmpty() && m_expected.first() == Step::Body &&
-           allTaken();
+    return m_socket && m_pointGiven && !m_expected.isEmpty() && allTaken();
 }
 
 /// The server has taken the message, whatever else it may still say.
 bool SmtpSession::wasAccepted() const {
-    return hasGivenAll() && !m_answeredEarly && isAcceptance(QByteArrayView(m_input).sliced(m_inputRead));
+    return hasGivenAll() && m_expected.first() == Step::Body && !m_refused && !m_answeredEarly &&
+           isAcceptance(QByteArrayView(m_input).sliced(m_inputRead));
 }
 
 void SmtpSession::open(LocalPort localPort) {
@@ -126,6 +127,7 @@ void SmtpSession::open(LocalPort localPort) {
     m_socket->setProxy(QNetworkProxy::NoProxy);
     m_socket->setReadBufferSize(readBufferSize);
     m_authenticated = m_needsReset = m_startTlsRefused = false;
+    m_taken.invalidate();
     m_heloOnly = m_route.greetWithHelo;
     m_mustEncrypt =
         !m_route.opportunisticTls && m_tlsMemory.knows(m_route.tlsListFile, m_route.host, m_route.port);
@@ -210,8 +212,8 @@ void SmtpSession::onConnected() {
 
 void SmtpSession::dropConnection() {
     // What the server has not got yet must not reach it when the message counts as failed.
-    const bool midMessage = m_feeding || (!m_expected.isEmpty() && m_expected.first() == Step::Body) ||
-                            (m_socket && m_pointGiven && !allTaken());
+    const bool midMessage =
+        m_feeding || (m_pointGiven && (!m_expected.isEmpty() || (m_socket && !allTaken())));
     m_ready = m_handshaking = m_feeding = false;
     m_idle.stop();
     m_expected.clear();
@@ -255,6 +257,8 @@ int SmtpSession::limitMs() const {
     const bool answering = m_socket && m_socket->state() == QAbstractSocket::ConnectedState &&
                            !m_handshaking && !m_expected.isEmpty();
     if (!answering) return m_times.stall;
+    if (hasGivenAll())
+        return m_refused || wasAccepted() ? m_times.stall : std::max(m_times.stall, m_times.finalReply);
     switch (m_expected.first()) {
         case Step::Greeting:
             return m_greeters.contains(m_route.host) ? m_times.stall
@@ -264,9 +268,6 @@ int SmtpSession::limitMs() const {
             return std::max(m_times.stall, m_times.hello);
         case Step::Auth:
             return std::max(m_times.stall, m_times.login);
-        case Step::Body:
-            return hasGivenAll() && !wasAccepted() ? std::max(m_times.stall, m_times.finalReply)
-                                                   : m_times.stall;
         default:
             return m_times.stall;
     }
@@ -355,9 +356,9 @@ void SmtpSession::lost(int code, const QString& why, Loss loss) {
         conclude({true, acceptanceCode(reply), printable(reply.mid(4))});
         return;
     }
-    const bool nothingGiven = loss == Loss::Dead ? !m_pointGiven : !m_mailAccepted;
-    if (m_reused && nothingGiven && !m_refused) {
-        m_reused = false;
+    if (m_inFlight && loss != Loss::Farewell) endFlights();
+    if (m_reused && !m_refused && nothingTaken(loss)) {
+        m_reused = m_pointGiven = m_inFlight = false;
         m_transcript.remark(QStringLiteral("Connessione caduta, nuova connessione"));
         open();
         return;
@@ -365,12 +366,18 @@ void SmtpSession::lost(int code, const QString& why, Loss loss) {
     fail(code, why);
 }
 
+/// Whether the server has surely taken nothing of the message on a connection that is lost.
+bool SmtpSession::nothingTaken(Loss loss) const {
+    if (m_inFlight) return loss == Loss::Farewell;
+    return loss == Loss::Disorder ? !m_mailAccepted : !m_pointGiven;
+}
+
 void SmtpSession::fail(int code, const QString& why) {
     conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why});
 }
 
 void SmtpSession::conclude(const DeliveryOutcome& outcome) {
-    m_busy = false;
+    m_busy = m_inFlight = false;
     m_lookedAgain = false;
     m_stall.stop();
     m_message = {};

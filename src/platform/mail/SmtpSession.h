@@ -41,16 +41,20 @@ struct SmtpTimes {
     int finalReply = 600000;    ///< the reply to the final point: giving up there delivers the message twice
     int farewell = 5000;        ///< replies that are still awaited when the program ends
     int refusedLogin = 300000;  ///< a login that was refused for its password is not tried again so long
+    int flight =
+        5000;  ///< a connection that has taken a message less than this ago gets the next in one flight
 };
 
 /// One SMTP connection that is kept between messages.
 ///
 /// Steps of a connection: greeting, EHLO (HELO where that is refused), STARTTLS and EHLO again, AUTH; then
-/// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. A refused
-/// message leaves the connection in place: the next one is preceded by RSET. A kept connection that turns out
-/// to be dead, or answers 421, is opened anew and the message tried there once, as long as neither the final
-/// point nor a write that holds it was given to the socket. One that answers out of order is treated so only
-/// before MAIL was accepted.
+/// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. Where
+/// chunking is offered as well, a message that follows another closely goes out with its envelope, by BDAT
+/// (RFC 3030), in one flight; see docs/decisions/64-one-flight.md. A refused message leaves the connection in
+/// place: the next one is preceded by RSET. A kept connection that turns out to be dead, or answers 421, is
+/// opened anew and the message tried there once, as long as neither the final point nor a write that holds it
+/// was given to the socket. One that answers out of order is treated so only before MAIL was accepted. After
+/// one flight a new connection is tried only where the server answered 421.
 class SmtpSession : public QObject {
     Q_OBJECT
   public:
@@ -78,8 +82,9 @@ class SmtpSession : public QObject {
 
     enum class LocalPort { AsTold, Any };
 
-    /// Why a connection is of no more use: it is dead, or what came is not what was to come.
-    enum class Loss { Dead, Disorder };
+    /// Why a connection is of no more use: it is dead, the server has answered 421, or what came is not what
+    /// was to come.
+    enum class Loss { Dead, Farewell, Disorder };
 
     // SmtpSession.cpp: life of a connection and of a delivery
     void open(LocalPort localPort = LocalPort::AsTold);
@@ -89,6 +94,7 @@ class SmtpSession : public QObject {
     void dropConnection();
     void quit();
     void lost(int code, const QString& why, Loss loss = Loss::Dead);
+    bool nothingTaken(Loss loss) const;
     void fail(int code, const QString& why);
     void conclude(const DeliveryOutcome& outcome);
     void progress();
@@ -123,12 +129,19 @@ class SmtpSession : public QObject {
     void afterHello();
     void startTransaction();
     void sendEnvelope();
+    void noteMessage();
     void feedBody();
     void writePiece(const QByteArray& piece);
     QByteArray envelopeCommand(Step step) const;
     QByteArray greetingName() const;
     bool inputLeft() const;
     bool allTaken() const;
+
+    // SmtpSession_flight.cpp: a message and its envelope in one flight
+    bool mayFly() const;
+    void fly();
+    bool isOutOfStep(const SmtpReply& reply) const;
+    void endFlights();
 
     // SmtpSession_security.cpp: TLS and login
     bool wantsTls() const;
@@ -162,7 +175,9 @@ class SmtpSession : public QObject {
     int m_lookup = -1;                ///< number of the look-up of the host that is under way
     QList<QHostAddress> m_addresses;  ///< of the host, judged, that were not tried yet
     QElapsedTimer m_connected;
+    QElapsedTimer m_taken;     ///< since the connection took a message; not valid before it has
     QSet<QString> m_greeters;  ///< hosts that get no more than the user's time for their greeting
+    QSet<QString> m_grounded;  ///< hosts that get nothing in one flight in this run any more
     SmtpExtensions m_extensions;
     QByteArray m_input;
     qsizetype m_inputRead = 0;
@@ -187,6 +202,7 @@ class SmtpSession : public QObject {
     MessageText::Place m_fed;      ///< what stands before it was written
     bool m_feeding = false;        ///< the body is going out, the final point was not written yet
     bool m_pointGiven = false;     ///< the write that holds the final point was given to the socket
+    bool m_inFlight = false;       ///< that write held the envelope as well
     bool m_answeredEarly = false;  ///< part of a reply came before the end of the message
 };
 

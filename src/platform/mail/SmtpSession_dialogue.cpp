@@ -80,7 +80,7 @@ void SmtpSession::onReply(Step step, const SmtpReply& reply) {
     const bool challenge = step == Step::Auth && reply.intermediate();
     m_transcript.received(reply.code, challenge ? QByteArrayView("(omesso)") : QByteArrayView(reply.text));
     if (reply.code == 421) {
-        lost(reply.code, printable(reply.text));
+        lost(reply.code, printable(reply.text), Loss::Farewell);
         return;
     }
     switch (step) {
@@ -193,6 +193,10 @@ void SmtpSession::startTransaction() {
         conclude({false, 0, QStringLiteral("Il server non accetta indirizzi con caratteri internazionali.")});
         return;
     }
+    if (mayFly()) {
+        fly();
+        return;
+    }
     m_plan = {Step::Mail, Step::Recipient, Step::Data};
     if (m_needsReset) m_plan.prepend(Step::Reset);
     sendEnvelope();
@@ -269,12 +273,17 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
     } else if (inputLeft()) {
         onUnexpectedInput();
     } else {
-        m_transcript.sent(QStringLiteral("(messaggio: %1 byte)").arg(m_message.text.size()).toLatin1());
+        noteMessage();
         m_expected.append(Step::Body);
         m_fed = {};
         m_feeding = true;
         feedBody();
     }
+}
+
+void SmtpSession::noteMessage() {
+    if (m_transcript.active())
+        m_transcript.sent("(messaggio: " + QByteArray::number(m_message.text.size()) + " byte)");
 }
 
 void SmtpSession::feedBody() {
@@ -298,10 +307,10 @@ void SmtpSession::writePiece(const QByteArray& piece) {
     QSslSocket* const socket = m_socket;
     qsizetype taken = 0;
     if (!socket->isEncrypted()) taken = sendAtOnce(int(socket->socketDescriptor()), piece);
+    const qsizetype left = piece.size() - taken;
+    if (left > 0) socket->write(piece.constData() + taken, left);
     if (taken > 0) noteTaken();
-    if (taken == piece.size()) return;
-    socket->write(piece.constData() + taken, piece.size() - taken);
-    socket->flush();
+    if (left > 0) socket->flush();
 }
 
 bool SmtpSession::allTaken() const {
@@ -310,11 +319,15 @@ bool SmtpSession::allTaken() const {
 
 void SmtpSession::onBodyReply(const SmtpReply& reply) {
     const bool complete = !m_feeding && allTaken() && !m_answeredEarly;
-    const bool delivered = reply.positive() && complete;
+    const bool delivered = reply.positive() && complete && !m_refused;
     m_needsReset = !delivered;
-    const DeliveryOutcome outcome{delivered, reply.code, printable(reply.text)};
-    // A server that answers before the end, or asks for more behind it, is no longer in step.
-    if (!complete || reply.intermediate()) dropConnection();
+    if (delivered) m_taken.start();
+    const DeliveryOutcome outcome =
+        m_refused ? m_refusal : DeliveryOutcome{delivered, reply.code, printable(reply.text)};
+    if (!complete || isOutOfStep(reply)) {
+        if (m_inFlight) endFlights();
+        dropConnection();
+    }
     conclude(outcome);
 }
 

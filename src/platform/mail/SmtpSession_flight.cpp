@@ -1,0 +1,53 @@
+// A message and its envelope in one flight (RFC 3030): MAIL, RCPT and BDAT with all octets of the message.
+#include <utility>
+
+#include "platform/mail/SmtpSession.h"
+#include "platform/mail/TcpState.h"
+
+namespace mail {
+
+namespace {
+
+/// What a server has to read in vain where it refuses the recipient. A round trip is little beside a larger
+/// message.
+constexpr qsizetype largestFlight = 128 * 1024;
+
+}  // namespace
+
+/// A flight cannot be called back: what becomes of it on a connection that is dead already is never known.
+bool SmtpSession::mayFly() const {
+    return m_extensions.chunking && m_extensions.pipelining && !m_needsReset && m_taken.isValid() &&
+           m_taken.elapsed() < m_times.flight && m_message.text.size() <= largestFlight &&
+           !m_grounded.contains(m_route.host) && !waitForInput(int(m_socket->socketDescriptor()), 0);
+}
+
+void SmtpSession::fly() {
+    const char* const end = m_message.text.endsLine() ? "" : "\r\n";
+    const qsizetype size = m_message.text.size() + qsizetype(qstrlen(end));
+    command(Step::Mail, envelopeCommand(Step::Mail));
+    command(Step::Recipient, envelopeCommand(Step::Recipient));
+    command(Step::Body, "BDAT " + QByteArray::number(size) + " LAST");
+    noteMessage();
+    QByteArray flight = std::exchange(m_output, {});
+    flight.reserve(flight.size() + size);
+    for (const QByteArrayView piece : m_message.text.pieces())
+        flight.append(piece);
+    flight.append(end);
+    m_inFlight = m_pointGiven = true;
+    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
+    writePiece(flight);
+    if (m_socket == socket) progress();
+}
+
+/// Whether replies and commands are out of step after this reply to the whole message. It asks for more; or
+/// it shows that BDAT is not known, and the octets of the message will be read as commands.
+bool SmtpSession::isOutOfStep(const SmtpReply& reply) const {
+    const bool notKnown = m_inFlight && !m_refused && reply.code >= 500 && reply.code <= 504;
+    return notKnown || reply.intermediate();
+}
+
+void SmtpSession::endFlights() {
+    m_grounded.insert(m_route.host);
+}
+
+}  // namespace mail
