@@ -1,15 +1,19 @@
 #include "platform/mail/DkimSigner.h"
 
-// The library's header is C, and standard C++ has no _Bool.
-#define _Bool bool
-#include <dkim.h>
-#undef _Bool
+#include <openssl/evp.h>
+#include <openssl/pem.h>
 
-#include <QSslKey>
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 #include "platform/mail/AddrSpec.h"
+#include "platform/mail/DkimForm.h"
 #include "platform/mail/DomainName.h"
 #include "platform/mail/FileStamp.h"
+#include "platform/mail/HeaderText.h"
+#include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
 
 namespace mail {
@@ -17,90 +21,151 @@ namespace {
 
 constexpr qint64 largestKeyFile = 64 * 1024;
 constexpr int fewestBits = 2048;
-const QByteArray headerName = "DKIM-Signature: ";
+// Octets of a signature without a blank, where its line can be folded
+constexpr qsizetype signatureLine = 72;
 
-struct CloseLibrary {
-    void operator()(DKIM_LIB* library) const { dkim_close(library); }
+using namespace std::string_view_literals;
+
+constexpr std::array covered{
+    "From"sv,         "To"sv,           "Subject"sv,          "Date"sv,    "Message-ID"sv,
+    "MIME-Version"sv, "Content-Type"sv, "List-Unsubscribe"sv, "List-Id"sv, "List-Unsubscribe-Post"sv};
+constexpr std::array closed{"From"sv,
+                            "To"sv,
+                            "Cc"sv,
+                            "Reply-To"sv,
+                            "Subject"sv,
+                            "Date"sv,
+                            "Message-ID"sv,
+                            "MIME-Version"sv,
+                            "Content-Type"sv,
+                            "List-Unsubscribe"sv,
+                            "List-Unsubscribe-Post"sv};
+
+struct FreeKey {
+    void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
+    void operator()(EVP_PKEY_CTX* context) const { EVP_PKEY_CTX_free(context); }
+    void operator()(EVP_MD* digest) const { EVP_MD_free(digest); }
+    void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
+    void operator()(BIO* source) const { BIO_free(source); }
 };
-struct FreeSignature {
-    void operator()(DKIM* signature) const { dkim_free(signature); }
+
+/// SHA-256, looked up once.
+class Digest {
+  public:
+    void begin() {
+        m_good = m_kind && m_context && EVP_DigestInit_ex2(m_context.get(), m_kind.get(), nullptr) == 1;
+    }
+    void add(QByteArrayView octets) {
+        m_good = m_good && EVP_DigestUpdate(m_context.get(), octets.data(), size_t(octets.size())) == 1;
+    }
+    /// Empty where the library has failed.
+    QByteArray end() {
+        QByteArray value(EVP_MAX_MD_SIZE, Qt::Uninitialized);
+        unsigned size = 0;
+        m_good = m_good && EVP_DigestFinal_ex(m_context.get(), reinterpret_cast<unsigned char*>(value.data()),
+                                              &size) == 1;
+        value.resize(m_good ? qsizetype(size) : 0);
+        return value;
+    }
+    const EVP_MD* kind() const { return m_kind.get(); }
+
+  private:
+    std::unique_ptr<EVP_MD, FreeKey> m_kind{EVP_MD_fetch(nullptr, "SHA256", nullptr)};
+    std::unique_ptr<EVP_MD_CTX, FreeKey> m_context{EVP_MD_CTX_new()};
+    bool m_good = false;
 };
 
-// The library's interface knows no constants
-unsigned char* bytes(QByteArrayView text) {
-    return reinterpret_cast<unsigned char*>(const_cast<char*>(text.data()));
-}
+/// A private key, ready to sign digests of SHA-256 with PKCS #1 v1.5.
+class RsaKey {
+  public:
+    /// `pem` may be anything. A key that asks for a password is none.
+    void read(QByteArrayView pem, const EVP_MD* digest) {
+        m_context.reset();
+        const std::unique_ptr<BIO, FreeKey> source(BIO_new_mem_buf(pem.data(), int(pem.size())));
+        const auto noPassword = [](char*, int, int, void*) { return -1; };
+        m_key.reset(source ? PEM_read_bio_PrivateKey(source.get(), nullptr, noPassword, nullptr) : nullptr);
+        if (m_key && EVP_PKEY_get_base_id(m_key.get()) != EVP_PKEY_RSA) m_key.reset();
+        if (!m_key) return;
+        m_context.reset(EVP_PKEY_CTX_new(m_key.get(), nullptr));
+        if (!m_context || EVP_PKEY_sign_init(m_context.get()) != 1 ||
+            EVP_PKEY_CTX_set_signature_md(m_context.get(), digest) != 1)
+            m_context.reset();
+    }
+    bool isThere() const { return m_key && m_context; }
+    int bits() const { return EVP_PKEY_get_bits(m_key.get()); }
 
-std::unique_ptr<DKIM_LIB, CloseLibrary> openLibrary() {
-    std::unique_ptr<DKIM_LIB, CloseLibrary> library(dkim_init(nullptr, nullptr));
-    const char* covered[] = {"From",
-                             "To",
-                             "Subject",
-                             "Date",
-                             "Message-ID",
-                             "MIME-Version",
-                             "Content-Type",
-                             "List-Unsubscribe",
-                             "List-Unsubscribe-Post",
-                             "List-Id",
-                             nullptr};
-    const char* closed[] = {"From",
-                            "To",
-                            "Cc",
-                            "Reply-To",
-                            "Subject",
-                            "Date",
-                            "Message-ID",
-                            "MIME-Version",
-                            "Content-Type",
-                            "List-Unsubscribe",
-                            "List-Unsubscribe-Post",
-                            nullptr};
-    // The size is that of the pointer; the list ends with a null.
-    const auto set = [&](dkim_opts_t option, const char** names) {
-        return dkim_options(library.get(), DKIM_OP_SETOPT, option, static_cast<void*>(names), sizeof names) ==
-               DKIM_STAT_OK;
-    };
-    if (library && set(DKIM_OPTS_SIGNHDRS, covered) && set(DKIM_OPTS_OVERSIGNHDRS, closed)) return library;
-    return {};
+    /// Empty where the library has failed.
+    QByteArray sign(const QByteArray& digest) {
+        size_t size = size_t(EVP_PKEY_get_size(m_key.get()));
+        QByteArray signature(qsizetype(size), Qt::Uninitialized);
+        const bool good = EVP_PKEY_sign(m_context.get(), reinterpret_cast<unsigned char*>(signature.data()),
+                                        &size, reinterpret_cast<const unsigned char*>(digest.constData()),
+                                        size_t(digest.size())) == 1;
+        signature.resize(good ? qsizetype(size) : 0);
+        return signature;
+    }
+
+  private:
+    std::unique_ptr<EVP_PKEY, FreeKey> m_key;
+    std::unique_ptr<EVP_PKEY_CTX, FreeKey> m_context;
+};
+
+bool isNamed(QByteArrayView field, std::string_view name) {
+    return field.size() > qsizetype(name.size()) && field[qsizetype(name.size())] == ':' &&
+           qstrnicmp(field.data(), name.data(), name.size()) == 0;
 }
 
 Status unusable(const QString& why) {
     return {ErrorCode::NotSupported, QStringLiteral("Messaggio non firmato (DKIM): %1.").arg(why)};
 }
 
-// Hands over one header field after the other, each with its folded lines
-DKIM_STAT readHeaders(DKIM* signature, QByteArrayView block) {
-    DKIM_STAT state = DKIM_STAT_OK;
-    for (qsizetype from = 0; from < block.size() && state == DKIM_STAT_OK;) {
+// Adds what is signed of the header to the digest, and gives the names of it: those that stand there, in
+// their order, and once more those that must not be put in front. Each field that is covered stands there
+// once at most.
+QByteArray addHeader(Digest& digest, QByteArrayView block) {
+    QByteArray names;
+    for (qsizetype from = 0; from < block.size();) {
         qsizetype end = block.indexOf("\r\n", from);
-        while (end + 2 < block.size() && block[end + 2] == ' ')
+        while (end + 2 < block.size() && (block[end + 2] == ' ' || block[end + 2] == '\t'))
             end = block.indexOf("\r\n", end + 2);
-        state = dkim_header(signature, bytes(block) + from, static_cast<size_t>(end - from));
+        const QByteArrayView field = block.sliced(from, end - from);
         from = end + 2;
+        const auto name = std::find_if(covered.begin(), covered.end(),
+                                       [field](std::string_view wanted) { return isNamed(field, wanted); });
+        if (name == covered.end()) continue;
+        digest.add(relaxedField(field) + "\r\n");
+        names.append(name->data(), qsizetype(name->size())).append(": ");
     }
-    return state == DKIM_STAT_OK ? dkim_eoh(signature) : state;
+    for (const std::string_view name : closed)
+        names.append(name.data(), qsizetype(name.size())).append(name == closed.back() ? "" : ": ");
+    return names;
 }
 
-DKIM_STAT readMessage(DKIM* signature, const MessageText& message) {
-    auto pieces = message.pieces();
-    const qsizetype body = pieces.front().indexOf("\r\n\r\n") + 4;
-    DKIM_STAT state = readHeaders(signature, pieces.front().first(body - 2));
-    pieces.front() = pieces.front().sliced(body);
-    for (const QByteArrayView piece : pieces) {
-        if (state == DKIM_STAT_OK)
-            state = dkim_body(signature, bytes(piece), static_cast<size_t>(piece.size()));
-    }
-    return state;
+QByteArray bodyDigest(Digest& digest, std::vector<QByteArrayView> pieces, qsizetype header) {
+    pieces.front() = pieces.front().sliced(header);
+    digest.begin();
+    RelaxedBody body([&digest](QByteArrayView octets) { digest.add(octets); });
+    for (const QByteArrayView piece : pieces)
+        body.add(piece);
+    return digest.end();
+}
+
+// Blanks, which mean nothing there, where a line may be folded
+QByteArray foldable(const QByteArray& base64) {
+    QByteArray out;
+    for (qsizetype from = 0; from < base64.size(); from += signatureLine)
+        out += (from == 0 ? "" : " ") + base64.mid(from, signatureLine);
+    return out;
 }
 
 }  // namespace
 
 struct DkimSigner::State {
-    std::unique_ptr<DKIM_LIB, CloseLibrary> library;
+    Digest digest;
+    RsaKey key;
     QString place;  ///< path of the key and the selector, without their suffixes
     FileStamp keyStamp, selectorStamp;
-    QByteArray key, selector;
+    QByteArray selector;
     Status usable;
 
     void follow(const QString& newPlace) {
@@ -114,7 +179,7 @@ struct DkimSigner::State {
         const auto keyRead = sys::readGuardedFile(place + ".pem", largestKeyFile),
                    selectorRead =
                        sys::readGuardedFile(place + ".selector", largestKeyFile, sys::Others::Read);
-        key = keyRead.ok() ? keyRead.value() : QByteArray();
+        key.read(keyRead.ok() ? QByteArrayView(keyRead.value()) : QByteArrayView(), digest.kind());
         selector = selectorRead.ok() ? selectorRead.value().trimmed() : QByteArray();
         usable = check();
         for (const auto* read : {&selectorRead, &keyRead})
@@ -131,9 +196,8 @@ struct DkimSigner::State {
 
     Status check() const {
         if (!isDomainName(selector)) return unusable(QStringLiteral("il selettore manca o non è valido"));
-        const QSslKey read(key, QSsl::Rsa);
-        if (read.isNull()) return unusable(QStringLiteral("la chiave manca o non è una chiave RSA"));
-        if (read.length() < fewestBits)
+        if (!key.isThere()) return unusable(QStringLiteral("la chiave manca o non è una chiave RSA"));
+        if (key.bits() < fewestBits)
             return unusable(QStringLiteral("la chiave ha meno di %1 bit").arg(fewestBits));
         return {};
     }
@@ -156,23 +220,23 @@ Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& dom
                                     const MessageText& message) {
     if (!m_state->find(folder, domain)) return QByteArray();
     if (!m_state->usable.ok()) return m_state->usable;
-    const QByteArray name = domain.toLower();
-    if (!m_state->library) m_state->library = openLibrary();
-    if (!m_state->library) return unusable(QStringLiteral("manca la memoria"));
-
-    DKIM_STAT state = DKIM_STAT_OK;
-    const std::unique_ptr<DKIM, FreeSignature> signature(dkim_sign(
-        m_state->library.get(), bytes("vestrola"), nullptr, bytes(m_state->key), bytes(m_state->selector),
-        bytes(name), DKIM_CANON_RELAXED, DKIM_CANON_RELAXED, DKIM_SIGN_RSASHA256, -1, &state));
-    if (state == DKIM_STAT_OK) state = readMessage(signature.get(), message);
-    if (state == DKIM_STAT_OK) state = dkim_eom(signature.get(), nullptr);
-    unsigned char* value = nullptr;
-    size_t size = 0;
-    if (state == DKIM_STAT_OK)
-        state = dkim_getsighdr_d(signature.get(), static_cast<size_t>(headerName.size()), &value, &size);
-    if (state != DKIM_STAT_OK) return unusable(QString::fromLatin1(dkim_getresultstr(state)));
-    return headerName + QByteArray(reinterpret_cast<const char*>(value), static_cast<qsizetype>(size)) +
-           "\r\n";
+    Digest& digest = m_state->digest;
+    const auto pieces = message.pieces();
+    const qsizetype body = pieces.front().indexOf("\r\n\r\n") + 4;
+    const QByteArray bodyHash = bodyDigest(digest, pieces, body);
+    digest.begin();
+    const QByteArray names = addHeader(digest, pieces.front().first(body - 2));
+    // With single blanks, so that it is in its relaxed form before it is folded
+    const QByteArray value = "v=1; a=rsa-sha256; c=relaxed/relaxed; d=" + domain.toLower() +
+                             "; s=" + m_state->selector +
+                             "; t=" + QByteArray::number(sys::clock().now().toSecsSinceEpoch()) +
+                             "; bh=" + bodyHash.toBase64() + "; h=" + names + "; b=";
+    digest.add("dkim-signature:" + value);
+    const QByteArray hash = digest.end();
+    const QByteArray signature =
+        hash.isEmpty() || bodyHash.isEmpty() ? QByteArray() : m_state->key.sign(hash);
+    if (signature.isEmpty()) return unusable(QStringLiteral("la firma non è riuscita"));
+    return foldedHeader("DKIM-Signature", value + foldable(signature.toBase64()));
 }
 
 }  // namespace mail

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 
 #include "platform/mail/dkim_support.h"
+#include "platform/mail/dkim_verifier.h"
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/wire_reader.h"
 
@@ -47,8 +48,19 @@ class Dkim : public ::testing::Test {
             << composed.signing.text().toStdString();
     }
 
-    // What an independent verifier says of each message
+    // What two independent verifiers say of each message
     QByteArrayList verdicts(const QByteArrayList& messages) {
+        QByteArrayList all = verdictsOfAProgram(messages);
+        for (qsizetype i = 0; i < messages.size(); ++i) {
+            const QByteArray other =
+                openDkimVerdict(messages[i], "maggio.sel-1._domainkey.orto.example", s_record);
+            EXPECT_EQ(all.value(i) == "good", other == "good")
+                << all.value(i).constData() << other.constData();
+        }
+        return all;
+    }
+
+    QByteArrayList verdictsOfAProgram(const QByteArrayList& messages) {
         QByteArray all;
         for (const QByteArray& message : messages)
             all += QByteArray::number(message.size()) + '\n' + message;
@@ -105,6 +117,11 @@ TEST_F(Dkim, SignatureStandsInFrontAndNamesWhatItCovers) {
     EXPECT_FALSE(value.contains(";l=")) << "the whole body is signed";
 }
 
+TEST_F(Dkim, SignatureIsFolded) {
+    for (const QByteArray& line : compose(signedMessage()).text.whole().split('\n'))
+        EXPECT_LE(line.size(), 79) << line.constData();
+}
+
 TEST_F(Dkim, RestOfTheMessageIsAsWithoutIt) {
     const QByteArray data = compose(signedMessage()).text.whole();
     const QByteArray rest = data.mid(data.indexOf("\r\nFrom: ") + 2);
@@ -114,7 +131,7 @@ TEST_F(Dkim, RestOfTheMessageIsAsWithoutIt) {
     EXPECT_EQ(rest.left(rest.indexOf("Date:")), plain.left(plain.indexOf("Date:")));
 }
 
-TEST_F(Dkim, IndependentVerifierAcceptsEachKindOfMessage) {
+TEST_F(Dkim, IndependentVerifiersAcceptEachKindOfMessage) {
     const QString file = makeFile(s_folder->filePath("a.pdf"), QByteArray(300000, '\x01'));
     HostileValues values(7);
     QByteArrayList messages;

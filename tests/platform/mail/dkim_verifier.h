@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace compose {
+
+/// What libopendkim says of the signature of a message: "good", or why not. `text` is what the DNS answers
+/// for `name`; it has nothing for any other name.
+QByteArray openDkimVerdict(const QByteArray& message, const QByteArray& name, const QByteArray& text);
+
+}  // namespace compose
