@@ -39,6 +39,8 @@ QByteArray unboundFile(const QString& folder, const NameServer::Records& records
         text += unboundLine(host + ". A " + address);
     for (const auto& [name, target] : records.aliases)
         text += unboundLine(name + ". CNAME " + target + '.');
+    for (const QByteArray& record : records.others)
+        text += "  local-data: '" + record + "'\n";
     return text;
 }
 

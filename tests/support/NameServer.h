@@ -29,6 +29,7 @@ class NameServer {
         QList<Exchanger> exchangers;
         QList<Address> addresses;
         QList<Alias> aliases;
+        QByteArrayList others = {};  ///< further records in the form of a zone file; Unbound only
     };
 
     /// Waits until it answers.
