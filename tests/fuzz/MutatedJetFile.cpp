@@ -34,8 +34,6 @@ void removeFiles() {
 
 namespace {
 
-using Files = std::vector<std::string>;
-
 constexpr uintmax_t longestSample = 512 * 1024;
 
 void require(bool fine) {
@@ -120,22 +118,31 @@ std::string richFile() {
     return contentOf(fileName());
 }
 
+}  // namespace
+
 const Files& soundFiles() {
     static const Files files{soundFile(0, 0), soundFile(3, 60), soundFile(1500, 2), richFile()};
     return files;
 }
 
+Files samples(uintmax_t longest) {
+    std::vector<std::filesystem::path> paths;
+    if (std::filesystem::exists(SHARED_DIR "/mdb"))
+        for (const auto& entry : std::filesystem::directory_iterator(SHARED_DIR "/mdb"))
+            if (entry.path().extension() == ".mdb" && entry.file_size() <= longest)
+                paths.push_back(entry.path());
+    std::sort(paths.begin(), paths.end());
+    Files contents;
+    for (const auto& path : paths)
+        contents.push_back(contentOf(path.string()));
+    return contents;
+}
+
+namespace {
+
 const Files& sampleFiles() {
     static const Files files = [] {
-        std::vector<std::filesystem::path> paths;
-        if (std::filesystem::exists(SHARED_DIR "/mdb"))
-            for (const auto& entry : std::filesystem::directory_iterator(SHARED_DIR "/mdb"))
-                if (entry.path().extension() == ".mdb" && entry.file_size() <= longestSample)
-                    paths.push_back(entry.path());
-        std::sort(paths.begin(), paths.end());
-        Files contents;
-        for (const auto& path : paths)
-            contents.push_back(contentOf(path.string()));
+        Files contents = samples(longestSample);
         if (contents.empty()) std::printf("the samples are not here: inputs over them are skipped\n");
         return contents;
     }();
@@ -158,8 +165,12 @@ std::string fileOf(std::span<const uint8_t> input) {
 
 }  // namespace
 
-void writeFile(std::span<const uint8_t> input) {
+void leaveOutSyncs() {
     jet::setDiskHook(withoutSync);
+}
+
+void writeFile(std::span<const uint8_t> input) {
+    leaveOutSyncs();
     const std::string bytes = fileOf(input);
     removeFiles();
     std::ofstream(fileName(), std::ios::binary)

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 /// Jet files for fuzzing: sound ones with patches over them.
 namespace mutated {
@@ -11,8 +12,16 @@ namespace mutated {
 std::string fileName();
 void removeFiles();
 
-/// Writes the file that an input stands for, in place of one that was there; syncs are left out from here on,
-/// since the disk is no part of what is tried.
+using Files = std::vector<std::string>;
+/// The contents of sound files that are made here.
+const Files& soundFiles();
+/// Those of the samples of the shared folder up to that length, by name; none where they are not at hand.
+Files samples(uintmax_t longest);
+
+/// From here on the files are not synced, since the disk is no part of what is tried.
+void leaveOutSyncs();
+
+/// Writes the file that an input stands for, in place of one that was there, and leaves out syncs.
 ///
 /// The first byte of the input chooses a sound file, then patches of four bytes (page, u16 offset, value) are
 /// put over it; so most inputs come far. Below 80 the file is one made here; from 80 on it is a sample of the

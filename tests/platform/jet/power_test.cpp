@@ -3,37 +3,17 @@
 #include <random>
 
 #include "platform/jet/JournalFixture.h"
+#include "support/PowerDisk.h"
 
 namespace power_test {
 
+using power::afterPowerFailure;
+using power::Disk;
+using power::Recorded;
+using power::recordSteps;
+
 class PowerTest : public JournalTest {
   protected:
-    struct Recorded {
-        DiskStep::Kind kind;
-        bool journal;
-        uint64_t offset;
-        std::string bytes;
-    };
-
-    struct Disk {
-        std::string data;
-        std::string journal;
-        bool journalThere = false;
-    };
-
-    template <class Work>
-    std::vector<Recorded> recordSteps(Work&& work) {
-        std::vector<Recorded> steps;
-        setDiskHook([&](const DiskStep& disk) {
-            steps.push_back(
-                {disk.kind, disk.path.ends_with("-journal"), disk.offset,
-                 std::string(reinterpret_cast<const char*>(disk.bytes.data()), disk.bytes.size())});
-            return DiskStep::Outcome::Proceed;
-        });
-        work();
-        setDiskHook({});
-        return steps;
-    }
     std::vector<Recorded> record(const Database::Options& options) {
         std::vector<Recorded> steps = recordSteps([&] { EXPECT_OK(change(options)); });
         after = bytesOf(path());
@@ -45,51 +25,6 @@ class PowerTest : public JournalTest {
             writeBytes(journal(), disk.journal);
         else
             std::filesystem::remove(journal());
-    }
-
-    // Of a write the sectors that `reached` picks.
-    template <class Reached>
-    static void apply(Disk& disk, const Recorded& step, Reached&& reached) {
-        std::string& file = step.journal ? disk.journal : disk.data;
-        if (step.kind == DiskStep::Kind::Write) {
-            for (size_t at = 0; at < step.bytes.size(); at += 512) {
-                if (!reached()) continue;
-                const size_t length = std::min<size_t>(512, step.bytes.size() - at);
-                const size_t end = step.offset + at + length;
-                if (file.size() < end) file.resize(end, '\0');
-                file.replace(step.offset + at, length, step.bytes, at, length);
-            }
-        } else if (step.kind == DiskStep::Kind::Truncate ||
-                   (step.kind == DiskStep::Kind::Reserve && file.size() < step.offset)) {
-            if (reached()) file.resize(step.offset, '\0');
-        }
-    }
-
-    // The disk as it may look when power fails before step `end`.
-    template <class Random>
-    static Disk afterPowerFailure(Disk disk, const std::vector<Recorded>& steps, size_t end, Random& random) {
-        // What was synced is there for certain; the folder's own entries are as of its last sync.
-        size_t dataSynced = 0;
-        size_t journalSynced = 0;
-        size_t folderSynced = 0;
-        for (size_t i = 0; i < end; ++i) {
-            if (steps[i].kind == DiskStep::Kind::Sync) (steps[i].journal ? journalSynced : dataSynced) = i;
-            if (steps[i].kind == DiskStep::Kind::SyncFolder) folderSynced = i;
-        }
-        for (size_t i = 0; i < end; ++i) {
-            const Recorded& step = steps[i];
-            const bool certain = i < (step.journal ? journalSynced : dataSynced);
-            if (step.kind == DiskStep::Kind::Create || step.kind == DiskStep::Kind::Remove) {
-                if (i < folderSynced || random() % 2) disk.journalThere = step.kind == DiskStep::Kind::Create;
-                continue;
-            }
-            const uint32_t luck = static_cast<uint32_t>(random() % 4);
-            if (certain || luck == 0)
-                apply(disk, step, [] { return true; });
-            else if (luck == 1)  // torn
-                apply(disk, step, [&] { return random() % 2 == 0; });
-        }
-        return disk;
     }
 };
 

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+/// What a campaign of torture has met. Its program is called with a seed and a number of cases; from one seed
+/// the cases are always the same.
+struct Tally {
+    long cases = 0;         ///< that were played
+    long survived = 0;      ///< faults after which everything was as promised
+    long lost = 0;          ///< rows or changes that were promised and are not there
+    long damaged = 0;       ///< files in which a contradiction was found, answers that were wrong
+    long duplicates = 0;    ///< that no fault accounts for
+    std::string more = {};  ///< told beside the figures
+
+    /// Tells what went wrong, with what is needed to play it again.
+    template <class... Words>
+    void tell(const char* format, Words... words) const {
+        std::fprintf(stderr, format, words...);
+        std::fputc('\n', stderr);
+    }
+    /// Prints the figures as one line of JSON, which tests/torture/torture.py adds up. Gives the exit status.
+    int report(const char* campaign, unsigned seed) const {
+        std::printf(
+            "{\"campaign\": \"%s\", \"seed\": %u, \"cases\": %ld, \"survived\": %ld, \"lost\": %ld, "
+            "\"damaged\": %ld, \"duplicates\": %ld, \"more\": \"%s\"}\n",
+            campaign, seed, cases, survived, lost, damaged, duplicates, more.c_str());
+        return cases > 0 && lost + damaged + duplicates == 0 ? 0 : 1;
+    }
+};
+
+/// Seed and number of cases from the command line.
+struct Wanted {
+    unsigned seed;
+    int cases;
+
+    Wanted(int argc, char** argv) {
+        if (argc != 3) {
+            std::fprintf(stderr, "usage: %s SEED CASES\n", argv[0]);
+            std::exit(2);
+        }
+        seed = static_cast<unsigned>(std::strtoul(argv[1], nullptr, 10));
+        cases = std::atoi(argv[2]);
+    }
+};
