@@ -178,8 +178,7 @@ std::optional<int64_t> wantedNumber(sqlite3_value* value, Type type) {
         const double real = sqlite3_value_double(value);
         if (real == std::trunc(real) && std::fabs(real) < 9e15) number = static_cast<int64_t>(real);
     }
-    // SQLite's True is 1, the database's own is -1.
-    if (type == Type::YesNo && number && *number != 0 && *number != 1 && *number != -1) return std::nullopt;
+    if (type == Type::YesNo && number && *number != 0 && *number != -1) return std::nullopt;
     return number;
 }
 
@@ -240,7 +239,7 @@ void giveText(sqlite3_context* context, const std::string& text) {
 }
 
 void give(sqlite3_context* context, const jet::Value& value) {
-    if (const auto* yes = std::get_if<bool>(&value)) return sqlite3_result_int(context, *yes);
+    if (const auto* yes = std::get_if<bool>(&value)) return sqlite3_result_int(context, *yes ? -1 : 0);
     if (const auto* number = std::get_if<int64_t>(&value)) return sqlite3_result_int64(context, *number);
     if (const auto* real = std::get_if<double>(&value)) return sqlite3_result_double(context, *real);
     if (const auto* date = std::get_if<jet::Date>(&value)) return sqlite3_result_double(context, date->days);

@@ -176,14 +176,24 @@ std::optional<jet::Value> valueOf(const SqlToken& token) {
     return std::nullopt;
 }
 
-/// Takes the literals out of the text, so that statements that differ in nothing else are compiled once.
+/// Takes the literals out of the text, so that statements that differ in nothing else are compiled once. True
+/// is -1, as the databases have it; SQLite's own is 1.
 Status takeLiterals(const Tokens& tokens, StatementText& statement) {
     QByteArray sql;
     qsizetype copied = 0;
+    const auto replace = [&](const SqlToken& token, const char* by) {
+        sql.append(statement.sql.constData() + copied, token.at - copied).append(by);
+        copied = token.end;
+    };
+    bool ordering = false;
     for (const SqlToken& token : tokens) {
+        if (token.is("TRUE")) {
+            replace(token, "(-1)");
+            continue;
+        }
         // A number behind these words may be a column's.
-        const bool ordering = token.is("ORDER") || token.is("GROUP");
-        if (ordering || statement.values.size() == mostParameters) break;
+        ordering = ordering || token.is("ORDER") || token.is("GROUP");
+        if (ordering || statement.values.size() == mostParameters) continue;
         std::optional<jet::Value> value;
         if (token.kind == Kind::Date) {
             const std::optional<double> days = readDate(toText(token.text), DateOrder::MonthFirst);
@@ -195,8 +205,7 @@ Status takeLiterals(const Tokens& tokens, StatementText& statement) {
         }
         if (!value) continue;
         statement.values.push_back(std::move(*value));
-        sql.append(statement.sql.constData() + copied, token.at - copied).append('?');
-        copied = token.end;
+        replace(token, "?");
     }
     sql.append(statement.sql.constData() + copied, statement.sql.size() - copied);
     statement.sql = std::move(sql);

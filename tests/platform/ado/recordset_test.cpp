@@ -113,6 +113,18 @@ TEST_F(RecordsetTest, TrueIsMinusOneAtTheRecordsetsEdge) {
     EXPECT_EQ(values.value(u"id").value(), Value(1));
 }
 
+TEST_F(RecordsetTest, TrueSortsBeforeFalseHoweverTheRowsAreFound) {
+    for (const char* row : {"1, False", "2, True", "1, True"})
+        run(QStringLiteral("INSERT INTO [tb_destinatari] (id_grp, sel) VALUES (%1)").arg(QLatin1String(row)));
+    for (const char* found : {"", " WHERE id_grp IN (1, 2)", " WHERE id_grp = 1 OR sel = True"})
+        EXPECT_EQ(
+            column(("SELECT * FROM [tb_destinatari]" + std::string(found) + " ORDER BY sel, id").c_str(),
+                   "id"),
+            "2|3|1")
+            << found;
+    EXPECT_EQ(column("SELECT * FROM [tb_destinatari] WHERE NOT (sel = True) OR id_grp = 7", "id"), "1");
+}
+
 TEST_F(RecordsetTest, OrdersWithoutCaseAccentsBehindBaseLettersNullFirst) {
     for (const char* name :
          {"'zeta'", "'Per\u00f2'", "'perone'", "'PERO'", "Null", "''", "'pera'", "'9'", "'10'"})

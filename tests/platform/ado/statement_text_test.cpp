@@ -133,7 +133,7 @@ TEST(StatementText, OneRowOfLiteralsIsInserted) {
 TEST(StatementText, LiteralsAreTakenOutOfTheText) {
     const auto shape = [](const char* text) { return accepted(text).sql.toStdString(); };
     const StatementText insert = accepted("INSERT INTO t (a, b, c, d) VALUES (12, 'L''oro', -1.5, True) ;");
-    EXPECT_EQ(insert.sql.toStdString(), "INSERT INTO t (a, b, c, d) VALUES (?, ?, -?, True) ;");
+    EXPECT_EQ(insert.sql.toStdString(), "INSERT INTO t (a, b, c, d) VALUES (?, ?, -?, (-1)) ;");
     EXPECT_EQ(insert.values, (std::vector<jet::Value>{int64_t{12}, std::string("L'oro"), 1.5}));
     EXPECT_EQ(shape("SELECT * FROM [a'1'] WHERE b = 'x' ORDER BY 2"),
               "SELECT * FROM [a'1'] WHERE b = ? ORDER BY 2");
