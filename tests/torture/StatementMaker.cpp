@@ -38,7 +38,10 @@ QString StatementMaker::comparison() {
     };
     switch (below(14)) {
         case 0:
-            return QStringLiteral("[sel] = ") + (below(2) ? "True" : "False");
+            return QStringLiteral("[sel] %1 %2")
+                .arg(below(3) ? "=" : relation, QLatin1String(below(2)   ? "True"
+                                                              : below(2) ? "False"
+                                                                         : "-1"));
         case 1:
             return column + (below(2) ? " Is Null" : " Is Not Null");
         case 2:

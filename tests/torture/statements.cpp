@@ -52,10 +52,9 @@ class Plain {
     ~Plain() { sqlite3_close(m_sqlite); }
     Plain(const Plain&) = delete;
 
-    /// True is -1 to the program's databases and 1 here, so a column of them sorts the other way round.
+    /// True is -1 to the program's databases and 1 to SQLite.
     Answer run(QString text) {
-        const QByteArray sql =
-            text.replace(" sel ASC", " -sel ASC").replace(" sel DESC", " -sel DESC").toUtf8();
+        const QByteArray sql = text.replace("True", "-1").toUtf8();
         sqlite3_stmt* statement = nullptr;
         Answer answer;
         const int before = sqlite3_total_changes(m_sqlite);
@@ -126,7 +125,7 @@ class Ours {
             if (value.value().isNull())
                 cells << "(null)";
             else if (value.value().type() == ado::Value::Type::YesNo)
-                cells << (value.value().toBool().value() ? "1" : "0");
+                cells << (value.value().toBool().value() ? "-1" : "0");
             else
                 cells << value.value().toTextOrEmpty(QLocale::c());
         }
