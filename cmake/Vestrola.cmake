@@ -44,45 +44,6 @@ function(vestrola_windows)
   target_sources(vestrola_windows PRIVATE ${ARGN})
 endfunction()
 
-# vestrola_gtest(<name> SOURCES ... LIBRARIES ...): a GoogleTest program with a QCoreApplication
-function(vestrola_gtest name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE vestrola_options vestrola_test_main GTest::gtest ${ARG_LIBRARIES})
-  target_compile_options(${name} PRIVATE ${VESTROLA_TEST_OPTIONS})
-  target_precompile_headers(${name} REUSE_FROM precompiled_gtest)
-  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
-                                             SHARED_DIR="${CMAKE_SOURCE_DIR}/../shared"
-                                             TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
-  add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
-endfunction()
-
-# vestrola_qtest(<name> SOURCES ... LIBRARIES ...): a Qt Test program with real widgets, offscreen
-function(vestrola_qtest name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
-  foreach(source ${ARG_SOURCES})
-    file(STRINGS ${source} includes_moc REGEX "^#include \".*\\.moc\"$")
-    if(includes_moc)
-      get_filename_component(base ${source} NAME_WE)
-      qt6_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${base}.moc TARGET ${name})
-      target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${base}.moc)
-    endif()
-  endforeach()
-  target_link_libraries(${name} PRIVATE vestrola_options Qt6::Test Qt6::Widgets ${ARG_LIBRARIES})
-  target_compile_options(${name} PRIVATE ${VESTROLA_TEST_OPTIONS})
-  target_precompile_headers(${name} REUSE_FROM precompiled_qtest)
-  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
-  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
-                                             TEST_BIN_DIR="${CMAKE_BINARY_DIR}")
-  add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-                       "${VESTROLA_WINDOW_ENVIRONMENT}")
-endfunction()
-
 # vestrola_fuzz(<name> SOURCES ... LIBRARIES ...): a libFuzzer target when fuzzing is built; otherwise a
 # program that replays its seed corpus tests/fuzz/corpus/<name>, run as a test
 function(vestrola_fuzz name)

@@ -7,6 +7,8 @@
 #include "support/PrivateKeyring.h"
 #include "support/Vectors.h"
 
+namespace portachiavi_test {
+
 namespace keyring = sys::keyring;
 
 namespace {
@@ -195,3 +197,5 @@ TEST(SenzaSessione, ProgramOutlivesItsSessionBus) {
     EXPECT_FALSE(keyring::available());
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
 }
+
+}  // namespace portachiavi_test

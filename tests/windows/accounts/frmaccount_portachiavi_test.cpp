@@ -4,7 +4,10 @@
 #include "modules/accounts/Portachiavi.h"
 #include "modules/core/bImpostazioni.h"
 #include "support/PrivateKeyring.h"
+#include "support/TestClass.h"
 #include "windows/accounts/frmaccount_stage.h"
+
+namespace frmaccount_portachiavi_test {
 
 using testing_support::AccountStage;
 
@@ -102,5 +105,8 @@ class TestFrmAccountPortachiavi : public QObject {
     }
 };
 
-QTEST_MAIN(TestFrmAccountPortachiavi)
+TEST_CLASS(TestFrmAccountPortachiavi);
+
+}  // namespace frmaccount_portachiavi_test
+
 #include "frmaccount_portachiavi_test.moc"
