@@ -93,16 +93,8 @@ class frmMain : public QMainWindow {
     /// Shows in the status bar what is waited for; an empty text brings back what stood there.
     void MostraAttesa(const QString& testo);
 
-    /// The open dialog for a recipient database; empty when it was cancelled.
-    static std::optional<QString> ChiediDatabase();
-    /// Makes another database the current one: path file, connection text, no current node, and an empty grid
-    /// that is bound to it.
-    void CambiaDatabase(const QString& percorso);
     /// The grid without rows; it stays so until a group is clicked.
     void SvuotaGriglia();
-    /// Turns the commands that stand on a bar and in a pop-up menu on or off. To be called after nodoCorrente
-    /// or the rows of the grid have changed.
-    void AggiornaComandi();
 
   protected:
     /// Every way of closing the window ends the program: layout and placement are saved, no other window is
@@ -112,6 +104,15 @@ class frmMain : public QMainWindow {
     void changeEvent(QEvent* cambiamento) override;
 
   private:
+    /// The open dialog for a recipient database; empty when it was cancelled.
+    static std::optional<QString> ChiediDatabase();
+    /// Makes another database the current one: path file, connection text, no current node, and an empty grid
+    /// that is bound to it.
+    void CambiaDatabase(const QString& percorso);
+    /// Turns the commands that stand on a bar and in a pop-up menu on or off. To be called after nodoCorrente
+    /// or the rows of the grid have changed.
+    void AggiornaComandi();
+
     // frmMain_barre.cpp: menus, bars, status bar
     void CreaComandi();
     void CreaMenu();
