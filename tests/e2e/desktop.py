@@ -34,8 +34,13 @@ def inside(size="1280x1000"):
         screen = subprocess.Popen(["Xvfb", "-displayfd", str(server), "-screen", "0", size + "x24", "-nolisten", "tcp",
                                    "-fbdir", frame], pass_fds=[server], stderr=subprocess.DEVNULL)
         os.close(server)
+        # The bus of assistive programs puts its socket there; in the user's folder it would be named after the screen alone,
+        # and an ended session's bus could take away that of the next on a screen of the same number.
+        runtime = pathlib.Path(frame) / "runtime"
+        runtime.mkdir(mode=0o700)
         with os.fdopen(own) as display:
-            environment = {**os.environ, INSIDE: frame, "DISPLAY": ":" + display.readline().strip()}
+            environment = {**os.environ, INSIDE: frame, "DISPLAY": ":" + display.readline().strip(),
+                           "XDG_RUNTIME_DIR": str(runtime)}
         try:
             raise SystemExit(subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment,
                                             check=False).returncode)
