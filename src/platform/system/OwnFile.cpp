@@ -64,13 +64,26 @@ bool writeAll(int file, const QByteArray& bytes) {
     return ::fsync(file) == 0;
 }
 
-Result<QByteArray> readUpTo(int open, qint64 limit) {
+Result<QByteArray> readPart(int open, qint64 offset, qint64 size) {
     QFile file;
-    if (!file.open(open, QIODevice::ReadOnly)) return Status(ErrorCode::DeviceIo, file.errorString());
-    QByteArray bytes = file.read(limit + 1);
+    if (!file.open(open, QIODevice::ReadOnly) || !file.seek(offset))
+        return Status(ErrorCode::DeviceIo, file.errorString());
+    QByteArray bytes = file.read(size);
     if (file.error() != QFileDevice::NoError) return Status(ErrorCode::DeviceIo, file.errorString());
-    if (bytes.size() > limit) return Status(ErrorCode::Overflow, QString());
     return bytes;
+}
+
+Result<QByteArray> readUpTo(int open, qint64 limit) {
+    Result<QByteArray> bytes = readPart(open, 0, limit + 1);
+    if (bytes.ok() && bytes.value().size() > limit) return Status(ErrorCode::Overflow, QString());
+    return bytes;
+}
+
+Status isOrdinary(const Open& open) {
+    struct stat found {};
+    if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
+    if (!S_ISREG(found.st_mode)) return {ErrorCode::PathAccess, QString()};
+    return {};
 }
 
 }  // namespace
@@ -96,10 +109,15 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit) {
     if (!folderIsSafe(path)) return Status(ErrorCode::PathAccess, QString());
     const Open open(path, O_RDONLY | O_NONBLOCK);
-    struct stat found {};
-    if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
-    if (!S_ISREG(found.st_mode)) return Status(ErrorCode::PathAccess, QString());
+    if (Status ordinary = isOrdinary(open); !ordinary.ok()) return ordinary;
     return readUpTo(open.get(), limit);
+}
+
+Result<QByteArray> readOwnFilePart(const QString& path, qint64 offset, qint64 size) {
+    if (!folderIsSafe(path)) return Status(ErrorCode::PathAccess, QString());
+    const Open open(path, O_RDONLY | O_NONBLOCK);
+    if (Status ordinary = isOrdinary(open); !ordinary.ok()) return ordinary;
+    return readPart(open.get(), offset, size);
 }
 
 Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others others) {

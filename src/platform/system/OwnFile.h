@@ -21,6 +21,9 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes);
 /// `limit`.
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit);
 
+/// At most `size` octets of an ordinary file from `offset` on; fewer at its end.
+Result<QByteArray> readOwnFilePart(const QString& path, qint64 offset, qint64 size);
+
 /// What users may do with a file besides its owner, who is the user or the administrator.
 enum class Others { Nothing, Read };
 
