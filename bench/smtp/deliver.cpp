@@ -1,6 +1,7 @@
-// deliver <host> <port> <messages> <octets> [<attachment> <support log>]: composes personalised messages of
-// about that size, the attachment not counted, and delivers them one after the other over one delivery
-// control, as the send window does. Prints one line of JSON.
+// deliver <host> <port> <messages> <octets> [<attachment> <support log> | <book>]: composes personalised
+// messages of about that size, the attachment not counted, and delivers them one after the other over one
+// delivery control, as the send window does. <book> is the folder of a book of outcomes, ending in "/"; "-"
+// is none, and the messages bear numbers all the same. Prints one line of JSON.
 #include <cstdio>
 #include <cstdlib>
 
@@ -46,6 +47,12 @@ class Run : public QObject {
         m_smtp.LogEnabled = true;
     }
 
+    void keepBook(const QString& folder) {
+        if (folder != u"-") m_smtp.BookFolder = folder;
+        m_numbered = true;
+        m_smtp.BeginRun();
+    }
+
     void next() {
         if (m_left-- == 0) {
             QCoreApplication::quit();
@@ -60,6 +67,10 @@ class Run : public QObject {
         m_smtp.Subject = personal(QStringLiteral("Notizie per :::nom:::"));
         m_smtp.ToName = name;
         m_smtp.ToAddress = QStringLiteral("rossi%1@cliente.example").arg(m_left);
+        if (m_numbered) {
+            m_smtp.BeginTick();
+            m_smtp.RecipientNumber = m_left;
+        }
         m_smtp.Send();
     }
 
@@ -71,18 +82,21 @@ class Run : public QObject {
     QString m_text;
     QElapsedTimer m_clock;
     int m_left;
+    bool m_numbered = false;
 };
 
 }  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    if (argc != 5 && argc != 7) {
-        std::fprintf(stderr, "deliver <host> <port> <messages> <octets> [<attachment> <support log>]\n");
+    if (argc < 5 || argc > 7) {
+        std::fprintf(stderr,
+                     "deliver <host> <port> <messages> <octets> [<attachment> <support log> | <book>]\n");
         return 2;
     }
     const int messages = std::atoi(argv[3]);
     Run run(QString::fromLocal8Bit(argv[1]), quint16(std::atoi(argv[2])), messages, std::atoi(argv[4]));
+    if (argc == 6) run.keepBook(QString::fromLocal8Bit(argv[5]));
     if (argc == 7) {
         run.attach(QString::fromLocal8Bit(argv[5]));
         run.keepLog(QString::fromLocal8Bit(argv[6]));

@@ -12,6 +12,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import socket
 import subprocess
 import sys
@@ -47,9 +48,9 @@ def sink(work):
         process.wait()
 
 
-def deliver(build, port, count):
+def deliver(build, port, count, *book):
     """Messages a second, as our program measures them: without its start."""
-    done = subprocess.run([str(build / "bench/smtp/bench_smtp_deliver"), "127.0.0.1", str(port), str(count), str(SIZE)],
+    done = subprocess.run([str(build / "bench/smtp/bench_smtp_deliver"), "127.0.0.1", str(port), str(count), str(SIZE), *book],
                           stdout=subprocess.PIPE, text=True, check=True)
     return json.loads(done.stdout)["perSecond"]
 
@@ -109,6 +110,21 @@ def delayed(build, port, flights):
         proxy.wait()
 
 
+def with_book(build, work, port, rounds):
+    """The same delivery with and without the book of outcomes, in turns."""
+    book = work / "esiti"
+    shutil.rmtree(book, ignore_errors=True)
+    kept, none = [], []
+    for one in range(rounds):
+        for where, figures in ((f"{book}/", kept), ("-", none))[::-1 if one % 2 else 1]:
+            figures.append(deliver(build, port, 2000, where))
+    lines = [file.read_bytes().count(b"\n") for file in book.iterdir()]
+    assert lines == [2001] * rounds
+    ratio = tools.median(kept) / tools.median(none)
+    return {"name": "deliver with the book of outcomes", "value": tools.median(kept), "unit": "messages/s",
+            "peer": "the same without", "ratio": ratio, "goal": 0.95, "met": ratio >= 0.95}
+
+
 def record(name, ours, peers, goal):
     ratio = tools.median(ours) / tools.median(peers)
     return {"name": name, "value": tools.median(ours), "unit": "messages/s", "peer": "smtp-source -d",
@@ -127,6 +143,7 @@ def main():
         records.append(record("deliver 2,000 messages of 10 KB", ours, peers, 1.0))
 
         records.append(with_attachment(build, work, port, 5))
+        records.append(with_book(build, work, port, 3 * rounds))
 
         ours, peers, flights = [], [], []
         count = 100

@@ -115,7 +115,7 @@ void SmtpSink::takeRecipient(QTcpSocket* socket, Session& session, const QByteAr
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         m_sessions.remove(socket);
     } else if (treatment == Treatment::Refuse) {
-        answer(socket, "550 not here\r\n");
+        answer(socket, m_refusals.value(recipient, "550 not here") + "\r\n");
     } else {
         session.message.recipient = recipient;
         answer(socket, "250 ok\r\n");

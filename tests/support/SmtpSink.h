@@ -38,6 +38,11 @@ class SmtpSink : public QObject {
 
     quint16 port() const { return m_server.serverPort(); }
     void treat(const QByteArray& recipient, Treatment treatment) { m_treatments[recipient] = treatment; }
+    /// Answers RCPT with this line, and goes on.
+    void refuse(const QByteArray& recipient, const QByteArray& reply) {
+        treat(recipient, Treatment::Refuse);
+        m_refusals[recipient] = reply;
+    }
     /// Answers come this many milliseconds late.
     void setDelay(int ms) { m_delayMs = ms; }
     /// Gives the recipients whose message is held, the oldest first.
@@ -84,6 +89,7 @@ class SmtpSink : public QObject {
     QList<Held> m_held;
     QHash<QTcpSocket*, Session> m_sessions;
     QHash<QByteArray, Treatment> m_treatments;
+    QHash<QByteArray, QByteArray> m_refusals;
     std::function<void(const Message&)> m_onMessage;
     QList<Message> m_messages;
     QStringList m_attempts;

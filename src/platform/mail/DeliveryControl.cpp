@@ -52,7 +52,7 @@ void DeliveryControl::Send() {
     m_insideSend = true;
     m_clock.start();
     const bool addressIsFresh = ToAddress.useUp();
-    m_current = {DatabaseFile::at(Database), RecipientNumber, ToAddress.text()};
+    m_current = {DatabaseFile::at(Database), RecipientNumber, addressIsFresh ? ToAddress.text() : QString()};
     m_recipient = ToAddress.text().left(longestShown);
     m_messageId.clear();
     m_transcript.setFile(LogEnabled ? LogFile : QString());
@@ -72,12 +72,13 @@ void DeliveryControl::Send() {
 
 void DeliveryControl::startNew(const QString& host) {
     if (host.isEmpty()) {
-        finish({false, 0, whyNoHost()});
+        finish({false, 0, whyNoHost(), false, DeliveryStage::NotTried,
+                OpportunisticTls ? DeliveryCause::NoServer : DeliveryCause::Program});
         return;
     }
     // An address is no mail exchanger (RFC 5321 5.1), whosever it is.
     if (PublicServersOnly && !QHostAddress(host).isNull()) {
-        finish({false, 0, noMailServer()});
+        finish({false, 0, noMailServer(), false, DeliveryStage::NotTried, DeliveryCause::NoServer});
         return;
     }
     if (UseAuth && sys::keyring::isMarker(UserPassword)) {
@@ -131,8 +132,9 @@ MessageData DeliveryControl::data() const {
 void DeliveryControl::Abort() {
     m_stopped = true;
     if (!m_running) return;
+    const DeliveryStage reached = m_session.busy() ? m_session.stage() : DeliveryStage::NotTried;
     giveUp();
-    m_outcome = {false, 0, QStringLiteral("Invio interrotto.")};
+    m_outcome = {false, 0, QStringLiteral("Invio interrotto."), false, reached, DeliveryCause::Stopped};
     report();
 }
 
@@ -149,6 +151,7 @@ void DeliveryControl::report() {
     const DeliveryOutcome outcome = std::exchange(m_outcome, {});
     m_running = false;
     if (outcome.delivered) noteAccepted(m_current);
+    noteOutcome(outcome);
     if (const QString verdict = m_transcript.active() ? verdictOf(outcome) : QString(); !verdict.isEmpty())
         m_transcript.remark(m_transcript.withoutSecrets(verdict));
     log(QStringLiteral("%1: %2").arg(

@@ -14,6 +14,7 @@
 #include "platform/mail/AcceptedList.h"
 #include "platform/mail/AwaitedReply.h"
 #include "platform/mail/Composer.h"
+#include "platform/mail/OutcomeFile.h"
 #include "platform/mail/RecipientNumber.h"
 #include "platform/mail/Route.h"
 #include "platform/mail/SmtpSession.h"
@@ -96,6 +97,10 @@ class DeliveryControl : public QObject {
     QString TlsListFile;             ///< see Route
     QString ClearListFile;           ///< see Route
     QString DkimFolder;              ///< see DkimSigner
+    /// The book of outcomes: BeginRun() starts a file in this folder (its name ends in "/") for the messages
+    /// with a number; see OutcomeFile. Empty: none is kept.
+    QString BookFolder;
+    QString BookTitle;  ///< what the run is called there
 
     /// A new run: messages with a number may be sent again after an Abort. What was accepted counts for the
     /// run before until a tick begins: a tick that is under way has read its row already.
@@ -115,6 +120,10 @@ class DeliveryControl : public QObject {
     bool Awaiting() const;
     /// Opens the support log now, where one is asked for: why it cannot be written, if so.
     Status OpenLog();
+    /// What the book says of the last message of the run that was not delivered; none where there is none.
+    std::optional<OutcomeLine> LastFailure() const { return m_book ? m_book->lastFailure() : std::nullopt; }
+    /// Why the book cannot be written, if it cannot.
+    Status BookStatus() const { return m_book ? m_book->status() : Status(); }
     /// Writes a line of the caller into the support log, if there is one.
     void Remark(const QString& text);
 
@@ -159,6 +168,7 @@ class DeliveryControl : public QObject {
     struct GivenUp {
         Recipient recipient;
         std::unique_ptr<AwaitedReply> reply;
+        std::shared_ptr<OutcomeFile> book;  ///< of its run
     };
     /// A message that waits until fewer replies are awaited.
     struct Waiting {
@@ -171,6 +181,8 @@ class DeliveryControl : public QObject {
     // DeliveryControl_run.cpp: whom a message is for, and what becomes of those that were given up
     QString whyNotSent(bool addressIsFresh) const;
     void noteAccepted(const Recipient& accepted);
+    void noteOutcome(const DeliveryOutcome& outcome);
+    void enter(OutcomeFile& book, const Recipient& recipient, const DeliveryOutcome& outcome);
     AwaitedReply* awaitedFor(const Recipient& recipient) const;
     void giveUp();
     void onLateReply(AwaitedReply* reply, bool accepted, int code);
@@ -201,6 +213,7 @@ class DeliveryControl : public QObject {
     bool m_runIsNew = false;  ///< since BeginRun no tick has begun
     QSet<RunKey> m_acceptedInRun;
     Recipient m_current;
+    std::shared_ptr<OutcomeFile> m_book;  ///< of the run
     std::vector<GivenUp> m_awaited;
     AwaitedReply* m_awaitedHere = nullptr;  ///< the running message takes the outcome of this one
     std::optional<Waiting> m_waiting;

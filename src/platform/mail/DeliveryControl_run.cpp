@@ -11,6 +11,15 @@ namespace {
 
 constexpr size_t mostAwaited = 2;
 
+DeliveryOutcome lateOutcome(bool accepted, int code) {
+    return {accepted,
+            code,
+            QStringLiteral("Risposta in ritardo al messaggio di prima"),
+            false,
+            DeliveryStage::Body,
+            DeliveryCause::Server};
+}
+
 }  // namespace
 
 /// Empty: it may be sent.
@@ -37,11 +46,31 @@ void DeliveryControl::noteAccepted(const Recipient& accepted) {
     if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
 }
 
+/// The book learns of an outcome before the caller does.
+void DeliveryControl::noteOutcome(const DeliveryOutcome& outcome) {
+    if (m_book && m_current.number != recipient::outsideRun) enter(*m_book, m_current, outcome);
+}
+
+void DeliveryControl::enter(OutcomeFile& book, const Recipient& recipient, const DeliveryOutcome& outcome) {
+    OutcomeLine line = OutcomeLine::of(outcome, m_transcript.withoutSecrets(outcome.text));
+    line.time = QDateTime::currentDateTimeUtc();
+    if (recipient.number != recipient::nobody) {
+        line.number = recipient.number;
+        line.address = recipient.address;
+    }
+    const bool wasSound = book.status().ok();
+    book.add(recipient.database, line);
+    if (wasSound && !book.status().ok())
+        m_transcript.remark(QStringLiteral("Registro degli esiti: ") + book.status().text());
+}
+
 void DeliveryControl::BeginRun() {
     m_stopped = false;
     m_runIsNew = true;
     m_session.beginRun();
     m_tokens.beginRun();
+    m_book =
+        BookFolder.isEmpty() ? nullptr : std::make_shared<OutcomeFile>(BookFolder, FromAddress, BookTitle);
 }
 
 void DeliveryControl::BeginTick() {
@@ -96,7 +125,7 @@ void DeliveryControl::giveUp() {
     AwaitedReply* const shown = reply.get();
     connect(shown, &AwaitedReply::ended, this,
             [this, shown](bool accepted, int code) { onLateReply(shown, accepted, code); });
-    m_awaited.push_back({m_current, std::move(reply)});
+    m_awaited.push_back({m_current, std::move(reply), m_book});
     m_transcript.remark(
         QStringLiteral("La risposta al messaggio per %1 è attesa in disparte").arg(m_recipient));
     shown->look();
@@ -110,13 +139,15 @@ void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) 
     reply->setParent(this);
     awaited.reply.release()->deleteLater();
     if (accepted) noteAccepted(awaited.recipient);
+    if (awaited.book && code != 0 && awaited.recipient.number != recipient::outsideRun)
+        enter(*awaited.book, awaited.recipient, lateOutcome(accepted, code));
     m_transcript.remark(QStringLiteral("Risposta in ritardo al messaggio per %1: %2")
                             .arg(awaited.recipient.address.left(longestShown),
                                  code ? QString::number(code) : QStringLiteral("nessuna")));
     m_transcript.flush();
     if (reply == m_awaitedHere) {
         m_awaitedHere = nullptr;
-        finish({accepted, code, QStringLiteral("Risposta in ritardo al messaggio di prima")});
+        finish(lateOutcome(accepted, code));
     }
     startWaiting();
     if (m_awaited.empty()) Q_EMIT AwaitedEnded();

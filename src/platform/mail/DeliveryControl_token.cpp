@@ -17,7 +17,7 @@ void DeliveryControl::deliver(const Waiting& waiting) {
 
 void DeliveryControl::onToken(const Waiting& waiting, const Result<oauth::Access>& access) {
     if (!access.ok()) {
-        m_outcome = {false, 0, access.status().text(), true};
+        m_outcome = {false, 0, access.status().text(), true, DeliveryStage::Login};
         m_deferred.start();
         return;
     }

@@ -96,6 +96,37 @@ void SmtpSession::beginRun() {
     m_refusedLogin.forget();
 }
 
+DeliveryStage SmtpSession::stage() const {
+    if (!m_socket || !m_connected.isValid()) return DeliveryStage::Connecting;
+    if (m_handshaking) return DeliveryStage::Tls;
+    return stageOf(m_expected.isEmpty() ? m_answered : m_expected.first());
+}
+
+DeliveryStage SmtpSession::stageOf(Step step) {
+    switch (step) {
+        case Step::Greeting:
+            return DeliveryStage::Greeting;
+        case Step::Ehlo:
+        case Step::Helo:
+            return DeliveryStage::Hello;
+        case Step::StartTls:
+            return DeliveryStage::Tls;
+        case Step::Auth:
+            return DeliveryStage::Login;
+        case Step::Reset:
+        case Step::Mail:
+            return DeliveryStage::Sender;
+        case Step::Recipient:
+            return DeliveryStage::Recipient;
+        case Step::Data:
+        case Step::EmptyBody:
+            return DeliveryStage::Data;
+        case Step::Body:
+            return DeliveryStage::Body;
+    }
+    return DeliveryStage::Connecting;
+}
+
 std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
     m_busy = false;
     m_stall.stop();
@@ -127,6 +158,7 @@ void SmtpSession::open(LocalPort localPort) {
     m_socket->setProxy(QNetworkProxy::NoProxy);
     m_socket->setReadBufferSize(readBufferSize);
     m_authenticated = m_needsReset = m_startTlsRefused = false;
+    m_connected.invalidate();
     m_taken.invalidate();
     m_heloOnly = m_route.greetWithHelo;
     m_mustEncrypt =
@@ -181,7 +213,7 @@ void SmtpSession::onLookedUp(const QHostInfo& found) {
         m_transcript.remark(QStringLiteral("%1 ha solo indirizzi di reti interne: se è un server della "
                                            "propria rete, scriverne il nome in mx-interni.txt")
                                 .arg(m_route.host));
-        lost(0, noMailServer());
+        lost(0, noMailServer(), Loss::Dead, DeliveryCause::NoServer);
     }
 }
 
@@ -302,7 +334,7 @@ void SmtpSession::onTimeout() {
         if (!m_lookedAgain || !m_busy) return;
     }
     if (limitMs() > m_times.stall && m_expected.first() == Step::Greeting) noteGreeting();
-    lost(0, QStringLiteral("Tempo scaduto: il server non risponde."));
+    lost(0, QStringLiteral("Tempo scaduto: il server non risponde."), Loss::Dead, DeliveryCause::TimedOut);
 }
 
 bool SmtpSession::isTaking(int descriptor) {
@@ -346,14 +378,16 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
     lost(0, m_handshaking ? handshakeFailure() : describe(error, *m_socket, m_route));
 }
 
-void SmtpSession::lost(int code, const QString& why, Loss loss) {
+void SmtpSession::lost(int code, const QString& why, Loss loss, DeliveryCause cause) {
     const bool accepted = wasAccepted();
+    const DeliveryStage reached = code != 0 ? stageOf(m_answered) : stage();
     const QByteArray reply = accepted ? m_input.mid(m_inputRead, longestReplyShown) : QByteArray();
     dropConnection();
     if (!m_busy) return;
     if (accepted) {
         m_transcript.received(acceptanceCode(reply), reply.mid(4));
-        conclude({true, acceptanceCode(reply), printable(reply.mid(4))});
+        conclude(
+            {true, acceptanceCode(reply), printable(reply.mid(4)), false, reached, DeliveryCause::Server});
         return;
     }
     if (m_inFlight && loss != Loss::Farewell) endFlights();
@@ -363,17 +397,13 @@ void SmtpSession::lost(int code, const QString& why, Loss loss) {
         open();
         return;
     }
-    fail(code, why);
+    conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why, false, reached, cause});
 }
 
 /// Whether the server has surely taken nothing of the message on a connection that is lost.
 bool SmtpSession::nothingTaken(Loss loss) const {
     if (m_inFlight) return loss == Loss::Farewell;
     return loss == Loss::Disorder ? !m_mailAccepted : !m_pointGiven;
-}
-
-void SmtpSession::fail(int code, const QString& why) {
-    conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why});
 }
 
 void SmtpSession::conclude(const DeliveryOutcome& outcome) {

@@ -72,6 +72,10 @@ class SmtpSession : public QObject {
     /// Forgets which hosts greet in time, and a login that was refused.
     void beginRun();
 
+    bool busy() const { return m_busy; }
+    /// How far the running delivery has got.
+    DeliveryStage stage() const;
+
   Q_SIGNALS:
     /// The delivery has ended; a new one may be started at once.
     void finished(const mail::DeliveryOutcome& outcome);
@@ -86,6 +90,8 @@ class SmtpSession : public QObject {
     /// was to come.
     enum class Loss { Dead, Farewell, Disorder };
 
+    static DeliveryStage stageOf(Step step);
+
     // SmtpSession.cpp: life of a connection and of a delivery
     void open(LocalPort localPort = LocalPort::AsTold);
     void connectToServer();
@@ -93,9 +99,9 @@ class SmtpSession : public QObject {
     void connectToNext();
     void dropConnection();
     void quit();
-    void lost(int code, const QString& why, Loss loss = Loss::Dead);
+    void lost(int code, const QString& why, Loss loss = Loss::Dead,
+              DeliveryCause cause = DeliveryCause::Server);
     bool nothingTaken(Loss loss) const;
-    void fail(int code, const QString& why);
     void conclude(const DeliveryOutcome& outcome);
     void progress();
     int limitMs() const;
@@ -121,6 +127,7 @@ class SmtpSession : public QObject {
     void onBodyReply(const SmtpReply& reply);
     void reject(const SmtpReply& reply);
     void refuse(const SmtpReply& reply);
+    DeliveryOutcome refusal(const SmtpReply& reply) const;
     void settleRefusal();
     void command(Step step, const QByteArray& line);
     void command(Step step, const QByteArray& line, const QByteArray& shown);
@@ -174,16 +181,17 @@ class SmtpSession : public QObject {
     bool m_mustEncrypt = false;       ///< the account's server offers TLS, or has offered it before
     int m_lookup = -1;                ///< number of the look-up of the host that is under way
     QList<QHostAddress> m_addresses;  ///< of the host, judged, that were not tried yet
-    QElapsedTimer m_connected;
-    QElapsedTimer m_taken;     ///< since the connection took a message; not valid before it has
-    QSet<QString> m_greeters;  ///< hosts that get no more than the user's time for their greeting
-    QSet<QString> m_grounded;  ///< hosts that get nothing in one flight in this run any more
+    QElapsedTimer m_connected;        ///< not valid while it connects
+    QElapsedTimer m_taken;            ///< since the connection took a message; not valid before it has
+    QSet<QString> m_greeters;         ///< hosts that get no more than the user's time for their greeting
+    QSet<QString> m_grounded;         ///< hosts that get nothing in one flight in this run any more
     SmtpExtensions m_extensions;
     QByteArray m_input;
     qsizetype m_inputRead = 0;
     QByteArray m_output;
-    QList<Step> m_expected;  ///< steps whose replies are outstanding
-    QList<Step> m_plan;      ///< steps of the envelope that are still to be sent
+    QList<Step> m_expected;            ///< steps whose replies are outstanding
+    Step m_answered = Step::Greeting;  ///< the step of the last reply
+    QList<Step> m_plan;                ///< steps of the envelope that are still to be sent
 
     std::optional<Login> m_login;  ///< under way
     RefusedLogin m_refusedLogin;

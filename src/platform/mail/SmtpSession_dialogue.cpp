@@ -77,6 +77,7 @@ bool SmtpSession::inputLeft() const {
 }
 
 void SmtpSession::onReply(Step step, const SmtpReply& reply) {
+    m_answered = step;
     const bool challenge = step == Step::Auth && reply.intermediate();
     m_transcript.received(reply.code, challenge ? QByteArrayView("(omesso)") : QByteArrayView(reply.text));
     if (reply.code == 421) {
@@ -178,7 +179,8 @@ void SmtpSession::afterHello() {
         conclude({false, 0,
                   QStringLiteral("Il server non offre più la connessione TLS, che ha offerto in passato. Per "
                                  "dimenticarlo cancellare la sua riga dal file %1.")
-                      .arg(m_route.tlsListFile)});
+                      .arg(m_route.tlsListFile),
+                  false, DeliveryStage::Tls});
     } else if (m_route.login && !m_authenticated) {
         startLogin();
     } else {
@@ -190,7 +192,8 @@ void SmtpSession::afterHello() {
 
 void SmtpSession::startTransaction() {
     if (m_message.needsSmtputf8 && !m_extensions.smtputf8) {
-        conclude({false, 0, QStringLiteral("Il server non accetta indirizzi con caratteri internazionali.")});
+        conclude({false, 0, QStringLiteral("Il server non accetta indirizzi con caratteri internazionali."),
+                  false, DeliveryStage::Sender});
         return;
     }
     if (mayFly()) {
@@ -241,11 +244,16 @@ void SmtpSession::onEnvelopeReply(Step step, const SmtpReply& reply) {
 void SmtpSession::refuse(const SmtpReply& reply) {
     if (m_refused) return;
     m_refused = true;
-    m_refusal = {false, reply.code, printable(reply.text)};
+    m_refusal = refusal(reply);
+}
+
+/// What a reply that is no acceptance to the step that it answers ends in.
+DeliveryOutcome SmtpSession::refusal(const SmtpReply& reply) const {
+    return {false, reply.code, printable(reply.text), false, stageOf(m_answered), DeliveryCause::Server};
 }
 
 void SmtpSession::reject(const SmtpReply& reply) {
-    conclude({false, reply.code, printable(reply.text)});
+    conclude(refusal(reply));
 }
 
 void SmtpSession::settleRefusal() {
@@ -322,8 +330,8 @@ void SmtpSession::onBodyReply(const SmtpReply& reply) {
     const bool delivered = reply.positive() && complete && !m_refused;
     m_needsReset = !delivered;
     if (delivered) m_taken.start();
-    const DeliveryOutcome outcome =
-        m_refused ? m_refusal : DeliveryOutcome{delivered, reply.code, printable(reply.text)};
+    DeliveryOutcome outcome = m_refused ? m_refusal : refusal(reply);
+    outcome.delivered = delivered;
     if (!complete || isOutOfStep(reply)) {
         if (m_inFlight) endFlights();
         dropConnection();

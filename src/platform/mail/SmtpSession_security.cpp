@@ -120,7 +120,7 @@ void SmtpSession::startLogin() {
              QStringLiteral("Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta "
                             "da TLS con un certificato valido.")
                  .arg(m_route.host),
-             true});
+             true, DeliveryStage::Login});
         return;
     }
     m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password, m_route.port, m_route.bearer},
@@ -152,7 +152,12 @@ void SmtpSession::takeLoginStep(const LoginStep& step) {
 }
 
 void SmtpSession::failLogin(const LoginStep& step) {
-    const DeliveryOutcome outcome{false, step.code, step.text, true};
+    const DeliveryOutcome outcome{false,
+                                  step.code,
+                                  step.text,
+                                  true,
+                                  DeliveryStage::Login,
+                                  step.code != 0 ? DeliveryCause::Server : DeliveryCause::Program};
     if (step.credentialsRefused) m_refusedLogin.note(m_route, outcome, m_times.refusedLogin);
     conclude(outcome);
 }

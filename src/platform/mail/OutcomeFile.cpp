@@ -1,0 +1,68 @@
+#include "platform/mail/OutcomeFile.h"
+
+#include <utility>
+
+#include "platform/mail/OutcomeBook.h"
+#include "platform/system/Clock.h"
+#include "platform/system/OutputFile.h"
+#include "platform/system/OwnFile.h"
+
+namespace mail {
+
+OutcomeFile::OutcomeFile(QString folder, QString sender, QString title) : m_folder(std::move(folder)) {
+    m_head.sender = std::move(sender);
+    m_head.title = std::move(title);
+    m_head.begun = sys::clock().now().toUTC();
+}
+
+void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
+    if (line.number) {
+        const QPair key(database.path, *line.number);
+        if (m_delivered.contains(key)) return;
+        if (line.kind == OutcomeKind::Delivered) m_delivered.insert(key);
+    }
+    if (!m_file.isOpen()) {
+        m_head.database = database;
+        open();
+        if (!m_file.isOpen() || !write(m_head.bytes())) return;
+    } else if (!m_head.database.same(database)) {
+        m_head.database = database;
+        if (!write(m_head.bytes())) return;
+    }
+    const qint64 begin = m_size;
+    if (write(line.bytes()) && line.kind != OutcomeKind::Delivered) m_lastFailure = begin;
+}
+
+void OutcomeFile::open() {
+    m_status = sys::makeOwnFolder(m_folder.chopped(1));
+    if (!m_status.ok()) {
+        m_status = {ErrorCode::PathAccess,
+                    QStringLiteral("La cartella \"%1\" non si può creare.").arg(m_folder)};
+        return;
+    }
+    m_path = m_folder + outcomes::newFileName(m_head.begun);
+    m_status = sys::openForWriting(m_file, m_path, sys::WriteMode::Append, sys::FileKind::Secret);
+    if (m_status.ok()) outcomes::removeOld(m_folder);
+}
+
+bool OutcomeFile::write(const QByteArray& line) {
+    if (m_file.write(line) == line.size() && m_file.flush()) {
+        m_size += line.size();
+        m_status = {};
+        return true;
+    }
+    m_status = {ErrorCode::DeviceIo,
+                QStringLiteral("Il file \"%1\" non si può scrivere: %2").arg(m_path, m_file.errorString())};
+    return false;
+}
+
+std::optional<OutcomeLine> OutcomeFile::lastFailure() const {
+    if (!m_lastFailure) return std::nullopt;
+    const auto part = sys::readOwnFilePart(m_path, *m_lastFailure, longestOutcomeLine);
+    if (!part.ok()) return std::nullopt;
+    const qsizetype end = part.value().indexOf('\n');
+    if (end < 0) return std::nullopt;
+    return parseOutcomeLine(QByteArrayView(part.value()).first(end));
+}
+
+}  // namespace mail

@@ -1,0 +1,48 @@
+// The file in which the delivery control writes down what becomes of the messages of one run.
+#pragma once
+
+#include <optional>
+#include <QFile>
+#include <QPair>
+#include <QSet>
+#include <QString>
+
+#include "platform/mail/OutcomeLine.h"
+#include "platform/Status.h"
+
+namespace mail {
+
+/// One file of the book of outcomes (docs/formats/esiti.md): append-only, made for its owner alone when its
+/// first line is written. A file that cannot be written never harms a delivery.
+class OutcomeFile {
+  public:
+    /// `folder` ends in "/" and is made where it is missing; its own folder must exist.
+    OutcomeFile(QString folder, QString sender, QString title);
+
+    /// Appends a line about a row of this database and hands it to the system. Where that fails status()
+    /// tells why; what could not be written is tried again with the next line. Whoever is entered as
+    /// delivered stays so: he is met again, and refused by the control, where his row could not be marked.
+    void add(const DatabaseFile& database, const OutcomeLine& line);
+
+    /// Why the last line could not be written, if it could not.
+    const Status& status() const { return m_status; }
+
+    /// The last line that tells of no delivery, read from the file; none where there is none, or where the
+    /// file has gone.
+    std::optional<OutcomeLine> lastFailure() const;
+
+  private:
+    void open();
+    bool write(const QByteArray& line);
+
+    const QString m_folder;
+    OutcomeHead m_head;
+    QString m_path;
+    QFile m_file;
+    Status m_status;
+    qint64 m_size = 0;
+    QSet<QPair<QString, qint64>> m_delivered;  ///< path of the database, number
+    std::optional<qint64> m_lastFailure;       ///< where its line begins
+};
+
+}  // namespace mail

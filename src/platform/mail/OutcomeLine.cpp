@@ -1,0 +1,216 @@
+#include "platform/mail/OutcomeLine.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <utility>
+
+#include "platform/mail/SmtpReply.h"
+
+namespace mail {
+
+namespace {
+
+constexpr std::array kindNames{std::pair{OutcomeKind::Delivered, QLatin1String("consegnato")},
+                               std::pair{OutcomeKind::Refused, QLatin1String("rifiutato")},
+                               std::pair{OutcomeKind::NoAnswer, QLatin1String("senza risposta")},
+                               std::pair{OutcomeKind::NotSent, QLatin1String("non spedito")}};
+
+constexpr std::array stageNames{std::pair{DeliveryStage::NotTried, QLatin1String("prima")},
+                                std::pair{DeliveryStage::Connecting, QLatin1String("connessione")},
+                                std::pair{DeliveryStage::Greeting, QLatin1String("saluto")},
+                                std::pair{DeliveryStage::Hello, QLatin1String("ehlo")},
+                                std::pair{DeliveryStage::Tls, QLatin1String("tls")},
+                                std::pair{DeliveryStage::Login, QLatin1String("accesso")},
+                                std::pair{DeliveryStage::Sender, QLatin1String("mittente")},
+                                std::pair{DeliveryStage::Recipient, QLatin1String("destinatario")},
+                                std::pair{DeliveryStage::Data, QLatin1String("data")},
+                                std::pair{DeliveryStage::Body, QLatin1String("messaggio")}};
+
+constexpr std::array causeNames{std::pair{DeliveryCause::Server, QLatin1String("server")},
+                                std::pair{DeliveryCause::TimedOut, QLatin1String("tempo")},
+                                std::pair{DeliveryCause::NoServer, QLatin1String("nessun server")},
+                                std::pair{DeliveryCause::Stopped, QLatin1String("fermato")},
+                                std::pair{DeliveryCause::Program, QLatin1String("programma")}};
+
+template <class Value, class Names>
+QString nameOf(Value value, const Names& names) {
+    return std::find_if(names.begin(), names.end(), [&](const auto& one) { return one.first == value; })
+        ->second;
+}
+
+template <class Names>
+auto valueOf(const QJsonValue& name, const Names& names) {
+    using Value = decltype(names.front().first);
+    const QString text = name.toString();
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&](const auto& one) { return text == one.second; });
+    return found == names.end() ? std::optional<Value>() : std::optional<Value>(found->first);
+}
+
+QString shortened(const QString& text) {
+    if (text.size() <= OutcomeLine::longestText) return text;
+    const bool halved = text.at(OutcomeLine::longestText - 2).isHighSurrogate();
+    return text.left(OutcomeLine::longestText - (halved ? 2 : 1)) + u'…';
+}
+
+/// Writes an object (RFC 8259) in one line. The library's own writer takes ten times as long, which shows in
+/// a run.
+class LineWriter {
+  public:
+    LineWriter() { m_line.reserve(512); }
+
+    void text(const char* name, const QString& value) {
+        begin(name);
+        m_line += '"';
+        for (const char c : value.toUtf8()) {
+            if (c == '"' || c == '\\')
+                (m_line += '\\') += c;
+            else if (static_cast<unsigned char>(c) < ' ')
+                m_line += "\\u00" + QByteArray(1, c).toHex();
+            else
+                m_line += c;
+        }
+        m_line += '"';
+    }
+    void number(const char* name, qint64 value) {
+        begin(name);
+        m_line += QByteArray::number(value);
+    }
+    QByteArray finished() { return m_line + "}\n"; }
+
+  private:
+    void begin(const char* name) {
+        m_line += m_line.isEmpty() ? "{\"" : ",\"";
+        m_line += name;
+        m_line += "\":";
+    }
+
+    QByteArray m_line;
+};
+
+std::optional<QJsonObject> objectOf(QByteArrayView line) {
+    if (line.size() >= longestOutcomeLine) return std::nullopt;
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size()));
+    if (!document.isObject()) return std::nullopt;
+    return document.object();
+}
+
+QDateTime timeOf(const QJsonValue& text) {
+    return QDateTime::fromString(text.toString(), Qt::ISODateWithMs).toUTC();
+}
+
+/// Years that can be written with four digits in each time zone.
+bool isSensible(const QDateTime& time) {
+    return time.isValid() && time.date().year() > 1900 && time.date().year() < 9999;
+}
+
+OutcomeKind kindOf(const DeliveryOutcome& outcome) {
+    if (outcome.delivered) return OutcomeKind::Delivered;
+    if (outcome.code != 0) return OutcomeKind::Refused;
+    const bool given = outcome.stage == DeliveryStage::Body;
+    switch (outcome.cause) {
+        case DeliveryCause::Program:
+            return OutcomeKind::NotSent;
+        case DeliveryCause::Stopped:
+            return given ? OutcomeKind::NoAnswer : OutcomeKind::NotSent;
+        default:
+            return OutcomeKind::NoAnswer;
+    }
+}
+
+}  // namespace
+
+OutcomeLine OutcomeLine::of(const DeliveryOutcome& outcome, const QString& words) {
+    OutcomeLine line;
+    line.kind = kindOf(outcome);
+    line.stage = outcome.stage;
+    line.cause = outcome.cause;
+    line.code = outcome.code;
+    line.status = enhancedStatus(outcome.code, outcome.text);
+    line.words = words;
+    return line;
+}
+
+QByteArray OutcomeLine::bytes() const {
+    LineWriter line;
+    line.text("ora", time.toUTC().toString(Qt::ISODateWithMs));
+    if (number) line.number("numero", *number);
+    line.text("indirizzo", shortened(address));
+    line.text("esito", nameOf(kind, kindNames));
+    line.text("fase", nameOf(stage, stageNames));
+    line.text("causa", nameOf(cause, causeNames));
+    if (code != 0) line.number("codice", code);
+    if (!status.isEmpty()) line.text("stato", status);
+    line.text("risposta", shortened(words));
+    return line.finished();
+}
+
+QByteArray OutcomeHead::bytes() const {
+    LineWriter line;
+    line.text("formato", QStringLiteral("Vestrola esiti 1"));
+    line.text("inizio", begun.toUTC().toString(Qt::ISODateWithMs));
+    // A path may be longer than any other text here: cut, it would name another file.
+    line.text("database", database.path.size() > 4096 ? QString() : database.path);
+    line.text("dispositivo", QString::number(database.device));
+    line.text("inode", QString::number(database.inode));
+    line.text("mittente", shortened(sender));
+    line.text("oggetto", shortened(title));
+    return line.finished();
+}
+
+std::optional<OutcomeHead> parseOutcomeHead(QByteArrayView line) {
+    const auto object = objectOf(line);
+    if (!object || object->value(u"formato").toString() != u"Vestrola esiti 1") return std::nullopt;
+    OutcomeHead head;
+    head.begun = timeOf(object->value(u"inizio"));
+    if (!isSensible(head.begun)) return std::nullopt;
+    head.database.path = object->value(u"database").toString();
+    head.database.device = object->value(u"dispositivo").toString().toULongLong();
+    head.database.inode = object->value(u"inode").toString().toULongLong();
+    head.sender = printable(shortened(object->value(u"mittente").toString()).toUtf8());
+    head.title = printable(shortened(object->value(u"oggetto").toString()).toUtf8());
+    return head;
+}
+
+std::optional<OutcomeLine> parseOutcomeLine(QByteArrayView text) {
+    const auto object = objectOf(text);
+    if (!object) return std::nullopt;
+    const auto kind = valueOf(object->value(u"esito"), kindNames);
+    const auto stage = valueOf(object->value(u"fase"), stageNames);
+    const auto cause = valueOf(object->value(u"causa"), causeNames);
+    if (!kind || !stage || !cause) return std::nullopt;
+    OutcomeLine line;
+    line.kind = *kind;
+    line.stage = *stage;
+    line.cause = *cause;
+    line.time = timeOf(object->value(u"ora"));
+    if (!isSensible(line.time)) return std::nullopt;
+    if (const QJsonValue number = object->value(u"numero"); !number.isUndefined()) {
+        constexpr auto none = std::numeric_limits<qint64>::min();  // no row's number
+        line.number = number.toInteger(none);
+        if (*line.number == none) return std::nullopt;
+    }
+    line.address = object->value(u"indirizzo").toString();
+    if (line.address.size() > OutcomeLine::longestText || !line.address.isValidUtf16()) return std::nullopt;
+    line.code = object->value(u"codice").toInt();
+    if (line.code < 0 || line.code > 999) return std::nullopt;
+    line.status = enhancedStatus(line.code, object->value(u"stato").toString());
+    line.words = printable(shortened(object->value(u"risposta").toString()).toUtf8());
+    return line;
+}
+
+QString enhancedStatus(int code, QStringView text) {
+    const QStringView word = text.left(text.indexOf(u' ') < 0 ? text.size() : text.indexOf(u' '));
+    const QList<QStringView> parts = word.split(u'.');
+    const auto isNumber = [](QStringView part) {
+        return !part.isEmpty() && part.size() <= 3 &&
+               std::ranges::all_of(part, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    };
+    if (parts.size() != 3 || parts[0].size() != 1 || !std::ranges::all_of(parts, isNumber)) return {};
+    return parts[0].at(0).unicode() - u'0' == code / 100 ? word.toString() : QString();
+}
+
+}  // namespace mail
