@@ -10,11 +10,13 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSet>
 #include <QSplitterHandle>
 #include <QStatusBar>
 #include <QStyle>
@@ -196,6 +198,37 @@ QStringList faultsOfAccess(QWidget& window) {
             faults << fault(*widget, "is not named");
         if (widget->width() < smallest || widget->height() < smallest) faults << fault(*widget, "is small");
     }
+    return faults;
+}
+
+QStringList faultsOfMnemonics(QWidget& window) {
+    QStringList faults;
+    const auto verify = [&](const QStringList& captions) {
+        QSet<QChar> letters;
+        for (const QString& caption : captions) {
+            const QString plain = QString(caption).remove("&&");
+            const qsizetype at = plain.indexOf('&');
+            if (at < 0 || at + 1 == plain.size()) continue;
+            const QChar letter = plain[at + 1].toLower();
+            if (letters.contains(letter)) faults << QString("%1: %2").arg(captions.join(", "), letter);
+            letters << letter;
+        }
+    };
+    QList<const QWidget*> menus;
+    for (const auto* menu : window.findChildren<QMenu*>())
+        menus << menu;
+    for (const auto* bar : window.findChildren<QMenuBar*>())
+        menus << bar;
+    for (const QWidget* menu : menus) {
+        QStringList captions;
+        for (const QAction* action : menu->actions())
+            captions << action->text();
+        verify(captions);
+    }
+    QStringList captions;
+    for (const auto* button : window.findChildren<QPushButton*>())
+        if (button->window() == &window) captions << button->text();
+    verify(captions);
     return faults;
 }
 

@@ -17,6 +17,9 @@ QStringList faultsOfContrast(QWidget& window);
 /// programs, or that are smaller than 24 by 24.
 QStringList faultsOfAccess(QWidget& window);
 
+/// Mnemonics that two entries of one menu, or two buttons of the window, share.
+QStringList faultsOfMnemonics(QWidget& window);
+
 /// Object names of the controls that are on and take the Tab key: in the order in which assistive programs
 /// read them, and in that of the key.
 QStringList orderRead(QWidget& window);

@@ -52,9 +52,10 @@ struct Windows {
     StoreStage stage;
     bool stretched;
 
-    explicit Windows(bool longTexts = false) : stretched(longTexts) {
+    explicit Windows(bool longTexts = false, const QByteArray& language = "Italiano") : stretched(longTexts) {
         writeTo(stage.folder.path("LANG.lng"),
                 stretched ? withLongerTexts(installedTexts()) : installedTexts());
+        writeTo(stage.folder.path("LANGz.lng"), language + "\r\n");
         stage.folder.addAccount(SampleFolder::loopbackAccount(25));
         stage.addGroup(1, "Rivenditori");
         for (const char* name : {"Alfa S.r.l.", "Beta S.p.A.", "Gamma S.n.c."})
@@ -107,6 +108,10 @@ struct Windows {
     }
 };
 
+/// The installed languages besides Italian, as the file names them.
+const QList<std::pair<const char*, const char*>> otherLanguages{
+    {"English", "English"}, {"Spanish", "Espa\361ol"}, {"French", "Fran\347ais"}, {"German", "Deutsch"}};
+
 class LargerFont {
   public:
     explicit LargerFont(double factor) : m_before(QApplication::font()) {
@@ -131,20 +136,32 @@ class TestWindows : public QObject {
         QVERIFY(faults.isEmpty());
     }
 
+    static void languages() {
+        QTest::addColumn<QByteArray>("language");
+        QTest::newRow("Italian") << QByteArray("Italiano");
+        for (const auto& [name, language] : otherLanguages)
+            QTest::newRow(name) << QByteArray(language);
+    }
+
   private Q_SLOTS:
     void nothingIsCutOrCovered_data() {
         QTest::addColumn<double>("font");
         QTest::addColumn<bool>("longTexts");
-        QTest::newRow("as designed") << 1.0 << false;
-        QTest::newRow("texts a third longer") << 1.0 << true;
-        QTest::newRow("font 40 percent larger") << 1.4 << false;
-        QTest::newRow("larger font and longer texts") << 1.4 << true;
+        QTest::addColumn<QByteArray>("language");
+        const QByteArray italian = "Italiano";
+        QTest::newRow("as designed") << 1.0 << false << italian;
+        QTest::newRow("texts a third longer") << 1.0 << true << italian;
+        QTest::newRow("font 40 percent larger") << 1.4 << false << italian;
+        QTest::newRow("larger font and longer texts") << 1.4 << true << italian;
+        for (const auto& [name, language] : otherLanguages)
+            QTest::newRow(name) << 1.0 << false << QByteArray(language);
     }
     void nothingIsCutOrCovered() {
         QFETCH(double, font);
         QFETCH(bool, longTexts);
+        QFETCH(QByteArray, language);
         const LargerFont larger(font);
-        Windows windows(longTexts);
+        Windows windows(longTexts, language);
         QStringList faults;
         windows.each([&](QWidget& window, const QString& name) {
             faults += faultsOfLayout(window);
@@ -153,8 +170,19 @@ class TestWindows : public QObject {
         none(faults);
     }
 
+    void mnemonicsOfAMenuOrAWindowAreDistinct_data() { languages(); }
+    void mnemonicsOfAMenuOrAWindowAreDistinct() {
+        QFETCH(QByteArray, language);
+        Windows windows(false, language);
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString&) { faults += faultsOfMnemonics(window); });
+        none(faults);
+    }
+
+    void headsOfTheColumnsFitTheirFirstWidths_data() { languages(); }
     void headsOfTheColumnsFitTheirFirstWidths() {
-        Windows windows;
+        QFETCH(QByteArray, language);
+        Windows windows(false, language);
         const QHeaderView& heads = *windows.stage.grd().horizontalHeader();
         for (int column = 0; column < heads.count(); ++column) {
             if (heads.isSectionHidden(column)) continue;
@@ -164,8 +192,10 @@ class TestWindows : public QObject {
         }
     }
 
+    void windowsFitASmallScreen_data() { languages(); }
     void windowsFitASmallScreen() {
-        Windows windows;
+        QFETCH(QByteArray, language);
+        Windows windows(false, language);
         windows.each([](QWidget& window, const QString& name) {
             QVERIFY2(window.width() <= 1280 && window.height() <= 700, qPrintable(name));
         });

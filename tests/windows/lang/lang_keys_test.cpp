@@ -225,6 +225,9 @@ class TestLangKeys : public QObject {
         QTest::addColumn<int>("number");
         QTest::newRow("italian") << QByteArray("Italiano") << 1;
         QTest::newRow("english") << QByteArray("English") << 2;
+        QTest::newRow("spanish") << QByteArray("Espa\361ol") << 3;
+        QTest::newRow("french") << QByteArray("Fran\347ais") << 4;
+        QTest::newRow("german") << QByteArray("Deutsch") << 5;
     }
     void theInstalledFileHasEveryTextInEveryLanguage() {
         LangStage stage;
@@ -250,7 +253,7 @@ class TestLangKeys : public QObject {
         stage.install("English");
         QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Language");
         QCOMPARE(finestre::Main().Commands().GetToolButton("cmdInvia")->Caption(), "&Send messages");
-        QCOMPARE(finestre::Destinatario().prp->Item("CAP")->Caption(), "Postcode");
+        QCOMPARE(finestre::Destinatario().prp->Item("CAP")->Caption(), "ZIP");
         QCOMPARE(finestre::Invia().windowTitle(), " Send messages");
         QCOMPARE(finestre::Account().findChild<QLabel*>("lbl(9)")->text(), "PORT");
         QVERIFY(!finestre::Account().isVisible());

@@ -93,12 +93,14 @@ class TestLangWindows : public QObject {
         QCOMPARE(box.text, "La nuova lingua sarà usata dal prossimo avvio del programma.");
         QCOMPARE(box.title, "Attenzione");
         QCOMPARE(box.style, int(MessageDialog::Notice));
-        QCOMPARE(entriesOfTheList(), QStringList({">> Italiano <<", "English"}));
+        QCOMPARE(entriesOfTheList(),
+                 QStringList({">> Italiano <<", "English", "Español", "Français", "Deutsch"}));
         QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Lingua");
 
         finestre::dimentica();
         finestre::Main();
-        QCOMPARE(entriesOfTheList(), QStringList({"Italiano", ">> English <<"}));
+        QCOMPARE(entriesOfTheList(),
+                 QStringList({"Italiano", ">> English <<", "Español", "Français", "Deutsch"}));
         QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Language");
     }
 
