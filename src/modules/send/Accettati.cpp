@@ -109,3 +109,9 @@ void DimenticaAccettatiDelGruppo(const QString& numero) {
 void DimenticaAccettati() {
     Dimentica(NumeriRicordati());
 }
+
+void DimenticaAccettati(const QList<qint64>& numeri) {
+    QList<qint64> suoi = NumeriRicordati();
+    suoi.removeIf([&](qint64 uno) { return !numeri.contains(uno); });
+    Dimentica(suoi);
+}

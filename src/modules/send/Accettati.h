@@ -25,6 +25,8 @@ void DimenticaAccettato(const QString& id);
 void DimenticaAccettatiDelGruppo(const QString& numero);
 /// The same for all recipients of the database.
 void DimenticaAccettati();
+/// The same for these.
+void DimenticaAccettati(const QList<qint64>& numeri);
 
 /// The messages of the current database whose reply the send window still awaits. It sets all three when it
 /// is made, and takes them away when it goes.
