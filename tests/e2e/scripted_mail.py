@@ -66,7 +66,7 @@ class ScriptedMail:
                 recipient = named or recipient
                 if named in self.refused:
                     recipient = None
-                    connection.sendall(b"550 unknown here\r\n")
+                    connection.sendall(b"550 5.1.1 unknown here\r\n")
                     continue
                 connection.sendall(b"250 ok\r\n")
 

@@ -11,6 +11,7 @@ class AccessibleCount : public QAccessibleWidget {
     explicit AccessibleCount(CountLabel* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Name) return static_cast<CountLabel*>(widget())->text();
+        if (kind == QAccessible::Description) return static_cast<CountLabel*>(widget())->hint.text();
         return QAccessibleWidget::text(kind);
     }
     QAccessible::State state() const override {
@@ -32,6 +33,11 @@ CountLabel::CountLabel(const QString& text, QWidget* parent) : QLabel(text, pare
     Q_UNUSED(installed)
     // A label with a name of its own tells nothing when its text changes. The name that is read is the text.
     setAccessibleName(QStringLiteral(" "));
+}
+
+bool CountLabel::event(QEvent* event) {
+    hint.prepare(*this, *event);
+    return QLabel::event(event);
 }
 
 void CountLabel::tell() {

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "platform/ui/Hint.h"
+
 namespace ui {
 
 /// A label whose text changes often. Assistive programs find the present text in it at any time, but are told
@@ -13,6 +15,12 @@ class CountLabel : public QLabel {
     explicit CountLabel(const QString& text, QWidget* parent = nullptr);
 
     void tell();
+
+    /// What more there is to say, for tool tip and description.
+    Hint hint;
+
+  protected:
+    bool event(QEvent* event) override;
 };
 
 }  // namespace ui

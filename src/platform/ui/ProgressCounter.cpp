@@ -21,6 +21,7 @@ class AccessibleCounter : public QAccessibleWidget, public QAccessibleValueInter
     }
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Value) return widget()->locale().toString(counter()->value(), 'f', 0);
+        if (kind == QAccessible::Description) return counter()->hint.text();
         return QAccessibleWidget::text(kind);
     }
     QVariant currentValue() const override { return counter()->value(); }
@@ -59,6 +60,11 @@ void ProgressCounter::setValue(double value) {
     constexpr qint64 secondsBetween = 5;
     if (value == 0 || !m_toldAt.isValid() || m_toldAt.secsTo(sys::clock().now()) >= secondsBetween) tell();
     Q_EMIT valueChanged(value);
+}
+
+bool ProgressCounter::event(QEvent* event) {
+    hint.prepare(*this, *event);
+    return QWidget::event(event);
 }
 
 void ProgressCounter::tell() {

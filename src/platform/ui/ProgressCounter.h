@@ -4,6 +4,8 @@
 #include <QDateTime>
 #include <QWidget>
 
+#include "platform/ui/Hint.h"
+
 namespace ui {
 
 /// A progress bar that is also a counter: it holds its value and its maximum as they were given, also outside
@@ -30,6 +32,9 @@ class ProgressCounter : public QWidget {
     /// Colour of the filled part; the palette's highlight colour where none was set.
     void setBarColor(const QColor& color);
 
+    /// What more there is to say, for tool tip and description.
+    Hint hint;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -37,6 +42,7 @@ class ProgressCounter : public QWidget {
     void valueChanged(double value);
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -16,6 +16,7 @@
 #include "windows/shell/frmSplash.h"
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/griglia.h"
+#include "windows/strumenti/frmEsiti.h"
 
 // The program ends without unloading its windows, so nothing here is destroyed at the end.
 
@@ -49,6 +50,10 @@ frmAccount& finestre::Account() {
 
 frmInvia& finestre::Invia() {
     return dialogo<frmInvia>(Main(), griglia::RiempiGriglia);
+}
+
+frmEsiti& finestre::Esiti() {
+    return dialogo<frmEsiti>(Main(), griglia::RiempiGriglia);
 }
 
 frmDestinatario& finestre::Destinatario() {

@@ -3,6 +3,7 @@
 class frmAccount;
 class frmDestinatario;
 class frmEditor;
+class frmEsiti;
 class frmImpDB;
 class frmImpTXT;
 class frmInfoSu;
@@ -21,6 +22,7 @@ namespace finestre {
 ::frmMain& Main();
 ::frmAccount& Account();
 ::frmInvia& Invia();
+::frmEsiti& Esiti();
 ::frmDestinatario& Destinatario();
 ::frmInfoSu& InfoSu();
 ::frmEditor& Editor();

@@ -1,8 +1,23 @@
 #include "windows/entry/Strumenti.h"
 
+#include "windows/entry/Finestre.h"
+#include "windows/strumenti/frmEsiti.h"
+
+namespace {
+
+void apriEsiti() {
+    frmEsiti& esiti = finestre::Esiti();
+    esiti.Carica();
+    esiti.exec();
+}
+
+}  // namespace
+
 // Mnemonics in the order of the menu: &Prova, &mittente, &Esito; &Indirizzi, &cartelle; &Ultima.
 std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
-    const frmMain::GruppoStrumenti invio{};
+    const frmMain::GruppoStrumenti invio{{"cmdStrumentiEsiti", "&Esito degli invii...",
+                                          "Chi ha ricevuto i messaggi, chi no e perché", "view-list-details",
+                                          apriEsiti}};
     const frmMain::GruppoStrumenti destinatari{};
     const frmMain::GruppoStrumenti importazione{};
     return {invio, destinatari, importazione};

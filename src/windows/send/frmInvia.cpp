@@ -33,6 +33,7 @@ frmInvia::frmInvia(std::function<void()> riempiGriglia, QWidget* parent)
     CreaControlli();
     DisponiControlli();
     CollegaEtichette();
+    CollegaSuggerimenti();
     CollegaEventi();
     SMTP->Accepted = &accettati();
     risposteAttese() = {[this] { SMTP->Settle(); }, [this] { return SMTP->Awaited(percorsoDB); },

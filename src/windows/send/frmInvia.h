@@ -106,6 +106,11 @@ class frmInvia : public QDialog {
     void DipingiConteggi();
     void RaccontaConteggi(bool finito);
 
+    // frmInvia_suggerimenti.cpp: what tool tips and descriptions say more
+    void CollegaSuggerimenti();
+    QString DettagliDaInviare() const;
+    QString DettagliFallite() const;
+
     // frmInvia_limiti.cpp: pause, time-out and log
     void ImpostaPausa(Prosegui& prosegui);
     void ImpostaTimeout(Prosegui& prosegui);
@@ -159,5 +164,7 @@ class frmInvia : public QDialog {
     QStringList filePermessi;  ///< attachments and images of the run, links resolved
     QString disiscrizione;     ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;
+    QString cartelleScelte;    ///< folders of the selection with their counts, at the last SetPrgBar
+    QDateTime inizioInvio;     ///< of the run
     QDateTime ultimoRacconto;  ///< when assistive programs were told the figures last
 };

@@ -17,6 +17,8 @@
 #include "modules/message/MessaggioMss.h"
 #include "modules/send/Accettati.h"
 #include "modules/send/bMXQuery.h"
+#include "modules/send/Cartelle.h"
+#include "modules/send/Esiti.h"
 #include "modules/send/MxInterni.h"
 #include "modules/send/Porta.h"
 #include "modules/send/Selezione.h"
@@ -25,6 +27,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/mail/DkimSigner.h"
 #include "platform/mail/Unsubscribe.h"
+#include "platform/system/Clock.h"
 #include "platform/text/NumberText.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
@@ -46,6 +49,8 @@ void frmInvia::SetPrgBar() {
     AggiornaDaInviare(conto);
     AggiornaFallite(0);
     AggiornaInviate(0);
+    cartelleScelte = CartelleSelezionate();
+    inizioInvio = {};
 }
 
 void frmInvia::CaricaDati() {
@@ -236,4 +241,7 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     SMTP->ClearListFile = cartellaDati() + "senza-tls.txt";
     SMTP->DkimFolder = cartellaDati() + "dkim";
     SMTP->OAuthFolder = cartellaDati() + "oauth";
+    SMTP->BookFolder = esiti::Acceso() ? esiti::Cartella() : QString();
+    SMTP->BookTitle = oggettoMail;
+    inizioInvio = sys::clock().now();
 }
