@@ -1,6 +1,7 @@
 #include "platform/jet/DataPages.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "platform/jet/Failure.h"
 
@@ -14,6 +15,7 @@ size_t lowestStart(const Page& page, size_t count) {
 
 void storeFree(Page& page) {
     const size_t count = load16(&page[data::slotCount]);
+    assert(count <= data::maxSlots && lowestStart(page, count) >= data::slots + 2 * count);  // P1
     store16(&page[data::freeBytes],
             static_cast<uint32_t>(lowestStart(page, count) - data::slots - 2 * count));
 }

@@ -1,6 +1,7 @@
 #include "platform/jet/IndexTree.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "platform/jet/Failure.h"
 #include "platform/jet/UsageMap.h"
@@ -56,11 +57,13 @@ void IndexTree::link(uint32_t number, size_t field, uint32_t value) {
 
 uint32_t IndexTree::takePage() {
     const uint32_t number = GlobalMap(m_file).take();
-    if (m_index.mapPointer != 0) UsageMap(m_file, m_index.mapPointer).set(number, true);
+    assert(number >= firstOrdinaryPage);                                                  // M3
+    if (m_index.mapPointer != 0) UsageMap(m_file, m_index.mapPointer).set(number, true);  // T5
     return number;
 }
 
 void IndexTree::givePage(uint32_t number) {
+    assert(number != m_index.rootPage);  // T4
     if (m_index.mapPointer != 0) UsageMap(m_file, m_index.mapPointer).set(number, false);
     GlobalMap(m_file).give(number);
 }
@@ -164,6 +167,8 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     if (at < leaf.count() && compareEntries(leaf.keyAndRow(at), entry) == 0)
         failDamaged("un indice di \"", m_definition.name, "\" contiene già la riga");
     leaf.insert(at, entry);
+    assert(at == 0 || compareEntries(leaf.keyAndRow(at - 1), entry) < 0);  // T1
+    assert(at + 1 == leaf.count() || compareEntries(entry, leaf.keyAndRow(at + 1)) < 0);
     const bool atEnd = leaf.next == 0 && at + 1 == leaf.count();
     place(path, path.size() - 1, std::move(leaf), atEnd);
 }
@@ -197,6 +202,9 @@ std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, b
     std::vector<Part> parts = divide(std::move(page), std::move(middle), false);
     std::vector<Part> rest = divide(std::move(right), std::move(greatest), false);
     std::move(rest.begin(), rest.end(), std::back_inserter(parts));
+    assert(std::all_of(parts.begin(), parts.end(), [](const Part& part) {  // T2, T6
+        return part.page.fits() && (part.page.leaf ? part.page.count() > 0 : part.page.tail != 0);
+    }));
     return parts;
 }
 
@@ -304,6 +312,7 @@ bool IndexTree::join(const Step& above, size_t left) {
     if (!page.leaf || !right.leaf || page.next != emptied || page.used() + right.used() > fullEnough)
         return false;
     right.moveTail(0, page);
+    assert(page.fits());  // T7
     page.next = right.next;
     if (right.next != 0) link(right.next, index::previous, number);
     if (left + 1 < parent.count()) {

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cassert>
 #include <chrono>
 #include <random>
 
@@ -129,12 +130,14 @@ void Journal::start(const OsFile& database, uint32_t pages) {
     database.read(0, first);
     m_header.firstPage = journal::digest(first, m_header.nonce);
     m_end = journal::recordsStart;
+    m_synced = 0;
     m_announcements.clear();
     m_hot = false;
     m_started = true;
 }
 
 void Journal::add(uint32_t page, const Page& original) {
+    assert(m_started && page < m_header.pages);
     std::vector<uint8_t> record;
     record.reserve(journal::originalLength);
     journal::appendOriginal(record, m_end, m_header.nonce, page, original);
@@ -143,6 +146,7 @@ void Journal::add(uint32_t page, const Page& original) {
 }
 
 void Journal::announce(uint32_t page, const Page& content) {
+    assert(m_started);
     journal::appendAnnouncement(m_announcements, m_end + m_announcements.size(), m_header.nonce, page,
                                 content);
 }
@@ -156,6 +160,7 @@ void Journal::sync() {
         m_file.write(0, journal::encode(m_header));
     }
     m_file.sync();
+    m_synced = m_end;
     if (m_folderSynced) return;
     OsFile::syncFolderOf(m_path);
     m_folderSynced = true;
@@ -165,7 +170,8 @@ void Journal::empty(OsFile& file) {
     file.write(0, journal::HeaderBytes{});
 }
 
-void Journal::finish() {
+void Journal::finish(OsFile::Synced) {
+    assert(inForce());
     try {
         empty(m_file);
     } catch (const Failure&) {
@@ -185,6 +191,7 @@ void Journal::finish() {
 
 // Where the header stays, putting back the records will change nothing.
 void Journal::discard() noexcept {
+    assert(m_started);
     try {
         if (m_hot) empty(m_file);
         if (m_end > room) m_file.truncate(room);
@@ -214,6 +221,7 @@ void Journal::recover(OsFile& database) {
     const JournalReplay replay(file, header, database);
     if (!replay.fits()) return setAside();
     replay.putBack(database);
+    assert(JournalReplay(file, header, database).fits());  // J7: it can be repeated
     empty(file);
     file.sync();
     if (file.state().size > room) file.truncate(room);

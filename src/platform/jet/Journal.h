@@ -70,11 +70,13 @@ class Journal {
     /// Begins a transaction. Nothing is written yet.
     void start(const OsFile& database, uint32_t pages);
     bool started() const { return m_started; }
+    /// Whether the journal is hot, and synced with everything that was added and announced.
+    bool inForce() const { return m_hot && m_synced == m_end && m_announcements.empty(); }
     void add(uint32_t page, const Page& original);
     void announce(uint32_t page, const Page& content);
     void sync();
-    /// Steps 6 and 7. Fails in step 6 only.
-    void finish();
+    /// Steps 6 and 7, after the database was synced (J2). Fails in step 6 only.
+    void finish(OsFile::Synced database);
     /// Drops a transaction of which no page was written to the file.
     void discard() noexcept;
 
@@ -103,6 +105,7 @@ class Journal {
     bool m_hot = false;
     journal::Header m_header;
     uint64_t m_end = 0;
+    uint64_t m_synced = 0;
     std::vector<uint8_t> m_announcements;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/jet/JournalReplay.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cerrno>
 
 #include "platform/jet/DiskTrouble.h"
@@ -82,6 +83,7 @@ bool JournalReplay::appendedFit(const OsFile& database, uint64_t size) const {
 }
 
 void JournalReplay::putBack(OsFile& database) const {
+    assert(m_fits);  // J4
     const FileState before = database.state();
     for (const auto& [page, record] : m_pages) {
         if (page >= m_header.pages) continue;

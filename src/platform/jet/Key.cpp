@@ -12,8 +12,6 @@ namespace jet {
 
 namespace {
 
-// Three entries of this length find room on an index page, so each page that is too full can be cut up.
-constexpr size_t longestKey = 1180;
 constexpr size_t groupLength = 8;
 constexpr uint8_t groupGoesOn = 9;
 

@@ -18,6 +18,10 @@
 /// Descending: all bytes inverted, but for the 09; text gets one more 00.
 namespace jet {
 
+/// Bytes that a key may have. Three entries of this length find room on an index page, so each page that is
+/// too full can be cut up.
+inline constexpr size_t longestKey = 1180;
+
 /// What a key is made of: the stored bytes of a column. Null tells False for a yes/no column.
 using FieldOf = std::function<StoredField(const Column&)>;
 inline FieldOf fieldsOf(const Row& row) {

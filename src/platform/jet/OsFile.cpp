@@ -183,9 +183,10 @@ bool OsFile::reserve(uint64_t size) {
            std::end(copiers);
 }
 
-void OsFile::sync() {
-    if (!proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione")) return;
-    if (::fdatasync(m_fd) != 0) failIo("sincronizzazione", m_path, errno);
+OsFile::Synced OsFile::sync() {
+    if (proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione") && ::fdatasync(m_fd) != 0)
+        failIo("sincronizzazione", m_path, errno);
+    return {};
 }
 
 void OsFile::stampAfter(int64_t previousNs) {

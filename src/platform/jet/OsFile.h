@@ -67,7 +67,12 @@ class OsFile {
     /// size, with zeros. False where there is no room, or the file system cannot promise it for writes in
     /// place (some write each change to a new place).
     bool reserve(uint64_t size);
-    void sync();
+    /// Handed out by sync(), for what must not begin before it.
+    class Synced {
+        friend class OsFile;
+        Synced() = default;
+    };
+    Synced sync();
     /// Sets a modification time later than `previousNs`, so that no two states written by this engine carry
     /// the same one however coarse the file system's clock is. Not allowed to some users: then nothing
     /// happens.

@@ -1,6 +1,7 @@
 #include "platform/jet/PageFile.h"
 
 #include <algorithm>
+#include <cassert>
 #include <filesystem>
 #include <span>
 
@@ -175,13 +176,33 @@ void PageFile::beginWrite() {
         unlock();
         throw;
     }
+    assert(m_changed.empty() && !m_journal.started());
     m_writing = true;
     m_pagesWritten = false;
     m_originalPages = m_pageCount;
     m_journaled.assign(m_originalPages, false);
 }
 
+bool PageFile::noteTouched(uint32_t n) {
+    if (!m_touched.contains(n)) m_touched[n] = std::make_shared<Page>(*page(n));
+    return true;
+}
+
+bool PageFile::noteTaken(uint32_t n) {
+    m_touchedInDoubt = m_touchedInDoubt || (*page(n))[0] != HeaderPage;  // as it is where a page was wiped
+    m_touched.try_emplace(n);
+    return true;
+}
+
+bool PageFile::forgetTouched() {
+    m_touched.clear();
+    m_touchedInDoubt = false;
+    return true;
+}
+
 Page& PageFile::change(uint32_t n) {
+    assert(m_writing && n != 0);
+    assert(noteTouched(n));
     if (const auto found = m_changed.find(n); found != m_changed.end()) return *found->second;
     const PagePtr original = page(n);
     if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
@@ -196,6 +217,7 @@ Page& PageFile::change(uint32_t n) {
 }
 
 uint32_t PageFile::append() {
+    assert(m_writing);
     if (m_pageCount >= maxPages) failFull();
     if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
     const uint32_t n = m_pageCount++;
@@ -203,6 +225,7 @@ uint32_t PageFile::append() {
     page->fill(0);
     m_changed[n] = page;
     keep(n, page);
+    assert(noteTaken(n));
     return n;
 }
 
@@ -219,23 +242,27 @@ void PageFile::writeChanged() {
     for (const auto& [n, page] : m_changed)
         m_journal.announce(n, inFileForm(n, *page));
     lockPages();
+    assert(m_journal.inForce());  // J1
     m_pagesWritten = true;
-    for (const auto& [n, page] : m_changed)
+    for (const auto& [n, page] : m_changed) {
+        assert(n >= m_originalPages || m_journaled[n]);
         m_file.write(uint64_t{n} * pageSize, inFileForm(n, *page));
+    }
     m_changed.clear();
 }
 
 void PageFile::endStatement() {
+    assert(forgetTouched());
     if (m_changed.size() > m_limits.changedPages) writeChanged();
 }
 
 void PageFile::commit() {
+    assert(m_writing);
     if (m_journal.started()) {
         try {
             writeChanged();
             m_file.stampAfter(m_state.modifiedNs);
-            m_file.sync();
-            m_journal.finish();
+            m_journal.finish(m_file.sync());
         } catch (...) {
             rollback();
             throw;
@@ -257,6 +284,7 @@ void PageFile::rollback() noexcept {
     } catch (const Failure&) {
     }
     m_changed.clear();
+    assert(forgetTouched());
     m_pageCount = m_originalPages;
     m_writing = false;
     dropCache();

@@ -69,6 +69,13 @@ class PageFile {
     void commit();
     void rollback() noexcept;
 
+    /// For asserts alone, so nothing in a build without them: the pages that the statement has changed as
+    /// they were before it; no page where there was none.
+    const std::map<uint32_t, PagePtr>& touched() const { return m_touched; }
+    /// Whether a page was taken for free that does not look so: what it was before says nothing.
+    bool touchedInDoubt() const { return m_touchedInDoubt; }
+    bool noteTaken(uint32_t n);
+
   private:
     void open();
     void readHeader();
@@ -86,6 +93,8 @@ class PageFile {
     void evict();
     void writeChanged();
     Page inFileForm(uint32_t n, const Page& page) const;
+    bool noteTouched(uint32_t n);
+    bool forgetTouched();
     bool canHaveJournal() const { return !m_header.jet3; }
 
     struct Slot {
@@ -115,6 +124,9 @@ class PageFile {
     uint32_t m_originalPages = 0;
     std::vector<bool> m_journaled;
     std::map<uint32_t, std::shared_ptr<Page>> m_changed;
+
+    std::map<uint32_t, PagePtr> m_touched;
+    bool m_touchedInDoubt = false;
 };
 
 /// Holds the shared lock for a stretch of reading.

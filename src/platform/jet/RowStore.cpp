@@ -1,5 +1,7 @@
 #include "platform/jet/RowStore.h"
 
+#include <cassert>
+
 #include "platform/jet/DataPages.h"
 #include "platform/jet/Failure.h"
 #include "platform/jet/UsageMap.h"
@@ -74,6 +76,7 @@ RowId RowStore::put(std::span<const uint8_t> row, uint16_t flags) {
     (void)view(*m_file.page(*number), *number);
     const uint8_t slot = putRow(m_file.change(*number), *number, row, flags);
     m_room.noteTaken(*number);
+    assert(DataPageView(*m_file.page(*number), *number).bytes(slot).size() == row.size());
     return {*number, slot};
 }
 
@@ -100,6 +103,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
     const bool moved = old->place != id;
     if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
     const RowId body = put(row, data::notARow);
+    assert(body != id && body != old->place);  // P3
     if (moved) {
         remove(old->place);
     } else {

@@ -1,10 +1,12 @@
 #include <algorithm>
+#include <cassert>
 
 #include "platform/jet/AutoNumber.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexTree.h"
 #include "platform/jet/LongValue.h"
 #include "platform/jet/Row.h"
+#include "platform/jet/StatementRules.h"
 #include "platform/jet/ValueCodec.h"
 #include "platform/jet/WriteRules.h"
 
@@ -67,6 +69,7 @@ void insertEntry(TableState& state, size_t position, const Row& row, const Bytes
     const TableDefinition& table = state.definition;
     const Index& index = table.indexes[position];
     if (!isIndexed(table, index, fieldsOf(row))) return;
+    assert(key.size() <= longestKey);  // K5
     IndexTree(state.file, table, index).insert(key, id);
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, 1);
 }
@@ -106,6 +109,7 @@ template <class Work>
 void apply(TableState& state, Work&& work) {
     try {
         work();
+        assert(keepsRules(state.file, state.definition));
         state.file.endStatement();
     } catch (const Failure& failure) {
         state.engine.doom = failure.status;
@@ -220,6 +224,7 @@ Result<RowId> Table::insert(std::span<const Value> values) {
             storeLong(*m_state, row, longs);
             if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
                 m_state->setAutoNumber(*row.longValue(*counter));
+            assert(!counter || *row.longValue(*counter) <= m_state->lastAutoNumber());  // D2
             id = m_state->rows.insert(row.bytes());
             for (size_t i = 0; i < keys.size(); ++i)
                 insertEntry(*m_state, i, row, keys[i], id);

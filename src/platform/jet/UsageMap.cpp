@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <optional>
 
 #include "platform/jet/DataPages.h"
@@ -199,6 +200,8 @@ uint32_t GlobalMap::take() {
         return false;
     });
     if (free) {
+        assert(*free >= firstOrdinaryPage && *free < m_file.pageCount());  // M3
+        assert(m_file.noteTaken(*free));
         m_file.change(*free).fill(0);
         m_map.set(*free, false);
         return *free;
@@ -209,6 +212,7 @@ uint32_t GlobalMap::take() {
 }
 
 void GlobalMap::give(uint32_t page) {
+    assert(page < m_file.pageCount());
     Page& wiped = m_file.change(page);
     wiped.fill(0);
     const MapRow row(m_file, globalMapPage, 0);

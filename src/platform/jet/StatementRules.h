@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/jet/Database.h"
+#include "platform/jet/PageFile.h"
+
+namespace jet {
+
+/// For asserts: whether the pages that a statement on this table has changed obey the rules of
+/// docs/formats/jet.md that can be told from them and their neighbours: P1, P3, P5 of row pages, T1 to T4 of
+/// index pages. A file may be damaged when it comes, so nothing is asked of pages that broke a rule before.
+bool keepsRules(PageFile& file, const TableDefinition& definition);
+
+}  // namespace jet
