@@ -16,10 +16,6 @@ namespace {
 
 const QString segno = QStringLiteral(":::");
 
-QString segnaposto(std::size_t i) {
-    return segno + colonneSegnaposto[i] + segno;
-}
-
 // Which placeholders stand in the text: one quick pass, where a search for each would cost nineteen.
 std::bitset<numeroSegnaposto> presentiIn(QStringView testo) {
     std::bitset<numeroSegnaposto> presenti;
@@ -35,6 +31,10 @@ std::bitset<numeroSegnaposto> presentiIn(QStringView testo) {
 }
 
 }  // namespace
+
+QString Segnaposto(std::size_t i) {
+    return segno + colonneSegnaposto[i] + segno;
+}
 
 LeggiColonna ColonneDi(const ado::Recordset& destinatari) {
     return [&destinatari](const QString& colonna) -> Result<std::optional<QString>> {
@@ -60,7 +60,7 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
     auto presenti = presentiIn(modello);
     for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
         if (!presenti[i] || !valori[i]) continue;
-        modello.replace(segnaposto(i), *valori[i]);
+        modello.replace(Segnaposto(i), *valori[i]);
         // The value may have brought others, or made one with the text around it.
         presenti = presentiIn(modello);
     }
@@ -72,6 +72,13 @@ ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori) {
         if (valore) valore = QString::fromLatin1(QUrl::toPercentEncoding(*valore));
     }
     return valori;
+}
+
+TestiMessaggio PersonalizzaTesti(TestiMessaggio modello, const ValoriSegnaposto& valori) {
+    for (QString* testo : {&modello.corpoHtml, &modello.corpoTesto, &modello.oggetto})
+        *testo = Personalizza(*testo, valori);
+    modello.disiscrizione = Personalizza(modello.disiscrizione, PerCollegamento(valori));
+    return modello;
 }
 
 Result<QString> NomeDestinatario(const LeggiColonna& leggi) {

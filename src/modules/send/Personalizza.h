@@ -15,6 +15,9 @@ inline constexpr std::size_t numeroSegnaposto = 19;
 /// The columns that have a placeholder, in the order in which they are applied.
 extern const std::array<QString, numeroSegnaposto> colonneSegnaposto;
 
+/// The placeholder of a column, by its place there.
+QString Segnaposto(std::size_t i);
+
 /// Reads a column of the current row as text: no value for Null, a failure for a column that is missing or
 /// where there is no row.
 using LeggiColonna = std::function<Result<std::optional<QString>>(const QString& colonna)>;
@@ -32,6 +35,17 @@ ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
 /// as the value stands. A value that holds a later placeholder is therefore replaced further, one that holds
 /// an earlier one is not.
 QString Personalizza(QString modello, const ValoriSegnaposto& valori);
+
+/// The texts of a message, as its template or for one recipient.
+struct TestiMessaggio {
+    QString corpoHtml;
+    QString corpoTesto;  ///< the visible text of corpoHtml
+    QString oggetto;
+    QString disiscrizione;  ///< the template's link marked rel="unsubscribe"
+};
+
+/// The texts for the recipient with these values.
+TestiMessaggio PersonalizzaTesti(TestiMessaggio modello, const ValoriSegnaposto& valori);
 
 /// The values as they stand inside a web address or a mail link: percent-encoded (RFC 3986), so that none of
 /// them becomes a part of its own.

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QString>
+
 #include "platform/ado/Recordset.h"
+
+/// The rows of the selection, in the order in which a run serves them.
+extern const QString codaInvio;
 
 /// Counts the selected recipients (column "sel"), the queue of sending, with the given recordset and closes
 /// it. Unguarded.

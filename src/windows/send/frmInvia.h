@@ -53,6 +53,9 @@ class frmInvia : public QDialog {
     /// Fills the three lists. Unguarded.
     void CaricaDati();
 
+    /// The message file that is chosen; empty for none.
+    QString FileMessaggio() const;
+
     /// The window is left by cmdChiudi only: Esc has no effect.
     void reject() override {}
 
@@ -92,7 +95,6 @@ class frmInvia : public QDialog {
     // frmInvia_tick.cpp: the engine
     void tmr_Timer();
     std::optional<qint32> LeggiDestinatario(Prosegui& prosegui);
-    void ScegliStrada(Prosegui& prosegui, int indiceAccount);
     void AttendiEsito();
     void ContaInviata(Prosegui& prosegui, qint32 idDestinatario);
     void ContaFallita();

@@ -1,8 +1,6 @@
 // The message file and what it carries away: what is picked, asked about, and read for the run.
 #include <algorithm>
-#include <iterator>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 
 #include "modules/core/Fallimento.h"
@@ -11,6 +9,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
+#include "windows/core/DomandaFile.h"
 #include "windows/send/frmInvia.h"
 
 using ui::MessageDialog;
@@ -27,30 +26,6 @@ FonteMss FonteDi(const FileMss& file) {
 
 bool Stessa(const FonteMss& una, const FonteMss& altra) {
     return una.percorso == altra.percorso && una.impronta == altra.impronta;
-}
-
-QList<FileInPartenza> DaChiedere(const QList<FileInPartenza>& tutti) {
-    QList<FileInPartenza> alcuni;
-    std::ranges::copy_if(tutti, std::back_inserter(alcuni), &FileInPartenza::daChiedere);
-    return alcuni;
-}
-
-QStringList Riga(const FileInPartenza& file) {
-    QString luogo = PercorsoMostrato(file.percorso);
-    if (file.risolto != file.percorso) luogo += " → " + PercorsoMostrato(file.risolto);
-    return {luogo, QLocale().formattedDataSize(file.byte), file.immagine ? "Immagine" : "Allegato",
-            file.riposto ? "Cartella nascosta o fuori da quella personale" : ""};
-}
-
-ui::ListQuestion::Content Domanda(QList<FileInPartenza> file) {
-    std::stable_partition(file.begin(), file.end(), [](const FileInPartenza& uno) { return uno.riposto; });
-    ui::ListQuestion::Content domanda{bVAR::Attenzione, {}, {"File", "Dimensione", "Tipo", "Nota"}, {}, {}};
-    for (const FileInPartenza& uno : file)
-        domanda.rows << Riga(uno);
-    domanda.text =
-        "Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.\r\n"
-        "Vuoi inviarli?";
-    return domanda;
 }
 
 /// The user agreed to send these files with a message file, for as long as that is as it is now. What else it
@@ -85,6 +60,10 @@ void frmInvia::cmdFile_Click() {
     cmdInvia->setDefault(true);
 }
 
+QString frmInvia::FileMessaggio() const {
+    return txtFile->text();
+}
+
 /// Asks about the files that the run would carry away and that the user has not agreed to yet; false where he
 /// does not. What is judged is what the run then uses: the bytes of the message file as they were read, the
 /// body of goDHTML, and the files that their links lead to now.
@@ -103,7 +82,10 @@ bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
     // says how long his answer holds.
     const bool unaVolta = (chiesti.isEmpty() || fonte.noto) && (chieste.isEmpty() || fonteCorpo.noto) &&
                           std::ranges::all_of(chiesti + chieste, &FileInPartenza::riposto);
-    ui::ListQuestion::Content domanda = Domanda(chiesti + chieste);
+    ui::ListQuestion::Content domanda =
+        DomandaFile(chiesti + chieste,
+                    "Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.\r\n"
+                    "Vuoi inviarli?");
     if (!unaVolta) domanda.remember = "Non chiederlo &più per questo messaggio";
     const int risposta = MessageDialog::askAbout(domanda);
     if (risposta == MessageDialog::No) return false;

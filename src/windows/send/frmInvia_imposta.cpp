@@ -18,9 +18,8 @@
 #include "modules/send/Accettati.h"
 #include "modules/send/bMXQuery.h"
 #include "modules/send/Cartelle.h"
+#include "modules/send/Consegna.h"
 #include "modules/send/Esiti.h"
-#include "modules/send/MxInterni.h"
-#include "modules/send/Porta.h"
 #include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Connection.h"
@@ -227,20 +226,11 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
         "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
     passwordMittente = portachiavi::PasswordDi(mittente, [&](auto passato) { return attesa.goOn(passato); });
     attesa.over();
-    SMTP->FromAddress = mittente.txtEmail;
-    SMTP->FromName = mittente.txtNomeVisual;
-    SMTP->HeloMode = mittente.cmbSaluto == "EHLO" ? 0 : 1;
-    prosegui([&] { SMTP->OutPort = NumeroPorta(mittente.txtOutPort); });
+    ImpostaMittente(*SMTP, mittente, prosegui);
     ImpostaTimeout(prosegui);
     SMTP->BodyFormat = 1;
     SMTP->TemplateHtml = corpoHtml;
     disiscrizione = mail::markedUnsubscribe(corpoHtml);
-    SMTP->InsideHosts = MxInterni();
-    SMTP->CertificateFolder = cartellaDati() + "certificati";
-    SMTP->TlsListFile = cartellaDati() + "tls.txt";
-    SMTP->ClearListFile = cartellaDati() + "senza-tls.txt";
-    SMTP->DkimFolder = cartellaDati() + "dkim";
-    SMTP->OAuthFolder = cartellaDati() + "oauth";
     SMTP->BookFolder = esiti::Acceso() ? esiti::Cartella() : QString();
     SMTP->BookTitle = oggettoMail;
     inizioInvio = sys::clock().now();

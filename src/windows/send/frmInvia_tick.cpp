@@ -8,9 +8,9 @@
 #include <QTimer>
 
 #include "modules/core/bGlobal.h"
-#include "modules/send/bMXQuery.h"
+#include "modules/send/Consegna.h"
 #include "modules/send/Personalizza.h"
-#include "modules/send/Porta.h"
+#include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/mail/DeliveryControl.h"
@@ -51,7 +51,7 @@ void frmInvia::tmr_Timer() {
     tmr->stop();
     mailInviata = false;
     mailFallita = false;
-    ScegliStrada(prosegui, indiceAccount);
+    ScegliStrada(*SMTP, account.at(indiceAccount), passwordMittente, prosegui);
     SMTP->RecipientNumber = letto ? *letto : mail::recipient::nobody;
     SMTP->Send();
     AttendiEsito();
@@ -83,47 +83,23 @@ std::optional<qint32> frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     SMTP->Database = percorsoDB;
     ado::Recordset rs;
     prosegui([&] { rs = RecordsetDB(); });
-    rs.setSource(
-        "SELECT * FROM [tb_destinatari] WHERE [sel] = True "
-        "ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind ASC;");
+    rs.setSource(codaInvio);
     prosegui([&] { esigi(rs.open()); });
     prosegui([&] { esigi(rs.move(saltaRecord)); });
 
     const LeggiColonna leggi = ColonneDi(rs);
-    const ValoriSegnaposto valori = LeggiValori(leggi);
-    for (QString* testo : {&SMTP->BodyHtml, &SMTP->BodyText, &SMTP->Subject})
-        *testo = Personalizza(*testo, valori);
-    SMTP->UnsubscribeLink = Personalizza(disiscrizione, PerCollegamento(valori));
+    const TestiMessaggio testi =
+        PersonalizzaTesti({SMTP->BodyHtml, SMTP->BodyText, SMTP->Subject, disiscrizione}, LeggiValori(leggi));
+    SMTP->BodyHtml = testi.corpoHtml;
+    SMTP->BodyText = testi.corpoTesto;
+    SMTP->Subject = testi.oggetto;
+    SMTP->UnsubscribeLink = testi.disiscrizione;
 
     prosegui([&] { SMTP->ToAddress = esigi(esigi(rs.value(u"email")).toText()); });
     prosegui([&] { SMTP->ToName = esigi(NomeDestinatario(leggi)); });
     prosegui([&] { idDestinatario = static_cast<qint32>(esigi(esigi(rs.value(u"id")).toInteger())); });
     rs.close();
     return idDestinatario;
-}
-
-void frmInvia::ScegliStrada(Prosegui& prosegui, int indiceAccount) {
-    const Account& mittente = account.at(indiceAccount);
-    const auto numero = [](const QString& testo) { return text::numberFromText(testo); };
-
-    const auto usaSMTP = numero(mittente.chkUsaSMTP);
-    const bool diretta = usaSMTP.ok() && usaSMTP.value() == 0;
-    SMTP->OpportunisticTls = diretta;
-    SMTP->PublicServersOnly = diretta;
-    if (diretta) {
-        // Without a mail exchanger there is no host, and the delivery fails.
-        prosegui([&] { MXQuery(DominioDi(SMTP->ToAddress)); });
-        SMTP->ServerName = bestMX;
-        SMTP->NoServerReason = TestoMotivo(motivoMX);
-        SMTP->ServerPort = 25;
-    } else {
-        SMTP->ServerName = mittente.txtServerSMTP;
-        prosegui([&] { SMTP->ServerPort = NumeroPorta(mittente.txtServerPORT); });
-    }
-    const auto autentica = numero(mittente.chkAutentick);
-    SMTP->UseAuth = !diretta && autentica.ok() && autentica.value() == 1;
-    SMTP->UserName = SMTP->UseAuth ? mittente.txtUsername : QString();
-    SMTP->UserPassword = SMTP->UseAuth ? passwordMittente : QString();
 }
 
 /// Turns the event loop between its tests, so that the window lives and the outcome arrives in either order.

@@ -1,0 +1,18 @@
+// What the delivery control is told of an account, the same for a run and for a single copy.
+#pragma once
+
+#include "modules/accounts/AccountFile.h"
+#include "modules/core/Fallimento.h"
+
+namespace mail {
+class DeliveryControl;
+}
+
+/// Who sends, and the folders and lists of the data folder that a delivery asks. A port that is none leaves
+/// the one before.
+void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prosegui& prosegui);
+
+/// Where the message with this ToAddress goes and how the login is made: to the account's server, or on the
+/// direct route to the mail exchanger that is looked up now (MXQuery, which holds the thread).
+void ScegliStrada(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
+                  Prosegui& prosegui);
