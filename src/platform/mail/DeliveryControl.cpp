@@ -158,6 +158,7 @@ void DeliveryControl::report() {
         outcome.delivered ? QStringLiteral("consegnato") : QStringLiteral("non consegnato"),
         (outcome.code ? QString::number(outcome.code) + u' ' : QString()) +
             m_transcript.withoutSecrets(outcome.text)));
+    m_last = outcome;
     if (outcome.delivered)
         Q_EMIT SendDone();
     else

@@ -141,6 +141,9 @@ class DeliveryControl : public QObject {
     /// number is not sent.
     void Abort();
 
+    /// What became of the message that SendDone or SendError was last emitted for; set before they are.
+    const DeliveryOutcome& LastOutcome() const { return m_last; }
+
     /// Before the program ends: gives up the running message, and waits some seconds, without an event loop,
     /// for the replies that are still awaited; see SmtpTimes::farewell. What comes later is lost, and such a
     /// message may be sent twice.
@@ -219,6 +222,7 @@ class DeliveryControl : public QObject {
     std::optional<Waiting> m_waiting;
     bool m_insideSend = false;
     DeliveryOutcome m_outcome;
+    DeliveryOutcome m_last;
     QByteArray m_messageId;
     QString m_recipient;
     QElapsedTimer m_clock;
