@@ -17,6 +17,7 @@
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/griglia.h"
 #include "windows/strumenti/frmEsiti.h"
+#include "windows/strumenti/frmProva.h"
 
 // The program ends without unloading its windows, so nothing here is destroyed at the end.
 
@@ -86,6 +87,10 @@ frmImpTXT& finestre::ImpTXT() {
 
 frmImpDB& finestre::ImpDB() {
     return dialogo<frmImpDB>(Main(), IntornoAgliImport().NuovoNodo);
+}
+
+frmProva& finestre::Prova() {
+    return dialogo<frmProva>(Main(), IntornoAProva());
 }
 
 frmSplash& finestre::Splash() {

@@ -10,6 +10,7 @@ class frmInfoSu;
 class frmInvia;
 class frmMain;
 class frmPropBody;
+class frmProva;
 class frmScelta;
 class frmSplash;
 
@@ -30,6 +31,7 @@ namespace finestre {
 ::frmScelta& Scelta();
 ::frmImpTXT& ImpTXT();
 ::frmImpDB& ImpDB();
+::frmProva& Prova();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

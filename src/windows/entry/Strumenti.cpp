@@ -2,8 +2,15 @@
 
 #include "windows/entry/Finestre.h"
 #include "windows/strumenti/frmEsiti.h"
+#include "windows/strumenti/frmProva.h"
 
 namespace {
+
+void apriProva() {
+    frmProva& prova = finestre::Prova();
+    prova.Carica();
+    prova.exec();
+}
 
 void apriEsiti() {
     frmEsiti& esiti = finestre::Esiti();
@@ -15,9 +22,11 @@ void apriEsiti() {
 
 // Mnemonics in the order of the menu: &Prova, &mittente, &Esito; &Indirizzi, &cartelle; &Ultima.
 std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
-    const frmMain::GruppoStrumenti invio{{"cmdStrumentiEsiti", "&Esito degli invii...",
-                                          "Chi ha ricevuto i messaggi, chi no e perché", "view-list-details",
-                                          apriEsiti}};
+    const frmMain::GruppoStrumenti invio{
+        {"cmdStrumentiProva", "&Prova messaggio...", "Il messaggio come lo riceve un destinatario",
+         "view-visible", apriProva},
+        {"cmdStrumentiEsiti", "&Esito degli invii...", "Chi ha ricevuto i messaggi, chi no e perché",
+         "view-list-details", apriEsiti}};
     const frmMain::GruppoStrumenti destinatari{};
     const frmMain::GruppoStrumenti importazione{};
     return {invio, destinatari, importazione};

@@ -81,6 +81,11 @@ ViciniContatti finestre::IntornoAgliImport() {
             .MostraAttesa = [](const QString& testo) { Main().MostraAttesa(testo); }};
 }
 
+frmProva::Vicini finestre::IntornoAProva() {
+    return {.FileEditor = [] { return Editor().percorsoFile; },
+            .FileInvio = [] { return Invia().FileMessaggio(); }};
+}
+
 bLANG::FinestreTradotte finestre::Tradotte() {
     return {.Main = {barreDiMain, []() -> ui::DockPanes& { return Main().DockWindows(); }},
             .Editor = {[]() -> ui::CommandBars& { return Editor().Commands(); },

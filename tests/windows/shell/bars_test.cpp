@@ -167,7 +167,8 @@ class TestBars : public QObject {
         StoreStage stage;
         QMenuBar* bar = stage.window().menuBar();
         QCOMPARE(bar->objectName(), "Menu");
-        QCOMPARE(namesOf(*bar), (QStringList{"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp"}));
+        QCOMPARE(namesOf(*bar),
+                 (QStringList{"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp", "mnuStrumenti"}));
         const ui::CommandBars& commands = stage.window().Commands();
         QCOMPARE(commands.GetPopupMenu("mnuFile")->Caption(), "&File");
         QCOMPARE(commands.GetPopupMenu("mnuEditor")->Caption(), "&Editor");

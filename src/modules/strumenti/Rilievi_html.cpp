@@ -1,0 +1,180 @@
+#include "modules/strumenti/Rilievi_html.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <string_view>
+
+#include "platform/html/HtmlTokens.h"
+#include "platform/mail/HtmlReferences.h"
+#include "platform/mail/LocalImages.h"
+#include "platform/text/NumberText.h"
+
+namespace {
+
+using Peso = Rilievo::Peso;
+using html::startsWithHtmlText;
+using std::string_view;
+
+constexpr qsizetype piuLungo = 80;  // of what is shown of an address
+constexpr int piuEsempi = 3;
+
+QString mostrato(string_view sorgente) {
+    QString testo =
+        PercorsoMostrato(QString::fromUtf8(sorgente.data(), static_cast<qsizetype>(sorgente.size())));
+    if (testo.size() > piuLungo) testo = testo.first(piuLungo) + u'…';
+    return testo;
+}
+
+/// A few of several texts.
+struct Raccolta {
+    qint64 quanti = 0;
+    QStringList esempi;
+
+    void aggiungi(const QString& testo) {
+        ++quanti;
+        if (esempi.size() < piuEsempi && !esempi.contains(testo)) esempi << testo;
+    }
+    QString frase(const QString& uno, const QString& molti) const {
+        QString testo = quanti == 1 ? uno : molti.arg(text::formatGrouped(static_cast<double>(quanti)));
+        if (!esempi.isEmpty()) testo += QStringLiteral(": ") + esempi.join(QStringLiteral(", "));
+        return testo;
+    }
+};
+
+bool contieneSegnaposto(string_view testo) {
+    return testo.find(":::") != string_view::npos;
+}
+
+bool portaSulWeb(string_view indirizzo) {
+    return startsWithHtmlText(indirizzo, "http:") || startsWithHtmlText(indirizzo, "https:") ||
+           startsWithHtmlText(indirizzo, "//");
+}
+
+/// Nothing but the scheme, such as "http://".
+bool soloSchema(string_view indirizzo) {
+    for (const string_view schema : {"http:", "https:", "mailto:", "tel:", "ftp:"})
+        if (startsWithHtmlText(indirizzo, schema))
+            return indirizzo.substr(schema.size()).find_first_not_of('/') == string_view::npos;
+    return false;
+}
+
+/// A scheme before the first colon, none of them a script.
+bool haSchema(string_view indirizzo) {
+    const std::size_t duePunti = indirizzo.find(':');
+    if (duePunti == string_view::npos || duePunti == 0) return false;
+    const string_view schema = indirizzo.substr(0, duePunti);
+    return schema.find_first_of("/?#. ") == string_view::npos && !startsWithHtmlText(schema, "javascript");
+}
+
+class Lettore {
+  public:
+    explicit Lettore(string_view corpo) : m_pezzi(corpo), m_attributi(corpo) {}
+
+    void leggi() {
+        using Kind = html::HtmlTokens::Kind;
+        for (Kind genere = m_pezzi.next(); genere != Kind::End; genere = m_pezzi.next()) {
+            if (genere == Kind::Tag)
+                usa(m_pezzi.tag());
+            else if (genere == Kind::RawText)
+                stile(m_pezzi.text());
+        }
+    }
+
+    Raccolta senzaMeta, sulWeb, senzaFile;
+
+  private:
+    void usa(const html::HtmlTag& tag) {
+        if (html::sameHtmlText(tag.name, "a") || html::sameHtmlText(tag.name, "area")) collegamento(tag);
+        if (html::sameHtmlText(tag.name, "img")) immagine(html::trimmedHtml(tag.src));
+        if (!tag.background.empty()) immagine(html::trimmedHtml(tag.background));
+        if (!tag.style.empty()) stile(tag.style);
+    }
+
+    void collegamento(const html::HtmlTag& tag) {
+        if (tag.href.data() == nullptr) return;  // an anchor
+        const string_view meta = html::trimmedHtml(tag.href);
+        if (contieneSegnaposto(meta)) return;
+        const bool ancora = meta.size() > 1 && meta.front() == '#';
+        const bool buono = ancora ? esisteAncora(meta.substr(1))
+                                  : !soloSchema(meta) && (haSchema(meta) || startsWithHtmlText(meta, "//"));
+        if (!buono) senzaMeta.aggiungi(meta.empty() ? QStringLiteral("(vuoto)") : mostrato(meta));
+    }
+
+    bool esisteAncora(string_view nome) const {
+        for (const char* attributo : {"id=\"", "name=\""})
+            if (m_attributi.find(attributo + std::string(nome) + '"') != string_view::npos) return true;
+        return false;
+    }
+
+    void immagine(string_view indirizzo) {
+        if (contieneSegnaposto(indirizzo)) return;
+        if (portaSulWeb(indirizzo))
+            sulWeb.aggiungi(mostrato(indirizzo));
+        else if (!startsWithHtmlText(indirizzo, "data:") && !startsWithHtmlText(indirizzo, "cid:") &&
+                 mail::localImagePath(QByteArray(indirizzo.data(), static_cast<qsizetype>(indirizzo.size())))
+                     .isEmpty())
+            senzaFile.aggiungi(indirizzo.empty() ? QStringLiteral("(senza indirizzo)") : mostrato(indirizzo));
+    }
+
+    void stile(string_view testo) {
+        static const QRegularExpression forma(
+            QStringLiteral(R"(url\(\s*(?:["']|&quot;|&#39;)?\s*((?:https?:)?//[^"')&\s]+))"),
+            QRegularExpression::CaseInsensitiveOption);
+        const QString css = QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
+        auto trovati = forma.globalMatch(css);
+        while (trovati.hasNext())
+            sulWeb.aggiungi(mostrato(trovati.next().captured(1).toStdString()));
+    }
+
+    html::HtmlTokens m_pezzi;
+    const string_view m_attributi;
+};
+
+/// The images that travel with the message, or should.
+void rilievaFile(const QString& corpo, Raccolta& mancanti, Raccolta& escluse) {
+    mail::LocalImages immagini;
+    immagini.follow(corpo);
+    QStringList viste;
+    for (const auto& posto : mail::findReferences(corpo.toUtf8()).images) {
+        const QString percorso = mail::localImagePath(posto.value);
+        if (percorso.isEmpty() || viste.contains(percorso) || percorso.contains(u":::")) continue;
+        viste << percorso;
+        if (!QFileInfo(percorso).isFile())
+            mancanti.aggiungi(PercorsoMostrato(percorso));
+        else if (immagini.find(posto.value) < 0)
+            escluse.aggiungi(PercorsoMostrato(percorso));
+    }
+}
+
+}  // namespace
+
+QList<Rilievo> RilieviHtml(const QString& corpo) {
+    const QByteArray byte = corpo.toUtf8();
+    Lettore lettore({byte.constData(), static_cast<std::size_t>(byte.size())});
+    lettore.leggi();
+    Raccolta mancanti = lettore.senzaFile, escluse;
+    rilievaFile(corpo, mancanti, escluse);
+
+    QList<Rilievo> rilievi;
+    if (mancanti.quanti > 0)
+        rilievi.append({Peso::Grave, mancanti.frase(QStringLiteral("Un'immagine non c'è"),
+                                                    QStringLiteral("%1 immagini non ci sono"))});
+    if (escluse.quanti > 0)
+        rilievi.append(
+            {Peso::Grave,
+             escluse.frase(QStringLiteral("Un file non può partire come immagine del messaggio"),
+                           QStringLiteral("%1 file non possono partire come immagini del messaggio")) +
+                 QStringLiteral(" (non è un'immagine, o insieme superano 10 MB)")});
+    if (lettore.senzaMeta.quanti > 0)
+        rilievi.append({Peso::Grave, lettore.senzaMeta.frase(
+                                         QStringLiteral("Un collegamento non porta da nessuna parte"),
+                                         QStringLiteral("%1 collegamenti non portano da nessuna parte"))});
+    if (lettore.sulWeb.quanti > 0)
+        rilievi.append(
+            {Peso::Consiglio,
+             lettore.sulWeb.frase(QStringLiteral("Un'immagine resta sul web"),
+                                  QStringLiteral("%1 immagini restano sul web")) +
+                 QStringLiteral(
+                     ". Molti programmi di posta non le mostrano finché il destinatario non vuole")});
+    return rilievi;
+}

@@ -1,0 +1,8 @@
+// What the markup of a body tells of its links and images.
+#pragma once
+
+#include "modules/strumenti/Rilievi.h"
+
+/// Links without a target, images that are missing or cannot travel, and images that stay on the web. Reads
+/// the image files that the body names.
+QList<Rilievo> RilieviHtml(const QString& corpo);

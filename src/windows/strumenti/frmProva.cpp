@@ -1,0 +1,257 @@
+#include "windows/strumenti/frmProva.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTimer>
+
+#include "platform/html/HtmlView.h"
+#include "platform/mail/Composer.h"
+#include "platform/mail/DeliveryControl.h"
+#include "platform/ui/Announcer.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/DialogForm.h"
+#include "platform/ui/DialogFrame.h"
+#include "platform/ui/TabStrip.h"
+#include "windows/core/bTheme.h"
+#include "windows/core/Evento.h"
+
+frmProva::frmProva(Vicini intorno, QWidget* parent)
+    : QDialog(parent), vicini(std::move(intorno)), compositore(std::make_unique<mail::Composer>()) {
+    setObjectName("frmProva");
+    setWindowTitle(" Prova messaggio");
+    RilevaTema(this);
+    CreaControlli();
+    DisponiControlli();
+    CollegaEtichette();
+    CollegaEventi();
+    ui::openAtLeast(*this, {940, 640});
+    ui::setUpDialog(*this);
+}
+
+frmProva::~frmProva() = default;
+
+void frmProva::Carica() {
+    lblEsito->clear();
+    txtCerca->clear();
+    riga = -1;
+    CaricaAccount();
+    CaricaFile();
+    UsaFile();
+    cmbFile->setFocus();
+}
+
+void frmProva::reject() {
+    prova->Abort();
+    tmrControllo->stop();
+    tmrRicerca->stop();
+    controllo.reset();
+    ricerca.reset();
+    hide();
+}
+
+void frmProva::CreaControlli() {
+    const auto etichetta = [this](const char* nome, const char* testo) {
+        return ui::named(new QLabel(testo, this), nome);
+    };
+    const auto soloLettura = [this](const char* nome) {
+        QLineEdit* campo = ui::textField(nome, this);
+        campo->setReadOnly(true);
+        return campo;
+    };
+    // In the order in which the keyboard goes round them.
+    lblFile = etichetta("lblFile", "File messaggio:");
+    cmbFile = ui::choiceField("cmbFile", {}, this);
+    cmdFile = ui::commandButton("...", "cmdFile", this);
+    lblDestinatario = etichetta("lblDestinatario", "Destinatario:");
+    cmdPrecedente = ui::commandButton("&Precedente", "cmdPrecedente", this);
+    cmdSuccessivo = ui::commandButton("&Successivo", "cmdSuccessivo", this);
+    txtDestinatario = soloLettura("txtDestinatario");
+    lblCerca = etichetta("lblCerca", "Cerca:");
+    txtCerca = ui::textField("txtCerca", this);
+    cmdCerca = ui::commandButton("Ce&rca", "cmdCerca", this);
+    lblStato = etichetta("lblStato", "");
+    lblOggetto = etichetta("lblOggetto", "Oggetto:");
+    txtOggetto = soloLettura("txtOggetto");
+    schede = ui::named(new ui::TabStrip(this), "schede");
+    HTML = ui::named(new HtmlView(HtmlView::Mode::Browse), "HTML");
+    TESTO = ui::named(new QPlainTextEdit, "TESTO");
+    lblAllegati = etichetta("lblAllegati", "");
+    lblRilievi = etichetta("lblRilievi", "Rilievi:");
+    lstRilievi = ui::named(new QListWidget(this), "lstRilievi");
+    cmdVai = ui::commandButton("&Vai al primo", "cmdVai", this);
+    lblAccount = etichetta("lblAccount", "Account mittente:");
+    cmbAccount = ui::choiceField("cmbAccount", {}, this);
+    lblIndirizzo = etichetta("lblIndirizzo", "Indirizzo della prova:");
+    txtIndirizzo = ui::textField("txtIndirizzo", this);
+    cmdInviaProva = ui::commandButton("&Invia una copia di prova", "cmdInviaProva", this);
+    lblEsito = etichetta("lblEsito", "");
+    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
+    voce = new ui::Announcer(this);
+    tmrControllo = ui::named(new QTimer(this), "tmrControllo");
+    tmrRicerca = ui::named(new QTimer(this), "tmrRicerca");
+    prova = ui::named(new mail::DeliveryControl(this), "prova");
+
+    TESTO->setReadOnly(true);
+    TESTO->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    TESTO->setTabChangesFocus(true);
+    lstRilievi->setWordWrap(true);
+    lstRilievi->setResizeMode(QListView::Adjust);
+    lstRilievi->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    cmdInviaProva->setIcon(QIcon::fromTheme("document-send"));
+    cmdCerca->setIcon(QIcon::fromTheme("edit-find"));
+    for (QLabel* testo : {lblStato, lblAllegati, lblEsito}) {
+        testo->setWordWrap(true);
+        testo->setTextFormat(Qt::PlainText);
+        testo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        testo->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void frmProva::DisponiControlli() {
+    auto* divisore = ui::named(new QSplitter(Qt::Horizontal, this), "divisore");
+    divisore->addWidget(DisponiMessaggio());
+    divisore->addWidget(DisponiRilievi());
+    divisore->setStretchFactor(0, 5);
+    divisore->setStretchFactor(1, 3);
+    divisore->setChildrenCollapsible(false);
+
+    auto* chiusura = new QHBoxLayout;
+    chiusura->setSpacing(ui::controlSpacing);
+    chiusura->addWidget(lblEsito, 1);
+    chiusura->addWidget(cmdChiudi, 0, Qt::AlignBottom);
+
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::controlSpacing);
+    finestra->addLayout(DisponiScelte());
+    finestra->addWidget(divisore, 1);
+    finestra->addWidget(ui::separatorLine(this));
+    finestra->addLayout(DisponiInvio());
+    finestra->addLayout(chiusura);
+}
+
+QLayout* frmProva::DisponiScelte() {
+    cmdFile->setMinimumSize(0, ui::fieldHeight);
+    cmdFile->setMaximumWidth(cmdFile->fontMetrics().horizontalAdvance("...") + 28);
+    cmbFile->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    txtCerca->setMaximumWidth(ui::scaledToFont(*this, 160));
+
+    auto* destinatario = new QHBoxLayout;
+    destinatario->setSpacing(ui::controlSpacing);
+    destinatario->addWidget(cmdPrecedente);
+    destinatario->addWidget(cmdSuccessivo);
+    destinatario->addWidget(txtDestinatario, 1);
+    destinatario->addWidget(lblCerca);
+    destinatario->addWidget(txtCerca);
+    destinatario->addWidget(cmdCerca);
+    auto* messaggio = new QHBoxLayout;
+    messaggio->setSpacing(ui::controlSpacing);
+    messaggio->addWidget(cmbFile, 1);
+    messaggio->addWidget(cmdFile);
+
+    auto* scelte = new QGridLayout;
+    scelte->setSpacing(ui::controlSpacing);
+    scelte->setColumnStretch(1, 1);
+    scelte->addWidget(lblFile, 0, 0);
+    scelte->addLayout(messaggio, 0, 1);
+    scelte->addWidget(lblDestinatario, 1, 0);
+    scelte->addLayout(destinatario, 1, 1);
+    scelte->addWidget(lblOggetto, 2, 0);
+    scelte->addWidget(txtOggetto, 2, 1);
+    scelte->addWidget(lblStato, 3, 0, 1, 2);
+    return scelte;
+}
+
+QWidget* frmProva::DisponiMessaggio() {
+    schede->addView(HTML, "HTML", "text-html");
+    schede->addView(TESTO, "Solo testo", "view-list-text");
+    schede->setTabToolTip(0, "Il messaggio come lo vede il destinatario");
+    schede->setTabToolTip(1, "Il messaggio come lo legge chi non vede l'HTML");
+    schede->setColours({coloreTema(9), coloreTema(10), coloreTema(1)});
+    auto* parte = new QWidget(this);
+    auto* colonna = new QVBoxLayout(parte);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(ui::controlSpacing);
+    colonna->addWidget(schede, 1);
+    colonna->addWidget(lblAllegati);
+    return parte;
+}
+
+QWidget* frmProva::DisponiRilievi() {
+    auto* parte = new QWidget(this);
+    auto* colonna = new QVBoxLayout(parte);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(ui::controlSpacing);
+    colonna->addWidget(lblRilievi);
+    colonna->addWidget(lstRilievi, 1);
+    colonna->addWidget(cmdVai, 0, Qt::AlignRight);
+    return parte;
+}
+
+QLayout* frmProva::DisponiInvio() {
+    cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* invio = new QHBoxLayout;
+    invio->setSpacing(ui::controlSpacing);
+    invio->addWidget(lblAccount);
+    invio->addWidget(cmbAccount, 1);
+    invio->addWidget(lblIndirizzo);
+    invio->addWidget(txtIndirizzo, 1);
+    invio->addWidget(cmdInviaProva);
+    return invio;
+}
+
+void frmProva::CollegaEtichette() {
+    const auto collega = [](QLabel* etichetta, QWidget* campo) {
+        etichetta->setBuddy(campo);
+        campo->setAccessibleName(ui::spokenCaption(etichetta->text()));
+    };
+    collega(lblFile, cmbFile);
+    collega(lblDestinatario, txtDestinatario);
+    collega(lblCerca, txtCerca);
+    collega(lblOggetto, txtOggetto);
+    collega(lblRilievi, lstRilievi);
+    collega(lblAccount, cmbAccount);
+    collega(lblIndirizzo, txtIndirizzo);
+    cmdFile->setAccessibleName("Sfoglia il messaggio");
+    cmdCerca->setAccessibleName("Cerca il destinatario");
+    HTML->setAccessibleName("Messaggio in HTML");
+    TESTO->setAccessibleName("Messaggio di solo testo");
+    schede->setAccessibleName("Forme del messaggio");
+    cmdPrecedente->setAccessibleDescription("Mostra il messaggio del destinatario selezionato precedente");
+    cmdSuccessivo->setAccessibleDescription("Mostra il messaggio del destinatario selezionato successivo");
+    cmdVai->setAccessibleDescription("Mostra il primo destinatario di questo rilievo");
+}
+
+void frmProva::CollegaEventi() {
+    const auto alClick = [this](QAbstractButton* pulsante, auto gestore) {
+        connect(pulsante, &QAbstractButton::clicked, this, [this, gestore] { evento([&] { gestore(); }); });
+    };
+    alClick(cmdFile, [this] { cmdFile_Click(); });
+    alClick(cmdPrecedente, [this] { MostraDestinatario(riga - 1); });
+    alClick(cmdSuccessivo, [this] { MostraDestinatario(riga + 1); });
+    alClick(cmdCerca, [this] { Cerca(); });
+    alClick(cmdVai, [this] { VaiAlPrimo(); });
+    alClick(cmdInviaProva, [this] { cmdInviaProva_Click(); });
+    alClick(cmdChiudi, [this] { reject(); });
+    connect(cmbFile, &QComboBox::activated, this, [this] { evento([this] { UsaFile(); }); });
+    connect(cmbAccount, &QComboBox::activated, this, [this] { evento([this] { UsaAccount(); }); });
+    connect(txtCerca, &QLineEdit::returnPressed, this, [this] { evento([this] { Cerca(); }); });
+    connect(lstRilievi, &QListWidget::currentRowChanged, this, [this] { evento([this] { AbilitaVai(); }); });
+    connect(lstRilievi, &QListWidget::itemActivated, this, [this] { evento([this] { VaiAlPrimo(); }); });
+    connect(tmrControllo, &QTimer::timeout, this, [this] { evento([this] { ContinuaControllo(); }); });
+    connect(tmrRicerca, &QTimer::timeout, this, [this] { evento([this] { ContinuaRicerca(); }); });
+    connect(prova, &mail::DeliveryControl::SendDone, this, [this] { evento([this] { FineInvio(true); }); });
+    connect(prova, &mail::DeliveryControl::SendError, this, [this] { evento([this] { FineInvio(false); }); });
+}
+
+void frmProva::Racconta(QLabel& dove, const QString& testo) {
+    dove.setText(testo);
+    if (!testo.isEmpty()) voce->say(testo);
+}

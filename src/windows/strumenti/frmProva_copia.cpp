@@ -1,0 +1,209 @@
+// The message and the recipient that are on show.
+#include <QComboBox>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "modules/core/bFunctions.h"
+#include "modules/core/Fallimento.h"
+#include "modules/lang/bVAR.h"
+#include "modules/send/Selezione.h"
+#include "modules/store/RecordsetDB.h"
+#include "platform/html/HtmlView.h"
+#include "platform/mail/Composer.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/Announcer.h"
+#include "platform/ui/FileDialog.h"
+#include "windows/strumenti/frmProva.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds fetta{15};  // of a search, before the window is served again
+
+QString conta(qint64 n) {
+    return text::formatGrouped(static_cast<double>(n));
+}
+
+}  // namespace
+
+/// The entries: what the editor and the send window have, and what was chosen here before.
+void frmProva::CaricaFile() {
+    const QString scelto = modello ? modello->percorso : QString();
+    QStringList voci;
+    for (const QString& percorso : QStringList{vicini.FileEditor(), vicini.FileInvio()} + file)
+        if (!percorso.isEmpty() && !voci.contains(percorso)) voci << percorso;
+    file = voci;
+    cmbFile->clear();
+    for (const QString& percorso : file)
+        cmbFile->addItem(NomeDaPercorso(percorso) + "  –  " + PercorsoMostrato(percorso));
+    // What the editor has now goes before what was looked at last.
+    cmbFile->setCurrentIndex(file.isEmpty() ? -1 : 0);
+    if (vicini.FileEditor().isEmpty() && file.contains(scelto))
+        cmbFile->setCurrentIndex(static_cast<int>(file.indexOf(scelto)));
+}
+
+void frmProva::cmdFile_Click() {
+    const auto percorso =
+        ui::FileDialog::open(bVAR::goApriEmail.isEmpty() ? QString("Apri messaggio") : bVAR::goApriEmail,
+                             "Message File (*.mss)|*.mss");
+    if (!percorso) return;
+    if (!file.contains(*percorso)) {
+        file << *percorso;
+        cmbFile->addItem(NomeDaPercorso(*percorso) + "  –  " + PercorsoMostrato(*percorso));
+    }
+    cmbFile->setCurrentIndex(static_cast<int>(file.indexOf(*percorso)));
+    UsaFile();
+}
+
+/// Reads the file that is chosen, anew each time, and shows it for the recipient on show.
+void frmProva::UsaFile() {
+    modello.reset();
+    QString motivo = "Nessun messaggio: salvarne uno nell'editor o sceglierlo con il pulsante \"...\".";
+    if (cmbFile->currentIndex() >= 0) {
+        Result<ModelloProva> letto = LeggiModelloProva(file.value(cmbFile->currentIndex()));
+        if (letto.ok())
+            modello = std::move(letto).value();
+        else
+            motivo = letto.status().text();
+    }
+    rilieviModello = modello ? RilieviModello(*modello) : QList<Rilievo>();
+    copia.reset();
+    if (!modello) {
+        txtOggetto->clear();
+        TESTO->clear();
+        static_cast<void>(HTML->setDocumentHTML({}));
+        lblAllegati->clear();
+        txtDestinatario->clear();
+        Racconta(*lblStato, motivo);
+    } else {
+        lblStato->clear();
+        MostraDestinatario(riga < 0 ? 0 : riga);
+    }
+    IniziaControllo();
+    AbilitaInvio();
+}
+
+/// Shows the copy of the recipient that stands there in the order of a run, the nearest one where there is
+/// none; the template itself without a selection.
+void frmProva::MostraDestinatario(qint64 nuova) {
+    if (!modello) return;
+    QString chi;
+    Prosegui prosegui;
+    copia.reset();
+    const bool letto = prosegui([&] {
+        ado::Recordset rs = RecordsetDB();
+        rs.setSource(codaInvio);
+        esigi(rs.open());
+        selezionati = rs.recordCount();
+        riga = qBound(qint64{-1}, nuova, selezionati - 1);
+        if (selezionati > 0 && riga < 0) riga = 0;
+        if (riga > 0) esigi(rs.move(riga));
+        copia = LeggiCopia(*modello, rs);
+    });
+    if (!copia) copia = CopiaProva{modello->testi, {}, {}};
+    if (!letto)
+        Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
+    else if (selezionati < 1)
+        Racconta(*lblStato, "Nessun destinatario è selezionato: il messaggio si vede con i suoi segnaposto.");
+    else
+        lblStato->clear();
+    if (riga >= 0 && letto && selezionati > 0)
+        chi = QStringLiteral("%1 di %2:  ").arg(conta(riga + 1), conta(selezionati)) + copia->nome + " <" +
+              copia->indirizzo + '>';
+    txtDestinatario->setText(chi);
+    txtDestinatario->setCursorPosition(0);
+    cmdPrecedente->setEnabled(riga > 0);
+    cmdSuccessivo->setEnabled(riga + 1 < selezionati);
+    cmdCerca->setEnabled(selezionati > 0);
+    if (!chi.isEmpty()) voce->say(chi);
+    MostraCopia(*copia);
+}
+
+void frmProva::MostraCopia(const CopiaProva& mostrata) {
+    txtOggetto->setText(mostrata.testi.oggetto);
+    txtOggetto->setCursorPosition(0);
+    TESTO->setPlainText(FormaTesto(mostrata.testi));
+    if (const Status messo = HTML->setDocumentHTML(FormaHtml(*modello, mostrata.testi)); !messo.ok())
+        Racconta(*lblStato, "Questa copia non si può mostrare: " + messo.text());
+    MostraAllegati(mostrata);
+    if (controllo || controlloFinito) MostraRilievi();
+}
+
+void frmProva::MostraAllegati(const CopiaProva& mostrata) {
+    QStringList voci;
+    for (const AllegatoMss& allegato : modello->allegati)
+        voci << PercorsoMostrato(allegato.nome) +
+                    (allegato.presente
+                         ? " (" + QLocale().formattedDataSize(QFileInfo(allegato.percorso).size()) + ')'
+                         : QString(" (non c'è)"));
+    lblAllegati->setText(
+        (voci.isEmpty() ? QString("Nessun allegato.") : "Allegati: " + voci.join(", ") + '.') + "  " +
+        DimensioneMessaggio(mostrata));
+}
+
+/// The size of the whole mail as it travels; a sentence why there is none.
+QString frmProva::DimensioneMessaggio(const CopiaProva& mostrata) const {
+    const Account* mittente = MittenteScelto();
+    if (!mittente) return "Dimensione non nota: manca l'account mittente.";
+    mail::MessageData dati = DatiMessaggio(*modello, mostrata, *mittente, {});
+    if (riga < 0) dati.toAddress = mittente->txtEmail;
+    const auto composto = compositore->compose(dati);
+    if (!composto.ok()) return "Il messaggio non può partire: " + composto.status().text();
+    return "Messaggio intero: " + QLocale().formattedDataSize(composto.value().text.size()) + '.';
+}
+
+/// Looks for the text in every column of the selected recipients, from the one behind that on show on, round
+/// the end; no case.
+void frmProva::Cerca() {
+    if (!modello || selezionati < 1 || txtCerca->text().isEmpty()) return;
+    Prosegui prosegui;
+    if (!prosegui([this] {
+            ricerca = RecordsetDB();
+            ricerca->setSource(codaInvio);
+            esigi(ricerca->open());
+            rigaRicerca = riga + 1 < selezionati ? riga + 1 : 0;
+            if (rigaRicerca > 0) esigi(ricerca->move(rigaRicerca));
+        })) {
+        ricerca.reset();
+        return Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
+    }
+    vistiRicerca = 0;
+    lblStato->setText("Ricerca in corso…");
+    tmrRicerca->start(0);
+}
+
+void frmProva::ContinuaRicerca() {
+    const QDeadlineTimer fine(fetta);
+    const QString cercato = txtCerca->text();
+    Prosegui prosegui;
+    bool trovato = false, finita = false;
+    const bool letto = prosegui([&] {
+        while (!trovato && !finita && !fine.hasExpired()) {
+            if (ricerca->isEof()) {
+                esigi(ricerca->moveFirst());
+                rigaRicerca = 0;
+            }
+            for (int i = 0; i < ricerca->fieldCount() && !trovato; ++i) {
+                const Result<ado::Value> valore = ricerca->value(i);
+                trovato = valore.ok() && valore.value().type() == ado::Value::Type::Text &&
+                          valore.value().toTextOrEmpty().contains(cercato, Qt::CaseInsensitive);
+            }
+            if (trovato) break;
+            finita = ++vistiRicerca >= selezionati;
+            if (finita) break;
+            esigi(ricerca->moveNext());
+            ++rigaRicerca;
+        }
+    });
+    if (letto && !trovato && !finita) return;
+    tmrRicerca->stop();
+    ricerca.reset();
+    if (!letto) return Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
+    if (!trovato) return Racconta(*lblStato, "Nessun destinatario selezionato contiene \"" + cercato + "\".");
+    MostraDestinatario(rigaRicerca);
+}

@@ -1,0 +1,138 @@
+// The copy that goes to an address of the user's.
+#include <algorithm>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "modules/accounts/Portachiavi.h"
+#include "modules/core/bImpostazioni.h"
+#include "modules/core/Fallimento.h"
+#include "modules/send/Consegna.h"
+#include "platform/mail/AddrSpec.h"
+#include "platform/mail/DeliveryControl.h"
+#include "platform/mail/ServerVerdict.h"
+#include "platform/text/Blanks.h"
+#include "platform/ui/MessageDialog.h"
+#include "platform/ui/WaitNotice.h"
+#include "windows/core/DomandaFile.h"
+#include "windows/core/Puntatore.h"
+#include "windows/strumenti/frmProva.h"
+
+namespace {
+
+constexpr qint16 attesaServer = 30;  // seconds without progress
+
+}  // namespace
+
+void frmProva::CaricaAccount() {
+    const QString prima = cmbAccount->currentText();
+    cmbAccount->clear();
+    account.clear();
+    Prosegui prosegui;
+    prosegui([this] {
+        ::CaricaAccount(cartellaDati() + "Account.imp", account, [this](const Account& uno, int numero) {
+            cmbAccount->addItem(VoceAccount(uno), numero);
+        });
+    });
+    cmbAccount->setCurrentIndex(
+        std::max(cmbAccount->findText(prima, Qt::MatchExactly), cmbAccount->count() > 0 ? 0 : -1));
+    UsaAccount();
+}
+
+const Account* frmProva::MittenteScelto() const {
+    if (cmbAccount->currentIndex() < 0) return nullptr;
+    const auto numero = static_cast<std::size_t>(cmbAccount->currentData().toInt());
+    return numero < account.size() ? &account[numero] : nullptr;
+}
+
+/// Proposes the account's own address, unless the user wrote another one.
+void frmProva::UsaAccount() {
+    const Account* mittente = MittenteScelto();
+    if (mittente && (txtIndirizzo->text().isEmpty() || txtIndirizzo->text() == propostaIndirizzo)) {
+        propostaIndirizzo = mittente->txtEmail;
+        txtIndirizzo->setText(propostaIndirizzo);
+    }
+    if (modello && copia) MostraAllegati(*copia);
+    AbilitaInvio();
+}
+
+void frmProva::AbilitaInvio() {
+    for (QWidget* campo :
+         std::initializer_list<QWidget*>{cmbFile, cmdFile, cmbAccount, txtIndirizzo, cmdInviaProva})
+        campo->setEnabled(!inInvio);
+}
+
+void frmProva::cmdInviaProva_Click() {
+    const Account* mittente = MittenteScelto();
+    const QString indirizzo = text::trimBlanks(txtIndirizzo->text()).toString();
+    if (!modello || !copia) return Racconta(*lblEsito, "Scegliere un messaggio prima di inviare la prova.");
+    if (!mittente)
+        return Racconta(*lblEsito, "Nessun account: crearne uno con il comando \"Imposta Account\".");
+    if (!mail::parseAddrSpec(indirizzo).ok()) {
+        txtIndirizzo->setFocus();
+        return Racconta(*lblEsito, "L'indirizzo della prova non è valido.");
+    }
+    if (!ChiediFile()) return Racconta(*lblEsito, "La prova non è stata inviata.");
+
+    Prosegui prosegui;
+    ui::WaitNotice attesa(
+        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+    const QString password =
+        portachiavi::PasswordDi(*mittente, [&](auto passato) { return attesa.goOn(passato); });
+    attesa.over();
+    ImpostaMittente(*prova, *mittente, prosegui);
+    prova->TimeoutSecs = attesaServer;
+    prova->TemplateHtml = modello->testi.corpoHtml;
+    prova->BodyHtml = copia->testi.corpoHtml;
+    prova->BodyText = copia->testi.corpoTesto;
+    prova->Subject = copia->testi.oggetto;
+    prova->UnsubscribeLink = copia->testi.disiscrizione;
+    prova->Priority = modello->priorita;
+    prova->Attachments.Clear();
+    for (const AllegatoMss& allegato : modello->allegati)
+        if (allegato.presente) prova->Attachments.Add(allegato.percorso, allegato.nome);
+    prova->ToAddress = indirizzo;
+    prova->ToName = copia->nome;
+    inInvio = true;
+    AbilitaInvio();
+    Racconta(*lblEsito, "Invio della prova a " + indirizzo + "…");
+    // The look-up of the direct route holds the thread as it does in a run.
+    lblEsito->repaint();
+    PuntatoreAttesa();
+    ScegliStrada(*prova, *mittente, password, prosegui);
+    PuntatorePredefinito();
+    prova->Send();
+}
+
+/// Asks about files that the user has not agreed to send; false where he does not. His answer holds for this
+/// copy alone.
+bool frmProva::ChiediFile() {
+    const QList<FileInPartenza> tutti = modello->inPartenza();
+    QStringList concessi;
+    for (const FileInPartenza& uno : tutti)
+        concessi << uno.risolto;
+    prova->FilesToCarry = concessi;
+    const QList<FileInPartenza> chiesti = DaChiedere(tutti);
+    if (chiesti.isEmpty()) return true;
+    return ui::MessageDialog::askAbout(
+               DomandaFile(chiesti,
+                           "La copia di prova porta con sé questi file di questo computer.\r\n"
+                           "Vuoi inviarli?")) != ui::MessageDialog::No;
+}
+
+void frmProva::FineInvio(bool consegnata) {
+    inInvio = false;
+    AbilitaInvio();
+    const mail::DeliveryOutcome& esito = prova->LastOutcome();
+    QString parole = esito.code ? QString::number(esito.code) + ' ' + esito.text : esito.text;
+    parole = parole.trimmed();
+    QString testo = consegnata
+                        ? "La prova è stata accettata dal server per " + QString(prova->ToAddress) + '.'
+                        : QString("La prova non è stata consegnata.");
+    if (const QString verdetto = mail::verdictOf(esito); !verdetto.isEmpty())
+        testo += ' ' + verdetto;
+    else if (!parole.isEmpty())
+        testo += (esito.code ? " Il server ha risposto: " : " ") + parole;
+    Racconta(*lblEsito, testo);
+}
