@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QJsonObject>
 #include <QLabel>
+#include <QUuid>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "platform/html/ClipboardContent.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/html/HtmlViewPlugin.h"
+#include "platform/html/MissingImages.h"
 #include "platform/html/SourceText.h"
 
 namespace {
@@ -23,9 +25,15 @@ constexpr int restPerWork = 9;
 constexpr int deathsInARow = 3;
 constexpr int deathsAreInARowWithin = 30000;
 
+// No document can hold it
+QString newMissingMark() {
+    return QStringLiteral("data:image/x-%1,").arg(QUuid::createUuid().toString(QUuid::WithoutBraces));
+}
+
 }  // namespace
 
-HtmlView::Live::Live(HtmlView& owner, Mode viewMode) : view(owner), mode(viewMode) {
+HtmlView::Live::Live(HtmlView& owner, Mode viewMode)
+    : view(owner), mode(viewMode), m_missingMark(newMissingMark()) {
     m_followTimer.setSingleShot(true);
     QObject::connect(&m_followTimer, &QTimer::timeout, &view, [this] { follow(); });
     // Windows may outlive the application object, a browser may not.
@@ -104,7 +112,8 @@ void HtmlView::Live::write() {
         shown[mark.key()] = mark.value();
     m_writing = true;
     browser.run(QStringLiteral("editor.load(%1); [editor.commands.state(), editor.history.version]")
-                    .arg(arguments({m_source, mode == Mode::Design, shown})),
+                    .arg(arguments({html::markMissingImages(m_source, m_missingMark), mode == Mode::Design,
+                                    shown, m_missingMark})),
                 [this, number = ++m_lastWrite](const QVariant& answer) {
                     if (number != m_lastWrite) return;
                     m_writing = false;

@@ -88,8 +88,9 @@ struct HtmlView::Live {
     void tellFiles(const QJsonObject& content);
     bool focusArrives(Qt::FocusReason reason);
 
-    QString m_defaultFont;   // as it was set
-    QString m_standardFont;  // as the browser knows it
+    const QString m_missingMark;  // in front of addresses of images that are not there
+    QString m_defaultFont;        // as it was set
+    QString m_standardFont;       // as the browser knows it
     QString m_source;
     QString m_text;  // null: as m_source gives it
     int m_version = -1;

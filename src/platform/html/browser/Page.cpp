@@ -22,8 +22,8 @@ const QString emptyDocument = QStringLiteral(
 
 QString editingScripts() {
     QString scripts;
-    for (const char* name :
-         {"editor", "text", "history", "table", "insert", "clean", "commands", "elements", "page", "marks"}) {
+    for (const char* name : {"editor", "text", "history", "table", "insert", "clean", "commands", "elements",
+                             "page", "marks", "missing"}) {
         QFile file(QStringLiteral(":/vestrola/browser/%1.js").arg(QLatin1String(name)));
         if (file.open(QIODevice::ReadOnly)) scripts += QString::fromUtf8(file.readAll());
     }

@@ -1,15 +1,12 @@
 #include "platform/html/browser/RequestFilter.h"
 
-#include <QFileInfo>
-#include <QUrl>
+#include "platform/html/LocalFile.h"
 
 namespace {
 
-// A device file could be read without end
 bool isLocalImage(const QWebEngineUrlRequestInfo& request) {
-    const QUrl url = request.requestUrl();
-    return request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeImage && url.isLocalFile() &&
-           url.host().isEmpty() && QFileInfo(url.toLocalFile()).isFile();
+    return request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeImage &&
+           html::namesLocalFile(request.requestUrl());
 }
 
 // The empty document comes as data too; the page navigates to no other

@@ -38,8 +38,9 @@ const editor = {
     },
 
     // Puts a document in place of the one that is here.
-    load(html, editable, marks) {
+    load(html, editable, marks, missing) {
         this.editable = editable;
+        this.missing.mark = missing;
         this.marks.shown = marks;
         this.text.write(html);
     },
@@ -81,6 +82,7 @@ const editor = {
         on('click', (event) => event.preventDefault());
         on('submit', (event) => event.preventDefault());
         on('dblclick', (event) => this.doubleClick(event));
+        for (const leaving of ['copy', 'cut', 'dragstart']) on(leaving, () => this.missing.release());
         if (!this.editable) return;
         on('beforeinput', (event) => this.beforeInput(event));
         on('mousedown', (event) => this.press(event));

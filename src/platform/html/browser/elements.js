@@ -22,7 +22,7 @@ editor.elements = {
     describe() {
         return this.path().map((element) => ({
             tag: element.localName,
-            attributes: Array.from(element.attributes, ({ name, value }) => [name, value]),
+            attributes: Array.from(element.attributes, ({ name, value }) => [name, editor.missing.plain(value)]),
         }));
     },
 
@@ -34,7 +34,7 @@ editor.elements = {
             if (!names.includes(name)) element.removeAttribute(name);
         }
         for (const [name, value] of wanted) {
-            if (element.getAttribute(name) !== value) element.setAttribute(name, value);
+            if (editor.missing.attribute(element, name) !== value) element.setAttribute(name, value);
         }
         return true;
     },

@@ -88,7 +88,7 @@ editor.insert = {
 
     // Text of other programs: what is content stays, what steers their own layout engine goes.
     foreign(html) {
-        const source = new DOMParser().parseFromString(this.between(html), 'text/html');
+        const source = new DOMParser().parseFromString(this.between(editor.missing.plain(html)), 'text/html');
         const { nodes, remote } = editor.clean.document(source);
         if (remote.length) editor.tell('remote', remote.slice(0, 100));
         const range = this.range();
@@ -129,7 +129,7 @@ editor.insert = {
     namingLocalFiles(source, found) {
         for (const element of Document.prototype.querySelectorAll.call(source, '*')) {
             for (const name of Element.prototype.getAttributeNames.call(element)) {
-                const files = this.localFiles(name, Element.prototype.getAttribute.call(element, name));
+                const files = this.localFiles(name, editor.missing.attribute(element, name));
                 if (files.length) found(element, name, files);
             }
         }
@@ -194,7 +194,7 @@ editor.insert = {
         const image = this.selectedImage();
         if (!image) return null;
         const info = {};
-        for (const [attribute, key] of Object.entries(this.imageAttributes)) info[key] = image.getAttribute(attribute) || '';
+        for (const [attribute, key] of Object.entries(this.imageAttributes)) info[key] = editor.missing.attribute(image, attribute) || '';
         return info;
     },
 
@@ -206,7 +206,7 @@ editor.insert = {
         for (const [attribute, key] of Object.entries(this.imageAttributes)) {
             const value = info[key] || '';
             if (value || attribute === 'src' || attribute === 'alt') {
-                if (image.getAttribute(attribute) !== value) image.setAttribute(attribute, value);
+                if (editor.missing.attribute(image, attribute) !== value) image.setAttribute(attribute, value);
             } else image.removeAttribute(attribute);
         }
         if (present) return true;

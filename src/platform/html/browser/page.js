@@ -9,7 +9,7 @@ editor.page = {
     ],
 
     attribute(name) {
-        return (document.body && document.body.getAttribute(name)) || '';
+        return (document.body && editor.missing.attribute(document.body, name)) || '';
     },
 
     // No undo steps, but changes of the document.

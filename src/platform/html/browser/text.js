@@ -13,7 +13,7 @@ editor.text = {
         }
         doubled.forEach((text) => text.deleteData(0, 1));
         editor.history.forget();
-        return out;
+        return editor.missing.plain(out);
     },
 
     blocksThatLoseALineFeed() {
