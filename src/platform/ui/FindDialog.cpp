@@ -49,8 +49,11 @@ void FindDialog::present() {
 }
 
 void FindDialog::find(bool backwards) {
-    m_answer->setText(m_search(m_text->text(), m_case->isChecked(), backwards) ? QString()
-                                                                               : "Testo non trovato.");
+    const Result<bool> found = m_search(m_text->text(), m_case->isChecked(), backwards);
+    if (!found.ok())
+        m_answer->setText(found.status().text());
+    else
+        m_answer->setText(found.value() ? QString() : "Testo non trovato.");
 }
 
 }  // namespace ui

@@ -3,6 +3,8 @@
 #include <functional>
 #include <QDialog>
 
+#include "platform/Status.h"
+
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -15,8 +17,8 @@ class FindDialog : public QDialog {
     Q_OBJECT
 
   public:
-    /// Selects the next place of the text and tells whether there is one.
-    using Search = std::function<bool(const QString& text, bool caseSensitive, bool backwards)>;
+    /// Selects the next place of the text and tells whether there is one. Fails where that is not known.
+    using Search = std::function<Result<bool>(const QString& text, bool caseSensitive, bool backwards)>;
 
     FindDialog(QWidget* parent, Search search);
 

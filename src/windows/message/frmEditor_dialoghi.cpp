@@ -50,12 +50,14 @@ void frmEditor::DialogoProprietaElemento() {
 
 void frmEditor::Trova() {
     if (!ricerca)
-        ricerca = new ui::FindDialog(this, [this](const QString& testo, bool maiuscole, bool indietro) {
-            if (tb->currentIndex() == Origine) return CODE->find(testo, maiuscole, indietro);
-            const unsigned opzioni =
-                (maiuscole ? HtmlView::FindCaseSensitive : 0U) | (indietro ? HtmlView::FindBackwards : 0U);
-            const Result<bool> trovato = DHTML->find(testo, opzioni);
-            return Riuscita(trovato.status()) && trovato.value();
-        });
+        ricerca = new ui::FindDialog(
+            this, [this](const QString& testo, bool maiuscole, bool indietro) -> Result<bool> {
+                if (tb->currentIndex() == Origine) return CODE->find(testo, maiuscole, indietro);
+                const unsigned opzioni = (maiuscole ? HtmlView::FindCaseSensitive : 0U) |
+                                         (indietro ? HtmlView::FindBackwards : 0U);
+                const Result<bool> trovato = DHTML->find(testo, opzioni);
+                Riuscita(trovato.status());
+                return trovato;
+            });
     ricerca->present();
 }

@@ -1,8 +1,12 @@
 // A browser that stalls never has an older text taken for the message's: what was asked of it fails, with a
 // notice, and goes on when the browser does.
 #include <csignal>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 
 #include "platform/html/ViewFixture.h"
+#include "platform/ui/FindDialog.h"
 #include "support/TestClass.h"
 #include "windows/message/editor_stage.h"
 
@@ -135,6 +139,23 @@ class TestStallo : public QObject {
             QVERIFY2(stage().hint().contains("non risponde"), qPrintable(stage().hint()));
         }
         QTRY_COMPARE(stage().body(), "<p>vecchio</p>");
+    }
+
+    void aSearchWithoutAnAnswerSaysSo() {
+        stage().fill("<p>uno</p>");
+        stage().start("cmdTrova");
+        auto& dialog = EditorStage::in<ui::FindDialog>(stage().editor(), "findDialog");
+        EditorStage::in<QLineEdit>(dialog, "txtFind").setText("uno");
+        {
+            const Stall stall(stage().design());
+            EditorStage::in<QPushButton>(dialog, "cmdNext").click();
+            QCOMPARE(EditorStage::in<QLabel>(dialog, "lblAnswer").text(),
+                     "La vista del messaggio non risponde.");
+        }
+        QTRY_COMPARE(stage().body(), "<p>uno</p>");
+        EditorStage::in<QPushButton>(dialog, "cmdNext").click();
+        QCOMPARE(EditorStage::in<QLabel>(dialog, "lblAnswer").text(), "");
+        dialog.close();
     }
 
     void aMessageThatIsOpenedMeanwhileIsThereAfterwards() {
