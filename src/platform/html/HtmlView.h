@@ -149,6 +149,9 @@ class HtmlView : public QWidget {
 
     /// State at the present selection, without asking the browser: as of the last displayChanged().
     CommandStatus queryStatus(int command) const;
+    /// What GetFontName and GetFontSize answer, likewise.
+    QString queryFontName() const;
+    QString queryFontSize() const;
     /// True where queryStatus() is Latched, and where it is Enabled or Latched.
     bool commandState(int command) const { return queryStatus(command) == Latched; }
     bool commandEnabled(int command) const { return queryStatus(command) >= Enabled; }

@@ -10,14 +10,24 @@ Result<QString> HtmlView::Live::freshState(const QString& name) {
     awaitStrokes();
     const Result<QVariant> fresh = ask(QStringLiteral("editor.commands.state()"));
     if (!fresh.ok()) return fresh.status();
-    if (!fresh.value().toMap().isEmpty()) state = fresh.value().toMap();
+    if (!fresh.value().toMap().isEmpty()) takeState(fresh.value().toMap());
     return state.value(name).toString();
 }
 
 Result<QString> HtmlView::Live::fontName() {
     Result<QString> name = freshState(QStringLiteral("fontName"));
-    if (name.ok() && !m_standardFont.isEmpty() && name.value() == m_standardFont) return m_defaultFont;
-    return name;
+    return name.ok() ? shownFontName() : name;
+}
+
+QString HtmlView::Live::shownFontName() const {
+    const QString name = state.value(QStringLiteral("fontName")).toString();
+    return !m_standardFont.isEmpty() && name == m_standardFont ? m_defaultFont : name;
+}
+
+void HtmlView::Live::takeState(const QVariantMap& newer) {
+    state = newer;
+    m_strokesSeen = newer.value(QStringLiteral("strokes")).toInt();
+    m_strokes = qMax(m_strokes, m_strokesSeen);
 }
 
 HtmlView::CommandStatus HtmlView::Live::status(int command) const {

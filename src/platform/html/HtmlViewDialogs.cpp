@@ -52,6 +52,14 @@ HtmlView::CommandStatus HtmlView::queryStatus(int command) const {
     return m_live->status(command);
 }
 
+QString HtmlView::queryFontName() const {
+    return m_live->shownFontName();
+}
+
+QString HtmlView::queryFontSize() const {
+    return m_live->state.value(QStringLiteral("fontSize")).toString();
+}
+
 Result<bool> HtmlView::insertHTML(const QString& fragment) {
     return m_live->changeDone(QStringLiteral("insert.fragment"), {fragment});
 }

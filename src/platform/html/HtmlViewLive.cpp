@@ -111,14 +111,16 @@ void HtmlView::Live::write() {
     for (auto mark = marks.cbegin(); mark != marks.cend(); ++mark)
         shown[mark.key()] = mark.value();
     m_writing = true;
+    forgetRead();
+    const QString marked = html::markMissingImages(m_source, m_missingMark);
+    const QString mark = marked == m_source ? QString() : m_missingMark;
     browser.run(QStringLiteral("editor.load(%1); [editor.commands.state(), editor.history.version]")
-                    .arg(arguments({html::markMissingImages(m_source, m_missingMark), mode == Mode::Design,
-                                    shown, m_missingMark})),
+                    .arg(arguments({marked, mode == Mode::Design, shown, mark})),
                 [this, number = ++m_lastWrite](const QVariant& answer) {
                     if (number != m_lastWrite) return;
                     m_writing = false;
                     m_stalled = false;
-                    state = answer.toList().value(0).toMap();
+                    takeState(answer.toList().value(0).toMap());
                     m_toldVersion = answer.toList().value(1).toInt();
                     written();
                 });
@@ -126,7 +128,6 @@ void HtmlView::Live::write() {
 
 void HtmlView::Live::written() {
     live = true;
-    m_version = -1;
     takeInput();
     wakeWaiting();
     Q_EMIT view.documentComplete();
@@ -148,13 +149,16 @@ void HtmlView::Live::takeInput() {
 
 Result<QString> HtmlView::Live::text() {
     awaitStrokes();
-    if (live) {
-        const Result<QVariant> newer =
-            ask(QStringLiteral("editor.text.readNewer(%1)").arg(m_version), Wait::Long);
-        if (newer.ok()) takeText(newer.value());
-        tellFollowed();
-        // Of a process that died meanwhile nothing newer than the copy can be had.
-        if (!newer.ok() && live) return newer.status();
+    // A question that is on its way may be older than the last change.
+    bool answered = haveRead();
+    if (answered && live) {
+        read();
+        answered = haveRead();
+    }
+    // Of a process that died meanwhile nothing newer than the copy can be had.
+    if (!answered && live) {
+        m_stalled = true;
+        return noAnswer();
     }
     return knownText();
 }
@@ -172,25 +176,54 @@ void HtmlView::Live::takeText(const QVariant& answer) {
     const QVariantMap newer = answer.toMap();
     if (newer.isEmpty()) return;
     m_version = newer.value(QStringLiteral("version")).toInt();
-    m_text = html::ansiForm(newer.value(QStringLiteral("text")).toString());
+    const QString text = newer.value(QStringLiteral("text")).toString();
+    if (newer.value(QStringLiteral("whole")).toBool())
+        m_serialised = text;
+    else
+        m_serialised.replace(newer.value(QStringLiteral("from")).toLongLong(),
+                             newer.value(QStringLiteral("removed")).toLongLong(), text);
+    m_text = html::ansiForm(m_serialised);
 }
 
 void HtmlView::Live::tellFollowed() {
     if (m_version >= 0 && std::exchange(m_toldVersion, m_version) != m_version) Q_EMIT view.followed();
 }
 
-// Keeps the copy that outlives the browser's process
-void HtmlView::Live::follow() {
-    if (!live) return;
+// Asks for what changed in the text. One such question at a time, as each answer builds on the last.
+void HtmlView::Live::read() {
     QElapsedTimer work;
     work.start();
+    m_reading = true;
     browser.run(QStringLiteral("editor.text.readNewer(%1)").arg(m_version),
                 [this, work, document = m_lastWrite](const QVariant& answer) {
                     if (document != m_lastWrite) return;
+                    m_reading = false;
+                    m_stalled = false;
                     takeText(answer);
+                    wakeWaiting();
                     tellFollowed();
                     m_followTimer.setInterval(static_cast<int>(work.elapsed()) * restPerWork);
+                    if (std::exchange(m_followDue, false)) m_followTimer.start();
                 });
+}
+
+void HtmlView::Live::forgetRead() {
+    m_reading = m_followDue = false;
+    m_version = -1;
+    m_serialised.clear();
+}
+
+bool HtmlView::Live::haveRead() {
+    return waitFor([this] { return !m_reading || !live; }, patience(Wait::Long));
+}
+
+// Keeps the copy that outlives the browser's process
+void HtmlView::Live::follow() {
+    if (!live) return;
+    if (m_reading)
+        m_followDue = true;
+    else
+        read();
 }
 
 void HtmlView::Live::keepText() {
@@ -198,6 +231,7 @@ void HtmlView::Live::keepText() {
     m_source = knownText();
     m_stalled = false;
     m_stateDue = false;
+    forgetRead();
     m_writing = false;
     ++m_lastWrite;  // the process may be gone, its answers still come
     m_strokes = m_strokesSeen = 0;

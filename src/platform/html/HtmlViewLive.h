@@ -48,6 +48,7 @@ struct HtmlView::Live {
 
     Result<QString> freshState(const QString& name);
     Result<QString> fontName();
+    QString shownFontName() const;
     CommandStatus status(int command) const;
     void setDefaultFont(const QString& family);
     void showMarks(const QString& name, bool on);
@@ -76,8 +77,12 @@ struct HtmlView::Live {
     void keepText();
     void tryAgain();
     void end();
+    void read();
+    bool haveRead();
+    void forgetRead();
     void follow();
     void takeText(const QVariant& answer);
+    void takeState(const QVariantMap& newer);
     void tellFollowed();
     void refreshState();
     void wakeWaiting();
@@ -92,7 +97,8 @@ struct HtmlView::Live {
     QString m_defaultFont;        // as it was set
     QString m_standardFont;       // as the browser knows it
     QString m_source;
-    QString m_text;  // null: as m_source gives it
+    QString m_text;        // null: as m_source gives it
+    QString m_serialised;  // the document of m_version as its page writes it
     int m_version = -1;
     int m_toldVersion = -1;  // of the last followed(), or of the document as it was loaded
     bool m_writing = false;
@@ -101,6 +107,9 @@ struct HtmlView::Live {
     QString m_failure;
     bool m_stalled = false;  // a question got no answer, and none came since
     bool m_stateDue = false;
+    bool m_reading = false;    // the answer to read() is on its way
+    bool m_followDue = false;  // once it came
+
     bool m_strokeIsShortcut = false;
     int m_strokes = 0;      // keys released over the input widget
     int m_strokesSeen = 0;  // of them by the document

@@ -102,7 +102,7 @@ Result<QVariant> HtmlView::Live::change(const QString& function, const QJsonArra
                 .arg(function, arguments(values)));
     if (!answer.ok()) return answer.status();
     const QVariantMap done = answer.value().toMap();
-    if (!done.isEmpty()) state = done.value(QStringLiteral("state")).toMap();
+    if (!done.isEmpty()) takeState(done.value(QStringLiteral("state")).toMap());
     return done.value(QStringLiteral("result"));
 }
 
@@ -195,7 +195,7 @@ void HtmlView::Live::refreshState() {
         m_stateDue = false;
         m_stalled = false;
         if (!live) return;
-        state = answer.toMap();
+        takeState(answer.toMap());
         Q_EMIT view.displayChanged();
     });
 }

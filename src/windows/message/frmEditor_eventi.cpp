@@ -163,11 +163,8 @@ void frmEditor::AvvisaVista(const Status& stato, const QString& seguito) {
 }
 
 void frmEditor::AggiornaStatoDesign() {
-    for (const auto& [casella, comando] :
-         {std::pair("cmbFontName", HtmlView::GetFontName), std::pair("cmbFontSize", HtmlView::GetFontSize)}) {
-        const Result<QVariant> valore = DHTML->execCommand(comando);
-        if (valore.ok()) barre->GetComboBox(casella)->setText(valore.value().toString());
-    }
+    barre->GetComboBox("cmbFontName")->setText(DHTML->queryFontName());
+    barre->GetComboBox("cmbFontSize")->setText(DHTML->queryFontSize());
     for (const SoloDesign& comando : comandiDesign) {
         ui::Command& strumento = *barre->GetToolButton(comando.nome);
         if (comando.segue == SoloDesign::Formato)

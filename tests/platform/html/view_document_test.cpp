@@ -52,6 +52,23 @@ class ViewDocument : public QObject {
         QCOMPARE(desk.body(), QString("<b>due</b>"));
     }
 
+    void eachTextFollowsFromTheLastWhereverItChanged() {
+        const Desk desk("<p>😀 uno</p><p>due</p><p>tre</p>");
+        QCOMPARE(desk.body(), QString("<p>&#128512; uno</p><p>due</p><p>tre</p>"));
+        const auto first = [&](const char* text) {
+            desk.view.evaluate(QString("document.querySelector('p').firstChild.data = '%1'").arg(text));
+        };
+        first("😁 uno");  // of two units, the first one stays
+        QCOMPARE(desk.body(), QString("<p>&#128513; uno</p><p>due</p><p>tre</p>"));
+        first("😁");
+        desk.view.evaluate("document.querySelector('p:last-child').append('tre')");
+        QCOMPARE(desk.body(), QString("<p>&#128513;</p><p>due</p><p>tretre</p>"));
+        desk.view.evaluate("document.querySelector('p:last-child').firstChild.data = 'tretre'");
+        QCOMPARE(desk.body(), QString("<p>&#128513;</p><p>due</p><p>tretretre</p>"));
+        desk.view.evaluate("document.body.textContent = ''");
+        QCOMPARE(desk.body(), QString());
+    }
+
     void documentSetWhileTheBrowserComesIsTheOneThatShows() {
         SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<p>uno</p>");

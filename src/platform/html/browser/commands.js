@@ -80,6 +80,7 @@ editor.commands = {
             undo: editor.history.done.length > 0,
             redo: editor.history.undone.length > 0,
             table: Boolean(editor.table.cell()),
+            strokes: editor.strokes,
         };
     },
 };

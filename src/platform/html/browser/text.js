@@ -39,9 +39,38 @@ editor.text = {
         editor.begin();
     },
 
-    // The text if it changed since the version that the caller knows.
+    told: { version: null, text: '' }, // what the program was given last
+
+    // What has to be put in the place of a stretch of the text that the caller knows, by its version, to get the one
+    // that stands here; none where they are the same. A caller that knows another one than the last is given it all.
     readNewer(version) {
         editor.history.flush();
-        return version === editor.history.version ? null : { text: editor.text.read(), version: editor.history.version };
+        const now = editor.history.version;
+        if (version === now) return null;
+        const whole = this.told.version !== version;
+        const old = whole ? '' : this.told.text;
+        const text = this.read();
+        this.told = { version: now, text };
+        let from = this.alike(old, text, (a, b, start, end) => a.slice(start, end) === b.slice(start, end));
+        if (/[\ud800-\udbff]/.test(text.charAt(from - 1))) from -= 1; // half a character cannot travel
+        const stretch = (text, start, end) => text.slice(text.length - end, text.length - start);
+        let behind = this.alike(old.slice(from), text.slice(from), (a, b, start, end) =>
+            stretch(a, start, end) === stretch(b, start, end),
+        );
+        if (/[\udc00-\udfff]/.test(text.charAt(text.length - behind))) behind -= 1;
+        const removed = old.length - from - behind;
+        return { version: now, whole, from, removed, text: text.slice(from, text.length - behind) };
+    },
+
+    // How many characters two texts have alike at one of their ends. `same` compares a stretch of it.
+    alike(a, b, same) {
+        let known = 0;
+        let most = Math.min(a.length, b.length);
+        while (known < most) {
+            const half = (known + most + 1) >> 1;
+            if (same(a, b, known, half)) known = half;
+            else most = half - 1;
+        }
+        return known;
     },
 };
