@@ -1,5 +1,6 @@
 #include "platform/mail/DkimSigner.h"
 
+#include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 
@@ -80,16 +81,9 @@ class RsaKey {
   public:
     /// `pem` may be anything. A key that asks for a password is none.
     void read(QByteArrayView pem, const EVP_MD* digest) {
-        m_context.reset();
-        const std::unique_ptr<BIO, FreeKey> source(BIO_new_mem_buf(pem.data(), int(pem.size())));
-        const auto noPassword = [](char*, int, int, void*) { return -1; };
-        m_key.reset(source ? PEM_read_bio_PrivateKey(source.get(), nullptr, noPassword, nullptr) : nullptr);
-        if (m_key && EVP_PKEY_get_base_id(m_key.get()) != EVP_PKEY_RSA) m_key.reset();
-        if (!m_key) return;
-        m_context.reset(EVP_PKEY_CTX_new(m_key.get(), nullptr));
-        if (!m_context || EVP_PKEY_sign_init(m_context.get()) != 1 ||
-            EVP_PKEY_CTX_set_signature_md(m_context.get(), digest) != 1)
-            m_context.reset();
+        tryToRead(pem, digest);
+        // What is left in the library's list of errors would count for the TLS connection of this thread.
+        ERR_clear_error();
     }
     bool isThere() const { return m_key && m_context; }
     int bits() const { return EVP_PKEY_get_bits(m_key.get()); }
@@ -106,6 +100,19 @@ class RsaKey {
     }
 
   private:
+    void tryToRead(QByteArrayView pem, const EVP_MD* digest) {
+        m_context.reset();
+        const std::unique_ptr<BIO, FreeKey> source(BIO_new_mem_buf(pem.data(), int(pem.size())));
+        const auto noPassword = [](char*, int, int, void*) { return -1; };
+        m_key.reset(source ? PEM_read_bio_PrivateKey(source.get(), nullptr, noPassword, nullptr) : nullptr);
+        if (m_key && EVP_PKEY_get_base_id(m_key.get()) != EVP_PKEY_RSA) m_key.reset();
+        if (!m_key) return;
+        m_context.reset(EVP_PKEY_CTX_new(m_key.get(), nullptr));
+        if (!m_context || EVP_PKEY_sign_init(m_context.get()) != 1 ||
+            EVP_PKEY_CTX_set_signature_md(m_context.get(), digest) != 1)
+            m_context.reset();
+    }
+
     std::unique_ptr<EVP_PKEY, FreeKey> m_key;
     std::unique_ptr<EVP_PKEY_CTX, FreeKey> m_context;
 };
