@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 
 #include "modules/core/bGlobal.h"
+#include "modules/send/Esiti.h"
 #include "platform/ado/Command.h"
 #include "platform/system/Clock.h"
 #include "support/SendStage.h"
@@ -176,8 +177,9 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
-    void runWritesNoFileOfItsOwn() {
+    void runWithoutTheBookWritesNoFileOfItsOwn() {
         SendStage stage({"a@x.it", "b@x.it"});
+        QVERIFY(esiti::Accendi(false).ok());
         stage.sink.treat("b@x.it", SmtpSink::Treatment::Refuse);
         stage.pick();
         const QStringList before = filesIn(stage.folder.path({}));
