@@ -65,13 +65,12 @@ class LineWriter {
     void text(const char* name, const QString& value) {
         begin(name);
         m_line += '"';
-        for (const char c : value.toUtf8()) {
-            if (c == '"' || c == '\\')
-                (m_line += '\\') += c;
-            else if (static_cast<unsigned char>(c) < ' ')
-                m_line += "\\u00" + QByteArray(1, c).toHex();
-            else
-                m_line += c;
+        const QByteArray octets = value.toUtf8();
+        if (std::ranges::none_of(octets, needsEscape)) {
+            m_line += octets;
+        } else {
+            for (const char c : octets)
+                addEscaped(c);
         }
         m_line += '"';
     }
@@ -82,6 +81,15 @@ class LineWriter {
     QByteArray finished() { return m_line + "}\n"; }
 
   private:
+    static bool needsEscape(char c) { return c == '"' || c == '\\' || static_cast<unsigned char>(c) < ' '; }
+    void addEscaped(char c) {
+        if (c == '"' || c == '\\')
+            (m_line += '\\') += c;
+        else if (needsEscape(c))
+            m_line += "\\u00" + QByteArray(1, c).toHex();
+        else
+            m_line += c;
+    }
     void begin(const char* name) {
         m_line += m_line.isEmpty() ? "{\"" : ",\"";
         m_line += name;

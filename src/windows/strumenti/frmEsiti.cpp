@@ -50,7 +50,7 @@ frmEsiti::frmEsiti(std::function<void()> riempiGriglia, QWidget* parent)
     CreaControlli();
     Disponi();
     CollegaEventi();
-    ui::openAtLeast(*this, {900, 560});
+    ui::openAtLeast(*this, {1000, 560});
     ui::setUpDialog(*this);
 }
 
@@ -107,7 +107,7 @@ void frmEsiti::CreaControlli() {
     tabella->verticalHeader()->setDefaultSectionSize(ui::scaledToFont(*this, ui::rowHeight));
     tabella->horizontalHeader()->setStretchLastSection(true);
     tabella->horizontalHeader()->setHighlightSections(false);
-    constexpr std::array larghezze{140, 220, 110, 240};
+    constexpr std::array larghezze{150, 210, 110, 230};
     for (int colonna = 0; colonna < int(larghezze.size()); ++colonna)
         tabella->setColumnWidth(colonna, ui::scaledToFont(*this, larghezze[colonna]));
 }
@@ -115,7 +115,7 @@ void frmEsiti::CreaControlli() {
 void frmEsiti::Disponi() {
     auto* invii = new QHBoxLayout;
     invii->setSpacing(ui::controlSpacing);
-    auto* etichetta = new QLabel("&Invio:", this);
+    auto* etichetta = new QLabel("I&nvio:", this);
     etichetta->setBuddy(cmbInvio);
     invii->addWidget(etichetta);
     invii->addWidget(cmbInvio, 1);
@@ -144,7 +144,7 @@ QLayout* frmEsiti::DisponiFiltri() {
     };
     aggiungi("Es&ito:", cmbEsito, 2);
     aggiungi("&Motivo:", cmbMotivo, 3);
-    aggiungi("Trova:", txtCerca, 2);
+    aggiungi("Trov&a:", txtCerca, 2);
     return filtri;
 }
 
