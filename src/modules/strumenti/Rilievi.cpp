@@ -101,7 +101,7 @@ QList<Rilievo> RilieviCampi(const ControlloCampi& controllo) {
         if (campo.nulli + campo.vuoti > 0) {
             QString testo = QStringLiteral("%1 è vuoto per %2 di %3 destinatari selezionati")
                                 .arg(segno, numero(campo.nulli + campo.vuoti), numero(controllo.righe()));
-            testo += campo.nulli > 0 ? QStringLiteral("; %1 di loro leggono %2 al posto del valore.")
+            testo += campo.nulli > 0 ? QStringLiteral("; per %1 di loro si legge %2 al posto del valore.")
                                            .arg(numero(campo.nulli), segno)
                                      : QStringLiteral(".");
             rilievi.append({campo.nulli > 0 ? Peso::Grave : Peso::Attenzione, testo, campo.primoVuoto});

@@ -175,6 +175,6 @@ QList<Rilievo> RilieviHtml(const QString& corpo) {
              lettore.sulWeb.frase(QStringLiteral("Un'immagine resta sul web"),
                                   QStringLiteral("%1 immagini restano sul web")) +
                  QStringLiteral(
-                     ". Molti programmi di posta non le mostrano finché il destinatario non vuole")});
+                     ". Molti programmi di posta non le mostrano finché il destinatario non vuole.")});
     return rilievi;
 }

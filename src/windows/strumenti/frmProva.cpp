@@ -102,6 +102,7 @@ void frmProva::CreaControlli() {
     TESTO->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     TESTO->setTabChangesFocus(true);
     lstRilievi->setWordWrap(true);
+    lstRilievi->setSpacing(2);
     lstRilievi->setResizeMode(QListView::Adjust);
     lstRilievi->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     cmdInviaProva->setIcon(QIcon::fromTheme("document-send"));
@@ -121,6 +122,7 @@ void frmProva::DisponiControlli() {
     divisore->setStretchFactor(0, 5);
     divisore->setStretchFactor(1, 3);
     divisore->setChildrenCollapsible(false);
+    divisore->setHandleWidth(ui::controlSpacing);
 
     auto* chiusura = new QHBoxLayout;
     chiusura->setSpacing(ui::controlSpacing);
