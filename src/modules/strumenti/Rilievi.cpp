@@ -86,10 +86,9 @@ QList<Rilievo> RilieviModello(const ModelloProva& modello) {
                                        "non vede le immagini non legge niente.")});
     if (modello.testi.disiscrizione.isEmpty())
         rilievi.append(
-            {Peso::Consiglio,
-             QStringLiteral(
-                 "Non c'è un collegamento per annullare l'iscrizione: chi non vuole più messaggi "
-                 "li segnala come indesiderati. Si crea nell'editor con \"Inserisci collegamento\".")});
+            {Peso::Consiglio, QStringLiteral("Manca un collegamento di disiscrizione: chi non vuole più "
+                                             "messaggi li segnala come indesiderati. "
+                                             "Si crea nell'editor con il comando \"Collegamento\".")});
     return rilievi;
 }
 

@@ -70,7 +70,7 @@ TEST(RilieviModello, missingTextSubjectAndSignOffAreTold) {
     const auto findings = RilieviModello(made);
     EXPECT_EQ(count(findings, "Manca la forma di solo testo", Peso::Attenzione), 1);
     EXPECT_EQ(count(findings, "L'oggetto è vuoto", Peso::Attenzione), 1);
-    EXPECT_EQ(count(findings, "annullare l'iscrizione", Peso::Consiglio), 1);
+    EXPECT_EQ(count(findings, "collegamento di disiscrizione", Peso::Consiglio), 1);
 }
 
 TEST(RilieviModello, missingAttachmentsAreGrave) {
