@@ -22,8 +22,8 @@ class QPrinter;
 ///
 /// All calls are synchronous: they return when the browser's process has done the work. While they wait (at
 /// most a few seconds, ordinarily about a millisecond) timers and sockets go on and the user's input is held
-/// back. When the browser's process dies, it is started again with the text as it last stood; undo starts
-/// anew.
+/// back; a wait that lasts shows the hourglass. When the browser's process dies, it is started again with the
+/// text as it last stood; undo starts anew.
 ///
 /// A browser that gives no answer in time is a failure of the call (Timeout): what was asked is not known,
 /// and never answered with what was true earlier; what was to be changed may still change when the browser

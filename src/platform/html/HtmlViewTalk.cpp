@@ -21,12 +21,35 @@ constexpr int answerMilliseconds = 5000;
 constexpr int millisecondsPerMegabyte = 10000;
 constexpr int stalledMilliseconds = 300;
 constexpr int strokesMilliseconds = 400;
+constexpr int hourglassMilliseconds = 150;
 
 // What comes from outside has the bounds of a body
 Status contentFits(const QJsonObject& content) {
     Status text = html::boundSize(content.value(QLatin1String("text")).toString().size());
     return text.ok() ? html::readable(content.value(QLatin1String("html")).toString()) : text;
 }
+
+// A wait that lasts shows in the pointer
+class Hourglass {
+  public:
+    Hourglass() {
+        m_due.setSingleShot(true);
+        m_due.callOnTimeout([this] {
+            m_shown = true;
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        });
+        m_due.start(hourglassMilliseconds);
+    }
+    ~Hourglass() {
+        if (m_shown) QGuiApplication::restoreOverrideCursor();
+    }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+  private:
+    QTimer m_due;
+    bool m_shown = false;
+};
 
 }  // namespace
 
@@ -148,6 +171,8 @@ bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
 }
 
 bool HtmlView::Live::waitFor(const std::function<bool()>& done, int milliseconds) {
+    if (done()) return true;
+    const Hourglass hourglass;
     QElapsedTimer elapsed;
     elapsed.start();
     while (!done()) {

@@ -1,6 +1,7 @@
 // A browser that stalls never has an older text taken for the message's: what was asked of it fails, with a
 // notice, and goes on when the browser does.
 #include <csignal>
+#include <QCursor>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -156,6 +157,25 @@ class TestStallo : public QObject {
         EditorStage::in<QPushButton>(dialog, "cmdNext").click();
         QCOMPARE(EditorStage::in<QLabel>(dialog, "lblAnswer").text(), "");
         dialog.close();
+    }
+
+    void aWaitThatLastsShowsTheHourglass() {
+        stage().fill("<p>uno</p>");
+        QVERIFY(!QApplication::overrideCursor());
+        bool shown = false;
+        QTimer look;
+        look.callOnTimeout([&] {
+            const QCursor* pointer = QApplication::overrideCursor();
+            shown = shown || (pointer && pointer->shape() == Qt::WaitCursor);
+        });
+        look.start(10);
+        {
+            const Stall stall(stage().design());
+            QVERIFY(!stage().design().responds().ok());
+            QVERIFY(shown);
+            QVERIFY(!QApplication::overrideCursor());
+        }
+        QTRY_COMPARE(stage().body(), "<p>uno</p>");
     }
 
     void aMessageThatIsOpenedMeanwhileIsThereAfterwards() {
