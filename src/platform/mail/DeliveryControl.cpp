@@ -1,5 +1,6 @@
 #include "platform/mail/DeliveryControl.h"
 
+#include <cassert>
 #include <QHostAddress>
 #include <utility>
 
@@ -139,6 +140,7 @@ void DeliveryControl::Abort() {
 }
 
 void DeliveryControl::finish(const DeliveryOutcome& outcome) {
+    assert(m_running && !m_deferred.isActive());  // one outcome for each Send
     noteLogin(outcome);
     m_outcome = outcome;
     if (m_insideSend)
@@ -148,6 +150,7 @@ void DeliveryControl::finish(const DeliveryOutcome& outcome) {
 }
 
 void DeliveryControl::report() {
+    assert(m_running);
     const DeliveryOutcome outcome = std::exchange(m_outcome, {});
     m_running = false;
     if (outcome.delivered) noteAccepted(m_current);

@@ -1,6 +1,7 @@
 #include "platform/mail/SmtpSession.h"
 
 #include <algorithm>
+#include <cassert>
 #include <QHostAddress>
 #include <QHostInfo>
 #include <QNetworkProxy>
@@ -62,6 +63,7 @@ SmtpSession::~SmtpSession() {
 }
 
 void SmtpSession::deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times) {
+    assert(!m_busy);
     m_busy = true;
     m_refused = m_mailAccepted = false;
     m_pointGiven = m_inFlight = m_answeredEarly = false;
@@ -407,6 +409,7 @@ bool SmtpSession::nothingTaken(Loss loss) const {
 }
 
 void SmtpSession::conclude(const DeliveryOutcome& outcome) {
+    assert(m_busy);
     m_busy = m_inFlight = false;
     m_lookedAgain = false;
     m_stall.stop();

@@ -1,5 +1,6 @@
 #include "windows/message/frmEditor.h"
 
+#include <cassert>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QTreeWidget>
@@ -126,6 +127,7 @@ void frmEditor::SegnaModificato() {
     if (titoloFile.isEmpty()) return;
     if (!IsModificato()) titoloFile = titoloFile.chopped(1) + "*]";
     ImpostaTitolo();
+    assert(IsModificato());
 }
 
 bool frmEditor::IsModificato() const {

@@ -1,3 +1,4 @@
+#include <cassert>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -56,6 +57,7 @@ void frmInvia::tmr_Timer() {
     SMTP->Send();
     AttendiEsito();
 
+    assert(!(mailInviata && mailFallita));
     if (mailInviata) {
         ContaInviata(prosegui, idDestinatario);
     } else {
