@@ -1,7 +1,8 @@
 #include "modules/send/Personalizza.h"
 
-#include <bitset>
+#include <algorithm>
 #include <QUrl>
+#include <utility>
 
 #include "modules/core/Errori.h"
 
@@ -16,18 +17,37 @@ namespace {
 
 const QString segno = QStringLiteral(":::");
 
+// The number of the placeholder that the text begins with; numeroSegnaposto: none
+std::size_t segnapostoInTesta(QStringView testo) {
+    if (!testo.startsWith(segno)) return numeroSegnaposto;
+    const QStringView nome = testo.sliced(segno.size());
+    std::size_t i = 0;
+    while (i < numeroSegnaposto && !(nome.startsWith(colonneSegnaposto[i]) &&
+                                     nome.sliced(colonneSegnaposto[i].size()).startsWith(segno)))
+        ++i;
+    return i;
+}
+
 // Which placeholders stand in the text: one quick pass, where a search for each would cost nineteen.
 std::bitset<numeroSegnaposto> presentiIn(QStringView testo) {
     std::bitset<numeroSegnaposto> presenti;
     for (auto posto = testo.indexOf(u':'); posto >= 0; posto = testo.indexOf(u':', posto + 1)) {
-        if (!testo.sliced(posto).startsWith(segno)) continue;
-        const QStringView nome = testo.sliced(posto + segno.size());
-        for (std::size_t i = 0; i < numeroSegnaposto; ++i) {
-            const QString& colonna = colonneSegnaposto[i];
-            if (nome.startsWith(colonna) && nome.sliced(colonna.size()).startsWith(segno)) presenti.set(i);
-        }
+        if (const std::size_t i = segnapostoInTesta(testo.sliced(posto)); i < numeroSegnaposto)
+            presenti.set(i);
     }
     return presenti;
+}
+
+// Whether a placeholder begins in the colons that end the one before `fine`.
+bool cominciaNeiDuePunti(QStringView testo, qsizetype fine) {
+    for (qsizetype posto = fine - segno.size(); posto < fine; ++posto)
+        if (segnapostoInTesta(testo.sliced(posto)) < numeroSegnaposto) return true;
+    return false;
+}
+
+// No colon of it can become part of a placeholder, whatever stands beside it.
+bool isolato(QStringView testo) {
+    return !testo.startsWith(u':') && !testo.endsWith(u':') && !testo.contains(segno);
 }
 
 }  // namespace
@@ -67,6 +87,64 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
     return modello;
 }
 
+QString ModelloDiviso::Personalizza(const QString& modello, const ValoriSegnaposto& valori) {
+    if (modello != m_modello) {
+        m_modello = modello;
+        Dividi();
+    }
+    if (!BastaUnGiro(valori)) return ::Personalizza(modello, valori);
+    qsizetype lunghezza = 0;
+    for (const Pezzo& pezzo : m_pezzi)
+        lunghezza += pezzo.lunghezza + pezzo.Valore(valori).size();
+    QString testo(lunghezza, Qt::Uninitialized);
+    QChar* a = testo.data();
+    for (const Pezzo& pezzo : m_pezzi) {
+        const QStringView valore = pezzo.Valore(valori);
+        a = std::copy_n(m_modello.constData() + pezzo.da, pezzo.lunghezza, a);
+        a = std::copy(valore.begin(), valore.end(), a);
+    }
+    return testo;
+}
+
+QStringView ModelloDiviso::Pezzo::Valore(const ValoriSegnaposto& valori) const {
+    return segnaposto < numeroSegnaposto ? QStringView(*valori[segnaposto]) : QStringView();
+}
+
+void ModelloDiviso::Dividi() {
+    m_pezzi.clear();
+    m_presenti.reset();
+    const QStringView testo = m_modello;
+    qsizetype da = 0;
+    for (auto posto = testo.indexOf(u':'); posto >= 0; posto = testo.indexOf(u':', posto)) {
+        const std::size_t i = segnapostoInTesta(testo.sliced(posto));
+        if (i == numeroSegnaposto) {
+            ++posto;
+            continue;
+        }
+        m_pezzi.push_back({da, posto - da, i});
+        m_presenti.set(i);
+        posto = da = posto + colonneSegnaposto[i].size() + 2 * segno.size();
+        if (cominciaNeiDuePunti(testo, da)) {
+            m_pezzi.clear();
+            return;
+        }
+    }
+    m_pezzi.push_back({da, testo.size() - da, numeroSegnaposto});
+    for (const Pezzo& pezzo : m_pezzi) {
+        if (isolato(testo.sliced(pezzo.da, pezzo.lunghezza))) continue;
+        m_pezzi.clear();
+        return;
+    }
+}
+
+/// Each placeholder has a value, and no piece of the text can make another one with those beside it.
+bool ModelloDiviso::BastaUnGiro(const ValoriSegnaposto& valori) const {
+    if (m_pezzi.empty()) return false;
+    for (std::size_t i = 0; i < numeroSegnaposto; ++i)
+        if (m_presenti[i] && (!valori[i] || !isolato(*valori[i]))) return false;
+    return true;
+}
+
 ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori) {
     for (auto& valore : valori) {
         if (valore) valore = QString::fromLatin1(QUrl::toPercentEncoding(*valore));
@@ -75,9 +153,15 @@ ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori) {
 }
 
 TestiMessaggio PersonalizzaTesti(TestiMessaggio modello, const ValoriSegnaposto& valori) {
-    for (QString* testo : {&modello.corpoHtml, &modello.corpoTesto, &modello.oggetto})
-        *testo = Personalizza(*testo, valori);
-    modello.disiscrizione = Personalizza(modello.disiscrizione, PerCollegamento(valori));
+    return ModelliDivisi().Personalizza(std::move(modello), valori);
+}
+
+TestiMessaggio ModelliDivisi::Personalizza(TestiMessaggio modello, const ValoriSegnaposto& valori) {
+    modello.corpoHtml = corpoHtml.Personalizza(modello.corpoHtml, valori);
+    modello.corpoTesto = corpoTesto.Personalizza(modello.corpoTesto, valori);
+    modello.oggetto = oggetto.Personalizza(modello.oggetto, valori);
+    if (!modello.disiscrizione.isEmpty())
+        modello.disiscrizione = ::Personalizza(modello.disiscrizione, PerCollegamento(valori));
     return modello;
 }
 

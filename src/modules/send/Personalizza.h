@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <functional>
 #include <optional>
 #include <QString>
+#include <vector>
 
 #include "platform/ado/Recordset.h"
 #include "platform/Status.h"
@@ -36,6 +38,27 @@ ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
 /// an earlier one is not.
 QString Personalizza(QString modello, const ValoriSegnaposto& valori);
 
+/// The same for one recipient after another: the template is split at its placeholders once, where that gives
+/// the same text.
+class ModelloDiviso {
+  public:
+    /// Personalizza(modello, valori). The template is split again where it is another one than the last time.
+    QString Personalizza(const QString& modello, const ValoriSegnaposto& valori);
+
+  private:
+    struct Pezzo {
+        qsizetype da = 0, lunghezza = 0;  ///< of the text before a placeholder
+        std::size_t segnaposto = 0;       ///< the placeholder's number; numeroSegnaposto at the end
+        QStringView Valore(const ValoriSegnaposto& valori) const;
+    };
+    void Dividi();
+    bool BastaUnGiro(const ValoriSegnaposto& valori) const;
+
+    QString m_modello;
+    std::vector<Pezzo> m_pezzi;  ///< empty: it cannot be split
+    std::bitset<numeroSegnaposto> m_presenti;
+};
+
 /// The texts of a message, as its template or for one recipient.
 struct TestiMessaggio {
     QString corpoHtml;
@@ -46,6 +69,13 @@ struct TestiMessaggio {
 
 /// The texts for the recipient with these values.
 TestiMessaggio PersonalizzaTesti(TestiMessaggio modello, const ValoriSegnaposto& valori);
+
+/// The same for one recipient after another.
+struct ModelliDivisi {
+    ModelloDiviso corpoHtml, corpoTesto, oggetto;
+
+    TestiMessaggio Personalizza(TestiMessaggio modello, const ValoriSegnaposto& valori);
+};
 
 /// The values as they stand inside a web address or a mail link: percent-encoded (RFC 3986), so that none of
 /// them becomes a part of its own.

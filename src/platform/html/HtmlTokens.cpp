@@ -75,13 +75,14 @@ HtmlTokens::Kind HtmlTokens::next() {
             return Kind::Text;
         }
         const char following = m_html[m_at + 1];
-        if (m_html.compare(m_at, 4, "<!--") == 0) {
-            skipComment();
-        } else if (isLetter(following)) {
+        if (isLetter(following)) {
             ++m_at;
             readTag();
             m_rawTextNext = hasRawText();
             return Kind::Tag;
+        }
+        if (m_html.compare(m_at, 4, "<!--") == 0) {
+            skipComment();
         } else if (following == '/' && isLetter(m_html[m_at + 2])) {
             m_at += 2;
             readTag();

@@ -73,8 +73,8 @@ class Layers {
     bool isWholeMessage() const {
         return m_body.attachments->empty() && m_body.images.empty() && !(hasText() && hasHtml());
     }
-    bool hasText() const { return !m_body.text.trimmed().isEmpty(); }
-    bool hasHtml() const { return !m_body.html.trimmed().isEmpty(); }
+    bool hasText() const { return !QByteArrayView(m_body.text).trimmed().isEmpty(); }
+    bool hasHtml() const { return !QByteArrayView(m_body.html).trimmed().isEmpty(); }
 
     MessageText& m_text;
     QByteArray& m_out;  ///< its last piece

@@ -78,6 +78,7 @@ struct Composer::State {
     Attachments attachments;
     LocalImages images;
     UniqueWords words;
+    DateLine date;
     DkimSigner signer;
     QString knownTemplate;
     bool oneClick = false;  ///< of knownTemplate
@@ -105,9 +106,9 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
 
     Body body{{}, message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
     // As it travels: what stands around a NUL has to mean the same to every reader.
-    body.html.replace('\0', ' ');
+    if (body.html.contains('\0')) body.html.replace('\0', ' ');
     const HtmlReferences references = findReferences(body.html);
-    const bool hasHtml = !body.html.trimmed().isEmpty();
+    const bool hasHtml = !QByteArrayView(body.html).trimmed().isEmpty();
     body.text = (hasHtml ? textPart(message.bodyText, references, message.subject)
                          : withoutLongGaps(message.bodyText))
                     .toUtf8();
@@ -125,7 +126,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     out += foldedHeader("From", namedAddress(message.fromName, composed.from.address()));
     out += foldedHeader("To", namedAddress(message.toName, composed.to.address()));
     out += foldedHeader("Subject", unstructuredText(message.subject));
-    out += foldedHeader("Date", dateText(now));
+    out += foldedHeader("Date", m_state->date.text(now));
     out += foldedHeader("Message-ID", composed.messageId);
     const bool oneClick = m_state->mayUnsubscribeByOneClick(message.templateHtml) &&
                           m_state->signer.signs(message.dkimFolder, composed.from.domain);
@@ -135,10 +136,10 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     out += "MIME-Version: 1.0\r\n";
     appendBody(composed.text, body, word);
     const auto signature = m_state->signer.sign(message.dkimFolder, composed.from.domain, composed.text);
-    if (signature.ok())
-        composed.text.prepend(signature.value());
-    else
+    if (!signature.ok())
         composed.signing = signature.status();
+    else if (!signature.value().isEmpty())
+        composed.text.prepend(signature.value());
     return composed;
 }
 

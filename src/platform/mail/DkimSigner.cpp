@@ -50,11 +50,11 @@ struct FreeKey {
     void operator()(BIO* source) const { BIO_free(source); }
 };
 
-/// SHA-256, looked up once.
+/// SHA-256, looked up once, when it is first needed: that loads the library's tables.
 class Digest {
   public:
     void begin() {
-        m_good = m_kind && m_context && EVP_DigestInit_ex2(m_context.get(), m_kind.get(), nullptr) == 1;
+        m_good = kind() && m_context && EVP_DigestInit_ex2(m_context.get(), kind(), nullptr) == 1;
     }
     void add(QByteArrayView octets) {
         m_good = m_good && EVP_DigestUpdate(m_context.get(), octets.data(), size_t(octets.size())) == 1;
@@ -68,11 +68,17 @@ class Digest {
         value.resize(m_good ? qsizetype(size) : 0);
         return value;
     }
-    const EVP_MD* kind() const { return m_kind.get(); }
+    const EVP_MD* kind() {
+        if (!m_kind) {
+            m_kind.reset(EVP_MD_fetch(nullptr, "SHA256", nullptr));
+            m_context.reset(EVP_MD_CTX_new());
+        }
+        return m_kind.get();
+    }
 
   private:
-    std::unique_ptr<EVP_MD, FreeKey> m_kind{EVP_MD_fetch(nullptr, "SHA256", nullptr)};
-    std::unique_ptr<EVP_MD_CTX, FreeKey> m_context{EVP_MD_CTX_new()};
+    std::unique_ptr<EVP_MD, FreeKey> m_kind;
+    std::unique_ptr<EVP_MD_CTX, FreeKey> m_context;
     bool m_good = false;
 };
 

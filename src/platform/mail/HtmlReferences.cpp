@@ -120,6 +120,7 @@ class Reader {
 
   private:
     void use(const HtmlTag& tag) {
+        if (tag.attributeCount == 0 && !m_inLink) return;  // most of them
         if (!tag.style.empty()) findStyleImages(tag.style);
         addImage(trimmedHtml(tag.background));
         addAddress(trimmedHtml(tag.href));
@@ -144,9 +145,10 @@ class Reader {
     }
 
     void useEnd(const HtmlTag& tag) {
+        if (!m_inLink) return;
         if (sameHtmlText(tag.name, "a"sv))
             endLink();
-        else if (m_inLink && separatesWords(tag.name))
+        else if (separatesWords(tag.name))
             showText(" "sv);
     }
 

@@ -21,6 +21,15 @@ QByteArray dateText(const QDateTime& when) {
                           .toLatin1());
 }
 
+const QByteArray& DateLine::text(const QDateTime& when) {
+    const qint64 second = when.toSecsSinceEpoch();
+    const int zone = when.offsetFromUtc();
+    if (second != m_second || zone != m_zone || m_text.isEmpty()) m_text = dateText(when);
+    m_second = second;
+    m_zone = zone;
+    return m_text;
+}
+
 UniqueWords::UniqueWords() : m_random(QByteArray::number(QRandomGenerator::system()->generate64(), 36)) {}
 
 QByteArray UniqueWords::next(const QDateTime& now) {

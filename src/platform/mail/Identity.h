@@ -8,6 +8,17 @@ namespace mail {
 /// Date of a message with its numeric zone (RFC 5322 3.3), in English whatever the user's language.
 QByteArray dateText(const QDateTime& when);
 
+/// The date of one message after another, which is written anew once a second.
+class DateLine {
+  public:
+    const QByteArray& text(const QDateTime& when);
+
+  private:
+    qint64 m_second = -1;  ///< since 1970
+    int m_zone = 0;        ///< seconds east of UTC
+    QByteArray m_text;
+};
+
 /// Source of words that no other message anywhere bears: time, 64 random bits for each object and a running
 /// number. Only letters and digits of ASCII and points, so that a word may stand in a Message-ID and in a
 /// boundary.

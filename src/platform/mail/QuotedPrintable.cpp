@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 namespace mail {
@@ -26,8 +27,29 @@ Kind kindOf(char c) {
     return kinds[static_cast<unsigned char>(c)];
 }
 
-bool isInnerBlank(const char* at, const char* end) {
-    return *at == ' ' && at + 1 != end && kindOf(at[1]) == Kind::Literal;
+// Whether one of eight octets is none of those from the blank to "~", or is the "=".
+bool holdsOther(const char* octets) {
+    constexpr std::uint64_t each = 0x0101010101010101, high = each * 0x80;
+    std::uint64_t word = 0;
+    std::memcpy(&word, octets, sizeof word);
+    const std::uint64_t equals = word ^ each * '=';
+    // Where no octet has its highest bit, no sum carries over
+    return ((word | (word + each) | ~((word | high) - each * ' ') | ~((equals | high) - each)) & high) != 0;
+}
+
+bool isPlain(char c) {
+    return kindOf(c) == Kind::Literal || c == ' ';
+}
+
+// The end of what stands for itself; a blank in front of a line end does not
+const char* endOfPlain(const char* at, const char* limit, const char* end) {
+    const char* to = at;
+    while (limit - to >= 8 && !holdsOther(to))
+        to += 8;
+    while (to != limit && isPlain(*to))
+        ++to;
+    const bool endsLine = to == end || kindOf(*to) == Kind::LineEnd;
+    return endsLine && to != at && to[-1] == ' ' ? to - 1 : to;
 }
 
 /// Writes into room that is large enough for the whole text.
@@ -51,16 +73,15 @@ class Writer {
         m_column += 3;
     }
 
-    /// Copies what follows `at` for as long as it stands for itself and the line has room; gives the last
-    /// copied place.
-    const char* literals(const char* at, const char* end) {
-        char* to = m_to;
-        const char* const last = at + std::min<std::ptrdiff_t>(lineRoom - m_column, end - at - 1);
-        while (at < last && (kindOf(at[1]) == Kind::Literal || isInnerBlank(at + 1, end)))
-            *to++ = *++at;
-        m_column += static_cast<int>(to - m_to);
-        m_to = to;
-        return at;
+    /// Copies what stands for itself from `at` on, as far as the line has room; gives the end of it.
+    const char* plain(const char* at, const char* end) {
+        makeRoom(1);
+        const char* const limit = at + std::min<std::ptrdiff_t>(lineRoom - m_column, end - at);
+        const char* const to = endOfPlain(at, limit, end);
+        std::memcpy(m_to, at, static_cast<std::size_t>(to - at));
+        m_to += to - at;
+        m_column += static_cast<int>(to - at);
+        return to;
     }
 
     void lineEnd() {
@@ -101,12 +122,10 @@ void appendQuotedPrintable(QByteArray& out, const QByteArray& text) {
     for (const char* at = text.constData(); at != end; ++at) {
         switch (kindOf(*at)) {
             case Kind::Literal:
-                if (writer.startsLine() && mustNotStartLine(at, end)) {
+                if (writer.startsLine() && mustNotStartLine(at, end))
                     writer.encoded(*at);
-                } else {
-                    writer.literal(*at);
-                    at = writer.literals(at, end);
-                }
+                else
+                    at = writer.plain(at, end) - 1;
                 break;
             case Kind::Blank: {
                 const char blank = *at == '\0' ? ' ' : *at;

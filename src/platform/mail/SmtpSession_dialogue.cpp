@@ -135,10 +135,7 @@ void SmtpSession::writeCommands() {
         onUnexpectedInput();
         return;
     }
-    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
-    socket->write(std::exchange(m_output, {}));
-    socket->flush();
-    if (m_socket == socket) progress();
+    writePiece(std::exchange(m_output, {}));
 }
 
 QByteArray SmtpSession::greetingName() const {
@@ -312,12 +309,12 @@ void SmtpSession::feedBody() {
 /// Hands over what the system takes at once. Only the rest goes through the socket's own buffer, which spares
 /// a copy of each large message.
 void SmtpSession::writePiece(const QByteArray& piece) {
-    QSslSocket* const socket = m_socket;
-    qsizetype taken = 0;
-    if (!socket->isEncrypted()) taken = sendAtOnce(int(socket->socketDescriptor()), piece);
+    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
+    const bool atOnce = !socket->isEncrypted() && socket->bytesToWrite() == 0;
+    const qsizetype taken = atOnce ? sendAtOnce(int(socket->socketDescriptor()), piece) : 0;
     const qsizetype left = piece.size() - taken;
     if (left > 0) socket->write(piece.constData() + taken, left);
-    if (taken > 0) noteTaken();
+    noteTaken();
     if (left > 0) socket->flush();
 }
 

@@ -34,9 +34,7 @@ void SmtpSession::fly() {
         flight.append(piece);
     flight.append(end);
     m_inFlight = m_pointGiven = true;
-    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
     writePiece(flight);
-    if (m_socket == socket) progress();
 }
 
 /// Whether replies and commands are out of step after this reply to the whole message. It asks for more; or

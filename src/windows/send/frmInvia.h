@@ -9,6 +9,7 @@
 #include "modules/message/MessaggiNoti.h"
 #include "modules/message/MessaggioMss.h"
 #include "modules/send/Limiti.h"
+#include "modules/send/Personalizza.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/mail/RunLock.h"
 
@@ -163,6 +164,7 @@ class frmInvia : public QDialog {
     QString corpoHtml;
     QString CorpoTesto;
     QString oggettoMail;
+    ModelliDivisi modelli;  ///< of these three, split once
     QStringList filePermessi;  ///< attachments and images of the run, links resolved
     QString disiscrizione;     ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;

@@ -10,7 +10,6 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/send/Consegna.h"
-#include "modules/send/Personalizza.h"
 #include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
@@ -90,8 +89,8 @@ std::optional<qint32> frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     prosegui([&] { esigi(rs.move(saltaRecord)); });
 
     const LeggiColonna leggi = ColonneDi(rs);
-    const TestiMessaggio testi =
-        PersonalizzaTesti({SMTP->BodyHtml, SMTP->BodyText, SMTP->Subject, disiscrizione}, LeggiValori(leggi));
+    const TestiMessaggio testi = modelli.Personalizza(
+        {SMTP->BodyHtml, SMTP->BodyText, SMTP->Subject, disiscrizione}, LeggiValori(leggi));
     SMTP->BodyHtml = testi.corpoHtml;
     SMTP->BodyText = testi.corpoTesto;
     SMTP->Subject = testi.oggetto;

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <QTemporaryDir>
+#include <random>
 
 #include "platform/jet/Database.h"
 #include "support/Vectors.h"
@@ -98,6 +99,34 @@ TEST(Personalisation, OrderIsThatOfTheColumns) {
         "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
     for (std::size_t i = 0; i < order.size(); ++i)
         EXPECT_EQ(colonneSegnaposto[i], QLatin1String(order[i]));
+}
+
+TEST(Personalisation, SplitTemplateGivesTheSameText) {
+    std::mt19937 random(11);
+    const QStringList pieces{
+        ":::nom:::", ":::rgs:::", ":::campo1:::", ":::tel:::", ":::", "::",  ":", "nom", "rgs",
+        "campo",     "1",         "e ",           "<p>",       "",    "x: y"};
+    const auto some = [&](unsigned most) {
+        QString text;
+        for (unsigned i = random() % (most + 1); i > 0; --i)
+            text += pieces[qsizetype(random() % unsigned(pieces.size()))];
+        return text;
+    };
+    int asPlain = 0;
+    for (int i = 0; i < 3000; ++i) {
+        ModelloDiviso split;
+        const QString text = random() % 2 ? some(8) : "a :::nom::: b :::rgs::: c :::campo1:::";
+        for (int recipient = 0; recipient < 5; ++recipient) {
+            ValoriSegnaposto values;
+            for (auto& value : values)
+                if (random() % 8) value = random() % 3 ? some(1) : some(3);
+            const QString expected = Personalizza(text, values);
+            ASSERT_EQ(split.Personalizza(text, values), expected) << text.toStdString();
+            asPlain += expected.contains("a ") ? 1 : 0;
+        }
+        ASSERT_EQ(split.Personalizza("x:::nom:::", {}), "x:::nom:::") << "another template";
+    }
+    EXPECT_GT(asPlain, 1000);
 }
 
 TEST(RecipientName, IsChosenAsTheVectorsSay) {
