@@ -16,6 +16,24 @@ char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+// What a character ends while a tag is read
+constexpr unsigned char atBlank = 1, atSlash = 2, atTagEnd = 4, atEquals = 8;
+
+constexpr std::array<unsigned char, 256> endings = [] {
+    std::array<unsigned char, 256> table{};
+    for (const char blank : " \t\n\r\f"sv)
+        table[static_cast<unsigned char>(blank)] = atBlank;
+    table['/'] = atSlash;
+    table['>'] = atTagEnd;
+    table['='] = atEquals;
+    return table;
+}();
+
+bool endsAny(char c, int ends) {
+    return (endings[static_cast<unsigned char>(c)] & ends) != 0;
+}
+
+constexpr std::size_t shortestRawTextTag = 3;
 constexpr std::array rawTextTags = {"style"sv, "script"sv, "textarea"sv, "title"sv,
                                     "xmp"sv,   "iframe"sv, "noembed"sv,  "noframes"sv};
 
@@ -120,17 +138,17 @@ void HtmlTokens::skipComment() {
 template <class Condition>
 string_view HtmlTokens::readUntil(Condition stop) {
     const std::size_t from = m_at;
-    while (!atEnd() && !stop(m_html[m_at]))
-        ++m_at;
+    const auto end = std::find_if(m_html.begin() + static_cast<std::ptrdiff_t>(from), m_html.end(), stop);
+    m_at = static_cast<std::size_t>(end - m_html.begin());
     return m_html.substr(from, m_at - from);
 }
 
 void HtmlTokens::readTag() {
     m_tag = {};
-    m_tag.name = readUntil([](char c) { return isHtmlBlank(c) || c == '/' || c == '>'; });
+    m_tag.name = readUntil([](char c) { return endsAny(c, atBlank | atSlash | atTagEnd); });
     const std::size_t from = m_at;
     for (;;) {
-        const string_view between = readUntil([](char c) { return !isHtmlBlank(c) && c != '/'; });
+        const string_view between = readUntil([](char c) { return !endsAny(c, atBlank | atSlash); });
         if (atEnd()) return;
         if (m_html[m_at] == '>') {
             m_tag.attributes = m_html.substr(from, m_at - from);
@@ -145,7 +163,7 @@ void HtmlTokens::readTag() {
 
 void HtmlTokens::readAttribute() {
     const std::size_t from = m_at++;  // a "=" in front is part of the name
-    readUntil([](char c) { return isHtmlBlank(c) || c == '/' || c == '>' || c == '='; });
+    readUntil([](char c) { return endsAny(c, atBlank | atSlash | atTagEnd | atEquals); });
     const string_view name = m_html.substr(from, m_at - from);
     readUntil([](char c) { return !isHtmlBlank(c); });
     if (atEnd() || m_html[m_at] != '=') return;
@@ -167,6 +185,7 @@ string_view HtmlTokens::readValue() {
 }
 
 bool HtmlTokens::hasRawText() const {
+    if (m_tag.name.size() < shortestRawTextTag) return false;
     return std::any_of(rawTextTags.begin(), rawTextTags.end(),
                        [this](string_view name) { return sameHtmlText(m_tag.name, name); });
 }

@@ -19,6 +19,11 @@
 namespace mail {
 namespace {
 
+// Octets that header and boundaries take as a rule
+constexpr qsizetype headerRoom = 2048;
+// Octets that quoted-printable makes room for at one of the text, soft line breaks included
+constexpr qsizetype mostEncoded = 4;
+
 void appendPriority(QByteArray& out, int priority) {
     if (priority == 1) {
         out += "X-Priority: 1 (Highest)\r\nPriority: urgent\r\nImportance: high\r\n";
@@ -123,6 +128,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     composed.needsSmtputf8 = composed.from.needsSmtputf8 || composed.to.needsSmtputf8;
     composed.messageId = '<' + word + '@' + composed.from.domain + '>';
     QByteArray& out = composed.text.end();
+    out.reserve(headerRoom + (body.text.size() + body.html.size()) * mostEncoded);
     out += foldedHeader("From", namedAddress(message.fromName, composed.from.address()));
     out += foldedHeader("To", namedAddress(message.toName, composed.to.address()));
     out += foldedHeader("Subject", unstructuredText(message.subject));

@@ -37,18 +37,24 @@ bool isBlankText(QStringView text) {
 
 QString withoutLongGaps(const QString& text) {
     QString out;
-    out.reserve(text.size());
     int emptyLines = 0;
-    for (qsizetype from = 0; from < text.size();) {
-        qsizetype end = from;
-        while (end < text.size() && text[end] != u'\r' && text[end] != u'\n')
-            ++end;
-        const bool empty = isBlankText(QStringView(text).sliced(from, end - from));
-        if (end < text.size()) end += text.mid(end, 2) == QLatin1String("\r\n") ? 2 : 1;
+    const QStringView all = text;
+    qsizetype kept = 0;  // from here on nothing was left out, and nothing appended yet
+    for (qsizetype from = 0; from < all.size();) {
+        const auto lineEnd =
+            std::find_if(all.begin() + from, all.end(), [](QChar c) { return c == u'\r' || c == u'\n'; });
+        qsizetype end = lineEnd - all.begin();
+        const bool empty = isBlankText(all.sliced(from, end - from));
+        if (end < all.size()) end += all.sliced(end).startsWith(QLatin1String("\r\n")) ? 2 : 1;
         emptyLines = empty ? emptyLines + 1 : 0;
-        if (emptyLines <= mostEmptyLines) out += QStringView(text).sliced(from, end - from);
+        if (emptyLines > mostEmptyLines) {
+            out += all.sliced(kept, from - kept);
+            kept = end;
+        }
         from = end;
     }
+    if (kept == 0) return text;
+    out += all.sliced(kept);
     return out;
 }
 
