@@ -5,7 +5,7 @@ with a DELETE journal, one RSA signature with a kept key.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-With the database on a tmpfs and on disk (the work folder), client and server on a core each where there are two.
+What the ratio compares is done without painting; the time with the window on a screen is shown beside it. With the database on a tmpfs and on disk (the work folder), client and server on a core each where there are two.
 """
 import contextlib
 import json
@@ -43,23 +43,26 @@ def told(command, **more):
 
 
 def compare(build, port, own, signing, folder, rounds):
-    environment = dict(os.environ, TMPDIR=str(folder), QT_QPA_PLATFORM="offscreen", QTWEBENGINE_DISABLE_SANDBOX="1")
+    environment = dict(os.environ, TMPDIR=str(folder), QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(folder))
     ours, peers = [], []
     for _ in range(rounds):
-        ours.append(told([build / "bench/whole_run/bench_whole_run", port, MESSAGES, SIZE, own, signing],
-                         env=environment)["seconds"])
+        run = [build / "bench/whole_run/bench_whole_run", port, MESSAGES, SIZE, own, signing]
+        unseen, seen = told(run, env=environment), told([*run, "shown"], env=environment)
+        ours.append((unseen["microseconds"], unseen["processorMicroseconds"], seen["microseconds"]))
         parts = told([build / "bench/whole_run/bench_commit_and_sign", folder / "peer.sqlite", MESSAGES, signing])
         raw = told([build / "bench/smtp/bench_smtp_raw_client", port, MESSAGES, SIZE, "flight", "tls"])
-        peers.append((raw["seconds"], parts["commits"], parts["signatures"]))
+        peers.append([seconds * 1e6 / MESSAGES for seconds in (raw["seconds"], parts["commits"], parts["signatures"])])
     return ours, peers
 
 
 def record(place, ours, peers, goal):
-    ratio = tools.median(mine / sum(theirs) for mine, theirs in zip(ours, peers))
-    client, commit, signature = (tools.median(part) * 1e6 / MESSAGES for part in zip(*peers))
-    return {"name": f"whole run with commit, {place}", "value": tools.median(ours) * 1e6 / MESSAGES, "unit": "µs/message",
-            "peer": f"raw client {client:.0f} + SQLite commit {commit:.0f} + signature {signature:.0f} µs", "ratio": ratio,
-            "goal": goal, "met": ratio <= goal}
+    ratio = tools.median(mine[0] / sum(theirs) for mine, theirs in zip(ours, peers))
+    client, commit, signature = (tools.median(part) for part in zip(*peers))
+    unseen, processor, seen = (tools.median(part) for part in zip(*ours))
+    return {"name": f"whole run with commit, {place}", "value": unseen, "unit": "µs/message",
+            "peer": f"raw client {client:.0f} + SQLite commit {commit:.0f} + signature {signature:.0f} µs; of ours "
+                    f"{processor:.0f} of the processor; {seen:.0f} with the window on the screen",
+            "ratio": ratio, "goal": goal, "met": ratio <= goal}
 
 
 @contextlib.contextmanager

@@ -1,6 +1,7 @@
-// whole_run <port> <messages> <octets> <authority.pem> <key.pem>: the send window with a database of as many
-// selected recipients, in a folder below TMPDIR, runs through them one tick after the other without a pause:
-// row, placeholders, signature, delivery by TLS to 127.0.0.1, commit. Prints one line of JSON.
+// whole_run <port> <messages> <octets> <authority.pem> <key.pem> [shown]: the send window with a database of
+// as many selected recipients, in a folder below TMPDIR, runs through them one tick after the other without a
+// pause: row, placeholders, signature, delivery by TLS to 127.0.0.1, commit. Without "shown" the window is
+// not painted. Prints one line of JSON: microseconds a message, of the clock and of the processor.
 #include <sys/resource.h>
 
 #include <cstdio>
@@ -79,10 +80,11 @@ void furnish(SampleFolder& folder, quint16 port, int messages, int octets, const
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 6) {
-        std::fprintf(stderr, "whole_run <port> <messages> <octets> <authority.pem> <key.pem>\n");
+    if (argc != 6 && argc != 7) {
+        std::fprintf(stderr, "whole_run <port> <messages> <octets> <authority.pem> <key.pem> [shown]\n");
         return 2;
     }
+    const bool onScreen = argc == 7;
     QApplication application(argc, argv);
     QLocale::setDefault(QLocale("it_IT"));
     ui::setUnattended(true);
@@ -96,13 +98,19 @@ int main(int argc, char** argv) {
     frmInvia window([] {});
     window.SetPrgBar();
     window.CaricaDati();
-    window.show();
+    if (onScreen) window.show();
     window.findChild<QPushButton*>("cmdFile")->click();
     auto* const start = window.findChild<QPushButton*>("cmdInvia");
     auto* const timer = window.findChild<QTimer*>("tmr");
-    const double before = processorSeconds();
-    QElapsedTimer clock;
-    clock.start();
+    double before = 0;
+    QElapsedTimer
+        clock;  // from the first delivery on: what opens the connection is not asked of the peer either
+    auto* const smtp = window.findChild<mail::DeliveryControl*>("SMTP");
+    QObject::connect(smtp, &mail::DeliveryControl::SendDone, &window, [&] {
+        if (clock.isValid()) return;
+        before = processorSeconds();
+        clock.start();
+    });
     start->click();
     timer->setInterval(0);
     while (!start->isEnabled() || timer->isActive())
@@ -114,7 +122,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%d of %d were delivered\n", int(delivered), messages);
         return 1;
     }
-    std::printf("{\"seconds\": %.6f, \"processorMicroseconds\": %.1f}\n", seconds, used * 1e6 / messages);
+    std::printf("{\"microseconds\": %.1f, \"processorMicroseconds\": %.1f}\n", seconds * 1e6 / (messages - 1),
+                used * 1e6 / (messages - 1));
     std::fflush(stdout);
     return 0;
 }
