@@ -164,7 +164,7 @@ class frmInvia : public QDialog {
     QString corpoHtml;
     QString CorpoTesto;
     QString oggettoMail;
-    ModelliDivisi modelli;  ///< of these three, split once
+    ModelliDivisi modelli;     ///< of these three, split once
     QStringList filePermessi;  ///< attachments and images of the run, links resolved
     QString disiscrizione;     ///< the template's link marked rel="unsubscribe"
     LimiteBlocco limite;
