@@ -34,9 +34,8 @@ struct Cursor {
     RowOrder::Place end;
     jet::RowId row;
     bool atEnd;
-    jet::Bytes bytes;  ///< of the row, once one of its fields was asked for
+    StoredRow stored;  ///< the row's bytes, once one of its fields was asked for
     bool loaded;
-    bool found;
 };
 
 Table& tableOf(sqlite3_vtab* table) {
@@ -264,12 +263,11 @@ int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int number) {
     const jet::TableDefinition& definition = table.rows->definition();
     const auto position = static_cast<size_t>(number);
     if (!cursor.loaded) {
-        const Result<bool> found = table.rows->read(cursor.row, cursor.bytes);
-        if (!found.ok()) return table.session->fail(found.status());
+        if (Status status = table.rows->read(cursor.row, cursor.stored); !status.ok())
+            return table.session->fail(std::move(status));
         cursor.loaded = true;
-        cursor.found = found.value();
     }
-    if (!cursor.found) return SQLITE_OK;  // deleted from outside since: all fields are Null
+    if (!cursor.stored.present) return SQLITE_OK;  // deleted from outside since: all fields are Null
     const Type type = definition.columns[position].type;
     if (type == Type::Memo || type == Type::Ole) {
         const Result<jet::Value> value = table.rows->longValue(cursor.row, position);
@@ -278,7 +276,7 @@ int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int number) {
         return SQLITE_OK;
     }
     give(context,
-         readable(definition.columns[position], jet::RowView(&definition, cursor.bytes).value(position)));
+         readable(definition.columns[position], jet::RowView(&definition, cursor.stored.bytes).value(position)));
     return SQLITE_OK;
 }
 

@@ -21,14 +21,16 @@ Result<jet::Table*> JetTable::table() {
     return m_table;
 }
 
-Result<bool> JetTable::read(jet::RowId id, jet::Bytes& bytes) {
+Status JetTable::read(jet::RowId id, StoredRow& row) {
+    row.present = false;
     const Result<jet::Table*> source = table();
     if (!source.ok()) return source.status();
-    const Result<std::optional<jet::RowView>> row = source.value()->row(id);
-    if (!row.ok()) return row.status();
-    if (!row.value()) return false;
-    bytes.assign(row.value()->bytes().begin(), row.value()->bytes().end());
-    return true;
+    const Result<std::optional<jet::RowView>> found = source.value()->row(id);
+    if (!found.ok()) return found.status();
+    if (!found.value()) return {};
+    row.bytes.assign(found.value()->bytes().begin(), found.value()->bytes().end());
+    row.present = true;
+    return {};
 }
 
 Result<jet::Value> JetTable::longValue(jet::RowId id, size_t column) {

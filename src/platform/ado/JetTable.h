@@ -10,6 +10,12 @@
 
 namespace ado {
 
+/// A row as it stood in the file at some moment.
+struct StoredRow {
+    jet::Bytes bytes;
+    bool present = false;  ///< false: there was none of that identity
+};
+
 /// One table of an open database as statements and recordsets use it: its rows, and the orders of them that
 /// were asked for. An order is made by one walk over the table and afterwards follows each row that is
 /// written through here; it is forgotten when the file was changed by somebody else or a transaction was
@@ -22,8 +28,8 @@ class JetTable {
 
     const jet::TableDefinition& definition() const { return m_definition; }
 
-    /// The bytes of a row, to be seen through definition(). False when there is no such row (any more).
-    Result<bool> read(jet::RowId id, jet::Bytes& bytes);
+    /// Takes the bytes of a row, to be seen through definition(), or that there is no such row (any more).
+    Status read(jet::RowId id, StoredRow& row);
     /// One value of a row that does not lie in its bytes (memo, OLE).
     Result<jet::Value> longValue(jet::RowId id, size_t column);
     Result<std::optional<jet::RowId>> findByPrimaryKey(int32_t key);

@@ -6,6 +6,7 @@
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Rows.h"
+#include "platform/ado/RowsAhead.h"
 #include "platform/ado/Waiting.h"
 
 namespace ado {
@@ -53,9 +54,9 @@ struct Recordset::Data {
     std::unique_ptr<Rows> rows;  ///< null when closed
     size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
-    bool lost = false;     ///< the last move failed: no row is the current one, nor any mark
-    jet::Bytes bytes;      ///< of the current row, where rows are told by their identities
-    bool present = false;  ///< false: it was deleted since it was found
+    bool lost = false;  ///< the last move failed: no row is the current one, nor any mark
+    StoredRow row;      ///< the current one, where rows are told by their identities
+    RowsAhead ahead;
 
     Changes changes;
     bool adding = false;
@@ -68,7 +69,8 @@ struct Recordset::Data {
         adding = false;
         changes.clear();
     }
-    Status goTo(size_t row);
+    Status goTo(size_t number);
+    Status read(size_t number, size_t count);
     Status load();
     Result<Value> field(size_t column);
     Status updatable() const;
@@ -183,28 +185,45 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
 
 /// Makes that row the current one, or the end mark when there are not so many. After a failure there is no
 /// current row.
-Status Recordset::Data::goTo(size_t row) {
-    const Waiting waiting(recordsetSeconds);
-    lost = true;
+Status Recordset::Data::goTo(size_t number) {
+    const bool onward = !lost && !beforeFirst && number == current + 1;
+    if (!onward || !ahead.take(number, session->epoch(), row)) {
+        const Waiting waiting(recordsetSeconds);
+        lost = true;
+        if (Status status = read(number, ahead.wanted(onward)); !status.ok()) return status;
+    }
+    current = std::min(number, rows->known());
+    beforeFirst = false;
+    lost = false;
+    return {};
+}
+
+/// Reads that row and those behind it, `count` in all, as they are at one moment.
+Status Recordset::Data::read(size_t number, size_t count) {
+    ahead.drop();
+    row.present = false;
     const jet::ReadScope reading(session->database());
     if (!reading.status().ok()) return reading.status();
     if (Status status = session->refresh(); !status.ok()) return status;
-    if (Status status = rows->reach(row + 1); !status.ok()) return status;
-    current = std::min(row, rows->known());
-    beforeFirst = false;
-    lost = false;
-    Status status = load();
-    lost = !status.ok();
-    return status;
+    // What another row makes fail is told when it is reached.
+    if (Status status = rows->reach(number + 1); !status.ok()) return status;
+    if (count > 1) (void)rows->reach(number + count);
+    if (!rows->table()) return {};
+    if (number < rows->known())
+        if (Status status = rows->table()->read(rows->id(number), row); !status.ok()) return status;
+    ahead.begin(number + 1, session->epoch());
+    for (size_t next = number + 1; next < std::min(number + count, rows->known()); ++next)
+        if (Status status = rows->table()->read(rows->id(next), ahead.add()); !status.ok()) {
+            ahead.dropLast();
+            break;
+        }
+    return {};
 }
 
 Status Recordset::Data::load() {
-    present = false;
-    if (!onRow() || !rows->table()) return {};
-    const Result<bool> found = rows->table()->read(rows->id(current), bytes);
-    if (!found.ok()) return found.status();
-    present = found.value();
-    return {};
+    ahead.drop();
+    row.present = false;
+    return onRow() && rows->table() ? rows->table()->read(rows->id(current), row) : Status();
 }
 
 Result<Value> Recordset::Data::field(size_t column) {
@@ -216,13 +235,15 @@ Result<Value> Recordset::Data::field(size_t column) {
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
-    if (!present) return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    if (!row.present) return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
-    const jet::Type type = definition.columns[column].type;
+    const size_t position = rows->column(column);
+    const jet::Type type = definition.columns[position].type;
     if (type != jet::Type::Memo && type != jet::Type::Ole)
-        return Value(readable(definition.columns[column], jet::RowView(&definition, bytes).value(column)));
+        return Value(
+            readable(definition.columns[position], jet::RowView(&definition, row.bytes).value(position)));
     const Waiting waiting(recordsetSeconds);
-    Result<jet::Value> value = rows->table()->longValue(rows->id(current), column);
+    Result<jet::Value> value = rows->table()->longValue(rows->id(current), position);
     if (!value.ok()) return value.status();
     return Value(std::move(value).value());
 }
@@ -242,7 +263,7 @@ Result<Value> Recordset::value(int index) const {
 
 Status Recordset::Data::updatable() const {
     if (!rows) return notOpen();
-    if (lockType == LockType::ReadOnly || !rows->table() || !rows->table()->definition().longPrimaryKey())
+    if (lockType == LockType::ReadOnly || !rows->whole() || !rows->table()->definition().longPrimaryKey())
         return notUpdatable();
     return {};
 }
@@ -295,12 +316,13 @@ Status Recordset::Data::sameRow() {
     Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const std::optional<size_t> key = definition.longPrimaryKey();
-    jet::Bytes now;
-    const Result<bool> found = rows->table()->read(rows->id(current), now);
-    if (!found.ok()) return found.status();
-    if (!present || !found.value()) return gone;
-    const auto keyIn = [&](const jet::Bytes& row) { return jet::RowView(&definition, row).value(*key); };
-    return !key || keyIn(now) == keyIn(bytes) ? Status() : gone;
+    StoredRow now;
+    if (Status status = rows->table()->read(rows->id(current), now); !status.ok()) return status;
+    if (!row.present || !now.present) return gone;
+    const auto keyIn = [&](const StoredRow& one) {
+        return jet::RowView(&definition, one.bytes).value(*key);
+    };
+    return !key || keyIn(now) == keyIn(row) ? Status() : gone;
 }
 
 Status Recordset::Data::post() {

@@ -24,11 +24,10 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
     std::unique_ptr<Rows> rows(new Rows(session));
     rows->m_literals = std::move(statement.values);
     const jet::TableDefinition& definition = table.value()->definition();
-    if (const char* identity = identityName(definition); identity && statement.star) {
+    if (const char* identity = identityName(definition);
+        identity && statement.list && rows->takeColumns(definition, *statement.list)) {
         rows->m_table = table.value();
-        statement.sql.replace(*statement.star, 1, identity);
-        for (const jet::Column& column : definition.columns)
-            rows->m_names.push_back(QString::fromStdString(column.name));
+        statement.sql.replace(statement.list->at, statement.list->size, QByteArray(identity) + ' ');
     }
     Result<Prepared> prepared = session->prepare(statement.sql, rows->m_literals);
     if (!prepared.ok()) return prepared.status();
@@ -40,12 +39,28 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
     return rows;
 }
 
+/// False where the list names something that is no column.
+bool Rows::takeColumns(const jet::TableDefinition& definition, const StatementText::List& list) {
+    m_whole = list.columns.empty();
+    for (size_t i = 0; m_whole && i < definition.columns.size(); ++i)
+        m_columns.push_back(i);
+    for (const std::string& name : list.columns) {
+        const std::optional<size_t> column = definition.find(name);
+        if (!column) return false;
+        m_columns.push_back(*column);
+    }
+    for (const size_t column : m_columns)
+        m_names.push_back(QString::fromStdString(definition.columns[column].name));
+    return true;
+}
+
 Rows::~Rows() {
     m_session->delist(this);
 }
 
 Status Rows::reach(size_t count) {
-    if (!m_statement || known() >= count) return m_failure;
+    if (known() >= count) return {};
+    if (!m_statement) return m_failure;
     const jet::ReadScope reading(m_session->database());
     if (!reading.status().ok()) return reading.status();
     while (m_statement && known() < count) {

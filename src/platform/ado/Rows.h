@@ -8,8 +8,9 @@
 
 namespace ado {
 
-/// The rows of one SELECT, found step by step. Where the statement is `SELECT * FROM table …` only the
-/// identities of the rows are kept, otherwise their values.
+/// The rows of one SELECT, found step by step. Where the statement asks for columns of a table and nothing else
+/// (`SELECT * FROM table …`, `SELECT a, b FROM table …`) only the identities of the rows are kept, otherwise
+/// their values.
 class Rows {
   public:
     static Result<std::unique_ptr<Rows>> run(const std::shared_ptr<Session>& session,
@@ -21,6 +22,10 @@ class Rows {
     /// The table whose rows these are; null when only values are kept.
     JetTable* table() const { return m_table; }
     const std::vector<QString>& names() const { return m_names; }
+    /// The table's column at that place of names(), where there is a table.
+    size_t column(size_t place) const { return m_columns[place]; }
+    /// Whether these are all columns of the table as they stand there.
+    bool whole() const { return m_whole; }
 
     /// Steps on until `count` rows are known or there are no more. What makes a statement fail does so for
     /// good.
@@ -40,6 +45,7 @@ class Rows {
   private:
     explicit Rows(std::shared_ptr<Session> session) : m_session(std::move(session)) {}
     Value valueOf(int column) const;
+    bool takeColumns(const jet::TableDefinition& definition, const StatementText::List& list);
 
     std::shared_ptr<Session> m_session;
     std::vector<jet::Value> m_literals;  ///< of the statement
@@ -47,6 +53,8 @@ class Rows {
     Prepared m_statement;  ///< null when all rows are known, or a step has failed
     Status m_failure;
     std::vector<QString> m_names;
+    std::vector<size_t> m_columns;
+    bool m_whole = false;
     std::vector<jet::RowId> m_ids;
     std::vector<std::vector<Value>> m_values;
 };

@@ -210,6 +210,7 @@ Status Session::refresh() {
 }
 
 void Session::forget() {
+    ++m_epoch;
     for (auto& [name, table] : m_tables)
         table->forget();
 }
@@ -322,6 +323,7 @@ Status Session::finishReaders() {
 
 Status Session::begin() {
     if (Status status = m_database->begin(); !status.ok()) return status;
+    ++m_epoch;
     for (auto& [name, table] : m_tables)
         table->beginStatement();
     Status status = finishReaders();

@@ -65,6 +65,10 @@ class Session {
     /// Ends the open group and tells its progress how that went.
     void commitGroup();
 
+    /// Another number whenever a transaction begins here, or the file was found changed by somebody else: what
+    /// was read before may be no longer true.
+    uint64_t epoch() const { return m_epoch; }
+
     /// Open recordsets, so that they can pass all their rows before a write moves them.
     void enlist(Rows* rows) { m_readers.push_back(rows); }
     void delist(Rows* rows) { std::erase(m_readers, rows); }
@@ -106,6 +110,7 @@ class Session {
     Status m_failure;
     qint64 m_changes = 0;
     GroupProgress* m_group = nullptr;  ///< of the open group
+    uint64_t m_epoch = 0;
     bool m_outdated = false;
 };
 

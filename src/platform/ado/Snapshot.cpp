@@ -36,7 +36,7 @@ Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& st
                    : Status(ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una SELECT."));
     if (!run.ok()) return run.status();
     Rows& rows = *run.value();
-    if (!rows.table())
+    if (!rows.whole())
         return Status(ErrorCode::NotSupported,
                       QStringLiteral("L'istruzione deve leggere tutte le colonne di una tabella."));
     if (Status status = rows.finish(); !status.ok()) return status;
@@ -58,14 +58,13 @@ Status Snapshot::copy(const Rows& rows) {
     for (size_t i = 0; i < places.size(); ++i)
         places[i] = static_cast<uint64_t>(rows.id(i).toInteger()) << 32 | i;
     std::sort(places.begin(), places.end());
-    jet::Bytes bytes;
+    StoredRow stored;
     for (const uint64_t packed : places) {
         const jet::RowId id = jet::RowId::fromInteger(static_cast<int64_t>(packed >> 32));
         const auto row = static_cast<uint32_t>(packed);
-        const Result<bool> found = rows.table()->read(id, bytes);
-        if (!found.ok()) return found.status();
-        if (!found.value()) continue;
-        const Result<uint32_t> place = append(bytes);
+        if (Status status = rows.table()->read(id, stored); !status.ok()) return status;
+        if (!stored.present) continue;
+        const Result<uint32_t> place = append(stored.bytes);
         if (!place.ok()) return place.status();
         m_rows[row] = place.value();
         for (const size_t column : memos) {

@@ -31,7 +31,7 @@ class Reader {
         ++m_next;
         return true;
     }
-    /// A table's name, bare or in brackets.
+    /// A name of a table or column, bare or in brackets.
     bool takeName(QString& name) {
         if (atEnd()) return false;
         const SqlToken& token = m_tokens[m_next];
@@ -111,13 +111,29 @@ bool conditionOnly(const Reader& reader) {
     return clausesOnly(reader) && !reader.restHas({"ORDER", "LIMIT", "GROUP"});
 }
 
+/// An asterisk or names of columns, up to the word FROM; nothing for anything else.
+std::optional<StatementText::List> readList(Reader reader) {
+    StatementText::List list;
+    if (reader.atEnd()) return std::nullopt;
+    list.at = reader.offset();
+    if (!reader.take("*")) {
+        do {
+            QString name;
+            if (!reader.takeName(name)) return std::nullopt;
+            list.columns.push_back(name.toStdString());
+        } while (reader.take(","));
+    }
+    if (reader.atEnd()) return std::nullopt;
+    list.size = reader.offset() - list.at;
+    if (!reader.take("FROM")) return std::nullopt;
+    return list;
+}
+
 /// `list FROM table clauses`, behind the word SELECT.
-bool readSelect(Reader& reader, QString& table, std::optional<qsizetype>* star) {
-    Reader whole = reader;
-    const qsizetype first = reader.atEnd() ? 0 : reader.offset();
-    const bool all = whole.take("*") && whole.take("FROM");
+bool readSelect(Reader& reader, QString& table, std::optional<StatementText::List>* list) {
+    const std::optional<StatementText::List> wanted = readList(reader);
     if (!reader.skipTo("FROM") || !reader.takeName(table) || !clausesOnly(reader)) return false;
-    if (star && all && reader.restKeepsRows()) *star = first;
+    if (list && reader.restKeepsRows()) *list = wanted;
     return true;
 }
 
@@ -141,7 +157,7 @@ bool readStatement(Reader& reader, StatementText& statement) {
         statement.verb = Verb::Select;
         Reader list = reader;
         if (list.skipTo("SELECT")) return false;
-        return readSelect(reader, statement.table, &statement.star);
+        return readSelect(reader, statement.table, &statement.list);
     }
     if (reader.take("UPDATE")) {
         statement.verb = Verb::Update;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <QByteArray>
 #include <QString>
+#include <string>
 #include <vector>
 
 #include "platform/jet/Value.h"
@@ -24,8 +25,13 @@ struct StatementText {
     std::vector<jet::Value> values;
     QString table;     ///< the one that is read, or written
     QString readFrom;  ///< the table that an INSERT … SELECT reads, else empty
-    /// Offset of the asterisk in `SELECT * FROM table …`, where rows can be told by their identities.
-    std::optional<qsizetype> star;
+    /// What stands between SELECT and FROM, where rows can be told by their identities.
+    struct List {
+        qsizetype at = 0;  ///< in `sql`
+        qsizetype size = 0;
+        std::vector<std::string> columns;  ///< names in UTF-8; none: all of them, by an asterisk
+    };
+    std::optional<List> list;
 
     /// Fails with SyntaxError or NotSupported. Comments, parameters, more than one statement and texts beyond
     /// 64,000 characters are refused.

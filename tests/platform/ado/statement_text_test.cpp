@@ -47,14 +47,25 @@ TEST(StatementText, FindsTheTableOfEachKindOfStatement) {
 }
 
 TEST(StatementText, KnowsWhereRowsCanBeToldByTheirIdentities) {
-    EXPECT_EQ(accepted("SELECT * FROM [t] ;").star, 7);
-    EXPECT_EQ(accepted("SELECT * FROM t WHERE a = 5 ORDER BY b ASC, c DESC").star, 7);
-    EXPECT_FALSE(accepted("SELECT a FROM t").star);
-    EXPECT_FALSE(accepted("SELECT *, a FROM t").star);
-    EXPECT_FALSE(accepted("SELECT count(*) FROM t").star);
-    EXPECT_FALSE(accepted("SELECT * FROM t ORDER BY 1").star);
-    EXPECT_FALSE(accepted("SELECT * FROM t GROUP BY a").star);
-    EXPECT_FALSE(accepted("INSERT INTO t SELECT * FROM t").star);
+    for (const char* text : {"SELECT * FROM [t] ;", "SELECT * FROM t WHERE a = 5 ORDER BY b ASC, c DESC"}) {
+        const auto list = accepted(text).list;
+        ASSERT_TRUE(list) << text;
+        EXPECT_EQ(list->at, 7);
+        EXPECT_EQ(list->size, 2);
+        EXPECT_TRUE(list->columns.empty());
+    }
+    const auto named = accepted("SELECT a, [due parole] FROM t ORDER BY a").list;
+    ASSERT_TRUE(named);
+    EXPECT_EQ(named->size, 16);
+    EXPECT_EQ(named->columns, (std::vector<std::string>{"a", "due parole"}));
+    EXPECT_FALSE(accepted("SELECT DISTINCT a FROM t").list);
+    EXPECT_FALSE(accepted("SELECT a + 1 FROM t").list);
+    EXPECT_FALSE(accepted("SELECT a AS b FROM t").list);
+    EXPECT_FALSE(accepted("SELECT *, a FROM t").list);
+    EXPECT_FALSE(accepted("SELECT count(*) FROM t").list);
+    EXPECT_FALSE(accepted("SELECT * FROM t ORDER BY 1").list);
+    EXPECT_FALSE(accepted("SELECT * FROM t GROUP BY a").list);
+    EXPECT_FALSE(accepted("INSERT INTO t SELECT * FROM t").list);
 }
 
 TEST(StatementText, TextBehindTheFirstStatementIsRefused) {

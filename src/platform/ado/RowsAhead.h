@@ -1,0 +1,60 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "platform/ado/JetTable.h"
+
+namespace ado {
+
+/// Rows of a recordset that were read together with the current one, since asking the file for each costs more
+/// than reading it. They are handed out for 5 ms and dropped then, or when this process begins to write, so a
+/// row that comes from here may be that much older than the file. More are read the longer rows are taken one
+/// after the other: who reads one row pays for one.
+class RowsAhead {
+  public:
+    /// How many rows to read now; `onward`: the one behind the current one was asked for.
+    size_t wanted(bool onward) {
+        m_wanted = onward ? std::min(2 * m_wanted, most) : 1;
+        return m_wanted;
+    }
+    /// Exchanges `row` for row `number`; false when it is not here, or too old.
+    bool take(size_t number, uint64_t epoch, StoredRow& row) {
+        if (number < m_first || number - m_first >= m_count || epoch != m_epoch || Clock::now() >= m_end)
+            return false;
+        std::swap(row, m_rows[number - m_first]);
+        return true;
+    }
+
+    /// Rows from number `first` on are read now.
+    void begin(size_t first, uint64_t epoch) {
+        m_first = first;
+        m_count = 0;
+        m_epoch = epoch;
+        m_end = Clock::now() + life;
+    }
+    /// The place for one row more.
+    StoredRow& add() {
+        if (m_count == m_rows.size()) m_rows.emplace_back();
+        return m_rows[m_count++];
+    }
+    void dropLast() { --m_count; }
+    void drop() { m_count = 0; }
+
+  private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr size_t most = 64;
+    static constexpr std::chrono::milliseconds life{5};
+
+    std::vector<StoredRow> m_rows;  ///< m_count of them count; the others keep their memory
+    size_t m_first = 0;
+    size_t m_count = 0;
+    size_t m_wanted = 1;
+    uint64_t m_epoch = 0;
+    Clock::time_point m_end;
+};
+
+}  // namespace ado
