@@ -5,7 +5,6 @@
 #include <limits>
 #include <memory>
 #include <optional>
-#include <tuple>
 
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/RawValue.h"
@@ -184,7 +183,7 @@ std::optional<int64_t> wantedNumber(sqlite3_value* value, Type type) {
 int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_value** arguments) {
     auto& cursor = *reinterpret_cast<Cursor*>(base);
     Table& table = tableOf(cursor);
-    const OrderSpec spec = OrderSpec::fromText(text);
+    OrderSpec spec = OrderSpec::fromText(text);
     cursor.order.reset();
     cursor.loaded = false;
     cursor.atEnd = true;
@@ -203,12 +202,13 @@ int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_v
         if (id.value()) cursor.row = *id.value();
         return SQLITE_OK;
     }
+    // SQLite's True is 1, the database's own is -1.
+    spec.number = number && type == Type::YesNo ? *number != 0 : number.value_or(0);
     const auto order = table.rows->order(spec);
     if (!order.ok()) return table.session->fail(order.status());
     cursor.order = order.value();
-    const RowOrder& rows = *cursor.order;
-    std::tie(cursor.at, cursor.end) =
-        plan == OneGroup ? rows.group(type, *number) : std::pair(rows.begin(), rows.end());
+    cursor.at = cursor.order->begin();
+    cursor.end = cursor.order->end();
     settle(cursor);
     return SQLITE_OK;
 }

@@ -84,17 +84,26 @@ void JetTable::countMove(Affected affected) {
     if (++m_moves > mostMoves) std::erase_if(m_orders, [&](const auto& order) { return affected(*order); });
 }
 
+/// Mends the orders that were told of a change; one that cannot be mended is made anew when it is wanted.
+template <class Mend>
+void JetTable::mend(Mend mend) {
+    std::erase_if(m_orders, [&](const auto& order) { return !mend(*order).ok(); });
+}
+
 Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
     countMove([](const RowOrder&) { return true; });
     Result<jet::RowId> id = target.value()->insert(values);
     if (!id.ok() || m_orders.empty()) return id;
-    const Result<std::optional<jet::RowView>> row = target.value()->row(id.value());
-    if (!row.ok()) return row.status();
-    if (!row.value()) return rowGone();
-    for (const auto& order : m_orders)
-        order->add(order->keyOf(*row.value()), id.value());
+    StoredRow row;
+    if (Status status = read(id.value(), row); !status.ok()) return status;
+    if (!row.present) return rowGone();
+    mend([&](RowOrder& order) {
+        const jet::RowView view(&m_definition, row.bytes);
+        if (!order.spec().holds(view)) return Status();
+        return order.add(*target.value(), order.spec().keyOf(view), id.value());
+    });
     return id;
 }
 
@@ -106,25 +115,28 @@ Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Va
                            [&](const auto& change) { return order.spec().uses(change.first); });
     };
     countMove(affected);
-    std::vector<std::pair<RowOrder*, std::string>> moved;
-    for (const auto& order : m_orders)
-        if (affected(*order)) moved.emplace_back(order.get(), std::string());
-    if (!moved.empty()) {
-        const Result<std::optional<jet::RowView>> row = target.value()->row(id);
-        if (!row.ok()) return row.status();
-        if (!row.value()) return rowGone();
-        for (auto& [order, key] : moved)
-            key = order->keyOf(*row.value());
+    const bool moves =
+        std::any_of(m_orders.begin(), m_orders.end(), [&](const auto& order) { return affected(*order); });
+    StoredRow old;
+    if (moves) {
+        if (Status status = read(id, old); !status.ok()) return status;
+        if (!old.present) return rowGone();
     }
     Status status = target.value()->update(id, changes);
-    if (!status.ok() || moved.empty()) return status;
-    const Result<std::optional<jet::RowView>> row = target.value()->row(id);
-    if (!row.ok()) return row.status();
-    if (!row.value()) return rowGone();
-    for (const auto& [order, key] : moved) {
-        order->remove(key, id);
-        order->add(order->keyOf(*row.value()), id);
-    }
+    if (!status.ok() || !moves) return status;
+    StoredRow now;
+    if (Status failed = read(id, now); !failed.ok()) return failed;
+    if (!now.present) return rowGone();
+    mend([&](RowOrder& order) -> Status {
+        if (!affected(order)) return {};
+        const jet::RowView before(&m_definition, old.bytes);
+        const jet::RowView after(&m_definition, now.bytes);
+        const OrderSpec& spec = order.spec();
+        if (spec.holds(before))
+            if (Status lost = order.remove(*target.value(), spec.keyOf(before), id); !lost.ok()) return lost;
+        if (!spec.holds(after)) return {};
+        return order.add(*target.value(), spec.keyOf(after), id);
+    });
     return {};
 }
 
@@ -133,11 +145,14 @@ Status JetTable::erase(jet::RowId id) {
     if (!target.ok()) return target.status();
     countMove([](const RowOrder&) { return true; });
     if (!m_orders.empty()) {
-        const Result<std::optional<jet::RowView>> row = target.value()->row(id);
-        if (!row.ok()) return row.status();
-        if (!row.value()) return rowGone();
-        for (const auto& order : m_orders)
-            order->remove(order->keyOf(*row.value()), id);
+        StoredRow row;
+        if (Status status = read(id, row); !status.ok()) return status;
+        if (!row.present) return rowGone();
+        mend([&](RowOrder& order) {
+            const jet::RowView view(&m_definition, row.bytes);
+            if (!order.spec().holds(view)) return Status();
+            return order.remove(*target.value(), order.spec().keyOf(view), id);
+        });
     }
     return target.value()->erase(id);
 }

@@ -33,7 +33,7 @@ class JetTable {
     /// One value of a row that does not lie in its bytes (memo, OLE).
     Result<jet::Value> longValue(jet::RowId id, size_t column);
     Result<std::optional<jet::RowId>> findByPrimaryKey(int32_t key);
-    /// All rows in that order. What is handed out stays as it is written on, and valid, until the next write.
+    /// The rows of that order. What is handed out stays as it is written on, and valid, until the next write.
     Result<std::shared_ptr<const RowOrder>> order(const OrderSpec& spec);
 
     Status writable();
@@ -54,6 +54,8 @@ class JetTable {
     Result<jet::Table*> table();
     template <class Affected>
     void countMove(Affected affected);
+    template <class Mend>
+    void mend(Mend mend);
 
     static constexpr size_t keptOrders = 8;
     static constexpr int mostMoves = 4000;  ///< about where mending costs as much as making anew

@@ -1,39 +1,21 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "platform/ado/OrderBlock.h"
+#include "platform/ado/OrderSpec.h"
 #include "platform/jet/Database.h"
+#include "platform/Status.h"
 
 namespace ado {
 
-/// What an order of rows is made by: columns by position. Rows may be grouped by one column first, so that
-/// those with one value of it stand together.
-struct OrderSpec {
-    struct Part {
-        size_t column = 0;
-        bool ascending = true;
-        bool operator==(const Part&) const = default;
-    };
-    std::optional<size_t> group;
-    std::vector<Part> parts;
-    bool operator==(const OrderSpec&) const = default;
-
-    bool uses(size_t column) const;
-    std::string toText() const;
-    static OrderSpec fromText(std::string_view text);
-
-    /// Whether rows can be put in order by, and be grouped by, columns of that type.
-    static bool canSort(jet::Type type);
-    static bool canGroup(jet::Type type);
-};
-
-/// All rows of a table in one order; equal ones by their identities. Kept in memory and up to date by whoever
-/// writes.
+/// The rows of a table that an OrderSpec holds, in its order. Kept in memory and up to date by whoever writes.
+///
+/// Of each row the identity and the first eight bytes of its key are kept, twelve bytes. Where these are
+/// alike the rows themselves tell which comes first: they are read again, so what changes or fills an order
+/// is handed the table.
 class RowOrder {
   public:
     /// A place in the order, valid until rows are added or removed.
@@ -46,27 +28,38 @@ class RowOrder {
     explicit RowOrder(OrderSpec spec) : m_spec(std::move(spec)) {}
     const OrderSpec& spec() const { return m_spec; }
 
-    /// Takes over all rows of the table.
+    /// Takes over the rows of the table that belong here.
     Status fill(jet::Table& table);
-
-    std::string keyOf(const jet::RowView& row) const;
-    void add(std::string_view key, jet::RowId id);
-    void remove(std::string_view key, jet::RowId id);
+    /// Adds the row with that key. After a failure the order is of no use any more.
+    Status add(jet::Table& table, std::string_view key, jet::RowId id);
+    /// Removes the row that had that key when it was added; it may have another one in the table by now. The
+    /// keys of all others are those of their rows.
+    Status remove(jet::Table& table, std::string_view key, jet::RowId id);
 
     Place begin() const { return {}; }
     Place end() const { return {m_blocks.size(), 0}; }
-    jet::RowId at(Place place) const;
+    jet::RowId at(Place place) const { return m_blocks[place.block][place.row].row(); }
     Place next(Place place) const;
-    /// The rows that hold `number` in the column they are grouped by: the first, and the one behind the last.
-    std::pair<Place, Place> group(jet::Type type, int64_t number) const;
 
   private:
-    void appendKey(std::string& key, const jet::RowView& row) const;
-    size_t blockOf(std::string_view key, OrderBlock::Id id) const;
-    Place lowerBound(std::string_view key) const;
+    /// Kept small: there may be millions.
+    struct Entry {
+        uint32_t high = 0;  ///< of the key's first eight bytes
+        uint32_t low = 0;
+        uint32_t id = 0;
+
+        Entry(uint64_t prefix, uint32_t rowId)
+            : high(static_cast<uint32_t>(prefix >> 32)), low(static_cast<uint32_t>(prefix)), id(rowId) {}
+        uint64_t prefix() const { return uint64_t{high} << 32 | low; }
+        jet::RowId row() const { return jet::RowId::fromInteger(id); }
+    };
+    using Block = std::vector<Entry>;
+
+    Result<Place> find(jet::Table& table, std::string_view key, uint32_t id) const;
+    Result<bool> before(jet::Table& table, const Entry& entry, std::string_view key, uint32_t id) const;
 
     OrderSpec m_spec;
-    std::vector<OrderBlock> m_blocks;  ///< none is empty
+    std::vector<Block> m_blocks;  ///< none is empty
 };
 
 }  // namespace ado

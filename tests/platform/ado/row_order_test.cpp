@@ -1,81 +1,59 @@
+#include <algorithm>
 #include <random>
-#include <set>
 
-#include "platform/ado/OrderBlock.h"
+#include "platform/ado/KeySort.h"
 #include "TestDatabase.h"
 
 namespace row_order_test {
 
-using ado::OrderBlock;
+using ado::KeySort;
 
 namespace {
-
-using Rows = std::set<std::pair<std::string, OrderBlock::Id>>;
 
 /// Keys as orders have them: bytes of every value, long common beginnings, empty ones.
 std::string randomKey(std::mt19937& random) {
     static const std::string beginnings[] = {"", "\x7f", std::string("\x7f\0\0\0", 4), std::string(300, 'a')};
     std::string key = beginnings[random() % 4];
-    for (auto length = random() % 4; length > 0; --length)
-        key.push_back(static_cast<char>(random() % 3 == 0 ? random() % 256 : 'a'));
+    for (auto length = random() % 12; length > 0; --length)
+        key.push_back(static_cast<char>(random() % 3 == 0 ? random() % 256 : random() % 5 == 0 ? 0 : 'a'));
     return key;
-}
-
-void expectSame(const OrderBlock& block, const Rows& rows) {
-    ASSERT_EQ(block.count(), rows.size());
-    if (!rows.empty()) {
-        EXPECT_EQ(block.firstKey(), rows.begin()->first);
-    }
-    size_t i = 0;
-    for (const auto& [key, id] : rows) {
-        EXPECT_EQ(block.id(i), id);
-        EXPECT_EQ(block.lowerBound(key, id), i);
-        ++i;
-    }
 }
 
 }  // namespace
 
-TEST(OrderBlock, AgreesWithASetThroughRandomChangesAndSplits) {
+TEST(KeySort, SortsByBytesOfTheKeyAndThenById) {
     std::mt19937 random(5);
-    for (int round = 0; round < 40; ++round) {
-        OrderBlock block;
-        Rows rows;
-        for (int step = 0; step < 150; ++step) {
-            const std::string key = randomKey(random);
-            const OrderBlock::Id id = random() % 3;
-            if (random() % 3 != 0) {
-                block.insert(key, id);
-                rows.emplace(key, id);
-            } else {
-                EXPECT_EQ(block.erase(key, id), rows.erase({key, id}) == 1);
-            }
+    for (const size_t count : {size_t{0}, size_t{1}, size_t{2}, size_t{40}, size_t{5000}}) {
+        KeySort sort;
+        std::vector<std::pair<std::string, uint32_t>> rows;
+        for (size_t i = 0; i < count; ++i) {
+            rows.emplace_back(randomKey(random), random() % 1000);
+            sort.add(rows.back().first, rows.back().second);
         }
-        expectSame(block, rows);
-        EXPECT_EQ(block.lowerBound(std::string(400, '\xff'), 0), block.count());
-        if (rows.size() < 2) continue;
-        const OrderBlock second = block.split();
-        const auto middle = std::next(rows.begin(), static_cast<std::ptrdiff_t>(rows.size() / 2));
-        expectSame(block, Rows(rows.begin(), middle));
-        expectSame(second, Rows(middle, rows.end()));
+        std::sort(rows.begin(), rows.end());
+        sort.sort();
+        ASSERT_EQ(sort.count(), count);
+        for (size_t i = 0; i < count; ++i) {
+            EXPECT_EQ(sort.key(i), rows[i].first) << i;
+            EXPECT_EQ(sort.id(i), rows[i].second) << i;
+        }
     }
 }
 
-TEST(OrderBlock, AppendedRowsStandAsInserted) {
-    OrderBlock appended;
-    OrderBlock inserted;
-    std::string previous;
-    for (int i = 0; i < 64; ++i) {
-        const std::string key = "Ditta " + std::to_string(100 + i);
-        appended.append(key, static_cast<OrderBlock::Id>(i), previous);
-        inserted.insert(key, static_cast<OrderBlock::Id>(i));
-        previous = key;
-    }
-    Rows rows;
-    for (int i = 0; i < 64; ++i)
-        rows.emplace("Ditta " + std::to_string(100 + i), i);
-    expectSame(appended, rows);
-    expectSame(inserted, rows);
+TEST(KeySort, KeysBeyondABlockAreKept) {
+    KeySort sort;
+    const std::string longest(3 << 20, 'z');
+    sort.add(longest, 1);
+    sort.add("a", 2);
+    sort.sort();
+    EXPECT_EQ(sort.id(0), 2u);
+    EXPECT_EQ(sort.key(1), longest);
+}
+
+TEST(KeySort, AWordSortsAsItsBytesDo) {
+    EXPECT_EQ(KeySort::word("\x01\x02", 0), 0x0102000000000000u);
+    EXPECT_EQ(KeySort::word("12345678\xff", 8), 0xff00000000000000u);
+    EXPECT_EQ(KeySort::word("1", 8), 0u);
 }
 
 }  // namespace row_order_test
