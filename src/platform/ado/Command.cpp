@@ -20,6 +20,12 @@ class Deadline {
     Deadline(const Deadline&) = delete;
 
     bool passed() const { return m_passed; }
+    /// For what SQLite does not run: asked often, the clock is read seldom.
+    bool goOn() {
+        constexpr int callsBetweenLooks = 1000;
+        if (m_end && ++m_calls % callsBetweenLooks == 0) m_passed = Waiting::Clock::now() >= *m_end;
+        return !m_passed;
+    }
 
   private:
     static int look(void* deadline) {
@@ -31,7 +37,18 @@ class Deadline {
     sqlite3* m_sqlite;
     std::optional<Waiting::Clock::time_point> m_end;
     bool m_passed = false;
+    int m_calls = 0;
 };
+
+/// Marks all rows at once, where the statement asks for that and the table allows it; the number of rows then.
+Result<std::optional<int64_t>> setEverywhere(JetTable& table, const StatementText& statement,
+                                             Deadline& deadline) {
+    const jet::TableDefinition& definition = table.definition();
+    const auto column = definition.find(statement.everywhere->column);
+    // The words may be names as well.
+    if (!column || definition.find("True") || definition.find("False")) return std::optional<int64_t>();
+    return table.setYesNo(*column, statement.everywhere->value, [&] { return deadline.goOn(); });
+}
 
 }  // namespace
 
@@ -60,7 +77,13 @@ Result<qint64> Command::execute() {
             !refused.ok())
             return refused;
         session.takeChanges();
-        const Deadline deadline(session.sqlite(), waiting);
+        Deadline deadline(session.sqlite(), waiting);
+        if (text.everywhere) {
+            const auto rows = setEverywhere(*target.value(), text, deadline);
+            if (!rows.ok()) return rows.status();
+            changes = rows.value().value_or(0);
+            if (rows.value()) return {};
+        }
         const int code = sqlite3_step(prepared.value().get());
         changes = session.takeChanges();
         if (code == SQLITE_DONE) return {};

@@ -1,7 +1,9 @@
 #include "platform/ado/FieldValue.h"
 
 #include <cmath>
+#include <cstring>
 #include <optional>
+#include <span>
 
 #include "platform/ado/DateText.h"
 #include "platform/ado/RawValue.h"
@@ -39,8 +41,8 @@ std::optional<double> realOf(const jet::Value& value) {
     if (const auto* date = std::get_if<jet::Date>(&value)) return date->days;
     if (const auto* amount = std::get_if<jet::Currency>(&value))
         return static_cast<double>(amount->tenThousandths) / 10000;
-    if (const auto* text = std::get_if<std::string>(&value)) return readNumber(*text);
-    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) return readNumber(decimal->text);
+    if (const auto* text = std::get_if<std::string>(&value)) return readNumber(QString::fromStdString(*text));
+    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) return readNumber(QString::fromStdString(decimal->text));
     return std::nullopt;
 }
 
@@ -76,7 +78,27 @@ Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& colum
     return jet::Value(jet::Currency{static_cast<int64_t>(scaled)});
 }
 
+/// The forms of stored text that Qt reads as they stand: characters below U+0100 behind the mark of the
+/// compressed form.
+std::optional<QString> plainText(std::span<const uint8_t> stored) {
+    if (stored.size() < 2 || stored[0] != 0xFF || stored[1] != 0xFE) return std::nullopt;
+    const auto* text = reinterpret_cast<const char*>(stored.data()) + 2;
+    const size_t length = stored.size() - 2;
+    if (std::memchr(text, 0, length)) return std::nullopt;  // goes on in UTF-16
+    return QString::fromLatin1(text, static_cast<qsizetype>(length));
+}
+
 }  // namespace
+
+Value fieldValue(const jet::RowView& row, size_t column) {
+    const jet::Column& definition = row.definition().columns[column];
+    if (definition.type != Type::Text || definition.ansi)
+        return Value(readable(definition, row.value(column)));
+    const auto stored = row.storedText(column);
+    if (!stored) return {};
+    if (auto text = plainText(*stored)) return *std::move(text);
+    return Value(row.value(column));
+}
 
 Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
     if (std::holds_alternative<std::monostate>(raw))

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/jet/TableDefinition.h"
+#include "platform/ado/Value.h"
+#include "platform/jet/Database.h"
 #include "platform/Status.h"
 
 namespace ado {
@@ -10,5 +11,8 @@ namespace ado {
 /// to even), Null is False for a yes/no. Lengths are left to the engine. Fails with TypeMismatch or Overflow,
 /// naming the column.
 Result<jet::Value> fitToColumn(jet::Value value, const jet::Column& column);
+
+/// The value of a column of that row as a recordset hands it out; of memo and OLE values what lies in the row.
+Value fieldValue(const jet::RowView& row, size_t column);
 
 }  // namespace ado

@@ -140,6 +140,16 @@ Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Va
     return {};
 }
 
+Result<std::optional<int64_t>> JetTable::setYesNo(size_t column, bool value,
+                                                  const std::function<bool()>& goOn) {
+    const Result<jet::Table*> target = table();
+    if (!target.ok()) return target.status();
+    auto rows = target.value()->setYesNo(column, value, goOn);
+    if (!rows.ok() || rows.value())
+        std::erase_if(m_orders, [&](const auto& order) { return order->spec().uses(column); });
+    return rows;
+}
+
 Status JetTable::erase(jet::RowId id) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -41,6 +43,8 @@ class JetTable {
     Result<int32_t> takeAutoNumber();
     Result<jet::RowId> insert(std::span<const jet::Value> values);
     Status update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes);
+    /// As jet::Table::setYesNo().
+    Result<std::optional<int64_t>> setYesNo(size_t column, bool value, const std::function<bool()>& goOn);
     Status erase(jet::RowId id);
 
     /// A statement begins. One that moves very many rows drops the orders it would have to mend.

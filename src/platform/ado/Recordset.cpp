@@ -187,7 +187,7 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
 /// current row.
 Status Recordset::Data::goTo(size_t number) {
     const bool onward = !lost && !beforeFirst && number == current + 1;
-    if (!onward || !ahead.take(number, session->epoch(), row)) {
+    if (!onward || !ahead.take(number, session->epoch(), RowsAhead::Clock::now(), row)) {
         const Waiting waiting(recordsetSeconds);
         lost = true;
         if (Status status = read(number, ahead.wanted(onward)); !status.ok()) return status;
@@ -202,6 +202,7 @@ Status Recordset::Data::goTo(size_t number) {
 Status Recordset::Data::read(size_t number, size_t count) {
     ahead.drop();
     row.present = false;
+    const RowsAhead::Clock::time_point begun = RowsAhead::Clock::now();
     const jet::ReadScope reading(session->database());
     if (!reading.status().ok()) return reading.status();
     if (Status status = session->refresh(); !status.ok()) return status;
@@ -211,7 +212,7 @@ Status Recordset::Data::read(size_t number, size_t count) {
     if (!rows->table()) return {};
     if (number < rows->known())
         if (Status status = rows->table()->read(rows->id(number), row); !status.ok()) return status;
-    ahead.begin(number + 1, session->epoch());
+    ahead.begin(number + 1, session->epoch(), begun);
     for (size_t next = number + 1; next < std::min(number + count, rows->known()); ++next)
         if (Status status = rows->table()->read(rows->id(next), ahead.add()); !status.ok()) {
             ahead.dropLast();
@@ -240,8 +241,7 @@ Result<Value> Recordset::Data::field(size_t column) {
     const size_t position = rows->column(column);
     const jet::Type type = definition.columns[position].type;
     if (type != jet::Type::Memo && type != jet::Type::Ole)
-        return Value(
-            readable(definition.columns[position], jet::RowView(&definition, row.bytes).value(position)));
+        return fieldValue(jet::RowView(&definition, row.bytes), position);
     const Waiting waiting(recordsetSeconds);
     Result<jet::Value> value = rows->table()->longValue(rows->id(current), position);
     if (!value.ok()) return value.status();

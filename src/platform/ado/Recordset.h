@@ -16,11 +16,13 @@ enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 
 /// The rows of one SELECT statement, with a current row.
 ///
-/// Rows are found step by step as they are asked for, and a field is decoded when it is read; `SELECT * FROM
-/// table` with any WHERE and ORDER BY keeps only the identities of the rows it has passed. Such a recordset
-/// shows a row as it was at the moment when it became the current one: fields that were changed since the
-/// recordset was opened show their new value, a row that was deleted since fails with NoCurrentRecord when it
-/// is read, rows inserted since are not seen. Rows that are equal in the sort columns come in the same order
+/// Rows are found step by step as they are asked for, and a field is decoded when it is read; a SELECT of
+/// columns of a table (all of them by an asterisk, or named) with any WHERE and ORDER BY keeps only the
+/// identities of the rows it has passed. Such a recordset shows a row as it was at the moment when it became
+/// the current one: fields that were changed since the recordset was opened show their new value, a row that
+/// was deleted since fails with NoCurrentRecord when it is read, rows inserted since are not seen. Where one
+/// row is taken after the other, what another program has changed in the last 5 ms may not be seen yet
+/// (RowsAhead.h); what this one has changed is. Rows that are equal in the sort columns come in the same order
 /// each time. No lock is held between two calls; a call waits for other programs for 30 seconds at most.
 ///
 /// A move that fails leaves no current row: fields cannot be read, and both marks are reported, until

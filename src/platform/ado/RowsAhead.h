@@ -16,25 +16,27 @@ namespace ado {
 /// after the other: who reads one row pays for one.
 class RowsAhead {
   public:
+    using Clock = std::chrono::steady_clock;
+
     /// How many rows to read now; `onward`: the one behind the current one was asked for.
     size_t wanted(bool onward) {
         m_wanted = onward ? std::min(2 * m_wanted, most) : 1;
         return m_wanted;
     }
-    /// Exchanges `row` for row `number`; false when it is not here, or too old.
-    bool take(size_t number, uint64_t epoch, StoredRow& row) {
-        if (number < m_first || number - m_first >= m_count || epoch != m_epoch || Clock::now() >= m_end)
-            return false;
+    /// Exchanges `row` for row `number`; false when it is not here, or too old, or `epoch` is not that in which
+    /// it was read.
+    bool take(size_t number, uint64_t epoch, Clock::time_point now, StoredRow& row) {
+        if (number < m_first || number - m_first >= m_count || epoch != m_epoch || now >= m_end) return false;
         std::swap(row, m_rows[number - m_first]);
         return true;
     }
 
     /// Rows from number `first` on are read now.
-    void begin(size_t first, uint64_t epoch) {
+    void begin(size_t first, uint64_t epoch, Clock::time_point now) {
         m_first = first;
         m_count = 0;
         m_epoch = epoch;
-        m_end = Clock::now() + life;
+        m_end = now + life;
     }
     /// The place for one row more.
     StoredRow& add() {
@@ -45,7 +47,6 @@ class RowsAhead {
     void drop() { m_count = 0; }
 
   private:
-    using Clock = std::chrono::steady_clock;
     static constexpr size_t most = 64;
     static constexpr std::chrono::milliseconds life{5};
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/ado/RawValue.h"
+#include "platform/ado/FieldValue.h"
 #include "platform/ado/Rows.h"
 #include "platform/ado/Waiting.h"
 
@@ -108,7 +108,7 @@ Value Snapshot::value(size_t row, size_t column) const {
         case jet::Type::Memo:
             return Value(m_memos.at({m_rows[row], column}));
         default:
-            return Value(readable(columns()[column], view(row).value(column)));
+            return fieldValue(view(row), column);
     }
 }
 

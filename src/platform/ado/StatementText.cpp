@@ -150,6 +150,15 @@ Status readInsert(Reader& reader, StatementText& statement) {
     return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused();
 }
 
+/// Behind the word SET.
+std::optional<StatementText::Everywhere> readEverywhere(Reader reader) {
+    QString column;
+    if (!reader.takeName(column) || !reader.take("=")) return std::nullopt;
+    const bool yes = reader.take("TRUE");
+    if ((!yes && !reader.take("FALSE")) || !reader.atEnd()) return std::nullopt;
+    return StatementText::Everywhere{column.toStdString(), yes};
+}
+
 /// Every other kind of statement.
 bool readStatement(Reader& reader, StatementText& statement) {
     using Verb = StatementText::Verb;
@@ -161,8 +170,9 @@ bool readStatement(Reader& reader, StatementText& statement) {
     }
     if (reader.take("UPDATE")) {
         statement.verb = Verb::Update;
-        return reader.takeName(statement.table) && reader.take("SET") &&
-               !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING", "ORDER", "LIMIT"});
+        if (!reader.takeName(statement.table) || !reader.take("SET")) return false;
+        statement.everywhere = readEverywhere(reader);
+        return !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING", "ORDER", "LIMIT"});
     }
     statement.verb = Verb::Delete;
     return reader.take("DELETE") && reader.take("FROM") && reader.takeName(statement.table) &&

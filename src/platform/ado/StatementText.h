@@ -33,6 +33,13 @@ struct StatementText {
     };
     std::optional<List> list;
 
+    /// `UPDATE table SET column = True` or False, on all rows.
+    struct Everywhere {
+        std::string column;  ///< in UTF-8
+        bool value = false;
+    };
+    std::optional<Everywhere> everywhere;
+
     /// Fails with SyntaxError or NotSupported. Comments, parameters, more than one statement and texts beyond
     /// 64,000 characters are refused.
     static Result<StatementText> read(const QString& text);

@@ -43,8 +43,19 @@ Result<qint64> rounded(double number) {
 
 }  // namespace
 
-std::optional<double> readNumber(const std::string& utf8) {
-    const QString text = QString::fromStdString(utf8).trimmed();
+Value::Value(jet::Value value) : m_value(std::move(value)) {
+    auto* text = std::get_if<std::string>(&m_value);
+    if (!text) return;
+    m_text = QString::fromStdString(*text);
+    text->clear();
+}
+
+jet::Value Value::raw() const {
+    return type() == Type::Text ? jet::Value(m_text.toStdString()) : m_value;
+}
+
+std::optional<double> readNumber(const QString& written) {
+    const QString text = written.trimmed();
     bool ok = false;
     double number = text.toDouble(&ok);
     if (!ok) number = QLocale().toDouble(text, &ok);
@@ -60,11 +71,12 @@ Value::Type Value::type() const {
 }
 
 Result<QString> Value::toText(const QLocale& userLocale) const {
+    if (type() == Type::Text) return m_text;
+    if (isNull()) return nullValue;
+    if (type() == Type::Binary) return mismatch;
     QLocale locale = userLocale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     switch (type()) {
-        case Type::Null:
-            return nullValue;
         case Type::YesNo:
             if (locale.language() == QLocale::Italian)
                 return std::get<bool>(m_value) ? QStringLiteral("Vero") : QStringLiteral("Falso");
@@ -78,20 +90,19 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
         case Type::Date:
             if (auto text = dateText(std::get<jet::Date>(m_value).days, locale)) return *text;
             return mismatch;
-        case Type::Text:
-            return QString::fromStdString(std::get<std::string>(m_value));
         case Type::Decimal: {
             QString text = QString::fromStdString(std::get<jet::Decimal>(m_value).text);
             if (text.startsWith(u'-')) text.replace(0, 1, locale.negativeSign());
             return text.replace(u'.', locale.decimalPoint());
         }
-        case Type::Binary:
-            break;
+        default:
+            return mismatch;
     }
-    return mismatch;
 }
 
 QString Value::toTextOrEmpty(const QLocale& locale) const {
+    if (type() == Type::Text) return m_text;
+    if (isNull()) return {};
     const Result<QString> text = toText(locale);
     return text.ok() ? text.value() : QString();
 }
@@ -111,12 +122,12 @@ Result<qint64> Value::toInteger() const {
         case Type::Date:
             return rounded(std::get<jet::Date>(m_value).days);
         case Type::Text: {
-            const std::optional<double> number = readNumber(std::get<std::string>(m_value));
+            const std::optional<double> number = readNumber(m_text);
             if (!number) return mismatch;
             return rounded(*number);
         }
         case Type::Decimal:
-            return rounded(readNumber(std::get<jet::Decimal>(m_value).text).value_or(0));
+            return rounded(readNumber(QString::fromStdString(std::get<jet::Decimal>(m_value).text)).value_or(0));
         case Type::Binary:
             break;
     }
@@ -126,13 +137,13 @@ Result<qint64> Value::toInteger() const {
 Result<bool> Value::toBool() const {
     switch (type()) {
         case Type::Text: {
-            const QString text = QString::fromStdString(std::get<std::string>(m_value)).trimmed();
+            const QString text = m_text.trimmed();
             const auto is = [&](const char* word) {
                 return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
             };
             if (is("Vero") || is("True")) return true;
             if (is("Falso") || is("False")) return false;
-            const std::optional<double> number = readNumber(text.toStdString());
+            const std::optional<double> number = readNumber(text);
             if (!number) return mismatch;
             return *number != 0;
         }

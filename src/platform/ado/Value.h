@@ -22,10 +22,10 @@ class Value {
     Value(long number) : m_value(static_cast<int64_t>(number)) {}
     Value(long long number) : m_value(static_cast<int64_t>(number)) {}
     Value(double number) : m_value(number) {}
-    Value(const QString& text) : m_value(text.toStdString()) {}
+    Value(QString text) : m_value(std::string()), m_text(std::move(text)) {}
     template <class T>
     Value(const T*) = delete;  // would silently become a yes/no
-    explicit Value(jet::Value value) : m_value(std::move(value)) {}
+    explicit Value(jet::Value value);
 
     Type type() const;
     bool isNull() const { return type() == Type::Null; }
@@ -44,15 +44,16 @@ class Value {
     /// toInteger().
     Result<bool> toBool() const;
 
-    const jet::Value& raw() const { return m_value; }
+    jet::Value raw() const;
     bool operator==(const Value&) const = default;
 
   private:
-    jet::Value m_value;
+    jet::Value m_value;  ///< of a text: the empty one
+    QString m_text;      ///< is shown far more often than it is written
 };
 
 /// A number written plainly, with a point before the decimals, or else as users of the current locale write
 /// it. Blanks around it do not count.
-std::optional<double> readNumber(const std::string& utf8);
+std::optional<double> readNumber(const QString& text);
 
 }  // namespace ado

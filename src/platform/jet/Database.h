@@ -55,6 +55,9 @@ class RowView {
     Value value(size_t column) const;
     /// Fast paths. text() appends the UTF-8 form to `out` and returns false for Null.
     bool text(size_t column, std::string& out) const;
+    /// The bytes in which a text is stored, as in JetText.h or in Windows-1252 (Column::ansi); nothing for
+    /// Null.
+    std::optional<std::span<const uint8_t>> storedText(size_t column) const;
     int64_t integer(size_t column) const;
     bool yesNo(size_t column) const;
 
@@ -111,6 +114,11 @@ class Table {
     /// Changes the columns named by position; values as for insert(). Columns that already hold the value do
     /// not count. An auto-number cannot be changed. Only between begin() and commit().
     Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
+    /// Gives a yes/no column of every row that value, page by page, and tells how many rows there are. Nothing,
+    /// and nothing changed, where rows have to be changed one by one: another type of column, or one in an
+    /// index. `goOn` is asked before each row; when it answers false the call fails (Timeout) and the
+    /// transaction can only be undone. Only between begin() and commit().
+    Result<std::optional<int64_t>> setYesNo(size_t column, bool value, const std::function<bool()>& goOn);
     /// Deletes a row, and what its memo and OLE values hold on other pages. Only between begin() and
     /// commit().
     Status erase(RowId id);

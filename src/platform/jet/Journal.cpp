@@ -131,30 +131,37 @@ void Journal::start(const OsFile& database, uint32_t pages) {
     m_header.firstPage = journal::digest(first, m_header.nonce);
     m_end = journal::recordsStart;
     m_synced = 0;
-    m_announcements.clear();
+    m_records.clear();
     m_hot = false;
     m_started = true;
 }
 
 void Journal::add(uint32_t page, const Page& original) {
     assert(m_started && page < m_header.pages);
-    std::vector<uint8_t> record;
-    record.reserve(journal::originalLength);
-    journal::appendOriginal(record, m_end, m_header.nonce, page, original);
-    m_file.write(m_end, record);
-    m_end += record.size();
+    if (m_records.size() >= recordsTogether * journal::originalLength) writeRecords();
+    journal::appendOriginal(m_records, m_end + m_records.size(), m_header.nonce, page, original);
 }
 
 void Journal::announce(uint32_t page, const Page& content) {
     assert(m_started);
-    journal::appendAnnouncement(m_announcements, m_end + m_announcements.size(), m_header.nonce, page,
-                                content);
+    journal::appendAnnouncement(m_records, m_end + m_records.size(), m_header.nonce, page, content);
+}
+
+void Journal::writeRecords() {
+    if (!m_records.empty()) m_file.write(m_end, m_records);
+    m_end += m_records.size();
+    m_records.clear();
 }
 
 void Journal::sync() {
-    if (!m_announcements.empty()) m_file.write(m_end, m_announcements);
-    m_end += m_announcements.size();
-    m_announcements.clear();
+    if (!m_hot && m_end == journal::recordsStart) {
+        // The header stands before the first records: one write does for all.
+        const journal::HeaderBytes header = journal::encode(m_header);
+        m_records.insert(m_records.begin(), header.begin(), header.end());
+        m_end = 0;
+        m_hot = true;
+    }
+    writeRecords();
     if (!m_hot) {
         m_hot = true;
         m_file.write(0, journal::encode(m_header));
@@ -197,7 +204,7 @@ void Journal::discard() noexcept {
         if (m_end > room) m_file.truncate(room);
     } catch (const Failure&) {
     }
-    m_announcements.clear();
+    m_records.clear();
     m_started = m_hot = false;
 }
 
@@ -205,7 +212,7 @@ void Journal::recover(OsFile& database) {
     // That of an own transaction serves also when somebody has taken its name away.
     const bool own = m_started;
     m_started = m_hot = false;
-    m_announcements.clear();
+    m_records.clear();
     OsFile other;
     if (!own && !leadsTo(m_file)) other = open(database, Access::ReadWrite);
     OsFile& file = other.isOpen() ? other : m_file;

@@ -71,7 +71,7 @@ class Journal {
     void start(const OsFile& database, uint32_t pages);
     bool started() const { return m_started; }
     /// Whether the journal is hot, and synced with everything that was added and announced.
-    bool inForce() const { return m_hot && m_synced == m_end && m_announcements.empty(); }
+    bool inForce() const { return m_hot && m_synced == m_end && m_records.empty(); }
     void add(uint32_t page, const Page& original);
     void announce(uint32_t page, const Page& content);
     void sync();
@@ -88,7 +88,11 @@ class Journal {
     void setAside();
 
   private:
+    /// So many originals are written together.
+    static constexpr size_t recordsTogether = 64;
+
     bool isOpen() const { return m_file.isOpen(); }
+    void writeRecords();
     bool leadsTo(const OsFile& file) const;
     OsFile open(const OsFile& database, OsFile::Access access) const;
     void requireTrusted(const FileRights& rights, const OsFile& database) const;
@@ -104,9 +108,9 @@ class Journal {
     bool m_started = false;
     bool m_hot = false;
     journal::Header m_header;
+    std::vector<uint8_t> m_records;  ///< that are still to be written, at m_end
     uint64_t m_end = 0;
     uint64_t m_synced = 0;
-    std::vector<uint8_t> m_announcements;
 };
 
 }  // namespace jet

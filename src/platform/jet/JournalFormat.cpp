@@ -12,6 +12,15 @@ constexpr size_t headerLength = checkedHeader + 8;
 constexpr uint32_t originalKind = 1;
 constexpr uint32_t announcementKind = 2;
 
+uint64_t firstSum(uint64_t nonce) {
+    return nonce ^ 0x9E3779B97F4A7C15u;
+}
+
+uint64_t nextSum(uint64_t sum, uint32_t four) {
+    sum = (sum ^ four) * 0xD6E8FEB86659FD93u;
+    return sum ^ sum >> 32;
+}
+
 void begin(std::vector<uint8_t>& out, uint32_t kind, uint32_t page) {
     const size_t start = out.size();
     out.resize(start + 8);
@@ -29,18 +38,19 @@ void end(std::vector<uint8_t>& out, size_t start, uint64_t at, uint64_t nonce) {
 }  // namespace
 
 uint64_t digest(std::span<const uint8_t> bytes, uint64_t nonce) {
-    uint64_t sum = nonce ^ 0x9E3779B97F4A7C15u;
-    for (size_t i = 0; i + 4 <= bytes.size(); i += 4) {
-        sum = (sum ^ load32(&bytes[i])) * 0xD6E8FEB86659FD93u;
-        sum ^= sum >> 32;
-    }
+    uint64_t sum = firstSum(nonce);
+    for (size_t i = 0; i + 4 <= bytes.size(); i += 4)
+        sum = nextSum(sum, load32(&bytes[i]));
     return sum;
 }
 
+// All sectors at the same time: the digest of one waits for itself at each step, those of eight do not.
 Digests digestsOf(const Page& page, uint64_t nonce) {
     Digests digests;
-    for (size_t i = 0; i < sectorsPerPage; ++i)
-        digests[i] = digest(std::span(page).subspan(i * sectorSize, sectorSize), nonce);
+    digests.fill(firstSum(nonce));
+    for (size_t i = 0; i < sectorSize; i += 4)
+        for (size_t sector = 0; sector < sectorsPerPage; ++sector)
+            digests[sector] = nextSum(digests[sector], load32(&page[sector * sectorSize + i]));
     return digests;
 }
 

@@ -13,6 +13,8 @@ namespace jet {
 
 namespace {
 
+constexpr size_t pagesTogether = 64;
+
 // Under whatever name a database is opened, its journal has one.
 std::string realPath(const std::string& path) {
     std::error_code error;
@@ -244,10 +246,20 @@ void PageFile::writeChanged() {
     lockPages();
     assert(m_journal.inForce());  // J1
     m_pagesWritten = true;
+    // Pages that are neighbours are written together.
+    std::vector<uint8_t> bytes;
+    uint32_t first = 0;
     for (const auto& [n, page] : m_changed) {
         assert(n >= m_originalPages || m_journaled[n]);
-        m_file.write(uint64_t{n} * pageSize, inFileForm(n, *page));
+        if (n != first + bytes.size() / pageSize || bytes.size() == pagesTogether * pageSize) {
+            if (!bytes.empty()) m_file.write(uint64_t{first} * pageSize, bytes);
+            bytes.clear();
+            first = n;
+        }
+        const Page written = inFileForm(n, *page);
+        bytes.insert(bytes.end(), written.begin(), written.end());
     }
+    m_file.write(uint64_t{first} * pageSize, bytes);
     m_changed.clear();
 }
 

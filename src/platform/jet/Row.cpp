@@ -74,6 +74,15 @@ bool maskBit(const TableDefinition& definition, const Column& column, std::span<
     return parts.valid && parts.mask(column.number);
 }
 
+std::optional<size_t> maskByte(const TableDefinition& definition, const Column& column,
+                               std::span<const uint8_t> row) {
+    const Parts parts(definition, row);
+    if (!parts.valid || parts.columns > definition.maxColumns)
+        failDamaged("una riga di \"", definition.name, "\" non è leggibile");
+    if (column.number >= parts.columns) return std::nullopt;
+    return parts.maskAt + column.number / 8;
+}
+
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row) {
     const Parts parts(definition, row);

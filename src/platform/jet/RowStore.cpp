@@ -113,6 +113,27 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
     storePointer(m_file.change(id.page), id, body);
 }
 
+void RowStore::patchAll(
+    const std::function<std::optional<Patch>(RowId, std::span<const uint8_t>)>& patch) {
+    UsageMap(m_file, m_definition.ownedMap).forEach([&](uint32_t number) {
+        const PagePtr page = m_file.page(number);
+        const DataPageView rows = view(*page, number);
+        for (size_t slot = 0; slot < rows.count(); ++slot) {
+            const uint16_t flags = rows.flags(slot);
+            if ((flags & data::notARow) != 0) continue;
+            const RowId id{number, static_cast<uint8_t>(slot)};
+            // Rows keep their places, so what the page was tells them all.
+            const Stored stored =
+                (flags & data::pointer) != 0 ? body(id, rows.bytes(slot)) : Stored{page, rows.bytes(slot), id};
+            if (const std::optional<Patch> change = patch(id, stored.bytes))
+                rowBytes(m_file.change(stored.place.page), stored.place.page, stored.place.slot)[change->at] =
+                    change->byte;
+        }
+        m_file.endStatement();
+        return true;
+    });
+}
+
 void RowStore::erase(RowId id) {
     const std::optional<Stored> old = find(id);
     if (!old) failInternal("una riga di \"", m_definition.name, "\" è sparita");

@@ -36,6 +36,14 @@ class RowStore {
     RowId insert(std::span<const uint8_t> row) { return put(row, 0); }
     /// Replaces the bytes of a row that exists, where they are if there is room.
     void update(RowId id, std::span<const uint8_t> row);
+    /// Calls `patch` for each row in page order; it may change a byte of the row by telling where, and how. A
+    /// page is copied for changing only when one of its rows changes, and pages may be written ahead after
+    /// each.
+    struct Patch {
+        size_t at = 0;
+        uint8_t byte = 0;
+    };
+    void patchAll(const std::function<std::optional<Patch>(RowId, std::span<const uint8_t>)>& patch);
     void erase(RowId id);
     /// Drops what was remembered, after pages were changed by somebody else.
     void forget() { m_room.forget(); }

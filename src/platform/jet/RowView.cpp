@@ -37,6 +37,11 @@ bool RowView::text(size_t column, std::string& out) const {
     return !field.null;
 }
 
+std::optional<std::span<const uint8_t>> RowView::storedText(size_t column) const {
+    const StoredField field = storedField(*m_definition, m_definition->columns[column], m_bytes);
+    return field.null ? std::nullopt : std::optional(field.bytes);
+}
+
 Value RowView::value(size_t column) const {
     const Column& c = m_definition->columns[column];
     if (c.type == Type::YesNo) return maskBit(*m_definition, c, m_bytes);

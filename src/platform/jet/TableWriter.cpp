@@ -289,6 +289,41 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
     });
 }
 
+Result<std::optional<int64_t>> Table::setYesNo(size_t position, bool value,
+                                               const std::function<bool()>& goOn) {
+    return guarded([&]() -> Result<std::optional<int64_t>> {
+        requireTransaction(*m_state);
+        m_state->ensureCurrent();
+        requireWritableTable(*m_state);
+        const TableDefinition& table = m_state->definition;
+        const Column& column = table.columns[position];
+        const bool indexed = std::any_of(table.indexes.begin(), table.indexes.end(), [&](const Index& index) {
+            return std::any_of(index.parts.begin(), index.parts.end(),
+                               [&](const Index::Part& part) { return part.column == column.number; });
+        });
+        if (column.type != Type::YesNo || indexed) return std::optional<int64_t>();
+        requireUpdatable(*m_state, position);
+        const auto bit = static_cast<uint8_t>(1u << (column.number % 8));
+        int64_t rows = 0;
+        std::vector<RowId> older;  // than the column: they have no place for it
+        apply(*m_state, [&] {
+            m_state->rows.patchAll(
+                [&](RowId id, std::span<const uint8_t> row) -> std::optional<RowStore::Patch> {
+                    if (!goOn()) fail(ErrorCode::Timeout, "Tempo scaduto.");
+                    ++rows;
+                    const std::optional<size_t> at = maskByte(table, column, row);
+                    if (!at && value) older.push_back(id);
+                    if (!at || ((row[*at] & bit) != 0) == value) return std::nullopt;
+                    return RowStore::Patch{*at, static_cast<uint8_t>(row[*at] ^ bit)};
+                });
+        });
+        const std::pair<size_t, Value> change{position, value};
+        for (const RowId id : older)
+            if (Status status = update(id, {&change, 1}); !status.ok()) return status;
+        return std::optional(rows);
+    });
+}
+
 Status Table::erase(RowId id) {
     return guarded([&]() -> Status {
         requireTransaction(*m_state);

@@ -75,6 +75,30 @@ TEST_F(CommandTest, SelectsAndDeselectsARowAGroupAndTheWholeList) {
     EXPECT_EQ(run("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = 99;"), 0);
 }
 
+TEST_F(CommandTest, MarkingTheWholeListCountsAllRowsAndIsSeenByOpenOrders) {
+    for (int i = 0; i < 300; ++i)
+        run(QStringLiteral("INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs) VALUES (1, %1, 'x', 'r%2')")
+                .arg(i % 2 ? "True" : "False")
+                .arg(i));
+    const char* queue = "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs";
+    ado::Recordset before = open(queue);
+    EXPECT_EQ(open(queue).recordCount(), 150);
+    EXPECT_EQ(run("UPDATE [tb_destinatari] SET sel = True;"), 300);
+    EXPECT_EQ(open(queue).recordCount(), 300);
+    EXPECT_EQ(before.recordCount(), 150);
+    EXPECT_EQ(run("UPDATE [tb_destinatari] SET [SEL] = False"), 300);
+    EXPECT_EQ(open(queue).recordCount(), 0);
+    EXPECT_EQ(run("UPDATE [tb_destinatari] SET sel = False;"), 300);
+}
+
+TEST_F(CommandTest, AWordThatIsNoYesNoColumnIsNotMarkedButRefusedOrConverted) {
+    run("INSERT INTO [tb_gruppi] (id_up, nome) VALUES (3, 'x')");
+    EXPECT_EQ(run("UPDATE [tb_gruppi] SET id_up = True"), 1);
+    EXPECT_EQ(column("SELECT * FROM [tb_gruppi]", "id_up"), "1");
+    EXPECT_EQ(failure("UPDATE [tb_gruppi] SET manca = True"), ErrorCode::ItemNotFound);
+    EXPECT_EQ(failure("UPDATE [manca] SET sel = True"), ErrorCode::TableNotFound);
+}
+
 TEST_F(CommandTest, ChangesTheColumnThatChoosesTheRows) {
     addRecipients(5, 1);
     EXPECT_EQ(run("UPDATE [tb_destinatari] SET id_grp = 2 WHERE id_grp = 1"), 5);

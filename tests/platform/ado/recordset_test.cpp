@@ -267,6 +267,25 @@ TEST_F(RecordsetTest, ARowDeletedSinceIsAnErrorAndTheNextOneIsNot) {
     EXPECT_EQ(text(rows, "nome"), "b");
 }
 
+TEST_F(RecordsetTest, AListOfColumnsHasJustThoseAndShowsRowsAsTheyAreNow) {
+    addRecipient(1, "Rossi", "r@x.it");
+    addRecipient(1, "Bianchi", "b@x.it");
+    Recordset rows = open("SELECT EMAIL, [rgs], sel FROM [tb_destinatari] WHERE id_grp = 1 ORDER BY rgs DESC");
+    ASSERT_EQ(rows.fieldCount(), 3);
+    EXPECT_EQ(rows.fieldName(0), QStringLiteral("email"));
+    EXPECT_EQ(rows.fieldName(1), QStringLiteral("rgs"));
+    EXPECT_EQ(rows.value(0).value(), Value(QStringLiteral("r@x.it")));
+    EXPECT_EQ(rows.value(2).value(), Value(true));
+    EXPECT_EQ(rows.value(u"nom").status().code(), ErrorCode::ItemNotFound);
+    run("UPDATE [tb_destinatari] SET email = 'nuovo@x.it' WHERE rgs = 'Bianchi'");
+    ASSERT_TRUE(rows.moveNext().ok());
+    EXPECT_EQ(text(rows, "email"), "nuovo@x.it");
+    EXPECT_EQ(text(rows, "rgs"), "Bianchi");
+    EXPECT_EQ(rows.recordCount(), 2);
+    EXPECT_EQ(rows.setValue(u"rgs", QStringLiteral("x")).code(), ErrorCode::NotSupported);
+    EXPECT_EQ(rows.addNew().code(), ErrorCode::NotSupported);
+}
+
 TEST_F(RecordsetTest, CanBeOpenedAgainWithAnotherSource) {
     addGroups({QStringLiteral("a"), QStringLiteral("b")});
     Recordset rows = open("SELECT * FROM [tb_gruppi] WHERE id = 1");

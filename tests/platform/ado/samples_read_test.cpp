@@ -15,12 +15,13 @@ class SamplesReadTest : public ado::Samples {
     /// Tells how two fields of a column stand to each other in the database's order: Null, then values.
     static int compare(const ado::Value& left, const ado::Value& right) {
         if (left.isNull() || right.isNull()) return int{right.isNull()} - int{left.isNull()};
-        if (const auto* text = std::get_if<std::string>(&left.raw()))
-            return jet::compareGeneral(*text, std::get<std::string>(right.raw()));
+        if (left.type() == ado::Value::Type::Text)
+            return jet::compareGeneral(std::get<std::string>(left.raw()), std::get<std::string>(right.raw()));
         const auto number = [](const ado::Value& value) -> double {
-            if (const auto* date = std::get_if<jet::Date>(&value.raw())) return date->days;
-            if (const auto* real = std::get_if<double>(&value.raw())) return *real;
-            if (const auto* amount = std::get_if<jet::Currency>(&value.raw()))
+            const jet::Value raw = value.raw();
+            if (const auto* date = std::get_if<jet::Date>(&raw)) return date->days;
+            if (const auto* real = std::get_if<double>(&raw)) return *real;
+            if (const auto* amount = std::get_if<jet::Currency>(&raw))
                 return static_cast<double>(amount->tenThousandths);
             return static_cast<double>(value.toInteger().value());
         };
@@ -58,7 +59,7 @@ class SamplesReadTest : public ado::Samples {
             case ado::Value::Type::Integer:
                 return QString::number(value.toInteger().value());
             case ado::Value::Type::Text: {
-                const auto& text = std::get<std::string>(value.raw());
+                const auto text = std::get<std::string>(value.raw());
                 // mdbtools tells an empty text from Null as little as a character it does not know
                 if (text.empty() || text.find('?') != std::string::npos ||
                     text.find('\0') != std::string::npos)

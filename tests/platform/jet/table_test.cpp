@@ -153,6 +153,61 @@ TEST_F(TableTest, YesNoIsClearedInPlaceByOneBit) {
     EXPECT_EQ(bits, 1);
 }
 
+TEST_F(TableTest, AYesNoColumnOfAllRowsIsSetInPlaceAlsoWhereRowsHaveMoved) {
+    constexpr size_t count = 500;
+    const size_t yesNo = recipients.definition().columns.size() - 1;
+    std::vector<RowId> ids = change([&] {
+        std::vector<RowId> made;
+        for (size_t i = 0; i < count; ++i) {
+            Row row = recipient(recipients, "riga " + std::to_string(i));
+            row[yesNo] = i % 3 == 0;
+            made.push_back(insert(recipients, row));
+        }
+        return made;
+    });
+    // Long texts drive some of them off their pages.
+    change([&] {
+        for (size_t i = 0; i < count; i += 20)
+            for (size_t column : {2u, 3u, 5u}) {
+                const std::pair<size_t, Value> longer{column, std::string(50, 'm')};
+                EXPECT_OK(recipients.update(ids[i], {&longer, 1}));
+            }
+        return 0;
+    });
+    Rows expected = rowsOf(recipients);
+    for (const bool value : {true, false, true}) {
+        const auto rows = change([&] { return recipients.setYesNo(yesNo, value, [] { return true; }); });
+        ASSERT_TRUE(rows.ok());
+        EXPECT_EQ(rows.value(), static_cast<int64_t>(count));
+        for (auto& [id, row] : expected)
+            row[yesNo] = value;
+        EXPECT_EQ(rowsOf(recipients), expected);
+    }
+}
+
+TEST_F(TableTest, AYesNoColumnIsNotSetForAllWhereThatIsNoMatterOfABit) {
+    change([&] { return insert(recipients, recipient(recipients, "x")); });
+    const auto whole = change([&] { return recipients.setYesNo(1, true, [] { return true; }); });
+    ASSERT_TRUE(whole.ok());
+    EXPECT_EQ(whole.value(), std::nullopt);
+    EXPECT_EQ(recipients.setYesNo(21, true, [] { return true; }).status().code(), ErrorCode::NotSupported);
+}
+
+TEST_F(TableTest, SettingAllRowsThatIsGivenUpChangesNone) {
+    change([&] {
+        for (int i = 0; i < 50; ++i)
+            insert(recipients, recipient(recipients, "x"));
+        return 0;
+    });
+    const Rows before = rowsOf(recipients);
+    EXPECT_OK(database->begin());
+    int asked = 0;
+    const auto rows = recipients.setYesNo(21, false, [&] { return ++asked < 30; });
+    EXPECT_EQ(rows.status().code(), ErrorCode::Timeout);
+    EXPECT_EQ(database->commit().code(), ErrorCode::Timeout);
+    EXPECT_EQ(rowsOf(recipients), before);
+}
+
 TEST_F(TableTest, TextTooLongNamesTheColumnAndChangesNothing) {
     Row row = recipient(recipients, "x");
     row[8] = std::string("ROM");
