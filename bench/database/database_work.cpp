@@ -1,7 +1,8 @@
 // database_work WORK FILE
 //
-// One piece of work on a database of recipients, through ado as the program does it. Prints one line of JSON: the
-// seconds it took, on the clock and of the processor, the kilobytes by which the process grew and still holds, and what was counted.
+// One piece of work on a database of recipients, through ado as the program does it. Prints one line of JSON:
+// the seconds it took, on the clock and of the processor, the kilobytes by which the process grew and still
+// holds, and what was counted.
 //     engine          the engine alone: every cell of tb_destinatari as text
 //     scan            the same through a recordset
 //     star, columns   a recordset of all rows, passed to the end and kept: SELECT *, a list of columns
@@ -113,8 +114,11 @@ Counted walk(ado::Recordset rows, bool readCells) {
     const int fields = rows.fieldCount();
     for (; !rows.isEof(); demand(rows.moveNext())) {
         ++counted.rows;
-        for (int i = 0; readCells && i < fields; ++i)
-            counted.characters += demand(rows.value(i)).toTextOrEmpty(locale).size();
+        for (int i = 0; readCells && i < fields; ++i) {
+            const Result<ado::Value> value = rows.value(i);
+            demand(value.status());
+            counted.characters += value.value().toTextOrEmpty(locale).size();
+        }
     }
     return counted;
 }
@@ -129,7 +133,8 @@ long long tick(const std::string& path) {
     (void)demand(rows.value(u"email"));
     const qint64 id = demand(demand(rows.value(u"id")).toInteger());
     rows.close();
-    return execute(path, QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(id));
+    return execute(path,
+                   QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(id));
 }
 
 Counted preads(const std::string& path, long long atRandom) {
@@ -166,8 +171,9 @@ int main(int argc, char** argv) {
     } else if (work == "scan") {
         counted = walk(query(path, QStringLiteral("SELECT * FROM [tb_destinatari];")), true);
     } else if (work == "star" || work == "columns") {
-        kept = query(path, work == "star" ? QStringLiteral("SELECT * FROM [tb_destinatari];")
-                                          : QStringLiteral("SELECT id, email, rgs, nom FROM [tb_destinatari];"));
+        kept =
+            query(path, work == "star" ? QStringLiteral("SELECT * FROM [tb_destinatari];")
+                                       : QStringLiteral("SELECT id, email, rgs, nom FROM [tb_destinatari];"));
         counted.rows = kept.recordCount();
     } else if (work == "order") {
         kept = query(path, runQuery);
@@ -175,7 +181,8 @@ int main(int argc, char** argv) {
     } else if (work == "select") {
         counted.rows = execute(path, QStringLiteral("UPDATE [tb_destinatari] SET sel = True;"));
     } else if (work == "group") {
-        const QString statement = QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id_grp = %1 ORDER BY rgs, nom;");
+        const QString statement =
+            QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id_grp = %1 ORDER BY rgs, nom;");
         kept = query(path, statement.arg(number));
         counted.rows = kept.recordCount();
     } else if (work == "tick") {
@@ -188,8 +195,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     const Moment end;
-    std::printf("{\"seconds\": %.6f, \"processor\": %.6f, \"kilobytes\": %ld, \"rows\": %lld, \"characters\": %lld}\n",
-                std::chrono::duration<double>(end.clock - start.clock).count(), end.processor - start.processor,
-                end.kilobytes - start.kilobytes, counted.rows, counted.characters);
+    std::printf(
+        "{\"seconds\": %.6f, \"processor\": %.6f, \"kilobytes\": %ld, \"rows\": %lld, \"characters\": "
+        "%lld}\n",
+        std::chrono::duration<double>(end.clock - start.clock).count(), end.processor - start.processor,
+        end.kilobytes - start.kilobytes, counted.rows, counted.characters);
     return 0;
 }

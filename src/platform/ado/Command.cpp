@@ -40,7 +40,8 @@ class Deadline {
     int m_calls = 0;
 };
 
-/// Marks all rows at once, where the statement asks for that and the table allows it; the number of rows then.
+/// Marks all rows at once, where the statement asks for that and the table allows it; the number of rows
+/// then.
 Result<std::optional<int64_t>> setEverywhere(JetTable& table, const StatementText& statement,
                                              Deadline& deadline) {
     const jet::TableDefinition& definition = table.definition();

@@ -42,7 +42,8 @@ std::optional<double> realOf(const jet::Value& value) {
     if (const auto* amount = std::get_if<jet::Currency>(&value))
         return static_cast<double>(amount->tenThousandths) / 10000;
     if (const auto* text = std::get_if<std::string>(&value)) return readNumber(QString::fromStdString(*text));
-    if (const auto* decimal = std::get_if<jet::Decimal>(&value)) return readNumber(QString::fromStdString(decimal->text));
+    if (const auto* decimal = std::get_if<jet::Decimal>(&value))
+        return readNumber(QString::fromStdString(decimal->text));
     return std::nullopt;
 }
 

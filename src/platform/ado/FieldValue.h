@@ -12,7 +12,8 @@ namespace ado {
 /// naming the column.
 Result<jet::Value> fitToColumn(jet::Value value, const jet::Column& column);
 
-/// The value of a column of that row as a recordset hands it out; of memo and OLE values what lies in the row.
+/// The value of a column of that row as a recordset hands it out; of memo and OLE values what lies in the
+/// row.
 Value fieldValue(const jet::RowView& row, size_t column);
 
 }  // namespace ado

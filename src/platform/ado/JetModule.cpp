@@ -202,7 +202,7 @@ int filter(sqlite3_vtab_cursor* base, int plan, const char* text, int, sqlite3_v
         if (id.value()) cursor.row = *id.value();
         return SQLITE_OK;
     }
-    // SQLite's True is 1, the database's own is -1.
+    // Of a yes/no column everything but 0 is True.
     spec.number = number && type == Type::YesNo ? *number != 0 : number.value_or(0);
     const auto order = table.rows->order(spec);
     if (!order.ok()) return table.session->fail(order.status());
@@ -275,8 +275,8 @@ int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int number) {
         give(context, value.value());
         return SQLITE_OK;
     }
-    give(context,
-         readable(definition.columns[position], jet::RowView(&definition, cursor.stored.bytes).value(position)));
+    give(context, readable(definition.columns[position],
+                           jet::RowView(&definition, cursor.stored.bytes).value(position)));
     return SQLITE_OK;
 }
 

@@ -8,7 +8,8 @@ namespace ado {
 
 namespace {
 
-// Blocks of their own instead of one text: that would be copied as it grows, and hold twice the memory meanwhile.
+// Blocks of their own instead of one text: that would be copied as it grows, and hold twice the memory
+// meanwhile.
 constexpr size_t blockSize = size_t{1} << 20;
 constexpr size_t wordSize = sizeof(uint64_t);
 
@@ -49,7 +50,8 @@ void KeySort::sortFrom(Place first, Place last, size_t at) {
     }
     std::sort(first, last, [](const Item& a, const Item& b) { return a.word < b.word; });
     while (first != last) {
-        const Place other = std::find_if(first, last, [&](const Item& item) { return item.word != first->word; });
+        const Place other =
+            std::find_if(first, last, [&](const Item& item) { return item.word != first->word; });
         if (other - first > 1) sortFrom(first, other, at + wordSize);
         first = other;
     }

@@ -103,15 +103,16 @@ void Recordset::setSource(const QString& statement) {
 Status Recordset::open() {
     close();
     const Waiting waiting(recordsetSeconds);
-    const auto session = Session::open(m_data->connection);
-    if (!session.ok()) return session.status();
+    const Result<Session::Reading> reading = Session::read(m_data->connection);
+    if (!reading.ok()) return reading.status();
+    const std::shared_ptr<Session>& session = reading.value().session;
     const Result<StatementText> statement = StatementText::read(m_data->source);
     if (!statement.ok()) return statement.status();
     if (statement.value().verb != StatementText::Verb::Select)
         return {ErrorCode::NotSupported, QStringLiteral("L'origine di un recordset deve essere una SELECT.")};
-    auto rows = Rows::run(session.value(), statement.value());
+    auto rows = Rows::run(session, statement.value());
     if (!rows.ok()) return rows.status();
-    m_data->session = session.value();
+    m_data->session = session;
     m_data->rows = std::move(rows).value();
     Status status = m_data->goTo(0);
     if (!status.ok()) close();
@@ -236,7 +237,8 @@ Result<Value> Recordset::Data::field(size_t column) {
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
-    if (!row.present) return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    if (!row.present)
+        return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const size_t position = rows->column(column);
     const jet::Type type = definition.columns[position].type;
@@ -319,9 +321,7 @@ Status Recordset::Data::sameRow() {
     StoredRow now;
     if (Status status = rows->table()->read(rows->id(current), now); !status.ok()) return status;
     if (!row.present || !now.present) return gone;
-    const auto keyIn = [&](const StoredRow& one) {
-        return jet::RowView(&definition, one.bytes).value(*key);
-    };
+    const auto keyIn = [&](const StoredRow& one) { return jet::RowView(&definition, one.bytes).value(*key); };
     return !key || keyIn(now) == keyIn(row) ? Status() : gone;
 }
 

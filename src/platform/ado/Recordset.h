@@ -22,8 +22,9 @@ enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 /// the current one: fields that were changed since the recordset was opened show their new value, a row that
 /// was deleted since fails with NoCurrentRecord when it is read, rows inserted since are not seen. Where one
 /// row is taken after the other, what another program has changed in the last 5 ms may not be seen yet
-/// (RowsAhead.h); what this one has changed is. Rows that are equal in the sort columns come in the same order
-/// each time. No lock is held between two calls; a call waits for other programs for 30 seconds at most.
+/// (RowsAhead.h); what this one has changed is. Rows that are equal in the sort columns come in the same
+/// order each time. No lock is held between two calls; a call waits for other programs for 30 seconds at
+/// most.
 ///
 /// A move that fails leaves no current row: fields cannot be read, and both marks are reported, until
 /// moveFirst() succeeds. Only where the change that is posted before a move is refused, the row stays with

@@ -24,7 +24,8 @@ uint32_t packed(jet::RowId id) {
 }
 
 Status lostItsPlace() {
-    return {ErrorCode::Internal, QStringLiteral("Errore interno del database: una riga ha perso il suo posto.")};
+    return {ErrorCode::Internal,
+            QStringLiteral("Errore interno del database: una riga ha perso il suo posto.")};
 }
 
 }  // namespace
@@ -52,7 +53,8 @@ Status RowOrder::fill(jet::Table& table) {
 }
 
 /// Whether an entry stands before that key and identity.
-Result<bool> RowOrder::before(jet::Table& table, const Entry& entry, std::string_view key, uint32_t id) const {
+Result<bool> RowOrder::before(jet::Table& table, const Entry& entry, std::string_view key,
+                              uint32_t id) const {
     const uint64_t prefix = KeySort::word(key, 0);
     if (entry.prefix() != prefix) return entry.prefix() < prefix;
     if (entry.id == id) return false;
@@ -68,9 +70,8 @@ Result<bool> RowOrder::before(jet::Table& table, const Entry& entry, std::string
 Result<RowOrder::Place> RowOrder::find(jet::Table& table, std::string_view key, uint32_t id) const {
     if (m_blocks.empty()) return end();
     const uint64_t prefix = KeySort::word(key, 0);
-    const auto least = std::partition_point(m_blocks.begin(), m_blocks.end(), [&](const Block& block) {
-        return block.back().prefix() < prefix;
-    });
+    const auto least = std::partition_point(
+        m_blocks.begin(), m_blocks.end(), [&](const Block& block) { return block.back().prefix() < prefix; });
     if (least != m_blocks.end()) {
         const auto first = std::partition_point(least->begin(), least->end(),
                                                 [&](const Entry& entry) { return entry.prefix() < prefix; });
@@ -94,7 +95,8 @@ Result<RowOrder::Place> RowOrder::find(jet::Table& table, std::string_view key, 
         search(0, m_blocks.size() - 1, [&](size_t i) -> const Entry& { return m_blocks[i].back(); });
     if (!block.ok()) return block.status();
     const Block& entries = m_blocks[block.value()];
-    const Result<size_t> row = search(0, entries.size(), [&](size_t i) -> const Entry& { return entries[i]; });
+    const Result<size_t> row =
+        search(0, entries.size(), [&](size_t i) -> const Entry& { return entries[i]; });
     if (!row.ok()) return row.status();
     return Place{block.value(), row.value()};
 }
@@ -116,7 +118,8 @@ Status RowOrder::add(jet::Table& table, std::string_view key, jet::RowId id) {
     Block second(half, block.end());
     block.erase(half, block.end());
     block.shrink_to_fit();
-    m_blocks.insert(m_blocks.begin() + static_cast<std::ptrdiff_t>(place.value().block) + 1, std::move(second));
+    m_blocks.insert(m_blocks.begin() + static_cast<std::ptrdiff_t>(place.value().block) + 1,
+                    std::move(second));
     return {};
 }
 

@@ -11,7 +11,8 @@
 
 namespace ado {
 
-/// The rows of a table that an OrderSpec holds, in its order. Kept in memory and up to date by whoever writes.
+/// The rows of a table that an OrderSpec holds, in its order. Kept in memory and up to date by whoever
+/// writes.
 ///
 /// Of each row the identity and the first eight bytes of its key are kept, twelve bytes. Where these are
 /// alike the rows themselves tell which comes first: they are read again, so what changes or fills an order

@@ -8,7 +8,8 @@
 
 namespace ado {
 
-/// The rows of one SELECT, found step by step. Where the statement asks for columns of a table and nothing else
+/// The rows of one SELECT, found step by step. Where the statement asks for columns of a table and nothing
+/// else
 /// (`SELECT * FROM table …`, `SELECT a, b FROM table …`) only the identities of the rows are kept, otherwise
 /// their values.
 class Rows {

@@ -10,10 +10,10 @@
 
 namespace ado {
 
-/// Rows of a recordset that were read together with the current one, since asking the file for each costs more
-/// than reading it. They are handed out for 5 ms and dropped then, or when this process begins to write, so a
-/// row that comes from here may be that much older than the file. More are read the longer rows are taken one
-/// after the other: who reads one row pays for one.
+/// Rows of a recordset that were read together with the current one, since asking the file for each costs
+/// more than reading it. They are handed out for 5 ms and dropped then, or when this process begins to write,
+/// so a row that comes from here may be that much older than the file. More are read the longer rows are
+/// taken one after the other: who reads one row pays for one.
 class RowsAhead {
   public:
     using Clock = std::chrono::steady_clock;
@@ -23,8 +23,8 @@ class RowsAhead {
         m_wanted = onward ? std::min(2 * m_wanted, most) : 1;
         return m_wanted;
     }
-    /// Exchanges `row` for row `number`; false when it is not here, or too old, or `epoch` is not that in which
-    /// it was read.
+    /// Exchanges `row` for row `number`; false when it is not here, or too old, or `epoch` is not that in
+    /// which it was read.
     bool take(size_t number, uint64_t epoch, Clock::time_point now, StoredRow& row) {
         if (number < m_first || number - m_first >= m_count || epoch != m_epoch || now >= m_end) return false;
         std::swap(row, m_rows[number - m_first]);

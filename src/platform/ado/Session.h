@@ -35,6 +35,13 @@ class Session {
     static Status attach(const QString& connectionText);
     /// The session of the file that `connectionText` names, in agreement with the file as it is now.
     static Result<std::shared_ptr<Session>> open(const QString& connectionText);
+    /// The same with the file locked for reading, so that what follows sees the state it agrees with and
+    /// takes no lock of its own.
+    struct Reading {
+        std::shared_ptr<Session> session;
+        std::unique_ptr<jet::ReadScope> scope;  ///< ends before the session
+    };
+    static Result<Reading> read(const QString& connectionText);
     /// Runs `work` on that session as one transaction: durable when it succeeds, undone when it fails. The
     /// writer's lock is taken before anything is read.
     static Status write(const QString& connectionText, const std::function<Status(Session&)>& work);
@@ -65,8 +72,8 @@ class Session {
     /// Ends the open group and tells its progress how that went.
     void commitGroup();
 
-    /// Another number whenever a transaction begins here, or the file was found changed by somebody else: what
-    /// was read before may be no longer true.
+    /// Another number whenever a transaction begins here, or the file was found changed by somebody else:
+    /// what was read before may be no longer true.
     uint64_t epoch() const { return m_epoch; }
 
     /// Open recordsets, so that they can pass all their rows before a write moves them.
@@ -88,6 +95,8 @@ class Session {
     explicit Session(std::unique_ptr<jet::Database> database) : m_database(std::move(database)) {}
     struct Target;
     static Result<std::shared_ptr<Session>> pooled(const Target& target);
+    static Result<std::shared_ptr<Session>> known(const QString& connectionText);
+    static Result<std::shared_ptr<Session>> make(const QString& connectionText);
     static Result<std::shared_ptr<Session>> make(const Target& target);
     static Result<std::shared_ptr<Session>> openForWriting(const QString& connectionText);
     Status start();

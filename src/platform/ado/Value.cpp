@@ -35,6 +35,13 @@ QString currencyText(int64_t tenThousandths, const QLocale& locale) {
     return decimals.isEmpty() ? text : text + locale.decimalPoint() + decimals;
 }
 
+/// Whether a whole number that is not negative is written in the digits 0 to 9; else it may be too. Asked for
+/// each number of a long list, for which the locale's own way takes fifteen times as long.
+bool plainDigits(const QLocale& locale) {
+    return locale.language() == QLocale::Italian || locale.language() == QLocale::English ||
+           locale.language() == QLocale::C;
+}
+
 Result<qint64> rounded(double number) {
     const double whole = std::nearbyint(number);
     if (!(std::fabs(whole) < 9.2e18)) return overflow;
@@ -74,6 +81,9 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
     if (type() == Type::Text) return m_text;
     if (isNull()) return nullValue;
     if (type() == Type::Binary) return mismatch;
+    if (const auto* number = std::get_if<int64_t>(&m_value);
+        number && *number >= 0 && plainDigits(userLocale))
+        return QString::number(static_cast<qlonglong>(*number));
     QLocale locale = userLocale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     switch (type()) {
@@ -127,7 +137,8 @@ Result<qint64> Value::toInteger() const {
             return rounded(*number);
         }
         case Type::Decimal:
-            return rounded(readNumber(QString::fromStdString(std::get<jet::Decimal>(m_value).text)).value_or(0));
+            return rounded(
+                readNumber(QString::fromStdString(std::get<jet::Decimal>(m_value).text)).value_or(0));
         case Type::Binary:
             break;
     }

@@ -45,6 +45,17 @@ const std::string& Database::path() const {
     return m_engine->path;
 }
 
+Database::Seen Database::look(const std::string& path) const {
+    switch (m_engine->file.look(path)) {
+        case PageFile::Seen::Unchanged:
+            return Seen::Unchanged;
+        case PageFile::Seen::Changed:
+            return Seen::Changed;
+        default:
+            return Seen::Other;
+    }
+}
+
 bool Database::readOnly() const {
     return m_engine->file.readOnly();
 }

@@ -114,9 +114,9 @@ class Table {
     /// Changes the columns named by position; values as for insert(). Columns that already hold the value do
     /// not count. An auto-number cannot be changed. Only between begin() and commit().
     Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
-    /// Gives a yes/no column of every row that value, page by page, and tells how many rows there are. Nothing,
-    /// and nothing changed, where rows have to be changed one by one: another type of column, or one in an
-    /// index. `goOn` is asked before each row; when it answers false the call fails (Timeout) and the
+    /// Gives a yes/no column of every row that value, page by page, and tells how many rows there are.
+    /// Nothing, and nothing changed, where rows have to be changed one by one: another type of column, or one
+    /// in an index. `goOn` is asked before each row; when it answers false the call fails (Timeout) and the
     /// transaction can only be undone. Only between begin() and commit().
     Result<std::optional<int64_t>> setYesNo(size_t column, bool value, const std::function<bool()>& goOn);
     /// Deletes a row, and what its memo and OLE values hold on other pages. Only between begin() and
@@ -167,6 +167,10 @@ class Database {
     Database& operator=(const Database&) = delete;
 
     const std::string& path() const;
+    /// What bears the name `path` now: this file as it was when it was last locked, this file changed since,
+    /// or another one or none. Takes no lock and reads nothing.
+    enum class Seen { Unchanged, Changed, Other };
+    Seen look(const std::string& path) const;
     /// Whether nothing can be written: asked for, without the right to, or a file of Access 97 (Jet 3).
     bool readOnly() const;
     /// Tables of the catalogue by name (system tables included and marked).

@@ -237,25 +237,35 @@ char32_t nextCodePoint(std::string_view text, size_t& at) {
     return code;
 }
 
+/// What stands behind the main weights of a key.
 struct KeyParts {
-    std::string accents;   ///< one byte for each position
+    size_t places = 0;     ///< of the text so far
+    std::string accents;   ///< one byte for each place up to the last accent
     std::string specials;  ///< four bytes for each special character
     bool allKnown = true;
 };
 
 void appendSpecial(KeyParts& parts, uint8_t code) {
-    const size_t place = std::min<size_t>(7 + 4 * parts.accents.size(), 0x7fff);
+    const size_t place = std::min<size_t>(7 + 4 * parts.places, 0x7fff);
     parts.specials.push_back(static_cast<char>(0x80 | place >> 8));
     parts.specials.push_back(static_cast<char>(place & 0xff));
     parts.specials.push_back(0x06);
     parts.specials.push_back(static_cast<char>(code));
 }
 
+void appendAccent(KeyParts& parts, uint8_t accent) {
+    parts.accents.resize(parts.places, static_cast<char>(noAccent));
+    parts.accents.push_back(static_cast<char>(accent));
+}
+
+constexpr size_t longestUnknown = 4;
+
 /// Behind every known weight, in the order of code points, and without a zero byte.
-void appendUnknown(std::string& key, char32_t code) {
-    key.push_back(static_cast<char>(0xff));
+char* putUnknown(char* out, char32_t code) {
+    *out++ = static_cast<char>(0xff);
     for (const int shift : {14, 7, 0})
-        key.push_back(static_cast<char>(0x80 | (code >> shift & 0x7f)));
+        *out++ = static_cast<char>(0x80 | (code >> shift & 0x7f));
+    return out;
 }
 
 /// Two weights of letters; other characters of two bytes begin with the mark of a group.
@@ -270,29 +280,33 @@ bool appendKey(std::string& key, std::string_view text, size_t limit, LigaturePl
     text = text.substr(0, end == std::string_view::npos ? 0 : end + 1);
     KeyParts parts;
     size_t units = 0;
+    // Written into room that is enough for all: a long list makes millions of keys.
+    const size_t start = key.size();
+    key.resize(start + longestUnknown * text.size() + 1);
+    char* out = key.data() + start;
     for (size_t at = 0; at < text.size() && units < limit;) {
         const char32_t code = nextCodePoint(text, at);
         units += code > 0xffff ? 2 : 1;
         const Weight weight = weightOf(code);
         if (!weight.known) {
             parts.allKnown = false;
-            appendUnknown(key, code);
+            out = putUnknown(out, code);
         } else if (weight.special != 0) {
             appendSpecial(parts, weight.special);
             continue;
         } else if (weight.main[0] == 0) {
             continue;
         } else {
-            key.push_back(static_cast<char>(weight.main[0]));
-            if (weight.main[1] != 0) key.push_back(static_cast<char>(weight.main[1]));
-            if (places == LigaturePlaces::Two && isLigature(weight))
-                parts.accents.push_back(static_cast<char>(noAccent));
+            *out++ = static_cast<char>(weight.main[0]);
+            if (weight.main[1] != 0) *out++ = static_cast<char>(weight.main[1]);
+            if (places == LigaturePlaces::Two && isLigature(weight)) ++parts.places;
         }
-        parts.accents.push_back(static_cast<char>(weight.accent != 0 ? weight.accent : noAccent));
+        if (weight.accent != 0 && weight.accent != noAccent) appendAccent(parts, weight.accent);
+        ++parts.places;
     }
-    key.push_back(partEnd);
-    const size_t lastAccent = parts.accents.find_last_not_of(static_cast<char>(noAccent));
-    if (lastAccent != std::string::npos) key.append(parts.accents, 0, lastAccent + 1);
+    *out++ = partEnd;
+    key.resize(static_cast<size_t>(out - key.data()));
+    key += parts.accents;
     if (!parts.specials.empty()) key.append(3, partEnd).append(parts.specials);
     key.push_back(0);
     return parts.allKnown;

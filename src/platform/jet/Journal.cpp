@@ -23,14 +23,21 @@ bool Journal::leadsTo(const OsFile& file) const {
     return file.isOpen() && nameState(m_path, now) && sameFile(now, file.state());
 }
 
-void Journal::requireTrusted(const FileRights& rights, const OsFile& database) const {
-    if (isTrusted(rights, database.rights(), ::geteuid())) return;
+/// Whether the name leads to the journal that is open, and the rights of what bears it.
+bool Journal::leadsHere(FileRights& rights) const {
+    FileState now;
+    return isOpen() && nameState(m_path, now, &rights) && sameFile(now, m_opened);
+}
+
+void Journal::requireTrusted(const FileRights& rights, const FileRights& database) const {
+    // Who we are is asked only where the database's owner did not make it.
+    if (isTrusted(rights, database, database.owner) || isTrusted(rights, database, ::geteuid())) return;
     fail(ErrorCode::PathAccess, "Il file \"", m_path,
          "\" non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il "
          "database. Il database non viene aperto finché il file resta al suo posto.");
 }
 
-OsFile Journal::open(const OsFile& database, Access access) const {
+OsFile Journal::open(const FileRights& database, Access access) const {
     OsFile file(m_path, access, Links::Refuse);
     requireTrusted(file.rights(), database);
     return file;
@@ -49,9 +56,10 @@ Journal::Found Journal::stateOf(const OsFile& file) const {
     return Found::Foreign;
 }
 
-Journal::Found Journal::look(const OsFile& database) const {
-    if (leadsTo(m_file)) {
-        requireTrusted(m_file.rights(), database);
+Journal::Found Journal::look(const OsFile&, const FileRights& database) const {
+    FileRights rights;
+    if (leadsHere(rights)) {
+        requireTrusted(rights, database);
         return stateOf(m_file);
     }
     if (!OsFile::exists(m_path)) return Found::None;
@@ -71,11 +79,11 @@ bool Journal::isLeftBehind() const {
     }
 }
 
-void Journal::keepRoom(const OsFile& database) {
-    if (leadsTo(m_file)) {
-        requireTrusted(m_file.rights(), database);
+Journal::Found Journal::keepRoom(const OsFile& database, const FileRights& rights) {
+    if (leadsHere(m_rights)) {
+        requireTrusted(m_rights, rights);
         if (!m_roomTaken) m_roomTaken = m_file.reserve(room);
-        return;
+        return stateOf(m_file);
     }
     close();
     // Others may make or remove it between two of these steps; then all is tried again.
@@ -84,7 +92,7 @@ void Journal::keepRoom(const OsFile& database) {
         const bool there = OsFile::exists(m_path);
         try {
             if (there) {
-                file = open(database, Access::ReadWrite);
+                file = open(rights, Access::ReadWrite);
             } else {
                 file = OsFile(m_path, Access::Create, Links::Refuse);
                 file.takeRights(database);
@@ -96,15 +104,19 @@ void Journal::keepRoom(const OsFile& database) {
         }
         if (!file.tryLock(Lock::Shared, Range::Content) || !leadsTo(file)) return false;
         m_file = std::move(file);
+        m_opened = m_file.state();
+        m_rights = m_file.rights();
         return true;
     };
     if (!waitFor(LockWait{}, attempt))
         fail(ErrorCode::FileInUse, "Il file \"", m_path, "\" è in uso da un altro programma.");
     m_roomTaken = m_file.reserve(room);
+    return stateOf(m_file);
 }
 
 bool Journal::roomKept() const {
-    return m_roomTaken && leadsTo(m_file);
+    FileRights rights;
+    return m_roomTaken && leadsHere(rights);
 }
 
 void Journal::close() {
@@ -113,22 +125,20 @@ void Journal::close() {
 }
 
 void Journal::remove(const OsFile& database) {
-    if (!isOpen() && OsFile::exists(m_path)) m_file = open(database, Access::ReadWrite);
+    if (!isOpen() && OsFile::exists(m_path)) m_file = open(database.rights(), Access::ReadWrite);
     if (isOpen() && m_file.tryLock(Lock::Exclusive, Range::Content) && leadsTo(m_file) &&
         stateOf(m_file) == Found::Idle)
         OsFile::remove(m_path);
     close();
 }
 
-void Journal::start(const OsFile& database, uint32_t pages) {
+void Journal::start(const OsFile& database, const FileRights& rights, uint32_t pages, const Page& firstPage) {
     if (m_syncOwed) m_file.sync();
     m_syncOwed = false;
-    m_file.takeRights(database);
+    m_file.takeRights(database, m_rights, rights);
     std::random_device random;
     m_header = {pages, static_cast<uint64_t>(random()) << 32 | random(), 0};
-    Page first{};
-    database.read(0, first);
-    m_header.firstPage = journal::digest(first, m_header.nonce);
+    m_header.firstPage = journal::digest(firstPage, m_header.nonce);
     m_end = journal::recordsStart;
     m_synced = 0;
     m_records.clear();
@@ -214,7 +224,8 @@ void Journal::recover(OsFile& database) {
     m_started = m_hot = false;
     m_records.clear();
     OsFile other;
-    if (!own && !leadsTo(m_file)) other = open(database, Access::ReadWrite);
+    FileRights rights;
+    if (!own && !leadsHere(rights)) other = open(database.rights(), Access::ReadWrite);
     OsFile& file = other.isOpen() ? other : m_file;
     journal::Header header;
     switch (journal::readHeader(file, header)) {

@@ -52,13 +52,15 @@ class Journal {
     /// Foreign: not empty, and not of this layout.
     enum class Found { None, Idle, Hot, Foreign };
     /// What stands under the name. Fails (PathAccess) for what must not be touched (J5), naming it.
-    Found look(const OsFile& database) const;
+    Found look(const OsFile& database) const { return look(database, database.rights()); }
+    /// The same where the database's rights are known.
+    Found look(const OsFile& database, const FileRights& rights) const;
     /// Whether something that is not empty stands under the name; without a database to judge it by.
     bool isLeftBehind() const;
 
     /// Opens the journal that the name leads to, makes it where there is none, and takes its room. Fails
-    /// where it cannot be opened; lack of room is told by roomKept() alone.
-    void keepRoom(const OsFile& database);
+    /// where it cannot be opened; lack of room is told by roomKept() alone. Tells what stands in it.
+    Found keepRoom(const OsFile& database, const FileRights& rights);
     /// Whether the room is taken and the name still leads to it.
     bool roomKept() const;
     /// Closes the journal and removes it where it is not hot and nobody else keeps it open. The caller holds
@@ -67,8 +69,9 @@ class Journal {
     /// Closes the journal.
     void close();
 
-    /// Begins a transaction. Nothing is written yet.
-    void start(const OsFile& database, uint32_t pages);
+    /// Begins a transaction, after keepRoom(): `rights` and `firstPage` are the database's. Nothing is
+    /// written yet.
+    void start(const OsFile& database, const FileRights& rights, uint32_t pages, const Page& firstPage);
     bool started() const { return m_started; }
     /// Whether the journal is hot, and synced with everything that was added and announced.
     bool inForce() const { return m_hot && m_synced == m_end && m_records.empty(); }
@@ -94,13 +97,16 @@ class Journal {
     bool isOpen() const { return m_file.isOpen(); }
     void writeRecords();
     bool leadsTo(const OsFile& file) const;
-    OsFile open(const OsFile& database, OsFile::Access access) const;
-    void requireTrusted(const FileRights& rights, const OsFile& database) const;
+    bool leadsHere(FileRights& rights) const;
+    OsFile open(const FileRights& database, OsFile::Access access) const;
+    void requireTrusted(const FileRights& rights, const FileRights& database) const;
     static void empty(OsFile& file);
     Found stateOf(const OsFile& file) const;
 
     std::string m_path;
     OsFile m_file;
+    FileState m_opened;   ///< of m_file: device and inode stay
+    FileRights m_rights;  ///< of m_file, when its room was last asked for
     bool m_roomTaken = false;
     bool m_folderSynced = false;
     bool m_syncOwed = false;  // step 7 has failed

@@ -40,6 +40,10 @@ FileState toState(const struct stat& s) {
             s.st_mtim.tv_sec * int64_t{1000000000} + s.st_mtim.tv_nsec};
 }
 
+FileRights toRights(const struct stat& s) {
+    return {s.st_uid, s.st_gid, s.st_mode & 0777u, s.st_nlink, S_ISREG(s.st_mode)};
+}
+
 void writeAll(int fd, uint64_t offset, std::span<const uint8_t> bytes, const std::string& path) {
     while (!bytes.empty()) {
         const ssize_t n = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
@@ -54,8 +58,18 @@ struct flock requestFor(OsFile::Range range) {
     constexpr off_t behind = off_t{1} << 62;
     struct flock request {};
     request.l_whence = SEEK_SET;
-    request.l_start = range == OsFile::Range::Content ? 0 : behind + static_cast<off_t>(range) - 1;
-    request.l_len = range == OsFile::Range::Content ? behind : 1;
+    switch (range) {
+        case OsFile::Range::Content:
+            request.l_len = behind;
+            break;
+        case OsFile::Range::Aside:
+            request.l_start = behind;
+            request.l_len = 3;
+            break;
+        default:
+            request.l_start = behind + static_cast<off_t>(range) - 1;
+            request.l_len = 1;
+    }
     return request;
 }
 
@@ -83,17 +97,19 @@ void setDiskHook(DiskHook hook) {
     diskHook = std::move(hook);
 }
 
-bool fileState(const std::string& path, FileState& state) {
+bool fileState(const std::string& path, FileState& state, FileRights* rights) {
     struct stat s;
     if (::stat(path.c_str(), &s) != 0) return false;
     state = toState(s);
+    if (rights) *rights = toRights(s);
     return true;
 }
 
-bool nameState(const std::string& path, FileState& state) {
+bool nameState(const std::string& path, FileState& state, FileRights* rights) {
     struct stat s;
     if (::lstat(path.c_str(), &s) != 0) return false;
     state = toState(s);
+    if (rights) *rights = toRights(s);
     return true;
 }
 
@@ -200,18 +216,17 @@ void OsFile::stampAfter(int64_t previousNs) {
 FileRights OsFile::rights() const {
     struct stat s;
     if (::fstat(m_fd, &s) != 0) failIo("lettura", m_path, errno);
-    return {s.st_uid, s.st_gid, s.st_mode & 0777u, s.st_nlink, S_ISREG(s.st_mode)};
+    return toRights(s);
 }
 
 // At no moment has the file a right that `other` has not.
-void OsFile::takeRights(const OsFile& other) {
-    const FileRights wanted = other.rights();
-    FileRights now = rights();
+void OsFile::takeRights(const OsFile& other, FileRights now, const FileRights& wanted) {
     uint32_t mode = wanted.mode & 0666;
     const std::vector<char> list = accessList(other.m_fd);
     const bool otherList = list != accessList(m_fd);
-    const bool administrator = ::geteuid() == 0;
-    const bool moves = now.group != wanted.group || (administrator && now.owner != wanted.owner);
+    const bool strange = now.group != wanted.group || now.owner != wanted.owner;
+    const bool administrator = strange && ::geteuid() == 0;
+    const bool moves = now.group != wanted.group || administrator;
     if (!moves && !otherList && now.mode == mode) return;
     if (moves && ::fchmod(m_fd, 0600) == 0 &&
         ::fchown(m_fd, administrator ? wanted.owner : static_cast<uid_t>(-1), wanted.group) == 0)

@@ -33,10 +33,11 @@ struct FileState {
     int64_t modifiedNs = 0;
     bool operator==(const FileState&) const = default;
 };
-/// State of the file at `path`; false when there is none or it cannot be asked.
-bool fileState(const std::string& path, FileState& state);
+/// State of the file at `path`, and its rights where they are wanted; false when there is none or it cannot
+/// be asked.
+bool fileState(const std::string& path, FileState& state, FileRights* rights = nullptr);
 /// The same for what bears the name itself, which may be a link.
-bool nameState(const std::string& path, FileState& state);
+bool nameState(const std::string& path, FileState& state, FileRights* rights = nullptr);
 /// Whether two states are of one file.
 inline bool sameFile(const FileState& one, const FileState& other) {
     return one.inode == other.inode && one.device == other.device;
@@ -82,13 +83,15 @@ class OsFile {
     /// Gives this file the group and the access rights of `other`, its access list included; those of the
     /// group not where it cannot have that group. Fails (PathAccess) when this file would keep more rights
     /// than `other`.
-    void takeRights(const OsFile& other);
+    void takeRights(const OsFile& other) { takeRights(other, rights(), other.rights()); }
+    /// The same where the rights of both are known.
+    void takeRights(const OsFile& other, FileRights now, const FileRights& wanted);
 
     enum class Lock { None, Shared, Exclusive };
     /// What a lock covers: all content, however the file grows, or one of three bytes far behind it. Gate:
     /// whoever wants the content has to pass it. Writer: held for a whole transaction. Author: held while the
-    /// journal is hot by the one who wrote it.
-    enum class Range { Content, Gate, Writer, Author };
+    /// journal is hot by the one who wrote it. Aside: these three together.
+    enum class Range { Content, Gate, Writer, Author, Aside };
     /// Changes the advisory lock on a range at once; false when another holder forbids it. The lock belongs
     /// to this open file, so two in one process exclude each other as well.
     bool tryLock(Lock lock, Range range);

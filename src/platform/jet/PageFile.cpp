@@ -41,11 +41,17 @@ bool PageFile::roomReserved() {
     if (readOnly()) return false;
     try {
         if (m_journal.roomKept()) return true;
-        m_journal.keepRoom(m_file);
+        m_journal.keepRoom(m_file, m_file.rights());
     } catch (const Failure&) {
         // Whether that matters is seen when something is written.
     }
     return m_journal.roomKept();
+}
+
+PageFile::Seen PageFile::look(const std::string& path) const {
+    FileState now;
+    if (!m_file.isOpen() || !fileState(path, now) || !sameFile(now, m_opened)) return Seen::Other;
+    return now == m_state ? Seen::Unchanged : Seen::Changed;
 }
 
 void PageFile::copyTo(OsFile& out) {
@@ -172,8 +178,7 @@ void PageFile::beginWrite() {
     requireWritable();
     refuseIfOpenElsewhere(m_path);
     try {
-        lockForWriting();
-        refreshState(m_file.state());
+        refreshState(lockForWriting());
     } catch (...) {
         unlock();
         throw;
@@ -202,12 +207,16 @@ bool PageFile::forgetTouched() {
     return true;
 }
 
+void PageFile::startJournal() {
+    if (!m_journal.started()) m_journal.start(m_file, m_rights, m_originalPages, *page(0));
+}
+
 Page& PageFile::change(uint32_t n) {
     assert(m_writing && n != 0);
     assert(noteTouched(n));
     if (const auto found = m_changed.find(n); found != m_changed.end()) return *found->second;
     const PagePtr original = page(n);
-    if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
+    startJournal();
     if (n < m_originalPages && !m_journaled[n]) {
         m_journal.add(n, inFileForm(n, *original));
         m_journaled[n] = true;
@@ -221,7 +230,7 @@ Page& PageFile::change(uint32_t n) {
 uint32_t PageFile::append() {
     assert(m_writing);
     if (m_pageCount >= maxPages) failFull();
-    if (!m_journal.started()) m_journal.start(m_file, m_originalPages);
+    startJournal();
     const uint32_t n = m_pageCount++;
     auto page = std::make_shared<Page>();
     page->fill(0);

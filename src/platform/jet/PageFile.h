@@ -41,6 +41,10 @@ class PageFile {
     /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
     uint64_t generation() const { return m_generation; }
     uint32_t pageCount() const { return m_pageCount; }
+    /// What bears the name `path` now: this file as it was when a lock was last held, this file changed
+    /// since, or another one, or none. Takes no lock.
+    enum class Seen { Unchanged, Changed, Other };
+    Seen look(const std::string& path) const;
     const LockWait& lockWait() const { return m_limits.lockWait; }
     void setLockWait(LockWait wait) { m_limits.lockWait = std::move(wait); }
 
@@ -81,10 +85,11 @@ class PageFile {
     void readHeader();
     [[noreturn]] void failMissing() const;
     FileState lockCurrent(OsFile::Range range);
+    void startJournal();
     void unlock();
     bool isJournalLeft() const;
     void recover();
-    void lockForWriting();
+    FileState lockForWriting();
     void lockPages();
     void letGoOfRoom() noexcept;
     void refreshState(const FileState& now);
@@ -107,8 +112,9 @@ class PageFile {
     bool m_wantReadOnly;
     bool m_readOnly = false;
     OsFile m_file;
-    FileState m_opened;  ///< as it was opened: device and inode stay
-    FileState m_state;   ///< that the cache belongs to
+    FileState m_opened;   ///< as it was opened: device and inode stay
+    FileState m_state;    ///< that the cache belongs to
+    FileRights m_rights;  ///< when a lock was last taken
     Header m_header;
     uint32_t m_pageCount = 0;
     uint64_t m_generation = 1;

@@ -22,7 +22,7 @@ FileState PageFile::lockCurrent(Range range) {
             lockContent(m_file, Lock::Shared, m_limits.lockWait);
         }
         FileState now;
-        if (!fileState(m_path, now)) failMissing();
+        if (!fileState(m_path, now, &m_rights)) failMissing();
         if (sameFile(now, m_opened)) return now;
         m_file = OsFile();
         dropCache();
@@ -37,8 +37,7 @@ FileState PageFile::lockCurrent(Range range) {
 void PageFile::unlock() {
     if (!m_file.isOpen()) return;
     m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);
-    for (const Range range : {Range::Gate, Range::Author, Range::Writer})
-        m_file.tryLock(Lock::None, range);
+    m_file.tryLock(Lock::None, Range::Aside);
 }
 
 void PageFile::beginRead() {
@@ -60,14 +59,15 @@ void PageFile::beginRead() {
 }
 
 void PageFile::endRead() {
-    if (--m_readers == 0 && !m_writing) unlock();
+    // A reader has nothing but the content.
+    if (--m_readers == 0 && !m_writing && m_file.isOpen()) m_file.tryLock(Lock::None, Range::Content);
 }
 
 // With the content locked: whether a dead writer left a journal. That of a living one says nothing yet about
 // the file, since pages are written only while nobody reads.
 bool PageFile::isJournalLeft() const {
     if (!canHaveJournal()) return false;
-    const Journal::Found found = m_journal.look(m_file);
+    const Journal::Found found = m_journal.look(m_file, m_rights);
     if (found != Journal::Found::Hot && found != Journal::Found::Foreign) return false;
     return !m_file.lockedByOthers(Range::Author);
 }
@@ -92,18 +92,18 @@ void PageFile::recover() {
 }
 
 // The writer's lock, and a file in order. Whoever has that lock is the only one that writes, so the content
-// needs no lock for reading.
-void PageFile::lockForWriting() {
+// needs no lock for reading. Returns the file's state.
+FileState PageFile::lockForWriting() {
     if (!m_file.isOpen()) open();
-    (void)lockCurrent(Range::Writer);
-    m_journal.keepRoom(m_file);
-    const Journal::Found found = m_journal.look(m_file);
-    if (found != Journal::Found::Hot && found != Journal::Found::Foreign) return;
+    const FileState now = lockCurrent(Range::Writer);
+    const Journal::Found found = m_journal.keepRoom(m_file, m_rights);
+    if (found != Journal::Found::Hot && found != Journal::Found::Foreign) return now;
     lockContent(m_file, Lock::Exclusive, m_limits.lockWait);
     m_journal.recover(m_file);
-    m_journal.keepRoom(m_file);
+    m_journal.keepRoom(m_file, m_rights);
     m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);
     m_file.tryLock(Lock::None, Range::Gate);
+    return m_file.state();
 }
 
 // Before pages are written. Fails when another file bears the name now, or none has this one's content any
@@ -116,7 +116,7 @@ void PageFile::lockPages() {
         fail(ErrorCode::FileNotFound, "Il database \"", m_path,
              "\" è stato sostituito o cancellato: la modifica non è stata fatta.");
     };
-    requireInPlace();
+    if (m_pagesWritten) requireInPlace();
     if (!m_file.tryLock(Lock::Exclusive, Range::Author))
         fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
     m_journal.sync();

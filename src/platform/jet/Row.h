@@ -52,8 +52,8 @@ class Row {
 /// Null for whatever the row does not hold or what lies outside it.
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row);
-/// Where in a row the byte with the mask bit of a column stands; nothing in a row that is older than the column.
-/// Throws Failure when the row contradicts itself.
+/// Where in a row the byte with the mask bit of a column stands; nothing in a row that is older than the
+/// column. Throws Failure when the row contradicts itself.
 std::optional<size_t> maskByte(const TableDefinition& definition, const Column& column,
                                std::span<const uint8_t> row);
 /// The mask bit of a column.

@@ -113,8 +113,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
     storePointer(m_file.change(id.page), id, body);
 }
 
-void RowStore::patchAll(
-    const std::function<std::optional<Patch>(RowId, std::span<const uint8_t>)>& patch) {
+void RowStore::patchAll(const std::function<std::optional<Patch>(RowId, std::span<const uint8_t>)>& patch) {
     UsageMap(m_file, m_definition.ownedMap).forEach([&](uint32_t number) {
         const PagePtr page = m_file.page(number);
         const DataPageView rows = view(*page, number);
@@ -123,8 +122,8 @@ void RowStore::patchAll(
             if ((flags & data::notARow) != 0) continue;
             const RowId id{number, static_cast<uint8_t>(slot)};
             // Rows keep their places, so what the page was tells them all.
-            const Stored stored =
-                (flags & data::pointer) != 0 ? body(id, rows.bytes(slot)) : Stored{page, rows.bytes(slot), id};
+            const Stored stored = (flags & data::pointer) != 0 ? body(id, rows.bytes(slot))
+                                                               : Stored{page, rows.bytes(slot), id};
             if (const std::optional<Patch> change = patch(id, stored.bytes))
                 rowBytes(m_file.change(stored.place.page), stored.place.page, stored.place.slot)[change->at] =
                     change->byte;

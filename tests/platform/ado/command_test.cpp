@@ -77,7 +77,8 @@ TEST_F(CommandTest, SelectsAndDeselectsARowAGroupAndTheWholeList) {
 
 TEST_F(CommandTest, MarkingTheWholeListCountsAllRowsAndIsSeenByOpenOrders) {
     for (int i = 0; i < 300; ++i)
-        run(QStringLiteral("INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs) VALUES (1, %1, 'x', 'r%2')")
+        run(QStringLiteral(
+                "INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs) VALUES (1, %1, 'x', 'r%2')")
                 .arg(i % 2 ? "True" : "False")
                 .arg(i));
     const char* queue = "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs";
@@ -94,7 +95,7 @@ TEST_F(CommandTest, MarkingTheWholeListCountsAllRowsAndIsSeenByOpenOrders) {
 TEST_F(CommandTest, AWordThatIsNoYesNoColumnIsNotMarkedButRefusedOrConverted) {
     run("INSERT INTO [tb_gruppi] (id_up, nome) VALUES (3, 'x')");
     EXPECT_EQ(run("UPDATE [tb_gruppi] SET id_up = True"), 1);
-    EXPECT_EQ(column("SELECT * FROM [tb_gruppi]", "id_up"), "1");
+    EXPECT_EQ(column("SELECT * FROM [tb_gruppi]", "id_up"), "-1");
     EXPECT_EQ(failure("UPDATE [tb_gruppi] SET manca = True"), ErrorCode::ItemNotFound);
     EXPECT_EQ(failure("UPDATE [manca] SET sel = True"), ErrorCode::TableNotFound);
 }

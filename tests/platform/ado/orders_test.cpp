@@ -181,6 +181,23 @@ TEST_F(OrdersTest, WhatAnotherProgramWritesIsSeenByTheNextRecordset) {
     EXPECT_EQ(ids(queue), std::vector<qint64>(before.begin() + 2, before.end()));
 }
 
+TEST_F(OrdersTest, ANameThatLeadsToAnotherFileNowIsFollowedAtOnce) {
+    fill(10);
+    const QString other = inFolder("altra.mdb");
+    ado::closeAll();
+    ASSERT_TRUE(QFile::copy(path, other));
+    const QString link = inFolder("nome.mdb");
+    for (const QString& target : {path, other, path, other}) {
+        QFile::remove(link);
+        ASSERT_TRUE(QFile::link(target, link));
+        connection = ado::connectionTo(link);
+        ado::Recordset rows = open("SELECT * FROM tb_destinatari ORDER BY id");
+        run(QStringLiteral("UPDATE [tb_destinatari] SET rgs = '%1' WHERE id = 1").arg(target.right(9)));
+        connection = ado::connectionTo(target);
+        EXPECT_EQ(column("SELECT * FROM tb_destinatari WHERE id = 1", "rgs"), target.right(9).toStdString());
+    }
+}
+
 TEST_F(OrdersTest, ARecordsetThatIsOpenOutlivesAChangeFromOutside) {
     fill(50);
     ado::Recordset rows = open(queue);

@@ -270,7 +270,8 @@ TEST_F(RecordsetTest, ARowDeletedSinceIsAnErrorAndTheNextOneIsNot) {
 TEST_F(RecordsetTest, AListOfColumnsHasJustThoseAndShowsRowsAsTheyAreNow) {
     addRecipient(1, "Rossi", "r@x.it");
     addRecipient(1, "Bianchi", "b@x.it");
-    Recordset rows = open("SELECT EMAIL, [rgs], sel FROM [tb_destinatari] WHERE id_grp = 1 ORDER BY rgs DESC");
+    Recordset rows =
+        open("SELECT EMAIL, [rgs], sel FROM [tb_destinatari] WHERE id_grp = 1 ORDER BY rgs DESC");
     ASSERT_EQ(rows.fieldCount(), 3);
     EXPECT_EQ(rows.fieldName(0), QStringLiteral("email"));
     EXPECT_EQ(rows.fieldName(1), QStringLiteral("rgs"));
