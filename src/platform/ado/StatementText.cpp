@@ -119,7 +119,8 @@ std::optional<StatementText::List> readList(Reader reader) {
     if (!reader.take("*")) {
         do {
             QString name;
-            if (reader.atEnd() || reader.next({"TRUE", "FALSE"}) || !reader.takeName(name)) return std::nullopt;
+            if (reader.atEnd() || reader.next({"TRUE", "FALSE"}) || !reader.takeName(name))
+                return std::nullopt;
             list.columns.push_back(name.toStdString());
         } while (reader.take(","));
     }
