@@ -66,9 +66,9 @@ bool haSchema(string_view indirizzo) {
     return schema.find_first_of("/?#. ") == string_view::npos && !startsWithHtmlText(schema, "javascript");
 }
 
-class Lettore {
+class LettoreMarcature {
   public:
-    explicit Lettore(string_view corpo) : m_pezzi(corpo), m_attributi(corpo) {}
+    explicit LettoreMarcature(string_view corpo) : m_pezzi(corpo), m_attributi(corpo) {}
 
     void leggi() {
         using Kind = html::HtmlTokens::Kind;
@@ -150,7 +150,7 @@ void rilievaFile(const QString& corpo, Raccolta& mancanti, Raccolta& escluse) {
 
 QList<Rilievo> RilieviHtml(const QString& corpo) {
     const QByteArray byte = corpo.toUtf8();
-    Lettore lettore({byte.constData(), static_cast<std::size_t>(byte.size())});
+    LettoreMarcature lettore({byte.constData(), static_cast<std::size_t>(byte.size())});
     lettore.leggi();
     Raccolta mancanti = lettore.senzaFile, escluse;
     rilievaFile(corpo, mancanti, escluse);

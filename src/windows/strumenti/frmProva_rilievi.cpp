@@ -1,4 +1,5 @@
 // The list of what is to be said against the message.
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QStyle>
