@@ -2,10 +2,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QTimer>
 #include <utility>
 
 #include "platform/html/Bounds.h"

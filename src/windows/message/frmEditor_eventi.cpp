@@ -3,7 +3,6 @@
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <QUrl>
-#include <utility>
 
 #include "platform/mail/LocalImages.h"
 #include "platform/ui/CommandBars.h"
