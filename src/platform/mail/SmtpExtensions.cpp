@@ -10,7 +10,10 @@ SmtpExtensions SmtpExtensions::read(const QByteArray& text) {
         const QByteArray keyword = words.takeFirst();
         if (keyword == "PIPELINING") offered.pipelining = true;
         if (keyword == "CHUNKING") offered.chunking = true;
-        if (keyword == "SIZE") offered.size = true;
+        if (keyword == "SIZE") {
+            offered.size = true;
+            offered.sizeLimit = qMax<qint64>(0, words.value(0).toLongLong());
+        }
         if (keyword == "8BITMIME") offered.eightBitMime = true;
         if (keyword == "SMTPUTF8") offered.smtputf8 = true;
         if (keyword == "STARTTLS") offered.startTls = true;

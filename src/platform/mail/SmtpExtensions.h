@@ -10,6 +10,7 @@ struct SmtpExtensions {
     bool pipelining = false;    ///< RFC 2920
     bool chunking = false;      ///< RFC 3030
     bool size = false;          ///< RFC 1870
+    qint64 sizeLimit = 0;       ///< octets of the largest message; 0: none told
     bool eightBitMime = false;  ///< RFC 6152
     bool smtputf8 = false;      ///< RFC 6531
     bool startTls = false;      ///< RFC 3207

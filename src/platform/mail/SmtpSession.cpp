@@ -62,17 +62,21 @@ SmtpSession::~SmtpSession() {
     dropConnection();
 }
 
-void SmtpSession::deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times) {
+void SmtpSession::begin(const SmtpTimes& times) {
     assert(!m_busy);
     m_busy = true;
+    m_inspecting = m_reused = false;
     m_refused = m_mailAccepted = false;
     m_pointGiven = m_inFlight = m_answeredEarly = false;
-    m_message = message;
     m_idle.stop();
     m_times = times;
     m_outstanding = 0;
     progress();
+}
 
+void SmtpSession::deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times) {
+    begin(times);
+    m_message = message;
     m_reused =
         m_ready && route == m_route && !inputLeft() && m_socket->state() == QAbstractSocket::ConnectedState;
     if (m_reused) {
@@ -80,6 +84,16 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
         startTransaction();
         return;
     }
+    openAnew(route);
+}
+
+void SmtpSession::inspect(const Route& route, const SmtpTimes& times) {
+    begin(times);
+    m_inspecting = true;
+    openAnew(route);
+}
+
+void SmtpSession::openAnew(const Route& route) {
     quit();
     if (const auto refusal = m_refusedLogin.answerFor(route)) {
         m_transcript.remark(QStringLiteral("Accesso già rifiutato dal server, non ritentato"));
@@ -157,6 +171,7 @@ bool SmtpSession::wasAccepted() const {
 
 void SmtpSession::open(LocalPort localPort) {
     m_socket = new QSslSocket(this);
+    m_findings = SessionFindings();
     m_socket->setProxy(QNetworkProxy::NoProxy);
     m_socket->setReadBufferSize(readBufferSize);
     m_authenticated = m_needsReset = m_startTlsRefused = false;
@@ -377,6 +392,7 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
         open();
         return;
     }
+    if (m_handshaking) m_findings.certificate = m_socket->peerCertificate();
     lost(0, m_handshaking ? handshakeFailure() : describe(error, *m_socket, m_route));
 }
 

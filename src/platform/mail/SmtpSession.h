@@ -16,6 +16,7 @@
 #include "platform/mail/Message.h"
 #include "platform/mail/RefusedLogin.h"
 #include "platform/mail/Route.h"
+#include "platform/mail/SessionFindings.h"
 #include "platform/mail/SmtpExtensions.h"
 #include "platform/mail/SmtpReply.h"
 #include "platform/mail/TlsMemory.h"
@@ -65,6 +66,12 @@ class SmtpSession : public QObject {
     /// `times` bound the time without progress: the server takes bytes or completes a reply.
     void deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times);
 
+    /// Sets up a connection as for a delivery, the login included, and delivers nothing: finished() tells
+    /// whether a message could be sent now, and findings() what the server was found to be.
+    void inspect(const Route& route, const SmtpTimes& times);
+    /// Of the newest connection.
+    const SessionFindings& findings() const { return m_findings; }
+
     /// Drops the running delivery without any signal. Where the server has got all of the message its
     /// connection is handed over, since the message may still be accepted; otherwise it is closed.
     std::unique_ptr<AwaitedReply> abandon();
@@ -93,6 +100,8 @@ class SmtpSession : public QObject {
     static DeliveryStage stageOf(Step step);
 
     // SmtpSession.cpp: life of a connection and of a delivery
+    void begin(const SmtpTimes& times);
+    void openAnew(const Route& route);
     void open(LocalPort localPort = LocalPort::AsTold);
     void connectToServer();
     void onLookedUp(const QHostInfo& found);
@@ -193,13 +202,16 @@ class SmtpSession : public QObject {
     Step m_answered = Step::Greeting;  ///< the step of the last reply
     QList<Step> m_plan;                ///< steps of the envelope that are still to be sent
 
+    SessionFindings m_findings;
+
     std::optional<Login> m_login;  ///< under way
     RefusedLogin m_refusedLogin;
     TlsMemory m_tlsMemory;
 
     // delivery under way
     bool m_busy = false;
-    bool m_reused = false;  ///< on a connection that was kept
+    bool m_inspecting = false;  ///< there is no message: the connection is all that is wanted
+    bool m_reused = false;      ///< on a connection that was kept
     bool m_mailAccepted = false;
     bool m_refused = false;
     bool m_lookedAgain = false;  ///< the time is up, and what has come meanwhile was read

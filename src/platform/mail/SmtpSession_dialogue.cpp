@@ -87,6 +87,7 @@ void SmtpSession::onReply(Step step, const SmtpReply& reply) {
     switch (step) {
         case Step::Greeting:
             noteGreeting();
+            m_findings.greeted = reply.positive();
             if (reply.positive())
                 hello();
             else
@@ -158,6 +159,7 @@ void SmtpSession::hello() {
 void SmtpSession::onHello(Step step, const SmtpReply& reply) {
     if (reply.positive()) {
         if (step == Step::Ehlo) m_extensions = SmtpExtensions::read(reply.text);
+        m_findings.sizeLimit = m_extensions.sizeLimit;
         afterHello();
     } else if (step == Step::Ehlo && reply.code >= 500) {
         m_heloOnly = true;
@@ -183,7 +185,10 @@ void SmtpSession::afterHello() {
     } else {
         if (!m_socket->isEncrypted()) m_transcript.remark(QStringLiteral("Connessione ") + security());
         m_ready = true;
-        startTransaction();
+        if (m_inspecting)
+            conclude({true, 0, {}});
+        else
+            startTransaction();
     }
 }
 

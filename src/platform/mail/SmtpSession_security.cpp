@@ -89,6 +89,9 @@ void SmtpSession::onEncrypted() {
     m_handshaking = false;
     m_input.clear();
     m_inputRead = 0;
+    m_findings.encrypted = true;
+    m_findings.security = security();
+    m_findings.certificate = m_socket->peerCertificate();
     m_transcript.remark(security());
     progress();
     if (m_expected.isEmpty()) hello();
@@ -139,6 +142,7 @@ void SmtpSession::takeLoginStep(const LoginStep& step) {
         case LoginStep::Kind::Done:
             m_login.reset();
             m_authenticated = true;
+            m_findings.loggedIn = true;
             afterHello();
             break;
         case LoginStep::Kind::Untrusted:

@@ -106,6 +106,21 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
     return failed;
 }
 
+Status createOwnFile(const QString& path, const QByteArray& bytes) {
+    if (!folderIsSafe(path)) return {ErrorCode::PathAccess, QString()};
+    const Open file(path, O_WRONLY | O_CREAT | O_EXCL);
+    if (file.get() < 0 && errno == EEXIST) return {ErrorCode::FileInUse, QString()};
+    if (file.get() < 0) return failure();
+    if (writeAll(file.get(), bytes)) return {};
+    Status failed = failure();
+    removeOwnFile(path);
+    return failed;
+}
+
+void removeOwnFile(const QString& path) {
+    ::unlink(QFile::encodeName(path).constData());
+}
+
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit) {
     if (!folderIsSafe(path)) return Status(ErrorCode::PathAccess, QString());
     const Open open(path, O_RDONLY | O_NONBLOCK);

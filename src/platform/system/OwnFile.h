@@ -17,6 +17,13 @@ Status makeOwnFolder(const QString& path);
 /// name stands for the old or for the new bytes at any time, whenever the program ends.
 Status replaceOwnFile(const QString& path, const QByteArray& bytes);
 
+/// Makes a file with these bytes, synced; FileInUse where anything has that name already. After a failure
+/// there is no such file.
+Status createOwnFile(const QString& path, const QByteArray& bytes);
+
+/// Takes a file away that createOwnFile() made.
+void removeOwnFile(const QString& path);
+
 /// The bytes of an ordinary file. FileNotFound where there is none, Overflow where there are more than
 /// `limit`.
 Result<QByteArray> readOwnFile(const QString& path, qint64 limit);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "platform/Status.h"
+
+namespace mail {
+
+/// The key that a sender's domain signs with, as DkimSigner finds it: `<domain>.pem` and `<domain>.selector`
+/// of a folder.
+struct DkimKey {
+    QByteArray selector;
+    QByteArray publicKey;  ///< SubjectPublicKeyInfo in DER
+};
+
+/// Whether the folder has a file for the domain, which may be unusable.
+bool hasDkimFiles(const QString& folder, const QByteArray& domain);
+
+/// FileNotFound where the folder has no file for the domain, NotSupported with an Italian text where one
+/// cannot be used.
+Result<DkimKey> readDkimKey(const QString& folder, const QByteArray& domain);
+
+/// Makes an RSA key of 2048 bits and a selector of the form "vestrola" and the day, and the folder where it
+/// is missing; only the user may read the key. Nothing is replaced: where there is a file for the domain, it
+/// fails with FileInUse. Other failures bear an Italian text, and leave nothing behind. `domain` is in
+/// A-labels.
+Result<DkimKey> createDkimKey(const QString& folder, const QByteArray& domain);
+
+/// Whether two public keys, each as SubjectPublicKeyInfo or as RSAPublicKey (RFC 8017) in DER, are the same.
+/// The second one may be anything.
+bool isSameKey(const QByteArray& one, const QByteArray& published);
+
+}  // namespace mail
