@@ -1,0 +1,23 @@
+#pragma once
+
+#include "modules/strumenti/DominioMittente.h"
+#include "platform/policy/SpfCheck.h"
+
+/// The addresses that mail of this sender leaves from, as far as they can be known; a question where the DNS
+/// has to be asked for them.
+std::variant<QList<QHostAddress>, dns::Question> IndirizziDiPartenza(const DominioMittente& mittente,
+                                                                     const Risposte& risposte);
+
+/// What SPF says of one address.
+std::variant<policy::spf::Verdict, dns::Question> EsitoSpf(const DominioMittente& mittente,
+                                                           const QHostAddress& indirizzo,
+                                                           const Risposte& risposte);
+
+/// An address that nobody sends from (RFC 5737): a record that is missing or faulty shows with any.
+QHostAddress IndirizzoDiNessuno();
+
+/// Whether there is no record, or one that could not be used.
+bool SenzaEsito(const policy::spf::Verdict& esito);
+
+/// Why a record cannot be used, in a sentence for the user.
+QString PercheSpf(const policy::spf::Verdict& esito);

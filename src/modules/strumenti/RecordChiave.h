@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/mail/DkimKey.h"
+
+/// What the owner of a domain has to publish for a DKIM key: a TXT record.
+struct RecordChiave {
+    QString nome;        ///< in full, without a final point
+    QString valore;      ///< in one piece, as the pages of providers take it
+    QString rigaDiZona;  ///< for the file of a name server, in strings of at most 255 octets
+};
+
+RecordChiave RecordDi(const QByteArray& dominio, const mail::DkimKey& chiave);

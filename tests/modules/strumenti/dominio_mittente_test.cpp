@@ -1,0 +1,118 @@
+// The lines of MX, address, SPF and reverse name.
+#include <gtest/gtest.h>
+
+#include "modules/strumenti/mittente_support.h"
+
+namespace dominio_mittente_test {
+
+using namespace testing_support;
+
+namespace {
+
+Semaforo semaforo(Riga riga, const Zone& zone, const DominioMittente& chi = mittente()) {
+    const RigaControllo contenuto = rigaDi(riga, chi, zone);
+    EXPECT_FALSE(contenuto.frase.isEmpty());
+    return contenuto.semaforo;
+}
+
+bool dice(const RigaControllo& riga, const char* testo) {
+    const QString tutto = riga.frase + '\n' + riga.dettagli.join('\n');
+    EXPECT_TRUE(tutto.contains(testo)) << tutto.toStdString();
+    return tutto.contains(testo);
+}
+
+TEST(RigaMX, ServerWithAnAddressIsInOrder) {
+    const Zone zone = Zone().mx("example.it", "mx.example.it").address("mx.example.it", "203.0.113.2");
+    const RigaControllo riga = rigaDi(RigaMX, mittente(), zone);
+    EXPECT_EQ(riga.semaforo, Semaforo::Verde);
+    EXPECT_TRUE(dice(riga, "10 mx.example.it: 203.0.113.2"));
+}
+
+TEST(RigaMX, WhatKeepsRepliesFromComingIsToldByItsWeight) {
+    EXPECT_EQ(semaforo(RigaMX, Zone()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaMX, Zone().address("example.it", "203.0.113.2")), Semaforo::Giallo);
+    EXPECT_EQ(semaforo(RigaMX, Zone().mx("example.it", "")), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaMX, Zone().mx("example.it", "mx.niente.example")), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaMX, Zone().fails("example.it", dns::Type::Mx)), Semaforo::Giallo);
+}
+
+TEST(RigaIndirizzo, IsNeededOnlyWithoutAnExchanger) {
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone().address("example.it", "203.0.113.2")), Semaforo::Verde);
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone().address("example.it", "2001:db8::2")), Semaforo::Verde);
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone().mx("example.it", "mx.example.it")), Semaforo::Verde);
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone().fails("example.it", dns::Type::A)), Semaforo::Giallo);
+}
+
+TEST(RigaSpf, CoveredServerIsInOrder) {
+    const RigaControllo riga =
+        rigaDi(RigaSpf, mittente(), conServer().txt("example.it", "v=spf1 ip4:203.0.113.0/24 -all"));
+    EXPECT_EQ(riga.semaforo, Semaforo::Verde);
+    EXPECT_TRUE(dice(riga, "203.0.113.25: autorizzato da \"ip4:203.0.113.0/24\" di example.it, 0 ricerche"));
+}
+
+TEST(RigaSpf, ServerOfWhichOnlySomeAddressesAreCoveredWantsAttention) {
+    const Zone zone = conServer()
+                          .address("posta.example.it", "2001:db9::25")
+                          .txt("example.it", "v=spf1 ip4:203.0.113.25 -all");
+    EXPECT_EQ(semaforo(RigaSpf, zone), Semaforo::Giallo);
+    EXPECT_EQ(semaforo(RigaSpf, conServer().txt("example.it", "v=spf1 -all")), Semaforo::Giallo);
+}
+
+TEST(RigaSpf, MissingAndFaultyRecordsAreToBeMended) {
+    EXPECT_EQ(semaforo(RigaSpf, conServer()), Semaforo::Rosso);
+    const RigaControllo riga =
+        rigaDi(RigaSpf, mittente(), conServer().txt("example.it", "v=spf1 ipv4:1.2.3.4 -all"));
+    EXPECT_EQ(riga.semaforo, Semaforo::Rosso);
+    EXPECT_TRUE(dice(riga, "ipv4:1.2.3.4"));
+}
+
+TEST(RigaSpf, FaultyRecordShowsAlsoWhereTheServerIsUnknown) {
+    EXPECT_EQ(semaforo(RigaSpf, Zone().txt("example.it", "v=spf1 a/99")), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaSpf, Zone()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaSpf, Zone().txt("example.it", "v=spf1 -all")), Semaforo::Giallo);
+    const Zone inside = Zone().address("posta.example.it", "192.168.1.9").txt("example.it", "v=spf1 -all");
+    EXPECT_EQ(semaforo(RigaSpf, inside), Semaforo::Giallo);
+}
+
+TEST(RigaSpf, ServerThatIsAnAddressNeedsNoName) {
+    DominioMittente chi = mittente();
+    chi.server = "203.0.113.25";
+    EXPECT_EQ(semaforo(RigaSpf, Zone().txt("example.it", "v=spf1 ip4:203.0.113.25 -all"), chi),
+              Semaforo::Verde);
+}
+
+TEST(RigaSpf, DirectRouteIsJudgedByThisMachinesAddress) {
+    const auto record = [](const char* terms) {
+        return Zone().txt("example.it", QByteArray("v=spf1 ") + terms);
+    };
+    EXPECT_EQ(semaforo(RigaSpf, record("ip4:203.0.113.25 -all"), mittenteDiretto()), Semaforo::Verde);
+    EXPECT_EQ(semaforo(RigaSpf, record("-all"), mittenteDiretto()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaSpf, record("~all"), mittenteDiretto()), Semaforo::Giallo);
+    EXPECT_EQ(semaforo(RigaSpf, record("-all"), mittenteDiretto(nullptr)), Semaforo::Giallo);
+}
+
+TEST(RigaSpf, NameServerThatFailsIsNoFaultOfTheRecord) {
+    EXPECT_EQ(semaforo(RigaSpf, conServer().fails("example.it", dns::Type::Txt)), Semaforo::Giallo);
+}
+
+TEST(RigaSpf, TextOfTheDomainIsShownWithoutItsControlCharacters) {
+    const Zone zone =
+        conServer().txt("example.it", "v=spf1 exp=e.example -all").txt("e.example", "hello %{d}");
+    const RigaControllo riga = rigaDi(RigaSpf, mittente(), zone);
+    EXPECT_TRUE(dice(riga, "hello example.it"));
+    EXPECT_FALSE(Mostrabile("a\x1b[31m\r\nb").contains(QChar(0x1b)));
+    EXPECT_LE(Mostrabile(QByteArray(100000, 'x')).size(), 2001);
+}
+
+TEST(RigaNomeInverso, NameAndAddressHaveToConfirmEachOther) {
+    const Zone good = Zone().ptr("203.0.113.25", "pc.example.it").address("pc.example.it", "203.0.113.25");
+    EXPECT_EQ(semaforo(RigaNomeInverso, good, mittenteDiretto()), Semaforo::Verde);
+    const Zone lies = Zone().ptr("203.0.113.25", "pc.example.it").address("pc.example.it", "203.0.113.1");
+    EXPECT_EQ(semaforo(RigaNomeInverso, lies, mittenteDiretto()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaNomeInverso, Zone(), mittenteDiretto()), Semaforo::Rosso);
+    EXPECT_EQ(semaforo(RigaNomeInverso, Zone(), mittenteDiretto(nullptr)), Semaforo::Giallo);
+}
+
+}  // namespace
+}  // namespace dominio_mittente_test
