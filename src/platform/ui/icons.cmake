@@ -9,6 +9,7 @@ set(VESTROLA_ICON_NAMES
   choice-round
   code-variable
   document-edit
+  document-edit-verify
   document-new
   document-open
   document-print

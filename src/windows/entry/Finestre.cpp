@@ -16,6 +16,7 @@
 #include "windows/shell/frmSplash.h"
 #include "windows/store/frmDestinatario.h"
 #include "windows/store/griglia.h"
+#include "windows/strumenti/frmControlloMittente.h"
 #include "windows/strumenti/frmEsiti.h"
 #include "windows/strumenti/frmProva.h"
 
@@ -91,6 +92,10 @@ frmImpDB& finestre::ImpDB() {
 
 frmProva& finestre::Prova() {
     return dialogo<frmProva>(Main(), IntornoAProva());
+}
+
+frmControlloMittente& finestre::Controllo() {
+    return dialogo<frmControlloMittente>(Main());
 }
 
 frmSplash& finestre::Splash() {

@@ -1,6 +1,7 @@
 #pragma once
 
 class frmAccount;
+class frmControlloMittente;
 class frmDestinatario;
 class frmEditor;
 class frmEsiti;
@@ -32,6 +33,7 @@ namespace finestre {
 ::frmImpTXT& ImpTXT();
 ::frmImpDB& ImpDB();
 ::frmProva& Prova();
+::frmControlloMittente& Controllo();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

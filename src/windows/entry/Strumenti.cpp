@@ -1,6 +1,7 @@
 #include "windows/entry/Strumenti.h"
 
 #include "windows/entry/Finestre.h"
+#include "windows/strumenti/frmControlloMittente.h"
 #include "windows/strumenti/frmEsiti.h"
 #include "windows/strumenti/frmProva.h"
 
@@ -10,6 +11,12 @@ void apriProva() {
     frmProva& prova = finestre::Prova();
     prova.Carica();
     prova.exec();
+}
+
+void apriControllo() {
+    frmControlloMittente& controllo = finestre::Controllo();
+    controllo.CaricaDati();
+    controllo.exec();
 }
 
 void apriEsiti() {
@@ -25,6 +32,9 @@ std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
     const frmMain::GruppoStrumenti invio{
         {"cmdStrumentiProva", "&Prova messaggio...", "Il messaggio come lo riceve un destinatario",
          "view-visible", apriProva},
+        {"cmdStrumentiMittente", "Controllo del &mittente...",
+         "Come i server dei destinatari vedono il dominio e il server di un account", "document-edit-verify",
+         apriControllo},
         {"cmdStrumentiEsiti", "&Esito degli invii...", "Chi ha ricevuto i messaggi, chi no e perché",
          "view-list-details", apriEsiti}};
     const frmMain::GruppoStrumenti destinatari{};

@@ -1,0 +1,83 @@
+#include "windows/strumenti/frmChiaveDkim.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "modules/strumenti/RecordChiave.h"
+#include "platform/mail/DkimKey.h"
+#include "platform/ui/Announcer.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/DialogForm.h"
+#include "platform/ui/DialogFrame.h"
+#include "windows/core/bTheme.h"
+#include "windows/core/Evento.h"
+
+namespace {
+
+QLineEdit* campoFermo(const char* nome, const QString& testo, QWidget* finestra) {
+    QLineEdit* const campo = ui::textField(nome, finestra);
+    campo->setText(testo);
+    campo->setReadOnly(true);
+    return campo;
+}
+
+QPlainTextEdit* testoFermo(const char* nome, const QString& testo, QWidget* finestra) {
+    auto* campo = ui::named(new QPlainTextEdit(testo, finestra), nome);
+    campo->setReadOnly(true);
+    campo->setTabChangesFocus(true);
+    campo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    campo->setWordWrapMode(QTextOption::WrapAnywhere);
+    campo->setFixedHeight(campo->fontMetrics().lineSpacing() * 8 + ui::windowMargin);
+    return campo;
+}
+
+}  // namespace
+
+frmChiaveDkim::frmChiaveDkim(const QByteArray& dominio, const mail::DkimKey& chiave, bool nuova,
+                             QWidget* parent)
+    : QDialog(parent), annuncio(new ui::Announcer(this)) {
+    setObjectName("frmChiaveDkim");
+    setWindowTitle(" Chiave DKIM di " + QString::fromLatin1(dominio));
+    RilevaTema(this);
+    const RecordChiave record = RecordDi(dominio, chiave);
+    ui::DialogForm modulo(this);
+    auto* spiegazione = ui::named(
+        new QLabel(
+            nuova ? "La chiave è stata creata. Pubblicare nel DNS del dominio un record TXT con questo "
+                    "nome e questo valore, poi premere Controlla."
+                  : "Il dominio ha già una chiave, che resta com'è. Questo è il record TXT da pubblicare nel "
+                    "suo DNS.",
+            this),
+        "lblSpiegazione");
+    spiegazione->setWordWrap(true);
+    setAccessibleDescription(spiegazione->text());
+    modulo.addField({}, spiegazione);
+    modulo.addField("Selettore:", campoFermo("txtSelettore", QString::fromLatin1(chiave.selector), this));
+    modulo.addField("Nome del record:", campoFermo("txtNome", record.nome, this));
+    modulo.addField("Valore:", testoFermo("txtValore", record.valore, this));
+    modulo.addField("Riga per un file di zona:", testoFermo("txtZona", record.rigaDiZona, this));
+    const auto copia = [&](const char* didascalia, const char* nome, const QString& testo,
+                           const char* detto) {
+        QPushButton* const pulsante = modulo.addButton(didascalia, nome);
+        connect(pulsante, &QPushButton::clicked, this, [this, testo, detto] {
+            evento([&] {
+                QGuiApplication::clipboard()->setText(testo);
+                annuncio->say(detto);
+            });
+        });
+        return pulsante;
+    };
+    copia("Copia &nome", "cmdCopiaNome", record.nome, "Il nome è negli appunti.");
+    QPushButton* const valore =
+        copia("Copia &valore", "cmdCopiaValore", record.valore, "Il valore è negli appunti.");
+    copia("Copia riga di &zona", "cmdCopiaZona", record.rigaDiZona, "La riga è negli appunti.");
+    QPushButton* const cmdChiudi = modulo.addButton("&Chiudi", "cmdChiudi");
+    connect(cmdChiudi, &QPushButton::clicked, this, [this] { evento([this] { accept(); }); });
+    modulo.finish(valore, 680);
+    valore->setFocus();
+    ui::setUpDialog(*this);
+}

@@ -1,0 +1,117 @@
+// The look of the window: its controls, their places and their names.
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+
+#include "platform/ui/Announcer.h"
+#include "platform/ui/Controls.h"
+#include "windows/core/bTheme.h"
+#include "windows/core/Evento.h"
+#include "windows/strumenti/frmControlloMittente.h"
+
+namespace {
+
+/// Lines of text that are broken stand apart from those of the next row.
+class RigheStaccate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& stile, const QModelIndex& cella) const override {
+        return QStyledItemDelegate::sizeHint(stile, cella) + QSize(0, ui::controlSpacing);
+    }
+};
+
+}  // namespace
+
+void frmControlloMittente::CreaControlli() {
+    // In the order in which the keyboard goes round them.
+    lblAccount = ui::named(new QLabel("&Account mittente:", this), "lblAccount");
+    cmbAccount = ui::named(new QComboBox(this), "cmbAccount");
+    cmbAccount->setMinimumHeight(ui::fieldHeight);
+    cmbAccount->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cmdControlla = ui::commandButton("C&ontrolla", "cmdControlla", this);
+    cmdInterrompi = ui::commandButton("&Interrompi", "cmdInterrompi", this);
+    lblEsito = ui::named(new QLabel(this), "lblEsito");
+    lblEsito->setTextFormat(Qt::PlainText);
+    lblEsito->setWordWrap(true);
+    grdRighe = ui::named(new QTableWidget(0, 3, this), "grdRighe");
+    grdRighe->setHorizontalHeaderLabels({"Controllo", "Esito", "Che cosa fare"});
+    grdRighe->setAccessibleName("Righe del controllo");
+    grdRighe->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grdRighe->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grdRighe->setSelectionMode(QAbstractItemView::SingleSelection);
+    grdRighe->setTabKeyNavigation(false);
+    grdRighe->setShowGrid(false);
+    grdRighe->setAlternatingRowColors(true);
+    grdRighe->setWordWrap(true);
+    grdRighe->setItemDelegate(new RigheStaccate(grdRighe));
+    grdRighe->verticalHeader()->hide();
+    grdRighe->verticalHeader()->setMinimumSectionSize(ui::rowHeight);
+    grdRighe->horizontalHeader()->setHighlightSections(false);
+    grdRighe->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    grdRighe->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    grdRighe->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
+    lblDettagli = ui::named(new QLabel("D&ettagli:", this), "lblDettagli");
+    txtDettagli = ui::named(new QPlainTextEdit(this), "txtDettagli");
+    txtDettagli->setReadOnly(true);
+    txtDettagli->setTabChangesFocus(true);
+    txtDettagli->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    txtDettagli->setFixedHeight(fontMetrics().lineSpacing() * 6 + ui::windowMargin);
+    cmdChiave = ui::commandButton("Crea chiave &DKIM...", "cmdChiave", this);
+    cmdCopia = ui::commandButton("Copia &tutto", "cmdCopia", this);
+    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
+    annuncio = new ui::Announcer(this);
+    lblAccount->setBuddy(cmbAccount);
+    cmbAccount->setAccessibleName(ui::spokenCaption(lblAccount->text()));
+    lblDettagli->setBuddy(txtDettagli);
+    txtDettagli->setAccessibleName(ui::spokenCaption(lblDettagli->text()));
+    cmdChiave->setAccessibleDescription("Crea la chiave con cui firmare i messaggi, o mostra quella che c'è");
+}
+
+void frmControlloMittente::DisponiControlli() {
+    auto* alto = new QHBoxLayout;
+    alto->setSpacing(ui::controlSpacing);
+    alto->addWidget(lblAccount);
+    alto->addWidget(cmbAccount, 1);
+    alto->addWidget(cmdControlla);
+    alto->addWidget(cmdInterrompi);
+    auto* basso = new QHBoxLayout;
+    basso->setSpacing(ui::controlSpacing);
+    basso->addWidget(cmdChiave);
+    basso->addWidget(cmdCopia);
+    basso->addStretch();
+    basso->addWidget(cmdChiudi);
+    auto* finestra = new QVBoxLayout(this);
+    finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
+    finestra->setSpacing(ui::controlSpacing);
+    finestra->addLayout(alto);
+    finestra->addWidget(lblEsito);
+    finestra->addWidget(grdRighe, 1);
+    finestra->addWidget(lblDettagli);
+    finestra->addWidget(txtDettagli);
+    finestra->addSpacing(ui::windowMargin - ui::controlSpacing);
+    finestra->addLayout(basso);
+}
+
+void frmControlloMittente::CollegaEventi() {
+    const auto alClic = [this](QPushButton* pulsante, void (frmControlloMittente::*gestore)()) {
+        connect(pulsante, &QPushButton::clicked, this,
+                [this, gestore] { evento([&] { (this->*gestore)(); }); });
+    };
+    alClic(cmdControlla, &frmControlloMittente::cmdControlla_Click);
+    alClic(cmdInterrompi, &frmControlloMittente::Interrompi);
+    alClic(cmdChiave, &frmControlloMittente::cmdChiave_Click);
+    alClic(cmdCopia, &frmControlloMittente::cmdCopia_Click);
+    alClic(cmdChiudi, &frmControlloMittente::cmdChiudi_Click);
+    connect(grdRighe, &QTableWidget::currentCellChanged, this,
+            [this] { evento([this] { MostraDettagli(); }); });
+    connect(grdRighe->horizontalHeader(), &QHeaderView::sectionResized, grdRighe,
+            &QTableWidget::resizeRowsToContents);
+    connect(cmbAccount, &QComboBox::currentIndexChanged, this,
+            [this] { evento([this] { AbilitaControlli(); }); });
+}
