@@ -21,7 +21,7 @@ const Answer* nota(const Risposte& risposte, const Question& domanda) {
     return trovata == risposte.end() ? nullptr : &trovata->second;
 }
 
-QStringList elenco(const QList<QHostAddress>& indirizzi) {
+QStringList elencoIndirizzi(const QList<QHostAddress>& indirizzi) {
     QStringList testi;
     for (const QHostAddress& uno : indirizzi)
         testi.append(uno.toString());
@@ -58,7 +58,7 @@ RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
             const Answer* const risposta = nota(risposte, indirizzo);
             if (!risposta) return indirizzo;
             raggiungibile = raggiungibile || !risposta->addresses.isEmpty();
-            indirizzi += elenco(risposta->addresses);
+            indirizzi += elencoIndirizzi(risposta->addresses);
         }
         dettagli.append(
             QStringLiteral("%1 %2: %3")
@@ -86,7 +86,8 @@ RigaODomanda RigaIndirizzo(const DominioMittente& mittente, const Risposte& risp
         indirizzi += risposta->addresses;
     }
     if (!indirizzi.isEmpty())
-        return rigaDominio(controllo, Semaforo::Verde, "Il dominio ha un indirizzo.", elenco(indirizzi));
+        return rigaDominio(controllo, Semaforo::Verde, "Il dominio ha un indirizzo.",
+                           elencoIndirizzi(indirizzi));
     const Question domanda{mittente.dominio, Type::Mx};
     const Answer* const mx = nota(risposte, domanda);
     if (!mx) return domanda;

@@ -19,7 +19,7 @@ mail::SmtpTimes tempi() {
     return tempi;
 }
 
-mail::Route percorsoDi(const Account& account, const QString& password) {
+mail::Route percorsoServer(const Account& account, const QString& password) {
     mail::Route percorso;
     percorso.host = mail::connectableHost(account.txtServerSMTP);
     Prosegui prosegui;
@@ -60,7 +60,7 @@ ProvaServer::ProvaServer() : sessione(registro) {
 void ProvaServer::Avvia(const Account& account, const QString& password, Fatto quando) {
     Annulla();
     fatto = std::move(quando);
-    percorso = percorsoDi(account, password);
+    percorso = percorsoServer(account, password);
     limite.start(attesaIntera);
     const auto rinuncia = [this](const QString& perche, bool diAccesso) {
         esitoSubito = {false, 0, perche, diAccesso};

@@ -15,7 +15,7 @@
 namespace mail {
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024;
+constexpr qint64 largestKeyPart = 64 * 1024;
 constexpr qsizetype largestPublished = 8 * 1024;
 constexpr unsigned newKeyBits = 2048;
 
@@ -24,20 +24,20 @@ struct FreeKeyPart {
     void operator()(BIO* text) const { BIO_free(text); }
 };
 using Key = std::unique_ptr<EVP_PKEY, FreeKeyPart>;
-using Text = std::unique_ptr<BIO, FreeKeyPart>;
+using KeyText = std::unique_ptr<BIO, FreeKeyPart>;
 
-QString placeOf(const QString& folder, const QByteArray& domain) {
+QString keyPlace(const QString& folder, const QByteArray& domain) {
     return folder + '/' + QString::fromLatin1(domain.toLower());
 }
 
 Key keyOfPem(const QByteArray& pem) {
-    const Text text(BIO_new_mem_buf(pem.constData(), int(pem.size())));
+    const KeyText text(BIO_new_mem_buf(pem.constData(), int(pem.size())));
     const auto noPassword = [](char*, int, int, void*) { return -1; };
     return Key(text ? PEM_read_bio_PrivateKey(text.get(), nullptr, noPassword, nullptr) : nullptr);
 }
 
 QByteArray pemOf(EVP_PKEY* key) {
-    const Text text(BIO_new(BIO_s_mem()));
+    const KeyText text(BIO_new(BIO_s_mem()));
     if (!text || PEM_write_bio_PrivateKey(text.get(), key, nullptr, nullptr, 0, nullptr, nullptr) != 1)
         return {};
     char* bytes = nullptr;
@@ -72,7 +72,7 @@ Status notWritten(const QString& path, const Status& why) {
 }  // namespace
 
 bool hasDkimFiles(const QString& folder, const QByteArray& domain) {
-    const QString place = placeOf(folder, domain);
+    const QString place = keyPlace(folder, domain);
     return FileStamp::of(place + ".pem").exists() || FileStamp::of(place + ".selector").exists();
 }
 
@@ -81,9 +81,9 @@ Result<DkimKey> readDkimKey(const QString& folder, const QByteArray& domain) {
         return Status(ErrorCode::FileNotFound, QString());
     const Status usable = DkimSigner::usable(folder, "x@" + QString::fromLatin1(domain));
     if (!usable.ok()) return usable;
-    const QString place = placeOf(folder, domain);
-    const auto pem = sys::readGuardedFile(place + ".pem", largestFile);
-    const auto selector = sys::readGuardedFile(place + ".selector", largestFile, sys::Others::Read);
+    const QString place = keyPlace(folder, domain);
+    const auto pem = sys::readGuardedFile(place + ".pem", largestKeyPart);
+    const auto selector = sys::readGuardedFile(place + ".selector", largestKeyPart, sys::Others::Read);
     const Key key = pem.ok() ? keyOfPem(pem.value()) : Key();
     if (!key || !selector.ok())
         return Status(ErrorCode::NotSupported, QStringLiteral("La chiave non si può leggere."));
@@ -93,7 +93,7 @@ Result<DkimKey> readDkimKey(const QString& folder, const QByteArray& domain) {
 Result<DkimKey> createDkimKey(const QString& folder, const QByteArray& domain) {
     if (!isDomainName(domain))
         return Status(ErrorCode::NotSupported, QStringLiteral("Il dominio non è valido."));
-    const QString place = placeOf(folder, domain);
+    const QString place = keyPlace(folder, domain);
     if (hasDkimFiles(folder, domain))
         return Status(
             ErrorCode::FileInUse,
