@@ -8,6 +8,7 @@
 #include <iterator>
 #include <map>
 #include <QTemporaryDir>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,8 +33,16 @@ class JetTest : public ::testing::Test {
     DatabasePtr create(const std::string& file) {
         const Status status = schema::CreaDatabase(file);
         if (!status.ok()) throw std::runtime_error(status.text().toStdString());
+        m_made.insert(file);
         return open(file);
     }
+    /// What this engine alone has written is sound at the end of each test.
+    void TearDown() override {
+        for (const std::string& file : m_made)
+            if (!m_unsound && !HasFailure() && std::filesystem::exists(file)) expectSound(file);
+    }
+    /// For a test that spoils its files itself.
+    void leaveUnsound() { m_unsound = true; }
     static DatabasePtr open(const std::string& file, const jet::Database::Options& options = {}) {
         auto database = jet::Database::open(file, options);
         if (!database.ok()) throw std::runtime_error(database.status().text().toStdString());
@@ -122,6 +131,10 @@ class JetTest : public ::testing::Test {
     }
 
     QTemporaryDir m_folder;
+
+  private:
+    std::set<std::string> m_made;  // by create()
+    bool m_unsound = false;
 };
 
 #define EXPECT_OK(call)                                    \

@@ -8,6 +8,8 @@ using namespace jet;
 
 class CheckerTest : public JetTest {
   protected:
+    void SetUp() override { leaveUnsound(); }
+
     CheckerTest() {
         DatabasePtr database = create(path());
         Table& recipients = table(*database);

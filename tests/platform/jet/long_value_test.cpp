@@ -153,16 +153,19 @@ TEST_F(LongValueTest, DeletingARowFreesThePagesOfItsValues) {
 }
 
 TEST_F(LongValueTest, ChainThatLoopsIsDamage) {
+    leaveUnsound();
     damageChain([](PageFile&, uint8_t* row, uint32_t pointer) { store32(row, pointer); });
     expectDamage();
 }
 
 TEST_F(LongValueTest, ChainThatEndsTooEarlyIsDamage) {
+    leaveUnsound();
     damageChain([](PageFile&, uint8_t* row, uint32_t) { store32(row, 0); });
     expectDamage();
 }
 
 TEST_F(LongValueTest, PointerToAnotherKindOfPageIsDamage) {
+    leaveUnsound();
     damageChain([](PageFile&, uint8_t* row, uint32_t) { store32(row, 14 << 8); });
     expectDamage();
     damageHead([](uint8_t* head) { store32(head + 4, 0xFFFFFF00); });
@@ -170,6 +173,7 @@ TEST_F(LongValueTest, PointerToAnotherKindOfPageIsDamage) {
 }
 
 TEST_F(LongValueTest, LengthBeyondTheFileIsDamage) {
+    leaveUnsound();
     damageHead([](uint8_t* head) { store32(head, 0x3FFFFFFF); });
     expectDamage();
 }

@@ -240,6 +240,8 @@ TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {
 // Everything that a hostile file can do is answered by an error or by rows, soon and without a crash.
 class DamageTest : public OpenTest {
   protected:
+    void SetUp() override { leaveUnsound(); }
+
     static constexpr int rows = 120;
 
     // Waiting for the disk would take nearly all the time.
