@@ -112,6 +112,14 @@ Value Snapshot::value(size_t row, size_t column) const {
     }
 }
 
+void Snapshot::appendText(size_t row, size_t column, std::string& out) const {
+    if (columns()[column].type == jet::Type::Text) {
+        static_cast<void>(view(row).text(column, out));
+    } else {
+        out += value(row, column).toTextOrEmpty().toStdString();
+    }
+}
+
 void Snapshot::remove(size_t row) {
     m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(row));
 }

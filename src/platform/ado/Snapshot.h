@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <QString>
+#include <string>
 #include <vector>
 
 #include "platform/ado/Value.h"
@@ -31,9 +32,14 @@ class Snapshot {
     size_t size() const { return m_rows.size(); }
     /// Memo texts are read with the rows; OLE values are given as Null.
     Value value(size_t row, size_t column) const;
+    /// Appends the text of a value, in UTF-8, to `out`; nothing for what has no text.
+    void appendText(size_t row, size_t column, std::string& out) const;
     /// Tells a row from all others, whichever are removed.
     uint32_t identity(size_t row) const { return m_rows[row]; }
     void remove(size_t row);
+    /// Puts the rows into another order; `identities` are those of all of them.
+    void arrange(std::vector<uint32_t> identities) { m_rows = std::move(identities); }
+    const std::vector<uint32_t>& identities() const { return m_rows; }
     /// Drops all rows; the columns stay.
     void clear();
 

@@ -84,7 +84,9 @@ class Table {
     const TableDefinition& definition() const;
 
     /// Calls `visit` for each row in page order until it returns false. Only reading is allowed meanwhile.
-    Status scan(const std::function<bool(RowId, const RowView&)>& visit);
+    Status scan(const std::function<bool(RowId, const RowView&)>& visit) { return scan({}, visit); }
+    /// The same from the row `from` on, or from where it stood: a scan in parts goes on behind the last row.
+    Status scan(RowId from, const std::function<bool(RowId, const RowView&)>& visit);
     /// The row of that identity; no row there is an empty optional.
     Result<std::optional<RowView>> row(RowId id);
     /// One value, following memo and OLE values to their pages.

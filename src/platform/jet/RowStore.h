@@ -22,8 +22,9 @@ class RowStore {
     RowStore(PageFile& file, const TableDefinition& definition)
         : m_file(file), m_definition(definition), m_room(file, definition.roomMap, definition.page) {}
 
-    /// Calls `visit` for each row in page order until it returns false.
-    void scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const;
+    /// Calls `visit` for each row from `from` on, in page order, until it returns false.
+    void scan(RowId from, const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const;
+    void scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const { scan({}, visit); }
 
     /// Bytes of a row, valid as long as the page is held.
     struct Stored {

@@ -45,11 +45,11 @@ const TableDefinition& Table::definition() const {
     return m_state->definition;
 }
 
-Status Table::scan(const std::function<bool(RowId, const RowView&)>& visit) {
+Status Table::scan(RowId from, const std::function<bool(RowId, const RowView&)>& visit) {
     return guarded([&]() -> Status {
         const Reading reading(m_state->file);
         m_state->ensureCurrent();
-        m_state->rows.scan([&](RowId id, std::span<const uint8_t> bytes) {
+        m_state->rows.scan(from, [&](RowId id, std::span<const uint8_t> bytes) {
             return visit(id, RowView(&m_state->definition, bytes));
         });
         return {};

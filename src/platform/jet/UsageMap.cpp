@@ -27,12 +27,15 @@ bool getBit(std::span<const uint8_t> bits, size_t bit) {
     return bits[bit / 8] >> (bit % 8) & 1;
 }
 
-// Calls visit(first + bit) for each set bit; false when visit ended the walk.
-bool walkBits(std::span<const uint8_t> bits, uint32_t first, const std::function<bool(uint32_t)>& visit) {
-    for (size_t i = 0; i < bits.size(); ++i)
-        for (unsigned rest = bits[i]; rest != 0; rest &= rest - 1)
-            if (!visit(first + static_cast<uint32_t>(8 * i) + static_cast<uint32_t>(std::countr_zero(rest))))
-                return false;
+// Calls visit(first + bit) for each set bit whose page is not below `from`; false when visit ended the walk.
+bool walkBits(std::span<const uint8_t> bits, uint32_t first, uint32_t from,
+              const std::function<bool(uint32_t)>& visit) {
+    for (size_t i = from > first ? (from - first) / 8 : 0; i < bits.size(); ++i)
+        for (unsigned rest = bits[i]; rest != 0; rest &= rest - 1) {
+            const uint32_t page =
+                first + static_cast<uint32_t>(8 * i) + static_cast<uint32_t>(std::countr_zero(rest));
+            if (page >= from && !visit(page)) return false;
+        }
     return true;
 }
 
@@ -106,17 +109,17 @@ bool UsageMap::contains(uint32_t page) const {
     return getBit(std::span(*bits).subspan(map::bitmap), page % map::pagesPerBitmap);
 }
 
-void UsageMap::forEach(const std::function<bool(uint32_t)>& visit) const {
+void UsageMap::forEach(uint32_t from, const std::function<bool(uint32_t)>& visit) const {
     const MapRow row(m_file, m_page, m_slot);
     if (row.form() == 0) {
-        walkBits(row.bits(), row.first(), visit);
+        walkBits(row.bits(), row.first(), from, visit);
         return;
     }
-    for (size_t k = 0; k < row.bitmaps(); ++k) {
+    for (size_t k = from / pagesPerBitmap(m_file); k < row.bitmaps(); ++k) {
         if (row.bitmap(k) == 0) continue;
         const PagePtr bits = bitmapPage(m_file, row.bitmap(k));
         const uint32_t first = static_cast<uint32_t>(k) * pagesPerBitmap(m_file);
-        if (!walkBits(bitsOf(m_file, *bits), first, visit)) return;
+        if (!walkBits(bitsOf(m_file, *bits), first, from, visit)) return;
     }
 }
 

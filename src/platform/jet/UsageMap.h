@@ -17,9 +17,10 @@ class UsageMap {
     UsageMap(PageFile& file, uint32_t pointer) : m_file(file), m_page(pointer >> 8), m_slot(pointer & 0xFF) {}
 
     bool contains(uint32_t page) const;
-    /// Calls `visit` for each page in rising order until it returns false. The map must not be changed
-    /// meanwhile.
-    void forEach(const std::function<bool(uint32_t)>& visit) const;
+    /// Calls `visit` for each page from `from` on, in rising order, until it returns false. The map must not
+    /// be changed meanwhile.
+    void forEach(uint32_t from, const std::function<bool(uint32_t)>& visit) const;
+    void forEach(const std::function<bool(uint32_t)>& visit) const { forEach(0, visit); }
     std::vector<uint32_t> pages() const;
     /// Adds or removes a page. The row grows when it does not reach that far, and takes form 1 when it cannot
     /// grow.

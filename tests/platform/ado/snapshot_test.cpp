@@ -146,4 +146,24 @@ TEST(SnapshotOfSample, LongMemoTextsComeWhole) {
     closeAll();
 }
 
+TEST_F(SnapshotTest, GivesTextsInUtf8) {
+    run("UPDATE tb_destinatari SET nom = 'Niccolò' WHERE rgs = 'Acero'");
+    const Snapshot rows = take(everything);
+    std::string out = "<";
+    rows.appendText(0, columnOf(rows, "nom"), out);
+    rows.appendText(1, columnOf(rows, "nom"), out);
+    rows.appendText(1, columnOf(rows, "id_grp"), out);
+    EXPECT_EQ(out, "<Niccolò2");
+}
+
+TEST_F(SnapshotTest, TakesAnotherOrder) {
+    Snapshot rows = take(everything);
+    const std::vector<uint32_t> told = rows.identities();
+    rows.arrange({told[2], told[0], told[1]});
+    EXPECT_EQ(texts(rows, "rgs"), "Cedro|Acero|Betulla");
+    rows.remove(1);
+    EXPECT_EQ(texts(rows, "rgs"), "Cedro|Betulla");
+    EXPECT_EQ(rows.identity(1), told[1]);
+}
+
 }  // namespace ado::snapshot_test
