@@ -16,10 +16,14 @@ constexpr int designWidth = 100;
 
 }  // namespace
 
-DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
+DataGrid::DataGrid(QWidget* parent)
+    : QTableView(parent),
+      m_model(new GridModel(this)),
+      m_sorting([this](const SlicedWork::Slice& slice) { return sortPart(slice); }) {
     installItemViewAccess<DataGrid, QAccessible::Table>();
     setHorizontalHeader(new DataGridHeader(this));
     setModel(m_model);
+    m_search = new GridSearch(*this);
     setItemDelegate(new DataGridDelegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -39,6 +43,14 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (!m_applyingWidths && width > 0)
             m_widths[static_cast<size_t>(m_model->sourceColumn(column))] = width;
+    });
+    // Whatever changes the rows makes a sort under way meaningless; a fill has its own order.
+    connect(m_model, &QAbstractItemModel::modelReset, this, &DataGrid::forgetOrder);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] {
+        if (m_sorting.underWay()) startSort();
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (m_notice.isEmpty()) sortBy(column);
     });
     m_lineColor = palette().color(QPalette::Mid);
     m_fixedColor = palette().color(QPalette::Window);

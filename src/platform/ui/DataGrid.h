@@ -1,10 +1,15 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <QTableView>
 #include <vector>
 
 #include "platform/ui/DataControl.h"
 #include "platform/ui/GridModel.h"
+#include "platform/ui/GridSearch.h"
+#include "platform/ui/RowSorter.h"
+#include "platform/ui/SlicedWork.h"
 
 namespace ui {
 
@@ -50,6 +55,28 @@ class DataGrid : public QTableView {
     /// Moves a column; those between move up by one.
     void setColPosition(int column, int position);
 
+    /// Sorts the rows that are shown by a column, without regard to case and accents, in slices: nothing is
+    /// read and nothing written. The first call sorts upwards, the next one for the same column downwards,
+    /// the third brings the order of the fill back, and so does each fill. A click on a heading does the
+    /// same.
+    void sortBy(int column);
+    /// The column and direction of the heading's arrow; none while the rows stand as they came.
+    struct Order {
+        int column;
+        Qt::SortOrder direction;
+    };
+    const std::optional<Order>& sorted() const { return m_sorted; }
+    bool isSorting() const { return m_sorting.underWay(); }
+
+    /// The search that marks what it finds in the cells.
+    GridSearch& search() { return *m_search; }
+    /// The column of the check boxes; -1 for none.
+    int checkColumn() const { return m_model->firstCheckColumn(); }
+    bool isChecked(int row) const { return m_model->isChecked(row, checkColumn()); }
+    void appendText(int row, int column, std::string& out) const { m_model->appendText(row, column, out); }
+    /// Makes a row the current one, and its first cell that was found the current cell.
+    void showFound(int row);
+
     /// The column whose texts name the rows to assistive programs.
     void setRowNameColumn(int column) { m_model->setNameColumn(column); }
 
@@ -83,6 +110,8 @@ class DataGrid : public QTableView {
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
   Q_SIGNALS:
+    /// The user, or sortBy(), asked for another order; sorted() tells which.
+    void orderChanged();
     /// The rows were filled; the columns are in the table's order again.
     void afterDataRefresh();
     /// A cell was clicked with the left button, or the space bar asks to click the check box of the current
@@ -110,8 +139,15 @@ class DataGrid : public QTableView {
     void applyFont();
     void setRole(QPalette::ColorRole role, const QColor& color);
     void paintSentence();
+    bool sortPart(const SlicedWork::Slice& slice);
+    void forgetOrder();
+    void startSort();
 
     GridModel* m_model;
+    GridSearch* m_search = nullptr;
+    SlicedWork m_sorting;
+    std::unique_ptr<RowSorter> m_sorter;
+    std::optional<Order> m_sorted;
     std::vector<int> m_widths;  ///< by the table's columns
     bool m_applyingWidths = false;
     QColor m_lineColor;

@@ -15,11 +15,21 @@ constexpr int headHeight = 26;
 constexpr int textMargin = 6;
 constexpr int separatorInset = 4;
 
+/// A cell that holds what is looked for, told by its ground and, without colours, by the line below its text.
+void markFound(QStyleOptionViewItem& cell) {
+    const QColor ground(255, 230, 120);
+    cell.font.setUnderline(true);
+    cell.backgroundBrush = ground;
+    cell.palette.setColor(QPalette::Text, Qt::black);
+    cell.palette.setColor(QPalette::HighlightedText, Qt::black);
+    cell.palette.setColor(QPalette::Highlight, ground.darker(115));
+}
+
 }  // namespace
 
 DataGridHeader::DataGridHeader(DataGrid* grid) : QHeaderView(Qt::Horizontal, grid), m_grid(grid) {
     setSectionsMovable(false);
-    setSectionsClickable(false);
+    setSectionsClickable(true);
     setHighlightSections(false);
     setMinimumSectionSize(24);
 }
@@ -32,7 +42,8 @@ void DataGridHeader::paintSection(QPainter* painter, const QRect& rect, int logi
     painter->save();
     painter->fillRect(rect, m_grid->fixedColor());
     const QAbstractItemModel* texts = model();
-    const QRect space = rect.adjusted(textMargin, 0, -textMargin, 0);
+    QRect space = rect.adjusted(textMargin, 0, -textMargin, 0);
+    if (m_grid->sorted() && m_grid->sorted()->column == logicalIndex) paintArrow(painter, space);
     const int alignment = texts->headerData(logicalIndex, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
     const QString text = texts->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString();
     style()->drawItemText(painter, space, alignment, palette(), isEnabled(),
@@ -42,6 +53,23 @@ void DataGridHeader::paintSection(QPainter* painter, const QRect& rect, int logi
     painter->drawLine(rect.right(), rect.top() + separatorInset, rect.right(),
                       rect.bottom() - separatorInset);
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    painter->restore();
+}
+
+/// At the right end of `space`, which is cut to what is left for the text.
+void DataGridHeader::paintArrow(QPainter* painter, QRect& space) const {
+    const int size = fontMetrics().height() / 2;
+    if (space.width() < size) return;
+    QRectF place(space.right() - size, space.center().y() - size / 4.0, size, size / 2.0);
+    space.setRight(static_cast<int>(place.left()) - textMargin / 2);
+    QPolygonF arrow{place.bottomLeft(), place.bottomRight(), QPointF(place.center().x(), place.top())};
+    if (m_grid->sorted()->direction == Qt::DescendingOrder)
+        arrow = QPolygonF{place.topLeft(), place.topRight(), QPointF(place.center().x(), place.bottom())};
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(palette().color(QPalette::WindowText));
+    painter->drawPolygon(arrow);
     painter->restore();
 }
 
@@ -63,6 +91,7 @@ void DataGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     cell.state &= ~QStyle::State_HasFocus;
+    if (m_grid->search().holds(index)) markFound(cell);
     const bool box = cell.features & QStyleOptionViewItem::HasCheckIndicator;
     cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
     QStyle* style = m_grid->style();

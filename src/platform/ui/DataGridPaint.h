@@ -20,6 +20,8 @@ class DataGridHeader : public QHeaderView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void paintArrow(QPainter* painter, QRect& space) const;
+
     DataGrid* m_grid;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/ui/GridModel.h"
 
+#include <algorithm>
+#include <map>
 #include <numeric>
 #include <QFont>
 #include <utility>
@@ -11,6 +13,7 @@ void GridModel::setSnapshot(ado::Snapshot rows) {
     m_rows = std::move(rows);
     m_blank = false;
     m_written.clear();
+    m_filled.clear();
     m_headings = {QString()};
     for (const jet::Column& column : m_rows.columns())
         m_headings << QString::fromStdString(column.name);
@@ -34,12 +37,14 @@ void GridModel::truncate(int rows) {
     while (gridRows() > rows)
         m_rows.remove(m_rows.size() - 1);
     if (m_rows.size() == 0) m_rows.clear();
+    m_filled.clear();
     endResetModel();
 }
 
 void GridModel::removeGridRow(int row) {
     if (row < 1 || row >= gridRows()) return;
     beginRemoveRows({}, row - 1, row - 1);
+    std::erase(m_filled, m_rows.identity(static_cast<size_t>(row - 1)));
     m_rows.remove(static_cast<size_t>(row - 1));
     endRemoveRows();
 }
@@ -59,6 +64,33 @@ void GridModel::moveGridColumn(int from, int to) {
     m_order.erase(m_order.begin() + from);
     m_order.insert(m_order.begin() + to, source);
     endMoveColumns();
+}
+
+void GridModel::arrange(std::vector<uint32_t> identities) {
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::map<int, uint32_t> rowsBefore;
+    for (const QModelIndex& kept : before)
+        rowsBefore[kept.row()] = m_rows.identity(static_cast<size_t>(kept.row()));
+    if (m_filled.empty()) m_filled = m_rows.identities();
+    m_rows.arrange(std::move(identities));
+    std::map<int, int> rowsNow;
+    for (const auto& [row, identity] : rowsBefore)
+        rowsNow[row] =
+            static_cast<int>(std::find(m_rows.identities().begin(), m_rows.identities().end(), identity) -
+                             m_rows.identities().begin());
+    QModelIndexList now;
+    now.reserve(before.size());
+    for (const QModelIndex& kept : before)
+        now << index(rowsNow.at(kept.row()), kept.column());
+    changePersistentIndexList(before, now);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void GridModel::arrangeAsFilled() {
+    if (m_filled.empty()) return;
+    arrange(m_filled);
+    m_filled.clear();
 }
 
 bool GridModel::exists(int row, int column) const {
@@ -81,6 +113,15 @@ QString GridModel::text(int row, int column) const {
     if (row == 0) return m_headings[sourceColumn(column)];
     const auto written = m_written.constFind(cell(row, column));
     return written != m_written.constEnd() ? *written : value(row, column).toTextOrEmpty();
+}
+
+void GridModel::appendText(int row, int column, std::string& out) const {
+    const int source = sourceColumn(column);
+    if (m_written.isEmpty() && !m_blank && source > 0) {
+        m_rows.appendText(static_cast<size_t>(row - 1), static_cast<size_t>(source - 1), out);
+    } else {
+        out += text(row, column).toStdString();
+    }
 }
 
 void GridModel::setText(int row, int column, const QString& text) {

@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QHash>
 #include <QStringList>
+#include <string>
 #include <vector>
 
 #include "platform/ado/Snapshot.h"
@@ -29,10 +30,19 @@ class GridModel : public QAbstractTableModel {
     /// Shows a row in another font; 0 for none.
     void markRow(int row);
     void moveGridColumn(int from, int to);
+    /// Shows the rows in another order; `identities` are all those of identities(). Current, selected and
+    /// marked rows stay what they are. The next fill has its own order again.
+    void arrange(std::vector<uint32_t> identities);
+    /// The order in which the rows came.
+    void arrangeAsFilled();
+    /// What tells the rows apart, in the order in which they are shown.
+    const std::vector<uint32_t>& identities() const { return m_rows.identities(); }
 
     int gridRows() const { return static_cast<int>(m_rows.size()) + 1; }
     QString text(int row, int column) const;
     void setText(int row, int column, const QString& text);
+    /// Appends a cell's text to `out`, in UTF-8; for walks over many rows.
+    void appendText(int row, int column, std::string& out) const;
     /// The column whose texts name the rows to assistive programs; without one, or without a text, the rows'
     /// numbers do.
     void setNameColumn(int column) { m_nameColumn = column; }
@@ -60,6 +70,7 @@ class GridModel : public QAbstractTableModel {
     std::vector<int> m_order;  ///< source column at each position
     QStringList m_headings;    ///< by source column
     QHash<quint64, QString> m_written;
+    std::vector<uint32_t> m_filled;  ///< the order in which the rows came; empty while it is shown
     int m_nameColumn = 0;
     QPersistentModelIndex m_marked;  ///< any cell of the row
 };

@@ -137,8 +137,11 @@ QAccessibleInterface* ItemHeadAccess::parent() const {
 }
 
 QString ItemHeadAccess::text(QAccessible::Text kind) const {
-    if (kind != QAccessible::Name || m_section < 0) return {};
-    return m_list->view().model()->headerData(m_section, m_orientation).toString();
+    if (m_section < 0) return {};
+    const QAbstractItemModel& model = *m_list->view().model();
+    if (kind == QAccessible::Name) return model.headerData(m_section, m_orientation).toString();
+    if (kind != QAccessible::Description) return {};
+    return model.headerData(m_section, m_orientation, Qt::AccessibleDescriptionRole).toString();
 }
 
 QRect ItemHeadAccess::rect() const {
