@@ -15,6 +15,7 @@ void DataGrid::sortBy(int column) {
         scrollTo(currentIndex());
     } else {
         m_sorted = Order{column, again ? Qt::DescendingOrder : Qt::AscendingOrder};
+        m_model->describeHeading(column, again ? "Ordine decrescente" : "Ordine crescente");
         startSort();
     }
     horizontalHeader()->viewport()->update();
@@ -57,6 +58,7 @@ void DataGrid::forgetOrder() {
     m_sorting.stop();
     m_sorter.reset();
     m_sorted.reset();
+    m_model->describeHeading(-1, {});
 }
 
 void DataGrid::showFound(int row) {

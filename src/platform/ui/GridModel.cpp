@@ -87,6 +87,11 @@ void GridModel::arrange(std::vector<uint32_t> identities) {
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
+void GridModel::describeHeading(int column, const QString& description) {
+    m_describedColumn = column;
+    m_description = description;
+}
+
 void GridModel::arrangeAsFilled() {
     if (m_filled.empty()) return;
     arrange(m_filled);
@@ -193,6 +198,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return name.isEmpty() ? QVariant(section + 1) : QVariant(name);
     }
     if (role == Qt::DisplayRole) return text(0, section);
+    if (role == Qt::AccessibleDescriptionRole && section == m_describedColumn) return m_description;
     if (role != Qt::TextAlignmentRole) return {};
     return static_cast<int>(Qt::AlignVCenter | (isCheckColumn(section) ? Qt::AlignHCenter : Qt::AlignLeft));
 }

@@ -46,6 +46,8 @@ class GridModel : public QAbstractTableModel {
     /// The column whose texts name the rows to assistive programs; without one, or without a text, the rows'
     /// numbers do.
     void setNameColumn(int column) { m_nameColumn = column; }
+    /// What assistive programs say of one heading besides its text; -1 for none.
+    void describeHeading(int column, const QString& description);
     /// Columns of yes/no are shown as check boxes.
     bool isCheckColumn(int column) const;
     /// -1 when there is none.
@@ -72,6 +74,8 @@ class GridModel : public QAbstractTableModel {
     QHash<quint64, QString> m_written;
     std::vector<uint32_t> m_filled;  ///< the order in which the rows came; empty while it is shown
     int m_nameColumn = 0;
+    int m_describedColumn = -1;
+    QString m_description;
     QPersistentModelIndex m_marked;  ///< any cell of the row
 };
 

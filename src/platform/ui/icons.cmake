@@ -50,7 +50,9 @@ set(VESTROLA_ICON_NAMES
   format-text-italic
   format-text-underline
   globe
+  go-down
   go-top
+  go-up
   help-about
   help-contents
   insert-horizontal-rule
@@ -77,7 +79,8 @@ set(VESTROLA_ICON_NAMES
   view-list-details
   view-list-text
   view-pim-contacts
-  view-visible)
+  view-visible
+  window-close)
 
 set(breeze_dir /usr/share/icons/breeze CACHE PATH "Breeze icon theme, the source of the compiled-in icons")
 set(breeze_licence /usr/share/doc/breeze-icon-theme/copyright CACHE FILEPATH "licence of the Breeze icon theme")

@@ -1,6 +1,7 @@
 #include "windows/shell/frmMain.h"
 
 #include <QCloseEvent>
+#include <QVBoxLayout>
 
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
@@ -12,12 +13,14 @@
 #include "platform/ui/DataControl.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/DialogFrame.h"
+#include "platform/ui/FindBar.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/CentraForm.h"
 #include "windows/core/Evento.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
+#include "windows/store/TrovaDestinatari.h"
 
 namespace {
 
@@ -32,13 +35,20 @@ frmMain::frmMain(Vicini intorno)
       barre(new ui::CommandBars(this)),
       pannelli(this),
       destinatari(new ui::DataGrid),
+      barraTrova(new ui::FindBar(TrovaDestinatari::luoghi, this)),
       dati(new ui::DataControl(this)) {
     setObjectName("frmMain");
     destinatari->setObjectName("grd");
     destinatari->setAccessibleName("Mailing List");
     destinatari->setDataSource(dati);
     dati->setObjectName("Adodc");
-    setCentralWidget(destinatari);
+    auto* centro = new QWidget;
+    auto* righe = new QVBoxLayout(centro);
+    righe->setContentsMargins(0, 0, 0, 0);
+    righe->setSpacing(0);
+    righe->addWidget(barraTrova);
+    righe->addWidget(destinatari);
+    setCentralWidget(centro);
     CreaComandi();
     CreaMenu();
     CreaBarre();
@@ -49,6 +59,7 @@ frmMain::frmMain(Vicini intorno)
 
 void frmMain::Carica() {
     griglia::Collega(PerGruppiEGriglia());
+    CreaTrova();
     CentraForm(vicini.Splash());
     SvuotaGriglia();
     RilevaTema(this);
@@ -86,6 +97,7 @@ Principale frmMain::PerGruppiEGriglia() {
             vicini.Destinatario,
             [this] { SvuotaGriglia(); },
             [this] { AggiornaComandi(); },
+            [this] { return comandoInCorso; },
             ChiediDatabase,
             [this](const QString& percorso) { CambiaDatabase(percorso); }};
 }

@@ -16,10 +16,12 @@
 class frmDestinatario;
 class frmGruppi;
 class frmSplash;
+class TrovaDestinatari;
 namespace ui {
 class CommandBars;
 class DataControl;
 class DataGrid;
+class FindBar;
 }  // namespace ui
 
 /// What every command has at hand, used or not; it is gone when the command is done, so that no cursor
@@ -123,6 +125,7 @@ class frmMain : public QMainWindow {
     /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars; F10 opens the first menu.
     void CreaGiroFuoco(frmGruppi& gruppi);
     void AggiornaData();
+    void CreaTrova();
 
     // frmMain_comandi.cpp
     struct RigaComando;
@@ -149,6 +152,7 @@ class frmMain : public QMainWindow {
     ui::CommandBars* barre;
     ui::DockPanes pannelli;
     ui::DataGrid* destinatari;
+    ui::FindBar* barraTrova;
     ui::DataControl* dati;
     QString primaDellAttesa;
     bool comandoInCorso = false;

@@ -14,6 +14,7 @@
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
+#include "windows/store/TrovaDestinatari.h"
 
 namespace {
 
@@ -178,6 +179,16 @@ void frmMain::AggiornaComandi() {
     const bool daGriglia = !menuAlbero.isEmpty() && !griglia::MenuOra().isEmpty();
     barre->GetToolButton("cmdPopMailingNew")->setOnBars(!menuAlbero.isEmpty());
     barre->GetToolButton("cmdPopMailingUserNew")->setOnBars(menuAlbero == "popMailing" || daGriglia);
+}
+
+void frmMain::CreaTrova() {
+    auto* trova = new TrovaDestinatari(PerGruppiEGriglia(), *barraTrova, this);
+    auto* scorciatoia = new QShortcut(QKeySequence::Find, this);
+    connect(scorciatoia, &QShortcut::activated, this, [this, trova] {
+        evento([&] {
+            if (!comandoInCorso) trova->Apri();
+        });
+    });
 }
 
 void frmMain::CreaGiroFuoco(frmGruppi& gruppi) {

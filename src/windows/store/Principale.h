@@ -23,6 +23,7 @@ struct Principale {
     std::function<frmDestinatario&()> Destinatario;
     std::function<void()> SvuotaGriglia;
     std::function<void()> AggiornaComandi;  ///< to be called after the current node or the rows have changed
+    std::function<bool()> ComandoInCorso;   ///< the handler of a command runs; nothing else may begin
     std::function<std::optional<QString>()> ChiediDatabase;  ///< none when the user gave up
     std::function<void(const QString& percorso)> CambiaDatabase;
 };

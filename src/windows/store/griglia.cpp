@@ -33,6 +33,8 @@ const QString fraseVuota = QStringLiteral("Nessun destinatario in questa cartell
 /// None before the first main window, and after the end of one.
 std::optional<Principale> collegata;
 
+std::int32_t numeroMostrata = 0;
+
 const Principale& FinestraDellaGriglia() {
     assert(collegata);
     return *collegata;
@@ -95,6 +97,18 @@ void grd_DblClick() {
     if (grd().Row() >= 1 && grd().Col() != colonnaSel) comandiDestinatario::Modifica();
 }
 
+/// Tells in the status bar what a heading's arrow shows.
+void grd_OrderChanged() {
+    const auto& ordine = grd().sorted();
+    QString testo = "Ordine dell'elenco";
+    if (ordine)
+        testo = "Ordinati per " + grd().TextMatrix(0, ordine->column) +
+                (ordine->direction == Qt::AscendingOrder ? ", crescente" : ", decrescente");
+    ui::StaticItem& stcHelp = *FinestraDellaGriglia().Commands.GetStatic("stcHelp");
+    stcHelp.setText(testo);
+    stcHelp.announce();
+}
+
 void grd_MouseMove(Qt::MouseButtons pulsanti) {
     ui::StaticItem& stcHelp = *FinestraDellaGriglia().Commands.GetStatic("stcHelp");
     stcHelp.setText("Email presenti: " + text::formatGrouped(grd().Rows() - 1));
@@ -133,6 +147,7 @@ void griglia::Collega(const Principale& finestra) {
     QObject::connect(grd, &DataGrid::afterDataRefresh, grd, [] { evento(grd_AfterDataRefresh); });
     QObject::connect(grd, &DataGrid::click, grd, [] { evento(grd_Click); });
     QObject::connect(grd, &DataGrid::dblClick, grd, [] { evento(grd_DblClick); });
+    QObject::connect(grd, &DataGrid::orderChanged, grd, [] { evento(grd_OrderChanged); });
     QObject::connect(grd, &DataGrid::mouseMove, grd,
                      [](Qt::MouseButtons pulsanti) { evento([&] { grd_MouseMove(pulsanti); }); });
     QObject::connect(grd, &DataGrid::mouseUp, grd, [](Qt::MouseButton pulsante, const QPoint& punto) {
@@ -147,7 +162,12 @@ void griglia::RiempiGriglia() {
     Adodc.setConnectionString(connDB);
     Adodc.setRecordSource("SELECT * FROM tb_destinatari WHERE id_grp = " + NumeroNodoCorrente() +
                           " ORDER BY rgs ASC;");
+    numeroMostrata = NumeroNodoCorrente().toInt();
     Aggiorna();
+}
+
+std::int32_t griglia::CartellaMostrata() {
+    return numeroMostrata;
 }
 
 void griglia::RinfrescaGriglia() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <QString>
 
 namespace ado {
@@ -25,6 +26,8 @@ frmDestinatario& Destinatario();
 
 /// Fills the grid with the recipients of the current node. Unguarded.
 void RiempiGriglia();
+/// Number of the group with which the grid was filled last.
+std::int32_t CartellaMostrata();
 /// Fills the grid anew with what its data control asked for last. Unguarded.
 void RinfrescaGriglia();
 

@@ -6,6 +6,7 @@
 
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/datagrid_support.h"
+#include "platform/ui/ItemViewAccess.h"
 #include "support/TestClass.h"
 
 namespace datagrid_sort_test {
@@ -96,6 +97,21 @@ class TestDataGridSort : public QObject {
         QVERIFY(!test.grid->sorted());
         QCOMPARE(test.order.count(), 3);
         QCOMPARE(test.click.count(), 0);
+    }
+
+    void headingTellsItsOrderToAssistivePrograms() {
+        Window test;
+        const auto told = [&] {
+            const auto* face = static_cast<ui::ItemViewAccess*>(QAccessible::queryAccessibleInterface(test.grid));
+            return face->head(Qt::Horizontal, 3)->text(QAccessible::Description);
+        };
+        QCOMPARE(told(), QString());
+        test.sort(3);
+        QCOMPARE(told(), QString("Ordine crescente"));
+        test.sort(3);
+        QCOMPARE(told(), QString("Ordine decrescente"));
+        test.sort(3);
+        QCOMPARE(told(), QString());
     }
 
     void anotherHeadingSortsUpwardsByItsColumn() {

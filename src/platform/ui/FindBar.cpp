@@ -1,0 +1,117 @@
+#include "platform/ui/FindBar.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "platform/ui/Announcer.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/DialogForm.h"
+
+namespace ui {
+
+namespace {
+
+QToolButton* barButton(const QString& name, const QString& caption, const QString& icon, const QString& tip) {
+    auto* button = named(new QToolButton, name);
+    button->setIcon(QIcon::fromTheme(icon));
+    button->setText(caption);
+    button->setToolTip(tip);
+    button->setAccessibleName(caption);
+    button->setAccessibleDescription(tip);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+}  // namespace
+
+FindBar::FindBar(const QStringList& places, QWidget* parent)
+    : QToolBar("Trova", parent),
+      m_text(textField("txtTrova", this)),
+      m_places(choiceField("cmbDove", places, this)),
+      m_checkedOnly(named(new QCheckBox("&Solo selezionati", this), "chkSoloSelezionati")),
+      m_answer(named(new QLabel(this), "lblTrovati")),
+      m_announcer(new Announcer(this)) {
+    setObjectName("Trova");
+    setAccessibleName("Trova");
+    setMovable(false);
+    auto* label = new QLabel("T&rova:", this);
+    label->setBuddy(m_text);
+    m_text->setAccessibleName("Trova");
+    m_text->setClearButtonEnabled(true);
+    m_text->setMinimumWidth(scaledToFont(*this, 140));
+    m_text->setMaximumWidth(scaledToFont(*this, 260));
+    m_places->setAccessibleName("Dove cercare");
+    m_answer->setAccessibleName("Esito");
+    m_answer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto* previousButton =
+        barButton("cmdTrovaPrecedente", "Precedente", "go-up", "Trova precedente (Maiusc+Invio)");
+    auto* nextButton = barButton("cmdTrovaSuccessivo", "Successivo", "go-down", "Trova successivo (Invio)");
+    auto* closeButton = barButton("cmdChiudiTrova", "Chiudi", "window-close", "Chiudi la barra (Esc)");
+    layout()->setSpacing(controlSpacing / 2);
+    for (QWidget* item : std::initializer_list<QWidget*>{label, m_text, previousButton, nextButton, m_places,
+                                                         m_checkedOnly, m_answer, closeButton})
+        addWidget(item);
+    connect(m_text, &QLineEdit::textChanged, this, &FindBar::wantedChanged);
+    connect(m_places, &QComboBox::currentIndexChanged, this, &FindBar::wantedChanged);
+    connect(m_checkedOnly, &QCheckBox::toggled, this, &FindBar::wantedChanged);
+    connect(nextButton, &QToolButton::clicked, this, &FindBar::next);
+    connect(previousButton, &QToolButton::clicked, this, &FindBar::previous);
+    connect(closeButton, &QToolButton::clicked, this, &FindBar::dismiss);
+    hide();
+}
+
+void FindBar::present() {
+    show();
+    m_text->setFocus(Qt::ShortcutFocusReason);
+    m_text->selectAll();
+}
+
+void FindBar::dismiss() {
+    hide();
+    Q_EMIT dismissed();
+}
+
+QString FindBar::text() const {
+    return m_text->text();
+}
+
+int FindBar::place() const {
+    return m_places->currentIndex();
+}
+
+bool FindBar::checkedOnly() const {
+    return m_checkedOnly->isChecked();
+}
+
+void FindBar::setAnswer(const QString& sentence, bool final) {
+    if (m_answer->text() == sentence) return;
+    m_answer->setText(sentence);
+    m_answer->setToolTip(sentence);
+    if (final && !sentence.isEmpty()) m_announcer->say(sentence);
+}
+
+QString FindBar::answer() const {
+    return m_answer->text();
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape) {
+        dismiss();
+    } else if (enter && m_text->hasFocus()) {
+        if (event->modifiers() & Qt::ShiftModifier)
+            Q_EMIT previous();
+        else
+            Q_EMIT next();
+    } else {
+        QToolBar::keyPressEvent(event);
+    }
+}
+
+}  // namespace ui

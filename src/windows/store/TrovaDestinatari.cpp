@@ -1,0 +1,245 @@
+#include "windows/store/TrovaDestinatari.h"
+
+#include <algorithm>
+#include <QItemSelectionModel>
+#include <QShortcut>
+
+#include "modules/core/bGlobal.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/DataGrid.h"
+#include "platform/ui/FindBar.h"
+#include "platform/ui/GridSearch.h"
+#include "windows/core/Evento.h"
+#include "windows/store/frmGruppi.h"
+#include "windows/store/griglia.h"
+
+const QStringList TrovaDestinatari::luoghi{"In questa cartella", "Ovunque"};
+
+namespace {
+
+QString Conta(qint64 quanti) {
+    return text::formatGrouped(static_cast<double>(quanti));
+}
+
+QString Cartelle(qint64 quante) {
+    return quante == 1 ? QStringLiteral("1 cartella") : Conta(quante) + " cartelle";
+}
+
+}  // namespace
+
+TrovaDestinatari::TrovaDestinatari(const Principale& finestra, ui::FindBar& barraTrova, QObject* parent)
+    : QObject(parent),
+      principale(finestra),
+      barra(barraTrova),
+      inGriglia(finestra.grd.search()),
+      lavoro([this](const ui::SlicedWork::Slice& fetta) {
+          bool ancora = false;
+          evento([&] { ancora = Avanza(fetta); });
+          return ancora;
+      }),
+      albero({}) {
+    const auto guardato = [](auto passo) { return [passo] { evento(passo); }; };
+    connect(&barra, &ui::FindBar::wantedChanged, this, guardato([this] { Cambiato(); }));
+    connect(&barra, &ui::FindBar::dismissed, this, guardato([this] { Chiudi(); }));
+    connect(&barra, &ui::FindBar::next, this, guardato([this] { Vai(Meta::Successiva); }));
+    connect(&barra, &ui::FindBar::previous, this, guardato([this] { Vai(Meta::Precedente); }));
+    connect(&inGriglia, &ui::GridSearch::progressed, this, guardato([this] {
+        Avvicina();
+        Racconta();
+    }));
+    connect(principale.grd.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            guardato([this] { Racconta(); }));
+    const auto tasto = [&](const QKeySequence& tasti, Meta verso) {
+        auto* scorciatoia = new QShortcut(tasti, principale.grd.window());
+        connect(scorciatoia, &QShortcut::activated, this, guardato([this, verso] {
+                    if (barra.isVisible()) Vai(verso);
+                }));
+    };
+    tasto(Qt::Key_F3, Meta::Successiva);
+    tasto(Qt::SHIFT | Qt::Key_F3, Meta::Precedente);
+}
+
+void TrovaDestinatari::Apri() {
+    barra.present();
+    Cambiato();
+}
+
+void TrovaDestinatari::Chiudi() {
+    inGriglia.stop();
+    lavoro.stop();
+    ovunque.reset();
+    meta = Meta::Nessuna;
+    principale.grd.setFocus(Qt::OtherFocusReason);
+}
+
+void TrovaDestinatari::Cambiato() {
+    const QString testo = barra.text();
+    const bool solo = barra.checkedOnly();
+    rinuncia.clear();
+    lavoro.stop();
+    ovunque.reset();
+    meta = testo.isEmpty() ? Meta::Nessuna : Meta::Prima;
+    inGriglia.start(testo, solo);
+    if (barra.place() == Ovunque && (!testo.isEmpty() || solo)) {
+        connessione = connDB;
+        ovunque.emplace(connessione, testo, solo);
+        lavoro.start();
+    }
+    Racconta();
+}
+
+bool TrovaDestinatari::Avanza(const ui::SlicedWork::Slice&) {
+    constexpr int pausa = 200;
+    if (!ovunque) return false;
+    if (principale.ComandoInCorso()) {
+        lavoro.restFor(pausa);
+        return false;
+    }
+    const Result<bool> finita = ovunque->Avanza(std::chrono::milliseconds(ui::SlicedWork::milliseconds));
+    if (finita.status().code() == ErrorCode::FileInUse) {
+        lavoro.restFor(pausa);
+        return false;
+    }
+    if (!finita.ok()) {
+        Rinuncia(finita.status().text());
+        return false;
+    }
+    if (!finita.value()) {
+        lavoro.start();
+    } else if (Prosegui tenta; !tenta([this] { albero = AlberoCartelle::Leggi(); })) {
+        Rinuncia(tenta.testo());
+        return false;
+    }
+    Avvicina();
+    Racconta();
+    return false;
+}
+
+void TrovaDestinatari::Rinuncia(const QString& motivo) {
+    lavoro.stop();
+    ovunque.reset();
+    meta = Meta::Nessuna;
+    rinuncia = "Ricerca non riuscita: " + motivo;
+    Racconta();
+}
+
+void TrovaDestinatari::Vai(Meta nuova) {
+    if (principale.ComandoInCorso()) return;
+    provate.clear();
+    meta = nuova;
+    Avvicina();
+    Racconta();
+}
+
+/// The row that a step leads to inside the grid; 0 where there is none so far.
+int TrovaDestinatari::RigaDella(Meta quale) const {
+    const int riga = principale.grd.Row();
+    switch (quale) {
+        case Meta::Prima:
+            return inGriglia.after(riga - 1);
+        case Meta::Successiva:
+            return inGriglia.after(riga);
+        case Meta::Precedente:
+            return inGriglia.before(riga);
+        case Meta::PrimaDiCartella:
+            return inGriglia.after(0);
+        case Meta::UltimaDiCartella:
+            return inGriglia.underWay() ? 0 : inGriglia.before(principale.grd.Rows());
+        case Meta::Nessuna:
+            break;
+    }
+    return 0;
+}
+
+/// Goes as far as what is found by now allows; the next part of a search goes on.
+void TrovaDestinatari::Avvicina() {
+    if (meta == Meta::Nessuna) return;
+    if (ovunque && connessione != connDB) {
+        Cambiato();
+        return;
+    }
+    if (const int riga = RigaDella(meta)) {
+        meta = Meta::Nessuna;
+        principale.grd.showFound(riga);
+        return;
+    }
+    if (inGriglia.underWay()) return;
+    if (meta == Meta::Prima) {
+        // Typing stays in the folder: back to its first match.
+        meta = Meta::Nessuna;
+        if (const int riga = RigaDella(Meta::PrimaDiCartella)) principale.grd.showFound(riga);
+        return;
+    }
+    const bool indietro = meta == Meta::Precedente || meta == Meta::UltimaDiCartella;
+    if (ovunque && AllaCartella(indietro)) return;
+    if (ovunque && lavoro.underWay()) return;
+    meta = Meta::Nessuna;
+    if (const int riga = RigaDella(indietro ? Meta::UltimaDiCartella : Meta::PrimaDiCartella))
+        principale.grd.showFound(riga);
+}
+
+/// Opens the next folder with matches, in the order of the tree; false where there is none so far but the
+/// shown one.
+bool TrovaDestinatari::AllaCartella(bool indietro) {
+    Prosegui tenta;
+    bool aperta = false;
+    const bool riuscito = tenta([&] {
+        albero = AlberoCartelle::Leggi();
+        std::vector<std::int32_t> ordine = albero.Ordine();
+        if (indietro) std::reverse(ordine.begin(), ordine.end());
+        const std::int32_t mostrata = griglia::CartellaMostrata();
+        if (principale.grd.Rows() > 1) provate.insert(mostrata);
+        std::rotate(ordine.begin(), std::find(ordine.begin(), ordine.end(), mostrata), ordine.end());
+        const auto& trovati = ovunque->PerCartella();
+        const auto prossima = std::find_if(ordine.begin(), ordine.end(), [&](std::int32_t id) {
+            return trovati.contains(id) && !provate.contains(id);
+        });
+        if (prossima == ordine.end()) return;
+        provate.insert(*prossima);
+        meta = indietro ? Meta::UltimaDiCartella : Meta::PrimaDiCartella;
+        principale.Gruppi().Apri(albero.Chiavi(*prossima));
+        aperta = true;
+    });
+    if (!riuscito) Rinuncia(tenta.testo());
+    return !riuscito || aperta;
+}
+
+QString TrovaDestinatari::EsitoCartella() const {
+    const std::vector<int>& righe = inGriglia.rows();
+    const auto quante = static_cast<qint64>(righe.size());
+    if (inGriglia.underWay()) return Conta(quante) + " trovati, ricerca in corso…";
+    if (righe.empty()) return "Nessun risultato";
+    const auto posto = std::lower_bound(righe.begin(), righe.end(), principale.grd.Row());
+    if (posto != righe.end() && *posto == principale.grd.Row())
+        return Conta(posto - righe.begin() + 1) + " di " + Conta(quante);
+    return quante == 1 ? QStringLiteral("1 trovato") : Conta(quante) + " trovati";
+}
+
+QString TrovaDestinatari::EsitoOvunque() const {
+    const qint64 tutti = ovunque->Trovati();
+    if (lavoro.underWay()) return Conta(tutti) + " trovati, ricerca in corso…";
+    if (tutti == 0) return "Nessun risultato";
+    qint64 perduti = tutti;
+    qint64 cartelle = 0;
+    for (const auto& [id, quanti] : ovunque->PerCartella()) {
+        if (!albero.Raggiunta(id)) continue;
+        perduti -= quanti;
+        ++cartelle;
+    }
+    QString esito = Conta(tutti) + " in " + Cartelle(cartelle);
+    if (perduti > 0) esito += ", " + Conta(perduti) + " in cartelle perdute";
+    if (!inGriglia.underWay() && !inGriglia.rows().empty()) esito += "; qui " + EsitoCartella();
+    return esito;
+}
+
+void TrovaDestinatari::Racconta() {
+    if (!barra.isVisible()) return;
+    const bool vuota = barra.text().isEmpty() && !barra.checkedOnly();
+    const bool finita = !inGriglia.underWay() && !(ovunque && lavoro.underWay());
+    if (!rinuncia.isEmpty())
+        barra.setAnswer(rinuncia, true);
+    else if (vuota)
+        barra.setAnswer({}, false);
+    else
+        barra.setAnswer(ovunque ? EsitoOvunque() : EsitoCartella(), finita);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <QObject>
+#include <set>
+
+#include "modules/store/AlberoCartelle.h"
+#include "modules/store/CercaOvunque.h"
+#include "platform/ui/SlicedWork.h"
+#include "windows/store/Principale.h"
+
+namespace ui {
+class FindBar;
+class GridSearch;
+}  // namespace ui
+
+/// What stands behind the bar that finds recipients: in the folder that the grid shows, or everywhere. As one
+/// types, the first match of the folder becomes the current row and the counts come in; going on past the
+/// last match of the folder opens the next one that has some, by what a click on it does. Nothing is written.
+class TrovaDestinatari : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Indexes of the places to look, as the bar lists them.
+    enum Dove { InCartella, Ovunque };
+    static const QStringList luoghi;
+
+    TrovaDestinatari(const Principale& finestra, ui::FindBar& barra, QObject* parent);
+
+    /// Opens the bar, or goes back to it; what it looks for is looked for anew.
+    void Apri();
+
+  private:
+    /// The row that is gone to as soon as it is found.
+    enum class Meta { Nessuna, Prima, Successiva, Precedente, PrimaDiCartella, UltimaDiCartella };
+
+    void Cambiato();
+    void Chiudi();
+    void Vai(Meta nuova);
+    void Avvicina();
+    int RigaDella(Meta quale) const;
+    bool AllaCartella(bool indietro);
+    bool Avanza(const ui::SlicedWork::Slice& fetta);
+    void Rinuncia(const QString& motivo);
+
+    void Racconta();
+    QString EsitoCartella() const;
+    QString EsitoOvunque() const;
+
+    const Principale principale;
+    ui::FindBar& barra;
+    ui::GridSearch& inGriglia;
+    ui::SlicedWork lavoro;
+    std::optional<CercaOvunque> ovunque;
+    QString connessione;             ///< of the search everywhere
+    AlberoCartelle albero;           ///< when the last search everywhere began
+    std::set<std::int32_t> provate;  ///< the folders that were opened for the present step
+    Meta meta = Meta::Nessuna;
+    QString rinuncia;  ///< why nothing is looked for
+};
