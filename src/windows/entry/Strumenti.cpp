@@ -1,7 +1,9 @@
 #include "windows/entry/Strumenti.h"
 
+#include "platform/ui/DataGrid.h"
 #include "windows/entry/Finestre.h"
 #include "windows/strumenti/frmControlloMittente.h"
+#include "windows/store/griglia.h"
 #include "windows/strumenti/frmEsiti.h"
 #include "windows/strumenti/frmProva.h"
 
@@ -25,9 +27,14 @@ void apriEsiti() {
     esiti.exec();
 }
 
+void ordinaGriglia() {
+    griglia::grd().sortBy(griglia::grd().Col());
+}
+
 }  // namespace
 
-// Mnemonics in the order of the menu: &Prova, &mittente, &Esito; &Indirizzi, &cartelle; &Ultima.
+// Mnemonics in the order of the menu: &Prova, &mittente, &Esito; &Trova, &Ordina, &Indirizzi, &cartelle;
+// &Ultima.
 std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
     const frmMain::GruppoStrumenti invio{
         {"cmdStrumentiProva", "&Prova messaggio...", "Il messaggio come lo riceve un destinatario",
@@ -37,7 +44,20 @@ std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
          apriControllo},
         {"cmdStrumentiEsiti", "&Esito degli invii...", "Chi ha ricevuto i messaggi, chi no e perché",
          "view-list-details", apriEsiti}};
-    const frmMain::GruppoStrumenti destinatari{};
+    const frmMain::GruppoStrumenti destinatari{
+        {"cmdTrova",
+         "&Trova destinatari...",
+         "Trova destinatari nella cartella o ovunque",
+         "edit-find",
+         [] { Main().ApriTrova(); },
+         {QKeySequence::Find}},
+        {"cmdOrdina",
+         "&Ordina per la colonna corrente",
+         "Ordina l'elenco per la colonna corrente; la terza volta torna l'ordine di prima",
+         "view-list-details",
+         ordinaGriglia,
+         {Qt::CTRL | Qt::SHIFT | Qt::Key_O}},
+    };
     const frmMain::GruppoStrumenti importazione{};
     return {invio, destinatari, importazione};
 }

@@ -59,7 +59,7 @@ frmMain::frmMain(Vicini intorno)
 
 void frmMain::Carica() {
     griglia::Collega(PerGruppiEGriglia());
-    CreaTrova();
+    trova = new TrovaDestinatari(PerGruppiEGriglia(), *barraTrova, this);
     CentraForm(vicini.Splash());
     SvuotaGriglia();
     RilevaTema(this);
@@ -106,6 +106,10 @@ frmGruppi& frmMain::Gruppi() {
     QWidget* contenuto = pannelli.DockWindows("dckGruppi")->content();
     if (!contenuto) fallisci(ErrorCode::ItemNotFound);
     return static_cast<frmGruppi&>(*contenuto);
+}
+
+void frmMain::ApriTrova() {
+    trova->Apri();
 }
 
 void frmMain::SvuotaGriglia() {

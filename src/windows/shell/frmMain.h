@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <optional>
+#include <QKeySequence>
+#include <QList>
 #include <QMainWindow>
 #include <QString>
 #include <QStringList>
@@ -50,6 +52,7 @@ class frmMain : public QMainWindow {
         QString descrizione;
         QString icona;
         Apertura apri;
+        QList<QKeySequence> tasti = {};
     };
     /// The commands between two separators.
     using GruppoStrumenti = std::vector<Strumento>;
@@ -88,6 +91,9 @@ class frmMain : public QMainWindow {
     /// The group window, reached through its pane. Fails when the load did not get that far.
     frmGruppi& Gruppi();
 
+    /// Opens the bar that finds recipients.
+    void ApriTrova();
+
     /// Runs the command of that name; a name that is not known has no effect. Unguarded. While one command
     /// runs, further ones are ignored.
     void ComandoPremuto(const QString& nome);
@@ -125,7 +131,6 @@ class frmMain : public QMainWindow {
     /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars; F10 opens the first menu.
     void CreaGiroFuoco(frmGruppi& gruppi);
     void AggiornaData();
-    void CreaTrova();
 
     // frmMain_comandi.cpp
     struct RigaComando;
@@ -153,6 +158,7 @@ class frmMain : public QMainWindow {
     ui::DockPanes pannelli;
     ui::DataGrid* destinatari;
     ui::FindBar* barraTrova;
+    TrovaDestinatari* trova = nullptr;
     ui::DataControl* dati;
     QString primaDellAttesa;
     bool comandoInCorso = false;

@@ -14,7 +14,6 @@
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
-#include "windows/store/TrovaDestinatari.h"
 
 namespace {
 
@@ -132,7 +131,8 @@ QStringList frmMain::CreaStrumenti() {
     for (const GruppoStrumenti& gruppo : vicini.strumenti) {
         if (!gruppo.empty() && !voci.isEmpty()) voci << "|";
         for (const Strumento& strumento : gruppo) {
-            barre->addCommand({strumento.nome, strumento.didascalia, strumento.descrizione, strumento.icona},
+            barre->addCommand({strumento.nome, strumento.didascalia, strumento.descrizione, strumento.icona,
+                               strumento.tasti},
                               [this, &strumento] { evento([&] { ApriStrumento(strumento); }); });
             voci << strumento.nome;
         }
@@ -179,16 +179,6 @@ void frmMain::AggiornaComandi() {
     const bool daGriglia = !menuAlbero.isEmpty() && !griglia::MenuOra().isEmpty();
     barre->GetToolButton("cmdPopMailingNew")->setOnBars(!menuAlbero.isEmpty());
     barre->GetToolButton("cmdPopMailingUserNew")->setOnBars(menuAlbero == "popMailing" || daGriglia);
-}
-
-void frmMain::CreaTrova() {
-    auto* trova = new TrovaDestinatari(PerGruppiEGriglia(), *barraTrova, this);
-    auto* scorciatoia = new QShortcut(QKeySequence::Find, this);
-    connect(scorciatoia, &QShortcut::activated, this, [this, trova] {
-        evento([&] {
-            if (!comandoInCorso) trova->Apri();
-        });
-    });
 }
 
 void frmMain::CreaGiroFuoco(frmGruppi& gruppi) {

@@ -298,17 +298,18 @@ class TestBars : public QObject {
                                 bar(stage, "Mailing")->geometry().bottom() + 1),
                          QPoint(window.width() - 1, window.statusBar()->y() - 1));
         };
-        const QRect before = window.grd().geometry();
+        const auto actual = [&] { return QRect(window.grd().mapTo(&window, QPoint()), window.grd().size()); };
+        const QRect before = actual();
         QCOMPARE(before.left(), expected().left());
         QCOMPARE(before.right(), expected().right());
         QVERIFY(qAbs(before.top() - expected().top()) <= 1);
         QCOMPARE(before.bottom(), expected().bottom());
         window.resize(1200, 700);
         window.resizeDocks({pane}, {300}, Qt::Horizontal);
-        QTRY_VERIFY(window.grd().geometry() != before);
-        QTRY_COMPARE(window.grd().geometry().right(), expected().right());
-        QCOMPARE(window.grd().geometry().left(), expected().left());
-        QCOMPARE(window.grd().geometry().bottom(), expected().bottom());
+        QTRY_VERIFY(actual() != before);
+        QTRY_COMPARE(actual().right(), expected().right());
+        QCOMPARE(actual().left(), expected().left());
+        QCOMPARE(actual().bottom(), expected().bottom());
     }
 
     void theWindowOpensAtItsDesignSize() {

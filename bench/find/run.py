@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""Finding and sorting among 1,000,000 recipients: a full miss against one scan of the engine, the longest time that the window's
+thread is held, the answer to a key struck in the middle of a search.
+
+    run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
+
+Every measurement is a process of its own.
+"""
+import json
+import pathlib
+import subprocess
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
+import tools  # noqa: E402
+
+ROWS = 1_000_000
+SLICE = 20.0
+ANSWER = 100.0
+SCANS = 2.0
+
+
+def measure(program, what, path):
+    done = subprocess.run([program, what, str(path)], stdout=subprocess.PIPE, text=True, check=True)
+    result = json.loads(done.stdout)
+    if result.get("rows", ROWS) != ROWS:
+        raise SystemExit(f"{what} met {result['rows']} rows")
+    return result
+
+
+def record(name, value, unit, peer, ratio, goal):
+    return {"name": name, "value": value, "unit": unit, "peer": peer, "ratio": ratio, "goal": goal, "met": ratio <= goal}
+
+
+def main():
+    build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 3
+    program = str(build / "bench/find/find_rows")
+    database = work / "million.mdb"
+    if not database.exists():
+        making = work / "making.mdb"
+        making.unlink(missing_ok=True)
+        subprocess.run([str(build / "bench/scan/scan_recipients"), "--make", str(making), str(ROWS)], stdout=subprocess.DEVNULL,
+                       check=True)
+        subprocess.run([program, "--one-folder", str(making)], check=True)
+        making.rename(database)
+    runs = {what: [] for what in ("--scan", "--everywhere", "--grid")}
+    for _ in range(rounds):
+        for what, results in runs.items():
+            results.append(measure(program, what, database))
+
+    def median(what, key):
+        return tools.median([result[key] for result in runs[what]])
+
+    scan = median("--scan", "ms")
+    records = [record(f"a full miss {where}", miss, "ms", "one scan of the engine", miss / scan, SCANS)
+               for where, miss in (("everywhere", median("--everywhere", "ms")), ("in the folder", median("--grid", "search")))]
+    for name, what, key, most in (("slice of a search everywhere", "--everywhere", "longest", SLICE),
+                                  ("slice of a search in the folder", "--grid", "searchLongest", SLICE),
+                                  ("slice of a sort", "--grid", "sortLongest", SLICE),
+                                  ("answer to a key during a search", "--grid", "answer", ANSWER)):
+        value = median(what, key)
+        records.append(record(f"longest {name}", value, "ms", f"{most:.0f} ms", value / most, 1.0))
+    print(json.dumps(records))
+
+
+if __name__ == "__main__":
+    main()
