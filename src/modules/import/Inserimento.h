@@ -57,6 +57,8 @@ class Inserimento {
     /// Inserts one recipient. Unguarded: a row that is refused leaves those before it and the database as
     /// they are.
     void Inserisci(const QString& gruppo, const inserimento::Valori& valori);
+    /// Rows that stand in the database for good.
+    qint64 Scritti() const { return comando.committed(); }
     /// Sees the last rows safely to disk, as the destructor does. Unguarded.
     void Conferma();
 

@@ -36,8 +36,8 @@ QString pulito(QStringView campo, inserimento::Colonna colonna) {
 
 }  // namespace
 
-std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga,
-                                                    const PuntoImportazione& punto) const {
+std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga, const PuntoImportazione& punto,
+                                                    QString* rifiutato) const {
     const std::vector<QStringView> trovati =
         primiCampi(riga, separatore, *std::max_element(posizioni.begin(), posizioni.end()));
     const auto esiste = [&](int posizione) {
@@ -50,7 +50,10 @@ std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga,
     if (!esiste(posizioni[campi::boxEmail])) campoMancante(posizioni[campi::boxEmail], punto);
     inserimento::Valori valori;
     valori[inserimento::email] = campo(campi::boxEmail);
-    if (!EmailValida(valori[inserimento::email])) return std::nullopt;
+    if (!EmailValida(valori[inserimento::email])) {
+        if (rifiutato) *rifiutato = valori[inserimento::email];
+        return std::nullopt;
+    }
     for (int box = 0; box < campi::quanti; ++box) {
         const auto indice = static_cast<std::size_t>(box);
         if (box != campi::boxEmail && esiste(posizioni[indice])) valori[campi::colonne[indice]] = campo(box);

@@ -25,5 +25,7 @@ struct RigaTesto {
     /// The cleaned values of a line, cut to their limits beforehand. None when its address is refused.
     /// Unguarded: fails with SubscriptOutOfRange when the line has no field for the address; an empty line
     /// has no field at all. The text then tells the line, the field and how many recipients are in.
-    std::optional<inserimento::Valori> Leggi(const QString& riga, const PuntoImportazione& punto = {}) const;
+    /// A refused address goes into `rifiutato`.
+    std::optional<inserimento::Valori> Leggi(const QString& riga, const PuntoImportazione& punto = {},
+                                             QString* rifiutato = nullptr) const;
 };

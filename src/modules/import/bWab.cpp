@@ -38,7 +38,7 @@ QString TagliaNulli(const QString& testo) {
 }
 
 std::optional<inserimento::Valori> LeggiVoceWab(const contacts::AddressBook& rubrica,
-                                                const contacts::Entry& voce) {
+                                                const contacts::Entry& voce, QString* rifiutato) {
     inserimento::Valori valori;
     // One buffer for all reads, and none of them clears it: what an earlier, longer value left behind a
     // terminator would still stand there.
@@ -52,7 +52,10 @@ std::optional<inserimento::Valori> LeggiVoceWab(const contacts::AddressBook& rub
         valore = text::trimBlanks(valore.remove(u'\'')).toString();
     QString& nome = valori[inserimento::nom];
     if (const qsizetype nullo = nome.indexOf(QChar::Null); nullo >= 0) nome.truncate(nullo);
-    if (!EmailValida(valori[inserimento::email])) return std::nullopt;
+    if (!EmailValida(valori[inserimento::email])) {
+        if (rifiutato) *rifiutato = valori[inserimento::email];
+        return std::nullopt;
+    }
     for (int i = 0; i < inserimento::numeroColonne; ++i) {
         const auto colonna = static_cast<inserimento::Colonna>(i);
         valori[colonna] = inserimento::Taglia(valori[colonna], colonna);

@@ -34,7 +34,7 @@ FindBar::FindBar(const QStringList& places, QWidget* parent)
     : QToolBar("Trova", parent),
       m_text(textField("txtTrova", this)),
       m_places(choiceField("cmbDove", places, this)),
-      m_checkedOnly(named(new QCheckBox("&Solo selezionati", this), "chkSoloSelezionati")),
+      m_checkedOnly(named(new QCheckBox("Solo sele&zionati", this), "chkSoloSelezionati")),
       m_answer(named(new QLabel(this), "lblTrovati")),
       m_announcer(new Announcer(this)) {
     setObjectName("Trova");
@@ -47,7 +47,6 @@ FindBar::FindBar(const QStringList& places, QWidget* parent)
     m_text->setMinimumWidth(scaledToFont(*this, 140));
     m_text->setMaximumWidth(scaledToFont(*this, 260));
     m_places->setAccessibleName("Dove cercare");
-    m_answer->setAccessibleName("Esito");
     m_answer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     auto* previousButton =
         barButton("cmdTrovaPrecedente", "Precedente", "go-up", "Trova precedente (Maiusc+Invio)");

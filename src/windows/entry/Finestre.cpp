@@ -19,6 +19,7 @@
 #include "windows/strumenti/frmControlloMittente.h"
 #include "windows/strumenti/frmEsiti.h"
 #include "windows/strumenti/frmProva.h"
+#include "windows/strumenti/frmUltimaImportazione.h"
 
 // The program ends without unloading its windows, so nothing here is destroyed at the end.
 
@@ -104,6 +105,10 @@ frmSplash& finestre::Splash() {
         apertura->Carica();
     }
     return *apertura;
+}
+
+frmUltimaImportazione& finestre::UltimaImportazione() {
+    return dialogo<frmUltimaImportazione>(Main());
 }
 
 void finestre::ScaricaSplash() {

@@ -14,6 +14,7 @@ class frmPropBody;
 class frmProva;
 class frmScelta;
 class frmSplash;
+class frmUltimaImportazione;
 
 /// The references of the windows: each window exists once, is created when it is first named and is kept for
 /// the whole run, so that a window that is only hidden keeps its content for the next opening.
@@ -34,6 +35,7 @@ namespace finestre {
 ::frmImpDB& ImpDB();
 ::frmProva& Prova();
 ::frmControlloMittente& Controllo();
+::frmUltimaImportazione& UltimaImportazione();
 
 /// The splash is the one window that is unloaded: a later mention loads it again.
 ::frmSplash& Splash();

@@ -1,11 +1,19 @@
 #include "windows/entry/Strumenti.h"
 
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/import/UltimaImportazione.h"
+#include "modules/store/AlberoCartelle.h"
+#include "modules/store/nodo.h"
 #include "platform/ui/DataGrid.h"
 #include "windows/entry/Finestre.h"
-#include "windows/strumenti/frmControlloMittente.h"
+#include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
+#include "windows/strumenti/frmControlloMittente.h"
 #include "windows/strumenti/frmEsiti.h"
 #include "windows/strumenti/frmProva.h"
+#include "windows/strumenti/frmUltimaImportazione.h"
+#include "windows/strumenti/ViciniDestinatari.h"
 
 namespace {
 
@@ -25,6 +33,34 @@ void apriEsiti() {
     frmEsiti& esiti = finestre::Esiti();
     esiti.Carica();
     esiti.exec();
+}
+
+/// The row that was current is so again, if it is still there.
+void rinfrescaGriglia() {
+    ui::DataGrid& grd = griglia::grd();
+    if (grd.Rows() == 1) return;
+    const QString id = ripiega(QString(), griglia::idCorrente);
+    griglia::RinfrescaGriglia();
+    griglia::ScegliRiga(id);
+}
+
+/// The tree as the table has it now, with the current group open in it, if a way leads there.
+void ricaricaAlbero() {
+    frmGruppi& gruppi = finestre::Main().Gruppi();
+    gruppi.CaricaGruppiINI();
+    const QStringList chiavi =
+        nodoCorrente ? AlberoCartelle::Leggi().Chiavi(NumeroNodoCorrente().toInt()) : QStringList();
+    if (!chiavi.isEmpty()) gruppi.Apri(chiavi);
+}
+
+ViciniDestinatari intornoAiDestinatari() {
+    return {rinfrescaGriglia, ricaricaAlbero};
+}
+
+void apriUltimaImportazione() {
+    frmUltimaImportazione& finestra = finestre::UltimaImportazione();
+    finestra.Mostra(ultimaImportazione());
+    finestra.exec();
 }
 
 void ordinaGriglia() {
@@ -57,7 +93,15 @@ std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
          "view-list-details",
          ordinaGriglia,
          {Qt::CTRL | Qt::SHIFT | Qt::Key_O}},
+        {"cmdDoppi", "&Indirizzi doppi...", "Trova gli indirizzi selezionati più di una volta", "edit-copy",
+         [] { ControllaDoppi(intornoAiDestinatari()); }},
+        {"cmdPerdute", "Recupera &cartelle perdute...",
+         "Riporta sotto la radice cartelle e destinatari che l'albero non mostra", "folder-new",
+         [] { RecuperaPerdute(intornoAiDestinatari()); }},
     };
-    const frmMain::GruppoStrumenti importazione{};
+    const frmMain::GruppoStrumenti importazione{
+        {"cmdUltimaImportazione", "&Ultima importazione...",
+         "Righe importate e rifiutate dall'ultima importazione", "view-list-text", apriUltimaImportazione},
+    };
     return {invio, destinatari, importazione};
 }

@@ -1,10 +1,11 @@
 #include "windows/import/ImportaContatti.h"
 
+#include "modules/import/UltimaImportazione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/import/frmScelta.h"
 
-bool ImportaContatti::Comincia() {
+bool ImportaContatti::Comincia(const QString& origine) {
     frmScelta& scelta = vicini.Scelta();
     scelta.exec();
     if (scelta.sceltaAnnullata) return false;
@@ -15,6 +16,7 @@ bool ImportaContatti::Comincia() {
         cartella::Scegli(scelta.Scelta(), rs, cartella::avvisoCartella, std::ref(prosegui), vicini.NuovoNodo);
     if (!scelto) return false;
     gruppo = *scelto;
+    ultimaImportazione().Comincia(origine);
     return true;
 }
 
@@ -27,11 +29,16 @@ void ImportaContatti::Avanza() {
     vicini.stcProgress().setValue(vicini.stcProgress().value() + 1);
 }
 
-void ImportaContatti::Inserisci(const inserimento::Valori& valori) {
-    prosegui([&] { inserimento.Inserisci(gruppo, valori); });
+void ImportaContatti::Inserisci(qint64 numero, const inserimento::Valori& valori) {
+    const QString& indirizzo = valori[inserimento::email];
+    if (prosegui([&] { inserimento.Inserisci(gruppo, valori); }))
+        ultimaImportazione().Importata(numero, indirizzo);
+    else
+        ultimaImportazione().Rifiutata(numero, indirizzo, prosegui.testo());
 }
 
 void ImportaContatti::Finisci() {
     vicini.stcProgress().setValue(0);
     prosegui([&] { inserimento.Conferma(); });
+    ultimaImportazione().Finisci(inserimento.Scritti());
 }

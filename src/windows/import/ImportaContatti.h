@@ -25,13 +25,14 @@ class ImportaContatti {
     explicit ImportaContatti(ViciniContatti intorno) : vicini(std::move(intorno)) {}
 
     /// Asks for the group. False when the user gave up, or wanted the current group and there is none.
-    bool Comincia();
+    /// `origine`: where the contacts come from, as the user knows it.
+    bool Comincia(const QString& origine);
 
     /// Sets the counter to 0 of `massimo`.
     void Conta(int massimo);
     void Avanza();
     /// Inserts a recipient into the group; one that is refused is left out without a word.
-    void Inserisci(const inserimento::Valori& valori);
+    void Inserisci(qint64 numero, const inserimento::Valori& valori);
     /// The last rows to disk, the counter back to 0.
     void Finisci();
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "modules/core/bFunctions.h"
+#include "modules/import/UltimaImportazione.h"
 #include "platform/contacts/ContactFolder.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/import/ImportaContatti.h"
@@ -28,6 +29,11 @@ inserimento::Valori ValoriDi(const contacts::Contact& contatto) {
     metti(inserimento::tel, contatto.businessTelephoneNumber);
     metti(inserimento::fax, contatto.businessFaxNumber);
     return valori;
+}
+
+QString MotivoOutlook(const QString& indirizzo) {
+    return EmailValida(indirizzo) ? QStringLiteral("L'indirizzo ha meno di %1 caratteri").arg(minimoIndirizzo)
+                                  : MotivoIndirizzo(indirizzo);
 }
 
 Result<contacts::ContactFolder> LeggiOutlook(const ViciniContatti& vicini) {
@@ -54,7 +60,7 @@ void AvvisaSenzaMura(const ViciniContatti& vicini, const QStringList& mura) {
 
 void ImportaOutlook(const ViciniContatti& vicini) {
     ImportaContatti importa(vicini);
-    if (!importa.Comincia()) return;
+    if (!importa.Comincia("contatti di Outlook")) return;
     const auto cartella = LeggiOutlook(vicini);
     if (!cartella.ok()) return;
 
@@ -64,9 +70,13 @@ void ImportaOutlook(const ViciniContatti& vicini) {
     for (std::size_t i = 0; i < voci.size(); ++i) {
         QCoreApplication::processEvents();
         const auto voce = voci[i];
-        if (!voce || !EmailValida(voce->email1Address) || voce->email1Address.size() < minimoIndirizzo)
+        const auto numero = static_cast<qint64>(i) + 1;
+        if (!voce || !EmailValida(voce->email1Address) || voce->email1Address.size() < minimoIndirizzo) {
+            ultimaImportazione().Rifiutata(numero, voce ? voce->email1Address : QString(),
+                                           voce ? MotivoOutlook(voce->email1Address) : "Non è un contatto");
             continue;
-        importa.Inserisci(ValoriDi(*voce));
+        }
+        importa.Inserisci(numero, ValoriDi(*voce));
         importa.Avanza();
     }
     importa.Finisci();

@@ -4,12 +4,13 @@
 #include <vector>
 
 #include "modules/import/bWab.h"
+#include "modules/import/UltimaImportazione.h"
 #include "windows/core/Puntatore.h"
 #include "windows/import/ImportaContatti.h"
 
 void ImportaRubrica(const ViciniContatti& vicini) {
     ImportaContatti importa(vicini);
-    if (!importa.Comincia()) return;
+    if (!importa.Comincia("rubrica")) return;
     contacts::AddressBook rubrica;
     if (!rubrica.open().ok()) return;
 
@@ -19,8 +20,11 @@ void ImportaRubrica(const ViciniContatti& vicini) {
     std::vector<contacts::Entry> voci(static_cast<std::size_t>(rubrica.entryCount()));
     const int lette = rubrica.entries(voci);
     for (int i = 0; i < lette; ++i) {
-        if (const auto valori = LeggiVoceWab(rubrica, voci[static_cast<std::size_t>(i)]))
-            importa.Inserisci(*valori);
+        QString rifiutato;
+        if (const auto valori = LeggiVoceWab(rubrica, voci[static_cast<std::size_t>(i)], &rifiutato))
+            importa.Inserisci(i + 1, *valori);
+        else
+            ultimaImportazione().Rifiutata(i + 1, rifiutato, MotivoIndirizzo(rifiutato));
         importa.Avanza();
     }
     importa.Finisci();

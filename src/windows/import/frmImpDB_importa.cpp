@@ -5,6 +5,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "modules/import/UltimaImportazione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/ConnectionText.h"
@@ -65,14 +66,22 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
                    Inserimento& inserimento, Prosegui& prosegui) {
     ui::Busy lavoro;
     Valori valori;
-    while (!rs.isEof()) {
-        if (leggi(rs, sorgenti, valori) && EmailValida(valori[email]))
-            prosegui([&] { inserimento.Inserisci(gruppo, valori); });
+    UltimaImportazione& resoconto = ultimaImportazione();
+    for (qint64 numero = 1; !rs.isEof(); ++numero) {
+        if (!leggi(rs, sorgenti, valori))
+            resoconto.Rifiutata(numero, {}, "Il record non si legge");
+        else if (!EmailValida(valori[email]))
+            resoconto.Rifiutata(numero, valori[email], MotivoIndirizzo(valori[email]));
+        else if (prosegui([&] { inserimento.Inserisci(gruppo, valori); }))
+            resoconto.Importata(numero, valori[email]);
+        else
+            resoconto.Rifiutata(numero, valori[email], prosegui.testo());
         // Where the source cannot be read on, the same record would come for ever.
         if (!prosegui([&] { esigi(rs.moveNext()); })) break;
         lavoro.breathe();
     }
     prosegui([&] { inserimento.Conferma(); });
+    resoconto.Finisci(inserimento.Scritti());
 }
 
 }  // namespace
@@ -155,6 +164,8 @@ void frmImpDB::cmdImportaDB_Click() {
     prosegui([&] { esigi(rs.setActiveConnection(sorgente)); });
     rs.setSource("SELECT * FROM [" + tabella + "] ;");
     prosegui([&] { esigi(rs.open()); });
+    ultimaImportazione().Comincia("tabella \"" + tabella + "\" di " +
+                                  NomeDaPercorso(PercorsoScritto(txtDatabase->text())));
     if (!rs.isBof() && !rs.isEof())
         importaRecord(rs, sorgentiDi(*riquadroCampi), *gruppo, inserimento, prosegui);
     rs.close();

@@ -9,6 +9,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/import/RigaTesto.h"
+#include "modules/import/UltimaImportazione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/text/TextFile.h"
 #include "platform/ui/Busy.h"
@@ -112,16 +113,23 @@ void frmImpTXT::cmdImportaTXT_Click() {
     esigi(file.open(percorso, text::LineEnds::Any, text::Encoding::Detected));
     const RigaTesto regola = Regola();
     QString riga;
+    QString rifiutato;
     PuntoImportazione punto;
+    UltimaImportazione& resoconto = ultimaImportazione();
+    resoconto.Comincia("file di testo " + NomeDaPercorso(percorso));
     for (; !file.atEnd(); ++punto.riga) {
         esigi(file.readLine(riga));
-        if (const auto valori = regola.Leggi(riga, punto)) {
+        if (const auto valori = regola.Leggi(riga, punto, &rifiutato)) {
             inserimento.Inserisci(*gruppo, *valori);
             ++punto.inseriti;
+            resoconto.Importata(punto.riga, (*valori)[inserimento::email]);
+        } else {
+            resoconto.Rifiutata(punto.riga, riga, MotivoIndirizzo(rifiutato));
         }
         lavoro.breathe();
     }
     esigi(file.status());
     inserimento.Conferma();
+    resoconto.Finisci(inserimento.Scritti());
     hide();
 }

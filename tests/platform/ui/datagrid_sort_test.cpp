@@ -102,7 +102,8 @@ class TestDataGridSort : public QObject {
     void headingTellsItsOrderToAssistivePrograms() {
         Window test;
         const auto told = [&] {
-            const auto* face = static_cast<ui::ItemViewAccess*>(QAccessible::queryAccessibleInterface(test.grid));
+            const auto* face =
+                static_cast<ui::ItemViewAccess*>(QAccessible::queryAccessibleInterface(test.grid));
             return face->head(Qt::Horizontal, 3)->text(QAccessible::Description);
         };
         QCOMPARE(told(), QString());

@@ -1,0 +1,76 @@
+// The command "Recupera cartelle perdute...".
+#include "modules/strumenti/CartellePerdute.h"
+
+#include <QScopeGuard>
+
+#include "modules/core/bGlobal.h"
+#include "modules/core/Fallimento.h"
+#include "modules/strumenti/Giro.h"
+#include "platform/text/NumberText.h"
+#include "platform/ui/Busy.h"
+#include "platform/ui/ListQuestion.h"
+#include "platform/ui/MessageDialog.h"
+#include "windows/core/Puntatore.h"
+#include "windows/strumenti/ViciniDestinatari.h"
+
+namespace {
+
+using ui::MessageDialog;
+
+/// More lines are counted and not listed.
+constexpr std::size_t vociElencate = 2000;
+
+CartellePerdute TrovaPerdute() {
+    PuntatoreAttesa();
+    const auto fatto = qScopeGuard(PuntatorePredefinito);
+    ui::Busy lavoro;
+    ContaPerCartella conta(connDB);
+    strumenti::GiraTutto([&](auto tempo) { return conta.Avanza(tempo); }, [&] { lavoro.breathe(); });
+    return {AlberoCartelle::Leggi(), conta};
+}
+
+QString QuantiDi(qint64 numero, const char* uno, const char* molti) {
+    return text::formatGrouped(static_cast<double>(numero)) + ' ' +
+           QString::fromUtf8(numero == 1 ? uno : molti);
+}
+
+ui::ListQuestion::Content DomandaPerdute(const CartellePerdute& perdute) {
+    ui::ListQuestion::Content domanda{
+        "Recupera cartelle perdute", {}, {"Cartella", "Destinatari", "Perché non si vede"}, {}, {}};
+    for (std::size_t i = 0; i < perdute.voci.size() && i < vociElencate; ++i) {
+        const CartellePerdute::Voce& voce = perdute.voci[i];
+        domanda.rows << QStringList{voce.nome, text::formatGrouped(static_cast<double>(voce.destinatari)),
+                                    voce.motivo};
+    }
+    domanda.text = "L'albero non mostra " + QuantiDi(perdute.cartelle, "cartella", "cartelle") + " e " +
+                   QuantiDi(perdute.destinatari, "destinatario", "destinatari") +
+                   ".\r\nPortarli sotto \"Database Mailing\"?";
+    if (perdute.voci.size() > vociElencate)
+        domanda.text += "\r\nL'elenco mostra le prime " + QString::number(vociElencate) + " righe.";
+    return domanda;
+}
+
+}  // namespace
+
+void RecuperaPerdute(const ViciniDestinatari& vicini) {
+    Prosegui prosegui;
+    const bool riuscito = prosegui([&] {
+        const CartellePerdute perdute = TrovaPerdute();
+        if (perdute.voci.empty()) {
+            MessageDialog::show("Nessuna cartella è perduta: l'albero le mostra tutte.",
+                                MessageDialog::Notice, "Recupera cartelle perdute");
+            return;
+        }
+        if (MessageDialog::askAbout(DomandaPerdute(perdute)) == MessageDialog::No) return;
+        PuntatoreAttesa();
+        const auto fatto = qScopeGuard(PuntatorePredefinito);
+        // What was done before a failure is shown as well.
+        const bool recuperate = prosegui([&] { RecuperaCartelle(perdute); });
+        const QString motivo = prosegui.testo();
+        vicini.RicaricaAlbero();
+        if (!recuperate) fallisci(static_cast<ErrorCode>(prosegui.numero()), motivo);
+    });
+    if (riuscito) return;
+    MessageDialog::show("Impossibile recuperare tutte le cartelle.\r\n" + prosegui.testo(),
+                        MessageDialog::Notice, "Recupera cartelle perdute");
+}
