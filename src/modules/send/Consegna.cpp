@@ -21,24 +21,38 @@ void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prose
     SMTP.OAuthFolder = dati + QStringLiteral("oauth");
 }
 
-void ScegliStrada(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
-                  Prosegui& prosegui) {
+bool StradaDiretta(const Account& mittente) {
     const auto usaSMTP = text::numberFromText(mittente.chkUsaSMTP);
-    const bool diretta = usaSMTP.ok() && usaSMTP.value() == 0;
-    SMTP.OpportunisticTls = diretta;
-    SMTP.PublicServersOnly = diretta;
-    if (diretta) {
-        // Without a mail exchanger there is no host, and the delivery fails.
-        prosegui([&] { MXQuery(DominioDi(SMTP.ToAddress)); });
-        SMTP.ServerName = bestMX;
-        SMTP.NoServerReason = TestoMotivo(motivoMX);
-        SMTP.ServerPort = 25;
-    } else {
-        SMTP.ServerName = mittente.txtServerSMTP;
-        prosegui([&] { SMTP.ServerPort = NumeroPorta(mittente.txtServerPORT); });
-    }
+    return usaSMTP.ok() && usaSMTP.value() == 0;
+}
+
+void UsaServerMX(mail::DeliveryControl& SMTP, const QString& server, const QString& motivo) {
+    SMTP.OpportunisticTls = true;
+    SMTP.PublicServersOnly = true;
+    SMTP.ServerName = server;
+    SMTP.NoServerReason = motivo;
+    SMTP.ServerPort = 25;
+    SMTP.UseAuth = false;
+    SMTP.UserName = QString();
+    SMTP.UserPassword = QString();
+}
+
+void UsaServerAccount(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
+                      Prosegui& prosegui) {
+    SMTP.OpportunisticTls = false;
+    SMTP.PublicServersOnly = false;
+    SMTP.ServerName = mittente.txtServerSMTP;
+    prosegui([&] { SMTP.ServerPort = NumeroPorta(mittente.txtServerPORT); });
     const auto autentica = text::numberFromText(mittente.chkAutentick);
-    SMTP.UseAuth = !diretta && autentica.ok() && autentica.value() == 1;
+    SMTP.UseAuth = autentica.ok() && autentica.value() == 1;
     SMTP.UserName = SMTP.UseAuth ? mittente.txtUsername : QString();
     SMTP.UserPassword = SMTP.UseAuth ? password : QString();
+}
+
+void ScegliStrada(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
+                  Prosegui& prosegui) {
+    if (!StradaDiretta(mittente)) return UsaServerAccount(SMTP, mittente, password, prosegui);
+    // Without a mail exchanger there is no host, and the delivery fails.
+    prosegui([&] { MXQuery(DominioDi(SMTP.ToAddress)); });
+    UsaServerMX(SMTP, bestMX, TestoMotivo(motivoMX));
 }

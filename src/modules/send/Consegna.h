@@ -12,7 +12,18 @@ class DeliveryControl;
 /// the one before.
 void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prosegui& prosegui);
 
-/// Where the message with this ToAddress goes and how the login is made: to the account's server, or on the
-/// direct route to the mail exchanger that is looked up now (MXQuery, which holds the thread).
+/// The account has no server: each message goes straight to its recipient's mail exchanger.
+bool StradaDiretta(const Account& mittente);
+
+/// The direct route: to this mail exchanger, without a login. Where there is none the delivery fails, with
+/// `motivo`.
+void UsaServerMX(mail::DeliveryControl& SMTP, const QString& server, const QString& motivo);
+
+/// To the account's server, with its login.
+void UsaServerAccount(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
+                      Prosegui& prosegui);
+
+/// Where the message with this ToAddress of a run goes and how the login is made: to the account's server, or
+/// on the direct route to the mail exchanger that is looked up now (MXQuery, which holds the thread).
 void ScegliStrada(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
                   Prosegui& prosegui);

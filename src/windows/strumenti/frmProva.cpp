@@ -1,5 +1,6 @@
 #include "windows/strumenti/frmProva.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -49,7 +50,19 @@ void frmProva::Carica() {
 }
 
 void frmProva::reject() {
-    prova->Abort();
+    if (inInvio)
+        evento([this] { AnnullaInvio(); });
+    else
+        Lascia();
+}
+
+void frmProva::closeEvent(QCloseEvent* chiusura) {
+    Lascia();
+    chiusura->accept();
+}
+
+void frmProva::Lascia() {
+    AnnullaInvio();
     tmrControllo->stop();
     tmrRicerca->stop();
     controllo.reset();
@@ -92,6 +105,7 @@ void frmProva::CreaControlli() {
     lblIndirizzo = etichetta("lblIndirizzo", "Indirizzo della prova:");
     txtIndirizzo = ui::textField("txtIndirizzo", this);
     cmdInviaProva = ui::commandButton("&Invia una copia di prova", "cmdInviaProva", this);
+    cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
     lblEsito = etichetta("lblEsito", "");
     cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
     voce = new ui::Announcer(this);
@@ -207,6 +221,7 @@ QLayout* frmProva::DisponiInvio() {
     invio->addWidget(lblIndirizzo);
     invio->addWidget(txtIndirizzo, 1);
     invio->addWidget(cmdInviaProva);
+    invio->addWidget(cmdAnnulla);
     return invio;
 }
 
@@ -229,6 +244,7 @@ void frmProva::CollegaEtichette() {
     schede->setAccessibleName("Forme del messaggio");
     cmdPrecedente->setAccessibleDescription("Mostra il messaggio del destinatario selezionato precedente");
     cmdSuccessivo->setAccessibleDescription("Mostra il messaggio del destinatario selezionato successivo");
+    cmdAnnulla->setAccessibleDescription("Interrompe l'invio della copia di prova");
     cmdVai->setAccessibleDescription("Mostra il primo destinatario di questo rilievo");
 }
 
@@ -242,7 +258,8 @@ void frmProva::CollegaEventi() {
     alClick(cmdCerca, [this] { Cerca(); });
     alClick(cmdVai, [this] { VaiAlPrimo(); });
     alClick(cmdInviaProva, [this] { cmdInviaProva_Click(); });
-    alClick(cmdChiudi, [this] { reject(); });
+    alClick(cmdAnnulla, [this] { AnnullaInvio(); });
+    alClick(cmdChiudi, [this] { Lascia(); });
     connect(cmbFile, &QComboBox::activated, this, [this] { evento([this] { UsaFile(); }); });
     connect(cmbAccount, &QComboBox::activated, this, [this] { evento([this] { UsaAccount(); }); });
     connect(txtCerca, &QLineEdit::returnPressed, this, [this] { evento([this] { Cerca(); }); });

@@ -8,6 +8,7 @@
 #include "modules/strumenti/ControlloCampi.h"
 #include "modules/strumenti/CopiaProva.h"
 #include "modules/strumenti/ModelloProva.h"
+#include "modules/strumenti/RicercaMX.h"
 #include "modules/strumenti/Rilievi.h"
 
 class HtmlView;
@@ -50,8 +51,12 @@ class frmProva : public QDialog {
     /// failure; what is missing is told in the window.
     void Carica();
 
-    /// Esc and the title bar leave the window as its button does.
+    /// Esc: gives up a test copy that is under way, otherwise leaves the window.
     void reject() override;
+
+  protected:
+    /// The title bar leaves the window as its button does, whatever is under way.
+    void closeEvent(QCloseEvent* chiusura) override;
 
   private:
     // frmProva.cpp: the window
@@ -63,6 +68,7 @@ class frmProva : public QDialog {
     QLayout* DisponiInvio();
     void CollegaEtichette();
     void CollegaEventi();
+    void Lascia();
 
     // frmProva_copia.cpp: the message and the recipient
     void CaricaFile();
@@ -87,7 +93,9 @@ class frmProva : public QDialog {
     void UsaAccount();
     const Account* MittenteScelto() const;
     void cmdInviaProva_Click();
+    void InviaDiretta(const QByteArray& dominio);
     bool ChiediFile();
+    void AnnullaInvio();
     void FineInvio(bool consegnata);
     void AbilitaInvio();
     void Racconta(QLabel& dove, const QString& testo);
@@ -118,6 +126,7 @@ class frmProva : public QDialog {
     QLabel* lblIndirizzo;
     QLineEdit* txtIndirizzo;
     QPushButton* cmdInviaProva;
+    QPushButton* cmdAnnulla;
     QLabel* lblEsito;
     QPushButton* cmdChiudi;
     ui::Announcer* voce;
@@ -142,4 +151,5 @@ class frmProva : public QDialog {
     TabellaAccount account;
     QString propostaIndirizzo;
     bool inInvio = false;
+    RicercaMX ricercaMX;
 };

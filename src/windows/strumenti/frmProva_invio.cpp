@@ -16,7 +16,7 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/core/DomandaFile.h"
-#include "windows/core/Puntatore.h"
+#include "windows/core/Evento.h"
 #include "windows/strumenti/frmProva.h"
 
 namespace {
@@ -57,10 +57,20 @@ void frmProva::UsaAccount() {
     AbilitaInvio();
 }
 
+/// While a copy is under way the keyboard is on the button that gives it up.
 void frmProva::AbilitaInvio() {
+    const bool suInvia = cmdInviaProva->hasFocus(), suAnnulla = cmdAnnulla->hasFocus();
+    if (inInvio) {
+        cmdAnnulla->setEnabled(true);
+        if (suInvia) cmdAnnulla->setFocus();
+    }
     for (QWidget* campo :
          std::initializer_list<QWidget*>{cmbFile, cmdFile, cmbAccount, txtIndirizzo, cmdInviaProva})
         campo->setEnabled(!inInvio);
+    if (!inInvio) {
+        if (suAnnulla) cmdInviaProva->setFocus();
+        cmdAnnulla->setEnabled(false);
+    }
 }
 
 void frmProva::cmdInviaProva_Click() {
@@ -69,7 +79,8 @@ void frmProva::cmdInviaProva_Click() {
     if (!modello || !copia) return Racconta(*lblEsito, "Scegliere un messaggio prima di inviare la prova.");
     if (!mittente)
         return Racconta(*lblEsito, "Nessun account: crearne uno con il comando \"Imposta Account\".");
-    if (!mail::parseAddrSpec(indirizzo).ok()) {
+    const auto casella = mail::parseAddrSpec(indirizzo);
+    if (!casella.ok()) {
         txtIndirizzo->setFocus();
         return Racconta(*lblEsito, "L'indirizzo della prova non è valido.");
     }
@@ -96,13 +107,21 @@ void frmProva::cmdInviaProva_Click() {
     prova->ToName = copia->nome;
     inInvio = true;
     AbilitaInvio();
-    Racconta(*lblEsito, "Invio della prova a " + indirizzo + "…");
-    // The look-up of the direct route holds the thread as it does in a run.
-    lblEsito->repaint();
-    PuntatoreAttesa();
-    ScegliStrada(*prova, *mittente, password, prosegui);
-    PuntatorePredefinito();
+    Racconta(*lblEsito, "Invio della prova a " + indirizzo + "… Esc per interrompere.");
+    if (StradaDiretta(*mittente)) return InviaDiretta(casella.value().domain);
+    UsaServerAccount(*prova, *mittente, password, prosegui);
     prova->Send();
+}
+
+/// To the exchanger of the domain once it is known. What there is to say of a domain without one comes with
+/// the outcome.
+void frmProva::InviaDiretta(const QByteArray& dominio) {
+    ricercaMX.Avvia(dominio, [this](const ServerMX& trovato) {
+        evento([&] {
+            UsaServerMX(*prova, trovato.server, trovato.motivo);
+            prova->Send();
+        });
+    });
 }
 
 /// Asks about files that the user has not agreed to send; false where he does not. His answer holds for this
@@ -119,6 +138,14 @@ bool frmProva::ChiediFile() {
                DomandaFile(chiesti,
                            "La copia di prova porta con sé questi file di questo computer.\r\n"
                            "Vuoi inviarli?")) != ui::MessageDialog::No;
+}
+
+void frmProva::AnnullaInvio() {
+    if (!ricercaMX.InCorso()) return prova->Abort();
+    ricercaMX.Annulla();
+    inInvio = false;
+    AbilitaInvio();
+    Racconta(*lblEsito, "La prova non è stata consegnata. Invio interrotto.");
 }
 
 void frmProva::FineInvio(bool consegnata) {
