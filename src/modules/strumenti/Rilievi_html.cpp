@@ -1,8 +1,11 @@
 #include "modules/strumenti/Rilievi_html.h"
 
+#include <optional>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <string_view>
+#include <unordered_set>
 
 #include "platform/html/HtmlTokens.h"
 #include "platform/mail/HtmlReferences.h"
@@ -100,10 +103,23 @@ class LettoreMarcature {
         if (!buono) senzaMeta.aggiungi(meta.empty() ? QStringLiteral("(vuoto)") : mostrato(meta));
     }
 
-    bool esisteAncora(string_view nome) const {
-        for (const char* attributo : {"id=\"", "name=\""})
-            if (m_attributi.find(attributo + std::string(nome) + '"') != string_view::npos) return true;
-        return false;
+    bool esisteAncora(string_view nome) {
+        if (!m_ancore) leggiAncore();
+        return m_ancore->contains(nome);
+    }
+
+    void leggiAncore() {
+        m_ancore.emplace();
+        for (const string_view attributo : {"id=\"", "name=\""}) {
+            std::size_t inizio = m_attributi.find(attributo);
+            while (inizio != string_view::npos) {
+                inizio += attributo.size();
+                const std::size_t fine = m_attributi.find('"', inizio);
+                if (fine == string_view::npos) break;
+                m_ancore->insert(m_attributi.substr(inizio, fine - inizio));
+                inizio = m_attributi.find(attributo, inizio);
+            }
+        }
     }
 
     void immagine(string_view indirizzo) {
@@ -118,7 +134,7 @@ class LettoreMarcature {
 
     void stile(string_view testo) {
         static const QRegularExpression forma(
-            QStringLiteral(R"(url\(\s*(?:["']|&quot;|&#39;)?\s*((?:https?:)?//[^"')&\s]+))"),
+            QStringLiteral(R"(url\(\s*+(?:["']|&quot;|&#39;)?\s*+((?:https?:)?//[^"')&\s]+))"),
             QRegularExpression::CaseInsensitiveOption);
         const QString css = QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
         auto trovati = forma.globalMatch(css);
@@ -128,17 +144,18 @@ class LettoreMarcature {
 
     html::HtmlTokens m_pezzi;
     const string_view m_attributi;
+    std::optional<std::unordered_set<string_view>> m_ancore;  ///< what a link within the body can lead to
 };
 
 /// The images that travel with the message, or should.
 void rilievaFile(const QString& corpo, Raccolta& mancanti, Raccolta& escluse) {
     mail::LocalImages immagini;
     immagini.follow(corpo);
-    QStringList viste;
+    QSet<QString> viste;
     for (const auto& posto : mail::findReferences(corpo.toUtf8()).images) {
         const QString percorso = mail::localImagePath(posto.value);
         if (percorso.isEmpty() || viste.contains(percorso) || percorso.contains(u":::")) continue;
-        viste << percorso;
+        viste.insert(percorso);
         if (!QFileInfo(percorso).isFile())
             mancanti.aggiungi(PercorsoMostrato(percorso));
         else if (immagini.find(posto.value) < 0)
