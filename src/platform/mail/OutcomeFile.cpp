@@ -17,7 +17,7 @@ OutcomeFile::OutcomeFile(QString folder, QString sender, QString title) : m_fold
 
 void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
     if (line.number) {
-        const QPair key(database.path, *line.number);
+        const std::pair key(database.path, *line.number);
         if (m_delivered.contains(key)) return;
         if (line.kind == OutcomeKind::Delivered) m_delivered.insert(key);
     }
