@@ -13,7 +13,7 @@
 namespace {
 
 constexpr qsizetype alMassimo = 10;
-constexpr qint64 radice = 0;
+constexpr qint64 numeroRadice = 0;
 constexpr qint64 nessuno = std::numeric_limits<qint64>::min();
 
 ado::Recordset Apri(const QString& istruzione) {
@@ -31,9 +31,9 @@ qint64 Numero(const ado::Recordset& rs, QStringView colonna) {
 /// Whether the way up ends at the root, and neither at a group that is not there nor in a circle.
 bool VieneDallaRadice(qint64 numero, const QHash<qint64, qint64>& superiori) {
     qsizetype passi = 0;
-    while (numero != radice && superiori.contains(numero) && passi++ <= superiori.size())
+    while (numero != numeroRadice && superiori.contains(numero) && passi++ <= superiori.size())
         numero = superiori[numero];
-    return numero == radice;
+    return numero == numeroRadice;
 }
 
 struct Gruppo {
@@ -47,7 +47,7 @@ QList<Gruppo> Conta() {
     for (; !rs.isEof(); esigi(rs.moveNext()))
         ++quanti[Numero(rs, u"id_grp")];
     QHash<qint64, qint64> superiori;
-    QHash<qint64, QString> nomi{{radice, "Database Mailing"}};
+    QHash<qint64, QString> nomi{{numeroRadice, "Database Mailing"}};
     rs = Apri("SELECT * FROM [tb_gruppi];");
     for (; !rs.isEof(); esigi(rs.moveNext())) {
         const qint64 numero = Numero(rs, u"id");

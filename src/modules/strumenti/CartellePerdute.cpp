@@ -12,7 +12,7 @@
 Result<bool> ContaPerCartella::Avanza(std::chrono::microseconds tempo) {
     std::optional<std::size_t> gruppo;
     bool manca = false;
-    const Result<bool> esito = giro.step(tempo, [&](const ado::WalkedRow& riga) {
+    Result<bool> esito = giro.step(tempo, [&](const ado::WalkedRow& riga) {
         if (!gruppo) gruppo = riga.definition().find("id_grp");
         manca = !gruppo;
         if (manca) return;

@@ -27,7 +27,7 @@ struct ColonneDoppi {
 Result<bool> IndirizziDoppi::Avanza(std::chrono::microseconds tempo) {
     std::optional<ColonneDoppi> colonne;
     bool mancano = false;
-    const Result<bool> esito = giro.step(tempo, [&](const ado::WalkedRow& riga) {
+    Result<bool> esito = giro.step(tempo, [&](const ado::WalkedRow& riga) {
         if (!colonne) colonne.emplace(riga.definition());
         mancano = !colonne->tutte();
         if (mancano || !riga.yesNo(*colonne->sel)) return;

@@ -10,7 +10,7 @@ namespace {
 
 // Blocks of their own instead of one text: that would be copied as it grows, and hold twice the memory
 // meanwhile.
-constexpr size_t blockSize = size_t{1} << 20;
+constexpr size_t keyBlockSize = size_t{1} << 20;
 constexpr size_t wordSize = sizeof(uint64_t);
 
 }  // namespace
@@ -23,13 +23,13 @@ uint64_t KeySort::word(std::string_view key, size_t at) {
 }
 
 void KeySort::add(std::string_view key, uint32_t id) {
-    if (m_blocks.empty() || key.size() > blockSize - m_used) {
-        m_blocks.push_back(std::make_unique_for_overwrite<char[]>(std::max(blockSize, key.size())));
+    if (m_blocks.empty() || key.size() > keyBlockSize - m_used) {
+        m_blocks.push_back(std::make_unique_for_overwrite<char[]>(std::max(keyBlockSize, key.size())));
         m_used = 0;
     }
     char* place = m_blocks.back().get() + m_used;
     if (!key.empty()) std::memcpy(place, key.data(), key.size());
-    m_used = std::min(blockSize, m_used + key.size());
+    m_used = std::min(keyBlockSize, m_used + key.size());
     m_longest = std::max(m_longest, key.size());
     m_items.push_back({0, place, static_cast<uint32_t>(key.size()), id});
 }

@@ -33,7 +33,7 @@ Status lostItsPlace() {
 Status RowOrder::fill(jet::Table& table) {
     KeySort rows;
     std::string key;
-    const Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
+    Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
         if (!m_spec.holds(row)) return true;
         key.clear();
         m_spec.appendKey(key, row);

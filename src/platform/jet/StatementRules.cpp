@@ -11,7 +11,7 @@ namespace jet {
 
 namespace {
 
-constexpr size_t maxDepth = 20;
+constexpr size_t deepestPath = 20;
 
 bool isIndexPage(const Page& page) {
     return page[0] == NodePage || page[0] == LeafPage;
@@ -112,7 +112,7 @@ class View {
         const Bytes wanted = greatestBelow(number);
         return std::any_of(m_definition.indexes.begin(), m_definition.indexes.end(), [&](const Index& index) {
             uint32_t at = index.rootPage;
-            for (size_t depth = 0; depth < maxDepth && at != number; ++depth) {
+            for (size_t depth = 0; depth < deepestPath && at != number; ++depth) {
                 const IndexPage page = indexPage(at);
                 if (page.leaf) return false;
                 const size_t child = page.lowerBound(wanted);
@@ -129,7 +129,7 @@ class View {
         return true;
     }
     Bytes greatestBelow(uint32_t number) const {
-        for (size_t depth = 0; depth < maxDepth; ++depth) {
+        for (size_t depth = 0; depth < deepestPath; ++depth) {
             const IndexPage page = indexPage(number);
             if (page.leaf && page.count() == 0) return {};
             if (page.leaf) {

@@ -55,7 +55,7 @@ void frmEditor::Trova() {
                 if (tb->currentIndex() == Origine) return CODE->find(testo, maiuscole, indietro);
                 const unsigned opzioni = (maiuscole ? HtmlView::FindCaseSensitive : 0U) |
                                          (indietro ? HtmlView::FindBackwards : 0U);
-                const Result<bool> trovato = DHTML->find(testo, opzioni);
+                Result<bool> trovato = DHTML->find(testo, opzioni);
                 Riuscita(trovato.status());
                 return trovato;
             });

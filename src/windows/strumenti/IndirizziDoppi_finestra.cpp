@@ -60,7 +60,7 @@ ui::ListQuestion::Content DomandaDoppi(const Doppi& doppi, const AlberoCartelle&
     domanda.text += inPiu == 1
                         ? QStringLiteral("\r\nDeselezionare il doppione?")
                         : "\r\nDeselezionare i " + Quanti(inPiu) + " doppioni, uno escluso per indirizzo?";
-    if (domanda.rows.size() < static_cast<qsizetype>(inPiu + doppi.size()))
+    if (domanda.rows.size() < qsizetype(inPiu) + qsizetype(doppi.size()))
         domanda.text += "\r\nL'elenco mostra i primi " +
                         Quanti(static_cast<std::size_t>(domanda.rows.size())) + " destinatari.";
     return domanda;

@@ -21,7 +21,7 @@
 
 namespace {
 
-enum ColonnaRiga { Numero, Esito, Testo, Motivo };
+enum ColonnaRiga { NumeroRiga, Esito, Testo, Motivo };
 /// As the list of what to show has them.
 enum Scelta { SoloRifiutate, SoloImportate, Tutte };
 
@@ -62,7 +62,7 @@ frmUltimaImportazione::frmUltimaImportazione(QWidget* parent)
     lstRighe->setUniformRowHeights(true);
     lstRighe->setAllColumnsShowFocus(true);
     lstRighe->setHeaderLabels({"Riga", "Esito", "Testo", "Motivo"});
-    lstRighe->header()->resizeSection(Numero, ui::scaledToFont(*this, 70));
+    lstRighe->header()->resizeSection(NumeroRiga, ui::scaledToFont(*this, 70));
     lstRighe->header()->resizeSection(Esito, ui::scaledToFont(*this, 90));
     lstRighe->header()->resizeSection(Testo, ui::scaledToFont(*this, 260));
     auto* etichetta = new QLabel("&Mostra:", this);
@@ -130,7 +130,7 @@ void frmUltimaImportazione::Copia() const {
         const QTreeWidgetItem* voce = lstRighe->topLevelItem(i);
         if (voce->isHidden()) continue;
         QStringList campi;
-        for (const int colonna : {Numero, Esito, Testo, Motivo})
+        for (const int colonna : {NumeroRiga, Esito, Testo, Motivo})
             campi << voce->text(colonna).replace('\t', ' ');
         testo += campi.join('\t') + '\n';
     }
