@@ -51,7 +51,7 @@ struct SmtpTimes {
 /// Steps of a connection: greeting, EHLO (HELO where that is refused), STARTTLS and EHLO again, AUTH; then
 /// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. Where
 /// chunking is offered as well, a message that follows another closely goes out with its envelope, by BDAT
-/// (RFC 3030), in one flight; see docs/decisions/64-one-flight.md. A refused message leaves the connection in
+/// (RFC 3030), in one flight; see docs/decisions/62-one-flight.md. A refused message leaves the connection in
 /// place: the next one is preceded by RSET. A kept connection that turns out to be dead, or answers 421, is
 /// opened anew and the message tried there once, as long as neither the final point nor a write that holds it
 /// was given to the socket. One that answers out of order is treated so only before MAIL was accepted. After
