@@ -84,12 +84,12 @@ void frmEsiti::CreaControlli() {
     chkRegistro = ui::named(new QCheckBox("&Registra l'esito dei prossimi invii", this), "chkRegistro");
     chkRegistro->setToolTip("Restano gli ultimi 50 invii, nella cartella \"esiti\" dei dati del programma");
     cmdSeleziona = pulsante("cmdSeleziona", "&Seleziona questi per il prossimo invio");
+    cmdCopia = pulsante("cmdCopia", "C&opia");
+    cmdSalva = pulsante("cmdSalva", "Sal&va CSV...");
     cmdDeseleziona = pulsante("cmdDeseleziona", "&Deseleziona gli indirizzi inesistenti");
     cmdDeseleziona->setToolTip(
         "Quelli che il server del destinatario ha rifiutato come inesistenti\n"
         "(codici 5.1.1, 5.1.2, 5.1.3, 5.1.6 e 5.1.10)");
-    cmdCopia = pulsante("cmdCopia", "C&opia");
-    cmdSalva = pulsante("cmdSalva", "Sal&va CSV...");
     cmdChiudi = pulsante("cmdChiudi", "&Chiudi");
     cmdChiudi->setDefault(true);
 
@@ -129,6 +129,7 @@ void frmEsiti::Disponi() {
     finestra->addLayout(DisponiFiltri());
     finestra->addWidget(tabella, 1);
     finestra->addWidget(lblRiassunto);
+    finestra->addWidget(chkRegistro);
     finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(DisponiComandi());
 }
@@ -149,21 +150,21 @@ QLayout* frmEsiti::DisponiFiltri() {
 }
 
 QLayout* frmEsiti::DisponiComandi() {
-    auto* selezione = new QHBoxLayout;
-    selezione->setSpacing(ui::controlSpacing);
-    selezione->addWidget(cmdSeleziona);
-    selezione->addWidget(cmdDeseleziona);
-    selezione->addStretch();
-    selezione->addWidget(cmdCopia);
-    selezione->addWidget(cmdSalva);
-    auto* fine = new QHBoxLayout;
-    fine->addWidget(chkRegistro);
-    fine->addStretch();
-    fine->addWidget(cmdChiudi);
+    auto* prima = new QHBoxLayout;
+    prima->setSpacing(ui::controlSpacing);
+    prima->addWidget(cmdSeleziona);
+    prima->addStretch();
+    prima->addWidget(cmdCopia);
+    prima->addWidget(cmdSalva);
+    auto* seconda = new QHBoxLayout;
+    seconda->setSpacing(ui::controlSpacing);
+    seconda->addWidget(cmdDeseleziona);
+    seconda->addStretch();
+    seconda->addWidget(cmdChiudi);
     auto* comandi = new QVBoxLayout;
-    comandi->setSpacing(ui::windowMargin);
-    comandi->addLayout(selezione);
-    comandi->addLayout(fine);
+    comandi->setSpacing(ui::controlSpacing);
+    comandi->addLayout(prima);
+    comandi->addLayout(seconda);
     return comandi;
 }
 

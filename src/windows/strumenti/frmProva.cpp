@@ -1,5 +1,6 @@
 #include "windows/strumenti/frmProva.h"
 
+#include <initializer_list>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFontDatabase>
@@ -84,9 +85,9 @@ void frmProva::CreaControlli() {
     cmbFile = ui::choiceField("cmbFile", {}, this);
     cmdFile = ui::commandButton("...", "cmdFile", this);
     lblDestinatario = etichetta("lblDestinatario", "Destinatario:");
+    txtDestinatario = soloLettura("txtDestinatario");
     cmdPrecedente = ui::commandButton("&Precedente", "cmdPrecedente", this);
     cmdSuccessivo = ui::commandButton("&Successivo", "cmdSuccessivo", this);
-    txtDestinatario = soloLettura("txtDestinatario");
     lblCerca = etichetta("lblCerca", "Cerca:");
     txtCerca = ui::textField("txtCerca", this);
     cmdCerca = ui::commandButton("Ce&rca", "cmdCerca", this);
@@ -104,9 +105,9 @@ void frmProva::CreaControlli() {
     cmbAccount = ui::choiceField("cmbAccount", {}, this);
     lblIndirizzo = etichetta("lblIndirizzo", "Indirizzo della prova:");
     txtIndirizzo = ui::textField("txtIndirizzo", this);
+    lblEsito = etichetta("lblEsito", "");
     cmdInviaProva = ui::commandButton("&Invia una copia di prova", "cmdInviaProva", this);
     cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
-    lblEsito = etichetta("lblEsito", "");
     cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
     voce = new ui::Announcer(this);
     tmrControllo = ui::named(new QTimer(this), "tmrControllo");
@@ -132,8 +133,10 @@ void frmProva::CreaControlli() {
 
 void frmProva::DisponiControlli() {
     auto* divisore = ui::named(new QSplitter(Qt::Horizontal, this), "divisore");
-    divisore->addWidget(DisponiMessaggio());
-    divisore->addWidget(DisponiRilievi());
+    for (QWidget* parte : {DisponiMessaggio(), DisponiRilievi()}) {
+        divisore->addWidget(parte);
+        parte->raise();  // the splitter puts what it gets before the others
+    }
     divisore->setStretchFactor(0, 5);
     divisore->setStretchFactor(1, 3);
     divisore->setChildrenCollapsible(false);
@@ -142,7 +145,8 @@ void frmProva::DisponiControlli() {
     auto* chiusura = new QHBoxLayout;
     chiusura->setSpacing(ui::controlSpacing);
     chiusura->addWidget(lblEsito, 1);
-    chiusura->addWidget(cmdChiudi, 0, Qt::AlignBottom);
+    for (QWidget* pulsante : {cmdInviaProva, cmdAnnulla, cmdChiudi})
+        chiusura->addWidget(pulsante, 0, Qt::AlignBottom);
 
     auto* finestra = new QVBoxLayout(this);
     finestra->setContentsMargins(ui::windowMargin, ui::windowMargin, ui::windowMargin, ui::windowMargin);
@@ -152,22 +156,27 @@ void frmProva::DisponiControlli() {
     finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(DisponiInvio());
     finestra->addLayout(chiusura);
+    // Assistive programs read a window in the order of its children; those of the splitter were made last.
+    for (QWidget* dopo : std::initializer_list<QWidget*>{lblAccount, cmbAccount, lblIndirizzo, txtIndirizzo,
+                                                         lblEsito, cmdInviaProva, cmdAnnulla, cmdChiudi})
+        dopo->raise();
+    setTabOrder(txtOggetto, HTML);
 }
 
 QLayout* frmProva::DisponiScelte() {
     cmdFile->setMinimumSize(0, ui::fieldHeight);
     cmdFile->setMaximumWidth(cmdFile->fontMetrics().horizontalAdvance("...") + 28);
     cmbFile->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    txtCerca->setMaximumWidth(ui::scaledToFont(*this, 160));
 
     auto* destinatario = new QHBoxLayout;
     destinatario->setSpacing(ui::controlSpacing);
+    destinatario->addWidget(txtDestinatario, 1);
     destinatario->addWidget(cmdPrecedente);
     destinatario->addWidget(cmdSuccessivo);
-    destinatario->addWidget(txtDestinatario, 1);
-    destinatario->addWidget(lblCerca);
-    destinatario->addWidget(txtCerca);
-    destinatario->addWidget(cmdCerca);
+    auto* ricercaDi = new QHBoxLayout;
+    ricercaDi->setSpacing(ui::controlSpacing);
+    ricercaDi->addWidget(txtCerca, 1);
+    ricercaDi->addWidget(cmdCerca);
     auto* messaggio = new QHBoxLayout;
     messaggio->setSpacing(ui::controlSpacing);
     messaggio->addWidget(cmbFile, 1);
@@ -180,9 +189,11 @@ QLayout* frmProva::DisponiScelte() {
     scelte->addLayout(messaggio, 0, 1);
     scelte->addWidget(lblDestinatario, 1, 0);
     scelte->addLayout(destinatario, 1, 1);
-    scelte->addWidget(lblOggetto, 2, 0);
-    scelte->addWidget(txtOggetto, 2, 1);
-    scelte->addWidget(lblStato, 3, 0, 1, 2);
+    scelte->addWidget(lblCerca, 2, 0);
+    scelte->addLayout(ricercaDi, 2, 1);
+    scelte->addWidget(lblOggetto, 3, 0);
+    scelte->addWidget(txtOggetto, 3, 1);
+    scelte->addWidget(lblStato, 4, 0, 1, 2);
     return scelte;
 }
 
@@ -214,14 +225,13 @@ QWidget* frmProva::DisponiRilievi() {
 
 QLayout* frmProva::DisponiInvio() {
     cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto* invio = new QHBoxLayout;
+    auto* invio = new QGridLayout;
     invio->setSpacing(ui::controlSpacing);
-    invio->addWidget(lblAccount);
-    invio->addWidget(cmbAccount, 1);
-    invio->addWidget(lblIndirizzo);
-    invio->addWidget(txtIndirizzo, 1);
-    invio->addWidget(cmdInviaProva);
-    invio->addWidget(cmdAnnulla);
+    invio->setColumnStretch(1, 1);
+    invio->addWidget(lblAccount, 0, 0);
+    invio->addWidget(cmbAccount, 0, 1);
+    invio->addWidget(lblIndirizzo, 1, 0);
+    invio->addWidget(txtIndirizzo, 1, 1);
     return invio;
 }
 

@@ -5,8 +5,10 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QToolButton>
 
+#include "modules/import/UltimaImportazione.h"
 #include "platform/ui/Contrast.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/ElementDialog.h"
@@ -28,6 +30,10 @@
 #include "windows/shell/frmInfoSu.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/griglia_stage.h"
+#include "windows/strumenti/frmControlloMittente.h"
+#include "windows/strumenti/frmEsiti.h"
+#include "windows/strumenti/frmProva.h"
+#include "windows/strumenti/frmUltimaImportazione.h"
 
 namespace windows_test {
 
@@ -63,6 +69,19 @@ struct Windows {
         stage.clickNode("K1");
     }
 
+    /// The windows of the menu "Strumenti", which are made for screens of at least 800 points.
+    static void eachTool(const std::function<void(QWidget&, const QString&)>& show) {
+        if (finestre::Main().screen()->availableSize().width() < 800) return;
+        finestre::Prova().Carica();
+        show(finestre::Prova(), "frmProva");
+        finestre::Controllo().CaricaDati();
+        show(finestre::Controllo(), "frmControlloMittente");
+        finestre::Esiti().Carica();
+        show(finestre::Esiti(), "frmEsiti");
+        finestre::UltimaImportazione().Mostra(ultimaImportazione());
+        show(finestre::UltimaImportazione(), "frmUltimaImportazione");
+    }
+
     /// Shows each window in its turn; `look` sees it.
     void each(const std::function<void(QWidget&, const QString&)>& look) {
         const auto show = [&](QWidget& window, const QString& name) {
@@ -92,6 +111,7 @@ struct Windows {
         show(finestre::InfoSu(), "frmInfoSu");
         show(finestre::Splash(), "frmSplash");
         show(finestre::PropBody(), "frmPropBody");
+        eachTool(showOwn);
         finestre::Editor().NuovoMessaggio();
         show(finestre::Editor(), "frmEditor");
         frmColor colours(*finestre::Editor().DHTML, finestre::Editor().Commands());
