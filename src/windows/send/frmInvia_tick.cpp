@@ -1,4 +1,3 @@
-#include <cassert>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -56,7 +55,6 @@ void frmInvia::tmr_Timer() {
     SMTP->Send();
     AttendiEsito();
 
-    assert(!(mailInviata && mailFallita));
     if (mailInviata) {
         ContaInviata(prosegui, idDestinatario);
     } else {
