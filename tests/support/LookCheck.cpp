@@ -132,7 +132,9 @@ void read(QAccessibleInterface& face, QStringList& names) {
         const auto* widget = child ? qobject_cast<QWidget*>(child->object()) : nullptr;
         if (!widget) continue;
         if (takesTab(*widget) && !isOtherOption(*widget)) names << widget->objectName();
-        if (!qobject_cast<const QAbstractScrollArea*>(widget) && !qobject_cast<const QComboBox*>(widget))
+        // What stands in a message view is the browser's own.
+        if (!qobject_cast<const QAbstractScrollArea*>(widget) && !qobject_cast<const QComboBox*>(widget) &&
+            !widget->inherits("HtmlView"))
             read(*child, names);
     }
 }
