@@ -6,6 +6,7 @@
 // value) over the journal that belongs to the file, else it is the journal itself.
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
@@ -43,6 +44,18 @@ struct Crash {
     std::string journal;
 };
 
+size_t recordLength(const uint8_t* record) {
+    return jet::load32(record) == 1 ? jet::journal::originalLength : jet::journal::announcementLength;
+}
+
+size_t endOfRecords(const std::string& journal) {
+    const auto* data = reinterpret_cast<const uint8_t*>(journal.data());
+    size_t at = jet::journal::recordsStart;
+    while (at + jet::journal::announcementLength <= journal.size() && jet::load32(data + at) != 0)
+        at += recordLength(data + at);
+    return std::min(at, journal.size());
+}
+
 // Two states of a file, and the journal that leads from the second to the first.
 Crash makeCrash() {
     const std::string file = mutated::fileName();
@@ -74,8 +87,8 @@ Crash makeCrash() {
             return sync ? DiskStep::Outcome::Skip : DiskStep::Outcome::Proceed;
         });
     }
-    // What stands behind the records is of no use.
-    crash.journal.erase(crash.journal.find_last_not_of('\0') + 1);
+    // What stands behind the records is of no use. The last one may end in zeros.
+    crash.journal.resize(endOfRecords(crash.journal));
     require(!crash.journal.empty() && crash.after != crash.before);
     return crash;
 }
@@ -97,7 +110,7 @@ void seal(std::string& bytes) {
     store64(data + 32, journal::digest({data, 32}, 0));
     const uint64_t nonce = load64(data + 16);
     for (size_t at = journal::recordsStart; at + journal::announcementLength <= bytes.size();) {
-        const size_t length = load32(data + at) == 1 ? journal::originalLength : journal::announcementLength;
+        const size_t length = recordLength(data + at);
         if (at + length > bytes.size()) return;
         store64(data + at + length - 8, journal::digest({data + at, length - 8}, nonce + at));
         at += length;
