@@ -11,7 +11,9 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
+#include "modules/import/Inserimento.h"
 #include "modules/import/RigaTesto.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/NuovoDatabase.h"
 #include "platform/ado/ConnectionText.h"
 #include "platform/jet/Database.h"
@@ -52,9 +54,9 @@ void printStatements(const QString& path, qint64 group) {
     const auto put = [](const QByteArray& text) {
         std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
     };
-    walk(path, [&](const inserimento::Valori& values) {
+    walk(path, [&](const destinatario::Valori& values) {
         if (inGroup == 0) put("BEGIN;\n");
-        put(inserimento::Istruzione("1", values).toUtf8() + ";\n");
+        put(destinatario::IstruzioneNuovo("1", "True", values).toUtf8() + ";\n");
         if (++inGroup < group) return;
         put("COMMIT;\n");
         inGroup = 0;
@@ -68,7 +70,7 @@ void importInto(const QString& path, const QString& database) {
     Inserimento inserts;
     inserts.Prepara();
     const qint64 rows =
-        walk(path, [&](const inserimento::Valori& values) { inserts.Inserisci("1", values); });
+        walk(path, [&](const destinatario::Valori& values) { inserts.Inserisci("1", values); });
     inserts.Conferma();
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);

@@ -8,6 +8,7 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/import/RigaTesto.h"
+#include "modules/store/Destinatario.h"
 #include "platform/text/AnsiCodec.h"
 
 namespace {
@@ -16,14 +17,15 @@ void require(bool holds) {
     if (!holds) std::abort();
 }
 
-void check(const inserimento::Valori& values) {
+void check(const destinatario::Valori& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
-        require(values[i].size() <= inserimento::limiti[i]);
+        require(values[i].size() <= schema::testi[i].massimo);
         require(!values[i].contains(u'\'') && !values[i].contains(u'"'));
         require(!values[i].startsWith(u' ') && !values[i].endsWith(u' '));
     }
     // Nothing but the quotes around the values: the statement is always well formed.
-    const QString statement = inserimento::Istruzione(QStringLiteral("0"), values);
+    const QString statement =
+        destinatario::IstruzioneNuovo(QStringLiteral("0"), QStringLiteral("True"), values);
     require(statement.count(u'\'') == 2 * static_cast<qsizetype>(values.size()));
 }
 

@@ -21,8 +21,8 @@ std::vector<QStringView> primiCampi(QStringView riga, QStringView separatore, in
     return trovati;
 }
 
-QString pulito(QStringView campo, inserimento::Colonna colonna) {
-    return PulisciValore(inserimento::Taglia(campo, colonna));
+QString pulito(QStringView campo, schema::Campo colonna) {
+    return PulisciValore(destinatario::Taglia(campo, colonna));
 }
 
 [[noreturn]] void campoMancante(int posizione, const PuntoImportazione& punto) {
@@ -36,8 +36,8 @@ QString pulito(QStringView campo, inserimento::Colonna colonna) {
 
 }  // namespace
 
-std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga, const PuntoImportazione& punto,
-                                                    QString* rifiutato) const {
+std::optional<destinatario::Valori> RigaTesto::Leggi(const QString& riga, const PuntoImportazione& punto,
+                                                     QString* rifiutato) const {
     const std::vector<QStringView> trovati =
         primiCampi(riga, separatore, *std::max_element(posizioni.begin(), posizioni.end()));
     const auto esiste = [&](int posizione) {
@@ -48,10 +48,10 @@ std::optional<inserimento::Valori> RigaTesto::Leggi(const QString& riga, const P
                       campi::colonne[static_cast<std::size_t>(box)]);
     };
     if (!esiste(posizioni[campi::boxEmail])) campoMancante(posizioni[campi::boxEmail], punto);
-    inserimento::Valori valori;
-    valori[inserimento::email] = campo(campi::boxEmail);
-    if (!EmailValida(valori[inserimento::email])) {
-        if (rifiutato) *rifiutato = valori[inserimento::email];
+    destinatario::Valori valori;
+    valori[schema::email] = campo(campi::boxEmail);
+    if (!EmailValida(valori[schema::email])) {
+        if (rifiutato) *rifiutato = valori[schema::email];
         return std::nullopt;
     }
     for (int box = 0; box < campi::quanti; ++box) {

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "modules/import/campi.h"
+#include "modules/store/Destinatario.h"
 
 /// Where an import stands: the line that is read, counted from 1, and the recipients it has inserted.
 struct PuntoImportazione {
@@ -26,6 +27,6 @@ struct RigaTesto {
     /// Unguarded: fails with SubscriptOutOfRange when the line has no field for the address; an empty line
     /// has no field at all. The text then tells the line, the field and how many recipients are in.
     /// A refused address goes into `rifiutato`.
-    std::optional<inserimento::Valori> Leggi(const QString& riga, const PuntoImportazione& punto = {},
-                                             QString* rifiutato = nullptr) const;
+    std::optional<destinatario::Valori> Leggi(const QString& riga, const PuntoImportazione& punto = {},
+                                              QString* rifiutato = nullptr) const;
 };

@@ -12,20 +12,20 @@ namespace {
 
 struct Proprieta {
     PropertyTag tag;
-    inserimento::Colonna colonna;
+    schema::Campo campo;
 };
 
 /// In the order of the calls. The company is asked for twice; the second answer stands.
 constexpr std::array<Proprieta, 9> proprieta{{
-    {PropertyTag::EmailAddress, inserimento::email},
-    {PropertyTag::DisplayName, inserimento::nom},
-    {PropertyTag::CompanyName, inserimento::rgs},
-    {PropertyTag::CompanyName, inserimento::rgs},
-    {PropertyTag::HomeAddressStreet, inserimento::ind},
-    {PropertyTag::HomeAddressPostalCode, inserimento::cap},
-    {PropertyTag::HomeAddressCity, inserimento::loc},
-    {PropertyTag::BusinessTelephoneNumber, inserimento::tel},
-    {PropertyTag::BusinessFaxNumber, inserimento::fax},
+    {PropertyTag::EmailAddress, schema::email},
+    {PropertyTag::DisplayName, schema::nom},
+    {PropertyTag::CompanyName, schema::rgs},
+    {PropertyTag::CompanyName, schema::rgs},
+    {PropertyTag::HomeAddressStreet, schema::ind},
+    {PropertyTag::HomeAddressPostalCode, schema::cap},
+    {PropertyTag::HomeAddressCity, schema::loc},
+    {PropertyTag::BusinessTelephoneNumber, schema::tel},
+    {PropertyTag::BusinessFaxNumber, schema::fax},
 }};
 
 }  // namespace
@@ -37,28 +37,26 @@ QString TagliaNulli(const QString& testo) {
     return testo.left(fine);
 }
 
-std::optional<inserimento::Valori> LeggiVoceWab(const contacts::AddressBook& rubrica,
-                                                const contacts::Entry& voce, QString* rifiutato) {
-    inserimento::Valori valori;
+std::optional<destinatario::Valori> LeggiVoceWab(const contacts::AddressBook& rubrica,
+                                                 const contacts::Entry& voce, QString* rifiutato) {
+    destinatario::Valori valori;
     // One buffer for all reads, and none of them clears it: what an earlier, longer value left behind a
     // terminator would still stand there.
     std::array<char, 256> buffer{};
-    for (const auto& [tag, colonna] : proprieta) {
+    for (const auto& [tag, campo] : proprieta) {
         const bool presente = rubrica.text(voce, tag, buffer);
-        valori[colonna] =
+        valori[campo] =
             presente ? TagliaNulli(text::fromAnsi(QByteArrayView(buffer.data(), buffer.size()))) : QString();
     }
     for (QString& valore : valori)
         valore = text::trimBlanks(valore.remove(u'\'')).toString();
-    QString& nome = valori[inserimento::nom];
+    QString& nome = valori[schema::nom];
     if (const qsizetype nullo = nome.indexOf(QChar::Null); nullo >= 0) nome.truncate(nullo);
-    if (!EmailValida(valori[inserimento::email])) {
-        if (rifiutato) *rifiutato = valori[inserimento::email];
+    if (!EmailValida(valori[schema::email])) {
+        if (rifiutato) *rifiutato = valori[schema::email];
         return std::nullopt;
     }
-    for (int i = 0; i < inserimento::numeroColonne; ++i) {
-        const auto colonna = static_cast<inserimento::Colonna>(i);
-        valori[colonna] = inserimento::Taglia(valori[colonna], colonna);
-    }
+    for (const schema::Campo campo : schema::ordineTabella)
+        valori[campo] = destinatario::Taglia(valori[campo], campo);
     return valori;
 }

@@ -1,28 +1,32 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <QString>
 
-#include "modules/import/Inserimento.h"
+#include "modules/store/Schema.h"
 
 /// The 19 boxes in which the user says what feeds which column, the same in both windows that have them.
 namespace campi {
 
-inline constexpr int quanti = inserimento::numeroColonne;
+inline constexpr int quanti = schema::numeroCampi;
 /// The box of the address, the one that has to be filled.
 inline constexpr int boxEmail = 2;
 
 /// What a box shows while nothing feeds its column.
 inline const QString nessuno = QStringLiteral(" ---------- ");
 
-/// The column of each box.
-inline constexpr std::array<inserimento::Colonna, quanti> colonne{
-    inserimento::rgs,    inserimento::nom,    inserimento::email,  inserimento::piva,   inserimento::cap,
-    inserimento::loc,    inserimento::prov,   inserimento::ind,    inserimento::tel,    inserimento::fax,
-    inserimento::campo1, inserimento::campo2, inserimento::campo3, inserimento::campo4, inserimento::campo5,
-    inserimento::campo6, inserimento::campo7, inserimento::campo8, inserimento::campo9};
+/// The column of each box: as the placeholders, the street after the province.
+inline constexpr schema::Ordine colonne = schema::Sposta(schema::ordineSegnaposto, schema::ind, 7);
 
-/// The label that stands above each box: four of them have another number than their box.
-inline constexpr std::array<int, quanti> etichette{0,  1,  2,  3,  5,  6,  7,  4,  8, 9,
-                                                   10, 11, 12, 13, 14, 15, 16, 17, 18};
+/// The number of the label above each box, its place among the placeholders: four of them have another number
+/// than their box.
+inline constexpr auto etichette = [] {
+    std::array<int, quanti> numeri{};
+    for (std::size_t box = 0; box < numeri.size(); ++box)
+        numeri[box] = static_cast<int>(std::ranges::find(schema::ordineSegnaposto, colonne[box]) -
+                                       schema::ordineSegnaposto.begin());
+    return numeri;
+}();
 
 }  // namespace campi

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <iterator>
+#include <string_view>
+
 #include "modules/lang/bVAR.h"
 
 /// Every text of bVAR by its name in the language file.
@@ -63,5 +66,13 @@ inline constexpr Testo elenco[] = {
 };
 
 #undef TESTO
+
+/// The text of that name. It has to be one of them, which the compiler verifies where it can.
+constexpr const QString* Cerca(std::string_view nome) {
+    const auto* voce = std::begin(elenco);
+    while (nome != voce->nome)
+        ++voce;
+    return voce->testo;
+}
 
 }  // namespace bVAR

@@ -1,24 +1,17 @@
 #pragma once
 
 #include <array>
+#include <QString>
+
+#include "modules/store/Schema.h"
 
 /// A placeholder that is replaced by a field of the recipient when the message is sent.
 struct Variabile {
-    const char* comando;  ///< of the editor, which inserts the text
-    const char* didascalia;
-    const char* testo;
+    schema::Campo campo;
+    QString comando;  ///< of the editor, which inserts the text: "cmdVarRgs"
+    QString didascalia;
+    QString testo;
 };
 
 /// In the order of the editor's menu.
-inline constexpr std::array<Variabile, 19> variabiliMessaggio{{
-    {"cmdVarRgs", "Ragione Sociale", ":::rgs:::"}, {"cmdVarNom", "Nome", ":::nom:::"},
-    {"cmdVarEmail", "Email", ":::email:::"},       {"cmdVarPiva", "P.Iva o Cod.Fis.", ":::piva:::"},
-    {"cmdVarInd", "Indirizzo", ":::ind:::"},       {"cmdVarCap", "CAP", ":::cap:::"},
-    {"cmdVarLoc", "Località", ":::loc:::"},        {"cmdVarProv", "Provincia", ":::prov:::"},
-    {"cmdVarTel", "Telefono", ":::tel:::"},        {"cmdVarFax", "Fax", ":::fax:::"},
-    {"cmdVarCampo1", "Campo 1", ":::campo1:::"},   {"cmdVarCampo2", "Campo 2", ":::campo2:::"},
-    {"cmdVarCampo3", "Campo 3", ":::campo3:::"},   {"cmdVarCampo4", "Campo 4", ":::campo4:::"},
-    {"cmdVarCampo5", "Campo 5", ":::campo5:::"},   {"cmdVarCampo6", "Campo 6", ":::campo6:::"},
-    {"cmdVarCampo7", "Campo 7", ":::campo7:::"},   {"cmdVarCampo8", "Campo 8", ":::campo8:::"},
-    {"cmdVarCampo9", "Campo 9", ":::campo9:::"},
-}};
+const std::array<Variabile, schema::numeroCampi>& VariabiliMessaggio();

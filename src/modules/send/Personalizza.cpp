@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "modules/core/Errori.h"
+#include "modules/store/Destinatario.h"
 
-const std::array<QString, numeroSegnaposto> colonneSegnaposto{
-    QStringLiteral("rgs"),    QStringLiteral("nom"),    QStringLiteral("email"),  QStringLiteral("piva"),
-    QStringLiteral("ind"),    QStringLiteral("cap"),    QStringLiteral("loc"),    QStringLiteral("prov"),
-    QStringLiteral("tel"),    QStringLiteral("fax"),    QStringLiteral("campo1"), QStringLiteral("campo2"),
-    QStringLiteral("campo3"), QStringLiteral("campo4"), QStringLiteral("campo5"), QStringLiteral("campo6"),
-    QStringLiteral("campo7"), QStringLiteral("campo8"), QStringLiteral("campo9")};
+const std::array<QString, numeroSegnaposto> colonneSegnaposto = [] {
+    std::array<QString, numeroSegnaposto> colonne;
+    std::ranges::transform(schema::ordineSegnaposto, colonne.begin(), destinatario::NomeColonna);
+    return colonne;
+}();
 
 namespace {
 
@@ -53,7 +53,7 @@ bool isolato(QStringView testo) {
 }  // namespace
 
 QString Segnaposto(std::size_t i) {
-    return segno + colonneSegnaposto[i] + segno;
+    return destinatario::Segnaposto(schema::ordineSegnaposto[i]);
 }
 
 LeggiColonna ColonneDi(const ado::Recordset& destinatari) {

@@ -7,14 +7,15 @@
 #include <QString>
 #include <vector>
 
+#include "modules/store/Schema.h"
 #include "platform/ado/Recordset.h"
 #include "platform/Status.h"
 
 /// Personalisation: the fields of a recipient's row in place of ":::column:::".
 
-inline constexpr std::size_t numeroSegnaposto = 19;
+inline constexpr std::size_t numeroSegnaposto = schema::numeroCampi;
 
-/// The columns that have a placeholder, in the order in which they are applied.
+/// The columns that have a placeholder, in the order in which they are applied: schema::ordineSegnaposto.
 extern const std::array<QString, numeroSegnaposto> colonneSegnaposto;
 
 /// The placeholder of a column, by its place there.

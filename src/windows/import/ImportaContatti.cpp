@@ -1,6 +1,7 @@
 #include "windows/import/ImportaContatti.h"
 
 #include "modules/import/UltimaImportazione.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/import/frmScelta.h"
@@ -29,8 +30,8 @@ void ImportaContatti::Avanza() {
     vicini.stcProgress().setValue(vicini.stcProgress().value() + 1);
 }
 
-void ImportaContatti::Inserisci(qint64 numero, const inserimento::Valori& valori) {
-    const QString& indirizzo = valori[inserimento::email];
+void ImportaContatti::Inserisci(qint64 numero, const destinatario::Valori& valori) {
+    const QString& indirizzo = valori[schema::email];
     if (prosegui([&] { inserimento.Inserisci(gruppo, valori); }))
         ultimaImportazione().Importata(numero, indirizzo);
     else

@@ -2,6 +2,7 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/import/Inserimento.h"
+#include "modules/store/Destinatario.h"
 #include "windows/import/cartella.h"
 
 class frmScelta;
@@ -32,7 +33,7 @@ class ImportaContatti {
     void Conta(int massimo);
     void Avanza();
     /// Inserts a recipient into the group; one that is refused is left out without a word.
-    void Inserisci(qint64 numero, const inserimento::Valori& valori);
+    void Inserisci(qint64 numero, const destinatario::Valori& valori);
     /// The last rows to disk, the counter back to 0.
     void Finisci();
 

@@ -6,6 +6,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/import/UltimaImportazione.h"
+#include "modules/store/Destinatario.h"
 #include "platform/contacts/ContactFolder.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/import/ImportaContatti.h"
@@ -15,19 +16,19 @@ namespace {
 /// No address of a recipient is shorter.
 constexpr int minimoIndirizzo = 6;
 
-inserimento::Valori ValoriDi(const contacts::Contact& contatto) {
-    inserimento::Valori valori;
-    const auto metti = [&](inserimento::Colonna colonna, const QString& valore) {
-        valori[colonna] = inserimento::Taglia(valore, colonna);
+destinatario::Valori ValoriDi(const contacts::Contact& contatto) {
+    destinatario::Valori valori;
+    const auto metti = [&](schema::Campo campo, const QString& valore) {
+        valori[campo] = destinatario::Taglia(valore, campo);
     };
-    metti(inserimento::email, contatto.email1Address);
-    metti(inserimento::rgs, contatto.companyName);
-    metti(inserimento::nom, contatto.lastNameAndFirstName);
-    metti(inserimento::ind, contatto.businessAddress);
-    metti(inserimento::cap, contatto.businessAddressPostalCode);
-    metti(inserimento::loc, contatto.businessAddressCity);
-    metti(inserimento::tel, contatto.businessTelephoneNumber);
-    metti(inserimento::fax, contatto.businessFaxNumber);
+    metti(schema::email, contatto.email1Address);
+    metti(schema::rgs, contatto.companyName);
+    metti(schema::nom, contatto.lastNameAndFirstName);
+    metti(schema::ind, contatto.businessAddress);
+    metti(schema::cap, contatto.businessAddressPostalCode);
+    metti(schema::loc, contatto.businessAddressCity);
+    metti(schema::tel, contatto.businessTelephoneNumber);
+    metti(schema::fax, contatto.businessFaxNumber);
     return valori;
 }
 

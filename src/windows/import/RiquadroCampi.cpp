@@ -6,17 +6,12 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "modules/store/Destinatario.h"
 #include "platform/ui/Controls.h"
 
 namespace {
 
 constexpr int colonneGriglia = 5;
-
-// By the number of the label.
-constexpr std::array<const char*, campi::quanti> testi{
-    "Ragione Sociale:", "Nome:",     "Email:",   "P.Iva o Cod.Fis.:", "Indirizzo:", "CAP:",     "Località:",
-    "Provincia:",       "Telefono:", "Fax:",     "Campo 1:",          "Campo 2:",   "Campo 3:", "Campo 4:",
-    "Campo 5:",         "Campo 6:",  "Campo 7:", "Campo 8:",          "Campo 9:"};
 
 void segnaObbligatorio(QComboBox& box) {
     const QColor giallo(255, 255, 204);
@@ -35,8 +30,8 @@ RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent), griglia(new QGr
     griglia->setVerticalSpacing(ui::controlSpacing / 4);
     for (int i = 0; i < campi::quanti; ++i) {
         const int numero = campi::etichette[static_cast<std::size_t>(i)];
-        auto* etichetta = ui::named(new QLabel(testi[static_cast<std::size_t>(numero)], this),
-                                    QString("lblcmp(%1)").arg(numero));
+        const QString testo = destinatario::Didascalia(campi::colonne[static_cast<std::size_t>(i)]) + ':';
+        auto* etichetta = ui::named(new QLabel(testo, this), QString("lblcmp(%1)").arg(numero));
         auto* box = ui::named(new QComboBox(this), QString("cmbCmp(%1)").arg(i));
         box->setMinimumHeight(ui::fieldHeight);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -5,7 +5,9 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "modules/import/Inserimento.h"
 #include "modules/import/UltimaImportazione.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/ConnectionText.h"
@@ -18,20 +20,20 @@
 
 namespace {
 
-using namespace inserimento;
+using destinatario::Valori;
 
 /// Cut shorter here than by the other imports.
 constexpr int limiteEmail = 70;
 
 /// The column of the source that feeds each column of a recipient; none where nothing does.
-using Sorgenti = std::array<QString, numeroColonne>;
+using Sorgenti = std::array<QString, schema::numeroCampi>;
 
 void mostra(const QString& testo) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
 }
 
-QString tagliato(const QString& valore, Colonna colonna) {
-    return colonna == email ? valore.left(limiteEmail) : Taglia(valore, colonna);
+QString tagliato(const QString& valore, schema::Campo campo) {
+    return campo == schema::email ? valore.left(limiteEmail) : destinatario::Taglia(valore, campo);
 }
 
 /// A table of the program that made the database.
@@ -51,13 +53,13 @@ Sorgenti sorgentiDi(const RiquadroCampi& riquadro) {
 /// Takes the values of the current record over. One that has no text, such as Null, leaves what the record
 /// before it had there. False when the record itself is gone.
 bool leggi(const ado::Recordset& rs, const Sorgenti& sorgenti, Valori& valori) {
-    for (std::size_t i = 0; i < valori.size(); ++i) {
-        if (sorgenti[i].isEmpty()) continue;
-        const Result<ado::Value> campo = rs.value(sorgenti[i]);
-        if (campo.status().code() == ErrorCode::NoCurrentRecord) return false;
-        if (!campo.ok()) continue;
-        if (const Result<QString> testo = campo.value().toText(); testo.ok())
-            valori[i] = tagliato(testo.value(), static_cast<Colonna>(i));
+    for (const schema::Campo campo : schema::ordineIstruzioni) {
+        if (sorgenti[campo].isEmpty()) continue;
+        const Result<ado::Value> letto = rs.value(sorgenti[campo]);
+        if (letto.status().code() == ErrorCode::NoCurrentRecord) return false;
+        if (!letto.ok()) continue;
+        if (const Result<QString> testo = letto.value().toText(); testo.ok())
+            valori[campo] = tagliato(testo.value(), campo);
     }
     return true;
 }
@@ -70,12 +72,12 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
     for (qint64 numero = 1; !rs.isEof(); ++numero) {
         if (!leggi(rs, sorgenti, valori))
             resoconto.Rifiutata(numero, {}, "Il record non si legge");
-        else if (!EmailValida(valori[email]))
-            resoconto.Rifiutata(numero, valori[email], MotivoIndirizzo(valori[email]));
+        else if (!EmailValida(valori[schema::email]))
+            resoconto.Rifiutata(numero, valori[schema::email], MotivoIndirizzo(valori[schema::email]));
         else if (prosegui([&] { inserimento.Inserisci(gruppo, valori); }))
-            resoconto.Importata(numero, valori[email]);
+            resoconto.Importata(numero, valori[schema::email]);
         else
-            resoconto.Rifiutata(numero, valori[email], prosegui.testo());
+            resoconto.Rifiutata(numero, valori[schema::email], prosegui.testo());
         // Where the source cannot be read on, the same record would come for ever.
         if (!prosegui([&] { esigi(rs.moveNext()); })) break;
         lavoro.breathe();

@@ -8,6 +8,7 @@
 #include <QScopeGuard>
 
 #include "modules/core/bFunctions.h"
+#include "modules/import/Inserimento.h"
 #include "modules/import/RigaTesto.h"
 #include "modules/import/UltimaImportazione.h"
 #include "modules/store/RecordsetDB.h"
@@ -122,7 +123,7 @@ void frmImpTXT::cmdImportaTXT_Click() {
         if (const auto valori = regola.Leggi(riga, punto, &rifiutato)) {
             inserimento.Inserisci(*gruppo, *valori);
             ++punto.inseriti;
-            resoconto.Importata(punto.riga, (*valori)[inserimento::email]);
+            resoconto.Importata(punto.riga, (*valori)[schema::email]);
         } else {
             resoconto.Rifiutata(punto.riga, riga, MotivoIndirizzo(rifiutato));
         }

@@ -1,5 +1,6 @@
 #include "windows/lang/bLANG_chiavi_barre.h"
 
+#include "modules/message/variabili.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/TabStrip.h"
@@ -41,7 +42,7 @@ constexpr const char* pulsantiMain[] = {
 };
 constexpr const char* menuMain[] = {"mnuFile", "mnuMailing", "mnuHelp"};
 
-/// Of the editor. "cmdGiustify" and "popVariabili" have no key.
+/// Of the editor, beside the placeholders. "cmdGiustify" and "popVariabili" have no key.
 constexpr const char* pulsantiEditor[] = {
     "cmdBold",
     "cmdItalic",
@@ -74,25 +75,6 @@ constexpr const char* pulsantiEditor[] = {
     "cmdSelezionaTutto",
     "cmdShowDetails",
     "cmdShowBorder",
-    "cmdVarRgs",
-    "cmdVarNom",
-    "cmdVarEmail",
-    "cmdVarPiva",
-    "cmdVarInd",
-    "cmdVarCap",
-    "cmdVarLoc",
-    "cmdVarProv",
-    "cmdVarTel",
-    "cmdVarFax",
-    "cmdVarCampo1",
-    "cmdVarCampo2",
-    "cmdVarCampo3",
-    "cmdVarCampo4",
-    "cmdVarCampo5",
-    "cmdVarCampo6",
-    "cmdVarCampo7",
-    "cmdVarCampo8",
-    "cmdVarCampo9",
     "cmdAllegatiNew",
     "cmdAllegatiDel",
     "cmdTableInsRow",
@@ -112,13 +94,13 @@ constexpr const char* pulsantiEditor[] = {
 constexpr const char* menuEditor[] = {"popTable", "popModuli"};
 
 /// The first part of the keys of one tool of a window's bars.
-QString inizio(const char* finestra, const char* genere, const char* nome) {
+QString inizio(const char* finestra, const char* genere, const QString& nome) {
     return QStringLiteral("%1.Dks.Commands.%2(\"%3\").").arg(finestra, genere, nome);
 }
 
 /// The two keys of a button or menu.
 void aggiungiComando(Chiavi& chiavi, const FinestraConBarre& istanza, const char* finestra,
-                     const char* genere, const char* nome,
+                     const char* genere, const QString& nome,
                      ui::Command* (ui::CommandBars::*trova)(const QString&) const) {
     const QString chiave = inizio(finestra, genere, nome);
     chiavi[chiave + "Caption"] = [nome, trova, barre = istanza.Commands](const QString& testo) {
@@ -156,6 +138,9 @@ void bLANG::aggiungiEditor(Chiavi& chiavi, const FinestreTradotte& finestre) {
     const auto& barre = finestre.Editor.Commands;
     const auto& tb = finestre.SchedeEditor;
     aggiungiBarre(chiavi, finestre.Editor, editor, pulsantiEditor, menuEditor, "dckAllegati");
+    for (const Variabile& variabile : VariabiliMessaggio())
+        aggiungiComando(chiavi, finestre.Editor, editor, "GetToolButton", variabile.comando,
+                        &ui::CommandBars::GetToolButton);
     for (const char* nome : {"cmbFontName", "cmbFontSize"})
         chiavi[inizio(editor, "GetComboBox", nome) + "Description"] = [nome, barre](const QString& testo) {
             barre().GetComboBox(nome)->setDescription(testo);

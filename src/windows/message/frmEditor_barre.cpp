@@ -23,7 +23,7 @@ constexpr auto dalMenu = ui::CommandDesign::Scope::Popup;
 constexpr bool conStato = true;
 
 /// A command whose description repeats its caption.
-ui::CommandDesign comando(const char* nome, const char* didascalia, const char* icona,
+ui::CommandDesign comando(const QString& nome, const QString& didascalia, const char* icona,
                           const Tasti& tasti = {}, bool stato = false) {
     return {nome, didascalia, QString(didascalia).remove('&'), icona, tasti, finestra, stato};
 }
@@ -105,15 +105,15 @@ Comandi comandiInserisci() {
 
 Comandi comandiVariabili() {
     Comandi comandi;
-    for (const Variabile& variabile : variabiliMessaggio)
+    for (const Variabile& variabile : VariabiliMessaggio())
         comandi.push_back(comando(variabile.comando, variabile.didascalia, ""));
     return comandi;
 }
 
 QStringList vociVariabili() {
     QStringList voci;
-    for (const Variabile& variabile : variabiliMessaggio) {
-        if (qstrcmp(variabile.comando, "cmdVarCampo1") == 0) voci << "|";
+    for (const Variabile& variabile : VariabiliMessaggio()) {
+        if (variabile.campo == schema::campo1) voci << "|";
         voci << variabile.comando;
     }
     return voci;

@@ -78,8 +78,9 @@ bool frmEditor::ComandoDesign(const QString& nome) {
 bool frmEditor::ComandoInserimento(const QString& nome) {
     if (const Frammento* frammento = riga(frammenti, nome, &Frammento::nome))
         InserisciHTML(QString::fromLatin1(frammento->html));
-    else if (const Variabile* variabile = riga(variabiliMessaggio, nome, &Variabile::comando))
-        InserisciHTML(QString::fromLatin1(variabile->testo));
+    else if (const auto variabile = std::ranges::find(VariabiliMessaggio(), nome, &Variabile::comando);
+             variabile != VariabiliMessaggio().end())
+        InserisciHTML(variabile->testo);
     else
         return false;
     return true;

@@ -24,7 +24,7 @@ void frmEditor::DialogoImmagine() {
 
 void frmEditor::DialogoCollegamento() {
     ui::LinkDialog::Offers variabili;
-    for (const Variabile& variabile : variabiliMessaggio)
+    for (const Variabile& variabile : VariabiliMessaggio())
         variabili.emplace_back(variabile.didascalia, variabile.testo);
     const auto collegamento = DHTML->link();
     const auto testo = DHTML->selectedText();

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include "modules/store/Destinatario.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
@@ -14,6 +15,7 @@
 #include "windows/core/Evento.h"
 #include "windows/core/SchedaProprieta.h"
 #include "windows/store/frmDestinatario_campi.h"
+#include "windows/store/griglia.h"
 
 frmDestinatario::frmDestinatario(QWidget* parent)
     : QDialog(parent),
@@ -43,16 +45,19 @@ frmDestinatario::frmDestinatario(QWidget* parent)
 void frmDestinatario::CreaVoci() {
     prp->addGroup("Datidestinatario", "Dati destinatario");
     prp->addBoolean("Spedire", "Send", "Il destinatario è compreso nel prossimo invio");
-    for (const CampoDestinatario& campo : campiDestinatario) {
-        if (qstrcmp(campo.chiave, "Campo1") == 0) prp->addGroup("Altro", "Altro");
-        prp->addText(campo.chiave, campo.didascalia ? *campo.didascalia : "Email", campo.descrizione);
+    for (const schema::Campo campo : schema::ordineIstruzioni) {
+        if (campo == schema::campo1) prp->addGroup("Altro", "Altro");
+        const auto& [chiave, descrizione] = vociDestinatario[campo];
+        prp->addText(
+            chiave, griglia::Intestazione(campo),
+            QStringLiteral("%1 (max %2 caratteri)").arg(descrizione).arg(schema::testi[campo].massimo));
     }
 }
 
 void frmDestinatario::PulisciCampi() {
     prp->Item("Spedire")->setValue(true);
-    for (const CampoDestinatario& campo : campiDestinatario)
-        prp->Item(campo.chiave)->setValue(QString());
+    for (const VoceDestinatario& voce : vociDestinatario)
+        prp->Item(voce.chiave)->setValue(QString());
 }
 
 void frmDestinatario::CaricaUser(std::int32_t id) {
@@ -60,8 +65,9 @@ void frmDestinatario::CaricaUser(std::int32_t id) {
     rs.setSource("SELECT * FROM [tb_destinatari] WHERE id = " + QString::number(id) + " ;");
     esigi(rs.open());
     prp->Item("Spedire")->setValue(esigi(esigi(rs.value(u"sel")).toBool()));
-    for (const CampoDestinatario& campo : campiDestinatario)
-        prp->Item(campo.chiave)->setValue(esigi(rs.value(QString(campo.colonna))).toTextOrEmpty());
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        prp->Item(vociDestinatario[campo].chiave)
+            ->setValue(esigi(rs.value(destinatario::NomeColonna(campo))).toTextOrEmpty());
 }
 
 void frmDestinatario::closeEvent(QCloseEvent* chiusura) {

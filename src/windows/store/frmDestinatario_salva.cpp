@@ -5,6 +5,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
 #include "modules/send/Accettati.h"
+#include "modules/store/Destinatario.h"
 #include "platform/ado/Command.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/MessageDialog.h"
@@ -15,8 +16,15 @@
 
 namespace {
 
-QString Testo(ui::PropertyList& prp, const CampoDestinatario& campo) {
-    return prp.Item(campo.chiave)->Value().toString();
+QString Testo(ui::PropertyList& prp, schema::Campo campo) {
+    return prp.Item(vociDestinatario[campo].chiave)->Value().toString();
+}
+
+destinatario::Valori Testi(ui::PropertyList& prp) {
+    destinatario::Valori valori;
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        valori[campo] = Testo(prp, campo);
+    return valori;
 }
 
 QString FlagSpedire(ui::PropertyList& prp) {
@@ -28,11 +36,11 @@ QString FlagSpedire(ui::PropertyList& prp) {
 /// Cleans the texts where the user sees it: cut to the column's width, and without apostrophes, which would
 /// end a text of the statement.
 bool frmDestinatario::ValidaCampi() {
-    for (const CampoDestinatario& campo : campiDestinatario) {
-        QString testo = Testo(*prp, campo).left(campo.massimo);
-        prp->Item(campo.chiave)->setValue(testo.remove('\''));
+    for (const schema::Campo campo : schema::ordineIstruzioni) {
+        QString testo = destinatario::Taglia(Testo(*prp, campo), campo);
+        prp->Item(vociDestinatario[campo].chiave)->setValue(testo.remove('\''));
     }
-    return EmailValida(Testo(*prp, campiDestinatario.front()));
+    return EmailValida(Testo(*prp, schema::email));
 }
 
 void frmDestinatario::cdmSalva_Click() {
@@ -56,20 +64,12 @@ void frmDestinatario::cdmSalva_Click() {
 }
 
 QString frmDestinatario::ComandoNuovo() const {
-    QString valori;
-    for (const CampoDestinatario& campo : campiDestinatario)
-        valori += ", '" + Testo(*prp, campo) + '\'';
-    return "INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs, nom, piva, ind, cap, loc, prov, tel, fax, "
-           "campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9) VALUES (" +
-           txtIDgroup->text() + ", " + FlagSpedire(*prp) + valori + ") ";
+    return destinatario::IstruzioneNuovo(txtIDgroup->text(), FlagSpedire(*prp), Testi(*prp));
 }
 
 QString frmDestinatario::ComandoModifica() const {
-    QString valori;
-    for (const CampoDestinatario& campo : campiDestinatario)
-        valori += QStringLiteral(", ") + campo.colonna + " = '" + Testo(*prp, campo) + '\'';
-    return "UPDATE [tb_destinatari] SET id_grp = " + txtIDgroup->text() + ", sel = " + FlagSpedire(*prp) +
-           valori + " WHERE id = " + txtIDuser->text() + " ;";
+    return destinatario::IstruzioneModifica(txtIDuser->text(), txtIDgroup->text(), FlagSpedire(*prp),
+                                            Testi(*prp));
 }
 
 /// A new recipient has its place by the order of the list; an edited one keeps its row until the next fill.
@@ -84,7 +84,7 @@ void frmDestinatario::AggiornaGriglia() {
         griglia::RinfrescaGriglia();
         return;
     }
-    grd.setTextMatrix(grd.Row(), 2, FlagSpedire(*prp));
-    for (const CampoDestinatario& campo : campiDestinatario)
-        grd.setTextMatrix(grd.Row(), campo.colonnaGriglia, Testo(*prp, campo));
+    grd.setTextMatrix(grd.Row(), griglia::colonnaSel, FlagSpedire(*prp));
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        grd.setTextMatrix(grd.Row(), griglia::ColonnaDi(campo), Testo(*prp, campo));
 }

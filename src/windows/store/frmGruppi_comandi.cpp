@@ -5,6 +5,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
 #include "modules/send/Accettati.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/nodo.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
@@ -19,11 +20,6 @@
 namespace {
 
 using ui::MessageDialog;
-
-/// The columns of a recipient that a copy takes along.
-const QString colonneCopiate =
-    "rgs, nom, piva, ind, cap, loc, prov, tel, fax, email, "
-    "campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9, sel";
 
 /// Adds a group to the table. Its number is known before the row is posted. Gives it as text.
 QString AggiungiGruppo(ado::Recordset& rs, const QString& chiavePadre, const QString& nome) {
@@ -112,9 +108,7 @@ void comandiGruppo::Copia(frmGruppi& gruppi, ado::Recordset& rs, ado::Command& c
     if (!padre) fallisci(ErrorCode::ItemNotFound);
     const QString nome = nodo->Text() + "_Copia";
     const QString id = AggiungiGruppo(rs, padre->Key(), nome);
-    Esegui(comando, "INSERT INTO tb_destinatari (id_grp," + colonneCopiate + ") " + "SELECT " + id +
-                        " as id_grp, " + colonneCopiate + " " +
-                        "FROM tb_destinatari WHERE id_grp = " + NumeroNodoCorrente() + " ;");
+    Esegui(comando, destinatario::IstruzioneCopia(NumeroNodoCorrente(), id));
     gruppi.AggiungiNodo(padre->Key(), id, nome);
 }
 

@@ -1,12 +1,14 @@
 #include "windows/store/griglia.h"
 
+#include <array>
 #include <cassert>
 #include <optional>
 #include <QScopeGuard>
 
 #include "modules/core/bGlobal.h"
-#include "modules/lang/bVAR.h"
+#include "modules/lang/bVAR_elenco.h"
 #include "modules/send/Accettati.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/nodo.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
@@ -22,11 +24,13 @@
 
 namespace {
 
-// The grid's columns, once they were rearranged after a fill.
-constexpr int colonnaId = 1;
-constexpr int colonnaSel = 2;
-constexpr int colonnaEmail = 3;
-constexpr int primaColonnaTradotta = 5;
+using griglia::colonnaEmail;
+using griglia::colonnaId;
+using griglia::colonnaSel;
+
+// Where a fill has put them: in the order of the table, behind the leading column.
+constexpr int colonnaEmailInTabella = 3 + schema::email;
+constexpr int colonnaSelInTabella = schema::colonneDestinatari.size();
 
 const QString fraseVuota = QStringLiteral("Nessun destinatario in questa cartella");
 
@@ -42,15 +46,6 @@ const Principale& FinestraDellaGriglia() {
 
 using griglia::grd;
 
-/// Headings of the columns from primaColonnaTradotta on.
-QStringList IntestazioniTradotte() {
-    return {
-        bVAR::xxxRagioneSociale, bVAR::xxxNome,      bVAR::xxxPIva,     bVAR::xxxIndirizzo, bVAR::xxxCAP,
-        bVAR::xxxLocalita,       bVAR::xxxProvincia, bVAR::xxxTelefono, bVAR::xxxFax,       bVAR::xxxCampo1,
-        bVAR::xxxCampo2,         bVAR::xxxCampo3,    bVAR::xxxCampo4,   bVAR::xxxCampo5,    bVAR::xxxCampo6,
-        bVAR::xxxCampo7,         bVAR::xxxCampo8,    bVAR::xxxCampo9};
-}
-
 void Aggiorna() {
     PuntatoreAttesa();
     const auto fatto = qScopeGuard(PuntatorePredefinito);
@@ -63,13 +58,11 @@ void Aggiorna() {
 void grd_AfterDataRefresh() {
     for (const int colonna : {0, 1, 2})
         grd().setColWidth(colonna, 0);
-    grd().setColPosition(22, colonnaSel);
-    grd().setColPosition(13, colonnaEmail);
+    grd().setColPosition(colonnaSelInTabella, colonnaSel);
+    grd().setColPosition(colonnaEmailInTabella + 1, colonnaEmail);  // "sel" has moved before it
     grd().setTextMatrix(0, colonnaSel, "Send");
-    grd().setTextMatrix(0, colonnaEmail, "Email");
-    int colonna = primaColonnaTradotta;
-    for (const QString& testo : IntestazioniTradotte())
-        grd().setTextMatrix(0, colonna++, testo);
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        grd().setTextMatrix(0, griglia::ColonnaDi(campo), griglia::Intestazione(campo));
     grd().setEmptyText(fraseVuota);
     FinestraDellaGriglia().AggiornaComandi();
 }
@@ -123,6 +116,17 @@ void grd_MouseUp(Qt::MouseButton pulsante, const QPoint& punto) {
 
 }  // namespace
 
+QString griglia::Intestazione(schema::Campo campo) {
+    constexpr auto testi = [] {
+        std::array<const QString*, schema::numeroCampi> trovati{};
+        for (const schema::Campo uno : schema::ordineTabella)
+            if (const auto chiave = schema::testi[uno].chiaveLingua; !chiave.empty())
+                trovati[uno] = bVAR::Cerca(chiave);
+        return trovati;
+    }();
+    return testi[campo] ? *testi[campo] : destinatario::Didascalia(campo);
+}
+
 ui::DataGrid& griglia::grd() {
     return FinestraDellaGriglia().grd;
 }
@@ -136,8 +140,7 @@ void griglia::Collega(const Principale& finestra) {
     DataGrid* grd = &finestra.grd;
     collegata.emplace(finestra);
     QObject::connect(grd, &QObject::destroyed, grd, [] { collegata.reset(); });
-    // In the order of the table, behind the leading column: id, id_grp, rgs, nom, piva, ind, cap, loc, prov,
-    // tel, fax, email, campo1 to campo9, sel.
+    // Behind the leading column in the order of schema::colonneDestinatari.
     std::vector<int> larghezze{0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
                                230, 120, 120, 120, 120, 120, 120, 120, 120, 120, 56};
     for (int& larghezza : larghezze)

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <QString>
 
+#include "modules/store/Schema.h"
+
 namespace ado {
 class Command;
 }
@@ -15,6 +17,22 @@ struct Principale;
 /// The recipient grid of the main window: how it is filled, and what a user does in it. It has no model of
 /// its own: each write goes to the table as a statement, and the cell on the screen is changed to match.
 namespace griglia {
+
+// The columns of the grid, once they were rearranged after a fill: behind the leading one the recipient's
+// number, "sel", the address, the number of the group, then the other texts in the order of the table.
+inline constexpr int colonnaId = 1;
+inline constexpr int colonnaSel = 2;
+inline constexpr int colonnaEmail = 3;
+inline constexpr int primaColonnaTradotta = 5;
+
+/// The column of a text.
+constexpr int ColonnaDi(schema::Campo campo) {
+    if (campo == schema::email) return colonnaEmail;
+    return primaColonnaTradotta + static_cast<int>(campo) - (campo > schema::email ? 1 : 0);
+}
+
+/// What grid and form call a text: from the language file, but for the address.
+QString Intestazione(schema::Campo campo);
 
 /// Gives the grid of the main window its first widths, its events and its pop-up menu. To be called first, by
 /// each main window when it has its grid, its data control and its command bars.

@@ -7,7 +7,8 @@
 
 namespace bwab_test {
 
-using namespace inserimento;
+using namespace destinatario;
+using namespace schema;
 
 namespace {
 
@@ -42,7 +43,7 @@ TEST(AddressBookEntry, ShortValueBehindALongOneKeepsNothingOfIt) {
 TEST(AddressBookEntry, MissingValueIsEmptyAndNotTheOneBefore) {
     const auto values = readCard("EMAIL:ada@example.it\nFN:Ada");
     ASSERT_TRUE(values);
-    for (const Colonna column : {rgs, piva, ind, cap, loc, prov, tel, fax, campo1, campo9})
+    for (const Campo column : {rgs, piva, ind, cap, loc, prov, tel, fax, campo1, campo9})
         EXPECT_EQ((*values)[column], "") << column;
 }
 

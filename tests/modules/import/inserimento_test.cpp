@@ -1,5 +1,6 @@
-// What the imports share: the statement, the limits, and the rows on disk.
+// What the imports share: the boxes, and the rows on disk.
 #include "modules/import/Inserimento.h"
+#include "modules/store/Destinatario.h"
 #include "modules/store/NuovoDatabase.h"
 
 #include <sys/wait.h>
@@ -17,7 +18,7 @@
 
 namespace inserimento_test {
 
-using namespace inserimento;
+using destinatario::Valori;
 
 namespace {
 
@@ -49,48 +50,27 @@ class InsertedRow : public testing::Test {
 
 Valori valoriPer(const QString& indirizzo) {
     Valori valori;
-    valori[email] = indirizzo;
+    valori[schema::email] = indirizzo;
     return valori;
 }
 
 }  // namespace
 
-TEST(InsertStatement, NamesTheColumnsInTheirOrderAndEndsWithABlank) {
-    Valori valori;
-    for (int i = 0; i < numeroColonne; ++i)
-        valori[static_cast<size_t>(i)] = QString("v%1").arg(i);
-    EXPECT_EQ(Istruzione("7", valori),
-              "INSERT INTO [tb_destinatari] (id_grp, sel, email, rgs, nom, piva, ind, cap, loc, prov, tel, "
-              "fax, campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9) VALUES (7, True, "
-              "'v0', 'v1', 'v2', 'v3', 'v4', 'v5', 'v6', 'v7', 'v8', 'v9', 'v10', 'v11', 'v12', 'v13', "
-              "'v14', 'v15', 'v16', 'v17', 'v18') ");
-}
-
-TEST(InsertStatement, GivesTwoQuotesToAColumnWithoutAValue) {
-    EXPECT_TRUE(Istruzione("0", valoriPer("a@x.it")).contains("(0, True, 'a@x.it', '', '', "));
-}
-
-TEST(InsertStatement, DoublesNoQuote) {
-    EXPECT_TRUE(Istruzione("0", valoriPer("d'a@x.it")).contains("'d'a@x.it'"));
-}
-
-TEST(ColumnLimit, KeepsAValueOfExactlyTheLimitAndCutsOneCharacterMore) {
-    const std::array<int, numeroColonne> expected{255, 70,  70,  15,  255, 10,  70,  2,   15, 15,
-                                                  255, 255, 255, 255, 255, 255, 255, 255, 255};
-    for (int i = 0; i < numeroColonne; ++i) {
-        const int limite = expected[static_cast<size_t>(i)];
-        const QString intero = QString(limite - 1, u'a') + u'z';
-        EXPECT_EQ(Taglia(intero, static_cast<Colonna>(i)), intero);
-        EXPECT_EQ(Taglia(intero + u'!', static_cast<Colonna>(i)), intero);
-    }
-}
-
 TEST(ColumnBoxes, FeedEveryColumnOnce) {
-    std::array<int, numeroColonne> fed{};
-    for (const Colonna colonna : campi::colonne)
-        ++fed[colonna];
+    std::array<int, schema::numeroCampi> fed{};
+    for (const schema::Campo campo : campi::colonne)
+        ++fed[campo];
     for (const int times : fed)
         EXPECT_EQ(times, 1);
+}
+
+TEST(ColumnBoxes, StandInTheirOrderUnderTheLabelsOfTheirColumns) {
+    using namespace schema;
+    EXPECT_EQ(campi::colonne, (Ordine{rgs, nom, email, piva, cap, loc, prov, ind, tel, fax, campo1, campo2,
+                                      campo3, campo4, campo5, campo6, campo7, campo8, campo9}));
+    EXPECT_EQ(campi::etichette, (std::array<int, campi::quanti>{0, 1, 2, 3, 5, 6, 7, 4, 8, 9, 10, 11, 12, 13,
+                                                                14, 15, 16, 17, 18}));
+    EXPECT_EQ(campi::colonne[campi::boxEmail], email);
 }
 
 TEST_F(InsertedRow, IsSelectedAndInItsGroup) {
@@ -109,9 +89,9 @@ TEST_F(InsertedRow, WithAQuoteInAValueIsRefusedAndTheOthersStay) {
     comando.Prepara();
     comando.Inserisci("1", valoriPer("a@x.it"));
     Valori valori = valoriPer("b@x.it");
-    valori[nom] = "Dell'Acqua";
+    valori[schema::nom] = "Dell'Acqua";
     EXPECT_THROW(comando.Inserisci("1", valori), Fallimento);
-    valori[nom] = R"(Caffè "La Rapida")";
+    valori[schema::nom] = R"(Caffè "La Rapida")";
     comando.Inserisci("1", valori);
     comando.Conferma();
     EXPECT_EQ(values("nom"), (QStringList{"", R"(Caffè "La Rapida")"}));

@@ -10,7 +10,8 @@
 
 namespace riga_testo_test {
 
-using namespace inserimento;
+using namespace destinatario;
+using namespace schema;
 
 namespace {
 
@@ -53,7 +54,7 @@ Outcome readWhole(const QString& path, const RigaTesto& lettore, const QString& 
                 continue;
             }
             ++outcome.rows;
-            statements.addData(Istruzione(gruppo, *valori).toUtf8() + '\n');
+            statements.addData(IstruzioneNuovo(gruppo, "True", *valori).toUtf8() + '\n');
         } catch (const Fallimento&) {
             outcome.failedAt = number;
             break;

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QTimer>
 
+#include "modules/store/Destinatario.h"
 #include "platform/contacts/ContactFolder.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/import/frmScelta.h"
@@ -76,8 +77,8 @@ class ContactStage : public ImportStage {
         QJsonArray found;
         for (int i = 0; i < recipients(); ++i) {
             QJsonObject row;
-            for (const char* name : columnNames)
-                row[QLatin1String(name)] = inserted(name).at(i);
+            for (const schema::Campo field : schema::ordineTabella)
+                row[destinatario::NomeColonna(field)] = inserted(destinatario::NomeColonna(field)).at(i);
             found.append(row);
         }
         return found;

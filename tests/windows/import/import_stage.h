@@ -9,18 +9,13 @@
 #include <QRadioButton>
 
 #include "modules/core/Fallimento.h"
-#include "modules/import/Inserimento.h"
+#include "modules/store/Destinatario.h"
 #include "platform/ado/Connection.h"
 #include "support/JetChecker.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/griglia_stage.h"
 
 namespace testing_support {
-
-/// The columns of a recipient in the order of the statement.
-inline constexpr std::array<const char*, inserimento::numeroColonne> columnNames{
-    "email",  "rgs",    "nom",    "piva",   "ind",    "cap",    "loc",    "prov",   "tel",   "fax",
-    "campo1", "campo2", "campo3", "campo4", "campo5", "campo6", "campo7", "campo8", "campo9"};
 
 /// Whether these are the first ones of "n1@x.it", "n2@x.it", …
 inline bool isBeginningOfTheList(const QStringList& addresses) {
@@ -86,11 +81,11 @@ class ImportStage : public StoreStage {
         esigi(rows.open());
         QCryptographicHash hash(QCryptographicHash::Sha256);
         for (; !rows.isEof(); esigi(rows.moveNext())) {
-            inserimento::Valori values;
-            for (size_t i = 0; i < values.size(); ++i)
-                values[i] = esigi(esigi(rows.value(QString(columnNames[i]))).toText());
+            destinatario::Valori values;
+            for (const schema::Campo field : schema::ordineTabella)
+                values[field] = esigi(esigi(rows.value(destinatario::NomeColonna(field))).toText());
             const QString group = esigi(rows.value(u"id_grp")).toTextOrEmpty();
-            hash.addData(inserimento::Istruzione(group, values).toUtf8() + '\n');
+            hash.addData(destinatario::IstruzioneNuovo(group, "True", values).toUtf8() + '\n');
         }
         return hash.result().toHex();
     }

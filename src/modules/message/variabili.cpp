@@ -1,0 +1,24 @@
+#include "modules/message/variabili.h"
+
+#include <algorithm>
+
+#include "modules/store/Destinatario.h"
+
+namespace {
+
+Variabile variabileDi(schema::Campo campo) {
+    QString nome = destinatario::NomeColonna(campo);
+    nome[0] = nome[0].toUpper();
+    return {campo, "cmdVar" + nome, destinatario::Didascalia(campo), destinatario::Segnaposto(campo)};
+}
+
+}  // namespace
+
+const std::array<Variabile, schema::numeroCampi>& VariabiliMessaggio() {
+    static const auto variabili = [] {
+        std::array<Variabile, schema::numeroCampi> nuove;
+        std::ranges::transform(schema::ordineSegnaposto, nuove.begin(), variabileDi);
+        return nuove;
+    }();
+    return variabili;
+}
