@@ -25,17 +25,17 @@ double processorMicroseconds() {
 
 mail::MessageData newsletter(int octets) {
     mail::MessageData message;
-    message.fromName = QStringLiteral("Notizie");
-    message.fromAddress = QStringLiteral("notizie@mittente.example");
-    message.toAddress = QStringLiteral("rossi@cliente.example");
-    message.subject = QStringLiteral("Notizie per Rossi");
-    message.bodyHtml = QStringLiteral("<html><body>\n");
-    while (message.bodyHtml.size() < octets)
-        message.bodyHtml +=
+    message.FromName = QStringLiteral("Notizie");
+    message.FromAddress = QStringLiteral("notizie@mittente.example");
+    message.ToAddress = QStringLiteral("rossi@cliente.example");
+    message.Subject = QStringLiteral("Notizie per Rossi");
+    message.BodyHtml = QStringLiteral("<html><body>\n");
+    while (message.BodyHtml.size() < octets)
+        message.BodyHtml +=
             QStringLiteral("<p>Gentile Rossi, l'offerta di questa settimana vale in ogni negozio.</p>\n");
-    message.bodyHtml += QStringLiteral("</body></html>");
-    message.bodyText = QStringLiteral("Gentile Rossi, le offerte di questa settimana.\n");
-    message.templateHtml = message.bodyHtml;
+    message.BodyHtml += QStringLiteral("</body></html>");
+    message.BodyText = QStringLiteral("Gentile Rossi, le offerte di questa settimana.\n");
+    message.TemplateHtml = message.BodyHtml;
     return message;
 }
 
@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
     const int messages = std::atoi(argv[1]);
     const mail::MessageData plain = newsletter(std::atoi(argv[2]));
     mail::MessageData toSign = plain;
-    toSign.dkimFolder = QString::fromLocal8Bit(argv[3]);
+    toSign.DkimFolder = QString::fromLocal8Bit(argv[3]);
     mail::Composer composer;
     Key key(argv[4]);
     const auto timed = [](auto work) {
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
     const auto compose = [&composer](const mail::MessageData& message) {
         const auto composed = composer.compose(message);
         const bool isSigned = composed.value().text.pieces().front().startsWith("DKIM-Signature:");
-        if (isSigned == message.dkimFolder.isEmpty()) std::exit(1);
+        if (isSigned == message.DkimFolder.isEmpty()) std::exit(1);
     };
     double without = 0, with = 0, alone = 0;
     for (int i = 0; i < messages; i += turn) {

@@ -54,21 +54,21 @@ mail::MessageData messageFrom(const QByteArray& bytes, const Files& files) {
     const QByteArrayList values = bytes.mid(1).split('\xFF');
     const auto value = [&](qsizetype i) { return valueFrom(values.value(i)); };
     mail::MessageData message;
-    message.fromName = value(0);
-    message.fromAddress = value(1);
-    message.toName = value(2);
-    message.toAddress = value(3);
-    message.subject = value(4);
-    message.bodyText = value(5);
-    message.bodyHtml = value(6);
-    message.unsubscribeLink = value(7);
-    if (values.size() >= valueCount) message.attachments = {{files.attachment, value(8)}};
-    if ((carries & SecondAttachment) != 0) message.attachments += {files.attachment, value(4)};
+    message.FromName = value(0);
+    message.FromAddress = value(1);
+    message.ToName = value(2);
+    message.ToAddress = value(3);
+    message.Subject = value(4);
+    message.BodyText = value(5);
+    message.BodyHtml = value(6);
+    message.UnsubscribeLink = value(7);
+    if (values.size() >= valueCount) message.Attachments = {{files.attachment, value(8)}};
+    if ((carries & SecondAttachment) != 0) message.Attachments.Add(files.attachment, value(4));
     if ((carries & Image) != 0) {
-        message.templateHtml = "<img src='" + files.image + "'>";
-        message.bodyHtml.prepend(message.templateHtml);
+        message.TemplateHtml = "<img src='" + files.image + "'>";
+        message.BodyHtml.prepend(message.TemplateHtml);
     }
-    message.priority = (carries & HighPriority) != 0 ? 1 : (carries & LowPriority) != 0 ? 5 : 3;
+    message.Priority = (carries & HighPriority) != 0 ? 1 : (carries & LowPriority) != 0 ? 5 : 3;
     return message;
 }
 
@@ -77,9 +77,9 @@ Result<mail::ComposedMessage> composed(mail::Composer& composer, mail::MessageDa
     auto result = composer.compose(message);
     if (result.ok()) return result;
     require(result.status().code() == ErrorCode::TypeMismatch, "a failure that is not an address");
-    for (QString* address : {&message.fromAddress, &message.toAddress}) {
-        if (!mail::parseAddrSpec(*address).ok()) *address = QStringLiteral("rossi@example.it");
-    }
+    const QString good = QStringLiteral("rossi@example.it");
+    if (!mail::parseAddrSpec(message.FromAddress).ok()) message.FromAddress = good;
+    if (!mail::parseAddrSpec(message.ToAddress).ok()) message.ToAddress = good;
     return composer.compose(message);
 }
 
@@ -119,16 +119,16 @@ void checkMessage(const mail::MessageData& given, const mail::ComposedMessage& m
     require(read.complaints.isEmpty(), read.complaints.join('\n').toUtf8().constData(), data);
     require(read.from.address == message.from.address() && read.to.address == message.to.address(),
             "another address", data);
-    require(read.subject == inOneLine(given.subject), "another subject", data);
+    require(read.subject == inOneLine(given.Subject), "another subject", data);
     require('<' + read.messageId + '>' == message.messageId, "another Message-ID", data);
     const auto carried = std::count_if(read.leaves.begin(), read.leaves.end(), [](const wire::Leaf& leaf) {
         return leaf.disposition == "attachment" && leaf.content == fileContent;
     });
-    require(carried == given.attachments.size(), "other attachments", data);
+    require(carried == given.Attachments.items().size(), "other attachments", data);
     const auto images = std::count_if(read.leaves.begin(), read.leaves.end(), [](const wire::Leaf& leaf) {
         return leaf.disposition == "inline" && leaf.content == png;
     });
-    require(images <= (given.templateHtml.isEmpty() ? 0 : 1), "an image that the template does not name",
+    require(images <= (given.TemplateHtml.isEmpty() ? 0 : 1), "an image that the template does not name",
             data);
     const auto texts = std::count_if(read.leaves.begin(), read.leaves.end(), [](const wire::Leaf& leaf) {
         return leaf.disposition.isEmpty() && leaf.type.startsWith("text/");

@@ -19,20 +19,20 @@ CopiaProva LeggiCopia(const ModelloProva& modello, const ado::Recordset& destina
 mail::MessageData DatiMessaggio(const ModelloProva& modello, const CopiaProva& copia, const Account& mittente,
                                 const mail::CarriedFiles& concessi) {
     mail::MessageData dati;
-    dati.fromName = mittente.txtNomeVisual;
-    dati.fromAddress = mittente.txtEmail;
-    dati.toName = copia.nome;
-    dati.toAddress = copia.indirizzo;
-    dati.subject = copia.testi.oggetto;
-    dati.bodyHtml = copia.testi.corpoHtml;
-    dati.bodyText = copia.testi.corpoTesto;
-    dati.templateHtml = modello.testi.corpoHtml;
-    dati.unsubscribeLink = copia.testi.disiscrizione;
-    dati.priority = modello.priorita;
+    dati.FromName = mittente.txtNomeVisual;
+    dati.FromAddress = mittente.txtEmail;
+    dati.ToName = copia.nome;
+    dati.ToAddress = copia.indirizzo;
+    dati.Subject = copia.testi.oggetto;
+    dati.BodyHtml = copia.testi.corpoHtml;
+    dati.BodyText = copia.testi.corpoTesto;
+    dati.TemplateHtml = modello.testi.corpoHtml;
+    dati.UnsubscribeLink = copia.testi.disiscrizione;
+    dati.Priority = modello.priorita;
     for (const AllegatoMss& allegato : modello.allegati)
-        if (allegato.presente) dati.attachments.append({allegato.percorso, allegato.nome});
-    dati.carried = concessi;
-    dati.dkimFolder = cartellaDati() + QStringLiteral("dkim");
+        if (allegato.presente) dati.Attachments.Add(allegato.percorso, allegato.nome);
+    dati.FilesToCarry = concessi;
+    dati.DkimFolder = cartellaDati() + QStringLiteral("dkim");
     return dati;
 }
 

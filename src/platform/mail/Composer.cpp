@@ -101,21 +101,21 @@ Composer::Composer() : m_state(std::make_unique<State>()) {}
 Composer::~Composer() = default;
 
 Result<ComposedMessage> Composer::compose(const MessageData& message) {
-    const auto from = parseAddrSpec(message.fromAddress);
+    const auto from = parseAddrSpec(message.FromAddress);
     if (!from.ok()) return from.status();
-    const auto to = parseAddrSpec(message.toAddress);
+    const auto to = parseAddrSpec(message.ToAddress);
     if (!to.ok()) return to.status();
-    const Status attached = m_state->attachments.follow(message.attachments, message.carried);
+    const Status attached = m_state->attachments.follow(message.Attachments.items(), message.FilesToCarry);
     if (!attached.ok()) return attached;
-    m_state->images.follow(message.templateHtml, message.carried);
+    m_state->images.follow(message.TemplateHtml, message.FilesToCarry);
 
-    Body body{{}, message.bodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
+    Body body{{}, message.BodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
     // As it travels: what stands around a NUL has to mean the same to every reader.
     if (body.html.contains('\0')) body.html.replace('\0', ' ');
     const HtmlReferences references = findReferences(body.html);
     const bool hasHtml = !QByteArrayView(body.html).trimmed().isEmpty();
-    body.text = (hasHtml ? textPart(message.bodyText, references, message.subject)
-                         : withoutLongGaps(message.bodyText))
+    body.text = (hasHtml ? textPart(message.BodyText, references, message.Subject)
+                         : withoutLongGaps(message.BodyText))
                     .toUtf8();
     adaptHtml(body, references, m_state->images);
 
@@ -129,19 +129,19 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     composed.messageId = '<' + word + '@' + composed.from.domain + '>';
     QByteArray& out = composed.text.end();
     out.reserve(headerRoom + (body.text.size() + body.html.size()) * mostEncoded);
-    out += foldedHeader("From", namedAddress(message.fromName, composed.from.address()));
-    out += foldedHeader("To", namedAddress(message.toName, composed.to.address()));
-    out += foldedHeader("Subject", unstructuredText(message.subject));
+    out += foldedHeader("From", namedAddress(message.FromName, composed.from.address()));
+    out += foldedHeader("To", namedAddress(message.ToName, composed.to.address()));
+    out += foldedHeader("Subject", unstructuredText(message.Subject));
     out += foldedHeader("Date", m_state->date.text(now));
     out += foldedHeader("Message-ID", composed.messageId);
-    const bool oneClick = m_state->mayUnsubscribeByOneClick(message.templateHtml) &&
-                          m_state->signer.signs(message.dkimFolder, composed.from.domain);
-    out += unsubscribeHeaders(message.unsubscribeLink, oneClick, from.value());
+    const bool oneClick = m_state->mayUnsubscribeByOneClick(message.TemplateHtml) &&
+                          m_state->signer.signs(message.DkimFolder, composed.from.domain);
+    out += unsubscribeHeaders(message.UnsubscribeLink, oneClick, from.value());
     if (const QByteArray id = listId(from.value()); !id.isEmpty()) out += foldedHeader("List-Id", id);
-    appendPriority(out, message.priority);
+    appendPriority(out, message.Priority);
     out += "MIME-Version: 1.0\r\n";
     appendBody(composed.text, body, word);
-    const auto signature = m_state->signer.sign(message.dkimFolder, composed.from.domain, composed.text);
+    const auto signature = m_state->signer.sign(message.DkimFolder, composed.from.domain, composed.text);
     if (!signature.ok())
         composed.signing = signature.status();
     else if (!signature.value().isEmpty())

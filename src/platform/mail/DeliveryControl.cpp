@@ -90,7 +90,7 @@ void DeliveryControl::startNew(const QString& host) {
         finish({false, 0, QStringLiteral("La porta del server non è valida.")});
         return;
     }
-    const Result<ComposedMessage> message = m_composer.compose(data());
+    const Result<ComposedMessage> message = m_composer.compose(*this);
     if (!message.ok()) {
         finish({false, 0, message.status().text()});
         return;
@@ -110,24 +110,6 @@ QString DeliveryControl::whyNoHost() const {
     if (OpportunisticTls && (name.isEmpty() || name == u".")) return noMailServer();
     return name.isEmpty() ? QStringLiteral("Manca il nome del server.")
                           : QStringLiteral("Il nome del server non è valido.");
-}
-
-MessageData DeliveryControl::data() const {
-    MessageData data;
-    data.fromName = FromName;
-    data.fromAddress = FromAddress;
-    data.toName = ToName;
-    data.toAddress = ToAddress;
-    data.subject = Subject;
-    data.bodyHtml = BodyHtml;
-    data.bodyText = BodyText;
-    data.templateHtml = TemplateHtml;
-    data.unsubscribeLink = UnsubscribeLink;
-    data.priority = Priority;
-    data.attachments = Attachments.items();
-    data.carried = FilesToCarry;
-    data.dkimFolder = DkimFolder;
-    return data;
 }
 
 void DeliveryControl::Abort() {

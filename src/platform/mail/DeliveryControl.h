@@ -23,20 +23,8 @@
 
 namespace mail {
 
-/// The files that go with each message.
-class AttachmentList {
-  public:
-    void Clear() { m_items.clear(); }
-    /// `name` is what the recipient sees. The file is read at the next Send.
-    void Add(const QString& path, const QString& name) { m_items.append({path, name}); }
-    const QVector<Attachment>& items() const { return m_items; }
-
-  private:
-    QVector<Attachment> m_items;
-};
-
-/// Composes and delivers one message at a time over SMTP. The caller sets the fields, calls Send and waits
-/// for one of the two signals; fields keep their values between messages.
+/// Composes and delivers one message at a time over SMTP. The caller sets the fields, those of the message
+/// included, calls Send and waits for one of the two signals; fields keep their values between messages.
 ///
 /// A message may bear the number of its recipient's row. Such a message is sent at most once in a run, never
 /// for nobody and never after a stop; what was accepted is remembered in the list of accepted messages before
@@ -45,7 +33,7 @@ class AttachmentList {
 ///
 /// Everything runs on the caller's event loop. The connection is kept between messages with the same route
 /// and closed when nothing was sent for 30 seconds.
-class DeliveryControl : public QObject {
+class DeliveryControl : public QObject, public MessageData {
     Q_OBJECT
   public:
     explicit DeliveryControl(QObject* parent = nullptr);
@@ -57,15 +45,8 @@ class DeliveryControl : public QObject {
     qint32 HeloMode = 0;      ///< 0 greets with EHLO, 1 with HELO
     /// Longest time without progress: the server takes bytes or completes a reply. Below 1: 60 seconds.
     qint16 TimeoutSecs = 60;
-    SmtpTimes StageTimes;  ///< what some stages get at least; `stall` is taken from TimeoutSecs
-    QString BodyText;
-    QString BodyHtml;
-    QString TemplateHtml;  ///< the body before personalisation: only local images that it names are embedded
-    QString UnsubscribeLink;  ///< see MessageData
-    qint32 BodyFormat = 1;    ///< kept, without effect: there are always both a text and an HTML part
-    qint32 Priority = 3;      ///< 1 high, 3 normal, 5 low
-    QString Subject;
-    AssignedText ToAddress;  ///< one plain addr-spec; with a number it has to be assigned for each Send
+    SmtpTimes StageTimes;   ///< what some stages get at least; `stall` is taken from TimeoutSecs
+    qint32 BodyFormat = 1;  ///< kept, without effect: there are always both a text and an HTML part
     /// A row's number of Database, or one of the values of `recipient`. A message with a row's number fails
     /// without a server where the number is `nobody`, where ToAddress was not assigned since the last Send,
     /// after Abort until BeginRun, where one was accepted for it in this run, where number and address stand
@@ -73,9 +54,6 @@ class DeliveryControl : public QObject {
     qint64 RecipientNumber = recipient::outsideRun;
     QString Database;                  ///< path of the file that RecipientNumber is a row of
     AcceptedList* Accepted = nullptr;  ///< not owned, outlives the control; null: nothing is remembered
-    QString ToName;
-    QString FromName;
-    QString FromAddress;
     bool UseAuth = false;
     quint16 OutPort = 0;  ///< local port; any other one is taken when it cannot be had. 0: any
     quint16 ServerPort = 25;
@@ -86,9 +64,6 @@ class DeliveryControl : public QObject {
     /// What a message without a usable ServerName is reported with where OpportunisticTls is set; empty: a
     /// sentence of the control's own.
     QString NoServerReason;
-    AttachmentList Attachments;
-    CarriedFiles
-        FilesToCarry;  ///< attachments and images that may be read; a message that needs another fails
     bool OpportunisticTls = false;   ///< see Route; set on the direct route to the recipient's own server
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
     QStringList InsideHosts;         ///< see Route
@@ -96,7 +71,6 @@ class DeliveryControl : public QObject {
     QString OAuthFolder;             ///< see oauth::TokenSource
     QString TlsListFile;             ///< see Route
     QString ClearListFile;           ///< see Route
-    QString DkimFolder;              ///< see DkimSigner
     /// The book of outcomes: BeginRun() starts a file in this folder (its name ends in "/") for the messages
     /// with a number; see OutcomeFile. Empty: none is kept.
     QString BookFolder;
@@ -198,7 +172,6 @@ class DeliveryControl : public QObject {
 
     // DeliveryControl.cpp
     void startNew(const QString& host);
-    MessageData data() const;
     QString whyNoHost() const;
     void finish(const DeliveryOutcome& outcome);
     void report();

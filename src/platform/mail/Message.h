@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -7,6 +8,7 @@
 #include "platform/mail/AddrSpec.h"
 #include "platform/mail/CarriedFile.h"
 #include "platform/mail/MessageText.h"
+#include "platform/mail/RecipientNumber.h"
 
 namespace mail {
 
@@ -16,22 +18,38 @@ struct Attachment {
     QString name;  ///< as the recipient sees it; may hold any character
 };
 
+/// The files that go with each message.
+class AttachmentList {
+  public:
+    AttachmentList() = default;
+    AttachmentList(std::initializer_list<Attachment> items) : m_items(items) {}
+    void Clear() { m_items.clear(); }
+    /// `name` is what the recipient sees. The file is read when the message is composed.
+    void Add(const QString& path, const QString& name) { m_items.append({path, name}); }
+    const QVector<Attachment>& items() const { return m_items; }
+
+  private:
+    QVector<Attachment> m_items;
+};
+
 /// The values of one message to one recipient, as the user or the database gave them: nothing needs to be
 /// checked or cleaned beforehand. Texts may hold any character and any kind of line end.
+///
+/// The delivery control has these fields itself, and hands them to the composer as they stand.
 struct MessageData {
-    QString fromName;
-    QString fromAddress;
-    QString toName;
-    QString toAddress;
-    QString subject;
-    QString bodyHtml;      ///< personalised; empty: the message has no HTML part
-    QString bodyText;      ///< personalised visible text of bodyHtml; see TextPart for what is made of it
-    QString templateHtml;  ///< the body before personalisation: only local images that it names are embedded
-    QString unsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
-    int priority = 3;         ///< 1 high, 5 low, anything else normal
-    QVector<Attachment> attachments;
-    CarriedFiles carried;  ///< of attachments and images, those that may be read
-    QString dkimFolder;    ///< see DkimSigner; empty: nothing is signed
+    QString BodyText;      ///< personalised visible text of BodyHtml; see TextPart for what is made of it
+    QString BodyHtml;      ///< personalised; empty: the message has no HTML part
+    QString TemplateHtml;  ///< the body before personalisation: only local images that it names are embedded
+    QString UnsubscribeLink;  ///< from markedUnsubscribe() of the template; empty: a mail to the sender
+    qint32 Priority = 3;      ///< 1 high, 5 low, anything else normal
+    QString Subject;
+    AssignedText ToAddress;  ///< see parseAddrSpec
+    QString ToName;
+    QString FromName;
+    QString FromAddress;  ///< see parseAddrSpec
+    AttachmentList Attachments;
+    CarriedFiles FilesToCarry;  ///< those that may be read; a message that needs another fails
+    QString DkimFolder;         ///< see DkimSigner; empty: nothing is signed
 };
 
 /// A message ready for the wire.

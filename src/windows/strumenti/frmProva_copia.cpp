@@ -151,7 +151,7 @@ QString frmProva::DimensioneMessaggio(const CopiaProva& mostrata) const {
     const Account* mittente = MittenteScelto();
     if (!mittente) return "Dimensione non nota: manca l'account mittente.";
     mail::MessageData dati = DatiMessaggio(*modello, mostrata, *mittente, {});
-    if (riga < 0) dati.toAddress = mittente->txtEmail;
+    if (riga < 0) dati.ToAddress = mittente->txtEmail;
     const auto composto = compositore->compose(dati);
     if (!composto.ok()) return "Il messaggio non può partire: " + composto.status().text();
     return "Messaggio intero: " + QLocale().formattedDataSize(composto.value().text.size()) + '.';

@@ -94,17 +94,9 @@ void frmProva::cmdInviaProva_Click() {
     attesa.over();
     ImpostaMittente(*prova, *mittente, prosegui);
     prova->TimeoutSecs = attesaServer;
-    prova->TemplateHtml = modello->testi.corpoHtml;
-    prova->BodyHtml = copia->testi.corpoHtml;
-    prova->BodyText = copia->testi.corpoTesto;
-    prova->Subject = copia->testi.oggetto;
-    prova->UnsubscribeLink = copia->testi.disiscrizione;
-    prova->Priority = modello->priorita;
-    prova->Attachments.Clear();
-    for (const AllegatoMss& allegato : modello->allegati)
-        if (allegato.presente) prova->Attachments.Add(allegato.percorso, allegato.nome);
+    mail::MessageData& messaggio = *prova;
+    messaggio = DatiMessaggio(*modello, *copia, *mittente, prova->FilesToCarry);
     prova->ToAddress = indirizzo;
-    prova->ToName = copia->nome;
     inInvio = true;
     AbilitaInvio();
     Racconta(*lblEsito, "Invio della prova a " + indirizzo + "… Esc per interrompere.");

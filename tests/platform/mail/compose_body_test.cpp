@@ -84,18 +84,18 @@ TEST(ComposeBody, TextStandsBeforeHtmlInAlternative) {
 
 TEST(ComposeBody, OneFormAloneHasNoLayer) {
     auto message = plainMessage();
-    message.bodyText = message.subject = " \r\n";
+    message.BodyText = message.Subject = " \r\n";
     EXPECT_EQ(header(wire(message), "Content-Type"), "text/html; charset=utf-8");
     message = plainMessage();
-    message.bodyHtml.clear();
+    message.BodyHtml.clear();
     EXPECT_EQ(header(wire(message), "Content-Type"), "text/plain; charset=utf-8");
     EXPECT_TRUE(wire(message).endsWith("\r\n\r\nBuongiorno Mario\r\n"));
 }
 
 TEST(ComposeBody, NoBodyAtAllIsAnEmptyText) {
     auto message = plainMessage();
-    message.bodyHtml.clear();
-    message.bodyText.clear();
+    message.BodyHtml.clear();
+    message.BodyText.clear();
     const QByteArray data = wire(message);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
     EXPECT_EQ(header(data, "Content-Type"), "text/plain; charset=utf-8");
@@ -104,8 +104,8 @@ TEST(ComposeBody, NoBodyAtAllIsAnEmptyText) {
 
 TEST(ComposeBody, FinalLineEndOfTheTextIsNotDoubled) {
     auto message = plainMessage();
-    message.bodyHtml.clear();
-    message.bodyText = "a\r\n";
+    message.BodyHtml.clear();
+    message.BodyText = "a\r\n";
     EXPECT_TRUE(wire(message).endsWith("\r\n\r\na\r\n"));
 }
 
@@ -114,8 +114,8 @@ TEST(ComposeBody, BoundaryDoesNotOccurInTheContent) {
     const QByteArray first = wire(message);
     const qsizetype from = first.indexOf("boundary=\"") + 10;
     const QByteArray boundary = first.mid(from, first.indexOf('"', from) - from);
-    message.bodyText = "--" + boundary + "\r\n\r\n--" + boundary + "--\r\n";
-    message.bodyHtml = message.bodyText;
+    message.BodyText = "--" + boundary + "\r\n\r\n--" + boundary + "--\r\n";
+    message.BodyHtml = message.BodyText;
     mail::Composer composer;
     const QByteArray data = composer.compose(message).value().text.whole();
     EXPECT_EQ(data.count("--=_"), 3);
@@ -124,9 +124,9 @@ TEST(ComposeBody, BoundaryDoesNotOccurInTheContent) {
 
 QByteArray htmlSent(const QString& html) {
     auto message = plainMessage();
-    message.bodyText.clear();
-    message.subject.clear();
-    message.bodyHtml = html;
+    message.BodyText.clear();
+    message.Subject.clear();
+    message.BodyHtml = html;
     const QByteArray data = wire(message);
     return readBack(data.mid(data.indexOf("\r\n\r\n") + 4)).chopped(2);
 }

@@ -26,7 +26,7 @@ class ComposeFiles : public ::testing::Test {
     // A message whose template and body are this HTML
     static mail::MessageData withHtml(const QString& html) {
         auto message = plainMessage();
-        message.bodyHtml = message.templateHtml = html;
+        message.BodyHtml = message.TemplateHtml = html;
         return message;
     }
 
@@ -41,7 +41,7 @@ using ComposeImages = ComposeFiles;
 
 TEST_F(ComposeAttachments, MixedStandsAroundTheRest) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("listino.pdf"), "%PDF-1.4 x"), "listino.pdf"}};
+    message.Attachments = {{makeFile(path("listino.pdf"), "%PDF-1.4 x"), "listino.pdf"}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(header(data, "Content-Type").startsWith("multipart/mixed;"));
     const qsizetype alternative = data.indexOf("Content-Type: multipart/alternative;");
@@ -55,7 +55,7 @@ TEST_F(ComposeAttachments, MixedStandsAroundTheRest) {
 TEST_F(ComposeAttachments, OrderOfTheListIsKept) {
     auto message = plainMessage();
     for (const char* name : {"b.zip", "a.zip", "c.zip"}) {
-        message.attachments.push_back({makeFile(path(name), name), name});
+        message.Attachments.Add(makeFile(path(name), name), name);
     }
     const QByteArray data = compose(message);
     EXPECT_LT(data.indexOf("filename=\"b.zip\""), data.indexOf("filename=\"a.zip\""));
@@ -64,7 +64,7 @@ TEST_F(ComposeAttachments, OrderOfTheListIsKept) {
 
 TEST_F(ComposeAttachments, NameBeyondAsciiGoesByItsStandardWithAPlainFallback) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("x"), "x"), QStringLiteral("Offerta è città 👍.pdf")}};
+    message.Attachments = {{makeFile(path("x"), "x"), QStringLiteral("Offerta è città 👍.pdf")}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(data.contains("\r\n filename*=utf-8''Offerta%20%C3%A8%20citt%C3%A0%20%F0%9F%91%8D.pdf\r\n"))
         << data.toStdString();
@@ -73,14 +73,14 @@ TEST_F(ComposeAttachments, NameBeyondAsciiGoesByItsStandardWithAPlainFallback) {
 
 TEST_F(ComposeAttachments, NameWithNulsHasATypeAllTheSame) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("x"), "x"), "x" + QString(16, u'\0') + ".pdf"}};
+    message.Attachments = {{makeFile(path("x"), "x"), "x" + QString(16, u'\0') + ".pdf"}};
     EXPECT_TRUE(compose(message).contains("Content-Type: application/pdf;\r\n name=\"x .pdf\"\r\n"));
 }
 
 TEST_F(ComposeAttachments, FallbackOfANameWithManyBlanksStaysPlain) {
     auto message = plainMessage();
     const QString file = makeFile(path("x"), "x");
-    message.attachments = {{file, "Listino  2026 .pdf"}, {file, QString(59, u'a') + " b"}};
+    message.Attachments = {{file, "Listino  2026 .pdf"}, {file, QString(59, u'a') + " b"}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(data.contains("\r\n name=\"Listino 2026 .pdf\"\r\n")) << data.toStdString();
     EXPECT_TRUE(data.contains("\r\n filename*=utf-8''Listino%20%202026%20.pdf\r\n")) << data.toStdString();
@@ -90,7 +90,7 @@ TEST_F(ComposeAttachments, FallbackOfANameWithManyBlanksStaysPlain) {
 TEST_F(ComposeAttachments, NameShowsNoFoldersAndAddsNoHeader) {
     auto message = plainMessage();
     const QString file = makeFile(path("x"), "x");
-    message.attachments = {
+    message.Attachments = {
         {file, "C:\\dati\\a.zip"}, {file, "/etc/b.zip"}, {file, "c\r\nX-A: b\".zip"}, {file, ""}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(data.contains("filename=\"a.zip\"\r\n"));
@@ -102,7 +102,7 @@ TEST_F(ComposeAttachments, NameShowsNoFoldersAndAddsNoHeader) {
 TEST_F(ComposeAttachments, NameThatQuotesLengthenGoesInSections) {
     auto message = plainMessage();
     const QString file = makeFile(path("x"), "x");
-    message.attachments = {{file, QString(30, u'"')}, {file, QString(31, u'"')}};
+    message.Attachments = {{file, QString(30, u'"')}, {file, QString(31, u'"')}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(data.contains("\r\n filename=\"" + QByteArray("\\\"").repeated(30) + "\"\r\n"))
         << data.toStdString();
@@ -112,7 +112,7 @@ TEST_F(ComposeAttachments, NameThatQuotesLengthenGoesInSections) {
 
 TEST_F(ComposeAttachments, TextDeclaresItsEncodingOnlyWhereItIsKnown) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("u.txt"), "perch\xC3\xA9"), "u.txt"},
+    message.Attachments = {{makeFile(path("u.txt"), "perch\xC3\xA9"), "u.txt"},
                            {makeFile(path("w.txt"), "perch\xE9"), "w.txt"}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(data.contains("Content-Type: text/plain; charset=utf-8;\r\n name=\"u.txt\"\r\n"))
@@ -122,31 +122,31 @@ TEST_F(ComposeAttachments, TextDeclaresItsEncodingOnlyWhereItIsKnown) {
 
 TEST_F(ComposeAttachments, MessageGoesAsPlainOctets) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("m.eml"), "From: a\r\n\r\nb"), "m.eml"}};
+    message.Attachments = {{makeFile(path("m.eml"), "From: a\r\n\r\nb"), "m.eml"}};
     EXPECT_TRUE(compose(message).contains("Content-Type: application/octet-stream;\r\n name=\"m.eml\"\r\n"));
 }
 
 TEST_F(ComposeAttachments, EmptyFileIsAnEmptyPart) {
     auto message = plainMessage();
-    message.attachments = {{makeFile(path("v.zip"), ""), "v.zip"}};
+    message.Attachments = {{makeFile(path("v.zip"), ""), "v.zip"}};
     EXPECT_TRUE(compose(message).contains("filename=\"v.zip\""));
 }
 
 TEST_F(ComposeAttachments, FileThatCannotBeReadFailsTheMessage) {
     auto message = plainMessage();
-    message.attachments = {{path("assente.pdf"), "assente.pdf"}};
+    message.Attachments = {{path("assente.pdf"), "assente.pdf"}};
     const auto missing = m_composer.compose(message);
     ASSERT_FALSE(missing.ok());
     EXPECT_EQ(missing.status().code(), ErrorCode::FileNotFound);
     EXPECT_TRUE(missing.status().text().contains("assente.pdf"));
-    message.attachments = {{m_folder.path(), "cartella"}};
+    message.Attachments = {{m_folder.path(), "cartella"}};
     EXPECT_FALSE(m_composer.compose(message).ok());
 }
 
 TEST_F(ComposeAttachments, ChangedFileIsReadAgainAndUnchangedOneIsNot) {
     auto message = plainMessage();
     const QString file = makeFile(path("a.bin"), "prima");
-    message.attachments = {{file, "a.bin"}};
+    message.Attachments = {{file, "a.bin"}};
     EXPECT_TRUE(compose(message).contains(QByteArray("prima").toBase64()));
 
     QFile handle(file);
@@ -240,7 +240,7 @@ TEST_F(ComposeImages, ValueOfARecipientPullsInNoFile) {
     const QString named = makeFile(path("named.png"), pngContent());
     const QString other = makeFile(path("other.png"), pngContent());
     auto message = withHtml("<img src='" + named + "'><p>:::nom:::</p><img src=':::campo1:::'>");
-    message.bodyHtml.replace(":::nom:::", "<img src='" + other + "'>").replace(":::campo1:::", other);
+    message.BodyHtml.replace(":::nom:::", "<img src='" + other + "'>").replace(":::campo1:::", other);
     const QByteArray data = compose(message);
     EXPECT_EQ(imagesIn(data), 1);
     EXPECT_TRUE(data.contains("filename=\"named.png\""));
@@ -249,7 +249,7 @@ TEST_F(ComposeImages, ValueOfARecipientPullsInNoFile) {
 
 TEST_F(ComposeImages, WithoutATemplateNothingIsEmbedded) {
     auto message = withHtml("<img src='" + makeFile(path("a.png"), pngContent()) + "'>");
-    message.templateHtml.clear();
+    message.TemplateHtml.clear();
     EXPECT_EQ(imagesIn(compose(message)), 0);
 }
 
@@ -280,7 +280,7 @@ TEST_F(ComposeImages, ChangedImageIsReadAgain) {
 
 TEST_F(ComposeImages, MixedStandsAroundRelatedAroundAlternative) {
     auto message = withHtml("<img src='" + makeFile(path("a.png"), pngContent()) + "'>");
-    message.attachments = {{makeFile(path("b.zip"), "x"), "b.zip"}};
+    message.Attachments = {{makeFile(path("b.zip"), "x"), "b.zip"}};
     const QByteArray data = compose(message);
     EXPECT_TRUE(header(data, "Content-Type").startsWith("multipart/mixed;"));
     EXPECT_LT(data.indexOf("multipart/related"), data.indexOf("Content-Type: multipart/alternative"));

@@ -35,15 +35,15 @@ TEST(ComposeHeaders, PlainValuesStandAsTheyAre) {
 
 TEST(ComposeHeaders, EmptyNameLeavesTheBareAddress) {
     auto message = plainMessage();
-    message.fromName.clear();
-    message.toName = "   ";
+    message.FromName.clear();
+    message.ToName = "   ";
     EXPECT_EQ(header(wire(message), "From"), "info@orto.example");
     EXPECT_EQ(header(wire(message), "To"), "m.rossi@example.it");
 }
 
 TEST(ComposeHeaders, EmptySubjectKeepsItsHeader) {
     auto message = plainMessage();
-    message.subject.clear();
+    message.Subject.clear();
     EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
     EXPECT_EQ(header(wire(message), "Subject"), "");
 }
@@ -93,15 +93,15 @@ TEST(ComposeHeaders, EncodedWordsSplitNoCharacter) {
 
 TEST(ComposeHeaders, LongTextIsFoldedBeforeBlanks) {
     auto message = plainMessage();
-    message.subject = QString("parole e ancora parole ").repeated(60).trimmed();
+    message.Subject = QString("parole e ancora parole ").repeated(60).trimmed();
     EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
-    EXPECT_EQ(header(wire(message), "Subject"), message.subject.toLatin1());
+    EXPECT_EQ(header(wire(message), "Subject"), message.Subject.toLatin1());
 }
 
 TEST(ComposeHeaders, LongWordIsEncodedSoThatItCanBeFolded) {
     auto message = plainMessage();
-    message.subject = QString(5000, 'x');
-    message.toName = QString(2000, 'y');
+    message.Subject = QString(5000, 'x');
+    message.ToName = QString(2000, 'y');
     EXPECT_EQ(complaintAbout(wire(message)).toStdString(), "");
 }
 
@@ -109,9 +109,9 @@ TEST(ComposeHeaders, LineEndsAndNulBecomeBlanksAndAddNoHeader) {
     auto message = plainMessage();
     const QString attack =
         QString("x\r\nBcc: spia@example.it\nX-A: b\rX-C: d") + QChar(0) + "e" + QChar(0x2028) + "f";
-    message.subject = attack;
-    message.toName = attack;
-    message.fromName = attack;
+    message.Subject = attack;
+    message.ToName = attack;
+    message.FromName = attack;
     const QByteArray data = wire(message);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
     EXPECT_TRUE(headers(data, "Bcc").empty());
@@ -122,18 +122,18 @@ TEST(ComposeHeaders, LineEndsAndNulBecomeBlanksAndAddNoHeader) {
 TEST(ComposeHeaders, AddressThatIsNotOneAddressIsRefused) {
     for (const char* address : {"", "a@b.it, c@d.it", "a@b.it\r\nBcc: c@d.it", "Mario <a@b.it>"}) {
         auto message = plainMessage();
-        message.toAddress = address;
+        message.ToAddress = address;
         EXPECT_FALSE(mail::Composer().compose(message).ok()) << address;
         message = plainMessage();
-        message.fromAddress = address;
+        message.FromAddress = address;
         EXPECT_FALSE(mail::Composer().compose(message).ok()) << address;
     }
 }
 
 TEST(ComposeHeaders, InternationalDomainsAreALabelsEverywhere) {
     auto message = plainMessage();
-    message.fromAddress = QStringLiteral("info@caffè.example");
-    message.toAddress = QStringLiteral("mario@città.example");
+    message.FromAddress = QStringLiteral("info@caffè.example");
+    message.ToAddress = QStringLiteral("mario@città.example");
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_FALSE(composed.value().needsSmtputf8);
@@ -144,7 +144,7 @@ TEST(ComposeHeaders, InternationalDomainsAreALabelsEverywhere) {
 
 TEST(ComposeHeaders, NonAsciiLocalPartNeedsSmtputf8) {
     auto message = plainMessage();
-    message.toAddress = QStringLiteral("mario.però@example.it");
+    message.ToAddress = QStringLiteral("mario.però@example.it");
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_TRUE(composed.value().needsSmtputf8);
@@ -202,11 +202,11 @@ TEST(ComposeHeaders, EachMessageOfARunHasItsOwnMessageId) {
 
 TEST(ComposeHeaders, PriorityStandsInThreeHeaders) {
     auto message = plainMessage();
-    message.priority = 1;
+    message.Priority = 1;
     EXPECT_EQ(header(wire(message), "X-Priority"), "1 (Highest)");
     EXPECT_EQ(header(wire(message), "Importance"), "high");
     EXPECT_EQ(header(wire(message), "Priority"), "urgent");
-    message.priority = 5;
+    message.Priority = 5;
     EXPECT_EQ(header(wire(message), "X-Priority"), "5 (Lowest)");
     EXPECT_EQ(header(wire(message), "Importance"), "low");
     EXPECT_EQ(header(wire(message), "Priority"), "non-urgent");
@@ -215,7 +215,7 @@ TEST(ComposeHeaders, PriorityStandsInThreeHeaders) {
 TEST(ComposeHeaders, NormalPriorityIsNotMentioned) {
     for (const int priority : {3, 0, 2, 4, -1, 6}) {
         auto message = plainMessage();
-        message.priority = priority;
+        message.Priority = priority;
         EXPECT_TRUE(headers(wire(message), "X-Priority").empty());
         EXPECT_TRUE(headers(wire(message), "Importance").empty());
         EXPECT_TRUE(headers(wire(message), "Priority").empty());
@@ -224,7 +224,7 @@ TEST(ComposeHeaders, NormalPriorityIsNotMentioned) {
 
 QByteArray unsubscribeOf(const QString& html) {
     auto message = plainMessage();
-    message.unsubscribeLink = mail::markedUnsubscribe(html);
+    message.UnsubscribeLink = mail::markedUnsubscribe(html);
     const QByteArray data = wire(message);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
     return header(data, "List-Unsubscribe");
@@ -232,7 +232,7 @@ QByteArray unsubscribeOf(const QString& html) {
 
 std::string listIdOf(const QString& sender) {
     auto message = plainMessage();
-    message.fromAddress = sender;
+    message.FromAddress = sender;
     const QByteArray data = wire(message);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
     const auto found = headers(data, "List-Id");
@@ -255,7 +255,7 @@ TEST(ComposeHeaders, ListHasNoNameWhereTheSenderHasNoDomainOrTooLongOne) {
 TEST(ComposeHeaders, UnsubscribingIsAMailToTheSender) {
     EXPECT_EQ(unsubscribeOf("<a href='http://x.it'>x</a>"), "<mailto:info@orto.example?subject=unsubscribe>");
     auto message = plainMessage();
-    message.fromAddress = "\"a b?c\"@orto.example";
+    message.FromAddress = "\"a b?c\"@orto.example";
     EXPECT_EQ(header(wire(message), "List-Unsubscribe"),
               "<mailto:%22a%20b%3Fc%22@orto.example?subject=unsubscribe>");
 }
@@ -290,7 +290,7 @@ TEST(ComposeHeaders, MarkedLinkThatNamesNoGoalOfItsOwnIsPassedOver) {
 
 TEST(ComposeHeaders, LinkInTheBodyAloneIsNotLookedAt) {
     auto message = plainMessage();
-    message.bodyHtml = "<a rel=unsubscribe href='https://x.it/u'>x</a>";
+    message.BodyHtml = "<a rel=unsubscribe href='https://x.it/u'>x</a>";
     EXPECT_EQ(header(wire(message), "List-Unsubscribe"), "<mailto:info@orto.example?subject=unsubscribe>");
 }
 

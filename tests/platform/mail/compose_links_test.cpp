@@ -45,7 +45,7 @@ TEST(WebAddress, CharacterReferencesOfAnAttributeAreReadOnlyWhereNeeded) {
 
 QString htmlSent(const QString& html) {
     auto message = plainMessage();
-    message.bodyHtml = html;
+    message.BodyHtml = html;
     const wire::Message read = wire::read(compose::wire(message));
     EXPECT_EQ(read.complaints.join('\n').toStdString(), "");
     return QString::fromUtf8(read.leaves.back().content);
@@ -118,9 +118,9 @@ TEST(HtmlReferences, LongTextOfALinkIsCutBetweenTwoCharacters) {
 
 std::string textOf(const QString& bodyText, const QString& html, const QString& subject = "Oggetto") {
     auto message = plainMessage();
-    message.bodyText = bodyText;
-    message.bodyHtml = html;
-    message.subject = subject;
+    message.BodyText = bodyText;
+    message.BodyHtml = html;
+    message.Subject = subject;
     const wire::Message read = wire::read(compose::wire(message));
     EXPECT_EQ(read.complaints.join('\n').toStdString(), "");
     return read.leaves.front().type == "text/plain" ? read.leaves.front().content.toStdString() : "(nessuno)";

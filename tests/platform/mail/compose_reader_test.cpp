@@ -83,11 +83,11 @@ class ReadByPython : public ::testing::Test {
         ASSERT_FALSE(read.contains("failure")) << read["failure"].toString().toStdString();
         EXPECT_EQ(QJsonDocument(read["defects"].toArray()).toJson(QJsonDocument::Compact).toStdString(),
                   "[]");
-        expectName(read["from"].toObject(), sent.fromName);
-        expectName(read["to"].toObject(), sent.toName);
+        expectName(read["from"].toObject(), sent.FromName);
+        expectName(read["to"].toObject(), sent.ToName);
         EXPECT_EQ(read["to"].toObject()["address"].toString().toUtf8().toStdString(),
                   composed.to.address().toStdString());
-        EXPECT_EQ(read["subject"].toString().toStdString(), text(sent.subject).toStdString());
+        EXPECT_EQ(read["subject"].toString().toStdString(), text(sent.Subject).toStdString());
         EXPECT_EQ(read["message_id"].toString().toUtf8(), composed.messageId);
         EXPECT_TRUE(read["unsubscribe"].toString().startsWith("<"));
         expectContent(sent, read["leaves"].toArray());
@@ -95,7 +95,7 @@ class ReadByPython : public ::testing::Test {
 
     static void expectContent(const mail::MessageData& sent, const QJsonArray& leaves) {
         qsizetype next = 0;
-        const bool hasHtml = !sent.bodyHtml.toUtf8().trimmed().isEmpty();
+        const bool hasHtml = !sent.BodyHtml.toUtf8().trimmed().isEmpty();
         if (hasTextForm(sent)) {
             EXPECT_EQ(leaves[next]["type"].toString(), "text/plain");
             EXPECT_EQ(complaintAboutText(sent, leaves[next++]["text"].toString()).toStdString(), "");
@@ -103,16 +103,16 @@ class ReadByPython : public ::testing::Test {
         if (hasHtml) {
             EXPECT_EQ(leaves[next]["type"].toString(), "text/html");
             const QString html = leaves[next++]["text"].toString();
-            if (!sent.bodyHtml.contains("<meta") && !sent.bodyHtml.contains("logo.png") &&
-                !sent.bodyHtml.contains("http")) {
-                expectText(html, asSent(sent.bodyHtml));
+            if (!sent.BodyHtml.contains("<meta") && !sent.BodyHtml.contains("logo.png") &&
+                !sent.BodyHtml.contains("http")) {
+                expectText(html, asSent(sent.BodyHtml));
             }
         }
         while (next < leaves.size() && leaves[next]["type"] == "image/png") {
             EXPECT_EQ(leaves[next++]["hex"].toString(), QString::fromLatin1(pngContent(300).toHex()));
         }
-        EXPECT_EQ(leaves.size() - next, sent.attachments.size());
-        for (const auto& attachment : sent.attachments) {
+        EXPECT_EQ(leaves.size() - next, sent.Attachments.items().size());
+        for (const auto& attachment : sent.Attachments.items()) {
             const QJsonObject part = leaves[next++].toObject();
             EXPECT_EQ(part["disposition"].toString(), "attachment");
             EXPECT_EQ(part["encoding"].toString(), "base64");
@@ -141,8 +141,8 @@ class ReadByPython : public ::testing::Test {
 TEST_F(ReadByPython, EachKindOfValueComesBack) {
     for (const ValueKind& kind : valueKinds()) {
         auto message = plainMessage();
-        message.fromName = message.toName = message.subject = message.bodyText = kind.value;
-        message.bodyHtml = "<p>" + kind.value + "</p>";
+        message.FromName = message.ToName = message.Subject = message.BodyText = kind.value;
+        message.BodyHtml = "<p>" + kind.value + "</p>";
         add(message);
     }
     expectAllRead();
@@ -152,22 +152,20 @@ TEST_F(ReadByPython, HostileValuesComeBackAsText) {
     HostileValues values(20050307);
     for (int i = 0; i < messagesOfTheLoop; ++i) {
         mail::MessageData message;
-        message.fromName = values.text(12);
-        message.fromAddress = values.address();
-        message.toName = values.text(12);
-        message.toAddress = values.address();
-        message.subject = values.text(i % 10 == 0 ? 300 : 15);
-        message.bodyText = values.text(60);
-        message.bodyHtml = values.text(120);
-        message.priority = values.below(6);
+        message.FromName = values.text(12);
+        message.FromAddress = values.address();
+        message.ToName = values.text(12);
+        message.ToAddress = values.address();
+        message.Subject = values.text(i % 10 == 0 ? 300 : 15);
+        message.BodyText = values.text(60);
+        message.BodyHtml = values.text(120);
+        message.Priority = values.below(6);
         if (i % 3 == 0) {
-            message.templateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
-            message.bodyHtml.prepend(message.templateHtml);
+            message.TemplateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
+            message.BodyHtml.prepend(message.TemplateHtml);
         }
-        if (i % 4 == 0)
-            message.attachments.push_back({m_folder.filePath("allegato"), values.text(6) + "x.bin"});
-        if (i % 8 == 0)
-            message.attachments.push_back({m_folder.filePath("allegato"), QStringLiteral("però.dat")});
+        if (i % 4 == 0) message.Attachments.Add(m_folder.filePath("allegato"), values.text(6) + "x.bin");
+        if (i % 8 == 0) message.Attachments.Add(m_folder.filePath("allegato"), QStringLiteral("però.dat"));
         add(message);
         if (HasFailure()) break;
     }
@@ -176,8 +174,8 @@ TEST_F(ReadByPython, HostileValuesComeBackAsText) {
 
 TEST_F(ReadByPython, LayersStandInsideEachOther) {
     auto message = plainMessage();
-    message.bodyHtml = message.templateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
-    message.attachments = {{m_folder.filePath("allegato"), "a.pdf"}};
+    message.BodyHtml = message.TemplateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
+    message.Attachments = {{m_folder.filePath("allegato"), "a.pdf"}};
     add(message);
     const QJsonArray results = read();
     EXPECT_EQ(QJsonDocument(results[0]["tree"].toArray()).toJson(QJsonDocument::Compact).toStdString(),
@@ -197,7 +195,7 @@ TEST_F(ReadByPython, FileNamesComeBack) {
                                "100%.zip",
                                "utf-8''x.zip"};
     for (const QString& name : names)
-        message.attachments.push_back({m_folder.filePath("allegato"), name});
+        message.Attachments.Add(m_folder.filePath("allegato"), name);
     add(message);
     const QJsonArray results = read();
     const QJsonArray leaves = results[0]["leaves"].toArray();

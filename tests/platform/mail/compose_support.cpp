@@ -20,13 +20,13 @@ QByteArray headerBlock(const QByteArray& message) {
 
 mail::MessageData plainMessage() {
     mail::MessageData message;
-    message.fromName = "Orto Facile";
-    message.fromAddress = "info@orto.example";
-    message.toName = "Mario Rossi";
-    message.toAddress = "m.rossi@example.it";
-    message.subject = "Le novita di maggio";
-    message.bodyHtml = "<html><head></head><body><p>Buongiorno Mario</p></body></html>";
-    message.bodyText = "Buongiorno Mario";
+    message.FromName = "Orto Facile";
+    message.FromAddress = "info@orto.example";
+    message.ToName = "Mario Rossi";
+    message.ToAddress = "m.rossi@example.it";
+    message.Subject = "Le novita di maggio";
+    message.BodyHtml = "<html><head></head><body><p>Buongiorno Mario</p></body></html>";
+    message.BodyText = "Buongiorno Mario";
     return message;
 }
 
@@ -93,14 +93,14 @@ bool hasSomethingToSee(QString text) {
 }  // namespace
 
 bool hasTextForm(const mail::MessageData& message) {
-    const bool hasHtml = !message.bodyHtml.toUtf8().trimmed().isEmpty();
-    return !hasHtml || hasSomethingToSee(message.bodyText) || message.bodyHtml.contains(" alt=") ||
-           hasSomethingToSee(message.subject) || message.bodyHtml.contains("href=");
+    const bool hasHtml = !message.BodyHtml.toUtf8().trimmed().isEmpty();
+    return !hasHtml || hasSomethingToSee(message.BodyText) || message.BodyHtml.contains(" alt=") ||
+           hasSomethingToSee(message.Subject) || message.BodyHtml.contains("href=");
 }
 
 QString complaintAboutText(const mail::MessageData& message, QString read) {
     // a message that is one text alone ends with a line end
-    const QString sent = travelled(message.bodyText);
+    const QString sent = travelled(message.BodyText);
     if (!hasSomethingToSee(sent)) return {};
     // The list of links is what is left after the text.
     static const QRegularExpression list("\r\nCollegamenti:\r\n([^\r\n]*[a-z]:[^\r\n]*\r\n)+(\r\n)?$");

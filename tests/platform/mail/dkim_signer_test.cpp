@@ -29,7 +29,7 @@ class Dkim : public ::testing::Test {
 
     static mail::MessageData signedMessage() {
         auto message = plainMessage();
-        message.dkimFolder = s_folder->path();
+        message.DkimFolder = s_folder->path();
         return message;
     }
 
@@ -83,11 +83,11 @@ QByteArray Dkim::s_record;
 TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
     auto message = plainMessage();
     EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
-    message.dkimFolder = s_folder->filePath("assente");
+    message.DkimFolder = s_folder->filePath("assente");
     EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
-    message.dkimFolder = s_folder->path();
+    message.DkimFolder = s_folder->path();
     for (const char* address : {"a@altro.example", "a@sub.orto.example", "a@example", "a@[192.0.2.1]"}) {
-        message.fromAddress = address;
+        message.FromAddress = address;
         const auto composed = compose(message);
         EXPECT_FALSE(composed.text.whole().contains("DKIM")) << address;
         EXPECT_TRUE(composed.signing.ok()) << address;
@@ -137,16 +137,16 @@ TEST_F(Dkim, IndependentVerifiersAcceptEachKindOfMessage) {
     QByteArrayList messages;
     for (int i = 0; i < 60; ++i) {
         auto message = signedMessage();
-        message.fromAddress = i % 2 ? "info@orto.example" : "Info@ORTO.example";
+        message.FromAddress = i % 2 ? "info@orto.example" : "Info@ORTO.example";
         if (i > 0) {
-            message.fromName = values.text(10);
-            message.toName = values.text(10);
-            message.subject = values.text(i % 5 == 0 ? 200 : 10);
-            message.bodyText = values.text(40);
-            message.bodyHtml = values.text(40);
+            message.FromName = values.text(10);
+            message.ToName = values.text(10);
+            message.Subject = values.text(i % 5 == 0 ? 200 : 10);
+            message.BodyText = values.text(40);
+            message.BodyHtml = values.text(40);
         }
-        if (i % 4 == 0) message.attachments = {{file, "a.pdf"}};
-        if (i == 1) message.bodyText = message.bodyHtml = QString();
+        if (i % 4 == 0) message.Attachments = {{file, "a.pdf"}};
+        if (i == 1) message.BodyText = message.BodyHtml = QString();
         messages += compose(message).text.whole();
     }
     const QByteArrayList all = verdicts(messages);
@@ -185,8 +185,8 @@ TEST_F(Dkim, HeaderPutInFrontIsNotAccepted) {
 
 TEST_F(Dkim, OneClickIsOfferedInSignedHeaders) {
     auto message = signedMessage();
-    message.templateHtml = "<a rel='unsubscribe One-Click' href='https://x.it/u?e=:::email:::'>x</a>";
-    message.unsubscribeLink = "https://x.it/u?e=a@b.it";
+    message.TemplateHtml = "<a rel='unsubscribe One-Click' href='https://x.it/u?e=:::email:::'>x</a>";
+    message.UnsubscribeLink = "https://x.it/u?e=a@b.it";
     const QByteArray data = compose(message).text.whole();
     EXPECT_EQ(header(data, "List-Unsubscribe"),
               "<https://x.it/u?e=a@b.it>, <mailto:info@orto.example?subject=unsubscribe>");
@@ -201,10 +201,10 @@ TEST_F(Dkim, OneClickIsNotOfferedWhereItCannotWork) {
     const auto postsOf = [&](const QString& html, const QString& link, const QString& sender,
                              const QString& folder) {
         auto message = signedMessage();
-        message.templateHtml = html;
-        message.unsubscribeLink = link;
-        message.fromAddress = sender;
-        message.dkimFolder = folder;
+        message.TemplateHtml = html;
+        message.UnsubscribeLink = link;
+        message.FromAddress = sender;
+        message.DkimFolder = folder;
         return headers(compose(message).text.whole(), "List-Unsubscribe-Post").size();
     };
     const QString link = "https://x.it/u", sender = "info@orto.example", folder = s_folder->path();
@@ -232,11 +232,11 @@ TEST_F(Dkim, KeyThatCannotBeUsedIsToldBeforeARun) {
 
 TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
     auto message = signedMessage();
-    message.fromAddress = "a@small.example";
+    message.FromAddress = "a@small.example";
     expectUnsigned(message, "meno di 2048 bit");
-    message.fromAddress = "a@curve.example";
+    message.FromAddress = "a@curve.example";
     expectUnsigned(message, "non è una chiave RSA");
-    message.fromAddress = "a@broken.example";
+    message.FromAddress = "a@broken.example";
     makeFile(s_folder->filePath("broken.example.selector"), "s");
     expectUnsigned(message, "la chiave manca");
     for (const QByteArray& key :
@@ -249,23 +249,23 @@ TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
 
 TEST_F(Dkim, KeyThatOthersCanReadIsToldAndUsedAgainOnceTheyCannot) {
     auto message = signedMessage();
-    message.fromAddress = "a@open.example";
+    message.FromAddress = "a@open.example";
     const QString pem = s_folder->filePath("open.example.pem");
     const QString selector = makeFile(s_folder->filePath("open.example.selector"), "aperto");
     QFile::copy(s_folder->filePath("orto.example.pem"), pem);
     const auto ours = QFile::ReadOwner | QFile::WriteOwner;
     QFile::setPermissions(pem, ours | QFile::ReadOther);
     expectUnsigned(message, "altri utenti possono leggere o scrivere");
-    EXPECT_TRUE(mail::DkimSigner::usable(s_folder->path(), message.fromAddress).text().contains(pem));
+    EXPECT_TRUE(mail::DkimSigner::usable(s_folder->path(), message.FromAddress).text().contains(pem));
     QFile::setPermissions(pem, ours);
     EXPECT_TRUE(compose(message).text.whole().contains("aperto"));
     QFile::setPermissions(selector, ours | QFile::WriteGroup);
-    EXPECT_FALSE(mail::DkimSigner::usable(s_folder->path(), message.fromAddress).ok());
+    EXPECT_FALSE(mail::DkimSigner::usable(s_folder->path(), message.FromAddress).ok());
 }
 
 TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {
     auto message = signedMessage();
-    message.fromAddress = "a@selector.example";
+    message.FromAddress = "a@selector.example";
     QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("selector.example.pem"));
     expectUnsigned(message, "il selettore manca");
     for (const QByteArray& selector :
@@ -280,7 +280,7 @@ TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {
 
 TEST_F(Dkim, FilesAreReadAgainWhenTheyChange) {
     auto message = signedMessage();
-    message.fromAddress = "a@change.example";
+    message.FromAddress = "a@change.example";
     EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
     QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("change.example.pem"));
     makeFile(s_folder->filePath("change.example.selector"), "primo");

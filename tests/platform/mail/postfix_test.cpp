@@ -108,19 +108,19 @@ QList<mail::ComposedMessage> corpus(const QTemporaryDir& folder) {
     compose::HostileValues values(11);
     for (int i = 0; i < 24; ++i) {
         auto message = compose::plainMessage();
-        message.fromAddress = "mittente@example.it";
-        message.toAddress = i == 5 ? QStringLiteral("niccolò@example.it") : "rossi@example.it";
+        message.FromAddress = "mittente@example.it";
+        message.ToAddress = i == 5 ? QStringLiteral("niccolò@example.it") : "rossi@example.it";
         if (i > 0) {
-            message.toName = values.text(8);
-            message.subject = values.text(i == 7 ? 300 : 10);
-            message.bodyText = i == 8 ? ".\r\n..\r\n." : values.text(80);
-            message.bodyHtml = i == 8 ? "" : values.text(80);
+            message.ToName = values.text(8);
+            message.Subject = values.text(i == 7 ? 300 : 10);
+            message.BodyText = i == 8 ? ".\r\n..\r\n." : values.text(80);
+            message.BodyHtml = i == 8 ? "" : values.text(80);
         }
         if (i % 3 == 1) {
-            message.templateHtml = "<img src='" + logo + "'>";
-            message.bodyHtml += message.templateHtml;
+            message.TemplateHtml = "<img src='" + logo + "'>";
+            message.BodyHtml += message.TemplateHtml;
         }
-        if (i % 4 == 2) message.attachments = {{file, values.text(4) + "x.pdf"}};
+        if (i % 4 == 2) message.Attachments = {{file, values.text(4) + "x.pdf"}};
         messages += composer.compose(message).value();
     }
     return messages;
@@ -238,11 +238,11 @@ TEST_F(RealServer, RelayedMessageKeepsItsSignature) {
     const QString file = compose::makeFile(folder.filePath("a.bin"), QByteArray(200000, '\x02'));
     for (int i = 0; i < 4; ++i) {
         auto message = compose::plainMessage();
-        message.toAddress = "rossi@altrove.example";
-        message.dkimFolder = folder.path();
-        if (i > 0) message.subject = message.toName = values.text(20);
-        if (i > 1) message.bodyText = message.bodyHtml = values.text(50);
-        if (i > 2) message.attachments = {{file, "a.pdf"}};
+        message.ToAddress = "rossi@altrove.example";
+        message.DkimFolder = folder.path();
+        if (i > 0) message.Subject = message.ToName = values.text(20);
+        if (i > 1) message.BodyText = message.BodyHtml = values.text(50);
+        if (i > 2) message.Attachments = {{file, "a.pdf"}};
         messages += composer.compose(message).value();
     }
     for (const auto& message : messages) {

@@ -22,13 +22,13 @@ class WireCheckers : public ::testing::Test {
         const QString file = makeFile(m_folder.filePath("a.bin"), QByteArray(5000, '\x03') + "\r\n.\r\n");
         for (const ValueKind& kind : valueKinds()) {
             auto message = plainMessage();
-            message.toName = message.fromName = message.subject = kind.value;
-            message.bodyText = "Buongiorno, " + kind.value;
-            message.bodyHtml = "<html><head></head><body><p>Buongiorno, " + kind.value + "</p></body></html>";
+            message.ToName = message.FromName = message.Subject = kind.value;
+            message.BodyText = "Buongiorno, " + kind.value;
+            message.BodyHtml = "<html><head></head><body><p>Buongiorno, " + kind.value + "</p></body></html>";
             messages += composer.compose(message).value().text.whole();
-            message.templateHtml = "<img src='" + logo + "'>";
-            message.bodyHtml.replace("</body>", message.templateHtml + "</body>");
-            message.attachments = {{file, "a" + kind.value.left(100) + ".pdf"}, {logo, "logo.png"}};
+            message.TemplateHtml = "<img src='" + logo + "'>";
+            message.BodyHtml.replace("</body>", message.TemplateHtml + "</body>");
+            message.Attachments = {{file, "a" + kind.value.left(100) + ".pdf"}, {logo, "logo.png"}};
             messages += composer.compose(message).value().text.whole();
         }
         return messages;

@@ -44,9 +44,9 @@ class WireMessage : public ::testing::TestWithParam<bool> {
     static bool withFiles() { return GetParam(); }
 
     void addFiles(mail::MessageData& message, const QString& name) const {
-        message.templateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
-        message.bodyHtml += message.templateHtml;
-        message.attachments = {{m_folder.filePath("allegato"), "a" + name + ".pdf"},
+        message.TemplateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
+        message.BodyHtml += message.TemplateHtml;
+        message.Attachments = {{m_folder.filePath("allegato"), "a" + name + ".pdf"},
                                {m_folder.filePath("testo"), "a" + name + ".txt"},
                                {m_folder.filePath("allegato"), name},
                                {m_folder.filePath("allegato"), "x.docx"}};
@@ -78,9 +78,9 @@ class WireMessage : public ::testing::TestWithParam<bool> {
             return start.trimmed().isEmpty() || inOneLine(start).trimmed().isEmpty() ? QString()
                                                                                      : inOneLine(start);
         };
-        EXPECT_EQ(read.subject.toStdString(), inOneLine(sent.subject).toStdString());
-        EXPECT_EQ(read.from.name.toStdString(), nameOf(sent.fromName).toStdString());
-        EXPECT_EQ(read.to.name.toStdString(), nameOf(sent.toName).toStdString());
+        EXPECT_EQ(read.subject.toStdString(), inOneLine(sent.Subject).toStdString());
+        EXPECT_EQ(read.from.name.toStdString(), nameOf(sent.FromName).toStdString());
+        EXPECT_EQ(read.to.name.toStdString(), nameOf(sent.ToName).toStdString());
         EXPECT_EQ(read.tree.toStdString(), treeOf(sent).toStdString());
         std::size_t next = 0;
         if (hasTextForm(sent)) {
@@ -89,11 +89,11 @@ class WireMessage : public ::testing::TestWithParam<bool> {
                 "");
         }
         if (hasHtml(sent)) expectHtml(read.leaves.at(next++), sent);
-        if (!sent.templateHtml.isEmpty()) {
+        if (!sent.TemplateHtml.isEmpty()) {
             EXPECT_EQ(read.leaves.at(next).disposition, "inline");
             EXPECT_EQ(read.leaves.at(next++).content, pngContent(5000));
         }
-        for (const auto& attachment : sent.attachments) {
+        for (const auto& attachment : sent.Attachments.items()) {
             const wire::Leaf& leaf = read.leaves.at(next++);
             EXPECT_EQ(leaf.disposition, "attachment");
             EXPECT_EQ(leaf.content, attachment.path.endsWith("testo") ? QByteArray("perch\xC3\xA9\r\n.\r\n")
@@ -107,16 +107,16 @@ class WireMessage : public ::testing::TestWithParam<bool> {
     }
 
     static bool hasHtml(const mail::MessageData& message) {
-        return !message.bodyHtml.toUtf8().trimmed().isEmpty();
+        return !message.BodyHtml.toUtf8().trimmed().isEmpty();
     }
     static QByteArray treeOf(const mail::MessageData& message) {
         QByteArray tree = !hasHtml(message)      ? "text/plain"
                           : hasTextForm(message) ? "alternative(text/plain,text/html)"
                                                  : "text/html";
-        if (!message.templateHtml.isEmpty()) tree = "related(" + tree + ",image/png)";
-        if (message.attachments.isEmpty()) return tree;
+        if (!message.TemplateHtml.isEmpty()) tree = "related(" + tree + ",image/png)";
+        if (message.Attachments.items().isEmpty()) return tree;
         tree = "mixed(" + tree;
-        for (const auto& attachment : message.attachments) {
+        for (const auto& attachment : message.Attachments.items()) {
             const bool document = attachment.name.endsWith(".docx"), pdf = attachment.name.endsWith(".pdf");
             tree += pdf        ? ",application/pdf"
                     : document ? ",application/vnd.openxmlformats-officedocument.wordprocessingml.document"
@@ -127,13 +127,13 @@ class WireMessage : public ::testing::TestWithParam<bool> {
     }
 
     static void expectHtml(const wire::Leaf& leaf, const mail::MessageData& sent) {
-        QString read = QString::fromUtf8(leaf.content), html = travelled(sent.bodyHtml);
-        if (!sent.templateHtml.isEmpty()) {
+        QString read = QString::fromUtf8(leaf.content), html = travelled(sent.BodyHtml);
+        if (!sent.TemplateHtml.isEmpty()) {
             // the image is named by its identifier, and nothing else has changed
             const qsizetype cid = read.lastIndexOf("cid:");
             EXPECT_GE(cid, 0);
             read.truncate(cid);
-            html.truncate(html.lastIndexOf(sent.templateHtml) + 10);
+            html.truncate(html.lastIndexOf(sent.TemplateHtml) + 10);
         }
         html.replace("<meta charset=x>", "<meta charset=utf-8>");
         if (read.endsWith("\r\n") && !html.endsWith("\r\n")) read.chop(2);
@@ -149,20 +149,20 @@ TEST_P(WireMessage, KeepsEveryRuleForEachKindOfValue) {
     for (const ValueKind& kind : valueKinds()) {
         SCOPED_TRACE(kind.name);
         auto message = plainMessage();
-        message.fromName = message.toName = message.subject = message.bodyText = kind.value;
-        message.bodyHtml = "<p>" + kind.value + "</p>";
-        message.priority = static_cast<int>(kind.value.size() % 6);
-        message.unsubscribeLink = kind.value;
+        message.FromName = message.ToName = message.Subject = message.BodyText = kind.value;
+        message.BodyHtml = "<p>" + kind.value + "</p>";
+        message.Priority = static_cast<int>(kind.value.size() % 6);
+        message.UnsubscribeLink = kind.value;
         if (withFiles()) addFiles(message, kind.value.left(2000));
         check(message);
-        message.unsubscribeLink = "https://x.it/u?e=" + kind.value;
-        message.bodyHtml = kind.value;
-        message.templateHtml.clear();
+        message.UnsubscribeLink = "https://x.it/u?e=" + kind.value;
+        message.BodyHtml = kind.value;
+        message.TemplateHtml.clear();
         check(message);
-        message.bodyText.clear();
+        message.BodyText.clear();
         check(message);
-        message.bodyText = kind.value;
-        message.bodyHtml.clear();
+        message.BodyText = kind.value;
+        message.BodyHtml.clear();
         check(message);
     }
 }
@@ -177,7 +177,7 @@ TEST_P(WireMessage, KeepsEveryRuleForEachAddress) {
           QStringLiteral("è").repeated(100) + "@example.it"}) {
         SCOPED_TRACE(address.toStdString());
         auto message = plainMessage();
-        message.fromAddress = message.toAddress = address;
+        message.FromAddress = message.ToAddress = address;
         if (withFiles()) addFiles(message, "nome");
         check(message);
     }
@@ -187,22 +187,22 @@ TEST_P(WireMessage, KeepsEveryRuleForFuzzedValues) {
     HostileValues values(withFiles() ? 19991231 : 20000101);
     for (int i = 0; i < messagesOfTheLoop && !HasFailure(); ++i) {
         mail::MessageData message;
-        message.fromAddress = values.address();
-        message.toAddress = values.address();
-        message.fromName = values.text(12);
-        message.toName = values.text(12);
-        message.subject = values.text(i % 10 == 0 ? 400 : 15);
-        message.bodyText = values.text(60);
-        message.bodyHtml = values.text(120) + values.text(2);
-        message.unsubscribeLink = "https://x.it/" + values.text(5);
-        if (withFiles()) message.attachments = {{m_folder.filePath("allegato"), values.text(8) + ".pdf"}};
+        message.FromAddress = values.address();
+        message.ToAddress = values.address();
+        message.FromName = values.text(12);
+        message.ToName = values.text(12);
+        message.Subject = values.text(i % 10 == 0 ? 400 : 15);
+        message.BodyText = values.text(60);
+        message.BodyHtml = values.text(120) + values.text(2);
+        message.UnsubscribeLink = "https://x.it/" + values.text(5);
+        if (withFiles()) message.Attachments = {{m_folder.filePath("allegato"), values.text(8) + ".pdf"}};
         const auto composed = m_composer.compose(message);
         ASSERT_TRUE(composed.ok());
         const wire::Message read = wire::read(composed.value().text.whole());
         EXPECT_EQ(read.complaints.join("\n").toStdString(), "")
             << i << '\n'
             << composed.value().text.whole().toStdString();
-        EXPECT_EQ(read.subject.toStdString(), inOneLine(message.subject).toStdString());
+        EXPECT_EQ(read.subject.toStdString(), inOneLine(message.Subject).toStdString());
         if (withFiles()) {
             EXPECT_EQ(read.leaves.back().content, attachmentContent);
         }
