@@ -15,7 +15,7 @@ inline QByteArray run(const QString& program, const QStringList& arguments, cons
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished(60000)) << program.toStdString();
+    EXPECT_TRUE(process.waitForFinished(300000)) << program.toStdString();
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString()
                                      << process.readAllStandardOutput().toStdString();
     return process.readAllStandardOutput();

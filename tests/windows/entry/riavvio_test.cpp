@@ -160,7 +160,7 @@ class TestRiavvio : public QObject {
                                    "\r\nposizione=1 2 3 4 0\r\ndatabase=\r\ngruppi=\r\n");
         std::thread end([old] {
             std::this_thread::sleep_for(std::chrono::milliseconds(300));
-            ::kill(old, SIGTERM);
+            ::kill(old, SIGKILL);  // Qt Test would catch another signal in the child too
         });
         riavvio::Raccogli();
         const pid_t ended = ::waitpid(old, nullptr, WNOHANG);
