@@ -19,10 +19,12 @@ set(VESTROLA_CORE_HEADERS <algorithm> <array> <cstdint> <functional> <map> <memo
 vestrola_precompiled(precompiled_core HEADERS ${VESTROLA_CORE_HEADERS} LIBRARIES Qt6::Core)
 set(VESTROLA_WIDGETS_HEADERS <QApplication> <QCheckBox> <QComboBox> <QDialog> <QEvent> <QGridLayout> <QHeaderView> <QJsonObject>
                              <QKeyEvent> <QLabel> <QLineEdit> <QPainter> <QPushButton> <QTimer> <QVBoxLayout> <QWidget>)
-vestrola_precompiled(precompiled_gtest HEADERS ${VESTROLA_CORE_HEADERS} <QTemporaryDir> <gtest/gtest.h>
-                     LIBRARIES Qt6::Core GTest::gtest)
 vestrola_precompiled(precompiled_widgets HEADERS ${VESTROLA_CORE_HEADERS} ${VESTROLA_WIDGETS_HEADERS} LIBRARIES Qt6::Widgets)
-vestrola_precompiled(precompiled_qtest HEADERS ${VESTROLA_CORE_HEADERS} ${VESTROLA_WIDGETS_HEADERS} LIBRARIES Qt6::Widgets)
-foreach(test_headers precompiled_gtest precompiled_qtest)
-  target_compile_options(${test_headers} PRIVATE ${VESTROLA_TEST_OPTIONS})
-endforeach()
+if(VESTROLA_TESTS)
+  vestrola_precompiled(precompiled_gtest HEADERS ${VESTROLA_CORE_HEADERS} <QTemporaryDir> <gtest/gtest.h>
+                       LIBRARIES Qt6::Core GTest::gtest)
+  vestrola_precompiled(precompiled_qtest HEADERS ${VESTROLA_CORE_HEADERS} ${VESTROLA_WIDGETS_HEADERS} LIBRARIES Qt6::Widgets)
+  foreach(test_headers precompiled_gtest precompiled_qtest)
+    target_compile_options(${test_headers} PRIVATE ${VESTROLA_TEST_OPTIONS})
+  endforeach()
+endif()

@@ -5,7 +5,8 @@ should have.
     demo.py BUILD_FOLDER OUTPUT_FOLDER
 
 Leaves in the output folder: messages/*.eml as received, the program folder vestrola/ with data/data.mdb after the run,
-transcript.xt1 and send-window.png. Ends with 1 if anything is not as it should be.
+transcript.xt1, send-window.png, and program.log with what the toolkit had to say. Ends with 1 if anything is not as it should
+be.
 """
 import csv
 import email
@@ -26,6 +27,10 @@ FIELDS = ["rgs", "nom", "email", "piva", "ind", "cap", "loc", "prov", "campo1", 
 def recipients():
     with open(HERE / "recipients.tsv", encoding="utf-8", newline="") as file:
         return list(csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE))
+
+
+def message_count():
+    return sum(row["sel"] == "1" for row in recipients())
 
 
 def personalised(text, row):
@@ -54,6 +59,17 @@ def catch_all(folder):
     return server, line.split()[1]
 
 
+def run(output, *command, **settings):
+    """Runs one of the demo's programs; what it writes as errors is shown only where it fails."""
+    with open(output / "program.log", "a+", encoding="utf-8") as log:
+        try:
+            return subprocess.run([str(word) for word in command], stderr=log, text=True, check=True, **settings)
+        except subprocess.SubprocessError:
+            log.seek(0)
+            sys.stderr.write(log.read())
+            raise
+
+
 def send(build, output):
     environment = dict(os.environ)
     if not environment.get("DISPLAY") and not environment.get("WAYLAND_DISPLAY"):
@@ -62,11 +78,12 @@ def send(build, output):
     server, port = catch_all(messages)
     try:
         program = output / "vestrola"
-        made = subprocess.run([str(build / "demo" / "demo_make"), str(program), port], env={**environment,
-                              "QT_QPA_PLATFORM": "offscreen"}, stdout=subprocess.PIPE, text=True, check=True)
+        made = run(output, build / "demo" / "demo_make", program, port, stdout=subprocess.PIPE,
+                   env={**environment, "QT_QPA_PLATFORM": "offscreen"})
         message = made.stdout.strip()
-        subprocess.run([str(build / "demo" / "demo_send"), str(program), message, str(output / "transcript.xt1"),
-                        str(output / "send-window.png")], env=environment, check=True, timeout=300)
+        print(f"sending {message_count()} messages, one at a time ...", flush=True)
+        run(output, build / "demo" / "demo_send", program, message, output / "transcript.xt1", output / "send-window.png",
+            env=environment, timeout=300)
         return pathlib.Path(message)
     finally:
         server.terminate()
@@ -126,6 +143,16 @@ def print_table(head, lines):
         print(show(line))
 
 
+def print_where_to_look(folder, message):
+    print("\nTo look at what arrived:")
+    for what, command in (("a message, as it arrived", f"less {message}"),
+                          ("its parts in a mail program", f"xdg-open {message}"),
+                          ("the send window, half way", f"xdg-open {folder}/send-window.png"),
+                          ("the talk with the server", f"less {folder}/transcript.xt1"),
+                          ("the recipients after it", f"mdb-export {folder}/vestrola/data/data.mdb tb_destinatari")):
+        print(f"  {what:<28}  {command}")
+
+
 def main():
     build, output = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
     shutil.rmtree(output, ignore_errors=True)
@@ -147,7 +174,7 @@ def main():
     digest = hashlib.sha256(attachment.read_bytes()).hexdigest()[:12]
     print(f"\n{len(lines)} messages arrived for {len(selected)} selected recipients of {len(rows)}; attachment {digest}; "
           f"message file {message.stat().st_size} bytes")
-    print(f"look at {os.path.relpath(output)}/: messages/*.eml, vestrola/data/data.mdb, transcript.xt1, send-window.png")
+    print_where_to_look(os.path.relpath(output), os.path.relpath(received[0]) if received else "")
     for problem in report.problems:
         print("PROBLEM:", problem)
     return 1 if report.problems else 0

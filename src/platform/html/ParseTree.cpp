@@ -117,14 +117,14 @@ QByteArray withMarks(const QByteArray& text) {
 }
 
 int depthOf(const GumboNode& document) {
-    struct Opened {
+    struct Level {
         const GumboNode* node;
         unsigned nextChild = 0;
     };
-    std::vector<Opened> path{{&document}};
+    std::vector<Level> path{{&document}};
     std::size_t deepest = 0;
     while (!path.empty()) {
-        Opened& current = path.back();
+        Level& current = path.back();
         const GumboVector& children = childrenOf(*current.node);
         if (current.nextChild == children.length) {
             path.pop_back();

@@ -56,7 +56,7 @@ QByteArray changed(const QByteArray& html, std::vector<Change> changes) {
 // the message
 void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& images) {
     std::vector<Change> changes;
-    std::vector<bool> used(images.images().size());
+    std::vector<bool> embedded(images.images().size());
     for (const auto& place : references.charsets)
         changes.push_back({&place, "utf-8"});
     for (const auto& place : references.addresses) {
@@ -68,12 +68,12 @@ void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& 
         const int found = images.find(place.value);
         if (found < 0) continue;
         const auto index = static_cast<std::size_t>(found);
-        used[index] = true;
+        embedded[index] = true;
         changes.push_back({&place, "cid:" + images.images()[index].contentId});
     }
     body.html = changed(body.html, std::move(changes));
-    for (std::size_t i = 0; i < used.size(); ++i) {
-        if (used[i]) body.images.push_back(images.images()[i].part);
+    for (std::size_t i = 0; i < embedded.size(); ++i) {
+        if (embedded[i]) body.images.push_back(images.images()[i].part);
     }
 }
 

@@ -29,8 +29,8 @@ class MenuKey : public QObject {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() != Qt::Key_F10 || key->modifiers() != Qt::ShiftModifier) return false;
         auto* control = static_cast<QWidget*>(watched);
-        const QPoint place = control->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
-        QContextMenuEvent request(QContextMenuEvent::Keyboard, place, control->mapToGlobal(place));
+        const QPoint cursor = control->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent request(QContextMenuEvent::Keyboard, cursor, control->mapToGlobal(cursor));
         QCoreApplication::sendEvent(control, &request);
         return true;
     }
