@@ -23,9 +23,10 @@ inline constexpr schema::Ordine colonne = schema::Sposta(schema::ordineSegnapost
 /// than their box.
 inline constexpr auto etichette = [] {
     std::array<int, quanti> numeri{};
-    for (std::size_t box = 0; box < numeri.size(); ++box)
-        numeri[box] = static_cast<int>(std::ranges::find(schema::ordineSegnaposto, colonne[box]) -
-                                       schema::ordineSegnaposto.begin());
+    std::ranges::transform(colonne, numeri.begin(), [](schema::Campo colonna) {
+        const auto& ordine = schema::ordineSegnaposto;
+        return static_cast<int>(std::ranges::find(ordine, colonna) - ordine.begin());
+    });
     return numeri;
 }();
 

@@ -6,14 +6,14 @@
 
 void strumenti::GiraTutto(const std::function<Result<bool>(std::chrono::microseconds)>& parte,
                           const std::function<void()>& respiro) {
-    using namespace std::chrono_literals;
     using Orologio = std::chrono::steady_clock;
-    constexpr auto attesaMassima = 30s;
+    constexpr std::chrono::milliseconds unaParte{15}, unaPausa{20};
+    constexpr std::chrono::seconds attesaMassima{30};
     auto fermoDa = Orologio::now();
     for (bool finito = false; !finito;) {
-        const Result<bool> esito = parte(15ms);
+        const Result<bool> esito = parte(unaParte);
         if (esito.status().code() == ErrorCode::FileInUse && Orologio::now() - fermoDa < attesaMassima) {
-            std::this_thread::sleep_for(20ms);
+            std::this_thread::sleep_for(unaPausa);
         } else {
             finito = esigi(esito);
             fermoDa = Orologio::now();

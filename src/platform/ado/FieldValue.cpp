@@ -127,7 +127,8 @@ Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {
         case Type::Text:
         case Type::Memo: {
             if (std::holds_alternative<std::string>(raw)) return raw;
-            const Result<QString> text = Value(std::move(raw)).toText(QLocale::c());
+            const Value value(std::move(raw));
+            const Result<QString> text = value.toText(QLocale::c());
             return text.ok() ? Result<jet::Value>(jet::Value(text.value().toStdString()))
                              : mismatchOf(column);
         }

@@ -174,8 +174,9 @@ constexpr std::array entries = {
 // Ordered by name, so that one is found in a few steps
 constexpr auto traitTable = [] {
     std::array<Known, entries.size()> table{};
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        table[i] = {hashOf(entries[i].name), entries[i].traits};
+    std::transform(entries.begin(), entries.end(), table.begin(), [](const Entry& entry) {
+        return Known{hashOf(entry.name), entry.traits};
+    });
     std::sort(table.begin(), table.end(), [](const Known& a, const Known& b) { return a.name < b.name; });
     return table;
 }();
@@ -328,13 +329,18 @@ class Path {
         if (last.name == form) m_inForm = false;
     }
 
+    // As many elements as that stay open
+    void popTo(std::size_t count) {
+        while (m_open.size() > count)
+            pop();
+    }
+
     /// Closes the innermost element that `wanted` names, and all inside it, unless `border` stands between.
     template <class Wanted, class Border>
     void closeTo(Wanted wanted, Border border) {
         for (std::size_t at = m_open.size(); at-- > 0;) {
             if (wanted(m_open[at])) {
-                while (m_open.size() > at)
-                    pop();
+                popTo(at);
                 return;
             }
             if (border(m_open[at])) return;
@@ -384,8 +390,7 @@ class Path {
             const bool holds = isTable(open) || (cell && open.name == tr) ||
                                (name == tr && (open.traits & (Row | Marker)) == Row && open.name != tr);
             if (!holds) continue;
-            while (m_open.size() > at + 1)
-                pop();
+            popTo(at + 1);
             return;
         }
     }
@@ -393,8 +398,7 @@ class Path {
     void endInDrawing(Name name) {
         for (std::size_t at = m_open.size(); at-- > 0 && m_open[at].drawing;) {
             if (m_open[at].name != name) continue;
-            while (m_open.size() > at)
-                pop();
+            popTo(at);
             return;
         }
     }
@@ -407,8 +411,7 @@ class Path {
             if (m_open[at].name != name) continue;
             m_open[at].alike = 0;  // not opened anew
             if (holdsBlock) return remove(at);
-            while (m_open.size() > at)
-                pop();
+            popTo(at);
             return;
         }
         for (std::size_t at = m_afloat.size(); at-- > 0 && m_afloat[at].marker == lastMarker();) {

@@ -136,12 +136,11 @@ bool Database::inTransaction() const {
     return m_engine->file.writing();
 }
 
-ReadScope::ReadScope(Database& database) : m_database(database) {
-    m_status = guarded([&]() -> Status {
-        database.m_engine->file.beginRead();
-        return {};
-    });
-}
+ReadScope::ReadScope(Database& database)
+    : m_database(database), m_status(guarded([&]() -> Status {
+          database.m_engine->file.beginRead();
+          return {};
+      })) {}
 
 ReadScope::~ReadScope() {
     if (m_status.ok()) m_database.m_engine->file.endRead();

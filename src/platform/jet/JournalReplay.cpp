@@ -66,7 +66,8 @@ bool JournalReplay::oldPageFits(const OsFile& database, uint32_t page, const Pag
 }
 
 bool JournalReplay::appendedFit(const OsFile& database, uint64_t size) const {
-    for (uint64_t at = uint64_t{m_header.pages} * pageSize; at < size; at += pageSize) {
+    const uint64_t appended = uint64_t{m_header.pages} * pageSize;
+    for (uint64_t at = appended; at < size; at += pageSize) {
         const auto known = m_pages.find(static_cast<uint32_t>(at / pageSize));
         if (known == m_pages.end()) return false;
         Page now;

@@ -221,10 +221,9 @@ Page& PageFile::change(uint32_t n) {
         m_journal.add(n, inFileForm(n, *original));
         m_journaled[n] = true;
     }
-    auto copy = std::make_shared<Page>(*original);
-    m_changed[n] = copy;
-    keep(n, copy);
-    return *copy;
+    const auto copy = m_changed.emplace(n, std::make_shared<Page>(*original)).first;
+    keep(n, copy->second);
+    return *copy->second;
 }
 
 uint32_t PageFile::append() {

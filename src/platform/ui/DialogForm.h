@@ -21,6 +21,8 @@ QComboBox* choiceField(const QString& name, const QStringList& entries, QWidget*
 class DialogForm {
   public:
     explicit DialogForm(QDialog* dialog);
+    DialogForm(const DialogForm&) = delete;
+    DialogForm& operator=(const DialogForm&) = delete;
 
     /// The label names the field for assistive programs; without a text there is none.
     void addField(const QString& label, QWidget* field);
