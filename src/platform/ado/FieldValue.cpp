@@ -1,5 +1,7 @@
 #include "platform/ado/FieldValue.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <optional>
@@ -8,6 +10,7 @@
 #include "platform/ado/DateText.h"
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Value.h"
+#include "platform/jet/ValueCodec.h"
 
 namespace ado {
 
@@ -79,26 +82,52 @@ Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& colum
     return jet::Value(jet::Currency{static_cast<int64_t>(scaled)});
 }
 
-/// The forms of stored text that Qt reads as they stand: characters below U+0100 behind the mark of the
-/// compressed form.
-std::optional<QString> plainText(std::span<const uint8_t> stored) {
+/// UTF-16 as it stands, but for what is damaged or compressed.
+std::optional<QString> utf16Text(std::span<const uint8_t> stored) {
+    static_assert(std::endian::native == std::endian::little);
+    if (stored.size() % 2 != 0) return std::nullopt;
+    QString text(static_cast<qsizetype>(stored.size() / 2), Qt::Uninitialized);
+    if (!stored.empty()) std::memcpy(text.data(), stored.data(), stored.size());
+    if (text.startsWith(QChar::ByteOrderMark)) return std::nullopt;
+    const bool surrogates = std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate(); });
+    return surrogates ? std::nullopt : std::optional(std::move(text));
+}
+
+/// The characters below U+0100 behind the mark of the compressed form, where there are no others.
+std::optional<QLatin1String> latinText(std::span<const uint8_t> stored) {
     if (stored.size() < 2 || stored[0] != 0xFF || stored[1] != 0xFE) return std::nullopt;
     const auto* text = reinterpret_cast<const char*>(stored.data()) + 2;
     const size_t length = stored.size() - 2;
     if (std::memchr(text, 0, length)) return std::nullopt;  // goes on in UTF-16
-    return QString::fromLatin1(text, static_cast<qsizetype>(length));
+    return QLatin1String(text, static_cast<qsizetype>(length));
 }
 
 }  // namespace
 
 Value fieldValue(const jet::RowView& row, size_t column) {
+    return fieldValue(row, column, row.field(column));
+}
+
+Value fieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field) {
     const jet::Column& definition = row.definition().columns[column];
-    if (definition.type != Type::Text || definition.ansi)
-        return Value(readable(definition, row.value(column)));
-    const auto stored = row.storedText(column);
-    if (!stored) return {};
-    if (auto text = plainText(*stored)) return *std::move(text);
-    return Value(row.value(column));
+    switch (definition.type) {
+        case Type::YesNo:
+            return !field.null;
+        case Type::Byte:
+        case Type::Integer:
+        case Type::Long:
+            if (field.bytes.size() < jet::fixedLength(definition)) return {};
+            return static_cast<long long>(jet::wholeNumber(definition, field));
+        case Type::Text:
+            if (field.null) return {};
+            if (definition.ansi) break;
+            if (const auto text = latinText(field.bytes)) return Value(*text);
+            if (auto text = utf16Text(field.bytes)) return *std::move(text);
+            break;
+        default:
+            if (field.null) return {};
+    }
+    return Value(readable(definition, row.value(column)));
 }
 
 Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {

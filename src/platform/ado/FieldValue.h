@@ -15,5 +15,7 @@ Result<jet::Value> fitToColumn(jet::Value value, const jet::Column& column);
 /// The value of a column of that row as a recordset hands it out; of memo and OLE values what lies in the
 /// row.
 Value fieldValue(const jet::RowView& row, size_t column);
+/// The same for whoever has its stored bytes.
+Value fieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field);
 
 }  // namespace ado

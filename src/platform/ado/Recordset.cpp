@@ -54,8 +54,9 @@ struct Recordset::Data {
     std::unique_ptr<Rows> rows;  ///< null when closed
     size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
-    bool lost = false;  ///< the last move failed: no row is the current one, nor any mark
-    StoredRow row;      ///< the current one, where rows are told by their identities
+    bool lost = false;                     ///< the last move failed: no row is the current one, nor any mark
+    StoredRow row;                         ///< the current one, where rows are told by their identities
+    std::vector<jet::StoredField> fields;  ///< of that row, once one was asked for
     RowsAhead ahead;
 
     Changes changes;
@@ -188,6 +189,7 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
 /// current row.
 Status Recordset::Data::goTo(size_t number) {
     const bool onward = !lost && !beforeFirst && number == current + 1;
+    fields.clear();
     if (!onward || !ahead.take(number, session->epoch(), RowsAhead::Clock::now(), row)) {
         const Waiting waiting(recordsetSeconds);
         lost = true;
@@ -224,15 +226,18 @@ Status Recordset::Data::read(size_t number, size_t count) {
 
 Status Recordset::Data::load() {
     ahead.drop();
+    fields.clear();
     row.present = false;
     return onRow() && rows->table() ? rows->table()->read(rows->id(current), row) : Status();
 }
 
 Result<Value> Recordset::Data::field(size_t column) {
-    const auto change =
-        std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });
-    if (change != changes.end())
-        return Value(readable(rows->table()->definition().columns[column], change->second));
+    if (pending()) {
+        const auto change =
+            std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });
+        if (change != changes.end())
+            return Value(readable(rows->table()->definition().columns[column], change->second));
+    }
     if (adding)
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
@@ -242,8 +247,11 @@ Result<Value> Recordset::Data::field(size_t column) {
     const jet::TableDefinition& definition = rows->table()->definition();
     const size_t position = rows->column(column);
     const jet::Type type = definition.columns[position].type;
-    if (type != jet::Type::Memo && type != jet::Type::Ole)
-        return fieldValue(jet::RowView(&definition, row.bytes), position);
+    if (type != jet::Type::Memo && type != jet::Type::Ole) {
+        const jet::RowView view(&definition, row.bytes);
+        if (fields.empty()) view.fields(fields);
+        return fieldValue(view, position, fields[position]);
+    }
     const Waiting waiting(recordsetSeconds);
     Result<jet::Value> value = rows->table()->longValue(rows->id(current), position);
     if (!value.ok()) return value.status();
@@ -259,8 +267,9 @@ Result<Value> Recordset::value(QStringView name) const {
 
 Result<Value> Recordset::value(int index) const {
     if (!isOpen()) return notOpen();
-    if (index < 0 || index >= fieldCount()) return unknownField(QString::number(index));
-    return m_data->field(static_cast<size_t>(index));
+    const auto column = static_cast<size_t>(index);
+    if (index < 0 || column >= m_data->rows->names().size()) return unknownField(QString::number(index));
+    return m_data->field(column);
 }
 
 Status Recordset::Data::updatable() const {

@@ -70,13 +70,6 @@ std::optional<double> readNumber(const QString& written) {
     return number;
 }
 
-Value::Type Value::type() const {
-    // in the order of the alternatives of jet::Value
-    constexpr Type types[] = {Type::Null,     Type::YesNo, Type::Integer, Type::Real,   Type::Date,
-                              Type::Currency, Type::Text,  Type::Binary,  Type::Decimal};
-    return types[m_value.index()];
-}
-
 Result<QString> Value::toText(const QLocale& userLocale) const {
     if (type() == Type::Text) return m_text;
     if (isNull()) return nullValue;
@@ -84,13 +77,14 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
     if (const auto* number = std::get_if<int64_t>(&m_value);
         number && *number >= 0 && plainDigits(userLocale))
         return QString::number(static_cast<qlonglong>(*number));
+    if (type() == Type::YesNo) {
+        if (userLocale.language() == QLocale::Italian)
+            return std::get<bool>(m_value) ? QStringLiteral("Vero") : QStringLiteral("Falso");
+        return std::get<bool>(m_value) ? QStringLiteral("True") : QStringLiteral("False");
+    }
     QLocale locale = userLocale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     switch (type()) {
-        case Type::YesNo:
-            if (locale.language() == QLocale::Italian)
-                return std::get<bool>(m_value) ? QStringLiteral("Vero") : QStringLiteral("Falso");
-            return std::get<bool>(m_value) ? QStringLiteral("True") : QStringLiteral("False");
         case Type::Integer:
             return locale.toString(static_cast<qlonglong>(std::get<int64_t>(m_value)));
         case Type::Real:
@@ -110,7 +104,11 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
     }
 }
 
-QString Value::toTextOrEmpty(const QLocale& locale) const {
+QString Value::toTextOrEmpty(const QLocale& locale) && {
+    return type() == Type::Text ? std::move(m_text) : std::as_const(*this).toTextOrEmpty(locale);
+}
+
+QString Value::toTextOrEmpty(const QLocale& locale) const& {
     if (type() == Type::Text) return m_text;
     if (isNull()) return {};
     const Result<QString> text = toText(locale);

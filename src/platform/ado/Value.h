@@ -23,11 +23,17 @@ class Value {
     Value(long long number) : m_value(static_cast<int64_t>(number)) {}
     Value(double number) : m_value(number) {}
     Value(QString text) : m_value(std::string()), m_text(std::move(text)) {}
+    explicit Value(QLatin1String text) : m_value(std::string()), m_text(text) {}
     template <class T>
     Value(const T*) = delete;  // would silently become a yes/no
     explicit Value(jet::Value value);
 
-    Type type() const;
+    Type type() const {
+        // in the order of the alternatives of jet::Value
+        static constexpr Type types[] = {Type::Null,     Type::YesNo, Type::Integer, Type::Real,   Type::Date,
+                                         Type::Currency, Type::Text,  Type::Binary,  Type::Decimal};
+        return types[m_value.index()];
+    }
     bool isNull() const { return type() == Type::Null; }
 
     /// The value as a user of `locale` writes it: texts as they are, a yes/no as "Vero" or "Falso" in Italian
@@ -36,7 +42,8 @@ class Value {
     /// binary data.
     Result<QString> toText(const QLocale& locale = QLocale()) const;
     /// The same with the empty text for whatever has no text.
-    QString toTextOrEmpty(const QLocale& locale = QLocale()) const;
+    QString toTextOrEmpty(const QLocale& locale = QLocale()) const&;
+    QString toTextOrEmpty(const QLocale& locale = QLocale()) &&;
     /// True is -1; fractions round to the nearest, halves to even; texts are read as by readNumber(). Fails
     /// with InvalidNull, TypeMismatch or Overflow.
     Result<qint64> toInteger() const;

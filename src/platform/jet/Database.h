@@ -55,9 +55,11 @@ class RowView {
     Value value(size_t column) const;
     /// Fast paths. text() appends the UTF-8 form to `out` and returns false for Null.
     bool text(size_t column, std::string& out) const;
-    /// The bytes in which a text is stored, as in JetText.h or in Windows-1252 (Column::ansi); nothing for
-    /// Null.
-    std::optional<std::span<const uint8_t>> storedText(size_t column) const;
+    /// The bytes in which a value is stored; those of a text are as in JetText.h or in Windows-1252
+    /// (Column::ansi).
+    StoredField field(size_t column) const;
+    /// Those of all columns, by position.
+    void fields(std::vector<StoredField>& all) const;
     int64_t integer(size_t column) const;
     bool yesNo(size_t column) const;
 

@@ -67,6 +67,24 @@ std::span<const uint8_t> variable(const Parts& parts, size_t k) {
     return parts.row.subspan(start, end - start);
 }
 
+// Sets `field`, which is Null before, where the row has the column.
+void takeField(const Parts& parts, const Column& column, StoredField& field) {
+    if (!parts.valid || !parts.mask(column.number)) return;
+    if (column.type == Type::YesNo) {
+        field.null = false;
+    } else if (!column.fixed) {
+        if (column.variableIndex >= parts.variables) return;
+        field.null = false;
+        field.bytes = variable(parts, column.variableIndex);
+    } else {
+        const size_t length = fixedLength(column);
+        const size_t start = parts.fixedAt() + column.fixedOffset;
+        if (start + length > parts.maskAt) return;
+        field.null = false;
+        field.bytes = parts.row.subspan(start, length);
+    }
+}
+
 }  // namespace
 
 bool maskBit(const TableDefinition& definition, const Column& column, std::span<const uint8_t> row) {
@@ -85,17 +103,17 @@ std::optional<size_t> maskByte(const TableDefinition& definition, const Column& 
 
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row) {
+    StoredField field;
+    takeField(Parts(definition, row), column, field);
+    return field;
+}
+
+void storedFields(const TableDefinition& definition, std::span<const uint8_t> row,
+                  std::vector<StoredField>& fields) {
     const Parts parts(definition, row);
-    if (!parts.valid || !parts.mask(column.number)) return {};
-    if (!column.fixed) {
-        if (column.variableIndex >= parts.variables) return {};
-        return {false, variable(parts, column.variableIndex)};
-    }
-    if (column.type == Type::YesNo) return {false};
-    const size_t length = fixedLength(column);
-    const size_t start = parts.fixedAt() + column.fixedOffset;
-    if (start + length > parts.maskAt) return {};
-    return {false, row.subspan(start, length)};
+    fields.assign(definition.columns.size(), {});
+    for (size_t i = 0; i < fields.size(); ++i)
+        takeField(parts, definition.columns[i], fields[i]);
 }
 
 Row::Row(const TableDefinition& definition) : m_definition(&definition) {

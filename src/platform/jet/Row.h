@@ -8,12 +8,6 @@
 
 namespace jet {
 
-/// Stored bytes of one column in a row, for reading only.
-struct StoredField {
-    bool null = true;
-    std::span<const uint8_t> bytes = {};
-};
-
 /// A row taken apart, for changing and writing. Row layout:
 ///   u16 column count · fixed area · variable values · u16 offsets, backwards, one more than values ·
 ///   u16 number of variable values · null mask, bit c = column number c is not Null
@@ -52,6 +46,9 @@ class Row {
 /// Null for whatever the row does not hold or what lies outside it.
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row);
+/// The same of all columns, by position: for whoever reads many of them, since the row is taken apart once.
+void storedFields(const TableDefinition& definition, std::span<const uint8_t> row,
+                  std::vector<StoredField>& fields);
 /// Where in a row the byte with the mask bit of a column stands; nothing in a row that is older than the
 /// column. Throws Failure when the row contradicts itself.
 std::optional<size_t> maskByte(const TableDefinition& definition, const Column& column,

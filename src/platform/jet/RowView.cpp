@@ -15,19 +15,7 @@ bool RowView::yesNo(size_t column) const {
 }
 
 int64_t RowView::integer(size_t column) const {
-    const Column& c = m_definition->columns[column];
-    const StoredField field = storedField(*m_definition, c, m_bytes);
-    if (field.null || field.bytes.size() < fixedLength(c)) return 0;
-    switch (c.type) {
-        case Type::Byte:
-            return field.bytes[0];
-        case Type::Integer:
-            return static_cast<int16_t>(load16(field.bytes.data()));
-        case Type::Long:
-            return static_cast<int32_t>(load32(field.bytes.data()));
-        default:
-            return 0;
-    }
+    return wholeNumber(m_definition->columns[column], field(column));
 }
 
 bool RowView::text(size_t column, std::string& out) const {
@@ -37,9 +25,12 @@ bool RowView::text(size_t column, std::string& out) const {
     return !field.null;
 }
 
-std::optional<std::span<const uint8_t>> RowView::storedText(size_t column) const {
-    const StoredField field = storedField(*m_definition, m_definition->columns[column], m_bytes);
-    return field.null ? std::nullopt : std::optional(field.bytes);
+StoredField RowView::field(size_t column) const {
+    return storedField(*m_definition, m_definition->columns[column], m_bytes);
+}
+
+void RowView::fields(std::vector<StoredField>& all) const {
+    storedFields(*m_definition, m_bytes, all);
 }
 
 Value RowView::value(size_t column) const {

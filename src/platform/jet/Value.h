@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -66,5 +67,11 @@ struct Decimal {
 ///   text, memo: std::string in UTF-8 · everything else: the raw Bytes
 using Value =
     std::variant<std::monostate, bool, int64_t, double, Date, Currency, std::string, Bytes, Decimal>;
+
+/// Stored bytes of one column in a row, for reading only. A yes/no has none: it is Null for False.
+struct StoredField {
+    bool null = true;
+    std::span<const uint8_t> bytes = {};
+};
 
 }  // namespace jet

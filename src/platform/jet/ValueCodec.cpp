@@ -172,6 +172,20 @@ void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std:
         appendUtf8(bytes, out);
 }
 
+int64_t wholeNumber(const Column& column, const StoredField& field) {
+    if (field.null || field.bytes.size() < fixedLength(column)) return 0;
+    switch (column.type) {
+        case Type::Byte:
+            return field.bytes[0];
+        case Type::Integer:
+            return static_cast<int16_t>(load16(field.bytes.data()));
+        case Type::Long:
+            return static_cast<int32_t>(load32(field.bytes.data()));
+        default:
+            return 0;
+    }
+}
+
 Value decodeValue(const Column& column, std::span<const uint8_t> bytes) {
     const uint8_t* p = bytes.data();
     switch (column.type) {
@@ -195,11 +209,9 @@ Value decodeValue(const Column& column, std::span<const uint8_t> bytes) {
     }
     switch (column.type) {
         case Type::Byte:
-            return int64_t{p[0]};
         case Type::Integer:
-            return int64_t{static_cast<int16_t>(load16(p))};
         case Type::Long:
-            return int64_t{static_cast<int32_t>(load32(p))};
+            return wholeNumber(column, {false, bytes});
         case Type::Currency:
             return Currency{static_cast<int64_t>(load64(p))};
         case Type::Single:

@@ -23,6 +23,8 @@ bool isWritable(const Column& column, std::string& why);
 size_t fixedLength(const Column& column);
 /// Appends the UTF-8 form of a text column's stored bytes.
 void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std::string& out);
+/// The number in a column of whole numbers; 0 for Null, and where bytes are too few.
+int64_t wholeNumber(const Column& column, const StoredField& field);
 /// Value of stored bytes. Bytes too short for their type are Null.
 Value decodeValue(const Column& column, std::span<const uint8_t> bytes);
 
