@@ -8,14 +8,19 @@
 //     star, columns   a recordset of all rows, passed to the end and kept: SELECT *, a list of columns
 //     order           the first ordered query of a run: all rows, of which one is read
 //     select          UPDATE … SET sel = True on all rows
-//     group N         the rows of one group
-//     tick N          N ticks' part of the database: the first selected row is read and its mark taken
+//     nothing         a query without rows
+//     group N         the rows of one group; the database is open already
+//     tick N [FAILED] N ticks' part of the database: the first selected row behind those that failed is read
+//     and
+//                     its mark taken. The first tick, which makes the order, is not measured.
+//     changed         a tick after another process has changed a row
 //     preads [N]      every page, or N at random, read from the file and nothing else
 #include <fcntl.h>
 #include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -115,9 +120,9 @@ Counted walk(ado::Recordset rows, bool readCells) {
     for (; !rows.isEof(); demand(rows.moveNext())) {
         ++counted.rows;
         for (int i = 0; readCells && i < fields; ++i) {
-            const Result<ado::Value> value = rows.value(i);
-            demand(value.status());
-            counted.characters += value.value().toTextOrEmpty(locale).size();
+            Result<ado::Value> value = rows.value(i);
+            if (!value.ok()) demand(value.status());
+            counted.characters += std::move(value).value().toTextOrEmpty(locale).size();
         }
     }
     return counted;
@@ -127,14 +132,26 @@ const QString runQuery = QStringLiteral(
     "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind "
     "ASC;");
 
-long long tick(const std::string& path) {
+long long tick(const std::string& path, long long failed) {
     ado::Recordset rows = query(path, runQuery);
+    demand(rows.move(failed));
     if (rows.isEof()) return 0;
     (void)demand(rows.value(u"email"));
     const qint64 id = demand(demand(rows.value(u"id")).toInteger());
     rows.close();
     return execute(path,
                    QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(id));
+}
+
+/// As another process does it: through an open file of its own.
+void changeOutside(const std::string& path, int number) {
+    const auto database = demand(jet::Database::open(path));
+    jet::Table& table = *demand(database->table("tb_destinatari"));
+    const auto id = demand(table.findByPrimaryKey(number));
+    const std::pair<size_t, jet::Value> change{2, "Ditta " + std::to_string(number)};
+    demand(database->begin());
+    demand(table.update(*id, {&change, 1}));
+    demand(database->commit());
 }
 
 Counted preads(const std::string& path, long long atRandom) {
@@ -163,6 +180,10 @@ int main(int argc, char** argv) {
     const std::string work = argv[1];
     const std::string path = argv[2];
     const long long number = argc > 3 ? std::atoll(argv[3]) : 0;
+    const long long failed = argc > 4 ? std::atoll(argv[4]) : 0;
+    if (work == "group") (void)query(path, QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id = 0;"));
+    if (work == "tick" || work == "changed") (void)tick(path, failed);
+    if (work == "changed") changeOutside(path, 3);
     const Moment start;
     Counted counted;
     ado::Recordset kept;
@@ -180,14 +201,16 @@ int main(int argc, char** argv) {
         counted.rows = kept.isEof() ? 0 : 1;
     } else if (work == "select") {
         counted.rows = execute(path, QStringLiteral("UPDATE [tb_destinatari] SET sel = True;"));
+    } else if (work == "nothing") {
+        kept = query(path, QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id_grp = 0 ORDER BY rgs;"));
     } else if (work == "group") {
         const QString statement =
             QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id_grp = %1 ORDER BY rgs, nom;");
         kept = query(path, statement.arg(number));
         counted.rows = kept.recordCount();
-    } else if (work == "tick") {
-        for (long long n = 0; n < number; ++n)
-            counted.rows += tick(path);
+    } else if (work == "tick" || work == "changed") {
+        for (long long n = 0; n < std::max(number, 1LL); ++n)
+            counted.rows += tick(path, failed);
     } else if (work == "preads") {
         counted = preads(path, number);
     } else {

@@ -67,6 +67,7 @@ def calls(tracer, command):
 
 class Bench:
     def __init__(self, build, work, rows):
+        self.build = build
         self.program = str(build / "bench/database/database_work")
         self.work = work
         self.rows = rows
@@ -99,9 +100,20 @@ class Bench:
                  columns["kilobytes"] / (60.0 * self.rows / 1000), 1.0)
         self.add("SELECT *, memory", star["kilobytes"] / 1000, "MB", "60 MB at a million rows",
                  star["kilobytes"] / (60.0 * self.rows / 1000), 1.0)
-        group, read = self.measured("group", self.base, 3), self.measured("preads", self.base)
-        self.add("one group, without an index", group["processor"], "s", "the file read by 4 KiB, time of ours over its",
-                 group["processor"] / read["processor"], 1.5)
+
+    def groups(self):
+        """A group of a thousandth of the rows."""
+        make = str(self.build / "bench/database/make_group")
+        for name, index, reads, peer, goal in (
+                ("without an index", [], 0, "the file read by 4 KiB", 1.5),
+                ("with an index of the file", ["indexed"], self.rows // 1000, "as many pages read at random", 4.0)):
+            base = self.work / ("indexed.mdb" if index else "grouped.mdb")
+            if not base.exists():
+                subprocess.run([make, str(base), str(self.rows), *index], check=True)
+            group, read = self.measured("group", base, 13), self.measured("preads", base, reads)
+            assert group["rows"] == self.rows // 1000, group
+            self.add(f"one group of {group['rows']:,}, {name}", group["processor"] * 1000, "ms",
+                     f"{peer}, time of ours over its", group["processor"] / read["processor"], goal)
 
     def sqlite_seconds(self, statement):
         least = None
@@ -127,7 +139,7 @@ class Bench:
         ours = min(run["seconds"] for run in runs)
         self.add("the same on the clock", ours, "s", "the same", ours / clock, 1.0)
         # All rows are selected now.
-        order, nothing = self.measured("order", copy), self.measured("group", copy, 0)
+        order, nothing = self.measured("order", copy), self.measured("nothing", copy)
         # Less what a query without rows leaves: the pages and what the program needs for the first time.
         kept = (order["kilobytes"] - nothing["kilobytes"]) * 1024 / self.rows
         self.add("first ordered query, memory kept", kept, "bytes a row", "16 bytes a row", kept / 16, 1.0)
@@ -135,6 +147,24 @@ class Bench:
         self.add("first ordered query", order["processor"], "s", "sqlite3's CREATE INDEX, time of ours over its",
                  order["processor"] / processor, 1.0)
         copy.unlink()
+
+    def later_ticks(self):
+        """The first tick of a run makes the order of its rows; those that follow should not care how many there are."""
+        make = str(self.build / "bench/scan/scan_recipients")
+        ticks = 200
+        least = None
+        for selected, failed in ((1000, 0), (self.rows // 10, 0), (self.rows // 10, 1000), (self.rows, 0), (self.rows, 1000)):
+            base = self.work / "later.mdb"
+            subprocess.run([make, "--make", str(base), str(selected)], check=True)
+            subprocess.run([self.program, "select", str(base)], stdout=subprocess.DEVNULL, check=True)
+            one = self.measured("tick", base, ticks, failed)["processor"] / ticks
+            least = least or one
+            self.add(f"a later tick of {selected:,}, {failed:,} failed", one * 1e6, "µs", "the same of 1,000", one / least, 2.0)
+            if not failed and selected == self.rows:
+                changed, read = self.measured("changed", base), self.measured("preads", base)
+                self.add("a tick after another process has changed a row", changed["processor"] * 1000, "ms",
+                         "the file read by 4 KiB, time of ours over its", changed["processor"] / read["processor"], 1.0)
+            base.unlink()
 
     def ticks(self):
         own, peer = self.work / "ticks.mdb", self.work / "ticks.sqlite"
@@ -164,7 +194,9 @@ def main():
     build, work = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
     bench = Bench(build, work, int(sys.argv[3]) if len(sys.argv) > 3 else 1_000_000)
     bench.reading()
+    bench.groups()
     bench.writing()
+    bench.later_ticks()
     bench.ticks()
     print(json.dumps(bench.records))
 

@@ -30,11 +30,27 @@ Status lostItsPlace() {
 
 }  // namespace
 
+Status RowOrder::walk(jet::Table& table,
+                      const std::function<bool(jet::RowId, const jet::RowView&)>& visit) const {
+    return m_spec.group ? table.scanGroup(*m_spec.group, m_spec.number, visit) : table.scan(visit);
+}
+
+void RowOrder::append(const Entry& entry) {
+    if (m_blocks.empty() || m_blocks.back().size() == rowsOfFullBlock)
+        m_blocks.emplace_back().reserve(rowsOfFullBlock);
+    m_blocks.back().push_back(entry);
+}
+
 Status RowOrder::fill(jet::Table& table) {
+    m_blocks.clear();
+    if (m_spec.parts.empty())  // the walk meets them in the order of their identities
+        return walk(table, [&](jet::RowId id, const jet::RowView&) {
+            append({0, packed(id)});
+            return true;
+        });
     KeySort rows;
     std::string key;
-    Status status = table.scan([&](jet::RowId id, const jet::RowView& row) {
-        if (!m_spec.holds(row)) return true;
+    Status status = walk(table, [&](jet::RowId id, const jet::RowView& row) {
         key.clear();
         m_spec.appendKey(key, row);
         rows.add(key, packed(id));
@@ -42,13 +58,9 @@ Status RowOrder::fill(jet::Table& table) {
     });
     if (!status.ok()) return status;
     rows.sort();
-    m_blocks.clear();
     m_blocks.reserve(rows.count() / rowsOfFullBlock + 1);
-    for (size_t i = 0; i < rows.count(); ++i) {
-        if (i % rowsOfFullBlock == 0)
-            m_blocks.emplace_back().reserve(std::min(rowsOfFullBlock, rows.count() - i));
-        m_blocks.back().emplace_back(KeySort::word(rows.key(i), 0), rows.id(i));
-    }
+    for (size_t i = 0; i < rows.count(); ++i)
+        append({KeySort::word(rows.key(i), 0), rows.id(i)});
     return {};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -56,6 +57,8 @@ class RowOrder {
     };
     using Block = std::vector<Entry>;
 
+    Status walk(jet::Table& table, const std::function<bool(jet::RowId, const jet::RowView&)>& visit) const;
+    void append(const Entry& entry);
     Result<Place> find(jet::Table& table, std::string_view key, uint32_t id) const;
     Result<bool> before(jet::Table& table, const Entry& entry, std::string_view key, uint32_t id) const;
 

@@ -89,6 +89,10 @@ class Table {
     Status scan(const std::function<bool(RowId, const RowView&)>& visit) { return scan({}, visit); }
     /// The same from the row `from` on, or from where it stood: a scan in parts goes on behind the last row.
     Status scan(RowId from, const std::function<bool(RowId, const RowView&)>& visit);
+    /// The same for the rows with that number in a column of whole numbers, or with True (any number but 0)
+    /// or False in a yes/no column. An index that begins with the column is used where few rows have the
+    /// number and the index is one that the engine would keep.
+    Status scanGroup(size_t column, int64_t number, const std::function<bool(RowId, const RowView&)>& visit);
     /// The row of that identity; no row there is an empty optional.
     Result<std::optional<RowView>> row(RowId id);
     /// One value, following memo and OLE values to their pages.

@@ -147,6 +147,26 @@ std::optional<Bytes> IndexTree::keyOf(RowId row) const {
     failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
+std::optional<std::vector<RowId>> IndexTree::rowsFrom(std::span<const uint8_t> start, size_t most) const {
+    std::vector<RowId> rows;
+    IndexPage leaf = std::move(descend(start).back().page);
+    size_t at = leaf.lowerBound(start);
+    for (uint32_t leaves = 0; leaves < m_file.pageCount(); ++leaves) {
+        for (; at < leaf.count(); ++at) {
+            const std::span<const uint8_t> entry = leaf.keyAndRow(at);
+            const bool begins = entry.size() >= start.size() + index::rowIdLength &&
+                                std::equal(start.begin(), start.end(), entry.begin());
+            if (!begins) return rows;
+            if (rows.size() == most) return std::nullopt;
+            rows.push_back(rowOf(entry));
+        }
+        if (leaf.next == 0) return rows;
+        leaf = load(leaf.next);
+        at = 0;
+    }
+    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+}
+
 std::vector<IndexTree::Entry> IndexTree::someEntries(size_t most) const {
     std::vector<Entry> entries;
     const auto add = [&](const IndexPage& leaf, size_t from) {

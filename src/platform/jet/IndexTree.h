@@ -28,6 +28,8 @@ class IndexTree {
 
     /// Row of the first entry with exactly that key.
     std::optional<RowId> find(std::span<const uint8_t> key) const;
+    /// Rows of all entries whose key begins so; nothing where there are more than `most`.
+    std::optional<std::vector<RowId>> rowsFrom(std::span<const uint8_t> start, size_t most) const;
     /// Least and greatest key of the index.
     std::optional<Bytes> firstKey() const;
     std::optional<Bytes> lastKey() const;

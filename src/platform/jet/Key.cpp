@@ -219,6 +219,15 @@ bool isIndexed(const TableDefinition& definition, const Index& index, const Fiel
     return !index.ignoreNulls || countNulls(definition, index, field) < index.parts.size();
 }
 
+Bytes keyOfNumber(const Column& column, bool ascending, int64_t number) {
+    Bytes stored(sizeof number);
+    store64(stored.data(), static_cast<uint64_t>(number));
+    const bool isFalse = column.type == Type::YesNo && number == 0;
+    Bytes key;
+    appendNumber(key, column, {isFalse, std::span(stored).first(fixedLength(column))}, ascending);
+    return key;
+}
+
 Bytes longKey(int32_t value) {
     Bytes key(5);
     key[0] = 0x7F;

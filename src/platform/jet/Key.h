@@ -46,6 +46,9 @@ size_t countNulls(const TableDefinition& definition, const Index& index, const F
 /// Whether the row has an entry in the index.
 bool isIndexed(const TableDefinition& definition, const Index& index, const FieldOf& field);
 
+/// What the key of a row with that number begins with, where the index begins with the column: one of whole
+/// numbers that holds it, or a yes/no (0 is False).
+Bytes keyOfNumber(const Column& column, bool ascending, int64_t number);
 /// Key of an ascending long.
 Bytes longKey(int32_t value);
 /// The long that a key begins with; nothing for Null or another key.

@@ -165,6 +165,15 @@ PagePtr PageFile::page(uint32_t n) {
     return page;
 }
 
+size_t PageFile::readPages(uint32_t first, std::span<Page> pages) const {
+    assert(!m_header.jet3);
+    const std::span<uint8_t> bytes(pages.front().data(), pages.size() * pageSize);
+    const size_t count = m_file.read(uint64_t{first} * pageSize, bytes) / pageSize;
+    for (size_t i = 0; m_header.pageKey != 0 && i < count; ++i)
+        if (first + i != 0) codePage(m_header.pageKey, first + static_cast<uint32_t>(i), pages[i]);
+    return count;
+}
+
 void PageFile::requireWritable() const {
     if (m_header.jet3)
         fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,13 @@ class PageFile {
     void endRead();
     /// Page n. The bytes stay as long as the pointer is held.
     PagePtr page(uint32_t n);
+    /// Page n if it is in memory, else nothing.
+    PagePtr cached(uint32_t n) const { return n < m_cache.size() ? m_cache[n].page : PagePtr(); }
+    /// Whether the cache has room for all pages.
+    bool fitsCache() const { return m_pageCount <= m_limits.cachedPages; }
+    /// Reads the pages from `first` on as they are in the file, past the cache; the number of those that
+    /// there are.
+    size_t readPages(uint32_t first, std::span<Page> pages) const;
 
     /// Whether the room for a small transaction's journal is taken; tries to take it where it is not.
     bool roomReserved();

@@ -36,23 +36,6 @@ RowStore::Stored RowStore::body(RowId id, std::span<const uint8_t> pointer) cons
     return {std::move(bodyPage), bytes, place};
 }
 
-void RowStore::scan(RowId from, const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const {
-    UsageMap(m_file, m_definition.ownedMap).forEach(from.page, [&](uint32_t number) {
-        const PagePtr page = m_file.page(number);
-        const DataPageView rows = view(*page, number);
-        for (size_t slot = number == from.page ? from.slot : 0; slot < rows.count(); ++slot) {
-            const uint16_t flags = rows.flags(slot);
-            if ((flags & data::notARow) != 0) continue;
-            const RowId id{number, static_cast<uint8_t>(slot)};
-            const std::span<const uint8_t> bytes = rows.bytes(slot);
-            const bool more =
-                (flags & data::pointer) != 0 ? visit(id, body(id, bytes).bytes) : visit(id, bytes);
-            if (!more) return false;
-        }
-        return true;
-    });
-}
-
 std::optional<RowStore::Stored> RowStore::find(RowId id) const {
     if (id.page >= m_file.pageCount()) return std::nullopt;
     PagePtr page = m_file.page(id.page);

@@ -8,6 +8,8 @@
 #include "platform/jet/DataPages.h"
 #include "platform/jet/PageFile.h"
 #include "platform/jet/PageRoom.h"
+#include "platform/jet/PageWalk.h"
+#include "platform/jet/UsageMap.h"
 
 namespace jet {
 
@@ -22,9 +24,14 @@ class RowStore {
     RowStore(PageFile& file, const TableDefinition& definition)
         : m_file(file), m_definition(definition), m_room(file, definition.roomMap, definition.page) {}
 
-    /// Calls `visit` for each row from `from` on, in page order, until it returns false.
-    void scan(RowId from, const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const;
-    void scan(const std::function<bool(RowId, std::span<const uint8_t>)>& visit) const { scan({}, visit); }
+    /// Calls `visit(RowId, std::span<const uint8_t>)` for each row from `from` on, in page order, until it
+    /// returns false.
+    template <class Visit>
+    void scan(RowId from, const Visit& visit) const;
+    template <class Visit>
+    void scan(const Visit& visit) const {
+        scan({}, visit);
+    }
 
     /// Bytes of a row, valid as long as the page is held.
     struct Stored {
@@ -60,5 +67,23 @@ class RowStore {
     const TableDefinition& m_definition;
     PageRoom m_room;
 };
+
+template <class Visit>
+void RowStore::scan(RowId from, const Visit& visit) const {
+    PageWalk pages(m_file);
+    UsageMap(m_file, m_definition.ownedMap).forEach(from.page, [&](uint32_t number) {
+        const DataPageView rows = view(pages.page(number), number);
+        for (size_t slot = number == from.page ? from.slot : 0; slot < rows.count(); ++slot) {
+            const uint16_t flags = rows.flags(slot);
+            if ((flags & data::notARow) != 0) continue;
+            const RowId id{number, static_cast<uint8_t>(slot)};
+            const std::span<const uint8_t> bytes = rows.bytes(slot);
+            const bool more =
+                (flags & data::pointer) != 0 ? visit(id, body(id, bytes).bytes) : visit(id, bytes);
+            if (!more) return false;
+        }
+        return true;
+    });
+}
 
 }  // namespace jet

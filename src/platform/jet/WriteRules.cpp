@@ -43,25 +43,33 @@ Proof prove(const TableState& state, const Index& index, const IndexTree::Entry&
 
 // An index of another making would be spoilt by the first new entry, so its own entries have to agree with
 // the keys that this engine would give their rows.
-void requireKept(TableState& state, size_t position) {
+std::string whyNotKept(TableState& state, size_t position) {
     const Index& index = state.definition.indexes[position];
-    if (const std::string why = whyNotKept(state.definition, index); !why.empty())
-        refuseIndex(state.definition, index, why);
-    if (state.provedIndexes.contains(position)) return;
+    if (std::string why = whyNotKept(state.definition, index); !why.empty()) return why;
+    if (state.provedIndexes.contains(position)) return {};
     bool shown = false;
     for (const IndexTree::Entry& entry :
          IndexTree(state.file, state.definition, index).someEntries(entriesProved)) {
         const Proof proof = prove(state, index, entry);
-        if (proof == Proof::Differs)
-            refuseIndex(state.definition, index, "le sue voci non corrispondono alle righe della tabella");
+        if (proof == Proof::Differs) return "le sue voci non corrispondono alle righe della tabella";
         shown = shown || proof == Proof::Agrees;
     }
     if (!shown && needsProof(state.definition, index))
-        refuseIndex(state.definition, index, "la forma delle sue chiavi decrescenti non è certa");
+        return "la forma delle sue chiavi decrescenti non è certa";
     state.provedIndexes.insert(position);
+    return {};
+}
+
+void requireKept(TableState& state, size_t position) {
+    if (const std::string why = whyNotKept(state, position); !why.empty())
+        refuseIndex(state.definition, state.definition.indexes[position], why);
 }
 
 }  // namespace
+
+bool isKept(TableState& state, size_t position) {
+    return whyNotKept(state, position).empty();
+}
 
 void refuse(const TableDefinition& table, std::string_view why) {
     fail(ErrorCode::NotSupported, "La tabella \"", table.name, "\" non può essere modificata: ", why, ".");

@@ -16,6 +16,8 @@ void requireWritableTable(const TableState& state);
 void requireWritable(TableState& state);
 /// The column at that position can be changed: its values can be stored, its indexes kept right.
 void requireUpdatable(TableState& state, size_t position);
+/// Whether the index at that position can be kept right, so that its entries are those of the rows.
+bool isKept(TableState& state, size_t position);
 [[noreturn]] void refuse(const TableDefinition& table, std::string_view why);
 
 /// The column's own rules for its value in a row that will be stored: Required, AllowZeroLength.
