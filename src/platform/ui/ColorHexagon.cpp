@@ -4,6 +4,8 @@
 #include <limits>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 
 #include "platform/ui/ColorHexagonAccess.h"
 #include "platform/ui/ColorNumber.h"
@@ -165,6 +167,10 @@ void ColorHexagon::paintEvent(QPaintEvent*) {
     painter.drawPolygon(current);
     painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawPolygon(current);
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect rim;
+    rim.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rim, &painter, this);
 }
 
 void ColorHexagon::mousePressEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #include "platform/ui/Style.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
@@ -25,6 +26,19 @@ bool hasRim(QStyle::PrimitiveElement element) {
         default:
             return false;
     }
+}
+
+/// What shows the focus where Fusion does not: it marks the default button as it marks one with the focus,
+/// and a list by its current row alone, which an empty one has not.
+bool showsFocusByFrame(QStyle::PrimitiveElement element, const QStyleOption& option, const QWidget* widget) {
+    if (!(option.state & QStyle::State_HasFocus)) return false;
+    if (element == QStyle::PE_PanelButtonCommand) return option.state & QStyle::State_KeyboardFocusChange;
+    return element == QStyle::PE_Frame && qobject_cast<const QAbstractItemView*>(widget);
+}
+
+void drawFocusFrame(const QStyleOption& option, const QRectF& frame, QPainter& painter) {
+    painter.setPen(option.palette.color(QPalette::Active, QPalette::Highlight));
+    painter.drawRoundedRect(frame.adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
 }
 
 /// The line around a control that high contrast asks for.
@@ -119,14 +133,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     if (element != PE_FrameFocusRect && !pointedTool) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (highContrast() && hasRim(element)) drawRim(*option, *painter, element == PE_IndicatorRadioButton);
-        return;
+        if (!showsFocusByFrame(element, *option, widget)) return;
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
     // A tool button under the pointer looks like a menu entry under it.
     painter->setBrush(pointedTool ? QApplication::palette("QMenu").brush(QPalette::Highlight) : Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    const int inset = element == PE_PanelButtonCommand ? 3 : 0;
+    drawFocusFrame(*option, QRectF(option->rect).adjusted(inset, inset, -inset, -inset), *painter);
     painter->restore();
 }
 

@@ -110,6 +110,10 @@ void frmAccount::ColoraControlli() {
         coloraSfondo(controllo, 0);
     for (QWidget* controllo : std::initializer_list<QWidget*>{chkAvanzate, pic})
         coloraSfondo(controllo, 24);
+    // the rim of the focus: its usual colour is too near to that of the band
+    QPalette scuro = chkAvanzate->palette();
+    scuro.setColor(QPalette::Highlight, coloreTema(20));
+    chkAvanzate->setPalette(scuro);
     for (std::size_t indice : {3, 5, 8}) {
         QPalette tavolozza = lbl[indice]->palette();
         tavolozza.setColor(QPalette::WindowText, misto(20, 0, 165));

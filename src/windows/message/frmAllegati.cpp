@@ -45,7 +45,6 @@ frmAllegati::frmAllegati(ui::CommandBars& barre, QWidget* parent)
     setWindowTitle("Allegati");
     LIST->setObjectName("LIST");
     LIST->setAccessibleName("Allegati");
-    LIST->setFrameShape(QFrame::NoFrame);
     LIST->setRootIsDecorated(false);
     LIST->setUniformRowHeights(true);
     // With it the name fits into the width that its column gets.

@@ -15,6 +15,7 @@
 #include "platform/ui/FindDialog.h"
 #include "platform/ui/ImageDialog.h"
 #include "platform/ui/LinkDialog.h"
+#include "support/LookChange.h"
 #include "support/LookCheck.h"
 #include "support/TestClass.h"
 #include "windows/accounts/frmAccount.h"
@@ -156,6 +157,12 @@ class TestWindows : public QObject {
         QVERIFY(faults.isEmpty());
     }
 
+    static void schemes() {
+        QTest::addColumn<QString>("scheme");
+        for (const char* scheme : {"Classic", "NormalColor", "Metallic", "HomeStead"})
+            QTest::newRow(scheme) << scheme;
+    }
+
     static void languages() {
         QTest::addColumn<QByteArray>("language");
         QTest::newRow("Italian") << QByteArray("Italiano");
@@ -234,6 +241,44 @@ class TestWindows : public QObject {
             if (qobject_cast<QDialog*>(&window)) QCOMPARE(orderRead(window), orderOfTab(window));
             QVERIFY2(!orderOfTab(window).isEmpty() || name == "frmSplash", qPrintable(name));
         });
+    }
+
+    void focusAndMarksStandOutInEveryScheme_data() { schemes(); }
+    void focusAndMarksStandOutInEveryScheme() {
+        QFETCH(QString, scheme);
+        sostituisciSchema(scheme);
+        const auto back = qScopeGuard([] { sostituisciSchema({}); });
+        Windows windows;
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString&) {
+            QApplication::setActiveWindow(&window);
+            faults += faultsOfFocus(window);
+            faults += faultsOfMarks(window);
+        });
+        none(faults);
+    }
+
+    void aDarkDesktopChangesNothing() {
+        const auto handOutAnew = [] {
+            for (const char* scheme : {"Metallic", ""}) {
+                sostituisciSchema(scheme);
+                RilevaTema(nullptr);
+            }
+        };
+        const auto back = qScopeGuard(handOutAnew);
+        QStringList looks[2];
+        for (const bool dark : {false, true}) {
+            QApplication::setPalette(dark ? QPalette(QColor(30, 30, 30), QColor(20, 20, 20)) : QPalette());
+            handOutAnew();
+            Windows windows;
+            windows.each([&](QWidget& window, const QString& name) {
+                QVERIFY2(faultsOfContrast(window).isEmpty(), qPrintable(name));
+                looks[dark] << name + window.palette().color(QPalette::Window).name() +
+                                   window.palette().color(QPalette::WindowText).name() +
+                                   window.palette().color(QPalette::Base).name();
+            });
+        }
+        QCOMPARE(looks[1], looks[0]);
     }
 
     void textsStandOutInEveryScheme_data() {
