@@ -7,44 +7,29 @@ ever connects there. The send window is worked as an assistive program works it.
     direct_route_test.py BUILD_FOLDER
 """
 import csv
-import fcntl
 import mailbox
 import os
 import pathlib
 import socket
-import struct
 import subprocess
 import sys
 import tempfile
 
 import desktop
 from desktop import fail, wait_for
+import network
 
-ISOLATED = "VESTROLA_TEST_NETWORK"
 SERVERS = {"alfa.example": "127.0.0.2", "beta.example": "127.0.0.3", "spento.example": "127.0.0.4"}
 DOWN = "spento.example"
 HOSTILE, INSIDE_SERVER = "ladro.example", "127.0.0.9"
 RECIPIENTS = [f"{name}@{domain}" for name in ("ada", "bice") for domain in SERVERS] + [f"ada@{HOSTILE}"]
 
 
-def raise_loopback():
-    up_and_running = 0x41
-    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as any_socket:
-        fcntl.ioctl(any_socket, 0x8914, struct.pack("16sH14x", b"lo", up_and_running))  # SIOCSIFFLAGS
-
-
 def isolate():
-    """Runs this script anew in a network and mounts of its own, where every port may be bound and resolv.conf names the
-    test's name server; returns where that is so already."""
-    if ISOLATED not in os.environ:
-        unshare = ["unshare", "--net", "--mount"] + (["--map-root-user"] if os.geteuid() else [])
-        if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL, check=False).returncode:
-            print("skipped: the system allows no private network")
-            raise SystemExit(0)
-        os.environ[ISOLATED] = "1"
-        os.execvp(unshare[0], [*unshare, sys.executable, *sys.argv])
+    """Runs this script anew in a network of its own, where resolv.conf names the test's name server."""
+    network.enter()
     if desktop.INSIDE not in os.environ:
-        raise_loopback()
+        network.raise_loopback()
         with tempfile.NamedTemporaryFile("w", prefix="resolv-") as file:
             file.write("nameserver 127.0.0.1\n")
             file.flush()

@@ -21,6 +21,8 @@ import desktop
 import direct_route_test
 from desktop import fail, wait_for
 from accessible import Window, act, is_shown, send
+import postfix
+from postfix import Postfix
 import pyatspi
 
 OWN, CLIENTS = "bottega.example", "clienti.example"
@@ -32,78 +34,24 @@ RECORDS = [f'"{OWN}. MX 10 {MAIL}."', f'"{CLIENTS}. MX 10 {MAIL}."', f'"{MAIL}. 
 NO_ANSWER = ("La prova non è stata consegnata. Ricerca del server di posta non riuscita: il DNS non risponde. "
              "Riprovare più tardi.")
 
-SETTINGS = """compatibility_level = 3.6
-queue_directory = {folder}/spool
-data_directory = {folder}/data
-mail_owner = postfix
-setgid_group = postdrop
-maillog_file = {folder}/log
-maillog_file_prefixes = {folder}
-inet_interfaces = loopback-only
-inet_protocols = ipv4
-myhostname = {host}
-mydestination =
+MAILBOXES = """mydestination =
 mynetworks =
-alias_maps =
-alias_database =
 virtual_mailbox_domains = {domains}
 virtual_mailbox_maps = inline:{{ {boxes} }}
 virtual_mailbox_base = {folder}/mail
 virtual_uid_maps = static:65534
 virtual_gid_maps = static:65534
 """
-SERVICES = f"""{ADDRESS}:25 inet n - n - - smtpd
-cleanup unix n - n - 0 cleanup
-qmgr unix n - n 300 1 qmgr
-tlsmgr unix - - n 1000? 1 tlsmgr
-rewrite unix - - n - - trivial-rewrite
-bounce unix - - n - 0 bounce
-defer unix - - n - 0 bounce
-trace unix - - n - 0 bounce
-proxymap unix - - n - - proxymap
-smtp unix - - n - - smtp
-error unix - - n - - error
-retry unix - - n - - error
-virtual unix - n n - - virtual
-anvil unix - - n - 1 anvil
-scache unix - - n - 1 scache
-postlog unix-dgram n - n - 1 postlogd
-"""
 
 
-class Postfix:
-    """A complete Postfix for the mailboxes of two domains, which puts the mail of each address into a Maildir of its own."""
+class MailServer(Postfix):
+    """A Postfix for the mailboxes of two domains, which puts the mail of each address into a Maildir of its own."""
 
     def __init__(self, folder):
-        self.folder = pathlib.Path(folder)
-        self.folder.chmod(0o755)  # the server's own users have to get as far as their folders
-        for name in ("spool", "data", "mail"):
-            (self.folder / name).mkdir()
-        os.chown(self.folder / "data", pwd.getpwnam("postfix").pw_uid, -1)
-        os.chown(self.folder / "mail", pwd.getpwnam("nobody").pw_uid, -1)
         boxes = ", ".join(f"{{ {address} = {address}/ }}" for address in [SENDER, *KNOWN])
-        (self.folder / "main.cf").write_text(SETTINGS.format(folder=self.folder, host=MAIL, boxes=boxes,
-                                                             domains=f"{OWN}, {CLIENTS}"), encoding="ascii")
-        (self.folder / "master.cf").write_text(SERVICES, encoding="ascii")
-
-    def __enter__(self):
-        self.command("start")
-        return self
-
-    def __exit__(self, *_):
-        self.command("stop")
-
-    def command(self, word):
-        # The daemons keep the output open.
-        with open(self.folder / "output", "w+b") as output:
-            command = ["/usr/sbin/postfix", "-c", self.folder, word]
-            if subprocess.run(command, stdout=output, stderr=output, check=False, timeout=60).returncode:
-                output.seek(0)
-                fail(f"the mail server does not {word}: {output.read().decode(errors='replace')}{self.log()}")
-
-    def log(self):
-        log = self.folder / "log"
-        return log.read_text(encoding="utf-8", errors="replace") if log.exists() else ""
+        super().__init__(folder, MAIL, f"{ADDRESS}:25", MAILBOXES.format(folder=folder, boxes=boxes, domains=f"{OWN}, {CLIENTS}"))
+        (self.folder / "mail").mkdir()
+        os.chown(self.folder / "mail", pwd.getpwnam("nobody").pw_uid, -1)
 
     def mail(self, address):
         """The first message in the mailbox, once there is one."""
@@ -209,7 +157,7 @@ def play(stage, program):
     names = NameServer(stage, RECORDS)
     wait_for(resolves, "the name server")
     message = stage.write_message()
-    with tempfile.TemporaryDirectory() as folder, Postfix(folder) as server:
+    with tempfile.TemporaryDirectory() as folder, MailServer(folder) as server:
         running = stage.start([program])
         main = Window("frame", "Vestrola")
         try_message(main, names, server, message)
@@ -231,7 +179,7 @@ def play(stage, program):
 
 
 if __name__ == "__main__":
-    if os.geteuid() or pathlib.Path("/proc/self/uid_map").read_text(encoding="ascii").split()[2] == "1":
-        print("skipped: files cannot be given to the users that the mail server's parts run as")
+    if not postfix.is_possible():
+        print(postfix.SKIPPED)
     else:
         desktop.run(play)
