@@ -6,7 +6,9 @@
 #include <QTimer>
 
 #include "modules/core/Prodotto.h"
+#include "modules/lang/bLANG.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Language.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/Unattended.h"
 #include "windows/entry/bMain.h"
@@ -24,6 +26,7 @@ int runUnattended(int argc, char** argv, const char* usage,
     sys::setProgramFolder(arguments.first());
     ui::setUnattended(true);
     ui::setUpDesktop(application);
+    text::setLanguage(bLANG::CodiceLingua());
     SubMain();
     QTimer::singleShot(0, [&] {
         play(arguments);

@@ -1,7 +1,9 @@
 #include <QApplication>
 
 #include "modules/core/Prodotto.h"
+#include "modules/lang/bLANG.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Language.h"
 #include "platform/ui/Contrast.h"
 #include "platform/ui/Desktop.h"
 #include "windows/core/bTheme.h"
@@ -14,6 +16,8 @@ int main(int argc, char** argv) {
     QApplication programma(argc, argv);
     ui::setUpDesktop(programma);
     sys::programFolder();  // made, or mended, before anything is read from it
+    // Ahead of the first window: the language step of the main window finds most windows made.
+    text::setLanguage(bLANG::CodiceLingua());
     riavvio::Raccogli();
     SeguiFineSessione();
     SubMain();

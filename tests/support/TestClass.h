@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QTest>
 
+#include "platform/text/Language.h"
+
 namespace testing_support {
 
 /// Runs a class in an application of its own; arguments and result are those of QTest::qExec.
@@ -19,6 +21,7 @@ template <class Test>
 int runClass(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setAttribute(Qt::AA_Use96Dpi);
+    text::setLanguage(QStringLiteral("it"));
     Test test;
     return QTest::qExec(&test, argc, argv);
 }

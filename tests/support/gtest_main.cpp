@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <string>
 
+#include "platform/text/Language.h"
+
 namespace {
 
 /// The tests of a source in the form of a filter; empty where there are none.
@@ -29,6 +31,7 @@ std::string filterFor(const std::string& source) {
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     QCoreApplication application(argc, argv);
+    text::setLanguage(QStringLiteral("it"));
     if (argc > 1 && GTEST_FLAG_GET(filter) == "*") {
         const std::string filter = filterFor(argv[1]);
         if (filter.empty()) {

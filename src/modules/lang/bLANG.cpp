@@ -1,6 +1,7 @@
 #include "modules/lang/bLANG.h"
 
 #include <limits>
+#include <QHash>
 
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
@@ -99,6 +100,23 @@ void bLANG::ElencaLingue(QStringList& voci) {
         voci[i] = QStringLiteral(">> ") + inUso + QStringLiteral(" <<");
         linguaScelta = static_cast<std::int16_t>(i + 1);
     }
+}
+
+QString bLANG::CodiceLingua() {
+    static const QHash<QString, QString> codici{{QStringLiteral("English"), QStringLiteral("en")},
+                                                {QStringLiteral("Español"), QStringLiteral("es")},
+                                                {QStringLiteral("Français"), QStringLiteral("fr")},
+                                                {QStringLiteral("Deutsch"), QStringLiteral("de")}};
+    QString codice = QStringLiteral("it");
+    Prosegui prosegui;
+    prosegui([&] {
+        const QString inUso = linguaInUso();
+        perOgniRiga(percorsoTesti(), [&](const QString& riga) {
+            if (conta(riga) && dichiaraLingua(riga) && QStringView(riga).mid(lunghezzaMarcatore) == inUso)
+                codice = codici.value(inUso, codice);
+        });
+    });
+    return codice;
 }
 
 void bLANG::ScriviLinguaInUso(const QString& nome) {

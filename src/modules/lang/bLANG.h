@@ -21,6 +21,10 @@ inline std::int16_t linguaScelta = 0;
 /// the names stay as far as they were read.
 void ElencaLingue(QStringList& voci);
 
+/// ISO 639 code of the language in use, for the texts without a key; "it" while none is found, or for one in
+/// which there are no such texts. Reads both files and changes nothing; it never fails.
+QString CodiceLingua();
+
 /// Makes another language the one of the next start.
 void ScriviLinguaInUso(const QString& nome);
 

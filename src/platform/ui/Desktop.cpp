@@ -3,10 +3,9 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <QWidget>
 
+#include "platform/text/Language.h"
 #include "platform/ui/Style.h"
 
 // Outside any namespace, as the resource compiler asks; without it the linker drops the icons of a static
@@ -46,10 +45,7 @@ void setUpDesktop(QApplication& application) {
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mail-message-new")));
     QApplication::setStyle(new Style);
     application.installEventFilter(new MenuKey(&application));
-
-    auto* texts = new QTranslator(&application);
-    if (texts->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(texts);
+    text::setLanguage(QStringLiteral("it"));
 }
 
 }  // namespace ui

@@ -5,7 +5,7 @@ class QApplication;
 namespace ui {
 
 /// What every program of ours sets up before its first window: the drawing style, the compiled-in icons, the
-/// windows' icon, Shift+F10 as a menu key, the toolkit's own texts in Italian (where they are installed).
+/// windows' icon, Shift+F10 as a menu key, all texts in Italian.
 /// Call once, after the application object.
 void setUpDesktop(QApplication& application);
 
