@@ -6,6 +6,7 @@
 #include "modules/core/Fallimento.h"
 #include "platform/oauth/TokenSource.h"
 #include "platform/text/AnsiCodec.h"
+#include "platform/text/Words.h"
 
 namespace portachiavi {
 
@@ -41,10 +42,9 @@ Result<Account> Custodisci(const Account& valori, const TabellaAccount& preceden
         const auto origine = std::find_if(precedenti.begin(), precedenti.end(), [&](const Account& uno) {
             return uno.txtPassword == valori.txtPassword;
         });
-        const auto daRiscrivere = QStringLiteral("Scrivere di nuovo la password.");
+        const auto daRiscrivere = Words::tr("Scrivere di nuovo la password.");
         if (origine == precedenti.end())
-            return impossibile({ErrorCode::ItemNotFound, QStringLiteral("La password non è nota.")},
-                               daRiscrivere);
+            return impossibile({ErrorCode::ItemNotFound, Words::tr("La password non è nota.")}, daRiscrivere);
         if (nelPortachiavi && !nuovo && stessoLegame(valori, *origine)) return valori;
         const auto trovata = keyring::lookUp(valori.txtPassword, legameDi(*origine), attesa);
         if (!trovata.ok()) return impossibile(trovata.status(), daRiscrivere);
@@ -52,8 +52,8 @@ Result<Account> Custodisci(const Account& valori, const TabellaAccount& preceden
         if (!nelPortachiavi && !text::outsideAnsi(trovata.value()).isEmpty())
             return impossibile(
                 {ErrorCode::NotSupported,
-                 QStringLiteral("La password ha caratteri che il file degli account non può contenere.")},
-                QStringLiteral("Resta nel portachiavi."));
+                 Words::tr("La password ha caratteri che il file degli account non può contenere.")},
+                Words::tr("Resta nel portachiavi."));
     }
     // The word that stands for a consent is no secret, and the window knows it by sight.
     const bool segreta = !custodito.txtPassword.isEmpty() && custodito.txtPassword != oauth::passwordWord;
@@ -62,7 +62,7 @@ Result<Account> Custodisci(const Account& valori, const TabellaAccount& preceden
                                       QStringLiteral("Vestrola: ") + VoceAccount(valori), attesa);
     if (!messa.ok())
         return impossibile(messa.status(),
-                           QStringLiteral("Senza la spunta la password resta nel file degli account."));
+                           Words::tr("Senza la spunta la password resta nel file degli account."));
     custodito.txtPassword = messa.value();
     return custodito;
 }

@@ -5,6 +5,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -27,11 +28,10 @@ QString pulito(QStringView campo, schema::Campo colonna) {
 
 [[noreturn]] void campoMancante(int posizione, const PuntoImportazione& punto) {
     fallisci(ErrorCode::SubscriptOutOfRange,
-             QStringLiteral("Riga %1: il campo %2 non c'è; %3")
+             Words::tr("Riga %1: il campo %2 non c'è; %3")
                  .arg(punto.riga)
                  .arg(posizione)
-                 .arg(punto.inseriti == 1 ? QStringLiteral("inserito 1 destinatario")
-                                          : QStringLiteral("inseriti %1 destinatari").arg(punto.inseriti)));
+                 .arg(Words::tr("inseriti %n destinatari", nullptr, static_cast<int>(punto.inseriti))));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "modules/import/UltimaImportazione.h"
 
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 
 UltimaImportazione& ultimaImportazione() {
     static UltimaImportazione unica;
@@ -29,14 +30,14 @@ void UltimaImportazione::Finisci(qint64 righeScritte) {
 
 QString MotivoIndirizzo(const QString& indirizzo) {
     constexpr qsizetype ultimaEtichetta = 4;
-    if (indirizzo.isEmpty()) return "Manca l'indirizzo";
+    if (indirizzo.isEmpty()) return Words::tr("Manca l'indirizzo");
     const qsizetype chiocciola = indirizzo.indexOf('@');
-    if (chiocciola < 0) return "Nell'indirizzo manca \"@\"";
-    if (chiocciola == 0) return "Nell'indirizzo manca il nome prima di \"@\"";
+    if (chiocciola < 0) return Words::tr("Nell'indirizzo manca \"@\"");
+    if (chiocciola == 0) return Words::tr("Nell'indirizzo manca il nome prima di \"@\"");
     const QString dominio = indirizzo.mid(chiocciola + 1);
     const qsizetype punto = dominio.lastIndexOf('.');
-    if (punto <= 0) return "Nell'indirizzo manca il dominio dopo \"@\"";
+    if (punto <= 0) return Words::tr("Nell'indirizzo manca il dominio dopo \"@\"");
     if (dominio.size() - punto - 1 > ultimaEtichetta)
-        return "L'ultima parte dell'indirizzo ha più di quattro caratteri";
-    return "L'indirizzo non è valido";
+        return Words::tr("L'ultima parte dell'indirizzo ha più di quattro caratteri");
+    return Words::tr("L'indirizzo non è valido");
 }

@@ -8,6 +8,7 @@
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Waiting.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -86,10 +87,10 @@ void ApplicaAccettati(const std::function<void(const QString&)>& annota) {
     const auto database = mail::DatabaseFile::at(percorsoDB);
     for (const mail::AcceptedEntry& accettato : elenco.of(database)) {
         if (!TogliDallaSelezione(accettato) && annota)
-            annota(QStringLiteral(
-                       "Destinatario numero %1: già servito, ma la sua riga non ha più quell'indirizzo. "
-                       "Resta com'è.")
-                       .arg(accettato.number));
+            annota(
+                Words::tr("Destinatario numero %1: già servito, ma la sua riga non ha più quell'indirizzo. "
+                          "Resta com'è.")
+                    .arg(accettato.number));
         elenco.remove(database, accettato.number);
     }
 }

@@ -9,6 +9,7 @@
 #include "modules/core/Fallimento.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -62,7 +63,7 @@ QList<Gruppo> Conta() {
     qint64 perduti = 0;
     for (const qint64 suoi : std::as_const(quanti))
         perduti += suoi;
-    if (perduti > 0) gruppi.append({"cartelle perdute", perduti});
+    if (perduti > 0) gruppi.append({Words::tr("cartelle perdute"), perduti});
     return gruppi;
 }
 
@@ -73,7 +74,7 @@ QString CartelleSelezionate() {
     QList<Gruppo> gruppi;
     prosegui([&] { gruppi = Conta(); });
     if (gruppi.size() > alMassimo + 1) {
-        Gruppo altre{QString("altre %1 cartelle").arg(gruppi.size() - alMassimo), 0};
+        Gruppo altre{Words::tr("altre %n cartelle", nullptr, static_cast<int>(gruppi.size() - alMassimo)), 0};
         for (qsizetype i = alMassimo; i < gruppi.size(); ++i)
             altre.quanti += gruppi[i].quanti;
         gruppi = gruppi.first(alMassimo) << altre;

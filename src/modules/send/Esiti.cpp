@@ -6,6 +6,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -16,11 +17,11 @@ QString Interruttore() {
 QString Perche(const Status& stato) {
     switch (stato.code()) {
         case ErrorCode::FileNotFound:
-            return "Il registro di questo invio non c'è più.";
+            return Words::tr("Il registro di questo invio non c'è più.");
         case ErrorCode::Overflow:
-            return "Il registro di questo invio è troppo grande per essere letto.";
+            return Words::tr("Il registro di questo invio è troppo grande per essere letto.");
         default:
-            return "Il registro di questo invio non si può leggere. " + stato.text();
+            return Words::tr("Il registro di questo invio non si può leggere. %1").arg(stato.text());
     }
 }
 
@@ -43,7 +44,7 @@ Status esiti::Accendi(bool acceso) {
             stato = {ErrorCode::PathAccess, QString()};
     }
     if (stato.ok()) return {};
-    return {stato.code(), "La cartella \"" + Cartella() + "\" non si può scrivere."};
+    return {stato.code(), Words::tr("La cartella \"%1\" non si può scrivere.").arg(Cartella())};
 }
 
 Result<esiti::Invio> esiti::Leggi(const QString& percorso) {

@@ -3,6 +3,7 @@
 
 #include "modules/send/Esiti.h"
 #include "platform/mail/SmtpReply.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -18,7 +19,13 @@ QStringList Campi(const esiti::Riga& riga) {
 }
 
 QStringList Teste() {
-    return {"Data e ora", "Indirizzo", "Esito", "Motivo", "Codice", "Stato", "Risposta del server"};
+    return {Words::tr("Data e ora"),
+            Words::tr("Indirizzo"),
+            Words::tr("Esito"),
+            Words::tr("Motivo"),
+            Words::tr("Codice"),
+            Words::tr("Stato"),
+            Words::tr("Risposta del server")};
 }
 
 }  // namespace

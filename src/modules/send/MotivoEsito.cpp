@@ -3,6 +3,8 @@
 #include <array>
 #include <QRegularExpression>
 
+#include "platform/text/Words.h"
+
 using mail::DeliveryCause;
 using mail::DeliveryStage;
 using mail::OutcomeKind;
@@ -106,35 +108,35 @@ QString TestoMotivo(MotivoEsito motivo) {
         case MotivoEsito::Nessuno:
             break;
         case MotivoEsito::Inesistente:
-            return "Casella o indirizzo inesistente";
+            return Words::tr("Casella o indirizzo inesistente");
         case MotivoEsito::Disattivata:
-            return "Casella disattivata";
+            return Words::tr("Casella disattivata");
         case MotivoEsito::Piena:
-            return "Casella piena";
+            return Words::tr("Casella piena");
         case MotivoEsito::Regole:
-            return "Regole del server: spam, blocchi o limiti";
+            return Words::tr("Regole del server: spam, blocchi o limiti");
         case MotivoEsito::Mittente:
-            return "Mittente non accettato";
+            return Words::tr("Mittente non accettato");
         case MotivoEsito::Accesso:
-            return "Accesso all'account non riuscito";
+            return Words::tr("Accesso all'account non riuscito");
         case MotivoEsito::TempoScaduto:
-            return "Tempo scaduto senza risposta";
+            return Words::tr("Tempo scaduto senza risposta");
         case MotivoEsito::SenzaServer:
-            return "Nessun server di posta per il dominio";
+            return Words::tr("Nessun server di posta per il dominio");
         case MotivoEsito::NonRaggiunto:
-            return "Server non raggiunto";
+            return Words::tr("Server non raggiunto");
         case MotivoEsito::Caduta:
-            return "Connessione caduta o risposta non valida";
+            return Words::tr("Connessione caduta o risposta non valida");
         case MotivoEsito::TroppoGrande:
-            return "Messaggio troppo grande";
+            return Words::tr("Messaggio troppo grande");
         case MotivoEsito::Temporaneo:
-            return "Rifiuto temporaneo: riprovare più tardi";
+            return Words::tr("Rifiuto temporaneo: riprovare più tardi");
         case MotivoEsito::Fermato:
-            return "Invio fermato";
+            return Words::tr("Invio fermato");
         case MotivoEsito::NonSpedito:
-            return "Non spedito dal programma";
+            return Words::tr("Non spedito dal programma");
         case MotivoEsito::Altro:
-            return "Altro rifiuto del server";
+            return Words::tr("Altro rifiuto del server");
     }
     return {};
 }
@@ -142,13 +144,13 @@ QString TestoMotivo(MotivoEsito motivo) {
 QString TestoEsito(OutcomeKind esito) {
     switch (esito) {
         case OutcomeKind::Delivered:
-            return "Consegnato";
+            return Words::tr("Consegnato");
         case OutcomeKind::Refused:
-            return "Rifiutato";
+            return Words::tr("Rifiutato");
         case OutcomeKind::NoAnswer:
-            return "Senza risposta";
+            return Words::tr("Senza risposta");
         case OutcomeKind::NotSent:
-            return "Non spedito";
+            return Words::tr("Non spedito");
     }
     return {};
 }

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "platform/text/Words.h"
+
 namespace {
 
 constexpr qsizetype inizioDomanda = 12;
@@ -83,46 +85,46 @@ MotivoMX MotivoDiRisposta(QByteArrayView risposta) {
 }
 
 QString TestoMotivo(MotivoMX motivo) {
-    const auto temporaneo = [](const char* dettaglio) {
-        return "Ricerca del server di posta non riuscita per un problema temporaneo: " +
-               QString::fromUtf8(dettaglio) + '.';
+    const auto temporaneo = [](const QString& dettaglio) {
+        return Words::tr("Ricerca del server di posta non riuscita per un problema temporaneo: %1.")
+            .arg(dettaglio);
     };
-    const auto inutile = [](const char* dettaglio) {
-        return "La risposta del DNS sul dominio del destinatario non si può usare: " +
-               QString::fromUtf8(dettaglio) + '.';
+    const auto inutile = [](const QString& dettaglio) {
+        return Words::tr("La risposta del DNS sul dominio del destinatario non si può usare: %1.")
+            .arg(dettaglio);
     };
-    const auto senzaServer = [](const char* dettaglio) {
-        return "Il dominio del destinatario non ha un server di posta: " + QString::fromUtf8(dettaglio) + '.';
+    const auto senzaServer = [](const QString& dettaglio) {
+        return Words::tr("Il dominio del destinatario non ha un server di posta: %1.").arg(dettaglio);
     };
     switch (motivo) {
         case MotivoMX::Nessuno:
             return {};
         case MotivoMX::SenzaDNS:
-            return "Su questo computer non è configurato un server DNS.";
+            return Words::tr("Su questo computer non è configurato un server DNS.");
         case MotivoMX::NonValido:
-            return "Il dominio del destinatario non è valido.";
+            return Words::tr("Il dominio del destinatario non è valido.");
         case MotivoMX::NonInterrogato:
-            return temporaneo("il server DNS non si può interrogare");
+            return temporaneo(Words::tr("il server DNS non si può interrogare"));
         case MotivoMX::Silenzio:
-            return temporaneo("il server DNS non ha risposto in tempo");
+            return temporaneo(Words::tr("il server DNS non ha risposto in tempo"));
         case MotivoMX::ErroreServer:
-            return temporaneo("il server DNS segnala un errore (SERVFAIL)");
+            return temporaneo(Words::tr("il server DNS segnala un errore (SERVFAIL)"));
         case MotivoMX::Rifiuto:
-            return temporaneo("il server DNS rifiuta la domanda (REFUSED)");
+            return temporaneo(Words::tr("il server DNS rifiuta la domanda (REFUSED)"));
         case MotivoMX::Troncata:
-            return inutile("è troncata");
+            return inutile(Words::tr("è troncata"));
         case MotivoMX::Alias:
-            return inutile("comincia con un alias (CNAME)");
+            return inutile(Words::tr("comincia con un alias (CNAME)"));
         case MotivoMX::NonCompressa:
-            return inutile("i suoi nomi non sono compressi");
+            return inutile(Words::tr("i suoi nomi non sono compressi"));
         case MotivoMX::AltraForma:
-            return inutile("ha un'altra forma");
+            return inutile(Words::tr("ha un'altra forma"));
         case MotivoMX::SenzaPosta:
-            return "Il dominio del destinatario non accetta posta (null MX).";
+            return Words::tr("Il dominio del destinatario non accetta posta (null MX).");
         case MotivoMX::Inesistente:
-            return senzaServer("non esiste (NXDOMAIN)");
+            return senzaServer(Words::tr("non esiste (NXDOMAIN)"));
         case MotivoMX::Vuota:
-            return senzaServer("il DNS non ne indica");
+            return senzaServer(Words::tr("il DNS non ne indica"));
     }
     return {};
 }

@@ -11,6 +11,7 @@
 #include "platform/system/TextWriter.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/TextFile.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -49,7 +50,7 @@ QString percorsoIntero(const QString& percorso, QString& avviso) {
     const QString daParte = fileDelPercorsoIntero() + QStringLiteral(".guasto");
     QFile::remove(daParte);
     if (QFile::rename(fileDelPercorsoIntero(), daParte))
-        avviso = QStringLiteral(
+        avviso = Words::tr(
             "Il file pathDBase.utf8, con il percorso del database, è danneggiato.\r\n"
             "È stato messo da parte con il nome pathDBase.utf8.guasto.");
     return percorso;

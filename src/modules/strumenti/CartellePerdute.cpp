@@ -8,6 +8,7 @@
 #include "modules/core/Fallimento.h"
 #include "modules/strumenti/Blocchi.h"
 #include "platform/ado/Command.h"
+#include "platform/text/Words.h"
 
 Result<bool> ContaPerCartella::Avanza(std::chrono::microseconds tempo) {
     std::optional<std::size_t> gruppo;
@@ -23,7 +24,7 @@ Result<bool> ContaPerCartella::Avanza(std::chrono::microseconds tempo) {
     });
     if (esito.ok() && manca)
         return Status(ErrorCode::ItemNotFound,
-                      QStringLiteral("La tabella dei destinatari non ha la colonna \"id_grp\"."));
+                      Words::tr("La tabella dei destinatari non ha la colonna \"id_grp\"."));
     return esito;
 }
 
@@ -36,9 +37,9 @@ CartellePerdute::CartellePerdute(const AlberoCartelle& albero, const ContaPerCar
     for (const Cartella& cartella : perdute) {
         const auto suoi = perCartella.find(cartella.id);
         const qint64 quanti = suoi == perCartella.end() ? 0 : suoi->second;
-        QString motivo = "La cartella che la contiene non c'è";
+        QString motivo = Words::tr("La cartella che la contiene non c'è");
         if (!cartella.senzaPadre && esistenti.contains(cartella.padre))
-            motivo = "Sta dentro \"" + albero.Percorso(cartella.padre) + "\", perduta anch'essa";
+            motivo = Words::tr("Sta dentro \"%1\", perduta anch'essa").arg(albero.Percorso(cartella.padre));
         voci.push_back({cartella.nome, quanti, motivo});
         destinatari += quanti;
     }
@@ -47,12 +48,13 @@ CartellePerdute::CartellePerdute(const AlberoCartelle& albero, const ContaPerCar
         if (albero.Raggiunta(id) || esistenti.contains(id)) continue;
         mancanti.push_back(id);
         voci.push_back(
-            {"(cartella " + QString::number(id) + ")", quanti, "La cartella dei destinatari non c'è"});
+            {Words::tr("(cartella %1)").arg(id), quanti, Words::tr("La cartella dei destinatari non c'è")});
         destinatari += quanti;
     }
     senzaCartella = conta.SenzaCartella() > 0;
     if (!senzaCartella) return;
-    voci.push_back({"(nessuna cartella)", conta.SenzaCartella(), "I destinatari non hanno una cartella"});
+    voci.push_back({Words::tr("(nessuna cartella)"), conta.SenzaCartella(),
+                    Words::tr("I destinatari non hanno una cartella")});
     destinatari += conta.SenzaCartella();
 }
 

@@ -8,6 +8,7 @@
 #include "platform/mail/DomainName.h"
 #include "platform/mail/InsideAddress.h"
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -56,18 +57,20 @@ void ControlloMittente::Avvia(const Account& account, const QString& password) {
     domande = 0;
     mittente = mittenteDi(account);
     if (mittente.dominio.isEmpty()) {
-        righe = {{"Indirizzo dell'account",
-                  Semaforo::Rosso,
-                  "L'indirizzo email dell'account non è valido: correggerlo nella finestra degli account.",
-                  {Mostrabile(account.txtEmail.toUtf8())}}};
+        righe = {
+            {Words::tr("Indirizzo dell'account"),
+             Semaforo::Rosso,
+             Words::tr(
+                 "L'indirizzo email dell'account non è valido: correggerlo nella finestra degli account."),
+             {Mostrabile(account.txtEmail.toUtf8())}}};
         ascolto.finito();
         return;
     }
-    AggiungiDominio("Posta in arrivo (MX)", RigaMX);
-    AggiungiDominio("Indirizzo del dominio (A)", RigaIndirizzo);
+    AggiungiDominio(Words::tr("Posta in arrivo (MX)"), RigaMX);
+    AggiungiDominio(Words::tr("Indirizzo del dominio (A)"), RigaIndirizzo);
     AggiungiDominio("SPF", RigaSpf);
-    if (mittente.diretto) AggiungiDominio("Nome inverso di questo computer", RigaNomeInverso);
-    AggiungiDominio("Firma DKIM", RigaDkim);
+    if (mittente.diretto) AggiungiDominio(Words::tr("Nome inverso di questo computer"), RigaNomeInverso);
+    AggiungiDominio(Words::tr("Firma DKIM"), RigaDkim);
     AggiungiDominio("DMARC", RigaDmarc);
     const std::size_t primaDelServer = righe.size();
     if (!mittente.diretto)
@@ -93,9 +96,9 @@ void ControlloMittente::Annulla() {
     mancano = 0;
 }
 
-void ControlloMittente::AggiungiDominio(const char* controllo, Valuta valuta) {
+void ControlloMittente::AggiungiDominio(const QString& controllo, Valuta valuta) {
     voci.push_back({valuta});
-    righe.push_back({QString::fromUtf8(controllo), Semaforo::Attesa, {}, {}});
+    righe.push_back({controllo, Semaforo::Attesa, {}, {}});
 }
 
 /// Goes on with a line as far as the answers reach.
@@ -136,7 +139,7 @@ void ControlloMittente::Scade() {
         voci[voce].aspetta = false;
         Scrivi(voce, {righe[voce].controllo,
                       Semaforo::Giallo,
-                      "Il DNS è troppo lento o porta troppo lontano: riprovare più tardi.",
+                      Words::tr("Il DNS è troppo lento o porta troppo lontano: riprovare più tardi."),
                       {}});
     }
 }

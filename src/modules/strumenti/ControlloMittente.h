@@ -35,7 +35,7 @@ class ControlloMittente {
         bool aspetta = true;  ///< its question is asked
     };
 
-    void AggiungiDominio(const char* controllo, Valuta valuta);
+    void AggiungiDominio(const QString& controllo, Valuta valuta);
     void Prosegui(std::size_t voce);
     void Chiedi(std::size_t voce, const dns::Question& domanda);
     void Scrivi(std::size_t riga, const RigaControllo& contenuto);

@@ -3,17 +3,21 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/text/Words.h"
+
 namespace {
 
 using dns::Answer;
 using dns::Question;
 using dns::Type;
 
-const QString dnsMuto = QStringLiteral("Il DNS non ha risposto (%1): riprovare più tardi.");
+QString dnsMuto(const QString& perche) {
+    return Words::tr("Il DNS non ha risposto (%1): riprovare più tardi.").arg(perche);
+}
 
-RigaControllo rigaDominio(const char* controllo, Semaforo semaforo, const QString& frase,
+RigaControllo rigaDominio(const QString& controllo, Semaforo semaforo, const QString& frase,
                           const QStringList& dettagli = {}) {
-    return {QString::fromUtf8(controllo), semaforo, frase, dettagli};
+    return {controllo, semaforo, frase, dettagli};
 }
 
 const Answer* nota(const Risposte& risposte, const Question& domanda) {
@@ -31,19 +35,21 @@ QStringList elencoIndirizzi(const QList<QHostAddress>& indirizzi) {
 }  // namespace
 
 RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
-    const char* const controllo = "Posta in arrivo (MX)";
+    const QString controllo = Words::tr("Posta in arrivo (MX)");
     const Question domanda{mittente.dominio, Type::Mx};
     const Answer* const mx = nota(risposte, domanda);
     if (!mx) return domanda;
-    if (mx->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto.arg(mx->why));
+    if (mx->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(mx->why));
     if (mx->kind == Answer::Kind::NoName)
-        return rigaDominio(controllo, Semaforo::Rosso,
-                           "Il dominio non esiste nel DNS: correggere l'indirizzo dell'account o registrare "
-                           "il dominio.");
+        return rigaDominio(
+            controllo, Semaforo::Rosso,
+            Words::tr("Il dominio non esiste nel DNS: correggere l'indirizzo dell'account o registrare "
+                      "il dominio."));
     if (mx->kind == Answer::Kind::NoRecords)
-        return rigaDominio(controllo, Semaforo::Giallo,
-                           "Il dominio non ha un record MX: pubblicarne uno, perché risposte e avvisi di "
-                           "mancata consegna arrivino.");
+        return rigaDominio(
+            controllo, Semaforo::Giallo,
+            Words::tr("Il dominio non ha un record MX: pubblicarne uno, perché risposte e avvisi di "
+                      "mancata consegna arrivino."));
     auto elencati = mx->exchangers.mid(0, 10);
     std::stable_sort(
         elencati.begin(), elencati.end(),
@@ -60,58 +66,62 @@ RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
             raggiungibile = raggiungibile || !risposta->addresses.isEmpty();
             indirizzi += elencoIndirizzi(risposta->addresses);
         }
-        dettagli.append(
-            QStringLiteral("%1 %2: %3")
-                .arg(QString::number(uno.preference), Mostrabile(uno.host),
-                     indirizzi.isEmpty() ? QStringLiteral("nessun indirizzo") : indirizzi.join(", ")));
+        dettagli.append(QStringLiteral("%1 %2: %3")
+                            .arg(QString::number(uno.preference), Mostrabile(uno.host),
+                                 indirizzi.isEmpty() ? Words::tr("nessun indirizzo") : indirizzi.join(", ")));
     }
     if (dettagli.isEmpty())
-        return rigaDominio(controllo, Semaforo::Rosso,
-                           "Il dominio dichiara di non ricevere posta (MX nullo): molti server rifiutano i "
-                           "messaggi di un mittente a cui non si può rispondere.");
+        return rigaDominio(
+            controllo, Semaforo::Rosso,
+            Words::tr("Il dominio dichiara di non ricevere posta (MX nullo): molti server rifiutano i "
+                      "messaggi di un mittente a cui non si può rispondere."));
     if (!raggiungibile)
         return rigaDominio(controllo, Semaforo::Rosso,
-                           "Nessun server del record MX ha un indirizzo: correggere il record.", dettagli);
-    return rigaDominio(controllo, Semaforo::Verde, "Il dominio riceve posta.", dettagli);
+                           Words::tr("Nessun server del record MX ha un indirizzo: correggere il record."),
+                           dettagli);
+    return rigaDominio(controllo, Semaforo::Verde, Words::tr("Il dominio riceve posta."), dettagli);
 }
 
 RigaODomanda RigaIndirizzo(const DominioMittente& mittente, const Risposte& risposte) {
-    const char* const controllo = "Indirizzo del dominio (A)";
+    const QString controllo = Words::tr("Indirizzo del dominio (A)");
     QList<QHostAddress> indirizzi;
     for (const Type tipo : {Type::A, Type::Aaaa}) {
         const Question domanda{mittente.dominio, tipo};
         const Answer* const risposta = nota(risposte, domanda);
         if (!risposta) return domanda;
-        if (risposta->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto.arg(risposta->why));
+        if (risposta->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(risposta->why));
         indirizzi += risposta->addresses;
     }
     if (!indirizzi.isEmpty())
-        return rigaDominio(controllo, Semaforo::Verde, "Il dominio ha un indirizzo.",
+        return rigaDominio(controllo, Semaforo::Verde, Words::tr("Il dominio ha un indirizzo."),
                            elencoIndirizzi(indirizzi));
     const Question domanda{mittente.dominio, Type::Mx};
     const Answer* const mx = nota(risposte, domanda);
     if (!mx) return domanda;
     if (mx->kind == Answer::Kind::Records)
-        return rigaDominio(controllo, Semaforo::Verde,
-                           "Il dominio non ha un indirizzo suo, e non gli serve: ha un record MX.");
-    return rigaDominio(controllo, Semaforo::Rosso,
-                       "Il dominio non ha né un record MX né un indirizzo: molti server rifiutano i suoi "
-                       "messaggi; pubblicare un record MX.");
+        return rigaDominio(
+            controllo, Semaforo::Verde,
+            Words::tr("Il dominio non ha un indirizzo suo, e non gli serve: ha un record MX."));
+    return rigaDominio(
+        controllo, Semaforo::Rosso,
+        Words::tr("Il dominio non ha né un record MX né un indirizzo: molti server rifiutano i suoi "
+                  "messaggi; pubblicare un record MX."));
 }
 
 RigaODomanda RigaNomeInverso(const DominioMittente& mittente, const Risposte& risposte) {
-    const char* const controllo = "Nome inverso di questo computer";
+    const QString controllo = Words::tr("Nome inverso di questo computer");
     if (mittente.questoComputer.isEmpty())
-        return rigaDominio(controllo, Semaforo::Giallo,
-                           "L'indirizzo pubblico di questo computer non si può conoscere da qui: verificare "
-                           "con il fornitore di rete che abbia un nome inverso.");
+        return rigaDominio(
+            controllo, Semaforo::Giallo,
+            Words::tr("L'indirizzo pubblico di questo computer non si può conoscere da qui: verificare "
+                      "con il fornitore di rete che abbia un nome inverso."));
     QStringList dettagli;
     bool tutti = true;
     for (const QHostAddress& indirizzo : mittente.questoComputer) {
         const Question inversa{dns::reverseName(indirizzo), Type::Ptr};
         const Answer* const nomi = nota(risposte, inversa);
         if (!nomi) return inversa;
-        if (nomi->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto.arg(nomi->why));
+        if (nomi->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(nomi->why));
         QString confermato;
         for (const QByteArray& nome : nomi->names.mid(0, 10)) {
             const bool ipv4 = indirizzo.protocol() == QAbstractSocket::IPv4Protocol;
@@ -121,17 +131,18 @@ RigaODomanda RigaNomeInverso(const DominioMittente& mittente, const Risposte& ri
             if (indietro->addresses.contains(indirizzo)) confermato = Mostrabile(nome);
         }
         tutti = tutti && !confermato.isEmpty();
-        dettagli.append(
-            indirizzo.toString() + ": " +
-            (!confermato.isEmpty() ? confermato
-             : nomi->names.isEmpty()
-                 ? QStringLiteral("nessun nome")
-                 : Mostrabile(nomi->names.front()) + QStringLiteral(", che non riporta a questo indirizzo")));
+        dettagli.append(indirizzo.toString() + ": " +
+                        (!confermato.isEmpty()   ? confermato
+                         : nomi->names.isEmpty() ? Words::tr("nessun nome")
+                                                 : Mostrabile(nomi->names.front()) +
+                                                       Words::tr(", che non riporta a questo indirizzo")));
     }
-    if (tutti) return rigaDominio(controllo, Semaforo::Verde, "Nome e indirizzo si confermano.", dettagli);
+    if (tutti)
+        return rigaDominio(controllo, Semaforo::Verde, Words::tr("Nome e indirizzo si confermano."),
+                           dettagli);
     return rigaDominio(
         controllo, Semaforo::Rosso,
-        "Chiedere al fornitore di rete un nome inverso che riporti allo stesso indirizzo: senza, "
-        "molti server rifiutano l'invio diretto.",
+        Words::tr("Chiedere al fornitore di rete un nome inverso che riporti allo stesso indirizzo: senza, "
+                  "molti server rifiutano l'invio diretto."),
         dettagli);
 }

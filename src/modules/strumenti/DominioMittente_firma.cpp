@@ -3,6 +3,7 @@
 #include "platform/policy/DkimRecord.h"
 #include "platform/policy/DmarcRecord.h"
 #include "platform/policy/OrganizationalDomain.h"
+#include "platform/text/Words.h"
 
 using policy::dmarc::Finding;
 using policy::dmarc::Policy;
@@ -10,7 +11,7 @@ using policy::dmarc::Policy;
 namespace {
 
 RigaControllo rigaDkim(Semaforo semaforo, const QString& frase, const QStringList& dettagli = {}) {
-    return {QStringLiteral("Firma DKIM"), semaforo, frase, dettagli};
+    return {Words::tr("Firma DKIM"), semaforo, frase, dettagli};
 }
 
 RigaControllo rigaDmarc(Semaforo semaforo, const QString& frase, const QStringList& dettagli = {}) {
@@ -20,13 +21,13 @@ RigaControllo rigaDmarc(Semaforo semaforo, const QString& frase, const QStringLi
 /// What is wrong with a record that was read; empty: nothing.
 QString difettoDi(const policy::DkimRecord& record, const mail::DkimKey& chiave) {
     if (record.key.isEmpty())
-        return QStringLiteral("Il record dichiara la chiave ritirata (p= vuoto): pubblicare quella nuova.");
+        return Words::tr("Il record dichiara la chiave ritirata (p= vuoto): pubblicare quella nuova.");
     if (record.keyType != "rsa" || !mail::isSameKey(chiave.publicKey, record.key))
-        return QStringLiteral(
+        return Words::tr(
             "Il record pubblicato è di un'altra chiave, e le firme non valgono: pubblicare "
             "il record della chiave di questo programma.");
-    if (!record.takesSha256) return QStringLiteral("Il record non ammette SHA-256: togliere il campo h=.");
-    if (!record.forMail) return QStringLiteral("Il record non vale per la posta: togliere il campo s=.");
+    if (!record.takesSha256) return Words::tr("Il record non ammette SHA-256: togliere il campo h=.");
+    if (!record.forMail) return Words::tr("Il record non vale per la posta: togliere il campo s=.");
     return {};
 }
 
@@ -58,18 +59,19 @@ QStringList dettagliDmarc(const DominioMittente& mittente, const Finding& trovat
     const auto& record = trovato.record;
     const auto modo = [&](bool stretto) {
         const bool allineato = policy::isAligned(mittente.dominio, mittente.dominio, stretto);
-        return QStringLiteral("%1, %2").arg(stretto ? "stretto" : "rilassato",
-                                            allineato ? "allineato" : "non allineato");
+        return QStringLiteral("%1, %2").arg(stretto ? Words::tr("stretto") : Words::tr("rilassato"),
+                                            allineato ? Words::tr("allineato") : Words::tr("non allineato"));
     };
-    return {QStringLiteral("Record di %1, p=%2 per questo dominio, %3 % dei messaggi")
+    return {Words::tr("Record di %1, p=%2 per questo dominio, %3 % dei messaggi")
                 .arg(Mostrabile(trovato.domain), nomeDi(trovato.applied), QString::number(record.percent)),
-            QStringLiteral("SPF: %1 (%2)")
-                .arg(modo(record.strictSpf), !spf   ? "non si può sapere"
-                                             : *spf ? "passa"
-                                                    : "non passa"),
-            QStringLiteral("DKIM: %1 (%2)").arg(modo(record.strictDkim), dkim ? "passa" : "non passa"),
-            record.reportsTo.isEmpty() ? QStringLiteral("Nessun rapporto richiesto")
-                                       : QStringLiteral("Rapporti a %1").arg(Mostrabile(record.reportsTo))};
+            Words::tr("SPF: %1 (%2)")
+                .arg(modo(record.strictSpf), !spf   ? Words::tr("non si può sapere")
+                                             : *spf ? Words::tr("passa")
+                                                    : Words::tr("non passa")),
+            Words::tr("DKIM: %1 (%2)")
+                .arg(modo(record.strictDkim), dkim ? Words::tr("passa") : Words::tr("non passa")),
+            record.reportsTo.isEmpty() ? Words::tr("Nessun rapporto richiesto")
+                                       : Words::tr("Rapporti a %1").arg(Mostrabile(record.reportsTo))};
 }
 
 RigaControllo giudicaDmarc(const DominioMittente& mittente, const Finding& trovato,
@@ -79,29 +81,32 @@ RigaControllo giudicaDmarc(const DominioMittente& mittente, const Finding& trova
     if (chiede && !dkim && spf == false)
         return rigaDmarc(
             Semaforo::Rosso,
-            QStringLiteral("Con p=%1 i messaggi sono %2, perché non passano né SPF né DKIM: "
-                           "correggere prima quelle righe.")
-                .arg(nomeDi(trovato.applied),
-                     trovato.applied == Policy::Reject ? "rifiutati" : "messi fra la posta indesiderata"),
+            Words::tr("Con p=%1 i messaggi sono %2, perché non passano né SPF né DKIM: "
+                      "correggere prima quelle righe.")
+                .arg(nomeDi(trovato.applied), trovato.applied == Policy::Reject
+                                                  ? Words::tr("rifiutati")
+                                                  : Words::tr("messi fra la posta indesiderata")),
             dettagli);
     if (!dkim && !spf)
         return rigaDmarc(
             Semaforo::Giallo,
-            "Se SPF passa non si può sapere da qui: firmare con DKIM, perché DMARC passi in ogni "
-            "caso.",
+            Words::tr("Se SPF passa non si può sapere da qui: firmare con DKIM, perché DMARC passi in ogni "
+                      "caso."),
             dettagli);
     if (!dkim && spf == false)
         return rigaDmarc(
             Semaforo::Giallo,
-            "Il record osserva soltanto, e per ora non passano né SPF né DKIM: correggere quelle "
-            "righe.",
+            Words::tr("Il record osserva soltanto, e per ora non passano né SPF né DKIM: correggere quelle "
+                      "righe."),
             dettagli);
     if (!chiede)
-        return rigaDmarc(Semaforo::Giallo,
-                         "Il record osserva soltanto (p=none): quando i rapporti sono buoni, passare a "
-                         "p=quarantine.",
-                         dettagli);
-    return rigaDmarc(Semaforo::Verde, "Il record protegge il dominio, e i messaggi lo rispettano.", dettagli);
+        return rigaDmarc(
+            Semaforo::Giallo,
+            Words::tr("Il record osserva soltanto (p=none): quando i rapporti sono buoni, passare a "
+                      "p=quarantine."),
+            dettagli);
+    return rigaDmarc(Semaforo::Verde, Words::tr("Il record protegge il dominio, e i messaggi lo rispettano."),
+                     dettagli);
 }
 
 }  // namespace
@@ -113,9 +118,9 @@ RigaODomanda RigaDkim(const DominioMittente& mittente, const Risposte& risposte)
         return rigaDkim(
             Semaforo::Giallo,
             mittente.diretto
-                ? "I messaggi partono senza firma: creare una chiave DKIM e pubblicarne il record."
-                : "Il programma non firma i messaggi: se non lo fa il server del fornitore, creare "
-                  "una chiave DKIM e pubblicarne il record.");
+                ? Words::tr("I messaggi partono senza firma: creare una chiave DKIM e pubblicarne il record.")
+                : Words::tr("Il programma non firma i messaggi: se non lo fa il server del fornitore, creare "
+                            "una chiave DKIM e pubblicarne il record."));
     }
     const mail::DkimKey& chiave = mittente.chiave.value();
     const dns::Question domanda{policy::dkimRecordName(chiave.selector, mittente.dominio), dns::Type::Txt};
@@ -125,29 +130,32 @@ RigaODomanda RigaDkim(const DominioMittente& mittente, const Risposte& risposte)
     const QString nome = Mostrabile(domanda.name);
     if (risposta.failed())
         return rigaDkim(Semaforo::Giallo,
-                        QStringLiteral("Il DNS non ha risposto (%1): riprovare più tardi.").arg(risposta.why),
+                        Words::tr("Il DNS non ha risposto (%1): riprovare più tardi.").arg(risposta.why),
                         {nome});
     if (risposta.texts.isEmpty())
         return rigaDkim(Semaforo::Rosso,
-                        QStringLiteral("Il record della chiave manca: pubblicarlo con il nome %1.").arg(nome),
+                        Words::tr("Il record della chiave manca: pubblicarlo con il nome %1.").arg(nome),
                         {nome});
     QStringList dettagli{nome};
     for (const QByteArray& testo : risposta.texts)
         dettagli.append(Mostrabile(testo));
     if (risposta.texts.size() > 1)
-        return rigaDkim(Semaforo::Rosso, "Allo stesso nome ci sono più record: lasciarne uno solo.",
-                        dettagli);
+        return rigaDkim(Semaforo::Rosso,
+                        Words::tr("Allo stesso nome ci sono più record: lasciarne uno solo."), dettagli);
     const auto record = policy::readDkimRecord(risposta.texts.front());
     if (!record)
-        return rigaDkim(Semaforo::Rosso, "Il record non è una chiave DKIM valida: copiarlo di nuovo, intero.",
+        return rigaDkim(Semaforo::Rosso,
+                        Words::tr("Il record non è una chiave DKIM valida: copiarlo di nuovo, intero."),
                         dettagli);
     if (const QString difetto = difettoDi(*record, chiave); !difetto.isEmpty())
         return rigaDkim(Semaforo::Rosso, difetto, dettagli);
     if (record->testing)
-        return rigaDkim(Semaforo::Giallo,
-                        "La chiave è pubblicata in prova (t=y): togliere il campo quando tutto funziona.",
-                        dettagli);
-    return rigaDkim(Semaforo::Verde, "La chiave pubblicata è quella con cui il programma firma.", dettagli);
+        return rigaDkim(
+            Semaforo::Giallo,
+            Words::tr("La chiave è pubblicata in prova (t=y): togliere il campo quando tutto funziona."),
+            dettagli);
+    return rigaDkim(Semaforo::Verde, Words::tr("La chiave pubblicata è quella con cui il programma firma."),
+                    dettagli);
 }
 
 RigaODomanda RigaDmarc(const DominioMittente& mittente, const Risposte& risposte) {
@@ -158,20 +166,20 @@ RigaODomanda RigaDmarc(const DominioMittente& mittente, const Risposte& risposte
     switch (trovato.kind) {
         case Finding::Kind::NoAnswer:
             return rigaDmarc(Semaforo::Giallo,
-                             QStringLiteral("Il DNS non ha risposto per %1: riprovare più tardi.").arg(nome));
+                             Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(nome));
         case Finding::Kind::None:
             return rigaDmarc(Semaforo::Giallo,
-                             QStringLiteral("Pubblicare un record DMARC con il nome %1, per esempio "
-                                            "\"v=DMARC1; p=none; rua=mailto:%2\".")
+                             Words::tr("Pubblicare un record DMARC con il nome %1, per esempio "
+                                       "\"v=DMARC1; p=none; rua=mailto:%2\".")
                                  .arg(nome, Mostrabile(mittente.indirizzo)));
         case Finding::Kind::Several:
             return rigaDmarc(
                 Semaforo::Rosso,
-                QStringLiteral("%1 ha più di un record DMARC e nessuno vale: lasciarne uno solo.").arg(nome));
+                Words::tr("%1 ha più di un record DMARC e nessuno vale: lasciarne uno solo.").arg(nome));
         case Finding::Kind::Invalid:
             return rigaDmarc(Semaforo::Rosso,
-                             QStringLiteral("Il record DMARC di %1 non vale: manca il campo p= con none, "
-                                            "quarantine o reject.")
+                             Words::tr("Il record DMARC di %1 non vale: manca il campo p= con none, "
+                                       "quarantine o reject.")
                                  .arg(nome));
         case Finding::Kind::Found:
             break;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/mail/InsideAddress.h"
+#include "platform/text/Words.h"
 
 using policy::spf::Fault;
 using policy::spf::Verdict;
@@ -16,23 +17,23 @@ const char* const controlloSpf = "SPF";
 QString parolaSpf(const Verdict& esito) {
     switch (esito.result) {
         case RisultatoSpf::Pass:
-            return QStringLiteral("autorizzato");
+            return Words::tr("autorizzato");
         case RisultatoSpf::Fail:
-            return QStringLiteral("vietato");
+            return Words::tr("vietato");
         case RisultatoSpf::SoftFail:
-            return QStringLiteral("non autorizzato");
+            return Words::tr("non autorizzato");
         default:
-            return QStringLiteral("né autorizzato né vietato");
+            return Words::tr("né autorizzato né vietato");
     }
 }
 
 QString dettaglioSpf(const QHostAddress& indirizzo, const Verdict& esito) {
     QString testo = indirizzo.toString() + ": " + parolaSpf(esito);
     if (!esito.term.isEmpty())
-        testo += QStringLiteral(" da \"%1\" di %2").arg(Mostrabile(esito.term), Mostrabile(esito.domain));
-    testo += QStringLiteral(", %1 ricerche su 10").arg(esito.lookups);
+        testo += Words::tr(" da \"%1\" di %2").arg(Mostrabile(esito.term), Mostrabile(esito.domain));
+    testo += Words::tr(", %1 ricerche su 10").arg(esito.lookups);
     if (!esito.explanation.isEmpty())
-        testo += QStringLiteral("; il dominio dice: %1").arg(Mostrabile(esito.explanation));
+        testo += Words::tr("; il dominio dice: %1").arg(Mostrabile(esito.explanation));
     return testo;
 }
 
@@ -42,16 +43,18 @@ RigaControllo rigaSpf(Semaforo semaforo, const QString& frase, const QStringList
 
 RigaControllo rigaSenzaEsito(const DominioMittente& mittente, const Verdict& esito) {
     if (esito.result == RisultatoSpf::TempError)
-        return rigaSpf(Semaforo::Giallo, QStringLiteral("Il DNS non ha risposto per %1: riprovare più tardi.")
-                                             .arg(Mostrabile(esito.domain)));
+        return rigaSpf(
+            Semaforo::Giallo,
+            Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(Mostrabile(esito.domain)));
     if (esito.result == RisultatoSpf::PermError) return rigaSpf(Semaforo::Rosso, PercheSpf(esito));
     return rigaSpf(
         Semaforo::Rosso,
         mittente.diretto
-            ? "Pubblicare un record SPF che nomini l'indirizzo di questo computer: senza, molti "
-              "server non si fidano dei messaggi."
-            : "Pubblicare un record SPF con la riga che indica il fornitore del server: senza, molti "
-              "server non si fidano dei messaggi.");
+            ? Words::tr("Pubblicare un record SPF che nomini l'indirizzo di questo computer: senza, molti "
+                        "server non si fidano dei messaggi.")
+            : Words::tr(
+                  "Pubblicare un record SPF con la riga che indica il fornitore del server: senza, molti "
+                  "server non si fidano dei messaggi."));
 }
 
 }  // namespace
@@ -68,31 +71,30 @@ QString PercheSpf(const Verdict& esito) {
     const QString dominio = Mostrabile(esito.domain), termine = Mostrabile(esito.term);
     switch (esito.fault) {
         case Fault::SeveralRecords:
-            return QStringLiteral("%1 ha più di un record SPF e nessuno vale: unirli in uno solo.")
-                .arg(dominio);
+            return Words::tr("%1 ha più di un record SPF e nessuno vale: unirli in uno solo.").arg(dominio);
         case Fault::TooLong:
-            return QStringLiteral("Il record SPF di %1 è troppo lungo: accorciarlo.").arg(dominio);
+            return Words::tr("Il record SPF di %1 è troppo lungo: accorciarlo.").arg(dominio);
         case Fault::Syntax:
-            return QStringLiteral("Il record SPF di %1 non vale per un errore in \"%2\": correggerlo.")
+            return Words::tr("Il record SPF di %1 non vale per un errore in \"%2\": correggerlo.")
                 .arg(dominio, termine);
         case Fault::TooManyLookups:
-            return QStringLiteral(
+            return Words::tr(
                        "Il record SPF richiede più di 10 ricerche nel DNS e non vale: togliere "
                        "meccanismi, per esempio %1.")
                 .arg(termine);
         case Fault::TooManyVoids:
-            return QStringLiteral(
+            return Words::tr(
                        "Il record SPF di %1 nomina più di 2 domini senza record e non vale: togliere "
                        "quelli che non esistono più, per esempio %2.")
                 .arg(dominio, termine);
         case Fault::TooManyExchangers:
-            return QStringLiteral(
+            return Words::tr(
                        "Nel record SPF di %1 \"%2\" porta a più di 10 server e non vale: indicare gli "
                        "indirizzi con ip4 o ip6.")
                 .arg(dominio, termine);
         case Fault::IncludedNone:
         case Fault::RedirectedNone:
-            return QStringLiteral(
+            return Words::tr(
                        "Nel record SPF di %1 \"%2\" porta a un dominio senza record SPF, e tutto il "
                        "record non vale: toglierlo o correggerlo.")
                 .arg(dominio, termine);
@@ -100,7 +102,7 @@ QString PercheSpf(const Verdict& esito) {
         case Fault::None:
             break;
     }
-    return QStringLiteral("Il DNS non ha risposto per %1: riprovare più tardi.").arg(dominio);
+    return Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(dominio);
 }
 
 std::variant<QList<QHostAddress>, dns::Question> IndirizziDiPartenza(const DominioMittente& mittente,
@@ -151,26 +153,27 @@ RigaODomanda RigaSpf(const DominioMittente& mittente, const Risposte& risposte) 
         return rigaSpf(
             Semaforo::Giallo,
             mittente.diretto
-                ? "Il record c'è e si legge, ma l'indirizzo pubblico di questo computer non si può "
-                  "conoscere da qui: verificare che il record lo nomini."
-                : "Il record c'è e si legge, ma il server non ha un indirizzo pubblico noto: "
-                  "chiedere al fornitore se è compreso nel record.");
+                ? Words::tr("Il record c'è e si legge, ma l'indirizzo pubblico di questo computer non si può "
+                            "conoscere da qui: verificare che il record lo nomini.")
+                : Words::tr("Il record c'è e si legge, ma il server non ha un indirizzo pubblico noto: "
+                            "chiedere al fornitore se è compreso nel record."));
     if (autorizzati == indirizzi.size())
         return rigaSpf(Semaforo::Verde,
                        mittente.diretto
-                           ? "Il record autorizza l'indirizzo di questo computer."
-                           : "Il record autorizza il server, per gli indirizzi che si conoscono.",
+                           ? Words::tr("Il record autorizza l'indirizzo di questo computer.")
+                           : Words::tr("Il record autorizza il server, per gli indirizzi che si conoscono."),
                        dettagli);
     if (mittente.diretto)
-        return rigaSpf(vietati > 0 ? Semaforo::Rosso : Semaforo::Giallo,
-                       "Il record non autorizza l'indirizzo di questo computer: aggiungerlo con ip4 o ip6.",
-                       dettagli);
+        return rigaSpf(
+            vietati > 0 ? Semaforo::Rosso : Semaforo::Giallo,
+            Words::tr("Il record non autorizza l'indirizzo di questo computer: aggiungerlo con ip4 o ip6."),
+            dettagli);
     return rigaSpf(
         Semaforo::Giallo,
         autorizzati > 0
-            ? "Il record autorizza solo alcuni indirizzi del server: aggiungere gli altri, o "
-              "verificare con il fornitore da quali spedisce."
-            : "Il record non autorizza gli indirizzi noti del server: se il fornitore non spedisce "
-              "da altri, aggiungere al record la riga che lui indica.",
+            ? Words::tr("Il record autorizza solo alcuni indirizzi del server: aggiungere gli altri, o "
+                        "verificare con il fornitore da quali spedisce.")
+            : Words::tr("Il record non autorizza gli indirizzi noti del server: se il fornitore non spedisce "
+                        "da altri, aggiungere al record la riga che lui indica."),
         dettagli);
 }

@@ -9,6 +9,7 @@
 #include "modules/strumenti/Blocchi.h"
 #include "platform/ado/Command.h"
 #include "platform/text/Blanks.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -44,7 +45,7 @@ Result<bool> IndirizziDoppi::Avanza(std::chrono::microseconds tempo) {
     });
     if (esito.ok() && mancano)
         return Status(ErrorCode::ItemNotFound,
-                      QStringLiteral("La tabella dei destinatari non ha tutte le sue colonne."));
+                      Words::tr("La tabella dei destinatari non ha tutte le sue colonne."));
     return esito;
 }
 

@@ -3,6 +3,7 @@
 #include "modules/core/Fallimento.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/mail/Unsubscribe.h"
+#include "platform/text/Words.h"
 
 QList<FileInPartenza> ModelloProva::inPartenza() const {
     QStringList presenti;
@@ -14,13 +15,12 @@ QList<FileInPartenza> ModelloProva::inPartenza() const {
 Result<ModelloProva> LeggiModelloProva(const QString& percorso) {
     const FileMss file = LeggiFileMss(percorso);
     if (!file.aperto.ok())
-        return Status(file.aperto.code(),
-                      QStringLiteral("Il messaggio non si può aprire: ") + file.aperto.text());
+        return Status(file.aperto.code(), Words::tr("Il messaggio non si può aprire: ") + file.aperto.text());
     QString corpo;
     Prosegui prosegui;
     if (!prosegui([&] { corpo = LeggiCorpoMss(file); }))
         return Status(ErrorCode{prosegui.numero()},
-                      QStringLiteral("Il file non contiene un messaggio intero: ") + prosegui.testo());
+                      Words::tr("Il file non contiene un messaggio intero: ") + prosegui.testo());
     HtmlDocument documento;
     if (const Status messo = documento.setDocumentHTML(corpo); !messo.ok()) return messo;
 

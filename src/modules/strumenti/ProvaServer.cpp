@@ -7,6 +7,7 @@
 #include "modules/send/Porta.h"
 #include "platform/mail/DomainName.h"
 #include "platform/system/Keyring.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -53,7 +54,7 @@ ProvaServer::ProvaServer() : sessione(registro) {
     QObject::connect(&limite, &QTimer::timeout, &limite, [this] {
         sessione.abandon();
         gettoni.cancel();
-        Consegna({false, 0, QStringLiteral("Tempo scaduto: il server non risponde."), false});
+        Consegna({false, 0, Words::tr("Tempo scaduto: il server non risponde."), false});
     });
 }
 
@@ -67,15 +68,14 @@ void ProvaServer::Avvia(const Account& account, const QString& password, Fatto q
         dopo.start(0);
     };
     if (percorso.host.isEmpty()) {
-        rinuncia(account.txtServerSMTP.trimmed().isEmpty()
-                     ? QStringLiteral("Manca il nome del server.")
-                     : QStringLiteral("Il nome del server non è valido."),
+        rinuncia(account.txtServerSMTP.trimmed().isEmpty() ? Words::tr("Manca il nome del server.")
+                                                           : Words::tr("Il nome del server non è valido."),
                  false);
     } else if (percorso.port == 0) {
-        rinuncia(QStringLiteral("La porta del server non è valida."), false);
+        rinuncia(Words::tr("La porta del server non è valida."), false);
     } else if (percorso.login && sys::keyring::isMarker(password)) {
         percorso.login = false;
-        rinuncia(QStringLiteral("Il portachiavi non ha dato la password di questo account."), true);
+        rinuncia(Words::tr("Il portachiavi non ha dato la password di questo account."), true);
     } else if (percorso.bearer) {
         gettoni.setFolders(cartellaDati() + "oauth", percorso.certificateFolder);
         gettoni.get(percorso.host, percorso.user, attesaPasso,

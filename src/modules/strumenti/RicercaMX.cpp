@@ -5,12 +5,14 @@
 
 #include "modules/send/MotivoMX.h"
 #include "platform/mail/DomainName.h"
+#include "platform/text/Words.h"
 
 ServerMX ServerDi(const dns::Answer& risposta) {
     switch (risposta.kind) {
         case dns::Answer::Kind::Failure:
             return {{},
-                    "Ricerca del server di posta non riuscita: " + risposta.why + ". Riprovare più tardi."};
+                    Words::tr("Ricerca del server di posta non riuscita: ") + risposta.why +
+                        ". Riprovare più tardi."};
         case dns::Answer::Kind::NoName:
             return {{}, TestoMotivo(MotivoMX::Inesistente)};
         case dns::Answer::Kind::NoRecords:

@@ -1,19 +1,20 @@
 #include "modules/strumenti/RigaControllo.h"
 
 #include "platform/mail/SmtpReply.h"
+#include "platform/text/Words.h"
 
 QString ParolaDi(Semaforo semaforo) {
     switch (semaforo) {
         case Semaforo::Verde:
-            return QStringLiteral("In ordine");
+            return Words::tr("In ordine");
         case Semaforo::Giallo:
-            return QStringLiteral("Attenzione");
+            return Words::tr("Attenzione");
         case Semaforo::Rosso:
-            return QStringLiteral("Da correggere");
+            return Words::tr("Da correggere");
         case Semaforo::Attesa:
             break;
     }
-    return QStringLiteral("In corso…");
+    return Words::tr("In corso…");
 }
 
 QString Mostrabile(const QByteArray& testo) {

@@ -7,19 +7,20 @@
 #include "modules/strumenti/Rilievi_html.h"
 #include "platform/mail/TextPart.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 
 using Peso = Rilievo::Peso;
 
 QString NomePeso(Peso peso) {
     switch (peso) {
         case Peso::Grave:
-            return QStringLiteral("Grave");
+            return Words::tr("Grave");
         case Peso::Attenzione:
-            return QStringLiteral("Attenzione");
+            return Words::tr("Attenzione");
         case Peso::Consiglio:
             break;
     }
-    return QStringLiteral("Consiglio");
+    return Words::tr("Consiglio");
 }
 
 namespace {
@@ -52,20 +53,19 @@ void rilievaSegnaposto(const TestiMessaggio& testi, QList<Rilievo>& rilievi) {
         const QString giusto = nome.toLower();
         const bool soloMaiuscole = std::ranges::find(colonneSegnaposto, giusto) != colonneSegnaposto.end();
         rilievi.append(
-            {Peso::Grave, soloMaiuscole
-                              ? QStringLiteral("%1 non viene sostituito: si scrive %2.")
-                                    .arg(traPunti(nome), traPunti(giusto))
-                              : QStringLiteral("%1 non viene sostituito: nessuna colonna ha questo nome.")
-                                    .arg(traPunti(nome))});
+            {Peso::Grave,
+             soloMaiuscole
+                 ? Words::tr("%1 non viene sostituito: si scrive %2.").arg(traPunti(nome), traPunti(giusto))
+                 : Words::tr("%1 non viene sostituito: nessuna colonna ha questo nome.")
+                       .arg(traPunti(nome))});
     }
     // Letters that look like a placeholder and are parted by a change of format are none.
     for (std::size_t i = 0; i < numeroSegnaposto; ++i)
         if (testi.corpoTesto.contains(Segnaposto(i)) && !testi.corpoHtml.contains(Segnaposto(i)))
             rilievi.append(
-                {Peso::Grave,
-                 QStringLiteral("%1 non viene sostituito nella forma HTML: è spezzato da un cambio "
-                                "di formato. Riscriverlo tutto di seguito.")
-                     .arg(traPunti(colonneSegnaposto[i]))});
+                {Peso::Grave, Words::tr("%1 non viene sostituito nella forma HTML: è spezzato da un cambio "
+                                        "di formato. Riscriverlo tutto di seguito.")
+                                  .arg(traPunti(colonneSegnaposto[i]))});
 }
 
 }  // namespace
@@ -75,20 +75,20 @@ QList<Rilievo> RilieviModello(const ModelloProva& modello) {
     rilievaSegnaposto(modello.testi, rilievi);
     for (const AllegatoMss& allegato : modello.allegati)
         if (!allegato.presente)
-            rilievi.append({Peso::Grave, QStringLiteral("L'allegato %1 non c'è: il messaggio parte senza.")
+            rilievi.append({Peso::Grave, Words::tr("L'allegato %1 non c'è: il messaggio parte senza.")
                                              .arg(PercorsoMostrato(allegato.percorso))});
     rilievi += RilieviHtml(modello.testi.corpoHtml);
     if (modello.testi.oggetto.trimmed().isEmpty())
-        rilievi.append({Peso::Attenzione, QStringLiteral("L'oggetto è vuoto.")});
+        rilievi.append({Peso::Attenzione, Words::tr("L'oggetto è vuoto.")});
     if (mail::isBlankText(modello.testi.corpoTesto))
         rilievi.append({Peso::Attenzione,
-                        QStringLiteral("Manca la forma di solo testo: il messaggio non contiene testo, e chi "
-                                       "non vede le immagini non legge niente.")});
+                        Words::tr("Manca la forma di solo testo: il messaggio non contiene testo, e chi "
+                                  "non vede le immagini non legge niente.")});
     if (modello.testi.disiscrizione.isEmpty())
         rilievi.append(
-            {Peso::Consiglio, QStringLiteral("Manca un collegamento di disiscrizione: chi non vuole più "
-                                             "messaggi li segnala come indesiderati. "
-                                             "Si crea nell'editor con il comando \"Collegamento\".")});
+            {Peso::Consiglio, Words::tr("Manca un collegamento di disiscrizione: chi non vuole più "
+                                        "messaggi li segnala come indesiderati. "
+                                        "Si crea nell'editor con il comando \"Collegamento\".")});
     return rilievi;
 }
 
@@ -98,17 +98,17 @@ QList<Rilievo> RilieviCampi(const ControlloCampi& controllo) {
         const ControlloCampi::Campo& campo = controllo.campi()[i];
         const QString segno = traPunti(colonneSegnaposto[i]);
         if (campo.nulli + campo.vuoti > 0) {
-            QString testo = QStringLiteral("%1 è vuoto per %2 di %3 destinatari selezionati")
+            QString testo = Words::tr("%1 è vuoto per %2 di %3 destinatari selezionati")
                                 .arg(segno, numero(campo.nulli + campo.vuoti), numero(controllo.righe()));
-            testo += campo.nulli > 0 ? QStringLiteral("; per %1 di loro si legge %2 al posto del valore.")
+            testo += campo.nulli > 0 ? Words::tr("; per %1 di loro si legge %2 al posto del valore.")
                                            .arg(numero(campo.nulli), segno)
                                      : QStringLiteral(".");
             rilievi.append({campo.nulli > 0 ? Peso::Grave : Peso::Attenzione, testo, campo.primoVuoto});
         }
         if (campo.html > 0)
             rilievi.append({Peso::Attenzione,
-                            QStringLiteral("I caratteri <, & o \" di %1 cambiano il messaggio per %2 di %3 "
-                                           "destinatari selezionati.")
+                            Words::tr("I caratteri <, & o \" di %1 cambiano il messaggio per %2 di %3 "
+                                      "destinatari selezionati.")
                                 .arg(segno, numero(campo.html), numero(controllo.righe())),
                             campo.primoHtml});
     }
@@ -118,9 +118,9 @@ QList<Rilievo> RilieviCampi(const ControlloCampi& controllo) {
 QList<Rilievo> RilieviCopia(const TestiMessaggio& copia) {
     const qsizetype byte = copia.corpoHtml.toUtf8().size();
     if (byte <= corpoMassimo) return {};
-    return {{Peso::Attenzione,
-             QStringLiteral("Il corpo è di %1: oltre 100 kB i grandi gestori di posta lo tagliano.")
-                 .arg(QLocale().formattedDataSize(byte))}};
+    return {
+        {Peso::Attenzione, Words::tr("Il corpo è di %1: oltre 100 kB i grandi gestori di posta lo tagliano.")
+                               .arg(QLocale().formattedDataSize(byte))}};
 }
 
 QList<Rilievo> PerPeso(QList<Rilievo> rilievi) {

@@ -11,6 +11,7 @@
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/LocalImages.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -37,8 +38,8 @@ struct Raccolta {
         ++quanti;
         if (esempi.size() < piuEsempi && !esempi.contains(testo)) esempi << testo;
     }
-    QString frase(const QString& uno, const QString& molti) const {
-        QString testo = quanti == 1 ? uno : molti.arg(text::formatGrouped(static_cast<double>(quanti)));
+    /// A sentence with what is in it.
+    QString frase(QString testo) const {
         if (!esempi.isEmpty()) testo += QStringLiteral(": ") + esempi.join(QStringLiteral(", "));
         return testo;
     }
@@ -129,7 +130,7 @@ class LettoreMarcature {
         else if (!startsWithHtmlText(indirizzo, "data:") && !startsWithHtmlText(indirizzo, "cid:") &&
                  mail::localImagePath(QByteArray(indirizzo.data(), static_cast<qsizetype>(indirizzo.size())))
                      .isEmpty())
-            senzaFile.aggiungi(indirizzo.empty() ? QStringLiteral("(senza indirizzo)") : mostrato(indirizzo));
+            senzaFile.aggiungi(indirizzo.empty() ? Words::tr("(senza indirizzo)") : mostrato(indirizzo));
     }
 
     void stile(string_view testo) {
@@ -174,24 +175,23 @@ QList<Rilievo> RilieviHtml(const QString& corpo) {
 
     QList<Rilievo> rilievi;
     if (mancanti.quanti > 0)
-        rilievi.append({Peso::Grave, mancanti.frase(QStringLiteral("Un'immagine non c'è"),
-                                                    QStringLiteral("%1 immagini non ci sono"))});
+        rilievi.append({Peso::Grave, mancanti.frase(Words::tr("%Ln immagini non ci sono", nullptr,
+                                                              static_cast<int>(mancanti.quanti)))});
     if (escluse.quanti > 0)
         rilievi.append(
-            {Peso::Grave,
-             escluse.frase(QStringLiteral("Un file non può partire come immagine del messaggio"),
-                           QStringLiteral("%1 file non possono partire come immagini del messaggio")) +
-                 QStringLiteral(" (non è un'immagine, o insieme superano 10 MB)")});
+            {Peso::Grave, escluse.frase(Words::tr("%Ln file non possono partire come immagini del messaggio",
+                                                  nullptr, static_cast<int>(escluse.quanti))) +
+                              u' ' + Words::tr("(non è un'immagine, o insieme superano 10 MB)")});
     if (lettore.senzaMeta.quanti > 0)
         rilievi.append({Peso::Grave, lettore.senzaMeta.frase(
-                                         QStringLiteral("Un collegamento non porta da nessuna parte"),
-                                         QStringLiteral("%1 collegamenti non portano da nessuna parte"))});
+                                         Words::tr("%Ln collegamenti non portano da nessuna parte", nullptr,
+                                                   static_cast<int>(lettore.senzaMeta.quanti)))});
     if (lettore.sulWeb.quanti > 0)
         rilievi.append(
             {Peso::Consiglio,
-             lettore.sulWeb.frase(QStringLiteral("Un'immagine resta sul web"),
-                                  QStringLiteral("%1 immagini restano sul web")) +
-                 QStringLiteral(
-                     ". Molti programmi di posta non le mostrano finché il destinatario non vuole.")});
+             lettore.sulWeb.frase(Words::tr("%Ln immagini restano sul web", nullptr,
+                                            static_cast<int>(lettore.sulWeb.quanti))) +
+                 ". " +
+                 Words::tr("Molti programmi di posta non le mostrano finché il destinatario non vuole.")});
     return rilievi;
 }

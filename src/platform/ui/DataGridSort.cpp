@@ -2,6 +2,7 @@
 #include <QHeaderView>
 
 #include "platform/text/Folding.h"
+#include "platform/text/Words.h"
 #include "platform/ui/DataGrid.h"
 
 namespace ui {
@@ -15,7 +16,8 @@ void DataGrid::sortBy(int column) {
         scrollTo(currentIndex());
     } else {
         m_sorted = Order{column, again ? Qt::DescendingOrder : Qt::AscendingOrder};
-        m_model->describeHeading(column, again ? "Ordine decrescente" : "Ordine crescente");
+        m_model->describeHeading(column,
+                                 again ? Words::tr("Ordine decrescente") : Words::tr("Ordine crescente"));
         startSort();
     }
     horizontalHeader()->viewport()->update();

@@ -1,9 +1,11 @@
 #include "platform/ui/DatabaseWait.h"
 
+#include "platform/text/Words.h"
+
 namespace ui {
 
 DatabaseWait::DatabaseWait(std::function<void(const QString&)> tell, QObject* parent)
-    : WaitNotice(QStringLiteral("In attesa del database, usato da un altro programma… Esc per rinunciare"),
+    : WaitNotice(Words::tr("In attesa del database, usato da un altro programma… Esc per rinunciare"),
                  std::move(tell), parent),
       m_before(ado::setWaitHook(
           {[this](std::chrono::milliseconds waited) { return goOn(waited); }, [this] { over(); }})) {}

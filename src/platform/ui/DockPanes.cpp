@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace ui {
 
@@ -23,7 +24,7 @@ constexpr qsizetype largestFile = 64 * 1024;
 
 Status damaged(const QString& path) {
     return {ErrorCode::UnrecognizedFormat,
-            QStringLiteral("Il file \"%1\" non contiene una disposizione valida delle barre.").arg(path)};
+            Words::tr("Il file \"%1\" non contiene una disposizione valida delle barre.").arg(path)};
 }
 
 /// The arrangement that a file holds; empty for what is no layout file.
@@ -77,13 +78,13 @@ Status DockPanes::saveLayout(const QString& path) const {
     qToLittleEndian(qChecksum(arrangement), numbers + 4);
     const QByteArray head(reinterpret_cast<const char*>(numbers), sizeof numbers);
     if (sys::replaceOwnFile(path, magic.toByteArray() + head + arrangement).ok()) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file \"%1\".").arg(path)};
+    return {ErrorCode::PathAccess, Words::tr("Impossibile scrivere il file \"%1\".").arg(path)};
 }
 
 Status DockPanes::loadLayout(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return {ErrorCode::FileNotFound, QStringLiteral("Impossibile leggere il file \"%1\".").arg(path)};
+        return {ErrorCode::FileNotFound, Words::tr("Impossibile leggere il file \"%1\".").arg(path)};
     const QByteArray arrangement = arrangementOf(file.read(largestFile + 1));
     const QByteArray before = m_window->saveState();
     if (arrangement.isEmpty() || !m_window->restoreState(arrangement)) {

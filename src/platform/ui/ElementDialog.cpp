@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 
@@ -30,9 +31,9 @@ ElementDialog::ElementDialog(QWidget* parent, QList<HtmlView::Element> elements)
       m_which(choiceField("cmbElement", tagsOf(m_before), this)),
       m_list(named(new QTableWidget(0, 2, this), "lstAttributes")) {
     setObjectName("elementDialog");
-    setWindowTitle("Proprietà elemento");
-    m_list->setHorizontalHeaderLabels({"Attributo", "Valore"});
-    m_list->setAccessibleName("Attributi");
+    setWindowTitle(Words::tr("Proprietà elemento"));
+    m_list->setHorizontalHeaderLabels({Words::tr("Attributo"), Words::tr("Valore")});
+    m_list->setAccessibleName(Words::tr("Attributi"));
     m_list->verticalHeader()->hide();
     m_list->verticalHeader()->setDefaultSectionSize(rowHeight);
     m_list->horizontalHeader()->setStretchLastSection(true);
@@ -42,10 +43,10 @@ ElementDialog::ElementDialog(QWidget* parent, QList<HtmlView::Element> elements)
     m_list->setEditTriggers(QAbstractItemView::AllEditTriggers);
 
     DialogForm form(this);
-    form.addField("&Elemento:", m_which);
+    form.addField(Words::tr("&Elemento:"), m_which);
     form.addBlock(m_list);
-    QPushButton* ok = form.addButton("&OK", "cmdOk");
-    QPushButton* cancel = form.addButton("&Annulla", "cmdCancel");
+    QPushButton* ok = form.addButton(Words::tr("&OK"), "cmdOk");
+    QPushButton* cancel = form.addButton(Words::tr("&Annulla"), "cmdCancel");
     form.finish(ok, 460);
     resize(width(), 360);
     connect(m_which, &QComboBox::currentIndexChanged, this, [this](int level) {

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QToolButton>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
@@ -31,27 +32,29 @@ QToolButton* barButton(const QString& name, const QString& caption, const QStrin
 }  // namespace
 
 FindBar::FindBar(const QStringList& places, QWidget* parent)
-    : QToolBar("Trova", parent),
+    : QToolBar(Words::tr("Trova"), parent),
       m_text(textField("txtTrova", this)),
       m_places(choiceField("cmbDove", places, this)),
-      m_checkedOnly(named(new QCheckBox("Solo sele&zionati", this), "chkSoloSelezionati")),
+      m_checkedOnly(named(new QCheckBox(Words::tr("Solo sele&zionati"), this), "chkSoloSelezionati")),
       m_answer(named(new QLabel(this), "lblTrovati")),
       m_announcer(new Announcer(this)) {
     setObjectName("Trova");
-    setAccessibleName("Trova");
+    setAccessibleName(Words::tr("Trova"));
     setMovable(false);
-    auto* label = new QLabel("T&rova:", this);
+    auto* label = new QLabel(Words::tr("T&rova:"), this);
     label->setBuddy(m_text);
-    m_text->setAccessibleName("Trova");
+    m_text->setAccessibleName(Words::tr("Trova"));
     m_text->setClearButtonEnabled(true);
     m_text->setMinimumWidth(scaledToFont(*this, 140));
     m_text->setMaximumWidth(scaledToFont(*this, 260));
-    m_places->setAccessibleName("Dove cercare");
+    m_places->setAccessibleName(Words::tr("Dove cercare"));
     m_answer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    auto* previousButton =
-        barButton("cmdTrovaPrecedente", "Precedente", "go-up", "Trova precedente (Maiusc+Invio)");
-    auto* nextButton = barButton("cmdTrovaSuccessivo", "Successivo", "go-down", "Trova successivo (Invio)");
-    auto* closeButton = barButton("cmdChiudiTrova", "Chiudi", "window-close", "Chiudi la barra (Esc)");
+    auto* previousButton = barButton("cmdTrovaPrecedente", Words::tr("Precedente"), "go-up",
+                                     Words::tr("Trova precedente (Maiusc+Invio)"));
+    auto* nextButton = barButton("cmdTrovaSuccessivo", Words::tr("Successivo"), "go-down",
+                                 Words::tr("Trova successivo (Invio)"));
+    auto* closeButton =
+        barButton("cmdChiudiTrova", Words::tr("Chiudi"), "window-close", Words::tr("Chiudi la barra (Esc)"));
     layout()->setSpacing(controlSpacing / 2);
     for (QWidget* item : std::initializer_list<QWidget*>{label, m_text, previousButton, nextButton, m_places,
                                                          m_checkedOnly, m_answer, closeButton})

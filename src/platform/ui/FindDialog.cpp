@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 
@@ -15,19 +16,19 @@ FindDialog::FindDialog(QWidget* parent, Search search)
     : QDialog(parent),
       m_search(std::move(search)),
       m_text(textField("txtFind", this)),
-      m_case(named(new QCheckBox("&Maiuscole e minuscole", this), "chkCase")),
+      m_case(named(new QCheckBox(Words::tr("&Maiuscole e minuscole"), this), "chkCase")),
       m_answer(named(new QLabel(this), "lblAnswer")) {
     setObjectName("findDialog");
-    setWindowTitle("Trova");
+    setWindowTitle(Words::tr("Trova"));
     DialogForm form(this);
-    form.addField("&Testo:", m_text);
+    form.addField(Words::tr("&Testo:"), m_text);
     form.addField({}, m_case);
     form.addField({}, m_answer);
-    QPushButton* next = form.addButton("Trova &successivo", "cmdNext");
-    QPushButton* previous = form.addButton("Trova &precedente", "cmdPrevious");
-    QPushButton* close = form.addButton("&Chiudi", "cmdClose");
+    QPushButton* next = form.addButton(Words::tr("Trova &successivo"), "cmdNext");
+    QPushButton* previous = form.addButton(Words::tr("Trova &precedente"), "cmdPrevious");
+    QPushButton* close = form.addButton(Words::tr("&Chiudi"), "cmdClose");
     form.finish(next, 420);
-    m_answer->setAccessibleName("Esito");
+    m_answer->setAccessibleName(Words::tr("Esito"));
     connect(next, &QPushButton::clicked, this, [this] { find(false); });
     connect(previous, &QPushButton::clicked, this, [this] { find(true); });
     connect(close, &QPushButton::clicked, this, &QDialog::hide);
@@ -53,7 +54,7 @@ void FindDialog::find(bool backwards) {
     if (!found.ok())
         m_answer->setText(found.status().text());
     else
-        m_answer->setText(found.value() ? QString() : "Testo non trovato.");
+        m_answer->setText(found.value() ? QString() : Words::tr("Testo non trovato."));
 }
 
 }  // namespace ui

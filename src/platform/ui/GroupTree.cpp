@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "platform/text/Words.h"
 #include "platform/ui/GroupTreeItem.h"
 #include "platform/ui/ItemViewAccess.h"
 
@@ -14,7 +15,7 @@ namespace {
 constexpr int levelWidth = 18;
 
 Status unknownNode(const QString& key) {
-    return {ErrorCode::ItemNotFound, QStringLiteral("Elemento \"%1\" non trovato.").arg(key)};
+    return {ErrorCode::ItemNotFound, Words::tr("Elemento \"%1\" non trovato.").arg(key)};
 }
 
 GroupTreeItem* groupItem(QTreeWidgetItem* item) {
@@ -76,7 +77,7 @@ Result<GroupNodeRef> GroupTree::Add(const QString& parentKey, const QString& key
     GroupTreeItem* parent = itemOf(parentKey);
     if (!parent && !parentKey.isEmpty()) return unknownNode(parentKey);
     if (itemOf(key))
-        return Status(ErrorCode::DuplicateKey, QStringLiteral("L'elemento \"%1\" esiste già.").arg(key));
+        return Status(ErrorCode::DuplicateKey, Words::tr("L'elemento \"%1\" esiste già.").arg(key));
     auto node = std::make_shared<GroupNode>();
     node->m_key = key;
     node->m_text = text;
@@ -108,7 +109,7 @@ Status GroupTree::Move(const QString& key, const QString& parentKey) {
         below = below || above == item;
     if (!before || below)
         return {ErrorCode::NotSupported,
-                QStringLiteral("Un elemento non può essere spostato dentro sé stesso o i propri elementi.")};
+                Words::tr("Un elemento non può essere spostato dentro sé stesso o i propri elementi.")};
     const bool selected = currentItem() == item;
     const bool expanded = item->isExpanded();
     parent->addChild(before->takeChild(before->indexOfChild(item)));

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 #include "platform/ui/FileDialog.h"
@@ -22,7 +23,7 @@ QLineEdit* sizeField(const QString& name, const QString& size, QWidget* parent) 
     QLineEdit* field = textField(name, parent);
     static const QRegularExpression pixelsOrShare("[0-9]{0,5}%?");
     field->setValidator(new QRegularExpressionValidator(pixelsOrShare, field));
-    field->setPlaceholderText("pixel o %");
+    field->setPlaceholderText(Words::tr("pixel o %"));
     field->setText(size);
     return field;
 }
@@ -36,9 +37,11 @@ ImageDialog::ImageDialog(QWidget* parent, const HtmlView::ImageInfo& image)
       m_width(sizeField("txtWidth", image.width, this)),
       m_height(sizeField("txtHeight", image.height, this)),
       m_align(choiceField("cmbAlign",
-                          {"Nessuno", "A sinistra", "A destra", "In alto", "Al centro", "In basso"}, this)) {
+                          {Words::tr("Nessuno"), Words::tr("A sinistra"), Words::tr("A destra"),
+                           Words::tr("In alto"), Words::tr("Al centro"), Words::tr("In basso")},
+                          this)) {
     setObjectName("imageDialog");
-    setWindowTitle("Immagine");
+    setWindowTitle(Words::tr("Immagine"));
     m_source->setText(image.source);
     m_text->setText(image.alternativeText);
     for (std::size_t i = 0; i < alignments.size(); ++i)
@@ -50,7 +53,7 @@ ImageDialog::ImageDialog(QWidget* parent, const HtmlView::ImageInfo& image)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(controlSpacing);
     row->addWidget(m_source, 1);
-    QPushButton* browse = commandButton("S&foglia...", "cmdBrowse", source);
+    QPushButton* browse = commandButton(Words::tr("S&foglia..."), "cmdBrowse", source);
     row->addWidget(browse);
     source->setFocusProxy(m_source);
     // Read, and reached, before the fields below it.
@@ -60,14 +63,14 @@ ImageDialog::ImageDialog(QWidget* parent, const HtmlView::ImageInfo& image)
     connect(browse, &QPushButton::clicked, this, &ImageDialog::pickFile);
 
     DialogForm form(this);
-    form.addField("&File o indirizzo:", source);
-    m_source->setAccessibleName("File o indirizzo");
-    form.addField("&Testo alternativo:", m_text);
-    form.addField("&Larghezza:", m_width);
-    form.addField("A&ltezza:", m_height);
-    form.addField("Alli&neamento:", m_align);
-    QPushButton* ok = form.addButton("&OK", "cmdOk");
-    QPushButton* cancel = form.addButton("&Annulla", "cmdCancel");
+    form.addField(Words::tr("&File o indirizzo:"), source);
+    m_source->setAccessibleName(Words::tr("File o indirizzo"));
+    form.addField(Words::tr("&Testo alternativo:"), m_text);
+    form.addField(Words::tr("&Larghezza:"), m_width);
+    form.addField(Words::tr("A&ltezza:"), m_height);
+    form.addField(Words::tr("Alli&neamento:"), m_align);
+    QPushButton* ok = form.addButton(Words::tr("&OK"), "cmdOk");
+    QPushButton* cancel = form.addButton(Words::tr("&Annulla"), "cmdCancel");
     form.finish(ok, 460);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -82,8 +85,9 @@ HtmlView::ImageInfo ImageDialog::image() const {
 }
 
 void ImageDialog::pickFile() {
-    const auto path = FileDialog::open("Inserisci immagine",
-                                       "Immagini|*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.webp|Tutti i file|*");
+    const auto path =
+        FileDialog::open(Words::tr("Inserisci immagine"),
+                         Words::tr("Immagini|*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.webp|Tutti i file|*"));
     if (path) m_source->setText(*path);
 }
 

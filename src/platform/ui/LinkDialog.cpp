@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 
@@ -19,20 +20,21 @@ const QString mailScheme = QStringLiteral("mailto:");
 
 LinkDialog::LinkDialog(QWidget* parent, const HtmlView::LinkInfo& link, bool withText, const Offers& offers)
     : QDialog(parent),
-      m_kind(choiceField("cmbKind", {"Indirizzo web", "Posta elettronica"}, this)),
+      m_kind(choiceField("cmbKind", {Words::tr("Indirizzo web"), Words::tr("Posta elettronica")}, this)),
       m_address(textField("txtAddress", this)),
-      m_unsubscribes(named(new QCheckBox("Collegamento di &disiscrizione", this), "chkUnsubscribes")),
+      m_unsubscribes(
+          named(new QCheckBox(Words::tr("Collegamento di &disiscrizione"), this), "chkUnsubscribes")),
       m_text(textField("txtText", this)) {
     setObjectName("linkDialog");
-    setWindowTitle("Collegamento");
+    setWindowTitle(Words::tr("Collegamento"));
     const QString& address = link.address;
     const bool mail = address.startsWith(mailScheme, Qt::CaseInsensitive);
     m_kind->setCurrentIndex(mail ? Mail : Web);
     m_address->setText(mail ? address.mid(mailScheme.size()) : address);
     m_unsubscribes->setChecked(link.unsubscribes);
     m_unsubscribes->setToolTip(
-        "I programmi di posta lo offrono al destinatario per disiscriversi con un clic");
-    QComboBox* offered = choiceField("cmbOffers", {"Inserisci nell'indirizzo..."}, this);
+        Words::tr("I programmi di posta lo offrono al destinatario per disiscriversi con un clic"));
+    QComboBox* offered = choiceField("cmbOffers", {Words::tr("Inserisci nell'indirizzo...")}, this);
     for (const auto& [caption, text] : offers)
         offered->addItem(caption, text);
     connect(offered, &QComboBox::activated, this, [this, offered](int index) {
@@ -42,21 +44,21 @@ LinkDialog::LinkDialog(QWidget* parent, const HtmlView::LinkInfo& link, bool wit
     });
 
     DialogForm form(this);
-    form.addField("&Tipo:", m_kind);
-    form.addField("&Indirizzo:", m_address);
-    form.addField("&Variabile:", offered);
+    form.addField(Words::tr("&Tipo:"), m_kind);
+    form.addField(Words::tr("&Indirizzo:"), m_address);
+    form.addField(Words::tr("&Variabile:"), offered);
     m_text->setVisible(withText);
-    if (withText) form.addField("T&esto:", m_text);
+    if (withText) form.addField(Words::tr("T&esto:"), m_text);
     form.addField({}, m_unsubscribes);
-    QPushButton* ok = form.addButton("&OK", "cmdOk");
+    QPushButton* ok = form.addButton(Words::tr("&OK"), "cmdOk");
     if (!address.isEmpty()) {
-        QPushButton* remove = form.addButton("Ri&muovi", "cmdRemove");
+        QPushButton* remove = form.addButton(Words::tr("Ri&muovi"), "cmdRemove");
         connect(remove, &QPushButton::clicked, this, [this] {
             m_address->clear();
             accept();
         });
     }
-    QPushButton* cancel = form.addButton("&Annulla", "cmdCancel");
+    QPushButton* cancel = form.addButton(Words::tr("&Annulla"), "cmdCancel");
     form.finish(ok, 460);
     m_address->setFocus();
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

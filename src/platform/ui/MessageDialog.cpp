@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 
+#include "platform/text/Words.h"
 #include "platform/ui/DialogOwner.h"
 #include "platform/ui/Unattended.h"
 
@@ -37,11 +38,12 @@ struct Offered {
     int answer;
     const char* caption;  ///< null for the desktop's own
 };
-constexpr Offered answers[] = {{QMessageBox::Ok, MessageDialog::Ok, nullptr},
-                               {QMessageBox::Close, MessageDialog::Ok, "&Chiudi"},
-                               {QMessageBox::Retry, MessageDialog::Restart, "&Riavvia"},
-                               {QMessageBox::Yes, MessageDialog::Yes, nullptr},
-                               {QMessageBox::No, MessageDialog::No, nullptr}};
+constexpr Offered answers[] = {
+    {QMessageBox::Ok, MessageDialog::Ok, nullptr},
+    {QMessageBox::Close, MessageDialog::Ok, QT_TRANSLATE_NOOP("Vestrola", "&Chiudi")},
+    {QMessageBox::Retry, MessageDialog::Restart, QT_TRANSLATE_NOOP("Vestrola", "&Riavvia")},
+    {QMessageBox::Yes, MessageDialog::Yes, nullptr},
+    {QMessageBox::No, MessageDialog::No, nullptr}};
 
 int queuedAnswer(const MessageDialog::Shown& box) {
     if (queuedAnswers.isEmpty()) failUnanswered("message box", qUtf8Printable(box.text));
@@ -69,7 +71,7 @@ int answerOfUser(const MessageDialog::Shown& box) {
     dialog.setInformativeText(lines(box.details));
     for (const Offered& one : answers)
         if (QAbstractButton* button = dialog.button(one.button); button && one.caption)
-            button->setText(QString::fromLatin1(one.caption));
+            button->setText(Words::tr(one.caption));
     if (box.buttons.testFlag(QMessageBox::Close)) {
         dialog.setDefaultButton(QMessageBox::Close);
         dialog.setEscapeButton(QMessageBox::Close);

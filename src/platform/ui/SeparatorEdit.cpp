@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyleOptionFrame>
 
+#include "platform/text/Words.h"
+
 namespace ui {
 
 namespace {
@@ -15,15 +17,15 @@ bool isTabKey(const QKeyEvent& key) {
 }  // namespace
 
 SeparatorEdit::SeparatorEdit(QWidget* parent) : LineEdit(parent) {
-    setToolTip(QStringLiteral("Ctrl+Tab inserisce una tabulazione"));
+    setToolTip(Words::tr("Ctrl+Tab inserisce una tabulazione"));
     connect(this, &QLineEdit::textChanged, this, [this] { tellTabs(); });
     tellTabs();
 }
 
 // Nobody hears or sees a tab: assistive programs are told in words.
 void SeparatorEdit::tellTabs() {
-    setAccessibleDescription(text().contains(u'\t') ? QStringLiteral("Contiene una tabulazione")
-                                                    : QStringLiteral("Ctrl+Tab inserisce una tabulazione"));
+    setAccessibleDescription(text().contains(u'\t') ? Words::tr("Contiene una tabulazione")
+                                                    : Words::tr("Ctrl+Tab inserisce una tabulazione"));
 }
 
 // No shortcut of the window takes the key.

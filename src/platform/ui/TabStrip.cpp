@@ -6,6 +6,8 @@
 #include <QTabBar>
 #include <utility>
 
+#include "platform/text/Words.h"
+
 namespace ui {
 
 namespace {
@@ -18,7 +20,7 @@ class Tabs : public QTabBar {
   public:
     explicit Tabs(QWidget* parent) : QTabBar(parent) {
         setObjectName("tabs");
-        setAccessibleName("Viste");
+        setAccessibleName(Words::tr("Viste"));
         setDrawBase(false);
         setExpanding(false);
         setIconSize({16, 16});

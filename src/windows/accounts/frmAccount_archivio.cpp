@@ -12,6 +12,7 @@
 #include "platform/system/OutputFile.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/accounts/frmAccount.h"
@@ -76,8 +77,8 @@ namespace {
 void AvvisaPerdite(const Account& valori) {
     if (sys::belongsToAnother(percorsoAccount())) {
         ui::MessageDialog::show(
-            "Gli account non sono stati salvati:\r\nil file Account.imp appartiene a un altro "
-            "utente, che potrebbe leggere le password.",
+            Words::tr("Gli account non sono stati salvati:\r\nil file Account.imp appartiene a un altro "
+                      "utente, che potrebbe leggere le password."),
             ui::MessageDialog::Notice, bVAR::Attenzione);
         return;
     }
@@ -96,7 +97,7 @@ void AvvisaPerdite(const Account& valori) {
     }
     if (righe.isEmpty()) return;
     ui::MessageDialog::show(
-        "Il file degli account non può contenere questi caratteri:\r\n" + righe.join("\r\n"),
+        Words::tr("Il file degli account non può contenere questi caratteri:") + "\r\n" + righe.join("\r\n"),
         ui::MessageDialog::Notice, bVAR::Attenzione);
 }
 
@@ -104,7 +105,7 @@ void AvvisaPerdite(const Account& valori) {
 
 std::optional<Account> frmAccount::Custodisci(bool nuovo) {
     ui::WaitNotice attesa(
-        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
     const auto custodito =
         portachiavi::Custodisci(LeggiControlli(), account, nuovo, chkPortachiavi->isChecked(),
                                 [&](auto passato) { return attesa.goOn(passato); });

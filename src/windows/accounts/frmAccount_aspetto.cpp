@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
 #include "platform/ui/LinkLabel.h"
@@ -72,7 +73,7 @@ void frmAccount::CreaCaselle() {
             qMax(64, nuova->fontMetrics().horizontalAdvance("00000") + 2 * ui::windowMargin));
         return nuova;
     };
-    const auto spunta = [this](const char* nome, const char* testo) {
+    const auto spunta = [this](const char* nome, const QString& testo) {
         auto* nuova = ui::named(new QCheckBox(testo, this), nome);
         nuova->setMinimumHeight(24);
         return nuova;
@@ -87,7 +88,7 @@ void frmAccount::CreaCaselle() {
     txtUsername = casella("txtUsername", 255);
     txtPassword = casella("txtPassword", 255);
     txtPassword->setEchoMode(QLineEdit::Password);
-    chkPortachiavi = spunta("chkPortachiavi", "Conserva la password nel portachiavi del desktop.");
+    chkPortachiavi = spunta("chkPortachiavi", Words::tr("Conserva la password nel portachiavi del desktop."));
     chkPortachiavi->hide();
     lnkBrowser = ui::named(new ui::LinkLabel(QString(), this), "lnkBrowser");
     lnkBrowser->hide();

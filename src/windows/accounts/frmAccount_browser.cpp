@@ -10,6 +10,7 @@
 #include "platform/oauth/Consent.h"
 #include "platform/oauth/TokenSource.h"
 #include "platform/system/Shell.h"
+#include "platform/text/Words.h"
 #include "platform/ui/LinkLabel.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/accounts/frmAccount.h"
@@ -59,8 +60,8 @@ void frmAccount::AggiornaAccesso() {
 }
 
 void frmAccount::MostraAttesa() {
-    const QString testo =
-        consenso->waiting() ? "In attesa del browser: annulla l'accesso" : "Accedi con il browser...";
+    const QString testo = consenso->waiting() ? Words::tr("In attesa del browser: annulla l'accesso")
+                                              : Words::tr("Accedi con il browser...");
     if (lnkBrowser->text() == testo) return;
     lnkBrowser->setText(testo);
     QAccessibleEvent nome(lnkBrowser, QAccessible::NameChanged);
@@ -79,7 +80,8 @@ void frmAccount::lnkBrowser_Click() {
     }
     if (txtUsername->text().isEmpty()) {
         chkAutentick->setChecked(true);
-        avvisaAccesso("Per accedere con il browser scrivere prima lo username, di solito l'indirizzo email.");
+        avvisaAccesso(Words::tr(
+            "Per accedere con il browser scrivere prima lo username, di solito l'indirizzo email."));
         txtUsername->setFocus();
         return;
     }
@@ -99,7 +101,8 @@ void frmAccount::AccessoFinito(const Status& esito) {
     }
     chkAutentick->setChecked(true);
     txtPassword->setText(oauth::passwordWord.toString());
-    avvisaAccesso("Accesso riuscito. Salvare ora l'account con \"Nuovo Account\" o \"Modifica Account\".");
+    avvisaAccesso(
+        Words::tr("Accesso riuscito. Salvare ora l'account con \"Nuovo Account\" o \"Modifica Account\"."));
 }
 
 void frmAccount::hideEvent(QHideEvent* nascosta) {

@@ -8,6 +8,7 @@
 #include <QStyleOptionFocusRect>
 #include <QToolTip>
 
+#include "platform/text/Words.h"
 #include "platform/ui/ItemViewAccess.h"
 
 namespace {
@@ -132,5 +133,5 @@ void ElencoAccount::paintEvent(QPaintEvent* disegno) {
     if (count() > 0) return;
     pennello.setPen(palette().color(QPalette::PlaceholderText));
     pennello.drawText(viewport()->rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                      "Nessun account: compilare e premere Nuovo Account");
+                      Words::tr("Nessun account: compilare e premere Nuovo Account"));
 }

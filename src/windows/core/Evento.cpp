@@ -9,6 +9,7 @@
 #include "modules/core/Guasti.h"
 #include "modules/core/Prodotto.h"
 #include "platform/ado/Notices.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 
 namespace {
@@ -50,14 +51,14 @@ QString dettagli(const Fallimento& fallimento) {
     const Circostanze& circostanze = fallimento.circostanze();
     QStringList righe;
     if (!circostanze.operazione.isEmpty())
-        righe << QStringLiteral("Operazione: ") + circostanze.operazione;
+        righe << Words::tr("Operazione: ") + circostanze.operazione;
     else if (const QWidget* finestra = QApplication::activeWindow())
-        righe << QStringLiteral("Finestra: ") + finestra->windowTitle().trimmed();
+        righe << Words::tr("Finestra: ") + finestra->windowTitle().trimmed();
     const bool diDatabase = fallimento.numero() >= 3000 && fallimento.numero() < 4000;
     const QString file = circostanze.file.isEmpty() && diDatabase ? percorsoDB : circostanze.file;
-    if (!file.isEmpty()) righe << QStringLiteral("File: ") + file;
+    if (!file.isEmpty()) righe << Words::tr("File: ") + file;
     if (!righe.isEmpty()) righe << QString();
-    righe << QStringLiteral("Il programma viene chiuso");
+    righe << Words::tr("Il programma viene chiuso");
     return righe.join(QStringLiteral("\r\n"));
 }
 
@@ -68,7 +69,7 @@ void mostraEtermina(const Fallimento& fallimento) {
     if (azioneFinale) azioneFinale();
     guasti::Annota(fallimento);
     const int risposta = ui::MessageDialog::showFailure(
-        QStringLiteral("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),
+        Words::tr("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),
         dettagli(fallimento), nuovoAvvio.possibile && nuovoAvvio.possibile(), prodotto::nome());
     if (risposta == ui::MessageDialog::Restart) nuovoAvvio.avvia();
     TerminaProgramma();
@@ -76,7 +77,7 @@ void mostraEtermina(const Fallimento& fallimento) {
 
 void mostraAvvisi() {
     for (const QString& testo : ado::takeNotices())
-        ui::MessageDialog::show(testo, ui::MessageDialog::Notice, QStringLiteral("Attenzione"));
+        ui::MessageDialog::show(testo, ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 bool accettaEventi() {

@@ -5,6 +5,7 @@
 #include "modules/import/UltimaImportazione.h"
 #include "modules/store/AlberoCartelle.h"
 #include "modules/store/nodo.h"
+#include "platform/text/Words.h"
 #include "platform/ui/DataGrid.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/frmGruppi.h"
@@ -73,35 +74,37 @@ void ordinaGriglia() {
 // &Ultima.
 std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
     const frmMain::GruppoStrumenti invio{
-        {"cmdStrumentiProva", "&Prova messaggio...", "Il messaggio come lo riceve un destinatario",
-         "view-visible", apriProva},
-        {"cmdStrumentiMittente", "Controllo del &mittente...",
-         "Come i server dei destinatari vedono il dominio e il server di un account", "document-edit-verify",
-         apriControllo},
-        {"cmdStrumentiEsiti", "&Esito degli invii...", "Chi ha ricevuto i messaggi, chi no e perché",
-         "view-list-details", apriEsiti}};
+        {"cmdStrumentiProva", Words::tr("&Prova messaggio..."),
+         Words::tr("Il messaggio come lo riceve un destinatario"), "view-visible", apriProva},
+        {"cmdStrumentiMittente", Words::tr("Controllo del &mittente..."),
+         Words::tr("Come i server dei destinatari vedono il dominio e il server di un account"),
+         "document-edit-verify", apriControllo},
+        {"cmdStrumentiEsiti", Words::tr("&Esito degli invii..."),
+         Words::tr("Chi ha ricevuto i messaggi, chi no e perché"), "view-list-details", apriEsiti}};
     const frmMain::GruppoStrumenti destinatari{
         {"cmdTrova",
-         "&Trova destinatari...",
-         "Trova destinatari nella cartella o ovunque",
+         Words::tr("&Trova destinatari..."),
+         Words::tr("Trova destinatari nella cartella o ovunque"),
          "edit-find",
          [] { Main().ApriTrova(); },
          {QKeySequence::Find}},
         {"cmdOrdina",
-         "&Ordina per la colonna corrente",
-         "Ordina l'elenco per la colonna corrente; la terza volta torna l'ordine di prima",
+         Words::tr("&Ordina per la colonna corrente"),
+         Words::tr("Ordina l'elenco per la colonna corrente; la terza volta torna l'ordine di prima"),
          "view-list-details",
          ordinaGriglia,
          {Qt::CTRL | Qt::SHIFT | Qt::Key_O}},
-        {"cmdDoppi", "&Indirizzi doppi...", "Trova gli indirizzi selezionati più di una volta", "edit-copy",
+        {"cmdDoppi", Words::tr("&Indirizzi doppi..."),
+         Words::tr("Trova gli indirizzi selezionati più di una volta"), "edit-copy",
          [] { ControllaDoppi(intornoAiDestinatari()); }},
-        {"cmdPerdute", "Recupera &cartelle perdute...",
-         "Riporta sotto la radice cartelle e destinatari che l'albero non mostra", "folder-new",
+        {"cmdPerdute", Words::tr("Recupera &cartelle perdute..."),
+         Words::tr("Riporta sotto la radice cartelle e destinatari che l'albero non mostra"), "folder-new",
          [] { RecuperaPerdute(intornoAiDestinatari()); }},
     };
     const frmMain::GruppoStrumenti importazione{
-        {"cmdUltimaImportazione", "&Ultima importazione...",
-         "Righe importate e rifiutate dall'ultima importazione", "view-list-text", apriUltimaImportazione},
+        {"cmdUltimaImportazione", Words::tr("&Ultima importazione..."),
+         Words::tr("Righe importate e rifiutate dall'ultima importazione"), "view-list-text",
+         apriUltimaImportazione},
     };
     return {invio, destinatari, importazione};
 }

@@ -7,6 +7,7 @@
 #include "modules/send/Accettati.h"
 #include "modules/store/percorsoDBase.h"
 #include "platform/ado/Notices.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/CentraForm.h"
 #include "windows/core/Evento.h"
@@ -41,7 +42,7 @@ void SubMain() {
     AvvisaAccettatiScartati();
     mostraAvvisi();
     if (!avvisoPercorso.isEmpty())
-        ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, "Attenzione");
+        ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, Words::tr("Attenzione"));
     // The offer waits for an answer, so it comes with the first events.
     QTimer::singleShot(0, &finestre::Main(), [] { evento([] { finestre::Editor().OffriRecupero(); }); });
 }

@@ -8,6 +8,7 @@
 #include "modules/import/UltimaImportazione.h"
 #include "modules/store/Destinatario.h"
 #include "platform/contacts/ContactFolder.h"
+#include "platform/text/Words.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/import/ImportaContatti.h"
 
@@ -33,12 +34,12 @@ destinatario::Valori ValoriDi(const contacts::Contact& contatto) {
 }
 
 QString MotivoOutlook(const QString& indirizzo) {
-    return EmailValida(indirizzo) ? QStringLiteral("L'indirizzo ha meno di %1 caratteri").arg(minimoIndirizzo)
+    return EmailValida(indirizzo) ? Words::tr("L'indirizzo ha meno di %1 caratteri").arg(minimoIndirizzo)
                                   : MotivoIndirizzo(indirizzo);
 }
 
 Result<contacts::ContactFolder> LeggiOutlook(const ViciniContatti& vicini) {
-    ui::WaitNotice attesa("Lettura dei contatti di Outlook in corso… Esc per interrompere",
+    ui::WaitNotice attesa(Words::tr("Lettura dei contatti di Outlook in corso… Esc per interrompere"),
                           vicini.MostraAttesa, nullptr);
     auto cartella = contacts::readContactFolder(contacts::findOutlookFile(contacts::outlookFolders()),
                                                 std::chrono::seconds(60),
@@ -50,18 +51,20 @@ Result<contacts::ContactFolder> LeggiOutlook(const ViciniContatti& vicini) {
 /// Tells in the status bar which walls the system did not let the reader raise.
 void AvvisaSenzaMura(const ViciniContatti& vicini, const QStringList& mura) {
     QStringList mancano;
-    for (const auto& [muro, nome] : {std::pair("files", "file"), std::pair("calls", "chiamate di sistema"),
-                                     std::pair("memory", "memoria")})
-        if (!mura.contains(QLatin1String(muro))) mancano << QLatin1String(nome);
+    for (const auto& [muro, nome] :
+         {std::pair("files", Words::tr("file")), std::pair("calls", Words::tr("chiamate di sistema")),
+          std::pair("memory", Words::tr("memoria"))})
+        if (!mura.contains(QLatin1String(muro))) mancano << nome;
     if (!mancano.isEmpty())
-        vicini.MostraAttesa("Outlook letto senza queste protezioni del sistema: " + mancano.join(", "));
+        vicini.MostraAttesa(Words::tr("Outlook letto senza queste protezioni del sistema: ") +
+                            mancano.join(", "));
 }
 
 }  // namespace
 
 void ImportaOutlook(const ViciniContatti& vicini) {
     ImportaContatti importa(vicini);
-    if (!importa.Comincia("contatti di Outlook")) return;
+    if (!importa.Comincia(Words::tr("contatti di Outlook"))) return;
     const auto cartella = LeggiOutlook(vicini);
     if (!cartella.ok()) return;
 
@@ -73,8 +76,9 @@ void ImportaOutlook(const ViciniContatti& vicini) {
         const auto voce = voci[i];
         const auto numero = static_cast<qint64>(i) + 1;
         if (!voce || !EmailValida(voce->email1Address) || voce->email1Address.size() < minimoIndirizzo) {
-            ultimaImportazione().Rifiutata(numero, voce ? voce->email1Address : QString(),
-                                           voce ? MotivoOutlook(voce->email1Address) : "Non è un contatto");
+            ultimaImportazione().Rifiutata(
+                numero, voce ? voce->email1Address : QString(),
+                voce ? MotivoOutlook(voce->email1Address) : Words::tr("Non è un contatto"));
             continue;
         }
         importa.Inserisci(numero, ValoriDi(*voce));

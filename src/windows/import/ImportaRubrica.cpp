@@ -5,12 +5,13 @@
 
 #include "modules/import/bWab.h"
 #include "modules/import/UltimaImportazione.h"
+#include "platform/text/Words.h"
 #include "windows/core/Puntatore.h"
 #include "windows/import/ImportaContatti.h"
 
 void ImportaRubrica(const ViciniContatti& vicini) {
     ImportaContatti importa(vicini);
-    if (!importa.Comincia("rubrica")) return;
+    if (!importa.Comincia(Words::tr("rubrica"))) return;
     contacts::AddressBook rubrica;
     if (!rubrica.open().ok()) return;
 

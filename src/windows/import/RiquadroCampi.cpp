@@ -7,6 +7,7 @@
 #include <QLabel>
 
 #include "modules/store/Destinatario.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 
 namespace {
@@ -19,7 +20,7 @@ void segnaObbligatorio(QComboBox& box) {
     for (const auto ruolo : {QPalette::Base, QPalette::Button})
         tavolozza.setColor(ruolo, giallo);
     box.setPalette(tavolozza);
-    box.setAccessibleDescription("obbligatorio");
+    box.setAccessibleDescription(Words::tr("obbligatorio"));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/ConnectionText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Puntatore.h"
@@ -71,7 +72,7 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
     UltimaImportazione& resoconto = ultimaImportazione();
     for (qint64 numero = 1; !rs.isEof(); ++numero) {
         if (!leggi(rs, sorgenti, valori))
-            resoconto.Rifiutata(numero, {}, "Il record non si legge");
+            resoconto.Rifiutata(numero, {}, Words::tr("Il record non si legge"));
         else if (!EmailValida(valori[schema::email]))
             resoconto.Rifiutata(numero, valori[schema::email], MotivoIndirizzo(valori[schema::email]));
         else if (prosegui([&] { inserimento.Inserisci(gruppo, valori); }))
@@ -166,8 +167,8 @@ void frmImpDB::cmdImportaDB_Click() {
     prosegui([&] { esigi(rs.setActiveConnection(sorgente)); });
     rs.setSource("SELECT * FROM [" + tabella + "] ;");
     prosegui([&] { esigi(rs.open()); });
-    ultimaImportazione().Comincia("tabella \"" + tabella + "\" di " +
-                                  NomeDaPercorso(PercorsoScritto(txtDatabase->text())));
+    ultimaImportazione().Comincia(
+        Words::tr("tabella \"%1\" di %2").arg(tabella, NomeDaPercorso(PercorsoScritto(txtDatabase->text()))));
     if (!rs.isBof() && !rs.isEof())
         importaRecord(rs, sorgentiDi(*riquadroCampi), *gruppo, inserimento, prosegui);
     rs.close();

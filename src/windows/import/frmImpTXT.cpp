@@ -13,6 +13,7 @@
 #include "modules/import/UltimaImportazione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/text/TextFile.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
@@ -110,7 +111,7 @@ void frmImpTXT::cmdImportaTXT_Click() {
     ui::Busy lavoro;
     text::LineReader file;
     const QString percorso = PercorsoScritto(txtPath->text());
-    const Operazione importazione("Importazione da file di testo", percorso);
+    const Operazione importazione(Words::tr("Importazione da file di testo"), percorso);
     esigi(file.open(percorso, text::LineEnds::Any, text::Encoding::Detected));
     const RigaTesto regola = Regola();
     QString riga;

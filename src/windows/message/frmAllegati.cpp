@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "modules/core/bFunctions.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "windows/core/Evento.h"
@@ -28,7 +29,7 @@ class Elenco : public QTreeWidget {
         if (topLevelItemCount() > 0) return;
         QPainter pittore(viewport());
         pittore.setPen(palette().color(QPalette::PlaceholderText));
-        pittore.drawText(viewport()->rect(), Qt::AlignCenter, "Nessun allegato");
+        pittore.drawText(viewport()->rect(), Qt::AlignCenter, Words::tr("Nessun allegato"));
     }
 };
 
@@ -86,7 +87,7 @@ void frmAllegati::InsFile(const QString& percorso) {
 void frmAllegati::TogliScelto() {
     constexpr ErrorCode oggettoAssente{91};
     QTreeWidgetItem* scelto = LIST->currentItem();
-    if (!scelto) fallisci(oggettoAssente, "Variabile oggetto non impostata");
+    if (!scelto) fallisci(oggettoAssente, Words::tr("Variabile oggetto non impostata"));
     delete LIST->takeTopLevelItem(LIST->indexOfTopLevelItem(scelto));
 }
 

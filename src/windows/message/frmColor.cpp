@@ -4,6 +4,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "platform/html/HtmlView.h"
+#include "platform/text/Words.h"
 #include "platform/ui/ColorHexagon.h"
 #include "platform/ui/CommandBars.h"
 #include "windows/core/bTheme.h"
@@ -15,7 +16,7 @@ frmColor::frmColor(HtmlView& vista, ui::CommandBars& barre, QWidget* parent)
     setObjectName("pwnColor");
     setAccessibleName("Tabella colori");
     color->setObjectName("color");
-    color->setAccessibleName("Colore del testo");
+    color->setAccessibleName(Words::tr("Colore del testo"));
     setFocusProxy(color);
     QPalette tavolozza = palette();
     tavolozza.setColor(QPalette::Window, coloreTema(0));

@@ -9,6 +9,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
@@ -40,9 +41,9 @@ frmEditor::frmEditor(Vicini intorno, QWidget* parent)
     setObjectName("frmEditor");
     setWindowModality(Qt::ApplicationModal);
     ui::withoutCloseButton(*this);
-    DHTML->setAccessibleName("Messaggio");
-    CODE->focusProxy()->setAccessibleName("Origine del messaggio");
-    WEB->setAccessibleName("Anteprima del messaggio");
+    DHTML->setAccessibleName(Words::tr("Messaggio"));
+    CODE->focusProxy()->setAccessibleName(Words::tr("Origine del messaggio"));
+    WEB->setAccessibleName(Words::tr("Anteprima del messaggio"));
     tb->addView(DHTML, "Modifica", "document-edit");
     tb->addView(CODE, "Origine", "text-html");
     tb->addView(WEB, "Anteprima", "view-visible");

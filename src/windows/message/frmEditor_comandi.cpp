@@ -4,6 +4,7 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/message/variabili.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/TabStrip.h"
@@ -152,12 +153,12 @@ bool frmEditor::ComandoFile(const QString& nome) {
         SalvaMessaggioCome();
     } else if (nome == "cmdStampa") {
         const Result<bool> stampato = DHTML->print(true, barre->GetEdit("txtOggetto")->Text());
-        if (!stampato.ok()) AvvisaVista(stampato.status(), "Il messaggio non è stato stampato.");
+        if (!stampato.ok()) AvvisaVista(stampato.status(), Words::tr("Il messaggio non è stato stampato."));
     } else if (nome == "cmdProprieta") {
         frmPropBody& proprieta = vicini.PropBody();
         const Status presi = proprieta.PrendiValori();
         if (!presi.ok())
-            AvvisaVista(presi, "Riprova fra qualche istante.");
+            AvvisaVista(presi, Words::tr("Riprova fra qualche istante."));
         else
             proprieta.exec();
     } else {

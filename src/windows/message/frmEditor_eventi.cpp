@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include "platform/mail/LocalImages.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
@@ -18,14 +19,15 @@ const QString fontPredefinito = QStringLiteral("Verdana");
 
 void AvvisaLasciatiFuori(const QStringList& indirizzi) {
     constexpr qsizetype mostrati = 5;
-    QString testo =
+    QString testo = Words::tr(
         "Il testo incollato nominava file di questo computer, che sarebbero partiti con il messaggio. "
-        "Sono stati lasciati fuori:";
+        "Sono stati lasciati fuori:");
     for (const QString& indirizzo : indirizzi.first(qMin(mostrati, indirizzi.size())))
         testo += "\r\n" + QUrl(indirizzo).toDisplayString().left(200);
-    if (indirizzi.size() > mostrati) testo += QString("\r\ne altri %1").arg(indirizzi.size() - mostrati);
-    testo += "\r\nPer mettere un'immagine nel messaggio usa \"Inserisci immagine\".";
-    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
+    if (indirizzi.size() > mostrati)
+        testo += "\r\n" + Words::tr("e altri %n", nullptr, static_cast<int>(indirizzi.size() - mostrati));
+    testo += "\r\n" + Words::tr("Per mettere un'immagine nel messaggio usa \"Inserisci immagine\".");
+    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 /// What readers of the message will load from elsewhere, by the hosts that then learn of it.
@@ -37,9 +39,9 @@ QString RestaSulWeb(const QStringList& indirizzi) {
     siti.removeAll(QString());
     siti.removeDuplicates();
     const QString elenco = siti.first(qMin(mostrati, siti.size())).join(", ");
-    return QString("Nel testo incollato %1 element%2 sul web%3")
-        .arg(indirizzi.size())
-        .arg(indirizzi.size() == 1 ? "o resta" : "i restano", elenco.isEmpty() ? QString() : ": " + elenco);
+    const QString testo = Words::tr("Nel testo incollato %n elementi restano sul web", nullptr,
+                                    static_cast<int>(indirizzi.size()));
+    return elenco.isEmpty() ? testo : testo + ": " + elenco;
 }
 
 }  // namespace
@@ -111,9 +113,10 @@ void frmEditor::CambiaScheda(int da, int a) {
             const QScopedValueRollback indietro(tornaIndietro, true);
             tb->setCurrentIndex(da);
         }
-        return AvvisaVista(spostato, spostato.code() == ErrorCode::Overflow
-                                         ? "Il testo resta nell'origine, il messaggio è quello di prima."
-                                         : "Riprova fra qualche istante.");
+        return AvvisaVista(spostato,
+                           spostato.code() == ErrorCode::Overflow
+                               ? Words::tr("Il testo resta nell'origine, il messaggio è quello di prima.")
+                               : Words::tr("Riprova fra qualche istante."));
     }
     ImpostaBarre(a == Modifica);
     if (a == Modifica) AggiornaStatoDesign();
@@ -158,7 +161,8 @@ bool frmEditor::Riuscita(const Status& stato) {
 }
 
 void frmEditor::AvvisaVista(const Status& stato, const QString& seguito) {
-    ui::MessageDialog::show(stato.text() + "\r\n" + seguito, ui::MessageDialog::Notice, "Attenzione");
+    ui::MessageDialog::show(stato.text() + "\r\n" + seguito, ui::MessageDialog::Notice,
+                            Words::tr("Attenzione"));
 }
 
 void frmEditor::AggiornaStatoDesign() {

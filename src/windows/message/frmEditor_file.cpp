@@ -5,6 +5,7 @@
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/Bounds.h"
 #include "platform/text/AnsiCodec.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
@@ -35,12 +36,13 @@ void AvvisaCaratteri(const MessaggioMss& messaggio) {
     const QStringList oggetto = text::outsideAnsi(messaggio.Oggetto);
     const QStringList allegati = text::outsideAnsi(messaggio.Allegati.join(QString()));
     if (oggetto.isEmpty() && allegati.isEmpty()) return;
-    QString testo = "Il file del messaggio non può contenere questi caratteri, al loro posto c'è \"?\":";
-    if (!oggetto.isEmpty()) testo += "\r\nOggetto: " + oggetto.join(' ');
+    QString testo =
+        Words::tr("Il file del messaggio non può contenere questi caratteri, al loro posto c'è \"?\":");
+    if (!oggetto.isEmpty()) testo += "\r\n" + Words::tr("Oggetto: ") + oggetto.join(' ');
     if (!allegati.isEmpty())
-        testo += "\r\nPercorsi degli allegati: " + allegati.join(' ') +
-                 "\r\nQuesti allegati non saranno trovati: rinomina i file.";
-    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, "Attenzione");
+        testo += "\r\n" + Words::tr("Percorsi degli allegati: ") + allegati.join(' ') + "\r\n" +
+                 Words::tr("Questi allegati non saranno trovati: rinomina i file.");
+    ui::MessageDialog::show(testo, ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 /// Tells of a body that has grown beyond what its readers take, while it is still here.
@@ -48,8 +50,9 @@ void AvvisaLimiti(const QString& corpo) {
     const Status leggibile = html::readable(corpo);
     if (!leggibile.ok())
         ui::MessageDialog::show(
-            "Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.\r\n" + leggibile.text(),
-            ui::MessageDialog::Notice, "Attenzione");
+            Words::tr("Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.") + "\r\n" +
+                leggibile.text(),
+            ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 }  // namespace
@@ -80,7 +83,8 @@ MessaggioMss frmEditor::Testata() {
 std::optional<MessaggioMss> frmEditor::PrendiMessaggio() {
     const Result<QString> corpo = DHTML->documentHTML();
     if (!corpo.ok()) {
-        AvvisaVista(corpo.status(), "Il messaggio non è stato salvato: riprova fra qualche istante.");
+        AvvisaVista(corpo.status(),
+                    Words::tr("Il messaggio non è stato salvato: riprova fra qualche istante."));
         return std::nullopt;
     }
     MessaggioMss messaggio = Testata();
@@ -126,9 +130,9 @@ void frmEditor::SalvaMessaggioCome() {
         return AvvisaLimiti(daScrivere.CorpoHTML);
     }
     SegnaModificato();
-    ui::MessageDialog::show("Il messaggio non è stato salvato in " + *percorso + ":\r\n" + prosegui.testo() +
-                                "\r\nSalvalo con un altro nome.",
-                            ui::MessageDialog::Notice, "Attenzione");
+    ui::MessageDialog::show(Words::tr("Il messaggio non è stato salvato in %1:").arg(*percorso) + "\r\n" +
+                                prosegui.testo() + "\r\n" + Words::tr("Salvalo con un altro nome."),
+                            ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 /// What came in with a file that is not known stays so. A file that is written anew has been asked about for
@@ -181,7 +185,7 @@ void frmEditor::LeggiMessaggio(const QString& percorso) {
     QString corpo = letto.corpo;
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
     if (const Status leggibile = html::readable(corpo); !leggibile.ok())
-        return AvvisaVista(leggibile, "Il messaggio nella finestra resta quello di prima.");
+        return AvvisaVista(leggibile, Words::tr("Il messaggio nella finestra resta quello di prima."));
     NuovoMessaggio();
     ImpostaTestata(letto.oggetto, letto.priorita);
     bool lasciato = false;

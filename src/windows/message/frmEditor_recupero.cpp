@@ -7,6 +7,7 @@
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"
 #include "platform/html/HtmlDocument.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/SourceEdit.h"
@@ -102,17 +103,17 @@ void frmEditor::OffriRecupero() {
     std::vector<CopiaTrovata> trovate = CopiaTrovata::Cerca(danneggiate);
     for (const QString& copiaDanneggiata : std::as_const(danneggiate))
         ui::MessageDialog::show(
-            "Una copia di recupero è danneggiata e non si può leggere.\r\nIl file resta in " +
+            Words::tr("Una copia di recupero è danneggiata e non si può leggere.\r\nIl file resta in ") +
                 copiaDanneggiata,
-            ui::MessageDialog::Notice, "Attenzione");
+            ui::MessageDialog::Notice, Words::tr("Attenzione"));
     for (CopiaTrovata& trovata : trovate) {
         const MessaggioRecuperato& messaggio = trovata.Messaggio();
         const int risposta = ui::MessageDialog::show(
-            QString("Il messaggio %1 non è stato salvato prima della fine del programma.\r\nOggetto: %2\r\n"
-                    "Ultima modifica: %3\r\nVuoi recuperarlo?")
+            Words::tr("Il messaggio %1 non è stato salvato prima della fine del programma.\r\nOggetto: %2\r\n"
+                      "Ultima modifica: %3\r\nVuoi recuperarlo?")
                 .arg(messaggio.titolo, messaggio.Oggetto,
                      QLocale().toString(trovata.Quando(), QLocale::ShortFormat)),
-            ui::MessageDialog::AskNotice, "Attenzione");
+            ui::MessageDialog::AskNotice, Words::tr("Attenzione"));
         if (risposta == ui::MessageDialog::Yes) {
             RiprendiCopia(trovata);
             return MostraModale();
@@ -134,7 +135,7 @@ void frmEditor::RiprendiCopia(CopiaTrovata& trovata) {
         tb->setCurrentIndex(Origine);
         CODE->setText(messaggio.Origine.value_or(messaggio.CorpoHTML));
     }
-    if (rifiutato) AvvisaVista(messo, "Il testo recuperato è nell'origine.");
+    if (rifiutato) AvvisaVista(messo, Words::tr("Il testo recuperato è nell'origine."));
     fileAperto = false;
     estraneo = messaggio.estraneo;
     propri = messaggio.propri;

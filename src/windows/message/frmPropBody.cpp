@@ -7,6 +7,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "platform/html/HtmlView.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/MessageDialog.h"
@@ -58,21 +59,23 @@ frmPropBody::frmPropBody(HtmlView& vista, ui::SourceEdit& origine, QWidget* pare
     RilevaTema(this);
     setObjectName("frmPropBody");
     setWindowTitle("Proprietà messaggio");
-    prp->focusProxy()->setAccessibleName("Proprietà del messaggio");
+    prp->focusProxy()->setAccessibleName(Words::tr("Proprietà del messaggio"));
     lbl->setBuddy(prp);
     prp->addGroup("Margini pagina", "Margini pagina");
-    prp->addText("Sinistra", "Sinistra", "Margine sinistro della pagina, in pixel");
-    prp->addText("Superiore", "Superiore", "Margine superiore della pagina, in pixel");
-    prp->addText("Larghezza", "Larghezza", "Margine orizzontale per altri programmi di posta, in pixel");
-    prp->addText("Altezza", "Altezza", "Margine verticale per altri programmi di posta, in pixel");
+    prp->addText("Sinistra", "Sinistra", Words::tr("Margine sinistro della pagina, in pixel"));
+    prp->addText("Superiore", "Superiore", Words::tr("Margine superiore della pagina, in pixel"));
+    prp->addText("Larghezza", "Larghezza",
+                 Words::tr("Margine orizzontale per altri programmi di posta, in pixel"));
+    prp->addText("Altezza", "Altezza", Words::tr("Margine verticale per altri programmi di posta, in pixel"));
     prp->addGroup("Colori", "Colori");
-    prp->addColour("Sfondo", "Sfondo", "Colore di sfondo della pagina");
-    prp->addColour("Testo", "Testo", "Colore del testo");
-    prp->addColour("Link", "Link", "Colore dei collegamenti");
-    prp->addColour("LinkAttivi", "Link attivi", "Colore dei collegamenti mentre si premono");
-    prp->addColour("LinkVisitati", "Link visitati", "Colore dei collegamenti già visitati");
+    prp->addColour("Sfondo", "Sfondo", Words::tr("Colore di sfondo della pagina"));
+    prp->addColour("Testo", "Testo", Words::tr("Colore del testo"));
+    prp->addColour("Link", "Link", Words::tr("Colore dei collegamenti"));
+    prp->addColour("LinkAttivi", "Link attivi", Words::tr("Colore dei collegamenti mentre si premono"));
+    prp->addColour("LinkVisitati", "Link visitati", Words::tr("Colore dei collegamenti già visitati"));
     prp->addGroup("Immagini", "Immagini");
-    prp->addText(sfondo.chiave, "Immagine di sfondo", "Percorso o indirizzo dell'immagine di sfondo");
+    prp->addText(sfondo.chiave, "Immagine di sfondo",
+                 Words::tr("Percorso o indirizzo dell'immagine di sfondo"));
     DisponiScheda(*this, {lbl, prp, cdmSalva, cmdAnnulla}, "document-properties");
     connect(cdmSalva, &QPushButton::clicked, this, [this] { evento([this] { cdmSalva_Click(); }); });
     connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
@@ -121,8 +124,8 @@ Status frmPropBody::Scrivi() {
 void frmPropBody::cdmSalva_Click() {
     const Status scritte = Scrivi();
     if (scritte.ok()) return hide();
-    ui::MessageDialog::show(scritte.text() + "\r\nRiprova fra qualche istante.", ui::MessageDialog::Notice,
-                            "Attenzione");
+    ui::MessageDialog::show(scritte.text() + "\r\n" + Words::tr("Riprova fra qualche istante."),
+                            ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
 void frmPropBody::closeEvent(QCloseEvent* chiusura) {

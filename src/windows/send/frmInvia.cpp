@@ -15,6 +15,7 @@
 #include "modules/send/Accettati.h"
 #include "platform/mail/DeliveryControl.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/CountLabel.h"
@@ -212,7 +213,8 @@ void frmInvia::CollegaEtichette() {
 /// What has no label of its own is named by translated words: those of the dialog that it opens, or those
 /// that stand around it.
 void frmInvia::NominaSenzaEtichetta() {
-    cmdFile->setAccessibleName(bVAR::goApriEmail.isEmpty() ? "Sfoglia il messaggio" : bVAR::goApriEmail);
+    cmdFile->setAccessibleName(bVAR::goApriEmail.isEmpty() ? Words::tr("Sfoglia il messaggio")
+                                                           : bVAR::goApriEmail);
     txtBloccoNum->setAccessibleName(chkBlocco->text() + " … " + lblBlocco1->text());
     txtBloccoMin->setAccessibleName(lblBlocco1->text() + " … " + lblBlocco2->text());
 }

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
@@ -28,7 +29,7 @@ void frmInvia::RaccontaConteggi(bool finito) {
     if (!finito && ultimoRacconto.isValid() && ultimoRacconto.secsTo(adesso) < secondiTraAnnunci) return;
     ultimoRacconto = adesso;
     const std::array<ui::CountLabel*, 3> etichette{lblDaInviare, lblFallite, lblInviate};
-    QString racconto = finito ? QStringLiteral("Invio terminato") : QString();
+    QString racconto = finito ? Words::tr("Invio terminato") : QString();
     for (ui::CountLabel* etichetta : etichette) {
         if (!racconto.isEmpty()) racconto += ", ";
         racconto += etichetta->text();

@@ -7,6 +7,7 @@
 #include "modules/lang/bVAR.h"
 #include "modules/send/FileInPartenza.h"
 #include "platform/mail/DeliveryControl.h"
+#include "platform/text/Words.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/DomandaFile.h"
@@ -49,8 +50,9 @@ void frmInvia::cmdFile_Click() {
     if (!percorso) fallisci(ErrorCode::CancelSelected);
     const FileMss file = LeggiFileMss(*percorso);
     if (const Status messo = goDHTML.setDocumentHTML(LeggiCorpoMss(file)); !messo.ok()) {
-        const QString prima = txtFile->text().isEmpty() ? QString("Nessun messaggio è stato scelto.")
-                                                        : "Il messaggio scelto resta " + txtFile->text();
+        const QString prima = txtFile->text().isEmpty()
+                                  ? Words::tr("Nessun messaggio è stato scelto.")
+                                  : Words::tr("Il messaggio scelto resta ") + txtFile->text();
         MessageDialog::show(messo.text() + "\r\n" + prima, MessageDialog::Notice, bVAR::Attenzione);
         return;
     }
@@ -82,11 +84,11 @@ bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
     // says how long his answer holds.
     const bool unaVolta = (chiesti.isEmpty() || fonte.noto) && (chieste.isEmpty() || fonteCorpo.noto) &&
                           std::ranges::all_of(chiesti + chieste, &FileInPartenza::riposto);
-    ui::ListQuestion::Content domanda =
-        DomandaFile(chiesti + chieste,
-                    "Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.\r\n"
-                    "Vuoi inviarli?");
-    if (!unaVolta) domanda.remember = "Non chiederlo &più per questo messaggio";
+    ui::ListQuestion::Content domanda = DomandaFile(
+        chiesti + chieste,
+        Words::tr("Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.\r\n"
+                  "Vuoi inviarli?"));
+    if (!unaVolta) domanda.remember = Words::tr("Non chiederlo &più per questo messaggio");
     const int risposta = MessageDialog::askAbout(domanda);
     if (risposta == MessageDialog::No) return false;
     if (risposta != MessageDialog::YesAlways && !unaVolta) return true;
@@ -105,8 +107,9 @@ bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
 void frmInvia::AvvisaLog() {
     const Status aperto = SMTP->OpenLog();
     if (!aperto.ok())
-        MessageDialog::show("Il file per l'assistenza non si può scrivere:\r\n" + SMTP->LogFile + "\r\n" +
-                                aperto.text() + "\r\nL'invio prosegue senza.",
+        MessageDialog::show(Words::tr("Il file per l'assistenza non si può scrivere:") + "\r\n" +
+                                SMTP->LogFile + "\r\n" + aperto.text() + "\r\n" +
+                                Words::tr("L'invio prosegue senza."),
                             MessageDialog::Notice, bVAR::Attenzione);
 }
 

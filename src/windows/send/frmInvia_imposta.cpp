@@ -28,6 +28,7 @@
 #include "platform/mail/Unsubscribe.h"
 #include "platform/system/Clock.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "platform/ui/WaitNotice.h"
@@ -170,16 +171,17 @@ bool frmInvia::PreparaElenco() {
     };
     if (!invioInCorso.take(percorsoDB)) {
         avvisa(
-            "Un'altra finestra di Vestrola sta inviando ai destinatari di questo database.\r\n"
-            "Riprovare quando avrà finito.");
+            Words::tr("Un'altra finestra di Vestrola sta inviando ai destinatari di questo database.\r\n"
+                      "Riprovare quando avrà finito."));
         return false;
     }
     Prosegui prosegui;
     if (!prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); })) {
         FineInvio();
-        avvisa(
-            "Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla selezione:\r\n" +
-            prosegui.testo() + "\r\nL'invio non è iniziato. Riprovare più tardi.");
+        avvisa(Words::tr("Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla "
+                         "selezione:") +
+               "\r\n" + prosegui.testo() + "\r\n" +
+               Words::tr("L'invio non è iniziato. Riprovare più tardi."));
         return false;
     }
     AvvisaAccettatiScartati();
@@ -188,19 +190,19 @@ bool frmInvia::PreparaElenco() {
     const Status riservato = accettati().reserve(mail::DatabaseFile::at(percorsoDB), conto);
     if (riservato.ok()) {
         if (DiscoPienoPrimaDellInvio())
-            avvisa(
+            avvisa(Words::tr(
                 "Il disco del database è pieno. Chi riceve il messaggio resta selezionato finché non c'è di "
                 "nuovo "
-                "posto, ma non lo riceve una seconda volta.");
+                "posto, ma non lo riceve una seconda volta."));
         return true;
     }
     if (accettati().room() < 1) {
         FineInvio();
-        avvisa(riservato.text() + "\r\nL'invio non è iniziato.");
+        avvisa(riservato.text() + "\r\n" + Words::tr("L'invio non è iniziato."));
         return false;
     }
-    avvisa(riservato.text() +
-           "\r\nSe il database non potrà essere aggiornato, non tutti i destinatari saranno serviti.");
+    avvisa(riservato.text() + "\r\n" +
+           Words::tr("Se il database non potrà essere aggiornato, non tutti i destinatari saranno serviti."));
     return true;
 }
 
@@ -209,8 +211,9 @@ void frmInvia::AvvisaFirma() {
     const Account& mittente = account.at(cmbAccount->currentData().toInt());
     const Status firma = mail::DkimSigner::usable(cartellaDati() + "dkim", mittente.txtEmail);
     if (!firma.ok())
-        MessageDialog::show(firma.text() + "\r\nI messaggi di questo invio partono senza firma.",
-                            MessageDialog::Notice, bVAR::Attenzione);
+        MessageDialog::show(
+            firma.text() + "\r\n" + Words::tr("I messaggi di questo invio partono senza firma."),
+            MessageDialog::Notice, bVAR::Attenzione);
 }
 
 /// Other processes may send again, once nothing of this run can come any more.
@@ -223,7 +226,7 @@ void frmInvia::FineInvio() {
 void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     const Account& mittente = account.at(indiceAccount);
     ui::WaitNotice attesa(
-        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
     passwordMittente = portachiavi::PasswordDi(mittente, [&](auto passato) { return attesa.goOn(passato); });
     attesa.over();
     ImpostaMittente(*SMTP, mittente, prosegui);

@@ -5,6 +5,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/mail/SmtpReply.h"
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CountLabel.h"
 #include "platform/ui/ProgressCounter.h"
 #include "windows/send/frmInvia.h"
@@ -12,13 +13,12 @@
 namespace {
 
 QString Durata(double secondi) {
-    if (secondi < 60) return QStringLiteral("meno di un minuto");
+    if (secondi < 60) return Words::tr("meno di un minuto");
     const auto minuti = static_cast<qint64>(std::ceil(secondi / 60));
-    if (minuti == 1) return QStringLiteral("circa un minuto");
-    if (minuti < 60) return QStringLiteral("circa %1 minuti").arg(minuti);
-    const QString ore =
-        minuti / 60 == 1 ? QStringLiteral("un'ora") : QStringLiteral("%1 ore").arg(minuti / 60);
-    return minuti % 60 == 0 ? "circa " + ore : QStringLiteral("circa %1 e %2 min").arg(ore).arg(minuti % 60);
+    if (minuti < 60) return Words::tr("circa %n minuti", nullptr, static_cast<int>(minuti));
+    const int ore = static_cast<int>(minuti / 60);
+    return minuti % 60 == 0 ? Words::tr("circa %n ore", nullptr, ore)
+                            : Words::tr("circa %n ore e %1 min", nullptr, ore).arg(minuti % 60);
 }
 
 }  // namespace
@@ -39,19 +39,20 @@ QString frmInvia::DettagliDaInviare() const {
     const double fatti = prgFallite->value() + prgInviate->value();
     if (inizioInvio.isValid() && !fermaInvio && fatti > 0 && prgDaInviare->value() > 0) {
         const double secondi = double(inizioInvio.msecsTo(sys::clock().now())) / 1000;
-        dettagli << "Tempo rimanente: " + Durata(secondi / fatti * prgDaInviare->value());
+        dettagli << Words::tr("Tempo rimanente: %1").arg(Durata(secondi / fatti * prgDaInviare->value()));
     }
     return dettagli.join('\n');
 }
 
 QString frmInvia::DettagliFallite() const {
     const Status registro = SMTP->BookStatus();
-    if (!registro.ok()) return "Il registro degli esiti non si può scrivere. " + registro.text();
+    if (!registro.ok())
+        return Words::tr("Il registro degli esiti non si può scrivere. %1").arg(registro.text());
     if (prgFallite->value() <= 0) return {};
     const auto ultima = SMTP->LastFailure();
     if (!ultima) return {};
-    QString dettagli = "Ultima non inviata: " + mail::printable(ultima->address.toUtf8()) + '\n' +
-                       TestoMotivo(MotivoDi(*ultima));
+    QString dettagli = Words::tr("Ultima non inviata: %1").arg(mail::printable(ultima->address.toUtf8())) +
+                       '\n' + TestoMotivo(MotivoDi(*ultima));
     if (!ultima->words.isEmpty()) dettagli += '\n' + ultima->words;
     return dettagli;
 }

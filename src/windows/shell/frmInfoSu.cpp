@@ -7,6 +7,7 @@
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/Prodotto.h"
+#include "platform/text/Words.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/LinkLabel.h"
 #include "windows/core/bTheme.h"
@@ -22,7 +23,7 @@ frmInfoSu::frmInfoSu(QWidget* parent) : QDialog(parent) {
     CreaCollegamento(*colonna, "Link", prodotto::paginaWeb(), prodotto::paginaWeb());
     CreaCollegamento(*colonna, "MailTo", prodotto::indirizzoPosta(), prodotto::collegamentoPosta());
     colonna->addStretch();
-    auto* lblChiudi = new QLabel("Per chiudere: Esc o un clic");
+    auto* lblChiudi = new QLabel(Words::tr("Per chiudere: Esc o un clic"));
     lblChiudi->setObjectName("lblChiudi");
     lblChiudi->setMargin(4);
     QPalette tavolozza = lblChiudi->palette();

@@ -8,6 +8,7 @@
 #include "modules/core/Prodotto.h"
 #include "modules/send/Accettati.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
@@ -35,7 +36,7 @@ frmMain::frmMain(Vicini intorno)
       barre(new ui::CommandBars(this)),
       pannelli(this),
       destinatari(new ui::DataGrid),
-      barraTrova(new ui::FindBar(TrovaDestinatari::luoghi, this)),
+      barraTrova(new ui::FindBar(TrovaDestinatari::Luoghi(), this)),
       dati(new ui::DataControl(this)) {
     setObjectName("frmMain");
     destinatari->setObjectName("grd");
@@ -115,7 +116,7 @@ void frmMain::ApriTrova() {
 void frmMain::SvuotaGriglia() {
     destinatari->Clear();
     destinatari->setRows(1);
-    destinatari->setEmptyText("Scegliere una cartella");
+    destinatari->setEmptyText(Words::tr("Scegliere una cartella"));
     destinatari->setNotice({});
     AggiornaComandi();
 }
@@ -138,7 +139,7 @@ void frmMain::ImpostaColoriGriglia() {
 void frmMain::closeEvent(QCloseEvent* chiusura) {
     chiusura->ignore();
     evento([this] {
-        const Operazione chiusa("Chiusura del programma");
+        const Operazione chiusa(Words::tr("Chiusura del programma"));
         static_cast<void>(pannelli.saveLayout(fileDisposizione()));
         vicini.posizione.salva(*this);
         if (risposteAttese().concludi) risposteAttese().concludi();

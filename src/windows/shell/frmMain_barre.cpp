@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DatabaseWait.h"
 #include "platform/ui/DataGrid.h"
@@ -110,7 +111,7 @@ void frmMain::CreaMenu() {
     barre->addListMenu("mnuLingua", "&Lingua", "Lingua", "cmdLang");
     QStringList menu{"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp"};
     if (const QStringList strumenti = CreaStrumenti(); !strumenti.isEmpty()) {
-        barre->addMenu("mnuStrumenti", "&Strumenti", "Strumenti", strumenti);
+        barre->addMenu("mnuStrumenti", Words::tr("&Strumenti"), Words::tr("Strumenti"), strumenti);
         menu << "mnuStrumenti";
     }
     barre->addMenuBar("Menu", menu);
@@ -153,7 +154,7 @@ void frmMain::CreaBarre() {
 void frmMain::CreaBarraStato() {
     statusBar()->setObjectName("StatusBar");
     barre->addStatic("stcHelp", "Pronto...", 1);
-    barre->addProgress("stcProgress", "Avanzamento");
+    barre->addProgress("stcProgress", Words::tr("Avanzamento"));
     barre->addStatic("stcData", {}, 0);
     AggiornaData();
     new ui::DatabaseWait([this](const QString& testo) { MostraAttesa(testo); }, this);

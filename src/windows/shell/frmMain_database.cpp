@@ -9,6 +9,7 @@
 #include "platform/ado/Connection.h"
 #include "platform/jet/Database.h"
 #include "platform/system/OutputFile.h"
+#include "platform/text/Words.h"
 #include "platform/ui/DataControl.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
@@ -61,7 +62,7 @@ void frmMain::ApriDatabase() {
 
 void frmMain::SalvaDatabase() {
     const auto destinazione = ui::FileDialog::save(bVAR::MailingSalva, "Database Mailing List *.mdb|*.mdb",
-                                                   "Copia di " + NomeDaPercorso(percorsoDB));
+                                                   Words::tr("Copia di ") + NomeDaPercorso(percorsoDB));
     if (!destinazione) fallisci(ErrorCode::CancelSelected);
     PuntatoreAttesa();
     CopiaDatabase(percorsoDB, *destinazione);

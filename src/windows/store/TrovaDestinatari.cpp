@@ -6,6 +6,7 @@
 
 #include "modules/core/bGlobal.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FindBar.h"
 #include "platform/ui/GridSearch.h"
@@ -13,16 +14,14 @@
 #include "windows/store/frmGruppi.h"
 #include "windows/store/griglia.h"
 
-const QStringList TrovaDestinatari::luoghi{"In questa cartella", "Ovunque"};
+QStringList TrovaDestinatari::Luoghi() {
+    return {Words::tr("In questa cartella"), Words::tr("Ovunque")};
+}
 
 namespace {
 
 QString Conta(qint64 quanti) {
     return text::formatGrouped(static_cast<double>(quanti));
-}
-
-QString Cartelle(qint64 quante) {
-    return quante == 1 ? QStringLiteral("1 cartella") : Conta(quante) + " cartelle";
 }
 
 }  // namespace
@@ -119,7 +118,7 @@ void TrovaDestinatari::Rinuncia(const QString& motivo) {
     lavoro.stop();
     ovunque.reset();
     meta = Meta::Nessuna;
-    rinuncia = "Ricerca non riuscita: " + motivo;
+    rinuncia = Words::tr("Ricerca non riuscita: %1").arg(motivo);
     Racconta();
 }
 
@@ -207,18 +206,20 @@ bool TrovaDestinatari::AllaCartella(bool indietro) {
 QString TrovaDestinatari::EsitoCartella() const {
     const std::vector<int>& righe = inGriglia.rows();
     const auto quante = static_cast<qint64>(righe.size());
-    if (inGriglia.underWay()) return Conta(quante) + " trovati, ricerca in corso…";
-    if (righe.empty()) return "Nessun risultato";
+    if (inGriglia.underWay())
+        return Words::tr("%Ln trovati, ricerca in corso…", nullptr, static_cast<int>(quante));
+    if (righe.empty()) return Words::tr("Nessun risultato");
     const auto posto = std::lower_bound(righe.begin(), righe.end(), principale.grd.Row());
     if (posto != righe.end() && *posto == principale.grd.Row())
-        return Conta(posto - righe.begin() + 1) + " di " + Conta(quante);
-    return quante == 1 ? QStringLiteral("1 trovato") : Conta(quante) + " trovati";
+        return Words::tr("%1 di %2").arg(Conta(posto - righe.begin() + 1), Conta(quante));
+    return Words::tr("%Ln trovati", nullptr, static_cast<int>(quante));
 }
 
 QString TrovaDestinatari::EsitoOvunque() const {
     const qint64 tutti = ovunque->Trovati();
-    if (lavoro.underWay()) return Conta(tutti) + " trovati, ricerca in corso…";
-    if (tutti == 0) return "Nessun risultato";
+    if (lavoro.underWay())
+        return Words::tr("%Ln trovati, ricerca in corso…", nullptr, static_cast<int>(tutti));
+    if (tutti == 0) return Words::tr("Nessun risultato");
     qint64 perduti = tutti;
     qint64 cartelle = 0;
     for (const auto& [id, quanti] : ovunque->PerCartella()) {
@@ -226,9 +227,10 @@ QString TrovaDestinatari::EsitoOvunque() const {
         perduti -= quanti;
         ++cartelle;
     }
-    QString esito = Conta(tutti) + " in " + Cartelle(cartelle);
-    if (perduti > 0) esito += ", " + Conta(perduti) + " in cartelle perdute";
-    if (!inGriglia.underWay() && !inGriglia.rows().empty()) esito += "; qui " + EsitoCartella();
+    QString esito = Words::tr("%1 in %Ln cartelle", nullptr, static_cast<int>(cartelle)).arg(Conta(tutti));
+    if (perduti > 0) esito += Words::tr(", %1 in cartelle perdute").arg(Conta(perduti));
+    if (!inGriglia.underWay() && !inGriglia.rows().empty())
+        esito += Words::tr("; qui %1").arg(EsitoCartella());
     return esito;
 }
 

@@ -24,7 +24,7 @@ class TrovaDestinatari : public QObject {
   public:
     /// Indexes of the places to look, as the bar lists them.
     enum Dove { InCartella, Ovunque };
-    static const QStringList luoghi;
+    static QStringList Luoghi();
 
     TrovaDestinatari(const Principale& finestra, ui::FindBar& barra, QObject* parent);
 

@@ -8,6 +8,7 @@
 
 #include "modules/store/Destinatario.h"
 #include "modules/store/RecordsetDB.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/PropertyList.h"
@@ -44,13 +45,12 @@ frmDestinatario::frmDestinatario(QWidget* parent)
 
 void frmDestinatario::CreaVoci() {
     prp->addGroup("Datidestinatario", "Dati destinatario");
-    prp->addBoolean("Spedire", "Send", "Il destinatario è compreso nel prossimo invio");
+    prp->addBoolean("Spedire", "Send", Words::tr("Il destinatario è compreso nel prossimo invio"));
     for (const schema::Campo campo : schema::ordineIstruzioni) {
         if (campo == schema::campo1) prp->addGroup("Altro", "Altro");
         const auto& [chiave, descrizione] = vociDestinatario[campo];
-        prp->addText(
-            chiave, griglia::Intestazione(campo),
-            QStringLiteral("%1 (max %2 caratteri)").arg(descrizione).arg(schema::testi[campo].massimo));
+        prp->addText(chiave, griglia::Intestazione(campo),
+                     Words::tr(descrizione).arg(schema::testi[campo].massimo));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/store/nodo.h"
 #include "platform/ado/Recordset.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Evento.h"
 #include "windows/core/Puntatore.h"
@@ -35,7 +36,7 @@ frmGruppi::frmGruppi(const Principale& finestra, QWidget* parent)
     TREE->setImage("Mailing", "server-database");
     TREE->setImage("Close", "folder");
     TREE->setImage("Open", "folder-open");
-    TREE->setEmptyText("Nuova cartella: tasto destro sulla radice");
+    TREE->setEmptyText(Words::tr("Nuova cartella: tasto destro sulla radice"));
     auto* area = new QVBoxLayout(this);
     area->setContentsMargins(0, 0, 0, 0);
     area->addWidget(TREE);

@@ -11,6 +11,7 @@
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Puntatore.h"
@@ -64,8 +65,7 @@ QString NomeConDestinatari() {
         rs.setSource("SELECT * FROM [tb_destinatari] WHERE id_grp = " + NumeroNodoCorrente() + " ;");
         esigi(rs.open());
         const auto quanti = rs.recordCount();
-        return nodoCorrente->Text + ": " + text::formatGrouped(static_cast<double>(quanti)) +
-               (quanti == 1 ? " destinatario" : " destinatari");
+        return nodoCorrente->Text + ": " + Words::tr("%Ln destinatari", nullptr, static_cast<int>(quanti));
     });
 }
 

@@ -3,6 +3,7 @@
 #include <QShortcut>
 
 #include "modules/core/bGlobal.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "windows/core/Evento.h"
@@ -34,7 +35,8 @@ void frmGruppi::TagliaDestinatario() {
     if (griglia::MenuOra().isEmpty()) return;
     DimenticaTaglio();
     tagliato = Taglio{false, griglia::idCorrente()};
-    Racconta("Destinatario da spostare: " + griglia::SegnaRiga() + ". Ctrl+V su una cartella lo sposta");
+    Racconta(Words::tr("Destinatario da spostare: %1. Ctrl+V su una cartella lo sposta")
+                 .arg(griglia::SegnaRiga()));
 }
 
 void frmGruppi::TagliaGruppo() {
@@ -42,7 +44,8 @@ void frmGruppi::TagliaGruppo() {
     DimenticaTaglio();
     tagliato = Taglio{true, nodoCorrente->Key};
     TREE->setMarked(TREE->Node(nodoCorrente->Key));
-    Racconta("Cartella da spostare: " + nodoCorrente->Text + ". Ctrl+V su un'altra cartella la sposta");
+    Racconta(
+        Words::tr("Cartella da spostare: %1. Ctrl+V su un'altra cartella la sposta").arg(nodoCorrente->Text));
 }
 
 /// The mark goes with the move, whatever comes of it.
@@ -54,12 +57,13 @@ void frmGruppi::Incolla() {
     if (!taglio.gruppo) {
         SpostaDestinatario(taglio.chiave, nodo);
         griglia::ScegliRiga(taglio.chiave);
-        Racconta("Destinatario spostato in " + nodo->Text());
+        Racconta(Words::tr("Destinatario spostato in %1").arg(nodo->Text()));
         return;
     }
     const bool spostato = taglio.chiave != nodo->Key() && SpostaGruppo(taglio.chiave, nodo);
-    Racconta(spostato ? "Cartella spostata in " + nodo->Text()
-                      : "La cartella non può essere spostata in " + nodo->Text());
+    Racconta((spostato ? Words::tr("Cartella spostata in %1")
+                       : Words::tr("La cartella non può essere spostata in %1"))
+                 .arg(nodo->Text()));
 }
 
 void frmGruppi::DimenticaTaglio() {

@@ -13,6 +13,7 @@
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataControl.h"
@@ -32,7 +33,9 @@ using griglia::colonnaSel;
 constexpr int colonnaEmailInTabella = 3 + schema::email;
 constexpr int colonnaSelInTabella = schema::colonneDestinatari.size();
 
-const QString fraseVuota = QStringLiteral("Nessun destinatario in questa cartella");
+QString fraseVuota() {
+    return Words::tr("Nessun destinatario in questa cartella");
+}
 
 /// None before the first main window, and after the end of one.
 std::optional<Principale> collegata;
@@ -63,7 +66,7 @@ void grd_AfterDataRefresh() {
     grd().setTextMatrix(0, colonnaSel, "Send");
     for (const schema::Campo campo : schema::ordineIstruzioni)
         grd().setTextMatrix(0, griglia::ColonnaDi(campo), griglia::Intestazione(campo));
-    grd().setEmptyText(fraseVuota);
+    grd().setEmptyText(fraseVuota());
     FinestraDellaGriglia().AggiornaComandi();
 }
 
@@ -93,10 +96,11 @@ void grd_DblClick() {
 /// Tells in the status bar what a heading's arrow shows.
 void grd_OrderChanged() {
     const auto& ordine = grd().sorted();
-    QString testo = "Ordine dell'elenco";
+    QString testo = Words::tr("Ordine dell'elenco");
     if (ordine)
-        testo = "Ordinati per " + grd().TextMatrix(0, ordine->column) +
-                (ordine->direction == Qt::AscendingOrder ? ", crescente" : ", decrescente");
+        testo = (ordine->direction == Qt::AscendingOrder ? Words::tr("Ordinati per %1, crescente")
+                                                         : Words::tr("Ordinati per %1, decrescente"))
+                    .arg(grd().TextMatrix(0, ordine->column));
     ui::StaticItem& stcHelp = *FinestraDellaGriglia().Commands.GetStatic("stcHelp");
     stcHelp.setText(testo);
     stcHelp.announce();
@@ -179,18 +183,18 @@ void griglia::RinfrescaGriglia() {
 }
 
 void griglia::SegnaNonLetta() {
-    grd().setNotice("Impossibile leggere i destinatari di questa cartella");
+    grd().setNotice(Words::tr("Impossibile leggere i destinatari di questa cartella"));
 }
 
 void griglia::AggiornaFrase() {
-    if (grd().Rows() > 1 || grd().EmptyText() != fraseVuota) return;
+    if (grd().Rows() > 1 || grd().EmptyText() != fraseVuota()) return;
     const bool vuota = ripiega(true, [] {
         ado::Recordset rs = RecordsetDB();
         rs.setSource(FinestraDellaGriglia().Adodc.RecordSource());
         esigi(rs.open());
         return rs.isEof();
     });
-    if (!vuota) grd().setEmptyText("Fai clic sulla cartella per vedere i destinatari");
+    if (!vuota) grd().setEmptyText(Words::tr("Fai clic sulla cartella per vedere i destinatari"));
 }
 
 QString griglia::SegnaRiga() {

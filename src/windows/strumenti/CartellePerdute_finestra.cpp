@@ -7,6 +7,7 @@
 #include "modules/core/Fallimento.h"
 #include "modules/strumenti/Giro.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/ListQuestion.h"
 #include "platform/ui/MessageDialog.h"
@@ -29,24 +30,23 @@ CartellePerdute TrovaPerdute() {
     return {AlberoCartelle::Leggi(), conta};
 }
 
-QString QuantiDi(qint64 numero, const char* uno, const char* molti) {
-    return text::formatGrouped(static_cast<double>(numero)) + ' ' +
-           QString::fromUtf8(numero == 1 ? uno : molti);
-}
-
 ui::ListQuestion::Content DomandaPerdute(const CartellePerdute& perdute) {
     ui::ListQuestion::Content domanda{
-        "Recupera cartelle perdute", {}, {"Cartella", "Destinatari", "Perché non si vede"}, {}, {}};
+        Words::tr("Recupera cartelle perdute"),
+        {},
+        {Words::tr("Cartella"), Words::tr("Destinatari"), Words::tr("Perché non si vede")},
+        {},
+        {}};
     for (std::size_t i = 0; i < perdute.voci.size() && i < vociElencate; ++i) {
         const CartellePerdute::Voce& voce = perdute.voci[i];
         domanda.rows << QStringList{voce.nome, text::formatGrouped(static_cast<double>(voce.destinatari)),
                                     voce.motivo};
     }
-    domanda.text = "L'albero non mostra " + QuantiDi(perdute.cartelle, "cartella", "cartelle") + " e " +
-                   QuantiDi(perdute.destinatari, "destinatario", "destinatari") +
-                   ".\r\nPortarli sotto \"Database Mailing\"?";
+    domanda.text = Words::tr("L'albero non mostra %1 e %2.\r\nPortarli sotto \"Database Mailing\"?")
+                       .arg(Words::tr("%Ln cartelle", nullptr, static_cast<int>(perdute.cartelle)),
+                            Words::tr("%Ln destinatari", nullptr, static_cast<int>(perdute.destinatari)));
     if (perdute.voci.size() > vociElencate)
-        domanda.text += "\r\nL'elenco mostra le prime " + QString::number(vociElencate) + " righe.";
+        domanda.text += "\r\n" + Words::tr("L'elenco mostra le prime %1 righe.").arg(vociElencate);
     return domanda;
 }
 
@@ -57,8 +57,8 @@ void RecuperaPerdute(const ViciniDestinatari& vicini) {
     const bool riuscito = prosegui([&] {
         const CartellePerdute perdute = TrovaPerdute();
         if (perdute.voci.empty()) {
-            MessageDialog::show("Nessuna cartella è perduta: l'albero le mostra tutte.",
-                                MessageDialog::Notice, "Recupera cartelle perdute");
+            MessageDialog::show(Words::tr("Nessuna cartella è perduta: l'albero le mostra tutte."),
+                                MessageDialog::Notice, Words::tr("Recupera cartelle perdute"));
             return;
         }
         if (MessageDialog::askAbout(DomandaPerdute(perdute)) == MessageDialog::No) return;
@@ -71,6 +71,6 @@ void RecuperaPerdute(const ViciniDestinatari& vicini) {
         if (!recuperate) fallisci(static_cast<ErrorCode>(prosegui.numero()), motivo);
     });
     if (riuscito) return;
-    MessageDialog::show("Impossibile recuperare tutte le cartelle.\r\n" + prosegui.testo(),
-                        MessageDialog::Notice, "Recupera cartelle perdute");
+    MessageDialog::show(Words::tr("Impossibile recuperare tutte le cartelle.") + "\r\n" + prosegui.testo(),
+                        MessageDialog::Notice, Words::tr("Recupera cartelle perdute"));
 }

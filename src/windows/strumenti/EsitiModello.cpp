@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/mail/SmtpReply.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -53,7 +54,8 @@ QVariant EsitiModello::data(const QModelIndex& index, int role) const {
 
 QVariant EsitiModello::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    static const QStringList teste{"Data e ora", "Indirizzo", "Esito", "Motivo", "Risposta del server"};
+    const QStringList teste{Words::tr("Data e ora"), Words::tr("Indirizzo"), Words::tr("Esito"),
+                            Words::tr("Motivo"), Words::tr("Risposta del server")};
     return teste.value(section);
 }
 

@@ -8,6 +8,7 @@
 #include "modules/store/AlberoCartelle.h"
 #include "modules/strumenti/Giro.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Busy.h"
 #include "platform/ui/ListQuestion.h"
 #include "platform/ui/MessageDialog.h"
@@ -35,34 +36,34 @@ QString CartellaDi(const IndirizziDoppi::Destinatario& destinatario, const Alber
     const bool raggiunta = !destinatario.senzaGruppo && albero.Raggiunta(destinatario.gruppo);
     if (raggiunta) return albero.Percorso(destinatario.gruppo);
     const QString nome = destinatario.senzaGruppo ? QString() : albero.Percorso(destinatario.gruppo);
-    return nome.isEmpty() ? QStringLiteral("(cartella perduta)") : nome + " (cartella perduta)";
-}
-
-QString Quanti(std::size_t numero) {
-    return text::formatGrouped(static_cast<double>(numero));
+    return nome.isEmpty() ? Words::tr("(cartella perduta)") : Words::tr("%1 (cartella perduta)").arg(nome);
 }
 
 ui::ListQuestion::Content DomandaDoppi(const Doppi& doppi, const AlberoCartelle& albero) {
     ui::ListQuestion::Content domanda{
-        "Indirizzi doppi", {}, {"Indirizzo", "Cartella", "Numero", "Con \"Sì\""}, {}, {}};
+        Words::tr("Indirizzi doppi"),
+        {},
+        {Words::tr("Indirizzo"), Words::tr("Cartella"), Words::tr("Numero"), Words::tr("Con \"Sì\"")},
+        {},
+        {}};
     std::size_t inPiu = 0;
     for (const IndirizziDoppi::Doppio& doppio : doppi) {
         inPiu += doppio.destinatari.size() - 1;
         for (const IndirizziDoppi::Destinatario& uno : doppio.destinatari) {
             if (domanda.rows.size() >= righeElencate) break;
             const bool primo = &uno == &doppio.destinatari.front();
-            domanda.rows << QStringList{doppio.indirizzo, CartellaDi(uno, albero), QString::number(uno.id),
-                                        primo ? "Resta selezionato" : "Viene deselezionato"};
+            domanda.rows << QStringList{
+                doppio.indirizzo, CartellaDi(uno, albero), QString::number(uno.id),
+                primo ? Words::tr("Resta selezionato") : Words::tr("Viene deselezionato")};
         }
     }
-    domanda.text = doppi.size() == 1 ? QStringLiteral("1 indirizzo è selezionato più di una volta.")
-                                     : Quanti(doppi.size()) + " indirizzi sono selezionati più di una volta.";
-    domanda.text += inPiu == 1
-                        ? QStringLiteral("\r\nDeselezionare il doppione?")
-                        : "\r\nDeselezionare i " + Quanti(inPiu) + " doppioni, uno escluso per indirizzo?";
+    domanda.text = Words::tr("%Ln indirizzi sono selezionati più di una volta.", nullptr,
+                             static_cast<int>(doppi.size()));
+    domanda.text += "\r\n" + Words::tr("Deselezionare i %Ln doppioni, uno escluso per indirizzo?", nullptr,
+                                       static_cast<int>(inPiu));
     if (domanda.rows.size() < qsizetype(inPiu) + qsizetype(doppi.size()))
-        domanda.text += "\r\nL'elenco mostra i primi " +
-                        Quanti(static_cast<std::size_t>(domanda.rows.size())) + " destinatari.";
+        domanda.text += "\r\n" + Words::tr("L'elenco mostra i primi %1 destinatari.")
+                                     .arg(text::formatGrouped(static_cast<double>(domanda.rows.size())));
     return domanda;
 }
 
@@ -73,8 +74,8 @@ void ControllaDoppi(const ViciniDestinatari& vicini) {
     const bool riuscito = prosegui([&] {
         const Doppi doppi = TrovaDoppi();
         if (doppi.empty()) {
-            MessageDialog::show("Nessun indirizzo è selezionato più di una volta.", MessageDialog::Notice,
-                                "Indirizzi doppi");
+            MessageDialog::show(Words::tr("Nessun indirizzo è selezionato più di una volta."),
+                                MessageDialog::Notice, Words::tr("Indirizzi doppi"));
             return;
         }
         if (MessageDialog::askAbout(DomandaDoppi(doppi, AlberoCartelle::Leggi())) == MessageDialog::No)
@@ -85,6 +86,6 @@ void ControllaDoppi(const ViciniDestinatari& vicini) {
         vicini.RinfrescaGriglia();
     });
     if (riuscito) return;
-    MessageDialog::show("Impossibile controllare gli indirizzi.\r\n" + prosegui.testo(),
-                        MessageDialog::Notice, "Indirizzi doppi");
+    MessageDialog::show(Words::tr("Impossibile controllare gli indirizzi.") + "\r\n" + prosegui.testo(),
+                        MessageDialog::Notice, Words::tr("Indirizzi doppi"));
 }

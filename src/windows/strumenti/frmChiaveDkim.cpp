@@ -9,6 +9,7 @@
 
 #include "modules/strumenti/RecordChiave.h"
 #include "platform/mail/DkimKey.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
@@ -41,27 +42,30 @@ frmChiaveDkim::frmChiaveDkim(const QByteArray& dominio, const mail::DkimKey& chi
                              QWidget* parent)
     : QDialog(parent), annuncio(new ui::Announcer(this)) {
     setObjectName("frmChiaveDkim");
-    setWindowTitle(" Chiave DKIM di " + QString::fromLatin1(dominio));
+    setWindowTitle(Words::tr(" Chiave DKIM di %1").arg(QString::fromLatin1(dominio)));
     RilevaTema(this);
     const RecordChiave record = RecordDi(dominio, chiave);
     ui::DialogForm modulo(this);
     auto* spiegazione = ui::named(
         new QLabel(
-            nuova ? "La chiave è stata creata. Pubblicare nel DNS del dominio un record TXT con questo "
-                    "nome e questo valore, poi premere Controlla."
-                  : "Il dominio ha già una chiave, che resta com'è. Questo è il record TXT da pubblicare nel "
-                    "suo DNS.",
+            nuova ? Words::tr(
+                        "La chiave è stata creata. Pubblicare nel DNS del dominio un record TXT con questo "
+                        "nome e questo valore, poi premere Controlla.")
+                  : Words::tr("Il dominio ha già una chiave, che resta com'è. Questo è il record TXT da "
+                              "pubblicare nel "
+                              "suo DNS."),
             this),
         "lblSpiegazione");
     spiegazione->setWordWrap(true);
     setAccessibleDescription(spiegazione->text());
     modulo.addField({}, spiegazione);
-    modulo.addField("Selettore:", campoFermo("txtSelettore", QString::fromLatin1(chiave.selector), this));
-    modulo.addField("Nome del record:", campoFermo("txtNome", record.nome, this));
-    modulo.addField("Valore:", testoFermo("txtValore", record.valore, this));
-    modulo.addField("Riga per un file di zona:", testoFermo("txtZona", record.rigaDiZona, this));
-    const auto copia = [&](const char* didascalia, const char* nome, const QString& testo,
-                           const char* detto) {
+    modulo.addField(Words::tr("Selettore:"),
+                    campoFermo("txtSelettore", QString::fromLatin1(chiave.selector), this));
+    modulo.addField(Words::tr("Nome del record:"), campoFermo("txtNome", record.nome, this));
+    modulo.addField(Words::tr("Valore:"), testoFermo("txtValore", record.valore, this));
+    modulo.addField(Words::tr("Riga per un file di zona:"), testoFermo("txtZona", record.rigaDiZona, this));
+    const auto copia = [&](const QString& didascalia, const char* nome, const QString& testo,
+                           const QString& detto) {
         QPushButton* const pulsante = modulo.addButton(didascalia, nome);
         connect(pulsante, &QPushButton::clicked, this, [this, testo, detto] {
             evento([&] {
@@ -71,11 +75,12 @@ frmChiaveDkim::frmChiaveDkim(const QByteArray& dominio, const mail::DkimKey& chi
         });
         return pulsante;
     };
-    copia("Copia &nome", "cmdCopiaNome", record.nome, "Il nome è negli appunti.");
-    QPushButton* const valore =
-        copia("Copia &valore", "cmdCopiaValore", record.valore, "Il valore è negli appunti.");
-    copia("Copia riga di &zona", "cmdCopiaZona", record.rigaDiZona, "La riga è negli appunti.");
-    QPushButton* const cmdChiudi = modulo.addButton("&Chiudi", "cmdChiudi");
+    copia(Words::tr("Copia &nome"), "cmdCopiaNome", record.nome, Words::tr("Il nome è negli appunti."));
+    QPushButton* const valore = copia(Words::tr("Copia &valore"), "cmdCopiaValore", record.valore,
+                                      Words::tr("Il valore è negli appunti."));
+    copia(Words::tr("Copia riga di &zona"), "cmdCopiaZona", record.rigaDiZona,
+          Words::tr("La riga è negli appunti."));
+    QPushButton* const cmdChiudi = modulo.addButton(Words::tr("&Chiudi"), "cmdChiudi");
     connect(cmdChiudi, &QPushButton::clicked, this, [this] { evento([this] { accept(); }); });
     modulo.finish(valore, 680);
     valore->setFocus();

@@ -13,6 +13,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/MessageDialog.h"
@@ -29,7 +30,7 @@ frmControlloMittente::frmControlloMittente(QWidget* parent)
       controllo({[this](int riga) { evento([&] { ScriviRiga(riga); }); },
                  [this] { evento([this] { Finito(); }); }}) {
     setObjectName("frmControlloMittente");
-    setWindowTitle(" Controllo del mittente");
+    setWindowTitle(Words::tr(" Controllo del mittente"));
     RilevaTema(this);
     CreaControlli();
     DisponiControlli();
@@ -53,11 +54,11 @@ void frmControlloMittente::CaricaDati() {
     MostraDettagli();
     AbilitaControlli();
     if (cmbAccount->count() == 0)
-        Avvisa("Nessun account: crearne uno con File, Imposta Account.");
+        Avvisa(Words::tr("Nessun account: crearne uno con File, Imposta Account."));
     else if (!letto)
-        Avvisa("Il file degli account è danneggiato: si vedono solo quelli prima del guasto.");
+        Avvisa(Words::tr("Il file degli account è danneggiato: si vedono solo quelli prima del guasto."));
     else
-        Avvisa("Scegliere un account e premere Controlla.");
+        Avvisa(Words::tr("Scegliere un account e premere Controlla."));
     cmbAccount->setFocus();
 }
 
@@ -72,7 +73,7 @@ void frmControlloMittente::cmdControlla_Click() {
     QString password;
     if (scelto->chkUsaSMTP == "1" && scelto->chkAutentick == "1") {
         ui::WaitNotice attesa(
-            "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+            Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
         password = portachiavi::PasswordDi(*scelto, [&](auto passato) { return attesa.goOn(passato); });
         attesa.over();
     }
@@ -84,7 +85,7 @@ void frmControlloMittente::cmdControlla_Click() {
         Finito();
         return;
     }
-    Avvisa("Controllo in corso… Esc per interrompere.");
+    Avvisa(Words::tr("Controllo in corso… Esc per interrompere."));
     grdRighe->setFocus();
 }
 
@@ -104,8 +105,7 @@ void frmControlloMittente::ScriviRiga(int riga) {
     const RigaControllo& contenuto = controllo.Righe().at(static_cast<std::size_t>(riga));
     const bool interrotta = contenuto.semaforo == Semaforo::Attesa && !controllo.InCorso();
     grdRighe->item(riga, 0)->setText(contenuto.controllo);
-    grdRighe->item(riga, 1)->setText(interrotta ? QStringLiteral("Interrotto")
-                                                : ParolaDi(contenuto.semaforo));
+    grdRighe->item(riga, 1)->setText(interrotta ? Words::tr("Interrotto") : ParolaDi(contenuto.semaforo));
     grdRighe->item(riga, 1)->setIcon(SegnoDi(contenuto.semaforo));
     grdRighe->item(riga, 2)->setText(contenuto.frase);
     grdRighe->resizeRowToContents(riga);
@@ -131,13 +131,11 @@ void frmControlloMittente::Finito() {
         gialle += riga.semaforo == Semaforo::Giallo;
     }
     AbilitaControlli();
-    const auto quante = [](int numero) {
-        return numero == 1 ? QStringLiteral("1 riga") : QStringLiteral("%1 righe").arg(numero);
-    };
+    const auto quante = [](int numero) { return Words::tr("%n righe", nullptr, numero); };
     if (rosse + gialle == 0)
-        Avvisa("Controllo finito: tutto in ordine.");
+        Avvisa(Words::tr("Controllo finito: tutto in ordine."));
     else
-        Avvisa(QStringLiteral("Controllo finito: %1 da correggere, %2 con attenzione.")
+        Avvisa(Words::tr("Controllo finito: %1 da correggere, %2 con attenzione.")
                    .arg(quante(rosse), quante(gialle)));
 }
 
@@ -147,7 +145,7 @@ void frmControlloMittente::Interrompi() {
     for (int riga = 0; riga < grdRighe->rowCount(); ++riga)
         ScriviRiga(riga);
     AbilitaControlli();
-    Avvisa("Controllo interrotto.");
+    Avvisa(Words::tr("Controllo interrotto."));
 }
 
 void frmControlloMittente::AbilitaControlli() {
@@ -176,7 +174,7 @@ void frmControlloMittente::cmdChiave_Click() {
         MessageDialog::show(testo, MessageDialog::Notice, bVAR::Attenzione);
     };
     if (dominio.isEmpty()) {
-        avvisa("L'indirizzo email dell'account non è valido.");
+        avvisa(Words::tr("L'indirizzo email dell'account non è valido."));
         return;
     }
     const QString cartella = cartellaDati() + "dkim";
@@ -185,16 +183,17 @@ void frmControlloMittente::cmdChiave_Click() {
     const bool nuova = !chiave.ok() && !mail::hasDkimFiles(cartella, dominio);
     if (nuova) {
         const int risposta = MessageDialog::show(
-            QStringLiteral("Creare una chiave DKIM per %1?\r\nDa quel momento i messaggi di questo dominio "
-                           "vengono firmati; la firma vale quando il suo record è pubblicato.")
+            Words::tr("Creare una chiave DKIM per %1?\r\nDa quel momento i messaggi di questo dominio "
+                      "vengono firmati; la firma vale quando il suo record è pubblicato.")
                 .arg(nome),
-            MessageDialog::AskQuestion, "Chiave DKIM");
+            MessageDialog::AskQuestion, Words::tr("Chiave DKIM"));
         if (risposta != MessageDialog::Yes) return;
         chiave = mail::createDkimKey(cartella, dominio);
     }
     if (!chiave.ok()) {
         avvisa(nuova ? chiave.status().text()
-                     : chiave.status().text() + "\r\nI file della chiave non sono stati cambiati.");
+                     : chiave.status().text() + "\r\n" +
+                           Words::tr("I file della chiave non sono stati cambiati."));
         return;
     }
     frmChiaveDkim(dominio, chiave.value(), nuova, this).exec();
@@ -212,7 +211,7 @@ QString frmControlloMittente::Rapporto() const {
 
 void frmControlloMittente::cmdCopia_Click() {
     QGuiApplication::clipboard()->setText(Rapporto());
-    Avvisa("Il rapporto è negli appunti.");
+    Avvisa(Words::tr("Il rapporto è negli appunti."));
 }
 
 void frmControlloMittente::cmdChiudi_Click() {

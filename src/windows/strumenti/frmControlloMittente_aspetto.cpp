@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "windows/core/bTheme.h"
@@ -29,19 +30,20 @@ class RigheStaccate : public QStyledItemDelegate {
 
 void frmControlloMittente::CreaControlli() {
     // In the order in which the keyboard goes round them.
-    lblAccount = ui::named(new QLabel("&Account mittente:", this), "lblAccount");
+    lblAccount = ui::named(new QLabel(Words::tr("&Account mittente:"), this), "lblAccount");
     cmbAccount = ui::named(new QComboBox(this), "cmbAccount");
     cmbAccount->setMinimumHeight(ui::fieldHeight);
     cmbAccount->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cmdControlla = ui::commandButton("C&ontrolla", "cmdControlla", this);
-    cmdInterrompi = ui::commandButton("&Interrompi", "cmdInterrompi", this);
+    cmdControlla = ui::commandButton(Words::tr("C&ontrolla"), "cmdControlla", this);
+    cmdInterrompi = ui::commandButton(Words::tr("&Interrompi"), "cmdInterrompi", this);
     lblEsito = ui::named(new QLabel(this), "lblEsito");
     lblEsito->setTextFormat(Qt::PlainText);
     lblEsito->setWordWrap(true);
     grdRighe = ui::named(new QTableWidget(0, 3, this), "grdRighe");
-    grdRighe->setHorizontalHeaderLabels({"Controllo", "Esito", "Che cosa fare"});
-    grdRighe->setAccessibleName("Righe del controllo");
+    grdRighe->setHorizontalHeaderLabels(
+        {Words::tr("Controllo"), Words::tr("Esito"), Words::tr("Che cosa fare")});
+    grdRighe->setAccessibleName(Words::tr("Righe del controllo"));
     grdRighe->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdRighe->setSelectionBehavior(QAbstractItemView::SelectRows);
     grdRighe->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -56,21 +58,22 @@ void frmControlloMittente::CreaControlli() {
     grdRighe->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     grdRighe->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     grdRighe->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
-    lblDettagli = ui::named(new QLabel("D&ettagli:", this), "lblDettagli");
+    lblDettagli = ui::named(new QLabel(Words::tr("D&ettagli:"), this), "lblDettagli");
     txtDettagli = ui::named(new QPlainTextEdit(this), "txtDettagli");
     txtDettagli->setReadOnly(true);
     txtDettagli->setTabChangesFocus(true);
     txtDettagli->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     txtDettagli->setFixedHeight(fontMetrics().lineSpacing() * 6 + ui::windowMargin);
-    cmdChiave = ui::commandButton("Crea chiave &DKIM...", "cmdChiave", this);
-    cmdCopia = ui::commandButton("Copia &tutto", "cmdCopia", this);
-    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
+    cmdChiave = ui::commandButton(Words::tr("Crea chiave &DKIM..."), "cmdChiave", this);
+    cmdCopia = ui::commandButton(Words::tr("Copia &tutto"), "cmdCopia", this);
+    cmdChiudi = ui::commandButton(Words::tr("&Chiudi"), "cmdChiudi", this);
     annuncio = new ui::Announcer(this);
     lblAccount->setBuddy(cmbAccount);
     cmbAccount->setAccessibleName(ui::spokenCaption(lblAccount->text()));
     lblDettagli->setBuddy(txtDettagli);
     txtDettagli->setAccessibleName(ui::spokenCaption(lblDettagli->text()));
-    cmdChiave->setAccessibleDescription("Crea la chiave con cui firmare i messaggi, o mostra quella che c'è");
+    cmdChiave->setAccessibleDescription(
+        Words::tr("Crea la chiave con cui firmare i messaggi, o mostra quella che c'è"));
 }
 
 void frmControlloMittente::DisponiControlli() {

@@ -16,6 +16,7 @@
 
 #include "modules/core/bGlobal.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/LineEdit.h"
@@ -36,7 +37,7 @@ QString NomeInvio(const mail::outcomes::Run& uno) {
     if (!uno.head.title.isEmpty()) nome += "  " + uno.head.title;
     if (!uno.head.sender.isEmpty()) nome += "  (" + uno.head.sender + ')';
     if (!uno.head.database.path.isEmpty() && !uno.head.database.same(mail::DatabaseFile::at(percorsoDB)))
-        nome += "  – database " + QFileInfo(uno.head.database.path).fileName();
+        nome += "  – " + Words::tr("database ") + QFileInfo(uno.head.database.path).fileName();
     return nome;
 }
 
@@ -45,7 +46,7 @@ QString NomeInvio(const mail::outcomes::Run& uno) {
 frmEsiti::frmEsiti(std::function<void()> riempiGriglia, QWidget* parent)
     : QDialog(parent), RiempiGriglia(std::move(riempiGriglia)) {
     setObjectName("frmEsiti");
-    setWindowTitle(" Esito degli invii");
+    setWindowTitle(Words::tr(" Esito degli invii"));
     RilevaTema(this);
     CreaControlli();
     Disponi();
@@ -55,42 +56,44 @@ frmEsiti::frmEsiti(std::function<void()> riempiGriglia, QWidget* parent)
 }
 
 void frmEsiti::CreaControlli() {
-    const auto elenco = [this](const char* nome, const char* parlato) {
+    const auto elenco = [this](const char* nome, const QString& parlato) {
         auto* controllo = ui::named(new QComboBox(this), nome);
         controllo->setMinimumHeight(ui::fieldHeight);
         controllo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         controllo->setAccessibleName(parlato);
         return controllo;
     };
-    const auto pulsante = [this](const char* nome, const char* testo) {
+    const auto pulsante = [this](const char* nome, const QString& testo) {
         return ui::commandButton(testo, nome, this);
     };
     // In the order in which the keyboard goes round them.
-    cmbInvio = elenco("cmbInvio", "Invio");
-    cmdElimina = pulsante("cmdElimina", "&Elimina");
-    cmdEliminaTutti = pulsante("cmdEliminaTutti", "Elimina &tutti");
-    cmbEsito = elenco("cmbEsito", "Esito");
-    cmbMotivo = elenco("cmbMotivo", "Motivo");
+    cmbInvio = elenco("cmbInvio", Words::tr("Invio"));
+    cmdElimina = pulsante("cmdElimina", Words::tr("&Elimina"));
+    cmdEliminaTutti = pulsante("cmdEliminaTutti", Words::tr("Elimina &tutti"));
+    cmbEsito = elenco("cmbEsito", Words::tr("Esito"));
+    cmbMotivo = elenco("cmbMotivo", Words::tr("Motivo"));
     txtCerca = ui::named(new ui::LineEdit({}, this), "txtCerca");
     txtCerca->setMinimumHeight(ui::fieldHeight);
     txtCerca->setClearButtonEnabled(true);
-    txtCerca->setPlaceholderText("Indirizzo o risposta");
-    txtCerca->setAccessibleName("Trova");
+    txtCerca->setPlaceholderText(Words::tr("Indirizzo o risposta"));
+    txtCerca->setAccessibleName(Words::tr("Trova"));
     tabella = ui::named(new QTableView(this), "tabella");
-    tabella->setAccessibleName("Destinatari dell'invio");
+    tabella->setAccessibleName(Words::tr("Destinatari dell'invio"));
     lblRiassunto = ui::named(new QLabel(this), "lblRiassunto");
     lblRiassunto->setTextFormat(Qt::PlainText);
     lblRiassunto->setWordWrap(true);
-    chkRegistro = ui::named(new QCheckBox("&Registra l'esito dei prossimi invii", this), "chkRegistro");
-    chkRegistro->setToolTip("Restano gli ultimi 50 invii, nella cartella \"esiti\" dei dati del programma");
-    cmdSeleziona = pulsante("cmdSeleziona", "&Seleziona questi per il prossimo invio");
-    cmdCopia = pulsante("cmdCopia", "C&opia");
-    cmdSalva = pulsante("cmdSalva", "Sal&va CSV...");
-    cmdDeseleziona = pulsante("cmdDeseleziona", "&Deseleziona gli indirizzi inesistenti");
+    chkRegistro =
+        ui::named(new QCheckBox(Words::tr("&Registra l'esito dei prossimi invii"), this), "chkRegistro");
+    chkRegistro->setToolTip(
+        Words::tr("Restano gli ultimi 50 invii, nella cartella \"esiti\" dei dati del programma"));
+    cmdSeleziona = pulsante("cmdSeleziona", Words::tr("&Seleziona questi per il prossimo invio"));
+    cmdCopia = pulsante("cmdCopia", Words::tr("C&opia"));
+    cmdSalva = pulsante("cmdSalva", Words::tr("Sal&va CSV..."));
+    cmdDeseleziona = pulsante("cmdDeseleziona", Words::tr("&Deseleziona gli indirizzi inesistenti"));
     cmdDeseleziona->setToolTip(
-        "Quelli che il server del destinatario ha rifiutato come inesistenti\n"
-        "(codici 5.1.1, 5.1.2, 5.1.3, 5.1.6 e 5.1.10)");
-    cmdChiudi = pulsante("cmdChiudi", "&Chiudi");
+        Words::tr("Quelli che il server del destinatario ha rifiutato come inesistenti\n"
+                  "(codici 5.1.1, 5.1.2, 5.1.3, 5.1.6 e 5.1.10)"));
+    cmdChiudi = pulsante("cmdChiudi", Words::tr("&Chiudi"));
     cmdChiudi->setDefault(true);
 
     modello = new EsitiModello(this);
@@ -115,7 +118,7 @@ void frmEsiti::CreaControlli() {
 void frmEsiti::Disponi() {
     auto* invii = new QHBoxLayout;
     invii->setSpacing(ui::controlSpacing);
-    auto* etichetta = new QLabel("I&nvio:", this);
+    auto* etichetta = new QLabel(Words::tr("I&nvio:"), this);
     etichetta->setBuddy(cmbInvio);
     invii->addWidget(etichetta);
     invii->addWidget(cmbInvio, 1);
@@ -137,15 +140,15 @@ void frmEsiti::Disponi() {
 QLayout* frmEsiti::DisponiFiltri() {
     auto* filtri = new QHBoxLayout;
     filtri->setSpacing(ui::controlSpacing);
-    const auto aggiungi = [&](const char* testo, QWidget* controllo, int parte) {
+    const auto aggiungi = [&](const QString& testo, QWidget* controllo, int parte) {
         auto* etichetta = new QLabel(testo, this);
         etichetta->setBuddy(controllo);
         filtri->addWidget(etichetta);
         filtri->addWidget(controllo, parte);
     };
-    aggiungi("Es&ito:", cmbEsito, 2);
-    aggiungi("&Motivo:", cmbMotivo, 3);
-    aggiungi("Trov&a:", txtCerca, 2);
+    aggiungi(Words::tr("Es&ito:"), cmbEsito, 2);
+    aggiungi(Words::tr("&Motivo:"), cmbMotivo, 3);
+    aggiungi(Words::tr("Trov&a:"), txtCerca, 2);
     return filtri;
 }
 
@@ -233,14 +236,14 @@ void frmEsiti::RiempiFiltri() {
     }
     const QSignalBlocker fermi[] = {QSignalBlocker(cmbEsito), QSignalBlocker(cmbMotivo)};
     cmbEsito->clear();
-    cmbEsito->addItem("Tutti");
+    cmbEsito->addItem(Words::tr("Tutti"));
     for (size_t i = 0; i < esiti.size(); ++i)
         if (esiti[i] > 0)
             cmbEsito->addItem(
                 QString("%1 (%2)").arg(TestoEsito(static_cast<mail::OutcomeKind>(i)), Numero(esiti[i])),
                 static_cast<int>(i));
     cmbMotivo->clear();
-    cmbMotivo->addItem("Tutti");
+    cmbMotivo->addItem(Words::tr("Tutti"));
     for (size_t i = 1; i < motivi.size(); ++i)
         if (motivi[i] > 0)
             cmbMotivo->addItem(
@@ -274,19 +277,21 @@ void frmEsiti::AggiornaComandi() {
 QString frmEsiti::Riassunto() const {
     if (!guasto.isEmpty()) return guasto;
     if (cmbInvio->count() == 0)
-        return "Nessun invio registrato. L'esito di ogni destinatario compare qui dopo il prossimo invio.";
+        return Words::tr(
+            "Nessun invio registrato. L'esito di ogni destinatario compare qui dopo il prossimo invio.");
     QStringList frasi;
     frasi << (filtro->rowCount() == modello->rowCount()
-                  ? Numero(modello->rowCount()) + " destinatari."
-                  : QString("%1 di %2 destinatari.")
+                  ? Words::tr("%Ln destinatari.", nullptr, modello->rowCount())
+                  : Words::tr("%1 di %2 destinatari.")
                         .arg(Numero(filtro->rowCount()), Numero(modello->rowCount())));
-    if (invio.rovinate == 1) frasi << "Una riga del registro è rovinata e non viene mostrata.";
-    if (invio.rovinate > 1)
-        frasi << Numero(invio.rovinate) + " righe del registro sono rovinate e non vengono mostrate.";
+    if (invio.rovinate > 0)
+        frasi << Words::tr("%Ln righe del registro sono rovinate e non vengono mostrate.", nullptr,
+                           static_cast<int>(invio.rovinate));
     if (invio.interrotto)
-        frasi << "Il registro si interrompe a metà di una riga: il programma è terminato durante l'invio.";
+        frasi << Words::tr(
+            "Il registro si interrompe a metà di una riga: il programma è terminato durante l'invio.");
     const auto delDatabase = [](const esiti::Riga& riga) { return riga.delDatabase; };
     if (modello->rowCount() > 0 && std::ranges::none_of(modello->Righe(), delDatabase))
-        frasi << "L'invio è di un altro database: la selezione non si può cambiare da qui.";
+        frasi << Words::tr("L'invio è di un altro database: la selezione non si può cambiare da qui.");
     return frasi.join(' ');
 }

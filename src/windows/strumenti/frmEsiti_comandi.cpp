@@ -12,6 +12,7 @@
 #include "modules/lang/bVAR.h"
 #include "platform/system/OutputFile.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Puntatore.h"
@@ -29,10 +30,6 @@ void Avvisa(const QString& testo) {
 bool Chiedi(const QString& testo) {
     return MessageDialog::show(testo, MessageDialog::AskNotice, bVAR::Attenzione, MessageDialog::No) ==
            MessageDialog::Yes;
-}
-
-QString Quanti(qint64 numero, const QString& uno, const QString& molti) {
-    return numero == 1 ? uno : molti.arg(text::formatGrouped(static_cast<double>(numero)));
 }
 
 Status Scrivi(const QString& percorso, const QByteArray& byte) {
@@ -71,32 +68,34 @@ void frmEsiti::cmdCopia_Click() {
 }
 
 void frmEsiti::cmdSalva_Click() {
-    const auto percorso =
-        ui::FileDialog::save("Salva l'esito dell'invio", "File CSV (*.csv)|*.csv|", "esito.csv");
+    const auto percorso = ui::FileDialog::save(Words::tr("Salva l'esito dell'invio"),
+                                               Words::tr("File CSV (*.csv)|*.csv|"), "esito.csv");
     if (!percorso) return;
     const Status scritto = Scrivi(*percorso, esiti::Csv(Mostrate()));
-    if (!scritto.ok()) Avvisa("Il file non si può scrivere:\r\n" + *percorso + "\r\n" + scritto.text());
+    if (!scritto.ok())
+        Avvisa(Words::tr("Il file non si può scrivere:") + "\r\n" + *percorso + "\r\n" + scritto.text());
 }
 
 void frmEsiti::cmdSeleziona_Click() {
     const QList<esiti::Riga> righe = Scelte();
     const auto serviti = std::ranges::count_if(
         righe, [](const esiti::Riga& riga) { return riga.esito.kind == mail::OutcomeKind::Delivered; });
-    if (serviti > 0 && !Chiedi(Quanti(serviti, "Uno di questi destinatari ha già ricevuto il messaggio.",
-                                      "%1 di questi destinatari hanno già ricevuto il messaggio.") +
-                               "\r\nSelezionarli tutti lo stesso?"))
+    if (serviti > 0 && !Chiedi(Words::tr("%Ln di questi destinatari hanno già ricevuto il messaggio.",
+                                         nullptr, static_cast<int>(serviti)) +
+                               "\r\n" + Words::tr("Selezionarli tutti lo stesso?")))
         return;
     Cambia(righe, true);
 }
 
 void frmEsiti::cmdDeseleziona_Click() {
     const esiti::Inesistenti trovati = esiti::CercaInesistenti(modello->Righe());
-    if (trovati.righe.isEmpty()) return Avvisa("In questo invio nessun indirizzo è risultato inesistente.");
+    if (trovati.righe.isEmpty())
+        return Avvisa(Words::tr("In questo invio nessun indirizzo è risultato inesistente."));
     if (trovati.troppi() &&
         !Chiedi(
-            QString("In questo invio %1 destinatari su %2 risultano inesistenti.\r\nQuando sono più della "
-                    "metà la causa è spesso un'altra: un server che rifiuta ogni destinatario, o il "
-                    "mittente bloccato.\r\nDeselezionarli lo stesso?")
+            Words::tr("In questo invio %1 destinatari su %2 risultano inesistenti.\r\nQuando sono più della "
+                      "metà la causa è spesso un'altra: un server che rifiuta ogni destinatario, o il "
+                      "mittente bloccato.\r\nDeselezionarli lo stesso?")
                 .arg(text::formatGrouped(double(trovati.righe.size())),
                      text::formatGrouped(double(trovati.destinatari)))))
         return;
@@ -110,29 +109,31 @@ void frmEsiti::Cambia(const QList<esiti::Riga>& righe, bool selezionati) {
     const bool riuscito = prosegui([&] { cambiati = esiti::Seleziona(righe, selezionati); });
     PuntatorePredefinito();
     if (nodoCorrente) RiempiGriglia();
-    if (!riuscito) return Avvisa("La selezione non si può cambiare:\r\n" + prosegui.testo());
+    if (!riuscito) return Avvisa(Words::tr("La selezione non si può cambiare:") + "\r\n" + prosegui.testo());
     QStringList frasi;
-    frasi << (selezionati ? Quanti(cambiati.cambiati, "Un destinatario è stato selezionato.",
-                                   "%1 destinatari sono stati selezionati.")
-                          : Quanti(cambiati.cambiati, "Un destinatario è stato deselezionato.",
-                                   "%1 destinatari sono stati deselezionati."));
-    if (cambiati.giaCosi > 0) frasi << Quanti(cambiati.giaCosi, "Uno lo era già.", "%1 lo erano già.");
+    frasi << (selezionati ? Words::tr("%Ln destinatari sono stati selezionati.", nullptr,
+                                      static_cast<int>(cambiati.cambiati))
+                          : Words::tr("%Ln destinatari sono stati deselezionati.", nullptr,
+                                      static_cast<int>(cambiati.cambiati)));
+    if (cambiati.giaCosi > 0)
+        frasi << Words::tr("%Ln lo erano già.", nullptr, static_cast<int>(cambiati.giaCosi));
     if (cambiati.nonTrovati > 0)
-        frasi << Quanti(cambiati.nonTrovati,
-                        "Uno non è stato toccato: non c'è più, o il suo indirizzo è cambiato.",
-                        "%1 non sono stati toccati: non ci sono più, o il loro indirizzo è cambiato.");
+        frasi << Words::tr("%Ln non sono stati toccati: non ci sono più, o il loro indirizzo è cambiato.",
+                           nullptr, static_cast<int>(cambiati.nonTrovati));
     Avvisa(frasi.join("\r\n"));
 }
 
 void frmEsiti::cmdElimina_Click() {
-    if (!Chiedi("Eliminare il registro di questo invio?\r\nI destinatari restano come sono.")) return;
+    if (!Chiedi(Words::tr("Eliminare il registro di questo invio?\r\nI destinatari restano come sono.")))
+        return;
     const Status tolto = mail::outcomes::remove(cmbInvio->currentData().toString());
     if (!tolto.ok()) Avvisa(tolto.text());
     Carica();
 }
 
 void frmEsiti::cmdEliminaTutti_Click() {
-    if (!Chiedi("Eliminare il registro di tutti gli invii?\r\nI destinatari restano come sono.")) return;
+    if (!Chiedi(Words::tr("Eliminare il registro di tutti gli invii?\r\nI destinatari restano come sono.")))
+        return;
     const Status tolti = mail::outcomes::removeAll(esiti::Cartella());
     if (!tolti.ok()) Avvisa(tolti.text());
     Carica();

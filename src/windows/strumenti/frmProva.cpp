@@ -17,6 +17,7 @@
 #include "platform/html/HtmlView.h"
 #include "platform/mail/Composer.h"
 #include "platform/mail/DeliveryControl.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
@@ -28,7 +29,7 @@
 frmProva::frmProva(Vicini intorno, QWidget* parent)
     : QDialog(parent), vicini(std::move(intorno)), compositore(std::make_unique<mail::Composer>()) {
     setObjectName("frmProva");
-    setWindowTitle(" Prova messaggio");
+    setWindowTitle(Words::tr(" Prova messaggio"));
     RilevaTema(this);
     CreaControlli();
     DisponiControlli();
@@ -72,7 +73,7 @@ void frmProva::Lascia() {
 }
 
 void frmProva::CreaControlli() {
-    const auto etichetta = [this](const char* nome, const char* testo) {
+    const auto etichetta = [this](const char* nome, const QString& testo) {
         return ui::named(new QLabel(testo, this), nome);
     };
     const auto soloLettura = [this](const char* nome) {
@@ -81,34 +82,34 @@ void frmProva::CreaControlli() {
         return campo;
     };
     // In the order in which the keyboard goes round them.
-    lblFile = etichetta("lblFile", "File messaggio:");
+    lblFile = etichetta("lblFile", Words::tr("File messaggio:"));
     cmbFile = ui::choiceField("cmbFile", {}, this);
     cmdFile = ui::commandButton("...", "cmdFile", this);
-    lblDestinatario = etichetta("lblDestinatario", "Destinatario:");
+    lblDestinatario = etichetta("lblDestinatario", Words::tr("Destinatario:"));
     txtDestinatario = soloLettura("txtDestinatario");
-    cmdPrecedente = ui::commandButton("&Precedente", "cmdPrecedente", this);
-    cmdSuccessivo = ui::commandButton("&Successivo", "cmdSuccessivo", this);
-    lblCerca = etichetta("lblCerca", "Cerca:");
+    cmdPrecedente = ui::commandButton(Words::tr("&Precedente"), "cmdPrecedente", this);
+    cmdSuccessivo = ui::commandButton(Words::tr("&Successivo"), "cmdSuccessivo", this);
+    lblCerca = etichetta("lblCerca", Words::tr("Cerca:"));
     txtCerca = ui::textField("txtCerca", this);
-    cmdCerca = ui::commandButton("Ce&rca", "cmdCerca", this);
+    cmdCerca = ui::commandButton(Words::tr("Ce&rca"), "cmdCerca", this);
     lblStato = etichetta("lblStato", "");
-    lblOggetto = etichetta("lblOggetto", "Oggetto:");
+    lblOggetto = etichetta("lblOggetto", Words::tr("Oggetto:"));
     txtOggetto = soloLettura("txtOggetto");
     schede = ui::named(new ui::TabStrip(this), "schede");
     HTML = ui::named(new HtmlView(HtmlView::Mode::Browse), "HTML");
     TESTO = ui::named(new QPlainTextEdit, "TESTO");
     lblAllegati = etichetta("lblAllegati", "");
-    lblRilievi = etichetta("lblRilievi", "Rilievi:");
+    lblRilievi = etichetta("lblRilievi", Words::tr("Rilievi:"));
     lstRilievi = ui::named(new QListWidget(this), "lstRilievi");
-    cmdVai = ui::commandButton("&Vai al primo", "cmdVai", this);
-    lblAccount = etichetta("lblAccount", "Account mittente:");
+    cmdVai = ui::commandButton(Words::tr("&Vai al primo"), "cmdVai", this);
+    lblAccount = etichetta("lblAccount", Words::tr("Account mittente:"));
     cmbAccount = ui::choiceField("cmbAccount", {}, this);
-    lblIndirizzo = etichetta("lblIndirizzo", "Indirizzo della prova:");
+    lblIndirizzo = etichetta("lblIndirizzo", Words::tr("Indirizzo della prova:"));
     txtIndirizzo = ui::textField("txtIndirizzo", this);
     lblEsito = etichetta("lblEsito", "");
-    cmdInviaProva = ui::commandButton("&Invia una copia di prova", "cmdInviaProva", this);
-    cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
-    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
+    cmdInviaProva = ui::commandButton(Words::tr("&Invia una copia di prova"), "cmdInviaProva", this);
+    cmdAnnulla = ui::commandButton(Words::tr("&Annulla"), "cmdAnnulla", this);
+    cmdChiudi = ui::commandButton(Words::tr("&Chiudi"), "cmdChiudi", this);
     voce = new ui::Announcer(this);
     tmrControllo = ui::named(new QTimer(this), "tmrControllo");
     tmrRicerca = ui::named(new QTimer(this), "tmrRicerca");
@@ -199,9 +200,9 @@ QLayout* frmProva::DisponiScelte() {
 
 QWidget* frmProva::DisponiMessaggio() {
     schede->addView(HTML, "HTML", "text-html");
-    schede->addView(TESTO, "Solo testo", "view-list-text");
-    schede->setTabToolTip(0, "Il messaggio come lo vede il destinatario");
-    schede->setTabToolTip(1, "Il messaggio come lo legge chi non vede l'HTML");
+    schede->addView(TESTO, Words::tr("Solo testo"), "view-list-text");
+    schede->setTabToolTip(0, Words::tr("Il messaggio come lo vede il destinatario"));
+    schede->setTabToolTip(1, Words::tr("Il messaggio come lo legge chi non vede l'HTML"));
     schede->setColours({coloreTema(9), coloreTema(10), coloreTema(1)});
     auto* parte = new QWidget(this);
     auto* colonna = new QVBoxLayout(parte);
@@ -247,15 +248,17 @@ void frmProva::CollegaEtichette() {
     collega(lblRilievi, lstRilievi);
     collega(lblAccount, cmbAccount);
     collega(lblIndirizzo, txtIndirizzo);
-    cmdFile->setAccessibleName("Sfoglia il messaggio");
-    cmdCerca->setAccessibleName("Cerca il destinatario");
-    HTML->setAccessibleName("Messaggio in HTML");
-    TESTO->setAccessibleName("Messaggio di solo testo");
-    schede->setAccessibleName("Forme del messaggio");
-    cmdPrecedente->setAccessibleDescription("Mostra il messaggio del destinatario selezionato precedente");
-    cmdSuccessivo->setAccessibleDescription("Mostra il messaggio del destinatario selezionato successivo");
-    cmdAnnulla->setAccessibleDescription("Interrompe l'invio della copia di prova");
-    cmdVai->setAccessibleDescription("Mostra il primo destinatario di questo rilievo");
+    cmdFile->setAccessibleName(Words::tr("Sfoglia il messaggio"));
+    cmdCerca->setAccessibleName(Words::tr("Cerca il destinatario"));
+    HTML->setAccessibleName(Words::tr("Messaggio in HTML"));
+    TESTO->setAccessibleName(Words::tr("Messaggio di solo testo"));
+    schede->setAccessibleName(Words::tr("Forme del messaggio"));
+    cmdPrecedente->setAccessibleDescription(
+        Words::tr("Mostra il messaggio del destinatario selezionato precedente"));
+    cmdSuccessivo->setAccessibleDescription(
+        Words::tr("Mostra il messaggio del destinatario selezionato successivo"));
+    cmdAnnulla->setAccessibleDescription(Words::tr("Interrompe l'invio della copia di prova"));
+    cmdVai->setAccessibleDescription(Words::tr("Mostra il primo destinatario di questo rilievo"));
 }
 
 void frmProva::CollegaEventi() {

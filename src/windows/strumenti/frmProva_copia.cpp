@@ -17,6 +17,7 @@
 #include "platform/html/HtmlView.h"
 #include "platform/mail/Composer.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/FileDialog.h"
 #include "windows/strumenti/frmProva.h"
@@ -49,7 +50,7 @@ void frmProva::CaricaFile() {
 
 void frmProva::cmdFile_Click() {
     const auto percorso =
-        ui::FileDialog::open(bVAR::goApriEmail.isEmpty() ? QString("Apri messaggio") : bVAR::goApriEmail,
+        ui::FileDialog::open(bVAR::goApriEmail.isEmpty() ? Words::tr("Apri messaggio") : bVAR::goApriEmail,
                              "Message File (*.mss)|*.mss");
     if (!percorso) return;
     if (!file.contains(*percorso)) {
@@ -63,7 +64,8 @@ void frmProva::cmdFile_Click() {
 /// Reads the file that is chosen, anew each time, and shows it for the recipient on show.
 void frmProva::UsaFile() {
     modello.reset();
-    QString motivo = "Nessun messaggio: salvarne uno nell'editor o sceglierlo con il pulsante \"...\".";
+    QString motivo =
+        Words::tr("Nessun messaggio: salvarne uno nell'editor o sceglierlo con il pulsante \"...\".");
     if (cmbFile->currentIndex() >= 0) {
         Result<ModelloProva> letto = LeggiModelloProva(file.value(cmbFile->currentIndex()));
         if (letto.ok())
@@ -107,13 +109,14 @@ void frmProva::MostraDestinatario(qint64 nuova) {
     });
     if (!copia) copia = CopiaProva{modello->testi, {}, {}};
     if (!letto)
-        Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
+        Racconta(*lblStato, Words::tr("I destinatari non si possono leggere: %1").arg(prosegui.testo()));
     else if (selezionati < 1)
-        Racconta(*lblStato, "Nessun destinatario è selezionato: il messaggio si vede con i suoi segnaposto.");
+        Racconta(*lblStato,
+                 Words::tr("Nessun destinatario è selezionato: il messaggio si vede con i suoi segnaposto."));
     else
         lblStato->clear();
     if (riga >= 0 && letto && selezionati > 0)
-        chi = QStringLiteral("%1 di %2:  ").arg(conta(riga + 1), conta(selezionati)) + copia->nome + " <" +
+        chi = Words::tr("%1 di %2").arg(conta(riga + 1), conta(selezionati)) + ":  " + copia->nome + " <" +
               copia->indirizzo + '>';
     txtDestinatario->setText(chi);
     txtDestinatario->setCursorPosition(0);
@@ -129,7 +132,7 @@ void frmProva::MostraCopia(const CopiaProva& mostrata) {
     txtOggetto->setCursorPosition(0);
     TESTO->setPlainText(FormaTesto(mostrata.testi));
     if (const Status messo = HTML->setDocumentHTML(FormaHtml(*modello, mostrata.testi)); !messo.ok())
-        Racconta(*lblStato, "Questa copia non si può mostrare: " + messo.text());
+        Racconta(*lblStato, Words::tr("Questa copia non si può mostrare: %1").arg(messo.text()));
     MostraAllegati(mostrata);
     if (controllo || controlloFinito) MostraRilievi();
 }
@@ -140,21 +143,21 @@ void frmProva::MostraAllegati(const CopiaProva& mostrata) {
         voci << PercorsoMostrato(allegato.nome) +
                     (allegato.presente
                          ? " (" + QLocale().formattedDataSize(QFileInfo(allegato.percorso).size()) + ')'
-                         : QString(" (non c'è)"));
+                         : " (" + Words::tr("non c'è") + ')');
     lblAllegati->setText(
-        (voci.isEmpty() ? QString("Nessun allegato.") : "Allegati: " + voci.join(", ") + '.') + "  " +
-        DimensioneMessaggio(mostrata));
+        (voci.isEmpty() ? Words::tr("Nessun allegato.") : Words::tr("Allegati: %1.").arg(voci.join(", "))) +
+        "  " + DimensioneMessaggio(mostrata));
 }
 
 /// The size of the whole mail as it travels; a sentence why there is none.
 QString frmProva::DimensioneMessaggio(const CopiaProva& mostrata) const {
     const Account* mittente = MittenteScelto();
-    if (!mittente) return "Dimensione non nota: manca l'account mittente.";
+    if (!mittente) return Words::tr("Dimensione non nota: manca l'account mittente.");
     mail::MessageData dati = DatiMessaggio(*modello, mostrata, *mittente, {});
     if (riga < 0) dati.ToAddress = mittente->txtEmail;
     const auto composto = compositore->compose(dati);
-    if (!composto.ok()) return "Il messaggio non può partire: " + composto.status().text();
-    return "Messaggio intero: " + QLocale().formattedDataSize(composto.value().text.size()) + '.';
+    if (!composto.ok()) return Words::tr("Il messaggio non può partire: %1").arg(composto.status().text());
+    return Words::tr("Messaggio intero: %1.").arg(QLocale().formattedDataSize(composto.value().text.size()));
 }
 
 /// Looks for the text in every column of the selected recipients, from the one behind that on show on, round
@@ -170,10 +173,11 @@ void frmProva::Cerca() {
             if (rigaRicerca > 0) esigi(ricerca->move(rigaRicerca));
         })) {
         ricerca.reset();
-        return Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
+        return Racconta(*lblStato,
+                        Words::tr("I destinatari non si possono leggere: %1").arg(prosegui.testo()));
     }
     vistiRicerca = 0;
-    lblStato->setText("Ricerca in corso…");
+    lblStato->setText(Words::tr("Ricerca in corso…"));
     tmrRicerca->start(0);
 }
 
@@ -203,7 +207,11 @@ void frmProva::ContinuaRicerca() {
     if (letto && !trovato && !finita) return;
     tmrRicerca->stop();
     ricerca.reset();
-    if (!letto) return Racconta(*lblStato, "I destinatari non si possono leggere: " + prosegui.testo());
-    if (!trovato) return Racconta(*lblStato, "Nessun destinatario selezionato contiene \"" + cercato + "\".");
+    if (!letto)
+        return Racconta(*lblStato,
+                        Words::tr("I destinatari non si possono leggere: %1").arg(prosegui.testo()));
+    if (!trovato)
+        return Racconta(*lblStato,
+                        Words::tr("Nessun destinatario selezionato contiene \"%1\".").arg(cercato));
     MostraDestinatario(rigaRicerca);
 }

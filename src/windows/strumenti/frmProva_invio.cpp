@@ -13,6 +13,7 @@
 #include "platform/mail/DeliveryControl.h"
 #include "platform/mail/ServerVerdict.h"
 #include "platform/text/Blanks.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/WaitNotice.h"
 #include "windows/core/DomandaFile.h"
@@ -76,19 +77,21 @@ void frmProva::AbilitaInvio() {
 void frmProva::cmdInviaProva_Click() {
     const Account* mittente = MittenteScelto();
     const QString indirizzo = text::trimBlanks(txtIndirizzo->text()).toString();
-    if (!modello || !copia) return Racconta(*lblEsito, "Scegliere un messaggio prima di inviare la prova.");
+    if (!modello || !copia)
+        return Racconta(*lblEsito, Words::tr("Scegliere un messaggio prima di inviare la prova."));
     if (!mittente)
-        return Racconta(*lblEsito, "Nessun account: crearne uno con il comando \"Imposta Account\".");
+        return Racconta(*lblEsito,
+                        Words::tr("Nessun account: crearne uno con il comando \"Imposta Account\"."));
     const auto casella = mail::parseAddrSpec(indirizzo);
     if (!casella.ok()) {
         txtIndirizzo->setFocus();
-        return Racconta(*lblEsito, "L'indirizzo della prova non è valido.");
+        return Racconta(*lblEsito, Words::tr("L'indirizzo della prova non è valido."));
     }
-    if (!ChiediFile()) return Racconta(*lblEsito, "La prova non è stata inviata.");
+    if (!ChiediFile()) return Racconta(*lblEsito, Words::tr("La prova non è stata inviata."));
 
     Prosegui prosegui;
     ui::WaitNotice attesa(
-        "In attesa del portachiavi… Esc per rinunciare", [](const QString&) {}, nullptr);
+        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
     const QString password =
         portachiavi::PasswordDi(*mittente, [&](auto passato) { return attesa.goOn(passato); });
     attesa.over();
@@ -99,7 +102,7 @@ void frmProva::cmdInviaProva_Click() {
     prova->ToAddress = indirizzo;
     inInvio = true;
     AbilitaInvio();
-    Racconta(*lblEsito, "Invio della prova a " + indirizzo + "… Esc per interrompere.");
+    Racconta(*lblEsito, Words::tr("Invio della prova a %1… Esc per interrompere.").arg(indirizzo));
     if (StradaDiretta(*mittente)) return InviaDiretta(casella.value().domain);
     UsaServerAccount(*prova, *mittente, password, prosegui);
     prova->Send();
@@ -126,10 +129,9 @@ bool frmProva::ChiediFile() {
     prova->FilesToCarry = concessi;
     const QList<FileInPartenza> chiesti = DaChiedere(tutti);
     if (chiesti.isEmpty()) return true;
-    return ui::MessageDialog::askAbout(
-               DomandaFile(chiesti,
-                           "La copia di prova porta con sé questi file di questo computer.\r\n"
-                           "Vuoi inviarli?")) != ui::MessageDialog::No;
+    return ui::MessageDialog::askAbout(DomandaFile(
+               chiesti, Words::tr("La copia di prova porta con sé questi file di questo computer.\r\n"
+                                  "Vuoi inviarli?"))) != ui::MessageDialog::No;
 }
 
 void frmProva::AnnullaInvio() {
@@ -137,7 +139,7 @@ void frmProva::AnnullaInvio() {
     ricercaMX.Annulla();
     inInvio = false;
     AbilitaInvio();
-    Racconta(*lblEsito, "La prova non è stata consegnata. Invio interrotto.");
+    Racconta(*lblEsito, Words::tr("La prova non è stata consegnata. Invio interrotto."));
 }
 
 void frmProva::FineInvio(bool consegnata) {
@@ -146,12 +148,12 @@ void frmProva::FineInvio(bool consegnata) {
     const mail::DeliveryOutcome& esito = prova->LastOutcome();
     QString parole = esito.code ? QString::number(esito.code) + ' ' + esito.text : esito.text;
     parole = parole.trimmed();
-    QString testo = consegnata
-                        ? "La prova è stata accettata dal server per " + QString(prova->ToAddress) + '.'
-                        : QString("La prova non è stata consegnata.");
+    QString testo =
+        consegnata ? Words::tr("La prova è stata accettata dal server per %1.").arg(QString(prova->ToAddress))
+                   : Words::tr("La prova non è stata consegnata.");
     if (const QString verdetto = mail::verdictOf(esito); !verdetto.isEmpty())
         testo += ' ' + verdetto;
     else if (!parole.isEmpty())
-        testo += (esito.code ? " Il server ha risposto: " : " ") + parole;
+        testo += ' ' + (esito.code ? Words::tr("Il server ha risposto: %1").arg(parole) : parole);
     Racconta(*lblEsito, testo);
 }

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "modules/core/Fallimento.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "windows/strumenti/frmProva.h"
 
@@ -64,8 +65,9 @@ void frmProva::MostraRilievi() {
         if (copia) rilievi += RilieviCopia(copia->testi);
         if (controllo && controlloFinito) rilievi += RilieviCampi(*controllo);
         if (!guastoControllo.isEmpty())
-            rilievi.append({Rilievo::Peso::Grave,
-                            "I campi dei destinatari non si possono controllare: " + guastoControllo});
+            rilievi.append(
+                {Rilievo::Peso::Grave,
+                 Words::tr("I campi dei destinatari non si possono controllare: %1").arg(guastoControllo)});
         rilievi = PerPeso(rilievi);
     }
     lstRilievi->clear();
@@ -73,11 +75,11 @@ void frmProva::MostraRilievi() {
         lstRilievi->addItem(new QListWidgetItem(style()->standardIcon(segnoDi(rilievo.peso)),
                                                 NomePeso(rilievo.peso) + ": " + rilievo.testo));
     if (!rilievi.isEmpty()) lstRilievi->setCurrentRow(qBound(0, scelto, int(rilievi.size()) - 1));
-    QString titolo = "Rilievi:";
+    QString titolo = Words::tr("Rilievi:");
     if (modello)
-        titolo = !controlloFinito    ? QString("Rilievi (controllo dei destinatari in corso):")
-                 : rilievi.isEmpty() ? QString("Rilievi: nessuno")
-                                     : "Rilievi: " + QString::number(rilievi.size());
+        titolo = !controlloFinito    ? Words::tr("Rilievi (controllo dei destinatari in corso):")
+                 : rilievi.isEmpty() ? Words::tr("Rilievi: nessuno")
+                                     : Words::tr("Rilievi: %1").arg(rilievi.size());
     lblRilievi->setText(titolo);
     AbilitaVai();
 }

@@ -13,6 +13,7 @@
 
 #include "modules/import/UltimaImportazione.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Words.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogForm.h"
 #include "platform/ui/DialogFrame.h"
@@ -30,17 +31,19 @@ QString Numerato(qint64 numero) {
 }
 
 QString Riassunto(const UltimaImportazione& resoconto) {
-    if (!resoconto.Avvenuta()) return "Dall'avvio del programma non è stata fatta nessuna importazione.";
-    QString testo = "Da " + resoconto.Origine() + ", " +
-                    QLocale().toString(resoconto.Quando(), QLocale::ShortFormat) + ".\nImportate " +
-                    Numerato(resoconto.Importate()) + ", rifiutate " + Numerato(resoconto.Rifiutate()) + '.';
+    if (!resoconto.Avvenuta())
+        return Words::tr("Dall'avvio del programma non è stata fatta nessuna importazione.");
+    QString testo =
+        Words::tr("Da %1, %2.\nImportate %3, rifiutate %4.")
+            .arg(resoconto.Origine(), QLocale().toString(resoconto.Quando(), QLocale::ShortFormat),
+                 Numerato(resoconto.Importate()), Numerato(resoconto.Rifiutate()));
     if (resoconto.Scritte() < resoconto.Importate())
-        testo += "\nNel database ne sono rimaste " + Numerato(resoconto.Scritte()) +
-                 ": le ultime non sono state scritte.";
+        testo += '\n' + Words::tr("Nel database ne sono rimaste %1: le ultime non sono state scritte.")
+                            .arg(Numerato(resoconto.Scritte()));
     const auto massimo = static_cast<qint64>(UltimaImportazione::massimo);
     if (resoconto.Importate() > massimo || resoconto.Rifiutate() > massimo)
-        testo += "\nL'elenco ha le prime " + Numerato(massimo) + " righe importate e le prime " +
-                 Numerato(massimo) + " rifiutate.";
+        testo += '\n' + Words::tr("L'elenco ha le prime %1 righe importate e le prime %1 rifiutate.")
+                            .arg(Numerato(massimo));
     return testo;
 }
 
@@ -49,23 +52,26 @@ QString Riassunto(const UltimaImportazione& resoconto) {
 frmUltimaImportazione::frmUltimaImportazione(QWidget* parent)
     : QDialog(parent),
       lblRiassunto((RilevaTema(this), ui::named(new QLabel(this), "lblRiassunto"))),
-      cmbMostra(ui::choiceField("cmbMostra", {"Righe rifiutate", "Righe importate", "Tutte le righe"}, this)),
+      cmbMostra(ui::choiceField(
+          "cmbMostra",
+          {Words::tr("Righe rifiutate"), Words::tr("Righe importate"), Words::tr("Tutte le righe")}, this)),
       lstRighe(ui::named(new QTreeWidget(this), "lstRighe")),
-      cmdCopia(ui::commandButton("Co&pia", "cmdCopia", this)),
-      cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
+      cmdCopia(ui::commandButton(Words::tr("Co&pia"), "cmdCopia", this)),
+      cmdChiudi(ui::commandButton(Words::tr("&Chiudi"), "cmdChiudi", this)) {
     setObjectName("frmUltimaImportazione");
-    setWindowTitle("Ultima importazione");
+    setWindowTitle(Words::tr("Ultima importazione"));
     lblRiassunto->setTextFormat(Qt::PlainText);
     lblRiassunto->setWordWrap(true);
-    lstRighe->setAccessibleName("Righe dell'ultima importazione");
+    lstRighe->setAccessibleName(Words::tr("Righe dell'ultima importazione"));
     lstRighe->setRootIsDecorated(false);
     lstRighe->setUniformRowHeights(true);
     lstRighe->setAllColumnsShowFocus(true);
-    lstRighe->setHeaderLabels({"Riga", "Esito", "Testo", "Motivo"});
+    lstRighe->setHeaderLabels(
+        {Words::tr("Riga"), Words::tr("Esito"), Words::tr("Testo"), Words::tr("Motivo")});
     lstRighe->header()->resizeSection(NumeroRiga, ui::scaledToFont(*this, 70));
     lstRighe->header()->resizeSection(Esito, ui::scaledToFont(*this, 90));
     lstRighe->header()->resizeSection(Testo, ui::scaledToFont(*this, 260));
-    auto* etichetta = new QLabel("&Mostra:", this);
+    auto* etichetta = new QLabel(Words::tr("&Mostra:"), this);
     etichetta->setBuddy(cmbMostra);
     cmbMostra->setAccessibleName(ui::spokenCaption(etichetta->text()));
     auto* scelta = new QHBoxLayout;
@@ -99,8 +105,9 @@ void frmUltimaImportazione::Mostra(const UltimaImportazione& resoconto) {
     lstRighe->clear();
     QList<QTreeWidgetItem*> voci;
     for (const UltimaImportazione::Riga& riga : resoconto.Righe()) {
-        auto* voce = new QTreeWidgetItem(
-            {Numerato(riga.numero), riga.importata ? "Importata" : "Rifiutata", riga.testo, riga.motivo});
+        auto* voce = new QTreeWidgetItem({Numerato(riga.numero),
+                                          riga.importata ? Words::tr("Importata") : Words::tr("Rifiutata"),
+                                          riga.testo, riga.motivo});
         // In a tag, so that a text that looks like markup is shown as it is.
         voce->setToolTip(Testo, "<span>" + riga.testo.toHtmlEscaped() + "</span>");
         voci << voce;
@@ -115,7 +122,7 @@ void frmUltimaImportazione::Filtra() {
     int mostrate = 0;
     for (int i = 0; i < lstRighe->topLevelItemCount(); ++i) {
         QTreeWidgetItem* voce = lstRighe->topLevelItem(i);
-        const bool importata = voce->text(Esito) == QLatin1String("Importata");
+        const bool importata = voce->text(Esito) == Words::tr("Importata");
         const bool mostrata = scelta == Tutte || importata == (scelta == SoloImportate);
         voce->setHidden(!mostrata);
         mostrate += mostrata;

@@ -1,0 +1,2497 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="it">
+<context>
+    <name>Vestrola</name>
+    <message>
+        <source>Scrivere di nuovo la password.</source>
+        <translation>Escriba de nuevo la contraseña.</translation>
+    </message>
+    <message>
+        <source>La password non è nota.</source>
+        <translation>No se conoce la contraseña.</translation>
+    </message>
+    <message>
+        <source>La password ha caratteri che il file degli account non può contenere.</source>
+        <translation>La contraseña tiene caracteres que el archivo de cuentas no admite.</translation>
+    </message>
+    <message>
+        <source>Resta nel portachiavi.</source>
+        <translation>Se queda en el llavero.</translation>
+    </message>
+    <message>
+        <source>Senza la spunta la password resta nel file degli account.</source>
+        <translation>Sin la marca, la contraseña se queda en el archivo de cuentas.</translation>
+    </message>
+    <message>
+        <source>Overflow</source>
+        <translation>Desbordamiento</translation>
+    </message>
+    <message>
+        <source>Indice non compreso nell&apos;intervallo</source>
+        <translation>Índice fuera del intervalo</translation>
+    </message>
+    <message>
+        <source>Tipo non corrispondente</source>
+        <translation>Los tipos no coinciden</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il file</source>
+        <translation>No se encontró el archivo</translation>
+    </message>
+    <message>
+        <source>Errore di I/O del dispositivo</source>
+        <translation>Error de E/S del dispositivo</translation>
+    </message>
+    <message>
+        <source>Input oltre la fine del file</source>
+        <translation>Lectura más allá del final del archivo</translation>
+    </message>
+    <message>
+        <source>Errore di accesso al percorso/file</source>
+        <translation>Error de acceso a la ruta o al archivo</translation>
+    </message>
+    <message>
+        <source>Uso non valido di Null</source>
+        <translation>Uso no válido de Null</translation>
+    </message>
+    <message>
+        <source>Nessun record corrente</source>
+        <translation>No hay registro actual</translation>
+    </message>
+    <message>
+        <source>Elemento non trovato nell&apos;insieme</source>
+        <translation>Elemento no encontrado en la colección</translation>
+    </message>
+    <message>
+        <source>È stato scelto Annulla</source>
+        <translation>Se eligió Cancelar</translation>
+    </message>
+    <message>
+        <source>Errore del programma</source>
+        <translation>Error del programa</translation>
+    </message>
+    <message>
+        <source>Riga %1: il campo %2 non c&apos;è; %3</source>
+        <translation>Línea %1: falta el campo %2; %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>inseriti %n destinatari</source>
+        <translation>
+            <numerusform>%n destinatario añadido</numerusform>
+            <numerusform>%n destinatarios añadidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Manca l&apos;indirizzo</source>
+        <translation>Falta la dirección</translation>
+    </message>
+    <message>
+        <source>Nell&apos;indirizzo manca &quot;@&quot;</source>
+        <translation>A la dirección le falta &quot;@&quot;</translation>
+    </message>
+    <message>
+        <source>Nell&apos;indirizzo manca il nome prima di &quot;@&quot;</source>
+        <translation>A la dirección le falta el nombre antes de &quot;@&quot;</translation>
+    </message>
+    <message>
+        <source>Nell&apos;indirizzo manca il dominio dopo &quot;@&quot;</source>
+        <translation>A la dirección le falta el dominio después de &quot;@&quot;</translation>
+    </message>
+    <message>
+        <source>L&apos;ultima parte dell&apos;indirizzo ha più di quattro caratteri</source>
+        <translation>La última parte de la dirección tiene más de cuatro caracteres</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo non è valido</source>
+        <translation>La dirección no es válida</translation>
+    </message>
+    <message>
+        <source>Destinatario numero %1: già servito, ma la sua riga non ha più quell&apos;indirizzo. Resta com&apos;è.</source>
+        <translation>Destinatario número %1: ya atendido, pero su fila ya no tiene esa dirección. Queda como está.</translation>
+    </message>
+    <message>
+        <source>cartelle perdute</source>
+        <translation>carpetas perdidas</translation>
+    </message>
+    <message numerus="yes">
+        <source>altre %n cartelle</source>
+        <translation>
+            <numerusform>%n carpeta más</numerusform>
+            <numerusform>%n carpetas más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Il registro di questo invio non c&apos;è più.</source>
+        <translation>El registro de este envío ya no existe.</translation>
+    </message>
+    <message>
+        <source>Il registro di questo invio è troppo grande per essere letto.</source>
+        <translation>El registro de este envío es demasiado grande para leerlo.</translation>
+    </message>
+    <message>
+        <source>Il registro di questo invio non si può leggere. %1</source>
+        <translation>No se puede leer el registro de este envío. %1</translation>
+    </message>
+    <message>
+        <source>La cartella &quot;%1&quot; non si può scrivere.</source>
+        <translation>No se puede escribir en la carpeta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Data e ora</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>Indirizzo</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Esito</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Motivo</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Codice</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Stato</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Risposta del server</source>
+        <translation>Respuesta del servidor</translation>
+    </message>
+    <message>
+        <source>Casella o indirizzo inesistente</source>
+        <translation>Buzón o dirección inexistente</translation>
+    </message>
+    <message>
+        <source>Casella disattivata</source>
+        <translation>Buzón desactivado</translation>
+    </message>
+    <message>
+        <source>Casella piena</source>
+        <translation>Buzón lleno</translation>
+    </message>
+    <message>
+        <source>Regole del server: spam, blocchi o limiti</source>
+        <translation>Reglas del servidor: spam, bloqueos o límites</translation>
+    </message>
+    <message>
+        <source>Mittente non accettato</source>
+        <translation>Remitente no aceptado</translation>
+    </message>
+    <message>
+        <source>Accesso all&apos;account non riuscito</source>
+        <translation>No se pudo acceder a la cuenta</translation>
+    </message>
+    <message>
+        <source>Tempo scaduto senza risposta</source>
+        <translation>Tiempo agotado sin respuesta</translation>
+    </message>
+    <message>
+        <source>Nessun server di posta per il dominio</source>
+        <translation>El dominio no tiene servidor de correo</translation>
+    </message>
+    <message>
+        <source>Server non raggiunto</source>
+        <translation>Servidor no alcanzado</translation>
+    </message>
+    <message>
+        <source>Connessione caduta o risposta non valida</source>
+        <translation>Conexión perdida o respuesta no válida</translation>
+    </message>
+    <message>
+        <source>Messaggio troppo grande</source>
+        <translation>Mensaje demasiado grande</translation>
+    </message>
+    <message>
+        <source>Rifiuto temporaneo: riprovare più tardi</source>
+        <translation>Rechazo temporal: vuelva a intentarlo más tarde</translation>
+    </message>
+    <message>
+        <source>Invio fermato</source>
+        <translation>Envío detenido</translation>
+    </message>
+    <message>
+        <source>Non spedito dal programma</source>
+        <translation>No enviado por el programa</translation>
+    </message>
+    <message>
+        <source>Altro rifiuto del server</source>
+        <translation>Otro rechazo del servidor</translation>
+    </message>
+    <message>
+        <source>Consegnato</source>
+        <translation>Entregado</translation>
+    </message>
+    <message>
+        <source>Rifiutato</source>
+        <translation>Rechazado</translation>
+    </message>
+    <message>
+        <source>Senza risposta</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message>
+        <source>Non spedito</source>
+        <translation>No enviado</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita per un problema temporaneo: %1.</source>
+        <translation>La búsqueda del servidor de correo falló por un problema temporal: %1.</translation>
+    </message>
+    <message>
+        <source>La risposta del DNS sul dominio del destinatario non si può usare: %1.</source>
+        <translation>La respuesta del DNS sobre el dominio del destinatario no se puede usar: %1.</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non ha un server di posta: %1.</source>
+        <translation>El dominio del destinatario no tiene servidor de correo: %1.</translation>
+    </message>
+    <message>
+        <source>Su questo computer non è configurato un server DNS.</source>
+        <translation>Este ordenador no tiene configurado ningún servidor DNS.</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non è valido.</source>
+        <translation>El dominio del destinatario no es válido.</translation>
+    </message>
+    <message>
+        <source>il server DNS non si può interrogare</source>
+        <translation>no se puede consultar el servidor DNS</translation>
+    </message>
+    <message>
+        <source>il server DNS non ha risposto in tempo</source>
+        <translation>el servidor DNS no respondió a tiempo</translation>
+    </message>
+    <message>
+        <source>il server DNS segnala un errore (SERVFAIL)</source>
+        <translation>el servidor DNS indica un error (SERVFAIL)</translation>
+    </message>
+    <message>
+        <source>il server DNS rifiuta la domanda (REFUSED)</source>
+        <translation>el servidor DNS rechaza la consulta (REFUSED)</translation>
+    </message>
+    <message>
+        <source>è troncata</source>
+        <translation>está truncada</translation>
+    </message>
+    <message>
+        <source>comincia con un alias (CNAME)</source>
+        <translation>empieza con un alias (CNAME)</translation>
+    </message>
+    <message>
+        <source>i suoi nomi non sono compressi</source>
+        <translation>sus nombres no están comprimidos</translation>
+    </message>
+    <message>
+        <source>ha un&apos;altra forma</source>
+        <translation>tiene otra forma</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non accetta posta (null MX).</source>
+        <translation>El dominio del destinatario no acepta correo (null MX).</translation>
+    </message>
+    <message>
+        <source>non esiste (NXDOMAIN)</source>
+        <translation>no existe (NXDOMAIN)</translation>
+    </message>
+    <message>
+        <source>il DNS non ne indica</source>
+        <translation>el DNS no indica ninguno</translation>
+    </message>
+    <message>
+        <source>Il file pathDBase.utf8, con il percorso del database, è danneggiato.<byte value="xd"/>
+È stato messo da parte con il nome pathDBase.utf8.guasto.</source>
+        <translation>El archivo pathDBase.utf8, con la ruta de la base de datos, está dañado.<byte value="xd"/>
+Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
+    </message>
+    <message>
+        <source>La tabella dei destinatari non ha la colonna &quot;id_grp&quot;.</source>
+        <translation>La tabla de destinatarios no tiene la columna &quot;id_grp&quot;.</translation>
+    </message>
+    <message>
+        <source>La cartella che la contiene non c&apos;è</source>
+        <translation>Falta la carpeta que la contiene</translation>
+    </message>
+    <message>
+        <source>Sta dentro &quot;%1&quot;, perduta anch&apos;essa</source>
+        <translation>Dentro de &quot;%1&quot;, también perdida</translation>
+    </message>
+    <message>
+        <source>(cartella %1)</source>
+        <translation>(carpeta %1)</translation>
+    </message>
+    <message>
+        <source>La cartella dei destinatari non c&apos;è</source>
+        <translation>Falta la carpeta de los destinatarios</translation>
+    </message>
+    <message>
+        <source>(nessuna cartella)</source>
+        <translation>(sin carpeta)</translation>
+    </message>
+    <message>
+        <source>I destinatari non hanno una cartella</source>
+        <translation>Los destinatarios no tienen carpeta</translation>
+    </message>
+    <message>
+        <source>Indirizzo dell&apos;account</source>
+        <translation>Dirección de la cuenta</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo email dell&apos;account non è valido: correggerlo nella finestra degli account.</source>
+        <translation>La dirección de correo de la cuenta no es válida: corríjala en la ventana de cuentas.</translation>
+    </message>
+    <message>
+        <source>Posta in arrivo (MX)</source>
+        <translation>Correo entrante (MX)</translation>
+    </message>
+    <message>
+        <source>Indirizzo del dominio (A)</source>
+        <translation>Dirección del dominio (A)</translation>
+    </message>
+    <message>
+        <source>Nome inverso di questo computer</source>
+        <translation>Nombre inverso de este ordenador</translation>
+    </message>
+    <message>
+        <source>Firma DKIM</source>
+        <translation>Firma DKIM</translation>
+    </message>
+    <message>
+        <source>Il DNS è troppo lento o porta troppo lontano: riprovare più tardi.</source>
+        <translation>El DNS es demasiado lento o lleva demasiado lejos: vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>Il DNS non ha risposto (%1): riprovare più tardi.</source>
+        <translation>El DNS no respondió (%1): vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
+        <translation>El dominio no existe en el DNS: corrija la dirección de la cuenta o registre el dominio.</translation>
+    </message>
+    <message>
+        <source>Il dominio non ha un record MX: pubblicarne uno, perché risposte e avvisi di mancata consegna arrivino.</source>
+        <translation>El dominio no tiene registro MX: publique uno para que lleguen las respuestas y los avisos de no entrega.</translation>
+    </message>
+    <message>
+        <source>nessun indirizzo</source>
+        <translation>ninguna dirección</translation>
+    </message>
+    <message>
+        <source>Il dominio dichiara di non ricevere posta (MX nullo): molti server rifiutano i messaggi di un mittente a cui non si può rispondere.</source>
+        <translation>El dominio declara que no recibe correo (MX nulo): muchos servidores rechazan los mensajes de un remitente al que no se puede responder.</translation>
+    </message>
+    <message>
+        <source>Nessun server del record MX ha un indirizzo: correggere il record.</source>
+        <translation>Ningún servidor del registro MX tiene dirección: corrija el registro.</translation>
+    </message>
+    <message>
+        <source>Il dominio riceve posta.</source>
+        <translation>El dominio recibe correo.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha un indirizzo.</source>
+        <translation>El dominio tiene una dirección.</translation>
+    </message>
+    <message>
+        <source>Il dominio non ha un indirizzo suo, e non gli serve: ha un record MX.</source>
+        <translation>El dominio no tiene dirección propia ni la necesita: tiene un registro MX.</translation>
+    </message>
+    <message>
+        <source>Il dominio non ha né un record MX né un indirizzo: molti server rifiutano i suoi messaggi; pubblicare un record MX.</source>
+        <translation>El dominio no tiene ni registro MX ni dirección: muchos servidores rechazan sus mensajes; publique un registro MX.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo pubblico di questo computer non si può conoscere da qui: verificare con il fornitore di rete che abbia un nome inverso.</source>
+        <translation>Desde aquí no se puede conocer la dirección pública de este ordenador: compruebe con el proveedor de red que tenga un nombre inverso.</translation>
+    </message>
+    <message>
+        <source>nessun nome</source>
+        <translation>ningún nombre</translation>
+    </message>
+    <message>
+        <source>, che non riporta a questo indirizzo</source>
+        <translation>, que no lleva de vuelta a esta dirección</translation>
+    </message>
+    <message>
+        <source>Nome e indirizzo si confermano.</source>
+        <translation>El nombre y la dirección se confirman.</translation>
+    </message>
+    <message>
+        <source>Chiedere al fornitore di rete un nome inverso che riporti allo stesso indirizzo: senza, molti server rifiutano l&apos;invio diretto.</source>
+        <translation>Pida al proveedor de red un nombre inverso que lleve de vuelta a la misma dirección: sin él, muchos servidores rechazan el envío directo.</translation>
+    </message>
+    <message>
+        <source>Il record dichiara la chiave ritirata (p= vuoto): pubblicare quella nuova.</source>
+        <translation>El registro declara la clave retirada (p= vacío): publique la nueva.</translation>
+    </message>
+    <message>
+        <source>Il record pubblicato è di un&apos;altra chiave, e le firme non valgono: pubblicare il record della chiave di questo programma.</source>
+        <translation>El registro publicado es de otra clave y las firmas no valen: publique el registro de la clave de este programa.</translation>
+    </message>
+    <message>
+        <source>Il record non ammette SHA-256: togliere il campo h=.</source>
+        <translation>El registro no admite SHA-256: quite el campo h=.</translation>
+    </message>
+    <message>
+        <source>Il record non vale per la posta: togliere il campo s=.</source>
+        <translation>El registro no vale para el correo: quite el campo s=.</translation>
+    </message>
+    <message>
+        <source>stretto</source>
+        <translation>estricto</translation>
+    </message>
+    <message>
+        <source>rilassato</source>
+        <translation>relajado</translation>
+    </message>
+    <message>
+        <source>allineato</source>
+        <translation>alineado</translation>
+    </message>
+    <message>
+        <source>non allineato</source>
+        <translation>no alineado</translation>
+    </message>
+    <message>
+        <source>Record di %1, p=%2 per questo dominio, %3 % dei messaggi</source>
+        <translation>Registro de %1, p=%2 para este dominio, %3 % de los mensajes</translation>
+    </message>
+    <message>
+        <source>SPF: %1 (%2)</source>
+        <translation>SPF: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>non si può sapere</source>
+        <translation>no se puede saber</translation>
+    </message>
+    <message>
+        <source>passa</source>
+        <translation>pasa</translation>
+    </message>
+    <message>
+        <source>non passa</source>
+        <translation>no pasa</translation>
+    </message>
+    <message>
+        <source>DKIM: %1 (%2)</source>
+        <translation>DKIM: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Nessun rapporto richiesto</source>
+        <translation>No se piden informes</translation>
+    </message>
+    <message>
+        <source>Rapporti a %1</source>
+        <translation>Informes a %1</translation>
+    </message>
+    <message>
+        <source>Con p=%1 i messaggi sono %2, perché non passano né SPF né DKIM: correggere prima quelle righe.</source>
+        <translation>Con p=%1 los mensajes son %2, porque no pasan ni SPF ni DKIM: corrija primero esas líneas.</translation>
+    </message>
+    <message>
+        <source>rifiutati</source>
+        <translation>rechazados</translation>
+    </message>
+    <message>
+        <source>messi fra la posta indesiderata</source>
+        <translation>enviados al correo no deseado</translation>
+    </message>
+    <message>
+        <source>Se SPF passa non si può sapere da qui: firmare con DKIM, perché DMARC passi in ogni caso.</source>
+        <translation>Desde aquí no se puede saber si SPF pasa: firme con DKIM para que DMARC pase en cualquier caso.</translation>
+    </message>
+    <message>
+        <source>Il record osserva soltanto, e per ora non passano né SPF né DKIM: correggere quelle righe.</source>
+        <translation>El registro solo observa, y por ahora no pasan ni SPF ni DKIM: corrija esas líneas.</translation>
+    </message>
+    <message>
+        <source>Il record osserva soltanto (p=none): quando i rapporti sono buoni, passare a p=quarantine.</source>
+        <translation>El registro solo observa (p=none): cuando los informes sean buenos, pase a p=quarantine.</translation>
+    </message>
+    <message>
+        <source>Il record protegge il dominio, e i messaggi lo rispettano.</source>
+        <translation>El registro protege el dominio y los mensajes lo cumplen.</translation>
+    </message>
+    <message>
+        <source>I messaggi partono senza firma: creare una chiave DKIM e pubblicarne il record.</source>
+        <translation>Los mensajes salen sin firma: cree una clave DKIM y publique su registro.</translation>
+    </message>
+    <message>
+        <source>Il programma non firma i messaggi: se non lo fa il server del fornitore, creare una chiave DKIM e pubblicarne il record.</source>
+        <translation>El programa no firma los mensajes: si no lo hace el servidor del proveedor, cree una clave DKIM y publique su registro.</translation>
+    </message>
+    <message>
+        <source>Il record della chiave manca: pubblicarlo con il nome %1.</source>
+        <translation>Falta el registro de la clave: publíquelo con el nombre %1.</translation>
+    </message>
+    <message>
+        <source>Allo stesso nome ci sono più record: lasciarne uno solo.</source>
+        <translation>Hay varios registros con el mismo nombre: deje solo uno.</translation>
+    </message>
+    <message>
+        <source>Il record non è una chiave DKIM valida: copiarlo di nuovo, intero.</source>
+        <translation>El registro no es una clave DKIM válida: cópielo de nuevo, entero.</translation>
+    </message>
+    <message>
+        <source>La chiave è pubblicata in prova (t=y): togliere il campo quando tutto funziona.</source>
+        <translation>La clave está publicada en prueba (t=y): quite el campo cuando todo funcione.</translation>
+    </message>
+    <message>
+        <source>La chiave pubblicata è quella con cui il programma firma.</source>
+        <translation>La clave publicada es aquella con la que firma el programa.</translation>
+    </message>
+    <message>
+        <source>Il DNS non ha risposto per %1: riprovare più tardi.</source>
+        <translation>El DNS no respondió sobre %1: vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>Pubblicare un record DMARC con il nome %1, per esempio &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</source>
+        <translation>Publique un registro DMARC con el nombre %1, por ejemplo &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 ha più di un record DMARC e nessuno vale: lasciarne uno solo.</source>
+        <translation>%1 tiene más de un registro DMARC y ninguno vale: deje solo uno.</translation>
+    </message>
+    <message>
+        <source>Il record DMARC di %1 non vale: manca il campo p= con none, quarantine o reject.</source>
+        <translation>El registro DMARC de %1 no vale: falta el campo p= con none, quarantine o reject.</translation>
+    </message>
+    <message>
+        <source>autorizzato</source>
+        <translation>autorizado</translation>
+    </message>
+    <message>
+        <source>vietato</source>
+        <translation>prohibido</translation>
+    </message>
+    <message>
+        <source>non autorizzato</source>
+        <translation>no autorizado</translation>
+    </message>
+    <message>
+        <source>né autorizzato né vietato</source>
+        <translation>ni autorizado ni prohibido</translation>
+    </message>
+    <message>
+        <source> da &quot;%1&quot; di %2</source>
+        <translation> por &quot;%1&quot; de %2</translation>
+    </message>
+    <message>
+        <source>, %1 ricerche su 10</source>
+        <translation>, %1 búsquedas de 10</translation>
+    </message>
+    <message>
+        <source>; il dominio dice: %1</source>
+        <translation>; el dominio dice: %1</translation>
+    </message>
+    <message>
+        <source>Pubblicare un record SPF che nomini l&apos;indirizzo di questo computer: senza, molti server non si fidano dei messaggi.</source>
+        <translation>Publique un registro SPF que nombre la dirección de este ordenador: sin él, muchos servidores no se fían de los mensajes.</translation>
+    </message>
+    <message>
+        <source>Pubblicare un record SPF con la riga che indica il fornitore del server: senza, molti server non si fidano dei messaggi.</source>
+        <translation>Publique un registro SPF con la línea que indica el proveedor del servidor: sin él, muchos servidores no se fían de los mensajes.</translation>
+    </message>
+    <message>
+        <source>%1 ha più di un record SPF e nessuno vale: unirli in uno solo.</source>
+        <translation>%1 tiene más de un registro SPF y ninguno vale: únalos en uno solo.</translation>
+    </message>
+    <message>
+        <source>Il record SPF di %1 è troppo lungo: accorciarlo.</source>
+        <translation>El registro SPF de %1 es demasiado largo: acórtelo.</translation>
+    </message>
+    <message>
+        <source>Il record SPF di %1 non vale per un errore in &quot;%2&quot;: correggerlo.</source>
+        <translation>El registro SPF de %1 no vale por un error en &quot;%2&quot;: corríjalo.</translation>
+    </message>
+    <message>
+        <source>Il record SPF richiede più di 10 ricerche nel DNS e non vale: togliere meccanismi, per esempio %1.</source>
+        <translation>El registro SPF requiere más de 10 búsquedas en el DNS y no vale: quite mecanismos, por ejemplo %1.</translation>
+    </message>
+    <message>
+        <source>Il record SPF di %1 nomina più di 2 domini senza record e non vale: togliere quelli che non esistono più, per esempio %2.</source>
+        <translation>El registro SPF de %1 nombra más de 2 dominios sin registro y no vale: quite los que ya no existen, por ejemplo %2.</translation>
+    </message>
+    <message>
+        <source>Nel record SPF di %1 &quot;%2&quot; porta a più di 10 server e non vale: indicare gli indirizzi con ip4 o ip6.</source>
+        <translation>En el registro SPF de %1, &quot;%2&quot; lleva a más de 10 servidores y no vale: indique las direcciones con ip4 o ip6.</translation>
+    </message>
+    <message>
+        <source>Nel record SPF di %1 &quot;%2&quot; porta a un dominio senza record SPF, e tutto il record non vale: toglierlo o correggerlo.</source>
+        <translation>En el registro SPF de %1, &quot;%2&quot; lleva a un dominio sin registro SPF, y todo el registro no vale: quítelo o corríjalo.</translation>
+    </message>
+    <message>
+        <source>Il record c&apos;è e si legge, ma l&apos;indirizzo pubblico di questo computer non si può conoscere da qui: verificare che il record lo nomini.</source>
+        <translation>El registro existe y se puede leer, pero desde aquí no se puede conocer la dirección pública de este ordenador: compruebe que el registro la nombre.</translation>
+    </message>
+    <message>
+        <source>Il record c&apos;è e si legge, ma il server non ha un indirizzo pubblico noto: chiedere al fornitore se è compreso nel record.</source>
+        <translation>El registro existe y se puede leer, pero no se conoce una dirección pública del servidor: pregunte al proveedor si está incluida en el registro.</translation>
+    </message>
+    <message>
+        <source>Il record autorizza l&apos;indirizzo di questo computer.</source>
+        <translation>El registro autoriza la dirección de este ordenador.</translation>
+    </message>
+    <message>
+        <source>Il record autorizza il server, per gli indirizzi che si conoscono.</source>
+        <translation>El registro autoriza el servidor, en las direcciones que se conocen.</translation>
+    </message>
+    <message>
+        <source>Il record non autorizza l&apos;indirizzo di questo computer: aggiungerlo con ip4 o ip6.</source>
+        <translation>El registro no autoriza la dirección de este ordenador: añádala con ip4 o ip6.</translation>
+    </message>
+    <message>
+        <source>Il record autorizza solo alcuni indirizzi del server: aggiungere gli altri, o verificare con il fornitore da quali spedisce.</source>
+        <translation>El registro autoriza solo algunas direcciones del servidor: añada las otras o compruebe con el proveedor desde cuáles envía.</translation>
+    </message>
+    <message>
+        <source>Il record non autorizza gli indirizzi noti del server: se il fornitore non spedisce da altri, aggiungere al record la riga che lui indica.</source>
+        <translation>El registro no autoriza las direcciones conocidas del servidor: si el proveedor no envía desde otras, añada al registro la línea que él indica.</translation>
+    </message>
+    <message>
+        <source>La tabella dei destinatari non ha tutte le sue colonne.</source>
+        <translation>La tabla de destinatarios no tiene todas sus columnas.</translation>
+    </message>
+    <message>
+        <source>Il messaggio non si può aprire: </source>
+        <translation>No se puede abrir el mensaje: </translation>
+    </message>
+    <message>
+        <source>Il file non contiene un messaggio intero: </source>
+        <translation>El archivo no contiene un mensaje completo: </translation>
+    </message>
+    <message>
+        <source>Tempo scaduto: il server non risponde.</source>
+        <translation>Tiempo agotado: el servidor no responde.</translation>
+    </message>
+    <message>
+        <source>Manca il nome del server.</source>
+        <translation>Falta el nombre del servidor.</translation>
+    </message>
+    <message>
+        <source>Il nome del server non è valido.</source>
+        <translation>El nombre del servidor no es válido.</translation>
+    </message>
+    <message>
+        <source>La porta del server non è valida.</source>
+        <translation>El puerto del servidor no es válido.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non ha dato la password di questo account.</source>
+        <translation>El llavero no dio la contraseña de esta cuenta.</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita: </source>
+        <translation>La búsqueda del servidor de correo falló: </translation>
+    </message>
+    <message>
+        <source>In ordine</source>
+        <translation>En orden</translation>
+    </message>
+    <message>
+        <source>Attenzione</source>
+        <translation>Atención</translation>
+    </message>
+    <message>
+        <source>Da correggere</source>
+        <translation>Por corregir</translation>
+    </message>
+    <message>
+        <source>In corso…</source>
+        <translation>En curso…</translation>
+    </message>
+    <message>
+        <source>Server raggiunto</source>
+        <translation>Servidor alcanzado</translation>
+    </message>
+    <message>
+        <source>Certificato</source>
+        <translation>Certificado</translation>
+    </message>
+    <message>
+        <source>Accesso</source>
+        <translation>Acceso</translation>
+    </message>
+    <message>
+        <source>Dimensione massima</source>
+        <translation>Tamaño máximo</translation>
+    </message>
+    <message>
+        <source>Non si è potuto provare: correggere prima le righe sopra.</source>
+        <translation>No se pudo probar: corrija primero las líneas de arriba.</translation>
+    </message>
+    <message>
+        <source>Il server risponde.</source>
+        <translation>El servidor responde.</translation>
+    </message>
+    <message>
+        <source>Verificare nome e porta del server nell&apos;account.</source>
+        <translation>Compruebe el nombre y el puerto del servidor en la cuenta.</translation>
+    </message>
+    <message>
+        <source>La connessione è protetta.</source>
+        <translation>La conexión es segura.</translation>
+    </message>
+    <message>
+        <source>Il server non offre una connessione protetta: usare la porta 587 o 465, o un altro server.</source>
+        <translation>El servidor no ofrece una conexión segura: use el puerto 587 o 465, u otro servidor.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <comment>form of a date</comment>
+        <translation>d &apos;de&apos; MMMM &apos;de&apos; yyyy</translation>
+    </message>
+    <message>
+        <source>Per: %1</source>
+        <translation>Para: %1</translation>
+    </message>
+    <message>
+        <source>Emesso da: %1</source>
+        <translation>Emitido por: %1</translation>
+    </message>
+    <message>
+        <source>Vale fino al %1</source>
+        <translation>Válido hasta el %1</translation>
+    </message>
+    <message>
+        <source>Il certificato è scaduto il %1: chi gestisce il server deve rinnovarlo.</source>
+        <translation>El certificado caducó el %1: quien gestiona el servidor debe renovarlo.</translation>
+    </message>
+    <message>
+        <source>Il certificato non è accettato: verificare il nome del server nell&apos;account, o chiedere a chi lo gestisce.</source>
+        <translation>El certificado no se acepta: compruebe el nombre del servidor en la cuenta o pregunte a quien lo gestiona.</translation>
+    </message>
+    <message>
+        <source>Il certificato scade il %1: chi gestisce il server deve rinnovarlo in tempo.</source>
+        <translation>El certificado caduca el %1: quien gestiona el servidor debe renovarlo a tiempo.</translation>
+    </message>
+    <message>
+        <source>Il certificato è valido fino al %1.</source>
+        <translation>El certificado es válido hasta el %1.</translation>
+    </message>
+    <message>
+        <source>L&apos;account non chiede l&apos;accesso.</source>
+        <translation>La cuenta no pide acceso.</translation>
+    </message>
+    <message>
+        <source>Il server accetta utente e password.</source>
+        <translation>El servidor acepta usuario y contraseña.</translation>
+    </message>
+    <message>
+        <source>Verificare utente e password nell&apos;account.</source>
+        <translation>Compruebe el usuario y la contraseña en la cuenta.</translation>
+    </message>
+    <message>
+        <source>Il server non dichiara un limite.</source>
+        <translation>El servidor no declara ningún límite.</translation>
+    </message>
+    <message>
+        <source>Il server accetta messaggi fino a %1: tenere piccoli gli allegati.</source>
+        <translation>El servidor acepta mensajes de hasta %1: mantenga pequeños los adjuntos.</translation>
+    </message>
+    <message>
+        <source>Il server accetta messaggi fino a %1.</source>
+        <translation>El servidor acepta mensajes de hasta %1.</translation>
+    </message>
+    <message>
+        <source>Grave</source>
+        <translation>Grave</translation>
+    </message>
+    <message>
+        <source>Consiglio</source>
+        <translation>Consejo</translation>
+    </message>
+    <message>
+        <source>%1 non viene sostituito: si scrive %2.</source>
+        <translation>%1 no se sustituye: se escribe %2.</translation>
+    </message>
+    <message>
+        <source>%1 non viene sostituito: nessuna colonna ha questo nome.</source>
+        <translation>%1 no se sustituye: ninguna columna se llama así.</translation>
+    </message>
+    <message>
+        <source>%1 non viene sostituito nella forma HTML: è spezzato da un cambio di formato. Riscriverlo tutto di seguito.</source>
+        <translation>%1 no se sustituye en la forma HTML: lo parte un cambio de formato. Escríbalo de nuevo de corrido.</translation>
+    </message>
+    <message>
+        <source>L&apos;allegato %1 non c&apos;è: il messaggio parte senza.</source>
+        <translation>Falta el adjunto %1: el mensaje sale sin él.</translation>
+    </message>
+    <message>
+        <source>L&apos;oggetto è vuoto.</source>
+        <translation>El asunto está vacío.</translation>
+    </message>
+    <message>
+        <source>Manca la forma di solo testo: il messaggio non contiene testo, e chi non vede le immagini non legge niente.</source>
+        <translation>Falta la forma de solo texto: el mensaje no contiene texto, y quien no ve las imágenes no lee nada.</translation>
+    </message>
+    <message>
+        <source>Manca un collegamento di disiscrizione: chi non vuole più messaggi li segnala come indesiderati. Si crea nell&apos;editor con il comando &quot;Collegamento&quot;.</source>
+        <translation>Falta un enlace para darse de baja: quien no quiere más mensajes los marca como no deseados. Se crea en el editor con el comando &quot;Enlace&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 è vuoto per %2 di %3 destinatari selezionati</source>
+        <translation>%1 está vacío para %2 de %3 destinatarios seleccionados</translation>
+    </message>
+    <message>
+        <source>; per %1 di loro si legge %2 al posto del valore.</source>
+        <translation>; para %1 de ellos se lee %2 en lugar del valor.</translation>
+    </message>
+    <message>
+        <source>I caratteri &lt;, &amp; o &quot; di %1 cambiano il messaggio per %2 di %3 destinatari selezionati.</source>
+        <translation>Los caracteres &lt;, &amp; o &quot; de %1 cambian el mensaje para %2 de %3 destinatarios seleccionados.</translation>
+    </message>
+    <message>
+        <source>Il corpo è di %1: oltre 100 kB i grandi gestori di posta lo tagliano.</source>
+        <translation>El cuerpo ocupa %1: los grandes proveedores de correo lo cortan a partir de 100 kB.</translation>
+    </message>
+    <message>
+        <source>(senza indirizzo)</source>
+        <translation>(sin dirección)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln immagini non ci sono</source>
+        <translation>
+            <numerusform>Falta una imagen</numerusform>
+            <numerusform>Faltan %Ln imágenes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file non possono partire come immagini del messaggio</source>
+        <translation>
+            <numerusform>Un archivo no puede salir como imagen del mensaje</numerusform>
+            <numerusform>%Ln archivos no pueden salir como imágenes del mensaje</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(non è un&apos;immagine, o insieme superano 10 MB)</source>
+        <translation>(no es una imagen, o juntos superan 10 MB)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln collegamenti non portano da nessuna parte</source>
+        <translation>
+            <numerusform>Un enlace no lleva a ninguna parte</numerusform>
+            <numerusform>%Ln enlaces no llevan a ninguna parte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln immagini restano sul web</source>
+        <translation>
+            <numerusform>Una imagen queda en la web</numerusform>
+            <numerusform>%Ln imágenes quedan en la web</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Molti programmi di posta non le mostrano finché il destinatario non vuole.</source>
+        <translation>Muchos programas de correo no las muestran hasta que el destinatario lo pide.</translation>
+    </message>
+    <message>
+        <source>it</source>
+        <comment>the ISO 639 code of this language</comment>
+        <translation>es</translation>
+    </message>
+    <message>
+        <source>In attesa del database, usato da un altro programma… Esc per rinunciare</source>
+        <translation>Esperando la base de datos, en uso por otro programa… Esc para desistir</translation>
+    </message>
+    <message>
+        <source>Ordine decrescente</source>
+        <translation>Orden descendente</translation>
+    </message>
+    <message>
+        <source>Ordine crescente</source>
+        <translation>Orden ascendente</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non contiene una disposizione valida delle barre.</source>
+        <translation>El archivo &quot;%1&quot; no contiene una disposición válida de las barras.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file &quot;%1&quot;.</source>
+        <translation>No se puede escribir el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file &quot;%1&quot;.</source>
+        <translation>No se puede leer el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Proprietà elemento</source>
+        <translation>Propiedades del elemento</translation>
+    </message>
+    <message>
+        <source>Attributo</source>
+        <translation>Atributo</translation>
+    </message>
+    <message>
+        <source>Valore</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Attributi</source>
+        <translation>Atributos</translation>
+    </message>
+    <message>
+        <source>&amp;Elemento:</source>
+        <translation>&amp;Elemento:</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Annulla</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Trova</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Solo sele&amp;zionati</source>
+        <translation>Solo selecciona&amp;dos</translation>
+    </message>
+    <message>
+        <source>T&amp;rova:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Dove cercare</source>
+        <translation>Dónde buscar</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Trova precedente (Maiusc+Invio)</source>
+        <translation>Buscar anterior (Mayús+Intro)</translation>
+    </message>
+    <message>
+        <source>Successivo</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Trova successivo (Invio)</source>
+        <translation>Buscar siguiente (Intro)</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Chiudi la barra (Esc)</source>
+        <translation>Cerrar la barra (Esc)</translation>
+    </message>
+    <message>
+        <source>&amp;Maiuscole e minuscole</source>
+        <translation>&amp;Mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>&amp;Testo:</source>
+        <translation>&amp;Texto:</translation>
+    </message>
+    <message>
+        <source>Trova &amp;successivo</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Trova &amp;precedente</source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Chiudi</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Testo non trovato.</source>
+        <translation>No se encontró el texto.</translation>
+    </message>
+    <message>
+        <source>Elemento &quot;%1&quot; non trovato.</source>
+        <translation>No se encontró el elemento &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;elemento &quot;%1&quot; esiste già.</source>
+        <translation>El elemento &quot;%1&quot; ya existe.</translation>
+    </message>
+    <message>
+        <source>Un elemento non può essere spostato dentro sé stesso o i propri elementi.</source>
+        <translation>Un elemento no puede moverse dentro de sí mismo ni de los suyos.</translation>
+    </message>
+    <message>
+        <source>pixel o %</source>
+        <translation>píxeles o %</translation>
+    </message>
+    <message>
+        <source>Nessuno</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>A sinistra</source>
+        <translation>A la izquierda</translation>
+    </message>
+    <message>
+        <source>A destra</source>
+        <translation>A la derecha</translation>
+    </message>
+    <message>
+        <source>In alto</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Al centro</source>
+        <translation>En el centro</translation>
+    </message>
+    <message>
+        <source>In basso</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Immagine</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>S&amp;foglia...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>&amp;File o indirizzo:</source>
+        <translation>A&amp;rchivo o dirección:</translation>
+    </message>
+    <message>
+        <source>File o indirizzo</source>
+        <translation>Archivo o dirección</translation>
+    </message>
+    <message>
+        <source>&amp;Testo alternativo:</source>
+        <translation>&amp;Texto alternativo:</translation>
+    </message>
+    <message>
+        <source>&amp;Larghezza:</source>
+        <translation>An&amp;cho:</translation>
+    </message>
+    <message>
+        <source>A&amp;ltezza:</source>
+        <translation>A&amp;lto:</translation>
+    </message>
+    <message>
+        <source>Alli&amp;neamento:</source>
+        <translation>Ali&amp;neación:</translation>
+    </message>
+    <message>
+        <source>Inserisci immagine</source>
+        <translation>Insertar imagen</translation>
+    </message>
+    <message>
+        <source>Immagini|*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.webp|Tutti i file|*</source>
+        <translation>Imágenes|*.png;*.jpg;*.jpeg;*.gif;*.bmp;*.webp|Todos los archivos|*</translation>
+    </message>
+    <message>
+        <source>Indirizzo web</source>
+        <translation>Dirección web</translation>
+    </message>
+    <message>
+        <source>Posta elettronica</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Collegamento di &amp;disiscrizione</source>
+        <translation>Enlace para &amp;darse de baja</translation>
+    </message>
+    <message>
+        <source>Collegamento</source>
+        <translation>Enlace</translation>
+    </message>
+    <message>
+        <source>I programmi di posta lo offrono al destinatario per disiscriversi con un clic</source>
+        <translation>Los programas de correo lo ofrecen al destinatario para darse de baja con un clic</translation>
+    </message>
+    <message>
+        <source>Inserisci nell&apos;indirizzo...</source>
+        <translation>Insertar en la dirección...</translation>
+    </message>
+    <message>
+        <source>&amp;Tipo:</source>
+        <translation>&amp;Tipo:</translation>
+    </message>
+    <message>
+        <source>&amp;Indirizzo:</source>
+        <translation>D&amp;irección:</translation>
+    </message>
+    <message>
+        <source>&amp;Variabile:</source>
+        <translation>&amp;Variable:</translation>
+    </message>
+    <message>
+        <source>T&amp;esto:</source>
+        <translation>Te&amp;xto:</translation>
+    </message>
+    <message>
+        <source>Ri&amp;muovi</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Riavvia</source>
+        <translation>&amp;Reiniciar</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab inserisce una tabulazione</source>
+        <translation>Ctrl+Tab inserta una tabulación</translation>
+    </message>
+    <message>
+        <source>Contiene una tabulazione</source>
+        <translation>Contiene una tabulación</translation>
+    </message>
+    <message>
+        <source>Viste</source>
+        <translation>Vistas</translation>
+    </message>
+    <message>
+        <source>Gli account non sono stati salvati:<byte value="xd"/>
+il file Account.imp appartiene a un altro utente, che potrebbe leggere le password.</source>
+        <translation>Las cuentas no se han guardado:<byte value="xd"/>
+el archivo Account.imp pertenece a otro usuario, que podría leer las contraseñas.</translation>
+    </message>
+    <message>
+        <source>Il file degli account non può contenere questi caratteri:</source>
+        <translation>El archivo de cuentas no admite estos caracteres:</translation>
+    </message>
+    <message>
+        <source>In attesa del portachiavi… Esc per rinunciare</source>
+        <translation>Esperando el llavero… Esc para desistir</translation>
+    </message>
+    <message>
+        <source>Conserva la password nel portachiavi del desktop.</source>
+        <translation>Guardar la contraseña en el llavero del escritorio.</translation>
+    </message>
+    <message>
+        <source>In attesa del browser: annulla l&apos;accesso</source>
+        <translation>Esperando el navegador: cancelar el acceso</translation>
+    </message>
+    <message>
+        <source>Accedi con il browser...</source>
+        <translation>Acceder con el navegador...</translation>
+    </message>
+    <message>
+        <source>Per accedere con il browser scrivere prima lo username, di solito l&apos;indirizzo email.</source>
+        <translation>Para acceder con el navegador escriba primero el usuario, normalmente la dirección de correo.</translation>
+    </message>
+    <message>
+        <source>Accesso riuscito. Salvare ora l&apos;account con &quot;Nuovo Account&quot; o &quot;Modifica Account&quot;.</source>
+        <translation>Acceso correcto. Guarde ahora la cuenta con &quot;Nueva cuenta&quot; o &quot;Modificar cuenta&quot;.</translation>
+    </message>
+    <message>
+        <source>Nessun account: compilare e premere Nuovo Account</source>
+        <translation>Ninguna cuenta: rellene y pulse Nueva cuenta</translation>
+    </message>
+    <message>
+        <source>Allegato</source>
+        <translation>Adjunto</translation>
+    </message>
+    <message>
+        <source>Cartella nascosta o fuori da quella personale</source>
+        <translation>Carpeta oculta o fuera de la personal</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Dimensione</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Tipo</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Nota</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Operazione: </source>
+        <translation>Operación: </translation>
+    </message>
+    <message>
+        <source>Finestra: </source>
+        <translation>Ventana: </translation>
+    </message>
+    <message>
+        <source>File: </source>
+        <translation>Archivo: </translation>
+    </message>
+    <message>
+        <source>Il programma viene chiuso</source>
+        <translation>El programa se cierra</translation>
+    </message>
+    <message>
+        <source>&amp;Prova messaggio...</source>
+        <translation>&amp;Prueba del mensaje...</translation>
+    </message>
+    <message>
+        <source>Il messaggio come lo riceve un destinatario</source>
+        <translation>El mensaje como lo recibe un destinatario</translation>
+    </message>
+    <message>
+        <source>Controllo del &amp;mittente...</source>
+        <translation>Control del &amp;remitente...</translation>
+    </message>
+    <message>
+        <source>Come i server dei destinatari vedono il dominio e il server di un account</source>
+        <translation>Cómo ven los servidores de los destinatarios el dominio y el servidor de una cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Esito degli invii...</source>
+        <translation>R&amp;esultado de los envíos...</translation>
+    </message>
+    <message>
+        <source>Chi ha ricevuto i messaggi, chi no e perché</source>
+        <translation>Quién recibió los mensajes, quién no y por qué</translation>
+    </message>
+    <message>
+        <source>&amp;Trova destinatari...</source>
+        <translation>&amp;Buscar destinatarios...</translation>
+    </message>
+    <message>
+        <source>Trova destinatari nella cartella o ovunque</source>
+        <translation>Buscar destinatarios en la carpeta o en todas partes</translation>
+    </message>
+    <message>
+        <source>&amp;Ordina per la colonna corrente</source>
+        <translation>&amp;Ordenar por la columna actual</translation>
+    </message>
+    <message>
+        <source>Ordina l&apos;elenco per la colonna corrente; la terza volta torna l&apos;ordine di prima</source>
+        <translation>Ordena la lista por la columna actual; a la tercera vez vuelve el orden anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Indirizzi doppi...</source>
+        <translation>&amp;Direcciones duplicadas...</translation>
+    </message>
+    <message>
+        <source>Trova gli indirizzi selezionati più di una volta</source>
+        <translation>Busca las direcciones seleccionadas más de una vez</translation>
+    </message>
+    <message>
+        <source>Recupera &amp;cartelle perdute...</source>
+        <translation>Recuperar &amp;carpetas perdidas...</translation>
+    </message>
+    <message>
+        <source>Riporta sotto la radice cartelle e destinatari che l&apos;albero non mostra</source>
+        <translation>Devuelve bajo la raíz carpetas y destinatarios que el árbol no muestra</translation>
+    </message>
+    <message>
+        <source>&amp;Ultima importazione...</source>
+        <translation>&amp;Última importación...</translation>
+    </message>
+    <message>
+        <source>Righe importate e rifiutate dall&apos;ultima importazione</source>
+        <translation>Filas importadas y rechazadas en la última importación</translation>
+    </message>
+    <message>
+        <source>Il record non si legge</source>
+        <translation>No se puede leer el registro</translation>
+    </message>
+    <message>
+        <source>tabella &quot;%1&quot; di %2</source>
+        <translation>tabla &quot;%1&quot; de %2</translation>
+    </message>
+    <message>
+        <source>Importazione da file di testo</source>
+        <translation>Importación de un archivo de texto</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo ha meno di %1 caratteri</source>
+        <translation>La dirección tiene menos de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>Lettura dei contatti di Outlook in corso… Esc per interrompere</source>
+        <translation>Leyendo los contactos de Outlook… Esc para interrumpir</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>archivos</translation>
+    </message>
+    <message>
+        <source>chiamate di sistema</source>
+        <translation>llamadas al sistema</translation>
+    </message>
+    <message>
+        <source>memoria</source>
+        <translation>memoria</translation>
+    </message>
+    <message>
+        <source>Outlook letto senza queste protezioni del sistema: </source>
+        <translation>Outlook leído sin estas protecciones del sistema: </translation>
+    </message>
+    <message>
+        <source>contatti di Outlook</source>
+        <translation>contactos de Outlook</translation>
+    </message>
+    <message>
+        <source>Non è un contatto</source>
+        <translation>No es un contacto</translation>
+    </message>
+    <message>
+        <source>rubrica</source>
+        <translation>libreta de direcciones</translation>
+    </message>
+    <message>
+        <source>obbligatorio</source>
+        <translation>obligatorio</translation>
+    </message>
+    <message>
+        <source>Nessun allegato</source>
+        <translation>Ningún adjunto</translation>
+    </message>
+    <message>
+        <source>Variabile oggetto non impostata</source>
+        <translation>Variable de objeto no establecida</translation>
+    </message>
+    <message>
+        <source>Colore del testo</source>
+        <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>Messaggio</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Origine del messaggio</source>
+        <translation>Código del mensaje</translation>
+    </message>
+    <message>
+        <source>Anteprima del messaggio</source>
+        <translation>Vista previa del mensaje</translation>
+    </message>
+    <message>
+        <source>Il messaggio non è stato stampato.</source>
+        <translation>El mensaje no se ha imprimido.</translation>
+    </message>
+    <message>
+        <source>Riprova fra qualche istante.</source>
+        <translation>Vuelva a intentarlo dentro de un momento.</translation>
+    </message>
+    <message>
+        <source>Il testo incollato nominava file di questo computer, che sarebbero partiti con il messaggio. Sono stati lasciati fuori:</source>
+        <translation>El texto pegado nombraba archivos de este ordenador, que habrían salido con el mensaje. Se han dejado fuera:</translation>
+    </message>
+    <message numerus="yes">
+        <source>e altri %n</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Per mettere un&apos;immagine nel messaggio usa &quot;Inserisci immagine&quot;.</source>
+        <translation>Para poner una imagen en el mensaje use &quot;Insertar imagen&quot;.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nel testo incollato %n elementi restano sul web</source>
+        <translation>
+            <numerusform>En el texto pegado %n elemento queda en la web</numerusform>
+            <numerusform>En el texto pegado %n elementos quedan en la web</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Il testo resta nell&apos;origine, il messaggio è quello di prima.</source>
+        <translation>El texto queda en el código, el mensaje es el de antes.</translation>
+    </message>
+    <message>
+        <source>Il file del messaggio non può contenere questi caratteri, al loro posto c&apos;è &quot;?&quot;:</source>
+        <translation>El archivo del mensaje no admite estos caracteres, en su lugar hay &quot;?&quot;:</translation>
+    </message>
+    <message>
+        <source>Oggetto: </source>
+        <translation>Asunto: </translation>
+    </message>
+    <message>
+        <source>Percorsi degli allegati: </source>
+        <translation>Rutas de los adjuntos: </translation>
+    </message>
+    <message>
+        <source>Questi allegati non saranno trovati: rinomina i file.</source>
+        <translation>Estos adjuntos no se encontrarán: cambie el nombre de los archivos.</translation>
+    </message>
+    <message>
+        <source>Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.</source>
+        <translation>El mensaje se ha guardado, pero así no se podrá abrir ni enviar.</translation>
+    </message>
+    <message>
+        <source>Il messaggio non è stato salvato: riprova fra qualche istante.</source>
+        <translation>El mensaje no se ha guardado: vuelva a intentarlo dentro de un momento.</translation>
+    </message>
+    <message>
+        <source>Il messaggio non è stato salvato in %1:</source>
+        <translation>El mensaje no se ha guardado en %1:</translation>
+    </message>
+    <message>
+        <source>Salvalo con un altro nome.</source>
+        <translation>Guárdelo con otro nombre.</translation>
+    </message>
+    <message>
+        <source>Il messaggio nella finestra resta quello di prima.</source>
+        <translation>El mensaje de la ventana sigue siendo el de antes.</translation>
+    </message>
+    <message>
+        <source>Una copia di recupero è danneggiata e non si può leggere.<byte value="xd"/>
+Il file resta in </source>
+        <translation>Una copia de recuperación está dañada y no se puede leer.<byte value="xd"/>
+El archivo queda en </translation>
+    </message>
+    <message>
+        <source>Il messaggio %1 non è stato salvato prima della fine del programma.<byte value="xd"/>
+Oggetto: %2<byte value="xd"/>
+Ultima modifica: %3<byte value="xd"/>
+Vuoi recuperarlo?</source>
+        <translation>El mensaje %1 no se guardó antes del final del programa.<byte value="xd"/>
+Asunto: %2<byte value="xd"/>
+Última modificación: %3<byte value="xd"/>
+¿Quiere recuperarlo?</translation>
+    </message>
+    <message>
+        <source>Il testo recuperato è nell&apos;origine.</source>
+        <translation>El texto recuperado está en el código.</translation>
+    </message>
+    <message>
+        <source>Proprietà del messaggio</source>
+        <translation>Propiedades del mensaje</translation>
+    </message>
+    <message>
+        <source>Margine sinistro della pagina, in pixel</source>
+        <translation>Margen izquierdo de la página, en píxeles</translation>
+    </message>
+    <message>
+        <source>Margine superiore della pagina, in pixel</source>
+        <translation>Margen superior de la página, en píxeles</translation>
+    </message>
+    <message>
+        <source>Margine orizzontale per altri programmi di posta, in pixel</source>
+        <translation>Margen horizontal para otros programas de correo, en píxeles</translation>
+    </message>
+    <message>
+        <source>Margine verticale per altri programmi di posta, in pixel</source>
+        <translation>Margen vertical para otros programas de correo, en píxeles</translation>
+    </message>
+    <message>
+        <source>Colore di sfondo della pagina</source>
+        <translation>Color de fondo de la página</translation>
+    </message>
+    <message>
+        <source>Colore dei collegamenti</source>
+        <translation>Color de los enlaces</translation>
+    </message>
+    <message>
+        <source>Colore dei collegamenti mentre si premono</source>
+        <translation>Color de los enlaces mientras se pulsan</translation>
+    </message>
+    <message>
+        <source>Colore dei collegamenti già visitati</source>
+        <translation>Color de los enlaces visitados</translation>
+    </message>
+    <message>
+        <source>Percorso o indirizzo dell&apos;immagine di sfondo</source>
+        <translation>Ruta o dirección de la imagen de fondo</translation>
+    </message>
+    <message>
+        <source>Il file degli invii già accettati era danneggiato ed è stato messo da parte:</source>
+        <translation>El archivo de los envíos ya aceptados estaba dañado y se ha apartado:</translation>
+    </message>
+    <message>
+        <source>Chi vi era ricordato potrebbe ricevere il messaggio una seconda volta.</source>
+        <translation>Quienes constaban en él podrían recibir el mensaje por segunda vez.</translation>
+    </message>
+    <message>
+        <source>Sfoglia il messaggio</source>
+        <translation>Examinar el mensaje</translation>
+    </message>
+    <message>
+        <source>Invio terminato</source>
+        <translation>Envío terminado</translation>
+    </message>
+    <message>
+        <source>Nessun messaggio è stato scelto.</source>
+        <translation>No se ha elegido ningún mensaje.</translation>
+    </message>
+    <message>
+        <source>Il messaggio scelto resta </source>
+        <translation>El mensaje elegido sigue siendo </translation>
+    </message>
+    <message>
+        <source>Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.<byte value="xd"/>
+Vuoi inviarli?</source>
+        <translation>Cada destinatario recibirá, junto con el mensaje, estos archivos de este ordenador.<byte value="xd"/>
+¿Quiere enviarlos?</translation>
+    </message>
+    <message>
+        <source>Non chiederlo &amp;più per questo messaggio</source>
+        <translation>No &amp;volver a preguntar para este mensaje</translation>
+    </message>
+    <message>
+        <source>Il file per l&apos;assistenza non si può scrivere:</source>
+        <translation>No se puede escribir el archivo para soporte:</translation>
+    </message>
+    <message>
+        <source>L&apos;invio prosegue senza.</source>
+        <translation>El envío continúa sin él.</translation>
+    </message>
+    <message>
+        <source>Un&apos;altra finestra di Vestrola sta inviando ai destinatari di questo database.<byte value="xd"/>
+Riprovare quando avrà finito.</source>
+        <translation>Otra ventana de Vestrola está enviando a los destinatarios de esta base de datos.<byte value="xd"/>
+Vuelva a intentarlo cuando haya terminado.</translation>
+    </message>
+    <message>
+        <source>Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla selezione:</source>
+        <translation>Algunos destinatarios ya se atendieron, pero no es posible quitarlos de la selección:</translation>
+    </message>
+    <message>
+        <source>L&apos;invio non è iniziato. Riprovare più tardi.</source>
+        <translation>El envío no ha empezado. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>Il disco del database è pieno. Chi riceve il messaggio resta selezionato finché non c&apos;è di nuovo posto, ma non lo riceve una seconda volta.</source>
+        <translation>El disco de la base de datos está lleno. Quien recibe el mensaje sigue seleccionado hasta que haya sitio de nuevo, pero no lo recibe por segunda vez.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio non è iniziato.</source>
+        <translation>El envío no ha empezado.</translation>
+    </message>
+    <message>
+        <source>Se il database non potrà essere aggiornato, non tutti i destinatari saranno serviti.</source>
+        <translation>Si la base de datos no se puede actualizar, no se atenderá a todos los destinatarios.</translation>
+    </message>
+    <message>
+        <source>I messaggi di questo invio partono senza firma.</source>
+        <translation>Los mensajes de este envío salen sin firma.</translation>
+    </message>
+    <message>
+        <source>meno di un minuto</source>
+        <translation>menos de un minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>circa %n minuti</source>
+        <translation>
+            <numerusform>alrededor de un minuto</numerusform>
+            <numerusform>unos %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>circa %n ore</source>
+        <translation>
+            <numerusform>alrededor de una hora</numerusform>
+            <numerusform>unas %n horas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>circa %n ore e %1 min</source>
+        <translation>
+            <numerusform>alrededor de una hora y %1 min</numerusform>
+            <numerusform>unas %n horas y %1 min</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tempo rimanente: %1</source>
+        <translation>Tiempo restante: %1</translation>
+    </message>
+    <message>
+        <source>Il registro degli esiti non si può scrivere. %1</source>
+        <translation>No se puede escribir el registro de resultados. %1</translation>
+    </message>
+    <message>
+        <source>Ultima non inviata: %1</source>
+        <translation>Último no enviado: %1</translation>
+    </message>
+    <message>
+        <source>Per chiudere: Esc o un clic</source>
+        <translation>Para cerrar: Esc o un clic</translation>
+    </message>
+    <message>
+        <source>Scegliere una cartella</source>
+        <translation>Elija una carpeta</translation>
+    </message>
+    <message>
+        <source>Chiusura del programma</source>
+        <translation>Cierre del programa</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>Strumenti</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Avanzamento</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Copia di </source>
+        <translation>Copia de </translation>
+    </message>
+    <message>
+        <source>Il destinatario è compreso nel prossimo invio</source>
+        <translation>El destinatario forma parte del próximo envío</translation>
+    </message>
+    <message>
+        <source>Ragione sociale (max %1 caratteri)</source>
+        <translation>Empresa (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Nome e/o cognome (max %1 caratteri)</source>
+        <translation>Nombre y/o apellidos (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Partita Iva o codice fiscale (max %1 caratteri)</source>
+        <translation>NIF o CIF (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Via e numero civico (max %1 caratteri)</source>
+        <translation>Calle y número (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Codice di avviamento postale (max %1 caratteri)</source>
+        <translation>Código postal (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Località (max %1 caratteri)</source>
+        <translation>Localidad (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Numero di telefono (max %1 caratteri)</source>
+        <translation>Número de teléfono (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Numero di fax (max %1 caratteri)</source>
+        <translation>Número de fax (máx. %1 caracteres)</translation>
+    </message>
+    <message>
+        <source>Nuova cartella: tasto destro sulla radice</source>
+        <translation>Carpeta nueva: botón derecho en la raíz</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln destinatari</source>
+        <translation>
+            <numerusform>%Ln destinatario</numerusform>
+            <numerusform>%Ln destinatarios</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Destinatario da spostare: %1. Ctrl+V su una cartella lo sposta</source>
+        <translation>Destinatario que mover: %1. Ctrl+V en una carpeta lo mueve</translation>
+    </message>
+    <message>
+        <source>Cartella da spostare: %1. Ctrl+V su un&apos;altra cartella la sposta</source>
+        <translation>Carpeta que mover: %1. Ctrl+V en otra carpeta la mueve</translation>
+    </message>
+    <message>
+        <source>Destinatario spostato in %1</source>
+        <translation>Destinatario movido a %1</translation>
+    </message>
+    <message>
+        <source>Cartella spostata in %1</source>
+        <translation>Carpeta movida a %1</translation>
+    </message>
+    <message>
+        <source>La cartella non può essere spostata in %1</source>
+        <translation>La carpeta no se puede mover a %1</translation>
+    </message>
+    <message>
+        <source>Nessun destinatario in questa cartella</source>
+        <translation>Ningún destinatario en esta carpeta</translation>
+    </message>
+    <message>
+        <source>Ordine dell&apos;elenco</source>
+        <translation>Orden de la lista</translation>
+    </message>
+    <message>
+        <source>Ordinati per %1, crescente</source>
+        <translation>Ordenados por %1, ascendente</translation>
+    </message>
+    <message>
+        <source>Ordinati per %1, decrescente</source>
+        <translation>Ordenados por %1, descendente</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere i destinatari di questa cartella</source>
+        <translation>No se pueden leer los destinatarios de esta carpeta</translation>
+    </message>
+    <message>
+        <source>Fai clic sulla cartella per vedere i destinatari</source>
+        <translation>Haga clic en la carpeta para ver los destinatarios</translation>
+    </message>
+    <message>
+        <source>In questa cartella</source>
+        <translation>En esta carpeta</translation>
+    </message>
+    <message>
+        <source>Ovunque</source>
+        <translation>En todas partes</translation>
+    </message>
+    <message>
+        <source>Ricerca non riuscita: %1</source>
+        <translation>La búsqueda falló: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln trovati, ricerca in corso…</source>
+        <translation>
+            <numerusform>%Ln encontrado, buscando…</numerusform>
+            <numerusform>%Ln encontrados, buscando…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nessun risultato</source>
+        <translation>Ningún resultado</translation>
+    </message>
+    <message>
+        <source>%1 di %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln trovati</source>
+        <translation>
+            <numerusform>%Ln encontrado</numerusform>
+            <numerusform>%Ln encontrados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln cartelle</source>
+        <translation>
+            <numerusform>%1 en %Ln carpeta</numerusform>
+            <numerusform>%1 en %Ln carpetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, %1 in cartelle perdute</source>
+        <translation>, %1 en carpetas perdidas</translation>
+    </message>
+    <message>
+        <source>; qui %1</source>
+        <translation>; aquí %1</translation>
+    </message>
+    <message>
+        <source>Recupera cartelle perdute</source>
+        <translation>Recuperar carpetas perdidas</translation>
+    </message>
+    <message>
+        <source>Cartella</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Destinatari</source>
+        <translation>Destinatarios</translation>
+    </message>
+    <message>
+        <source>Perché non si vede</source>
+        <translation>Por qué no se ve</translation>
+    </message>
+    <message>
+        <source>L&apos;albero non mostra %1 e %2.<byte value="xd"/>
+Portarli sotto &quot;Database Mailing&quot;?</source>
+        <translation>El árbol no muestra %1 y %2.<byte value="xd"/>
+¿Llevarlos bajo &quot;Database Mailing&quot;?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln cartelle</source>
+        <translation>
+            <numerusform>%Ln carpeta</numerusform>
+            <numerusform>%Ln carpetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>L&apos;elenco mostra le prime %1 righe.</source>
+        <translation>La lista muestra las primeras %1 filas.</translation>
+    </message>
+    <message>
+        <source>Nessuna cartella è perduta: l&apos;albero le mostra tutte.</source>
+        <translation>No hay carpetas perdidas: el árbol las muestra todas.</translation>
+    </message>
+    <message>
+        <source>Impossibile recuperare tutte le cartelle.</source>
+        <translation>No se pudieron recuperar todas las carpetas.</translation>
+    </message>
+    <message>
+        <source> Chiave DKIM di %1</source>
+        <translation> Clave DKIM de %1</translation>
+    </message>
+    <message>
+        <source>La chiave è stata creata. Pubblicare nel DNS del dominio un record TXT con questo nome e questo valore, poi premere Controlla.</source>
+        <translation>La clave se ha creado. Publique en el DNS del dominio un registro TXT con este nombre y este valor, y pulse después Comprobar.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha già una chiave, che resta com&apos;è. Questo è il record TXT da pubblicare nel suo DNS.</source>
+        <translation>El dominio ya tiene una clave, que queda como está. Este es el registro TXT que hay que publicar en su DNS.</translation>
+    </message>
+    <message>
+        <source>Selettore:</source>
+        <translation>Selector:</translation>
+    </message>
+    <message>
+        <source>Nome del record:</source>
+        <translation>Nombre del registro:</translation>
+    </message>
+    <message>
+        <source>Valore:</source>
+        <translation>Valor:</translation>
+    </message>
+    <message>
+        <source>Riga per un file di zona:</source>
+        <translation>Línea para un archivo de zona:</translation>
+    </message>
+    <message>
+        <source>Copia &amp;nome</source>
+        <translation>Copiar &amp;nombre</translation>
+    </message>
+    <message>
+        <source>Il nome è negli appunti.</source>
+        <translation>El nombre está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>Copia &amp;valore</source>
+        <translation>Copiar &amp;valor</translation>
+    </message>
+    <message>
+        <source>Il valore è negli appunti.</source>
+        <translation>El valor está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>Copia riga di &amp;zona</source>
+        <translation>Copiar línea de &amp;zona</translation>
+    </message>
+    <message>
+        <source>La riga è negli appunti.</source>
+        <translation>La línea está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source> Controllo del mittente</source>
+        <translation> Control del remitente</translation>
+    </message>
+    <message>
+        <source>Nessun account: crearne uno con File, Imposta Account.</source>
+        <translation>Ninguna cuenta: cree una con Archivo, Configurar cuentas.</translation>
+    </message>
+    <message>
+        <source>Il file degli account è danneggiato: si vedono solo quelli prima del guasto.</source>
+        <translation>El archivo de cuentas está dañado: solo se ven las anteriores al daño.</translation>
+    </message>
+    <message>
+        <source>Scegliere un account e premere Controlla.</source>
+        <translation>Elija una cuenta y pulse Comprobar.</translation>
+    </message>
+    <message>
+        <source>Controllo in corso… Esc per interrompere.</source>
+        <translation>Control en curso… Esc para interrumpir.</translation>
+    </message>
+    <message>
+        <source>Interrotto</source>
+        <translation>Interrumpido</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n righe</source>
+        <translation>
+            <numerusform>%n línea</numerusform>
+            <numerusform>%n líneas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Controllo finito: tutto in ordine.</source>
+        <translation>Control terminado: todo en orden.</translation>
+    </message>
+    <message>
+        <source>Controllo finito: %1 da correggere, %2 con attenzione.</source>
+        <translation>Control terminado: %1 por corregir, %2 con atención.</translation>
+    </message>
+    <message>
+        <source>Controllo interrotto.</source>
+        <translation>Control interrumpido.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo email dell&apos;account non è valido.</source>
+        <translation>La dirección de correo de la cuenta no es válida.</translation>
+    </message>
+    <message>
+        <source>Creare una chiave DKIM per %1?<byte value="xd"/>
+Da quel momento i messaggi di questo dominio vengono firmati; la firma vale quando il suo record è pubblicato.</source>
+        <translation>¿Crear una clave DKIM para %1?<byte value="xd"/>
+Desde ese momento se firman los mensajes de este dominio; la firma vale cuando su registro está publicado.</translation>
+    </message>
+    <message>
+        <source>Chiave DKIM</source>
+        <translation>Clave DKIM</translation>
+    </message>
+    <message>
+        <source>I file della chiave non sono stati cambiati.</source>
+        <translation>Los archivos de la clave no se han cambiado.</translation>
+    </message>
+    <message>
+        <source>Il rapporto è negli appunti.</source>
+        <translation>El informe está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>&amp;Account mittente:</source>
+        <translation>Cuenta &amp;remitente:</translation>
+    </message>
+    <message>
+        <source>C&amp;ontrolla</source>
+        <translation>Com&amp;probar</translation>
+    </message>
+    <message>
+        <source>&amp;Interrompi</source>
+        <translation>&amp;Interrumpir</translation>
+    </message>
+    <message>
+        <source>Controllo</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Che cosa fare</source>
+        <translation>Qué hacer</translation>
+    </message>
+    <message>
+        <source>Righe del controllo</source>
+        <translation>Líneas del control</translation>
+    </message>
+    <message>
+        <source>D&amp;ettagli:</source>
+        <translation>&amp;Detalles:</translation>
+    </message>
+    <message>
+        <source>Crea chiave &amp;DKIM...</source>
+        <translation>Crear clave D&amp;KIM...</translation>
+    </message>
+    <message>
+        <source>Copia &amp;tutto</source>
+        <translation>Copiar &amp;todo</translation>
+    </message>
+    <message>
+        <source>Crea la chiave con cui firmare i messaggi, o mostra quella che c&apos;è</source>
+        <translation>Crea la clave con la que firmar los mensajes, o muestra la que hay</translation>
+    </message>
+    <message>
+        <source>database </source>
+        <translation>base de datos </translation>
+    </message>
+    <message>
+        <source> Esito degli invii</source>
+        <translation> Resultado de los envíos</translation>
+    </message>
+    <message>
+        <source>Invio</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>&amp;Elimina</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Elimina &amp;tutti</source>
+        <translation>Eliminar t&amp;odos</translation>
+    </message>
+    <message>
+        <source>Indirizzo o risposta</source>
+        <translation>Dirección o respuesta</translation>
+    </message>
+    <message>
+        <source>Destinatari dell&apos;invio</source>
+        <translation>Destinatarios del envío</translation>
+    </message>
+    <message>
+        <source>&amp;Registra l&apos;esito dei prossimi invii</source>
+        <translation>&amp;Registrar el resultado de los próximos envíos</translation>
+    </message>
+    <message>
+        <source>Restano gli ultimi 50 invii, nella cartella &quot;esiti&quot; dei dati del programma</source>
+        <translation>Se conservan los últimos 50 envíos, en la carpeta &quot;esiti&quot; de los datos del programa</translation>
+    </message>
+    <message>
+        <source>&amp;Seleziona questi per il prossimo invio</source>
+        <translation>&amp;Seleccionar estos para el próximo envío</translation>
+    </message>
+    <message>
+        <source>C&amp;opia</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Sal&amp;va CSV...</source>
+        <translation>&amp;Guardar CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Deseleziona gli indirizzi inesistenti</source>
+        <translation>&amp;Deseleccionar las direcciones inexistentes</translation>
+    </message>
+    <message>
+        <source>Quelli che il server del destinatario ha rifiutato come inesistenti
+(codici 5.1.1, 5.1.2, 5.1.3, 5.1.6 e 5.1.10)</source>
+        <translation>Las que el servidor del destinatario rechazó por inexistentes
+(códigos 5.1.1, 5.1.2, 5.1.3, 5.1.6 y 5.1.10)</translation>
+    </message>
+    <message>
+        <source>I&amp;nvio:</source>
+        <translation>En&amp;vío:</translation>
+    </message>
+    <message>
+        <source>Es&amp;ito:</source>
+        <translation>Resul&amp;tado:</translation>
+    </message>
+    <message>
+        <source>&amp;Motivo:</source>
+        <translation>&amp;Motivo:</translation>
+    </message>
+    <message>
+        <source>Trov&amp;a:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Tutti</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Nessun invio registrato. L&apos;esito di ogni destinatario compare qui dopo il prossimo invio.</source>
+        <translation>Ningún envío registrado. El resultado de cada destinatario aparece aquí después del próximo envío.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln destinatari.</source>
+        <translation>
+            <numerusform>%Ln destinatario.</numerusform>
+            <numerusform>%Ln destinatarios.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 di %2 destinatari.</source>
+        <translation>%1 de %2 destinatarios.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln righe del registro sono rovinate e non vengono mostrate.</source>
+        <translation>
+            <numerusform>Una línea del registro está dañada y no se muestra.</numerusform>
+            <numerusform>%Ln líneas del registro están dañadas y no se muestran.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Il registro si interrompe a metà di una riga: il programma è terminato durante l&apos;invio.</source>
+        <translation>El registro se interrumpe a mitad de una línea: el programa terminó durante el envío.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio è di un altro database: la selezione non si può cambiare da qui.</source>
+        <translation>El envío es de otra base de datos: la selección no se puede cambiar desde aquí.</translation>
+    </message>
+    <message>
+        <source>Salva l&apos;esito dell&apos;invio</source>
+        <translation>Guardar el resultado del envío</translation>
+    </message>
+    <message>
+        <source>File CSV (*.csv)|*.csv|</source>
+        <translation>Archivo CSV (*.csv)|*.csv|</translation>
+    </message>
+    <message>
+        <source>Il file non si può scrivere:</source>
+        <translation>No se puede escribir el archivo:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln di questi destinatari hanno già ricevuto il messaggio.</source>
+        <translation>
+            <numerusform>Uno de estos destinatarios ya ha recibido el mensaje.</numerusform>
+            <numerusform>%Ln de estos destinatarios ya han recibido el mensaje.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Selezionarli tutti lo stesso?</source>
+        <translation>¿Seleccionarlos todos de todos modos?</translation>
+    </message>
+    <message>
+        <source>In questo invio nessun indirizzo è risultato inesistente.</source>
+        <translation>En este envío ninguna dirección resultó inexistente.</translation>
+    </message>
+    <message>
+        <source>In questo invio %1 destinatari su %2 risultano inesistenti.<byte value="xd"/>
+Quando sono più della metà la causa è spesso un&apos;altra: un server che rifiuta ogni destinatario, o il mittente bloccato.<byte value="xd"/>
+Deselezionarli lo stesso?</source>
+        <translation>En este envío %1 destinatarios de %2 resultan inexistentes.<byte value="xd"/>
+Cuando son más de la mitad, la causa suele ser otra: un servidor que rechaza a todos, o el remitente bloqueado.<byte value="xd"/>
+¿Deseleccionarlos de todos modos?</translation>
+    </message>
+    <message>
+        <source>La selezione non si può cambiare:</source>
+        <translation>La selección no se puede cambiar:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln destinatari sono stati selezionati.</source>
+        <translation>
+            <numerusform>Se ha seleccionado un destinatario.</numerusform>
+            <numerusform>Se han seleccionado %Ln destinatarios.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln destinatari sono stati deselezionati.</source>
+        <translation>
+            <numerusform>Se ha deseleccionado un destinatario.</numerusform>
+            <numerusform>Se han deseleccionado %Ln destinatarios.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln lo erano già.</source>
+        <translation>
+            <numerusform>Uno ya lo estaba.</numerusform>
+            <numerusform>%Ln ya lo estaban.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln non sono stati toccati: non ci sono più, o il loro indirizzo è cambiato.</source>
+        <translation>
+            <numerusform>Uno no se ha tocado: ya no existe o su dirección ha cambiado.</numerusform>
+            <numerusform>%Ln no se han tocado: ya no existen o su dirección ha cambiado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Eliminare il registro di questo invio?<byte value="xd"/>
+I destinatari restano come sono.</source>
+        <translation>¿Eliminar el registro de este envío?<byte value="xd"/>
+Los destinatarios quedan como están.</translation>
+    </message>
+    <message>
+        <source>Eliminare il registro di tutti gli invii?<byte value="xd"/>
+I destinatari restano come sono.</source>
+        <translation>¿Eliminar el registro de todos los envíos?<byte value="xd"/>
+Los destinatarios quedan como están.</translation>
+    </message>
+    <message>
+        <source> Prova messaggio</source>
+        <translation> Prueba del mensaje</translation>
+    </message>
+    <message>
+        <source>File messaggio:</source>
+        <translation>Archivo del mensaje:</translation>
+    </message>
+    <message>
+        <source>Destinatario:</source>
+        <translation>Destinatario:</translation>
+    </message>
+    <message>
+        <source>&amp;Precedente</source>
+        <translation>&amp;Anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Successivo</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <source>Ce&amp;rca</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>Oggetto:</source>
+        <translation>Asunto:</translation>
+    </message>
+    <message>
+        <source>Rilievi:</source>
+        <translation>Observaciones:</translation>
+    </message>
+    <message>
+        <source>&amp;Vai al primo</source>
+        <translation>&amp;Ir al primero</translation>
+    </message>
+    <message>
+        <source>Account mittente:</source>
+        <translation>Cuenta remitente:</translation>
+    </message>
+    <message>
+        <source>Indirizzo della prova:</source>
+        <translation>Dirección de la prueba:</translation>
+    </message>
+    <message>
+        <source>&amp;Invia una copia di prova</source>
+        <translation>&amp;Enviar una copia de prueba</translation>
+    </message>
+    <message>
+        <source>Solo testo</source>
+        <translation>Solo texto</translation>
+    </message>
+    <message>
+        <source>Il messaggio come lo vede il destinatario</source>
+        <translation>El mensaje como lo ve el destinatario</translation>
+    </message>
+    <message>
+        <source>Il messaggio come lo legge chi non vede l&apos;HTML</source>
+        <translation>El mensaje como lo lee quien no ve HTML</translation>
+    </message>
+    <message>
+        <source>Cerca il destinatario</source>
+        <translation>Buscar el destinatario</translation>
+    </message>
+    <message>
+        <source>Messaggio in HTML</source>
+        <translation>Mensaje en HTML</translation>
+    </message>
+    <message>
+        <source>Messaggio di solo testo</source>
+        <translation>Mensaje de solo texto</translation>
+    </message>
+    <message>
+        <source>Forme del messaggio</source>
+        <translation>Formas del mensaje</translation>
+    </message>
+    <message>
+        <source>Mostra il messaggio del destinatario selezionato precedente</source>
+        <translation>Muestra el mensaje del destinatario seleccionado anterior</translation>
+    </message>
+    <message>
+        <source>Mostra il messaggio del destinatario selezionato successivo</source>
+        <translation>Muestra el mensaje del destinatario seleccionado siguiente</translation>
+    </message>
+    <message>
+        <source>Interrompe l&apos;invio della copia di prova</source>
+        <translation>Interrumpe el envío de la copia de prueba</translation>
+    </message>
+    <message>
+        <source>Mostra il primo destinatario di questo rilievo</source>
+        <translation>Muestra el primer destinatario de esta observación</translation>
+    </message>
+    <message>
+        <source>Apri messaggio</source>
+        <translation>Abrir mensaje</translation>
+    </message>
+    <message>
+        <source>Nessun messaggio: salvarne uno nell&apos;editor o sceglierlo con il pulsante &quot;...&quot;.</source>
+        <translation>Ningún mensaje: guarde uno en el editor o elíjalo con el botón &quot;...&quot;.</translation>
+    </message>
+    <message>
+        <source>I destinatari non si possono leggere: %1</source>
+        <translation>No se pueden leer los destinatarios: %1</translation>
+    </message>
+    <message>
+        <source>Nessun destinatario è selezionato: il messaggio si vede con i suoi segnaposto.</source>
+        <translation>Ningún destinatario seleccionado: el mensaje se ve con sus variables.</translation>
+    </message>
+    <message>
+        <source>Questa copia non si può mostrare: %1</source>
+        <translation>No se puede mostrar esta copia: %1</translation>
+    </message>
+    <message>
+        <source>non c&apos;è</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>Nessun allegato.</source>
+        <translation>Ningún adjunto.</translation>
+    </message>
+    <message>
+        <source>Allegati: %1.</source>
+        <translation>Adjuntos: %1.</translation>
+    </message>
+    <message>
+        <source>Dimensione non nota: manca l&apos;account mittente.</source>
+        <translation>Tamaño desconocido: falta la cuenta remitente.</translation>
+    </message>
+    <message>
+        <source>Il messaggio non può partire: %1</source>
+        <translation>El mensaje no puede salir: %1</translation>
+    </message>
+    <message>
+        <source>Messaggio intero: %1.</source>
+        <translation>Mensaje completo: %1.</translation>
+    </message>
+    <message>
+        <source>Ricerca in corso…</source>
+        <translation>Buscando…</translation>
+    </message>
+    <message>
+        <source>Nessun destinatario selezionato contiene &quot;%1&quot;.</source>
+        <translation>Ningún destinatario seleccionado contiene &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Scegliere un messaggio prima di inviare la prova.</source>
+        <translation>Elija un mensaje antes de enviar la prueba.</translation>
+    </message>
+    <message>
+        <source>Nessun account: crearne uno con il comando &quot;Imposta Account&quot;.</source>
+        <translation>Ninguna cuenta: cree una con el comando &quot;Configurar cuentas&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo della prova non è valido.</source>
+        <translation>La dirección de la prueba no es válida.</translation>
+    </message>
+    <message>
+        <source>La prova non è stata inviata.</source>
+        <translation>La prueba no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>Invio della prova a %1… Esc per interrompere.</source>
+        <translation>Enviando la prueba a %1… Esc para interrumpir.</translation>
+    </message>
+    <message>
+        <source>La copia di prova porta con sé questi file di questo computer.<byte value="xd"/>
+Vuoi inviarli?</source>
+        <translation>La copia de prueba lleva consigo estos archivos de este ordenador.<byte value="xd"/>
+¿Quiere enviarlos?</translation>
+    </message>
+    <message>
+        <source>La prova non è stata consegnata. Invio interrotto.</source>
+        <translation>La prueba no se ha entregado. Envío interrumpido.</translation>
+    </message>
+    <message>
+        <source>La prova è stata accettata dal server per %1.</source>
+        <translation>El servidor ha aceptado la prueba para %1.</translation>
+    </message>
+    <message>
+        <source>La prova non è stata consegnata.</source>
+        <translation>La prueba no se ha entregado.</translation>
+    </message>
+    <message>
+        <source>Il server ha risposto: %1</source>
+        <translation>El servidor respondió: %1</translation>
+    </message>
+    <message>
+        <source>I campi dei destinatari non si possono controllare: %1</source>
+        <translation>No se pueden comprobar los campos de los destinatarios: %1</translation>
+    </message>
+    <message>
+        <source>Rilievi (controllo dei destinatari in corso):</source>
+        <translation>Observaciones (comprobando los destinatarios):</translation>
+    </message>
+    <message>
+        <source>Rilievi: nessuno</source>
+        <translation>Observaciones: ninguna</translation>
+    </message>
+    <message>
+        <source>Rilievi: %1</source>
+        <translation>Observaciones: %1</translation>
+    </message>
+    <message>
+        <source>Dall&apos;avvio del programma non è stata fatta nessuna importazione.</source>
+        <translation>Desde el inicio del programa no se ha hecho ninguna importación.</translation>
+    </message>
+    <message>
+        <source>Da %1, %2.
+Importate %3, rifiutate %4.</source>
+        <translation>De %1, %2.
+Importadas %3, rechazadas %4.</translation>
+    </message>
+    <message>
+        <source>Nel database ne sono rimaste %1: le ultime non sono state scritte.</source>
+        <translation>En la base de datos han quedado %1: las últimas no se escribieron.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco ha le prime %1 righe importate e le prime %1 rifiutate.</source>
+        <translation>La lista tiene las primeras %1 filas importadas y las primeras %1 rechazadas.</translation>
+    </message>
+    <message>
+        <source>Righe rifiutate</source>
+        <translation>Filas rechazadas</translation>
+    </message>
+    <message>
+        <source>Righe importate</source>
+        <translation>Filas importadas</translation>
+    </message>
+    <message>
+        <source>Tutte le righe</source>
+        <translation>Todas las filas</translation>
+    </message>
+    <message>
+        <source>Co&amp;pia</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Ultima importazione</source>
+        <translation>Última importación</translation>
+    </message>
+    <message>
+        <source>Righe dell&apos;ultima importazione</source>
+        <translation>Filas de la última importación</translation>
+    </message>
+    <message>
+        <source>Riga</source>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <source>Testo</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>&amp;Mostra:</source>
+        <translation>&amp;Mostrar:</translation>
+    </message>
+    <message>
+        <source>Importata</source>
+        <translation>Importada</translation>
+    </message>
+    <message>
+        <source>Rifiutata</source>
+        <translation>Rechazada</translation>
+    </message>
+    <message>
+        <source>(cartella perduta)</source>
+        <translation>(carpeta perdida)</translation>
+    </message>
+    <message>
+        <source>%1 (cartella perduta)</source>
+        <translation>%1 (carpeta perdida)</translation>
+    </message>
+    <message>
+        <source>Indirizzi doppi</source>
+        <translation>Direcciones duplicadas</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Con &quot;Sì&quot;</source>
+        <translation>Con &quot;Sí&quot;</translation>
+    </message>
+    <message>
+        <source>Resta selezionato</source>
+        <translation>Sigue seleccionado</translation>
+    </message>
+    <message>
+        <source>Viene deselezionato</source>
+        <translation>Se deselecciona</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln indirizzi sono selezionati più di una volta.</source>
+        <translation>
+            <numerusform>%Ln dirección está seleccionada más de una vez.</numerusform>
+            <numerusform>%Ln direcciones están seleccionadas más de una vez.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Deselezionare i %Ln doppioni, uno escluso per indirizzo?</source>
+        <translation>
+            <numerusform>¿Deseleccionar el duplicado?</numerusform>
+            <numerusform>¿Deseleccionar los %Ln duplicados, todos menos uno por dirección?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>L&apos;elenco mostra i primi %1 destinatari.</source>
+        <translation>La lista muestra los primeros %1 destinatarios.</translation>
+    </message>
+    <message>
+        <source>Nessun indirizzo è selezionato più di una volta.</source>
+        <translation>Ninguna dirección está seleccionada más de una vez.</translation>
+    </message>
+    <message>
+        <source>Impossibile controllare gli indirizzi.</source>
+        <translation>No se pueden comprobar las direcciones.</translation>
+    </message>
+    <message>
+        <source>Errore %1:<byte value="xd"/>
+<byte value="xd"/>
+%2</source>
+        <translation>Error %1:<byte value="xd"/>
+<byte value="xd"/>
+%2</translation>
+    </message>
+</context>
+</TS>
