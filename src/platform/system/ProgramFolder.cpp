@@ -21,6 +21,11 @@ QString& chosenFolder() {
     return folder;
 }
 
+QString& chosenHelp() {
+    static QString folder;
+    return folder;
+}
+
 bool& newFolder() {
     static bool isNew = false;
     return isNew;
@@ -83,12 +88,17 @@ QString installedTemplates(const QString& applicationFolder) {
     return QDir::cleanPath(applicationFolder + QStringLiteral("/../share/vestrola/templates"));
 }
 
-QString helpPage() {
+QString helpFolder() {
+    if (!chosenHelp().isEmpty()) return chosenHelp();
     const QString application = QCoreApplication::applicationDirPath();
-    const QString beside = application + QStringLiteral("/help/index.html");
-    return QFileInfo::exists(beside)
+    const QString beside = application + QStringLiteral("/help/");
+    return QFileInfo::exists(beside + QStringLiteral("index.html"))
                ? beside
-               : QDir::cleanPath(application + QStringLiteral("/../share/vestrola/help/index.html"));
+               : QDir::cleanPath(application + QStringLiteral("/../share/vestrola/help")) + u'/';
+}
+
+void setHelpFolder(const QString& folder) {
+    chosenHelp() = folder.isEmpty() ? folder : withSlash(folder);
 }
 
 QString chooseProgramFolder(const QString& applicationFolder, const QString& userData) {

@@ -28,9 +28,12 @@ void setProgramFolder(const QString& folder);
 /// without ending "/".
 QString installedTemplates(const QString& applicationFolder);
 
-/// The first page of the help: in the folder "help" beside the program, or where an installed program has it
+/// The folder of the help, ending in "/": "help" beside the program, or where an installed program has it
 /// ("../share/vestrola/help" as seen from its own folder).
-QString helpPage();
+QString helpFolder();
+
+/// Replaces the folder of the help; an empty text has it found again.
+void setHelpFolder(const QString& folder);
 
 /// Cases 2 and 3 for a program in `applicationFolder` and a user with the data home `userData`; no ending
 /// "/".

@@ -2,16 +2,15 @@
 #include <algorithm>
 #include <iterator>
 #include <QScopedValueRollback>
-#include <QUrl>
 
 #include "modules/core/bFunctions.h"
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
 #include "modules/core/Prodotto.h"
 #include "modules/lang/bVAR.h"
+#include "modules/lang/Guida.h"
 #include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
-#include "platform/system/ProgramFolder.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/shell/frmMain.h"
@@ -148,5 +147,5 @@ void frmMain::cmdInvia(Accesso& accesso) {
 }
 
 void frmMain::cmdHelpGuida() {
-    ApriShell(QUrl::fromLocalFile(sys::helpPage()).toString());
+    guida::Apri(guida::PrimaPagina());
 }

@@ -246,7 +246,7 @@ class TestCommands : public QObject {
         QTest::newRow("mail") << "cmdHelpInviaMail"
                               << "mailto:info@quintara.example";
         QTest::newRow("guide") << "cmdHelpGuida"
-                               << "file://" + sys::helpPage();
+                               << "file://" + sys::helpFolder() + "it/index.html";
     }
     void helpCommandsOpenTheirAddresses() {
         QFETCH(QString, name);
