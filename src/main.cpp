@@ -10,6 +10,7 @@
 #include "windows/entry/bMain.h"
 #include "windows/entry/FineSessione.h"
 #include "windows/entry/Riavvio.h"
+#include "windows/entry/TastoGuida.h"
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName(prodotto::nome());  // known to whoever asks the application for it
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
     text::setLanguage(bLANG::CodiceLingua());
     riavvio::Raccogli();
     SeguiFineSessione();
+    SeguiTastoGuida();
     SubMain();
     ui::watchContrast([] { RilevaTema(nullptr); });
     return QApplication::exec();
