@@ -22,7 +22,7 @@ int runUnattended(int argc, char** argv, const char* usage,
         return 2;
     }
     QApplication::setApplicationName(prodotto::nome());
-    QLocale::setDefault(QLocale("it_IT"));
+    QLocale::setDefault(QLocale(qEnvironmentVariable("DEMO_LOCALE", "it_IT")));
     sys::setProgramFolder(arguments.first());
     ui::setUnattended(true);
     ui::setUpDesktop(application);
