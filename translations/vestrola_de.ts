@@ -688,10 +688,6 @@ Sie wurde unter dem Namen pathDBase.utf8.guasto beiseitegelegt.</translation>
         <translation>Der Schlüsselbund hat das Passwort dieses Kontos nicht herausgegeben.</translation>
     </message>
     <message>
-        <source>Ricerca del server di posta non riuscita: </source>
-        <translation>Die Suche nach dem Mailserver ist gescheitert: </translation>
-    </message>
-    <message>
         <source>In ordine</source>
         <translation>In Ordnung</translation>
     </message>
@@ -1265,7 +1261,7 @@ Die Datei Account.imp gehört einem anderen Benutzer, der die Passwörter lesen 
     </message>
     <message>
         <source>&amp;Ordina per la colonna corrente</source>
-        <translation>Nach der aktuellen &amp;Spalte ordnen</translation>
+        <translation>Nach der aktuellen Spalte &amp;ordnen</translation>
     </message>
     <message>
         <source>Ordina l&apos;elenco per la colonna corrente; la terza volta torna l&apos;ordine di prima</source>
@@ -2492,6 +2488,14 @@ Importate %3, rifiutate %4.</source>
         <translation>Fehler %1:<byte value="xd"/>
 <byte value="xd"/>
 %2</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita: %1. Riprovare più tardi.</source>
+        <translation>Die Suche nach dem Mailserver ist gescheitert: %1. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>file di testo </source>
+        <translation>Textdatei </translation>
     </message>
 </context>
 </TS>

@@ -688,10 +688,6 @@ It was set aside under the name pathDBase.utf8.guasto.</translation>
         <translation>The keyring did not give the password of this account.</translation>
     </message>
     <message>
-        <source>Ricerca del server di posta non riuscita: </source>
-        <translation>The look-up of the mail server failed: </translation>
-    </message>
-    <message>
         <source>In ordine</source>
         <translation>In order</translation>
     </message>
@@ -1007,7 +1003,7 @@ It was set aside under the name pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Chiudi</source>
-        <translation>&amp;Close</translation>
+        <translation>C&amp;lose</translation>
     </message>
     <message>
         <source>Testo non trovato.</source>
@@ -1970,7 +1966,7 @@ From then on the messages of this domain are signed; the signature counts once i
     </message>
     <message>
         <source>Copia &amp;tutto</source>
-        <translation>Copy al&amp;l</translation>
+        <translation>Cop&amp;y all</translation>
     </message>
     <message>
         <source>Crea la chiave con cui firmare i messaggi, o mostra quella che c&apos;è</source>
@@ -2492,6 +2488,14 @@ Imported %3, refused %4.</translation>
         <translation>Error %1:<byte value="xd"/>
 <byte value="xd"/>
 %2</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita: %1. Riprovare più tardi.</source>
+        <translation>The look-up of the mail server failed: %1. Try again later.</translation>
+    </message>
+    <message>
+        <source>file di testo </source>
+        <translation>text file </translation>
     </message>
 </context>
 </TS>

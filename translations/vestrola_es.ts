@@ -688,10 +688,6 @@ Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
         <translation>El llavero no dio la contraseña de esta cuenta.</translation>
     </message>
     <message>
-        <source>Ricerca del server di posta non riuscita: </source>
-        <translation>La búsqueda del servidor de correo falló: </translation>
-    </message>
-    <message>
         <source>In ordine</source>
         <translation>En orden</translation>
     </message>
@@ -939,7 +935,7 @@ Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Elemento:</source>
-        <translation>&amp;Elemento:</translation>
+        <translation>E&amp;lemento:</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -947,7 +943,7 @@ Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Annulla</source>
-        <translation>&amp;Cancelar</translation>
+        <translation>Canc&amp;elar</translation>
     </message>
     <message>
         <source>Trova</source>
@@ -2213,7 +2209,7 @@ Los destinatarios quedan como están.</translation>
     </message>
     <message>
         <source>&amp;Invia una copia di prova</source>
-        <translation>&amp;Enviar una copia de prueba</translation>
+        <translation>En&amp;viar una copia de prueba</translation>
     </message>
     <message>
         <source>Solo testo</source>
@@ -2492,6 +2488,14 @@ Importadas %3, rechazadas %4.</translation>
         <translation>Error %1:<byte value="xd"/>
 <byte value="xd"/>
 %2</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita: %1. Riprovare più tardi.</source>
+        <translation>La búsqueda del servidor de correo falló: %1. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>file di testo </source>
+        <translation>archivo de texto </translation>
     </message>
 </context>
 </TS>

@@ -688,10 +688,6 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
         <translation>Le trousseau n&apos;a pas donné le mot de passe de ce compte.</translation>
     </message>
     <message>
-        <source>Ricerca del server di posta non riuscita: </source>
-        <translation>La recherche du serveur de messagerie a échoué : </translation>
-    </message>
-    <message>
         <source>In ordine</source>
         <translation>En ordre</translation>
     </message>
@@ -2492,6 +2488,14 @@ Importées %3, refusées %4.</translation>
         <translation>Erreur %1 :<byte value="xd"/>
 <byte value="xd"/>
 %2</translation>
+    </message>
+    <message>
+        <source>Ricerca del server di posta non riuscita: %1. Riprovare più tardi.</source>
+        <translation>La recherche du serveur de messagerie a échoué : %1. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>file di testo </source>
+        <translation>fichier texte </translation>
     </message>
 </context>
 </TS>

@@ -11,8 +11,8 @@ ServerMX ServerDi(const dns::Answer& risposta) {
     switch (risposta.kind) {
         case dns::Answer::Kind::Failure:
             return {{},
-                    Words::tr("Ricerca del server di posta non riuscita: ") + risposta.why +
-                        ". Riprovare più tardi."};
+                    Words::tr("Ricerca del server di posta non riuscita: %1. Riprovare più tardi.")
+                        .arg(risposta.why)};
         case dns::Answer::Kind::NoName:
             return {{}, TestoMotivo(MotivoMX::Inesistente)};
         case dns::Answer::Kind::NoRecords:

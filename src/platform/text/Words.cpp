@@ -1,5 +1,5 @@
 #include "platform/text/Words.h"
 
 QLocale Words::locale() {
-    return QLocale(tr("it", "the ISO 639 code of this language"));
+    return QLocale(Words::tr("it", "the ISO 639 code of this language"));
 }

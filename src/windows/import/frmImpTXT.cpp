@@ -118,7 +118,7 @@ void frmImpTXT::cmdImportaTXT_Click() {
     QString rifiutato;
     PuntoImportazione punto;
     UltimaImportazione& resoconto = ultimaImportazione();
-    resoconto.Comincia("file di testo " + NomeDaPercorso(percorso));
+    resoconto.Comincia(Words::tr("file di testo ") + NomeDaPercorso(percorso));
     for (; !file.atEnd(); ++punto.riga) {
         esigi(file.readLine(riga));
         if (const auto valori = regola.Leggi(riga, punto, &rifiutato)) {

@@ -1,133 +1,25 @@
 // Every window as a user may have it: with the four colour schemes, a larger font, longer texts; the screen's
 // scale comes from outside (QT_SCALE_FACTOR). With VESTROLA_SHOTS set to a folder, pictures are left there.
-#include <functional>
-#include <QFile>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopeGuard>
-#include <QScreen>
 #include <QToolButton>
 
-#include "modules/import/UltimaImportazione.h"
 #include "platform/ui/Contrast.h"
-#include "platform/ui/Controls.h"
-#include "platform/ui/ElementDialog.h"
-#include "platform/ui/FindDialog.h"
-#include "platform/ui/ImageDialog.h"
-#include "platform/ui/LinkDialog.h"
 #include "support/LookChange.h"
 #include "support/LookCheck.h"
 #include "support/TestClass.h"
-#include "windows/accounts/frmAccount.h"
 #include "windows/core/bTheme.h"
+#include "windows/entry/every_window.h"
 #include "windows/entry/Finestre.h"
-#include "windows/import/frmImpDB.h"
-#include "windows/import/frmImpTXT.h"
-#include "windows/import/frmScelta.h"
-#include "windows/message/frmColor.h"
-#include "windows/message/frmEditor.h"
-#include "windows/message/frmPropBody.h"
-#include "windows/send/frmInvia.h"
-#include "windows/shell/frmInfoSu.h"
 #include "windows/shell/frmSplash.h"
 #include "windows/store/griglia_stage.h"
-#include "windows/strumenti/frmControlloMittente.h"
-#include "windows/strumenti/frmEsiti.h"
-#include "windows/strumenti/frmProva.h"
-#include "windows/strumenti/frmUltimaImportazione.h"
 
 namespace windows_test {
 
 using namespace testing_support;
 
 namespace {
-
-void writeTo(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qUtf8Printable(path));
-}
-
-QByteArray installedTexts() {
-    QFile file(TEST_DATA_DIR "/../../assets/templates/LANG.lng");
-    if (!file.open(QIODevice::ReadOnly)) qFatal("no language file");
-    return file.readAll();
-}
-
-/// The windows over a program folder with groups, recipients and an account, in the installed texts.
-struct Windows {
-    StoreStage stage;
-    bool stretched;
-
-    explicit Windows(bool longTexts = false, const QByteArray& language = "Italiano") : stretched(longTexts) {
-        writeTo(stage.folder.path("LANG.lng"),
-                stretched ? withLongerTexts(installedTexts()) : installedTexts());
-        writeTo(stage.folder.path("LANGz.lng"), language + "\r\n");
-        stage.folder.addAccount(SampleFolder::loopbackAccount(25));
-        stage.addGroup(1, "Rivenditori");
-        for (const char* name : {"Alfa S.r.l.", "Beta S.p.A.", "Gamma S.n.c."})
-            stage.addRecipient(1, name, "info@esempio.it");
-        stage.clickNode("K1");
-    }
-
-    /// The windows of the menu "Strumenti", which are made for screens of at least 800 points.
-    static void eachTool(const std::function<void(QWidget&, const QString&)>& show) {
-        if (finestre::Main().screen()->availableSize().width() < 800) return;
-        finestre::Prova().Carica();
-        show(finestre::Prova(), "frmProva");
-        finestre::Controllo().CaricaDati();
-        show(finestre::Controllo(), "frmControlloMittente");
-        finestre::Esiti().Carica();
-        show(finestre::Esiti(), "frmEsiti");
-        finestre::UltimaImportazione().Mostra(ultimaImportazione());
-        show(finestre::UltimaImportazione(), "frmUltimaImportazione");
-    }
-
-    /// Shows each window in its turn; `look` sees it.
-    void each(const std::function<void(QWidget&, const QString&)>& look) {
-        const auto show = [&](QWidget& window, const QString& name) {
-            window.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&window));
-            QTest::qWait(20);
-            look(window, name);
-            window.hide();
-        };
-        const auto showOwn = [&](QWidget& window, const QString& name) {
-            // Their texts are in no language file.
-            if (stretched) makeTextsLonger(window);
-            ui::openAtLeast(window, window.size());
-            show(window, name);
-        };
-        look(finestre::Main(), "frmMain");
-        finestre::Invia().SetPrgBar();
-        finestre::Invia().CaricaDati();
-        show(finestre::Invia(), "frmInvia");
-        show(finestre::Account(), "frmAccount");
-        finestre::Destinatario().PulisciCampi();
-        finestre::Destinatario().lbl->setText("Aggiungi destinatario");
-        show(finestre::Destinatario(), "frmDestinatario");
-        show(finestre::ImpTXT(), "frmImpTXT");
-        show(finestre::ImpDB(), "frmImpDB");
-        show(finestre::Scelta(), "frmScelta");
-        show(finestre::InfoSu(), "frmInfoSu");
-        show(finestre::Splash(), "frmSplash");
-        show(finestre::PropBody(), "frmPropBody");
-        eachTool(showOwn);
-        finestre::Editor().NuovoMessaggio();
-        show(finestre::Editor(), "frmEditor");
-        frmColor colours(*finestre::Editor().DHTML, finestre::Editor().Commands());
-        showOwn(colours, "frmColor");
-        ui::FindDialog find(&finestre::Main(), [](const QString&, bool, bool) { return false; });
-        showOwn(find, "FindDialog");
-        ui::LinkDialog link(&finestre::Main(), {"https://www.esempio.it"}, true,
-                            {{"Ragione sociale", ":::rgs:::"}});
-        showOwn(link, "LinkDialog");
-        ui::ImageDialog image(&finestre::Main(), {});
-        showOwn(image, "ImageDialog");
-        ui::ElementDialog element(&finestre::Main(), {{"td", {{"width", "120"}}}, {"table", {}}});
-        showOwn(element, "ElementDialog");
-    }
-};
 
 /// The installed languages besides Italian, as the file names them.
 const QList<std::pair<const char*, const char*>> otherLanguages{
