@@ -27,6 +27,7 @@ int runUnattended(int argc, char** argv, const char* usage,
     ui::setUnattended(true);
     ui::setUpDesktop(application);
     text::setLanguage(bLANG::CodiceLingua());
+    text::setLanguage(bLANG::CodiceLingua());
     SubMain();
     QTimer::singleShot(0, [&] {
         play(arguments);

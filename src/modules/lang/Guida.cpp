@@ -1,37 +1,22 @@
 #include "modules/lang/Guida.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <QUrl>
 
 #include "modules/core/bFunctions.h"
-#include "modules/lang/bLANG.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Words.h"
 
 namespace guida {
 
 namespace {
 
-struct Lingua {
-    const char16_t* nome;
-    const char* codice;
-};
-
-/// As LANG.lng names them.
-constexpr Lingua lingue[] = {
-    {u"Italiano", "it"}, {u"English", "en"}, {u"Español", "es"}, {u"Français", "fr"}, {u"Deutsch", "de"},
-};
-
 QString cartella() {
-    return sys::helpFolder() + CodiceLingua() + u'/';
+    return sys::helpFolder() + QLocale::languageToCode(Words::locale().language()) + u'/';
 }
 
 }  // namespace
-
-QString CodiceLingua() {
-    for (const Lingua& lingua : lingue)
-        if (bLANG::nomeScelto == QStringView(lingua.nome)) return QLatin1String(lingua.codice);
-    return QStringLiteral("it");
-}
 
 QString PrimaPagina() {
     return cartella() + QStringLiteral("index.html");

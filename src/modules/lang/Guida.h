@@ -3,11 +3,9 @@
 #include <QString>
 
 /// The pages of the help. Each language has a folder of its own below the folder of the help, named by its
-/// ISO 639 code, with the same pages in each.
+/// ISO 639 code, with the same pages in each. Which one is in use say the program's own texts
+/// (platform/text/Words.h), so that help and windows speak the same language.
 namespace guida {
-
-/// The code of the language in use; "it" where the help does not speak it.
-QString CodiceLingua();
 
 /// The page with which the help begins, in the language in use.
 QString PrimaPagina();

@@ -99,7 +99,6 @@ void bLANG::ElencaLingue(QStringList& voci) {
         if (voci[i] != inUso) continue;
         voci[i] = QStringLiteral(">> ") + inUso + QStringLiteral(" <<");
         linguaScelta = static_cast<std::int16_t>(i + 1);
-        nomeScelto = inUso;
     }
 }
 

@@ -16,9 +16,6 @@ inline std::int16_t numeroLingue = 0;
 /// Number of the language in use, counted from 1; 0 until it is found.
 inline std::int16_t linguaScelta = 0;
 
-/// Its name, as the file declares it; empty until it is found.
-inline QString nomeScelto;
-
 /// Fills `voci` with the names of the languages, in the order of the file, and counts them; the one in use is
 /// then marked and becomes `linguaScelta`. Where one of the files cannot be read, or the second one is empty,
 /// the names stay as far as they were read.

@@ -121,5 +121,4 @@ void finestre::dimentica() {
     delete principale;
     bLANG::numeroLingue = 0;
     bLANG::linguaScelta = 0;
-    bLANG::nomeScelto.clear();
 }
