@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 #include "platform/contacts/HelperOutput.h"
+#include "platform/system/OwnProgram.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace contacts {
@@ -47,7 +48,7 @@ QString findOutlookFile(const QStringList& folders) {
 
 QString outlookHelper() {
     if (!chosenHelper().isEmpty()) return chosenHelper();
-    const QString application = QCoreApplication::applicationDirPath();
+    const QString application = sys::applicationFolder();
     const QString beside = application + QStringLiteral("/vestrola-pst");
     return QFileInfo::exists(beside)
                ? beside
@@ -66,8 +67,9 @@ Result<ContactFolder> readContactFolder(const QString& path, std::chrono::millis
                                         const std::function<bool(std::chrono::milliseconds waited)>& goOn) {
     using std::chrono::milliseconds;
     QProcess helper;
-    helper.setProgram(outlookHelper());
-    helper.setArguments({QFileInfo(path).absoluteFilePath()});
+    const QStringList command = sys::commandOf(outlookHelper());
+    helper.setProgram(command.first());
+    helper.setArguments(command.sliced(1) << QFileInfo(path).absoluteFilePath());
     helper.setStandardInputFile(QProcess::nullDevice());
     helper.setStandardErrorFile(QProcess::nullDevice());
     helper.setChildProcessModifier([] { ::setsid(); });  // a process group of its own

@@ -1,9 +1,10 @@
 #include "platform/html/HtmlViewPlugin.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QOpenGLContext>
+
+#include "platform/system/OwnProgram.h"
 
 // The toolkit exports it without declaring it in public.
 void qt_gl_set_global_share_context(QOpenGLContext* context);
@@ -31,7 +32,7 @@ void closeNameResolution() {
 CreateBrowser* load(QString& failure) {
     shareContexts();
     closeNameResolution();
-    const QString program = QCoreApplication::applicationDirPath();
+    const QString program = sys::applicationFolder();
     for (const QString& folder : QStringLiteral(VESTROLA_PLUGIN_FOLDERS).split(':')) {
         const QString path = program + '/' + folder + QStringLiteral("/libvestrola_browser.so");
         if (!QFileInfo::exists(path)) continue;

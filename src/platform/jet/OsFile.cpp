@@ -226,8 +226,10 @@ void OsFile::takeRights(const OsFile& other, FileRights now, const FileRights& w
     const bool otherList = list != accessList(m_fd);
     const bool strange = now.group != wanted.group || now.owner != wanted.owner;
     const bool administrator = strange && ::geteuid() == 0;
+    // As where the disk keeps no modes, and gives all its files the same.
+    const bool same = now.mode == mode || now.mode == wanted.mode;
     const bool moves = now.group != wanted.group || administrator;
-    if (!moves && !otherList && now.mode == mode) return;
+    if (!moves && !otherList && same) return;
     if (moves && ::fchmod(m_fd, 0600) == 0 &&
         ::fchown(m_fd, administrator ? wanted.owner : static_cast<uid_t>(-1), wanted.group) == 0)
         now.group = wanted.group;

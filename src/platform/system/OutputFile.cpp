@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <QFileInfo>
 
+#include "platform/system/FileModes.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace sys {
@@ -40,7 +41,7 @@ QString objection(int file, FileKind kind) {
     if (found.st_nlink != 1) return QStringLiteral("Il percorso è un collegamento");
     if (kind == FileKind::Own) return {};
     if (found.st_uid != ::geteuid()) return QStringLiteral("Il file appartiene a un altro utente");
-    if ((found.st_mode & 0777) != ownerOnly && ::fchmod(file, ownerOnly) != 0)
+    if ((found.st_mode & 0777) != ownerOnly && keepsModes(file) && ::fchmod(file, ownerOnly) != 0)
         return QStringLiteral("Il file può essere letto da altri utenti");
     return {};
 }

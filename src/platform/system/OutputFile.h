@@ -24,7 +24,8 @@ enum class FileKind {
     /// file is made, but when appending, which is refused.
     Own,
     /// A file of the program that holds secrets: as Own, but a file of somebody else is refused, and one that
-    /// others may read is narrowed to 0600 before anything is written.
+    /// others may read is narrowed to 0600 before anything is written. On a disk that keeps no modes
+    /// (FileModes.h) the owner alone counts.
     Secret,
 };
 

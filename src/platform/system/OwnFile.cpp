@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "platform/system/FileModes.h"
 #include "platform/system/OutputFile.h"
 
 namespace sys {
@@ -144,7 +145,7 @@ Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others oth
     if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
     const bool owned = found.st_uid == ::geteuid() || found.st_uid == 0;
     const mode_t tooMuch = others == Others::Nothing ? 077 : 022;
-    if (!S_ISREG(found.st_mode) || !owned || (found.st_mode & tooMuch) != 0)
+    if (!S_ISREG(found.st_mode) || !owned || ((found.st_mode & tooMuch) != 0 && keepsModes(open.get())))
         return Status(ErrorCode::PathAccess,
                       QStringLiteral("altri utenti possono %1 %2: deve essere un file dell'utente con i "
                                      "permessi %3")

@@ -36,7 +36,8 @@ enum class Others { Nothing, Read };
 
 /// The bytes of a file that has to be out of the reach of others: a key, a token. Fails as readOwnFile(), and
 /// with PathAccess where others can do more with it than `others` says; the text tells that and names the
-/// file. A link is followed where it is the user's own or the administrator's.
+/// file. On a disk that keeps no modes (FileModes.h) the owner alone counts. A link is followed where it is
+/// the user's own or the administrator's.
 Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others others = Others::Nothing);
 
 /// A lock that holds as long as the object, and never longer than the process: a file of its own that nobody

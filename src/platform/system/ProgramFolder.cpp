@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -11,6 +10,7 @@
 #include <QStandardPaths>
 
 #include "platform/system/OwnFile.h"
+#include "platform/system/OwnProgram.h"
 
 namespace sys {
 
@@ -88,9 +88,14 @@ QString installedTemplates(const QString& applicationFolder) {
     return QDir::cleanPath(applicationFolder + QStringLiteral("/../share/vestrola/templates"));
 }
 
+QString templatesOf(const QString& applicationFolder) {
+    const QString beside = applicationFolder + QStringLiteral("/templates");
+    return QFileInfo(beside).isDir() ? beside : installedTemplates(applicationFolder);
+}
+
 QString helpFolder() {
     if (!chosenHelp().isEmpty()) return chosenHelp();
-    const QString application = QCoreApplication::applicationDirPath();
+    const QString application = applicationFolder();
     const QString beside = application + QStringLiteral("/help/");
     return QFileInfo::exists(beside + QStringLiteral("index.html"))
                ? beside
@@ -153,13 +158,13 @@ QString programFolder() {
         folder = withSlash(wanted);
         return folder;
     }
-    const QString application = QCoreApplication::applicationDirPath();
+    const QString application = applicationFolder();
     const QString chosen = chooseProgramFolder(
         application, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    const QString templates = installedTemplates(application);
-    const bool filled = QFileInfo::exists(chosen + QStringLiteral("/data"));
+    const QString templates = templatesOf(application);
+    // Whoever leaves something for the first start has filled the folder by then; the log tells of starts.
+    newFolder() = !QFileInfo::exists(chosen + QStringLiteral("/Error.txt"));
     static_cast<void>(fillProgramFolder(chosen, templates));
-    newFolder() = !filled;
     static_cast<void>(renewTexts(chosen, templates));
     if (chosen != application) static_cast<void>(restoreTexts(chosen, templates));
     static_cast<void>(restoreProviders(chosen, templates));

@@ -18,7 +18,8 @@ namespace sys {
 /// where they are missing. A failure of that leaves it as it is.
 QString programFolder();
 
-/// Whether programFolder() has filled a folder that was not there, which makes this the first start over it.
+/// Whether programFolder() has chosen a folder in which the program has never been started: it has no log of
+/// starts ("Error.txt"). False for a folder of case 1.
 bool programFolderIsNew();
 
 /// Replaces the folder; an empty text has it decided anew at the next call.
@@ -27,6 +28,10 @@ void setProgramFolder(const QString& folder);
 /// Where an installed program finds its templates: "../share/vestrola/templates" as seen from its own folder,
 /// without ending "/".
 QString installedTemplates(const QString& applicationFolder);
+
+/// Where a program in this folder finds its templates: in the folder "templates" beside it (a portable copy),
+/// or where an installed program has them.
+QString templatesOf(const QString& applicationFolder);
 
 /// The folder of the help, ending in "/": "help" beside the program, or where an installed program has it
 /// ("../share/vestrola/help" as seen from its own folder).

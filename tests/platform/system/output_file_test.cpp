@@ -5,8 +5,10 @@
 #include <unistd.h>
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
+#include "platform/system/FileModes.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace output_file_test {
@@ -142,6 +144,18 @@ TEST_F(OutputFile, ASecretNarrowsTheFileBeforeItIsWritten) {
     QFile out;
     ASSERT_TRUE(sys::openForWriting(out, path, WriteMode::Append, FileKind::Secret).ok());
     EXPECT_EQ(modeOf(path), 0600U);
+}
+
+TEST_F(OutputFile, WhereTheDiskKeepsNoModesASecretIsWrittenAndItsOwnerStillCounts) {
+    put(path, {});
+    ASSERT_EQ(::chmod(name(path).constData(), 0755), 0);
+    sys::diskKind() = [](int) { return 0x4d44L; };
+    const auto back = qScopeGuard([] { sys::diskKind() = sys::systemDiskKind; });
+    EXPECT_TRUE(write(path, WriteMode::Append, FileKind::Secret, "segreto").ok());
+    EXPECT_EQ(get(path), "segreto");
+    EXPECT_EQ(modeOf(path), 0755U) << "asked to keep a mode";
+    if (!give(path)) GTEST_SKIP() << "only the administrator can give a file away";
+    EXPECT_FALSE(write(path, WriteMode::Append, FileKind::Secret, "!").ok());
 }
 
 TEST_F(OutputFile, ADocumentFollowsTheUsersSettingsAndHisLinks) {

@@ -6,7 +6,10 @@
 #include <unistd.h>
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
+
+#include "platform/system/FileModes.h"
 
 namespace own_file_test {
 
@@ -112,6 +115,26 @@ TEST_F(OwnFileTest, ALockEndsWithAKilledProcess) {
     EXPECT_TRUE(lock.take(path).ok());
     close(ready[0]);
     close(ready[1]);
+}
+
+TEST_F(OwnFileTest, WhereTheDiskKeepsNoModesASecretIsReadAndItsOwnerStillCounts) {
+    ASSERT_TRUE(sys::replaceOwnFile(path, "chiave").ok());
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0777), 0);
+    ASSERT_FALSE(sys::readGuardedFile(path, 6).ok());
+    const auto back = qScopeGuard([] { sys::diskKind() = sys::systemDiskKind; });
+    for (const long kind : {0x4d44L, 0x2011BAB0L}) {
+        sys::diskKind() = [kind](int) { return kind; };
+        EXPECT_FALSE(sys::keepsModes(folder.path()));
+        EXPECT_EQ(sys::readGuardedFile(path, 6).value(), "chiave");
+    }
+    if (::chown(QFile::encodeName(path).constData(), 65534, static_cast<gid_t>(-1)) != 0)
+        GTEST_SKIP() << "only the administrator can give a file away";
+    EXPECT_FALSE(sys::readGuardedFile(path, 6).ok());
+}
+
+TEST_F(OwnFileTest, TheDiskOfTheseTestsKeepsModesAndOneThatIsNotThereCountsAsOneThatDoes) {
+    EXPECT_TRUE(sys::keepsModes(folder.path()));
+    EXPECT_TRUE(sys::keepsModes(folder.filePath("manca")));
 }
 
 TEST_F(OwnFileTest, ASecretIsReadWhereOnlyItsOwnerCan) {

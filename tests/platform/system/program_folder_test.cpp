@@ -45,6 +45,13 @@ TEST_F(ProgramFolder, IsTheUsersOwnFolderForAnInstalledCopyAndForAFolderThatIsNo
     EXPECT_EQ(sys::chooseProgramFolder(path(QStringLiteral("nowhere")), path(QStringLiteral("home"))), user);
 }
 
+TEST_F(ProgramFolder, TheTemplatesOfAPortableCopyLieBesideIt) {
+    makeTemplates();
+    EXPECT_EQ(sys::templatesOf(path(QStringLiteral("."))), path(QStringLiteral("./templates")));
+    const QString application = path(QStringLiteral("usr/bin"));
+    EXPECT_EQ(sys::templatesOf(application), sys::installedTemplates(application));
+}
+
 TEST_F(ProgramFolder, FirstStartFillsItForItsOwnerAlone) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));

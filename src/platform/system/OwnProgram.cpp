@@ -1,0 +1,37 @@
+#include "platform/system/OwnProgram.h"
+
+#include <sys/auxv.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace sys {
+
+namespace {
+
+/// The kernel tells where it has put a program's loader; the loader as the program has none.
+bool startedByLoader() {
+    return ::getauxval(AT_BASE) == 0;
+}
+
+}  // namespace
+
+QString programFile() {
+    if (!startedByLoader()) return QCoreApplication::applicationFilePath();
+    static const QString named = QFileInfo(QCoreApplication::arguments().value(0)).absoluteFilePath();
+    return named;
+}
+
+QString applicationFolder() {
+    return QFileInfo(programFile()).path();
+}
+
+QStringList commandOf(const QString& program) {
+    return commandOf(program, startedByLoader(), QCoreApplication::applicationFilePath());
+}
+
+QStringList commandOf(const QString& program, bool byLoader, const QString& own) {
+    return byLoader ? QStringList{own, program} : QStringList{program};
+}
+
+}  // namespace sys
