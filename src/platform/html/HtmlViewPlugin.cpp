@@ -1,9 +1,12 @@
 #include "platform/html/HtmlViewPlugin.h"
 
+#include <optional>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QOpenGLContext>
+#include <utility>
 
+#include "platform/system/CoreDumps.h"
 #include "platform/system/OwnProgram.h"
 
 // The toolkit exports it without declaring it in public.
@@ -54,6 +57,10 @@ Status createBrowserOf(QWidget* parent, const BrowserEvents& events, Browser& br
         return {ErrorCode::FileNotFound,
                 QStringLiteral("Impossibile caricare la vista dei messaggi: %1").arg(failure)};
     }
+    // The first view starts the engine's processes, whose sandbox needs namespaces.
+    static bool started = false;
+    std::optional<sys::CoreDumpsMeanwhile> namespaces;
+    if (!std::exchange(started, true)) namespaces.emplace();
     create(parent, events, browser);
     return {};
 }

@@ -9,4 +9,12 @@ void forbidCoreDumps() {
     prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 }
 
+CoreDumpsMeanwhile::CoreDumpsMeanwhile() : m_before(prctl(PR_GET_DUMPABLE, 0, 0, 0, 0)) {
+    prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
+}
+
+CoreDumpsMeanwhile::~CoreDumpsMeanwhile() {
+    if (m_before != 1) forbidCoreDumps();
+}
+
 }  // namespace sys

@@ -1,9 +1,12 @@
 #include "platform/system/OwnProgram.h"
 
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include "platform/system/CoreDumps.h"
 
 namespace own_program_test {
 
@@ -19,6 +22,20 @@ TEST(OwnProgram, StartsOthersInTheWayInWhichItWasStarted) {
     EXPECT_EQ(sys::commandOf(other), QStringList{other});
     EXPECT_EQ(sys::commandOf(other, false, loader), QStringList{other});
     EXPECT_EQ(sys::commandOf(other, true, loader), QStringList({loader, other}));
+}
+
+TEST(OwnProgram, ThatNobodyMayLookIntoIsSoAgainAfterTheMeanwhile) {
+    ASSERT_EQ(::prctl(PR_GET_DUMPABLE), 1);
+    { const sys::CoreDumpsMeanwhile nothing; }
+    EXPECT_EQ(::prctl(PR_GET_DUMPABLE), 1);
+    sys::forbidCoreDumps();
+    EXPECT_EQ(::prctl(PR_GET_DUMPABLE), 0);
+    {
+        const sys::CoreDumpsMeanwhile open;
+        EXPECT_EQ(::prctl(PR_GET_DUMPABLE), 1);
+    }
+    EXPECT_EQ(::prctl(PR_GET_DUMPABLE), 0);
+    ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
 }
 
 }  // namespace own_program_test
