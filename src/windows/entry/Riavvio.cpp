@@ -4,19 +4,20 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 #include <optional>
-#include <QCoreApplication>
 #include <QFile>
-#include <QMap>
 #include <QProcess>
+#include <utility>
 
 #include "modules/core/bGlobal.h"
-#include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "modules/core/FileRiavvio.h"
 #include "platform/system/Clock.h"
-#include "platform/system/OwnFile.h"
+#include "platform/system/OwnProgram.h"
+#include "platform/ui/MessageDialog.h"
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
 #include "windows/entry/Posizione.h"
+#include "windows/message/frmEditor.h"
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
 
@@ -24,28 +25,14 @@ namespace riavvio {
 
 namespace {
 
-constexpr qint64 limite = 64 * 1024;
 constexpr int attesaMassima = 5000;  // milliseconds
-constexpr qint64 etaMassima = 60;    // seconds
 constexpr qint64 primaOfferta = 10;  // seconds
-const QByteArray titolo = "[Riavvio]\r\n";
 
 std::optional<QDateTime> avvio;
 bool finestraMostrata = false;
 std::function<void()> partenzaSostituita;
 
-struct Stato {
-    qint64 processo = 0;
-    QDateTime ora;
-    Rettangolo posizione;
-    QString database;
-    QStringList gruppi;  ///< keys from the root down to the one that was open
-};
-std::optional<Stato> raccolto;
-
-QString fileRiavvio() {
-    return cartellaDati() + QStringLiteral("riavvio.imp");
-}
+fileRiavvio::Raccolto raccolto;
 
 QStringList chiaviAperte() {
     QStringList chiavi;
@@ -56,49 +43,20 @@ QStringList chiaviAperte() {
     return chiavi;
 }
 
-void scrivi() {
+void lascia() {
     const Rettangolo posizione = PosizioneDi(finestre::Main());
-    const QStringList righe{
-        QStringLiteral("processo=%1").arg(::getpid()),
-        QStringLiteral("ora=%1").arg(sys::clock().now().toUTC().toString(Qt::ISODate)),
-        QStringLiteral("posizione=%1 %2 %3 %4 %5")
-            .arg(posizione.sinistra)
-            .arg(posizione.alto)
-            .arg(posizione.larghezza)
-            .arg(posizione.altezza)
-            .arg(posizione.stato),
-        QStringLiteral("database=") + QString::fromLatin1(percorsoDB.toUtf8().toPercentEncoding()),
-        QStringLiteral("gruppi=") + chiaviAperte().join(u' '),
-    };
-    esigi(sys::replaceOwnFile(fileRiavvio(), titolo + righe.join(QStringLiteral("\r\n")).toUtf8() + "\r\n"));
+    esigi(fileRiavvio::LasciaStato(
+        {::getpid(),
+         sys::clock().now(),
+         {posizione.sinistra, posizione.alto, posizione.larghezza, posizione.altezza, posizione.stato},
+         percorsoDB,
+         chiaviAperte()}));
 }
 
-/// None for bytes that are not of the form that scrivi() gives.
-std::optional<Stato> leggi(const QByteArray& bytes) {
-    if (!bytes.startsWith(titolo)) return std::nullopt;
-    QMap<QByteArray, QString> valori;
-    for (const QByteArray& riga : bytes.sliced(titolo.size()).split('\n')) {
-        const qsizetype uguale = riga.indexOf('=');
-        if (uguale > 0) valori[riga.first(uguale)] = QString::fromUtf8(riga.sliced(uguale + 1)).trimmed();
-    }
-    Stato stato;
-    bool numeri = false;
-    stato.processo = valori["processo"].toInt(&numeri);
-    stato.ora = QDateTime::fromString(valori["ora"], Qt::ISODate);
-    const QStringList posizione = valori["posizione"].split(u' ');
-    if (!numeri || stato.processo <= 1 || !stato.ora.isValid() || posizione.size() != 5) return std::nullopt;
-    int lette = 0;
-    const auto numero = [&](int indice) {
-        bool giusto = false;
-        const int letto = posizione[indice].toInt(&giusto);
-        lette += giusto ? 1 : 0;
-        return letto;
-    };
-    stato.posizione = {numero(0), numero(1), numero(2), numero(3), numero(4)};
-    if (lette != 5) return std::nullopt;
-    stato.database = QString::fromUtf8(QByteArray::fromPercentEncoding(valori["database"].toLatin1()));
-    stato.gruppi = valori["gruppi"].split(u' ', Qt::SkipEmptyParts);
-    return stato;
+void parti() {
+    QStringList comando = sys::commandOf(sys::programFile());
+    const QString programma = comando.takeFirst();
+    QProcess::startDetached(programma, comando);
 }
 
 void attendiFine(qint64 processo) {
@@ -131,11 +89,11 @@ bool Possibile() {
 
 void Avvia() {
     Prosegui prosegui;
-    prosegui([] { scrivi(); });
+    prosegui([] { lascia(); });
     if (partenzaSostituita)
         partenzaSostituita();
     else
-        QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
+        parti();
 }
 
 void sostituisciPartenza(std::function<void()> partenza) {
@@ -143,29 +101,36 @@ void sostituisciPartenza(std::function<void()> partenza) {
 }
 
 void Raccogli() {
-    raccolto.reset();
-    const Result<QByteArray> letto = sys::readOwnFile(fileRiavvio(), limite);
-    if (!letto.ok() && letto.status().code() == ErrorCode::FileNotFound) return;
-    if (letto.ok()) raccolto = leggi(letto.value());
-    if (!raccolto) {
-        QFile::rename(fileRiavvio(), fileRiavvio() + QStringLiteral(".rovinato"));
-        return;
-    }
-    QFile::remove(fileRiavvio());
-    if (qAbs(raccolto->ora.secsTo(sys::clock().now())) > etaMassima)
-        raccolto.reset();
-    else
-        attendiFine(raccolto->processo);
+    raccolto = fileRiavvio::Raccogli();
+    if (raccolto.stato) attendiFine(raccolto.stato->processo);
 }
 
 void RiprendiPosizione() {
-    if (raccolto) MettiInPosizione(finestre::Main(), raccolto->posizione);
+    if (!raccolto.stato) return;
+    const auto& [sinistra, alto, larghezza, altezza, stato] = raccolto.stato->posizione;
+    MettiInPosizione(finestre::Main(), {sinistra, alto, larghezza, altezza, stato});
 }
 
 void RiprendiGruppo() {
-    if (!raccolto || raccolto->database != percorsoDB) return;
+    if (!raccolto.stato || raccolto.stato->database != percorsoDB) return;
     Prosegui prosegui;
-    prosegui([] { finestre::Main().Gruppi().Apri(raccolto->gruppi); });
+    prosegui([] { finestre::Main().Gruppi().Apri(raccolto.stato->gruppi); });
+}
+
+void ApriMessaggio() {
+    const QByteArray byte = std::exchange(raccolto.messaggio, QByteArray());
+    if (byte.isEmpty()) return;
+    const QString percorso = QFile::decodeName(byte);
+    if (QFile::encodeName(percorso) != byte) {
+        ui::MessageDialog::show(
+            "Il nome di questo file contiene caratteri sconosciuti, rinominalo:\r\n" + percorso,
+            ui::MessageDialog::Notice, "Attenzione");
+        return;
+    }
+    frmEditor& editor = finestre::Editor();
+    editor.NuovoMessaggio();
+    editor.LeggiMessaggio(percorso);
+    editor.MostraModale();
 }
 
 }  // namespace riavvio

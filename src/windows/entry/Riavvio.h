@@ -4,7 +4,8 @@
 
 /// The new start that the box of a failure offers. The program comes back where it was: the main window in
 /// its place and the group that was open. What it needs for that goes through the file "riavvio.imp" of the
-/// data folder (docs/formats/riavvio.md), since there is no command line.
+/// data folder (docs/formats/riavvio.md), since there is no command line. By the same file comes the message
+/// that was opened from the desktop.
 namespace riavvio {
 
 /// The program begins to start. From here on the box of a failure may offer a new start.
@@ -23,13 +24,16 @@ void Avvia();
 void sostituisciPartenza(std::function<void()> partenza);
 
 /// At the very start: takes the file in and removes it, and waits up to five seconds for the end of the
-/// program that wrote it, whose files and locks are free after that. A file that is older than a minute or
-/// not of this form does not count; a damaged one is set aside.
+/// program that wrote it, whose files and locks are free after that. What is older than a minute does not
+/// count; a damaged file is set aside.
 void Raccogli();
 /// Puts the main window where it stood. Does nothing without a file.
 void RiprendiPosizione();
 /// Opens the group that was open, as far as it is still there. Does nothing without a file, or with one for
 /// another database.
 void RiprendiGruppo();
+/// Opens the message that was left for this start in the editor, and comes back when the editor is closed.
+/// Does nothing without one, and at a second call.
+void ApriMessaggio();
 
 }  // namespace riavvio

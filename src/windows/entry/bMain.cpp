@@ -4,6 +4,7 @@
 
 #include "modules/core/bError.h"
 #include "modules/core/Fallimento.h"
+#include "modules/core/SenzaPermessi.h"
 #include "modules/send/Accettati.h"
 #include "modules/store/percorsoDBase.h"
 #include "platform/ado/Notices.h"
@@ -41,8 +42,14 @@ void SubMain() {
     riavvio::RiprendiGruppo();
     AvvisaAccettatiScartati();
     mostraAvvisi();
+    if (const QString avviso = AvvisoSenzaPermessi(); !avviso.isEmpty())
+        ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");
     if (!avvisoPercorso.isEmpty())
         ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, Words::tr("Attenzione"));
     // The offer waits for an answer, so it comes with the first events.
-    QTimer::singleShot(0, &finestre::Main(), [] { evento([] { finestre::Editor().OffriRecupero(); }); });
+    QTimer::singleShot(0, &finestre::Main(), [] {
+        evento([] {
+            if (!finestre::Editor().OffriRecupero()) riavvio::ApriMessaggio();
+        });
+    });
 }

@@ -51,6 +51,8 @@ class frmEditor : public QMainWindow {
     void NuovoMessaggio();
     /// Asks for a file and reads it. Passes over every failure.
     void ApriMessaggio();
+    /// Reads this file, in the same way.
+    void LeggiMessaggio(const QString& percorso);
     /// Writes over percorsoFile. Unguarded; the rescue copy is written first. Where the design view does not
     /// answer, a notice says so and nothing is written.
     void SalvaMessaggio();
@@ -61,8 +63,8 @@ class frmEditor : public QMainWindow {
     void ChiudiEditor();
 
     /// Offers the rescue copies that earlier runs left, one by one. The first that is wanted becomes the
-    /// document, and the window comes up over the main one until it is hidden.
-    void OffriRecupero();
+    /// document, and the window comes up over the main one until it is hidden. Whether one was wanted.
+    bool OffriRecupero();
 
     void ImpostaTitolo();
     /// The one way to mark the document as changed.
@@ -137,7 +139,6 @@ class frmEditor : public QMainWindow {
     MessaggioMss Testata();
     void ImpostaTestata(const QString& oggetto, const QString& priorita);
     bool AggiungiAllegato(const AllegatoMss& allegato);
-    void LeggiMessaggio(const QString& percorso);
     void ImpostaFile(const QString& percorso);
     void RiconosciFile(const FileMss& file, const MessaggioLetto& letto);
     void AnnotaNoto(const QByteArray& scritto, const MessaggioMss& messaggio) const;

@@ -98,7 +98,7 @@ void frmEditor::LasciaCopia() {
     rinunciato = false;
 }
 
-void frmEditor::OffriRecupero() {
+bool frmEditor::OffriRecupero() {
     QStringList danneggiate;
     std::vector<CopiaTrovata> trovate = CopiaTrovata::Cerca(danneggiate);
     for (const QString& copiaDanneggiata : std::as_const(danneggiate))
@@ -116,10 +116,12 @@ void frmEditor::OffriRecupero() {
             ui::MessageDialog::AskNotice, Words::tr("Attenzione"));
         if (risposta == ui::MessageDialog::Yes) {
             RiprendiCopia(trovata);
-            return MostraModale();
+            MostraModale();
+            return true;
         }
         trovata.MettiDaParte();
     }
+    return false;
 }
 
 void frmEditor::RiprendiCopia(CopiaTrovata& trovata) {

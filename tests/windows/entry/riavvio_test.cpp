@@ -10,10 +10,14 @@
 #include <QScopeGuard>
 #include <thread>
 
+#include "modules/core/FileRiavvio.h"
+#include "modules/message/CopiaRecupero.h"
+#include "platform/html/HtmlView.h"
 #include "platform/system/Clock.h"
 #include "platform/ui/Unattended.h"
 #include "windows/entry/bMain.h"
 #include "windows/entry/FineSessione.h"
+#include "windows/message/frmEditor.h"
 #include "windows/shell/shell_support.h"
 
 namespace riavvio_test {
@@ -167,6 +171,93 @@ class TestRiavvio : public QObject {
         end.join();
         if (ended != old) ::waitpid(old, nullptr, 0);
         QCOMPARE(ended, old);
+    }
+
+    /// What the first events after a start bring: the editor, until it is closed. Whether it has come.
+    static bool editorComesAfterTheStart() {
+        bool shown = false;
+        QTimer close;
+        close.callOnTimeout([&] {
+            if (!finestre::Editor().isVisible()) return;
+            shown = true;
+            finestre::Editor().hide();
+        });
+        close.start(10);
+        QCoreApplication::processEvents();
+        return shown;
+    }
+    static void writeMessage(const QString& path) {
+        writeFile(path,
+                  "[<INI-SUBJ>]Listino[<END-SUBJ>]\r\n[<INI-PRIO>]NR[<END-PRIO>]\r\n[<INI-ALLG>]\r\n"
+                  "[<END-ALLG>]\r\n[<INI-MESS>]\r\n<p>Gentile cliente</p>\r\n[<END-MESS>]\r\n");
+    }
+
+    void aMessageThatWasLeftIsOpenedInTheEditorAfterTheStart() {
+        StoreStage stage;
+        const QString path = stage.folder.path("offerta di maggio.mss");
+        writeMessage(path);
+        QVERIFY(fileRiavvio::LasciaMessaggio(QFile::encodeName(path)).ok());
+        riavvio::Raccogli();
+        SubMain();
+        QVERIFY(!finestre::Editor().isVisible());
+        QVERIFY(editorComesAfterTheStart());
+        const frmEditor& editor = finestre::Editor();
+        QCOMPARE(editor.percorsoFile, path);
+        QVERIFY(editor.windowTitle().contains("[offerta di maggio.mss]"));
+        QVERIFY(!editor.IsModificato());
+        QVERIFY(editor.DHTML->knownHTML().contains("Gentile cliente"));
+        QVERIFY(!QFile::exists(file(stage)));
+        riavvio::ApriMessaggio();
+        QVERIFY2(!editor.isVisible(), "it counts once");
+    }
+
+    void withoutAMessageTheEditorStaysAway() {
+        StoreStage stage;
+        riavvio::Raccogli();
+        SubMain();
+        QVERIFY(!editorComesAfterTheStart());
+        QCOMPARE(finestre::Editor().percorsoFile, QString());
+    }
+
+    void aRescueCopyIsOfferedFirstAndTheMessageIsOpenedWhereItIsNotTaken_data() {
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("taken") << true;
+        QTest::newRow("not taken") << false;
+    }
+    void aRescueCopyIsOfferedFirstAndTheMessageIsOpenedWhereItIsNotTaken() {
+        QFETCH(bool, taken);
+        StoreStage stage;
+        {
+            CopiaRecupero copy;
+            copy.Scrivi({"bozza.mss", "Bozza", "NR", {}, "<p>uno</p>", {}});
+        }
+        const QString path = stage.folder.path("offerta.mss");
+        writeMessage(path);
+        QVERIFY(fileRiavvio::LasciaMessaggio(QFile::encodeName(path)).ok());
+        riavvio::Raccogli();
+        SubMain();
+        MessageDialog::queue(taken ? MessageDialog::Yes : MessageDialog::No);
+        QVERIFY(editorComesAfterTheStart());
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        QCOMPARE(finestre::Editor().percorsoFile, taken ? QString() : path);
+    }
+
+    void aNameThatIsNoTextIsToldOf() {
+        StoreStage stage;
+        QVERIFY(fileRiavvio::LasciaMessaggio("/posta/\xff.mss").ok());
+        riavvio::Raccogli();
+        SubMain();
+        MessageDialog::queue(MessageDialog::Ok);
+        QVERIFY(!editorComesAfterTheStart());
+        QVERIFY(MessageDialog::shown().constLast().text.contains("rinominalo"));
+    }
+
+    void aNewStartKeepsTheMessageThatSomebodyHasLeft() {
+        StoreStage stage;
+        SubMain();
+        QVERIFY(fileRiavvio::LasciaMessaggio("/posta/a.mss").ok());
+        failAndRestart();
+        QCOMPARE(fileRiavvio::Raccogli().messaggio, QByteArray("/posta/a.mss"));
     }
 
     void anOldFileDoesNotCount() {
