@@ -15,6 +15,7 @@
 int main(int argc, char** argv) {
     QApplication::setApplicationName(prodotto::nome());  // known to whoever asks the application for it
     QApplication programma(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("vestrola"));  // its window gets the menu's icon
     ui::setUpDesktop(programma);
     sys::programFolder();  // made, or mended, before anything is read from it
     // Ahead of the first window: the language step of the main window finds most windows made.
