@@ -48,7 +48,11 @@ def send(folder):
             desktop.wait_for(server.stdout.readline, "the mail server")
             running = stage.start(["vestrola"])
             main = Window("frame", "Vestrola")
-            accessible.send(main, sample / "messaggi" / "autunno.mss", len(selected))
+            try:
+                accessible.send(main, sample / "messaggi" / "autunno.mss", len(selected))
+            except SystemExit:
+                print("on the screen:", accessible.shown_windows())
+                raise
             act(main.find("push button", "Esci"), "Press")
             stage.ends(running, 0)
             report = demo.Report()
