@@ -4,6 +4,18 @@
 <context>
     <name>Vestrola</name>
     <message>
+        <source>Il nome di questo file contiene caratteri sconosciuti, rinominalo:<byte value="xd"/>
+%1</source>
+        <translation>Der Name dieser Datei enthält unbekannte Zeichen, benennen Sie sie um:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>La cartella del programma si trova su un disco che non conserva i permessi dei file.<byte value="xd"/>
+Chi può leggere il disco può leggere anche i destinatari e le password degli account.</source>
+        <translation>Der Ordner des Programms liegt auf einem Datenträger, der die Rechte der Dateien nicht speichert.<byte value="xd"/>
+Wer den Datenträger lesen kann, kann auch die Empfänger und die Passwörter der Konten lesen.</translation>
+    </message>
+    <message>
         <source>Scrivere di nuovo la password.</source>
         <translation>Geben Sie das Passwort noch einmal ein.</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Vestrola</name>
     <message>
+        <source>Il nome di questo file contiene caratteri sconosciuti, rinominalo:<byte value="xd"/>
+%1</source>
+        <translation>The name of this file contains unknown characters, rename it:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>La cartella del programma si trova su un disco che non conserva i permessi dei file.<byte value="xd"/>
+Chi può leggere il disco può leggere anche i destinatari e le password degli account.</source>
+        <translation>The program's folder is on a disk that does not keep the permissions of files.<byte value="xd"/>
+Whoever can read the disk can also read the recipients and the passwords of the accounts.</translation>
+    </message>
+    <message>
         <source>Scrivere di nuovo la password.</source>
         <translation>Type the password again.</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Vestrola</name>
     <message>
+        <source>Il nome di questo file contiene caratteri sconosciuti, rinominalo:<byte value="xd"/>
+%1</source>
+        <translation>El nombre de este archivo contiene caracteres desconocidos, cámbielo:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>La cartella del programma si trova su un disco che non conserva i permessi dei file.<byte value="xd"/>
+Chi può leggere il disco può leggere anche i destinatari e le password degli account.</source>
+        <translation>La carpeta del programa está en un disco que no conserva los permisos de los archivos.<byte value="xd"/>
+Quien puede leer el disco puede leer también los destinatarios y las contraseñas de las cuentas.</translation>
+    </message>
+    <message>
         <source>Scrivere di nuovo la password.</source>
         <translation>Escriba de nuevo la contraseña.</translation>
     </message>

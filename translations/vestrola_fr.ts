@@ -4,6 +4,18 @@
 <context>
     <name>Vestrola</name>
     <message>
+        <source>Il nome di questo file contiene caratteri sconosciuti, rinominalo:<byte value="xd"/>
+%1</source>
+        <translation>Le nom de ce fichier contient des caractères inconnus, renommez-le :<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>La cartella del programma si trova su un disco che non conserva i permessi dei file.<byte value="xd"/>
+Chi può leggere il disco può leggere anche i destinatari e le password degli account.</source>
+        <translation>Le dossier du programme se trouve sur un disque qui ne conserve pas les droits des fichiers.<byte value="xd"/>
+Qui peut lire le disque peut lire aussi les destinataires et les mots de passe des comptes.</translation>
+    </message>
+    <message>
         <source>Scrivere di nuovo la password.</source>
         <translation>Saisissez à nouveau le mot de passe.</translation>
     </message>

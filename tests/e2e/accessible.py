@@ -135,8 +135,9 @@ def click(control, event="b1c"):
     pyatspi.Registry.generateMouseEvent(left + width // 2, top + height // 2, event)
 
 
-def send(main, message, delivered=1, failed=0):
-    """Sends a message file to the recipients that are selected, from the main window and back to it."""
+def send(main, message, delivered=1, failed=0, asked=False):
+    """Sends a message file to the recipients that are selected, from the main window and back to it. `asked`: the program asks
+    about the files that the message carries away."""
     main.press("Invia messaggi")
     window = Window("dialog", "Invia messaggi")
     window.find("label", f"Email da inviare: {delivered + failed}")
@@ -146,6 +147,10 @@ def send(main, message, delivered=1, failed=0):
     chooser.press("Apri")
     chooser.gone()
     window.press("Invia messaggi")
+    if asked:
+        question = Window("dialog", "Attenzione")
+        question.press("Sì")
+        question.gone()
     window.find("label", f"Email inviate: {delivered}")
     window.find("label", f"Email non inviate: {failed}")
     window.find("label", "Email da inviare: 0")

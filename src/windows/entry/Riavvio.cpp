@@ -13,6 +13,7 @@
 #include "modules/core/FileRiavvio.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnProgram.h"
+#include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
@@ -123,8 +124,9 @@ void ApriMessaggio() {
     const QString percorso = QFile::decodeName(byte);
     if (QFile::encodeName(percorso) != byte) {
         ui::MessageDialog::show(
-            "Il nome di questo file contiene caratteri sconosciuti, rinominalo:\r\n" + percorso,
-            ui::MessageDialog::Notice, "Attenzione");
+            Words::tr("Il nome di questo file contiene caratteri sconosciuti, rinominalo:\r\n%1")
+                .arg(percorso),
+            ui::MessageDialog::Notice, Words::tr("Attenzione"));
         return;
     }
     frmEditor& editor = finestre::Editor();

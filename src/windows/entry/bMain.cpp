@@ -43,7 +43,7 @@ void SubMain() {
     AvvisaAccettatiScartati();
     mostraAvvisi();
     if (const QString avviso = AvvisoSenzaPermessi(); !avviso.isEmpty())
-        ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");
+        ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, Words::tr("Attenzione"));
     if (!avvisoPercorso.isEmpty())
         ui::MessageDialog::show(avvisoPercorso, ui::MessageDialog::Notice, Words::tr("Attenzione"));
     // The offer waits for an answer, so it comes with the first events.
