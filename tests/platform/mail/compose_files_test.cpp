@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "platform/mail/compose_support.h"
@@ -141,6 +142,29 @@ TEST_F(ComposeAttachments, FileThatCannotBeReadFailsTheMessage) {
     EXPECT_TRUE(missing.status().text().contains("assente.pdf"));
     message.Attachments = {{m_folder.path(), "cartella"}};
     EXPECT_FALSE(m_composer.compose(message).ok());
+}
+
+TEST_F(ComposeAttachments, FileThatIsTooLargeFailsTheMessageUnread) {
+    auto message = plainMessage();
+    const QString large = makeFile(path("video.bin"), "");
+    ASSERT_TRUE(QFile::resize(large, (qint64{512} << 20) + 1));
+    message.Attachments = {{large, "video.bin"}};
+    const auto composed = m_composer.compose(message);
+    ASSERT_FALSE(composed.ok());
+    EXPECT_EQ(composed.status().code(), ErrorCode::RecordTooLarge);
+}
+
+TEST_F(ComposeAttachments, FileThatWasNotAgreedToFailsTheMessageEvenWhenItWasReadBefore) {
+    auto message = plainMessage();
+    const QString file = makeFile(path("a.bin"), "prima");
+    message.Attachments = {{file, "a.bin"}};
+    EXPECT_TRUE(m_composer.compose(message).ok());
+    message.FilesToCarry = QStringList();
+    const auto refused = m_composer.compose(message);
+    ASSERT_FALSE(refused.ok());
+    EXPECT_EQ(refused.status().code(), ErrorCode::PathAccess);
+    message.FilesToCarry = QStringList{QFileInfo(file).canonicalFilePath()};
+    EXPECT_TRUE(m_composer.compose(message).ok());
 }
 
 TEST_F(ComposeAttachments, ChangedFileIsReadAgainAndUnchangedOneIsNot) {

@@ -193,6 +193,27 @@ TEST(DeliveryControl, BodyOfDotsArrivesAsItIs) {
         EXPECT_FALSE(line.startsWith('.') && !line.startsWith("..")) << line.constData();
 }
 
+TEST(DeliveryControl, AttachmentsArriveAsTheyAre) {
+    const QTemporaryDir folder;
+    const auto add = [&folder](Client& client, const QString& name, const QByteArray& content) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+        client.smtp.Attachments.Add(file.fileName(), name);
+    };
+    const QByteArray small = "From: a@example.it\r\n\r\n.\r\n", large = QByteArray("grande").repeated(100000);
+    ScriptedServer server({hello + message});
+    Client client(server.port());
+    add(client, QStringLiteral("small.eml"), small);
+    add(client, QStringLiteral("large.zip"), large);
+    EXPECT_TRUE(client.send().done);
+    EXPECT_EQ(server.remainder(), "");
+    QByteArray body = server.bodies().at(0);
+    body.replace("\r\n", "");
+    EXPECT_TRUE(body.contains(small.toBase64()));
+    EXPECT_TRUE(body.contains(large.toBase64()));
+}
+
 TEST(DeliveryControl, AbortWithoutADeliveryDoesNothing) {
     Client client(25);
     client.smtp.Abort();

@@ -231,6 +231,18 @@ TEST_F(LateReply, IsNoLongerAwaitedForWhoIsChosenAnew) {
     EXPECT_EQ(sink.messages().size(), 2);
 }
 
+TEST_F(LateReply, MessageThatWaitsForItFailsWhenItsRecipientIsChosenAnew) {
+    stopAfterFinalPoint(7);
+    client.smtp.BeginRun();
+    client.begin(7);
+    client.smtp.Forget(database, {7});
+    EXPECT_FALSE(client.outcome().done);
+    EXPECT_FALSE(client.smtp.Awaiting());
+    EXPECT_FALSE(client.remembers(7));
+    sink.treat("rossi@example.it", SmtpSink::Treatment::Accept);
+    EXPECT_TRUE(client.tick(7).done);
+}
+
 TEST_F(LateReply, OfOthersIsStillAwaitedWhenSomebodyIsChosenAnew) {
     stopAfterFinalPoint(7);
     client.smtp.Forget(database, {6, 8});
