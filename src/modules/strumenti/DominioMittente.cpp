@@ -11,10 +11,6 @@ using dns::Answer;
 using dns::Question;
 using dns::Type;
 
-QString dnsMuto(const QString& perche) {
-    return Words::tr("Il DNS non ha risposto (%1): riprovare più tardi.").arg(perche);
-}
-
 RigaControllo rigaDominio(const QString& controllo, Semaforo semaforo, const QString& frase,
                           const QStringList& dettagli = {}) {
     return {controllo, semaforo, frase, dettagli};
@@ -32,14 +28,29 @@ QStringList elencoIndirizzi(const QList<QHostAddress>& indirizzi) {
     return testi;
 }
 
+RigaControllo rigaRicercaFallita(const QString& controllo, const Question& domanda, const Answer& risposta) {
+    return rigaDominio(controllo, Semaforo::Giallo, FraseRicercaFallita(domanda.name, risposta));
+}
+
 }  // namespace
+
+QString FraseRicercaFallita(const QByteArray& nome, const Answer& risposta) {
+    return Words::tr("Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.")
+        .arg(Mostrabile(nome), risposta.why);
+}
+
+QString FraseRicercaFallita(const QByteArray& nome, const Risposte& risposte) {
+    const auto fallita = std::ranges::find_if(
+        risposte, [&](const auto& una) { return una.first.name == nome && una.second.failed(); });
+    return FraseRicercaFallita(nome, fallita == risposte.end() ? Answer() : fallita->second);
+}
 
 RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
     const QString controllo = Words::tr("Posta in arrivo (MX)");
     const Question domanda{mittente.dominio, Type::Mx};
     const Answer* const mx = nota(risposte, domanda);
     if (!mx) return domanda;
-    if (mx->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(mx->why));
+    if (mx->failed()) return rigaRicercaFallita(controllo, domanda, *mx);
     if (mx->kind == Answer::Kind::NoName)
         return rigaDominio(
             controllo, Semaforo::Rosso,
@@ -56,6 +67,7 @@ RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
         [](const dns::Exchanger& uno, const dns::Exchanger& due) { return uno.preference < due.preference; });
     QStringList dettagli;
     bool raggiungibile = false;
+    std::optional<Question> fallita;
     for (const dns::Exchanger& uno : elencati) {
         if (uno.host.isEmpty()) continue;
         QStringList indirizzi;
@@ -63,6 +75,7 @@ RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
             const Question indirizzo{uno.host, tipo};
             const Answer* const risposta = nota(risposte, indirizzo);
             if (!risposta) return indirizzo;
+            if (risposta->failed()) fallita = indirizzo;
             raggiungibile = raggiungibile || !risposta->addresses.isEmpty();
             indirizzi += elencoIndirizzi(risposta->addresses);
         }
@@ -75,6 +88,7 @@ RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte) {
             controllo, Semaforo::Rosso,
             Words::tr("Il dominio dichiara di non ricevere posta (MX nullo): molti server rifiutano i "
                       "messaggi di un mittente a cui non si può rispondere."));
+    if (!raggiungibile && fallita) return rigaRicercaFallita(controllo, *fallita, risposte.at(*fallita));
     if (!raggiungibile)
         return rigaDominio(controllo, Semaforo::Rosso,
                            Words::tr("Nessun server del record MX ha un indirizzo: correggere il record."),
@@ -89,7 +103,7 @@ RigaODomanda RigaIndirizzo(const DominioMittente& mittente, const Risposte& risp
         const Question domanda{mittente.dominio, tipo};
         const Answer* const risposta = nota(risposte, domanda);
         if (!risposta) return domanda;
-        if (risposta->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(risposta->why));
+        if (risposta->failed()) return rigaRicercaFallita(controllo, domanda, *risposta);
         indirizzi += risposta->addresses;
     }
     if (!indirizzi.isEmpty())
@@ -98,6 +112,7 @@ RigaODomanda RigaIndirizzo(const DominioMittente& mittente, const Risposte& risp
     const Question domanda{mittente.dominio, Type::Mx};
     const Answer* const mx = nota(risposte, domanda);
     if (!mx) return domanda;
+    if (mx->failed()) return rigaRicercaFallita(controllo, domanda, *mx);
     if (mx->kind == Answer::Kind::Records)
         return rigaDominio(
             controllo, Semaforo::Verde,
@@ -121,15 +136,19 @@ RigaODomanda RigaNomeInverso(const DominioMittente& mittente, const Risposte& ri
         const Question inversa{dns::reverseName(indirizzo), Type::Ptr};
         const Answer* const nomi = nota(risposte, inversa);
         if (!nomi) return inversa;
-        if (nomi->failed()) return rigaDominio(controllo, Semaforo::Giallo, dnsMuto(nomi->why));
+        if (nomi->failed()) return rigaRicercaFallita(controllo, inversa, *nomi);
         QString confermato;
+        std::optional<Question> fallita;
         for (const QByteArray& nome : nomi->names.mid(0, 10)) {
             const bool ipv4 = indirizzo.protocol() == QAbstractSocket::IPv4Protocol;
             const Question diretta{nome, ipv4 ? Type::A : Type::Aaaa};
             const Answer* const indietro = nota(risposte, diretta);
             if (!indietro) return diretta;
+            if (indietro->failed()) fallita = diretta;
             if (indietro->addresses.contains(indirizzo)) confermato = Mostrabile(nome);
         }
+        if (confermato.isEmpty() && fallita)
+            return rigaRicercaFallita(controllo, *fallita, risposte.at(*fallita));
         tutti = tutti && !confermato.isEmpty();
         dettagli.append(indirizzo.toString() + ": " +
                         (!confermato.isEmpty()   ? confermato

@@ -22,6 +22,11 @@ struct DominioMittente {
 
 using Risposte = dns::Answers;
 
+/// That a look-up has failed, and why, in a sentence for the user.
+QString FraseRicercaFallita(const QByteArray& nome, const dns::Answer& risposta);
+/// The same for the first failure at this name.
+QString FraseRicercaFallita(const QByteArray& nome, const Risposte& risposte);
+
 RigaODomanda RigaMX(const DominioMittente& mittente, const Risposte& risposte);
 RigaODomanda RigaIndirizzo(const DominioMittente& mittente, const Risposte& risposte);
 /// SPF, for each address that the mail can be known to come from.

@@ -129,9 +129,7 @@ RigaODomanda RigaDkim(const DominioMittente& mittente, const Risposte& risposte)
     const dns::Answer& risposta = trovata->second;
     const QString nome = Mostrabile(domanda.name);
     if (risposta.failed())
-        return rigaDkim(Semaforo::Giallo,
-                        Words::tr("Il DNS non ha risposto (%1): riprovare più tardi.").arg(risposta.why),
-                        {nome});
+        return rigaDkim(Semaforo::Giallo, FraseRicercaFallita(domanda.name, risposta), {nome});
     if (risposta.texts.isEmpty())
         return rigaDkim(Semaforo::Rosso,
                         Words::tr("Il record della chiave manca: pubblicarlo con il nome %1.").arg(nome),
@@ -165,8 +163,7 @@ RigaODomanda RigaDmarc(const DominioMittente& mittente, const Risposte& risposte
     const QString nome = QStringLiteral("_dmarc.") + Mostrabile(trovato.domain);
     switch (trovato.kind) {
         case Finding::Kind::NoAnswer:
-            return rigaDmarc(Semaforo::Giallo,
-                             Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(nome));
+            return rigaDmarc(Semaforo::Giallo, FraseRicercaFallita("_dmarc." + trovato.domain, risposte));
         case Finding::Kind::None:
             return rigaDmarc(Semaforo::Giallo,
                              Words::tr("Pubblicare un record DMARC con il nome %1, per esempio "

@@ -41,12 +41,11 @@ RigaControllo rigaSpf(Semaforo semaforo, const QString& frase, const QStringList
     return {QString::fromUtf8(controlloSpf), semaforo, frase, dettagli};
 }
 
-RigaControllo rigaSenzaEsito(const DominioMittente& mittente, const Verdict& esito) {
-    if (esito.result == RisultatoSpf::TempError)
-        return rigaSpf(
-            Semaforo::Giallo,
-            Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(Mostrabile(esito.domain)));
-    if (esito.result == RisultatoSpf::PermError) return rigaSpf(Semaforo::Rosso, PercheSpf(esito));
+RigaControllo rigaSenzaEsito(const DominioMittente& mittente, const Verdict& esito,
+                             const Risposte& risposte) {
+    if (esito.result == RisultatoSpf::TempError || esito.result == RisultatoSpf::PermError)
+        return rigaSpf(esito.result == RisultatoSpf::TempError ? Semaforo::Giallo : Semaforo::Rosso,
+                       PercheSpf(esito, risposte));
     return rigaSpf(
         Semaforo::Rosso,
         mittente.diretto
@@ -67,7 +66,7 @@ bool SenzaEsito(const Verdict& esito) {
     return esito.result == RisultatoSpf::None || esito.fault != Fault::None;
 }
 
-QString PercheSpf(const Verdict& esito) {
+QString PercheSpf(const Verdict& esito, const Risposte& risposte) {
     const QString dominio = Mostrabile(esito.domain), termine = Mostrabile(esito.term);
     switch (esito.fault) {
         case Fault::SeveralRecords:
@@ -102,7 +101,7 @@ QString PercheSpf(const Verdict& esito) {
         case Fault::None:
             break;
     }
-    return Words::tr("Il DNS non ha risposto per %1: riprovare più tardi.").arg(dominio);
+    return FraseRicercaFallita(esito.domain, risposte);
 }
 
 std::variant<QList<QHostAddress>, dns::Question> IndirizziDiPartenza(const DominioMittente& mittente,
@@ -144,7 +143,7 @@ RigaODomanda RigaSpf(const DominioMittente& mittente, const Risposte& risposte) 
         const auto passo = EsitoSpf(mittente, indirizzo, risposte);
         if (const auto* domanda = std::get_if<dns::Question>(&passo)) return *domanda;
         const auto& esito = std::get<Verdict>(passo);
-        if (SenzaEsito(esito)) return rigaSenzaEsito(mittente, esito);
+        if (SenzaEsito(esito)) return rigaSenzaEsito(mittente, esito, risposte);
         if (esito.result == RisultatoSpf::Pass) ++autorizzati;
         if (esito.result == RisultatoSpf::Fail) ++vietati;
         if (!ignoti) dettagli.append(dettaglioSpf(indirizzo, esito));

@@ -20,4 +20,4 @@ QHostAddress IndirizzoDiNessuno();
 bool SenzaEsito(const policy::spf::Verdict& esito);
 
 /// Why a record cannot be used, in a sentence for the user.
-QString PercheSpf(const policy::spf::Verdict& esito);
+QString PercheSpf(const policy::spf::Verdict& esito, const Risposte& risposte);

@@ -106,6 +106,9 @@ Answer unusable(const QString& why) {
 }  // namespace
 
 Answer readReply(Type type, QByteArrayView reply) {
+    constexpr int headerSize = 12;
+    const int code = reply.size() < headerSize ? 0 : reply[3] & 0x0f;
+    if (code != 0) return unusable(QStringLiteral("il DNS risponde con il codice di errore %1").arg(code));
     Answer answer;
     const int status = readRecords(type, reply, answer);
     if (status == ARES_ENODATA) {

@@ -71,7 +71,11 @@ Answer answerOf(Type type, int status, QByteArrayView reply) {
         case ARES_ESERVFAIL:
             return failed(QStringLiteral("il DNS risponde con un guasto (SERVFAIL)"));
         case ARES_EREFUSED:
-            return failed(QStringLiteral("il DNS rifiuta la domanda"));
+            return failed(QStringLiteral("il DNS rifiuta la domanda (REFUSED)"));
+        case ARES_ENOTIMP:
+            return failed(QStringLiteral("il DNS non conosce domande di questo tipo (NOTIMP)"));
+        case ARES_EFORMERR:
+            return failed(QStringLiteral("il DNS non capisce la domanda (FORMERR)"));
         default:
             return failed(QStringLiteral("il DNS ha dato una risposta che non si può usare"));
     }
@@ -99,10 +103,14 @@ struct Resolver::State : QObject {
         std::unique_ptr<QSocketNotifier> read, write;
     };
 
-    explicit State(const Times& given) : times(given) {
+    /// What a reply with an error code of a server leads to.
+    enum class ErrorReply { NextServer, Answer };
+
+    State(const Times& given, ErrorReply onError) : times(given), onErrorReply(onError) {
         ares_library_init(ARES_LIB_INIT_ALL);
         ares_options options{};
         options.flags = ARES_FLAG_NOSEARCH | ARES_FLAG_NOALIASES;
+        if (onErrorReply == ErrorReply::Answer) options.flags |= ARES_FLAG_NOCHECKRESP;
         options.timeout = times.tryMs;
         options.tries = times.tries;
         options.sock_state_cb = onSocketState;
@@ -130,9 +138,57 @@ struct Resolver::State : QObject {
         State& state = *asked->state;
         const auto found = state.pending.find(asked->number);
         if (found == state.pending.end()) return;
+        if (status == ARES_ECONNREFUSED && state.onErrorReply == ErrorReply::NextServer) {
+            state.askWhy(asked->number);
+            return;
+        }
         state.settle(asked->number,
                      answerOf(found->second.question.type, status,
                               QByteArrayView(reinterpret_cast<const char*>(reply), reply ? size : 0)));
+    }
+
+    void ask(const Question& question, Done done) {
+        const quint64 number = ++lastNumber;
+        auto deadline = std::make_unique<QTimer>();
+        deadline->setSingleShot(true);
+        connect(deadline.get(), &QTimer::timeout, this, [this, number] {
+            // The timer is destroyed with its entry, and this is its own event.
+            pending.at(number).deadline.release()->deleteLater();
+            settle(number, failed(QStringLiteral("il DNS non risponde")));
+        });
+        deadline->start(times.deadlineMs);
+        pending.emplace(number, Pending{question, std::move(done), std::move(deadline)});
+        if (!ready) {
+            settle(number, failed(QStringLiteral("il DNS di questo computer non è impostato")));
+            return;
+        }
+        constexpr int internetClass = 1;
+        ares_query(channel, escapedName(question.name).constData(), internetClass,
+                   static_cast<int>(question.type), onAnswer, new Asked{this, number});
+        schedule();
+    }
+
+    /// Once every server has failed the library does not tell a server that answered with an error code from
+    /// one that is not there. The question is put once more, and the first reply is taken as it is.
+    void askWhy(quint64 number) {
+        if (!why) {
+            why = std::make_unique<State>(times, ErrorReply::Answer);
+            if (!servers.isEmpty()) why->setServers(servers);
+        }
+        why->ask(pending.at(number).question, [this, number](const Answer& answer) {
+            if (pending.contains(number)) settle(number, answer);
+        });
+    }
+
+    void setServers(const QByteArray& given) {
+        servers = given;
+        if (ready) ares_set_servers_ports_csv(channel, servers.constData());
+    }
+
+    void cancel() {
+        pending.clear();
+        why.reset();
+        if (ready) ares_cancel(channel);
     }
 
     void watch(ares_socket_t socket, bool readable, bool writable) {
@@ -184,6 +240,9 @@ struct Resolver::State : QObject {
     }
 
     Times times;
+    const ErrorReply onErrorReply;
+    QByteArray servers;  ///< empty: the machine's
+    std::unique_ptr<State> why;
     ares_channel channel = nullptr;
     bool ready = false;
     quint64 lastNumber = 0;
@@ -192,38 +251,20 @@ struct Resolver::State : QObject {
     std::map<ares_socket_t, Notifiers> sockets;
 };
 
-Resolver::Resolver(const Times& times) : m_state(std::make_unique<State>(times)) {}
+Resolver::Resolver(const Times& times)
+    : m_state(std::make_unique<State>(times, State::ErrorReply::NextServer)) {}
 Resolver::~Resolver() = default;
 
 void Resolver::setServers(const QByteArray& servers) {
-    if (m_state->ready) ares_set_servers_ports_csv(m_state->channel, servers.constData());
+    m_state->setServers(servers);
 }
 
 void Resolver::ask(const Question& question, Done done) {
-    State& state = *m_state;
-    const quint64 number = ++state.lastNumber;
-    auto deadline = std::make_unique<QTimer>();
-    deadline->setSingleShot(true);
-    QObject::connect(deadline.get(), &QTimer::timeout, &state, [&state, number] {
-        // The timer is destroyed with its entry, and this is its own event.
-        state.pending.at(number).deadline.release()->deleteLater();
-        state.settle(number, failed(QStringLiteral("il DNS non risponde")));
-    });
-    deadline->start(state.times.deadlineMs);
-    state.pending.emplace(number, State::Pending{question, std::move(done), std::move(deadline)});
-    if (!state.ready) {
-        state.settle(number, failed(QStringLiteral("il DNS di questo computer non è impostato")));
-        return;
-    }
-    constexpr int internetClass = 1;
-    ares_query(state.channel, escapedName(question.name).constData(), internetClass,
-               static_cast<int>(question.type), State::onAnswer, new State::Asked{&state, number});
-    state.schedule();
+    m_state->ask(question, std::move(done));
 }
 
 void Resolver::cancel() {
-    m_state->pending.clear();
-    if (m_state->ready) ares_cancel(m_state->channel);
+    m_state->cancel();
 }
 
 }  // namespace dns

@@ -44,6 +44,16 @@ TEST(RigaIndirizzo, IsNeededOnlyWithoutAnExchanger) {
     EXPECT_EQ(semaforo(RigaIndirizzo, Zone().fails("example.it", dns::Type::A)), Semaforo::Giallo);
 }
 
+TEST(RigaMX, LookUpThatFailedIsNoFaultOfTheDomain) {
+    const Zone mx = Zone().mx("example.it", "mx.example.it").fails("mx.example.it", dns::Type::A);
+    EXPECT_EQ(semaforo(RigaMX, mx), Semaforo::Giallo);
+    EXPECT_EQ(semaforo(RigaMX, Zone(mx).address("mx.example.it", "2001:db8::2")), Semaforo::Verde);
+    EXPECT_EQ(semaforo(RigaIndirizzo, Zone().fails("example.it", dns::Type::Mx)), Semaforo::Giallo);
+    const Zone inverso =
+        Zone().ptr("203.0.113.25", "posta.example.it").fails("posta.example.it", dns::Type::A);
+    EXPECT_EQ(semaforo(RigaNomeInverso, inverso, mittenteDiretto()), Semaforo::Giallo);
+}
+
 TEST(RigaSpf, CoveredServerIsInOrder) {
     const RigaControllo riga =
         rigaDi(RigaSpf, mittente(), conServer().txt("example.it", "v=spf1 ip4:203.0.113.0/24 -all"));

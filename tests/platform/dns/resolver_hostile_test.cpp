@@ -38,10 +38,7 @@ UdpResponder::Script answering(std::function<QByteArray(const QByteArray& questi
     };
 }
 
-Answer ask(const UdpResponder& server, const dns::Resolver::Times& times,
-           const dns::Question& question = {"uno.example", Type::A}) {
-    dns::Resolver resolver(times);
-    resolver.setServers("127.0.0.1:" + QByteArray::number(server.port()));
+Answer answerOf(dns::Resolver& resolver, const dns::Question& question = {"uno.example", Type::A}) {
     QEventLoop loop;
     Answer got;
     resolver.ask(question, [&](const Answer& answer) {
@@ -50,6 +47,13 @@ Answer ask(const UdpResponder& server, const dns::Resolver::Times& times,
     });
     loop.exec();
     return got;
+}
+
+Answer ask(const UdpResponder& server, const dns::Resolver::Times& times,
+           const dns::Question& question = {"uno.example", Type::A}) {
+    dns::Resolver resolver(times);
+    resolver.setServers("127.0.0.1:" + QByteArray::number(server.port()));
+    return answerOf(resolver, question);
 }
 
 TEST(ResolverHostile, GoodReplyIsTaken) {
@@ -101,11 +105,47 @@ TEST(ResolverHostile, RubbishIsAFailure) {
     EXPECT_TRUE(ask(loops, {50, 2, endless}).failed());
 }
 
-TEST(ResolverHostile, ServerFailureIsNoAbsence) {
-    const UdpResponder server(answering([](const QByteArray& question) { return reply(question, 0, 2); }));
-    EXPECT_TRUE(ask(server, {50, 2, endless}).failed());
-    const UdpResponder refuses(answering([](const QByteArray& question) { return reply(question, 0, 5); }));
-    EXPECT_TRUE(ask(refuses, {50, 2, endless}).failed());
+TEST(ResolverHostile, ErrorCodeOfAServerIsAFailureWithASentenceOfItsOwn) {
+    struct Said {
+        char code;
+        const char* why;
+    };
+    for (const Said& said : {Said{1, "il DNS non capisce la domanda (FORMERR)"},
+                             Said{2, "il DNS risponde con un guasto (SERVFAIL)"},
+                             Said{4, "il DNS non conosce domande di questo tipo (NOTIMP)"},
+                             Said{5, "il DNS rifiuta la domanda (REFUSED)"},
+                             Said{9, "il DNS risponde con il codice di errore 9"}}) {
+        const UdpResponder server(
+            answering([&](const QByteArray& question) { return reply(question, 0, said.code); }));
+        const Answer answer = ask(server, {endless, 2, endless});
+        EXPECT_TRUE(answer.failed());
+        EXPECT_EQ(answer.why.toStdString(), said.why);
+    }
+}
+
+TEST(ResolverHostile, NextServerIsAskedWhereOneAnswersWithAnErrorCode) {
+    const UdpResponder broken(answering([](const QByteArray& question) { return reply(question, 0, 2); }));
+    const UdpResponder sound(answering([](const QByteArray& question) { return reply(question, 1); }));
+    dns::Resolver resolver({endless, 1, endless});
+    resolver.setServers("127.0.0.1:" + QByteArray::number(broken.port()) +
+                        ",127.0.0.1:" + QByteArray::number(sound.port()));
+    EXPECT_EQ(answerOf(resolver).kind, Answer::Kind::Records);
+}
+
+TEST(ResolverHostile, ServerThatIsNotThereHidesNoErrorCodeOfTheNext) {
+    const RefusingPort nobody;
+    const UdpResponder broken(answering([](const QByteArray& question) { return reply(question, 0, 2); }));
+    dns::Resolver resolver({endless, 1, endless});
+    resolver.setServers("127.0.0.1:" + QByteArray::number(nobody.port()) +
+                        ",127.0.0.1:" + QByteArray::number(broken.port()));
+    EXPECT_EQ(answerOf(resolver).why.toStdString(), "il DNS risponde con un guasto (SERVFAIL)");
+}
+
+TEST(ResolverHostile, ServerThatFailsAndThenStaysSilentIsWaitedForUntilTheDeadline) {
+    const UdpResponder server([](const LoopbackSocket& socket, const std::vector<Datagram>& received) {
+        if (received.size() == 1) socket.send(received.back().from, reply(received.back().bytes, 0, 2));
+    });
+    EXPECT_EQ(ask(server, {endless, 1, 300}).why.toStdString(), "il DNS non risponde");
 }
 
 TEST(ResolverHostile, TooManyRecordsAreAFailure) {

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QNetworkDatagram>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -111,6 +112,30 @@ class TestFrmControlloMittente : public QObject {
         QVERIFY(stage.control<QPlainTextEdit>("txtDettagli")
                     ->toPlainText()
                     .startsWith(lines->item(6, 2)->text()));
+    }
+
+    void nameServerThatFailsIsToldAsWhatItIs() {
+        QUdpSocket failing;
+        QVERIFY(failing.bind(QHostAddress::LocalHost, 53));
+        connect(&failing, &QUdpSocket::readyRead, &failing, [&failing] {
+            while (failing.hasPendingDatagrams()) {
+                QNetworkDatagram asked = failing.receiveDatagram();
+                QByteArray answer = asked.data();
+                answer[2] = '\x81';
+                answer[3] = '\x82';  // SERVFAIL
+                failing.writeDatagram(asked.makeReply(answer));
+            }
+        });
+        Stage stage;
+        QVERIFY(stage.check());
+        const auto sentence = [&](int row) { return stage.lines()->item(row, 2)->text(); };
+        const QString why =
+            " nel DNS non riuscita: il DNS risponde con un guasto (SERVFAIL). Riprovare più tardi.";
+        for (int row : {0, 1, 2}) {
+            QCOMPARE(sentence(row), "Ricerca di example.it" + why);
+            QCOMPARE(stage.lines()->item(row, 1)->text(), "Attenzione");
+        }
+        QCOMPARE(sentence(4), "Ricerca di _dmarc.example.it" + why);
     }
 
     void escapeEndsACheckAndLeavesTheWindow() {
