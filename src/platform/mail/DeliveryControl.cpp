@@ -116,8 +116,9 @@ void DeliveryControl::Abort() {
     m_stopped = true;
     if (!m_running) return;
     const DeliveryStage reached = m_session.busy() ? m_session.stage() : DeliveryStage::NotTried;
-    giveUp();
-    m_outcome = {false, 0, QStringLiteral("Invio interrotto."), false, reached, DeliveryCause::Stopped};
+    const bool unanswered = giveUp();
+    m_outcome = {false,     0, QStringLiteral("Invio interrotto."), false, reached, DeliveryCause::Stopped,
+                 unanswered};
     report();
 }
 

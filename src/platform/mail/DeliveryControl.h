@@ -161,7 +161,7 @@ class DeliveryControl : public QObject, public MessageData {
     void noteOutcome(const DeliveryOutcome& outcome);
     void enter(OutcomeFile& book, const Recipient& recipient, const DeliveryOutcome& outcome);
     AwaitedReply* awaitedFor(const Recipient& recipient) const;
-    void giveUp();
+    bool giveUp();
     void onLateReply(AwaitedReply* reply, bool accepted, int code);
     void startWaiting();
 

@@ -114,14 +114,14 @@ AwaitedReply* DeliveryControl::awaitedFor(const Recipient& recipient) const {
     return found == m_awaited.end() ? nullptr : found->reply.get();
 }
 
-/// Ends the running message without a signal.
-void DeliveryControl::giveUp() {
+/// Ends the running message without a signal; true where its reply is awaited.
+bool DeliveryControl::giveUp() {
     m_deferred.stop();
     m_waiting.reset();
     m_tokens.cancel();
     m_awaitedHere = nullptr;
     std::unique_ptr<AwaitedReply> reply = m_session.abandon();
-    if (!reply) return;
+    if (!reply) return false;
     AwaitedReply* const shown = reply.get();
     connect(shown, &AwaitedReply::ended, this,
             [this, shown](bool accepted, int code) { onLateReply(shown, accepted, code); });
@@ -129,6 +129,7 @@ void DeliveryControl::giveUp() {
     m_transcript.remark(
         QStringLiteral("La risposta al messaggio per %1 è attesa in disparte").arg(m_recipient));
     shown->look();
+    return true;
 }
 
 void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) {

@@ -35,6 +35,8 @@ struct DeliveryOutcome {
     bool ofLogin = false;  ///< the login failed; the server has not heard of the message
     DeliveryStage stage = DeliveryStage::NotTried;
     DeliveryCause cause = DeliveryCause::Program;
+    bool unanswered =
+        false;  ///< the server has got all of the message and not answered: it may have taken it
 };
 
 }  // namespace mail

@@ -133,7 +133,7 @@ bool isSensible(const QDateTime& time) {
 OutcomeKind kindOf(const DeliveryOutcome& outcome) {
     if (outcome.delivered) return OutcomeKind::Delivered;
     if (outcome.code != 0) return OutcomeKind::Refused;
-    const bool given = outcome.stage == DeliveryStage::Body;
+    const bool given = outcome.unanswered || outcome.stage == DeliveryStage::Body;
     switch (outcome.cause) {
         case DeliveryCause::Program:
             return OutcomeKind::NotSent;

@@ -398,6 +398,7 @@ void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
 
 void SmtpSession::lost(int code, const QString& why, Loss loss, DeliveryCause cause) {
     const bool accepted = wasAccepted();
+    const bool unanswered = code == 0 && hasGivenAll();
     const DeliveryStage reached = code != 0 ? stageOf(m_answered) : stage();
     const QByteArray reply = accepted ? m_input.mid(m_inputRead, longestReplyShown) : QByteArray();
     dropConnection();
@@ -415,7 +416,7 @@ void SmtpSession::lost(int code, const QString& why, Loss loss, DeliveryCause ca
         open();
         return;
     }
-    conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why, false, reached, cause});
+    conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why, false, reached, cause, unanswered});
 }
 
 /// Whether the server has surely taken nothing of the message on a connection that is lost.

@@ -150,7 +150,10 @@ void frmProva::FineInvio(bool consegnata) {
     parole = parole.trimmed();
     QString testo =
         consegnata ? Words::tr("La prova è stata accettata dal server per %1.").arg(QString(prova->ToAddress))
-                   : Words::tr("La prova non è stata consegnata.");
+        : esito.unanswered ? Words::tr(
+                                 "La prova può essere stata consegnata: il server ha ricevuto tutto il "
+                                 "messaggio e non ha risposto.")
+                           : Words::tr("La prova non è stata consegnata.");
     if (const QString verdetto = mail::verdictOf(esito); !verdetto.isEmpty())
         testo += ' ' + verdetto;
     else if (!parole.isEmpty())

@@ -4,6 +4,7 @@
 #include <QThread>
 #include <utility>
 
+#include "platform/mail/OutcomeLine.h"
 #include "platform/mail/smtp_run_fixture.h"
 
 namespace smtp_flight_test {
@@ -195,6 +196,8 @@ TEST_P(At, StopLeavesTheRepliesToBeAwaitedAside) {
     if (GetParam() > 0) client.waitForLogged(answers[GetParam() - 1].mid(3));
     client.smtp.Abort();
     EXPECT_FALSE(client.outcome().done);
+    EXPECT_TRUE(client.smtp.LastOutcome().unanswered);
+    EXPECT_EQ(mail::OutcomeLine::of(client.smtp.LastOutcome(), {}).kind, mail::OutcomeKind::NoAnswer);
     EXPECT_TRUE(client.smtp.Awaiting());
     server.goOn();
     EXPECT_TRUE(Client::turnUntil([&] { return !client.smtp.Awaiting(); }));

@@ -1,12 +1,21 @@
 // The copy that goes to an address of the user's.
 #include "modules/send/Accettati.h"
 #include "support/AsInTheProgram.h"
+#include "support/ScriptedServer.h"
 #include "support/TestClass.h"
 #include "windows/strumenti/prova_stage.h"
 
 namespace frmprova_invio_test {
 
 using namespace testing_support;
+
+namespace {
+
+const QString mayBeDelivered = QStringLiteral(
+    "La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.");
+const QByteArrayList helloPlain{"S: 220 ready", "C: EHLO *", "S: 250 ready"};
+
+}  // namespace
 
 class TestFrmProvaInvio : public QObject {
     Q_OBJECT
@@ -69,12 +78,7 @@ class TestFrmProvaInvio : public QObject {
     void aServerThatIsNotThereIsTold() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
-        Account nobody = SampleFolder::loopbackAccount(deadPort());
-        nobody.txtNomeVisual = "Nessuno";
-        stage.folder.addAccount(nobody);
-        auto* accounts = stage.its<QComboBox>("cmbAccount");
-        QTest::keyClick(accounts, Qt::Key_Down);
-        QVERIFY(accounts->currentText().startsWith("Nessuno"));
+        stage.useServer(deadPort());
         QVERIFY(stage.sendCopy());
         QVERIFY2(stage.text("lblEsito").startsWith("La prova non è stata consegnata."),
                  qPrintable(stage.text("lblEsito")));
@@ -116,6 +120,58 @@ class TestFrmProvaInvio : public QObject {
         QVERIFY(stage.sendCopy());
         QCOMPARE(stage.sink.messages().size(), 1);
         QVERIFY(stage.sink.messages()[0].data.contains("segreto.txt"));
+    }
+
+    void aCopyThatIsGivenUpBeforeItsEndWasNotDelivered() {
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        stage.its<QLineEdit>("txtIndirizzo")->setText("muto@x.it");
+        stage.sink.treat("muto@x.it", SmtpSink::Treatment::Hang);
+        stage.press("cmdInviaProva");
+        QTRY_VERIFY(!stage.sink.attempts().isEmpty());
+        stage.press("cmdAnnulla");
+        QCOMPARE(stage.text("lblEsito"), "La prova non è stata consegnata. Invio interrotto.");
+    }
+
+    void aCopyThatIsGivenUpAfterItsFinalPointMayHaveBeenDelivered() {
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        stage.its<QLineEdit>("txtIndirizzo")->setText("lento@x.it");
+        stage.sink.treat("lento@x.it", SmtpSink::Treatment::Hold);
+        stage.press("cmdInviaProva");
+        QTRY_COMPARE(stage.sink.held().size(), 1);
+        stage.press("cmdAnnulla");
+        QCOMPARE(stage.text("lblEsito"), mayBeDelivered + " Invio interrotto.");
+        QVERIFY(stage.its<QPushButton>("cmdInviaProva")->isEnabled());
+    }
+
+    void aCopyWhoseServerIsLostAfterTheFinalPointMayHaveBeenDelivered() {
+        ScriptedServer server({helloPlain + QByteArrayList{"C: MAIL *", "S: 250 ok", "C: RCPT *", "S: 250 ok",
+                                                           "C: DATA", "S: 354 go", "BODY", "DROP"}});
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        stage.useServer(server.port());
+        QVERIFY(stage.sendCopy());
+        QVERIFY2(stage.text("lblEsito").startsWith(mayBeDelivered), qPrintable(stage.text("lblEsito")));
+        QCOMPARE(server.remainder(), std::string());
+    }
+
+    void aCopyThatWentOutInOneFlightMayHaveBeenDelivered() {
+        const QByteArrayList first{"S: 220 ready",    "C: EHLO *", "S: 250-ready", "S: 250-PIPELINING",
+                                   "S: 250 CHUNKING", "C: MAIL *", "C: RCPT *",    "C: DATA",
+                                   "S: 250 ok",       "S: 250 ok", "S: 354 go",    "BODY",
+                                   "S: 250 taken"};
+        ScriptedServer server(
+            {first + QByteArrayList{"C: MAIL *", "C: RCPT *", "C: BDAT * LAST", "CHUNK", "WAIT"}});
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        stage.useServer(server.port());
+        QVERIFY(stage.sendCopy());
+        QVERIFY(stage.text("lblEsito").startsWith("La prova è stata accettata"));
+        stage.press("cmdInviaProva");
+        QTRY_COMPARE(server.waits(), 1);
+        stage.press("cmdAnnulla");
+        QCOMPARE(stage.text("lblEsito"), mayBeDelivered + " Invio interrotto.");
     }
 
     void leavingTheWindowGivesTheCopyUp() {

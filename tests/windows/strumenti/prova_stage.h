@@ -37,6 +37,16 @@ class ProvaStage : public SendStage {
     QString text(const char* name) { return its<QLabel>(name)->text(); }
     QString line(const char* name) { return its<QLineEdit>(name)->text(); }
     void press(const char* name) { QTest::mouseClick(its<QPushButton>(name), Qt::LeftButton); }
+    /// Chooses an account, made anew, that leads to a server on this port of loopback. To be called before
+    /// the window is there.
+    void useServer(quint16 port) {
+        Account another = SampleFolder::loopbackAccount(port);
+        another.txtNomeVisual = "Altro";
+        folder.addAccount(another);
+        auto* accounts = its<QComboBox>("cmbAccount");
+        QTest::keyClick(accounts, Qt::Key_Down);
+        if (!accounts->currentText().startsWith("Altro")) qFatal("the account is not there");
+    }
     /// Waits until the values of all recipients are counted.
     bool counted() {
         return QTest::qWaitFor([this] { return !its<QTimer>("tmrControllo")->isActive(); }, 10000);
