@@ -135,6 +135,21 @@ QString SampleFolder::writeMessage() const {
     return writeMessage("prova.mss", message);
 }
 
+void SampleFolder::damagePagesWith(const QByteArray& text) const {
+    constexpr qsizetype pageSize = 4096;
+    QFile file(database());
+    if (!file.open(QIODevice::ReadWrite)) qFatal("no database");
+    const QByteArray whole = file.readAll();
+    int damaged = 0;
+    for (qsizetype page = 0; page < whole.size(); page += pageSize) {
+        if (!whole.sliced(page, pageSize).contains(text)) continue;
+        file.seek(page);
+        file.write(QByteArray(pageSize, '\xee'));
+        ++damaged;
+    }
+    if (damaged == 0) qFatal("the text is on no page");
+}
+
 void SampleFolder::hideDatabase() {
     QFile::rename(database(), database() + ".via");
 }

@@ -50,6 +50,9 @@ class SampleFolder {
     /// Puts a database in place whose column of the groups' names is narrower than a new one's.
     void narrowGroupNames(int characters);
 
+    /// Writes over the pages that hold this text; the file must have some.
+    void damagePagesWith(const QByteArray& text) const;
+
     /// Takes the database away and puts it back.
     void hideDatabase();
     void showDatabase();

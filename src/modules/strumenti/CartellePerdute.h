@@ -7,14 +7,17 @@
 
 #include "modules/store/AlberoCartelle.h"
 #include "platform/ado/TableWalk.h"
+#include "platform/ado/Waiting.h"
 #include "platform/Status.h"
 
 /// Counts the recipients of each group of a database.
 class ContaPerCartella {
   public:
-    explicit ContaPerCartella(const QString& connessione) : giro(connessione, "tb_destinatari") {}
+    explicit ContaPerCartella(const QString& connessione)
+        : giro(connessione, "tb_destinatari", ado::recordsetSeconds) {}
 
-    /// Goes on for about that long; true when the whole table was seen. Fails like ado::TableWalk.
+    /// Goes on for about that long; true when the whole table was seen. Another program is waited for as a
+    /// recordset waits for it. Fails like ado::TableWalk.
     Result<bool> Avanza(std::chrono::microseconds tempo);
     /// By the number of the group, whether there is such a group or not.
     const std::map<std::int32_t, qint64>& PerCartella() const { return perCartella; }

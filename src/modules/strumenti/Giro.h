@@ -9,7 +9,7 @@ namespace strumenti {
 
 /// Goes over a table in parts to its end. `parte` goes on for about the time that it is given and tells
 /// whether that was all (ado::TableWalk::step); `respiro` runs between two parts and lets windows be painted.
-/// Another program that writes is waited for, some seconds. Unguarded.
+/// Unguarded.
 void GiraTutto(const std::function<Result<bool>(std::chrono::microseconds)>& parte,
                const std::function<void()>& respiro);
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/ado/TableWalk.h"
+#include "platform/ado/Waiting.h"
 #include "platform/Status.h"
 
 /// The addresses that stand more than once among the selected recipients of a database. Case makes no
@@ -24,9 +25,11 @@ class IndirizziDoppi {
         std::vector<Destinatario> destinatari;  ///< by rising number: the first stays selected
     };
 
-    explicit IndirizziDoppi(const QString& connessione) : giro(connessione, "tb_destinatari") {}
+    explicit IndirizziDoppi(const QString& connessione)
+        : giro(connessione, "tb_destinatari", ado::recordsetSeconds) {}
 
-    /// Goes on for about that long; true when the whole table was seen. Fails like ado::TableWalk.
+    /// Goes on for about that long; true when the whole table was seen. Another program is waited for as a
+    /// recordset waits for it. Fails like ado::TableWalk.
     Result<bool> Avanza(std::chrono::microseconds tempo);
     /// By address; what is found so far.
     std::vector<Doppio> Doppi() const;

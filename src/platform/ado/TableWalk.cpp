@@ -5,7 +5,6 @@
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Session.h"
 #include "platform/ado/Value.h"
-#include "platform/ado/Waiting.h"
 
 namespace ado {
 
@@ -34,8 +33,7 @@ Result<bool> TableWalk::step(std::chrono::microseconds most,
                              const std::function<void(const WalkedRow& row)>& visit) {
     using Clock = std::chrono::steady_clock;
     constexpr int rowsBetweenLooks = 32;
-    const auto end = Clock::now() + most;
-    const Waiting waiting(noWait);
+    const Waiting waiting(m_waitSeconds);
     const auto session = Session::open(m_connection);
     if (!session.ok()) return session.status();
     const jet::ReadScope reading(session.value()->database());
@@ -43,6 +41,7 @@ Result<bool> TableWalk::step(std::chrono::microseconds most,
     if (Status status = session.value()->refresh(); !status.ok()) return status;
     const Result<jet::Table*> table = session.value()->database().table(m_table.toStdString());
     if (!table.ok()) return table.status();
+    const auto end = Clock::now() + most;
     bool ended = true;
     int rows = 0;
     const Status status = table.value()->scan(m_next, [&](jet::RowId id, const jet::RowView& row) {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <string>
 
+#include "platform/ado/Waiting.h"
 #include "platform/jet/Database.h"
 #include "platform/Status.h"
 
@@ -36,17 +37,19 @@ class WalkedRow {
 /// met exactly once; one that comes or goes meanwhile may be met or not.
 class TableWalk {
   public:
-    TableWalk(QString connectionText, QString table)
-        : m_connection(std::move(connectionText)), m_table(std::move(table)) {}
+    /// `waitSeconds`: how long a part waits for another program, by the hook of Waiting.h.
+    TableWalk(QString connectionText, QString table, int waitSeconds = noWait)
+        : m_connection(std::move(connectionText)), m_table(std::move(table)), m_waitSeconds(waitSeconds) {}
 
-    /// Visits rows until about that much time has passed; true when there are no more. It never waits for
-    /// another program: FileInUse, and the same part can be asked for again. Other failures as for
+    /// Visits rows until about that much time has passed; true when there are no more. FileInUse where the
+    /// wait for another program came to nothing: the same part can be asked for again. Other failures as for
     /// Recordset::open().
     Result<bool> step(std::chrono::microseconds most, const std::function<void(const WalkedRow& row)>& visit);
 
   private:
     QString m_connection;
     QString m_table;
+    int m_waitSeconds;
     jet::RowId m_next;
 };
 

@@ -82,27 +82,27 @@ std::vector<frmMain::GruppoStrumenti> finestre::Strumenti() {
         {"cmdStrumentiEsiti", Words::tr("&Esito degli invii..."),
          Words::tr("Chi ha ricevuto i messaggi, chi no e perché"), "view-list-details", apriEsiti}};
     const frmMain::GruppoStrumenti destinatari{
-        {"cmdTrova",
+        {"cmdStrumentiTrova",
          Words::tr("&Trova destinatari..."),
          Words::tr("Trova destinatari nella cartella o ovunque"),
          "edit-find",
          [] { Main().ApriTrova(); },
          {QKeySequence::Find}},
-        {"cmdOrdina",
+        {"cmdStrumentiOrdina",
          Words::tr("&Ordina per la colonna corrente"),
          Words::tr("Ordina l'elenco per la colonna corrente; la terza volta torna l'ordine di prima"),
          "view-list-details",
          ordinaGriglia,
          {Qt::CTRL | Qt::SHIFT | Qt::Key_O}},
-        {"cmdDoppi", Words::tr("&Indirizzi doppi..."),
+        {"cmdStrumentiDoppi", Words::tr("&Indirizzi doppi..."),
          Words::tr("Trova gli indirizzi selezionati più di una volta"), "edit-copy",
          [] { ControllaDoppi(intornoAiDestinatari()); }},
-        {"cmdPerdute", Words::tr("Recupera &cartelle perdute..."),
+        {"cmdStrumentiPerdute", Words::tr("Recupera &cartelle perdute..."),
          Words::tr("Riporta sotto la radice cartelle e destinatari che l'albero non mostra"), "folder-new",
          [] { RecuperaPerdute(intornoAiDestinatari()); }},
     };
     const frmMain::GruppoStrumenti importazione{
-        {"cmdUltimaImportazione", Words::tr("&Ultima importazione..."),
+        {"cmdStrumentiUltimaImportazione", Words::tr("&Ultima importazione..."),
          Words::tr("Righe importate e rifiutate dall'ultima importazione"), "view-list-text",
          apriUltimaImportazione},
     };

@@ -1,6 +1,7 @@
 // What the windows do while a statement waits for another program that holds the database.
 #include <optional>
 #include <QAbstractButton>
+#include <QAction>
 #include <QLabel>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -147,6 +148,28 @@ class TestAttesa : public QObject {
         QCOMPARE(shown, 3);
         QCOMPARE(stage.help(), before);
         QVERIFY2(during.paints < during.asked / 2, "between two paintings the program sleeps");
+    }
+
+    void toolsThatGoOverAllRecipientsWaitAndCanBeGivenUp() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa", "uno@x.it");
+        stage.addRecipient(1, "Beta", "uno@x.it");
+        stage.clickNode("K1");
+        LockedFile lock(stage.folder.database());
+        for (const char* tool : {"cmdStrumentiDoppi", "cmdStrumentiPerdute"}) {
+            DuringWait during(*stage.grd().viewport(),
+                              [&] { press(stage.window().windowHandle(), Qt::Key_Escape); });
+            ui::MessageDialog::queue(ui::MessageDialog::Ok);
+            stage.window().findChild<QAction*>(tool)->trigger();
+            QVERIFY(during.asked > 0);
+            QVERIFY(ui::MessageDialog::shown().constLast().text.startsWith("Impossibile "));
+        }
+        DuringWait during(*stage.grd().viewport(), [&] { lock.release(); });
+        ui::MessageDialog::queue(ui::MessageDialog::No);
+        stage.window().findChild<QAction*>("cmdStrumentiDoppi")->trigger();
+        QVERIFY(ui::MessageDialog::shown().constLast().text.startsWith("1 indirizzo"));
+        QCOMPARE(StoreStage::count("tb_destinatari", "sel = True"), 2);
+        QVERIFY(stage.ends.isEmpty());
     }
 
     void escGivesAWaitUpOnceItIsShown() {

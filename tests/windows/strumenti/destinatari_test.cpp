@@ -1,5 +1,6 @@
 // The tools that look after recipients and groups, as the menu starts them.
 #include <QAction>
+#include <QFile>
 
 #include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
@@ -16,6 +17,11 @@ struct Scena : StoreStage {
     QString text() { return MessageDialog::shown().constLast().text; }
 };
 
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 }  // namespace
 
 class TestDestinatari : public QObject {
@@ -26,7 +32,7 @@ class TestDestinatari : public QObject {
         Scena stage;
         stage.addRecipient(1, "Uno", "uno@x.it");
         MessageDialog::queue(MessageDialog::Ok);
-        stage.start("cmdDoppi");
+        stage.start("cmdStrumentiDoppi");
         QCOMPARE(stage.text(), QString("Nessun indirizzo è selezionato più di una volta."));
     }
 
@@ -39,7 +45,7 @@ class TestDestinatari : public QObject {
         stage.addRecipient(777, "Tre", "uno@x.it");
         stage.clickNode("K1");
         MessageDialog::queue(MessageDialog::Yes);
-        stage.start("cmdDoppi");
+        stage.start("cmdStrumentiDoppi");
         QCOMPARE(stage.text(), QString("1 indirizzo è selezionato più di una volta.\r\n"
                                        "Deselezionare i 2 doppioni, uno escluso per indirizzo?"));
         const QList<QStringList> wanted{{"uno@x.it", "Clienti", "1", "Resta selezionato"},
@@ -56,7 +62,7 @@ class TestDestinatari : public QObject {
         stage.addRecipient(1, "Uno", "uno@x.it");
         stage.addRecipient(1, "Due", "uno@x.it");
         stage.addGroup(55, "Perduta");
-        for (const char* command : {"cmdDoppi", "cmdPerdute"}) {
+        for (const char* command : {"cmdStrumentiDoppi", "cmdStrumentiPerdute"}) {
             MessageDialog::queue(MessageDialog::No);
             stage.start(command);
         }
@@ -72,7 +78,7 @@ class TestDestinatari : public QObject {
         stage.clickNode("K1");
         stage.clickCell(2, 5);
         MessageDialog::queue(MessageDialog::Yes);
-        stage.start("cmdDoppi");
+        stage.start("cmdStrumentiDoppi");
         QCOMPARE(stage.grd().Row(), 2);
         QVERIFY(stage.grd().isChecked(1));
         QVERIFY(!stage.grd().isChecked(2));
@@ -81,7 +87,7 @@ class TestDestinatari : public QObject {
     void withoutLostFoldersThereIsOnlyASentence() {
         Scena stage;
         MessageDialog::queue(MessageDialog::Ok);
-        stage.start("cmdPerdute");
+        stage.start("cmdStrumentiPerdute");
         QCOMPARE(stage.text(), QString("Nessuna cartella è perduta: l'albero le mostra tutte."));
     }
 
@@ -95,7 +101,7 @@ class TestDestinatari : public QObject {
         stage.addRecipient(99, "Due", "due@x.it");
         stage.clickNode("K1");
         MessageDialog::queue(MessageDialog::Yes);
-        stage.start("cmdPerdute");
+        stage.start("cmdStrumentiPerdute");
         QCOMPARE(stage.text(), QString("L'albero non mostra 3 cartelle e 2 destinatari.\r\n"
                                        "Portarli sotto \"Database Mailing\"?"));
         QCOMPARE(MessageDialog::shown().constLast().rows.size(), 4);
@@ -107,10 +113,27 @@ class TestDestinatari : public QObject {
         QCOMPARE(stage.columnOfGrid(5), QStringList{"Due"});
     }
 
+    void aDamagedTableIsASentenceAndNothingIsWritten() {
+        Scena stage;
+        stage.addRecipient(1, "Uno", "uno@x.it");
+        stage.addRecipient(1, "Due", "uno@x.it");
+        stage.clickNode("K1");
+        stage.folder.damagePagesWith("x.it");
+        const QByteArray before = bytesOf(stage.folder.database());
+        for (const char* command : {"cmdStrumentiDoppi", "cmdStrumentiPerdute"}) {
+            MessageDialog::queue(MessageDialog::Ok);
+            stage.start(command);
+            QVERIFY2(stage.text().startsWith("Impossibile "), qPrintable(stage.text()));
+        }
+        QCOMPARE(bytesOf(stage.folder.database()), before);
+        QVERIFY(stage.ends.isEmpty());
+        QCOMPARE(stage.columnOfGrid(5), (QStringList{"Due", "Uno"}));
+    }
+
     void aMissingDatabaseIsASentenceAndTheWindowLives() {
         Scena stage;
         stage.window();
-        for (const char* command : {"cmdDoppi", "cmdPerdute"}) {
+        for (const char* command : {"cmdStrumentiDoppi", "cmdStrumentiPerdute"}) {
             stage.folder.hideDatabase();
             MessageDialog::queue(MessageDialog::Ok);
             stage.start(command);

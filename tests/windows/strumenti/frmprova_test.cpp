@@ -1,7 +1,9 @@
 // A message as one recipient will get it, and what is to be said against it.
 #include <QAccessible>
 
+#include "platform/ado/Waiting.h"
 #include "support/AsInTheProgram.h"
+#include "support/LockedFile.h"
 #include "support/TestClass.h"
 #include "windows/strumenti/prova_stage.h"
 
@@ -127,6 +129,39 @@ class TestFrmProva : public QObject {
         QVERIFY(stage.text("lblStato").startsWith("I destinatari non si possono leggere"));
         QVERIFY(stage.finding("I campi dei destinatari non si possono controllare") >= 0);
         QVERIFY(stage.ends.isEmpty());
+    }
+
+    void aTableThatIsDamagedMeanwhileIsToldAndTheWindowLivesOn() {
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        QVERIFY(stage.prova().isVisible() && stage.counted());
+        stage.folder.damagePagesWith("x.it");
+        stage.press("cmdSuccessivo");
+        QVERIFY2(stage.text("lblStato").startsWith("I destinatari non si possono leggere"),
+                 qPrintable(stage.text("lblStato")));
+        stage.prova().Carica();
+        QVERIFY(stage.counted());
+        QVERIFY(stage.finding("I campi dei destinatari non si possono controllare") >= 0);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void aDatabaseThatAnotherProgramHoldsIsToldOnceTheWaitIsGivenUp() {
+        ProvaStage stage(threeRecipients());
+        stage.editorFile = stage.folder.writeMessage();
+        QVERIFY(stage.prova().isVisible() && stage.counted());
+        const auto before = ado::setWaitHook({[](auto) { return false; }, {}});
+        LockedFile lock(stage.folder.database());
+        stage.press("cmdSuccessivo");
+        QVERIFY(stage.text("lblStato").startsWith("I destinatari non si possono leggere"));
+        stage.prova().Carica();
+        QVERIFY(stage.finding("I campi dei destinatari non si possono controllare") >= 0);
+        lock.release();
+        stage.prova().Carica();
+        ado::setWaitHook(before);
+        QVERIFY(stage.counted());
+        QVERIFY(stage.text("lblStato").isEmpty());
+        QCOMPARE(stage.line("txtOggetto"), "Alfa");
+        QCOMPARE(stage.finding("I campi dei destinatari non si possono controllare"), -1);
     }
 
     void anAddressThatNoMailCanGoToIsTold() {

@@ -110,7 +110,7 @@ class TestUltimaImportazione : public QObject {
             open = QTest::qWaitForWindowExposed(&form) && form.isModal();
             QTest::keyClick(&form, Qt::Key_Escape);
         });
-        stage.window().findChild<QAction*>("cmdUltimaImportazione")->trigger();
+        stage.window().findChild<QAction*>("cmdStrumentiUltimaImportazione")->trigger();
         QVERIFY(open);
         QVERIFY(!finestre::UltimaImportazione().isVisible());
     }
