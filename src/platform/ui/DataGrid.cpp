@@ -49,9 +49,7 @@ DataGrid::DataGrid(QWidget* parent)
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] {
         if (m_sorting.underWay()) startSort();
     });
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-        if (m_notice.isEmpty()) sortBy(column);
-    });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
     m_lineColor = palette().color(QPalette::Mid);
     m_fixedColor = palette().color(QPalette::Window);
     applyFont();

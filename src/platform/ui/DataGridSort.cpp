@@ -8,7 +8,8 @@
 namespace ui {
 
 void DataGrid::sortBy(int column) {
-    if (column < 0 || column >= m_model->columnCount() || isColumnHidden(column)) return;
+    if (!m_notice.isEmpty() || column < 0 || column >= m_model->columnCount() || isColumnHidden(column))
+        return;
     const bool again = m_sorted && m_sorted->column == column;
     if (again && m_sorted->direction == Qt::DescendingOrder) {
         forgetOrder();

@@ -77,6 +77,7 @@ void TrovaDestinatari::Cambiato() {
     rinuncia.clear();
     lavoro.stop();
     ovunque.reset();
+    respinte = 0;
     meta = testo.isEmpty() ? Meta::Nessuna : Meta::Prima;
     inGriglia.start(testo, solo);
     if (barra.place() == Ovunque && (!testo.isEmpty() || solo)) {
@@ -96,9 +97,12 @@ bool TrovaDestinatari::Avanza(const ui::SlicedWork::Slice&) {
     }
     const Result<bool> finita = ovunque->Avanza(std::chrono::milliseconds(ui::SlicedWork::milliseconds));
     if (finita.status().code() == ErrorCode::FileInUse) {
+        ++respinte;
+        if (Bloccata()) Racconta();
         lavoro.restFor(pausa);
         return false;
     }
+    respinte = 0;
     if (!finita.ok()) {
         Rinuncia(finita.status().text());
         return false;
@@ -130,8 +134,14 @@ void TrovaDestinatari::Vai(Meta nuova) {
     Racconta();
 }
 
+/// What the grid still holds is not what the folder has.
+bool TrovaDestinatari::NonLetta() const {
+    return !principale.grd.Notice().isEmpty();
+}
+
 /// The row that a step leads to inside the grid; 0 where there is none so far.
 int TrovaDestinatari::RigaDella(Meta quale) const {
+    if (NonLetta()) return 0;
     const int riga = principale.grd.Row();
     switch (quale) {
         case Meta::Prima:
@@ -200,10 +210,18 @@ bool TrovaDestinatari::AllaCartella(bool indietro) {
         aperta = true;
     });
     if (!riuscito) Rinuncia(tenta.testo());
+    if (NonLetta()) meta = Meta::Nessuna;
     return !riuscito || aperta;
 }
 
+/// A wait that is over at once is not told.
+bool TrovaDestinatari::Bloccata() const {
+    constexpr int taciute = 5;
+    return respinte > taciute;
+}
+
 QString TrovaDestinatari::EsitoCartella() const {
+    if (NonLetta()) return Words::tr("Ricerca non riuscita: questa cartella non si può leggere");
     const std::vector<int>& righe = inGriglia.rows();
     const auto quante = static_cast<qint64>(righe.size());
     if (inGriglia.underWay())
@@ -217,6 +235,11 @@ QString TrovaDestinatari::EsitoCartella() const {
 
 QString TrovaDestinatari::EsitoOvunque() const {
     const qint64 tutti = ovunque->Trovati();
+    if (Bloccata())
+        return Words::tr(
+                   "Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando "
+                   "è libero.")
+            .arg(Conta(tutti));
     if (lavoro.underWay())
         return Words::tr("%Ln trovati, ricerca in corso…", nullptr, static_cast<int>(tutti));
     if (tutti == 0) return Words::tr("Nessun risultato");
@@ -229,6 +252,7 @@ QString TrovaDestinatari::EsitoOvunque() const {
     }
     QString esito = Words::tr("%1 in %Ln cartelle", nullptr, static_cast<int>(cartelle)).arg(Conta(tutti));
     if (perduti > 0) esito += Words::tr(", %1 in cartelle perdute").arg(Conta(perduti));
+    if (NonLetta()) return esito + Words::tr("; questa cartella non si può leggere");
     if (!inGriglia.underWay() && !inGriglia.rows().empty())
         esito += Words::tr("; qui %1").arg(EsitoCartella());
     return esito;
@@ -237,7 +261,7 @@ QString TrovaDestinatari::EsitoOvunque() const {
 void TrovaDestinatari::Racconta() {
     if (!barra.isVisible()) return;
     const bool vuota = barra.text().isEmpty() && !barra.checkedOnly();
-    const bool finita = !inGriglia.underWay() && !(ovunque && lavoro.underWay());
+    const bool finita = Bloccata() || (!inGriglia.underWay() && !(ovunque && lavoro.underWay()));
     if (!rinuncia.isEmpty())
         barra.setAnswer(rinuncia, true);
     else if (vuota)

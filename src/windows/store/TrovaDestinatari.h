@@ -39,6 +39,7 @@ class TrovaDestinatari : public QObject {
     void Chiudi();
     void Vai(Meta nuova);
     void Avvicina();
+    bool NonLetta() const;
     int RigaDella(Meta quale) const;
     bool AllaCartella(bool indietro);
     bool Avanza(const ui::SlicedWork::Slice& fetta);
@@ -47,6 +48,7 @@ class TrovaDestinatari : public QObject {
     void Racconta();
     QString EsitoCartella() const;
     QString EsitoOvunque() const;
+    bool Bloccata() const;
 
     const Principale principale;
     ui::FindBar& barra;
@@ -58,4 +60,5 @@ class TrovaDestinatari : public QObject {
     std::set<std::int32_t> provate;  ///< the folders that were opened for the present step
     Meta meta = Meta::Nessuna;
     QString rinuncia;  ///< why nothing is looked for
+    int respinte = 0;  ///< parts in a row that another program kept from the database
 };

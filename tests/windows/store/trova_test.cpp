@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "platform/ui/FindBar.h"
+#include "support/LockedFile.h"
 #include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/store/griglia.h"
@@ -228,6 +229,60 @@ class TestTrova : public QObject {
         stage.type("x.it");
         QTRY_VERIFY(stage.answer().startsWith("Ricerca non riuscita: "));
         stage.press(Qt::Key_Return);
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void damagedTableIsASentenceAndTheWindowLives() {
+        Scena stage;
+        stage.clickNode("K1");
+        stage.open();
+        stage.everywhere();
+        stage.folder.damagePagesWith("x.it");
+        stage.type("x.it");
+        QTRY_VERIFY2(stage.answer().startsWith("Ricerca non riuscita: "), qPrintable(stage.answer()));
+        stage.press(Qt::Key_Return);
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(stage.window().isVisible());
+        stage.window().findChild<QComboBox*>("cmbDove")->setCurrentIndex(0);  // what is on the screen
+        QTRY_COMPARE(stage.answer(), QString("2 di 2"));
+        stage.grd().sortBy(3);
+        QTRY_COMPARE(stage.columnOfGrid(colonnaAzienda), (QStringList{"Caffè Due", "Azienda Uno"}));
+    }
+
+    void folderThatCannotBeReadIsASentenceAndTheWindowLives() {
+        Scena stage;
+        stage.clickNode("K1");
+        stage.open();
+        stage.everywhere();
+        stage.type("peru");
+        QTRY_COMPARE(stage.answer(), QString("2 in 2 cartelle"));
+        stage.folder.damagePagesWith("x.it");
+        stage.press(Qt::Key_Return);
+        QTRY_COMPARE(stage.answer(), QString("2 in 2 cartelle; questa cartella non si può leggere"));
+        QVERIFY(stage.ends.isEmpty());
+        stage.window().findChild<QComboBox*>("cmbDove")->setCurrentIndex(0);
+        QTRY_COMPARE(stage.answer(), QString("Ricerca non riuscita: questa cartella non si può leggere"));
+        stage.press(Qt::Key_Return);
+        const QStringList rows = stage.columnOfGrid(colonnaAzienda);
+        stage.grd().sortBy(3);
+        QVERIFY(!stage.grd().sorted());
+        QCOMPARE(stage.columnOfGrid(colonnaAzienda), rows);
+    }
+
+    void databaseThatAnotherProgramHoldsIsToldAndTheSearchGoesOnAfterwards() {
+        Scena stage;
+        stage.clickNode("K1");
+        stage.open();
+        stage.everywhere();
+        LockedFile lock(stage.folder.database());
+        stage.type("peru");
+        QTRY_COMPARE(stage.answer(),
+                     QString("Trovati: 0. Il database è usato da un altro programma: la ricerca "
+                             "riprende quando è libero."));
+        stage.grd().sortBy(3);
+        QTRY_COMPARE(stage.columnOfGrid(colonnaAzienda), (QStringList{"Caffè Due", "Azienda Uno"}));
+        lock.release();
+        QTRY_COMPARE(stage.answer(), QString("2 in 2 cartelle"));
         QVERIFY(stage.ends.isEmpty());
     }
 
