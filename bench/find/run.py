@@ -4,7 +4,8 @@ thread is held, the answer to a key struck in the middle of a search.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-Every measurement is a process of its own.
+Every measurement is a process of its own, which tells the processor's time of its thread: other programs do not change it much.
+A round measures all, in turns from either end; the ratio is the median of those of the rounds.
 """
 import json
 import pathlib
@@ -34,7 +35,7 @@ def record(name, value, unit, peer, ratio, goal):
 
 def main():
     build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 3
+    rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 5
     program = str(build / "bench/find/find_rows")
     database = work / "million.mdb"
     if not database.exists():
@@ -45,16 +46,18 @@ def main():
         subprocess.run([program, "--one-folder", str(making)], check=True)
         making.rename(database)
     runs = {what: [] for what in ("--scan", "--everywhere", "--grid")}
-    for _ in range(rounds):
-        for what, results in runs.items():
-            results.append(measure(program, what, database))
+    for one in range(rounds):
+        for what in list(runs)[::-1 if one % 2 else 1]:
+            runs[what].append(measure(program, what, database))
 
     def median(what, key):
         return tools.median([result[key] for result in runs[what]])
 
-    scan = median("--scan", "ms")
-    records = [record(f"a full miss {where}", miss, "ms", "one scan of the engine", miss / scan, SCANS)
-               for where, miss in (("everywhere", median("--everywhere", "ms")), ("in the folder", median("--grid", "search")))]
+    def scans(what, key):
+        return tools.median(result[key] / scan["ms"] for result, scan in zip(runs[what], runs["--scan"]))
+
+    records = [record(f"a full miss {where}", median(what, key), "ms", "one scan of the engine", scans(what, key), SCANS)
+               for where, what, key in (("everywhere", "--everywhere", "ms"), ("in the folder", "--grid", "search"))]
     for name, what, key, most in (("slice of a search everywhere", "--everywhere", "longest", SLICE),
                                   ("slice of a search in the folder", "--grid", "searchLongest", SLICE),
                                   ("slice of a sort", "--grid", "sortLongest", SLICE),
