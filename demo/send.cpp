@@ -7,10 +7,10 @@
 // end.
 #include <QAbstractButton>
 #include <QAction>
-#include <QCheckBox>
 #include <QTest>
 #include <QTimer>
 
+#include "controls.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
@@ -20,21 +20,6 @@
 #include "windows/shell/frmMain.h"
 
 namespace {
-
-template <class Control>
-Control* find(QWidget& window, const char* name) {
-    auto* control = window.findChild<Control*>(name);
-    if (!control) qFatal("no control %s", name);
-    return control;
-}
-
-void click(QWidget& window, const char* name) {
-    auto* button = find<QAbstractButton>(window, name);
-    // A check box takes the click on its box, not in the middle of the row that it fills.
-    const QPoint place =
-        qobject_cast<QCheckBox*>(button) ? QPoint(10, button->height() / 2) : button->rect().center();
-    QTest::mouseClick(button, Qt::LeftButton, {}, place);
-}
 
 /// The run is over when the start button can be pressed again. The picture shows it half way.
 void waitForEnd(QWidget& window, const QString& screenshot) {

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "controls.h"
 #include "modules/message/MessaggioMss.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
@@ -24,18 +25,6 @@
 #include "windows/shell/frmMain.h"
 
 namespace {
-
-template <class Control>
-Control* find(QWidget& window, const char* name) {
-    auto* control = window.findChild<Control*>(name);
-    if (!control) qFatal("no control %s", name);
-    return control;
-}
-
-void click(QWidget& window, const char* name) {
-    auto* button = find<QAbstractButton>(window, name);
-    QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-}
 
 QString writeMessage(const QString& folder) {
     MessaggioMss message;
