@@ -17,9 +17,9 @@ OutcomeFile::OutcomeFile(QString folder, QString sender, QString title) : m_fold
 
 void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
     if (line.number) {
-        const std::pair key(database.path, *line.number);
-        if (m_delivered.contains(key)) return;
-        if (line.kind == OutcomeKind::Delivered) m_delivered.insert(key);
+        QSet<qint64>& delivered = m_delivered[database.path];
+        if (delivered.contains(*line.number)) return;
+        if (line.kind == OutcomeKind::Delivered) delivered.insert(*line.number);
     }
     if (!m_file.isOpen()) {
         m_head.database = database;

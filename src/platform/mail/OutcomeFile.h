@@ -3,7 +3,7 @@
 
 #include <optional>
 #include <QFile>
-#include <QPair>
+#include <QHash>
 #include <QSet>
 #include <QString>
 
@@ -41,7 +41,7 @@ class OutcomeFile {
     QFile m_file;
     Status m_status;
     qint64 m_size = 0;
-    QSet<QPair<QString, qint64>> m_delivered;  ///< path of the database, number
+    QHash<QString, QSet<qint64>> m_delivered;  ///< numbers by the database's path
     std::optional<qint64> m_lastFailure;       ///< where its line begins
 };
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <ctime>
 #include <limits>
 #include <QJsonDocument>
@@ -38,7 +37,7 @@ constexpr std::array causeNames{std::pair{DeliveryCause::Server, QLatin1String("
                                 std::pair{DeliveryCause::Program, QLatin1String("programma")}};
 
 template <class Value, class Names>
-QString nameOf(Value value, const Names& names) {
+QLatin1String nameOf(Value value, const Names& names) {
     return std::find_if(names.begin(), names.end(), [&](const auto& one) { return one.first == value; })
         ->second;
 }
@@ -64,6 +63,12 @@ class LineWriter {
   public:
     LineWriter() { m_line.reserve(512); }
 
+    void word(const char* name, QLatin1String value) {
+        begin(name);
+        m_line += '"';
+        m_line.append(value.data(), value.size());
+        m_line += '"';
+    }
     void text(const char* name, const QString& value) {
         begin(name);
         m_line += '"';
@@ -81,13 +86,18 @@ class LineWriter {
         const qint64 ms = value.toMSecsSinceEpoch();
         const std::time_t seconds = static_cast<std::time_t>(ms / 1000 - (ms % 1000 < 0 ? 1 : 0));
         std::tm parts{};
-        std::array<char, 96> text{};
-        if (::gmtime_r(&seconds, &parts))
-            std::snprintf(text.data(), text.size(), "\"%04d-%02d-%02dT%02d:%02d:%02d.%03dZ\"",
-                          parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min,
-                          parts.tm_sec, static_cast<int>(ms - qint64{seconds} * 1000));
         begin(name);
-        m_line += text[0] ? text.data() : "\"\"";
+        m_line += '"';
+        if (::gmtime_r(&seconds, &parts)) {
+            digits(parts.tm_year + 1900, 4, '-');
+            digits(parts.tm_mon + 1, 2, '-');
+            digits(parts.tm_mday, 2, 'T');
+            digits(parts.tm_hour, 2, ':');
+            digits(parts.tm_min, 2, ':');
+            digits(parts.tm_sec, 2, '.');
+            digits(static_cast<int>(ms - qint64{seconds} * 1000), 3, 'Z');
+        }
+        m_line += '"';
     }
     void number(const char* name, qint64 value) {
         begin(name);
@@ -104,6 +114,11 @@ class LineWriter {
             m_line += "\\u00" + QByteArray(1, c).toHex();
         else
             m_line += c;
+    }
+    void digits(int value, int count, char behind) {
+        for (int place = count == 4 ? 1000 : count == 3 ? 100 : 10; place > 0; place /= 10)
+            m_line += static_cast<char>('0' + value / place % 10);
+        m_line += behind;
     }
     void begin(const char* name) {
         m_line += m_line.isEmpty() ? "{\"" : ",\"";
@@ -162,9 +177,9 @@ QByteArray OutcomeLine::bytes() const {
     line.time("ora", time);
     if (number) line.number("numero", *number);
     line.text("indirizzo", shortened(address));
-    line.text("esito", nameOf(kind, kindNames));
-    line.text("fase", nameOf(stage, stageNames));
-    line.text("causa", nameOf(cause, causeNames));
+    line.word("esito", nameOf(kind, kindNames));
+    line.word("fase", nameOf(stage, stageNames));
+    line.word("causa", nameOf(cause, causeNames));
     if (code != 0) line.number("codice", code);
     if (!status.isEmpty()) line.text("stato", status);
     line.text("risposta", shortened(words));
