@@ -44,6 +44,8 @@ DataGrid::DataGrid(QWidget* parent)
         if (!m_applyingWidths && width > 0)
             m_widths[static_cast<size_t>(m_model->sourceColumn(column))] = width;
     });
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, horizontalHeader()->viewport(),
+            qOverload<>(&QWidget::update));
     // Whatever changes the rows makes a sort under way meaningless; a fill has its own order.
     connect(m_model, &QAbstractItemModel::modelReset, this, &DataGrid::forgetOrder);
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] {

@@ -14,6 +14,8 @@ namespace {
 constexpr int headHeight = 26;
 constexpr int textMargin = 6;
 constexpr int separatorInset = 4;
+constexpr int currentMark = 2;  ///< below the heading of the current column
+constexpr int currentRim = 2;   ///< round the match that was gone to last
 
 /// A cell that holds what is looked for, told by its ground and, without colours, by the line below its text.
 void markFound(QStyleOptionViewItem& cell) {
@@ -53,6 +55,9 @@ void DataGridHeader::paintSection(QPainter* painter, const QRect& rect, int logi
     painter->drawLine(rect.right(), rect.top() + separatorInset, rect.right(),
                       rect.bottom() - separatorInset);
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    if (m_grid->Row() > 0 && m_grid->Col() == logicalIndex)
+        painter->fillRect(rect.left(), rect.bottom() - currentMark + 1, rect.width() - 1, currentMark,
+                          palette().color(QPalette::WindowText));
     painter->restore();
 }
 
@@ -91,7 +96,8 @@ void DataGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     cell.state &= ~QStyle::State_HasFocus;
-    if (m_grid->search().holds(index)) markFound(cell);
+    const bool found = m_grid->search().holds(index);
+    if (found) markFound(cell);
     const bool box = cell.features & QStyleOptionViewItem::HasCheckIndicator;
     cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
     QStyle* style = m_grid->style();
@@ -107,6 +113,10 @@ void DataGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &indicator, painter, m_grid);
     }
     painter->save();
+    if (found && index == m_grid->currentIndex()) {
+        painter->setPen(QPen(cell.palette.color(QPalette::Text), currentRim));
+        painter->drawRect(cell.rect.adjusted(1, 1, -currentRim, -currentRim));
+    }
     painter->setPen(bodyLine(m_grid->lineColor()));
     painter->drawLine(cell.rect.bottomLeft(), cell.rect.bottomRight());
     painter->drawLine(cell.rect.topRight(), cell.rect.bottomRight());

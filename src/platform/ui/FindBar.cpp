@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QStyle>
 #include <QToolButton>
 
 #include "platform/text/Words.h"
@@ -29,6 +31,22 @@ QToolButton* barButton(const QString& name, const QString& caption, const QStrin
     return button;
 }
 
+/// A sentence that takes the room that is left. A bar hides what has no room as it is.
+class AnswerLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+    QSize sizeHint() const override { return {0, QLabel::sizeHint().height()}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, contentsRect(), Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+    }
+};
+
 }  // namespace
 
 FindBar::FindBar(const QStringList& places, QWidget* parent)
@@ -36,7 +54,7 @@ FindBar::FindBar(const QStringList& places, QWidget* parent)
       m_text(textField("txtTrova", this)),
       m_places(choiceField("cmbDove", places, this)),
       m_checkedOnly(named(new QCheckBox(Words::tr("Solo sele&zionati"), this), "chkSoloSelezionati")),
-      m_answer(named(new QLabel(this), "lblTrovati")),
+      m_answer(named(new AnswerLabel(this), "lblTrovati")),
       m_announcer(new Announcer(this)) {
     setObjectName("Trova");
     setAccessibleName(Words::tr("Trova"));

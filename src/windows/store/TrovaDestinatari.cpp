@@ -7,6 +7,7 @@
 #include "modules/core/bGlobal.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/Words.h"
+#include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FindBar.h"
 #include "platform/ui/GridSearch.h"
@@ -68,6 +69,7 @@ void TrovaDestinatari::Chiudi() {
     lavoro.stop();
     ovunque.reset();
     meta = Meta::Nessuna;
+    MostraAvviso({});
     principale.grd.setFocus(Qt::OtherFocusReason);
 }
 
@@ -268,4 +270,18 @@ void TrovaDestinatari::Racconta() {
         barra.setAnswer({}, false);
     else
         barra.setAnswer(ovunque ? EsitoOvunque() : EsitoCartella(), finita);
+    const bool ferma = !rinuncia.isEmpty() || (!vuota && (Bloccata() || NonLetta()));
+    MostraAvviso(ferma ? barra.answer() : QString());
+}
+
+void TrovaDestinatari::MostraAvviso(const QString& frase) {
+    if (frase == avviso) return;
+    ui::StaticItem& stcHelp = *principale.Commands.GetStatic("stcHelp");
+    if (avviso.isEmpty()) primaDellAvviso = stcHelp.Text();
+    const bool ancora = stcHelp.Text() == avviso;
+    avviso = frase;
+    if (!frase.isEmpty())
+        stcHelp.setText(frase);
+    else if (ancora)
+        stcHelp.setText(primaDellAvviso);
 }

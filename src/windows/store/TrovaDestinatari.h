@@ -46,6 +46,7 @@ class TrovaDestinatari : public QObject {
     void Rinuncia(const QString& motivo);
 
     void Racconta();
+    void MostraAvviso(const QString& frase);
     QString EsitoCartella() const;
     QString EsitoOvunque() const;
     bool Bloccata() const;
@@ -60,5 +61,7 @@ class TrovaDestinatari : public QObject {
     std::set<std::int32_t> provate;  ///< the folders that were opened for the present step
     Meta meta = Meta::Nessuna;
     QString rinuncia;  ///< why nothing is looked for
+    QString avviso;    ///< in the status bar: what is too long for the bar
+    QString primaDellAvviso;
     int respinte = 0;  ///< parts in a row that another program kept from the database
 };

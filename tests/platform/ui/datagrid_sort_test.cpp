@@ -115,6 +115,45 @@ class TestDataGridSort : public QObject {
         QCOMPARE(told(), QString());
     }
 
+    void headingsOfTheCurrentAndOfTheSortedColumnAreMarked() {
+        Window test;
+        const auto painted = [&](int column) {
+            QHeaderView& heads = *test.grid->horizontalHeader();
+            const QRect place(heads.sectionViewportPosition(column), 0, heads.sectionSize(column),
+                              heads.height());
+            return heads.viewport()->grab(place).toImage();
+        };
+        test.grid->setCurrentIndex(test.grid->model()->index(0, companyColumn));
+        const QImage plain = painted(3), current = painted(companyColumn);
+        test.grid->setCurrentIndex(test.grid->model()->index(0, 3));
+        QVERIFY(painted(3) != plain);
+        QVERIFY(painted(companyColumn) != current);
+        test.grid->setCurrentIndex(test.grid->model()->index(0, companyColumn));
+        QCOMPARE(painted(3), plain);
+        test.sort(3);
+        const QImage up = painted(3);
+        test.sort(3);
+        const QImage down = painted(3);
+        QVERIFY(up != plain && down != plain && up != down);
+        test.sort(3);
+        QCOMPARE(painted(3), plain);
+    }
+
+    void matchThatIsCurrentIsMarkedAmongTheOthers() {
+        Window test;
+        QCOMPARE(test.found("x.it").count(' '), 3);
+        const auto painted = [&](int row) {
+            test.grid->clearSelection();
+            return test.grid->viewport()
+                ->grab(test.grid->visualRect(test.grid->model()->index(row, 3)))
+                .toImage();
+        };
+        test.grid->showFound(1);
+        const QImage current = painted(0);
+        test.grid->showFound(2);
+        QVERIFY(painted(0) != current);
+    }
+
     void anotherHeadingSortsUpwardsByItsColumn() {
         Window test;
         test.sort(3);
