@@ -44,8 +44,8 @@ class Window:
 
     def __init__(self, role, name, active=True):
         # Looked for anew each time: what was found first may belong to a program that has just ended.
-        wait_for(lambda: self._shown(role, name, active=False), f"the window {name!r}", shown_windows)
-        self.frame = wait_for(lambda: self._shown(role, name, active), f"{name!r} to be the active window", shown_windows)
+        wait_for(lambda: self.shown(role, name, active=False), f"the window {name!r}", shown_windows)
+        self.frame = wait_for(lambda: self.shown(role, name, active), f"{name!r} to be the active window", shown_windows)
         # The window manager may still move it.
         wait_for(self._stands_still, f"{name!r} to stand still")
 
@@ -55,7 +55,7 @@ class Window:
         return extents(self.frame) == before
 
     @staticmethod
-    def _shown(role, name, active):
+    def shown(role, name, active):
         def wanted(window):
             return (window and window.getRoleName() == role and window.name.strip().startswith(name) and is_shown(window)
                     and (has(window, pyatspi.STATE_ACTIVE) or not active))
