@@ -140,8 +140,12 @@ def play(stage, program):
     for opening, name, leaving in (("ctrl+i", "Importa destinatari da file di testo", "alt+c"),
                                    ("ctrl+comma", "Impostazioni Account", "alt+c"),
                                    ("Insert", "Aggiungi destinatario", "alt+a"),
-                                   ("ctrl+Return", "Invia messaggi", "alt+c")):
-        check_dialog(main, lambda pressed=opening: keys(pressed), name, lambda pressed=leaving: keys(pressed))
+                                   ("ctrl+Return", "Invia messaggi", "alt+c"), ("alt+s p", "Prova messaggio", "alt+c"),
+                                   ("alt+s m", "Controllo del mittente", "alt+c"), ("alt+s e", "Esito degli invii", "alt+c"),
+                                   ("alt+s u", "Ultima importazione", "alt+c")):
+        # The browser in the window of the test copy calls its page focused all the time.
+        check_dialog(main, lambda pressed=opening: keys(*pressed.split()), name, lambda pressed=leaving: keys(pressed),
+                     buttons=name != "Prova messaggio")
     check_dialog(main, lambda: keys("alt+h", "i"), "Info su", lambda: keys("Escape"))
     check_dialog(main, lambda: keys("ctrl+n"), "Editor Messaggi", lambda: keys("ctrl+w"), role="frame", buttons=False)
     keys("ctrl+q")

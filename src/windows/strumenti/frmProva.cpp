@@ -42,6 +42,10 @@ frmProva::frmProva(Vicini intorno, QWidget* parent)
 frmProva::~frmProva() = default;
 
 void frmProva::Carica() {
+    // A window that gets the browser while it is on the screen is made anew there, and is no modal one any
+    // more.
+    HTML->wake();
+    winId();
     lblEsito->clear();
     txtCerca->clear();
     riga = -1;
