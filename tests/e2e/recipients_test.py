@@ -187,7 +187,7 @@ def wait_for_another_program(main, database):
     lock = Lock(database)
     keys("ctrl+f", "ctrl+a")
     type_text("x.test")
-    said(main, "0 trovati. Il database è usato da un altro programma: la ricerca riprende quando è libero.")
+    said(main, "Trovati: 0. Il database è usato da un altro programma: la ricerca riprende quando è libero.")
     lock.release()
     wait_for(lambda: "6 in 3 cartelle" in answer(main), "the search to end", lambda: answer(main))
     lock = Lock(database)

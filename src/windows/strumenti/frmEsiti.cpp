@@ -110,6 +110,7 @@ void frmEsiti::CreaControlli() {
     tabella->verticalHeader()->setDefaultSectionSize(ui::scaledToFont(*this, ui::rowHeight));
     tabella->horizontalHeader()->setStretchLastSection(true);
     tabella->horizontalHeader()->setHighlightSections(false);
+    tabella->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     constexpr std::array larghezze{150, 210, 110, 230};
     for (int colonna = 0; colonna < int(larghezze.size()); ++colonna)
         tabella->setColumnWidth(colonna, ui::scaledToFont(*this, larghezze[colonna]));
