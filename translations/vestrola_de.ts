@@ -380,10 +380,6 @@ Sie wurde unter dem Namen pathDBase.utf8.guasto beiseitegelegt.</translation>
         <translation>Das DNS ist zu langsam oder führt zu weit: später noch einmal versuchen.</translation>
     </message>
     <message>
-        <source>Il DNS non ha risposto (%1): riprovare più tardi.</source>
-        <translation>Das DNS hat nicht geantwortet (%1): später noch einmal versuchen.</translation>
-    </message>
-    <message>
         <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
         <translation>Die Domain existiert nicht im DNS: Adresse des Kontos korrigieren oder Domain registrieren.</translation>
     </message>
@@ -558,10 +554,6 @@ Sie wurde unter dem Namen pathDBase.utf8.guasto beiseitegelegt.</translation>
     <message>
         <source>La chiave pubblicata è quella con cui il programma firma.</source>
         <translation>Der veröffentlichte Schlüssel ist der, mit dem das Programm signiert.</translation>
-    </message>
-    <message>
-        <source>Il DNS non ha risposto per %1: riprovare più tardi.</source>
-        <translation>Das DNS hat für %1 nicht geantwortet: später noch einmal versuchen.</translation>
     </message>
     <message>
         <source>Pubblicare un record DMARC con il nome %1, per esempio &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</source>
@@ -2508,6 +2500,70 @@ Importate %3, rifiutate %4.</source>
     <message>
         <source>file di testo </source>
         <translation>Textdatei </translation>
+    </message>
+    <message>
+        <source>Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.</source>
+        <translation>Die Suche nach %1 im DNS ist gescheitert: %2. Später noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con il codice di errore %1</source>
+        <translation>das DNS antwortet mit dem Fehlercode %1</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS è danneggiata</source>
+        <translation>die Antwort des DNS ist beschädigt</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS ha troppi record</source>
+        <translation>die Antwort des DNS hat zu viele Einträge</translation>
+    </message>
+    <message>
+        <source>il DNS non risponde</source>
+        <translation>das DNS antwortet nicht</translation>
+    </message>
+    <message>
+        <source>nessun server DNS è raggiungibile</source>
+        <translation>kein DNS-Server ist erreichbar</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con un guasto (SERVFAIL)</source>
+        <translation>das DNS antwortet mit einer Störung (SERVFAIL)</translation>
+    </message>
+    <message>
+        <source>il DNS rifiuta la domanda (REFUSED)</source>
+        <translation>das DNS lehnt die Frage ab (REFUSED)</translation>
+    </message>
+    <message>
+        <source>il DNS non conosce domande di questo tipo (NOTIMP)</source>
+        <translation>das DNS kennt keine Fragen dieser Art (NOTIMP)</translation>
+    </message>
+    <message>
+        <source>il DNS non capisce la domanda (FORMERR)</source>
+        <translation>das DNS versteht die Frage nicht (FORMERR)</translation>
+    </message>
+    <message>
+        <source>il DNS ha dato una risposta che non si può usare</source>
+        <translation>das DNS hat eine Antwort gegeben, die nicht brauchbar ist</translation>
+    </message>
+    <message>
+        <source>il DNS di questo computer non è impostato</source>
+        <translation>das DNS dieses Computers ist nicht eingestellt</translation>
+    </message>
+    <message>
+        <source>Ricerca non riuscita: questa cartella non si può leggere</source>
+        <translation>Suche gescheitert: Dieser Ordner kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando è libero.</source>
+        <translation>Gefunden: %1. Ein anderes Programm verwendet die Datenbank: Die Suche geht weiter, sobald sie frei ist.</translation>
+    </message>
+    <message>
+        <source>; questa cartella non si può leggere</source>
+        <translation>; dieser Ordner kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
+        <translation>Der Test wurde vielleicht zugestellt: Der Server hat die ganze Nachricht erhalten und nicht geantwortet.</translation>
     </message>
 </context>
 </TS>

@@ -12,7 +12,7 @@
     <message>
         <source>La cartella del programma si trova su un disco che non conserva i permessi dei file.<byte value="xd"/>
 Chi può leggere il disco può leggere anche i destinatari e le password degli account.</source>
-        <translation>The program's folder is on a disk that does not keep the permissions of files.<byte value="xd"/>
+        <translation>The program&apos;s folder is on a disk that does not keep the permissions of files.<byte value="xd"/>
 Whoever can read the disk can also read the recipients and the passwords of the accounts.</translation>
     </message>
     <message>
@@ -380,10 +380,6 @@ It was set aside under the name pathDBase.utf8.guasto.</translation>
         <translation>DNS is too slow or leads too far: try again later.</translation>
     </message>
     <message>
-        <source>Il DNS non ha risposto (%1): riprovare più tardi.</source>
-        <translation>DNS did not reply (%1): try again later.</translation>
-    </message>
-    <message>
         <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
         <translation>The domain does not exist in DNS: correct the account&apos;s address or register the domain.</translation>
     </message>
@@ -558,10 +554,6 @@ It was set aside under the name pathDBase.utf8.guasto.</translation>
     <message>
         <source>La chiave pubblicata è quella con cui il programma firma.</source>
         <translation>The published key is the one with which the program signs.</translation>
-    </message>
-    <message>
-        <source>Il DNS non ha risposto per %1: riprovare più tardi.</source>
-        <translation>DNS did not reply for %1: try again later.</translation>
     </message>
     <message>
         <source>Pubblicare un record DMARC con il nome %1, per esempio &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</source>
@@ -2508,6 +2500,70 @@ Imported %3, refused %4.</translation>
     <message>
         <source>file di testo </source>
         <translation>text file </translation>
+    </message>
+    <message>
+        <source>Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.</source>
+        <translation>The look-up of %1 in the DNS failed: %2. Try again later.</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con il codice di errore %1</source>
+        <translation>the DNS answers with the error code %1</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS è danneggiata</source>
+        <translation>the answer of the DNS is damaged</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS ha troppi record</source>
+        <translation>the answer of the DNS has too many records</translation>
+    </message>
+    <message>
+        <source>il DNS non risponde</source>
+        <translation>the DNS does not answer</translation>
+    </message>
+    <message>
+        <source>nessun server DNS è raggiungibile</source>
+        <translation>no DNS server can be reached</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con un guasto (SERVFAIL)</source>
+        <translation>the DNS answers with a failure (SERVFAIL)</translation>
+    </message>
+    <message>
+        <source>il DNS rifiuta la domanda (REFUSED)</source>
+        <translation>the DNS refuses the question (REFUSED)</translation>
+    </message>
+    <message>
+        <source>il DNS non conosce domande di questo tipo (NOTIMP)</source>
+        <translation>the DNS knows no questions of this kind (NOTIMP)</translation>
+    </message>
+    <message>
+        <source>il DNS non capisce la domanda (FORMERR)</source>
+        <translation>the DNS does not understand the question (FORMERR)</translation>
+    </message>
+    <message>
+        <source>il DNS ha dato una risposta che non si può usare</source>
+        <translation>the DNS has given an answer that cannot be used</translation>
+    </message>
+    <message>
+        <source>il DNS di questo computer non è impostato</source>
+        <translation>the DNS of this computer is not set up</translation>
+    </message>
+    <message>
+        <source>Ricerca non riuscita: questa cartella non si può leggere</source>
+        <translation>Search failed: this folder cannot be read</translation>
+    </message>
+    <message>
+        <source>Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando è libero.</source>
+        <translation>Found: %1. Another program is using the database: the search goes on when it is free.</translation>
+    </message>
+    <message>
+        <source>; questa cartella non si può leggere</source>
+        <translation>; this folder cannot be read</translation>
+    </message>
+    <message>
+        <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
+        <translation>The test may have been delivered: the server received the whole message and did not answer.</translation>
     </message>
 </context>
 </TS>

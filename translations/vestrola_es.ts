@@ -380,10 +380,6 @@ Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
         <translation>El DNS es demasiado lento o lleva demasiado lejos: vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
-        <source>Il DNS non ha risposto (%1): riprovare più tardi.</source>
-        <translation>El DNS no respondió (%1): vuelva a intentarlo más tarde.</translation>
-    </message>
-    <message>
         <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
         <translation>El dominio no existe en el DNS: corrija la dirección de la cuenta o registre el dominio.</translation>
     </message>
@@ -558,10 +554,6 @@ Se ha apartado con el nombre pathDBase.utf8.guasto.</translation>
     <message>
         <source>La chiave pubblicata è quella con cui il programma firma.</source>
         <translation>La clave publicada es aquella con la que firma el programa.</translation>
-    </message>
-    <message>
-        <source>Il DNS non ha risposto per %1: riprovare più tardi.</source>
-        <translation>El DNS no respondió sobre %1: vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
         <source>Pubblicare un record DMARC con il nome %1, per esempio &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</source>
@@ -2508,6 +2500,70 @@ Importadas %3, rechazadas %4.</translation>
     <message>
         <source>file di testo </source>
         <translation>archivo de texto </translation>
+    </message>
+    <message>
+        <source>Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.</source>
+        <translation>La búsqueda de %1 en el DNS falló: %2. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con il codice di errore %1</source>
+        <translation>el DNS responde con el código de error %1</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS è danneggiata</source>
+        <translation>la respuesta del DNS está dañada</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS ha troppi record</source>
+        <translation>la respuesta del DNS tiene demasiados registros</translation>
+    </message>
+    <message>
+        <source>il DNS non risponde</source>
+        <translation>el DNS no responde</translation>
+    </message>
+    <message>
+        <source>nessun server DNS è raggiungibile</source>
+        <translation>no se puede acceder a ningún servidor DNS</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con un guasto (SERVFAIL)</source>
+        <translation>el DNS responde con un fallo (SERVFAIL)</translation>
+    </message>
+    <message>
+        <source>il DNS rifiuta la domanda (REFUSED)</source>
+        <translation>el DNS rechaza la pregunta (REFUSED)</translation>
+    </message>
+    <message>
+        <source>il DNS non conosce domande di questo tipo (NOTIMP)</source>
+        <translation>el DNS no conoce preguntas de este tipo (NOTIMP)</translation>
+    </message>
+    <message>
+        <source>il DNS non capisce la domanda (FORMERR)</source>
+        <translation>el DNS no entiende la pregunta (FORMERR)</translation>
+    </message>
+    <message>
+        <source>il DNS ha dato una risposta che non si può usare</source>
+        <translation>el DNS ha dado una respuesta que no se puede usar</translation>
+    </message>
+    <message>
+        <source>il DNS di questo computer non è impostato</source>
+        <translation>el DNS de este ordenador no está configurado</translation>
+    </message>
+    <message>
+        <source>Ricerca non riuscita: questa cartella non si può leggere</source>
+        <translation>La búsqueda falló: esta carpeta no se puede leer</translation>
+    </message>
+    <message>
+        <source>Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando è libero.</source>
+        <translation>Encontrados: %1. Otro programa está usando la base de datos: la búsqueda continúa cuando quede libre.</translation>
+    </message>
+    <message>
+        <source>; questa cartella non si può leggere</source>
+        <translation>; esta carpeta no se puede leer</translation>
+    </message>
+    <message>
+        <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
+        <translation>Es posible que la prueba se haya entregado: el servidor ha recibido todo el mensaje y no ha respondido.</translation>
     </message>
 </context>
 </TS>

@@ -380,10 +380,6 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
         <translation>Le DNS est trop lent ou mène trop loin : réessayez plus tard.</translation>
     </message>
     <message>
-        <source>Il DNS non ha risposto (%1): riprovare più tardi.</source>
-        <translation>Le DNS n&apos;a pas répondu (%1) : réessayez plus tard.</translation>
-    </message>
-    <message>
         <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
         <translation>Le domaine n&apos;existe pas dans le DNS : corrigez l&apos;adresse du compte ou enregistrez le domaine.</translation>
     </message>
@@ -558,10 +554,6 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     <message>
         <source>La chiave pubblicata è quella con cui il programma firma.</source>
         <translation>La clé publiée est celle avec laquelle le programme signe.</translation>
-    </message>
-    <message>
-        <source>Il DNS non ha risposto per %1: riprovare più tardi.</source>
-        <translation>Le DNS n&apos;a pas répondu pour %1 : réessayez plus tard.</translation>
     </message>
     <message>
         <source>Pubblicare un record DMARC con il nome %1, per esempio &quot;v=DMARC1; p=none; rua=mailto:%2&quot;.</source>
@@ -2508,6 +2500,70 @@ Importées %3, refusées %4.</translation>
     <message>
         <source>file di testo </source>
         <translation>fichier texte </translation>
+    </message>
+    <message>
+        <source>Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.</source>
+        <translation>La recherche de %1 dans le DNS a échoué : %2. Réessayer plus tard.</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con il codice di errore %1</source>
+        <translation>le DNS répond par le code d&apos;erreur %1</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS è danneggiata</source>
+        <translation>la réponse du DNS est endommagée</translation>
+    </message>
+    <message>
+        <source>la risposta del DNS ha troppi record</source>
+        <translation>la réponse du DNS a trop d&apos;enregistrements</translation>
+    </message>
+    <message>
+        <source>il DNS non risponde</source>
+        <translation>le DNS ne répond pas</translation>
+    </message>
+    <message>
+        <source>nessun server DNS è raggiungibile</source>
+        <translation>aucun serveur DNS n&apos;est joignable</translation>
+    </message>
+    <message>
+        <source>il DNS risponde con un guasto (SERVFAIL)</source>
+        <translation>le DNS répond par une défaillance (SERVFAIL)</translation>
+    </message>
+    <message>
+        <source>il DNS rifiuta la domanda (REFUSED)</source>
+        <translation>le DNS refuse la question (REFUSED)</translation>
+    </message>
+    <message>
+        <source>il DNS non conosce domande di questo tipo (NOTIMP)</source>
+        <translation>le DNS ne connaît pas les questions de ce type (NOTIMP)</translation>
+    </message>
+    <message>
+        <source>il DNS non capisce la domanda (FORMERR)</source>
+        <translation>le DNS ne comprend pas la question (FORMERR)</translation>
+    </message>
+    <message>
+        <source>il DNS ha dato una risposta che non si può usare</source>
+        <translation>le DNS a donné une réponse inutilisable</translation>
+    </message>
+    <message>
+        <source>il DNS di questo computer non è impostato</source>
+        <translation>le DNS de cet ordinateur n&apos;est pas configuré</translation>
+    </message>
+    <message>
+        <source>Ricerca non riuscita: questa cartella non si può leggere</source>
+        <translation>La recherche a échoué : ce dossier ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando è libero.</source>
+        <translation>Trouvés : %1. Un autre programme utilise la base de données : la recherche reprend quand elle est libre.</translation>
+    </message>
+    <message>
+        <source>; questa cartella non si può leggere</source>
+        <translation> ; ce dossier ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
+        <translation>L&apos;essai a peut-être été remis : le serveur a reçu tout le message et n&apos;a pas répondu.</translation>
     </message>
 </context>
 </TS>

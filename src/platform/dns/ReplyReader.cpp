@@ -5,6 +5,8 @@
 
 #include <memory>
 
+#include "platform/text/Words.h"
+
 namespace dns {
 
 namespace {
@@ -108,7 +110,7 @@ Answer unusable(const QString& why) {
 Answer readReply(Type type, QByteArrayView reply) {
     constexpr int headerSize = 12;
     const int code = reply.size() < headerSize ? 0 : reply[3] & 0x0f;
-    if (code != 0) return unusable(QStringLiteral("il DNS risponde con il codice di errore %1").arg(code));
+    if (code != 0) return unusable(Words::tr("il DNS risponde con il codice di errore %1").arg(code));
     Answer answer;
     const int status = readRecords(type, reply, answer);
     if (status == ARES_ENODATA) {
@@ -116,10 +118,10 @@ Answer readReply(Type type, QByteArrayView reply) {
         nothing.kind = Answer::Kind::NoRecords;
         return nothing;
     }
-    if (status != ARES_SUCCESS) return unusable(QStringLiteral("la risposta del DNS è danneggiata"));
+    if (status != ARES_SUCCESS) return unusable(Words::tr("la risposta del DNS è danneggiata"));
     const qsizetype count =
         answer.addresses.size() + answer.texts.size() + answer.exchangers.size() + answer.names.size();
-    if (count > mostRecords) return unusable(QStringLiteral("la risposta del DNS ha troppi record"));
+    if (count > mostRecords) return unusable(Words::tr("la risposta del DNS ha troppi record"));
     answer.kind = count > 0 ? Answer::Kind::Records : Answer::Kind::NoRecords;
     return answer;
 }

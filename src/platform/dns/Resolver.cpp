@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/dns/ReplyReader.h"
+#include "platform/text/Words.h"
 
 namespace dns {
 
@@ -65,19 +66,19 @@ Answer answerOf(Type type, int status, QByteArrayView reply) {
             answer.kind = Answer::Kind::NoName;
             return answer;
         case ARES_ETIMEOUT:
-            return failed(QStringLiteral("il DNS non risponde"));
+            return failed(Words::tr("il DNS non risponde"));
         case ARES_ECONNREFUSED:
-            return failed(QStringLiteral("nessun server DNS è raggiungibile"));
+            return failed(Words::tr("nessun server DNS è raggiungibile"));
         case ARES_ESERVFAIL:
-            return failed(QStringLiteral("il DNS risponde con un guasto (SERVFAIL)"));
+            return failed(Words::tr("il DNS risponde con un guasto (SERVFAIL)"));
         case ARES_EREFUSED:
-            return failed(QStringLiteral("il DNS rifiuta la domanda (REFUSED)"));
+            return failed(Words::tr("il DNS rifiuta la domanda (REFUSED)"));
         case ARES_ENOTIMP:
-            return failed(QStringLiteral("il DNS non conosce domande di questo tipo (NOTIMP)"));
+            return failed(Words::tr("il DNS non conosce domande di questo tipo (NOTIMP)"));
         case ARES_EFORMERR:
-            return failed(QStringLiteral("il DNS non capisce la domanda (FORMERR)"));
+            return failed(Words::tr("il DNS non capisce la domanda (FORMERR)"));
         default:
-            return failed(QStringLiteral("il DNS ha dato una risposta che non si può usare"));
+            return failed(Words::tr("il DNS ha dato una risposta che non si può usare"));
     }
 }
 
@@ -154,12 +155,12 @@ struct Resolver::State : QObject {
         connect(deadline.get(), &QTimer::timeout, this, [this, number] {
             // The timer is destroyed with its entry, and this is its own event.
             pending.at(number).deadline.release()->deleteLater();
-            settle(number, failed(QStringLiteral("il DNS non risponde")));
+            settle(number, failed(Words::tr("il DNS non risponde")));
         });
         deadline->start(times.deadlineMs);
         pending.emplace(number, Pending{question, std::move(done), std::move(deadline)});
         if (!ready) {
-            settle(number, failed(QStringLiteral("il DNS di questo computer non è impostato")));
+            settle(number, failed(Words::tr("il DNS di questo computer non è impostato")));
             return;
         }
         constexpr int internetClass = 1;
