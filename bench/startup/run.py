@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """From the start of the process to the main window on the screen, with 100,000 recipients in groups: against the first
-window of keepassxc, and against an empty main window of the same toolkit.
+window of keepassxc, and against an empty main window of the same toolkit. Besides what the start costs, until the
+program has nothing left to do: instructions, which valgrind counts, and memory.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
@@ -11,6 +12,7 @@ import json
 import mmap
 import os
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
@@ -76,6 +78,46 @@ def seconds(screen, command, environment):
         process.wait()
 
 
+def until_idle(process):
+    """Returns when the process has used no processor time for a second."""
+    used, since = None, time.perf_counter()
+    while time.perf_counter() - since < 1:
+        if process.poll() is not None:
+            raise SystemExit(f"{process.args[0]} ended with {process.returncode}")
+        fields = pathlib.Path(f"/proc/{process.pid}/stat").read_text(encoding="ascii").rsplit(") ", 1)[1].split()
+        if fields[11:13] != used:
+            used, since = fields[11:13], time.perf_counter()
+        time.sleep(0.05)
+
+
+def cost(screen, program, environment, tracer):
+    """Millions of instructions, and the proportional set size in MB of a second process that is not traced."""
+    prefix, more = tracer
+    command = [*prefix, program]
+    figures = []
+    for begin in (command, [program]):
+        process = subprocess.Popen(begin, env={**environment, **more}, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
+                                   text=True)
+        until(lambda: screen.painted() > PAINTED or process.poll() is not None, program)
+        until_idle(process)
+        size = pathlib.Path(f"/proc/{process.pid}/smaps_rollup").read_text(encoding="ascii")
+        process.terminate()
+        printed = process.communicate()[1]
+        if begin is command:
+            figures.append(int(re.search(r"Collected : (\d+)", printed)[1]) / 1e6)
+        else:
+            figures.append(int(re.search(r"^Pss: +(\d+)", size, re.MULTILINE)[1]) / 1024)
+        until(lambda: screen.painted() == 0, "an empty screen")
+    return figures
+
+
+def instruction_counter(folder):
+    path, environment = tools.unpacked("valgrind", "valgrind", folder)
+    more = {} if str(path).startswith("/usr/") else {"VALGRIND_LIB": str(path.parent.parent / "libexec" / "valgrind")}
+    more.update({name: environment[name] for name in ("LD_LIBRARY_PATH",) if name in environment})
+    return [str(path), "--tool=callgrind", "--callgrind-out-file=/dev/null"], more
+
+
 def program_folder(build, work):
     folder = work / "vestrola"
     if not (folder / "data" / "data.mdb").exists():
@@ -91,11 +133,17 @@ def record(name, ours, peer, peers, goal):
             "met": ratio >= goal}
 
 
+def at_most(name, value, unit, bare, goal):
+    return {"name": name, "value": value, "unit": unit, "peer": "empty QMainWindow", "ratio": value / bare, "goal": goal,
+            "met": value / bare <= goal}
+
+
 def main():
     build, work = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
     rounds = int(sys.argv[3]) if len(sys.argv) > 3 else 11
     home = work / "home"
     home.mkdir(exist_ok=True)
+    counter = instruction_counter(work.parent)
     screen = Screen(work / "screen")
     environment = {**os.environ, "DISPLAY": screen.name, "QT_QPA_PLATFORM": "xcb", "HOME": str(home), "XDG_RUNTIME_DIR": str(home),
                    "VESTROLA_FOLDER": str(program_folder(build, work))}
@@ -106,12 +154,16 @@ def main():
         for _ in range(rounds + 1):
             for name, program in programs.items():
                 taken[name].append(seconds(screen, [program], environment))
+        (instructions, size), (fewest, least) = (cost(screen, programs[name], environment, counter)
+                                                 for name in ("ours", "bare"))
     finally:
         screen.close()
     # The first round only fills the caches.
     ours, bare, peers = (taken[name][1:] for name in ("ours", "bare", "keepassxc"))
     print(json.dumps([record("start with 100,000 recipients", ours, "keepassxc", peers, 1.0),
-                      record("start against an empty window", ours, "empty QMainWindow", bare, 1 / 6)]))
+                      record("start against an empty window", ours, "empty QMainWindow", bare, 1 / 6),
+                      at_most("instructions of the start", instructions, "millions", fewest, 6.0),
+                      at_most("memory of the idle program", size, "MB", least, 2.0)]))
 
 
 if __name__ == "__main__":
