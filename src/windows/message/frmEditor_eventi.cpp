@@ -10,6 +10,7 @@
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
 #include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
 #include "windows/message/frmEditor.h"
 #include "windows/message/frmEditor_comandi.h"
 
@@ -108,7 +109,7 @@ void frmEditor::MostraSchedaInStato() {
 
 void frmEditor::CambiaScheda(int da, int a) {
     if (tornaIndietro) return;
-    if (const Status spostato = SpostaBody(da, a); !spostato.ok()) {
+    if (const Status spostato = conAttesa([&] { return SpostaBody(da, a); }); !spostato.ok()) {
         {
             const QScopedValueRollback indietro(tornaIndietro, true);
             tb->setCurrentIndex(da);

@@ -10,6 +10,7 @@
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/TabStrip.h"
+#include "windows/core/Puntatore.h"
 #include "windows/message/frmAllegati.h"
 #include "windows/message/frmEditor.h"
 
@@ -47,7 +48,7 @@ void AvvisaCaratteri(const MessaggioMss& messaggio) {
 
 /// Tells of a body that has grown beyond what its readers take, while it is still here.
 void AvvisaLimiti(const QString& corpo) {
-    const Status leggibile = html::readable(corpo);
+    const Status leggibile = conAttesa([&] { return html::readable(corpo); });
     if (!leggibile.ok())
         ui::MessageDialog::show(
             Words::tr("Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.") + "\r\n" +
@@ -81,7 +82,7 @@ MessaggioMss frmEditor::Testata() {
 /// The message as it stands; none, after a notice, where the design view does not answer. The body is that of
 /// the design view, whatever view is on show.
 std::optional<MessaggioMss> frmEditor::PrendiMessaggio() {
-    const Result<QString> corpo = DHTML->documentHTML();
+    const Result<QString> corpo = conAttesa([this] { return DHTML->documentHTML(); });
     if (!corpo.ok()) {
         AvvisaVista(corpo.status(),
                     Words::tr("Il messaggio non è stato salvato: riprova fra qualche istante."));
@@ -100,12 +101,14 @@ void frmEditor::ImpostaFile(const QString& percorso) {
 void frmEditor::SalvaMessaggio() {
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
-    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
     const MessaggioMss daScrivere = conFiniRiga(*messaggio);
-    const QByteArray scritto = ScriviMessaggio(percorsoFile, daScrivere);
-    ImpostaFile(percorsoFile);
-    AnnotaNoto(scritto, *messaggio);
-    CopiaDopoScrittura(messaggio->CorpoHTML);
+    conAttesa([&] {
+        CopiaPrimaDiScrivere(messaggio->CorpoHTML);
+        const QByteArray scritto = ScriviMessaggio(percorsoFile, daScrivere);
+        ImpostaFile(percorsoFile);
+        AnnotaNoto(scritto, *messaggio);
+        CopiaDopoScrittura(messaggio->CorpoHTML);
+    });
     AvvisaCaratteri(*messaggio);
     AvvisaLimiti(daScrivere.CorpoHTML);
 }
@@ -115,17 +118,22 @@ void frmEditor::SalvaMessaggioCome() {
     if (!percorso) return;
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
-    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
     Prosegui prosegui;
     const MessaggioMss daScrivere = conFiniRiga(*messaggio);
-    QByteArray byte;
-    const bool scritto = prosegui([&] { byte = ScriviMessaggio(*percorso, daScrivere); });
-    ImpostaFile(*percorso);
-    fileAperto = true;
-    percorsoFile = *percorso;
+    const bool scritto = conAttesa([&] {
+        CopiaPrimaDiScrivere(messaggio->CorpoHTML);
+        QByteArray byte;
+        const bool riuscito = prosegui([&] { byte = ScriviMessaggio(*percorso, daScrivere); });
+        ImpostaFile(*percorso);
+        fileAperto = true;
+        percorsoFile = *percorso;
+        if (riuscito) {
+            AnnotaNoto(byte, *messaggio);
+            CopiaDopoScrittura(messaggio->CorpoHTML);
+        }
+        return riuscito;
+    });
     if (scritto) {
-        AnnotaNoto(byte, *messaggio);
-        CopiaDopoScrittura(messaggio->CorpoHTML);
         AvvisaCaratteri(*messaggio);
         return AvvisaLimiti(daScrivere.CorpoHTML);
     }
@@ -178,25 +186,27 @@ void frmEditor::RiconosciFile(const FileMss& file, const MessaggioLetto& letto) 
 
 /// The document on show goes only once the file is known to hold one that can take its place.
 void frmEditor::LeggiMessaggio(const QString& percorso) {
-    const FileMss file = LeggiFileMss(percorso);
-    const MessaggioLetto letto = LeggiMss(file);
+    const FileMss file = conAttesa([&] { return LeggiFileMss(percorso); });
+    const MessaggioLetto letto = conAttesa([&] { return LeggiMss(file); });
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
     QString corpo = letto.corpo;
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
-    if (const Status leggibile = html::readable(corpo); !leggibile.ok())
+    if (const Status leggibile = conAttesa([&] { return html::readable(corpo); }); !leggibile.ok())
         return AvvisaVista(leggibile, Words::tr("Il messaggio nella finestra resta quello di prima."));
     NuovoMessaggio();
     ImpostaTestata(letto.oggetto, letto.priorita);
     bool lasciato = false;
     for (const AllegatoMss& allegato : letto.allegati)
         if (!AggiungiAllegato(allegato)) lasciato = true;
-    static_cast<void>(DHTML->setDocumentHTML(corpo));
-    // Whichever view is on show shows the message that was opened.
-    if (!MostraBody(tb->currentIndex()).ok()) ScriviOrigine(corpo);
-    ImpostaFile(percorso);
-    fileAperto = true;
-    percorsoFile = percorso;
-    RiconosciFile(file, letto);
+    conAttesa([&] {
+        static_cast<void>(DHTML->setDocumentHTML(corpo));
+        // Whichever view is on show shows the message that was opened.
+        if (!MostraBody(tb->currentIndex()).ok()) ScriviOrigine(corpo);
+        ImpostaFile(percorso);
+        fileAperto = true;
+        percorsoFile = percorso;
+        RiconosciFile(file, letto);
+    });
     if (lasciato) SegnaModificato();
 }

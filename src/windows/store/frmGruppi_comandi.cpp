@@ -85,7 +85,7 @@ bool ConfermaCancellazione(frmGruppi& gruppi, const QString& domanda, int stile)
         albero.setSelectedItem(nodo);
         albero.EnsureVisible(nodo);
     }
-    stcHelp.setText(NomeConDestinatari());
+    stcHelp.setText(conAttesa(NomeConDestinatari));
     stcHelp.announce();
     return MessageDialog::show(domanda, stile, "Attenzione", MessageDialog::No) == MessageDialog::Yes;
 }
