@@ -96,6 +96,7 @@ int main(int argc, char** argv) {
     bVAR::goSecondi = "secondi";
 
     frmInvia window([] {});
+    window.complete();
     window.SetPrgBar();
     window.CaricaDati();
     if (onScreen) window.show();

@@ -41,6 +41,7 @@ SendStage::SendStage(const QList<SampleFolder::Columns>& recipients) {
     if (!recipients.isEmpty()) folder.addRecipients(recipients);
     folder.addAccount(SampleFolder::loopbackAccount(sink.port()));
     window = std::make_unique<frmInvia>([] {});
+    window->complete();
     open();
 }
 

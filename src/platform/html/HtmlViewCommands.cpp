@@ -1,5 +1,3 @@
-#include <QFont>
-#include <QFontInfo>
 #include <utility>
 
 #include "platform/html/HtmlViewLive.h"
@@ -83,10 +81,7 @@ HtmlView::CommandStatus HtmlView::Live::status(int command) const {
 // The browser writes no font that the text is shown in anyway, and a font that was only shown would reach no
 // recipient. It finds a family in any case of letters, but takes two spellings for two fonts.
 void HtmlView::Live::setDefaultFont(const QString& family) {
-    QFont font(family);
-    font.setStyleHint(QFont::SansSerif);
     m_defaultFont = family;
-    m_standardFont = QFontInfo(font).family().toUpper();
 }
 
 void HtmlView::Live::showMarks(const QString& name, bool on) {

@@ -1,6 +1,8 @@
 #include "platform/html/HtmlViewLive.h"
 
 #include <QApplication>
+#include <QFont>
+#include <QFontInfo>
 #include <QJsonObject>
 #include <QLabel>
 #include <QUuid>
@@ -60,7 +62,12 @@ void HtmlView::Live::begin() {
     const Status loaded = createBrowserOf(&view, events, browser);
     if (!loaded.ok()) return fail(loaded.text());
     view.layout()->addWidget(browser.widget);
-    if (!m_standardFont.isEmpty()) browser.setStandardFont(m_standardFont);
+    if (!m_defaultFont.isEmpty()) {
+        QFont font(m_defaultFont);
+        font.setStyleHint(QFont::SansSerif);
+        m_standardFont = QFontInfo(font).family().toUpper();
+        browser.setStandardFont(m_standardFont);
+    }
     browser.start();
 }
 

@@ -125,7 +125,9 @@ CommandBars::CommandBars(QMainWindow* window) : QObject(window), m_window(window
 }
 
 Command* CommandBars::makeCommand(const CommandDesign& design) {
-    auto* action = new QAction(QIcon::fromTheme(design.icon), design.caption, this);
+    auto* action = new QAction(design.caption, this);
+    // A name that the theme lacks, the empty one too, is looked for in all folders of the desktop.
+    if (!design.icon.isEmpty()) action->setIcon(QIcon::fromTheme(design.icon));
     action->setShortcuts(design.keys);
     if (design.scope == CommandDesign::Scope::Popup) {
         // Shown beside the caption; offerPopup() makes them act.

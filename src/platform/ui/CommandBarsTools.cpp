@@ -18,18 +18,17 @@ namespace ui {
 namespace {
 
 constexpr int labelGap = 8;
+constexpr int leastHeight = 24;  // to be hit
 
 }  // namespace
 
 ComboTool::ComboTool(const QString& name, const QString& description, int width) {
     setObjectName(name);
-    setEditable(true);
-    setLineEdit(new LineEdit);
+    setLineEdit(new LineEdit);  // which makes it editable
     setInsertPolicy(NoInsert);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(1);
     setMaxVisibleItems(20);
     setFixedWidth(width);
+    setMinimumHeight(leastHeight);
     setDescription(description);
     connect(this, &QComboBox::activated, this, [this] { Q_EMIT chosen(); });
     lineEdit()->installEventFilter(this);

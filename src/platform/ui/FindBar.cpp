@@ -62,7 +62,6 @@ FindBar::FindBar(const QStringList& places, QWidget* parent)
     auto* label = new QLabel(Words::tr("T&rova:"), this);
     label->setBuddy(m_text);
     m_text->setAccessibleName(Words::tr("Trova"));
-    m_text->setClearButtonEnabled(true);
     m_text->setMinimumWidth(scaledToFont(*this, 140));
     m_text->setMaximumWidth(scaledToFont(*this, 260));
     m_places->setAccessibleName(Words::tr("Dove cercare"));
@@ -87,6 +86,7 @@ FindBar::FindBar(const QStringList& places, QWidget* parent)
 }
 
 void FindBar::present() {
+    m_text->setClearButtonEnabled(true);
     show();
     m_text->setFocus(Qt::ShortcutFocusReason);
     m_text->selectAll();

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <utility>
 
 // The library's headers are written with the keywords that are off in this project.
 #define signals Q_SIGNALS
@@ -26,8 +27,16 @@ QsciScintilla::EolMode lineEndsOf(const QString& text) {
 
 }  // namespace
 
-SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent), m_edit(new QsciScintilla(this)) {
+SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent) {
+    auto* area = new QHBoxLayout(this);
+    area->setContentsMargins(0, 0, 0, 0);
+}
+
+QsciScintilla& SourceEdit::edit() {
+    if (m_edit) return *m_edit;
+    m_edit = new QsciScintilla(this);
     m_edit->setObjectName("sourceText");
+    m_edit->setAccessibleName(m_spokenName);
     m_edit->setFrameShape(QFrame::NoFrame);
     m_edit->setUtf8(true);
     m_edit->setLexer(new QsciLexerHTML(m_edit));
@@ -36,32 +45,47 @@ SourceEdit::SourceEdit(QWidget* parent) : QWidget(parent), m_edit(new QsciScinti
     m_edit->setTabWidth(4);
     // The pop-up menu is the window's; the keys of its commands are the window's as well.
     m_edit->setContextMenuPolicy(Qt::CustomContextMenu);
-    auto* area = new QHBoxLayout(this);
-    area->setContentsMargins(0, 0, 0, 0);
-    area->addWidget(m_edit);
+    layout()->addWidget(m_edit);
     setFocusProxy(m_edit);
-    setText({});
+    applyFont();
+    applyColours();
+    connect(m_edit, &QsciScintilla::linesChanged, this, [this] {
+        m_edit->setMarginWidth(lineNumbers, QString(QString::number(m_edit->lines()).size() + 1, u'0'));
+    });
+    fill(std::exchange(m_text, {}));
 
     m_edit->viewport()->installEventFilter(this);
     connect(m_edit, &QsciScintilla::selectionChanged, this, &SourceEdit::selectionChanged);
     connect(m_edit, &QsciScintilla::textChanged, this, &SourceEdit::textChanged);
     connect(m_edit, &QsciScintilla::cursorPositionChanged, this, [this] { Q_EMIT selectionChanged(); });
-    connect(m_edit, &QsciScintilla::linesChanged, this, [this] {
-        m_edit->setMarginWidth(lineNumbers, QString(QString::number(m_edit->lines()).size() + 1, u'0'));
-    });
     connect(m_edit, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& place) { Q_EMIT contextMenuRequested(m_edit->mapToGlobal(place)); });
+    return *m_edit;
+}
+
+void SourceEdit::showEvent(QShowEvent* event) {
+    edit();
+    QWidget::showEvent(event);
 }
 
 QString SourceEdit::Text() const {
-    return m_edit->text();
+    return m_edit ? m_edit->text() : m_text;
 }
 
 qsizetype SourceEdit::length() const {
-    return m_edit->length();
+    return m_edit ? m_edit->length() : m_text.toUtf8().size();
 }
 
 void SourceEdit::setText(const QString& text) {
+    if (m_edit) return fill(text);
+    const qsizetype end = text.indexOf(QChar(u'\0'));
+    const QString whole = end < 0 ? text : text.left(end);
+    if (whole == m_text) return;
+    m_text = whole;
+    Q_EMIT textChanged();
+}
+
+void SourceEdit::fill(const QString& text) {
     m_edit->setEolMode(lineEndsOf(text));
     // While lines wrap, a new text has all of its lines laid out at once, and a caret that is moved its own
     // line, which may be the whole text. Afterwards those in sight are, and the others in idle time.
@@ -76,24 +100,25 @@ void SourceEdit::setText(const QString& text) {
 }
 
 void SourceEdit::execute(int command) {
+    QsciScintilla& edit = this->edit();
     switch (command) {
         case Undo:
-            m_edit->undo();
+            edit.undo();
             break;
         case SelectAll:
-            m_edit->selectAll();
+            edit.selectAll();
             break;
         case Redo:
-            m_edit->redo();
+            edit.redo();
             break;
         case Paste:
-            m_edit->paste();
+            edit.paste();
             break;
         case Cut:
-            m_edit->cut();
+            edit.cut();
             break;
         case Copy:
-            m_edit->copy();
+            edit.copy();
             break;
         default:
             break;
@@ -101,39 +126,51 @@ void SourceEdit::execute(int command) {
 }
 
 bool SourceEdit::CanCut() const {
-    return m_edit->hasSelectedText();
+    return m_edit && m_edit->hasSelectedText();
 }
 
 bool SourceEdit::CanCopy() const {
-    return m_edit->hasSelectedText();
+    return m_edit && m_edit->hasSelectedText();
 }
 
 bool SourceEdit::CanPaste() const {
-    return m_edit->SendScintilla(QsciScintilla::SCI_CANPASTE) != 0;
+    return m_edit && m_edit->SendScintilla(QsciScintilla::SCI_CANPASTE) != 0;
 }
 
 bool SourceEdit::CanUndo() const {
-    return m_edit->isUndoAvailable();
+    return m_edit && m_edit->isUndoAvailable();
 }
 
 bool SourceEdit::CanRedo() const {
-    return m_edit->isRedoAvailable();
+    return m_edit && m_edit->isRedoAvailable();
 }
 
 bool SourceEdit::find(const QString& text, bool caseSensitive, bool backwards) {
+    QsciScintilla& edit = this->edit();
     int line = -1;
     int column = -1;
     // Backwards the search starts at the near end of the selection, or it would find the same place again.
-    if (backwards && m_edit->hasSelectedText()) {
+    if (backwards && edit.hasSelectedText()) {
         int endLine = 0;
         int endColumn = 0;
-        m_edit->getSelection(&line, &column, &endLine, &endColumn);
+        edit.getSelection(&line, &column, &endLine, &endColumn);
     }
-    return m_edit->findFirst(text, false, caseSensitive, false, true, !backwards, line, column);
+    return edit.findFirst(text, false, caseSensitive, false, true, !backwards, line, column);
+}
+
+void SourceEdit::setSpokenName(const QString& name) {
+    m_spokenName = name;
+    if (m_edit) m_edit->setAccessibleName(name);
 }
 
 void SourceEdit::setFontName(const QString& family) {
-    QFont font(family, fontSize);
+    m_family = family;
+    applyFont();
+}
+
+void SourceEdit::applyFont() {
+    if (!m_edit || m_family.isEmpty()) return;
+    QFont font(m_family, fontSize);
     font.setStyleHint(QFont::Monospace);
     m_edit->lexer()->setDefaultFont(font);
     m_edit->lexer()->setFont(font);
@@ -141,10 +178,16 @@ void SourceEdit::setFontName(const QString& family) {
 }
 
 void SourceEdit::setColours(const Colours& colours) {
-    m_edit->setMarginsBackgroundColor(colours.margin);
-    m_edit->setMarginsForegroundColor(colours.marginText);
-    m_edit->setSelectionBackgroundColor(colours.selection);
-    m_edit->setSelectionForegroundColor(colours.selectedText);
+    m_colours = colours;
+    applyColours();
+}
+
+void SourceEdit::applyColours() {
+    if (!m_edit || !m_colours) return;
+    m_edit->setMarginsBackgroundColor(m_colours->margin);
+    m_edit->setMarginsForegroundColor(m_colours->marginText);
+    m_edit->setSelectionBackgroundColor(m_colours->selection);
+    m_edit->setSelectionForegroundColor(m_colours->selectedText);
 }
 
 bool SourceEdit::eventFilter(QObject* watched, QEvent* event) {

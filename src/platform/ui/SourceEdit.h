@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QWidget>
 
 class QsciScintilla;
@@ -10,6 +11,9 @@ namespace ui {
 /// numbers, undo, find.
 ///
 /// The text is handed out as it was set; line ends that are typed are those that the text has.
+///
+/// The control that edits is made when it is first shown, or first asked for what only it can do; until then
+/// this keeps the text alone.
 class SourceEdit : public QWidget {
     Q_OBJECT
 
@@ -54,6 +58,9 @@ class SourceEdit : public QWidget {
     void setFontName(const QString& family);
     void setColours(const Colours& colours);
 
+    /// The name that assistive programs tell of the text.
+    void setSpokenName(const QString& name);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   Q_SIGNALS:
@@ -64,8 +71,20 @@ class SourceEdit : public QWidget {
     void contextMenuRequested(const QPoint& globalPosition);
     void pointerEntered();
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
-    QsciScintilla* m_edit;
+    QsciScintilla& edit();
+    void fill(const QString& text);
+    void applyFont();
+    void applyColours();
+
+    QsciScintilla* m_edit = nullptr;
+    QString m_text;  ///< while there is no control
+    QString m_spokenName;
+    QString m_family;
+    std::optional<Colours> m_colours;
 };
 
 }  // namespace ui

@@ -126,6 +126,17 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     if (highContrast() && control == CC_ComboBox) drawRim(*option, *painter);
 }
 
+QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
+    switch (which) {
+        case SP_ToolBarHorizontalExtensionButton:
+            return QIcon::fromTheme("arrow-right-double");
+        case SP_ToolBarVerticalExtensionButton:
+            return QIcon::fromTheme("arrow-down-double");
+        default:
+            return QProxyStyle::standardIcon(which, option, widget);
+    }
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
     const bool pointedTool = element == PE_PanelButtonTool && (option->state & State_AutoRaise) &&

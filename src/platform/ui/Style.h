@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace ui {
@@ -20,6 +21,10 @@ class Style : public QProxyStyle {
                            const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    /// Those of the arrows of bars that are too short, from the program's own theme: each bar asks for one,
+    /// and the toolkit's would have the readers of all image formats loaded.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };

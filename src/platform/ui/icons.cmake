@@ -5,6 +5,7 @@ set(VESTROLA_ICON_NAMES
   application-vnd.ms-access
   archive-remove
   arrow-down-double
+  arrow-right-double
   checkbox
   choice-round
   code-variable
@@ -18,6 +19,8 @@ set(VESTROLA_ICON_NAMES
   document-save-as
   document-send
   edit-clear-all
+  edit-clear-locationbar-ltr
+  edit-clear-locationbar-rtl
   edit-copy
   edit-cut
   edit-delete

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <utility>
 
 #include "modules/accounts/Portachiavi.h"
 #include "platform/text/NumberText.h"
@@ -16,10 +17,14 @@
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
 
-frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
+frmAccount::frmAccount(QWidget* parent) : LateDialog(parent) {
     setObjectName("frmAccount");
     setWindowTitle(" Impostazioni Account");
     RilevaTema(this);
+    CaricaAccount();
+}
+
+void frmAccount::makeControls() {
     CreaControlli();
     ColoraControlli();
     DisponiControlli();
@@ -28,7 +33,7 @@ frmAccount::frmAccount(QWidget* parent) : QDialog(parent) {
     ScegliPredefinito();
     resize(730, 475);
     ui::setUpDialog(*this);
-    CaricaAccount();
+    lstAccount->addItems(std::exchange(vociCaricate, {}));
     cmbSaluto->setCurrentIndex(0);
 }
 

@@ -2,9 +2,9 @@
 
 #include <array>
 #include <optional>
-#include <QDialog>
 
 #include "modules/accounts/AccountFile.h"
+#include "platform/ui/LateDialog.h"
 
 class ElencoAccount;
 class QAction;
@@ -33,7 +33,7 @@ class LinkLabel;
 ///
 /// A list position is taken as an index of the table. The two part after the only account was deleted and
 /// another one was made, since the table never becomes empty.
-class frmAccount : public QDialog {
+class frmAccount : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -44,6 +44,7 @@ class frmAccount : public QDialog {
     void reject() override {}
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
     void showEvent(QShowEvent* mostra) override;
     void hideEvent(QHideEvent* nascosta) override;
@@ -121,5 +122,6 @@ class frmAccount : public QDialog {
 
     oauth::Consent* consenso;
     TabellaAccount account;
+    QStringList vociCaricate;            ///< read with the table, for lstAccount when it is made
     QLineEdit* appenaPremuta = nullptr;  ///< the box that takes the focus by the mouse press under way
 };

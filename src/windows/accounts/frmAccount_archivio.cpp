@@ -28,7 +28,7 @@ QString percorsoAccount() {
 
 void frmAccount::CaricaAccount() {
     ::CaricaAccount(percorsoAccount(), account,
-                    [this](const Account& uno, int) { lstAccount->addItem(VoceAccount(uno)); });
+                    [this](const Account& uno, int) { vociCaricate += VoceAccount(uno); });
 }
 
 bool frmAccount::ValidaAccount() {

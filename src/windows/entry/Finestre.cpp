@@ -37,6 +37,14 @@ Finestra& dialogo(QWidget& sopra, Cose&&... cose) {
     return *finestra;
 }
 
+/// A dialog of which more is needed than that it is there.
+template <class Finestra>
+Finestra& completa(ui::LateDialog& (*senza)()) {
+    ui::LateDialog& finestra = senza();
+    finestra.complete();
+    return static_cast<Finestra&>(finestra);
+}
+
 }  // namespace
 
 frmMain& finestre::Main() {
@@ -48,11 +56,11 @@ frmMain& finestre::Main() {
 }
 
 frmAccount& finestre::Account() {
-    return dialogo<frmAccount>(Main());
+    return completa<frmAccount>(senzaControlli::Account);
 }
 
 frmInvia& finestre::Invia() {
-    return dialogo<frmInvia>(Main(), griglia::RiempiGriglia);
+    return completa<frmInvia>(senzaControlli::Invia);
 }
 
 frmEsiti& finestre::Esiti() {
@@ -60,7 +68,7 @@ frmEsiti& finestre::Esiti() {
 }
 
 frmDestinatario& finestre::Destinatario() {
-    return dialogo<frmDestinatario>(Main());
+    return completa<frmDestinatario>(senzaControlli::Destinatario);
 }
 
 frmInfoSu& finestre::InfoSu() {
@@ -76,19 +84,19 @@ frmEditor& finestre::Editor() {
 }
 
 frmPropBody& finestre::PropBody() {
-    return dialogo<frmPropBody>(Editor(), *Editor().DHTML, *Editor().CODE);
+    return completa<frmPropBody>(senzaControlli::PropBody);
 }
 
 frmScelta& finestre::Scelta() {
-    return dialogo<frmScelta>(Main());
+    return completa<frmScelta>(senzaControlli::Scelta);
 }
 
 frmImpTXT& finestre::ImpTXT() {
-    return dialogo<frmImpTXT>(Main(), IntornoAgliImport().NuovoNodo);
+    return completa<frmImpTXT>(senzaControlli::ImpTXT);
 }
 
 frmImpDB& finestre::ImpDB() {
-    return dialogo<frmImpDB>(Main(), IntornoAgliImport().NuovoNodo);
+    return completa<frmImpDB>(senzaControlli::ImpDB);
 }
 
 frmProva& finestre::Prova() {
@@ -109,6 +117,34 @@ frmSplash& finestre::Splash() {
 
 frmUltimaImportazione& finestre::UltimaImportazione() {
     return dialogo<frmUltimaImportazione>(Main());
+}
+
+ui::LateDialog& finestre::senzaControlli::Account() {
+    return dialogo<frmAccount>(Main());
+}
+
+ui::LateDialog& finestre::senzaControlli::Invia() {
+    return dialogo<frmInvia>(Main(), griglia::RiempiGriglia);
+}
+
+ui::LateDialog& finestre::senzaControlli::PropBody() {
+    return dialogo<frmPropBody>(Editor(), *Editor().DHTML, *Editor().CODE);
+}
+
+ui::LateDialog& finestre::senzaControlli::Destinatario() {
+    return dialogo<frmDestinatario>(Main());
+}
+
+ui::LateDialog& finestre::senzaControlli::Scelta() {
+    return dialogo<frmScelta>(Main());
+}
+
+ui::LateDialog& finestre::senzaControlli::ImpTXT() {
+    return dialogo<frmImpTXT>(Main(), IntornoAgliImport().NuovoNodo);
+}
+
+ui::LateDialog& finestre::senzaControlli::ImpDB() {
+    return dialogo<frmImpDB>(Main(), IntornoAgliImport().NuovoNodo);
 }
 
 void finestre::ScaricaSplash() {

@@ -15,6 +15,9 @@ class frmProva;
 class frmScelta;
 class frmSplash;
 class frmUltimaImportazione;
+namespace ui {
+class LateDialog;
+}
 
 /// The references of the windows: each window exists once, is created when it is first named and is kept for
 /// the whole run, so that a window that is only hidden keeps its content for the next opening.
@@ -41,6 +44,18 @@ namespace finestre {
 ::frmSplash& Splash();
 /// Unloads the splash; from then on the main window is enabled.
 void ScaricaSplash();
+
+/// Dialogs for who needs no more of them than that they are there, hidden: their controls are made when
+/// somebody names them above.
+namespace senzaControlli {
+ui::LateDialog& Account();
+ui::LateDialog& Invia();
+ui::LateDialog& PropBody();
+ui::LateDialog& Destinatario();
+ui::LateDialog& Scelta();
+ui::LateDialog& ImpTXT();
+ui::LateDialog& ImpDB();
+}  // namespace senzaControlli
 
 /// For tests: destroys every window, so that the next mention begins anew.
 void dimentica();

@@ -41,12 +41,6 @@ ui::CommandBars& barreDiMain() {
     return finestre::Main().Commands();
 }
 
-/// A window by its base class.
-template <auto istanza>
-QWidget& comeWidget() {
-    return istanza();
-}
-
 }  // namespace
 
 frmMain::Vicini finestre::IntornoAMain() {
@@ -91,11 +85,11 @@ bLANG::FinestreTradotte finestre::Tradotte() {
             .Editor = {[]() -> ui::CommandBars& { return Editor().Commands(); },
                        []() -> ui::DockPanes& { return Editor().DockWindows(); }},
             .SchedeEditor = []() -> ui::TabStrip& { return *Editor().tb; },
-            .Account = comeWidget<Account>,
-            .Invia = comeWidget<Invia>,
-            .PropBody = comeWidget<PropBody>,
-            .Destinatario = comeWidget<Destinatario>,
-            .Scelta = comeWidget<Scelta>,
-            .ImpDB = comeWidget<ImpDB>,
-            .ImpTXT = comeWidget<ImpTXT>};
+            .Account = senzaControlli::Account,
+            .Invia = senzaControlli::Invia,
+            .PropBody = senzaControlli::PropBody,
+            .Destinatario = senzaControlli::Destinatario,
+            .Scelta = senzaControlli::Scelta,
+            .ImpDB = senzaControlli::ImpDB,
+            .ImpTXT = senzaControlli::ImpTXT};
 }

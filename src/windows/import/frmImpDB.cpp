@@ -17,22 +17,25 @@
 #include "windows/import/RiquadroCartella.h"
 
 frmImpDB::frmImpDB(cartella::NuovoNodo nuovoNodo, QWidget* parent)
-    : QDialog(parent),
-      NuovoNodo(std::move(nuovoNodo)),
-      lblDatabase(ui::named(new QLabel("Percorso Database:", this), "lbl(0)")),
-      txtDatabase(ui::named(new ui::LineEdit(this), "txtDatabase")),
-      cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
-      lblPassword(ui::named(new QLabel("Password Database:", this), "lbl(3)")),
-      txtPassword(ui::named(new ui::LineEdit(this), "txtPassword")),
-      cmdApri(ui::commandButton("Apri", "cmdApri", this)),
-      lblTabelle(ui::named(new QLabel("Tabelle esistenti:", this), "lbl(1)")),
-      cmbTab(ui::named(new QComboBox(this), "cmbTab")),
-      riquadroCampi((RilevaTema(this), new RiquadroCampi(this))),
-      riquadroCartella(new RiquadroCartella("lbl(2)", this)),
-      cmdImportaDB(ui::commandButton("&Importa destinatari", "cmdImportaDB", this)),
-      cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
+    : LateDialog(parent), NuovoNodo(std::move(nuovoNodo)) {
     setObjectName("frmImpDB");
     setWindowTitle(" Importa destinatari da Database Access");
+    RilevaTema(this);
+}
+
+void frmImpDB::makeControls() {
+    lblDatabase = ui::named(new QLabel("Percorso Database:", this), "lbl(0)");
+    txtDatabase = ui::named(new ui::LineEdit(this), "txtDatabase");
+    cmdSfoglia = ui::commandButton("Sfoglia", "cmdSfoglia", this);
+    lblPassword = ui::named(new QLabel("Password Database:", this), "lbl(3)");
+    txtPassword = ui::named(new ui::LineEdit(this), "txtPassword");
+    cmdApri = ui::commandButton("Apri", "cmdApri", this);
+    lblTabelle = ui::named(new QLabel("Tabelle esistenti:", this), "lbl(1)");
+    cmbTab = ui::named(new QComboBox(this), "cmbTab");
+    riquadroCampi = new RiquadroCampi(this);
+    riquadroCartella = new RiquadroCartella("lbl(2)", this);
+    cmdImportaDB = ui::commandButton("&Importa destinatari", "cmdImportaDB", this);
+    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
     DisponiImportazione(
         *this,
         {{lblDatabase, txtDatabase, cmdSfoglia}, {lblPassword, txtPassword, cmdApri}, {lblTabelle, cmbTab}},

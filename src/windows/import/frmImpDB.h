@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-
+#include "platform/ui/LateDialog.h"
 #include "windows/import/cartella.h"
 
 class QComboBox;
@@ -17,7 +16,7 @@ class RiquadroCartella;
 ///
 /// cmdApri lists the tables and chooses the first one; only that one can be imported, since choosing another
 /// table turns the import button off.
-class frmImpDB : public QDialog {
+class frmImpDB : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -26,6 +25,7 @@ class frmImpDB : public QDialog {
     void reject() override {}
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
 
   private:

@@ -29,19 +29,22 @@
 #include "windows/import/RiquadroCartella.h"
 
 frmImpTXT::frmImpTXT(cartella::NuovoNodo nuovoNodo, QWidget* parent)
-    : QDialog(parent),
-      NuovoNodo(std::move(nuovoNodo)),
-      lblPercorso(ui::named(new QLabel("Percorso file di testo:", this), "lbl(0)")),
-      txtPath(ui::named(new ui::LineEdit(this), "txtPath")),
-      cmdSfoglia(ui::commandButton("Sfoglia", "cmdSfoglia", this)),
-      lblSeparatore(ui::named(new QLabel("Separatore campi:", this), "lbl(1)")),
-      txtSep(ui::named(new ui::SeparatorEdit(this), "txtSep")),
-      riquadroCampi((RilevaTema(this), new RiquadroCampi(this))),
-      riquadroCartella(new RiquadroCartella("lbl(2)", this)),
-      cmdImportaTXT(ui::commandButton("&Importa destinatari", "cmdImportaTXT", this)),
-      cmdChiudi(ui::commandButton("&Chiudi", "cmdChiudi", this)) {
+    : LateDialog(parent), NuovoNodo(std::move(nuovoNodo)) {
     setObjectName("frmImpTXT");
     setWindowTitle(" Importa destinatari da file di testo");
+    RilevaTema(this);
+}
+
+void frmImpTXT::makeControls() {
+    lblPercorso = ui::named(new QLabel("Percorso file di testo:", this), "lbl(0)");
+    txtPath = ui::named(new ui::LineEdit(this), "txtPath");
+    cmdSfoglia = ui::commandButton("Sfoglia", "cmdSfoglia", this);
+    lblSeparatore = ui::named(new QLabel("Separatore campi:", this), "lbl(1)");
+    txtSep = ui::named(new ui::SeparatorEdit(this), "txtSep");
+    riquadroCampi = new RiquadroCampi(this);
+    riquadroCartella = new RiquadroCartella("lbl(2)", this);
+    cmdImportaTXT = ui::commandButton("&Importa destinatari", "cmdImportaTXT", this);
+    cmdChiudi = ui::commandButton("&Chiudi", "cmdChiudi", this);
     DisponiImportazione(*this, {{lblPercorso, txtPath, cmdSfoglia}, {lblSeparatore, txtSep}}, riquadroCampi,
                         *riquadroCartella, {cmdImportaTXT, cmdChiudi});
     new ui::FileDrop(*this, [this](const QString& percorso) { txtPath->setText(percorso); });

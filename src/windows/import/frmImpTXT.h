@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-
+#include "platform/ui/LateDialog.h"
 #include "windows/import/cartella.h"
 
 class QLabel;
@@ -14,7 +13,7 @@ struct RigaTesto;
 /// The window of the text import: one recipient for each line of a delimited text file that holds a valid
 /// address. It stays loaded and keeps its fields between imports; it is left by cmdChiudi, or by an import
 /// that went through.
-class frmImpTXT : public QDialog {
+class frmImpTXT : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -23,6 +22,7 @@ class frmImpTXT : public QDialog {
     void reject() override {}
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
 
   private:

@@ -10,13 +10,16 @@
 #include "windows/import/disposizione.h"
 #include "windows/import/RiquadroCartella.h"
 
-frmScelta::frmScelta(QWidget* parent)
-    : QDialog(parent),
-      riquadro((RilevaTema(this), new RiquadroCartella("lbl", this))),
-      cmdOK(ui::commandButton("&OK", "cmdOK", this)),
-      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
+frmScelta::frmScelta(QWidget* parent) : LateDialog(parent) {
     setObjectName("frmScelta");
     setWindowTitle(" Nuovi destinatari");
+    RilevaTema(this);
+}
+
+void frmScelta::makeControls() {
+    riquadro = new RiquadroCartella("lbl", this);
+    cmdOK = ui::commandButton("&OK", "cmdOK", this);
+    cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
     DisponiImportazione(*this, {}, nullptr, *riquadro, {cmdOK, cmdAnnulla});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, [this] { evento([this] { cmdOK_Click(); }); });

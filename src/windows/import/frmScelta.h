@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDialog>
-
+#include "platform/ui/LateDialog.h"
 #include "windows/import/cartella.h"
 
 class QPushButton;
@@ -9,7 +8,7 @@ class RiquadroCartella;
 
 /// The question of the imports that have no window of their own: into which group do the new recipients go?
 /// The window keeps its last choice and name. It is left by its two buttons only.
-class frmScelta : public QDialog {
+class frmScelta : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -24,6 +23,7 @@ class frmScelta : public QDialog {
     void reject() override {}
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
 
   private:

@@ -9,6 +9,7 @@
 #include "modules/import/campi.h"
 #include "modules/lang/bVAR_elenco.h"
 #include "platform/ui/Controls.h"
+#include "platform/ui/LateDialog.h"
 #include "platform/ui/PropertyList.h"
 #include "windows/lang/bLANG_chiavi_barre.h"
 #include "windows/lang/bLANG_finestre.h"
@@ -17,7 +18,7 @@ namespace {
 
 using bLANG::Chiavi;
 using bLANG::FinestreTradotte;
-using Istanza = std::function<QWidget&()>;
+using Istanza = std::function<ui::LateDialog&()>;
 
 /// A window, how it is reached, and its controls that have a caption.
 struct Finestra {
@@ -76,6 +77,15 @@ void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& te
         fallisci(ErrorCode::ItemNotFound);
 }
 
+/// What gives a control of a window its text: the window is made at once, the text waits for the control.
+template <class Opera>
+auto assegnazione(const Istanza& istanza, const Opera& opera) {
+    return [istanza, opera](const QString& testo) {
+        ui::LateDialog& finestra = istanza();
+        finestra.whenComplete([&finestra, opera, testo] { opera(finestra, testo); });
+    };
+}
+
 void aggiungiVariabili(Chiavi& chiavi) {
     for (const bVAR::Testo& variabile : bVAR::elenco)
         chiavi[QStringLiteral("bVAR.%1").arg(variabile.nome)] = [variabile](const QString& testo) {
@@ -85,8 +95,9 @@ void aggiungiVariabili(Chiavi& chiavi) {
 
 void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (const char* nome : finestra.didascalie)
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] =
-            [istanza, nome](const QString& testo) { impostaDidascalia(istanza(), nome, testo); };
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = assegnazione(
+            istanza,
+            [nome](ui::LateDialog& suo, const QString& testo) { impostaDidascalia(suo, nome, testo); });
     if (finestra.conTitolo)
         chiavi[QStringLiteral("%1.Caption").arg(finestra.nome)] = [istanza](const QString& testo) {
             istanza().setWindowTitle(testo);
@@ -97,20 +108,22 @@ void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& i
 void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (int i = 0; i < campi::quanti; ++i) {
         const QString nome = QStringLiteral("lblcmp(%1)").arg(i);
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] =
-            [istanza, nome](const QString& testo) { impostaDidascalia(istanza(), nome, testo); };
+        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = assegnazione(
+            istanza,
+            [nome](ui::LateDialog& suo, const QString& testo) { impostaDidascalia(suo, nome, testo); });
     }
-    chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] = [istanza](const QString& testo) {
-        istanza().findChild<QLineEdit*>("txtCartella")->setText(testo);
-    };
+    chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] =
+        assegnazione(istanza, [](ui::LateDialog& suo, const QString& testo) {
+            suo.findChild<QLineEdit*>("txtCartella")->setText(testo);
+        });
 }
 
 void aggiungiVoci(Chiavi& chiavi, const FinestreTradotte& finestre) {
     const auto aggiungi = [&chiavi](const char* finestra, const char* voce, const Istanza& istanza) {
         chiavi[QStringLiteral("%1.prp.Item(\"%2\").Caption").arg(finestra, voce)] =
-            [voce, istanza](const QString& testo) {
-                istanza().findChild<ui::PropertyList*>("prp")->Item(voce)->setCaption(testo);
-            };
+            assegnazione(istanza, [voce](ui::LateDialog& suo, const QString& testo) {
+                suo.findChild<ui::PropertyList*>("prp")->Item(voce)->setCaption(testo);
+            });
     };
     for (const char* voce : {"Datidestinatario", "altro"})
         aggiungi("frmDestinatario", voce, finestre.Destinatario);

@@ -2,10 +2,10 @@
 
 #include <functional>
 
-class QWidget;
 namespace ui {
 class CommandBars;
 class DockPanes;
+class LateDialog;
 class TabStrip;
 }  // namespace ui
 
@@ -17,18 +17,19 @@ struct FinestraConBarre {
     std::function<ui::DockPanes&()> DockWindows;
 };
 
-/// The windows that have texts in the language file. Each is made when it is first named.
+/// The windows that have texts in the language file. Each is made when it is first named; a dialog without
+/// its controls, which get their texts when they are made.
 struct FinestreTradotte {
     FinestraConBarre Main;
     FinestraConBarre Editor;
     std::function<ui::TabStrip&()> SchedeEditor;
-    std::function<QWidget&()> Account;
-    std::function<QWidget&()> Invia;
-    std::function<QWidget&()> PropBody;
-    std::function<QWidget&()> Destinatario;
-    std::function<QWidget&()> Scelta;
-    std::function<QWidget&()> ImpDB;
-    std::function<QWidget&()> ImpTXT;
+    std::function<ui::LateDialog&()> Account;
+    std::function<ui::LateDialog&()> Invia;
+    std::function<ui::LateDialog&()> PropBody;
+    std::function<ui::LateDialog&()> Destinatario;
+    std::function<ui::LateDialog&()> Scelta;
+    std::function<ui::LateDialog&()> ImpDB;
+    std::function<ui::LateDialog&()> ImpTXT;
 };
 
 }  // namespace bLANG

@@ -42,7 +42,7 @@ frmEditor::frmEditor(Vicini intorno, QWidget* parent)
     setWindowModality(Qt::ApplicationModal);
     ui::withoutCloseButton(*this);
     DHTML->setAccessibleName(Words::tr("Messaggio"));
-    CODE->focusProxy()->setAccessibleName(Words::tr("Origine del messaggio"));
+    CODE->setSpokenName(Words::tr("Origine del messaggio"));
     WEB->setAccessibleName(Words::tr("Anteprima del messaggio"));
     tb->addView(DHTML, "Modifica", "document-edit");
     tb->addView(CODE, "Origine", "text-html");

@@ -49,16 +49,17 @@ constexpr Attributo sfondo{"Immaginedisfondo", "background"};
 }  // namespace
 
 frmPropBody::frmPropBody(HtmlView& vista, ui::SourceEdit& origine, QWidget* parent)
-    : QDialog(parent),
-      lbl(ui::named(new QLabel("Proprietà messaggio", this), "lbl")),
-      prp(ui::named(new ui::PropertyList(this), "prp")),
-      cdmSalva(ui::commandButton("&Salva", "cdmSalva", this)),
-      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)),
-      DHTML(vista),
-      CODE(origine) {
+    : LateDialog(parent), DHTML(vista), CODE(origine) {
     RilevaTema(this);
     setObjectName("frmPropBody");
     setWindowTitle("Proprietà messaggio");
+}
+
+void frmPropBody::makeControls() {
+    lbl = ui::named(new QLabel("Proprietà messaggio", this), "lbl");
+    prp = ui::named(new ui::PropertyList(this), "prp");
+    cdmSalva = ui::commandButton("&Salva", "cdmSalva", this);
+    cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
     prp->focusProxy()->setAccessibleName(Words::tr("Proprietà del messaggio"));
     lbl->setBuddy(prp);
     prp->addGroup("Margini pagina", "Margini pagina");

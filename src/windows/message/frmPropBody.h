@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QDialog>
-
 #include "platform/Status.h"
+#include "platform/ui/LateDialog.h"
 
 class QLabel;
 class HtmlView;
@@ -14,7 +13,7 @@ class SourceEdit;
 
 /// Margins, colours and background image of the message page, all of them attributes of the body element.
 /// Saving writes every one, changed or not, and never marks the message as changed.
-class frmPropBody : public QDialog {
+class frmPropBody : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -33,6 +32,7 @@ class frmPropBody : public QDialog {
     QPushButton* cmdAnnulla;
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
     void showEvent(QShowEvent* mostra) override;
 

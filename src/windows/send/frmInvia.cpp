@@ -27,10 +27,13 @@
 #include "windows/core/Evento.h"
 
 frmInvia::frmInvia(std::function<void()> riempiGriglia, QWidget* parent)
-    : QDialog(parent), RiempiGriglia(std::move(riempiGriglia)) {
+    : LateDialog(parent), RiempiGriglia(std::move(riempiGriglia)) {
     setObjectName("frmInvia");
     setWindowTitle(" Invia messaggi");
     RilevaTema(this);
+}
+
+void frmInvia::makeControls() {
     CreaControlli();
     DisponiControlli();
     CollegaEtichette();

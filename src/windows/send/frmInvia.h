@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <QDialog>
 
 #include "modules/accounts/AccountFile.h"
 #include "modules/core/Fallimento.h"
@@ -12,6 +11,7 @@
 #include "modules/send/Personalizza.h"
 #include "platform/html/HtmlDocument.h"
 #include "platform/mail/RunLock.h"
+#include "platform/ui/LateDialog.h"
 
 /// A message file as it was when it was read, and what is known of it.
 struct FonteMss {
@@ -41,7 +41,7 @@ class ProgressCounter;
 /// The column "sel" of the recipients is the queue: a delivered recipient leaves it, a failed one stays and
 /// is stepped over by counting. The counters of a run are the values of the three bars; the run is over when
 /// the to-do bar reaches zero or after a stop. docs/architecture.md shows the states of a run.
-class frmInvia : public QDialog {
+class frmInvia : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -61,6 +61,7 @@ class frmInvia : public QDialog {
     void reject() override {}
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
 
   private:

@@ -18,16 +18,20 @@
 #include "windows/store/frmDestinatario_campi.h"
 #include "windows/store/griglia.h"
 
-frmDestinatario::frmDestinatario(QWidget* parent)
-    : QDialog(parent),
-      txtIDuser(new QLineEdit(this)),
-      txtIDgroup(new QLineEdit(this)),
-      lbl(new QLabel(this)),
-      prp(new ui::PropertyList(this)),
-      cdmSalva(ui::commandButton("&Salva", "cdmSalva", this)),
-      cmdAnnulla(ui::commandButton("&Annulla", "cmdAnnulla", this)) {
+frmDestinatario::frmDestinatario(QWidget* parent) : LateDialog(parent) {
     RilevaTema(this);
     setObjectName("frmDestinatario");
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        didascalie += griglia::Intestazione(campo);
+}
+
+void frmDestinatario::makeControls() {
+    txtIDuser = new QLineEdit(this);
+    txtIDgroup = new QLineEdit(this);
+    lbl = new QLabel(this);
+    prp = new ui::PropertyList(this);
+    cdmSalva = ui::commandButton("&Salva", "cdmSalva", this);
+    cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
     txtIDuser->setObjectName("txtIDuser");
     txtIDgroup->setObjectName("txtIDgroup");
     lbl->setObjectName("lbl");
@@ -46,11 +50,11 @@ frmDestinatario::frmDestinatario(QWidget* parent)
 void frmDestinatario::CreaVoci() {
     prp->addGroup("Datidestinatario", "Dati destinatario");
     prp->addBoolean("Spedire", "Send", Words::tr("Il destinatario è compreso nel prossimo invio"));
+    auto didascalia = didascalie.cbegin();
     for (const schema::Campo campo : schema::ordineIstruzioni) {
         if (campo == schema::campo1) prp->addGroup("Altro", "Altro");
         const auto& [chiave, descrizione] = vociDestinatario[campo];
-        prp->addText(chiave, griglia::Intestazione(campo),
-                     Words::tr(descrizione).arg(schema::testi[campo].massimo));
+        prp->addText(chiave, *didascalia++, Words::tr(descrizione).arg(schema::testi[campo].massimo));
     }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <QDialog>
+#include <QStringList>
+
+#include "platform/ui/LateDialog.h"
 
 class QLabel;
 class QLineEdit;
@@ -12,7 +14,7 @@ class PropertyList;
 
 /// The form in which one recipient is added to the current group or the recipient of the grid's current row
 /// is edited. Whoever shows it sets the captions, the two numbers and `modo` beforehand.
-class frmDestinatario : public QDialog {
+class frmDestinatario : public ui::LateDialog {
     Q_OBJECT
 
   public:
@@ -37,11 +39,15 @@ class frmDestinatario : public QDialog {
     QPushButton* cmdAnnulla;
 
   protected:
+    void makeControls() override;
     void closeEvent(QCloseEvent* chiusura) override;
     void showEvent(QShowEvent* mostra) override;
 
   private:
     void CreaVoci();
+
+    QStringList
+        didascalie;  ///< of the items, in the order of the form, as they stood when the window was made
 
     // frmDestinatario_salva.cpp
     bool ValidaCampi();

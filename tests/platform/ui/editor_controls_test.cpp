@@ -138,11 +138,33 @@ class TestEditorControls : public QObject {
         edit.setText(text);
         QCOMPARE(edit.Text(), text);
         QVERIFY(!edit.CanUndo());
+        edit.show();
+        QCOMPARE(edit.Text(), text);
+        QVERIFY(!edit.CanUndo());
+        edit.setText(text + "!");
+        QCOMPARE(edit.Text(), text + "!");
+    }
+
+    void theSourceTellsOfAChangedTextBeforeItIsShown() {
+        SourceEdit edit;
+        QSignalSpy changed(&edit, &SourceEdit::textChanged);
+        edit.setText("uno");
+        QCOMPARE(changed.size(), 1);
+        edit.setText("uno");
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(edit.length(), 3);
+        edit.setText(QString("due") + QChar(u'\0') + "tre");
+        QCOMPARE(edit.Text(), "due");
+        edit.setSpokenName("Origine");
+        edit.show();
+        QCOMPARE(edit.focusProxy()->accessibleName(), "Origine");
+        QCOMPARE(changed.size(), 2);
     }
 
     void theSourceTypesTheLineEndsOfItsText() {
         SourceEdit edit;
         edit.setText("a\r\nb");
+        edit.show();
         QTest::keyClick(edit.focusProxy(), Qt::Key_Return);
         QCOMPARE(edit.Text(), "\r\na\r\nb");
         edit.setText("a\nb");

@@ -33,6 +33,7 @@ AccountStage::~AccountStage() {
 
 void AccountStage::reopen() {
     window = std::make_unique<frmAccount>();
+    window->complete();
     window->show();
     if (!QTest::qWaitForWindowActive(window.get())) qFatal("the account window does not show");
 }

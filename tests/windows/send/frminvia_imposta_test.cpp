@@ -151,6 +151,7 @@ class TestFrmInviaImposta : public QObject {
         SendStage fresh({"a@x.it"});
         writeAccountLines({"2|Due|due@x.it|h|25|0|||EHLO|0|1"});
         fresh.window = std::make_unique<frmInvia>([] {});
+        fresh.window->complete();
         fresh.open();
         QCOMPARE(fresh.control<QComboBox>("cmbAccount")->count(), 1);
         QCOMPARE(fresh.control<QComboBox>("cmbAccount")->currentIndex(), -1);
