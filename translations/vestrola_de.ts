@@ -794,7 +794,7 @@ Sie wurde unter dem Namen pathDBase.utf8.guasto beiseitegelegt.</translation>
     </message>
     <message>
         <source>Il server accetta messaggi fino a %1: tenere piccoli gli allegati.</source>
-        <translation>Der Server nimmt Nachrichten bis %1 an: Anhänge klein halten.</translation>
+        <translation>Der Server nimmt Nachrichten bis %1 an: Anlagen klein halten.</translation>
     </message>
     <message>
         <source>Il server accetta messaggi fino a %1.</source>
@@ -822,7 +822,7 @@ Sie wurde unter dem Namen pathDBase.utf8.guasto beiseitegelegt.</translation>
     </message>
     <message>
         <source>L&apos;allegato %1 non c&apos;è: il messaggio parte senza.</source>
-        <translation>Der Anhang %1 fehlt: Die Nachricht geht ohne ihn ab.</translation>
+        <translation>Der Anlage %1 fehlt: Die Nachricht geht ohne sie ab.</translation>
     </message>
     <message>
         <source>L&apos;oggetto è vuoto.</source>
@@ -1193,7 +1193,7 @@ Die Datei Account.imp gehört einem anderen Benutzer, der die Passwörter lesen 
     </message>
     <message>
         <source>Allegato</source>
-        <translation>Anhang</translation>
+        <translation>Anlage</translation>
     </message>
     <message>
         <source>Cartella nascosta o fuori da quella personale</source>
@@ -1349,7 +1349,7 @@ Die Datei Account.imp gehört einem anderen Benutzer, der die Passwörter lesen 
     </message>
     <message>
         <source>Nessun allegato</source>
-        <translation>Keine Anhänge</translation>
+        <translation>Keine Anlagen</translation>
     </message>
     <message>
         <source>Variabile oggetto non impostata</source>
@@ -1415,11 +1415,11 @@ Die Datei Account.imp gehört einem anderen Benutzer, der die Passwörter lesen 
     </message>
     <message>
         <source>Percorsi degli allegati: </source>
-        <translation>Pfade der Anhänge: </translation>
+        <translation>Pfade der Anlagen: </translation>
     </message>
     <message>
         <source>Questi allegati non saranno trovati: rinomina i file.</source>
-        <translation>Diese Anhänge werden nicht gefunden: Benennen Sie die Dateien um.</translation>
+        <translation>Diese Anlagen werden nicht gefunden: Benennen Sie die Dateien um.</translation>
     </message>
     <message>
         <source>Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.</source>
@@ -2285,11 +2285,11 @@ Die Empfänger bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>Nessun allegato.</source>
-        <translation>Keine Anhänge.</translation>
+        <translation>Keine Anlagen.</translation>
     </message>
     <message>
         <source>Allegati: %1.</source>
-        <translation>Anhänge: %1.</translation>
+        <translation>Anlagen: %1.</translation>
     </message>
     <message>
         <source>Dimensione non nota: manca l&apos;account mittente.</source>
@@ -2564,6 +2564,358 @@ Importate %3, rifiutate %4.</source>
     <message>
         <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
         <translation>Der Test wurde vielleicht zugestellt: Der Server hat die ganze Nachricht erhalten und nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>Non c&apos;è nessuna rubrica.</source>
+        <translation>Es gibt kein Adressbuch.</translation>
+    </message>
+    <message>
+        <source>Lettura interrotta.</source>
+        <translation>Lesen abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Il lettore di Outlook non c&apos;è.</source>
+        <translation>Das Leseprogramm für Outlook fehlt.</translation>
+    </message>
+    <message>
+        <source>Outlook non ha risposto in tempo.</source>
+        <translation>Outlook hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>I contatti di Outlook non sono leggibili.</source>
+        <translation>Die Outlook-Kontakte sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>La rubrica non è leggibile.</source>
+        <translation>Das Adressbuch ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere la rubrica.</source>
+        <translation>Das Adressbuch lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>La rubrica cambia di continuo.</source>
+        <translation>Das Adressbuch ändert sich ständig.</translation>
+    </message>
+    <message>
+        <source>La rubrica non esiste.</source>
+        <translation>Das Adressbuch gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Il corpo del messaggio non si può aprire: </source>
+        <translation>Der Nachrichtentext lässt sich nicht öffnen: </translation>
+    </message>
+    <message>
+        <source>è troppo grande (più di %1 milioni di caratteri).</source>
+        <translation>Er ist zu groß (mehr als %1 Millionen Zeichen).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi (più di %1).</source>
+        <translation>Er hat zu viele Elemente (mehr als %1).</translation>
+    </message>
+    <message>
+        <source>un elemento ha troppi attributi (più di %1).</source>
+        <translation>Ein Element hat zu viele Attribute (mehr als %1).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi uno dentro l&apos;altro (più di %1).</source>
+        <translation>Er hat zu viele ineinander geschachtelte Elemente (mehr als %1).</translation>
+    </message>
+    <message>
+        <source>il suo codice HTML è troppo intricato.</source>
+        <translation>Sein HTML-Code ist zu verwickelt.</translation>
+    </message>
+    <message>
+        <source>Impossibile mostrare il messaggio. Il testo è conservato.</source>
+        <translation>Die Nachricht lässt sich nicht zeigen. Der Text bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>Impossibile caricare la vista dei messaggi: %1</source>
+        <translation>Die Nachrichtenansicht lässt sich nicht laden: %1</translation>
+    </message>
+    <message>
+        <source>Impossibile stampare il messaggio.</source>
+        <translation>Die Nachricht lässt sich nicht drucken.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>La stampante non ha preso il messaggio. %1</source>
+        <translation>Der Drucker hat die Nachricht nicht angenommen. %1</translation>
+    </message>
+    <message>
+        <source>La vista del messaggio non risponde.</source>
+        <translation>Die Nachrichtenansicht antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Il browser non ha dato alcuna risposta in tempo.</source>
+        <translation>Der Browser hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato il programma presso il fornitore.</source>
+        <translation>Für %1 fehlt die client_id: in die Datei %2 schreiben, nachdem das Programm beim Anbieter registriert ist.</translation>
+    </message>
+    <message>
+        <source>Il consenso non è stato dato.</source>
+        <translation>Die Zustimmung wurde nicht erteilt.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta: %1</source>
+        <translation>Der Anbieter hat die Anfrage abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>Il fornitore non accetta la risposta del browser: riprovare.</source>
+        <translation>Der Anbieter nimmt die Antwort des Browsers nicht an: noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Manca il file %1.</source>
+        <translation>Die Datei %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1: %2.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>non è un elenco</source>
+        <translation>ist keine Liste</translation>
+    </message>
+    <message>
+        <source>l&apos;elenco è vuoto</source>
+        <translation>die Liste ist leer</translation>
+    </message>
+    <message>
+        <source>una voce è vuota</source>
+        <translation>ein Eintrag ist leer</translation>
+    </message>
+    <message>
+        <source>non è un indirizzo</source>
+        <translation>ist keine Adresse</translation>
+    </message>
+    <message>
+        <source>deve cominciare con https://</source>
+        <translation>muss mit https:// beginnen</translation>
+    </message>
+    <message>
+        <source>non può contenere né un utente né un frammento</source>
+        <translation>darf weder Benutzer noch Fragment enthalten</translation>
+    </message>
+    <message>
+        <source>non è un oggetto</source>
+        <translation>ist kein Objekt</translation>
+    </message>
+    <message>
+        <source> è del programma</source>
+        <translation> gehört dem Programm</translation>
+    </message>
+    <message>
+        <source>non è un testo</source>
+        <translation>ist kein Text</translation>
+    </message>
+    <message>
+        <source>il testo è troppo lungo o contiene caratteri non ammessi</source>
+        <translation>der Text ist zu lang oder enthält unzulässige Zeichen</translation>
+    </message>
+    <message>
+        <source>una voce contiene caratteri non ammessi</source>
+        <translation>ein Eintrag enthält unzulässige Zeichen</translation>
+    </message>
+    <message>
+        <source>una voce non è il nome di un server</source>
+        <translation>ein Eintrag ist kein Servername</translation>
+    </message>
+    <message>
+        <source>sono ammessi solo 127.0.0.1, localhost e [::1]</source>
+        <translation>nur 127.0.0.1, localhost und [::1] sind zulässig</translation>
+    </message>
+    <message>
+        <source>Il file %1 non è valido: %2.</source>
+        <translation>Die Datei %1 ist ungültig: %2.</translation>
+    </message>
+    <message>
+        <source>non contiene un oggetto</source>
+        <translation>sie enthält kein Objekt</translation>
+    </message>
+    <message>
+        <source>non è JSON dal byte %1</source>
+        <translation>ab Byte %1 kein JSON</translation>
+    </message>
+    <message>
+        <source>il nome di un fornitore può contenere solo a-z, 0-9 e &quot;-&quot;</source>
+        <translation>der Name eines Anbieters darf nur a-z, 0-9 und „-“ enthalten</translation>
+    </message>
+    <message>
+        <source> non è un oggetto</source>
+        <translation> ist kein Objekt</translation>
+    </message>
+    <message>
+        <source> è scritto due volte</source>
+        <translation> steht zweimal da</translation>
+    </message>
+    <message>
+        <source>Impossibile attendere la risposta del browser: %1</source>
+        <translation>Auf die Antwort des Browsers kann nicht gewartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Richiesta non valida.</source>
+        <translation>Ungültige Anfrage.</translation>
+    </message>
+    <message>
+        <source>Pagina inesistente.</source>
+        <translation>Diese Seite gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Questa risposta non appartiene all&apos;accesso in corso.</source>
+        <translation>Diese Antwort gehört nicht zur laufenden Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.</source>
+        <translation>Antwort erhalten: Sie können diese Seite schließen und zu Vestrola zurückkehren.</translation>
+    </message>
+    <message>
+        <source>L&apos;accesso non è stato concesso: si può chiudere questa pagina.</source>
+        <translation>Die Anmeldung wurde nicht gewährt: Sie können diese Seite schließen.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore non è valida.</source>
+        <translation>Die Antwort des Anbieters ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto o è stato ritirato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Die Zustimmung ist abgelaufen oder zurückgezogen: im Kontenfenster noch einmal mit dem Browser anmelden.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non riconosce client_id o client_secret: %1</source>
+        <translation>Der Anbieter erkennt client_id oder client_secret nicht an: %1</translation>
+    </message>
+    <message>
+        <source>Il consenso dato non comprende l&apos;invio della posta.</source>
+        <translation>Die erteilte Zustimmung umfasst das Senden von E-Mail nicht.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1</source>
+        <translation>Die Datei %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Manca il consenso del fornitore: nella finestra degli account accedere con il browser.</source>
+        <translation>Die Zustimmung des Anbieters fehlt: im Kontenfenster mit dem Browser anmelden.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è un collegamento.</source>
+        <translation>Die Datei %1 ist eine Verknüpfung.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è danneggiato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Die Datei %1 ist beschädigt: im Kontenfenster noch einmal mit dem Browser anmelden.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file %1.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non è raggiungibile: %1</source>
+        <translation>Der Anbieter ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>tempo scaduto.</source>
+        <translation>Zeit abgelaufen.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore è troppo grande.</source>
+        <translation>Die Antwort des Anbieters ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Il fornitore rimanda a un altro indirizzo, che non viene seguito.</source>
+        <translation>Der Anbieter verweist auf eine andere Adresse, der nicht gefolgt wird.</translation>
+    </message>
+    <message>
+        <source>errore %1 del suo server.</source>
+        <translation>Fehler %1 seines Servers.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta.</source>
+        <translation>Der Anbieter hat die Anfrage abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Die Zustimmung ist abgelaufen, und der Anbieter lässt sie nicht erneuern: im Kontenfenster noch einmal mit dem Browser anmelden.</translation>
+    </message>
+    <message>
+        <source>Il server %1 non appartiene a un fornitore del file %2: nessun token gli viene inviato.</source>
+        <translation>Der Server %1 gehört zu keinem Anbieter der Datei %2: Ihm wird kein Token gesendet.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi del desktop non c&apos;è.</source>
+        <translation>Es gibt keinen Schlüsselbund des Desktops.</translation>
+    </message>
+    <message>
+        <source>Attesa del portachiavi interrotta.</source>
+        <translation>Warten auf den Schlüsselbund abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non ha questa password.</source>
+        <translation>Der Schlüsselbund hat dieses Passwort nicht.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non risponde: </source>
+        <translation>Der Schlüsselbund antwortet nicht: </translation>
+    </message>
+    <message>
+        <source>Il portachiavi non conserva la password così com&apos;è.</source>
+        <translation>Der Schlüsselbund bewahrt das Passwort nicht unverändert auf.</translation>
+    </message>
+    <message>
+        <source>Non è un file</source>
+        <translation>Keine Datei</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento</source>
+        <translation>Der Pfad ist eine Verknüpfung</translation>
+    </message>
+    <message>
+        <source>Il file appartiene a un altro utente</source>
+        <translation>Die Datei gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>Il file può essere letto da altri utenti</source>
+        <translation>Andere Benutzer können die Datei lesen</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento di un altro utente</source>
+        <translation>Der Pfad ist eine Verknüpfung eines anderen Benutzers</translation>
+    </message>
+    <message>
+        <source>Il file è in uso</source>
+        <translation>Die Datei wird verwendet</translation>
+    </message>
+    <message>
+        <source>%1 è un collegamento di un altro utente</source>
+        <translation>%1 ist eine Verknüpfung eines anderen Benutzers</translation>
+    </message>
+    <message>
+        <source>altri utenti possono %1 %2: deve essere un file dell&apos;utente con i permessi %3</source>
+        <translation>andere Benutzer können %2 %1: Es muss eine Datei des Benutzers mit den Rechten %3 sein</translation>
+    </message>
+    <message>
+        <source>leggere o scrivere</source>
+        <translation>lesen oder schreiben</translation>
+    </message>
+    <message>
+        <source>scrivere</source>
+        <translation>schreiben</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file </source>
+        <translation>Nicht schreibbar ist die Datei </translation>
+    </message>
+    <message>
+        <source>Impossibile preparare la cartella </source>
+        <translation>Nicht vorzubereiten ist der Ordner </translation>
+    </message>
+    <message>
+        <source>Impossibile aprire </source>
+        <translation>Nicht zu öffnen ist </translation>
     </message>
 </context>
 </TS>

@@ -2565,5 +2565,357 @@ Imported %3, refused %4.</translation>
         <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
         <translation>The test may have been delivered: the server received the whole message and did not answer.</translation>
     </message>
+    <message>
+        <source>Non c&apos;è nessuna rubrica.</source>
+        <translation>There is no address book.</translation>
+    </message>
+    <message>
+        <source>Lettura interrotta.</source>
+        <translation>Reading was stopped.</translation>
+    </message>
+    <message>
+        <source>Il lettore di Outlook non c&apos;è.</source>
+        <translation>The reader for Outlook is missing.</translation>
+    </message>
+    <message>
+        <source>Outlook non ha risposto in tempo.</source>
+        <translation>Outlook did not reply in time.</translation>
+    </message>
+    <message>
+        <source>I contatti di Outlook non sono leggibili.</source>
+        <translation>The Outlook contacts cannot be read.</translation>
+    </message>
+    <message>
+        <source>La rubrica non è leggibile.</source>
+        <translation>The address book is not readable.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere la rubrica.</source>
+        <translation>The address book cannot be read.</translation>
+    </message>
+    <message>
+        <source>La rubrica cambia di continuo.</source>
+        <translation>The address book keeps changing.</translation>
+    </message>
+    <message>
+        <source>La rubrica non esiste.</source>
+        <translation>The address book does not exist.</translation>
+    </message>
+    <message>
+        <source>Il corpo del messaggio non si può aprire: </source>
+        <translation>The message body cannot be opened: </translation>
+    </message>
+    <message>
+        <source>è troppo grande (più di %1 milioni di caratteri).</source>
+        <translation>it is too large (more than %1 million characters).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi (più di %1).</source>
+        <translation>it has too many elements (more than %1).</translation>
+    </message>
+    <message>
+        <source>un elemento ha troppi attributi (più di %1).</source>
+        <translation>an element has too many attributes (more than %1).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi uno dentro l&apos;altro (più di %1).</source>
+        <translation>it has too many elements inside one another (more than %1).</translation>
+    </message>
+    <message>
+        <source>il suo codice HTML è troppo intricato.</source>
+        <translation>its HTML code is too tangled.</translation>
+    </message>
+    <message>
+        <source>Impossibile mostrare il messaggio. Il testo è conservato.</source>
+        <translation>The message cannot be shown. The text is kept.</translation>
+    </message>
+    <message>
+        <source>Impossibile caricare la vista dei messaggi: %1</source>
+        <translation>The message view cannot be loaded: %1</translation>
+    </message>
+    <message>
+        <source>Impossibile stampare il messaggio.</source>
+        <translation>The message cannot be printed.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere %1: %2</source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>La stampante non ha preso il messaggio. %1</source>
+        <translation>The printer did not take the message. %1</translation>
+    </message>
+    <message>
+        <source>La vista del messaggio non risponde.</source>
+        <translation>The message view does not respond.</translation>
+    </message>
+    <message>
+        <source>Il browser non ha dato alcuna risposta in tempo.</source>
+        <translation>The browser gave no reply in time.</translation>
+    </message>
+    <message>
+        <source>Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato il programma presso il fornitore.</source>
+        <translation>The client_id for %1 is missing: write it into the file %2 after registering the program with the provider.</translation>
+    </message>
+    <message>
+        <source>Il consenso non è stato dato.</source>
+        <translation>Consent was not given.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta: %1</source>
+        <translation>The provider refused the request: %1</translation>
+    </message>
+    <message>
+        <source>Il fornitore non accetta la risposta del browser: riprovare.</source>
+        <translation>The provider does not accept the browser&apos;s reply: try again.</translation>
+    </message>
+    <message>
+        <source>Manca il file %1.</source>
+        <translation>The file %1 is missing.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1: %2.</source>
+        <translation>The file %1 cannot be read: %2.</translation>
+    </message>
+    <message>
+        <source>non è un elenco</source>
+        <translation>is no list</translation>
+    </message>
+    <message>
+        <source>l&apos;elenco è vuoto</source>
+        <translation>the list is empty</translation>
+    </message>
+    <message>
+        <source>una voce è vuota</source>
+        <translation>an entry is empty</translation>
+    </message>
+    <message>
+        <source>non è un indirizzo</source>
+        <translation>is no address</translation>
+    </message>
+    <message>
+        <source>deve cominciare con https://</source>
+        <translation>must begin with https://</translation>
+    </message>
+    <message>
+        <source>non può contenere né un utente né un frammento</source>
+        <translation>can contain neither a user nor a fragment</translation>
+    </message>
+    <message>
+        <source>non è un oggetto</source>
+        <translation>is no object</translation>
+    </message>
+    <message>
+        <source> è del programma</source>
+        <translation> belongs to the program</translation>
+    </message>
+    <message>
+        <source>non è un testo</source>
+        <translation>is no text</translation>
+    </message>
+    <message>
+        <source>il testo è troppo lungo o contiene caratteri non ammessi</source>
+        <translation>the text is too long or has characters that are not allowed</translation>
+    </message>
+    <message>
+        <source>una voce contiene caratteri non ammessi</source>
+        <translation>an entry has characters that are not allowed</translation>
+    </message>
+    <message>
+        <source>una voce non è il nome di un server</source>
+        <translation>an entry is not the name of a server</translation>
+    </message>
+    <message>
+        <source>sono ammessi solo 127.0.0.1, localhost e [::1]</source>
+        <translation>only 127.0.0.1, localhost and [::1] are allowed</translation>
+    </message>
+    <message>
+        <source>Il file %1 non è valido: %2.</source>
+        <translation>The file %1 is not valid: %2.</translation>
+    </message>
+    <message>
+        <source>non contiene un oggetto</source>
+        <translation>it contains no object</translation>
+    </message>
+    <message>
+        <source>non è JSON dal byte %1</source>
+        <translation>it is not JSON from byte %1 on</translation>
+    </message>
+    <message>
+        <source>il nome di un fornitore può contenere solo a-z, 0-9 e &quot;-&quot;</source>
+        <translation>a provider&apos;s name can contain only a-z, 0-9 and &quot;-&quot;</translation>
+    </message>
+    <message>
+        <source> non è un oggetto</source>
+        <translation> is no object</translation>
+    </message>
+    <message>
+        <source> è scritto due volte</source>
+        <translation> is written twice</translation>
+    </message>
+    <message>
+        <source>Impossibile attendere la risposta del browser: %1</source>
+        <translation>Waiting for the browser&apos;s reply is not possible: %1</translation>
+    </message>
+    <message>
+        <source>Richiesta non valida.</source>
+        <translation>Invalid request.</translation>
+    </message>
+    <message>
+        <source>Pagina inesistente.</source>
+        <translation>No such page.</translation>
+    </message>
+    <message>
+        <source>Questa risposta non appartiene all&apos;accesso in corso.</source>
+        <translation>This reply does not belong to the login under way.</translation>
+    </message>
+    <message>
+        <source>Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.</source>
+        <translation>Reply received: you can close this page and go back to Vestrola.</translation>
+    </message>
+    <message>
+        <source>L&apos;accesso non è stato concesso: si può chiudere questa pagina.</source>
+        <translation>The login was not granted: you can close this page.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore non è valida.</source>
+        <translation>The provider&apos;s reply is not valid.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto o è stato ritirato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>The consent has expired or was withdrawn: log in with the browser again in the accounts window.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non riconosce client_id o client_secret: %1</source>
+        <translation>The provider does not recognize client_id or client_secret: %1</translation>
+    </message>
+    <message>
+        <source>Il consenso dato non comprende l&apos;invio della posta.</source>
+        <translation>The consent given does not cover sending mail.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1</source>
+        <translation>The file %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>Manca il consenso del fornitore: nella finestra degli account accedere con il browser.</source>
+        <translation>The provider&apos;s consent is missing: log in with the browser in the accounts window.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è un collegamento.</source>
+        <translation>The file %1 is a link.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è danneggiato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>The file %1 is damaged: log in with the browser again in the accounts window.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file %1.</source>
+        <translation>The file %1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non è raggiungibile: %1</source>
+        <translation>The provider cannot be reached: %1</translation>
+    </message>
+    <message>
+        <source>tempo scaduto.</source>
+        <translation>timed out.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore è troppo grande.</source>
+        <translation>The provider&apos;s reply is too large.</translation>
+    </message>
+    <message>
+        <source>Il fornitore rimanda a un altro indirizzo, che non viene seguito.</source>
+        <translation>The provider redirects to another address, which is not followed.</translation>
+    </message>
+    <message>
+        <source>errore %1 del suo server.</source>
+        <translation>error %1 of its server.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta.</source>
+        <translation>The provider refused the request.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>The consent has expired and the provider does not let it be renewed: log in with the browser again in the accounts window.</translation>
+    </message>
+    <message>
+        <source>Il server %1 non appartiene a un fornitore del file %2: nessun token gli viene inviato.</source>
+        <translation>The server %1 does not belong to a provider of the file %2: no token is sent to it.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi del desktop non c&apos;è.</source>
+        <translation>There is no desktop keyring.</translation>
+    </message>
+    <message>
+        <source>Attesa del portachiavi interrotta.</source>
+        <translation>Waiting for the keyring was stopped.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non ha questa password.</source>
+        <translation>The keyring does not have this password.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non risponde: </source>
+        <translation>The keyring does not respond: </translation>
+    </message>
+    <message>
+        <source>Il portachiavi non conserva la password così com&apos;è.</source>
+        <translation>The keyring does not keep the password as it is.</translation>
+    </message>
+    <message>
+        <source>Non è un file</source>
+        <translation>Not a file</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento</source>
+        <translation>The path is a link</translation>
+    </message>
+    <message>
+        <source>Il file appartiene a un altro utente</source>
+        <translation>The file belongs to another user</translation>
+    </message>
+    <message>
+        <source>Il file può essere letto da altri utenti</source>
+        <translation>Other users can read the file</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento di un altro utente</source>
+        <translation>The path is a link of another user</translation>
+    </message>
+    <message>
+        <source>Il file è in uso</source>
+        <translation>The file is in use</translation>
+    </message>
+    <message>
+        <source>%1 è un collegamento di un altro utente</source>
+        <translation>%1 is a link of another user</translation>
+    </message>
+    <message>
+        <source>altri utenti possono %1 %2: deve essere un file dell&apos;utente con i permessi %3</source>
+        <translation>other users can %1 %2: it must be a file of the user with the permissions %3</translation>
+    </message>
+    <message>
+        <source>leggere o scrivere</source>
+        <translation>read or write</translation>
+    </message>
+    <message>
+        <source>scrivere</source>
+        <translation>write</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file </source>
+        <translation>Cannot write the file </translation>
+    </message>
+    <message>
+        <source>Impossibile preparare la cartella </source>
+        <translation>Cannot prepare the folder </translation>
+    </message>
+    <message>
+        <source>Impossibile aprire </source>
+        <translation>Cannot open </translation>
+    </message>
 </context>
 </TS>

@@ -2565,5 +2565,357 @@ Importadas %3, rechazadas %4.</translation>
         <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
         <translation>Es posible que la prueba se haya entregado: el servidor ha recibido todo el mensaje y no ha respondido.</translation>
     </message>
+    <message>
+        <source>Non c&apos;è nessuna rubrica.</source>
+        <translation>No hay ninguna libreta de direcciones.</translation>
+    </message>
+    <message>
+        <source>Lettura interrotta.</source>
+        <translation>Lectura interrumpida.</translation>
+    </message>
+    <message>
+        <source>Il lettore di Outlook non c&apos;è.</source>
+        <translation>Falta el lector de Outlook.</translation>
+    </message>
+    <message>
+        <source>Outlook non ha risposto in tempo.</source>
+        <translation>Outlook no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>I contatti di Outlook non sono leggibili.</source>
+        <translation>Los contactos de Outlook no se pueden leer.</translation>
+    </message>
+    <message>
+        <source>La rubrica non è leggibile.</source>
+        <translation>La libreta de direcciones no es legible.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere la rubrica.</source>
+        <translation>No se puede leer la libreta de direcciones.</translation>
+    </message>
+    <message>
+        <source>La rubrica cambia di continuo.</source>
+        <translation>La libreta de direcciones cambia continuamente.</translation>
+    </message>
+    <message>
+        <source>La rubrica non esiste.</source>
+        <translation>La libreta de direcciones no existe.</translation>
+    </message>
+    <message>
+        <source>Il corpo del messaggio non si può aprire: </source>
+        <translation>No se puede abrir el cuerpo del mensaje: </translation>
+    </message>
+    <message>
+        <source>è troppo grande (più di %1 milioni di caratteri).</source>
+        <translation>es demasiado grande (más de %1 millones de caracteres).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi (più di %1).</source>
+        <translation>tiene demasiados elementos (más de %1).</translation>
+    </message>
+    <message>
+        <source>un elemento ha troppi attributi (più di %1).</source>
+        <translation>un elemento tiene demasiados atributos (más de %1).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi uno dentro l&apos;altro (più di %1).</source>
+        <translation>tiene demasiados elementos uno dentro de otro (más de %1).</translation>
+    </message>
+    <message>
+        <source>il suo codice HTML è troppo intricato.</source>
+        <translation>su código HTML es demasiado enrevesado.</translation>
+    </message>
+    <message>
+        <source>Impossibile mostrare il messaggio. Il testo è conservato.</source>
+        <translation>No se puede mostrar el mensaje. El texto se conserva.</translation>
+    </message>
+    <message>
+        <source>Impossibile caricare la vista dei messaggi: %1</source>
+        <translation>No se puede cargar la vista de mensajes: %1</translation>
+    </message>
+    <message>
+        <source>Impossibile stampare il messaggio.</source>
+        <translation>No se puede imprimir el mensaje.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere %1: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>La stampante non ha preso il messaggio. %1</source>
+        <translation>La impresora no ha aceptado el mensaje. %1</translation>
+    </message>
+    <message>
+        <source>La vista del messaggio non risponde.</source>
+        <translation>La vista del mensaje no responde.</translation>
+    </message>
+    <message>
+        <source>Il browser non ha dato alcuna risposta in tempo.</source>
+        <translation>El navegador no dio ninguna respuesta a tiempo.</translation>
+    </message>
+    <message>
+        <source>Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato il programma presso il fornitore.</source>
+        <translation>Falta el client_id de %1: escríbalo en el archivo %2 después de registrar el programa ante el proveedor.</translation>
+    </message>
+    <message>
+        <source>Il consenso non è stato dato.</source>
+        <translation>No se dio el consentimiento.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta: %1</source>
+        <translation>El proveedor rechazó la solicitud: %1</translation>
+    </message>
+    <message>
+        <source>Il fornitore non accetta la risposta del browser: riprovare.</source>
+        <translation>El proveedor no acepta la respuesta del navegador: inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Manca il file %1.</source>
+        <translation>Falta el archivo %1.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1: %2.</source>
+        <translation>No se puede leer el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>non è un elenco</source>
+        <translation>no es una lista</translation>
+    </message>
+    <message>
+        <source>l&apos;elenco è vuoto</source>
+        <translation>la lista está vacía</translation>
+    </message>
+    <message>
+        <source>una voce è vuota</source>
+        <translation>una entrada está vacía</translation>
+    </message>
+    <message>
+        <source>non è un indirizzo</source>
+        <translation>no es una dirección</translation>
+    </message>
+    <message>
+        <source>deve cominciare con https://</source>
+        <translation>debe empezar por https://</translation>
+    </message>
+    <message>
+        <source>non può contenere né un utente né un frammento</source>
+        <translation>no puede contener ni un usuario ni un fragmento</translation>
+    </message>
+    <message>
+        <source>non è un oggetto</source>
+        <translation>no es un objeto</translation>
+    </message>
+    <message>
+        <source> è del programma</source>
+        <translation> es del programa</translation>
+    </message>
+    <message>
+        <source>non è un testo</source>
+        <translation>no es un texto</translation>
+    </message>
+    <message>
+        <source>il testo è troppo lungo o contiene caratteri non ammessi</source>
+        <translation>el texto es demasiado largo o contiene caracteres no admitidos</translation>
+    </message>
+    <message>
+        <source>una voce contiene caratteri non ammessi</source>
+        <translation>una entrada contiene caracteres no admitidos</translation>
+    </message>
+    <message>
+        <source>una voce non è il nome di un server</source>
+        <translation>una entrada no es el nombre de un servidor</translation>
+    </message>
+    <message>
+        <source>sono ammessi solo 127.0.0.1, localhost e [::1]</source>
+        <translation>solo se admiten 127.0.0.1, localhost y [::1]</translation>
+    </message>
+    <message>
+        <source>Il file %1 non è valido: %2.</source>
+        <translation>El archivo %1 no es válido: %2.</translation>
+    </message>
+    <message>
+        <source>non contiene un oggetto</source>
+        <translation>no contiene un objeto</translation>
+    </message>
+    <message>
+        <source>non è JSON dal byte %1</source>
+        <translation>no es JSON desde el byte %1</translation>
+    </message>
+    <message>
+        <source>il nome di un fornitore può contenere solo a-z, 0-9 e &quot;-&quot;</source>
+        <translation>el nombre de un proveedor solo puede contener a-z, 0-9 y &quot;-&quot;</translation>
+    </message>
+    <message>
+        <source> non è un oggetto</source>
+        <translation> no es un objeto</translation>
+    </message>
+    <message>
+        <source> è scritto due volte</source>
+        <translation> está escrito dos veces</translation>
+    </message>
+    <message>
+        <source>Impossibile attendere la risposta del browser: %1</source>
+        <translation>No se puede esperar la respuesta del navegador: %1</translation>
+    </message>
+    <message>
+        <source>Richiesta non valida.</source>
+        <translation>Solicitud no válida.</translation>
+    </message>
+    <message>
+        <source>Pagina inesistente.</source>
+        <translation>Página inexistente.</translation>
+    </message>
+    <message>
+        <source>Questa risposta non appartiene all&apos;accesso in corso.</source>
+        <translation>Esta respuesta no pertenece al acceso en curso.</translation>
+    </message>
+    <message>
+        <source>Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.</source>
+        <translation>Respuesta recibida: puede cerrar esta página y volver a Vestrola.</translation>
+    </message>
+    <message>
+        <source>L&apos;accesso non è stato concesso: si può chiudere questa pagina.</source>
+        <translation>No se concedió el acceso: puede cerrar esta página.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore non è valida.</source>
+        <translation>La respuesta del proveedor no es válida.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto o è stato ritirato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>El consentimiento ha caducado o se ha retirado: acceda de nuevo con el navegador en la ventana de cuentas.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non riconosce client_id o client_secret: %1</source>
+        <translation>El proveedor no reconoce client_id o client_secret: %1</translation>
+    </message>
+    <message>
+        <source>Il consenso dato non comprende l&apos;invio della posta.</source>
+        <translation>El consentimiento dado no incluye el envío de correo.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1</source>
+        <translation>No se puede leer el archivo %1</translation>
+    </message>
+    <message>
+        <source>Manca il consenso del fornitore: nella finestra degli account accedere con il browser.</source>
+        <translation>Falta el consentimiento del proveedor: acceda con el navegador en la ventana de cuentas.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è un collegamento.</source>
+        <translation>El archivo %1 es un enlace.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è danneggiato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>El archivo %1 está dañado: acceda de nuevo con el navegador en la ventana de cuentas.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file %1.</source>
+        <translation>No se puede escribir el archivo %1.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non è raggiungibile: %1</source>
+        <translation>No se puede alcanzar al proveedor: %1</translation>
+    </message>
+    <message>
+        <source>tempo scaduto.</source>
+        <translation>tiempo agotado.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore è troppo grande.</source>
+        <translation>La respuesta del proveedor es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Il fornitore rimanda a un altro indirizzo, che non viene seguito.</source>
+        <translation>El proveedor remite a otra dirección, que no se sigue.</translation>
+    </message>
+    <message>
+        <source>errore %1 del suo server.</source>
+        <translation>error %1 de su servidor.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta.</source>
+        <translation>El proveedor rechazó la solicitud.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>El consentimiento ha caducado y el proveedor no permite renovarlo: acceda de nuevo con el navegador en la ventana de cuentas.</translation>
+    </message>
+    <message>
+        <source>Il server %1 non appartiene a un fornitore del file %2: nessun token gli viene inviato.</source>
+        <translation>El servidor %1 no pertenece a un proveedor del archivo %2: no se le envía ningún token.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi del desktop non c&apos;è.</source>
+        <translation>No hay llavero del escritorio.</translation>
+    </message>
+    <message>
+        <source>Attesa del portachiavi interrotta.</source>
+        <translation>Espera del llavero interrumpida.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non ha questa password.</source>
+        <translation>El llavero no tiene esta contraseña.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non risponde: </source>
+        <translation>El llavero no responde: </translation>
+    </message>
+    <message>
+        <source>Il portachiavi non conserva la password così com&apos;è.</source>
+        <translation>El llavero no conserva la contraseña tal como es.</translation>
+    </message>
+    <message>
+        <source>Non è un file</source>
+        <translation>No es un archivo</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento</source>
+        <translation>La ruta es un enlace</translation>
+    </message>
+    <message>
+        <source>Il file appartiene a un altro utente</source>
+        <translation>El archivo pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>Il file può essere letto da altri utenti</source>
+        <translation>Otros usuarios pueden leer el archivo</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento di un altro utente</source>
+        <translation>La ruta es un enlace de otro usuario</translation>
+    </message>
+    <message>
+        <source>Il file è in uso</source>
+        <translation>El archivo está en uso</translation>
+    </message>
+    <message>
+        <source>%1 è un collegamento di un altro utente</source>
+        <translation>%1 es un enlace de otro usuario</translation>
+    </message>
+    <message>
+        <source>altri utenti possono %1 %2: deve essere un file dell&apos;utente con i permessi %3</source>
+        <translation>otros usuarios pueden %1 %2: debe ser un archivo del usuario con los permisos %3</translation>
+    </message>
+    <message>
+        <source>leggere o scrivere</source>
+        <translation>leer o escribir</translation>
+    </message>
+    <message>
+        <source>scrivere</source>
+        <translation>escribir</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file </source>
+        <translation>No se puede escribir el archivo </translation>
+    </message>
+    <message>
+        <source>Impossibile preparare la cartella </source>
+        <translation>No se puede preparar la carpeta </translation>
+    </message>
+    <message>
+        <source>Impossibile aprire </source>
+        <translation>No se puede abrir </translation>
+    </message>
 </context>
 </TS>

@@ -2565,5 +2565,357 @@ Importées %3, refusées %4.</translation>
         <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
         <translation>L&apos;essai a peut-être été remis : le serveur a reçu tout le message et n&apos;a pas répondu.</translation>
     </message>
+    <message>
+        <source>Non c&apos;è nessuna rubrica.</source>
+        <translation>Il n&apos;y a pas de carnet d&apos;adresses.</translation>
+    </message>
+    <message>
+        <source>Lettura interrotta.</source>
+        <translation>Lecture interrompue.</translation>
+    </message>
+    <message>
+        <source>Il lettore di Outlook non c&apos;è.</source>
+        <translation>Le lecteur d&apos;Outlook manque.</translation>
+    </message>
+    <message>
+        <source>Outlook non ha risposto in tempo.</source>
+        <translation>Outlook n&apos;a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>I contatti di Outlook non sono leggibili.</source>
+        <translation>Les contacts Outlook sont illisibles.</translation>
+    </message>
+    <message>
+        <source>La rubrica non è leggibile.</source>
+        <translation>Le carnet d&apos;adresses est illisible.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere la rubrica.</source>
+        <translation>Impossible de lire le carnet d&apos;adresses.</translation>
+    </message>
+    <message>
+        <source>La rubrica cambia di continuo.</source>
+        <translation>Le carnet d&apos;adresses change sans cesse.</translation>
+    </message>
+    <message>
+        <source>La rubrica non esiste.</source>
+        <translation>Le carnet d&apos;adresses n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>Il corpo del messaggio non si può aprire: </source>
+        <translation>Impossible d&apos;ouvrir le corps du message : </translation>
+    </message>
+    <message>
+        <source>è troppo grande (più di %1 milioni di caratteri).</source>
+        <translation>il est trop gros (plus de %1 millions de caractères).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi (più di %1).</source>
+        <translation>il a trop d&apos;éléments (plus de %1).</translation>
+    </message>
+    <message>
+        <source>un elemento ha troppi attributi (più di %1).</source>
+        <translation>un élément a trop d&apos;attributs (plus de %1).</translation>
+    </message>
+    <message>
+        <source>ha troppi elementi uno dentro l&apos;altro (più di %1).</source>
+        <translation>il a trop d&apos;éléments imbriqués (plus de %1).</translation>
+    </message>
+    <message>
+        <source>il suo codice HTML è troppo intricato.</source>
+        <translation>son code HTML est trop embrouillé.</translation>
+    </message>
+    <message>
+        <source>Impossibile mostrare il messaggio. Il testo è conservato.</source>
+        <translation>Impossible d&apos;afficher le message. Le texte est conservé.</translation>
+    </message>
+    <message>
+        <source>Impossibile caricare la vista dei messaggi: %1</source>
+        <translation>Impossible de charger la vue des messages : %1</translation>
+    </message>
+    <message>
+        <source>Impossibile stampare il messaggio.</source>
+        <translation>Impossible d&apos;imprimer le message.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere %1: %2</source>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>La stampante non ha preso il messaggio. %1</source>
+        <translation>L&apos;imprimante n&apos;a pas pris le message. %1</translation>
+    </message>
+    <message>
+        <source>La vista del messaggio non risponde.</source>
+        <translation>La vue du message ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Il browser non ha dato alcuna risposta in tempo.</source>
+        <translation>Le navigateur n&apos;a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato il programma presso il fornitore.</source>
+        <translation>Il manque le client_id de %1 : écrivez-le dans le fichier %2 après avoir enregistré le programme auprès du fournisseur.</translation>
+    </message>
+    <message>
+        <source>Il consenso non è stato dato.</source>
+        <translation>Le consentement n&apos;a pas été donné.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta: %1</source>
+        <translation>Le fournisseur a refusé la demande : %1</translation>
+    </message>
+    <message>
+        <source>Il fornitore non accetta la risposta del browser: riprovare.</source>
+        <translation>Le fournisseur n&apos;accepte pas la réponse du navigateur : réessayez.</translation>
+    </message>
+    <message>
+        <source>Manca il file %1.</source>
+        <translation>Le fichier %1 manque.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1: %2.</source>
+        <translation>Impossible de lire le fichier %1 : %2.</translation>
+    </message>
+    <message>
+        <source>non è un elenco</source>
+        <translation>n&apos;est pas une liste</translation>
+    </message>
+    <message>
+        <source>l&apos;elenco è vuoto</source>
+        <translation>la liste est vide</translation>
+    </message>
+    <message>
+        <source>una voce è vuota</source>
+        <translation>une entrée est vide</translation>
+    </message>
+    <message>
+        <source>non è un indirizzo</source>
+        <translation>n&apos;est pas une adresse</translation>
+    </message>
+    <message>
+        <source>deve cominciare con https://</source>
+        <translation>doit commencer par https://</translation>
+    </message>
+    <message>
+        <source>non può contenere né un utente né un frammento</source>
+        <translation>ne peut contenir ni utilisateur ni fragment</translation>
+    </message>
+    <message>
+        <source>non è un oggetto</source>
+        <translation>n&apos;est pas un objet</translation>
+    </message>
+    <message>
+        <source> è del programma</source>
+        <translation> appartient au programme</translation>
+    </message>
+    <message>
+        <source>non è un testo</source>
+        <translation>n&apos;est pas un texte</translation>
+    </message>
+    <message>
+        <source>il testo è troppo lungo o contiene caratteri non ammessi</source>
+        <translation>le texte est trop long ou contient des caractères non admis</translation>
+    </message>
+    <message>
+        <source>una voce contiene caratteri non ammessi</source>
+        <translation>une entrée contient des caractères non admis</translation>
+    </message>
+    <message>
+        <source>una voce non è il nome di un server</source>
+        <translation>une entrée n&apos;est pas le nom d&apos;un serveur</translation>
+    </message>
+    <message>
+        <source>sono ammessi solo 127.0.0.1, localhost e [::1]</source>
+        <translation>seuls 127.0.0.1, localhost et [::1] sont admis</translation>
+    </message>
+    <message>
+        <source>Il file %1 non è valido: %2.</source>
+        <translation>Le fichier %1 n&apos;est pas valide : %2.</translation>
+    </message>
+    <message>
+        <source>non contiene un oggetto</source>
+        <translation>il ne contient pas d&apos;objet</translation>
+    </message>
+    <message>
+        <source>non è JSON dal byte %1</source>
+        <translation>ce n&apos;est pas du JSON à partir de l&apos;octet %1</translation>
+    </message>
+    <message>
+        <source>il nome di un fornitore può contenere solo a-z, 0-9 e &quot;-&quot;</source>
+        <translation>le nom d&apos;un fournisseur ne peut contenir que a-z, 0-9 et « - »</translation>
+    </message>
+    <message>
+        <source> non è un oggetto</source>
+        <translation> n&apos;est pas un objet</translation>
+    </message>
+    <message>
+        <source> è scritto due volte</source>
+        <translation> est écrit deux fois</translation>
+    </message>
+    <message>
+        <source>Impossibile attendere la risposta del browser: %1</source>
+        <translation>Impossible d&apos;attendre la réponse du navigateur : %1</translation>
+    </message>
+    <message>
+        <source>Richiesta non valida.</source>
+        <translation>Demande non valable.</translation>
+    </message>
+    <message>
+        <source>Pagina inesistente.</source>
+        <translation>Page inexistante.</translation>
+    </message>
+    <message>
+        <source>Questa risposta non appartiene all&apos;accesso in corso.</source>
+        <translation>Cette réponse n&apos;appartient pas à la connexion en cours.</translation>
+    </message>
+    <message>
+        <source>Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.</source>
+        <translation>Réponse reçue : vous pouvez fermer cette page et revenir à Vestrola.</translation>
+    </message>
+    <message>
+        <source>L&apos;accesso non è stato concesso: si può chiudere questa pagina.</source>
+        <translation>La connexion n&apos;a pas été accordée : vous pouvez fermer cette page.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore non è valida.</source>
+        <translation>La réponse du fournisseur n&apos;est pas valable.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto o è stato ritirato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Le consentement a expiré ou a été retiré : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non riconosce client_id o client_secret: %1</source>
+        <translation>Le fournisseur ne reconnaît pas client_id ou client_secret : %1</translation>
+    </message>
+    <message>
+        <source>Il consenso dato non comprende l&apos;invio della posta.</source>
+        <translation>Le consentement donné ne comprend pas l&apos;envoi de courrier.</translation>
+    </message>
+    <message>
+        <source>Impossibile leggere il file %1</source>
+        <translation>Impossible de lire le fichier %1</translation>
+    </message>
+    <message>
+        <source>Manca il consenso del fornitore: nella finestra degli account accedere con il browser.</source>
+        <translation>Le consentement du fournisseur manque : connectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è un collegamento.</source>
+        <translation>Le fichier %1 est un lien.</translation>
+    </message>
+    <message>
+        <source>Il file %1 è danneggiato: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Le fichier %1 est endommagé : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file %1.</source>
+        <translation>Impossible d&apos;écrire le fichier %1.</translation>
+    </message>
+    <message>
+        <source>Il fornitore non è raggiungibile: %1</source>
+        <translation>Le fournisseur est injoignable : %1</translation>
+    </message>
+    <message>
+        <source>tempo scaduto.</source>
+        <translation>délai dépassé.</translation>
+    </message>
+    <message>
+        <source>La risposta del fornitore è troppo grande.</source>
+        <translation>La réponse du fournisseur est trop grosse.</translation>
+    </message>
+    <message>
+        <source>Il fornitore rimanda a un altro indirizzo, che non viene seguito.</source>
+        <translation>Le fournisseur renvoie à une autre adresse, qui n&apos;est pas suivie.</translation>
+    </message>
+    <message>
+        <source>errore %1 del suo server.</source>
+        <translation>erreur %1 de son serveur.</translation>
+    </message>
+    <message>
+        <source>Il fornitore ha rifiutato la richiesta.</source>
+        <translation>Le fournisseur a refusé la demande.</translation>
+    </message>
+    <message>
+        <source>Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra degli account accedere di nuovo con il browser.</source>
+        <translation>Le consentement a expiré et le fournisseur ne permet pas de le renouveler : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+    </message>
+    <message>
+        <source>Il server %1 non appartiene a un fornitore del file %2: nessun token gli viene inviato.</source>
+        <translation>Le serveur %1 n&apos;appartient pas à un fournisseur du fichier %2 : aucun jeton ne lui est envoyé.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi del desktop non c&apos;è.</source>
+        <translation>Il n&apos;y a pas de trousseau du bureau.</translation>
+    </message>
+    <message>
+        <source>Attesa del portachiavi interrotta.</source>
+        <translation>Attente du trousseau interrompue.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non ha questa password.</source>
+        <translation>Le trousseau n&apos;a pas ce mot de passe.</translation>
+    </message>
+    <message>
+        <source>Il portachiavi non risponde: </source>
+        <translation>Le trousseau ne répond pas : </translation>
+    </message>
+    <message>
+        <source>Il portachiavi non conserva la password così com&apos;è.</source>
+        <translation>Le trousseau ne conserve pas le mot de passe tel quel.</translation>
+    </message>
+    <message>
+        <source>Non è un file</source>
+        <translation>Pas un fichier</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento</source>
+        <translation>Le chemin est un lien</translation>
+    </message>
+    <message>
+        <source>Il file appartiene a un altro utente</source>
+        <translation>Le fichier appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>Il file può essere letto da altri utenti</source>
+        <translation>D&apos;autres utilisateurs peuvent lire le fichier</translation>
+    </message>
+    <message>
+        <source>Il percorso è un collegamento di un altro utente</source>
+        <translation>Le chemin est un lien d&apos;un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>Il file è in uso</source>
+        <translation>Le fichier est utilisé</translation>
+    </message>
+    <message>
+        <source>%1 è un collegamento di un altro utente</source>
+        <translation>%1 est un lien d&apos;un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>altri utenti possono %1 %2: deve essere un file dell&apos;utente con i permessi %3</source>
+        <translation>d&apos;autres utilisateurs peuvent %1 %2 : ce doit être un fichier de l&apos;utilisateur avec les droits %3</translation>
+    </message>
+    <message>
+        <source>leggere o scrivere</source>
+        <translation>lire ou écrire</translation>
+    </message>
+    <message>
+        <source>scrivere</source>
+        <translation>écrire</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere il file </source>
+        <translation>Impossible d&apos;écrire le fichier </translation>
+    </message>
+    <message>
+        <source>Impossibile preparare la cartella </source>
+        <translation>Impossible de préparer le dossier </translation>
+    </message>
+    <message>
+        <source>Impossibile aprire </source>
+        <translation>Impossible d&apos;ouvrir </translation>
+    </message>
 </context>
 </TS>

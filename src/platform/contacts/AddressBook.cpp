@@ -13,6 +13,7 @@
 #include "platform/system/ProgramFolder.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/TextFile.h"
+#include "platform/text/Words.h"
 
 namespace contacts {
 
@@ -64,7 +65,7 @@ AddressBook::AddressBook()
 
 Status AddressBook::open() {
     m_cards.clear();
-    Status status(ErrorCode::FileNotFound, QStringLiteral("Non c'è nessuna rubrica."));
+    Status status(ErrorCode::FileNotFound, Words::tr("Non c'è nessuna rubrica."));
     if (const QString path = findMailClientBook(m_home); !path.isEmpty()) {
         auto book = readMailClientBook(path);
         status = book.status();

@@ -15,6 +15,7 @@
 #include "platform/contacts/HelperOutput.h"
 #include "platform/system/OwnProgram.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Words.h"
 
 namespace contacts {
 
@@ -92,13 +93,13 @@ Result<ContactFolder> readContactFolder(const QString& path, std::chrono::millis
     helper.kill();
     helper.waitForFinished();
 
-    if (givenUp) return Status(ErrorCode::CancelSelected, QStringLiteral("Lettura interrotta."));
+    if (givenUp) return Status(ErrorCode::CancelSelected, Words::tr("Lettura interrotta."));
     if (auto folder = std::move(output).folder()) return *std::move(folder);
-    if (!started) return Status(ErrorCode::FileNotFound, QStringLiteral("Il lettore di Outlook non c'è."));
+    if (!started) return Status(ErrorCode::FileNotFound, Words::tr("Il lettore di Outlook non c'è."));
     if (deadline.hasExpired()) {
-        return Status(ErrorCode::Timeout, QStringLiteral("Outlook non ha risposto in tempo."));
+        return Status(ErrorCode::Timeout, Words::tr("Outlook non ha risposto in tempo."));
     }
-    return Status(ErrorCode::UnrecognizedFormat, QStringLiteral("I contatti di Outlook non sono leggibili."));
+    return Status(ErrorCode::UnrecognizedFormat, Words::tr("I contatti di Outlook non sono leggibili."));
 }
 
 }  // namespace contacts

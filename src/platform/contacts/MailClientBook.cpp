@@ -12,6 +12,7 @@
 #include <QThread>
 
 #include "platform/contacts/VCard.h"
+#include "platform/text/Words.h"
 
 namespace contacts {
 
@@ -26,7 +27,7 @@ constexpr int mostChecks = 200;
 constexpr std::array<const char*, 3> suffixes{"", "-wal", "-journal"};
 
 Status unrecognized() {
-    return {ErrorCode::UnrecognizedFormat, QStringLiteral("La rubrica non è leggibile.")};
+    return {ErrorCode::UnrecognizedFormat, Words::tr("La rubrica non è leggibile.")};
 }
 
 QDateTime lastChange(const QString& path) {
@@ -62,7 +63,7 @@ Status copyOnce(const QString& path, const QString& copy) {
         if (!QFileInfo::exists(from)) continue;
         if (QFileInfo(from).size() > largestBook) return unrecognized();
         if (!QFile::copy(from, to) || !QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner)) {
-            return {ErrorCode::PathAccess, QStringLiteral("Impossibile leggere la rubrica.")};
+            return {ErrorCode::PathAccess, Words::tr("Impossibile leggere la rubrica.")};
         }
     }
     return {};
@@ -77,7 +78,7 @@ Status copyBook(const QString& path, const QString& copy) {
         const QString before = stateOf(path);
         status = copyOnce(path, copy);
         if (status.ok() && stateOf(path) == before) return {};
-        if (status.ok()) status = {ErrorCode::PathAccess, QStringLiteral("La rubrica cambia di continuo.")};
+        if (status.ok()) status = {ErrorCode::PathAccess, Words::tr("La rubrica cambia di continuo.")};
         QThread::msleep(50);
     }
     return status;
@@ -195,7 +196,7 @@ QString findMailClientBook(const QString& home) {
 
 Result<std::vector<Card>> readMailClientBook(const QString& path) {
     if (!QFileInfo(path).isFile()) {
-        return Status(ErrorCode::FileNotFound, QStringLiteral("La rubrica non esiste."));
+        return Status(ErrorCode::FileNotFound, Words::tr("La rubrica non esiste."));
     }
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("abook.sqlite"));

@@ -3,6 +3,7 @@
 #include "platform/html/Nesting.h"
 #include "platform/html/ParseTree.h"
 #include "platform/html/SourceText.h"
+#include "platform/text/Words.h"
 
 namespace html {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 constexpr int mostReckonedDepth = 4 * mostDepth;
 
 Status refused(const QString& reason) {
-    return {ErrorCode::Overflow, QStringLiteral("Il corpo del messaggio non si può aprire: ") + reason};
+    return {ErrorCode::Overflow, Words::tr("Il corpo del messaggio non si può aprire: ") + reason};
 }
 
 }  // namespace
@@ -19,25 +20,25 @@ Status refused(const QString& reason) {
 Status boundSize(qsizetype characters) {
     if (characters <= mostCharacters) return {};
     return refused(
-        QStringLiteral("è troppo grande (più di %1 milioni di caratteri).").arg(mostCharacters / 1'000'000));
+        Words::tr("è troppo grande (più di %1 milioni di caratteri).").arg(mostCharacters / 1'000'000));
 }
 
 Status boundTags(std::string_view utf8) {
     const Nesting reckoned = reckonNesting(utf8, {mostReckonedDepth, mostElements, mostAttributes});
     if (reckoned.elements > mostElements)
-        return refused(QStringLiteral("ha troppi elementi (più di %1).").arg(mostElements));
+        return refused(Words::tr("ha troppi elementi (più di %1).").arg(mostElements));
     if (reckoned.attributes > mostAttributes)
-        return refused(QStringLiteral("un elemento ha troppi attributi (più di %1).").arg(mostAttributes));
+        return refused(Words::tr("un elemento ha troppi attributi (più di %1).").arg(mostAttributes));
     return boundDepth(reckoned.depth > mostReckonedDepth ? reckoned.depth : 0);
 }
 
 Status boundDepth(int depth) {
     if (depth <= mostDepth) return {};
-    return refused(QStringLiteral("ha troppi elementi uno dentro l'altro (più di %1).").arg(mostDepth));
+    return refused(Words::tr("ha troppi elementi uno dentro l'altro (più di %1).").arg(mostDepth));
 }
 
 Status unreadable() {
-    return refused(QStringLiteral("il suo codice HTML è troppo intricato."));
+    return refused(Words::tr("il suo codice HTML è troppo intricato."));
 }
 
 Status readable(const QString& html) {

@@ -15,6 +15,7 @@
 #include "platform/html/HtmlViewPlugin.h"
 #include "platform/html/MissingImages.h"
 #include "platform/html/SourceText.h"
+#include "platform/text/Words.h"
 
 namespace {
 
@@ -262,7 +263,7 @@ void HtmlView::Live::died() {
         if (m_deaths < deathsInARow) {
             browser.start();
         } else {
-            fail(QStringLiteral("Impossibile mostrare il messaggio. Il testo è conservato."));
+            fail(Words::tr("Impossibile mostrare il messaggio. Il testo è conservato."));
         }
     });
 }

@@ -9,6 +9,8 @@
 #include "platform/system/CoreDumps.h"
 #include "platform/system/OwnProgram.h"
 
+#include "platform/text/Words.h"
+
 // The toolkit exports it without declaring it in public.
 void qt_gl_set_global_share_context(QOpenGLContext* context);
 
@@ -55,7 +57,7 @@ Status createBrowserOf(QWidget* parent, const BrowserEvents& events, Browser& br
     static CreateBrowser* const create = load(failure);
     if (create == nullptr) {
         return {ErrorCode::FileNotFound,
-                QStringLiteral("Impossibile caricare la vista dei messaggi: %1").arg(failure)};
+                Words::tr("Impossibile caricare la vista dei messaggi: %1").arg(failure)};
     }
     // The first view starts the engine's processes, whose sandbox needs namespaces.
     static bool started = false;

@@ -6,6 +6,7 @@
 
 #include "platform/html/HtmlViewLive.h"
 #include "platform/html/HtmlViewPrintJob.h"
+#include "platform/text/Words.h"
 
 // A view on paper, or in a PDF file.
 
@@ -52,8 +53,7 @@ Result<QByteArray> HtmlView::Live::pages(const QPrinter& printer) {
                 });
     waitFor([this, &over] { return *over || !live; }, printMilliseconds);
     if (!*over) return noAnswer();
-    if (pdf->isEmpty())
-        return Status(ErrorCode::DeviceIo, QStringLiteral("Impossibile stampare il messaggio."));
+    if (pdf->isEmpty()) return Status(ErrorCode::DeviceIo, Words::tr("Impossibile stampare il messaggio."));
     return *pdf;
 }
 
@@ -62,7 +62,7 @@ Status HtmlView::Live::writePdf(const QString& path, const QByteArray& document)
     file.setDirectWriteFallback(true);  // a file that may be written, in a folder that may not
     if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit())
         return {};
-    return {ErrorCode::DeviceIo, QStringLiteral("Impossibile scrivere %1: %2").arg(path, file.errorString())};
+    return {ErrorCode::DeviceIo, Words::tr("Impossibile scrivere %1: %2").arg(path, file.errorString())};
 }
 
 /// The way of a system that has printers but not the command `lp`.

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QVariant>
 
+#include "platform/text/Words.h"
+
 namespace {
 
 constexpr qsizetype longestTitle = 255;
@@ -100,5 +102,5 @@ Status spool(const QString& command, const QStringList& arguments, const QByteAr
     process.kill();
     process.waitForFinished(milliseconds);
     return {ErrorCode::DeviceIo,
-            QStringLiteral("La stampante non ha preso il messaggio. %1").arg(reason).trimmed()};
+            Words::tr("La stampante non ha preso il messaggio. %1").arg(reason).trimmed()};
 }

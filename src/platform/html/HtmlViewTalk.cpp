@@ -13,6 +13,7 @@
 #include "platform/html/Bounds.h"
 #include "platform/html/ClipboardContent.h"
 #include "platform/html/HtmlViewLive.h"
+#include "platform/text/Words.h"
 
 // How a view and the editing scripts talk: questions with their answers, and what the scripts tell by
 // themselves.
@@ -56,7 +57,7 @@ class Hourglass {
 }  // namespace
 
 Status HtmlView::Live::noAnswer() {
-    return {ErrorCode::Timeout, QStringLiteral("La vista del messaggio non risponde.")};
+    return {ErrorCode::Timeout, Words::tr("La vista del messaggio non risponde.")};
 }
 
 QString HtmlView::Live::arguments(const QJsonArray& values) {

@@ -2,6 +2,7 @@
 
 #include "platform/oauth/Pkce.h"
 #include "platform/oauth/TokenFile.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -9,18 +10,17 @@ Consent::Consent(const QString& folder, const QString& certificateFolder, QObjec
     : QObject(parent), m_folder(folder), m_certificateFolder(certificateFolder) {
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, this, [this] {
-        end({ErrorCode::Timeout, QStringLiteral("Il browser non ha dato alcuna risposta in tempo.")});
+        end({ErrorCode::Timeout, Words::tr("Il browser non ha dato alcuna risposta in tempo.")});
     });
 }
 
 Result<QUrl> Consent::start(const Provider& provider, const QString& user) {
     cancel();
     if (provider.clientId.isEmpty())
-        return Status(
-            ErrorCode::NotSupported,
-            QStringLiteral("Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato "
-                           "il programma presso il fornitore.")
-                .arg(provider.name, providersPath(m_folder)));
+        return Status(ErrorCode::NotSupported,
+                      Words::tr("Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato "
+                                "il programma presso il fornitore.")
+                          .arg(provider.name, providersPath(m_folder)));
     m_provider = provider;
     m_user = user;
     m_verifier = newSecret();
@@ -67,12 +67,12 @@ void Consent::onAnswer(const QByteArray& code, const QByteArray& error) {
     m_listener.reset();
     m_limit.stop();
     if (error == "access_denied") {
-        end({ErrorCode::CancelSelected, QStringLiteral("Il consenso non è stato dato.")});
+        end({ErrorCode::CancelSelected, Words::tr("Il consenso non è stato dato.")});
         return;
     }
     if (!error.isEmpty()) {
-        end({ErrorCode::NotSupported, QStringLiteral("Il fornitore ha rifiutato la richiesta: %1")
-                                          .arg(shown(QString::fromLatin1(error)))});
+        end({ErrorCode::NotSupported,
+             Words::tr("Il fornitore ha rifiutato la richiesta: %1").arg(shown(QString::fromLatin1(error)))});
         return;
     }
     m_request = std::make_unique<TokenRequest>(m_certificateFolder);
@@ -84,7 +84,7 @@ void Consent::onToken(const Result<Token>& token) {
     if (!token.ok()) {
         const bool stale = token.status().code() == ErrorCode::InvalidPassword;
         end(stale ? Status(ErrorCode::NotSupported,
-                           QStringLiteral("Il fornitore non accetta la risposta del browser: riprovare."))
+                           Words::tr("Il fornitore non accetta la risposta del browser: riprovare."))
                   : token.status());
         return;
     }

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -30,9 +31,9 @@ Result<QList<Provider>> readProviders(const QString& folder) {
     const Result<QByteArray> bytes = sys::readGuardedFile(path, largestProvidersFile, sys::Others::Read);
     if (bytes.ok()) return parseProviders(bytes.value(), path);
     if (!QFileInfo::exists(path))
-        return Status(ErrorCode::FileNotFound, QStringLiteral("Manca il file %1.").arg(path));
+        return Status(ErrorCode::FileNotFound, Words::tr("Manca il file %1.").arg(path));
     return Status(bytes.status().code(),
-                  QStringLiteral("Impossibile leggere il file %1: %2.").arg(path, bytes.status().text()));
+                  Words::tr("Impossibile leggere il file %1: %2.").arg(path, bytes.status().text()));
 }
 
 std::optional<Provider> providerOf(const QList<Provider>& providers, const QString& host) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "platform/oauth/RedirectRequest.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -36,7 +37,7 @@ Status RedirectListener::listen(const QString& redirectHost, const QByteArray& s
         redirectHost == QLatin1String("[::1]") ? QHostAddress::LocalHostIPv6 : QHostAddress::LocalHost;
     if (m_server.listen(address)) return {};
     return {ErrorCode::DeviceIo,
-            QStringLiteral("Impossibile attendere la risposta del browser: %1").arg(m_server.errorString())};
+            Words::tr("Impossibile attendere la risposta del browser: %1").arg(m_server.errorString())};
 }
 
 void RedirectListener::close() {
@@ -77,23 +78,22 @@ void RedirectListener::read(QTcpSocket* browser) {
         case RedirectRequest::State::Incomplete:
             return;
         case RedirectRequest::State::Refused:
-            answer(browser, "400 Bad Request", QStringLiteral("Richiesta non valida."));
+            answer(browser, "400 Bad Request", Words::tr("Richiesta non valida."));
             return;
         case RedirectRequest::State::OtherPage:
-            answer(browser, "404 Not Found", QStringLiteral("Pagina inesistente."));
+            answer(browser, "404 Not Found", Words::tr("Pagina inesistente."));
             return;
         case RedirectRequest::State::Answer:
             break;
     }
     if (!sameState(request.state, m_state)) {
-        answer(browser, "400 Bad Request",
-               QStringLiteral("Questa risposta non appartiene all'accesso in corso."));
+        answer(browser, "400 Bad Request", Words::tr("Questa risposta non appartiene all'accesso in corso."));
         return;
     }
     answer(browser, "200 OK",
            request.error.isEmpty()
-               ? QStringLiteral("Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.")
-               : QStringLiteral("L'accesso non è stato concesso: si può chiudere questa pagina."));
+               ? Words::tr("Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.")
+               : Words::tr("L'accesso non è stato concesso: si può chiudere questa pagina."));
     close();
     Q_EMIT answered(request.code, request.error);
 }
@@ -101,9 +101,9 @@ void RedirectListener::read(QTcpSocket* browser) {
 void RedirectListener::answer(QTcpSocket* browser, const char* status, const QString& text) {
     m_browsers.remove(browser);
     const QByteArray page = QStringLiteral(
-                                "<!DOCTYPE html><html lang=\"it\"><head><meta charset=\"utf-8\">"
-                                "<title>Vestrola</title></head><body><p>%1</p></body></html>\n")
-                                .arg(text)
+                                "<!DOCTYPE html><html lang=\"%1\"><head><meta charset=\"utf-8\">"
+                                "<title>Vestrola</title></head><body><p>%2</p></body></html>\n")
+                                .arg(Words::locale().bcp47Name(), text)
                                 .toUtf8();
     browser->write(
         QByteArray("HTTP/1.1 ") + status +

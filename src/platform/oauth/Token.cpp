@@ -4,6 +4,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "platform/text/Words.h"
+
 namespace oauth {
 
 namespace {
@@ -15,18 +17,18 @@ constexpr double mostSecs = 86400;  // nothing that lives longer is believed
 constexpr qsizetype longestShownText = 200;
 
 Status notAnAnswer() {
-    return {ErrorCode::NotSupported, QStringLiteral("La risposta del fornitore non è valida.")};
+    return {ErrorCode::NotSupported, Words::tr("La risposta del fornitore non è valida.")};
 }
 
 Status refusal(const QJsonObject& answer) {
     const QString error = answer.value(QStringLiteral("error")).toString();
     if (error == QLatin1String("invalid_grant"))
         return {ErrorCode::InvalidPassword,
-                QStringLiteral("Il consenso è scaduto o è stato ritirato: nella finestra degli account "
-                               "accedere di nuovo con il browser.")};
-    QString text = QStringLiteral("Il fornitore ha rifiutato la richiesta: %1").arg(shown(error));
+                Words::tr("Il consenso è scaduto o è stato ritirato: nella finestra degli account "
+                          "accedere di nuovo con il browser.")};
+    QString text = Words::tr("Il fornitore ha rifiutato la richiesta: %1").arg(shown(error));
     if (error == QLatin1String("invalid_client") || error == QLatin1String("unauthorized_client"))
-        text = QStringLiteral("Il fornitore non riconosce client_id o client_secret: %1").arg(shown(error));
+        text = Words::tr("Il fornitore non riconosce client_id o client_secret: %1").arg(shown(error));
     const QString words = shown(answer.value(QStringLiteral("error_description")).toString());
     return {ErrorCode::NotSupported, words.isEmpty() ? text : text + u' ' + words};
 }
@@ -77,7 +79,7 @@ Result<Token> parseTokenAnswer(const QByteArray& body, const QStringList& wanted
         return notAnAnswer();
     if (!grants(answer.value(QStringLiteral("scope")), wanted))
         return Status(ErrorCode::NotSupported,
-                      QStringLiteral("Il consenso dato non comprende l'invio della posta."));
+                      Words::tr("Il consenso dato non comprende l'invio della posta."));
     token.expires = now.toUTC().addSecs(lifetime(answer.value(QStringLiteral("expires_in"))));
     return token;
 }

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -21,7 +22,7 @@ QByteArray textOf(const QJsonObject& content, const char* field) {
 }
 
 Status unreadable(const QString& path, const Status& why) {
-    const QString text = QStringLiteral("Impossibile leggere il file %1").arg(path);
+    const QString text = Words::tr("Impossibile leggere il file %1").arg(path);
     return {why.code(), why.text().isEmpty() ? text + u'.' : text + QStringLiteral(": ") + why.text() + u'.'};
 }
 
@@ -36,10 +37,10 @@ Result<Token> readToken(const QString& path) {
     const QFileInfo there(path);
     if (!there.exists() && !there.isSymLink())
         return Status(ErrorCode::FileNotFound,
-                      QStringLiteral("Manca il consenso del fornitore: nella finestra degli account "
-                                     "accedere con il browser."));
+                      Words::tr("Manca il consenso del fornitore: nella finestra degli account "
+                                "accedere con il browser."));
     if (there.isSymLink())
-        return Status(ErrorCode::PathAccess, QStringLiteral("Il file %1 è un collegamento.").arg(path));
+        return Status(ErrorCode::PathAccess, Words::tr("Il file %1 è un collegamento.").arg(path));
     const Result<QByteArray> bytes = sys::readGuardedFile(path, largestTokenFile);
     if (!bytes.ok() && bytes.status().code() != ErrorCode::Overflow) return unreadable(path, bytes.status());
     QJsonObject content;
@@ -50,8 +51,8 @@ Result<Token> readToken(const QString& path) {
                        token.expires.isValid();
     if (sound) return token;
     return Status(ErrorCode::SyntaxError,
-                  QStringLiteral("Il file %1 è danneggiato: nella finestra degli account accedere di nuovo "
-                                 "con il browser.")
+                  Words::tr("Il file %1 è danneggiato: nella finestra degli account accedere di nuovo "
+                            "con il browser.")
                       .arg(path));
 }
 
@@ -63,7 +64,7 @@ Status writeToken(const QString& folder, const QString& path, const Token& token
     if (status.ok()) status = sys::makeOwnFolder(path.left(path.lastIndexOf(u'/')));
     if (status.ok()) status = sys::replaceOwnFile(path, QJsonDocument(content).toJson());
     if (status.ok()) return status;
-    return {status.code(), QStringLiteral("Impossibile scrivere il file %1.").arg(path)};
+    return {status.code(), Words::tr("Impossibile scrivere il file %1.").arg(path)};
 }
 
 }  // namespace oauth

@@ -7,6 +7,7 @@
 
 #include "platform/oauth/Certificates.h"
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -15,7 +16,7 @@ namespace {
 constexpr qint64 largestAnswer = 64 * 1024;
 
 Status unreachable(const QString& why) {
-    return {ErrorCode::DeviceIo, QStringLiteral("Il fornitore non è raggiungibile: %1").arg(why)};
+    return {ErrorCode::DeviceIo, Words::tr("Il fornitore non è raggiungibile: %1").arg(why)};
 }
 
 QNetworkRequest requestFor(const QUrl& endpoint, const QString& certificateFolder) {
@@ -45,7 +46,7 @@ TokenRequest::TokenRequest(const QString& certificateFolder, QObject* parent)
     : QObject(parent), m_certificateFolder(certificateFolder) {
     m_limit.setSingleShot(true);
     m_limit.setTimerType(Qt::PreciseTimer);
-    connect(&m_limit, &QTimer::timeout, this, [this] { end(unreachable(QStringLiteral("tempo scaduto."))); });
+    connect(&m_limit, &QTimer::timeout, this, [this] { end(unreachable(Words::tr("tempo scaduto."))); });
 }
 
 TokenRequest::~TokenRequest() {
@@ -94,7 +95,7 @@ void TokenRequest::post(const Provider& provider, Form form, int limitMs, Done d
 
 void TokenRequest::onProgress() {
     if (m_reply->bytesAvailable() <= largestAnswer) return;
-    end(Status(ErrorCode::NotSupported, QStringLiteral("La risposta del fornitore è troppo grande.")));
+    end(Status(ErrorCode::NotSupported, Words::tr("La risposta del fornitore è troppo grande.")));
 }
 
 void TokenRequest::onFinished() {
@@ -106,13 +107,13 @@ Result<Token> TokenRequest::outcome() {
     if (status == 0) return unreachable(shown(m_reply->errorString()));
     if (status >= 300 && status < 400)
         return Status(ErrorCode::NotSupported,
-                      QStringLiteral("Il fornitore rimanda a un altro indirizzo, che non viene seguito."));
-    if (status >= 500) return unreachable(QStringLiteral("errore %1 del suo server.").arg(status));
+                      Words::tr("Il fornitore rimanda a un altro indirizzo, che non viene seguito."));
+    if (status >= 500) return unreachable(Words::tr("errore %1 del suo server.").arg(status));
     const bool good = status >= 200 && status < 300;
     if (good && m_reply->error() != QNetworkReply::NoError) return unreachable(shown(m_reply->errorString()));
     Result<Token> token = parseTokenAnswer(m_reply->read(largestAnswer), m_wanted, sys::clock().now());
     if (token.ok() && !good)
-        return Status(ErrorCode::NotSupported, QStringLiteral("La risposta del fornitore non è valida."));
+        return Status(ErrorCode::NotSupported, Words::tr("La risposta del fornitore non è valida."));
     return token;
 }
 
@@ -130,7 +131,7 @@ void TokenRequest::end(const Result<Token>& answer) {
     };
     Result<Token> told = answer;
     if (!answer.ok() && holdsSecret(answer.status().text()))
-        told = Status(answer.status().code(), QStringLiteral("Il fornitore ha rifiutato la richiesta."));
+        told = Status(answer.status().code(), Words::tr("Il fornitore ha rifiutato la richiesta."));
     QMetaObject::invokeMethod(
         this,
         [this, told] {

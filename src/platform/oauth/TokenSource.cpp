@@ -5,6 +5,7 @@
 
 #include "platform/oauth/TokenFile.h"
 #include "platform/system/Clock.h"
+#include "platform/text/Words.h"
 
 namespace oauth {
 
@@ -12,8 +13,8 @@ namespace {
 
 Status needsConsent() {
     return {ErrorCode::InvalidPassword,
-            QStringLiteral("Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra "
-                           "degli account accedere di nuovo con il browser.")};
+            Words::tr("Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra "
+                      "degli account accedere di nuovo con il browser.")};
 }
 
 }  // namespace
@@ -43,8 +44,8 @@ void TokenSource::get(const QString& host, const QString& user, int limitMs, Don
     const std::optional<Provider> provider = providerOf(providers.value(), host);
     if (!provider) {
         done(Status(ErrorCode::PathAccess,
-                    QStringLiteral("Il server %1 non appartiene a un fornitore del file %2: nessun token gli "
-                                   "viene inviato.")
+                    Words::tr("Il server %1 non appartiene a un fornitore del file %2: nessun token gli "
+                              "viene inviato.")
                         .arg(host, providersPath(m_folder))));
         return;
     }

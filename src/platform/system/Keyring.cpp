@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <thread>
 
+#include "platform/text/Words.h"
+
 namespace sys::keyring {
 
 namespace {
@@ -99,7 +101,7 @@ bool hasBus() {
 }
 
 Status missing() {
-    return {ErrorCode::NotSupported, QStringLiteral("Il portachiavi del desktop non c'è.")};
+    return {ErrorCode::NotSupported, Words::tr("Il portachiavi del desktop non c'è.")};
 }
 
 /// GLib ends a program whose session bus goes away; a run would end in its middle.
@@ -170,13 +172,13 @@ Result<QString> run(Call call, const GoOn& goOn) {
     while (coming.wait_for(betweenQuestions) != std::future_status::ready) {
         if (!goOn || goOn(milliseconds(waited.elapsed()))) continue;
         secret->cancel(cancellable.get());
-        return Status(ErrorCode::CancelSelected, QStringLiteral("Attesa del portachiavi interrotta."));
+        return Status(ErrorCode::CancelSelected, Words::tr("Attesa del portachiavi interrotta."));
     }
     const Answer answer = coming.get();
     if (answer.succeeded) return answer.password;
     if (answer.error.isEmpty())
-        return Status(ErrorCode::ItemNotFound, QStringLiteral("Il portachiavi non ha questa password."));
-    return Status(ErrorCode::PathAccess, QStringLiteral("Il portachiavi non risponde: ") + answer.error);
+        return Status(ErrorCode::ItemNotFound, Words::tr("Il portachiavi non ha questa password."));
+    return Status(ErrorCode::PathAccess, Words::tr("Il portachiavi non risponde: ") + answer.error);
 }
 
 }  // namespace
@@ -216,8 +218,7 @@ Result<QString> store(const Binding& binding, const QString& password, const QSt
     if (!kept.ok()) return kept.status();
     if (kept.value() == password) return marker;
     static_cast<void>(remove(marker, goOn));
-    return Status(ErrorCode::PathAccess,
-                  QStringLiteral("Il portachiavi non conserva la password così com'è."));
+    return Status(ErrorCode::PathAccess, Words::tr("Il portachiavi non conserva la password così com'è."));
 }
 
 Result<QString> lookUp(const QString& marker, const Binding& binding, const GoOn& goOn) {

@@ -8,6 +8,7 @@
 
 #include "platform/system/FileModes.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/Words.h"
 
 namespace sys {
 
@@ -20,7 +21,7 @@ Status refused(const QString& path, const QString& why) {
 }
 
 Status noAccess(const QString& path) {
-    return refused(path, QStringLiteral("Errore di accesso al percorso/file"));
+    return refused(path, Words::tr("Errore di accesso al percorso/file"));
 }
 
 /// Links of the user himself and of the administrator lead where these want them to.
@@ -37,12 +38,12 @@ bool hasSecondName(int file) {
 QString objection(int file, FileKind kind) {
     if (kind == FileKind::Document) return {};
     struct stat found {};
-    if (::fstat(file, &found) != 0 || !S_ISREG(found.st_mode)) return QStringLiteral("Non è un file");
-    if (found.st_nlink != 1) return QStringLiteral("Il percorso è un collegamento");
+    if (::fstat(file, &found) != 0 || !S_ISREG(found.st_mode)) return Words::tr("Non è un file");
+    if (found.st_nlink != 1) return Words::tr("Il percorso è un collegamento");
     if (kind == FileKind::Own) return {};
-    if (found.st_uid != ::geteuid()) return QStringLiteral("Il file appartiene a un altro utente");
+    if (found.st_uid != ::geteuid()) return Words::tr("Il file appartiene a un altro utente");
     if ((found.st_mode & 0777) != ownerOnly && keepsModes(file) && ::fchmod(file, ownerOnly) != 0)
-        return QStringLiteral("Il file può essere letto da altri utenti");
+        return Words::tr("Il file può essere letto da altri utenti");
     return {};
 }
 
@@ -94,11 +95,10 @@ FileKind kindByFolder(const QString& path) {
 Status openForWriting(QFile& file, const QString& path, WriteMode mode, FileKind kind) {
     if (path.isEmpty()) return noAccess(path);
     if (kind == FileKind::Document ? !mayFollow(path) : !folderIsSafe(path))
-        return refused(path, QStringLiteral("Il percorso è un collegamento di un altro utente"));
+        return refused(path, Words::tr("Il percorso è un collegamento di un altro utente"));
     const int opened = openWithoutLinks(QFile::encodeName(path), mode, kind);
     if (opened < 0) {
-        return errno == ELOOP ? refused(path, QStringLiteral("Il percorso è un collegamento"))
-                              : noAccess(path);
+        return errno == ELOOP ? refused(path, Words::tr("Il percorso è un collegamento")) : noAccess(path);
     }
     const QString why = objection(opened, kind);
     const bool ready = why.isEmpty() && (mode == WriteMode::Append || ::ftruncate(opened, 0) == 0 ||

@@ -11,6 +11,7 @@
 
 #include "platform/system/FileModes.h"
 #include "platform/system/OutputFile.h"
+#include "platform/text/Words.h"
 
 namespace sys {
 
@@ -21,7 +22,7 @@ Status failure() {
         case ENOENT:
             return {ErrorCode::FileNotFound, QString()};
         case EWOULDBLOCK:
-            return {ErrorCode::FileInUse, QStringLiteral("Il file è in uso")};
+            return {ErrorCode::FileInUse, Words::tr("Il file è in uso")};
         case ENOSPC:
         case EIO:
         case EDQUOT:
@@ -138,19 +139,19 @@ Result<QByteArray> readOwnFilePart(const QString& path, qint64 offset, qint64 si
 
 Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others others) {
     if (!folderIsSafe(path) || !mayFollow(path))
-        return Status(ErrorCode::PathAccess,
-                      QStringLiteral("%1 è un collegamento di un altro utente").arg(path));
+        return Status(ErrorCode::PathAccess, Words::tr("%1 è un collegamento di un altro utente").arg(path));
     const Open open(QFileInfo(path).canonicalFilePath(), O_RDONLY | O_NONBLOCK);
     struct stat found {};
     if (open.get() < 0 || ::fstat(open.get(), &found) != 0) return failure();
     const bool owned = found.st_uid == ::geteuid() || found.st_uid == 0;
     const mode_t tooMuch = others == Others::Nothing ? 077 : 022;
     if (!S_ISREG(found.st_mode) || !owned || ((found.st_mode & tooMuch) != 0 && keepsModes(open.get())))
-        return Status(ErrorCode::PathAccess,
-                      QStringLiteral("altri utenti possono %1 %2: deve essere un file dell'utente con i "
-                                     "permessi %3")
-                          .arg(others == Others::Nothing ? "leggere o scrivere" : "scrivere", path,
-                               others == Others::Nothing ? "600" : "644"));
+        return Status(
+            ErrorCode::PathAccess,
+            Words::tr("altri utenti possono %1 %2: deve essere un file dell'utente con i "
+                      "permessi %3")
+                .arg(others == Others::Nothing ? Words::tr("leggere o scrivere") : Words::tr("scrivere"),
+                     path, others == Others::Nothing ? "600" : "644"));
     return readUpTo(open.get(), limit);
 }
 FileLock::FileLock(FileLock&& other) noexcept

@@ -11,6 +11,7 @@
 
 #include "platform/system/OwnFile.h"
 #include "platform/system/OwnProgram.h"
+#include "platform/text/Words.h"
 
 namespace sys {
 
@@ -56,7 +57,7 @@ QByteArray digestOf(const QString& path) {
 
 Status replaceFile(const QString& path, const QByteArray& bytes) {
     if (replaceOwnFile(path, bytes).ok()) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + path};
+    return {ErrorCode::PathAccess, Words::tr("Impossibile scrivere il file ") + path};
 }
 
 bool makeFolder(const QString& folder) {
@@ -79,7 +80,7 @@ Status restoreFile(const QString& folder, const QString& templates, const QStrin
     // A link that leads nowhere is somebody's doing.
     if (!installed.isFile() || own.exists() || own.isSymLink()) return {};
     if (makeFolder(own.path()) && copyFile(installed, own.path())) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Impossibile scrivere il file ") + own.filePath()};
+    return {ErrorCode::PathAccess, Words::tr("Impossibile scrivere il file ") + own.filePath()};
 }
 
 }  // namespace
@@ -120,9 +121,8 @@ Status fillProgramFolder(const QString& folder, const QString& templates) {
                         copyFiles(templates, folder) &&
                         copyFiles(templates + QStringLiteral("/data"), unfinished) &&
                         QDir().rename(unfinished, data);
-    return filled
-               ? Status()
-               : Status(ErrorCode::PathAccess, QStringLiteral("Impossibile preparare la cartella ") + folder);
+    return filled ? Status()
+                  : Status(ErrorCode::PathAccess, Words::tr("Impossibile preparare la cartella ") + folder);
 }
 
 Status renewTexts(const QString& folder, const QString& templates) {

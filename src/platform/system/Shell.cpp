@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <QUrl>
 
+#include "platform/text/Words.h"
+
 namespace sys {
 
 Status openAddress(const QString& address) {
@@ -10,7 +12,7 @@ Status openAddress(const QString& address) {
     const bool known = scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
                        scheme == QLatin1String("mailto") || scheme == QLatin1String("file");
     if (known && QProcess::startDetached(QStringLiteral("xdg-open"), {address})) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Impossibile aprire ") + address};
+    return {ErrorCode::PathAccess, Words::tr("Impossibile aprire ") + address};
 }
 
 }  // namespace sys

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "platform/text/AnsiCodec.h"
+#include "platform/text/Words.h"
 
 namespace sys {
 
@@ -11,7 +12,7 @@ TextWriter::~TextWriter() {
 }
 
 Status TextWriter::writeFailed() const {
-    return Status(ErrorCode::DeviceIo, QStringLiteral("Errore di I/O del dispositivo"))
+    return Status(ErrorCode::DeviceIo, Words::tr("Errore di I/O del dispositivo"))
         .about(m_path.toStdU16String());
 }
 

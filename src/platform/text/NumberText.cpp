@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/text/Blanks.h"
+#include "platform/text/Words.h"
 
 namespace text {
 
@@ -40,10 +41,10 @@ double parse(bool negative, QStringView whole, QStringView decimals) {
 }
 
 Status typeMismatch() {
-    return {ErrorCode::TypeMismatch, QStringLiteral("Tipo non corrispondente")};
+    return {ErrorCode::TypeMismatch, Words::tr("Tipo non corrispondente")};
 }
 Status overflow() {
-    return {ErrorCode::Overflow, QStringLiteral("Overflow")};
+    return {ErrorCode::Overflow, Words::tr("Overflow")};
 }
 
 template <class Integer>

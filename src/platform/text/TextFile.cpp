@@ -4,6 +4,7 @@
 #include <QStringConverter>
 
 #include "platform/text/AnsiCodec.h"
+#include "platform/text/Words.h"
 
 namespace text {
 
@@ -15,10 +16,10 @@ Status failed(ErrorCode code, const QString& text, const QString& path) {
     return Status(code, text).about(path.toStdU16String());
 }
 Status pathAccess(const QString& path) {
-    return failed(ErrorCode::PathAccess, QStringLiteral("Errore di accesso al percorso/file"), path);
+    return failed(ErrorCode::PathAccess, Words::tr("Errore di accesso al percorso/file"), path);
 }
 Status deviceIo(const QFile& file) {
-    return failed(ErrorCode::DeviceIo, QStringLiteral("Errore di I/O del dispositivo"), file.fileName());
+    return failed(ErrorCode::DeviceIo, Words::tr("Errore di I/O del dispositivo"), file.fileName());
 }
 
 qsizetype findLineEnd(QByteArrayView bytes, LineEnds ends) {
@@ -55,7 +56,7 @@ bool isUtf8(QFile& file) {
 Status openForInput(QFile& file, const QString& path) {
     const QFileInfo info(path);
     if (path.isEmpty() || !info.exists()) {
-        return failed(ErrorCode::FileNotFound, QStringLiteral("Impossibile trovare il file"), path);
+        return failed(ErrorCode::FileNotFound, Words::tr("Impossibile trovare il file"), path);
     }
     if (!info.isFile()) return pathAccess(path);
     file.setFileName(path);
@@ -155,7 +156,7 @@ bool LineReader::nextLine(QString& line) {
 Status LineReader::readLine(QString& line) {
     if (nextLine(line)) return {};
     if (!m_status.ok()) return m_status;
-    return failed(ErrorCode::InputPastEnd, QStringLiteral("Input oltre la fine del file"), m_file.fileName());
+    return failed(ErrorCode::InputPastEnd, Words::tr("Input oltre la fine del file"), m_file.fileName());
 }
 
 }  // namespace text
