@@ -148,7 +148,7 @@ void changeOutside(const std::string& path, int number) {
     const auto database = demand(jet::Database::open(path));
     jet::Table& table = *demand(database->table("tb_destinatari"));
     const auto id = demand(table.findByPrimaryKey(number));
-    const std::pair<size_t, jet::Value> change{2, "Ditta " + std::to_string(number)};
+    const std::pair<size_t, jet::Value> change{2, "Ditta " + std::to_string(getpid())};
     demand(database->begin());
     demand(table.update(*id, {&change, 1}));
     demand(database->commit());

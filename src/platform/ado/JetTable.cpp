@@ -1,6 +1,7 @@
 #include "platform/ado/JetTable.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ado {
 
@@ -46,17 +47,20 @@ Result<std::optional<jet::RowId>> JetTable::findByPrimaryKey(int32_t key) {
 }
 
 Result<std::shared_ptr<const RowOrder>> JetTable::order(const OrderSpec& spec) {
+    const Result<jet::Table*> source = table();
+    if (!source.ok()) return source.status();
+    renew(*source.value());
     const auto known =
         std::find_if(m_orders.begin(), m_orders.end(), [&](const auto& o) { return o->spec() == spec; });
     if (known != m_orders.end()) {
         std::rotate(known, known + 1, m_orders.end());
         return std::shared_ptr<const RowOrder>(m_orders.back());
     }
-    const Result<jet::Table*> source = table();
-    if (!source.ok()) return source.status();
     auto made = std::make_shared<RowOrder>(spec);
-    const Status status = made->fill(*source.value());
-    if (!status.ok()) return status;
+    if (Status status = made->fill(*source.value()); !status.ok()) return status;
+    if (m_prints.empty() && made->size() >= longOrder &&
+        !source.value()->scanChanged(m_prints, [](jet::RowId, const jet::RowView&) { return false; }).ok())
+        m_prints = {};
     if (m_orders.size() == keptOrders) m_orders.erase(m_orders.begin());
     m_orders.push_back(made);
     return std::shared_ptr<const RowOrder>(made);
@@ -95,6 +99,7 @@ Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {
     if (!target.ok()) return target.status();
     countMove([](const RowOrder&) { return true; });
     Result<jet::RowId> id = target.value()->insert(values);
+    if (id.ok()) m_prints.forget(id.value().page);
     if (!id.ok() || m_orders.empty()) return id;
     StoredRow row;
     if (Status status = read(id.value(), row); !status.ok()) return status;
@@ -115,6 +120,7 @@ Status JetTable::update(jet::RowId id, std::span<const std::pair<size_t, jet::Va
                            [&](const auto& change) { return order.spec().uses(change.first); });
     };
     countMove(affected);
+    m_prints.forget(id.page);
     const bool moves =
         std::any_of(m_orders.begin(), m_orders.end(), [&](const auto& order) { return affected(*order); });
     StoredRow old;
@@ -144,6 +150,8 @@ Result<std::optional<int64_t>> JetTable::setYesNo(size_t column, bool value,
                                                   const std::function<bool()>& goOn) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
+    m_before.clear();
+    m_prints = {};
     auto rows = target.value()->setYesNo(column, value, goOn);
     if (!rows.ok() || rows.value())
         std::erase_if(m_orders, [&](const auto& order) { return order->spec().uses(column); });
@@ -154,6 +162,7 @@ Status JetTable::erase(jet::RowId id) {
     const Result<jet::Table*> target = table();
     if (!target.ok()) return target.status();
     countMove([](const RowOrder&) { return true; });
+    m_prints.forget(id.page);
     if (!m_orders.empty()) {
         StoredRow row;
         if (Status status = read(id, row); !status.ok()) return status;
@@ -170,6 +179,41 @@ Status JetTable::erase(jet::RowId id) {
 void JetTable::forget() {
     m_table = nullptr;
     m_orders.clear();
+    m_before.clear();
+    m_prints = {};
+}
+
+/// What was made before the last change and not wanted since stays as it was; pages that were changed here
+/// meanwhile count as changed.
+void JetTable::changedOutside() {
+    m_table = nullptr;
+    m_before.insert(m_before.end(), m_orders.begin(), m_orders.end());
+    m_orders.clear();
+    if (m_prints.empty()) m_before.clear();
+    if (m_before.empty()) m_prints = {};
+}
+
+/// Before an order is looked for: brings those of before a change from outside in line with the table. One
+/// that cannot be, or in which too many rows may have moved, is made anew when it is wanted.
+void JetTable::renew(jet::Table& table) {
+    const auto before = std::exchange(m_before, {});
+    if (before.empty()) return;
+    std::vector<std::pair<jet::RowId, jet::Bytes>> rows;
+    const auto pages = table.scanChanged(m_prints, [&](jet::RowId id, const jet::RowView& row) {
+        rows.emplace_back(id, jet::Bytes(row.bytes().begin(), row.bytes().end()));
+        return rows.size() <= mostMoves;
+    });
+    if (!pages.ok()) m_prints = {};
+    if (!pages.ok() || rows.size() > mostMoves) return;
+    for (const auto& order : before) {
+        auto renewed = std::make_shared<RowOrder>(order->without(pages.value()));
+        const OrderSpec& spec = renewed->spec();
+        const bool right = std::all_of(rows.begin(), rows.end(), [&](const auto& row) {
+            const jet::RowView view(&m_definition, row.second);
+            return !spec.holds(view) || renewed->add(table, spec.keyOf(view), row.first).ok();
+        });
+        if (right) m_orders.push_back(std::move(renewed));
+    }
 }
 
 bool JetTable::stillTheSame() {

@@ -8,6 +8,7 @@
 
 #include "platform/ado/RowOrder.h"
 #include "platform/jet/Database.h"
+#include "platform/jet/PagePrints.h"
 #include "platform/Status.h"
 
 namespace ado {
@@ -20,8 +21,9 @@ struct StoredRow {
 
 /// One table of an open database as statements and recordsets use it: its rows, and the orders of them that
 /// were asked for. An order is made by one walk over the table and afterwards follows each row that is
-/// written through here; it is forgotten when the file was changed by somebody else or a transaction was
-/// undone.
+/// written through here; it is forgotten when a transaction was undone. After the file was changed by
+/// somebody else only the rows on pages that differ are sorted again, where the table is long enough to make
+/// that worth while.
 class JetTable {
   public:
     /// `table` belongs to `database`, which outlives this.
@@ -51,6 +53,8 @@ class JetTable {
     void beginStatement() { m_moves = 0; }
     /// Drops everything that was learnt from the file.
     void forget();
+    /// Somebody else has changed the file.
+    void changedOutside();
     /// Whether the file still holds the table with the same columns.
     bool stillTheSame();
 
@@ -60,15 +64,19 @@ class JetTable {
     void countMove(Affected affected);
     template <class Mend>
     void mend(Mend mend);
+    void renew(jet::Table& table);
 
     static constexpr size_t keptOrders = 8;
-    static constexpr int mostMoves = 4000;  ///< about where mending costs as much as making anew
+    static constexpr size_t mostMoves = 4000;  ///< about where mending costs as much as making anew
+    static constexpr size_t longOrder = 10000;
 
     jet::Database& m_database;
     jet::TableDefinition m_definition;
     jet::Table* m_table = nullptr;                    ///< null until it is needed
     std::vector<std::shared_ptr<RowOrder>> m_orders;  ///< the most recently used one last
-    int m_moves = 0;                                  ///< of rows in orders, in this statement
+    std::vector<std::shared_ptr<RowOrder>> m_before;  ///< as they were before a change from outside
+    jet::PagePrints m_prints;  ///< all orders are right for pages that are still as these say; none: no pages
+    size_t m_moves = 0;        ///< of rows in orders, in this statement
 };
 
 }  // namespace ado

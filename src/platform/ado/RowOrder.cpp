@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <optional>
 #include <string>
 
@@ -62,6 +63,20 @@ Status RowOrder::fill(jet::Table& table) {
     for (size_t i = 0; i < rows.count(); ++i)
         append({KeySort::word(rows.key(i), 0), rows.id(i)});
     return {};
+}
+
+size_t RowOrder::size() const {
+    return std::accumulate(m_blocks.begin(), m_blocks.end(), size_t{0},
+                           [](size_t sum, const Block& block) { return sum + block.size(); });
+}
+
+RowOrder RowOrder::without(const std::vector<bool>& pages) const {
+    RowOrder rest(m_spec);
+    for (const Block& block : m_blocks)
+        for (const Entry& entry : block)
+            if (const uint32_t page = entry.row().page; page >= pages.size() || !pages[page])
+                rest.append(entry);
+    return rest;
 }
 
 /// Whether an entry stands before that key and identity.

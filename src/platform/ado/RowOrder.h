@@ -32,6 +32,9 @@ class RowOrder {
 
     /// Takes over the rows of the table that belong here.
     Status fill(jet::Table& table);
+    size_t size() const;
+    /// This order without the rows of those pages.
+    RowOrder without(const std::vector<bool>& pages) const;
     /// Adds the row with that key. After a failure the order is of no use any more.
     Status add(jet::Table& table, std::string_view key, jet::RowId id);
     /// Removes the row that had that key when it was added; it may have another one in the table by now. The

@@ -240,8 +240,9 @@ Session::~Session() {
 }
 
 Status Session::start() {
+    constexpr int oneThread = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
     const auto works = [](int code) { return code == SQLITE_OK; };
-    const bool ready = works(sqlite3_open(":memory:", &m_sqlite)) &&
+    const bool ready = works(sqlite3_open_v2(":memory:", &m_sqlite, oneThread, nullptr)) &&
                        works(sqlite3_create_module(m_sqlite, "jet", &jetModule, this)) &&
                        works(sqlite3_create_collation(m_sqlite, "JET", SQLITE_UTF8, nullptr, compareTexts));
     if (!ready) return {ErrorCode::DeviceIo, QStringLiteral("Impossibile avviare il motore SQL.")};
@@ -256,7 +257,9 @@ Status Session::refresh() {
     const Result<bool> changed = m_database->refresh();
     if (!changed.ok()) return changed.status();
     if (changed.value()) {
-        forget();
+        ++m_epoch;
+        for (auto& [name, table] : m_tables)
+            table->changedOutside();
         m_outdated = m_outdated || !std::all_of(m_tables.begin(), m_tables.end(), [](const auto& table) {
                          return table.second->stillTheSame();
                      });

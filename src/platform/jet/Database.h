@@ -70,6 +70,7 @@ class RowView {
 
 class Database;
 struct Engine;
+class PagePrints;
 struct TableState;
 
 /// Rows and indexes of one local table of an open database. Owned by the Database; valid as long as it is
@@ -93,6 +94,11 @@ class Table {
     /// or False in a yes/no column. An index that begins with the column is used where few rows have the
     /// number and the index is one that the engine would keep.
     Status scanGroup(size_t column, int64_t number, const std::function<bool(RowId, const RowView&)>& visit);
+    /// Calls `visit`, until it returns false, for each row on a page that holds something else than `prints`
+    /// say, which are of the pages as they are now then; and tells these pages, by number, with those that
+    /// are no longer the table's. The page of a row is that of its identity.
+    Result<std::vector<bool>> scanChanged(PagePrints& prints,
+                                          const std::function<bool(RowId, const RowView&)>& visit);
     /// The row of that identity; no row there is an empty optional.
     Result<std::optional<RowView>> row(RowId id);
     /// One value, following memo and OLE values to their pages.

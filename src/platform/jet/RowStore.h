@@ -3,10 +3,13 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <utility>
+#include <vector>
 
 #include "platform/jet/Database.h"
 #include "platform/jet/DataPages.h"
 #include "platform/jet/PageFile.h"
+#include "platform/jet/PagePrints.h"
 #include "platform/jet/PageRoom.h"
 #include "platform/jet/PageWalk.h"
 #include "platform/jet/UsageMap.h"
@@ -32,6 +35,9 @@ class RowStore {
     void scan(const Visit& visit) const {
         scan({}, visit);
     }
+
+    /// What the pages hold, and for each row that has moved its page and that of its body.
+    PagePrints prints(std::vector<std::pair<uint32_t, uint32_t>>& moved) const;
 
     /// Bytes of a row, valid as long as the page is held.
     struct Stored {

@@ -20,6 +20,9 @@ constexpr int longList = 20000;  // everything takes ten times as long there
 constexpr int longList = 100000;
 #endif
 
+/// Enough that an order of it is mended, not made anew, after a change from outside.
+constexpr int mendedList = 15000;
+
 class OrdersTest : public ado::TestDatabase {
   protected:
     /// Many recipients in one transaction of the engine, with few different names so that many are equal.
@@ -179,6 +182,56 @@ TEST_F(OrdersTest, WhatAnotherProgramWritesIsSeenByTheNextRecordset) {
     EXPECT_EQ(after, std::vector<qint64>(before.begin() + 1, before.end()));
     run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(after[0]));
     EXPECT_EQ(ids(queue), std::vector<qint64>(before.begin() + 2, before.end()));
+}
+
+TEST_F(OrdersTest, ALongListIsRightWhateverTwoProgramsChange) {
+    fill(mendedList);
+    const char* groupListing = "SELECT * FROM tb_destinatari WHERE id_grp = 2 ORDER BY rgs ASC;";
+    std::mt19937 random(17);
+    const auto some = [&] { return static_cast<int32_t>(1 + random() % 300); };
+    for (int round = 0; round < 12; ++round) {
+        if (round % 4 != 3)
+            ids(groupListing);  // else a change from outside meets the orders before it is seen
+        ASSERT_EQ(ids(queue), expected(1, -1)) << round;
+        // What this program takes out of the queue the other puts back: the page is as it was then.
+        const int32_t taken = some();
+        run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(taken));
+        auto other = jet::Database::open(path.toStdString());
+        ASSERT_TRUE(other.ok());
+        auto table = other.value()->table("tb_destinatari");
+        ASSERT_TRUE(table.ok());
+        ASSERT_TRUE(other.value()->begin().ok());
+        const auto change = [&](int32_t id, size_t column, const jet::Value& value) {
+            const auto row = table.value()->findByPrimaryKey(id);
+            if (!row.ok() || !row.value()) return;
+            const std::pair<size_t, jet::Value> one{column, value};
+            const Status status = table.value()->update(*row.value(), {&one, 1});
+            EXPECT_TRUE(status.ok()) << ado::words(status);
+        };
+        const size_t longest = table.value()->definition().columns[2].length / 2u;
+        change(taken, 21, true);
+        for (int i = 0; i < 10; ++i)
+            change(some(), 21, random() % 2 == 0);
+        change(some(), 2, std::string(longest, 'l'));  // moves a row, or the body of one
+        change(some(), 2, "Corta " + std::to_string(round));
+        change(some(), 1, int64_t{2});
+        if (const auto row = table.value()->findByPrimaryKey(some()); row.ok() && row.value()) {
+            EXPECT_TRUE(table.value()->erase(*row.value()).ok());
+        }
+        std::vector<jet::Value> added(22);
+        added[1] = int64_t{2};
+        added[2] = "Nuova " + std::to_string(round);
+        added[21] = true;
+        EXPECT_TRUE(table.value()->insert(added).ok());
+        ASSERT_TRUE(other.value()->commit().ok());
+        other.value().reset();
+        if (round % 2 == 0) {
+            run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(taken));
+            run(QStringLiteral("UPDATE [tb_destinatari] SET rgs = 'Qui' WHERE [id] = %1;").arg(some()));
+        }
+        ASSERT_EQ(ids(queue), expected(1, -1)) << round;
+        ASSERT_EQ(ids(groupListing), expected(-1, 2)) << round;
+    }
 }
 
 TEST_F(OrdersTest, ANameThatLeadsToAnotherFileNowIsFollowedAtOnce) {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace jet {
+
+/// What each page of a table held at some moment, in eight bytes, so that it can be told later which of them
+/// have changed. Taken and renewed by Table::scanChanged().
+class PagePrints {
+  public:
+    bool empty() const { return m_pages.empty(); }
+    size_t size() const { return m_pages.size(); }
+    /// The page counts as changed, whatever it holds.
+    void forget(uint32_t page) {
+        if (page < m_pages.size()) m_pages[page] = unknown;
+    }
+    /// A page of the table holds something of that digest.
+    void set(uint32_t page, uint64_t digest) {
+        if (page >= m_pages.size()) m_pages.resize(page + size_t{1}, noPage);
+        m_pages[page] = std::max(digest, leastDigest);
+    }
+    bool has(uint32_t page) const { return page < m_pages.size() && m_pages[page] != noPage; }
+    bool sameAs(const PagePrints& other, uint32_t page) const {
+        return print(page) == other.print(page) && print(page) != unknown;
+    }
+
+  private:
+    static constexpr uint64_t noPage = 0;  ///< it is none of the table
+    static constexpr uint64_t unknown = 1;
+    static constexpr uint64_t leastDigest = 2;
+    uint64_t print(uint32_t page) const { return page < m_pages.size() ? m_pages[page] : noPage; }
+
+    std::vector<uint64_t> m_pages;  ///< by page number
+};
+
+}  // namespace jet
