@@ -4,7 +4,7 @@
 #include "platform/jet/AutoNumber.h"
 #include "platform/jet/Engine.h"
 #include "platform/jet/IndexTree.h"
-#include "platform/jet/LongValue.h"
+#include "platform/jet/LongColumns.h"
 #include "platform/jet/Row.h"
 #include "platform/jet/StatementRules.h"
 #include "platform/jet/ValueCodec.h"
@@ -13,50 +13,6 @@
 namespace jet {
 
 namespace {
-
-bool isLong(const Column& column) {
-    return column.type == Type::Memo || column.type == Type::Ole;
-}
-
-// A memo or OLE value that changes: what is to be stored, nothing for Null or where it is in the row already,
-// and the rows of the value before.
-struct LongChange {
-    const Column* column;
-    std::optional<Bytes> content;
-    std::vector<RowId> before;
-};
-using LongChanges = std::vector<LongChange>;
-
-// Puts a memo value, or Null, into the row. What needs other pages has its length there and is left to
-// storeLong().
-LongChange setLong(Row& row, const Column& column, const Value& value) {
-    LongChange change{&column, encodeValue(column, value), {}};
-    if (!change.content) {
-        row.set(column, {});
-    } else if (std::optional<Bytes> inRow = longValueInRow(*change.content)) {
-        row.setStored(column, std::move(inRow));
-        change.content.reset();
-    } else {
-        Bytes head(longValueHead);
-        store32(head.data(), static_cast<uint32_t>(change.content->size()));
-        row.setStored(column, std::move(head));
-    }
-    return change;
-}
-
-void storeLong(TableState& state, Row& row, const LongChanges& changes) {
-    for (const LongChange& change : changes) {
-        LongValuePages& pages = state.pagesOf(*change.column);
-        pages.free(change.before);
-        if (change.content) row.setStored(*change.column, pages.store(*change.content));
-    }
-}
-
-bool sameLongValue(const TableState& state, const Row& stored, const Column& column, const Value& value) {
-    const StoredField old = stored.field(column);
-    if (old.null) return std::holds_alternative<std::monostate>(value);
-    return decodeValue(column, readLongValue(state.file, old.bytes)) == value;
-}
 
 // A column that can be written again without changing the row is no obstacle.
 bool changes(const TableState& state, const Row& old, Row& row, const Column& column, const Value& value) {
@@ -69,7 +25,9 @@ void insertEntry(TableState& state, size_t position, const Row& row, const Bytes
     const TableDefinition& table = state.definition;
     const Index& index = table.indexes[position];
     if (!isIndexed(table, index, fieldsOf(row))) return;
-    assert(key.size() <= longestKey);  // K5
+    assert(key.size() <= longestKey);                                              // K5
+    assert(state.provedIndexes.contains(position));                                // K2, K3
+    assert(possibleKeys(table, index, fieldsOf(row)) == std::vector<Bytes>{key});  // K1
     IndexTree(state.file, table, index).insert(key, id);
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, 1);
 }
@@ -79,6 +37,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
     const TableDefinition& table = state.definition;
     const Index& index = table.indexes[position];
     if (!isIndexed(table, index, fieldsOf(row))) return;
+    assert(state.provedIndexes.contains(position));  // K2
     IndexTree tree(state.file, table, index);
     const std::vector<Bytes> keys = possibleKeys(table, index, fieldsOf(row));
     bool erased =
@@ -89,19 +48,6 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
     }
     if (!erased) failDamaged("nell'indice \"", index.name, "\" manca una riga");
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
-}
-
-// Where a row's memo and OLE values lie on other pages.
-using LongRows = std::vector<std::pair<const Column*, std::vector<RowId>>>;
-
-LongRows longRowsOf(const TableState& state, const Row& row) {
-    LongRows all;
-    for (const Column& column : state.definition.columns) {
-        if (!isLong(column)) continue;
-        const StoredField field = row.field(column);
-        if (!field.null) all.emplace_back(&column, longValueRows(state.file, field.bytes));
-    }
-    return all;
 }
 
 // Runs the part of a change that writes. When it fails half the change may stand, so the transaction is lost.
@@ -123,31 +69,6 @@ void requireTransaction(const TableState& state) {
 }
 
 }  // namespace
-
-LongValuePages& TableState::pagesOf(const Column& column) {
-    return longValues.try_emplace(column.number, file, column).first->second;
-}
-
-int32_t TableState::lastAutoNumber() {
-    return static_cast<int32_t>(load32(&(*file.page(definition.page))[definition::autoNumber]));
-}
-
-void TableState::setAutoNumber(int32_t last) {
-    store32(&file.change(definition.page)[definition::autoNumber], static_cast<uint32_t>(last));
-}
-
-void TableState::addToRowCount(int change) {
-    uint8_t* count = &file.change(definition.page)[definition::rowCount];
-    if (change > 0 || load32(count) > 0) store32(count, load32(count) + static_cast<uint32_t>(change));
-}
-
-// The number of different keys is exact in a unique index only; elsewhere nobody keeps it so, and it stays.
-void TableState::addToKeyCount(size_t index, int change) {
-    const size_t at = definition::indexCounts + index * definition::indexCountLength + 4;
-    if (!definition.indexes[index].unique || at + 4 > pageSize) return;
-    uint8_t* count = &file.change(definition.page)[at];
-    if (change > 0 || load32(count) > 0) store32(count, load32(count) + static_cast<uint32_t>(change));
-}
 
 Status Table::writable() {
     return guarded([&]() -> Status {
