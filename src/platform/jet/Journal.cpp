@@ -136,6 +136,7 @@ void Journal::start(const OsFile& database, const FileRights& rights, uint32_t p
     if (m_syncOwed) m_file.sync();
     m_syncOwed = false;
     m_file.takeRights(database, m_rights, rights);
+    assert((m_file.rights().mode & ~rights.mode) == 0);  // J8
     // Kept: making one asks the processor what it can do, a quarter of a small transaction.
     static std::random_device random;
     m_header = {pages, static_cast<uint64_t>(random()) << 32 | random(), 0};
@@ -237,6 +238,7 @@ void Journal::recover(OsFile& database) {
         case journal::HeaderState::Valid:
             break;
     }
+    assert(database.isHeld(Range::Writer) && database.isHeld(Range::Content));  // J3
     const JournalReplay replay(file, header, database);
     if (!replay.fits()) return setAside();
     replay.putBack(database);
@@ -249,7 +251,7 @@ void Journal::recover(OsFile& database) {
 void Journal::setAside() {
     const std::string wanted = m_path + ".scartato";
     std::string name = wanted;
-    for (int n = 2; !OsFile::rename(m_path, name, false); ++n) {
+    for (int n = 2; !OsFile::rename(m_path, name, false); ++n) {  // J5: no other one is replaced
         if (n > 999) fail(ErrorCode::PathAccess, "Troppi file \"", wanted, "\".");
         name = phrase(wanted, "-", n);
     }

@@ -262,6 +262,17 @@ bool OsFile::lockedByOthers() const {
     return ::fcntl(m_fd, F_OFD_GETLK, &request) != 0 || request.l_type != F_UNLCK;
 }
 
+bool OsFile::isHeld(Range range) const {
+    // Who has opened the file anew is one of the others.
+    const int other = ::open(phrase("/proc/self/fd/", m_fd).c_str(), O_RDONLY | O_CLOEXEC);
+    if (other < 0) return true;
+    struct flock request = requestFor(range);
+    request.l_type = F_RDLCK;
+    const bool held = ::fcntl(other, F_OFD_GETLK, &request) != 0 || request.l_type == F_WRLCK;
+    ::close(other);
+    return held;
+}
+
 bool OsFile::exists(const std::string& path) {
     struct stat s;
     return ::lstat(path.c_str(), &s) == 0;

@@ -99,6 +99,10 @@ class OsFile {
     bool lockedByOthers(Range range) const;
     bool lockedByOthers() const;
 
+    /// For asserts: whether this open file holds a lock that keeps all others out of the range; true as well
+    /// where that cannot be asked.
+    bool isHeld(Range range) const;
+
     /// Whether the name is taken, be it by a link that leads nowhere.
     static bool exists(const std::string& path);
     static void remove(const std::string& path);

@@ -193,6 +193,7 @@ void PageFile::beginWrite() {
         throw;
     }
     assert(m_changed.empty() && !m_journal.started());
+    assert(m_file.isHeld(OsFile::Range::Writer));  // L2
     m_writing = true;
     m_pagesWritten = false;
     m_originalPages = m_pageCount;
@@ -262,6 +263,8 @@ void PageFile::writeChanged() {
         m_journal.announce(n, inFileForm(n, *page));
     lockPages();
     assert(m_journal.inForce());  // J1
+    assert(m_file.isHeld(OsFile::Range::Writer) && m_file.isHeld(OsFile::Range::Author) &&
+           m_file.isHeld(OsFile::Range::Content));  // L1
     m_pagesWritten = true;
     // Pages that are neighbours are written together.
     std::vector<uint8_t> bytes;

@@ -1,4 +1,5 @@
 // The locks of a PageFile: other processes are kept out, what a dead one left is rolled back.
+#include <cassert>
 #include <chrono>
 
 #include "platform/jet/Failure.h"
@@ -74,6 +75,7 @@ bool PageFile::isJournalLeft() const {
 
 // Invariant J3, for a reader. Another process may have done it while this one waited.
 void PageFile::recover() {
+    assert(m_readers == 0 && !m_writing);  // J3
     OsFile file;
     try {
         file = OsFile(m_path, OsFile::Access::ReadWrite);
@@ -121,6 +123,7 @@ void PageFile::lockPages() {
         fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
     m_journal.sync();
     if (m_pagesWritten) return;
+    assert(m_file.isHeld(Range::Writer));  // L2: never waited for with the content locked
     lockContent(m_file, Lock::Exclusive, m_limits.lockWait);
     requireInPlace();
 }

@@ -55,6 +55,7 @@ RowId RowStore::put(std::span<const uint8_t> row, uint16_t flags) {
         makeDataPage(m_file.change(*number), m_definition.page);
         UsageMap(m_file, m_definition.ownedMap).set(*number, true);
         m_room.noteNew(*number);
+        assert(UsageMap(m_file, m_definition.ownedMap).contains(*number));  // P4
     }
     (void)view(*m_file.page(*number), *number);
     const uint8_t slot = putRow(m_file.change(*number), *number, row, flags);
@@ -96,6 +97,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
         m_room.noteFreed(id.page);
     }
     storePointer(m_file.change(id.page), id, body);
+    assert(find(id)->place == body);  // P2
 }
 
 void RowStore::patchAll(const std::function<std::optional<Patch>(RowId, std::span<const uint8_t>)>& patch) {

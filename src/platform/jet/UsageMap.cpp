@@ -160,6 +160,7 @@ void UsageMap::set(uint32_t page, bool member) {
     }
     (void)bitmapPage(m_file, bitmap);
     setBit(std::span(m_file.change(bitmap)).subspan(map::bitmap), page % map::pagesPerBitmap, member);
+    assert(contains(page) == member);
 }
 
 // Makes a form 0 row reach `page`: an empty one by moving its first page, another one by growing at either
@@ -184,6 +185,8 @@ bool UsageMap::grow(uint32_t page) {
     store32(&bytes[map::firstPage], first);
     for (uint32_t member : members)
         setBit(bytes.subspan(map::bits), member - first, true);
+    assert(std::max(length, needed) == bytes.size() && (needed <= length || needed <= longestForm0));  // M1
+    assert(pages() == members);
     return true;
 }
 
@@ -207,6 +210,7 @@ uint32_t GlobalMap::take() {
         assert(m_file.noteTaken(*free));
         m_file.change(*free).fill(0);
         m_map.set(*free, false);
+        assert(!m_map.contains(*free));  // M2
         return *free;
     }
     const uint32_t page = m_file.append();
@@ -226,6 +230,7 @@ void GlobalMap::give(uint32_t page) {
         if (k >= row.bitmaps() || row.bitmap(k) == 0) return;
     }
     m_map.set(page, true);
+    assert(m_map.contains(page));  // M2
 }
 
 // A new page's bit is cleared. The map reaches every page of the file: its row grows with set bits.
