@@ -207,10 +207,8 @@ void JetTable::renew(jet::Table& table) {
     if (!pages.ok() || rows.size() > mostMoves) return;
     for (const auto& order : before) {
         auto renewed = std::make_shared<RowOrder>(order->without(pages.value()));
-        const OrderSpec& spec = renewed->spec();
         const bool right = std::all_of(rows.begin(), rows.end(), [&](const auto& row) {
-            const jet::RowView view(&m_definition, row.second);
-            return !spec.holds(view) || renewed->add(table, spec.keyOf(view), row.first).ok();
+            return renewed->take(table, jet::RowView(&m_definition, row.second), row.first).ok();
         });
         if (right) m_orders.push_back(std::move(renewed));
     }

@@ -37,6 +37,10 @@ class RowOrder {
     RowOrder without(const std::vector<bool>& pages) const;
     /// Adds the row with that key. After a failure the order is of no use any more.
     Status add(jet::Table& table, std::string_view key, jet::RowId id);
+    /// The same for a row that may belong here or not.
+    Status take(jet::Table& table, const jet::RowView& row, jet::RowId id) {
+        return m_spec.holds(row) ? add(table, m_spec.keyOf(row), id) : Status();
+    }
     /// Removes the row that had that key when it was added; it may have another one in the table by now. The
     /// keys of all others are those of their rows.
     Status remove(jet::Table& table, std::string_view key, jet::RowId id);
