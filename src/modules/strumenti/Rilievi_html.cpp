@@ -10,7 +10,6 @@
 #include "platform/html/HtmlTokens.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/LocalImages.h"
-#include "platform/text/NumberText.h"
 #include "platform/text/Words.h"
 
 namespace {

@@ -10,7 +10,6 @@
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
-#include "platform/text/NumberText.h"
 #include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
