@@ -3,8 +3,8 @@
 
     run.py BUILD_FOLDER OUTPUT_FOLDER [NAME...]
 
-Each benchmark is a folder below bench/ with a run.py of its own, which is called with the build folder and an own work
-folder and prints its records as a JSON list. A ratio compares with the peer in the same run, on the same machine.
+Each benchmark is a folder below bench/ with a run.py of its own, which is called with the build folder and a work
+folder of its own and prints its records as a JSON list. A ratio compares with the peer in the same run, on the same machine.
 """
 import json
 import pathlib

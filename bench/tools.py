@@ -1,4 +1,4 @@
-"""What several benchmarks need: tools of packages that are unpacked and never installed, times of processes, medians."""
+"""What several benchmarks need: tools of packages that are unpacked and never installed, process times, medians."""
 import os
 import pathlib
 import shutil
@@ -32,7 +32,7 @@ def unpacked(package, program, folder):
 
 
 def timed(command, **more):
-    """Runs a process to its good end: seconds on the clock, seconds of processor time, what it printed."""
+    """Runs a process, which must succeed: seconds on the clock, seconds of processor time, what it printed."""
     start = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.PIPE, text=True, **more)
     printed = process.stdout.read()

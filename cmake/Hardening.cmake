@@ -1,6 +1,6 @@
-# What a release build does against faults that are still in it: checked copies of libc (_FORTIFY_SOURCE), checked indexes of the
-# standard library, canaries on the stack, no jump of the stack over its guard page, marked targets of jumps (CET), an address
-# space in random order, and tables of the linker that nobody writes to after the start. tests/check_hardening verifies it.
+# How a release build limits the harm of remaining faults: checked copies of libc (_FORTIFY_SOURCE), checked indexes of the
+# standard library, canaries on the stack, no jump of the stack over its guard page, marked jump targets (CET), a random
+# address space, and linker tables that are read-only after the start. tests/check_hardening verifies it.
 
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 include(CheckPIESupported)

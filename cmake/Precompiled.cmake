@@ -1,10 +1,10 @@
 # Headers of libraries that most sources read, precompiled once for all targets: that halves the time of a build. A source
 # still includes what it uses: tests/check_includes reads each without this.
 
-# what the compiler cache needs to know such a source by
+# what the compiler cache needs to recognise such a source
 target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 
-# vestrola_precompiled(<name> HEADERS ... LIBRARIES ...): a target whose header others take over
+# vestrola_precompiled(<name> HEADERS ... LIBRARIES ...): a target whose precompiled header others reuse
 function(vestrola_precompiled name)
   cmake_parse_arguments(ARG "" "" "HEADERS;LIBRARIES" ${ARGN})
   file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/precompiled/${name}.cpp CONTENT "")

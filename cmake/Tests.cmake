@@ -10,7 +10,7 @@ set(VESTROLA_TESTS_TOGETHER 60000)
 # The sanitizers find faults of the browser's own, which are none of ours.
 set(VESTROLA_SANITIZER_ENVIRONMENT
     "ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
-# What GLib keeps is known by the whole way to it, through code without frame pointers.
+# Blocks that GLib keeps are recognised by their whole call stack, through code without frame pointers.
 set(VESTROLA_KEYRING_ENVIRONMENT
     "ASAN_OPTIONS=new_delete_type_mismatch=0:fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
 set(VESTROLA_WINDOW_ENVIRONMENT
@@ -64,7 +64,7 @@ endfunction()
 
 # vestrola_tests(<program> [WINDOWS] SOURCES ... [LIBRARIES ...]): the tests of the current folder. Plain: GoogleTest with a
 # QCoreApplication. WINDOWS: classes of Qt Test with real widgets, offscreen; one in each source, handed to TEST_CLASS. Each
-# source stands in a namespace of its name. ctest knows it as test_<folder>_<source>, without a "_test" at the end.
+# source is in a namespace of its name. ctest knows it as test_<folder>_<source>, without a "_test" at the end.
 function(vestrola_tests program)
   cmake_parse_arguments(ARG "WINDOWS" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${program})

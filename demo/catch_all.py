@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A catch-all mail server for the demo: takes every message for everybody and writes each as one .eml file.
+"""A catch-all mail server for the demo: accepts every message for everybody and writes each as one .eml file.
 
     catch_all.py FOLDER [maildir [ADDRESS PORT]]
 
@@ -106,7 +106,7 @@ def in_files(folder):
         name = folder / f"{next(numbers):03d}.eml"
         unfinished = name.with_suffix(".part")
         unfinished.write_bytes(message)
-        unfinished.rename(name)  # whoever watches the folder meets whole messages only
+        unfinished.rename(name)  # a reader of the folder sees only complete messages
         return name.name
 
     return keep

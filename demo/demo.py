@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Sends the sample newsletter to the sample recipients through a local mail server and holds what arrived against what
-should have.
+"""Sends the sample newsletter to the sample recipients through a local mail server and compares what arrived with
+what should have.
 
     demo.py BUILD_FOLDER OUTPUT_FOLDER
 

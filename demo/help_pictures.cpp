@@ -33,7 +33,7 @@ namespace {
 QString sampleFolder;
 QString outputFolder;
 
-/// With the colours that the window has most of, which are nearly all: a third of the octets.
+/// With only the window's most frequent colours, which are nearly all: a third of the octets.
 QImage withFewColours(const QImage& picture) {
     QHash<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y)
@@ -53,7 +53,7 @@ void take(QWidget& window, const QString& name) {
     if (!picture.save(outputFolder + '/' + name + ".png", "PNG", 0)) qFatal("cannot write a picture");
 }
 
-/// Runs one command of the main window; its modal window is taken by `meanwhile` and left by hiding it.
+/// Runs one command of the main window; pictures and hides the modal window that `meanwhile` finds.
 void during(const QString& command, const std::function<QWidget&()>& meanwhile, const QString& name) {
     QTimer::singleShot(200, [&] {
         QWidget& window = meanwhile();

@@ -1,4 +1,4 @@
-// Takes the pictures of docs/screenshots: each window over a sample folder, as it stands after a few clicks.
+// Takes the pictures of docs/screenshots: each window over a sample folder, after a few clicks.
 //
 //     demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER
 //
@@ -41,7 +41,7 @@ void take(QWidget& window, const QString& name) {
     if (!window.grab().save(outputFolder + '/' + name + ".png")) qFatal("cannot write a picture");
 }
 
-/// Runs one command of the main window; its modal window is taken by `meanwhile` and left by hiding it.
+/// Runs one command of the main window; pictures and hides the modal window that `meanwhile` finds.
 void during(const QString& command, const std::function<QWidget&()>& meanwhile, const QString& name) {
     QTimer::singleShot(200, [&] {
         QWidget& window = meanwhile();
@@ -55,7 +55,7 @@ void during(const QString& command, const std::function<QWidget&()>& meanwhile, 
 void takeEditor(const QString& message) {
     frmEditor& editor = finestre::Editor();
     const auto command = [&editor](const QString& name) { editor.findChild<QAction*>(name)->trigger(); };
-    /// Runs a command whose modal window is taken and hidden.
+    /// Runs a command, takes the picture of its modal window and hides it.
     const auto window = [&command](const QString& name, const QString& picture) {
         QTimer::singleShot(300, [picture] {
             QWidget* modal = QApplication::activeModalWidget();

@@ -3,7 +3,7 @@
 
     screenshots.py BUILD_FOLDER SAMPLE_FOLDER OUTPUT_FOLDER
 
-docs/screenshots holds the result, and the picture that the demo takes in the middle of its run.
+docs/screenshots contains the result, and the picture that the demo takes in the middle of its run.
 """
 import os
 import pathlib

@@ -4,8 +4,8 @@
 #include <QStringList>
 
 /// Starts the program over the program folder that the first argument names, as an Italian user would see it
-/// but with nobody before the screen, and plays `play` when its main window stands. The arguments are handed
-/// on without the name of the program; another number of them than `usage` names (words apart from the first)
-/// only prints it. Gives the exit status of the process.
+/// but with nobody before the screen, and calls `play` when its main window is shown. The arguments are
+/// passed on without the name of the program; another number of them than `usage` names (words apart from the
+/// first) only prints it. Returns the exit status of the process.
 int runUnattended(int argc, char** argv, const char* usage,
                   const std::function<void(const QStringList& arguments)>& play);

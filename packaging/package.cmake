@@ -1,6 +1,6 @@
 # The Debian package: `cpack -G DEB` in the folder of the preset "package". `./run package` does it all.
 
-# Pages and changelogs, packed without a name or a time.
+# Manual pages and changelogs, packed without a name or a time.
 find_program(GZIP gzip REQUIRED)
 set(packed_folder ${CMAKE_BINARY_DIR}/packed)
 file(MAKE_DIRECTORY ${packed_folder})

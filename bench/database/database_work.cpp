@@ -1,8 +1,8 @@
 // database_work WORK FILE
 //
 // One piece of work on a database of recipients, through ado as the program does it. Prints one line of JSON:
-// the seconds it took, on the clock and of the processor, the kilobytes by which the process grew and still
-// holds, and what was counted.
+// the seconds it took, on the clock and of the processor, the kilobytes that the process has gained and
+// kept, and what was counted.
 //     engine          the engine alone: every cell of tb_destinatari as text
 //     scan            the same through a recordset
 //     star, columns   a recordset of all rows, passed to the end and kept: SELECT *, a list of columns
@@ -10,7 +10,7 @@
 //     select          UPDATE … SET sel = True on all rows
 //     nothing         a query without rows
 //     group N         the rows of one group; the database is open already
-//     tick N [FAILED] N ticks' part of the database: the first selected row behind those that failed is read
+//     tick N [FAILED] N ticks' part of the database: the first selected row after those that failed is read
 //     and
 //                     its mark taken. The first tick, which makes the order, is not measured.
 //     changed         a tick after another process has changed a row

@@ -3,8 +3,8 @@
 
     run.py BUILD_FOLDER WORK_FOLDER [ROWS]
 
-Times are of the processor, each the least of three runs, so that other programs on the machine count little; what writes
-is measured on the clock as well.
+Processor times, each the least of three runs, so that other programs on the machine count little; what writes is measured
+on the clock as well.
 """
 import json
 import pathlib
@@ -53,7 +53,7 @@ def make_sqlite(path, rows):
 
 
 def calls(tracer, command):
-    """Calls to the system, and syncs among them, of a process and its start."""
+    """System calls, and syncs among them, of a process and its start."""
     strace, environment = tracer
     counted = subprocess.run([str(strace), "-f", "-c", "-U", "name,calls", "-o", "/dev/stdout", *command],
                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True, env=environment).stdout
@@ -140,7 +140,7 @@ class Bench:
         self.add("the same on the clock", ours, "s", "the same", ours / clock, 1.0)
         # All rows are selected now.
         order, nothing = self.measured("order", copy), self.measured("nothing", copy)
-        # Less what a query without rows leaves: the pages and what the program needs for the first time.
+        # Minus what a query without rows adds: the pages and what the program needs on first use.
         kept = (order["kilobytes"] - nothing["kilobytes"]) * 1024 / self.rows
         self.add("first ordered query, memory kept", kept, "bytes a row", "16 bytes a row", kept / 16, 1.0)
         processor, _ = self.sqlite_seconds(f"CREATE INDEX run ON tb_destinatari ({RUN_ORDER});")
@@ -149,7 +149,7 @@ class Bench:
         copy.unlink()
 
     def later_ticks(self):
-        """The first tick of a run makes the order of its rows; those that follow should not care how many there are."""
+        """The first tick of a run makes the order of its rows; the later ones should not depend on their number."""
         make = str(self.build / "bench/scan/scan_recipients")
         least = None
         for selected, failed in ((1000, 0), (self.rows // 10, 0), (self.rows // 10, 1000), (self.rows, 0), (self.rows, 1000)):

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""What a DKIM signature (RSA, 2048 bits) adds to composing a message of 10 KB, against one signature with a kept key: time
-of the processor, in turns within one process.
+"""What a DKIM signature (RSA, 2048 bits) adds to composing a message of 10 KB, compared with one signature with a kept key:
+processor time, in turns within one process.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 """

@@ -11,16 +11,16 @@
 
 #include "Newsletter.h"
 
-// The peer of the design view: a browser view with the same document, and nothing around it. Its library is
-// there from the program's start on. bare_view: prints {"ms"}, from nothing to the loaded document. bare_view
-// --keys SIZE: prints {"ms"}, from a key in a newsletter of so many characters to the states that the
-//   editor's tools show and to the changed text, each by one question: the middle one of seven.
+// The peer of the design view: a browser view with the same document, nothing else.
+// bare_view: prints {"ms"}, from nothing to the loaded document; its library is loaded at the start.
+// bare_view --keys SIZE: prints {"ms"}, from a key in a newsletter of so many characters to the states
+//   that the editor's tools show and the changed text, each by one query: the median of seven.
 
 namespace {
 
 constexpr int keys = 7;
 
-// What the tools of the editor show, asked in the browser's own words
+// The states that the editor's tools show, as the browser's own queries
 const QString statesScript = QStringLiteral(
     "[['fontName', 'fontSize', 'foreColor'].map((name) => document.queryCommandValue(name)),"
     " ['bold', 'italic', 'underline', 'justifyLeft', 'justifyCenter', 'justifyRight', 'insertOrderedList',"

@@ -8,12 +8,12 @@
 #include "Newsletter.h"
 #include "platform/html/HtmlView.h"
 
-// edit_view --open: milliseconds from nothing to a design view that takes commands, the browser's code not
-// yet
-//   loaded. Prints {"ms"}.
-// edit_view --keys SIZE: typing in a newsletter of so many characters. Prints {"ms"}, from a key to the new
-// states of
-//   the tools and the changed text, the middle one of seven.
+// edit_view --open: opens the first design view of a process, the browser's code not yet loaded.
+//   Prints {"ms"}: until it takes commands.
+//
+// edit_view --keys SIZE: types in a newsletter of so many characters.
+//   Prints {"ms"}: from a key to the new states of the tools and the changed text,
+//   the median of seven.
 
 namespace {
 
@@ -35,7 +35,7 @@ double middle(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// What a call of a view gave; a browser that does not answer ends the measurement.
+/// The result of a view's call; a browser that does not answer ends the measurement.
 template <class T>
 T sure(const Result<T>& answer) {
     if (!answer.ok()) qFatal("%s", qUtf8Printable(answer.status().text()));

@@ -24,7 +24,7 @@ QString newsletter(bool missing) {
     return html + QStringLiteral("</body></html>");
 }
 
-/// What a call of the view gave; a browser that does not answer ends the measurement.
+/// The result of a view's call; a browser that does not answer ends the measurement.
 void sure(const Status& done) {
     if (!done.ok()) qFatal("%s", qUtf8Printable(done.text()));
 }

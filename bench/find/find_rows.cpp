@@ -3,8 +3,8 @@
 // find_rows --one-folder DATABASE    puts all recipients into group 1
 // find_rows --scan DATABASE          one scan of all recipients by the engine, every text as UTF-8
 // find_rows --everywhere DATABASE    a full miss in all folders, in slices
-// find_rows --grid DATABASE          all recipients in the grid: a full miss, a key while one searches, a
-// sort
+// find_rows --grid DATABASE          all recipients in the grid: a full miss, a key during a search,
+//                                    a sort
 //
 // All in milliseconds of the thread's processor time: "ms" is the whole, "longest" that of the longest turn
 // of the event loop, "answer" the time from a key struck in the middle of the work to the field that shows it
@@ -116,7 +116,7 @@ void everywhere(const QString& path) {
     std::printf("{\"ms\": %.2f, \"longest\": %.2f}\n", since(start), longest);
 }
 
-/// The field as it stands in the bar that finds recipients.
+/// The field as in the bar that finds recipients.
 double answerTo(QLineEdit& field, QChar letter) {
     const auto struck = Clock::now();
     QCoreApplication::postEvent(

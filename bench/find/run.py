@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Finding and sorting among 1,000,000 recipients: a full miss against one scan of the engine, the longest time that the window's
-thread is held, the answer to a key struck in the middle of a search.
+thread is blocked, the answer to a key struck in the middle of a search.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-Every measurement is a process of its own, which tells the processor's time of its thread: other programs do not change it much.
-A round measures all, in turns from either end; the ratio is the median of those of the rounds.
+Every measurement is a process of its own, which reports its thread's processor time: other programs do not change it much.
+A round measures all, forwards and backwards in turn; the ratio is the median of those of the rounds.
 """
 import json
 import pathlib

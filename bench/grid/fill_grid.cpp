@@ -1,9 +1,9 @@
 // Each of these is a process of its own that prints one line of JSON.
 //
-// fill_grid --prepare DATABASE SQLITE   puts all recipients into group 1, and the same rows into a SQLite
-// file fill_grid --query DATABASE            runs the grid's statement to its end fill_grid --grid DATABASE
-// fills a grid and paints its first rows fill_grid --model SQLITE              the same with a QSqlTableModel
-// that is fetched whole
+// fill_grid --prepare DATABASE SQLITE   puts all recipients into group 1, and the rows into a SQLite file
+// fill_grid --query DATABASE            runs the grid's statement to its end
+// fill_grid --grid DATABASE             fills a grid and paints its first rows
+// fill_grid --model SQLITE              the same with a QSqlTableModel that is fetched whole
 //
 // "ms" is the time from the first touch of the file to the answer, "kilobytes" by how much the process grew
 // meanwhile, "rowBytes" what the rows take in the file.
@@ -54,7 +54,7 @@ long residentKilobytes() {
     return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
-/// Takes its measure from its making to tell().
+/// Measures from its construction to tell().
 class Measure {
   public:
     void tell(qint64 rows, const char* more = "", qint64 value = 0) const {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A million INSERT statements of recipients, committed in groups, against `sqlite3` with transactions of equal size.
+"""A million INSERT statements of recipients, committed in groups, compared with `sqlite3` with transactions of equal size.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS [ROWS]]
 

@@ -1,6 +1,6 @@
 // check_fields FILE [ROUNDS]
 //     selects every recipient, then by turns reads every column of the whole table as text and checks the
-//     selection for the placeholders of a message; prints the median seconds of both in the processor, and
+//     selection for the placeholders of a message; prints the median processor seconds of both, and
 //     the number of recipients
 #include <algorithm>
 #include <cstdio>

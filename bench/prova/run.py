@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The values of 100,000 selected recipients, held against the placeholders of a message, against one scan of the table by
-the same layer with every column read as text.
+"""The values of 100,000 selected recipients, checked for the placeholders of a message, compared with one scan of the table
+by the same layer with every column read as text.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 """

@@ -3,7 +3,7 @@
 // scan_recipients --scan FILE
 //     opens it, reads every column of every recipient as UTF-8, prints the counts
 //
-// The second is what is held against `mdb-export FILE tb_destinatari`, as whole processes on the same file.
+// The second is compared with `mdb-export FILE tb_destinatari`, as whole processes on the same file.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

@@ -12,7 +12,7 @@
 #include <string_view>
 
 /// One blocking connection of a measuring program, plain or with TLS. Any failure ends the program, or the
-/// thread's part of it: there is nothing to save.
+/// thread: there is nothing to save.
 class Line {
   public:
     explicit Line(int descriptor) : m_descriptor(descriptor) {
@@ -30,7 +30,7 @@ class Line {
     bool accept(SSL_CTX* context) { return begin(context) && SSL_accept(m_tls) == 1; }
     bool connect(SSL_CTX* context) { return begin(context) && SSL_connect(m_tls) == 1; }
 
-    /// Appends what has come, waiting for something; false at the end of the line.
+    /// Waits for octets and appends them; false when the peer has closed.
     bool read(std::string& to) {
         char room[65536];
         const ssize_t came =

@@ -1,7 +1,7 @@
 // deliver <host> <port> <messages> <octets> [<attachment> <support log> | <book>]: composes personalised
 // messages of about that size, the attachment not counted, and delivers them one after the other over one
 // delivery control, as the send window does. <book> is the folder of a book of outcomes, ending in "/"; "-"
-// is none, and the messages bear numbers all the same. Prints one line of JSON.
+// is none, and the messages have numbers all the same. Prints one line of JSON.
 #include <sys/resource.h>
 
 #include <cstdio>
@@ -80,7 +80,7 @@ class Run : public QObject {
     double processorSeconds() const { return usedSoFar() - m_usedBefore; }
 
   private:
-    /// Of the processor, by this process.
+    /// Processor time of this process.
     static double usedSoFar() {
         rusage usage{};
         ::getrusage(RUSAGE_SELF, &usage);

@@ -1,6 +1,6 @@
 // raw_client <port> <messages> <octets> [flight] [tls]: delivers one canned message again and again over one
 // connection, with MAIL, RCPT and DATA in one write; with "flight" the message by BDAT in the same write. The
-// least that a client can do. Prints one line of JSON.
+// minimum of a client. Prints one line of JSON.
 #include <sys/resource.h>
 
 #include <chrono>

@@ -62,7 +62,7 @@ def own_sink(build, *arguments):
 
 
 def told(command):
-    """What a client of ours measures of itself: messages a second, without its start, and the processor's time for each."""
+    """What a client of ours reports of itself: messages a second, without its start, and processor time for each."""
     done = subprocess.run([str(word) for word in command], stdout=subprocess.PIPE, text=True, check=True)
     told = json.loads(done.stdout)
     return told["perSecond"], told["processorMicroseconds"]
@@ -77,7 +77,7 @@ def raw(build, port, count, *how):
 
 
 def source(work, port, count):
-    """The same of the peer; the cost of its start, an empty run, is taken off."""
+    """The same of the peer; the cost of its start, an empty run, is subtracted."""
     program, environment = tools.unpacked("postfix", "smtp-source", work)
 
     def spent(messages):
@@ -100,7 +100,7 @@ def processor_seconds(command, environment=None):
 
 
 def with_attachment(build, work, port, rounds):
-    """100 messages with an attachment of 5 MB and the support log, against as many bytes of the peer."""
+    """100 messages with an attachment of 5 MB and the support log, against as many bytes from the peer."""
     attachment, log = work / "attachment", work / "log.xt1"
     attachment.write_bytes(os.urandom(ATTACHMENT))
     program, environment = tools.unpacked("postfix", "smtp-source", work)
@@ -132,7 +132,7 @@ def delayed(build, port, flights):
 
 
 def processor_microseconds(pid):
-    """Time that a process of one thread has spent in the processor, in the system's finest measure."""
+    """Time that a process of one thread has spent in the processor, in the system's finest unit."""
     return int(pathlib.Path(f"/proc/{pid}/schedstat").read_text(encoding="ascii").split()[0]) / 1000
 
 

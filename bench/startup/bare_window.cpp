@@ -1,4 +1,4 @@
-// The least that a program of this toolkit can be: an empty main window of the size of ours.
+// The smallest program of this toolkit: an empty main window of the size of ours.
 #include <QApplication>
 #include <QMainWindow>
 

@@ -5,7 +5,7 @@ program has nothing left to do: instructions, which valgrind counts, and memory.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-A window is there when a third of the screen is painted, which a splash is too small for. The screen is that of Xvfb, whose
+A window is there when a third of the screen is painted, for which a splash is too small. The screen is that of Xvfb, whose
 memory is looked at directly, so that nothing runs beside the program that is measured.
 """
 import json
@@ -44,7 +44,7 @@ class Screen:
             self.name = ":" + display.readline().strip()
         with open(folder / "Xvfb_screen0", "rb") as file:
             self.memory = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
-        # The header of an X window dump: its own size stands first, the bytes of a line and the colours behind.
+        # The header of an X window dump: its own size comes first, then the bytes of a line and the colours.
         header = struct.unpack(">25I", self.memory[:100])
         begin, line = header[0] + header[19] * 12, header[12]
         self.points = [begin + line * y + 4 * x for y in range(10, HEIGHT, 20) for x in range(10, WIDTH, 20)]

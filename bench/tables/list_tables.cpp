@@ -1,7 +1,7 @@
 // list_tables FILE...
 //     opens each database and prints the names of its users' tables, one a line
 //
-// Held against `mdb-tables -1 FILE`.
+// Compared with `mdb-tables -1 FILE`.
 #include <cstdio>
 
 #include "platform/jet/Database.h"

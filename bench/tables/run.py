@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Opening a database and listing its tables, against mdb-tables, on each sample file: as one process for each file, and
+"""Opening a database and listing its tables, compared with mdb-tables, on each sample file: as one process for each file, and
 with all files in one process of ours, as the program itself does it.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
 Without the sample files the built empty database is the only one. The first record is bound by the start of the process,
-so the tool is linked with the C++ library inside; loading that one costs about as much as listing the tables.
+so the tool is linked statically with the C++ library; loading that costs about as much as listing the tables.
 """
 import json
 import pathlib

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A delimited file of a million lines (about 200 MB) imported, against `sqlite3` with the INSERT statements of that import.
+"""A delimited file of a million lines (about 200 MB) imported, compared with `sqlite3` with the INSERT statements of that import.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS [LINES]]
 

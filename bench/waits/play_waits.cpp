@@ -2,7 +2,7 @@
 // play_waits --lists FILE: copies a database with a long list and works on it.
 //
 // Prints, for each operation, the longest time in which the window's thread neither turned its event loop nor
-// had the hourglass on show ("wait"), and the longest without a turn at all ("turn"), both in milliseconds.
+// showed the hourglass ("wait"), and the longest without a turn at all ("turn"), both in milliseconds.
 
 #include <algorithm>
 #include <cstdio>
@@ -60,7 +60,7 @@ class Watch {
 
 Watch* watch = nullptr;
 
-/// Plays an operation and what follows from it.
+/// Runs an operation and the events that it causes.
 template <class Operation>
 void play(const char* name, Operation&& operation) {
     constexpr int afterwards = 2000;
@@ -118,7 +118,7 @@ void playLists(const QString& file) {
 
 }  // namespace
 
-// What the linker puts in the place of the two routines of the pointer.
+// Replace the toolkit's two routines of the pointer at link time.
 extern "C" {
 void __real__Z15PuntatoreAttesav();
 void __real__Z20PuntatorePredefinitov();

@@ -4,8 +4,8 @@ searched, and a list of 1,000,000 recipients is opened, selected and emptied.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-A wait is time in which the event loop does not turn and the hourglass is not on show. Of several rounds the best of each
-operation counts, which a busy machine spoils least. Beside it: the longest time without a turn, hourglass or not, in which no
+A wait is time in which the event loop does not turn and the hourglass is not shown. Of several rounds the best of each
+operation counts, which a busy machine distorts least. Also: the longest time without a turn, hourglass or not, in which no
 window is painted.
 """
 import json

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""A whole run of the send window, one tick after the other: row, placeholders, signature, delivery by TLS, commit. Against the sum
-of its parts, each done by the least that can do it: a raw pipelined client of canned octets over TLS, an SQLite commit
+"""A whole run of the send window, one tick after the other: row, placeholders, signature, delivery by TLS, commit. Compared with
+the sum of its parts, each done by the smallest program that can do it: a raw pipelined client of canned octets over TLS, an SQLite commit
 with a DELETE journal, one RSA signature with a kept key.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]

@@ -105,7 +105,7 @@ int main(int argc, char** argv) {
     auto* const timer = window.findChild<QTimer*>("tmr");
     double before = 0;
     QElapsedTimer
-        clock;  // from the first delivery on: what opens the connection is not asked of the peer either
+        clock;  // from the first delivery on: the peer does not measure opening the connection either
     auto* const smtp = window.findChild<mail::DeliveryControl*>("SMTP");
     QObject::connect(smtp, &mail::DeliveryControl::SendDone, &window, [&] {
         if (clock.isValid()) return;

@@ -1,4 +1,4 @@
-"""The program's windows as an assistive program finds them. To be imported inside a desktop of its own (desktop.inside)."""
+"""The program's windows as an assistive program finds them. Import it only inside a private desktop (desktop.inside)."""
 import time
 
 import pyatspi
@@ -9,8 +9,8 @@ from desktop import fail
 
 
 def wait_for(condition, what, instead=None):
-    """The first true value of `condition`, which may look at what is about to come or to go: a window that closes
-    meanwhile, or a program that is too busy to answer, is looked at again. `instead` says what is there if it never comes."""
+    """The first true value of `condition`, which may look at what is appearing or vanishing: where a window closes
+    meanwhile, or the program is too busy to answer, it is called again. If it never comes, the failure shows `instead`."""
     def answered():
         try:
             return condition()
@@ -20,7 +20,7 @@ def wait_for(condition, what, instead=None):
 
 
 def applications():
-    """What the registry knows now. What it has told before is not asked for again: a start or an end may have been missed."""
+    """What the registry knows now. The library caches its answers and may have missed a program's start or end."""
     registry = pyatspi.Registry.getDesktop(0)
     registry.clear_cache()
     return registry
@@ -121,7 +121,7 @@ def act(control, wanted):
     try:
         actions.doAction(number)
     except GLib.GError:
-        pass  # the answer of an action that opens a modal window comes when the window is left
+        pass  # the answer of an action that opens a modal window comes when that window closes
 
 
 def extents(control):
@@ -137,7 +137,7 @@ def click(control, event="b1c"):
 
 def send(main, message, delivered=1, failed=0, asked=False):
     """Sends a message file to the recipients that are selected, from the main window and back to it. `asked`: the program asks
-    about the files that the message carries away."""
+    about the files that the message sends along."""
     main.press("Invia messaggi")
     window = Window("dialog", "Invia messaggi")
     window.find("label", f"Email da inviare: {delivered + failed}")

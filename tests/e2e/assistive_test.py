@@ -2,7 +2,7 @@
 """Does the whole job as an assistive program does it for its user, on the built program, from its very first start to the
 message in a Maildir: a group, a recipient in it, its tick, an account, the send window. Every control is found by its
 role and name; buttons, menus, boxes and the rows of lists are worked by their actions, and texts are written into them.
-The pointer is only moved to hear what it is told.
+The pointer is only moved to hear what is announced.
 
     assistive_test.py BUILD_FOLDER
 """
@@ -50,7 +50,7 @@ def rename_group(main):
 
 
 def type_into(item, text):
-    """Writes into the editor that stands in the item and leaves it."""
+    """Writes into the editor in the item and leaves it."""
     editor = wait_for(lambda: item.childCount and item[0], f"the editor of {item.name!r}")
     if not editor.queryEditableText().setTextContents(text):
         fail(f"the editor of {item.name!r} cannot be written")
@@ -78,7 +78,7 @@ def tick(main):
 
 
 def hear(event_name, role, doing, wanted):
-    """What the controls of that role tell while something is done."""
+    """What the controls of that role announce while something is done."""
     told = []
 
     def listen(event):
@@ -87,7 +87,7 @@ def hear(event_name, role, doing, wanted):
             if begins and event.source.getRoleName() == role:
                 told.append(event.source.name)
         except GLib.GError:
-            pass  # it has gone meanwhile
+            pass  # it has disappeared meanwhile
 
     def heard():
         while GLib.MainContext.default().iteration(False):
@@ -103,7 +103,7 @@ def hear(event_name, role, doing, wanted):
 
 
 def hear_the_count(main):
-    """A count is told when the pointer first comes to the list, and not at each move that shows it anew."""
+    """A count is announced when the pointer first enters the list, and not at each move that shows it anew."""
     def move():
         rows, tree = extents(main.find("table", "Mailing List")), extents(main.find("tree", "Gruppi mailing"))
         for left, top, _, _ in (tree, rows, tree, rows):

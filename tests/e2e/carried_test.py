@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """A message file that came by mail names the user's private key, on the built program: the send window asks before anything
-goes out, with "No" as what Return presses; nothing is sent then, and the key goes out only when the user agrees.
+is sent, with "No" as the default button; nothing is sent then, and the key is sent only when the user agrees.
 
     carried_test.py BUILD_FOLDER
 """

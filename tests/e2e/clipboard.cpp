@@ -1,5 +1,5 @@
-// Holds HTML from the standard input on the clipboard, as the browser that it was copied from would, until
-// it is ended. Says "ready" when it is there.
+// Puts HTML from the standard input on the clipboard, as the browser that it was copied from would, and
+// keeps it there until it is ended. Prints "ready" when it is there.
 #include <cstdio>
 #include <memory>
 #include <QClipboard>

@@ -1,5 +1,5 @@
-"""A desktop of its own for the built program: a session bus, an X server without a screen, a window manager, the registry
-of assistive programs, and a copy of the program as an installation leaves it, whose user has never started it.
+"""A private desktop for the built program: a session bus, an X server without a screen, a window manager, the registry
+of assistive programs, and a copy of the program as newly installed, whose user has never started it.
 
 Needs the system's Python, which knows pyatspi.
 """
@@ -25,8 +25,8 @@ TEXT = "Gentile :::nom:::, la aspettiamo."
 
 
 def inside(size="1280x1000"):
-    """Runs the calling script anew on a screen of this size and a session bus of its own and ends with its result; returns
-    where that is so already."""
+    """Runs the calling script again on a screen of this size and a private session bus, and exits with its result. Returns
+    at once where the script runs there already."""
     if INSIDE in os.environ:
         return
     own, server = os.pipe()
@@ -80,7 +80,7 @@ def fail(text):
 
 
 def wait_for(condition, what, instead=None):
-    """The first true value of `condition`; `instead` says what is there if it never comes."""
+    """The first true value of `condition`; if it never comes, the failure shows `instead`."""
     end = time.monotonic() + PATIENCE
     while True:
         value = condition()
@@ -109,7 +109,7 @@ class Desktop:
         return process
 
     def install(self, build):
-        """Gives the path of a program that is not the build tree's own, so that its user's folder is made at its start."""
+        """Returns the path of a program outside the build tree, so that its user's folder is made at its start."""
         place = self.work / "installed"
         subprocess.run(["cmake", "--install", str(build), "--prefix", str(place)], stdout=subprocess.DEVNULL, check=True)
         return place / "bin" / "vestrola"
@@ -143,7 +143,7 @@ class Desktop:
 
 
 class MailServer:
-    """Takes every message and puts it into a Maildir."""
+    """Accepts every message and puts it into a Maildir."""
 
     def __init__(self, desktop):
         self.folder = desktop.work / "Maildir"
@@ -165,7 +165,7 @@ class MailServer:
 
 
 def run(play):
-    """Plays one test on the program of the build folder that the command line names."""
+    """Runs one test on the program of the build folder that the command line names."""
     with tempfile.TemporaryDirectory() as folder:
         stage = Desktop(pathlib.Path(folder))
         try:

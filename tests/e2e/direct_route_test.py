@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Sends over the direct route with the built program, in a network of its own: a real name server leads to the mail servers
+"""Sends over the direct route with the built program, in a private network: a real name server leads to the mail servers
 of three domains, one of which is down. Its recipients stay selected and the others are served; once it is up, a second run
-serves them and nobody else. A fourth domain leads to a server inside that the list of own servers does not name: nothing
-ever connects there. The send window is worked as an assistive program works it.
+serves them and nobody else. A fourth domain leads to an internal server that the list of own servers does not name: nothing
+ever connects there. The send window is operated as by an assistive program.
 
     direct_route_test.py BUILD_FOLDER
 """
@@ -26,7 +26,7 @@ RECIPIENTS = [f"{name}@{domain}" for name in ("ada", "bice") for domain in SERVE
 
 
 def isolate():
-    """Runs this script anew in a network of its own, where resolv.conf names the test's name server."""
+    """Runs this script again in a private network, where resolv.conf names the test's name server."""
     network.enter()
     if desktop.INSIDE not in os.environ:
         network.raise_loopback()

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Drags recipients and groups with the mouse over the built program, and floats the pane of the groups; what the database
-holds afterwards is read from outside.
+contains afterwards is read with foreign tools.
 
     drag_test.py BUILD_FOLDER
 """
@@ -26,7 +26,7 @@ class Table:
         wait_for(lambda: self.value(row, column) == value, f"{column} of {row} to be {value}")
 
     def value(self, row, column):
-        """None where the row is not found, as can be while the program writes."""
+        """None where the row is not found, which can happen while the program writes."""
         exported = subprocess.run(["mdb-export", str(self.database), self.name], stdout=subprocess.PIPE, text=True, check=False)
         return {one[self.key]: one for one in csv.DictReader(exported.stdout.splitlines())}.get(row, {}).get(column)
 
@@ -45,7 +45,7 @@ def below(control):
 def drag(begin, end):
     steps = [(begin[0] + (end[0] - begin[0]) * n // 10, begin[1] + (end[1] - begin[1]) * n // 10) for n in range(1, 11)]
     moves = [word for x, y in steps for word in ("mousemove", str(x), str(y), "sleep", "0.05")]
-    # pressed so late that it is no second press of a double click; slowly, as the program follows each step
+    # pressed late enough not to be a double click's second press; moved slowly, as the program handles each step
     subprocess.run(["xdotool", "mousemove", *map(str, begin), "sleep", "0.6", "mousedown", "1", "sleep", "0.3", *moves, "sleep", "0.5",
                     "mouseup", "1", "sleep", "0.2"], check=True)
 

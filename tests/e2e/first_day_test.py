@@ -134,7 +134,7 @@ def choose_file(title, path):
 
 
 def paste(stage, html):
-    """What a neighbour has copied goes into the control that has the keyboard."""
+    """What another program has copied goes into the control that has the keyboard."""
     neighbour = stage.start([pathlib.Path(sys.argv[1]).resolve() / "tests" / "e2e" / "e2e_clipboard"], stdin=subprocess.PIPE,
                             stdout=subprocess.PIPE, text=True)
     neighbour.stdin.write(html)
@@ -206,7 +206,7 @@ def run(message, stopped_at=None):
         window.write("email ogni … minuti.", "1")
     window.press("Invia messaggi")
     if stopped_at:
-        # The attachment and the picture lie outside the home: asked about once.
+        # The attachment and the picture are outside the home: asked about once.
         question = Window("dialog", "Attenzione")
         question.press("Sì")
         question.gone()
@@ -224,7 +224,7 @@ def run(message, stopped_at=None):
 
 
 def check_newsletter(message):
-    """What was pasted and what was inserted have come, with the recipient's own name."""
+    """What was pasted and what was inserted have arrived, with the recipient's own name."""
     text = email.message_from_bytes(message, policy=email.policy.default).get_body(("html",)).get_content()
     for part in ("Offerta <b>Zoe</b>", "Cella2"):
         if part not in text:

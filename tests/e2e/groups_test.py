@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Works on the groups of the built program by keys: what moves, what is asked before a deletion, what a key leaves alone, and a
-database under a name that no code page of old holds. What the database holds afterwards is read from outside.
+database under a name that no old code page contains. What the database contains afterwards is read with foreign tools.
 
     groups_test.py BUILD_FOLDER
 """
@@ -62,7 +62,7 @@ def select(main, group):
 
 
 def menu_opens(main):
-    """Keys before this one have been dealt with once it has its effect."""
+    """Once this key has its effect, the keys before it have been processed."""
     keys("F10")
     item = main.find("menu item", "Imposta Account")
     keys("Escape", "Escape")

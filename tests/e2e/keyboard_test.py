@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Does the whole job with the keyboard alone, on the built program, from its very first start to the message in a Maildir:
 a group, a recipient in it, its tick, an account, the send window, and last a message of its own. What assistive programs
-are told is only looked at, to know when the next key may be struck.
+are told is only read, to know when the next key may be pressed.
 
     keyboard_test.py BUILD_FOLDER
 """
@@ -137,7 +137,7 @@ def write_message(editor, path):
 
 
 def whole_message(path):
-    """The text of a message file that is written to its last line."""
+    """The text of a message file once it is complete."""
     text = path.read_text(encoding="cp1252") if path.is_file() else ""
     return text if text.endswith("[<END-MESS>]\n") else None
 

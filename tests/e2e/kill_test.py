@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Kills the program in the middle of a run, twenty times, and starts it again: nobody is lost, and each kill serves at most
+"""Kills the program in the middle of a run, twenty times, and starts it again: no recipient is lost, and each kill serves at most
 one recipient twice.
 
     kill_test.py BUILD_FOLDER [KILLS [RECIPIENTS]]
@@ -93,7 +93,7 @@ def play(stage, kills, moment):
         run.kill()
         run.wait()
         done += 1
-        time.sleep(0.05)  # what was under way at the kill may still reach the server
+        time.sleep(0.05)  # what was in transit at the kill may still reach the server
         again = [address for address in stage.received()[len(before):] if address in before]
         if len(again) > 1:
             fail(f"one kill served more than one recipient twice: {again}")

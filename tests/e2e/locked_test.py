@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Another program holds the database while the built program wants to write: it waits and then goes on, and Esc gives the
-statement up, which is a failure like any other.
+"""Another program locks the database while the built program wants to write: it waits and then continues, and Esc cancels
+the statement, which is a failure like any other.
 
     locked_test.py BUILD_FOLDER
 """
@@ -18,7 +18,7 @@ from keyboard_test import add_recipient, keys, make_group  # noqa: E402
 
 
 class Lock:
-    """The whole content, as a program holds it that writes."""
+    """The whole content, locked as by a program that writes."""
 
     def __init__(self, path):
         self.file = os.open(path, os.O_RDWR)
@@ -49,7 +49,7 @@ def play(stage, program):
 
     lock = Lock(database)
     keys("Tab", "space")
-    time.sleep(2)  # as long as a neighbour's slow statement
+    time.sleep(2)  # as long as another program's slow statement
     lock.release()
     wait_for(lambda: ticked(main), "the tick after the wait")
 
@@ -57,7 +57,7 @@ def play(stage, program):
     keys("space")
 
     def given_up():
-        keys("Escape")  # once for the wait, once for the box that tells the failure
+        keys("Escape")  # once for the wait, once for the box that reports the failure
         return running.poll() is not None
     wait_for(given_up, "the end after Esc")
     stage.ends(running, 1)

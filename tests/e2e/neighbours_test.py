@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Starts and ends the built program in a folder in which a neighbour has put links where the program writes: what they lead
-to stays as it is, and what the program writes are files of its own that nobody else can read.
+"""Starts and ends the built program in a folder in which another user has put links where the program writes: their targets
+stay unchanged, and the program writes files of its own that nobody else can read.
 
     neighbours_test.py BUILD_FOLDER
 """
@@ -51,7 +51,7 @@ def plant(folder, letters, how):
 
 def start_and_end(stage, build, folder):
     program = stage.start([build / "vestrola"], env={**os.environ, "VESTROLA_FOLDER": str(folder)}, umask=0)
-    Window("frame", "Vestrola")  # a program that is told to end before stores no places of windows
+    Window("frame", "Vestrola")  # a program that is told to end earlier stores no window placements
     program.send_signal(signal.SIGTERM)
     stage.ends(program, 0)
 

@@ -1,4 +1,4 @@
-"""A network and mounts of a story's own: every port may be bound, and nothing outside is reached."""
+"""A private network and private mounts for a story: every port may be bound, and nothing outside is reached."""
 import fcntl
 import os
 import socket
@@ -16,7 +16,7 @@ def raise_loopback():
 
 
 def enter():
-    """Runs this script anew in there; returns where that is so already."""
+    """Runs this script again in there; returns at once where it runs there already."""
     if ISOLATED in os.environ:
         return
     unshare = ["unshare", "--net", "--mount"] + (["--map-root-user"] if os.geteuid() else [])

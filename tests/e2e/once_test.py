@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Nobody is served twice, and nobody by a copy that was made for nobody: runs of the built program during which a disk
-becomes full, the database is moved away or locked by another process, the user stops and goes on, a row has no address, or
+"""Nobody is served twice, and every copy was made for its recipient: runs of the built program during which a disk
+becomes full, the database is moved away or locked by another process, the user stops and continues, a row has no address, or
 the server's reply is late. Over the whole story and the run after it each recipient with an address gets exactly one copy.
 
     once_test.py BUILD_FOLDER [STORY [NUMBER]]
 
-STORY is one of the names below, or a share of them such as 2/4: the second, the sixth and so on. Without it all are played in
+STORY is one of the names below, or a share of them such as 2/4: the second, the sixth and so on. Without it all are run in
 their short form. NUMBER is how long the lock is held, in
 seconds ("locked"), how often the user stops ("stops"), or how many recipients a run has (otherwise).
 """
@@ -30,8 +30,8 @@ SEED = 20261122
 
 
 def isolate():
-    """Runs this script anew with mounts of its own, so that it can have a small file system; returns where that is so
-    already."""
+    """Runs this script again with private mounts, so that it can have a small file system; returns at once where it runs
+    there already."""
     if PRIVATE in os.environ:
         return
     unshare = ["unshare", "--mount"] + (["--map-root-user"] if os.geteuid() else [])
@@ -80,7 +80,7 @@ class Story:
         self.main = Window("frame", "Vestrola")
 
     def hide(self):
-        """Moves the database away; gives its place."""
+        """Moves the database away; returns its new path."""
         away = self.folder / "altrove.mdb"
         self.database.rename(away)
         return away
@@ -127,11 +127,11 @@ class Story:
         self.window.find("push button", "Chiudi")
 
     def arrived(self, number):
-        """Waits until so many messages have come."""
+        """Waits until so many messages have arrived."""
         wait_for(lambda: len(self.server.messages) >= number, f"message number {number}")
 
     def run_again(self):
-        """The run after the story, where anybody is left."""
+        """The run after the story, if any recipient is left."""
         if self.selected():
             self.open()
             self.run()
@@ -164,12 +164,12 @@ def people(number):
 
 
 def served_slowly(addresses):
-    """A server that leaves time to act between the arrival of the fourth message and its acceptance."""
+    """A server that gives the test time to act between the arrival of the fourth message and its acceptance."""
     return ScriptedMail(delay=0.02, slow={addresses[3]: 1})
 
 
 def fill(folder):
-    """Takes all room of the file system; gives the file that holds it."""
+    """Fills the file system; returns the file that takes the room."""
     filler = folder / "riempie"
     with open(filler, "wb", buffering=0) as file:
         try:
@@ -181,7 +181,7 @@ def fill(folder):
 
 
 def full_before(make, number):
-    """The disk is full when the run is to begin: it does not, and a box says why."""
+    """The disk is full when the run is to begin: it does not begin, and a box says why."""
     addresses = people(number or 4)
     story = make(ScriptedMail(), addresses)
     story.open()
@@ -269,7 +269,7 @@ def locked(make, seconds):
 
 
 def stops(make, number):
-    """The user stops and goes on, at moments that fall anywhere in a delivery of 50 ms."""
+    """The user stops and continues, at any moment of a delivery of 50 ms."""
     number = number or 6
     story = make(ScriptedMail(delay=0.05), people(8 + 4 * number))
     moment = random.Random(SEED)
@@ -301,7 +301,7 @@ def null_address(make, number):
 
 
 def late_reply(make, number):
-    """The server's reply to one message takes longer than the time-out that the window offers first."""
+    """The server's reply to one message takes longer than the window's default time-out."""
     addresses = people(number or 3)
     story = make(ScriptedMail(slow={addresses[1]: 7}), addresses)
     story.open()

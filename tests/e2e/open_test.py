@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Opens message files as a double click does, by the starter: at the very first start, beside a running program, after a
-program that left a rescue copy, and one whose name is no text.
+program that left a rescue copy, and a file whose name is not valid UTF-8.
 
     open_test.py BUILD_FOLDER
 """
@@ -48,7 +48,7 @@ def leave_editor_and_program(stage, running, editor):
 
 
 def first_start(stage, starter):
-    """By a path as it is seen from the starter's folder, which has a blank and the end of a line in its name."""
+    """By a path relative to the starter's folder, which has a blank and a line break in its name."""
     message = write(stage.work / "di\nmaggio è" / "offerta uno.mss", "Prima offerta")
     running = stage.start([starter, message.relative_to(stage.work)], cwd=stage.work)
     editor = editor_of("offerta uno.mss", "Prima offerta")
@@ -66,7 +66,7 @@ def beside(stage, starter):
 
 
 def rescued(stage, starter, answer):
-    """A program that is killed over a changed message leaves a copy, which is offered before the message is opened."""
+    """A program that is killed while a message is changed leaves a copy, which is offered before the message is opened."""
     message = write(stage.work / "posta" / "tre.mss", "Terza offerta")
     running = stage.start([starter, message])
     editor_of("tre.mss", "Terza offerta")

@@ -3,7 +3,7 @@
 
     outcomes_test.py BUILD_FOLDER
 
-Whoever the server had answered before the kill stands in the book of that run, and what it says is what the server did; the
+The book of the first run contains every recipient that the server answered before the kill, with what the server did; the
 second run serves the rest and has a book of its own.
 """
 import json
@@ -71,14 +71,14 @@ def main():
             time.sleep(0.005)
         run.kill()
         run.wait()
-        time.sleep(0.2)  # what was under way at the kill is noted by the server
+        time.sleep(0.2)  # what was in transit at the kill is noted by the server
         arrived = [address for address, _ in server.messages]
         files = sorted(books.glob("*.jsonl"))
         if len(files) != 1:
             fail(f"{len(files)} books after the first run")
         first = book(files[0])
         check(first, arrived)
-        # The reply to the last one, or to the last two, may not have come to the program.
+        # The reply to the last one, or to the last two, may not have reached the program.
         if not set(arrived[:-2]) <= set(first) or not set(REFUSED[:2]) <= set(first):
             fail(f"after the kill the book holds {sorted(first)}, the server {arrived}")
 

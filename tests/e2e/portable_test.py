@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Starts a portable copy whose files have no right to be executed, as on a stick, by the loader: it keeps its data beside
-itself, brings up the editor by its plug-in, and a newer copy over it leaves the data alone.
+"""Starts, by the loader, a portable copy whose files have no execute permission, as on a USB stick: it keeps its data beside
+itself, opens the editor by its plug-in, and a newer copy over it leaves the data unchanged.
 
     portable_test.py BUILD_FOLDER
 """

@@ -1,4 +1,4 @@
-"""A complete Postfix of the tests' own: configuration, queue and log lie in a folder of its own."""
+"""A complete private Postfix: configuration, queue and log are in a folder of its own."""
 import os
 import pathlib
 import pwd
@@ -50,7 +50,7 @@ class Postfix:
 
     def __init__(self, folder, host, listen, settings):
         self.folder = pathlib.Path(folder)
-        self.folder.chmod(0o755)  # the server's own users have to get as far as their folders
+        self.folder.chmod(0o755)  # the server's own users need access to their folders
         for name in ("spool", "data"):
             (self.folder / name).mkdir()
         os.chown(self.folder / "data", pwd.getpwnam("postfix").pw_uid, -1)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Looks after the recipients of the built program by keys: finds them in the folder and everywhere, sorts them, deselects double
-addresses, brings back lost folders, looks at the last import; another program that holds the file is waited for, and a file
-that is damaged while the program runs is told. What the database holds is read from outside.
+"""Maintains the recipients of the built program by keys: finds them in the folder and everywhere, sorts them, deselects double
+addresses, brings back lost folders, looks at the last import; waits for another program that locks the file, reports a file
+that is damaged while the program runs. What the database contains is read with foreign tools.
 
     recipients_test.py BUILD_FOLDER
 """

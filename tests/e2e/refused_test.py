@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Before and after a run over the direct route with the built program, in a network of its own with a real name server and a
-real mail server: a test copy from "Prova messaggio..." arrives, a name server that is silent leaves the window alive, and after
-a run with one unknown mailbox "Esito degli invii..." tells who was delivered and who was refused and why. The windows are
-worked as an assistive program works them.
+"""Before and after a run over the direct route with the built program, in a private network with a real name server and a
+real mail server: a test copy from "Prova messaggio..." arrives, a silent name server does not block the window, and after
+a run with one unknown mailbox "Esito degli invii..." says who was served, who was refused, and why. The windows are
+operated as by an assistive program.
 
     refused_test.py BUILD_FOLDER
 """
@@ -16,7 +16,7 @@ import subprocess
 import sys
 import tempfile
 
-from sender_check_test import NameServer, resolves  # moves into a network of its own
+from sender_check_test import NameServer, resolves  # moves into a private network
 import desktop
 import direct_route_test
 from desktop import fail, wait_for
@@ -80,7 +80,7 @@ def open_tool(main, command, title):
 
 
 def told(window):
-    """What the window tells of the copy; None before there is a verdict."""
+    """What the window says of the copy; None before there is a verdict."""
     label = pyatspi.findDescendant(
         window.frame, lambda one: one.getRoleName() == "label" and one.name.startswith("La prova ") and is_shown(one))
     return label and label.name
@@ -96,7 +96,7 @@ def try_message(main, names, server, message):
 
     names.process.send_signal(signal.SIGSTOP)
     window.press("Invia una copia di prova")
-    window.press("Successivo")  # the window is alive
+    window.press("Successivo")  # the window is not blocked
     window.find("label", NO_ANSWER)
     names.process.send_signal(signal.SIGCONT)
 

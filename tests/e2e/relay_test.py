@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""A run through a Postfix of one's own, configured as packaging/postfix-relay has it: the provider's server is down, the run ends
-with everybody served, and what stands in the queue arrives when the provider is up.
+"""A run through a local Postfix, configured as packaging/postfix-relay has it: the provider's server is down, the run ends
+with everybody served, and what is queued arrives when the provider is up.
 
     relay_test.py BUILD_FOLDER
 """
@@ -18,7 +18,7 @@ PATIENCE = 120
 PORT, PROVIDER = 25, 2525
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PEOPLE = [f"persona{number}@cliente.test" for number in range(5)]
-# What a test cannot have: the provider's name, certificate and login.
+# Settings that a test cannot have: the provider's name, certificate and login.
 OURS = """relayhost = [127.0.0.1]:{port}
 smtp_sasl_auth_enable = no
 smtp_sasl_password_maps =
@@ -34,7 +34,7 @@ def fail(text):
 
 
 def settings():
-    """The example with what the test puts in its place; Postfix takes the last line of a name."""
+    """The example with the test's own settings appended; Postfix uses the last line of a name."""
     return (ROOT / "packaging/postfix-relay/main.cf").read_text(encoding="ascii") + OURS.format(port=PROVIDER)
 
 

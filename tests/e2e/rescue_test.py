@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Kills the built program while a message is written, starts it again and takes the message up from its rescue copy; then
-stops the browser's process, saves, and sees that nothing older is written; then lets a save fail, and takes the text up
-again in the new start that the failure offers. Looks at the editor's window meanwhile: its
-state, its owner and its modality hold from its first opening on.
+"""Kills the built program while a message is written, starts it again and recovers the message from its rescue copy; then
+stops the browser's process, saves, and verifies that nothing older is written; then makes a save fail, and recovers the
+text in the new start that the failure offers. Verifies meanwhile that the editor's window
+keeps its state, its owner and its modality from its first opening on.
 
     rescue_test.py BUILD_FOLDER
 """

@@ -1,4 +1,4 @@
-"""A mail server whose answer to each message is told by the test; it counts the copies that reach each recipient."""
+"""A mail server whose answer to each message is set by the test; it counts the copies that reach each recipient."""
 import email
 import email.policy
 import re
@@ -9,7 +9,7 @@ import time
 
 class ScriptedMail:
     """Listens on a free port of the loopback address. A message is noted once its final point has arrived, since the
-    server then has it, whatever becomes of the reply."""
+    server then has it, even if the reply is lost."""
 
     def __init__(self, delay=0.0, slow=None, refused=()):
         """`delay`: seconds before each reply to a final point; `slow`: those for single recipients; `refused`: the
@@ -89,7 +89,7 @@ class ScriptedMail:
         return count
 
     def raw(self):
-        """The recipients of messages in which a placeholder stands, in the subject or in a text."""
+        """The recipients of messages that still contain a placeholder, in the subject or in a text."""
         found = []
         for recipient, message in list(self.messages):
             parsed = email.message_from_bytes(message, policy=email.policy.default)
@@ -100,7 +100,7 @@ class ScriptedMail:
         return found
 
     def greeted_wrongly(self, names):
-        """The recipients of messages made for somebody else; `names` tells what each message has to hold."""
+        """The recipients of messages made for somebody else; `names` says what each message must contain."""
         return [recipient for recipient, message in list(self.messages)
                 if recipient in names and names[recipient].encode() not in message]
 

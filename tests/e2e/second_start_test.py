@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Starts the built program twice over one program folder: the second start is not prevented, both programs stay and show
-the groups of the one database, and Error.txt tells of the second start alone.
+the groups of the one database, and Error.txt reports only the second start.
 
     second_start_test.py BUILD_FOLDER
 """
@@ -37,7 +37,7 @@ def play(stage, program):
     first = stage.start([program])
     wait_for(lambda: len(main_windows()) == 1, "the first main window")
     line = one_line(log)
-    time.sleep(1.1)  # the line tells whole seconds
+    time.sleep(1.1)  # the line has whole seconds
     second = stage.start([program])
     wait_for(lambda: len(main_windows()) == 2, "a second main window")
     if one_line(log) == line:

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks a sender with the built program, in a network of its own with a real name server and a mail server: what the lines
-say, a key that is made and its record, a name server that falls silent. The window is worked as an assistive program works it.
+"""Checks a sender with the built program, in a private network with a real name server and a mail server: what the lines
+say, a new key and its record, a name server that stops answering. The window is operated as by an assistive program.
 
     sender_check_test.py BUILD_FOLDER
 """
@@ -11,7 +11,7 @@ import socket
 import subprocess
 import sys
 
-import direct_route_test  # noqa: F401  moves into a network of its own
+import direct_route_test  # noqa: F401  moves into a private network
 import desktop
 from desktop import fail, wait_for
 from accessible import Window, act, is_shown
@@ -57,7 +57,7 @@ def rows(window):
 
 
 def check(window, first=False):
-    if not first:  # the end that is told from before goes away
+    if not first:  # the previous result disappears first
         window.press("Copia tutto")
         window.find("label", "Il rapporto è negli appunti.")
     window.press("Controlla")
@@ -78,7 +78,7 @@ def make_program_folder(stage):
 
 
 def make_key(window):
-    """Makes the key by the window and gives the line for a zone file that it shows."""
+    """Makes the key by the window and returns the line for a zone file that it shows."""
     window.press("Crea chiave DKIM...")
     Window("alert", "Chiave DKIM").press("Sì")
     shown = Window("dialog", "Chiave DKIM di")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Opens the windows of the built program under a window manager, after its very first start on a screen of a given size,
-and looks at them from outside: each stands within the screen, over the window that owns it, has the keyboard, and gives
-it back to that one when it is left; no button is out of reach.
+and inspects them from outside: each is within the screen, over the window that owns it, has the keyboard focus, and returns
+it to its owner when it is closed; no button is out of reach.
 
     windows_test.py BUILD_FOLDER WIDTHxHEIGHT SCALE
 """
@@ -52,7 +52,7 @@ def check_within_screen(window, name):
 
 
 def check_buttons(window, name):
-    """Each button stands on the screen, once the Tab key has reached it where it is one that can be pressed."""
+    """Each enabled button is on the screen once the Tab key has reached it."""
     left, top, width, height = extents(window.frame)
     for button in pyatspi.findAllDescendants(window.frame, lambda one: one.getRoleName() == "push button"):
         if not has(button, pyatspi.STATE_FOCUSABLE) or not has(button, pyatspi.STATE_ENABLED):
@@ -104,7 +104,7 @@ def check_dialog(main, opening, name, leaving, role="dialog", buttons=True):
 
 
 def check_file_dialog(stage, main_window, main):
-    """A path that is typed, and Return: the main window has the keyboard afterwards."""
+    """A path is typed, then Return: the main window has the keyboard focus afterwards."""
     keys("ctrl+o")
     question = Window("alert", "Attenzione")
     question.press("Sì")

@@ -7,7 +7,7 @@
 
 namespace testing_support {
 
-/// Gives a test's application the name and the look that the program's own has.
+/// The program's own name and look for a test's application.
 inline void asInTheProgram(QApplication& application) {
     QApplication::setApplicationName(prodotto::nome());
     ui::setUpDesktop(application);

@@ -28,24 +28,24 @@ class AuthorizationServer : public QTcpServer {
     /// where the address lacks what it needs.
     QUrl consent(const QUrl& address);
 
-    /// Everything after this is answered with these bytes, the head of the answer included.
+    /// Each later request gets these bytes as its answer, HTTP head included.
     void answerWith(const QByteArray& bytes) { m_fixed = bytes; }
     /// The same with a JSON body.
     void answerJson(const QByteArray& json, const QByteArray& status = "200 OK");
-    /// Nothing is answered but what answerWith() was given and then `trickle`, again and again as long as the
-    /// client stays.
+    /// Answers only what answerWith() was given and then `trickle`, again and again until the client
+    /// disconnects.
     void hold(const QByteArray& trickle = {});
-    /// Answers what was held as if nothing had been, and holds no more.
+    /// Ends hold(): answers the requests that waited, and all later ones, as usual.
     void goOn();
     /// Refresh tokens are refused as RFC 6749 5.2 has it.
     void withdraw() { m_withdrawn = true; }
-    /// What tokens say about themselves from now on.
+    /// Lifetime and scope that tokens state from now on.
     void setLifetime(int secs) { m_lifetime = secs; }
     void setScope(const QByteArray& scope) { m_scope = scope; }
 
     /// The forms that came to the token endpoint.
     const QList<QUrlQuery>& requests() const { return m_requests; }
-    /// Whether anybody has connected.
+    /// Whether a client has connected.
     bool hasBeenAsked() const { return m_asked; }
     /// The newest access token.
     QByteArray newestToken() const { return "accesso-" + QByteArray::number(m_tokens); }

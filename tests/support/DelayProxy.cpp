@@ -20,7 +20,7 @@ class Pipe : public QObject {
         m_timer.setTimerType(Qt::PreciseTimer);
         connect(&m_timer, &QTimer::timeout, this, &Pipe::deliver);
         connect(from, &QTcpSocket::readyRead, this, [this] { hold(m_from->readAll()); });
-        // An empty piece stands for the end of the line.
+        // An empty piece means the end of the stream.
         connect(from, &QTcpSocket::disconnected, this, [this] { hold({}); });
     }
 

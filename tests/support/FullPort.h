@@ -12,8 +12,8 @@
 
 namespace testing_support {
 
-/// A port of loopback that neither takes nor refuses a connection: it listens, nobody accepts, and the line
-/// of those who wait is full.
+/// A port of loopback that neither accepts nor refuses a connection: it listens, nothing accepts, and its
+/// backlog is full.
 class FullPort {
   public:
     FullPort() : m_listening(::socket(AF_INET, SOCK_STREAM, 0)) {

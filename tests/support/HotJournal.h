@@ -4,8 +4,8 @@
 #include <iterator>
 #include <string>
 
-/// Whether the file beside the database says that something was left behind: one with an empty header only
-/// keeps room on the disk.
+/// Whether the database has a journal that must be rolled back: one with an empty header only reserves room
+/// on the disk.
 inline bool hasHotJournal(const std::string& databasePath) {
     std::ifstream in(databasePath + "-journal", std::ios::binary);
     std::string start(512, '\0');

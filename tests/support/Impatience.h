@@ -4,7 +4,7 @@
 
 namespace testing_support {
 
-/// While it lives, each wait for another process is given up at once, as by a user who presses Esc.
+/// While the object lives, each wait for another process is cancelled at once, as by a user who presses Esc.
 class Impatience {
   public:
     Impatience() : m_before(ado::setWaitHook({[](std::chrono::milliseconds) { return false; }, {}})) {}

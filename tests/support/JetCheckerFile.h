@@ -1,7 +1,7 @@
 #pragma once
 
-// Reading of a Jet file's bytes for JetChecker, independent of the engine. Whatever contradicts itself
-// without making further reading senseless goes to `findings`; the rest throws Broken.
+// The reader of a Jet file's bytes for JetChecker, independent of the engine. A contradiction after which
+// reading can continue goes to `findings`; the rest throws Broken.
 
 #include <map>
 #include <optional>
@@ -63,7 +63,7 @@ struct TableFacts {
     std::vector<LongMap> longMaps;
 };
 
-/// A value as it stands in a row; no value is Null. Yes/no: True is empty.
+/// A value as stored in a row; no value is Null. Yes/no: True is empty.
 using Stored = std::optional<Bytes>;
 Stored storedValue(const TableFacts& table, const ColumnFacts& column, const Bytes& row);
 
@@ -80,7 +80,7 @@ struct IndexNode {
 };
 
 struct JetFile {
-    /// Throws Broken for what is no Jet 4 file.
+    /// Throws Broken if it is no Jet 4 file.
     explicit JetFile(const std::string& path);
 
     unsigned pageCount() const { return static_cast<unsigned>(content.size() / 4096); }

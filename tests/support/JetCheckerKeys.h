@@ -4,8 +4,8 @@
 
 namespace jetcheck {
 
-/// The forms that the part of an index key may have for a value; text with letters that count as one or as
-/// two places has two. Empty when the table of weights does not tell.
+/// The valid encodings of a value in an index key; text with letters that count as one or as two places has
+/// two. Empty when the table of weights has no entry.
 std::vector<Bytes> keyForms(unsigned type, bool ascending, const Stored& value);
 
 }  // namespace jetcheck

@@ -84,7 +84,7 @@ void checkLongValues(JetFile& file, const TableFacts& table, const std::map<Plac
         ColumnCheck check(file, table, column);
         for (const auto& [place, row] : rows)
             if (const Stored value = storedValue(table, column, row)) check.checkValue(place, *value);
-        // Other programs leave rows behind in the pages of their own tables.
+        // Other programs leave stale rows in the pages of their own tables.
         if (!table.name.starts_with("MSys")) check.checkPages();
     }
 }

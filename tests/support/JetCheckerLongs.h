@@ -4,8 +4,8 @@
 
 namespace jetcheck {
 
-/// Holds the memo and OLE values of a table's rows against the long-value pages of their columns: each value
-/// is whole, each of its rows belongs to it alone, and nothing else lies on those pages. Findings go to
+/// A check of the memo and OLE values of a table's rows with the long-value pages of their columns: each
+/// value is whole, each of its rows belongs to it alone, and nothing else is on those pages. Findings go to
 /// `file`.
 void checkLongValues(JetFile& file, const TableFacts& table, const std::map<Place, Bytes>& rows);
 

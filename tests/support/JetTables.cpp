@@ -71,7 +71,7 @@ ColumnPlan plan(const Column& column, uint16_t number, uint16_t& variables, uint
     return plan;
 }
 
-// Definitions are planned with ascending indexes; their order bytes stand behind each column number.
+// Definitions are planned with ascending indexes; their order bytes follow each column number.
 void setOrders(Page& page, const TablePlan& table, const std::vector<Index>& indexes) {
     size_t at = definition::indexCounts + definition::indexCountLength * indexes.size() +
                 definition::columnLength * table.columns.size();
@@ -84,7 +84,7 @@ void setOrders(Page& page, const TablePlan& table, const std::vector<Index>& ind
     }
 }
 
-// Definitions are planned with the language of texts where a numeric has its digits and decimals.
+// Definitions are planned with the text's language in the place of a numeric's digits and decimals.
 void setDigits(Page& page, const std::vector<Column>& columns, size_t indexes) {
     size_t at = definition::indexCounts + definition::indexCountLength * indexes;
     for (const Column& column : columns) {

@@ -6,7 +6,7 @@
 
 #include "platform/jet/Database.h"
 
-/// Tables that the engine itself never makes, for tests: with columns and indexes of every kind, with memo
+/// A maker of tables that the engine itself never makes: with columns and indexes of every kind, with memo
 /// values. The file must not be open elsewhere meanwhile. Members throw jet::Failure.
 namespace jettables {
 
@@ -29,17 +29,18 @@ struct Index {
 void addTable(const std::string& file, const std::string& name, const std::vector<Column>& columns,
               const std::vector<Index>& indexes);
 
-/// Adds a row and its index entries without asking whether the engine would.
+/// Adds a row and its index entries without the engine's checks.
 void addRow(const std::string& file, const std::string& name, const std::vector<jet::Value>& values);
 
-/// Sets the last auto-number that the table's definition tells.
+/// Sets the last auto-number in the table's definition.
 void setCounter(const std::string& file, const std::string& name, int32_t last);
 
 /// Sets the property list (LvProp) of a table.
 void setProperties(const std::string& file, const std::string& name, const jet::Bytes& list);
 
 enum class Place { InRow, OneRow, Chain };
-/// Gives a memo or OLE column (by position) of a row that has Null there these bytes, stored at that place.
+/// Stores these bytes at that place as the memo or OLE value of a column (by position) that is Null in the
+/// row.
 void setLongValue(const std::string& file, const std::string& name, jet::RowId row, size_t column,
                   const jet::Bytes& bytes, Place place);
 

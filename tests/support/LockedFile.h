@@ -7,14 +7,14 @@
 
 namespace testing_support {
 
-/// Holds a database file as a program does that writes its pages: nobody else can read or write.
+/// An exclusive lock on a database file, as of a program that writes: nobody else can read or write.
 class LockedFile {
   public:
     explicit LockedFile(const QString& path)
         : m_file(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)) {
         struct flock all = {};
         all.l_type = F_WRLCK;
-        all.l_len = (off_t{1} << 62) + 1024;  // the engine's own; a run's mark lies far behind
+        all.l_len = (off_t{1} << 62) + 1024;  // the engine's range; a run's mark is far beyond
         if (::fcntl(m_file, F_OFD_SETLK, &all) != 0) qFatal("somebody else holds the file");
     }
     ~LockedFile() { release(); }

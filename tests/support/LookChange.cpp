@@ -38,7 +38,7 @@ double greatestChange(const QImage& before, const QImage& after, int rimOnly = 0
 }
 
 bool isReached(const QWidget& widget) {
-    // A message view is the browser's own.
+    // The browser draws a message view.
     return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) &&
            !widget.focusProxy() && !widget.inherits("HtmlView") && !widget.inherits("QQuickWidget") &&
            !qobject_cast<const QScrollBar*>(&widget) && !widget.objectName().startsWith("qt_");

@@ -95,7 +95,7 @@ bool isCut(const QWidget& widget) {
     return false;
 }
 
-/// Parts of other controls, and what is meant to lie over something.
+/// Parts of other controls, and what overlaps something by design.
 bool isPart(const QWidget& widget) {
     return qobject_cast<const QScrollBar*>(&widget) || qobject_cast<const QSplitterHandle*>(&widget) ||
            widget.objectName().startsWith("qt_") || widget.inherits("QQuickWidget") ||
@@ -104,7 +104,7 @@ bool isPart(const QWidget& widget) {
            qobject_cast<const QAbstractScrollArea*>(widget.parentWidget());
 }
 
-/// Of a shade its darkest end, as all texts on shades are dark.
+/// The darkest end of a gradient, as all texts on gradients are dark.
 QColor plainColor(const QBrush& brush) {
     if (!brush.gradient()) return brush.color();
     const QGradientStops stops = brush.gradient()->stops();
@@ -132,7 +132,7 @@ void read(QAccessibleInterface& face, QStringList& names) {
         const auto* widget = child ? qobject_cast<QWidget*>(child->object()) : nullptr;
         if (!widget) continue;
         if (takesTab(*widget) && !isOtherOption(*widget)) names << widget->objectName();
-        // What stands in a message view is the browser's own.
+        // The browser draws what is in a message view.
         if (!qobject_cast<const QAbstractScrollArea*>(widget) && !qobject_cast<const QComboBox*>(widget) &&
             !widget->inherits("HtmlView"))
             read(*child, names);

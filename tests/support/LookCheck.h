@@ -6,11 +6,11 @@ class QWidget;
 
 namespace testing_support {
 
-/// What a user could not see in a window as it stands: texts that are cut, controls outside their place or
-/// over one another. A text for each, empty for a window in order.
+/// What a user cannot see in a window in its present state: texts that are cut, controls outside their place
+/// or over one another. A text for each, empty for a window in order.
 QStringList faultsOfLayout(QWidget& window);
 
-/// Texts that stand out too little from their ground: 4.5 to 1 where they are on, 3 to 1 where they are off.
+/// Texts with too little contrast to their background: below 4.5 to 1 when enabled, 3 to 1 when disabled.
 QStringList faultsOfContrast(QWidget& window);
 
 /// Controls that the keyboard reaches and that have no name, no object name or no role for assistive
@@ -20,12 +20,12 @@ QStringList faultsOfAccess(QWidget& window);
 /// Mnemonics that two entries of one menu, or two buttons of the window, share.
 QStringList faultsOfMnemonics(QWidget& window);
 
-/// Object names of the controls that are on and take the Tab key: in the order in which assistive programs
+/// Object names of the enabled controls that take the Tab key: in the order in which assistive programs
 /// read them, and in that of the key.
 QStringList orderRead(QWidget& window);
 QStringList orderOfTab(QWidget& window);
 
-/// A text a third longer, with its mnemonic, its colon and its points in place.
+/// A text made a third longer, with its mnemonic, colon and dots in place.
 QString longer(const QString& text);
 /// The same for each label, button and title of a window.
 void makeTextsLonger(QWidget& window);

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QString>
 
-/// Pattern for a QTemporaryDir that lies in memory where that can be had, so that syncing costs nothing.
+/// Pattern for a QTemporaryDir that is in memory where possible, so that syncing costs nothing.
 inline QString memoryFolderPattern() {
     const QString memory = QStringLiteral("/dev/shm");
     return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/vestrola-XXXXXX");

@@ -55,7 +55,7 @@ QByteArray dnsmasqFile(const NameServer::Records& records) {
     return text;
 }
 
-/// Whether somebody answers a question for the root's name servers.
+/// Whether a server answers a query for the root's name servers.
 bool answers() {
     static const QByteArray question = QByteArray::fromHex(
         "000101000001000000000000"

@@ -51,7 +51,7 @@ class NamesAsked : public QUdpSocket {
     int m_calls = 0;
 };
 
-/// What all processes of this private network together tried to send so far, by the kernel's own count:
+/// What all processes of this private network together have tried to send, by the kernel's count:
 /// datagrams, connections, and packets that have no way out. Empty where the kernel does not count.
 inline std::map<QByteArray, qint64> networkAttempts() {
     std::map<QByteArray, qint64> attempts;

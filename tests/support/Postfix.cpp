@@ -80,7 +80,7 @@ Postfix::~Postfix() {
 }
 
 void Postfix::configure(quint16 relayPort) {
-    // the server's own users have to get as far as their folders
+    // the server's own users need access to their folders
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7055));
     for (const char* name : {"spool", "data", "mail", "sasl"})
         QDir().mkpath(path(name));
@@ -127,7 +127,7 @@ void Postfix::write(const char* name, const QByteArray& text) {
 bool Postfix::run(const QString& program, const QStringList& arguments, const QByteArray& input) {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.setStandardOutputFile(path("output"));  // daemons keep it open
+    process.setStandardOutputFile(path("output"));  // the daemons keep it open
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();

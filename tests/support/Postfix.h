@@ -6,8 +6,8 @@
 
 namespace testing_support {
 
-/// A complete Postfix of its own, in a private network (see enterPrivateNetwork): configuration, queue and
-/// mailboxes lie in a temporary folder. It takes mail only after a login, for mailboxes of `example.it`,
+/// A complete private Postfix, in a private network (see enterPrivateNetwork): configuration, queue and
+/// mailboxes are in a temporary folder. It takes mail only after a login, for mailboxes of `example.it`,
 /// delivered to one Maildir, and for `altrove.example`, relayed to a port of the loopback.
 ///
 /// User names and passwords are those of Postfix::user and Postfix::password.
@@ -19,7 +19,7 @@ class Postfix {
     static QByteArrayList mechanisms() {
         return {"PLAIN", "LOGIN", "CRAM-MD5", "SCRAM-SHA-256", "SCRAM-SHA-1"};
     }
-    static constexpr quint16 onlyPasswords = 2000;  ///< knows no mechanism but PLAIN and LOGIN
+    static constexpr quint16 onlyPasswords = 2000;  ///< only the mechanisms PLAIN and LOGIN
     static inline const QString user = QStringLiteral("utente");
     static inline const QString password = QStringLiteral("perché-no");
 
@@ -32,7 +32,7 @@ class Postfix {
     /// False where files cannot be given to the users that the server's parts run as.
     bool isPossible() const { return m_isPossible; }
 
-    /// Waits for that many messages in the Maildir and gives them as they lie there, in no order.
+    /// Waits for that many messages in the Maildir and returns them unchanged, in no order.
     QByteArrayList mail(qsizetype count) const;
     QByteArray log() const;
 

@@ -8,9 +8,9 @@
 
 #include "platform/jet/OsFile.h"
 
-/// What a disk may hold after its power has failed: of the writes that were not synced any selection, torn at
-/// any sector. A write that comes down late is one of two that were both under way, so it needs no case of
-/// its own: the selections hold what it leaves.
+/// The states of a disk after a power failure: any selection of the writes that were not synced, torn at any
+/// sector. Writes that reach the disk in another order need no case of their own: the selections contain
+/// what they leave.
 namespace power {
 
 struct Recorded {
@@ -41,7 +41,7 @@ std::vector<Recorded> recordSteps(Work&& work) {
     return steps;
 }
 
-/// Of a write the sectors that `reached` picks.
+/// The sectors of a write that `reached` selects.
 template <class Reached>
 void apply(Disk& disk, const Recorded& step, Reached&& reached) {
     using Kind = jet::DiskStep::Kind;
@@ -63,7 +63,7 @@ void apply(Disk& disk, const Recorded& step, Reached&& reached) {
 template <class Random>
 Disk afterPowerFailure(Disk disk, const std::vector<Recorded>& steps, size_t end, Random& random) {
     using Kind = jet::DiskStep::Kind;
-    // What was synced is there for certain; the folder's own entries are as of its last sync.
+    // What was synced is on the disk; the folder's own entries are as of its last sync.
     size_t dataSynced = 0;
     size_t journalSynced = 0;
     size_t folderSynced = 0;

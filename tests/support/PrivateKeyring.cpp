@@ -20,7 +20,7 @@ constexpr const char* configuration =
 <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy></busconfig>
 )";
 
-/// A keyring that is just starting takes nothing yet.
+/// A keyring that is just starting stores nothing yet.
 bool takesPasswords() {
     QElapsedTimer waited;
     for (waited.start(); waited.elapsed() < patience; QThread::msleep(50)) {

@@ -3,8 +3,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// A session bus of its own with a real keyring on it, unlocked; the environment of this process leads to it
-/// as long as the object lives.
+/// A private session bus with a real, unlocked keyring; the environment of this process names it as long as
+/// the object lives.
 class PrivateKeyring {
   public:
     PrivateKeyring();

@@ -42,7 +42,7 @@ bool leaveWorld() {
            ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-/// Tried by a child, since there is no way back for a process that got half of the way, as in a chroot.
+/// Tried by a child process: one that fails half-way, as in a chroot, cannot undo the first half.
 bool superuserMayEnter() {
     const pid_t child = ::fork();
     if (child == 0) ::_exit(leaveWorld() ? 0 : 1);

@@ -14,8 +14,8 @@ namespace testing_support {
 
 /// A program folder in a temporary place, made the program's own and the user's home
 /// by the constructor: an empty database with
-/// the group "Clienti", no account, a language file that leaves the windows' own texts. The destructor lets
-/// go of the database and gives the program its former folder back.
+/// the group "Clienti", no account, a language file that leaves the windows' own texts. The destructor
+/// closes the database and restores the program's former folder.
 class SampleFolder {
   public:
     SampleFolder();
@@ -30,7 +30,7 @@ class SampleFolder {
     /// Columns of a recipient by name. Those that are not named are empty texts; a QString without a value
     /// (isNull) is Null. "sel" is "1" unless named.
     using Columns = QHash<QString, QString>;
-    /// Adds recipients to the group, in one transaction. Gives the number of the first one.
+    /// Adds recipients to the group, in one transaction. Returns the number of the first one.
     int addRecipients(const QList<Columns>& recipients);
     int addRecipient(const Columns& columns) { return addRecipients({columns}); }
 
@@ -42,15 +42,15 @@ class SampleFolder {
     static Account loopbackAccount(quint16 port);
     void addAccount(const Account& account);
 
-    /// Writes a message file as the editor saves it, so that it is known; gives its path.
+    /// Writes a message file as the editor saves it, so that it is known; returns its path.
     QString writeMessage(const QString& name, const MessaggioMss& message) const;
     /// Subject ":::rgs:::", body "Gentile :::nom:::", normal priority, no attachment.
     QString writeMessage() const;
 
-    /// Puts a database in place whose column of the groups' names is narrower than a new one's.
+    /// Replaces the database by one whose column of the groups' names is narrower than a new one's.
     void narrowGroupNames(int characters);
 
-    /// Writes over the pages that hold this text; the file must have some.
+    /// Overwrites the pages that contain this text; the file must have some.
     void damagePagesWith(const QByteArray& text) const;
 
     /// Takes the database away and puts it back.

@@ -16,7 +16,7 @@ namespace {
 constexpr int patienceMs = 15000;
 constexpr int sliceMs = 20;
 
-/// Hands out bare descriptors, so that the socket can be made where it is used.
+/// Returns bare descriptors, so that the socket can be made where it is used.
 class Listener : public QTcpServer {
   public:
     QList<qintptr> descriptors;
@@ -71,7 +71,7 @@ void ScriptedServer::run() {
             m_socket = &socket;
             socket.setSocketDescriptor(listener.descriptors.takeFirst());
             socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-            // What a dialogue does not read stays with the system.
+            // What a dialogue does not read stays in the system's buffer.
             socket.setReadBufferSize(65536);
             m_peerPorts.append(socket.peerPort());
             m_input.clear();

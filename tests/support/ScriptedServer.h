@@ -22,13 +22,13 @@ namespace testing_support {
 ///   S- text      sends the text without a line end; \r \n \0 stand for the control characters
 ///   S. text      sends the line octet by octet
 ///   C: pattern   expects a line; "*" stands for any text
-///   A: name      expects a line and sends what that answer makes of it
+///   A: name      expects a line and sends what the answer of that name returns for it
 ///   BODY         reads a message up to the final point and keeps it
 ///   CHUNK        reads as many octets as the last line said, which was a BDAT, and keeps them like a body
 ///   READ n       reads n octets
 ///   EMPTY        expects that nothing more has come
 ///   TLS          becomes the server's side of a TLS handshake
-///   TLSFAIL      as TLS, and expects the handshake to fail
+///   TLSFAIL      as TLS, but expects the handshake to fail
 ///   WAIT         waits until the client closes
 ///   HOLD         does nothing until the client closes, not even read
 ///   PAUSE n      waits n milliseconds
@@ -47,7 +47,7 @@ class ScriptedServer : public QThread {
 
     quint16 port() const { return m_port; }
 
-    /// Waits until every dialogue was played and gives what went otherwise than written; empty: nothing.
+    /// Waits until every dialogue was played and returns the deviations from the script; empty: none.
     std::string remainder();
 
     /// How often a dialogue has come to a WAIT or a GATE.

@@ -23,8 +23,8 @@
 
 namespace testing_support {
 
-/// Everything around one send window: a program folder, a loopback server, one account that leads to it, the
-/// window opened as the main window opens it (though not modally), and hands that find its controls by name.
+/// The environment of one send window: a program folder, a loopback server, one account that leads to it, the
+/// window opened as the main window opens it (though not modally), and functions that find its controls.
 /// Boxes and file dialogs answer from their queues; the end of the program is only noted.
 class SendStage {
   public:
@@ -67,7 +67,7 @@ class SendStage {
     QList<double> counters() const {
         return {counter("prgDaInviare"), counter("prgFallite"), counter("prgInviate")};
     }
-    /// The header field of a message that the server took.
+    /// The header field of a message that the server accepted.
     QByteArray header(int message, const QByteArray& name) const;
 };
 
@@ -85,7 +85,7 @@ class EventWatch : public QObject {
     std::function<void()> m_action;
 };
 
-/// The program's clock under the test's hand: sleeping only moves it on.
+/// The program's clock under the test's control: sleeping only advances it.
 class TestClock {
   public:
     TestClock();

@@ -12,8 +12,8 @@ class QTcpSocket;
 
 namespace testing_support {
 
-/// A catch-all SMTP server on loopback that runs on the test's own event loop: it takes every message, except
-/// from recipients that it was told to treat otherwise. No TLS, no login.
+/// A catch-all SMTP server on loopback that runs on the test's own event loop: it accepts every message,
+/// except for recipients with another treatment. No TLS, no login.
 class SmtpSink : public QObject {
     Q_OBJECT
 
@@ -21,10 +21,10 @@ class SmtpSink : public QObject {
     enum class Treatment {
         Accept,
         Refuse,      ///< 550 at RCPT
-        RefuseData,  ///< 452 behind the message
+        RefuseData,  ///< 452 after the message
         Hang,        ///< never answers RCPT
         Drop,        ///< closes the connection at RCPT
-        Hold,        ///< takes the message and answers it only when answerHeld() says so
+        Hold,        ///< reads the message and replies only at answerHeld()
     };
 
     struct Message {
@@ -38,14 +38,14 @@ class SmtpSink : public QObject {
 
     quint16 port() const { return m_server.serverPort(); }
     void treat(const QByteArray& recipient, Treatment treatment) { m_treatments[recipient] = treatment; }
-    /// Answers RCPT with this line, and goes on.
+    /// Answers RCPT with this line, and continues.
     void refuse(const QByteArray& recipient, const QByteArray& reply) {
         treat(recipient, Treatment::Refuse);
         m_refusals[recipient] = reply;
     }
     /// Answers come this many milliseconds late.
     void setDelay(int ms) { m_delayMs = ms; }
-    /// Gives the recipients whose message is held, the oldest first.
+    /// Returns the recipients whose message is held, the oldest first.
     QList<QByteArray> held() const;
     /// Sends `text` in answer to the oldest message that is held; an empty text closes its connection.
     void answerHeld(const QByteArray& text);
@@ -62,7 +62,7 @@ class SmtpSink : public QObject {
 
   Q_SIGNALS:
     void attempted(const QString& recipient);
-    /// A message has come whole and is not answered yet.
+    /// A message is complete and not answered yet.
     void taken(const QByteArray& recipient);
 
   private:

@@ -19,7 +19,7 @@ class TestCertificates {
   public:
     static const TestCertificates& get();
 
-    /// Folder that holds the authority's certificate as a .pem file, to be trusted.
+    /// Folder with the authority's certificate as a .pem file, to be trusted.
     QString trustFolder() const { return m_trust.path(); }
 
     const TlsIdentity& good() const { return m_good; }  ///< for localhost, 127.0.0.1, posta.example

@@ -1,5 +1,5 @@
 #pragma once
-// The classes of Qt Test in a program that holds those of a folder: each source adds its own, main() runs the
+// The classes of Qt Test in the test program of a folder: each source adds its own, main() runs the
 // one that its first argument names.
 #include <QApplication>
 #include <QTest>
@@ -42,7 +42,7 @@ int runPreparedClass(int argc, char** argv) {
     const testing_support::TestClass addedClass {  \
         __FILE__, &testing_support::runClass<Test> \
     }
-/// The same with what an application needs first: void prepare(QApplication&).
+/// The same with a step before each test class runs: void prepare(QApplication&).
 #define TEST_CLASS_WITH(Test, prepare)                              \
     const testing_support::TestClass addedClass {                   \
         __FILE__, &testing_support::runPreparedClass<Test, prepare> \

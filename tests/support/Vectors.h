@@ -39,7 +39,7 @@ inline QJsonArray vectorsOf(const QString& name) {
     return vectors;
 }
 
-/// Lets a failure message show the text.
+/// Shows a text in a failure message.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }

@@ -3,9 +3,9 @@
 #include <QString>
 #include <random>
 
-/// Random statements on the table tb_destinatari that mean the same to the program's databases and to plain
-/// SQLite. Texts have small letters and digits only where they are stored, so that both sort them alike;
-/// what is compared with them may be in capitals.
+/// A maker of random statements on the table tb_destinatari that mean the same to the program's databases and
+/// to plain SQLite. Texts have small letters and digits only where they are stored, so that both sort them
+/// alike; what is compared with them may be in capitals.
 class StatementMaker {
   public:
     explicit StatementMaker(unsigned seed) : m_random(seed) {}
@@ -13,7 +13,7 @@ class StatementMaker {
     struct Statement {
         QString text;
         bool reads = false;
-        bool ordered = false;  ///< no two of its rows may change places
+        bool ordered = false;  ///< the order of its rows is fully determined
     };
     /// `rows` are in the table now: it is kept between some and a few hundred.
     Statement next(qint64 rows);

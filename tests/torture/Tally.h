@@ -4,23 +4,24 @@
 #include <cstdlib>
 #include <string>
 
-/// What a campaign of torture has met. Its program is called with a seed and a number of cases; from one seed
-/// the cases are always the same.
+/// The result of a torture campaign. Its program is called with a seed and a number of cases; the same seed
+/// always gives the same cases.
 struct Tally {
     long cases = 0;         ///< that were played
     long survived = 0;      ///< faults after which everything was as promised
     long lost = 0;          ///< rows or changes that were promised and are not there
-    long damaged = 0;       ///< files in which a contradiction was found, answers that were wrong
-    long duplicates = 0;    ///< that no fault accounts for
-    std::string more = {};  ///< told beside the figures
+    long damaged = 0;       ///< files with a contradiction, wrong answers
+    long duplicates = 0;    ///< that no fault explains
+    std::string more = {};  ///< printed beside the figures
 
-    /// Tells what went wrong, with what is needed to play it again.
+    /// Prints what went wrong, with what is needed to repeat it.
     template <class... Words>
     void tell(const char* format, Words... words) const {
         std::fprintf(stderr, format, words...);
         std::fputc('\n', stderr);
     }
-    /// Prints the figures as one line of JSON, which tests/torture/torture.py adds up. Gives the exit status.
+    /// Prints the figures as one line of JSON, for tests/torture/torture.py to add up. Returns the exit
+    /// status.
     int report(const char* campaign, unsigned seed) const {
         std::printf(
             "{\"campaign\": \"%s\", \"seed\": %u, \"cases\": %ld, \"survived\": %ld, \"lost\": %ld, "

@@ -1,6 +1,6 @@
 // Faults below the page file: writes and syncs that fail or are cut short, a full disk, power that fails with
-// what was not synced kept, dropped or torn, also while an earlier accident is mended. After each of them the
-// file is, byte by byte, as before the transaction or as after it.
+// what was not synced kept, dropped or torn, also during the recovery from an earlier fault. After each of
+// them the file is, byte by byte, as before the transaction or as after it.
 //
 //     torture_faults SEED CASES
 #include <algorithm>
@@ -35,7 +35,7 @@ void writeBytes(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
-/// One transaction, and accidents in it.
+/// One transaction, and faults in it.
 class Scene {
   public:
     Scene(std::string path, std::string before, unsigned seed, changes::Random& random, Tally& tally)
@@ -48,7 +48,7 @@ class Scene {
         if (m_random() % 2) m_options.cachedPages = 4 + m_random() % 12;
     }
 
-    /// Learns what the transaction does to the file. False when the file it leaves is not sound.
+    /// Records what the transaction does to the file. False when the file it leaves is not sound.
     bool learn() {
         place({m_before, {}, false});
         Status status;
@@ -92,7 +92,7 @@ class Scene {
         const bool there = std::filesystem::exists(journal);
         return {bytesOf(m_path), there ? bytesOf(journal) : std::string(), there};
     }
-    // What the next who opens the file finds.
+    // What the next process that opens the file finds.
     State settle() {
         std::string told;
         if (const auto opened = Database::open(m_path); !opened.ok())
@@ -124,13 +124,13 @@ class Scene {
                               : "failure was told and the change is there");
     }
 
-    // A random step; half of them around the moment from which on the change stands.
+    // A random step; half of them around the moment of the commit.
     size_t someStep() const {
         const size_t all = m_steps.size() + 1;
         const size_t last = std::min<size_t>(10, all);
         return m_random() % 2 ? m_random() % all : all - 1 - m_random() % last;
     }
-    // From a random step on steps fail: once, now and then, or for good; also those that mend it.
+    // From a random step on, steps fail: once, now and then, or permanently; also those of the recovery.
     void playFailingSteps() {
         place({m_before, {}, false});
         const size_t first = someStep();
@@ -147,17 +147,17 @@ class Scene {
         const bool promised = run().ok();
         if (m_random() % 4 == 0) {
             step = first;
-            (void)Database::open(m_path);  // mends, and fails in it
+            (void)Database::open(m_path);  // recovers, and fails in it
         }
         jet::setDiskHook({});
         expectPromise(promised, settle());
     }
 
-    // Power fails in the transaction, then up to three times while that is mended.
+    // Power fails in the transaction, then up to three times during the recovery.
     void playPowerFailure() {
         const size_t end = someStep();
         place(power::afterPowerFailure({m_before, {}, false}, m_steps, end, m_random));
-        bool before = false;  // what was mended once stays mended
+        bool before = false;  // once recovered, it stays so
         for (int times = static_cast<int>(m_random() % 4); times > 0; --times) {
             const power::Disk crashed = lying();
             const auto steps = power::recordSteps([&] { (void)Database::open(m_path); });

@@ -1,10 +1,10 @@
 // Mutated Jet files: each sample, and each sound file made here, with bytes, fields and pages changed, cut
 // off or exchanged. Each is opened, read and changed, some by statements as well. None may crash the program,
-// keep it busy for more than ten seconds or cost it more than 200 MiB; one that is refused stays as it is.
+// keep it busy for more than ten seconds or cost it more than 200 MiB; one that is refused stays unchanged.
 //
 //     torture_mutated SEED CASES
 //
-// A process of its own plays the cases, so that one that ends it is counted and the next one follows.
+// A separate process plays the cases, so that a crash is counted and the next case follows.
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -34,7 +34,7 @@ constexpr bool sanitized = false;
 
 using Random = std::mt19937;
 
-/// What the process that plays leaves in memory that both see.
+/// Shared memory in which the playing process leaves its state.
 struct Shared {
     long next;     ///< case to be played
     long refused;  ///< files
@@ -49,7 +49,7 @@ void writeField(std::string& file, size_t at, uint32_t value, size_t length) {
 void mutate(std::string& file, Random& random) {
     const size_t pages = std::max<size_t>(1, file.size() / pageSize);
     const auto somePage = [&] { return random() % pages * pageSize; };
-    // half of them in the first bytes of a page, where its type, owner, counts and slots stand
+    // half of them in the first bytes of a page, where its type, owner, counts and slots are
     const size_t at = somePage() + (random() % 2 ? random() % 64 : random() % pageSize);
     const uint32_t telling[] = {0,
                                 1,
@@ -88,7 +88,7 @@ void mutate(std::string& file, Random& random) {
     }
 }
 
-/// The file of a case: always the same.
+/// The file of a case: always the same for the same number.
 std::string fileOf(unsigned seed, long number, const mutated::Files& files) {
     std::seed_seq both{seed, static_cast<unsigned>(number)};
     Random random(both);
@@ -159,7 +159,7 @@ int main(int argc, char** argv) {
         const bool late = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM;
         tally.tell("seed %u, case %ld: %s", wanted.seed, shared.next,
                    late ? "more than ten seconds" : "ended the process");
-        // kept for a look, and for the corpus of fuzz_jet_open once FF stands before it
+        // kept for inspection, and for the corpus of fuzz_jet_open with FF before it
         const std::string bytes = fileOf(wanted.seed, shared.next, files);
         std::ofstream(
             "torture_mutated_" + std::to_string(wanted.seed) + "_" + std::to_string(shared.next) + ".mdb",

@@ -1,9 +1,9 @@
 // One run of the send window over a program folder made by demo_make, as demo_send plays it, but with a short
-// message and, unless the timer is to be the real one, each tick right after the other.
+// message and, unless the real timer is asked for, each tick right after the other.
 //
 //     torture_send_run FOLDER TIMER EVERY
 //
-// TIMER is "real" or "none". After each EVERY recipients one line tells how many are done, the milliseconds
+// TIMER is "real" or "none". After each EVERY recipients one line says how many are done, the milliseconds
 // since the one before, the memory in KiB and the open descriptors.
 #include <cstdio>
 #include <QAbstractButton>

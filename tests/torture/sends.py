@@ -4,8 +4,8 @@
     sends.py BUILD_FOLDER kills SEED KILLS [real]
     sends.py BUILD_FOLDER long SEED RECIPIENTS [real]
 
-The ticks follow one another at once, unless "real" asks for the timer as it is. `kills`: nobody is lost, and each kill serves
-at most one recipient twice. `long`: after the first thousand recipients memory, descriptors and speed stay what they are.
+The ticks follow one another at once, unless "real" asks for the real timer. `kills`: no recipient is lost, and each kill serves
+at most one recipient twice. `long`: after the first thousand recipients memory, descriptors and speed stay the same.
 The last line is one of JSON, which torture.py adds up.
 """
 import asyncio
@@ -25,12 +25,12 @@ import catch_all  # noqa: E402
 
 MEMORY = "/dev/shm" if pathlib.Path("/dev/shm").is_dir() else None
 PER_LIST = 60
-# what may come after the first thousand: a tenth of its memory and 8 MiB, as many descriptors, twice its time
+# what is allowed after the first thousand: a tenth more memory and 8 MiB, as many descriptors, twice the time
 MORE_MEMORY, MORE_KIB, MORE_DESCRIPTORS, MORE_TIME = 1.1, 8 * 1024, 4, 2.0
 
 
 class Server:
-    """Takes every message and remembers for whom it was, in order."""
+    """Accepts every message and remembers its recipient, in order."""
 
     def __init__(self):
         self.received = []
@@ -130,7 +130,7 @@ def kill_one(stage, moment, timer):
     status = run.wait()
     if not killed and status != 0:
         raise SystemExit(f"FAILED: a run ended by itself with {status}")
-    time.sleep(0.02)  # what was under way may still reach the server
+    time.sleep(0.02)  # what was in transit may still reach the server
     return killed
 
 
@@ -195,7 +195,7 @@ def long_run(build, seed, count, timer):
         tally.wrong("damaged", f"memory grew from {first[2]} to {last[2]} KiB")
     if last[3] > first[3] + MORE_DESCRIPTORS:
         tally.wrong("damaged", f"descriptors grew from {first[3]} to {last[3]}")
-    # The time is that of a machine with other work: told, and held to a bound only where there is enough of it.
+    # Other work on the machine disturbs the time: printed, and checked only where there is enough of it.
     half = len(states) // 2
     if half >= 5:
         middle = [sorted(state[1] for state in part)[len(part) // 2] for part in (states[:half], states[half:])]

@@ -1,5 +1,5 @@
-// Random statements, run on a database of the program and on a table of plain SQLite: both give the same
-// rows, and after the same number of changes hold the same.
+// Random statements, run on a database of the program and on a table of plain SQLite: both return the same
+// rows, change the same number of them, and contain the same afterwards.
 //
 //     torture_statements SEED CASES
 #include <sqlite3.h>
@@ -135,7 +135,7 @@ class Ours {
     QString m_connection;
 };
 
-/// Whether both said the same; `why` tells the difference.
+/// Whether both answered the same; `why` describes the difference.
 bool agree(Answer ours, Answer plain, bool ordered, QString& why) {
     if (ours.ok != plain.ok) {
         why = ours.ok ? "SQLite refuses: " + plain.why : "refused: " + ours.why;

@@ -3,8 +3,8 @@
 
     torture.py BUILD_FOLDER SANITIZED_BUILD_FOLDER [MINUTES [SEED]]
 
-Without MINUTES the whole counts, with them as much of each as fits, in the same proportion. The work is done in slices of a
-hundredth of the counts, each with a seed of its own, from the one that is printed on. What fails tells how to play it again.
+Without MINUTES it plays all cases, with them as many of each as fit, in the same proportion. The work is done in slices of a
+hundredth of the cases, each with its own seed, counted up from the one that is printed. A failure says how to repeat it.
 """
 import json
 import os
@@ -29,7 +29,7 @@ class Table:
         self.rows, self.failed = {}, []
 
     def add(self, command, name, environment=None):
-        """Runs a program and takes its figures from the last line that it prints."""
+        """Runs a program and reads its figures from the last line that it prints."""
         done = subprocess.run([str(word) for word in command], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
                               env={**os.environ, **(environment or {})})
         again = " ".join([*(f"{key}={value}" for key, value in (environment or {}).items()), *map(str, command)])
