@@ -4,7 +4,7 @@
 
 class QMimeData;
 
-/// What a clipboard or a drop holds for a document, as the editing scripts take it: `html`, `text`, and the
+/// The content of a clipboard or a drop for a document, in the editing scripts' form: `html`, `text`, and the
 /// addresses of `images` (files that are images; a bare picture as a `data:` address). Empty when there is
 /// nothing of these.
 QJsonObject clipboardContent(const QMimeData& data);

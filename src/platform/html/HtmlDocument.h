@@ -7,11 +7,11 @@
 /// An HTML document held in memory without a browser: text goes in, the document's normal form and its
 /// visible text come out. Page scripts do not run and nothing is loaded.
 ///
-/// Any text is a document: it is read as the HTML standard tells browsers to (missing tags supplied, wrong
-/// ones mended). One that is too large or too deep (platform/html/Bounds.h) is refused.
+/// Any text is a document: it is read as the HTML standard prescribes for browsers (missing tags supplied,
+/// wrong ones repaired). One that is too large or too deep (platform/html/Bounds.h) is refused.
 class HtmlDocument {
   public:
-    /// A failure (Overflow) where the text is refused; the document is then the one it was.
+    /// A failure (Overflow) where the text is refused; the document is then unchanged.
     Status setDocumentHTML(const QString& html);
 
     /// The normal form: the parsed document written by the serialisation rules of the HTML standard. Lines

@@ -5,22 +5,22 @@
 
 namespace html {
 
-/// One tag: its name, and the attributes that a message's composition asks for, as they stand in the source:
+/// One tag: its name, and the attributes that a message's composition asks for, as they are in the source:
 /// character references are not decoded. Absent ones have a null data(). Of two attributes of one name the
 /// first counts.
 struct HtmlTag {
     std::string_view name, src, background, style, charset, httpEquiv, content, rel, href, alt;
-    std::string_view attributes;  ///< all of them, as they stand in the source
-    int attributeCount = 0;       ///< those that stand there twice too
+    std::string_view attributes;  ///< all of them, as they are in the source
+    int attributeCount = 0;       ///< duplicates included
     bool selfClosing = false;     ///< ends in "/>", which means something in drawings and formulas alone
 };
 
 /// Reads the markup of an HTML text from start to end as browsers divide it (HTML standard 13.2.5), without
 /// building a tree. Comments, conditional ones too, and declarations are skipped. Takes time in proportion to
-/// the text, whatever it holds.
+/// the text, whatever it contains.
 class HtmlTokens {
   public:
-    /// `html` has to outlive the reader: all it gives are views into it.
+    /// `html` has to outlive the reader: all results are views into it.
     explicit HtmlTokens(std::string_view html) : m_html(html) {}
 
     enum class Kind {
@@ -31,7 +31,7 @@ class HtmlTokens {
         End,
     };
     Kind next();
-    /// Called after a start tag: its content is no raw text, as in a drawing.
+    /// To be called after a start tag whose content is no raw text, as in a drawing.
     void readAsMarkup() { m_rawTextNext = false; }
     /// The last start tag or end tag.
     const HtmlTag& tag() const { return m_tag; }
@@ -56,7 +56,7 @@ class HtmlTokens {
     HtmlTag m_tag;
     std::string_view m_text;
     bool m_rawTextNext = false;
-    // Where the next end of a comment stands, so that no stretch is searched twice
+    // Where the next end of a comment is, so that no stretch is searched twice
     std::size_t m_commentEnd = 0, m_oddCommentEnd = 0;
 };
 

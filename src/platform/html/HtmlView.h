@@ -17,22 +17,22 @@ class QPrinter;
 /// Design and browse view of an HTML document.
 ///
 /// The view keeps its text alone until it is first shown or first asked for something that only a browser
-/// knows (a command, a selection). Then the browser plug-in is loaded and the text put into it; creating a
-/// view costs nothing.
+/// knows (a command, a selection). Then the browser plug-in is loaded with the text; creating a view costs
+/// nothing.
 ///
 /// All calls are synchronous: they return when the browser's process has done the work. While they wait (at
-/// most a few seconds, ordinarily about a millisecond) timers and sockets go on and the user's input is held
-/// back; a wait that lasts shows the hourglass. When the browser's process dies, it is started again with the
-/// text as it last stood; undo starts anew.
+/// most a few seconds, usually about a millisecond) timers and sockets go on and the user's input is held
+/// back; a longer wait shows the hourglass. When the browser's process dies, it is started again with the
+/// text that was last known; the undo list is empty then.
 ///
-/// A browser that gives no answer in time is a failure of the call (Timeout): what was asked is not known,
-/// and never answered with what was true earlier; what was to be changed may still change when the browser
-/// goes on. After such a failure the next calls but documentHTML() and responds() wait for a moment only,
-/// until the browser answers again. A browser that cannot be had is a failure too (FileNotFound), except for
-/// the text of the document.
+/// A browser that does not answer in time is a failure of the call (Timeout): a query has no result,
+/// never an outdated one; a change may still happen when the browser goes on. After such a failure the
+/// next calls but documentHTML() and responds() wait for a moment only, until the browser answers
+/// again. A browser that cannot be loaded is a failure too (FileNotFound), except for the text of the
+/// document.
 ///
-/// Safety: page scripts and event handlers never run, nothing is fetched from a network, images of local
-/// files and `data:` images show, links, forms, refreshes, frames and dropped files never lead the view away.
+/// Safety: page scripts and event handlers never run, nothing is fetched from a network, local and `data:`
+/// images are shown, links, forms, refreshes, frames and dropped files never lead the view away.
 ///
 /// Threads: the application's own only. Ownership: a widget like any other.
 class HtmlView : public QWidget {
@@ -78,7 +78,7 @@ class HtmlView : public QWidget {
         Properties = 5052  ///< status only: elementsAtCaret() and setElementAttributes()
     };
 
-    /// What queryStatus() answers.
+    /// What queryStatus() returns.
     enum CommandStatus : int {
         Unsupported = 0,
         Disabled = 1,
@@ -107,7 +107,7 @@ class HtmlView : public QWidget {
 
     struct LinkInfo {
         QString address;            ///< as written; empty for no link
-        bool unsubscribes = false;  ///< rel holds "unsubscribe" (RFC 2369)
+        bool unsubscribes = false;  ///< rel contains "unsubscribe" (RFC 2369)
     };
 
     explicit HtmlView(Mode mode, QWidget* parent = nullptr);
@@ -115,9 +115,9 @@ class HtmlView : public QWidget {
 
     // --- The document
 
-    /// The document in its one normal form, the same that HtmlDocument gives for it: lines end in LF as they
-    /// stand in the document, and a character that Windows-1252 does not hold is a numeric reference (in
-    /// style sheets a CSS escape).
+    /// The document in its one normal form, the same that HtmlDocument gives for it: lines end in LF as in
+    /// the document, and a character that is not in Windows-1252 is a numeric reference (in style sheets a
+    /// CSS escape).
     Result<QString> documentHTML() const;
 
     /// Replaces the document, the undo list and the selection (the caret is at the start). Any text is a
@@ -127,29 +127,29 @@ class HtmlView : public QWidget {
     /// on.
     Status setDocumentHTML(const QString& html);
 
-    /// Whether the browser answers now. True as well while no browser holds the document.
+    /// Whether the browser answers now. True as well while the document is in no browser.
     Status responds() const;
 
-    /// The document as it is known without asking the browser: as of the last followed(), documentHTML() or
-    /// setDocumentHTML(). It may be older than the document, so it is for copies that are kept for an
-    /// emergency.
+    /// The document as it is known without asking the browser: as of the last followed(),
+    /// documentHTML() or setDocumentHTML(). It may be older than the document, so it is only for
+    /// emergency copies.
     QString knownHTML() const;
 
-    /// Replaces what is selected by the fragment and puts the caret behind it; undone as one step. False when
+    /// Replaces what is selected by the fragment and puts the caret after it; undone as one step. False when
     /// the view has no selection, in Browse mode, or when nothing was inserted.
     Result<bool> insertHTML(const QString& fragment);
 
     // --- Commands
 
-    /// Runs a command at the selection. The get commands answer a QString: the font's name ("Verdana"), its
-    /// size ("1" to "7"), its colour ("#rrggbb"), each empty where the selection is mixed. All others answer
+    /// Runs a command at the selection. The get commands return a QString: the font's name ("Verdana"), its
+    /// size ("1" to "7"), its colour ("#rrggbb"), each empty where the selection is mixed. All others return
     /// whether they were done. SetFontName takes a name, SetFontSize "1" to "7", SetForeColor "#rrggbb"; with
-    /// nothing selected they hold for the text typed next. One undo step each.
+    /// nothing selected they apply to the text typed next. One undo step each.
     Result<QVariant> execCommand(int command, const QString& value = QString());
 
     /// State at the present selection, without asking the browser: as of the last displayChanged().
     CommandStatus queryStatus(int command) const;
-    /// What GetFontName and GetFontSize answer, likewise.
+    /// What GetFontName and GetFontSize return, likewise.
     QString queryFontName() const;
     QString queryFontSize() const;
     /// True where queryStatus() is Latched, and where it is Enabled or Latched.
@@ -159,11 +159,11 @@ class HtmlView : public QWidget {
     /// The selected text, as plain text; empty for a mere caret.
     Result<QString> selectedText() const;
 
-    /// Selects the next occurrence from the selection on, round the end of the document if need be. False
+    /// Selects the next occurrence from the selection on, wrapping around at the end of the document. False
     /// when there is none.
     Result<bool> find(const QString& text, unsigned flags = 0);
 
-    // --- Dialogs' needs
+    // --- For the dialogs
 
     /// The selected image (it was clicked), for the image dialog; none for anything else.
     Result<std::optional<ImageInfo>> selectedImage() const;
@@ -171,16 +171,16 @@ class HtmlView : public QWidget {
     /// absolute path becomes a file address. One undo step.
     Result<bool> insertImage(const ImageInfo& image);
 
-    /// The link that holds the selection.
+    /// The link that contains the selection.
     Result<LinkInfo> link() const;
-    /// Makes the selection a link, or changes the link that holds it; an empty address takes the link away.
+    /// Makes the selection a link, or changes the link around it; an empty address removes the link.
     /// With nothing selected and no link around, inserts `text` (the address where that is empty) as a link.
-    /// One undo step. A link that is to unsubscribe and does not yet gets rel="unsubscribe one-click" (RFC
-    /// 8058), one that is to no more loses both words; other words of rel stay.
+    /// One undo step. A link that becomes one to unsubscribe gets rel="unsubscribe one-click" (RFC
+    /// 8058), one that no longer is loses both words; other words of rel stay.
     Result<bool> setLink(const LinkInfo& link, const QString& text = QString());
 
-    /// The elements that hold the selection, innermost first (a selected image or form field is the first),
-    /// up to and with the body.
+    /// The elements that contain the selection, innermost first (a selected image or form field is the
+    /// first), up to and with the body.
     Result<QList<Element>> elementsAtCaret() const;
     /// Gives the element at `level` of elementsAtCaret() exactly these attributes. One undo step. False when
     /// there is no such element or a name cannot be one.
@@ -198,10 +198,10 @@ class HtmlView : public QWidget {
     Result<QString> pageColor(PageColor color) const;
     Status setPageColor(PageColor color, const QString& value);
 
-    // --- Appearance. None touches the document; all stay over setDocumentHTML().
+    // --- Appearance. None touches the document; all survive setDocumentHTML().
 
     /// Shows text that names no font, or none that is there, in this font or in the one without serifs that
-    /// stands in for it; GetFontName gives the family for such text. A font that a command sets is written
+    /// replaces it; GetFontName gives the family for such text. A font that a command sets is written
     /// even where the text is shown in it already. To be called before the view is shown.
     void setDefaultFont(const QString& family);
 
@@ -216,7 +216,7 @@ class HtmlView : public QWidget {
     /// `prompt` the user is asked first; false when the user declined. `title` names the printed document
     /// where it has no title of its own.
     Result<bool> print(bool prompt, const QString& title = QString());
-    /// The question that print(true) puts: may change the printer, false cancels. The default is the
+    /// The question that print(true) asks: may change the printer; false cancels. The default is the
     /// desktop's print dialog.
     void setPrintPrompt(std::function<bool(QPrinter&)> prompt);
 
@@ -225,7 +225,7 @@ class HtmlView : public QWidget {
     /// The widget inside that has the focus, keys and mouse of the document, null before the browser was
     /// loaded. Tests send their events to it. (setFocus() on the view works at any time.)
     QWidget* inputWidget() const;
-    /// True once the browser is there and holds the document.
+    /// True once the browser is there and has the document.
     bool isLive() const;
     /// Loads the browser now if it is not there, without showing anything.
     void wake();
@@ -238,7 +238,7 @@ class HtmlView : public QWidget {
     /// The selection, the document or the state of a command changed: read the states anew. At most once for
     /// each turn of the event loop.
     void displayChanged();
-    /// knownHTML() has taken in the changes of the document that were made so far, by whomever: soon after
+    /// knownHTML() contains the changes of the document made so far, from any source: soon after
     /// each change, later for a large document, and at the latest during the next documentHTML().
     void followed();
     /// A key was released over the document. The keys of a stroke that was a shortcut of the window (Ctrl+S)
@@ -252,16 +252,16 @@ class HtmlView : public QWidget {
     void doubleClicked();
     /// Something was dropped on the document and inserted.
     void dropped();
-    /// Text that was pasted or dropped named files of this machine, which the document did not hold already;
-    /// it came in without them. Their addresses, at most 100. Files that were themselves pasted or dropped
-    /// are none of these.
+    /// Text that was pasted or dropped named files of this machine, which were not in the document already;
+    /// it was inserted without them. Their addresses, at most 100. Files that were themselves pasted or
+    /// dropped are none of these.
     void leftOut(const QStringList& addresses);
-    /// Text that was pasted or dropped is shown with things of the web, which are loaded wherever the message
-    /// is read: pictures, backgrounds, and whom a link tells of a click. Their addresses, at most 100.
+    /// Text that was pasted or dropped shows web resources, which are loaded wherever the message is read:
+    /// pictures, backgrounds, and what a link notifies of a click. Their addresses, at most 100.
     void staysOnTheWeb(const QStringList& addresses);
     /// What was pasted or dropped is too large or too deep, and was not inserted; a text for the user.
     void refused(const QString& reason);
-    /// Image files were pasted or dropped and stand in the document now. Their addresses.
+    /// Image files were pasted or dropped and are in the document now. Their addresses.
     void filesInserted(const QStringList& addresses);
     /// The pointer came over the view.
     void pointerEntered();

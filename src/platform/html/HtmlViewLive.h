@@ -13,17 +13,17 @@
 #include "platform/html/browser/Browser.h"
 #include "platform/html/HtmlView.h"
 
-/// The part of a view that talks with its browser. Until the browser holds the document, `m_source` is the
-/// truth; from then on the document in the browser's process is, and `m_text` follows it.
+/// The part of a view that talks with its browser. Until the browser has the document, `m_source` is
+/// authoritative; then the document in the browser's process is, and `m_text` follows it.
 struct HtmlView::Live {
     Live(HtmlView& owner, Mode viewMode);
     ~Live();
     Live(const Live&) = delete;
     Live& operator=(const Live&) = delete;
 
-    /// Brings the browser up, without waiting.
+    /// Starts the browser, without waiting.
     void begin();
-    /// Brings the browser up and waits for it; false where that fails.
+    /// Starts the browser and waits for it; false where that fails.
     bool ensure();
     Status setSource(const QString& html);
     Result<QString> text();
@@ -31,7 +31,7 @@ struct HtmlView::Live {
     QString knownText();
     Status responds();
 
-    /// How long a question waits while the browser owes the answer to an earlier one.
+    /// How long a question waits while an earlier one is unanswered.
     enum class Wait { Brief, Long };
     /// The value of a script, or why there is none: no answer in time, or no browser.
     Result<QVariant> ask(const QString& script, Wait wait = Wait::Brief);
@@ -40,7 +40,7 @@ struct HtmlView::Live {
     Result<bool> changeDone(const QString& function, const QJsonArray& values = {});
     Result<QString> askText(const QString& script);
     Status tell(const QString& script);
-    /// Values as they stand between the brackets of a call in a script.
+    /// Values as they are written between the brackets of a call in a script.
     static QString arguments(const QJsonArray& values);
     Result<bool> paste();
     Result<bool> paste(const QJsonObject& content);
@@ -94,7 +94,7 @@ struct HtmlView::Live {
     bool focusArrives(Qt::FocusReason reason);
 
     const QString m_missingMark;  // in front of addresses of images that are not there
-    QString m_defaultFont;        // as it was set
+    QString m_defaultFont;        // as set
     QString m_standardFont;       // as the browser knows it
     QString m_source;
     QString m_text;        // null: as m_source gives it
@@ -108,7 +108,7 @@ struct HtmlView::Live {
     bool m_stalled = false;  // a question got no answer, and none came since
     bool m_stateDue = false;
     bool m_reading = false;    // the answer to read() is on its way
-    bool m_followDue = false;  // once it came
+    bool m_followDue = false;  // once it arrived
 
     bool m_strokeIsShortcut = false;
     int m_strokes = 0;      // keys released over the input widget
@@ -116,7 +116,7 @@ struct HtmlView::Live {
     int m_deaths = 0;
     QElapsedTimer m_lastDeath;
     QPointer<QWidget> m_input;
-    QPointer<QLabel> m_notice;  // in the place of the browser that cannot be had
+    QPointer<QLabel> m_notice;  // shown instead of a browser that cannot be loaded
     QTimer m_followTimer;
     std::vector<QEventLoop*> m_waiting;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// What becomes of a printed document: its title, and its way to the printer.
+// The print job of a document: its title, and its transfer to the printer.
 
 #include <QByteArray>
 #include <QString>
@@ -10,12 +10,12 @@
 
 class QPrinter;
 
-/// The document with `title` in its information dictionary, by an update at its end (ISO 32000-1, 7.5.6). As
-/// it is where the title is empty or the document has no plain cross-reference table.
+/// The document with `title` in its information dictionary, by an update at its end (ISO 32000-1, 7.5.6).
+/// Unchanged where the title is empty or the document has no plain cross-reference table.
 QByteArray withTitle(const QByteArray& pdf, const QString& title);
 
-/// What the system's printing command `lp` is told: the printer and the options that the user chose in the
-/// print dialog. The document is read from standard input.
+/// The arguments of the system's printing command `lp`: the printer and the options that the user chose in
+/// the print dialog. The document is read from standard input.
 QStringList lpArguments(QPrinter& printer, const QString& title);
 
 /// Runs the command with the document on its standard input, and waits at most `milliseconds` for its end;

@@ -11,7 +11,7 @@
 /// Gumbo's tree of one document, with all the memory it takes.
 ///
 /// Nesting, attributes and open formatting elements can make the work of the standard's algorithm grow with
-/// the square of the text. So the tags are looked at first, and the time and the memory of the parse are
+/// the square of the text. So the tags are checked first, and the time and the memory of the parse are
 /// bounded as well; what exceeds the bounds of platform/html/Bounds.h, or these, is refused.
 class ParseTree {
   public:
@@ -40,6 +40,6 @@ const GumboElement* elementOf(const GumboNode& node);
 /// True for an element of HTML itself (not SVG or MathML) with that tag.
 bool isHtmlElement(const GumboNode& node, GumboTag tag);
 
-/// Takes the marks out of a text that was made from the tree. They stand in front of some end tags of forms,
-/// for the parser's sake; see ParseTree.cpp.
+/// Removes the marks from a text that was made from the tree. They precede some end tags of forms, for the
+/// parser's sake; see ParseTree.cpp.
 QByteArray withoutMarks(QByteArray text);

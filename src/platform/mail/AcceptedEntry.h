@@ -1,4 +1,4 @@
-// One recipient whose message was accepted and who is not marked yet, and the file that remembers him.
+// One recipient whose message was accepted and whose row is not marked yet, and the file that keeps it.
 #pragma once
 
 #include <QByteArray>
@@ -8,8 +8,8 @@
 
 namespace mail {
 
-/// The file that a recipient's number belongs to: where it stood when the message was sent, and what the
-/// system knows it by, so that it is found again where it was moved.
+/// The file that a recipient's number belongs to: its path when the message was sent, and its device and
+/// inode, so that it is found again after a move.
 struct DatabaseFile {
     QString path;
     quint64 device = 0;  ///< 0 with inode 0: there was no such file
@@ -33,13 +33,13 @@ struct AcceptedEntry {
     static AcceptedEntry of(const DatabaseFile& database, qint64 number, const QString& address);
     /// Whether both are rows of one database.
     bool sameDatabase(const AcceptedEntry& other) const;
-    /// Whether it stands for this address, compared octet by octet.
+    /// Whether it is of this address, compared octet by octet.
     bool bears(const QString& servedAddress) const;
     QByteArray bytes() const;
     friend bool operator==(const AcceptedEntry&, const AcceptedEntry&) = default;
 };
 
-/// What a file of entries holds.
+/// The contents of a file of entries.
 struct AcceptedContent {
     struct Place {
         qsizetype slot = 0;
@@ -48,7 +48,7 @@ struct AcceptedContent {
     QVector<Place> entries;
     qsizetype room = 0;  ///< entries that the file has room for, used or not
     bool damaged =
-        false;  ///< something in it is neither an entry nor empty; what is sound is given all the same
+        false;  ///< something in it is neither an entry nor empty; valid entries are returned all the same
 };
 
 /// Most entries of one file.
@@ -56,7 +56,7 @@ inline constexpr qsizetype mostAccepted = 65536;
 
 /// The first octets of the file, an entry long.
 QByteArray acceptedHead();
-/// Reads any octets. A file without any is sound and has room for nothing.
+/// Reads any octets. An empty file is valid and has room for nothing.
 AcceptedContent parseAccepted(QByteArrayView file);
 
 }  // namespace mail

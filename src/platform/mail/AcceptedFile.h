@@ -1,4 +1,4 @@
-// A file of accepted and not marked recipients, which belongs to the process that holds its lock.
+// A file of recipients who are accepted and not marked, which belongs to the process that holds its lock.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace mail {
 
-/// One of the numbered files of the data folder (docs/formats/accettati.md). Two locks stand in it (OFD
+/// One of the numbered files of the data folder (docs/formats/accettati.md). It has two locks (OFD
 /// locks, which end with the process): one for as long as its owner lives, one for each change of an entry,
 /// so that another process may take an entry out of it too.
 class AcceptedFile {
@@ -30,20 +30,20 @@ class AcceptedFile {
     bool own();
     /// None where it cannot be read.
     std::optional<AcceptedContent> read() const;
-    /// How many entries find room in it.
+    /// How many entries it has room for.
     qsizetype room() const;
-    /// Writes the head where there is none and makes sure of the room for so many entries in all; fails with
-    /// DeviceIo where the disk has none. The room that there was stays.
+    /// Writes the head where it is missing and reserves room for this many entries in all; fails with
+    /// DeviceIo where the disk is full. Room that was reserved before stays.
     Status reserve(qsizetype entries);
     /// Fills an entry whose room was reserved.
     bool write(qsizetype slot, const AcceptedEntry& entry);
-    /// Empties the entry where it still is this one.
+    /// Empties the slot if it still contains this entry.
     bool clear(qsizetype slot, const AcceptedEntry& entry);
-    /// Hands what was written to the disk.
+    /// Syncs what was written to the disk.
     void sync() const;
-    /// Takes the file away, for its owner.
+    /// Removes the file; only for its owner.
     void remove() const;
-    /// Puts the file out of the way, under a name that tells so; gives the name, empty where that fails.
+    /// Renames a damaged file, so that its name says so; returns the new name, empty where that fails.
     QString setAside() const;
 
   private:

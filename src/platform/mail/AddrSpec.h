@@ -7,7 +7,7 @@
 
 namespace mail {
 
-/// An address as it stands in an SMTP command or between the angle brackets of a header.
+/// An address as it is in an SMTP command or between the angle brackets of a header.
 struct Mailbox {
     QByteArray localPart;  ///< UTF-8; a quoted local part keeps its quotes
     QByteArray domain;     ///< ASCII: an international domain as A-labels, a literal with its square brackets

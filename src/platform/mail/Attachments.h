@@ -9,13 +9,13 @@
 
 namespace mail {
 
-/// The encoded attachments of the last message, so that a file is read and encoded once for as long as
-/// messages name it and it does not change.
+/// The encoded attachments of the last message. A file is read and encoded once, as long as messages name it
+/// and it does not change.
 class Attachments {
   public:
-    /// Brings the parts in line with the list. Fails when a file is missing, cannot be read or is too large
+    /// Updates the parts to the list. Fails when a file is missing, cannot be read or is too large
     /// for any server (FileNotFound, PathAccess, RecordTooLarge); the text names the attachment.
-    /// A file that is none of `allowed` is PathAccess.
+    /// A file that is not in `allowed` fails with PathAccess.
     Status follow(const QVector<Attachment>& list, const CarriedFiles& allowed = {});
 
     /// One complete part for each attachment of the list, in its order.

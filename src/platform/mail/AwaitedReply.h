@@ -7,26 +7,26 @@
 
 namespace mail {
 
-/// The reply to the final point of a message that was given up meanwhile. The server may have taken the
-/// message all the same: the connection stays open, for nothing else, until it says so.
+/// The reply to the final point of a message that was given up. The server may have accepted the message all
+/// the same: the connection stays open, only for this, until it replies.
 class AwaitedReply : public QObject {
     Q_OBJECT
   public:
-    /// Takes `socket`, which is connected, from its owner. `input` is what was read so far and not used,
-    /// `before` how many replies to the envelope come first, and `limitMs` how long all of them are waited
-    /// for. A refusal of the envelope decides.
+    /// Takes ownership of `socket`, which is connected. `input` is what was read and not yet used, `before`
+    /// how many replies to the envelope come first, and `limitMs` the time limit for all of them. A refusal
+    /// of the envelope is the outcome.
     AwaitedReply(QSslSocket* socket, const QByteArray& input, int before, int limitMs);
     ~AwaitedReply() override;
 
-    /// Looks at what has come. To be called once ended() is connected.
+    /// Reads what has arrived. To be called once ended() is connected.
     void look();
 
-    /// Waits for the reply while no event loop runs; ended() may follow from within.
+    /// Waits for the reply without an event loop; ended() may be emitted during the call.
     void waitForEnd(int ms);
 
   Q_SIGNALS:
-    /// The only signal, once. `code` is the server's reply code, 0 where none came or the time is up: whether
-    /// the message was taken is not known then.
+    /// The only signal, once. `code` is the server's reply code, 0 where none came in time: whether the
+    /// message was accepted is then unknown.
     void ended(bool accepted, int code);
 
   private:

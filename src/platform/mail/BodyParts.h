@@ -7,7 +7,7 @@
 
 namespace mail {
 
-/// The ready pieces of one message's content.
+/// The encoded pieces of one message's content.
 struct Body {
     QByteArray text;                              ///< UTF-8, any line ends
     QByteArray html;                              ///< UTF-8, any line ends
@@ -15,10 +15,10 @@ struct Body {
     const std::vector<SharedLines>* attachments;  ///< complete parts; owned by the caller
 };
 
-/// Appends the content headers, the empty line and the content: attachments around images around the choice
-/// of text and HTML, each layer only where it has something to hold (RFC 2046 5.1, RFC 2387). `word` makes
-/// the boundaries; they hold "=_", which neither quoted-printable nor base64 can produce, so none of them
-/// occurs in the content.
+/// Appends the content headers, the empty line and the content: multipart/mixed around multipart/related
+/// around multipart/alternative, each only where it is needed (RFC 2046 5.1, RFC 2387). The boundaries are
+/// made from `word`; they contain "=_", which neither quoted-printable nor base64 can produce, so none of
+/// them occurs in the content.
 void appendBody(MessageText& text, const Body& body, const QByteArray& word);
 
 }  // namespace mail

@@ -7,10 +7,10 @@
 
 namespace mail {
 
-/// Builds messages. One Composer serves a whole run: it keeps encoded attachments, local images and constant
-/// headers between messages, checked against the values and the files (size, time of change) at each message.
+/// The builder of messages. One Composer serves a whole run: it keeps encoded attachments, local images and
+/// constant headers, and checks at each message whether values or files (size, time of change) differ.
 ///
-/// The form of a message is told in docs/formats/message-on-the-wire.md.
+/// The form of a message is described in docs/formats/message-on-the-wire.md.
 class Composer {
   public:
     Composer();
@@ -20,7 +20,7 @@ class Composer {
 
     /// Fails when an address is not one plain addr-spec (TypeMismatch) and when an attachment cannot be read
     /// (FileNotFound, PathAccess). A local image that cannot be embedded is no failure: its reference stays
-    /// as it is.
+    /// unchanged.
     Result<ComposedMessage> compose(const MessageData& message);
 
   private:

@@ -23,13 +23,13 @@
 
 namespace mail {
 
-/// Composes and delivers one message at a time over SMTP. The caller sets the fields, those of the message
-/// included, calls Send and waits for one of the two signals; fields keep their values between messages.
+/// The SMTP delivery of one message at a time. The caller sets the fields, those of the message included,
+/// calls Send and waits for one of the two signals; fields keep their values between messages.
 ///
-/// A message may bear the number of its recipient's row. Such a message is sent at most once in a run, never
-/// for nobody and never after a stop; what was accepted is remembered in the list of accepted messages before
-/// SendDone is emitted. The caller says where a run and where each of its ticks begins, sets Database,
-/// ToAddress and RecipientNumber before each Send, and calls Marked() once the row is marked.
+/// A message may have the number of its recipient's row. Such a message is sent at most once in a run, never
+/// for `nobody` and never after a stop. An accepted one is added to the list of accepted messages before
+/// SendDone is emitted. The caller says when a run and each of its ticks begins, sets Database, ToAddress and
+/// RecipientNumber before each Send, and calls Marked() once the row is marked.
 ///
 /// Everything runs on the caller's event loop. The connection is kept between messages with the same route
 /// and closed when nothing was sent for 30 seconds.
@@ -37,7 +37,7 @@ class DeliveryControl : public QObject, public MessageData {
     Q_OBJECT
   public:
     explicit DeliveryControl(QObject* parent = nullptr);
-    /// Settles.
+    /// Calls Settle().
     ~DeliveryControl() override;
 
     QString LogFile;          ///< path of the support log; see Transcript
@@ -45,24 +45,24 @@ class DeliveryControl : public QObject, public MessageData {
     qint32 HeloMode = 0;      ///< 0 greets with EHLO, 1 with HELO
     /// Longest time without progress: the server takes bytes or completes a reply. Below 1: 60 seconds.
     qint16 TimeoutSecs = 60;
-    SmtpTimes StageTimes;   ///< what some stages get at least; `stall` is taken from TimeoutSecs
-    qint32 BodyFormat = 1;  ///< kept, without effect: there are always both a text and an HTML part
+    SmtpTimes StageTimes;   ///< minimum times of some stages; `stall` is taken from TimeoutSecs
+    qint32 BodyFormat = 1;  ///< has no effect: there are always both a text and an HTML part
     /// A row's number of Database, or one of the values of `recipient`. A message with a row's number fails
     /// without a server where the number is `nobody`, where ToAddress was not assigned since the last Send,
-    /// after Abort until BeginRun, where one was accepted for it in this run, where number and address stand
-    /// in the list of accepted messages, and where that list has no room left.
+    /// after Abort until BeginRun, where one was accepted for it in this run, where number and address are in
+    /// the list of accepted messages, and where that list has no room left.
     qint64 RecipientNumber = recipient::outsideRun;
     QString Database;                  ///< path of the file that RecipientNumber is a row of
     AcceptedList* Accepted = nullptr;  ///< not owned, outlives the control; null: nothing is remembered
     bool UseAuth = false;
-    quint16 OutPort = 0;  ///< local port; any other one is taken when it cannot be had. 0: any
+    quint16 OutPort = 0;  ///< local port; another one is used when it is in use. 0: any
     quint16 ServerPort = 25;
     /// A marker of the keyring (sys/Keyring.h) is never sent: the message fails without a connection.
-    QString UserPassword;  ///< oauth::passwordWord: an access token of OAuthFolder takes its place
+    QString UserPassword;  ///< oauth::passwordWord: an access token of OAuthFolder replaces it
     QString UserName;
     QString ServerName;
-    /// What a message without a usable ServerName is reported with where OpportunisticTls is set; empty: a
-    /// sentence of the control's own.
+    /// Error text for a message without a usable ServerName where OpportunisticTls is set; empty: the
+    /// control's own text.
     QString NoServerReason;
     bool OpportunisticTls = false;   ///< see Route; set on the direct route to the recipient's own server
     bool PublicServersOnly = false;  ///< see Route; an IP address as ServerName is refused then
@@ -74,17 +74,17 @@ class DeliveryControl : public QObject, public MessageData {
     /// The book of outcomes: BeginRun() starts a file in this folder (its name ends in "/") for the messages
     /// with a number; see OutcomeFile. Empty: none is kept.
     QString BookFolder;
-    QString BookTitle;  ///< what the run is called there
+    QString BookTitle;  ///< title of the run there
 
-    /// A new run: messages with a number may be sent again after an Abort. What was accepted counts for the
-    /// run before until a tick begins: a tick that is under way has read its row already.
+    /// A new run: messages with a number may be sent again after an Abort. Until a tick begins, an acceptance
+    /// counts for the previous run: a tick that is under way has read its row already.
     void BeginRun();
-    /// A tick begins: from here on its row is read.
+    /// A tick begins: its row is read after this call.
     void BeginTick();
-    /// The row of Database is marked as served: the list of accepted messages forgets it.
+    /// The row of Database is marked as served: it is removed from the list of accepted messages.
     void Marked(qint64 number);
-    /// The user chose these rows anew: neither the list of accepted messages nor a reply that is still
-    /// awaited counts for them any more.
+    /// The user chose these rows again: the list of accepted messages and awaited replies no longer apply to
+    /// them.
     void Forget(const QString& database, const QList<qint64>& numbers);
 
     /// The rows of the database whose messages were given up after the final point and whose reply is
@@ -92,42 +92,42 @@ class DeliveryControl : public QObject, public MessageData {
     QList<qint64> Awaited(const QString& database) const;
     /// Whether any reply is awaited.
     bool Awaiting() const;
-    /// Opens the support log now, where one is asked for: why it cannot be written, if so.
+    /// Opens the support log now, if LogEnabled; returns why it cannot be written, if so.
     Status OpenLog();
-    /// What the book says of the last message of the run that was not delivered; none where there is none.
+    /// The book's entry of the last message of the run that was not delivered; none where there is none.
     std::optional<OutcomeLine> LastFailure() const { return m_book ? m_book->lastFailure() : std::nullopt; }
     /// Why the book cannot be written, if it cannot.
     Status BookStatus() const { return m_book ? m_book->status() : Status(); }
-    /// Writes a line of the caller into the support log, if there is one.
+    /// Writes a line from the caller to the support log, if there is one.
     void Remark(const QString& text);
 
-    /// Starts the delivery of a message made from the fields as they stand and returns. Exactly one of
+    /// Starts the delivery of a message made from the fields and returns. Exactly one of
     /// SendDone and SendError follows, from the event loop, never from within this call. A message that is
     /// still under way is dropped without any signal.
     ///
-    /// A message that was dropped or aborted when the server had got all of it may still be accepted. Its
+    /// A message that was dropped or aborted after the server received all of it may still be accepted. Its
     /// reply is awaited on a connection of its own, and an acceptance goes into the list of accepted
-    /// messages. A message for the same row waits for that reply, and takes its outcome, instead of being
-    /// sent. While two replies are awaited no further message is started.
+    /// messages. A message for the same row waits for that reply and takes its outcome; it is not sent. While
+    /// two replies are awaited no further message is started.
     void Send();
 
-    /// Ends a running delivery with SendError before it returns. From here until BeginRun a message with a
-    /// number is not sent.
+    /// Ends a running delivery with SendError before it returns. After this, until BeginRun, no message with
+    /// a number is sent.
     void Abort();
 
-    /// What became of the message that SendDone or SendError was last emitted for; set before they are.
+    /// The outcome of the message that SendDone or SendError was last emitted for; set before the signal.
     const DeliveryOutcome& LastOutcome() const { return m_last; }
 
-    /// Before the program ends: gives up the running message, and waits some seconds, without an event loop,
-    /// for the replies that are still awaited; see SmtpTimes::farewell. What comes later is lost, and such a
-    /// message may be sent twice.
+    /// To be called before the program ends: gives up the running message, and waits some seconds, without an
+    /// event loop, for the replies that are still awaited; see SmtpTimes::farewell. Later replies are lost;
+    /// such a message may be sent twice.
     void Settle();
 
   Q_SIGNALS:
-    /// The server has taken the message.
+    /// The server has accepted the message.
     void SendDone();
-    /// The message was not delivered, or whether it was cannot be known. `code` is the server's reply code
-    /// and `text` what it said; without an answer `code` is 0 and `text` (Italian) tells what happened.
+    /// The message was not delivered, or it is unknown whether it was. `code` is the server's reply code
+    /// and `text` what it said; without an answer `code` is 0 and `text` (Italian) says what happened.
     void SendError(int code, const QString& text);
     /// No reply is awaited any more.
     void AwaitedEnded();
@@ -155,7 +155,7 @@ class DeliveryControl : public QObject, public MessageData {
     };
     using RunKey = QPair<QString, qint64>;  ///< path of the database, number
 
-    // DeliveryControl_run.cpp: whom a message is for, and what becomes of those that were given up
+    // DeliveryControl_run.cpp: whom a message is for, and the messages that were given up
     QString whyNotSent(bool addressIsFresh) const;
     void noteAccepted(const Recipient& accepted);
     void noteOutcome(const DeliveryOutcome& outcome);
@@ -165,7 +165,7 @@ class DeliveryControl : public QObject, public MessageData {
     void onLateReply(AwaitedReply* reply, bool accepted, int code);
     void startWaiting();
 
-    // DeliveryControl_token.cpp: the token that takes the place of a password
+    // DeliveryControl_token.cpp: the token that replaces a password
     void deliver(const Waiting& waiting);
     void onToken(const Waiting& waiting, const Result<oauth::Access>& access);
     void noteLogin(const DeliveryOutcome& outcome);
@@ -183,7 +183,7 @@ class DeliveryControl : public QObject, public MessageData {
     Composer m_composer;
     SmtpSession m_session;
     oauth::TokenSource m_tokens;
-    QByteArray m_token;  ///< the one that the running message logs in with; empty: none
+    QByteArray m_token;  ///< with which the running message logs in; empty: none
     bool m_running = false;
     bool m_stopped = false;   ///< since an Abort
     bool m_runIsNew = false;  ///< since BeginRun no tick has begun

@@ -17,16 +17,16 @@ class RelaxedBody {
   public:
     using Consumer = std::function<void(QByteArrayView octets)>;
 
-    /// `consumer` gets the octets of the form, in as large pieces as possible.
+    /// `consumer` is called with the octets of the form, in pieces as large as possible.
     explicit RelaxedBody(Consumer consumer) : m_consumer(std::move(consumer)) {}
 
-    /// Takes the next lines, each ended by CR LF; a last one without is ended. What is left of empty lines is
-    /// told when something follows them.
+    /// Takes the next lines, each ended by CR LF; a missing last CR LF is added. Empty lines are passed on
+    /// only when something follows them.
     void add(QByteArrayView lines);
 
   private:
     Consumer m_consumer;
-    qsizetype m_emptyLines = 0;  ///< that were not handed on yet
+    qsizetype m_emptyLines = 0;  ///< not passed on yet
 };
 
 }  // namespace mail

@@ -7,7 +7,7 @@
 
 namespace mail {
 
-/// The key that a sender's domain signs with, as DkimSigner finds it: `<domain>.pem` and `<domain>.selector`
+/// The signing key of a sender's domain, as DkimSigner finds it: `<domain>.pem` and `<domain>.selector`
 /// of a folder.
 struct DkimKey {
     QByteArray selector;
@@ -21,9 +21,9 @@ bool hasDkimFiles(const QString& folder, const QByteArray& domain);
 /// cannot be used.
 Result<DkimKey> readDkimKey(const QString& folder, const QByteArray& domain);
 
-/// Makes an RSA key of 2048 bits and a selector of the form "vestrola" and the day, and the folder where it
-/// is missing; only the user may read the key. Nothing is replaced: where there is a file for the domain, it
-/// fails with FileInUse. Other failures bear an Italian text, and leave nothing behind. `domain` is in
+/// Makes an RSA key of 2048 bits and a selector of the form "vestrola" and the day, and the folder
+/// where it is missing; only the user may read the key. Nothing is replaced: FileInUse where there is a
+/// file for the domain. Other failures have an Italian text, and leave no file. `domain` is in
 /// A-labels.
 Result<DkimKey> createDkimKey(const QString& folder, const QByteArray& domain);
 

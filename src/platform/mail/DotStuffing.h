@@ -4,9 +4,9 @@
 
 namespace mail {
 
-/// The next piece of `data`, from `offset` on, as it travels behind DATA: a line that begins with a dot gets
-/// a second one (RFC 5321 4.5.2). At most `limit` octets of `data` are taken (limit > 0) and `offset` moves
-/// behind them. The pieces one after the other are the same whatever the limits are.
+/// The next piece of `data`, from `offset` on, as it is sent after DATA: a line that begins with a dot gets a
+/// second one (RFC 5321 4.5.2). At most `limit` octets of `data` are taken (limit > 0) and `offset` moves
+/// past them. The concatenated pieces do not depend on the limits.
 QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype limit);
 
 /// True where a line begins with a dot.

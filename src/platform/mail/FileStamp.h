@@ -4,7 +4,7 @@
 
 namespace mail {
 
-/// What tells one state of a file from another without reading it.
+/// Size and time of change: they distinguish states of a file without reading it.
 struct FileStamp {
     qint64 size = -1;         ///< -1: there is no such ordinary file
     qint64 changedAtMs = -1;  ///< milliseconds since 1970

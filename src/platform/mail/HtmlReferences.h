@@ -5,15 +5,15 @@
 
 namespace mail {
 
-/// What the composition has to know about an HTML body, found by reading its markup once, without building a
-/// tree. Comments (conditional ones too) and the content of scripts are skipped.
+/// The references of an HTML body that the composition needs, found by reading its markup once, without
+/// building a tree. Comments (conditional ones too) and the content of scripts are skipped.
 struct HtmlReferences {
     struct Place {
         qsizetype from;    ///< offset in the body of the first octet
         qsizetype length;  ///< in octets
         QByteArray value;  ///< that text with its character references decoded
     };
-    /// A link with an address of the web, of mail or of a telephone.
+    /// A link with a web, mail or telephone address.
     struct Link {
         QByteArray
             text;  ///< what the reader sees, images by their alternative texts; in one line, may be empty

@@ -8,7 +8,7 @@ namespace mail {
 /// Date of a message with its numeric zone (RFC 5322 3.3), in English whatever the user's language.
 QByteArray dateText(const QDateTime& when);
 
-/// The date of one message after another, which is written anew once a second.
+/// The date header of successive messages, formatted again once a second.
 class DateLine {
   public:
     const QByteArray& text(const QDateTime& when);
@@ -19,8 +19,8 @@ class DateLine {
     QByteArray m_text;
 };
 
-/// Source of words that no other message anywhere bears: time, 64 random bits for each object and a running
-/// number. Only letters and digits of ASCII and points, so that a word may stand in a Message-ID and in a
+/// A source of globally unique words: time, 64 random bits for each object and a running
+/// number. Only letters and digits of ASCII and dots, so that a word may be used in a Message-ID and in a
 /// boundary.
 class UniqueWords {
   public:

@@ -11,17 +11,17 @@
 
 namespace mail {
 
-/// The path that an address of an image stands for, where that is a file on this machine; else empty. Links
+/// The path that an image's address refers to, where that is a file on this machine; else empty. Links
 /// are not resolved.
 QString localImagePath(const QByteArray& address);
 
 /// The paths that a template names as images, each once and in its order, whether they are there or not.
 QStringList localImagePaths(const QString& templateHtml);
 
-/// The images on this machine that a template names, ready to travel inside messages.
+/// The images on this machine that a template names, ready to be embedded in messages.
 ///
-/// Only the template is asked, never a personalised body: no value of a recipient can name a file that is
-/// then read. A file is taken when its first bytes are those of a PNG, JPEG, GIF, BMP or WebP image and the
+/// Only the template is read, never a personalised body: no value of a recipient can name a file that is then
+/// read. A file is embedded when its first bytes are those of a PNG, JPEG, GIF, BMP or WebP image and the
 /// images taken so far, in the template's order, stay within 10 MB together.
 class LocalImages {
   public:
@@ -30,13 +30,13 @@ class LocalImages {
         SharedLines part;      ///< the complete part
     };
 
-    /// Looks again at the files if the template, what is allowed, or one of them has changed. Files that are
-    /// none of `allowed` are left out.
+    /// Reads the files again if the template, `allowed`, or one of them has changed. Files that are not in
+    /// `allowed` are left out.
     void follow(const QString& templateHtml, const CarriedFiles& allowed = {});
 
     const std::vector<Image>& images() const { return m_images; }
 
-    /// Place in images() of what an address of the template stands for; -1 for anything else.
+    /// Index in images() of the image that an address of the template refers to; -1 for anything else.
     int find(const QByteArray& address) const { return m_places.value(address, -1); }
 
   private:

@@ -11,7 +11,7 @@
 
 namespace mail {
 
-/// Who logs in, and where.
+/// The account of a login and its server.
 struct LoginIdentity {
     QString host;  ///< as the account names it
     QString user;
@@ -20,26 +20,26 @@ struct LoginIdentity {
     bool bearer = false;  ///< `password` is an access token
 };
 
-/// What a login does next.
+/// The next step of a login.
 struct LoginStep {
     enum class Kind {
-        Send,       ///< send `line`, and hand the reply to Login::onReply()
+        Send,       ///< send `line`, and pass the reply to Login::onReply()
         Done,       ///< logged in
-        Failed,     ///< the connection may be ended in good order
-        Untrusted,  ///< failed, and the server is not to be talked to any more
+        Failed,     ///< the connection may be closed with QUIT
+        Untrusted,  ///< failed, and nothing more may be sent to the server
     };
     Kind kind = Kind::Failed;
     QByteArray line;         ///< without its end
-    QByteArray shown;        ///< what a log may hold of it
-    QByteArrayList secrets;  ///< what no log may ever hold, of this line and of the replies to come
+    QByteArray shown;        ///< what a log may contain of it
+    QByteArrayList secrets;  ///< what no log may ever contain, of this line and of the replies to come
 
     int code = 0;                     ///< of the reply that ended a failed login; 0: without one
     QString text;                     ///< why it failed: the server's words, or Italian
-    bool credentialsRefused = false;  ///< they would be refused again
+    bool credentialsRefused = false;  ///< trying them again is useless
 };
 
 /// One login over SMTP (RFC 4954): tries mechanisms until one succeeds or none is left, and carries out the
-/// exchange of each. It holds no connection: the caller sends its lines and hands it the replies.
+/// exchange of each. It has no connection: the caller sends its lines and passes it the replies.
 class Login {
   public:
     /// `clearListFile` is named where only a password in the clear would help; see passwordMayGoInTheClear().
@@ -62,8 +62,8 @@ class Login {
     std::optional<SaslExchange> m_exchange;
     std::optional<SmtpReply> m_lastRefusal;
     QString m_whyNotUsable;         ///< of the last mechanism that these credentials cannot be used with
-    QByteArray m_firstResponse;     ///< first token of a mechanism in which the client begins, in base64
-    bool m_initialResponse = true;  ///< it goes out with the AUTH command
+    QByteArray m_firstResponse;     ///< client-first token of the mechanism, in base64
+    bool m_initialResponse = true;  ///< it is sent with the AUTH command
     int m_challenges = 0;           ///< of the present exchange
 };
 

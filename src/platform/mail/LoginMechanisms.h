@@ -10,21 +10,21 @@ namespace mail {
 
 /// What the choice of a mechanism depends on.
 struct LoginTerms {
-    /// What the server offers, in capitals; none where it was greeted with HELO and offers nothing.
+    /// What the server offers, in upper case; none after HELO, which has no offers.
     std::optional<QByteArrayList> offered = std::nullopt;
-    bool verifiedTls = false;   ///< encrypted, towards the server that the account names
+    bool verifiedTls = false;   ///< encrypted, and the server is the one that the account names
     bool clearAllowed = false;  ///< the password itself may be sent without that as well
-    bool bearer = false;        ///< an access token takes the place of the password
+    bool bearer = false;        ///< an access token replaces the password
 };
 
-/// The mechanisms that a login tries, one after the other (RFC 4954), and what a refusal leads to.
+/// The mechanisms that a login tries, in order (RFC 4954), and what follows a refusal.
 class LoginMechanisms {
   public:
     explicit LoginMechanisms(const LoginTerms& terms);
 
     /// No mechanism is left.
     bool isEmpty() const { return m_left.isEmpty(); }
-    /// The one to try; there has to be one.
+    /// The mechanism to try; precondition: there is one.
     const QByteArray& current() const { return m_left.first(); }
 
     /// A mechanism was left out because it would send the password in the clear.

@@ -12,13 +12,13 @@
 
 namespace mail {
 
-/// One file that goes with every message of a run.
+/// One file attached to every message of a run.
 struct Attachment {
     QString path;
-    QString name;  ///< as the recipient sees it; may hold any character
+    QString name;  ///< as the recipient sees it; may contain any character
 };
 
-/// The files that go with each message.
+/// The attachments of each message.
 class AttachmentList {
   public:
     AttachmentList() = default;
@@ -32,10 +32,10 @@ class AttachmentList {
     QVector<Attachment> m_items;
 };
 
-/// The values of one message to one recipient, as the user or the database gave them: nothing needs to be
-/// checked or cleaned beforehand. Texts may hold any character and any kind of line end.
+/// The values of one message to one recipient, as the user or the database gave them: no checks or cleaning
+/// are needed beforehand. Texts may contain any character and any kind of line end.
 ///
-/// The delivery control has these fields itself, and hands them to the composer as they stand.
+/// The delivery control has these fields itself, and passes them to the composer unchanged.
 struct MessageData {
     QString BodyText;      ///< personalised visible text of BodyHtml; see TextPart for what is made of it
     QString BodyHtml;      ///< personalised; empty: the message has no HTML part
@@ -52,7 +52,7 @@ struct MessageData {
     QString DkimFolder;         ///< see DkimSigner; empty: nothing is signed
 };
 
-/// A message ready for the wire.
+/// A composed message, ready to be sent.
 struct ComposedMessage {
     Mailbox from;
     Mailbox to;

@@ -11,7 +11,7 @@ class SharedLines {
   public:
     explicit SharedLines(QByteArray octets);
     const QByteArray& octets() const { return m_octets; }
-    bool hasPoints() const { return m_hasPoints; }  ///< a line begins with a point; looked for once
+    bool hasPoints() const { return m_hasPoints; }  ///< a line begins with a dot; determined once
 
   private:
     QByteArray m_octets;
@@ -21,7 +21,7 @@ class SharedLines {
 /// The text of a message in pieces, so that what it shares with others is neither copied nor read again.
 class MessageText {
   public:
-    /// A place in the text: the start where nothing else is said.
+    /// A place in the text: the start by default.
     struct Place {
         std::size_t piece = 0;
         qsizetype offset = 0;
@@ -39,8 +39,8 @@ class MessageText {
     QByteArray whole() const;
     std::vector<QByteArrayView> pieces() const;
 
-    /// The next octets as they travel behind DATA: a line that begins with a point gets a second one (RFC
-    /// 5321 4.5.2). About `limit` octets at most; the place moves behind them. They may look into this text.
+    /// The next octets as they are sent after DATA: a line that begins with a dot gets a second one (RFC 5321
+    /// 4.5.2). About `limit` octets at most; the place moves past them. They may be a view into this text.
     QByteArray stuffed(Place& place, qsizetype limit) const;
     bool isEnd(const Place& place) const {
         return place.piece == m_shared.size() && place.offset == m_end.size();

@@ -1,4 +1,4 @@
-// The file in which the delivery control writes down what becomes of the messages of one run.
+// The file in which the delivery control records the outcomes of the messages of one run.
 #pragma once
 
 #include <optional>
@@ -12,23 +12,23 @@
 
 namespace mail {
 
-/// One file of the book of outcomes (docs/formats/esiti.md): append-only, made for its owner alone when its
-/// first line is written. A file that cannot be written never harms a delivery.
+/// One file of the book of outcomes (docs/formats/esiti.md): append-only, created with access for its owner
+/// only when its first line is written. A file that cannot be written never harms a delivery.
 class OutcomeFile {
   public:
     /// `folder` ends in "/" and is made where it is missing; its own folder must exist.
     OutcomeFile(QString folder, QString sender, QString title);
 
-    /// Appends a line about a row of this database and hands it to the system. Where that fails status()
-    /// tells why; what could not be written is tried again with the next line. Whoever is entered as
-    /// delivered stays so: he is met again, and refused by the control, where his row could not be marked.
+    /// Appends a line about a row of this database and flushes it. Where that fails status() says why; what
+    /// could not be written is tried again with the next line. A recipient entered as delivered stays so: the
+    /// run meets him again where his row could not be marked, and the control refuses him.
     void add(const DatabaseFile& database, const OutcomeLine& line);
 
     /// Why the last line could not be written, if it could not.
     const Status& status() const { return m_status; }
 
-    /// The last line that tells of no delivery, read from the file; none where there is none, or where the
-    /// file has gone.
+    /// The last line of a failed delivery, read from the file; none where there is none, or where the file is
+    /// gone.
     std::optional<OutcomeLine> lastFailure() const;
 
   private:

@@ -1,4 +1,4 @@
-// What became of one message of a run, and its line in the book of outcomes (docs/formats/esiti.md).
+// The outcome of one message of a run, and its line in the book of outcomes (docs/formats/esiti.md).
 #pragma once
 
 #include <optional>
@@ -22,7 +22,7 @@ enum class OutcomeKind {
 struct OutcomeLine {
     QDateTime time;                ///< UTC
     std::optional<qint64> number;  ///< of the row; none where it could not be read
-    QString address;               ///< as it stands in the row, up to longestText characters
+    QString address;               ///< as it is in the row, up to longestText characters
     OutcomeKind kind = OutcomeKind::NotSent;
     DeliveryStage stage = DeliveryStage::NotTried;
     DeliveryCause cause = DeliveryCause::Program;
@@ -40,20 +40,20 @@ struct OutcomeLine {
     friend bool operator==(const OutcomeLine&, const OutcomeLine&) = default;
 };
 
-/// What the lines that follow belong to; the first line of each file.
+/// The run that the following lines belong to; the first line of each file.
 struct OutcomeHead {
     QDateTime begun;  ///< UTC
     DatabaseFile database;
     QString sender;  ///< address
-    QString title;   ///< what the run is called: the subject before personalisation
+    QString title;   ///< title of the run: the subject before personalisation
 
     QByteArray bytes() const;
 };
 
-/// Most octets of a line, its end included.
+/// Maximum octets of a line, its end included.
 inline constexpr qsizetype longestOutcomeLine = 32768;
 
-/// Reads one line, without its end. None for anything that is no such line; unknown members are ignored.
+/// Reads one line, without its end. None for any other text; unknown members are ignored.
 std::optional<OutcomeHead> parseOutcomeHead(QByteArrayView line);
 std::optional<OutcomeLine> parseOutcomeLine(QByteArrayView line);
 

@@ -5,8 +5,8 @@
 namespace mail {
 
 /// Appends a text in quoted-printable (RFC 2045 6.7), lines of at most 76 octets. CR LF, CR and LF each end a
-/// line and come out as CR LF; NUL becomes a blank. No line of the result starts with a point or with "From
-/// ", which transports are known to change (RFC 2049 3), so that the result needs no dot-stuffing.
+/// line and become CR LF; NUL becomes a blank. No line of the result starts with a dot or with "From
+/// ", which some transports change (RFC 2049 3), so that the result needs no dot-stuffing.
 void appendQuotedPrintable(QByteArray& out, const QByteArray& text);
 
 }  // namespace mail

@@ -14,7 +14,7 @@ inline constexpr qint64 nobody = outsideRun + 1;                          ///< n
 
 }  // namespace recipient
 
-/// A text that knows whether it was assigned since it was last used up.
+/// A text that records whether it was assigned since it was last used.
 class AssignedText {
   public:
     AssignedText& operator=(const QString& text) {

@@ -12,10 +12,10 @@ namespace mail {
 /// lock accounts with many refused logins.
 class RefusedLogin {
   public:
-    /// From now on answerFor() gives this outcome for as long.
+    /// Makes answerFor() return this outcome for the next `ms` milliseconds.
     void note(const Route& route, const DeliveryOutcome& outcome, int ms);
-    /// The refusal, where it was one of the same host, user and password and is not too long ago. Any other
-    /// account makes it forgotten.
+    /// The refusal, if it was of the same host, user and password and has not expired. A call for any other
+    /// account discards it.
     std::optional<DeliveryOutcome> answerFor(const Route& route);
     void forget() { m_refusal.reset(); }
 

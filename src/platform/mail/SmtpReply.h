@@ -6,43 +6,43 @@
 
 namespace mail {
 
-/// What a server answered (RFC 5321 4.2).
+/// The reply of a server (RFC 5321 4.2).
 struct SmtpReply {
     int code = 0;     ///< 200 to 599
-    QByteArray text;  ///< without the codes; the lines of a reply of several are parted by LF
+    QByteArray text;  ///< without the codes; the lines are separated by LF
 
     bool positive() const { return code / 100 == 2; }
     bool intermediate() const { return code / 100 == 3; }
 };
 
-/// Longest line that is taken, line end included: well above the 512 octets of RFC 5321 4.5.3.1.5.
+/// Longest line that is accepted, line end included: well above the 512 octets of RFC 5321 4.5.3.1.5.
 inline constexpr qsizetype maxReplyLine = 4096;
 /// Most octets of one reply with all its lines.
 inline constexpr qsizetype maxReplySize = 32768;
 
 struct ReplyParse {
     enum class State {
-        Incomplete,  ///< so far right, more bytes are needed
+        Incomplete,  ///< valid so far, more bytes are needed
         Complete,    ///< `reply` and `next` are set
         Malformed,   ///< no code, a NUL, or more than the limits allow
     };
     State state = State::Incomplete;
     SmtpReply reply;
-    qsizetype next = 0;  ///< offset of the first byte behind the reply
+    qsizetype next = 0;  ///< offset of the first byte after the reply
 };
 
 /// Reads the reply that starts at `offset` of `bytes`. A line ends at CR LF or at a lone LF. Where the lines
-/// of one reply bear different codes, the last one counts.
+/// of one reply have different codes, the last one counts.
 ReplyParse parseSmtpReply(QByteArrayView bytes, qsizetype offset);
 
-/// Whether these bytes say that the server has taken a message: what answers the final point begins with
-/// three digits, the first a 2. Whatever follows, and even if it never ends, the message will be delivered.
+/// Whether these bytes say that the server has accepted a message: the reply to the final point begins with
+/// three digits, the first a 2. Whatever follows, even if it never ends, the message will be delivered.
 bool isAcceptance(QByteArrayView reply);
 /// The three digits of an acceptance.
 int acceptanceCode(QByteArrayView reply);
 
-/// `text` in one line, as it can be shown or logged: each control character, and each character without a
-/// shape of its own that changes how others look (direction marks), has become a blank.
+/// `text` in one line, as it can be shown or logged: each control character, and each invisible character
+/// that changes how others are shown (direction marks), becomes a blank.
 QString printable(QByteArrayView text);
 
 }  // namespace mail

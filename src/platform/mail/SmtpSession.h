@@ -26,13 +26,13 @@ class QHostInfo;
 
 namespace mail {
 
-/// What a delivery to a domain without a server of the public internet ends in.
+/// The outcome of a delivery to a domain without a server of the public internet.
 inline QString noMailServer() {
     return QStringLiteral("Il dominio del destinatario non ha un server di posta.");
 }
 
-/// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits get more where
-/// he chose less, since a server may look at the client or the message before it answers (RFC 5321 4.5.3.2).
+/// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits are longer than
+/// that, since a server may check the client or the message before it answers (RFC 5321 4.5.3.2).
 struct SmtpTimes {
     int stall = 60000;
     int greeting =
@@ -43,7 +43,7 @@ struct SmtpTimes {
     int farewell = 5000;        ///< replies that are still awaited when the program ends
     int refusedLogin = 300000;  ///< a login that was refused for its password is not tried again so long
     int flight =
-        5000;  ///< a connection that has taken a message less than this ago gets the next in one flight
+        5000;  ///< a connection that accepted a message less than this ago gets the next in one flight
 };
 
 /// One SMTP connection that is kept between messages.
@@ -51,32 +51,32 @@ struct SmtpTimes {
 /// Steps of a connection: greeting, EHLO (HELO where that is refused), STARTTLS and EHLO again, AUTH; then
 /// for each message MAIL, RCPT and DATA (in one write where pipelining is offered) and the body. Where
 /// chunking is offered as well, a message that follows another closely goes out with its envelope, by BDAT
-/// (RFC 3030), in one flight; see docs/decisions/62-one-flight.md. A refused message leaves the connection in
-/// place: the next one is preceded by RSET. A kept connection that turns out to be dead, or answers 421, is
-/// opened anew and the message tried there once, as long as neither the final point nor a write that holds it
-/// was given to the socket. One that answers out of order is treated so only before MAIL was accepted. After
-/// one flight a new connection is tried only where the server answered 421.
+/// (RFC 3030), in one flight; see docs/decisions/62-one-flight.md. A refused message does not end the
+/// connection: RSET precedes the next one. A kept connection that turns out to be dead, or answers 421, is
+/// opened anew and the message tried there once, as long as neither the final point nor a write that contains
+/// it was given to the socket. For a reply out of order that is done only before MAIL was accepted. After one
+/// flight a new connection is tried only where the server answered 421.
 class SmtpSession : public QObject {
     Q_OBJECT
   public:
     explicit SmtpSession(Transcript& transcript, QObject* parent = nullptr);
     ~SmtpSession() override;
 
-    /// Starts a delivery; none may be running. finished() follows, possibly from within this call.
+    /// Starts a delivery; none may be running. finished() follows, possibly during this call.
     /// `times` bound the time without progress: the server takes bytes or completes a reply.
     void deliver(const Route& route, const ComposedMessage& message, const SmtpTimes& times);
 
-    /// Sets up a connection as for a delivery, the login included, and delivers nothing: finished() tells
-    /// whether a message could be sent now, and findings() what the server was found to be.
+    /// Sets up a connection as for a delivery, the login included, and delivers nothing: finished() says
+    /// whether a message could be sent now, and findings() what was learnt of the server.
     void inspect(const Route& route, const SmtpTimes& times);
     /// Of the newest connection.
     const SessionFindings& findings() const { return m_findings; }
 
-    /// Drops the running delivery without any signal. Where the server has got all of the message its
+    /// Drops the running delivery without any signal. Where the server has received the whole message the
     /// connection is handed over, since the message may still be accepted; otherwise it is closed.
     std::unique_ptr<AwaitedReply> abandon();
 
-    /// Forgets which hosts greet in time, and a login that was refused.
+    /// Forgets which hosts greet in time, and the refused login.
     void beginRun();
 
     bool busy() const { return m_busy; }
@@ -93,8 +93,8 @@ class SmtpSession : public QObject {
 
     enum class LocalPort { AsTold, Any };
 
-    /// Why a connection is of no more use: it is dead, the server has answered 421, or what came is not what
-    /// was to come.
+    /// Why a connection is not usable any more: it is dead, the server has answered 421, or a reply was out
+    /// of order.
     enum class Loss { Dead, Farewell, Disorder };
 
     static DeliveryStage stageOf(Step step);
@@ -126,7 +126,7 @@ class SmtpSession : public QObject {
     void noteLocalPortTaken();
     bool implicitTls() const;
 
-    // SmtpSession_dialogue.cpp: commands, replies and what they lead to
+    // SmtpSession_dialogue.cpp: commands, replies and what follows from them
     void onReadyRead();
     void onUnexpectedInput();
     void onReply(Step step, const SmtpReply& reply);
@@ -180,7 +180,7 @@ class SmtpSession : public QObject {
 
     // state of the connection
     bool m_ready = false;      ///< set up, messages can be sent
-    bool m_heloOnly = false;   ///< EHLO is not used: as told, or since it was refused
+    bool m_heloOnly = false;   ///< EHLO is not used: by the route, or since it was refused
     bool m_plainOnly = false;  ///< the handshake has failed before
     bool m_startTlsRefused = false;
     bool m_handshaking = false;
@@ -189,11 +189,11 @@ class SmtpSession : public QObject {
     bool m_bound = false;             ///< connecting from the local port that was asked for
     bool m_mustEncrypt = false;       ///< the account's server offers TLS, or has offered it before
     int m_lookup = -1;                ///< number of the look-up of the host that is under way
-    QList<QHostAddress> m_addresses;  ///< of the host, judged, that were not tried yet
+    QList<QHostAddress> m_addresses;  ///< of the host, checked, that were not tried yet
     QElapsedTimer m_connected;        ///< not valid while it connects
-    QElapsedTimer m_taken;            ///< since the connection took a message; not valid before it has
-    QSet<QString> m_greeters;         ///< hosts that get no more than the user's time for their greeting
-    QSet<QString> m_grounded;         ///< hosts that get nothing in one flight in this run any more
+    QElapsedTimer m_taken;            ///< since the connection accepted a message; invalid before
+    QSet<QString> m_greeters;         ///< hosts whose greeting gets only the user's time
+    QSet<QString> m_grounded;         ///< hosts to which nothing more goes in one flight in this run
     SmtpExtensions m_extensions;
     QByteArray m_input;
     qsizetype m_inputRead = 0;
@@ -210,19 +210,19 @@ class SmtpSession : public QObject {
 
     // delivery under way
     bool m_busy = false;
-    bool m_inspecting = false;  ///< there is no message: the connection is all that is wanted
+    bool m_inspecting = false;  ///< there is no message: only the connection is checked
     bool m_reused = false;      ///< on a connection that was kept
     bool m_mailAccepted = false;
     bool m_refused = false;
-    bool m_lookedAgain = false;  ///< the time is up, and what has come meanwhile was read
+    bool m_lookedAgain = false;  ///< the time is up, and what has arrived was read
     SmtpTimes m_times;
-    int m_outstanding = 0;  ///< octets that were not acknowledged when the system last took some
+    int m_outstanding = 0;  ///< octets unacknowledged when the system last accepted some
     DeliveryOutcome m_refusal;
     ComposedMessage m_message;
-    MessageText::Place m_fed;      ///< what stands before it was written
-    bool m_feeding = false;        ///< the body is going out, the final point was not written yet
-    bool m_pointGiven = false;     ///< the write that holds the final point was given to the socket
-    bool m_inFlight = false;       ///< that write held the envelope as well
+    MessageText::Place m_fed;      ///< what is before it was written
+    bool m_feeding = false;        ///< the body is being sent, the final point is not yet written
+    bool m_pointGiven = false;     ///< the write that contains the final point was given to the socket
+    bool m_inFlight = false;       ///< that write contained the envelope as well
     bool m_answeredEarly = false;  ///< part of a reply came before the end of the message
 };
 

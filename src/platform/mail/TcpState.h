@@ -4,7 +4,7 @@
 
 namespace mail {
 
-// What the system does with and knows about a connected TCP socket, given by its descriptor.
+// The system's state of a connected TCP socket, given by its descriptor.
 
 /// Octets written that the other side has not acknowledged yet.
 int unacknowledgedOctets(int descriptor);
@@ -12,14 +12,14 @@ int unacknowledgedOctets(int descriptor);
 /// Milliseconds since the other side last acknowledged something.
 int msSinceAcknowledgement(int descriptor);
 
-/// Hands octets to the system without waiting; gives how many it took, 0 where it takes none now or ever.
+/// Writes octets without blocking; returns how many the system took, 0 where it takes none now or ever.
 qsizetype sendAtOnce(int descriptor, QByteArrayView octets);
 
 /// Waits until there is something to read, an end or an error included. False: nothing came within `ms`.
 bool waitForInput(int descriptor, int ms);
 
-/// Closing will throw away what is not acknowledged yet and reset the connection, instead of going on to
-/// serve a server that does not read.
+/// Makes closing discard what is not acknowledged yet and reset the connection, instead of lingering for a
+/// server that does not read.
 void resetOnClose(int descriptor);
 
 }  // namespace mail

@@ -9,10 +9,10 @@
 namespace mail {
 
 /// The support log (.xt1): UTF-8 text, lines ended by CR LF, each "date time direction text" in local time.
-/// Directions: ">" to the server, "<" from the server, "*" a remark of the program. It is appended to, made
-/// for its owner alone, and never reached through a link.
+/// Directions: ">" to the server, "<" from the server, "*" a remark of the program. The file is appended to,
+/// created for its owner only, and never opened through a link.
 ///
-/// A log that cannot be opened or written is left out silently: it never harms a delivery.
+/// A log that cannot be opened or written is ignored silently: it never harms a delivery.
 class Transcript {
   public:
     /// Writes to `path` from now on; an empty path ends the log.
@@ -23,8 +23,8 @@ class Transcript {
 
     bool active() const { return m_file.isOpen(); }
 
-    /// Texts that must never be written: a line from the server that holds one of them is left out but for
-    /// its reply code.
+    /// Texts that must never be written: a line from the server that contains one of them is reduced to its
+    /// reply code.
     void setSecrets(const QByteArrayList& secrets) { m_secrets = secrets; }
     void addSecret(const QByteArray& secret);
 
@@ -33,7 +33,7 @@ class Transcript {
     void remark(const QString& text);
     /// `text` came from the server and goes into a remark.
     QString withoutSecrets(const QString& text) const;
-    /// Hands what was written to the system.
+    /// Flushes what was written.
     void flush();
 
   private:

@@ -5,11 +5,11 @@
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 
-/// A page that stays where it is: no navigation, no window, no script but ours, no file chosen, nothing
-/// downloaded.
+/// A page that never changes its address: no navigation, no window, no script but ours, no file chosen,
+/// nothing downloaded.
 class Page : public QWebEnginePage {
   public:
-    /// `said` takes what the editing scripts tell. The profile has to outlive the page.
+    /// `said` receives the messages of the editing scripts. The profile has to outlive the page.
     Page(QWebEngineProfile& profile, std::function<void(const QString&)> said);
 
     /// The one profile of all pages that live at a time: nothing on disk, nothing from a network.
@@ -27,6 +27,6 @@ class Page : public QWebEnginePage {
 
   private:
     std::function<void(const QString&)> m_said;
-    QString m_token;  // begins the messages of our scripts; no document can know it
+    QString m_token;  // begins the messages of our scripts; unknown to any document
     bool m_starting = false;
 };

@@ -8,7 +8,7 @@
 #include "platform/html/browser/Browser.h"
 #include "platform/html/browser/Page.h"
 
-/// The browser's widget, without its own menu and without its own way with dropped files.
+/// The browser's widget, without its own menu and its own handling of dropped files.
 class View : public QWebEngineView {
   public:
     View(const BrowserEvents& events, QWidget* parent);
@@ -25,8 +25,8 @@ class View : public QWebEngineView {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    /// News arrive inside a task of the browser, which runs no other one meanwhile: whoever asked something
-    /// while handling them would wait in vain. So they are told outside of it.
+    /// Notifications arrive inside a task of the browser, which runs no other task meanwhile: a question
+    /// asked while handling them would never be answered. So they are passed on outside of it.
     void handOn(std::function<void()> news);
 
     BrowserEvents m_events;
