@@ -6,7 +6,7 @@
 
 class QString;
 
-/// Numbers of the failures that can reach the user's eyes ("Errore N:"). They are the ones that office users
+/// Numbers of the failures that the user can see ("Errore N:"). They are the ones that office users
 /// and their support know from programs of this kind, so that a number can be looked up.
 enum class ErrorCode : int {
     None = 0,
@@ -39,9 +39,9 @@ enum class ErrorCode : int {
 };
 
 /// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user
-/// as it stands. Platform code only ever returns it; what a failure means to the program is decided above.
+/// unchanged. Platform code only ever returns it; what a failure means to the program is decided above.
 ///
-/// Code that goes without Qt includes this header and reads plainText(); everybody else includes
+/// Code without Qt includes this header and reads plainText(); all other code includes
 /// platform/Status.h, which adds the two members that need a QString.
 class [[nodiscard]] Status {
   public:
@@ -67,7 +67,7 @@ class [[nodiscard]] Status {
     std::u16string m_file;
 };
 
-/// A value or the Status that tells why there is none. value() may only be called when ok().
+/// A value or the Status that says why there is none. value() may only be called when ok().
 template <class T>
 class [[nodiscard]] Result {
   public:

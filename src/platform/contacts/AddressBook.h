@@ -27,29 +27,29 @@ enum class PropertyTag : std::uint32_t {
     HomeAddressStreet = 0x3A5D001E,
 };
 
-/// The user's address book by six operations: open, count, entries, text, free, close. It is the book of the
-/// desktop's mail client; where there is none, it cannot be read or it is empty, the .vcf and .ldif files in
-/// a folder, in the order of their names.
+/// The user's address book, with six operations: open, count, entries, text, free, close. It is the book of
+/// the desktop's mail client; where that is missing, unreadable or empty, the .vcf and .ldif files in a
+/// folder, in the order of their names.
 class AddressBook {
   public:
     /// `home`: the user's folder, where the mail client's profiles are; `cardFolder`: where files with cards
-    /// may lie.
+    /// may be.
     AddressBook(QString home, QString cardFolder);
     /// The user's own, with "rubrica" in the program's data folder.
     AddressBook();
 
-    /// Reads the whole book. FileNotFound where there is neither book nor file, otherwise what kept the
-    /// book from being read. A file with cards that cannot be read, or is larger than 64 MB, counts as empty.
+    /// Reads the whole book. FileNotFound where there is neither book nor file, otherwise why the book could
+    /// not be read. A file with cards that cannot be read, or is larger than 64 MB, counts as empty.
     Status open();
     /// How many entries there are; 0 while the book is closed.
     int entryCount() const { return static_cast<int>(m_cards.size()); }
-    /// Fills the array with the first entries, as many as it takes, and tells how many those are.
+    /// Fills the array with the first entries, as many as fit, and returns how many those are.
     int entries(std::span<Entry> array) const;
     /// Writes a property of an entry into the buffer, in Windows-1252: as many characters as fit before a
-    /// last NUL, and NULs up to the buffer's end. False, with the buffer as it was, where the property is
+    /// final NUL, and NULs up to the buffer's end. False, with the buffer unchanged, where the property is
     /// missing or empty.
     bool text(const Entry& entry, PropertyTag tag, std::span<char> buffer) const;
-    /// Takes the entries back; they answer no more.
+    /// Releases the entries; they become invalid.
     void freeEntries(std::span<Entry> array) const;
     void close() { m_cards.clear(); }
 

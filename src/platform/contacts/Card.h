@@ -18,7 +18,7 @@ struct Card {
     QString businessFax;
 };
 
-/// More entries than this are not taken from one source, whatever it holds.
+/// Maximum number of entries that are read from one source.
 inline constexpr std::size_t mostCards = 500'000;
 
 }  // namespace contacts

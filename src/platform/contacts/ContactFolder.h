@@ -17,15 +17,15 @@ struct Contact {
     QString email1Address;
     QString companyName;
     QString lastNameAndFirstName;  ///< "surname, given middle"
-    QString businessAddress;       ///< the whole address, its lines divided by CR LF
+    QString businessAddress;       ///< the whole address, its lines separated by CR LF
     QString businessAddressPostalCode;
     QString businessAddressCity;
     QString businessTelephoneNumber;
     QString businessFaxNumber;
 };
 
-/// The entries of a folder, kept as the helper wrote them and decoded one at a time: what a hostile file
-/// makes of them takes no more room than it had on its way.
+/// The entries of a folder, kept as the helper wrote them and decoded one at a time: so the entries of a
+/// hostile file take no more memory than the helper's output.
 class ContactList {
   public:
     std::size_t size() const { return m_ends.size(); }
@@ -33,7 +33,7 @@ class ContactList {
     /// None for an entry that is no contact, such as a distribution list. `index` is below size().
     std::optional<Contact> operator[](std::size_t index) const;
 
-    /// Adds an entry: a line of the helper's, see HelperOutput.h.
+    /// Adds an entry: a line of the helper's output, see HelperOutput.h.
     void append(QByteArrayView line);
 
   private:
@@ -41,15 +41,15 @@ class ContactList {
     std::vector<qsizetype> m_ends;  ///< where each entry ends
 };
 
-/// The default contacts folder of Microsoft Outlook, as its data file (.pst, .ost) holds it.
+/// The default contacts folder of Microsoft Outlook, as its data file (.pst, .ost) contains it.
 struct ContactFolder {
-    int count = 0;      ///< entries of the folder as the helper counts them: fit to be shown, and no more
-    ContactList items;  ///< in the folder's order; fewer than counted where the file could not be read on
-    /// The walls that the helper says it has raised: "files", "calls", "memory".
+    int count = 0;      ///< entries of the folder as the helper counts them: only to be shown
+    ContactList items;  ///< in the folder's order; fewer than counted where reading the file failed
+    /// The restrictions that the helper reports for itself: "files", "calls", "memory".
     QStringList walls;
 };
 
-/// The walls that every helper raises where the system lets it.
+/// The restrictions that every helper sets where the system supports them.
 QStringList allWalls();
 
 /// Where Outlook's data files are looked for, in this order: the user's documents, their folders "Outlook
@@ -65,12 +65,12 @@ QString outlookHelper();
 void setOutlookHelper(const QString& program);
 
 /// Reads the contacts folder of a data file. The file is read by the helper in a process of its own, since
-/// what can be in such a file has brought its readers down before. A helper that cannot be started, or ends,
-/// hangs or talks rubbish before it told the count, gives FileNotFound, Timeout or UnrecognizedFormat;
-/// afterwards its end is the end of the entries; the count is not believed. The helper is ended with
-/// all processes that it may have started. Blocks for as long as it works, at most for `patience`; takes at
-/// most 64 MB of what it says. `goOn` is asked every few milliseconds with the time that has passed, and ends
-/// the reading with CancelSelected where it answers false.
+/// such files can crash their readers. A helper that cannot be started, or ends, hangs or prints invalid
+/// lines before the count, gives FileNotFound, Timeout or UnrecognizedFormat; after the count, its end is the
+/// end of the entries; the count is not trusted. The helper is ended with all processes that it may have
+/// started. Blocks while it works, at most for `patience`; reads at most 64 MB of its output. `goOn` is
+/// called every few milliseconds with the elapsed time, and ends the reading with CancelSelected by returning
+/// false.
 Result<ContactFolder> readContactFolder(
     const QString& path, std::chrono::milliseconds patience = std::chrono::seconds(60),
     const std::function<bool(std::chrono::milliseconds waited)>& goOn = {});

@@ -8,8 +8,8 @@
 namespace contacts {
 
 /// The entries of an LDIF file (RFC 2849), in its order. Attributes are those of inetOrgPerson (RFC 2798) and
-/// the home address of the Mozilla address book schema; of several values the first counts. Records that
-/// delete or change an entry, and values that lie behind a link, are passed over.
+/// the home address of the Mozilla address book schema; of several values the first is used. Records that
+/// delete or change an entry, and values given by URL, are skipped.
 std::vector<Card> readLdif(const QByteArray& file);
 
 }  // namespace contacts

@@ -6,7 +6,7 @@
 
 namespace contacts {
 
-/// How a card is written: 2.1 folds lines and escapes characters in its own way.
+/// The syntax of a card: 2.1 folds lines and escapes characters in its own way.
 enum class VCardStyle {
     Old,  ///< 2.1
     New,  ///< 3.0 (RFC 2426) and 4.0 (RFC 6350)
@@ -14,8 +14,8 @@ enum class VCardStyle {
 
 /// One logical line of a vCard, "group.NAME;PARAMETER=…:value", with folding already undone.
 struct VCardProperty {
-    QByteArray name;       ///< in capitals, without its group
-    QByteArrayList types;  ///< TYPE values and the bare parameters of 2.1, in capitals
+    QByteArray name;       ///< in upper case, without its group
+    QByteArrayList types;  ///< TYPE values and the bare parameters of 2.1, in upper case
     int rank = 101;        ///< lowest is preferred: PREF of 4.0, 1 for the type PREF
     QString value;         ///< decoded (quoted-printable, base64, character set), escapes still in place
     VCardStyle style = VCardStyle::New;
@@ -24,11 +24,11 @@ struct VCardProperty {
 
     /// The value as one text, without escapes.
     QString text() const;
-    /// A part of a value that is divided by ";", without escapes; empty where there are fewer.
+    /// A part of a value separated by ";", without escapes; empty where there are fewer.
     QString part(int index) const;
 };
 
-/// Whether a logical line is in quoted-printable, so that a "=" at its end carries it on to the next one.
+/// Whether a logical line is in quoted-printable, so that a "=" at its end continues it on the next one.
 bool isQuotedPrintable(const QByteArray& line);
 
 /// Reads a logical line. A line without a colon gives a property without a name.

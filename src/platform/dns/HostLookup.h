@@ -5,8 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// IPv4 addresses and names, by the machine's own means. Addresses are numbers in host byte order. The
-/// look-ups block the thread for as long as the machine's resolver takes.
+/// Look-ups of IPv4 addresses and names by the machine's resolver. Addresses are numbers in host byte order.
+/// The look-ups block the thread for as long as that resolver takes.
 namespace dns {
 
 /// Reads an address as inet_addr(3) does, short forms included. None for anything else, and for

@@ -10,7 +10,7 @@ namespace dns {
 inline constexpr qsizetype mostRecords = 100;
 
 /// Reads a whole reply (RFC 1035 4.1) as the answer to a question of this type. Aliases are followed. A reply
-/// that is damaged, has an error code or holds more than mostRecords is a failure.
+/// that is damaged, has an error code or contains more than mostRecords is a failure.
 Answer readReply(Type type, QByteArrayView reply);
 
 }  // namespace dns

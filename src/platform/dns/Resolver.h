@@ -8,9 +8,9 @@
 
 namespace dns {
 
-/// Asks the machine's name servers (resolv.conf(5), read when the object is made) on the event loop of the
-/// thread: over UDP, and over TCP where an answer does not fit. Names are asked for as they are, without the
-/// search list and without the hosts file.
+/// A client of the machine's name servers (resolv.conf(5), read by the constructor) on the thread's event
+/// loop: over UDP, and over TCP where an answer does not fit. Names are asked for unchanged, without the
+/// search list and the hosts file.
 class Resolver {
   public:
     using Done = std::function<void(const Answer& answer)>;
@@ -18,20 +18,20 @@ class Resolver {
     struct Times {
         int tryMs = 2000;        ///< for the first try; each further one gets twice the time
         int tries = 2;           ///< for each name server
-        int deadlineMs = 10000;  ///< after this a question fails, whatever is still under way
+        int deadlineMs = 10000;  ///< a question fails after this, whatever is under way
     };
 
     explicit Resolver(const Times& times);
     Resolver() : Resolver(Times()) {}
-    /// Questions that are open are dropped.
+    /// Drops the open questions.
     ~Resolver();
     Resolver(const Resolver&) = delete;
     Resolver& operator=(const Resolver&) = delete;
 
-    /// Asks these servers instead, as "address:port" parted by commas.
+    /// Asks these servers instead, as "address:port" separated by commas.
     void setServers(const QByteArray& servers);
 
-    /// `done` is called once, from the event loop, never from within this call; it may ask on, and it may
+    /// `done` is called once, from the event loop, never from within this call; it may ask again, and may
     /// destroy the resolver.
     void ask(const Question& question, Done done);
 

@@ -9,27 +9,27 @@
 namespace dns {
 
 /// One question and one answer over UDP (RFC 1035, 4.2.1). The socket is connected: only datagrams of the
-/// server that was asked arrive, and a port that nobody serves is told at once. It is closed with the object.
-/// All waiting blocks the thread. Silence is Timeout, every other failure DeviceIo, with the system's reason.
+/// server that was asked arrive, and a closed port is reported at once. The destructor closes it. All waiting
+/// blocks the thread. No answer is Timeout, every other failure DeviceIo, with the system's reason.
 class UdpQuery {
   public:
     /// How long receive() waits after each question.
     static constexpr std::chrono::milliseconds usualWait{5000};
 
-    /// `questions` is how often the question is asked while no answer comes.
+    /// `questions` is how often the question is sent until an answer comes.
     explicit UdpQuery(std::chrono::milliseconds wait = usualWait, int questions = 2);
     ~UdpQuery();
     UdpQuery(const UdpQuery&) = delete;
     UdpQuery& operator=(const UdpQuery&) = delete;
 
-    /// False when the system gave no socket; nothing can be sent then.
+    /// False when no socket could be opened; nothing can be sent then.
     bool isOpen() const { return m_socket >= 0; }
 
     /// Sends the question. `address` is an IPv4 address in host byte order.
     Status send(std::uint32_t address, std::uint16_t port, const QByteArray& question);
 
-    /// The first datagram that arrives, cut to `longest` bytes. The question is sent again when the wait ends
-    /// without any.
+    /// The first datagram that arrives, cut to `longest` bytes. The question is sent again when none came
+    /// within the wait.
     Result<QByteArray> receive(qsizetype longest);
 
   private:

@@ -7,7 +7,7 @@
 namespace oauth {
 
 /// The authorities that connections trust: the system's, and those of the *.pem files of the folder. Without
-/// a folder the system's alone.
+/// a folder only the system's.
 QList<QSslCertificate> trustedCertificates(const QString& folder);
 
 }  // namespace oauth

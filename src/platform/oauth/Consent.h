@@ -11,32 +11,32 @@
 
 namespace oauth {
 
-/// A user's consent, asked for in his browser: authorization code with PKCE (RFC 6749 4.1, RFC 7636,
-/// RFC 8252). The token goes into its file.
+/// A user's consent, given in the browser: authorization code with PKCE (RFC 6749 4.1, RFC 7636,
+/// RFC 8252). The token is written to its file.
 class Consent : public QObject {
     Q_OBJECT
   public:
     /// Milliseconds.
     struct Limits {
-        int answer = 300000;  ///< for the user in his browser
+        int answer = 300000;  ///< for the user in the browser
         int request = 30000;  ///< for the token endpoint
     };
 
-    /// `folder` is the one of providers and tokens; for `certificateFolder` see TokenRequest.
+    /// `folder` contains providers and tokens; for `certificateFolder` see TokenRequest.
     Consent(const QString& folder, const QString& certificateFolder, QObject* parent = nullptr);
 
     Limits limits;
 
-    /// Begins, and drops a consent that is under way. The address is to be opened in the browser; finished()
+    /// Begins, and drops a consent that is under way. Returns the address to open in the browser; finished()
     /// follows from the event loop, unless cancel() comes first. Fails where the provider has no client_id,
-    /// with a text that says where it goes, and where nothing can be listened on.
+    /// with a text that says where to set it, and where no port can be listened on.
     Result<QUrl> start(const Provider& provider, const QString& user);
     /// Without any signal.
     void cancel();
     bool waiting() const { return m_listener || m_request; }
 
   Q_SIGNALS:
-    /// The token is in its file, or why it is not (Italian).
+    /// Success: the token is in its file; else why not (Italian).
     void finished(const Status& outcome);
 
   private:

@@ -12,22 +12,22 @@ class QTcpSocket;
 
 namespace oauth {
 
-/// Waits on the loopback address for the browser to bring the provider's answer (RFC 8252 7.3). An answer
-/// with another state is shown an error and changes nothing. The first one with the right state ends the
+/// The listener on the loopback address for the provider's answer, which the browser sends (RFC 8252 7.3). An
+/// answer with a wrong state gets an error page and is ignored. The first one with the right state ends the
 /// listening.
 class RedirectListener : public QObject {
     Q_OBJECT
   public:
     explicit RedirectListener(QObject* parent = nullptr);
 
-    /// Listens on a free port. `redirectHost` is one of Provider's, `state` what an answer has to bear.
+    /// Listens on a free port. `redirectHost` is one of Provider's, `state` what an answer must contain.
     Status listen(const QString& redirectHost, const QByteArray& state);
     quint16 port() const { return m_server.serverPort(); }
-    /// Ends the listening and drops who is connected.
+    /// Ends the listening and drops the connections.
     void close();
 
   Q_SIGNALS:
-    /// The one answer: a code, or the provider's word for what went wrong.
+    /// The one answer: a code, or the provider's error code.
     void answered(const QByteArray& code, const QByteArray& error);
 
   private:

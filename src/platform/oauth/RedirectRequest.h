@@ -5,26 +5,26 @@
 
 namespace oauth {
 
-/// What a browser brings to the redirect address (RFC 6749 4.1.2, RFC 8252 7.3): the head of an HTTP/1.x
+/// The request of a browser to the redirect address (RFC 6749 4.1.2, RFC 8252 7.3): the head of an HTTP/1.x
 /// request.
 struct RedirectRequest {
     enum class State {
-        Incomplete,  ///< the head has not come whole
-        Refused,     ///< too long, no request, or a parameter that is not as it has to be
+        Incomplete,  ///< the head is not complete yet
+        Refused,     ///< too long, no request, or an invalid parameter
         OtherPage,   ///< some other page is asked for, such as an icon
-        Answer,      ///< an answer of the provider; who sent it shows in `state`
+        Answer,      ///< an answer of the provider; `state` identifies the sender
     };
     State kind = State::Incomplete;
     QByteArray state;
     QByteArray code;   ///< empty with an error
-    QByteArray error;  ///< the provider's word, such as "access_denied"; empty with a code
+    QByteArray error;  ///< the provider's error code, such as "access_denied"; empty with a code
 };
 
-/// The longest head that is read.
+/// The longest head that is accepted.
 inline constexpr qsizetype longestRequestHead = 64 * 1024;
 
-/// Reads what has come so far. Fields of the head are not looked at. Each parameter may stand once
-/// (RFC 6749 3.1); code, state and error hold printable ASCII, at most 4096 characters.
+/// Reads what has come so far. Header fields are ignored. Each parameter may occur once
+/// (RFC 6749 3.1); code, state and error contain printable ASCII, at most 4096 characters.
 RedirectRequest parseRedirectRequest(QByteArrayView input);
 
 }  // namespace oauth

@@ -13,8 +13,8 @@ class QNetworkReply;
 
 namespace oauth {
 
-/// One request to a token endpoint (RFC 6749 4.1.3, 6), over TLS with a certificate that has to be good.
-/// Redirects are not followed, and an answer ends at 64 KiB. Destroying it drops the request.
+/// One request to a token endpoint (RFC 6749 4.1.3, 6), over TLS with a certificate that has to be valid.
+/// Redirects are not followed, and an answer is limited to 64 KiB. Destroying it drops the request.
 class TokenRequest : public QObject {
     Q_OBJECT
   public:
@@ -25,7 +25,7 @@ class TokenRequest : public QObject {
     ~TokenRequest() override;
 
     /// Asks for the token of a code. `done` is called once, from the event loop, after `limitMs` at the
-    /// latest; it may destroy this object. One request to an object. DeviceIo where the provider cannot be
+    /// latest; it may destroy this object. One request for each object. DeviceIo where the provider cannot be
     /// reached, else see parseTokenAnswer().
     void exchange(const Provider& provider, const QByteArray& code, const QByteArray& verifier,
                   const QString& redirectUri, int limitMs, Done done);
@@ -45,7 +45,7 @@ class TokenRequest : public QObject {
     QTimer m_limit;
     QNetworkReply* m_reply = nullptr;
     QStringList m_wanted;
-    QByteArrayList m_secrets;  ///< what was sent and no text of a failure may show
+    QByteArrayList m_secrets;  ///< what was sent and must not appear in error texts
     Done m_done;
 };
 

@@ -10,7 +10,7 @@
 
 namespace oauth {
 
-/// The password of an account that logs in with a token.
+/// The word in place of the password of an account that logs in with a token.
 inline constexpr QStringView passwordWord = u"OAuth2";
 
 /// A token that a login can use.
@@ -19,11 +19,11 @@ struct Access {
     QString remark;  ///< for the support log; empty: nothing to say
 };
 
-/// Gives the access tokens of logins, from their files as long as they last, else renewed by the provider
-/// that the host belongs to. A host that belongs to none gets no token.
+/// The source of access tokens for logins: from their files while valid, else renewed by the provider that
+/// the host belongs to. A host without a provider gets no token.
 ///
-/// A consent that is gone is remembered, with its reason, until the file changes or beginRun(), so that it is
-/// asked about once and not for each recipient.
+/// A withdrawn consent is remembered, with its reason, until the file changes or beginRun(), so that the
+/// provider is asked once and not for each recipient.
 class TokenSource : public QObject {
     Q_OBJECT
   public:
@@ -34,14 +34,14 @@ class TokenSource : public QObject {
     /// The folders of providers and tokens, and of further certificates; see TokenRequest.
     void setFolders(const QString& folder, const QString& certificateFolder);
 
-    /// The token for `user` at `host`. `done` is called once, from within this call or from the event loop,
+    /// The token for `user` at `host`. `done` is called once, during this call or from the event loop,
     /// after `limitMs` at the latest; it may begin the next request. A request that is under way is dropped.
     void get(const QString& host, const QString& user, int limitMs, Done done);
     /// `done` is not called any more.
     void cancel() { m_request.reset(); }
 
-    /// A server did not take this token: the next request renews it, whatever its file says. That is done
-    /// once until beginRun(), since a server that refuses the new one, too, means the user.
+    /// A server refused this token: the next request renews it, whatever its file says. That is done once
+    /// until beginRun(), since a server that refuses the new one too refuses the user.
     void refuse(const QByteArray& token);
     void beginRun();
 
@@ -57,7 +57,7 @@ class TokenSource : public QObject {
 
     QString m_folder;
     QString m_certificateFolder;
-    QHash<QString, Token> m_unwritten;  ///< by path: tokens that their file could not take
+    QHash<QString, Token> m_unwritten;  ///< by path: tokens that could not be written
     QHash<QString, Gone> m_gone;        ///< by path
     QByteArray m_refused;               ///< the token to be renewed
     bool m_renewedRefused = false;

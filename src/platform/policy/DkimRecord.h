@@ -5,7 +5,7 @@
 
 namespace policy {
 
-/// A public key as it stands in the DNS (RFC 6376 3.6.1).
+/// A public key as it is in the DNS (RFC 6376 3.6.1).
 struct DkimRecord {
     QByteArray keyType = "rsa";  ///< in lower case
     QByteArray key;              ///< decoded; empty: the key was withdrawn
@@ -14,10 +14,10 @@ struct DkimRecord {
     bool testing = false;  ///< verifiers treat messages as if they were not signed
 };
 
-/// Where the record of a selector stands.
+/// The name of a selector's record.
 QByteArray dkimRecordName(const QByteArray& selector, const QByteArray& domain);
 
-/// Reads the text of a TXT record; none where it is no valid key record.
+/// Reads the text of a TXT record; none where it is not a valid key record.
 std::optional<DkimRecord> readDkimRecord(const QByteArray& text);
 
 /// The text to publish for a public RSA key (SubjectPublicKeyInfo in DER).

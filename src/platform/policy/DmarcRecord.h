@@ -6,7 +6,7 @@
 
 #include "platform/dns/Answer.h"
 
-/// What a domain asks others to do with mail in its name that proves nothing (RFC 7489).
+/// What a domain asks others to do with unauthenticated mail in its name (RFC 7489).
 namespace policy::dmarc {
 
 enum class Policy { None, Quarantine, Reject };
@@ -20,21 +20,21 @@ struct Record {
     QByteArray reportsTo;  ///< as written; empty: nowhere
 };
 
-/// Whether a text of a TXT record is one of DMARC, right or wrong.
+/// Whether the text of a TXT record is one of DMARC, valid or not.
 bool isDmarcRecord(const QByteArray& text);
 
-/// Reads a record; none where it has no policy and asks for no reports. Other tags that are wrong count as if
-/// they were not there (RFC 7489 6.3).
+/// Reads a record; none where it has no policy and asks for no reports. Other tags that are invalid are
+/// ignored, as if they were not there (RFC 7489 6.3).
 std::optional<Record> readRecord(const QByteArray& text);
 
-/// What was found for the domain of a From line.
+/// The finding for the domain of a From line.
 struct Finding {
     enum class Kind { Found, None, Several, Invalid, NoAnswer };
     Kind kind = Kind::None;
     Record record;
     Policy applied =
-        Policy::None;   ///< to this domain: below the one that has the record, its policy for such
-    QByteArray domain;  ///< that has the record
+        Policy::None;   ///< for this domain: the subdomain policy where the record is that of a parent
+    QByteArray domain;  ///< of the record
 };
 
 /// The finding, or the question whose answer is missing from `known` (RFC 7489 6.6.3). `domain` is in lower

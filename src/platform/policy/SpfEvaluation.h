@@ -7,13 +7,13 @@
 
 namespace policy::spf {
 
-/// One walk through the records with the answers that are known. Every step is optional: without a value it
-/// has stopped, for a missing answer or with a verdict.
+/// One walk through the records with the answers that are known. Every step is optional: no value means that
+/// it stopped, for a missing answer or with a verdict.
 class Evaluation {
   public:
     Evaluation(const Client& client, const dns::Answers& known);
 
-    /// The verdict on a domain; none: missing() tells the question.
+    /// The verdict on a domain; none: missing() returns the question.
     std::optional<Verdict> run(const QByteArray& domain);
     const std::optional<dns::Question>& missing() const { return m_missing; }
 
@@ -51,7 +51,7 @@ class Evaluation {
 
     const Client& m_client;
     const dns::Answers& m_known;
-    QHostAddress m_address;  ///< of the client; one of IPv4 inside IPv6 is one of IPv4
+    QHostAddress m_address;  ///< of the client; IPv4 mapped into IPv6 is IPv4
     bool m_isIpv4 = false;
     QByteArray m_sender;
     int m_lookups = 0;

@@ -28,16 +28,16 @@ struct Record {
     std::optional<QByteArray> explanation;  ///< domain-spec
 };
 
-/// A record, or the first term that makes it void.
+/// A record, or the first invalid term.
 struct RecordRead {
     std::optional<Record> record;
     QByteArray faultyTerm;
 };
 
-/// Whether a text of a TXT record is one of SPF, right or wrong.
+/// Whether the text of a TXT record is one of SPF, valid or not.
 bool isSpfRecord(const QByteArray& text);
 
-/// Reads a text that isSpfRecord() takes. A single error anywhere makes the whole record void.
+/// Reads a text that isSpfRecord() accepts. A single error anywhere invalidates the whole record.
 RecordRead readRecord(const QByteArray& text);
 
 }  // namespace policy::spf

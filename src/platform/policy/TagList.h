@@ -12,20 +12,20 @@ struct Tag {
     QByteArray value;
 };
 
-/// Lists of tags (RFC 6376 3.2): parted by semicolons, in the order of the text.
+/// Lists of tags (RFC 6376 3.2): separated by semicolons, in the order of the text.
 struct TagList {
     QList<Tag> tags;
 
-    /// The first value of a name, whose case counts.
+    /// The first value of a name, which is case-sensitive.
     std::optional<QByteArray> value(const QByteArray& name) const;
-    bool hasTwice() const;  ///< some name stands more than once
+    bool hasTwice() const;  ///< some name occurs more than once
 
-    /// What is no tag is left out, and `sound` says whether all were.
+    /// What is no tag is left out; `sound` says whether all were valid.
     bool sound = true;
     static TagList read(const QByteArray& text);
 };
 
-/// The words of a value that are parted by colons, without the blanks around them.
+/// The words of a value, separated by colons, without the blanks around them.
 QByteArrayList listedWords(const QByteArray& value);
 
 }  // namespace policy

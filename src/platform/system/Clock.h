@@ -6,13 +6,13 @@
 
 namespace sys {
 
-/// Time of day and waiting. Tests put their own functions in to let hours pass in no time.
+/// Time of day and waiting. Tests set their own functions to simulate the passing of hours.
 struct Clock {
     std::function<QDateTime()> now;
-    std::function<void(std::chrono::milliseconds)> sleep;  ///< holds the calling thread
+    std::function<void(std::chrono::milliseconds)> sleep;  ///< blocks the calling thread
 };
 
-/// The program's one clock; it starts as the machine's.
+/// The program's one clock; initially the machine's.
 Clock& clock();
 
 /// The clock of the machine.

@@ -2,12 +2,12 @@
 
 namespace sys {
 
-/// From here on, until it ends, this process leaves no core dump, and no other process of the user looks into
-/// its memory. To be called before a password is read. Programs that it starts are not concerned.
+/// Disables core dumps of this process until it ends, and access to its memory by other processes of the
+/// user. To be called before a password is read. Programs that it starts are not affected.
 void forbidCoreDumps();
 
-/// Takes that back for as long as it lives, where it holds. For the start of other programs in namespaces of
-/// their own, which the kernel keeps from a process that nobody may look into. To be short.
+/// Reverts that for its lifetime, where it is in force. For starting other programs in their own namespaces,
+/// which the kernel denies to such a protected process. Keep it short.
 class CoreDumpsMeanwhile {
   public:
     CoreDumpsMeanwhile();

@@ -4,10 +4,10 @@
 
 namespace sys {
 
-/// The user's home folder with its links resolved, without an ending "/"; empty where there is none.
+/// The user's home folder with its links resolved, without a final "/"; empty where there is none.
 QString homeFolder();
 
-/// Replaces it (tests); an empty text brings the true one back.
+/// Replaces it (tests); an empty text restores the real one.
 void setHomeFolder(const QString& folder);
 
 }  // namespace sys

@@ -7,8 +7,8 @@
 namespace sys {
 
 /// Hands a web address, a mail link or a local file to the desktop (xdg-open) and does not wait for it. Only
-/// http, https, mailto and file addresses pass; PathAccess for anything else and where the desktop's opener
-/// cannot be started.
+/// http, https, mailto and file addresses are allowed; PathAccess for anything else and where the desktop's
+/// opener cannot be started.
 Status openAddress(const QString& address);
 
 }  // namespace sys

@@ -5,9 +5,9 @@
 namespace sys {
 
 /// Runs `handler` from the event loop when the system asks the program to end: at SIGTERM, SIGINT or SIGHUP.
-/// A signal that was ignored when the program began stays ignored. Each signal is heard once; a second one of
-/// its kind ends the program at once, so that one which does not come to its event loop can be ended too. To
-/// be called once, with a QCoreApplication.
+/// A signal that was ignored when the program began stays ignored. Each signal is handled once; a second one
+/// of its kind ends the program at once, so that a program that never reaches its event loop can be ended
+/// too. To be called once, with a QCoreApplication.
 void onTerminationSignal(std::function<void()> handler);
 
 }  // namespace sys

@@ -8,8 +8,8 @@
 
 namespace sys {
 
-/// Writes a text file of Windows-1252 (AnsiCodec.h), in lines that end in CR LF. What was written stays when
-/// a later line fails. Closes the file with itself, but only close() tells whether the last lines arrived.
+/// The writer of a text file in Windows-1252 (AnsiCodec.h), in lines that end in CR LF. What was written
+/// stays when a later line fails. The destructor closes the file; only close() says if the last lines failed.
 class TextWriter {
   public:
     ~TextWriter();
@@ -17,7 +17,7 @@ class TextWriter {
     /// As openForWriting() says.
     Status open(const QString& path, WriteMode mode, FileKind kind);
     Status print(QStringView line);
-    /// A Secret is on the disk when it has succeeded.
+    /// After success a Secret is synced to the disk.
     Status close();
 
   private:

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The characters of Windows-1252, for code that goes without Qt as well. See AnsiCodec.h.
+/// The characters of Windows-1252, for code without Qt as well. See AnsiCodec.h.
 namespace text {
 
 /// Characters of the bytes 80 to 9F; all other bytes are their own character.

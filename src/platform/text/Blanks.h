@@ -4,7 +4,7 @@
 
 namespace text {
 
-/// The text without the blanks (U+0020, nothing else) at both ends. The result looks into the given text.
+/// The text without the blanks (U+0020, nothing else) at both ends. The result is a view into the given text.
 QStringView trimBlanks(QStringView text);
 
 }  // namespace text

@@ -4,9 +4,9 @@
 
 namespace text {
 
-/// Has the program's own texts (platform/text/Words.h) and those of the toolkit read from the compiled-in
-/// translations of a language: "it", "en", "es", "fr" or "de". Any other one counts as "it", the language of
-/// the sources. A window that exists keeps its texts. Wants the application object.
+/// Loads the program's own texts (platform/text/Words.h) and those of the toolkit from the compiled-in
+/// translations of a language: "it", "en", "es", "fr" or "de". Any other one means "it", the language of
+/// the sources. Existing windows keep their texts. Precondition: the application object exists.
 void setLanguage(const QString& language);
 
 }  // namespace text

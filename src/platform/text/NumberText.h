@@ -6,11 +6,11 @@
 
 #include "platform/Status.h"
 
-/// Numbers as people and files write them.
+/// Conversions between numbers and texts.
 namespace text {
 
 /// The number that a text begins with, with "." as decimal sign in every locale: blanks, a sign, digits, a
-/// point and digits; whatever follows is not looked at. 0 where there is none.
+/// point and digits; what follows is ignored. 0 where there is none.
 double leadingNumber(QStringView text);
 
 /// Reads a whole text as a number of the locale: blanks at both ends, one sign in front, digits, the locale's
@@ -20,7 +20,7 @@ Result<double> numberFromText(QStringView text, const QLocale& locale = QLocale(
 
 bool isNumeric(QStringView text, const QLocale& locale = QLocale());
 
-/// Whole numbers; a half goes to the even neighbour. Overflow where the type cannot hold the result.
+/// Whole numbers; a half goes to the even neighbour. Overflow where the type cannot represent the result.
 Result<std::int16_t> toInt16(double number);
 Result<std::int32_t> toInt32(double number);
 

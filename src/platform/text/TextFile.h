@@ -6,44 +6,44 @@
 
 #include "platform/Status.h"
 
-/// Reads text files, line by line; sys::TextWriter writes them. The bytes are Windows-1252 (AnsiCodec.h), but
-/// where the reader is asked to find out.
+/// The reader of text files, line by line; sys::TextWriter writes them. The bytes are Windows-1252
+/// (AnsiCodec.h), unless the caller asks for detection.
 namespace text {
 
 /// Opens an ordinary file for reading. FileNotFound where there is none; PathAccess for a folder, a device, a
 /// pipe (which could block or never end) and whatever the user may not read.
 Status openForInput(QFile& file, const QString& path);
 
-/// What ends a line when reading.
+/// The line ends when reading.
 enum class LineEnds {
     CarriageReturn,  ///< CR or CR LF; a lone LF is a character of the line
     Any,             ///< CR, LF or CR LF
 };
 
-/// What the bytes of a file that is read mean.
+/// The encoding of a file that is read.
 enum class Encoding {
     Ansi,      ///< Windows-1252
     Detected,  ///< UTF-16 with a byte order mark; UTF-8, with or without one, where the whole file is valid
                ///< UTF-8; otherwise Windows-1252. The mark and every U+0000 are left out.
 };
 
-/// Reads a file forward, one line at a time, holding no more of it than one line and one block. The end of
-/// the file ends a last line that has no line end; there is no empty line behind a final line end. Closes the
-/// file with itself.
+/// Reads a file forward, one line at a time, with no more of it in memory than one line and one block. The
+/// end of the file ends a last line that has no line end; there is no empty line after a final line end. Its
+/// destructor closes the file.
 class LineReader {
   public:
-    /// A line with more bytes than this ends the reading with DeviceIo.
+    /// A longer line, in bytes, ends the reading with DeviceIo.
     static constexpr qsizetype longestLine = 64 * 1024 * 1024;
 
     Status open(const QString& path, LineEnds ends, Encoding encoding = Encoding::Ansi);
 
-    /// Reads Windows-1252 bytes that the caller has, as if they stood in a file of that name.
+    /// Reads Windows-1252 bytes that the caller has, as if they were in a file of that name.
     void openBytes(const QByteArray& bytes, LineEnds ends, const QString& name);
 
     /// True when no line is left, or when nothing is open.
     bool atEnd();
 
-    /// The next line without its end: false, with `line` as it was, at the end of the file or after a
+    /// The next line without its end: false, with `line` unchanged, at the end of the file or after a
     /// failure.
     bool nextLine(QString& line);
 
