@@ -8,7 +8,7 @@
 namespace html {
 namespace {
 
-// The reckoning may count more than the tree has, so it has to be well above
+// The estimate may count more than the tree has, so it has to be well above
 constexpr int mostReckonedDepth = 4 * mostDepth;
 
 Status refused(const QString& reason) {

@@ -16,7 +16,7 @@ char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// What a character ends while a tag is read
+// What a character ends inside a tag
 constexpr unsigned char atBlank = 1, atSlash = 2, atTagEnd = 4, atEquals = 8;
 
 constexpr std::array<unsigned char, 256> endings = [] {
@@ -106,7 +106,7 @@ HtmlTokens::Kind HtmlTokens::next() {
             readTag();
             return Kind::EndTag;
         } else {
-            readUntil([](char c) { return c == '>'; });  // browsers make a comment of it
+            readUntil([](char c) { return c == '>'; });  // browsers turn it into a comment
             if (!atEnd()) ++m_at;
         }
     }

@@ -2,7 +2,7 @@
 
 #include "platform/html/HtmlViewLive.h"
 
-// What a command is to a view: whether it is there now, and how it is run.
+// The commands of a view: whether they are available now, and how they are run.
 
 Result<QString> HtmlView::Live::freshState(const QString& name) {
     awaitStrokes();
@@ -78,8 +78,8 @@ HtmlView::CommandStatus HtmlView::Live::status(int command) const {
     }
 }
 
-// The browser writes no font that the text is shown in anyway, and a font that was only shown would reach no
-// recipient. It finds a family in any case of letters, but takes two spellings for two fonts.
+// The browser writes no font that the text is shown in anyway, and a font that is only shown reaches no
+// recipient. It finds a family in any case of letters, but treats two spellings as two fonts.
 void HtmlView::Live::setDefaultFont(const QString& family) {
     m_defaultFont = family;
 }

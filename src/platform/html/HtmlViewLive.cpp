@@ -24,11 +24,11 @@ constexpr int startMilliseconds = 30000;
 // A copy of the text is taken after each change, but for at most a tenth of the time
 constexpr int restPerWork = 9;
 
-// A document that ends the browser's process again and again is not tried for ever
+// A document that repeatedly crashes the browser's process is not retried for ever
 constexpr int deathsInARow = 3;
 constexpr int deathsAreInARowWithin = 30000;
 
-// No document can hold it
+// No document can contain it
 QString newMissingMark() {
     return QStringLiteral("data:image/x-%1,").arg(QUuid::createUuid().toString(QUuid::WithoutBraces));
 }
@@ -44,7 +44,7 @@ HtmlView::Live::Live(HtmlView& owner, Mode viewMode)
 }
 
 HtmlView::Live::~Live() {
-    // answers that are still out come back now, while there is somebody to take them
+    // outstanding answers come back now, while their receiver exists
     live = false;
     delete browser.widget;
 }
@@ -78,7 +78,7 @@ bool HtmlView::Live::ensure() {
     return live;
 }
 
-// The place of the document tells the reader what happened; the text itself is safe
+// A notice in place of the document says what happened; the text itself is safe
 void HtmlView::Live::fail(const QString& reason) {
     m_failed = true;
     m_failure = reason;
@@ -95,7 +95,7 @@ Status HtmlView::Live::setSource(const QString& html) {
     awaitStrokes();  // what was typed before goes with the old document
     m_source = html::sourceText(html);
     m_text = QString();
-    m_followTimer.setInterval(0);  // what the last document cost says nothing about this one
+    m_followTimer.setInterval(0);  // the cost of the last document says nothing about this one
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
     if (!live && !m_writing) return {};
     write();
@@ -113,7 +113,7 @@ void HtmlView::Live::tryAgain() {
     if (view.isVisible()) begin();
 }
 
-// Whichever way the document changes while it is on its way, the last one is written last
+// However the document changes while one is being loaded, the last one is written last
 void HtmlView::Live::write() {
     QJsonObject shown;
     for (auto mark = marks.cbegin(); mark != marks.cend(); ++mark)
@@ -142,8 +142,8 @@ void HtmlView::Live::written() {
     refreshState();
 }
 
-// The widget that has the document's keys comes and goes with the browser's process. It takes the view's
-// place in the order of the Tab key.
+// The widget that receives the document's keys exists as long as the browser's process. It takes the view's
+// place in the tab order.
 void HtmlView::Live::takeInput() {
     QWidget* input = view.inputWidget();
     if (input == nullptr || input == m_input) return;
@@ -163,7 +163,7 @@ Result<QString> HtmlView::Live::text() {
         read();
         answered = haveRead();
     }
-    // Of a process that died meanwhile nothing newer than the copy can be had.
+    // If the process died meanwhile, the copy is the newest text there is.
     if (!answered && live) {
         m_stalled = true;
         return noAnswer();
@@ -174,7 +174,7 @@ Result<QString> HtmlView::Live::text() {
 QString HtmlView::Live::knownText() {
     if (m_text.isNull()) {
         HtmlDocument document;
-        // It was read when it came; what bounds the time of a reading may hit this one
+        // It was parsed when it was set; the time limit of a parse may fail this one
         m_text = document.setDocumentHTML(m_source).ok() ? document.documentHTML() : m_source;
     }
     return m_text;

@@ -17,9 +17,9 @@ void qt_gl_set_global_share_context(QOpenGLContext* context);
 namespace {
 
 /// The browser draws with contexts that are shared with the program's windows. The toolkit would make the
-/// context that all others share at the start of the program, for more time than all the rest of the start;
-/// this makes it when it is needed. It is never deleted, as the toolkit holds on to it to the end. Where no
-/// context can be had the browser asks for one all the same, and draws without.
+/// context that all others share at the start of the program, which takes longer than all the rest of the
+/// start; this makes it when it is needed. It is never deleted, as the toolkit uses it to the end. Where no
+/// context can be created the browser asks for one all the same, and draws without.
 void shareContexts() {
     if (QOpenGLContext::globalShareContext() != nullptr) return;
     auto* context = new QOpenGLContext;
@@ -27,8 +27,8 @@ void shareContexts() {
     qt_gl_set_global_share_context(context);
 }
 
-/// No page names a host that is looked up, and nothing is sent through a proxy: the engine is told at its
-/// start that there is no such name. Rules that the user's own flags hold come before and are overruled.
+/// No page names a host that is looked up, and nothing is sent through a proxy: the engine is set at its
+/// start to resolve no name. Rules in the user's own flags come before and are overruled.
 void closeNameResolution() {
     static constexpr char variable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
     qputenv(variable, qgetenv(variable) + " --host-resolver-rules=\"MAP * ~NOTFOUND\" --no-proxy-server");

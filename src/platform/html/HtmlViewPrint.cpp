@@ -65,7 +65,7 @@ Status HtmlView::Live::writePdf(const QString& path, const QByteArray& document)
     return {ErrorCode::DeviceIo, Words::tr("Impossibile scrivere %1: %2").arg(path, file.errorString())};
 }
 
-/// The way of a system that has printers but not the command `lp`.
+/// For a system that has printers but not the command `lp`.
 Result<bool> HtmlView::Live::printPictures(QPrinter& printer) {
     bool over = false;
     bool printed = false;
@@ -74,7 +74,7 @@ Result<bool> HtmlView::Live::printPictures(QPrinter& printer) {
         printed = success;
         wakeWaiting();
     });
-    // the printer stands in the caller, so this is left only when nobody prints on it any more
+    // the printer belongs to the caller, so this returns only when nothing prints on it any more
     while (!over && browser.widget != nullptr)
         waitFor([&over] { return over; }, printMilliseconds);
     return printed;

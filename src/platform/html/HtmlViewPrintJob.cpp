@@ -22,7 +22,7 @@ QString asTitle(const QString& text) {
     return text.simplified().left(longestTitle);
 }
 
-/// A text string as a PDF has it: UTF-16, in hexadecimal digits.
+/// A text string in PDF syntax: UTF-16, in hexadecimal digits.
 QByteArray pdfString(const QString& text) {
     QByteArray string = "<FEFF";
     for (const QChar c : text)
@@ -76,7 +76,7 @@ QStringList lpArguments(QPrinter& printer, const QString& title) {
         option(QStringLiteral("sides"), QStringLiteral("two-sided-long-edge"));
     if (printer.colorMode() == QPrinter::GrayScale)
         option(QStringLiteral("print-color-mode"), QStringLiteral("monochrome"));
-    // Qt's key for what its dialog leaves to the spooler (page ranges, pages per sheet): names and values
+    // Qt's key for the dialog's options for the spooler (page ranges, pages per sheet): names and values
     constexpr auto spoolerOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
     const QStringList chosen = printer.printEngine()->property(spoolerOptions).toStringList();
     for (qsizetype i = 0; i + 1 < chosen.size(); i += 2)

@@ -15,8 +15,8 @@
 #include "platform/html/HtmlViewLive.h"
 #include "platform/text/Words.h"
 
-// How a view and the editing scripts talk: questions with their answers, and what the scripts tell by
-// themselves.
+// The communication of a view with the editing scripts: questions with their answers, and the scripts' own
+// notifications.
 
 namespace {
 
@@ -32,7 +32,7 @@ Status contentFits(const QJsonObject& content) {
     return text.ok() ? html::readable(content.value(QLatin1String("html")).toString()) : text;
 }
 
-// A wait that lasts shows in the pointer
+// A longer wait shows in the pointer
 class Hourglass {
   public:
     Hourglass() {
@@ -114,7 +114,7 @@ void HtmlView::Live::awaitStrokes() {
     elapsed.start();
     do {
         const Result<QVariant> seen = ask(QStringLiteral("editor.strokes"));
-        if (!seen.ok()) return;  // they are still on their way
+        if (!seen.ok()) return;  // they have not arrived yet
         m_strokesSeen = seen.value().toInt();
     } while (live && m_strokesSeen < m_strokes && elapsed.elapsed() < strokesMilliseconds);
     m_strokes = m_strokesSeen;
@@ -184,8 +184,8 @@ bool HtmlView::Live::waitFor(const std::function<bool()>& done, int milliseconds
         QEventLoop loop;
         QTimer::singleShot(static_cast<int>(left), &loop, &QEventLoop::quit);
         m_waiting.push_back(&loop);
-        // The caller may itself be handling a queued event: those queued behind it, the browser's among them,
-        // would otherwise rest until something new comes.
+        // The caller may itself be handling a queued event: those queued after it, the browser's among them,
+        // would otherwise wait until something new comes.
         QAbstractEventDispatcher::instance()->wakeUp();
         loop.exec(QEventLoop::ExcludeUserInputEvents);
         std::erase(m_waiting, &loop);

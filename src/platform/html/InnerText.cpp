@@ -28,7 +28,7 @@ class TextFlow {
         }
     }
 
-    /// A line end that stands wherever it falls, as <br> gives it.
+    /// A line end that is kept wherever it occurs, as from <br>.
     void addLineFeed() {
         settle();
         m_out += "\r\n";
@@ -41,7 +41,7 @@ class TextFlow {
         m_atLineStart = true;
     }
 
-    /// At least so many line ends between what stands before and what follows; none at the ends of the whole
+    /// At least so many line ends between what precedes and what follows; none at the ends of the whole
     /// text.
     void requireLineFeeds(int count) {
         if (count == 0) return;
@@ -98,7 +98,7 @@ struct Opened {
     bool hasPart = false;  // it had a row or a cell already
 };
 
-/// Goes through the body with a path of its own instead of the call stack.
+/// Traverses the body with its own path instead of the call stack.
 class Walk {
   public:
     explicit Walk(const GumboNode& body) { open(body, Layout()); }

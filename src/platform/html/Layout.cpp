@@ -86,7 +86,7 @@ Box usualBox(GumboTag tag) {
     }
 }
 
-// The parts of a drawing that are told about, not drawn
+// Titles, descriptions, styles and scripts of a drawing are not drawn
 Box boxInDrawing(GumboTag tag) {
     const bool hidden =
         tag == GUMBO_TAG_TITLE || tag == GUMBO_TAG_DESC || tag == GUMBO_TAG_STYLE || tag == GUMBO_TAG_SCRIPT;

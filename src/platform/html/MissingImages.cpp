@@ -39,7 +39,7 @@ class Marker {
         std::vector<qsizetype> missing;
         for (const auto& [at, relative] : m_found)
             if (!relative || !m_based) missing.push_back(at);
-        std::sort(missing.begin(), missing.end());  // the attributes of a tag stand in any order
+        std::sort(missing.begin(), missing.end());  // the attributes of a tag are in any order
         return missing;
     }
 

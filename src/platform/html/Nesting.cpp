@@ -27,8 +27,8 @@ enum Trait : unsigned {
     LeavesSvg = 128,  // a drawing ends where it begins
     Heading = 256,
     Marker = 512,   // formatting from outside is not opened anew inside it
-    Inline = 1024,  // stands in a line of text, where formatting is opened anew
-    Island = 2048,  // inside a drawing it holds HTML again
+    Inline = 1024,  // is in a line of text, where formatting is opened anew
+    Island = 2048,  // inside a drawing it contains HTML again
 };
 
 constexpr unsigned block = Special | EndsPara;
@@ -39,7 +39,7 @@ constexpr char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// FNV-1a. Two names of one value would only make the reckoning less exact.
+// FNV-1a. Two names of one value would only make the estimate less exact.
 constexpr Name hashOf(string_view text) {
     Name value = 14695981039346656037U;
     for (const char c : text)
@@ -335,7 +335,7 @@ class Path {
             pop();
     }
 
-    /// Closes the innermost element that `wanted` names, and all inside it, unless `border` stands between.
+    /// Closes the innermost element that `wanted` names, and all inside it, unless `border` is in between.
     template <class Wanted, class Border>
     void closeTo(Wanted wanted, Border border) {
         for (std::size_t at = m_open.size(); at-- > 0;) {
@@ -428,10 +428,10 @@ class Path {
         }
     }
 
-    // No marker stands above it
+    // No marker is above it
     void remove(std::size_t at) { m_open.erase(m_open.begin() + static_cast<std::ptrdiff_t>(at)); }
 
-    // Of formatting alike no more than three come back
+    // At most three equal formatting elements come back
     void keepThree(Name alike) {
         int found = 0;
         for (std::size_t at = m_open.size(); at-- > lastMarker();) {

@@ -56,7 +56,7 @@ bool holdsRawText(const GumboElement& element) {
     }
 }
 
-// The parser drops one line feed behind these start tags
+// The parser drops one line feed after these start tags
 bool losesFirstLineFeed(const GumboElement& element) {
     return element.tag_namespace == GUMBO_NAMESPACE_HTML &&
            (element.tag == GUMBO_TAG_PRE || element.tag == GUMBO_TAG_TEXTAREA ||
@@ -139,7 +139,7 @@ void appendEscaped(QByteArray& out, std::string_view text, Place place) {
     append(out, text.substr(from));
 }
 
-// The identifiers cannot hold the quote that ended them in the source, so one of the two kinds always fits
+// The identifiers cannot contain the quote that ended them in the source, so one of the two kinds always fits
 void appendIdentifier(QByteArray& out, std::string_view identifier) {
     const char quote = identifier.find('"') == identifier.npos ? '"' : '\'';
     out += ' ';

@@ -22,9 +22,9 @@ double processorSeconds() {
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-/// Serves the parser's memory and leaves the parse by a long jump when a bound is reached or when one of the
-/// parser's own assertions fails. That is safe because only C code stands in between and all it holds is
-/// memory of the pool.
+/// Allocates the parser's memory and leaves the parse by a long jump when a bound is reached or when one of
+/// the parser's own assertions fails. That is safe because only C code is in between, and it owns only memory
+/// of the pool.
 struct Guard {
     std::pmr::memory_resource* pool;
     std::size_t bytesLeft;
@@ -61,7 +61,7 @@ class AssertionNet {
     struct sigaction m_before {};
 };
 
-// A block starts with its own size, which the pool wants back
+// A block starts with its own size, which the pool needs when it is freed
 constexpr std::size_t blockHeader = alignof(std::max_align_t);
 
 void* allocate(void* userData, std::size_t size) {
@@ -97,8 +97,8 @@ const GumboNode* parseWithin(Guard& guard, const QByteArray& text) {
         ->document;
 }
 
-// Gumbo keeps the text that stands right before </form> until something is inserted, which then is behind the
-// form. An element that has no effect of its own makes it settle the text in its place.
+// Gumbo keeps the text that stands right before </form> until something is inserted, which then is after the
+// form. An element without effect makes it insert the text in its place.
 constexpr char formEnd[] = "</form";
 constexpr char mark[] = "<param vestrola-mark>";
 constexpr char markWritten[] = "<param vestrola-mark=\"\">";

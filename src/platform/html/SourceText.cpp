@@ -17,7 +17,7 @@ bool startsAt(const QString& text, qsizetype at, QLatin1String name) {
     return behind == '>' || behind == ' ';
 }
 
-// Follows what kind of text stands at a place, as far as escapes differ
+// Tracks the kind of text at a position, as far as escapes differ
 class Scanner {
   public:
     Content contentAt(const QString& text, qsizetype at) {

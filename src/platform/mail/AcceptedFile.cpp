@@ -18,7 +18,7 @@ namespace {
 
 constexpr off_t ownerByte = 0;
 constexpr off_t changeByte = 1;
-// Whoever changes an entry is done in microseconds; only one that was stopped in the middle takes longer.
+// A change of an entry takes microseconds; only a process that was stopped in the middle takes longer.
 constexpr int mostLooks = 200;
 constexpr std::chrono::milliseconds betweenLooks{1};
 constexpr off_t largestFile = (mostAccepted + 1) * AcceptedEntry::size;
@@ -56,7 +56,7 @@ bool isOurs(const struct stat& file) {
 
 std::optional<AcceptedFile> AcceptedFile::open(const QString& path, Create create) {
     const int creation = create == Create::IfMissing ? O_CREAT : 0;
-    // O_NONBLOCK: a pipe of that name must not hang
+    // O_NONBLOCK: opening a pipe of that name must not block
     const int descriptor = ::open(QFile::encodeName(path).constData(),
                                   O_RDWR | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | creation, 0600);
     if (descriptor < 0) return std::nullopt;
@@ -81,7 +81,7 @@ AcceptedFile::~AcceptedFile() {
 
 bool AcceptedFile::own() {
     if (!setLock(m_descriptor, F_WRLCK, ownerByte)) return false;
-    // Its owner before may have taken it away meanwhile.
+    // Its previous owner may have removed it in the meantime.
     struct stat held {};
     struct stat named {};
     return ::fstat(m_descriptor, &held) == 0 && ::lstat(QFile::encodeName(m_path).constData(), &named) == 0 &&
@@ -91,7 +91,7 @@ bool AcceptedFile::own() {
 std::optional<AcceptedContent> AcceptedFile::read() const {
     struct stat known {};
     if (::fstat(m_descriptor, &known) != 0) return std::nullopt;
-    // One entry more than may be there: then it shows.
+    // One entry above the maximum, so that an excess is noticed.
     QByteArray octets(std::min<off_t>(known.st_size, largestFile + AcceptedEntry::size), '\0');
     const ssize_t got = ::pread(m_descriptor, octets.data(), octets.size(), 0);
     if (got < 0) return std::nullopt;
@@ -121,7 +121,7 @@ Status AcceptedFile::reserve(qsizetype entries) {
     }
     const off_t wanted = placeOf(std::min(entries, mostAccepted));
     if (wanted <= known.st_size) return {};
-    // Its result is the error, or 0. On failure the length may have grown already.
+    // Returns the error, or 0. On failure the file may have grown already.
     const int error = ::posix_fallocate(m_descriptor, 0, wanted);
     if (error == 0) return {};
     const off_t before = std::max<off_t>(known.st_size, AcceptedEntry::size);
@@ -130,7 +130,7 @@ Status AcceptedFile::reserve(qsizetype entries) {
 }
 
 bool AcceptedFile::write(qsizetype slot, const AcceptedEntry& entry) {
-    // Who holds the other lock for too long does not keep the owner from writing.
+    // A process that holds the other lock for too long does not prevent the owner from writing.
     const bool locked = lockForChange(m_descriptor);
     const bool written = writeAt(m_descriptor, placeOf(slot), entry.bytes());
     if (locked) setLock(m_descriptor, F_UNLCK, changeByte);
@@ -142,12 +142,12 @@ bool AcceptedFile::clear(qsizetype slot, const AcceptedEntry& entry) {
     const auto unlock = qScopeGuard([this] { setLock(m_descriptor, F_UNLCK, changeByte); });
     QByteArray there(AcceptedEntry::size, '\0');
     if (::pread(m_descriptor, there.data(), there.size(), placeOf(slot)) != there.size()) return false;
-    if (there != entry.bytes()) return true;  // somebody else has done it
+    if (there != entry.bytes()) return true;  // another process has done it
     return writeAt(m_descriptor, placeOf(slot), QByteArray(AcceptedEntry::size, '\0'));
 }
 
 void AcceptedFile::sync() const {
-    // Where it fails a loss of power costs what a kill before the writing would.
+    // If it fails, a power loss has the effect of a kill before the write.
     static_cast<void>(::fdatasync(m_descriptor));
 }
 

@@ -10,7 +10,7 @@ namespace mail {
 namespace {
 
 constexpr int mostFiles = 16;          // processes over one data folder
-constexpr qsizetype inMemory = -1;     // the slot of an entry that the file does not hold
+constexpr qsizetype inMemory = -1;     // the slot of an entry that is not in the file
 constexpr qsizetype roomAtFirst = 64;  // entries; a run asks for more
 
 QString fileName(const QString& folder, int number) {
@@ -45,7 +45,7 @@ void AcceptedList::readOwn() {
     m_room = content->room;
 }
 
-/// Takes an existing file over where its process is gone, and looks into it otherwise.
+/// Takes an existing file over where its process has ended, and reads it otherwise.
 void AcceptedList::adopt(const QString& path) {
     auto other = AcceptedFile::open(path, AcceptedFile::Create::No);
     if (!other) return;
@@ -61,7 +61,7 @@ void AcceptedList::adopt(const QString& path) {
         use(std::move(*other));
         return;
     }
-    // What finds no room here stays there for the next time.
+    // What does not fit here stays there for the next time.
     if (room() < content->entries.size() && !m_file->reserve(m_entries.size() + content->entries.size()).ok())
         return;
     m_room = m_file->room();
@@ -74,7 +74,7 @@ void AcceptedList::adopt(const QString& path) {
         other->remove();
 }
 
-/// Makes an owned file the process's own. False for a damaged one, which is put aside; what is sound in it is
+/// Makes an owned file the process's own. False for a damaged one, which is put aside; its valid entries are
 /// kept in memory until there is another.
 bool AcceptedList::use(AcceptedFile file) {
     const auto content = file.read();
@@ -120,8 +120,8 @@ void AcceptedList::keep(const AcceptedEntry& entry) {
     const bool others = !m_entries.isEmpty();
     const bool written = m_file && slot < mostAccepted && m_file->write(slot, entry);
     m_entries.append({written ? slot : inMemory, entry});
-    // A single entry is soon taken out again by its row's mark, which is on the disk then; where several have
-    // gathered the rows cannot be marked, and this is all that remembers them.
+    // A single entry is soon removed when its row is marked, which is on the disk then; several entries mean
+    // that rows cannot be marked, and only this file records them.
     if (others && written) m_file->sync();
 }
 

@@ -44,7 +44,7 @@ bool isQuotedString(const QByteArray& text) {
     return true;
 }
 
-// RFC 5321 4.1.3: an address in square brackets; whether it means a host is the server's to say
+// RFC 5321 4.1.3: an address in square brackets; the server decides whether it is a host
 bool isDomainLiteral(const QByteArray& domain) {
     if (domain.size() < 3 || !domain.startsWith('[') || !domain.endsWith(']')) return false;
     return std::all_of(domain.begin() + 1, domain.end() - 1,

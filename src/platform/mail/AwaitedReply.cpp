@@ -45,7 +45,7 @@ void AwaitedReply::look() {
 }
 
 void AwaitedReply::onLimit() {
-    // Events may have been held back until now.
+    // Events may not have been processed until now.
     waitForEnd(0);
     end(false, 0);
 }

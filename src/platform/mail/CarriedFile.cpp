@@ -11,7 +11,7 @@ Result<QByteArray> readCarried(const QString& path, const CarriedFiles& allowed,
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return refused(QStringLiteral("non si può leggere"));
     if (allowed) {
-        // The system's own name for what was opened
+        // The system's path of the file that was opened
         const QString opened = QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(file.handle()));
         if (!allowed->contains(opened))
             return refused(QStringLiteral("non è il file che è stato confermato"));

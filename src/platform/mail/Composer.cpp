@@ -52,8 +52,8 @@ QByteArray changed(const QByteArray& html, std::vector<Change> changes) {
     return out.append(html.constData() + from, html.size() - from);
 }
 
-// Brings the declared encoding and web addresses in line and lets the images that travel along be found in
-// the message
+// Adapts the declared encoding and web addresses, and makes the embedded images refer to parts of the
+// message
 void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& images) {
     std::vector<Change> changes;
     std::vector<bool> embedded(images.images().size());
@@ -110,7 +110,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     m_state->images.follow(message.TemplateHtml, message.FilesToCarry);
 
     Body body{{}, message.BodyHtml.toUtf8(), {}, &m_state->attachments.parts()};
-    // As it travels: what stands around a NUL has to mean the same to every reader.
+    // In its sent form: the text around a NUL has to mean the same to every reader.
     if (body.html.contains('\0')) body.html.replace('\0', ' ');
     const HtmlReferences references = findReferences(body.html);
     const bool hasHtml = !QByteArrayView(body.html).trimmed().isEmpty();

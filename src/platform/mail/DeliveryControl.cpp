@@ -77,7 +77,7 @@ void DeliveryControl::startNew(const QString& host) {
                 OpportunisticTls ? DeliveryCause::NoServer : DeliveryCause::Program});
         return;
     }
-    // An address is no mail exchanger (RFC 5321 5.1), whosever it is.
+    // An address is no mail exchanger (RFC 5321 5.1), whether public or not.
     if (PublicServersOnly && !QHostAddress(host).isNull()) {
         finish({false, 0, noMailServer(), false, DeliveryStage::NotTried, DeliveryCause::NoServer});
         return;

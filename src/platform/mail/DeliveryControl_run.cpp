@@ -1,4 +1,4 @@
-// Whom a message is for, what was accepted in a run, and the replies that are awaited aside.
+// Whom a message is for, what was accepted in a run, and the replies that are awaited separately.
 #include <algorithm>
 #include <QDeadlineTimer>
 #include <utility>
@@ -22,7 +22,7 @@ DeliveryOutcome lateOutcome(bool accepted, int code) {
 
 }  // namespace
 
-/// Empty: it may be sent.
+/// Why it may not be sent; empty: it may.
 QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
     if (RecipientNumber == recipient::outsideRun) return {};
     if (RecipientNumber == recipient::nobody)
@@ -46,7 +46,7 @@ void DeliveryControl::noteAccepted(const Recipient& accepted) {
     if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
 }
 
-/// The book learns of an outcome before the caller does.
+/// An outcome is in the book before the caller is notified.
 void DeliveryControl::noteOutcome(const DeliveryOutcome& outcome) {
     if (m_book && m_current.number != recipient::outsideRun) enter(*m_book, m_current, outcome);
 }
@@ -190,7 +190,7 @@ void DeliveryControl::Settle() {
 }
 
 DeliveryControl::~DeliveryControl() {
-    blockSignals(true);  // whoever listens may be half gone
+    blockSignals(true);  // the receivers may be partly destroyed
     Settle();
 }
 

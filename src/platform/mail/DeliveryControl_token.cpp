@@ -1,9 +1,9 @@
-// The token that takes the place of a password.
+// The token that replaces a password.
 #include "platform/mail/DeliveryControl.h"
 
 namespace mail {
 
-/// Hands the message to the session, once there is a token where one is needed.
+/// Passes the message to the session, once there is a token where one is needed.
 void DeliveryControl::deliver(const Waiting& waiting) {
     m_token.clear();
     if (!waiting.route.bearer) {
@@ -28,7 +28,7 @@ void DeliveryControl::onToken(const Waiting& waiting, const Result<oauth::Access
     m_session.deliver(route, waiting.message, waiting.times);
 }
 
-/// A token may have been ended before its time.
+/// A token may have been revoked before it expired.
 void DeliveryControl::noteLogin(const DeliveryOutcome& outcome) {
     if (outcome.ofLogin && outcome.code >= 500 && !m_token.isEmpty()) m_tokens.refuse(m_token);
 }

@@ -32,7 +32,7 @@ bool hasSingleBlanks(QByteArrayView line) {
     const char* const end = line.data() + line.size();
     for (const char* at = line.data();
          (at = static_cast<const char*>(std::memchr(at, ' ', size_t(end - at)))) && at + 1 < end; at += 2) {
-        // of two blanks in a row this meets the first or, behind a single one, none
+        // of two blanks in a row this finds the first or, after a single one, none
         if (at[1] == ' ') return false;
     }
     return true;
@@ -49,7 +49,7 @@ QByteArray relaxedField(QByteArrayView field) {
 }
 
 void RelaxedBody::add(QByteArrayView lines) {
-    qsizetype same = 0;  // from here on the lines are in this form, and were not handed on yet
+    qsizetype same = 0;  // from here on the lines are in this form, and were not passed on yet
     for (qsizetype from = 0, next = 0; from < lines.size(); from = next) {
         const qsizetype end = lines.indexOf('\n', from);
         next = end < 0 ? lines.size() : end + 1;

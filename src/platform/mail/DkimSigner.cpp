@@ -85,10 +85,10 @@ class Digest {
 /// A private key, ready to sign digests of SHA-256 with PKCS #1 v1.5.
 class RsaKey {
   public:
-    /// `pem` may be anything. A key that asks for a password is none.
+    /// `pem` may be anything. A key with a password is not accepted.
     void read(QByteArrayView pem, const EVP_MD* digest) {
         tryToRead(pem, digest);
-        // What is left in the library's list of errors would count for the TLS connection of this thread.
+        // Errors left in the library's queue would be attributed to the TLS connection of this thread.
         ERR_clear_error();
     }
     bool isThere() const { return m_key && m_context; }
@@ -132,9 +132,9 @@ Status unusable(const QString& why) {
     return {ErrorCode::NotSupported, QStringLiteral("Messaggio non firmato (DKIM): %1.").arg(why)};
 }
 
-// Adds what is signed of the header to the digest, and gives the names of it: those that stand there, in
-// their order, and once more those that must not be put in front. Each field that is covered stands there
-// once at most.
+// Adds the signed header fields to the digest, and returns their names: those that are present, in
+// their order, and once more those that must not be added later. Each signed field is present at most
+// once.
 QByteArray addHeader(Digest& digest, QByteArrayView block) {
     QByteArray names;
     for (qsizetype from = 0; from < block.size();) {
@@ -185,7 +185,7 @@ struct DkimSigner::State {
         const FileStamp newKeyStamp = FileStamp::of(newPlace + ".pem"),
                         newSelectorStamp = FileStamp::of(newPlace + ".selector");
         if (newPlace == place && newKeyStamp == keyStamp && newSelectorStamp == selectorStamp && usable.ok())
-            return;  // what could not be used may have got other rights, which no stamp shows
+            return;  // an unusable file may have got other rights, which no stamp shows
         place = newPlace;
         keyStamp = newKeyStamp;
         selectorStamp = newSelectorStamp;
@@ -199,8 +199,8 @@ struct DkimSigner::State {
             if (read->status().code() == ErrorCode::PathAccess) usable = unusable(read->status().text());
     }
 
-    /// Whether there is a file of the domain. A domain literal has none, and no other domain can lead out of
-    /// the folder.
+    /// Whether there is a file of the domain. A domain literal has none, and no other domain can name a file
+    /// outside the folder.
     bool find(const QString& folder, const QByteArray& domain) {
         if (folder.isEmpty() || !isDomainName(domain)) return false;
         follow(folder + '/' + QString::fromLatin1(domain.toLower()));

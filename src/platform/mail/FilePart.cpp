@@ -12,7 +12,7 @@ const char* const namelessFile = "file";
 constexpr qsizetype fallbackLimit = 60;
 constexpr qsizetype lineLength = 76;
 
-// Without the folders of either world
+// The name without folders, of Unix or Windows paths
 QString bareName(const QString& name) {
     const QString line = singleLine(name);
     const qsizetype cut = std::max(line.lastIndexOf(u'/'), line.lastIndexOf(u'\\'));
@@ -20,7 +20,7 @@ QString bareName(const QString& name) {
     return bare.isEmpty() ? QString::fromLatin1(namelessFile) : bare;
 }
 
-// Letters without their accents, single blanks, "_" for whatever old readers and file systems stumble over
+// Letters without their accents, single blanks, "_" for what old readers and file systems cannot handle
 QByteArray asciiName(const QString& name) {
     QByteArray plain;
     for (const QChar c : name.normalized(QString::NormalizationForm_KD)) {

@@ -9,7 +9,7 @@ namespace mail {
 namespace {
 
 constexpr qsizetype lineLimit = 78;
-// Below the 75 that RFC 2047 allows, so that the first word fits behind each header's name
+// Below the 75 that RFC 2047 allows, so that the first word fits after each header's name
 constexpr qsizetype wordLimit = 69;
 constexpr std::string_view qOpening = "=?utf-8?Q?";
 constexpr std::string_view bOpening = "=?utf-8?B?";
@@ -19,7 +19,7 @@ constexpr qsizetype nameLimit =
 constexpr qsizetype sectionLimit = 60;  // of a parameter's value
 constexpr qsizetype payloadLimit = wordLimit - static_cast<qsizetype>(qOpening.size() + closing.size());
 
-// What may stand for itself in an encoded word anywhere in a header (RFC 2047 5, rule 3)
+// What may be literal in an encoded word anywhere in a header (RFC 2047 5, rule 3)
 bool isEncodedWordLiteral(unsigned char c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
            (c != 0 && std::strchr("!*+-/", c) != nullptr);
@@ -30,7 +30,7 @@ bool isAtomText(char c) {
            (c != 0 && std::strchr("#$%&'=?^_`{|}~", c) != nullptr);
 }
 
-// True when the text can stand as it is and comes back unchanged from folding and reading
+// True when the text can be written as it is and survives folding and reading unchanged
 bool isPlain(const QByteArray& text) {
     if (text.startsWith(' ') || text.endsWith(' ') || text.contains("=?")) return false;
     qsizetype word = 0;
@@ -79,7 +79,7 @@ QByteArray encodedWords(const QByteArray& utf8) {
     qsizetype asQ = 0;
     for (const char c : utf8)
         asQ += qLength(static_cast<unsigned char>(c));
-    // Base64 for what is ASCII looks as if something was to be hidden, and filters mark it
+    // Base64 for ASCII looks like an attempt to hide something, and filters mark it
     const bool useQ = asQ <= utf8.size() * 4 / 3 || isAscii(utf8);
 
     QByteArray out;

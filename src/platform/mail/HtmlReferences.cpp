@@ -44,7 +44,7 @@ bool isWebAddress(string_view address) {
     return startsWithHtmlText(address, "https://"sv) || startsWithHtmlText(address, "http://"sv);
 }
 
-// The references that serialised addresses hold; any other one stays as it is, which makes the address
+// The references that serialised addresses contain; any other one stays unchanged, which makes the address
 // unknown
 QByteArray decoded(string_view text) {
     static constexpr std::array<std::pair<string_view, string_view>, 7> references = {
@@ -80,7 +80,7 @@ string_view startOf(string_view text, std::size_t octets) {
     return text.substr(0, octets);
 }
 
-// Whether a reader sees what stands before and after the tag apart
+// Whether the texts before and after the tag are shown separately
 bool separatesWords(string_view tagName) {
     static constexpr std::array names = {"br"sv, "p"sv,  "div"sv, "td"sv, "th"sv, "tr"sv,    "li"sv,
                                          "h1"sv, "h2"sv, "h3"sv,  "h4"sv, "hr"sv, "table"sv, "img"sv};
@@ -110,7 +110,7 @@ class Reader {
                 findStyleImages(m_tokens.text());
         }
         endLink();
-        // the attributes of one tag may stand in any order
+        // the attributes of one tag may be in any order
         const auto inOrder = [](const auto& a, const auto& b) { return a.from < b.from; };
         std::sort(m_found.images.begin(), m_found.images.end(), inOrder);
         std::sort(m_found.charsets.begin(), m_found.charsets.end(), inOrder);

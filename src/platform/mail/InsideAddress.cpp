@@ -11,7 +11,7 @@ struct Ipv4Range {
     int prefix;
 };
 
-// RFC 6890 and its registry, as far as somebody may answer there; multicast and what lies above it.
+// RFC 6890 and its registry, as far as a host may answer there; multicast and above.
 constexpr std::array closedRanges{
     Ipv4Range{0x00000000, 8},   // this network
     Ipv4Range{0x0A000000, 8},   // private

@@ -5,7 +5,7 @@ namespace {
 
 constexpr qsizetype longestListId = 255;
 
-// A point ends a label. A dot-atom has none at its ends and no two in a row; a quoted string may.
+// A dot ends a label. A dot-atom has none at its ends and no two in a row; a quoted string may.
 QByteArray asLabels(const QByteArray& localPart) {
     constexpr char atomText[] = "!#$%&'*+/=?^_`{|}";
     if (!localPart.startsWith('"')) return localPart.toPercentEncoding(QByteArray(atomText) + '.');

@@ -20,7 +20,7 @@ LoginStep failed(const SmtpReply& reply) {
     return failed(reply.code, printable(reply.text));
 }
 
-/// The server has not proved itself, or speaks another language: no further mechanism is tried with it.
+/// The server is not authenticated, or violates the protocol: no further mechanism is tried with it.
 LoginStep untrusted() {
     LoginStep step = failed(0, QStringLiteral("Il server non ha completato l'autenticazione."));
     step.kind = LoginStep::Kind::Untrusted;
@@ -81,14 +81,14 @@ Result<SaslExchange> Login::exchangeBy(const QByteArray& mechanism) const {
 LoginStep Login::refusedCredentials(const SmtpReply& refusal) const {
     LoginStep step = failed(refusal);
     step.credentialsRefused = true;
-    // The server's words are of user names and passwords, of which there are none here.
+    // The server's text is about user names and passwords, which do not apply here.
     if (m_identity.bearer)
         step.text = QStringLiteral("Il server non accetta il consenso di OAuth 2.0 per l'utente %1: %2")
                         .arg(m_identity.user, step.text);
     return step;
 }
 
-/// What is told where no mechanism is left: what the server said of the credentials counts most.
+/// The error where no mechanism is left: the server's reply on the credentials has precedence.
 LoginStep Login::noneLeft() const {
     if (const auto& refusal = m_mechanisms.credentialsRefusal()) return refusedCredentials(*refusal);
     if (m_mechanisms.leftOutInTheClear())
@@ -114,7 +114,7 @@ LoginStep Login::onReply(const SmtpReply& reply) {
 LoginStep Login::onRefusal(const SmtpReply& reply) {
     if (reply.code < 500) return failed(reply);
     if (m_challenges == 0 && reply.code == 501 && m_exchange->clientFirst() && m_initialResponse) {
-        m_initialResponse = false;  // there are servers that know none
+        m_initialResponse = false;  // some servers do not support it
         return tryMechanism();
     }
     m_lastRefusal = reply;
@@ -124,13 +124,13 @@ LoginStep Login::onRefusal(const SmtpReply& reply) {
 
 LoginStep Login::onChallenge(const QByteArray& text) {
     if (++m_challenges > maxChallenges) return untrusted();
-    // The first token again: not sent so far, or skipped by a server that knows no initial responses.
+    // The first token again: not sent so far, or skipped by a server without initial responses.
     if (m_challenges == 1 && m_exchange->clientFirst() &&
         (!m_initialResponse || text.isEmpty() || (m_exchange->complete() && !m_identity.bearer)))
         return send(m_firstResponse, "(omesso)", {});
     const auto challenge =
         QByteArray::fromBase64Encoding(text.trimmed(), QByteArray::AbortOnBase64DecodingErrors);
-    // What LOGIN asks with is a prompt for people; there are servers that write it as it is.
+    // The challenge of LOGIN is a prompt for people; some servers send it without base64.
     if (!challenge && m_mechanisms.current() != "LOGIN") return untrusted();
     const Result<QByteArray> answer = m_exchange->step(*challenge);
     if (!answer.ok()) return untrusted();

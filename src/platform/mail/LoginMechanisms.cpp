@@ -12,10 +12,10 @@ const QByteArrayList& sendingThePassword() {
     return names;
 }
 
-/// Best first. CRAM-MD5 needs a server that keeps the password itself, and many offer it that do not; in the
-/// clear it still is better than the password.
+/// Best first. CRAM-MD5 needs a server that stores the password itself, and many that offer it do not;
+/// without TLS it is still better than the password.
 QByteArrayList inOrder(const LoginTerms& terms) {
-    // Of the two that take a token, providers that came early know the older one alone.
+    // Of the two that use a token, early providers support only the older one.
     if (terms.bearer && !terms.offered) return {"XOAUTH2", "OAUTHBEARER"};
     if (terms.bearer) return {"OAUTHBEARER", "XOAUTH2"};
     const QByteArrayList digests{"SCRAM-SHA-256", "SCRAM-SHA-1"};

@@ -8,7 +8,7 @@
 namespace mail {
 namespace {
 
-// What is shorter is copied: a message of ordinary size goes out in one write
+// Shorter pieces are copied: a message of ordinary size is sent in one write
 constexpr qsizetype leastShared = 64 * 1024;
 
 }  // namespace

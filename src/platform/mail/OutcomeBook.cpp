@@ -33,7 +33,7 @@ QStringList names(const QString& folder) {
     return all;
 }
 
-/// Splits octets into lines that end.
+/// Splits octets into complete lines.
 class Lines {
   public:
     explicit Lines(QByteArrayView octets) : m_left(octets) {}
@@ -54,7 +54,7 @@ class Lines {
 
 QList<Run> runs(const QString& folder) {
     QList<Run> found;
-    // More can be there only where something else than the program has put them there.
+    // More are there only if something other than the program has added them.
     for (const QString& name : names(folder).mid(0, 4 * mostRuns)) {
         Run run{folder + name, {}};
         run.head.begun = begunBy(name);

@@ -57,8 +57,8 @@ QString shortened(const QString& text) {
     return text.left(OutcomeLine::longestText - (halved ? 2 : 1)) + u'…';
 }
 
-/// Writes an object (RFC 8259) in one line. The library's own writer takes ten times as long, which shows in
-/// a run.
+/// Writes an object (RFC 8259) in one line. The library's own writer takes ten times as long, which is
+/// noticeable in a run.
 class LineWriter {
   public:
     LineWriter() { m_line.reserve(512); }

@@ -27,7 +27,7 @@ Kind kindOf(char c) {
     return kinds[static_cast<unsigned char>(c)];
 }
 
-// Whether one of eight octets is none of those from the blank to "~", or is the "=".
+// Whether one of eight octets is outside the range from the blank to "~", or is "=".
 bool holdsOther(const char* octets) {
     constexpr std::uint64_t each = 0x0101010101010101, high = each * 0x80;
     std::uint64_t word = 0;
@@ -41,7 +41,7 @@ bool isPlain(char c) {
     return kindOf(c) == Kind::Literal || c == ' ';
 }
 
-// The end of what stands for itself; a blank in front of a line end does not
+// The end of what is literal; a blank in front of a line end is not
 const char* endOfPlain(const char* at, const char* limit, const char* end) {
     const char* to = at;
     while (limit - to >= 8 && !holdsOther(to))
@@ -73,7 +73,7 @@ class Writer {
         m_column += 3;
     }
 
-    /// Copies what stands for itself from `at` on, as far as the line has room; gives the end of it.
+    /// Copies what is literal from `at` on, as far as the line has room; returns its end.
     const char* plain(const char* at, const char* end) {
         makeRoom(1);
         const char* const limit = at + std::min<std::ptrdiff_t>(lineRoom - m_column, end - at);
@@ -106,7 +106,7 @@ class Writer {
 };
 
 bool mustNotStartLine(const char* at, const char* end) {
-    // a NUL will be a blank
+    // a NUL becomes a blank
     return *at == '.' ||
            (end - at >= 5 && std::memcmp(at, "From", 4) == 0 && (at[4] == ' ' || at[4] == '\0'));
 }
@@ -115,7 +115,7 @@ bool mustNotStartLine(const char* at, const char* end) {
 
 void appendQuotedPrintable(QByteArray& out, const QByteArray& text) {
     const qsizetype before = out.size();
-    // each octet three, and three more for a soft line break behind each 24 of them
+    // each octet three, and three more for a soft line break after each 24 of them
     out.resize(before + text.size() * 3 + text.size() / 8 + 8);
     Writer writer(out.data() + before);
     const char* const end = text.constData() + text.size();

@@ -10,7 +10,7 @@ namespace mail {
 
 namespace {
 
-/// The library's context: made once, it holds no state of any login.
+/// The library's context: made once, it contains no state of any login.
 Gsasl* context() {
     static Gsasl* const shared = [] {
         Gsasl* made = nullptr;
@@ -24,8 +24,8 @@ Status failure(int code) {
             QStringLiteral("Autenticazione non riuscita: %1").arg(QString::fromUtf8(gsasl_strerror(code)))};
 }
 
-/// Whether a digest can be made of the text: it has to have the form of RFC 4013, and be written in
-/// characters that this form knows. The flag makes the library refuse others, whatever its name says.
+/// Whether a digest can be made of the text: it has to be a valid string of RFC 4013, without unassigned
+/// characters. The flag makes the library refuse those, whatever its name says.
 bool canBeDigested(const QString& text) {
     char* out = nullptr;
     const int code = gsasl_saslprep(text.toUtf8().constData(), GSASL_ALLOW_UNASSIGNED, &out, nullptr);
@@ -34,7 +34,7 @@ bool canBeDigested(const QString& text) {
 }
 
 /// Rounds of a SCRAM server's key derivation (RFC 5802 5.1). A server may ask for any number of them, and
-/// each delays the whole program: so many take about a second, while servers ask for some thousands.
+/// each delays the whole program: this many take about a second, while servers ask for some thousands.
 constexpr qulonglong mostIterations = 1'000'000;
 
 bool asksTooMuch(const QByteArray& challenge) {
@@ -53,8 +53,8 @@ bool sendsPassword(const QByteArray& mechanism) {
 }  // namespace
 
 struct SaslExchange::State {
-    Gsasl_session* session = nullptr;  ///< null: a token is brought instead of an exchange of the library
-    QByteArrayList answers;            ///< what is left to be said then
+    Gsasl_session* session = nullptr;  ///< null: a token is sent instead of an exchange by the library
+    QByteArrayList answers;            ///< the answers that remain to be sent then
     bool clientFirst = false;
     bool derivesKey = false;
     bool complete = false;
@@ -113,7 +113,7 @@ Result<QByteArray> SaslExchange::step(const QByteArray& challenge) {
     if (m_state->derivesKey && asksTooMuch(challenge)) return failure(GSASL_MECHANISM_PARSE_ERROR);
     if (!m_state->session) {
         if (m_state->answers.isEmpty()) return failure(GSASL_MECHANISM_CALLED_TOO_MANY_TIMES);
-        m_state->complete = m_state->answers.size() == 2;  // an error is told after that
+        m_state->complete = m_state->answers.size() == 2;  // an error is reported after that
         return m_state->answers.takeFirst();
     }
     char* output = nullptr;

@@ -34,7 +34,7 @@ QString verdictOf(const DeliveryOutcome& outcome) {
     const QRegularExpressionMatch match = form.match(outcome.text.trimmed());
     if (!match.hasMatch()) return {};
     const QString words = match.captured(2);
-    // A server that slows a sender down often speaks of spam as well; one that refuses for good means it.
+    // A server that limits the rate often mentions spam as well; in a permanent refusal spam is the reason.
     const bool temporary = outcome.code < 500;
     QString verdict = QStringLiteral("Il server rifiuta il messaggio per le sue regole");
     if (saysRate(words) && (temporary || !saysSpam(words)))

@@ -18,7 +18,7 @@ SmtpExtensions SmtpExtensions::read(const QByteArray& text) {
         if (keyword == "SMTPUTF8") offered.smtputf8 = true;
         if (keyword == "STARTTLS") offered.startTls = true;
         if (keyword == "AUTH") offered.auth += words;
-        // An older form that is still met: the first mechanism stands behind an equals sign.
+        // An older form that is still in use: the first mechanism follows an equals sign.
         if (keyword.startsWith("AUTH=")) offered.auth += words << keyword.sliced(5);
     }
     return offered;

@@ -15,7 +15,7 @@ int numberOf(QByteArrayView digits) {
     return (digits[0] - '0') * 100 + (digits[1] - '0') * 10 + (digits[2] - '0');
 }
 
-/// Controls, line separators, and what turns the direction of a text or cannot be seen.
+/// Controls, line separators, and what changes the direction of a text or is invisible.
 bool steersDisplay(uint character) {
     switch (QChar::category(character)) {
         case QChar::Other_Control:

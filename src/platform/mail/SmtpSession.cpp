@@ -163,7 +163,7 @@ bool SmtpSession::hasGivenAll() const {
     return m_socket && m_pointGiven && !m_expected.isEmpty() && allTaken();
 }
 
-/// The server has taken the message, whatever else it may still say.
+/// The server has accepted the message, whatever it sends after that.
 bool SmtpSession::wasAccepted() const {
     return hasGivenAll() && m_expected.first() == Step::Body && !m_refused && !m_answeredEarly &&
            isAcceptance(QByteArrayView(m_input).sliced(m_inputRead));
@@ -191,7 +191,7 @@ void SmtpSession::open(LocalPort localPort) {
     connect(m_socket, &QSslSocket::errorOccurred, this, &SmtpSession::onSocketError);
     connect(m_socket, &QSslSocket::connected, this, &SmtpSession::onConnected);
     connect(m_socket, &QSslSocket::encrypted, this, &SmtpSession::onEncrypted);
-    // What is encrypted is still with us; it is with the other side once the encrypted bytes were taken.
+    // Encrypted data is still local; it has been sent once the encrypted bytes were written.
     connect(m_socket, &QSslSocket::bytesWritten, this, [this] {
         if (!m_socket->isEncrypted()) onTaken();
     });
@@ -216,7 +216,7 @@ void SmtpSession::connectToServer() {
     }
 }
 
-/// The name is not looked up again after its addresses were judged: it may lead elsewhere then.
+/// The name is not looked up again after its addresses were checked: the result could differ.
 void SmtpSession::onLookedUp(const QHostInfo& found) {
     if (found.lookupId() != m_lookup) return;
     m_lookup = -1;
@@ -260,7 +260,7 @@ void SmtpSession::onConnected() {
 }
 
 void SmtpSession::dropConnection() {
-    // What the server has not got yet must not reach it when the message counts as failed.
+    // Unsent data must not reach the server when the message counts as failed.
     const bool midMessage =
         m_feeding || (m_pointGiven && (!m_expected.isEmpty() || (m_socket && !allTaken())));
     m_ready = m_handshaking = m_feeding = false;
@@ -283,7 +283,7 @@ void SmtpSession::dropConnection() {
 void SmtpSession::quit() {
     if (m_socket && m_expected.isEmpty() && !m_handshaking &&
         m_socket->state() == QAbstractSocket::ConnectedState) {
-        // The socket stays behind to wait for the server's end of the line.
+        // The socket stays open to wait for the server's close.
         QSslSocket* const socket = std::exchange(m_socket, nullptr);
         socket->disconnect(this);
         connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
@@ -301,7 +301,7 @@ void SmtpSession::progress() {
     if (m_busy) m_stall.start(limitMs());
 }
 
-/// How long the present wait may last.
+/// The time limit of the current wait.
 int SmtpSession::limitMs() const {
     const bool answering = m_socket && m_socket->state() == QAbstractSocket::ConnectedState &&
                            !m_handshaking && !m_expected.isEmpty();
@@ -322,7 +322,7 @@ int SmtpSession::limitMs() const {
     }
 }
 
-/// A host that has greeted in time, or not at all, is not waited for longer again.
+/// A host that has greeted in time, or not at all, gets no extended wait again.
 void SmtpSession::noteGreeting() {
     if (m_connected.elapsed() <= m_times.stall || m_lookedAgain) m_greeters.insert(m_route.host);
 }
@@ -340,7 +340,7 @@ void SmtpSession::noteTaken() {
 void SmtpSession::onTimeout() {
     if (m_socket && isTaking(int(m_socket->socketDescriptor()))) return;
     if (!m_lookedAgain) {
-        // No event may have been taken for a long time: what has come meanwhile is read first.
+        // Events may not have been processed for a long time: what has arrived is read first.
         m_lookedAgain = true;
         m_stall.start(0);
         return;
@@ -355,7 +355,7 @@ void SmtpSession::onTimeout() {
 }
 
 bool SmtpSession::isTaking(int descriptor) {
-    // Large buffers of the system tell of progress late: the time counts from the last acknowledgement.
+    // Large system buffers show progress late: the time counts from the last acknowledgement.
     const int outstanding = unacknowledgedOctets(descriptor);
     const int quietMs = msSinceAcknowledgement(descriptor);
     const int limit = limitMs();
@@ -366,8 +366,8 @@ bool SmtpSession::isTaking(int descriptor) {
 }
 
 void SmtpSession::onSocketError(QAbstractSocket::SocketError error) {
-    // What the server said before it hung up still counts.
-    if (error == QAbstractSocket::SocketTimeoutError) return;  // of the look before a time-out
+    // What the server sent before it closed still counts.
+    if (error == QAbstractSocket::SocketTimeoutError) return;  // of the read before a time-out
     if (m_socket->bytesAvailable() > 0) {
         const QSslSocket* const socket = m_socket;
         onReadyRead();
@@ -419,7 +419,7 @@ void SmtpSession::lost(int code, const QString& why, Loss loss, DeliveryCause ca
     conclude(m_refused ? m_refusal : DeliveryOutcome{false, code, why, false, reached, cause, unanswered});
 }
 
-/// Whether the server has surely taken nothing of the message on a connection that is lost.
+/// Whether it is certain that the server accepted nothing of the message on a lost connection.
 bool SmtpSession::nothingTaken(Loss loss) const {
     if (m_inFlight) return loss == Loss::Farewell;
     return loss == Loss::Disorder ? !m_mailAccepted : !m_pointGiven;

@@ -1,4 +1,4 @@
-// The dialogue of a session: commands, replies and what they lead to.
+// The dialogue of a session: commands, replies and what follows from them.
 #include <algorithm>
 #include <QHostAddress>
 #include <QHostInfo>
@@ -12,7 +12,7 @@ namespace mail {
 
 namespace {
 
-/// Octets of a body that are handed to the socket at a time. Messages below this size go out in one write,
+/// Octets of a body that are given to the socket at a time. Messages below this size are sent in one write,
 /// with their final point.
 constexpr qsizetype bodyPiece = 128 * 1024;
 constexpr int piecesInARow = 32;
@@ -27,7 +27,7 @@ bool isFullHostName(const QString& name) {
 void SmtpSession::onReadyRead() {
     QSslSocket* const socket = m_socket;
     m_input += socket->readAll();
-    // A reply can end the connection, and through finished() start the next delivery.
+    // A reply can end the connection and, through finished(), start the next delivery.
     while (m_socket == socket && !m_expected.isEmpty() && !m_handshaking) {
         ReplyParse parse = parseSmtpReply(m_input, m_inputRead);
         if (parse.state == ReplyParse::State::Incomplete) {
@@ -59,8 +59,8 @@ void SmtpSession::onReadyRead() {
 }
 
 void SmtpSession::onUnexpectedInput() {
-    // Said without having been asked: at best a farewell, and no later reply could be trusted to be the right
-    // one.
+    // An unsolicited reply: at best a goodbye, and no later reply could be matched
+    // reliably.
     SmtpReply reply = parseSmtpReply(m_input, m_inputRead).reply;
     if (reply.intermediate()) reply.text = "(omesso)";  // it may be a token of the login
     m_transcript.received(reply.code, reply.text);
@@ -249,7 +249,7 @@ void SmtpSession::refuse(const SmtpReply& reply) {
     m_refusal = refusal(reply);
 }
 
-/// What a reply that is no acceptance to the step that it answers ends in.
+/// The outcome of a step that this reply does not accept.
 DeliveryOutcome SmtpSession::refusal(const SmtpReply& reply) const {
     return {false, reply.code, printable(reply.text), false, stageOf(m_answered), DeliveryCause::Server};
 }
@@ -266,7 +266,7 @@ void SmtpSession::settleRefusal() {
 
 void SmtpSession::onDataReply(const SmtpReply& reply) {
     if (reply.positive()) {
-        // No answer to DATA: replies and commands are out of step, and what answered MAIL is not known.
+        // No answer to DATA: replies and commands are out of step, and the reply to MAIL is unknown.
         m_mailAccepted = false;
         lost(0,
              QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
@@ -275,8 +275,8 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
         refuse(reply);
         settleRefusal();
     } else if (m_refused) {
-        // The server waits for a message whose sender or recipient it has refused: it gets an empty one
-        // (RFC 2920 3.1), which it has nobody to give to.
+        // The server waits for a message whose sender or recipient it has refused: it gets an empty one (RFC
+        // 2920 3.1), which has no recipient.
         m_output = ".\r\n";
         m_expected.append(Step::EmptyBody);
         writeCommands();
@@ -303,7 +303,7 @@ void SmtpSession::feedBody() {
         m_feeding = !m_message.text.isEnd(m_fed);
         m_pointGiven = !m_feeding;
         if (!m_feeding) piece += m_message.text.endsLine() ? ".\r\n" : "\r\n.\r\n";
-        // However quickly the server reads, the event loop gets its turn.
+        // The event loop runs in between, however quickly the server reads.
         if (pieces == piecesInARow)
             socket->write(piece);
         else
@@ -311,10 +311,10 @@ void SmtpSession::feedBody() {
     }
 }
 
-/// Hands over what the system takes at once. Only the rest goes through the socket's own buffer, which spares
-/// a copy of each large message.
+/// Writes what the system takes at once. Only the rest goes through the socket's own buffer, which saves a
+/// copy of each large message.
 void SmtpSession::writePiece(const QByteArray& piece) {
-    QSslSocket* const socket = m_socket;  // a failure takes m_socket away
+    QSslSocket* const socket = m_socket;  // a failure clears m_socket
     const bool atOnce = !socket->isEncrypted() && socket->bytesToWrite() == 0;
     const qsizetype taken = atOnce ? sendAtOnce(int(socket->socketDescriptor()), piece) : 0;
     const qsizetype left = piece.size() - taken;

@@ -8,13 +8,13 @@ namespace mail {
 
 namespace {
 
-/// What a server has to read in vain where it refuses the recipient. A round trip is little beside a larger
-/// message.
+/// Octets that a server reads in vain if it refuses the recipient. For larger messages a round trip is a
+/// small cost.
 constexpr qsizetype largestFlight = 128 * 1024;
 
 }  // namespace
 
-/// A flight cannot be called back: what becomes of it on a connection that is dead already is never known.
+/// A flight cannot be undone: its outcome on a connection that is already dead stays unknown.
 bool SmtpSession::mayFly() const {
     return m_extensions.chunking && m_extensions.pipelining && !m_needsReset && m_taken.isValid() &&
            m_taken.elapsed() < m_times.flight && m_message.text.size() <= largestFlight &&
@@ -38,7 +38,7 @@ void SmtpSession::fly() {
 }
 
 /// Whether replies and commands are out of step after this reply to the whole message. It asks for more; or
-/// it shows that BDAT is not known, and the octets of the message will be read as commands.
+/// it shows that BDAT is unknown, and the octets of the message will be read as commands.
 bool SmtpSession::isOutOfStep(const SmtpReply& reply) const {
     const bool notKnown = m_inFlight && !m_refused && reply.code >= 500 && reply.code <= 504;
     return notKnown || reply.intermediate();

@@ -42,7 +42,7 @@ bool SmtpSession::missesTls() const {
     return m_mustEncrypt && !m_socket->isEncrypted();
 }
 
-/// The server cannot do without TLS any more. On port 465 it never could.
+/// TLS is required from now on. On port 465 it always is.
 void SmtpSession::noteTlsOffer() {
     if (m_route.opportunisticTls || implicitTls()) return;
     m_mustEncrypt = true;
@@ -69,7 +69,7 @@ void SmtpSession::prepareTls() {
 void SmtpSession::onStartTlsReply(const SmtpReply& reply) {
     if (reply.positive()) {
         if (inputLeft()) {
-            // Whoever put this in front of the handshake wants it to be taken for what comes behind it.
+            // Data injected before the handshake is meant to be taken for what comes after it.
             lost(0, QStringLiteral("Il server ha aggiunto testo in chiaro alla risposta a STARTTLS."));
             return;
         }

@@ -39,7 +39,7 @@ QString withoutLongGaps(const QString& text) {
     QString out;
     int emptyLines = 0;
     const QStringView all = text;
-    qsizetype kept = 0;  // from here on nothing was left out, and nothing appended yet
+    qsizetype kept = 0;  // after this nothing was left out, and nothing is appended yet
     for (qsizetype from = 0; from < all.size();) {
         const auto lineEnd =
             std::find_if(all.begin() + from, all.end(), [](QChar c) { return c == u'\r' || c == u'\n'; });

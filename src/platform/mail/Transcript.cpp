@@ -10,7 +10,7 @@ namespace mail {
 
 namespace {
 
-constexpr qsizetype longestShown = 1000;  // of a line: what a server says may be thirty times as long
+constexpr qsizetype longestShown = 1000;  // of a line: a server's line may be thirty times as long
 
 }  // namespace
 

@@ -30,7 +30,7 @@ bool namesItsGoal(const QString& link) {
            !url.host().isEmpty() && url.userInfo().isEmpty();
 }
 
-// As a URI may stand in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty
+// As a URI may be in a header (RFC 3986): printable ASCII without blanks and angle brackets; else empty
 QByteArray headerLink(const QString& link) {
     const QString given = link.size() <= longestLink ? withoutLineEnds(link) : QString();
     const QByteArray encoded = namesItsGoal(given) ? QUrl(given).toEncoded() : QByteArray();

@@ -10,11 +10,11 @@
 
 namespace {
 
-// Local images show because the empty document counts as a local file
+// Local images are shown because the empty document counts as a local file
 const QUrl localOrigin(QStringLiteral("file:///"));
 
-// What holds for every document that is written into the page. A policy cannot be taken back by a document,
-// nor can the refusal to look names up ahead.
+// What applies to every document that is written into the page. A document cannot revoke a policy, nor the
+// refusal to prefetch DNS names.
 const QString emptyDocument = QStringLiteral(
     "<meta http-equiv=\"x-dns-prefetch-control\" content=\"off\">"
     "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data: file:; "
@@ -60,7 +60,7 @@ Page::Page(QWebEngineProfile& profile, std::function<void(const QString&)> said)
     rules.setAttribute(Rule::JavascriptCanAccessClipboard, true);
     rules.setAttribute(Rule::JavascriptCanPaste, true);
 
-    // Scripts that the page holds itself are missing now and then in a process that follows one that died.
+    // Scripts that belong to the page itself are sometimes missing in a process that follows one that died.
     connect(this, &QWebEnginePage::loadFinished, this, [this](bool whole) {
         m_starting = false;
         if (!whole) return;

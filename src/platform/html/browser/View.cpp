@@ -19,7 +19,7 @@ View::View(const BrowserEvents& events, QWidget* parent)
     m_page->setParent(this);
     m_page->setObjectName(QStringLiteral("page"));
     setPage(m_page.get());
-    // a load that the end of the process cuts short finishes too
+    // a load that is cut short by the process's end finishes too
     connect(m_page.get(), &QWebEnginePage::loadFinished, this, [this](bool whole) {
         if (whole) handOn([this] { m_events.started(); });
     });
@@ -47,7 +47,7 @@ void View::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
-// Moves inside the document are the browser's own
+// The browser handles moves inside the document
 void View::dragEnterEvent(QDragEnterEvent* event) {
     if (event->source() == nullptr) {
         event->setAccepted(m_events.dragged(*event->mimeData()));

@@ -1,6 +1,6 @@
-// Cleans text of other programs: content stays; what acts, what leads to other schemes, and what steers another
-// program's layout goes. All is called through the prototypes: in a form, a control named "attributes" stands in
-// the place of that member, and in a document an image does.
+// Cleans text of other programs: content stays; what acts, what leads to other schemes, and what steers
+// another program's layout goes. All is called through the prototypes: a form's control named "attributes"
+// shadows that member, and in a document an image does.
 editor.clean = (() => {
     const getter = (prototype, name) => {
         const { get } = Object.getOwnPropertyDescriptor(prototype, name);
@@ -32,7 +32,7 @@ editor.clean = (() => {
     // Local files were looked at before (insert.dropLocal)
     const schemes = ['', 'http:', 'https:', 'ftp:', 'mailto:', 'tel:', 'sms:', 'cid:', 'file:'];
 
-    // As the URL parser reads it. An address with a placeholder in its host is none for the parser.
+    // As the URL parser reads it. An address with a placeholder in its host is invalid for the parser.
     const schemeOf = (address) => {
         const text = address.replace(/^[\0-\x20]+/, '').replace(/[\t\n\r]/g, '');
         try {

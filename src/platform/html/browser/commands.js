@@ -40,8 +40,8 @@ editor.commands = {
         });
     },
 
-    // The browser makes a list inside the paragraph, where no reader would find it again: a paragraph ends where a
-    // list begins.
+    // The browser makes a list inside the paragraph, which parsing the text would undo: a paragraph ends
+    // where a list begins.
     liftLists() {
         const { anchorNode, anchorOffset, focusNode, focusOffset } = getSelection();
         document.querySelectorAll('p > ol, p > ul').forEach((list) => {

@@ -1,8 +1,8 @@
 // The editing of one document. Runs in a world of its own beside the page, whose scripts never run. Timers
-// do not run here; what has to wait is told to the program, which comes back.
+// do not run here; what has to wait is sent to the program, which calls again.
 const editor = {
     editable: false,
-    token: '', // tells our messages from the browser's own
+    token: '', // distinguishes our messages from the browser's own
     strokes: 0, // keys released so far
 
     tell(what, detail) {
@@ -143,7 +143,7 @@ const editor = {
         else this.step(() => document.execCommand('insertText', false, '\u00A0\u00A0\u00A0 '));
     },
 
-    // The middle button and the browser's own keys come here; the program's command takes the same way.
+    // The middle button and the browser's own keys come here; the program's command does the same.
     paste(event) {
         const html = event.clipboardData.getData('text/html');
         const text = event.clipboardData.getData('text/plain');

@@ -1,11 +1,11 @@
 // Undo and redo. Every change of the tree is recorded as it happens, whoever makes it: typing, the browser's own
 // commands, our changes of tables and attributes. A step is the list of changes between two moments of rest, and is
-// undone by applying the changes' inverses backwards, so that the very nodes come back.
+// undone by applying the changes' inverses backwards, so that the same nodes come back.
 editor.history = {
     version: 0, // of the document, for those who keep a copy
     done: [],
     undone: [],
-    kind: '', // of the change under way, as told by the browser ("insertText")
+    kind: '', // of the change under way, as reported by the browser ("insertText")
     sealed: true, // the next change begins a step of its own
     before: null, // selection ahead of the change under way
     observer: null,

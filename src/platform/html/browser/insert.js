@@ -13,7 +13,7 @@ editor.insert = {
         return range;
     },
 
-    // Puts a fragment in place of the selection and the caret behind it.
+    // Puts a fragment in place of the selection and the caret after it.
     fragment(html) {
         const range = this.range();
         if (!range) return false;
@@ -39,7 +39,7 @@ editor.insert = {
         return true;
     },
 
-    // A form cannot stand inside another: the next reading of the text would drop it.
+    // A form cannot be inside another: the next parse of the text would drop it.
     leaveForm(range, content) {
         const around = editor.elementOf(range.startContainer).closest('form');
         if (!around || !content.querySelector('form')) return;
@@ -135,14 +135,14 @@ editor.insert = {
         }
     },
 
-    own: new Set(), // local files that the document holds, or held when something was copied or cut from it
+    own: new Set(), // local files that the document contains, or contained when something was copied or cut from it
 
     noteOwn() {
         this.namingLocalFiles(document, (element, name, files) => files.forEach((file) => this.own.add(file)));
     },
 
     // A page that was copied must not name files of this machine, which would then travel with the message. Its
-    // images go, other elements lose what names the file. What the document holds already may come back.
+    // images go, other elements lose what names the file. What the document contains already may come back.
     dropLocal(source) {
         this.noteOwn();
         const dropped = new Set();
@@ -257,7 +257,7 @@ editor.insert = {
         return this.nodes(range, content);
     },
 
-    // The browser's command resolves addresses, which would spoil a placeholder: it gets a mark of ours first.
+    // The browser's command resolves addresses, which would damage a placeholder: it gets a mark of ours first.
     linkSelection(address, unsubscribes) {
         const mark = 'vestrola-link:';
         if (!document.execCommand('createLink', false, mark)) return false;

@@ -21,7 +21,7 @@ editor.marks = {
         this.apply();
     },
 
-    // Of them nothing is printed, and neither is the caret
+    // They are not printed, and neither is the caret
     apply() {
         const marks = Object.keys(this.sheets).filter((name) => this.shown[name]);
         document.adoptedStyleSheets = [

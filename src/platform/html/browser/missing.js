@@ -1,5 +1,5 @@
-// Images that name files which are not there come with a mark in front of the address. It makes them addresses that
-// the browser knows to hold no picture, without asking the program about each one. Nobody else sees the mark.
+// Images that name files which are not there come with a mark in front of the address. It makes them addresses that the
+// browser knows to be no picture, without asking the program about each. The mark is never visible outside.
 editor.missing = {
     mark: '',
 
@@ -12,7 +12,7 @@ editor.missing = {
         return value === null ? null : this.plain(value);
     },
 
-    // What is selected is about to leave the document: it goes with the addresses that the message holds.
+    // What is selected is about to leave the document: it goes with the addresses that the message contains.
     release() {
         const selection = getSelection();
         if (!this.mark || !selection.rangeCount) return;

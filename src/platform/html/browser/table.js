@@ -1,5 +1,5 @@
-// Rows and columns of the table that holds the caret. Cells that span several rows or columns keep their shape: they
-// grow by what is inserted inside them and shrink by what is deleted.
+// Rows and columns of the table that contains the caret. Cells that span several rows or columns keep their
+// shape: they grow by what is inserted inside them and shrink by what is deleted.
 editor.table = {
     cell() {
         return editor.closest('td,th');
@@ -134,7 +134,7 @@ editor.table = {
         return true;
     },
 
-    // A cell that reaches below the deleted rows goes on in the row behind them, at its column.
+    // A cell that reaches below the deleted rows goes on in the row after them, at its column.
     moveDown(table, grid, cell, y) {
         const x = grid[y].indexOf(cell);
         const next = grid[y].slice(x).find((other) => other !== cell && other.parentNode === table.rows[y]);

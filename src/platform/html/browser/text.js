@@ -2,7 +2,7 @@
 editor.text = {
     // The document by the serialisation rules of the HTML standard, with what they leave out and a second
     // reading needs: the doctype's identifiers, and the line feed that the parser takes off the start of a
-    // preformatted block. The doctype comes first, as some readers heed it nowhere else.
+    // preformatted block. The doctype comes first, as some readers ignore it elsewhere.
     read() {
         const doubled = editor.text.blocksThatLoseALineFeed();
         doubled.forEach((text) => text.insertData(0, '\n'));
@@ -30,7 +30,7 @@ editor.text = {
         return out + '>';
     },
 
-    // Through the document object: an address that holds the text could take 2 MB at most.
+    // Through the document object: an address that contains the text could take 2 MB at most.
     write(html) {
         editor.history.stop();
         document.open();
@@ -42,7 +42,7 @@ editor.text = {
     told: { version: null, text: '' }, // what the program was given last
 
     // What has to be put in the place of a stretch of the text that the caller knows, by its version, to get the one
-    // that stands here; none where they are the same. A caller that knows another one than the last is given it all.
+    // that is here; none where they are the same. A caller that knows another one than the last is given it all.
     readNewer(version) {
         editor.history.flush();
         const now = editor.history.version;
