@@ -10,7 +10,7 @@ namespace contacts {
 
 namespace {
 
-/// Values by attribute in small letters, the first of several wins.
+/// Values by attribute in lower case; the first of several is used.
 class Record {
   public:
     bool isEmpty() const { return m_values.isEmpty(); }

@@ -69,8 +69,8 @@ Status copyOnce(const QString& path, const QString& copy) {
     return {};
 }
 
-/// Copies until nothing was written meanwhile: the files of a database belong together, and pieces of several
-/// states of it could pass for entries that never were.
+/// Copies until nothing was written meanwhile: the files of a database belong together, and a mix of several
+/// states could look like entries that never existed.
 Status copyBook(const QString& path, const QString& copy) {
     constexpr int attempts = 20;
     Status status;
@@ -94,7 +94,7 @@ struct FinalizeStatement {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// A file that somebody made to harm its reader meets bounds on sizes and on work, and no code of its own.
+/// A malicious file meets limits on sizes and on work, and can run no code of its own.
 Database openCopy(const QString& copy, int& checks) {
     sqlite3* opened = nullptr;
     const int result = sqlite3_open_v2(copy.toUtf8().constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
@@ -123,7 +123,7 @@ QByteArray column(const Statement& statement, int index) {
 /// What is known of one card: the card it was read from, or the single properties.
 struct Properties {
     Card card;
-    bool complete = false;  ///< the card stood in "_vCard"
+    bool complete = false;  ///< the card was in "_vCard"
 };
 
 void addProperty(Properties& properties, const QByteArray& name, const QByteArray& value) {

@@ -20,7 +20,7 @@ VCardStyle styleOf(const QByteArrayList& lines) {
     return VCardStyle::New;
 }
 
-/// Undoes folding: a line that begins with a blank carries on the one before, and so does any line behind a
+/// Undoes folding: a line that begins with a blank continues the one before, and so does any line after a
 /// quoted-printable one that ends in "=". The blank is of the text's own in 2.1.
 QByteArrayList unfolded(const QByteArrayList& lines, VCardStyle style) {
     QByteArrayList result;
@@ -40,7 +40,7 @@ QByteArrayList unfolded(const QByteArrayList& lines, VCardStyle style) {
     return result;
 }
 
-/// The property that serves a purpose best so far: the most preferred, of equals the first.
+/// The property that serves a purpose best so far: the most preferred, among equals the first.
 class Choice {
   public:
     void offer(const VCardProperty& property, int penalty = 0) {
@@ -57,7 +57,7 @@ class Choice {
     int m_rank = 1000;
 };
 
-/// A link such as "tel:+39-0543-1;ext=2" gives what is dialled; any other text is itself.
+/// A link such as "tel:+39-0543-1;ext=2" gives the number to dial; any other text is unchanged.
 QString withoutScheme(const QString& text, const QString& scheme) {
     if (!text.startsWith(scheme, Qt::CaseInsensitive)) return text;
     return text.mid(scheme.size()).section(u';', 0, 0);
@@ -108,7 +108,7 @@ std::vector<Card> readVCards(const QByteArray& file) {
     const QByteArray bytes = withoutByteOrderMark(file);
     std::vector<Card> cards;
     QByteArrayList lines;
-    int depth = 0;  // a card may hold another one as its AGENT, which is passed over
+    int depth = 0;  // a card may contain another one as its AGENT, which is skipped
     QByteArrayView rest(bytes);
     while (!rest.isEmpty() && cards.size() < mostCards) {
         const QByteArrayView line = takeLine(rest);

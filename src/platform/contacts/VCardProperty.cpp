@@ -20,10 +20,10 @@ qsizetype findUnquoted(const QByteArray& line, const char* characters, qsizetype
     return line.size();
 }
 
-/// A colon that comes later than this does not tell isQuotedPrintable() anything.
+/// A colon that comes later than this does not matter to isQuotedPrintable().
 constexpr qsizetype longestHeader = 1000;
 
-/// What a line says in front of its value.
+/// The part of a line in front of its value.
 struct Header {
     QByteArray name;
     QByteArrayList types;
@@ -81,7 +81,7 @@ Header readHeader(const QByteArray& line) {
     return header;
 }
 
-/// The character that an escape stands for, or nothing where the backslash is one of the text's own.
+/// The character that an escape stands for, or nothing where the backslash is literal.
 QString unescaped(QChar escaped, VCardStyle style) {
     const bool lineBreak = escaped == u'n' || escaped == u'N';
     if (style == VCardStyle::New) return lineBreak ? QStringLiteral("\r\n") : QString(escaped);

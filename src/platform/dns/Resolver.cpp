@@ -82,7 +82,7 @@ Answer answerOf(Type type, int status, QByteArrayView reply) {
     }
 }
 
-// In the library's form a backslash takes its meaning from what follows it.
+// In the library's form a backslash is an escape for what follows it.
 QByteArray escapedName(const QByteArray& name) {
     return QByteArray(name).replace('\\', "\\\\");
 }
@@ -95,7 +95,7 @@ struct Resolver::State : QObject {
         Done done;
         std::unique_ptr<QTimer> deadline;
     };
-    /// What the library hands back with an answer.
+    /// What the library passes back with an answer.
     struct Asked {
         State* state;
         quint64 number;
@@ -104,7 +104,7 @@ struct Resolver::State : QObject {
         std::unique_ptr<QSocketNotifier> read, write;
     };
 
-    /// What a reply with an error code of a server leads to.
+    /// What follows a server's reply with an error code.
     enum class ErrorReply { NextServer, Answer };
 
     State(const Times& given, ErrorReply onError) : times(given), onErrorReply(onError) {
@@ -169,8 +169,8 @@ struct Resolver::State : QObject {
         schedule();
     }
 
-    /// Once every server has failed the library does not tell a server that answered with an error code from
-    /// one that is not there. The question is put once more, and the first reply is taken as it is.
+    /// Once every server has failed the library does not distinguish a server that answered with an error
+    /// code from one that is not there. The question is put once more, and the first reply is taken as it is.
     void askWhy(quint64 number) {
         if (!why) {
             why = std::make_unique<State>(times, ErrorReply::Answer);
@@ -231,7 +231,7 @@ struct Resolver::State : QObject {
         wait.start(static_cast<int>(left.tv_sec * 1000 + left.tv_usec / 1000 + 1));
     }
 
-    /// The answer is told from the event loop, when the library is not at work.
+    /// The answer is reported from the event loop, when the library is not running.
     void settle(quint64 number, const Answer& answer) {
         pending.at(number).deadline.reset();
         QTimer::singleShot(0, this, [this, number, answer] {

@@ -18,7 +18,7 @@ Status failure(int reason) {
     return {ErrorCode::DeviceIo, QString::fromLocal8Bit(std::strerror(reason))};
 }
 
-// Size of the datagram, -1 for a failure that errno tells, none when nothing came in time. A datagram that
+// Size of the datagram, -1 for a failure given by errno, none when nothing came in time. A datagram that
 // poll() announces may still be dropped for its checksum: so the receiving itself does not wait.
 std::optional<ssize_t> receiveUntil(const QDeadlineTimer& deadline, int socket, QByteArray& buffer) {
     for (;;) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qsizetype longestText = 2048;
 
-/// The entry of one provider. The first fault that is found stays.
+/// The entry of one provider. The first error is kept.
 class EntryReader {
   public:
     EntryReader(const QString& id, const QJsonObject& entry) : m_id(id), m_entry(entry) {}

@@ -12,10 +12,10 @@ namespace oauth {
 
 namespace {
 
-constexpr qsizetype mostBrowsers = 16;  // a browser opens some connections in reserve
+constexpr qsizetype mostBrowsers = 16;  // browsers open some spare connections
 constexpr int requestMs = 10000;
 
-/// Compared in full, whatever the first difference.
+/// Compared to the end, wherever the first difference is.
 bool sameState(const QByteArray& one, const QByteArray& other) {
     if (one.size() != other.size()) return false;
     int difference = 0;

@@ -19,7 +19,7 @@ bool isPlain(const QByteArray& text) {
            std::all_of(text.begin(), text.end(), [](char c) { return c >= 0x20 && c <= 0x7E; });
 }
 
-/// The form encoding of a value undone; none where it is not complete.
+/// Decodes a form-encoded value; none where it is not complete.
 std::optional<QByteArray> decoded(QByteArray value) {
     const auto isHex = [](char c) { return QByteArrayView("0123456789abcdefABCDEF").contains(c); };
     for (qsizetype at = value.indexOf('%'); at >= 0; at = value.indexOf('%', at + 3))
@@ -27,7 +27,7 @@ std::optional<QByteArray> decoded(QByteArray value) {
     return QByteArray::fromPercentEncoding(value.replace('+', ' '));
 }
 
-/// Takes the parameters over. False where one stands twice or is not as it has to be.
+/// Stores the parameters. False where one occurs twice or is invalid.
 bool takeParameters(const QByteArray& query, RedirectRequest& request) {
     struct Known {
         const char* name;

@@ -13,7 +13,7 @@ namespace {
 constexpr qsizetype longestToken = 8192;
 constexpr qint64 marginSecs = 120;
 constexpr double usualSecs = 3600;
-constexpr double mostSecs = 86400;  // nothing that lives longer is believed
+constexpr double mostSecs = 86400;  // longer lifetimes are not trusted
 constexpr qsizetype longestShownText = 200;
 
 Status notAnAnswer() {

@@ -19,8 +19,8 @@ struct Token {
 };
 
 /// Reads the answer of a token endpoint that came at `now`. `wanted` are the scopes that the token must have.
-/// InvalidPassword where the consent was withdrawn (invalid_grant), NotSupported for any other error that the
-/// provider names and for an answer that is no token.
+/// InvalidPassword where the consent is no longer valid (invalid_grant), NotSupported for any other error
+/// that the provider names and for an answer that is no token.
 Result<Token> parseTokenAnswer(const QByteArray& body, const QStringList& wanted, const QDateTime& now);
 
 /// Whether a text has the form of a token: printable ASCII without blanks, short enough for a login.

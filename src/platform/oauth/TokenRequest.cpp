@@ -117,7 +117,7 @@ Result<Token> TokenRequest::outcome() {
     return token;
 }
 
-/// Called from within the reply's signals: who waits is told from the event loop, and may destroy all of it.
+/// Called within the reply's signals: the caller is notified from the event loop, and may destroy all of it.
 void TokenRequest::end(const Result<Token>& answer) {
     m_limit.stop();
     QNetworkReply* const reply = std::exchange(m_reply, nullptr);

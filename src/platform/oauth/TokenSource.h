@@ -22,7 +22,7 @@ struct Access {
 /// The source of access tokens for logins: from their files while valid, else renewed by the provider that
 /// the host belongs to. A host without a provider gets no token.
 ///
-/// A withdrawn consent is remembered, with its reason, until the file changes or beginRun(), so that the
+/// An invalid consent is remembered, with its reason, until the file changes or beginRun(), so that the
 /// provider is asked once and not for each recipient.
 class TokenSource : public QObject {
     Q_OBJECT

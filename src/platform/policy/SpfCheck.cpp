@@ -116,7 +116,7 @@ std::optional<QByteArray> Evaluation::explain(const QByteArray& spec, const QByt
     return isAscii(explanation) ? explanation : QByteArray();
 }
 
-/// The name that a domain-spec stands for; that of the record itself where it is empty.
+/// The name that a domain with macros expands to; that of the record itself where it is empty.
 std::optional<QByteArray> Evaluation::target(const QByteArray& spec, const QByteArray& domain) {
     if (spec.isEmpty()) return domain;
     const auto filled = values(spec, domain);

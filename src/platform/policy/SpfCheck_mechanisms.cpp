@@ -93,7 +93,7 @@ std::optional<bool> Evaluation::matchesMx(const Directive& directive, const QByt
     return false;
 }
 
-/// The names of the client's address that lead back to it; a name server that fails is passed over.
+/// The names of the client's address that resolve back to it; a name server that fails is skipped.
 std::optional<QByteArrayList> Evaluation::validatedNames(Voids voids, const QByteArray& domain,
                                                          const QByteArray& term) {
     const dns::Answer* const found = answer(dns::reverseName(m_address), dns::Type::Ptr);

@@ -14,12 +14,12 @@ constexpr int allParts = 128;  // no name has more labels
 
 /// One piece of a macro-string.
 struct Piece {
-    QByteArray literal;  ///< what it stands for, where `letter` is 0
+    QByteArray literal;  ///< its text, where `letter` is 0
     char letter = 0;     ///< as written
     int parts = 0;       ///< rightmost ones to keep; 0: all
     bool reversed = false;
     QByteArray delimiters = ".";
-    qsizetype end = 0;  ///< offset behind it
+    qsizetype end = 0;  ///< offset after it
 };
 
 bool isDigit(char c) {
@@ -30,7 +30,7 @@ bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// What stands in "%{...}", from behind the brace
+// The content of "%{...}", from after the brace
 std::optional<Piece> readMacro(const QByteArray& text, qsizetype at) {
     static const QByteArray letters = "slodiphcrtv", delimiters = ".-+,/_=";
     Piece piece;
@@ -167,7 +167,7 @@ bool isMacroString(const QByteArray& text, Place place) {
 bool isDomainSpec(const QByteArray& text) {
     if (text.isEmpty()) return false;
     bool endsInMacro = false;
-    QByteArray end;  // what stands behind the last macro
+    QByteArray end;  // what follows the last macro
     for (qsizetype at = 0; at < text.size();) {
         const auto piece = readPiece(text, at, Place::Domain);
         if (!piece) return false;

@@ -34,7 +34,7 @@ bool isAllDigits(const QByteArray& text) {
            std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-// A prefix length: no leading zero, and not above the most
+// A prefix length: no leading zero, and not above the maximum
 std::optional<int> prefixLength(const QByteArray& digits, int most) {
     if (!isAllDigits(digits) || digits.size() > 3 || (digits.size() > 1 && digits.front() == '0'))
         return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<int> prefixLength(const QByteArray& digits, int most) {
     return value <= most ? std::optional(value) : std::nullopt;
 }
 
-/// Takes "/24", "//64" or "/24//64" off the end of the value.
+/// Removes "/24", "//64" or "/24//64" from the end of the value.
 bool takePrefixes(QByteArray& value, Directive& directive) {
     const qsizetype two = value.lastIndexOf("//");
     if (two >= 0 && isAllDigits(value.sliced(two + 2))) {
@@ -84,7 +84,7 @@ bool readNetwork(const QByteArray& value, Directive& directive) {
     return true;
 }
 
-/// What stands behind the name of the mechanism: ":..." or "/...".
+/// What follows the name of the mechanism: ":..." or "/...".
 bool readArgument(const Form& form, QByteArray argument, Directive& directive) {
     const bool isNetwork = form.mechanism == Mechanism::Ip4 || form.mechanism == Mechanism::Ip6;
     if (isNetwork) return argument.startsWith(':') && readNetwork(argument.sliced(1), directive);

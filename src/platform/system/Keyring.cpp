@@ -138,15 +138,15 @@ class Attributes {
     GHashTable* m_table;
 };
 
-/// What a call of the library, which runs aside, hands back.
+/// The result of a call of the library, which runs in another thread.
 struct Answer {
     bool succeeded = false;
     QString password;
     QString error;
 };
 
-/// Runs a call of the library aside, since it blocks, and asks meanwhile whether to go on. Who gives up does
-/// not wait for it: a bus that does not answer takes no notice. So `call` holds copies of what it uses. It
+/// Runs a call of the library in a thread, since it blocks, and asks meanwhile whether to go on. After giving
+/// up nothing waits for it: a bus that does not answer ignores that. So `call` has copies of what it uses. It
 /// takes the library, what cancels it, the place of an error, and the answer's password.
 template <typename Call>
 Result<QString> run(Call call, const GoOn& goOn) {

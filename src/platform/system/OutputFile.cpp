@@ -24,7 +24,7 @@ Status noAccess(const QString& path) {
     return refused(path, Words::tr("Errore di accesso al percorso/file"));
 }
 
-/// Links of the user himself and of the administrator lead where these want them to.
+/// Links of the user and of the administrator are trusted.
 bool isTrustedLink(const struct stat& link) {
     return link.st_uid == ::geteuid() || link.st_uid == 0;
 }
@@ -47,7 +47,7 @@ QString objection(int file, FileKind kind) {
     return {};
 }
 
-/// O_NONBLOCK: a pipe that nobody reads must not hang. Not emptied: it is not known yet to be the right one.
+/// O_NONBLOCK: a pipe without a reader must not block. Not emptied: it is not known yet to be the right one.
 int openAt(const QByteArray& path, WriteMode mode, FileKind kind, int exclusively = 0) {
     const int appending = mode == WriteMode::Append ? O_APPEND : 0;
     const int links = kind == FileKind::Document ? 0 : O_NOFOLLOW;

@@ -168,7 +168,7 @@ Status FileLock::take(const QString& path) {
     if (!folderIsSafe(path)) return {ErrorCode::PathAccess, QString()};
     Open file(path, O_RDWR | O_CREAT | O_NONBLOCK);
     if (file.get() < 0 || ::flock(file.get(), LOCK_EX | LOCK_NB) != 0) return failure();
-    // Whoever had it may have removed the file between the two steps: the name is another file's by now.
+    // Its last holder may have removed the file between the two steps: the name is then another file's.
     struct stat mine {};
     if (::fstat(file.get(), &mine) != 0 || mine.st_nlink == 0) return {ErrorCode::FileInUse, QString()};
     m_file = file.letGo();

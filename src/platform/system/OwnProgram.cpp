@@ -9,7 +9,7 @@ namespace sys {
 
 namespace {
 
-/// The kernel tells where it has put a program's loader; the loader as the program has none.
+/// The kernel reports the address of a program's loader; the loader run as the program has none.
 bool startedByLoader() {
     return ::getauxval(AT_BASE) == 0;
 }

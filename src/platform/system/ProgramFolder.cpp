@@ -77,7 +77,7 @@ bool makeAnew(const QString& folder) {
 Status restoreFile(const QString& folder, const QString& templates, const QString& name) {
     const QFileInfo installed(templates + name);
     const QFileInfo own(folder + name);
-    // A link that leads nowhere is somebody's doing.
+    // A dangling link was put there on purpose.
     if (!installed.isFile() || own.exists() || own.isSymLink()) return {};
     if (makeFolder(own.path()) && copyFile(installed, own.path())) return {};
     return {ErrorCode::PathAccess, Words::tr("Impossibile scrivere il file ") + own.filePath()};
@@ -162,7 +162,7 @@ QString programFolder() {
     const QString chosen = chooseProgramFolder(
         application, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     const QString templates = templatesOf(application);
-    // Whoever leaves something for the first start has filled the folder by then; the log tells of starts.
+    // What was prepared for the first start is in the folder by then; the log records starts.
     newFolder() = !QFileInfo::exists(chosen + QStringLiteral("/Error.txt"));
     static_cast<void>(fillProgramFolder(chosen, templates));
     static_cast<void>(renewTexts(chosen, templates));

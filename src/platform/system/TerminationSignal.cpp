@@ -10,7 +10,7 @@ namespace sys {
 
 namespace {
 
-// A handler of signals may do no more than write to a pipe.
+// A signal handler may do no more than write to a pipe.
 int pipeEnds[2] = {-1, -1};
 
 void wake(int) {

@@ -53,7 +53,7 @@ const std::string& foldedPair(char lead, char follow) {
                  first];
 }
 
-/// Folded forms of other runs that were met: lists hold the same few characters over and over.
+/// Folded forms of other runs seen so far: lists contain the same few characters over and over.
 const std::string& foldedRun(std::string_view run) {
     constexpr size_t mostRuns = 4096;
     struct Hash : std::hash<std::string_view> {
@@ -80,7 +80,7 @@ size_t lowerPlain(const char* from, size_t size, char* to) {
     return done;
 }
 
-/// A well-formed character of two bytes stands at the start of the run.
+/// A well-formed character of two bytes is at the start of the run.
 bool startsWithPair(std::string_view run) {
     const auto byte = [&](size_t i) { return static_cast<unsigned char>(run[i]); };
     return run.size() >= 2 && byte(0) >= 0xC2 && byte(0) <= 0xDF && (byte(1) & 0xC0) == 0x80;

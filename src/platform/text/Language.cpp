@@ -19,7 +19,7 @@ void setLanguage(const QString& language) {
     QCoreApplication* application = QCoreApplication::instance();
     const QString mark = QStringLiteral("language");
     qDeleteAll(application->findChildren<QTranslator*>(mark, Qt::FindDirectChildrenOnly));
-    // Whichever comes last is asked first.
+    // The one installed last is asked first.
     for (const char* part : {"qtbase", "toolkit", "vestrola"}) {
         auto* texts = new QTranslator(application);
         texts->setObjectName(mark);

@@ -30,7 +30,7 @@ qsizetype findLineEnd(QByteArrayView bytes, LineEnds ends) {
 }
 
 /// Whether the file is valid UTF-8 from its start to its end. A line that is too long for the reader ends the
-/// look at it: nobody will read on from there.
+/// check: reading stops there.
 bool isUtf8(QFile& file) {
     QStringDecoder decoder(QStringConverter::Utf8);
     QByteArray block(blockSize, Qt::Uninitialized);
@@ -46,7 +46,7 @@ bool isUtf8(QFile& file) {
         lineLength = lineEnd < 0 ? lineLength + count : count - lineEnd - 1;
         if (lineLength > LineReader::longestLine) return true;
     }
-    // A character that is cut off by the end of the file is one too few.
+    // A character that the end of the file cuts off is not valid.
     decoder.appendToBuffer(decoded.data(), QByteArrayView("\n"));
     return !decoder.hasError();
 }
@@ -88,7 +88,7 @@ void LineReader::openBytes(const QByteArray& bytes, LineEnds ends, const QString
     m_status = {};
 }
 
-// Leaves the file behind its byte order mark. A file that cannot be read fails later, as its lines are.
+// Leaves the file after its byte order mark. A file that cannot be read fails later, as its lines are.
 void LineReader::detect() {
     const QByteArray start = m_file.peek(3);
     if (start.startsWith("\xff\xfe") || start.startsWith("\xfe\xff")) {
