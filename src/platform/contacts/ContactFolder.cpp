@@ -73,7 +73,7 @@ Result<ContactFolder> readContactFolder(const QString& path, std::chrono::millis
     helper.setArguments(command.sliced(1) << QFileInfo(path).absoluteFilePath());
     helper.setStandardInputFile(QProcess::nullDevice());
     helper.setStandardErrorFile(QProcess::nullDevice());
-    helper.setChildProcessModifier([] { ::setsid(); });  // a process group of its own
+    helper.setChildProcessModifier([] { ::setsid(); });  // its own process group
     const QDeadlineTimer deadline(patience);
     helper.start(QIODevice::ReadOnly);
     const bool started = helper.waitForStarted(static_cast<int>(patience.count()));

@@ -64,7 +64,7 @@ QString findOutlookFile(const QStringList& folders);
 QString outlookHelper();
 void setOutlookHelper(const QString& program);
 
-/// Reads the contacts folder of a data file. The file is read by the helper in a process of its own, since
+/// Reads the contacts folder of a data file. The file is read by the helper in a separate process, since
 /// such files can crash their readers. A helper that cannot be started, or ends, hangs or prints invalid
 /// lines before the count, gives FileNotFound, Timeout or UnrecognizedFormat; after the count, its end is the
 /// end of the entries; the count is not trusted. The helper is ended with all processes that it may have

@@ -15,9 +15,9 @@ struct HtmlTag {
     bool selfClosing = false;     ///< ends in "/>", which means something in drawings and formulas alone
 };
 
-/// Reads the markup of an HTML text from start to end as browsers divide it (HTML standard 13.2.5), without
-/// building a tree. Comments, conditional ones too, and declarations are skipped. Takes time in proportion to
-/// the text, whatever it contains.
+/// A tokenizer of HTML text: reads the markup from start to end as browsers do (HTML standard 13.2.5),
+/// without building a tree. Comments, conditional ones too, and declarations are skipped. Takes time in
+/// proportion to the text, whatever it contains.
 class HtmlTokens {
   public:
     /// `html` has to outlive the reader: all results are views into it.

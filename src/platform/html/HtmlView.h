@@ -235,7 +235,7 @@ class HtmlView : public QWidget {
   Q_SIGNALS:
     /// A document that was set is there; commands work on it.
     void documentComplete();
-    /// The selection, the document or the state of a command changed: read the states anew. At most once for
+    /// The selection, the document or the state of a command changed: read the states again. At most once for
     /// each turn of the event loop.
     void displayChanged();
     /// knownHTML() contains the changes of the document made so far, from any source: soon after

@@ -20,14 +20,14 @@ enum Trait : unsigned {
     Void = 1,         // has no content
     Special = 2,      // ends the search for the start of an ordinary element
     Boundary = 4,     // elements around it cannot be closed from inside
-    Formatting = 8,   // opened anew in the blocks that follow
+    Formatting = 8,   // reopened in the blocks that follow
     EndsPara = 16,    // a paragraph ends where it begins
     Row = 32,         // part of a table
     Outer = 64,       // there is one only, so further tags add to it
     LeavesSvg = 128,  // a drawing ends where it begins
     Heading = 256,
-    Marker = 512,   // formatting from outside is not opened anew inside it
-    Inline = 1024,  // is in a line of text, where formatting is opened anew
+    Marker = 512,   // formatting from outside is not reopened inside it
+    Inline = 1024,  // is in a line of text, where formatting is reopened
     Island = 2048,  // inside a drawing it contains HTML again
 };
 
@@ -253,7 +253,7 @@ class Path {
         closeTo([name](const Open& open) { return open.name == name; }, ordinary ? isSpecial : isBoundary);
     }
 
-    /// Formatting that was closed with the block around it is opened anew.
+    /// Formatting that was closed with the block around it is reopened.
     void text() {
         if (!inDrawing() && !inList()) reopen();
     }
@@ -263,7 +263,7 @@ class Path {
         Name name;
         unsigned traits;
         bool drawing;
-        Name alike;  // formatting of one kind; 0: not opened anew
+        Name alike;  // formatting of one kind; 0: not reopened
     };
     /// Formatting that was closed with the block around it and comes back in the next one.
     struct Afloat {
@@ -409,7 +409,7 @@ class Path {
         for (std::size_t at = m_open.size(); at-- > 0 && !isBoundary(m_open[at]);) {
             holdsBlock = holdsBlock || isSpecial(m_open[at]);
             if (m_open[at].name != name) continue;
-            m_open[at].alike = 0;  // not opened anew
+            m_open[at].alike = 0;  // not reopened
             if (holdsBlock) return remove(at);
             popTo(at);
             return;

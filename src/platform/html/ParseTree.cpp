@@ -97,7 +97,7 @@ const GumboNode* parseWithin(Guard& guard, const QByteArray& text) {
         ->document;
 }
 
-// Gumbo keeps the text that stands right before </form> until something is inserted, which then is after the
+// Gumbo keeps the text right before </form> until something is inserted, which then is after the
 // form. An element without effect makes it insert the text in its place.
 constexpr char formEnd[] = "</form";
 constexpr char mark[] = "<param vestrola-mark>";

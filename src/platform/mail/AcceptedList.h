@@ -44,7 +44,7 @@ class AcceptedList {
     QVector<AcceptedEntry> of(const DatabaseFile& database) const;
     /// To be called before the acceptance is reported. An entry that exists is not added twice.
     void add(const DatabaseFile& database, qint64 number, const QString& address);
-    /// The row is marked, or the user chose it anew: its entries are removed.
+    /// The row is marked, or the user chose it again: its entries are removed.
     void remove(const DatabaseFile& database, qint64 number);
 
   private:

@@ -106,7 +106,7 @@ class DeliveryControl : public QObject, public MessageData {
     /// still under way is dropped without any signal.
     ///
     /// A message that was dropped or aborted after the server received all of it may still be accepted. Its
-    /// reply is awaited on a connection of its own, and an acceptance goes into the list of accepted
+    /// reply is awaited on a separate connection, and an acceptance goes into the list of accepted
     /// messages. A message for the same row waits for that reply and takes its outcome; it is not sent. While
     /// two replies are awaited no further message is started.
     void Send();

@@ -14,7 +14,7 @@ struct DkimKey {
     QByteArray publicKey;  ///< SubjectPublicKeyInfo in DER
 };
 
-/// Whether the folder has a file for the domain, which may be unusable.
+/// Whether the folder has a file for the domain, usable or not.
 bool hasDkimFiles(const QString& folder, const QByteArray& domain);
 
 /// FileNotFound where the folder has no file for the domain, NotSupported with an Italian text where one

@@ -17,7 +17,7 @@ QByteArray unstructuredText(const QString& text);
 /// name gives the bare address; a name is cut after 1000 characters.
 QByteArray namedAddress(const QString& name, const QByteArray& address);
 
-/// A parameter that follows a header's value, on lines of its own: ";", line end, blank, name and value. A
+/// A parameter that follows a header's value, on separate lines: ";", line end, blank, name and value. A
 /// value that is short and plain ASCII is a quoted string, any other by RFC 2231 in UTF-8, in sections
 /// where it does not fit on one line; no character is split between sections.
 QByteArray parameter(const QByteArray& name, const QString& value);

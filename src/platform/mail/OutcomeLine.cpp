@@ -81,7 +81,7 @@ class LineWriter {
         }
         m_line += '"';
     }
-    /// As Qt::ISODateWithMs writes it, which takes a good deal longer.
+    /// As Qt::ISODateWithMs writes it, which is much slower.
     void time(const char* name, const QDateTime& value) {
         const qint64 ms = value.toMSecsSinceEpoch();
         const std::time_t seconds = static_cast<std::time_t>(ms / 1000 - (ms % 1000 < 0 ? 1 : 0));

@@ -158,7 +158,7 @@ std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
     return awaited;
 }
 
-/// The system has taken the whole message, the final point included, and the server has not answered it.
+/// The system has taken the whole message, the final point included, and the server has not replied.
 bool SmtpSession::hasGivenAll() const {
     return m_socket && m_pointGiven && !m_expected.isEmpty() && allTaken();
 }

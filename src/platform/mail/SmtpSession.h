@@ -53,7 +53,7 @@ struct SmtpTimes {
 /// chunking is offered as well, a message that follows another closely goes out with its envelope, by BDAT
 /// (RFC 3030), in one flight; see docs/decisions/62-one-flight.md. A refused message does not end the
 /// connection: RSET precedes the next one. A kept connection that turns out to be dead, or answers 421, is
-/// opened anew and the message tried there once, as long as neither the final point nor a write that contains
+/// reopened and the message tried there once, as long as neither the final point nor a write that contains
 /// it was given to the socket. For a reply out of order that is done only before MAIL was accepted. After one
 /// flight a new connection is tried only where the server answered 421.
 class SmtpSession : public QObject {

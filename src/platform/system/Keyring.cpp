@@ -93,7 +93,7 @@ const Library* library() {
     return loaded ? &*loaded : nullptr;
 }
 
-/// GLib would start a bus of its own where the desktop has none.
+/// GLib would start its own bus where the desktop has none.
 bool hasBus() {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
            (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR") &&

@@ -34,7 +34,7 @@ bool hasSecondName(int file) {
     return ::fstat(file, &found) == 0 && S_ISREG(found.st_mode) && found.st_nlink > 1;
 }
 
-/// Why an open file is not written to; empty where it is.
+/// Why an open file may not be written; empty where it may.
 QString objection(int file, FileKind kind) {
     if (kind == FileKind::Document) return {};
     struct stat found {};
@@ -56,8 +56,8 @@ int openAt(const QByteArray& path, WriteMode mode, FileKind kind, int exclusivel
                   kind == FileKind::Document ? 0666 : ownerOnly);
 }
 
-/// The open file, or -1 with errno set. What a link leads to, or a file with a second name, is never written:
-/// where a new file is wanted anyway, the name alone is taken away and the file made in its place.
+/// The open file, or -1 with errno set. A link's target, or a file with a second name, is never written:
+/// where a new file is wanted anyway, only the name is removed and the file made in its place.
 int openWithoutLinks(const QByteArray& path, WriteMode mode, FileKind kind) {
     int file = openAt(path, mode, kind);
     if (kind == FileKind::Document || mode == WriteMode::Append) return file;

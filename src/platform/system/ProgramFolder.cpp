@@ -64,8 +64,8 @@ bool makeFolder(const QString& folder) {
     return QDir().mkpath(QFileInfo(folder).path()) && makeOwnFolder(folder).ok();
 }
 
-/// Makes a folder that is empty and the user's own, whatever had its name. A link is taken away; what it
-/// leads to stays.
+/// Makes an empty folder of the user's own, replacing whatever had its name. A link is removed; its target
+/// stays.
 bool makeAnew(const QString& folder) {
     const QFileInfo there(folder);
     const bool gone =

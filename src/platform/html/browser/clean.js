@@ -26,7 +26,7 @@ editor.clean = (() => {
     const dropped =
         'script,style,meta,link,title,base,xml,object,embed,applet,iframe,frame,frameset,portal,noscript,template,' +
         'animate,animateMotion,animateTransform,set';
-    // What a reader's program loads by itself
+    // What a mail reader loads automatically
     const loaded = ['src', 'srcset', 'imagesrcset', 'poster', 'background', 'lowsrc', 'dynsrc', 'ping', 'style'];
     const addressed = [...loaded, 'href', 'action', 'formaction', 'cite', 'longdesc', 'data', 'codebase', 'manifest'];
     // Local files were looked at before (insert.dropLocal)

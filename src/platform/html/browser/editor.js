@@ -1,4 +1,4 @@
-// The editing of one document. Runs in a world of its own beside the page, whose scripts never run. Timers
+// The editing of one document. Runs in an isolated world beside the page, whose scripts never run. Timers
 // do not run here; what has to wait is sent to the program, which calls again.
 const editor = {
     editable: false,
@@ -75,7 +75,7 @@ const editor = {
         return first && !first.matches('br,form,script,style,' + this.objects) ? this.innermost(first) : element;
     },
 
-    // Opening a document takes all listeners off it, so they are set for each anew.
+    // Opening a document removes all its listeners, so they are set again for each.
     listen() {
         const on = (name, handler) => document.addEventListener(name, handler, true);
         on('selectionchange', () => this.tell('state'));

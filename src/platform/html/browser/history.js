@@ -1,4 +1,4 @@
-// Undo and redo. Every change of the tree is recorded as it happens, whoever makes it: typing, the browser's own
+// Undo and redo. Every change of the tree is recorded as it happens, whatever its source: typing, the browser's own
 // commands, our changes of tables and attributes. A step is the list of changes between two moments of rest, and is
 // undone by applying the changes' inverses backwards, so that the same nodes come back.
 editor.history = {
@@ -6,8 +6,8 @@ editor.history = {
     done: [],
     undone: [],
     kind: '', // of the change under way, as reported by the browser ("insertText")
-    sealed: true, // the next change begins a step of its own
-    before: null, // selection ahead of the change under way
+    sealed: true, // the next change begins a new step
+    before: null, // selection before the change under way
     observer: null,
 
     limit: 1000,

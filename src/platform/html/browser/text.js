@@ -1,7 +1,7 @@
 // The document as text, in and out.
 editor.text = {
     // The document by the serialisation rules of the HTML standard, with what they leave out and a second
-    // reading needs: the doctype's identifiers, and the line feed that the parser takes off the start of a
+    // reading needs: the doctype's identifiers, and the line feed that the parser drops at the start of a
     // preformatted block. The doctype comes first, as some readers ignore it elsewhere.
     read() {
         const doubled = editor.text.blocksThatLoseALineFeed();
