@@ -37,12 +37,12 @@ QString VoceAccount(const Account& account);
 /// Reads the file at `percorso`. Each line is stored in the table at its number, which may widen the table
 /// but never makes it shorter, and is then handed to `aggiungi` with its number, so that a list can show it.
 /// Returns whether there was a line. Unguarded: a file that is missing, a line with too few fields or a
-/// number that is none, is negative or above 32767 fails; what the lines before gave stays. Fields behind the
-/// eleventh are dropped. From the first call on the process leaves no core dump, as it may hold passwords.
+/// number that is invalid, negative or above 32767 fails; the lines before it stay loaded. Fields after the
+/// eleventh are dropped. From the first call on the process leaves no core dump, as it may contain passwords.
 bool CaricaAccount(const QString& percorso, TabellaAccount& tabella,
                    const std::function<void(const Account& account, int numero)>& aggiungi);
 
-/// The three writers pass over every failure, as a file that cannot be written must not keep the window from
+/// The three writers ignore every failure, as a file that cannot be written must not keep the window from
 /// going on. The entries of the window's list are the caller's: `voci` is their count before the call.
 
 /// Appends an account with the number above the highest of the table and stores it there. Returns the number.
@@ -52,7 +52,7 @@ int NuovoAccount(const QString& percorso, TabellaAccount& tabella, Account nuovo
 void ModificaAccount(const QString& percorso, TabellaAccount& tabella, int voci, int posizione,
                      const Account& valori);
 
-/// Moves the accounts behind `posizione` one up, shortens the table to the entries that are left and rewrites
+/// Moves the accounts after `posizione` one up, shortens the table to the entries that are left and rewrites
 /// the file. Removing the only one leaves it in the table, since a table cannot become empty, while the file
 /// does.
 void EliminaAccount(const QString& percorso, TabellaAccount& tabella, int voci, int posizione);

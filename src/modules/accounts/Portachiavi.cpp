@@ -55,7 +55,7 @@ Result<Account> Custodisci(const Account& valori, const TabellaAccount& preceden
                  Words::tr("La password ha caratteri che il file degli account non può contenere.")},
                 Words::tr("Resta nel portachiavi."));
     }
-    // The word that stands for a consent is no secret, and the window knows it by sight.
+    // The word that represents a consent is no secret, and the window recognises it.
     const bool segreta = !custodito.txtPassword.isEmpty() && custodito.txtPassword != oauth::passwordWord;
     if (!nelPortachiavi || !segreta) return custodito;
     const auto messa = keyring::store(legameDi(valori), custodito.txtPassword,

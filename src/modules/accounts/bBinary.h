@@ -4,7 +4,7 @@
 #include <QString>
 
 /// The text coding of the account file: each character as the eight binary digits of its Windows-1252 byte,
-/// most significant first. There is no key in it; it keeps a password from a casual look and nothing more.
+/// most significant first. There is no key in it; it hides a password from a casual look, nothing more.
 
 /// The byte of the text's first character; 0 for a character outside the code page and for an empty text.
 std::uint8_t CodiceCarattere(QStringView testo);
@@ -13,5 +13,5 @@ std::uint8_t CodiceCarattere(QStringView testo);
 QString TestoInBit(QStringView testo);
 
 /// One character for each eight digits. Anything but "1" counts as 0, digits that are missing at the end do
-/// too, and an empty text gives one character of code 0.
+/// too, and an empty text is one character of code 0.
 QString BitInTesto(QStringView cifre);

@@ -7,13 +7,13 @@
 #include "modules/core/Operazione.h"
 #include "platform/Status.h"
 
-/// The program's three ways of meeting a failure:
-///   unguarded: the procedure has no handling; esigi() and fallisci() throw a Fallimento, which the nearest
+/// The program's three ways of handling a failure:
+///   unguarded: the procedure handles nothing; esigi() and fallisci() throw a Fallimento, which the nearest
 ///              carry-on caller takes, or else the window event that started it all (see Evento.h), which
 ///              shows it and ends the program;
-///   carry on:  each statement that may fail runs through a Prosegui; a failed one is given up, its number
+///   carry on:  each statement that may fail runs through a Prosegui; a failed one is abandoned, its number
 ///              and text are remembered and the next statement runs;
-///   fall back: ripiega() gives a defined result instead.
+///   fall back: ripiega() returns a defined result instead.
 /// Above the platform nothing else catches or throws.
 
 /// A failed statement on its way up.
@@ -24,8 +24,8 @@ class Fallimento : public std::exception {
     const QString& testo() const { return m_testo; }
     /// The module that failed, where it names itself.
     const QString& sorgente() const { return m_sorgente; }
-    /// What was being done when it failed, and with which file: the one that the failure is about, where it
-    /// tells, else that of the operation.
+    /// What was being done when it failed, and with which file: the one that the failure names, where it
+    /// names one, else that of the operation.
     const Circostanze& circostanze() const { return m_circostanze; }
     const char* what() const noexcept override { return m_utf8.constData(); }
 
@@ -37,7 +37,7 @@ class Fallimento : public std::exception {
     QByteArray m_utf8;
 };
 
-/// Throws; an empty text stands for the number's standard text (Errori.h).
+/// Throws; an empty text means the number's standard text (Errori.h).
 [[noreturn]] void fallisci(ErrorCode codice, const QString& testo = {}, const QString& sorgente = {});
 
 /// Throws unless the platform call succeeded.
@@ -51,8 +51,8 @@ T esigi(Result<T> risultato) {
 /// State of one carry-on procedure: the last failure since azzera().
 class Prosegui {
   public:
-    /// Runs one statement; true when it went through. What it would have set keeps its value otherwise,
-    /// provided that the assignment is the statement's last act.
+    /// Runs one statement; true on success. On failure what it would have set keeps its value,
+    /// provided that the statement assigns last.
     template <class Istruzione>
     bool operator()(Istruzione&& istruzione) {
         try {

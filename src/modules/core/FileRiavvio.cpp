@@ -21,7 +21,7 @@ const QByteArray titolo = "[Riavvio]\r\n";
 const QByteArray chiaveMessaggio = "messaggio";
 
 struct Messaggio {
-    QByteArray ora;  ///< as it stands in the file
+    QByteArray ora;  ///< as in the file
     QByteArray percorso;
 };
 
@@ -34,8 +34,8 @@ QString percorsoFile() {
     return cartellaDati() + QStringLiteral("riavvio.imp");
 }
 
-/// Keeps the other programs away from the file for as long as it lives. Whoever holds the lock is done in
-/// milliseconds; nobody waits for ever for one that was stopped in the middle.
+/// Keeps the other programs away from the file for as long as it lives. The holder of the lock is done in
+/// milliseconds; the wait for one that was stopped in the middle is bounded.
 class Turno {
   public:
     Turno() {
@@ -113,7 +113,7 @@ std::optional<Messaggio> messaggioDa(const QByteArray& valore) {
     return messaggio;
 }
 
-/// None for bytes that are not of the form that byteDi() gives.
+/// None for bytes that are not of the form of byteDi().
 std::optional<Contenuto> leggi(const QByteArray& byte) {
     if (!byte.startsWith(titolo)) return std::nullopt;
     Contenuto contenuto;
@@ -136,7 +136,7 @@ std::optional<Contenuto> leggi(const QByteArray& byte) {
     return contenuto;
 }
 
-/// What the file says; a file that says nothing is set aside.
+/// The content of the file; an invalid file is set aside.
 Contenuto prendi() {
     const Result<QByteArray> letto = sys::readGuardedFile(percorsoFile(), byteMassimi, sys::Others::Read);
     if (!letto.ok() && letto.status().code() == ErrorCode::FileNotFound) return {};

@@ -25,7 +25,7 @@ struct Stato {
 /// For the next start.
 Status LasciaStato(const Stato& stato);
 
-/// For the next start that nobody has left one for yet. The path is absolute, in the octets of the file
+/// For the next start without a message so far. The path is absolute, in the octets of the file
 /// system; it counts for a minute. Overflow where the file has no room for it.
 Status LasciaMessaggio(const QByteArray& percorso);
 

@@ -6,14 +6,14 @@
 /// docs/formats/guasti.md shows. Nothing reads it but people.
 namespace guasti {
 
-/// The file never holds more bytes than this: the oldest entries make room.
+/// The largest size of the file, in bytes: the oldest entries are dropped.
 inline constexpr qint64 limite = 256 * 1024;
 
-/// Writes down a failure with the time and its circumstances. Passes over every failure of its own. A file
+/// Writes down a failure with the time and its circumstances. Ignores every failure of its own. A file
 /// that is no text of this kind is set aside as "guasti.txt.rovinato".
 void Annota(const Fallimento& fallimento);
 
-/// A text without what might be somebody's: mail addresses, and whatever stands in quotes or comes out of a
+/// A text without personal data: mail addresses, and what is in quotes or comes from a
 /// statement.
 QString Ripulito(QString testo);
 

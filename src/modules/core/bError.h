@@ -1,4 +1,4 @@
 #pragma once
 
-/// Writes the time of this start over "Error.txt" in the program folder. Any failure is passed over.
+/// Writes the time of this start over "Error.txt" in the program folder. Any failure is ignored.
 void ScriviInizioLog();

@@ -5,7 +5,7 @@
 
 /// Small routines without state that many windows call.
 
-/// Opens a web address or a mail link through the desktop. The result is the desktop's; nobody looks at it.
+/// Opens a web address or a mail link through the desktop. The result is the desktop's; no caller uses it.
 bool ApriShell(const QString& destinazione);
 
 /// Whether the path can be opened for input. A folder, a device and a file that may not be read count as
@@ -13,12 +13,12 @@ bool ApriShell(const QString& destinazione);
 bool FileEsiste(const QString& percorso);
 
 /// The one address check of the program: letters, digits, "_", ".", "=" and "-", an at sign, letters, digits,
-/// "_", "." and "-", a point and a last label of two to four letters, digits or "_". The text is taken as it
-/// stands.
+/// "_", "." and "-", a point and a last label of two to four letters, digits or "_". The text is taken
+/// unchanged.
 bool EmailValida(const QString& testo);
 
-/// The colour value (red in the low byte) of a text such as "#0A141E". Texts of another length give what
-/// their first, middle and last two characters give; a text that is no hexadecimal number gives 0.
+/// The colour value (red in the low byte) of a text such as "#0A141E". Texts of another length yield what
+/// their first, middle and last two characters give; a text that is no hexadecimal number yields 0.
 std::uint32_t ColoreDaHex(const QString& testo);
 
 /// The text of a colour value, such as "#0A141E". Bits above the lower 24 are left out.
@@ -31,7 +31,7 @@ QString PulisciValore(const QString& testo);
 /// are blanks there, unless a file has them in its name.
 QString PercorsoScritto(const QString& testo);
 
-/// What stands behind the last slash or backslash of a path; the whole path if it has none.
+/// What follows the last slash or backslash of a path; the whole path if it has none.
 QString NomeDaPercorso(const QString& percorso);
 
 /// Whether the file is a database with the tables "tb_destinatari" and "tb_gruppi", in any mix of case;

@@ -23,7 +23,7 @@ struct Nodo {
     QString Text;
 };
 
-/// The node that is current, if any. It goes on answering after its group was deleted.
+/// The node that is current, if any. It stays set after its group was deleted.
 inline std::optional<Nodo> nodoCorrente;
 
 /// Work buffer of the placement routines, in twips.

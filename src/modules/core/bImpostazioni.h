@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The program folder, ending in "/". File names are appended as they stand.
+/// The program folder, ending in "/". File names are appended unchanged.
 QString PercorsoApp();
 
 /// The folder "data" of the program folder, ending in "/".

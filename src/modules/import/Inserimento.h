@@ -6,7 +6,7 @@
 #include "platform/ado/GroupedInserts.h"
 
 /// The prepared command of one import: an INSERT for each recipient, selected for sending. Rows are written
-/// to disk in groups: a crash of the program loses at most those of the last moments, while whatever else
+/// to disk in groups: a crash of the program loses at most those of the last moments, while everything else
 /// uses the database in this program sees them all.
 class Inserimento {
   public:

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The first `quanti` fields of the line: whatever stands behind them is not even looked for.
+/// The first `quanti` fields of the line: what follows them is not searched.
 std::vector<QStringView> primiCampi(QStringView riga, QStringView separatore, int quanti) {
     std::vector<QStringView> trovati;
     if (riga.isEmpty()) return trovati;

@@ -11,7 +11,7 @@ class UltimaImportazione {
     struct Riga {
         qint64 numero;  ///< counted from 1, in the source
         bool importata;
-        QString testo;   ///< the address of an imported line; of a refused one what stands in the source, cut
+        QString testo;   ///< the address of an imported line; of a refused one the text in the source, cut
         QString motivo;  ///< of the refusal
     };
     static constexpr std::size_t massimo = 10000;  ///< lines kept of either kind
@@ -21,8 +21,8 @@ class UltimaImportazione {
     void Comincia(const QString& origine);
     void Importata(qint64 numero, const QString& indirizzo);
     void Rifiutata(qint64 numero, const QString& testo, const QString& motivo);
-    /// `scritte`: how many lines stand in the database for good. Where it is less than were imported, a
-    /// failure at the end of a group took the others along.
+    /// `scritte`: how many lines are committed. Where it is less than were imported, a
+    /// failure at the end of a group lost the others.
     void Finisci(qint64 scritte);
 
     bool Avvenuta() const { return quando.isValid(); }

@@ -15,7 +15,7 @@ struct Proprieta {
     schema::Campo campo;
 };
 
-/// In the order of the calls. The company is asked for twice; the second answer stands.
+/// In the order of the calls. The company is read twice; the second value counts.
 constexpr std::array<Proprieta, 9> proprieta{{
     {PropertyTag::EmailAddress, schema::email},
     {PropertyTag::DisplayName, schema::nom},
@@ -40,8 +40,8 @@ QString TagliaNulli(const QString& testo) {
 std::optional<destinatario::Valori> LeggiVoceWab(const contacts::AddressBook& rubrica,
                                                  const contacts::Entry& voce, QString* rifiutato) {
     destinatario::Valori valori;
-    // One buffer for all reads, and none of them clears it: what an earlier, longer value left behind a
-    // terminator would still stand there.
+    // One buffer for all reads, and none of them clears it: what an earlier, longer value left after a
+    // terminator would still be there.
     std::array<char, 256> buffer{};
     for (const auto& [tag, campo] : proprieta) {
         const bool presente = rubrica.text(voce, tag, buffer);

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr qsizetype lunghezzaMarcatore = 8;  ///< of "[<NOME>]" and of "[<LNG1>]"
-constexpr qsizetype inizioSezione = 10;      ///< behind the marker stand two characters that are not read
+constexpr qsizetype inizioSezione = 10;      ///< two characters after the marker are not read
 
 QString percorsoTesti() {
     return PercorsoApp() + QStringLiteral("LANG.lng");
@@ -21,7 +21,7 @@ QString percorsoScelta() {
     return PercorsoApp() + QStringLiteral("LANGz.lng");
 }
 
-/// Hands each line to `riga`, up to the end of the file.
+/// Passes each line to `riga`, up to the end of the file.
 template <class Riga>
 void perOgniRiga(const QString& percorso, Riga&& riga) {
     text::LineReader file;
@@ -62,7 +62,7 @@ qsizetype posto(const QString& riga, const QString& marcatore) {
     return 0;
 }
 
-/// What stands between two markers, given by where they begin. A missing marker makes the length negative.
+/// The text between two markers, given by their positions. A missing marker makes the length negative.
 QStringView traMarcatori(const QString& riga, qsizetype primo, qsizetype secondo) {
     const qsizetype inizio = primo + lunghezzaMarcatore;
     if (secondo < inizio) fallisci(ErrorCode::SubscriptOutOfRange);
@@ -77,7 +77,7 @@ QStringList marcatoriLingue() {
     return marcatori;
 }
 
-/// The texts of a line in all languages. A "|" inside a text counts as the border of two.
+/// The texts of a line in all languages. A "|" inside a text counts as the end of one.
 QList<QStringView> testiDellaRiga(const QString& riga, const QStringList& marcatori) {
     QList<QStringView> testi;
     qsizetype primo = posto(riga, marcatori.constFirst());

@@ -4,7 +4,7 @@
 #include <functional>
 #include <QStringList>
 
-/// The language files of the program folder: "LANG.lng" holds every text in every language, "LANGz.lng" the
+/// The language files of the program folder: "LANG.lng" has every text in every language, "LANGz.lng" the
 /// name of the language in use. Both are Windows-1252. docs/formats/lang.md shows the lines.
 ///
 /// Everything here is unguarded: what was done before a failure stays.
@@ -31,10 +31,10 @@ void ScriviLinguaInUso(const QString& nome);
 /// Whether an entry of the list is the marked one.
 bool eSegnata(const QString& voce);
 
-/// What takes a text; empty for a key that nobody knows.
+/// The target of a text; empty for an unknown key.
 using Destinazione = std::function<void(const QString& testo)>;
 
-/// Reads the texts of `linguaScelta`, in the order of the file, and gives each to what `destinazione` names
+/// Reads the texts of `linguaScelta`, in the order of the file, and passes each to what `destinazione` names
 /// for its full key (section, point, key). The text of a key that is not known is dropped. Fails, besides an
 /// unreadable file, at the first line of text that lacks the marker of its key, of a language or of the end,
 /// or has them out of order, and at the first known key when no language is chosen.

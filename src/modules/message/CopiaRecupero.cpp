@@ -18,7 +18,7 @@ namespace {
 constexpr qint64 copiaMassima = 256LL * 1024 * 1024;
 constexpr int messeDaParte = 5;
 
-// Milliseconds from the last change to the copy, and from the first one that it does not hold at most.
+// Milliseconds from the last change to the copy, and at most from the first one that it lacks.
 constexpr qint64 dopoUltima = 1000;
 constexpr qint64 dopoPrima = 5000;
 constexpr qint64 dopoPrimaGrande = 15000;
@@ -86,7 +86,7 @@ QString senza(const QString& percorso, const QString& suffisso) {
     return percorso.chopped(suffisso.size());
 }
 
-/// Gives a copy a name under which it is not offered, and keeps the newest of those alone.
+/// Renames a copy so that it is not offered, and keeps only the newest of those.
 void metti(const QString& percorso, const QString& suffisso) {
     QFile::remove(percorso + nuove);
     QFile::rename(percorso, senza(percorso, copie) + suffisso);

@@ -8,11 +8,11 @@
 
 #include "platform/system/OwnFile.h"
 
-/// Rescue copies: what a message in the editor holds, in files of the folder "recuperati" of the data folder,
-/// so that it outlives every end of the program. docs/formats/recuperati.md shows the file.
+/// Rescue copies: the message in the editor, in files of the folder "recuperati" of the data folder,
+/// so that it survives however the program ends. docs/formats/recuperati.md shows the file.
 
-/// A message as its rescue copy holds it. Nothing is lost on the way to the file: neither characters outside
-/// Windows-1252 nor a body that is under way in the source view.
+/// A message in its rescue copy. Nothing is lost on the way to the file: neither characters outside
+/// Windows-1252 nor a body that is being edited in the source view.
 struct MessaggioRecuperato {
     QString titolo;  ///< of its file in the editor, as "offerta.mss"
     QString Oggetto;
@@ -27,7 +27,7 @@ struct MessaggioRecuperato {
 };
 
 /// How many milliseconds after a change of a body of so many characters its copy is to be written.
-/// `dallaPrima`: the milliseconds since the first change that the copy does not hold. It is put off by each
+/// `dallaPrima`: the milliseconds since the first change that the copy lacks. It is put off by each
 /// change, but not for ever.
 int AttesaCopia(qsizetype caratteri, qint64 dallaPrima);
 
@@ -35,7 +35,7 @@ int AttesaCopia(qsizetype caratteri, qint64 dallaPrima);
 /// no other program offers it.
 class CopiaRecupero {
   public:
-    /// Writes the copy over the one before. Unguarded; the one before stays where the writing fails.
+    /// Replaces the copy. Unguarded; the previous one is kept where the writing fails.
     void Scrivi(const MessaggioRecuperato& messaggio);
     /// Removes the copy, if there is one.
     void Togli();
@@ -48,11 +48,11 @@ class CopiaRecupero {
     sys::FileLock blocco;
 };
 
-/// A copy that a program left behind, locked while it is looked at.
+/// A copy that an earlier run left, locked while it is handled.
 class CopiaTrovata {
   public:
     /// Those that no living program has, the newest first. One that is damaged is set aside, and named in
-    /// `danneggiate`. Passes over every failure.
+    /// `danneggiate`. Ignores every failure.
     static std::vector<CopiaTrovata> Cerca(QStringList& danneggiate);
 
     const MessaggioRecuperato& Messaggio() const { return messaggio; }

@@ -23,7 +23,7 @@ QString fileElenco() {
     return cartellaDati() + QStringLiteral("messaggi-noti.json");
 }
 
-/// The one name of a file, whatever links lead to it.
+/// The canonical name of a file, links resolved.
 QString nomeVero(const QString& percorso) {
     const QFileInfo file(percorso);
     const QString vero = file.canonicalFilePath();

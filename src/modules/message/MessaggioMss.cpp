@@ -31,7 +31,7 @@ QString senzaMarcatori(QString riga, const QString& inizio, const QString& fine)
     return text::trimBlanks(riga).toString();
 }
 
-// Adds a line of the body. False once there is more than anybody takes: the rest needs no reading.
+// Adds a line of the body. False once the limit of all readers is exceeded: the rest is not read.
 bool aggiungi(QString& corpo, const QString& riga) {
     corpo += riga + QStringLiteral("\r\n");
     return corpo.size() <= html::mostCharacters;
@@ -91,7 +91,7 @@ QString LettoreMss::priorita() {
 }
 
 std::optional<AllegatoMss> LettoreMss::allegato() {
-    if (!m_inAllegati) leggiRiga();  // the row that opens the block, whatever it holds
+    if (!m_inAllegati) leggiRiga();  // the row that opens the block, whatever it contains
     m_inAllegati = true;
     if (m_riga == endAllg || !leggiRiga()) return std::nullopt;
     const QString percorso = text::trimBlanks(m_riga).toString();
@@ -102,7 +102,7 @@ std::optional<AllegatoMss> LettoreMss::allegato() {
 
 QString LettoreMss::corpo() {
     QString corpo;
-    leggiRiga();  // the row that opens the body, whatever it holds
+    leggiRiga();  // the row that opens the body, whatever it contains
     bool altre = m_riga != endMess;
     while (altre && leggiRiga() && text::trimBlanks(m_riga) != endMess)
         altre = aggiungi(corpo, m_riga);

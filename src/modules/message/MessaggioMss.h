@@ -19,12 +19,12 @@ struct MessaggioMss {
     QString CorpoHTML;
 };
 
-/// Writes the message over the file at `percorso` and gives the bytes that were written. Unguarded; a failure
+/// Overwrites the file at `percorso` with the message and returns the bytes written. Unguarded; a failure
 /// midway leaves the part that was written.
 QByteArray ScriviMessaggio(const QString& percorso, const MessaggioMss& messaggio);
 
-/// A message file as it was read, once: whatever is judged and whatever is used are the same bytes, also
-/// where somebody else may change the file meanwhile.
+/// A message file, read once: what is checked and what is used are the same bytes, also
+/// where another process changes the file meanwhile.
 struct FileMss {
     QString percorso;
     QByteArray byte;
@@ -32,19 +32,19 @@ struct FileMss {
     Status aperto;        ///< why the file could not be opened
 };
 
-/// Passes over every failure. At most 256 MB are read.
+/// Ignores every failure. At most 256 MB are read.
 FileMss LeggiFileMss(const QString& percorso);
 
 /// One row of the attachment block.
 struct AllegatoMss {
     QString percorso;  ///< without blanks at the ends
-    /// What stands behind the last slash or backslash; of a missing file with the row's blanks.
+    /// What follows the last slash or backslash; of a missing file with the row's blanks.
     QString nome;
     bool presente = false;
 };
 
-/// The reader of the editor and of the send set-up. The steps are called once each in the order in which they
-/// stand, the attachments until there is no more. It ignores every failure: a line that cannot be read
+/// The reader of the editor and of the send set-up. Each step is called once, in the order of their
+/// declaration; the attachments until none is left. It ignores every failure: a line that cannot be read
 /// counts as the one before (as empty, if it is the first), a file that cannot be opened as one without
 /// lines, and a file that ends early ends the attachments and the body with what there was.
 class LettoreMss {
@@ -65,7 +65,7 @@ class LettoreMss {
     bool m_inAllegati = false;
 };
 
-/// What a message file holds, read in one go by LettoreMss.
+/// What a message file contains, read at once by LettoreMss.
 struct MessaggioLetto {
     QString oggetto;
     QString priorita;
@@ -81,7 +81,7 @@ MessaggioLetto LeggiMss(const FileMss& file);
 /// The number of a priority for the delivery: 1 for "HI", 5 for "LW", 3 for anything else.
 int NumeroPriorita(const QString& priorita);
 
-/// What the user is told of an attachment that is not there.
+/// The text about an attachment that is missing.
 QString AvvisoAllegatoMancante(const QString& nome);
 
 /// The reader of the preview: the body alone, wherever it begins. Unguarded: fails when the file cannot be

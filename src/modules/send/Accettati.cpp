@@ -30,7 +30,7 @@ std::optional<QString> IndirizzoDi(qint64 numero) {
     return esigi(email.toText());
 }
 
-/// False where the row no longer bears the address that was served.
+/// False where the row no longer has the address that was served.
 bool TogliDallaSelezione(const mail::AcceptedEntry& accettato) {
     const ado::Waiting attesa(attesaMassima);
     std::optional<QString> email = IndirizzoDi(accettato.number);

@@ -1,4 +1,4 @@
-// The recipients who were served though their row still says that they are to be: the process's one list, and
+// The recipients who were served but whose row is still selected: the process's one list, and
 // what becomes of it.
 #pragma once
 
@@ -8,13 +8,13 @@
 
 #include "platform/mail/AcceptedList.h"
 
-/// The list of this process, which stands in the data folder; what others left there is taken over when it is
+/// The list of this process, kept in the data folder; what others left there is taken over when it is
 /// first named. It lives as long as the process.
 mail::AcceptedList& accettati();
 
-/// Takes whoever is remembered for the current database out of the selection, where his row still bears the
+/// Deselects the remembered recipients of the current database whose row still has the
 /// address that was served; what no longer fits is dropped, and `annota` gets a line for the log. Unguarded:
-/// fails where the database cannot be changed within 5 seconds; what was not done then is remembered on. Not
+/// fails where the database cannot be changed within 5 seconds; what was not done then stays remembered. Not
 /// in the middle of a run, which counts rows.
 void ApplicaAccettati(const std::function<void(const QString& riga)>& annota = {});
 

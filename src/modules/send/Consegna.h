@@ -1,4 +1,4 @@
-// What the delivery control is told of an account, the same for a run and for a single copy.
+// The settings of the delivery control for an account, the same for a run and for a single copy.
 #pragma once
 
 #include "modules/accounts/AccountFile.h"
@@ -8,7 +8,7 @@ namespace mail {
 class DeliveryControl;
 }
 
-/// Who sends, and the folders and lists of the data folder that a delivery asks. A port that is none leaves
+/// Who sends, and the folders and lists of the data folder that a delivery asks. An invalid port leaves
 /// the one before.
 void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prosegui& prosegui);
 
@@ -24,6 +24,6 @@ void UsaServerAccount(mail::DeliveryControl& SMTP, const Account& mittente, cons
                       Prosegui& prosegui);
 
 /// Where the message with this ToAddress of a run goes and how the login is made: to the account's server, or
-/// on the direct route to the mail exchanger that is looked up now (MXQuery, which holds the thread).
+/// on the direct route to the mail exchanger that is looked up now (MXQuery, which blocks the thread).
 void ScegliStrada(mail::DeliveryControl& SMTP, const Account& mittente, const QString& password,
                   Prosegui& prosegui);

@@ -50,7 +50,7 @@ struct Cambiati {
     qint64 nonTrovati = 0;  ///< no row with this number and address, or of another database
 };
 /// Selects or deselects the recipients of these lines in the current database, where number and address still
-/// match, octet by octet. What was remembered or is awaited for them counts no more: the user's choice is
+/// match, octet by octet. What was remembered or is awaited for them no longer counts: the user's choice is
 /// newer. Unguarded; rows are changed in groups, and those before a failure stay changed.
 Cambiati Seleziona(const QList<Riga>& righe, bool selezionati);
 

@@ -1,4 +1,4 @@
-// What the book does to the selection, on the user's word.
+// Changes of the selection from the book, when the user asks for them.
 #include <QHash>
 
 #include "modules/core/bGlobal.h"
@@ -19,7 +19,7 @@ QString Elenco(const QList<qint64>& numeri) {
     return "([id] = " + testi.join(" OR [id] = ") + ')';
 }
 
-/// Of the wanted rows those that bear their address; whoever is as wanted is counted alone.
+/// The wanted rows that have their address; those that are already as wanted are only counted.
 QList<qint64> DaCambiare(const QHash<qint64, QString>& indirizzi, bool selezionati,
                          esiti::Cambiati& cambiati) {
     QList<qint64> numeri;

@@ -11,7 +11,7 @@
 struct FileInPartenza {
     bool immagine = false;
     QString percorso;  ///< as the message names it
-    QString risolto;   ///< the file that stands there, links resolved
+    QString risolto;   ///< the file at that path, links resolved
     qint64 byte = 0;
     bool riposto = false;  ///< lies below a hidden folder, is hidden itself, or lies outside the user's home
     bool daChiedere = true;  ///< the user has not agreed to it
@@ -25,7 +25,7 @@ QList<FileInPartenza> AllegatiInPartenza(const QStringList& percorsi,
 /// it came from.
 QList<FileInPartenza> ImmaginiInPartenza(const QString& corpo, const std::optional<messaggiNoti::Noto>& noto);
 
-/// Files whose path has no links left: whether nobody keeps there what he wants to send.
+/// Files whose path has no links left: whether users keep no files to send there.
 bool Riposto(const QString& risolto);
 
 /// A path as it can be shown: characters that do not print, or that turn the direction of a text, as numbers.

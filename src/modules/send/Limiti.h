@@ -27,7 +27,7 @@ struct LimiteBlocco {
     /// that is no number leaves its value as it was.
     void avvia(const QString& txtBloccoMin, const QString& txtBloccoNum);
 
-    /// The step at the end of a message when more will follow. Once the limit is reached it holds the thread
+    /// The step at the end of a message when more will follow. Once the limit is reached it blocks the thread
     /// until the window is over and starts a new one. A window that runs out below the limit ends the
     /// limiting.
     void applica();

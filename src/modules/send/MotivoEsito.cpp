@@ -12,7 +12,7 @@ using mail::OutcomeLine;
 
 namespace {
 
-/// What the second and third part of a status code, "1.1", stand for; Altro where they tell nothing.
+/// The meaning of the second and third part of a status code, "1.1"; Altro where they have none.
 MotivoEsito PerStato(const QString& stato, DeliveryStage fase) {
     struct Significato {
         const char* stato;
@@ -73,7 +73,7 @@ MotivoEsito DelRifiuto(const OutcomeLine& riga) {
         codice == 538)
         return MotivoEsito::Accesso;
     MotivoEsito motivo = PerStato(riga.status, riga.stage);
-    // A server that wants a login to hand mail on says so with a code of its policy.
+    // A server that requires a login to relay mail says so with a policy code.
     const bool incerto = motivo == MotivoEsito::Altro || motivo == MotivoEsito::Regole;
     const MotivoEsito detto = incerto ? PerParole(riga.words, riga.stage) : motivo;
     if (motivo == MotivoEsito::Altro || detto == MotivoEsito::Mittente) motivo = detto;

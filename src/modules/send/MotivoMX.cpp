@@ -9,11 +9,11 @@ namespace {
 constexpr qsizetype inizioDomanda = 12;
 constexpr std::uint8_t maschera = 0x0F;      // of the response code
 constexpr std::uint8_t troncata = 0x02;      // among the flags
-constexpr std::uint8_t bitPuntatore = 0xC0;  // both bits: the name goes on elsewhere
+constexpr std::uint8_t bitPuntatore = 0xC0;  // both bits: the name continues elsewhere
 constexpr int recordCNAME = 5;
 constexpr int recordMX = 15;
 
-/// Reads a reply forward; behind its end there are zeros.
+/// Reads a reply forward; after its end there are zeros.
 class Lettore {
   public:
     explicit Lettore(QByteArrayView risposta) : m_risposta(risposta) {}
@@ -23,7 +23,7 @@ class Lettore {
     }
     int parola(qsizetype posizione) const { return byte(posizione) * 256 + byte(posizione + 1); }
 
-    /// The place behind the name at this one.
+    /// The position after the name at this one.
     qsizetype dopoNome(qsizetype posizione) const {
         for (;;) {
             const std::uint8_t lunghezza = byte(posizione);

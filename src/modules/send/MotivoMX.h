@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// Why a look-up of a mail exchanger led to none. It is for the user's eyes alone: what a look-up does and
-/// gives does not depend on it.
+/// Why a look-up of a mail exchanger led to none. It is only shown to the user: what a look-up does and
+/// returns does not depend on it.
 enum class MotivoMX {
     Nessuno,         ///< there is an exchanger
     SenzaDNS,        ///< no name server is known
@@ -25,7 +25,7 @@ enum class MotivoMX {
 /// Another try may succeed.
 bool MotivoTemporaneo(MotivoMX motivo);
 
-/// What a reply (RFC 1035 4.1) tells of it, in which no exchanger was found. Any bytes will do.
+/// The reason in a reply (RFC 1035 4.1) without an exchanger. Accepts any bytes.
 MotivoMX MotivoDiRisposta(QByteArrayView risposta);
 
 /// One sentence for the transcript; empty for Nessuno.

@@ -28,7 +28,7 @@ std::size_t segnapostoInTesta(QStringView testo) {
     return i;
 }
 
-// Which placeholders stand in the text: one quick pass, where a search for each would cost nineteen.
+// Which placeholders are in the text: one quick pass instead of nineteen searches.
 std::bitset<numeroSegnaposto> presentiIn(QStringView testo) {
     std::bitset<numeroSegnaposto> presenti;
     for (auto posto = testo.indexOf(u':'); posto >= 0; posto = testo.indexOf(u':', posto + 1)) {
@@ -45,7 +45,7 @@ bool cominciaNeiDuePunti(QStringView testo, qsizetype fine) {
     return false;
 }
 
-// No colon of it can become part of a placeholder, whatever stands beside it.
+// No colon of it can become part of a placeholder, whatever is beside it.
 bool isolato(QStringView testo) {
     return !testo.startsWith(u':') && !testo.endsWith(u':') && !testo.contains(segno);
 }

@@ -35,11 +35,11 @@ using ValoriSegnaposto = std::array<std::optional<QString>, numeroSegnaposto>;
 ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
 
 /// The template with the placeholders replaced one after the other, each everywhere in one pass, exactly and
-/// as the value stands. A value that holds a later placeholder is therefore replaced further, one that holds
+/// with the value unchanged. A value with a later placeholder is therefore replaced further, one with
 /// an earlier one is not.
 QString Personalizza(QString modello, const ValoriSegnaposto& valori);
 
-/// The same for one recipient after another: the template is split at its placeholders once, where that gives
+/// The same for one recipient after another: the template is split at its placeholders once where that gives
 /// the same text.
 class ModelloDiviso {
   public:
@@ -78,7 +78,7 @@ struct ModelliDivisi {
     TestiMessaggio Personalizza(TestiMessaggio modello, const ValoriSegnaposto& valori);
 };
 
-/// The values as they stand inside a web address or a mail link: percent-encoded (RFC 3986), so that none of
+/// The values inside a web address or a mail link: percent-encoded (RFC 3986), so that none of
 /// them becomes a part of its own.
 ValoriSegnaposto PerCollegamento(ValoriSegnaposto valori);
 

@@ -14,7 +14,7 @@ namespace {
 constexpr qsizetype caratteriDominio = 5;   // a shorter domain is refused
 constexpr qsizetype caratteriNome = 256;    // room for the name of a host
 constexpr qsizetype posizioneRisposte = 6;  // of the number of answers in a reply
-constexpr qsizetype posizioneDomanda = 12;  // of the question, behind the header
+constexpr qsizetype posizioneDomanda = 12;  // of the question, after the header
 
 /// The domains about which the server was silent in this run, in lower case.
 QSet<QString>& dominiMuti() {
@@ -22,7 +22,7 @@ QSet<QString>& dominiMuti() {
     return muti;
 }
 
-/// On the way up to the parent domains a temporary reason stays: who waits may still reach the domain itself.
+/// On the way up to the parent domains a temporary reason is kept: the domain itself may be reachable later.
 void NotaMotivo(MotivoMX motivo) {
     if (!MotivoTemporaneo(motivoMX)) motivoMX = motivo;
 }

@@ -23,16 +23,16 @@ struct MXRecord {
     std::uint16_t preference = 0;  ///< the lowest one is served first
 };
 
-/// The text behind the first "@" of an address, without the blanks at its ends; the whole text where there is
+/// The text after the first "@" of an address, without the blanks at its ends; the whole text where there is
 /// no "@".
 QString DominioDi(const QString& indirizzo);
 
 /// Looks up the exchanger of lowest preference, of several equal ones the first of the reply, and leaves it
 /// in bestMX. An empty domain stands for the machine's own. Empty where the domain has no exchanger; for a
-/// domain below the machine's own base domain the parent domains are asked then. It also answers empty, and
-/// fails not, without a socket or an address of the server.
+/// domain below the machine's own base domain the parent domains are asked then. It is also empty, and
+/// does not fail, without a socket or an address of the server.
 ///
-/// Holds the thread until the server answers or refuses, at most twice attesa per query; for a domain about
+/// Blocks the thread until the server answers or refuses, at most twice attesa per query; for a domain about
 /// which the server was silent before in this run (NuovoGiroMX) only attesaBreve, once. Unguarded. Its own
 /// failures have the number erroreMX and the source "MXQuery"; a reply that is read beyond its end fails with
 /// SubscriptOutOfRange and leaves bestMX as far as it got.
@@ -43,7 +43,7 @@ void NuovoGiroMX();
 
 inline constexpr ErrorCode erroreMX{20000};
 
-// What the look-ups leave behind, and what they keep until the program ends.
+// The results of the look-ups, kept until the program ends.
 inline QString bestMX;                         ///< result of the last look-up; empty if none
 inline MotivoMX motivoMX = MotivoMX::Nessuno;  ///< why the last look-up left bestMX empty
 inline QString queryDomain;                    ///< domain of the last query
@@ -54,7 +54,7 @@ inline int dnsCount = 0;                       ///< their number; 0 means not fo
 inline QString dnsDomain;                      ///< the machine's own domain
 inline QString dnsBaseDomain;                  ///< its last two labels
 
-/// Where a look-up turns to; tests point it at servers of their own.
+/// The servers of a look-up; tests set their own.
 struct ReteDNS {
     QString configurazione = dns::resolverConfigPath;
     std::uint16_t porta = 53;
@@ -63,7 +63,7 @@ struct ReteDNS {
 };
 inline ReteDNS reteDNS;
 
-// The steps of a look-up, in the open for their tests. All are unguarded.
+// The steps of a look-up, public for their tests. All are unguarded.
 
 /// Finds the servers and the own domain.
 void TrovaDNS();
@@ -75,12 +75,12 @@ QString TagliaNul(const QString& testo);
 QString NomeDaIP(const QString& indirizzo);
 
 /// Second half of TrovaDNS: takes over the servers of a list that is separated by commas or blanks, and the
-/// own domain. Without a domain, the name of the first server tells it.
+/// own domain. Without a domain, it is taken from the name of the first server.
 void ImpostaDNS(QString lista, QString dominio,
                 const std::function<QString(const QString&)>& nome = NomeDaIP);
 
-/// The labels of a domain, each behind its length; no final zero. An empty label, as between two points or
-/// behind a final one, has length 0. A label of more than 255 characters fails as one that cannot be sent.
+/// The labels of a domain, each after its length; no final zero. An empty label, as between two points or
+/// after a final one, has length 0. A label of more than 255 characters fails as one that cannot be sent.
 QByteArray NomeDNS(const QString& domain);
 
 /// The datagram that asks for the exchangers of a domain:
@@ -92,13 +92,13 @@ QByteArray NomeDNS(const QString& domain);
 ///   17+L   1    a spare byte that servers ignore
 QByteArray ComponiQuery(const QString& domain);
 
-/// Size of the buffer that replies are read from; behind the reply it holds zeros.
+/// Size of the buffer that replies are read from; after the reply it contains zeros.
 inline constexpr qsizetype dimensioneRisposta = 2048;
 
-/// Two bytes, the higher one first; moves the position behind them.
+/// Two bytes, the higher one first; moves the position past them.
 std::uint16_t LeggiParola(QByteArrayView risposta, qsizetype& posizione);
 
-/// Appends the name at the position to `nome` and moves the position onto its final zero, or behind its final
+/// Appends the name at the position to `nome` and moves the position onto its final zero, or past its final
 /// pointer. Only pointers to the first 256 bytes are known (first byte C0); any other byte is the length of a
 /// label. A loop of pointers fails like a position beyond the buffer.
 void LeggiNome(QByteArrayView risposta, qsizetype& posizione, QString& nome);

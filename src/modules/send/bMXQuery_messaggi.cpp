@@ -11,8 +11,8 @@ namespace {
 constexpr std::uint8_t puntatore = 0xC0;  // first byte of a pointer to the first 256 bytes
 constexpr std::uint8_t tipoMX = 15;
 
-// A pointer leads to one of 256 places, and from each of them on the way is fixed: whoever followed more than
-// 256 pointers has been somewhere twice and would never end.
+// A pointer leads to one of 256 places, and from each of them on the way is fixed: after more than
+// 256 pointers the reader is in a loop.
 constexpr int puntatoriMassimi = 256;
 
 std::uint8_t LeggiByte(QByteArrayView risposta, qsizetype posizione) {

@@ -42,7 +42,7 @@ AlberoCartelle::AlberoCartelle(std::vector<Cartella> lette) : cartelle(std::move
     Raggiungi(radice, raggiunte, &ordine);
 }
 
-/// Adds a group and all that stands below it, unless it is among them already.
+/// Adds a group and all its descendants, unless it is among them already.
 void AlberoCartelle::Raggiungi(std::int32_t inizio, std::set<std::int32_t>& insieme,
                                std::vector<std::int32_t>* elenco) const {
     std::vector<std::int32_t> daVisitare{inizio};
@@ -99,7 +99,7 @@ std::vector<std::int32_t> AlberoCartelle::CapiDellePerdute() const {
         capi.push_back(cartella.id);
         Raggiungi(cartella.id, prese, nullptr);
     }
-    // What is left hangs on circles: whoever goes up from there ends in one.
+    // What is left depends on circles: the way up ends in one.
     for (const Cartella& cartella : perdute) {
         if (prese.contains(cartella.id)) continue;
         std::set<std::int32_t> viste;

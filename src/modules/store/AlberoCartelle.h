@@ -15,9 +15,9 @@ struct Cartella {
     QString nome;
 };
 
-/// All groups of the database, as they were at one moment: which of them a way from the root reaches, in
+/// All groups of the database, as they were at one moment: which of them are reachable from the root, in
 /// which order the tree shows them, and which are lost. A group is lost when its parent is not there or is
-/// lost, or when it stands below itself.
+/// lost, or when it is its own descendant.
 class AlberoCartelle {
   public:
     /// Reads those of the current database. Unguarded.

@@ -4,7 +4,7 @@
 
 #include "platform/text/Folding.h"
 
-/// Where the columns stand in the table.
+/// The positions of the columns in the table.
 struct CercaOvunque::Colonne {
     explicit Colonne(const jet::TableDefinition& tabella)
         : id(tabella.find("id")), gruppo(tabella.find("id_grp")), sel(tabella.find("sel")) {

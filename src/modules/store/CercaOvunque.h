@@ -17,7 +17,7 @@ class CercaOvunque {
     /// With an empty text every recipient counts.
     CercaOvunque(const QString& connessione, const QString& testo, bool soloSelezionati);
 
-    /// Goes on for about that long; true when the whole table was searched. FileInUse while another program
+    /// Runs for about that long; true when the whole table was searched. FileInUse while another process
     /// writes: the same part can be tried again. After other failures there is no sense in going on.
     Result<bool> Avanza(std::chrono::microseconds tempo);
 

@@ -5,8 +5,8 @@
 
 #include "modules/store/Schema.h"
 
-/// The texts of a recipient as values, and the statements that write them. Values go into a statement as they
-/// are, without any quoting: one with a single quote makes it invalid.
+/// The texts of a recipient as values, and the statements that write them. Values go into a statement
+/// unquoted: a single quote in one makes it invalid.
 namespace destinatario {
 
 /// By schema::Campo. What a source has nothing for stays empty.
@@ -18,7 +18,7 @@ QString Didascalia(schema::Campo campo);
 /// ":::rgs:::", which a message has in place of the value.
 QString Segnaposto(schema::Campo campo);
 
-/// The value as far as its column takes it.
+/// The value, cut to the size of its column.
 QString Taglia(QStringView valore, schema::Campo campo);
 
 /// Inserts a recipient into the group of that number. `spedire`: "True" or "False".

@@ -9,7 +9,7 @@
 /// An empty recipient database: the installed one, and those of the tests. It needs no Qt.
 namespace schema {
 
-/// A table as the storage engine is told it. Its texts may be empty, where the description says so.
+/// The definition of a table for the storage engine. Its texts may be empty, where the description says so.
 template <std::size_t colonne>
 jet::NewTable TabellaNuova(std::u16string_view nome, const std::array<Colonna, colonne>& descritte,
                            bool testiVuoti = true) {

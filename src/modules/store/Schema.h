@@ -26,7 +26,7 @@ struct Colonna {
     int massimo = 0;  ///< most characters of a text; 0 for no limit of the program's own
 };
 
-/// Characters that the column of a group's name holds in a new database.
+/// Size of the column of a group's name, in characters, in a new database.
 inline constexpr int larghezzaNomeGruppo = 255;
 
 inline constexpr std::array<Colonna, 3> colonneGruppi{{

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Characters that the column of a group's name holds in the current database; those of a new database where
-/// it cannot be read. Passes over every failure.
+/// Size of the column of a group's name, in characters, in the current database; of a new one where
+/// it cannot be read. Ignores every failure.
 int LarghezzaNomeGruppo();

@@ -10,5 +10,5 @@ QString NumeroNodo(const QString& chiave);
 QString NumeroNodoCorrente();
 
 /// Whether the group is in the table; the root ("0") always is. Where the table cannot be read the group
-/// counts as being there, and the statement that follows meets the failure.
+/// counts as existing, and the next statement fails.
 bool GruppoEsiste(const QString& numero);

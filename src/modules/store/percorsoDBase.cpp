@@ -23,12 +23,12 @@ QString fileDelPercorsoIntero() {
     return cartellaDati() + QStringLiteral("pathDBase.utf8");
 }
 
-/// What "pathDBase.imp" can hold of a path.
+/// The part of a path that "pathDBase.imp" can represent.
 QString formaAnsi(const QString& percorso) {
     return text::fromAnsi(text::toAnsi(percorso));
 }
 
-/// The path that the second file holds: one line of UTF-8. Empty for anything else.
+/// The path in the second file: one line of UTF-8. Empty for anything else.
 QString percorsoDi(const QByteArray& contenuto) {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString percorso = utf8(contenuto);
@@ -39,8 +39,8 @@ QString percorsoDi(const QByteArray& contenuto) {
     return percorso;
 }
 
-/// The whole path behind one that the first file holds, or that one itself. A damaged second file is set
-/// aside, which `avviso` then tells.
+/// The whole path for one from the first file, or that one itself. A damaged second file is set
+/// aside, which `avviso` then says.
 QString percorsoIntero(const QString& percorso, QString& avviso) {
     constexpr qint64 byteAlPiu = 16384;
     const Result<QByteArray> contenuto = sys::readOwnFile(fileDelPercorsoIntero(), byteAlPiu);
@@ -56,7 +56,7 @@ QString percorsoIntero(const QString& percorso, QString& avviso) {
     return percorso;
 }
 
-/// The second file stands only beside a path that needs it.
+/// The second file exists only for a path that needs it.
 void scriviPercorsoIntero(const QString& percorso) {
     if (formaAnsi(percorso) == percorso) {
         QFile::remove(fileDelPercorsoIntero());

@@ -16,7 +16,7 @@ class ContaPerCartella {
     explicit ContaPerCartella(const QString& connessione)
         : giro(connessione, "tb_destinatari", ado::recordsetSeconds) {}
 
-    /// Goes on for about that long; true when the whole table was seen. Another program is waited for as a
+    /// Runs for about that long; true when the whole table was seen. Another program is waited for as a
     /// recordset waits for it. Fails like ado::TableWalk.
     Result<bool> Avanza(std::chrono::microseconds tempo);
     /// By the number of the group, whether there is such a group or not.
@@ -30,7 +30,7 @@ class ContaPerCartella {
     qint64 senzaCartella = 0;
 };
 
-/// What no way from the root reaches: the tree does not show it, yet its selected recipients get mail.
+/// What is unreachable from the root: the tree does not show it, yet its selected recipients get mail.
 struct CartellePerdute {
     struct Voce {
         QString nome;
@@ -47,5 +47,5 @@ struct CartellePerdute {
 };
 
 /// Puts lost groups of the current database, with all below them, and the recipients of groups that are not
-/// there under the root. What has found its way back meanwhile stays where it is. Unguarded.
+/// there under the root. What was repaired meanwhile stays. Unguarded.
 void RecuperaCartelle(const CartellePerdute& perdute);

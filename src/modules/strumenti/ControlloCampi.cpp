@@ -76,7 +76,7 @@ bool ControlloCampi::Avanza(std::chrono::milliseconds durata) {
 void ControlloCampi::GiudicaRiga() {
     for (const Colonna& colonna : m_colonne) {
         const Result<ado::Value> letto = m_destinatari.value(colonna.indice);
-        // A row that was deleted meanwhile is nobody's.
+        // A row that was deleted meanwhile does not count.
         if (!letto.ok() && letto.status().code() == ErrorCode::NoCurrentRecord) return;
         esigi(letto.status());
         Campo& campo = m_campi[colonna.segnaposto];

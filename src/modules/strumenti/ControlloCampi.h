@@ -1,4 +1,4 @@
-// The values of all selected recipients, held against the placeholders that a message uses.
+// The check of the values of all selected recipients for the placeholders that a message uses.
 #pragma once
 
 #include <array>
@@ -9,7 +9,7 @@
 #include "modules/send/Personalizza.h"
 #include "platform/ado/Recordset.h"
 
-/// Where a placeholder stands in a message.
+/// Where a placeholder occurs in a message.
 struct UsoSegnaposto {
     bool inTesto = false;      ///< between the tags of the HTML form
     bool inAttributo = false;  ///< inside a tag of it
@@ -21,11 +21,11 @@ using UsiSegnaposto = std::array<UsoSegnaposto, numeroSegnaposto>;  ///< in the 
 
 UsiSegnaposto UsiDi(const TestiMessaggio& modello);
 
-/// Whether the value, as it stands, reads as something else than its own characters there: "<" as the begin
+/// Whether the value, unchanged, is parsed as something else than its own characters there: "<" as the begin
 /// of a tag, "&" as that of a character reference, a double quote as the end of an attribute.
 bool CambiaHtml(QStringView valore, const UsoSegnaposto& uso);
 
-/// Goes over the selection in the order of a run, in slices, and counts. The window lives on between two of
+/// Counts over the selection in the order of a run, in slices. The window stays responsive between
 /// them.
 class ControlloCampi {
   public:

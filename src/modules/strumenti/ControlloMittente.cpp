@@ -101,7 +101,7 @@ void ControlloMittente::AggiungiDominio(const QString& controllo, Valuta valuta)
     righe.push_back({controllo, Semaforo::Attesa, {}, {}});
 }
 
-/// Goes on with a line as far as the answers reach.
+/// Continues a line as far as the answers allow.
 void ControlloMittente::Prosegui(std::size_t voce) {
     voci[voce].aspetta = true;
     const RigaODomanda passo = voci[voce].valuta(mittente, risposte);

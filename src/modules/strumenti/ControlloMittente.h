@@ -9,7 +9,7 @@
 #include "platform/dns/Resolver.h"
 
 /// The check of a sender: its domain in the real DNS, and the account's server. Everything lives on the event
-/// loop; each line is told when it is known.
+/// loop; each line is reported when it is known.
 class ControlloMittente {
   public:
     struct Ascolto {
@@ -19,10 +19,10 @@ class ControlloMittente {
 
     explicit ControlloMittente(Ascolto ascolto);
 
-    /// Begins anew. `password` is what portachiavi::PasswordDi() gave. An account whose address is none gives
+    /// Starts again. `password` is from portachiavi::PasswordDi(). An account without a valid address has
     /// one line that says so.
     void Avvia(const Account& account, const QString& password);
-    /// Nothing is told any more; the lines stay as they are.
+    /// Nothing more is reported; the lines are kept.
     void Annulla();
     bool InCorso() const { return mancano > 0; }
     const std::vector<RigaControllo>& Righe() const { return righe; }
@@ -46,12 +46,12 @@ class ControlloMittente {
     std::unique_ptr<dns::Resolver> resolver;
     ProvaServer prova;
     Risposte risposte;
-    std::vector<Voce> voci;  ///< of the lines that the DNS answers, which stand first
+    std::vector<Voce> voci;  ///< of the lines that the DNS answers, which come first
     std::vector<RigaControllo> righe;
     QTimer limite;
     int mancano = 0;  ///< lines that are not known yet
     int domande = 0;  ///< asked so far
 };
 
-/// The domain of the account's address in A-labels and lower case; empty where the address is none.
+/// The domain of the account's address in A-labels and lower case; empty where the address is invalid.
 QByteArray DominioDi(const Account& account);

@@ -34,5 +34,5 @@ RigaODomanda RigaSpf(const DominioMittente& mittente, const Risposte& risposte);
 /// The names of this machine's addresses; only where it delivers itself.
 RigaODomanda RigaNomeInverso(const DominioMittente& mittente, const Risposte& risposte);
 RigaODomanda RigaDkim(const DominioMittente& mittente, const Risposte& risposte);
-/// What DMARC asks for, held against what SPF and DKIM came to.
+/// What DMARC requires, checked against the results of SPF and DKIM.
 RigaODomanda RigaDmarc(const DominioMittente& mittente, const Risposte& risposte);

@@ -13,7 +13,7 @@ std::variant<policy::spf::Verdict, dns::Question> EsitoSpf(const DominioMittente
                                                            const QHostAddress& indirizzo,
                                                            const Risposte& risposte);
 
-/// An address that nobody sends from (RFC 5737): a record that is missing or faulty shows with any.
+/// A documentation address (RFC 5737): a missing or faulty record fails for any address.
 QHostAddress IndirizzoDiNessuno();
 
 /// Whether there is no record, or one that could not be used.

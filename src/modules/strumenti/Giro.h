@@ -7,7 +7,7 @@
 
 namespace strumenti {
 
-/// Goes over a table in parts to its end. `parte` goes on for about the time that it is given and tells
+/// Goes over a table in parts to its end. `parte` runs for about the given time and returns
 /// whether that was all (ado::TableWalk::step); `respiro` runs between two parts and lets windows be painted.
 /// Unguarded.
 void GiraTutto(const std::function<Result<bool>(std::chrono::microseconds)>& parte,

@@ -11,7 +11,7 @@
 #include "platform/ado/Waiting.h"
 #include "platform/Status.h"
 
-/// The addresses that stand more than once among the selected recipients of a database. Case makes no
+/// The addresses that occur more than once among the selected recipients of a database. Case makes no
 /// difference, nor blanks at the ends; recipients without an address are left out.
 class IndirizziDoppi {
   public:
@@ -28,7 +28,7 @@ class IndirizziDoppi {
     explicit IndirizziDoppi(const QString& connessione)
         : giro(connessione, "tb_destinatari", ado::recordsetSeconds) {}
 
-    /// Goes on for about that long; true when the whole table was seen. Another program is waited for as a
+    /// Runs for about that long; true when the whole table was seen. Another program is waited for as a
     /// recordset waits for it. Fails like ado::TableWalk.
     Result<bool> Avanza(std::chrono::microseconds tempo);
     /// By address; what is found so far.

@@ -25,5 +25,5 @@ struct ModelloProva {
 };
 
 /// Reads the file by the readers of the send window. Fails, with a sentence for the user, where it cannot be
-/// opened, holds no whole message, or has a body that is refused.
+/// opened, contains no whole message, or has a body that is refused.
 Result<ModelloProva> LeggiModelloProva(const QString& percorso);

@@ -18,7 +18,7 @@ class ProvaServer {
 
     ProvaServer();
 
-    /// `password` is what portachiavi::PasswordDi() gave. `fatto` is called once, from the event loop, after
+    /// `password` is from portachiavi::PasswordDi(). `fatto` is called once, from the event loop, after
     /// two minutes at the latest.
     void Avvia(const Account& account, const QString& password, Fatto fatto);
     /// `fatto` is not called any more.
@@ -33,7 +33,7 @@ class ProvaServer {
     oauth::TokenSource gettoni;
     mail::Route percorso;
     QTimer limite;
-    QTimer dopo;  ///< tells from the event loop
+    QTimer dopo;  ///< reports from the event loop
     mail::DeliveryOutcome esitoSubito;
     Fatto fatto;
 };

@@ -18,12 +18,12 @@ struct ServerMX {
 /// run.
 ServerMX ServerDi(const dns::Answer& risposta);
 
-/// Asks on the event loop, unlike MXQuery, which a run uses and which holds the thread.
+/// Asks on the event loop, unlike MXQuery, which a run uses and which blocks the thread.
 class RicercaMX {
   public:
     using Fine = std::function<void(const ServerMX& trovato)>;
 
-    /// `dominio` is what stands behind the "@", in A-labels. `fine` is called once, from the event loop,
+    /// `dominio` is what follows the "@", in A-labels. `fine` is called once, from the event loop,
     /// after ten seconds at the latest; from within this call where the text is no domain name. A look-up
     /// that is under way is dropped.
     void Avvia(const QByteArray& dominio, Fine fine);

@@ -8,7 +8,7 @@
 
 /// One line of the check of a sender.
 
-/// How it stands with what a line is about. Each level has a word of its own, as a colour says nothing to
+/// The state of what a line is about. Each level has its own word, as a colour alone is lost on
 /// some.
 enum class Semaforo { Attesa, Verde, Giallo, Rosso };
 
@@ -19,7 +19,7 @@ struct RigaControllo {
     QString controllo;  ///< what was looked at
     Semaforo semaforo = Semaforo::Attesa;
     QString frase;         ///< what was found, or what to do: one sentence
-    QStringList dettagli;  ///< what was found, as it stands; hostile text in printable characters
+    QStringList dettagli;  ///< what was found, unchanged; hostile text in printable characters
 };
 
 /// A line, or the question to the DNS whose answer it still needs.

@@ -7,7 +7,7 @@
 #include "platform/mail/DeliveryOutcome.h"
 #include "platform/mail/SessionFindings.h"
 
-/// What a try with the account's server came to.
+/// The result of a test of the account's server.
 struct ServerProvato {
     mail::DeliveryOutcome esito;  ///< `delivered`: a message could be sent now
     mail::SessionFindings trovato;

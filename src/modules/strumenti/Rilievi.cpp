@@ -59,7 +59,7 @@ void rilievaSegnaposto(const TestiMessaggio& testi, QList<Rilievo>& rilievi) {
                  : Words::tr("%1 non viene sostituito: nessuna colonna ha questo nome.")
                        .arg(traPunti(nome))});
     }
-    // Letters that look like a placeholder and are parted by a change of format are none.
+    // Text that looks like a placeholder but is split by a change of format is none.
     for (std::size_t i = 0; i < numeroSegnaposto; ++i)
         if (testi.corpoTesto.contains(Segnaposto(i)) && !testi.corpoHtml.contains(Segnaposto(i)))
             rilievi.append(

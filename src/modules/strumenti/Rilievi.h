@@ -1,4 +1,4 @@
-// What a look at a message finds, before it goes out.
+// The findings of a check of a message before a run.
 #pragma once
 
 #include <optional>
@@ -19,7 +19,7 @@ struct Rilievo {
     std::optional<qint64> riga = std::nullopt;  ///< first recipient that it is about, from 0 in run order
 };
 
-/// The weight in a word.
+/// The severity in a word.
 QString NomePeso(Rilievo::Peso peso);
 
 /// Of the template alone: unknown placeholders, links, images, attachments, text form, subject, sign-off.

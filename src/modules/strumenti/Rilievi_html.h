@@ -1,4 +1,4 @@
-// What the markup of a body tells of its links and images.
+// The findings in the markup of a body: its links and images.
 #pragma once
 
 #include "modules/strumenti/Rilievi.h"
