@@ -42,7 +42,7 @@ void frmAccount::CollegaEventi() {
         connect(pulsante, &QAbstractButton::clicked, this,
                 [this, gestore] { evento([&] { (this->*gestore)(); }); });
     };
-    // A check box runs its handler whenever its value changes, whoever changes it.
+    // A check box runs its handler whenever its value changes, by the user or by code.
     const auto alCambio = [this](QCheckBox* casella, void (frmAccount::*gestore)()) {
         connect(casella, &QCheckBox::toggled, this, [this, gestore] { evento([&] { (this->*gestore)(); }); });
     };

@@ -24,14 +24,14 @@ namespace ui {
 class LinkLabel;
 }
 
-/// The account window: sender accounts are made, changed and deleted here, each at the press of a button,
+/// The account window: sender accounts are made, changed and deleted here, each by a button,
 /// which writes the account file at once. The window reads the file when it is created and is only hidden
 /// afterwards, so that list and table live until the program ends.
 ///
 /// Where the server belongs to a provider of OAuth 2.0, a link under the password leads to its page in the
-/// browser. What comes of that is put into the controls; the user saves it as anything else.
+/// browser. The result is put into the controls; the user saves it like any other value.
 ///
-/// A list position is taken as an index of the table. The two part after the only account was deleted and
+/// A list position is taken as an index of the table. They differ after the only account was deleted and
 /// another one was made, since the table never becomes empty.
 class frmAccount : public ui::LateDialog {
     Q_OBJECT
@@ -82,8 +82,8 @@ class frmAccount : public ui::LateDialog {
     void EliminaAccount(int indice);
     void AzzeraControlli();
     Account LeggiControlli() const;
-    /// What is to be written of the controls, the password in its place; none where it cannot be put there,
-    /// which is told.
+    /// What is to be written of the controls, the password in its place; none where it cannot be stored,
+    /// which is reported.
     std::optional<Account> Custodisci(bool nuovo);
     void cmdNuovo_Click();
     void cmdModifica_Click();

@@ -1,4 +1,4 @@
-// The accounts behind the window: reading, checking and writing them.
+// The accounts of the window: reading, checking and writing them.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -72,7 +72,7 @@ Account frmAccount::LeggiControlli() const {
 
 namespace {
 
-/// Tells where nothing was written, since the file is somebody else's; else what the file has lost, before
+/// Reports that nothing was written, where the file is another user's; else what the file has lost, before
 /// every recipient sees it. Of a password no character is shown.
 void AvvisaPerdite(const Account& valori) {
     if (sys::belongsToAnother(percorsoAccount())) {
@@ -148,7 +148,7 @@ void frmAccount::cmdModifica_Click() {
 }
 
 /// With entries but none chosen, the first account leaves the table and the file while the list keeps all its
-/// entries: each step that fails for the position -1 is passed over.
+/// entries: each step that fails for the position -1 is skipped.
 void frmAccount::EliminaAccount(int indice) {
     Prosegui prosegui;
     const TabellaAccount prima = account;

@@ -154,7 +154,7 @@ void frmAccount::DisponiControlli() {
     finestra->addWidget(ui::separatorLine(this));
     finestra->addLayout(corpo, 1);
     finestra->addLayout(comandi);
-    // Read behind the band that came last.
+    // Read after the last band.
     for (QWidget* controllo : std::initializer_list<QWidget*>{lbl[6], cmbSaluto, lbl[12], txtOutPort,
                                                               cmdNuovo, cmdModifica, cmdChiudi})
         controllo->raise();
@@ -246,7 +246,7 @@ QWidget* frmAccount::DisponiAvanzate() {
     return fascia;
 }
 
-/// Names for assistive programs, from the captions as they stand.
+/// Names for assistive programs, from the captions unchanged.
 void frmAccount::CollegaEtichette() {
     const auto collega = [this](std::size_t indice, QWidget* controllo, int esempio = -1) {
         lbl[indice]->setBuddy(controllo);

@@ -27,7 +27,7 @@ void avvisaAccesso(const QString& testo) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, bVAR::Attenzione);
 }
 
-/// The provider of a server. A file that cannot be read knows none; a run tells what is wrong with it.
+/// The provider of a server. None where the file cannot be read; a run reports what is wrong with it.
 std::optional<oauth::Provider> fornitoreDi(const QString& server) {
     const auto fornitori = oauth::readProviders(cartellaOAuth());
     return fornitori.ok() ? oauth::providerOf(fornitori.value(), server) : std::nullopt;
@@ -107,6 +107,6 @@ void frmAccount::AccessoFinito(const Status& esito) {
 
 void frmAccount::hideEvent(QHideEvent* nascosta) {
     QDialog::hideEvent(nascosta);
-    // A window that is only minimised goes on waiting.
+    // A window that is only minimised keeps waiting.
     if (!nascosta->spontaneous()) AggiornaAccesso();
 }

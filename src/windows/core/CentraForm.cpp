@@ -13,7 +13,7 @@ void CentraForm(QWidget& finestra) {
         const QSize libero = schermo.size() - finestra.frameGeometry().size();
         finestra.move(schermo.x() + libero.width() / 2, schermo.y() + libero.height() / 2);
     };
-    // Only a window that is shown knows how wide its frame is; one without a frame does not jump.
+    // Only a window that is shown has a known frame width; one without a frame does not jump.
     centra();
     finestra.show();
     centra();

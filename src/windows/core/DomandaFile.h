@@ -7,5 +7,5 @@
 /// Those that the user has not agreed to.
 QList<FileInPartenza> DaChiedere(const QList<FileInPartenza>& tutti);
 
-/// The question, to be put by MessageDialog::askAbout: those that lie apart come first.
+/// The question, for MessageDialog::askAbout: hidden or outlying files come first.
 ui::ListQuestion::Content DomandaFile(QList<FileInPartenza> file, const QString& testo);

@@ -5,10 +5,10 @@
 
 #include "modules/core/Fallimento.h"
 
-/// The edge between the program and the toolkit: every handler of a window event runs inside evento(). A
+/// The boundary between the program and the toolkit: every handler of a window event runs inside evento(). A
 /// failure that no procedure on the way took stops here: it is shown and the program ends. Nothing is ever
 /// thrown across the toolkit's event loop, nested loops of modal windows and of the send engine's wait
-/// included, since each handler has its own edge.
+/// included, since each handler has its own boundary.
 
 /// Ends the program at once, with the given exit status: no window gets its own unload, nothing is saved but
 /// what PrimaDellaFine() was given.
@@ -55,7 +55,7 @@ class HandlerInCorso {
     static inline int s_quanti = 0;
 };
 
-/// Runs one event handler. After the outermost one comes what the engine has to say: no tick waits for that
+/// Runs one event handler. After the outermost one the engine's notices are shown: no tick waits for that
 /// box.
 template <class Gestore>
 void evento(Gestore&& gestore) {

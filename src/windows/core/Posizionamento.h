@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// The routines that remember where a window stood, as the entry routine hands them to the windows that are
+/// The routines that remember the placement of a window, passed by the entry routine to the windows that are
 /// placed by them (windows/entry/Posizione.h).
 struct Posizionamento {
     std::function<void(QWidget& finestra)> carica;       ///< ignores every failure

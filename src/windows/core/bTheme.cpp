@@ -97,7 +97,7 @@ void ImpostaTestiDisattivati(QPalette& tavolozza) {
     tavolozza.setColor(QPalette::Disabled, QPalette::Base, mistoSuBianco(0, 110));
 }
 
-/// What the desktop asks for: lines as dark as the text, and all texts that otherwise stand back.
+/// What the desktop asks for: lines as dark as the text, and more contrast for dimmed texts.
 void RinforzaContrasto(QPalette& tavolozza) {
     for (const auto ruolo : {QPalette::Mid, QPalette::Dark, QPalette::PlaceholderText})
         tavolozza.setColor(QPalette::All, ruolo, coloreTema(20));
@@ -124,7 +124,7 @@ QPalette tavolozzaMenu() {
 
 QString schemaSostituito;
 
-/// Windows that are shown already are painted anew by each change, so an unchanged palette is left alone.
+/// Windows that are shown already are repainted by each change, so an unchanged palette is left alone.
 void VestiProgramma() {
     static std::pair<decltype(coloriTema), bool> vestito;
     const std::pair adesso{coloriTema, ui::highContrast()};
@@ -177,7 +177,7 @@ std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int qu
         const double c1 = (colore1 >> spostamento) & 0xff;
         const double c2 = (colore2 >> spostamento) & 0xff;
         const double misto = (255 - quota) * c2 / 255 + quota * c1 / 255;
-        // The rounding mode of the start is "nearest, ties to even"; nobody changes it.
+        // The rounding mode of the start is "nearest, ties to even"; it is never changed.
         risultato |= static_cast<std::uint32_t>(std::nearbyint(misto)) << spostamento;
     }
     return risultato;

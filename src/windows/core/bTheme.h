@@ -7,9 +7,9 @@
 class QWidget;
 
 /// The colours that follow the desktop's colour scheme. A colour value has red in its low byte. The palette
-/// is coloriTema (bGlobal.h); RilevaTema fills it and dresses the program in it.
+/// is coloriTema (bGlobal.h); RilevaTema fills it and applies it to the program.
 
-/// Finds the desktop's colour scheme, fills the palette and gives the scheme's name. Every window calls it
+/// Finds the desktop's colour scheme, fills the palette and returns the scheme's name. Every window calls it
 /// first in its load. Without a theme service, or after a failure on the way, the scheme is "Classic".
 QString RilevaTema(QWidget* finestra);
 
@@ -20,7 +20,7 @@ void sostituisciSchema(const QString& nome);
 /// other name leaves it as it was.
 void ImpostaColoriTema(const QString& nome);
 
-/// The colour that a colour value stands for: itself, or for 0x80000000 plus a number the system colour of
+/// The colour that a colour value means: itself, or for 0x80000000 plus a number the system colour of
 /// that number (those that office programs number from 0, scroll bar, to 30, menu bar). -1, that is
 /// 0xffffffff, for a value that is neither.
 std::uint32_t TraduciColore(std::uint32_t valore);

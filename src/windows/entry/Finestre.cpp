@@ -29,7 +29,7 @@ QPointer<frmMain> principale;
 QPointer<frmSplash> apertura;
 QPointer<frmEditor> scrittura;
 
-/// A window that stands over another one and belongs to it, made from what it needs of others.
+/// A child window over another one, made from what it needs of others.
 template <class Finestra, class... Cose>
 Finestra& dialogo(QWidget& sopra, Cose&&... cose) {
     static QPointer<Finestra> finestra;

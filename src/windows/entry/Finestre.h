@@ -23,7 +23,7 @@ class LateDialog;
 /// the whole run, so that a window that is only hidden keeps its content for the next opening.
 namespace finestre {
 
-/// The first mention creates the window and runs its load. A load that fails leaves the window where it got
+/// The first mention creates the window and runs its load. A load that fails leaves the window as far as it
 /// to.
 ::frmMain& Main();
 ::frmAccount& Account();
@@ -45,8 +45,8 @@ namespace finestre {
 /// Unloads the splash; from then on the main window is enabled.
 void ScaricaSplash();
 
-/// Dialogs for who needs no more of them than that they are there, hidden: their controls are made when
-/// somebody names them above.
+/// Dialogs for callers that need them to exist only, hidden: their controls are made when
+/// they are named above.
 namespace senzaControlli {
 ui::LateDialog& Account();
 ui::LateDialog& Invia();
@@ -57,7 +57,7 @@ ui::LateDialog& ImpTXT();
 ui::LateDialog& ImpDB();
 }  // namespace senzaControlli
 
-/// For tests: destroys every window, so that the next mention begins anew.
+/// For tests: destroys every window, so that the next mention starts again.
 void dimentica();
 
 }  // namespace finestre

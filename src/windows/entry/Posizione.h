@@ -2,12 +2,12 @@
 
 class QWidget;
 
-/// Where a window stood at the end of the last run: the file "<name of the window>.imp" in the data folder.
+/// A window's placement at the end of the last run: the file "<name of the window>.imp" in the data folder.
 /// docs/formats/posizione.md shows its lines. Positions are twips, 15 to a pixel. Both routines work through
-/// the one buffer posLeft … posWindowState, which is never reset: what a file does not tell is what the
-/// buffer holds.
+/// the one buffer posLeft … posWindowState, which is never reset: what a file lacks stays as it is in the
+/// buffer.
 
-/// Puts a window where its file says. Passes over every failure; a file that is missing, or damaged so that
+/// Puts a window where its file says. Ignores every failure; a file that is missing, or damaged so that
 /// nothing was ever read, leaves the window at its design place.
 void CaricaPosizioneForm(QWidget& finestra);
 
@@ -26,5 +26,5 @@ struct Rettangolo {
 
 /// The placement of a window as SalvaPosizioneForm would write it.
 Rettangolo PosizioneDi(const QWidget& finestra);
-/// Puts a window there as CaricaPosizioneForm would, through the buffer. Passes over every failure.
+/// Puts a window there as CaricaPosizioneForm would, through the buffer. Ignores every failure.
 void MettiInPosizione(QWidget& finestra, const Rettangolo& posizione);

@@ -4,7 +4,7 @@
 
 /// The new start that the box of a failure offers. The program comes back where it was: the main window in
 /// its place and the group that was open. What it needs for that goes through the file "riavvio.imp" of the
-/// data folder (docs/formats/riavvio.md), since there is no command line. By the same file comes the message
+/// data folder (docs/formats/riavvio.md), since there is no command line. The same file names the message
 /// that was opened from the desktop.
 namespace riavvio {
 
@@ -17,7 +17,7 @@ bool FinestraMostrata();
 /// program began to start, so that a program that fails at once does not start over and over.
 bool Possibile();
 
-/// Writes the file and starts the program anew. Passes over every failure.
+/// Writes the file and starts the program anew. Ignores every failure.
 void Avvia();
 
 /// For tests: what starts the program. An empty function puts the real start back.
@@ -27,7 +27,7 @@ void sostituisciPartenza(std::function<void()> partenza);
 /// program that wrote it, whose files and locks are free after that. What is older than a minute does not
 /// count; a damaged file is set aside.
 void Raccogli();
-/// Puts the main window where it stood. Does nothing without a file.
+/// Puts the main window where it was. Does nothing without a file.
 void RiprendiPosizione();
 /// Opens the group that was open, as far as it is still there. Does nothing without a file, or with one for
 /// another database.

@@ -45,7 +45,7 @@ void rinfrescaGriglia() {
     griglia::ScegliRiga(id);
 }
 
-/// The tree as the table has it now, with the current group open in it, if a way leads there.
+/// The tree as the table has it now, with the current group open in it, if it is reachable.
 void ricaricaAlbero() {
     frmGruppi& gruppi = finestre::Main().Gruppi();
     gruppi.CaricaGruppiINI();

@@ -6,8 +6,8 @@
 #include "windows/shell/frmMain.h"
 #include "windows/strumenti/frmProva.h"
 
-/// What the windows are handed when they are made: how each of them reaches what it needs of others. None of
-/// these routines makes a window; what they hand out does, when it is called.
+/// The dependencies that windows get when they are made: how each reaches what it needs of others. None of
+/// these routines makes a window; the functions they return do, when called.
 namespace finestre {
 
 ::frmMain::Vicini IntornoAMain();

@@ -35,7 +35,7 @@ void SubMain() {
     prosegui([] { TitoloPrincipale(finestre::Main()); });
     prosegui([] { finestre::Splash().hide(); });
     prosegui([] { finestre::ScaricaSplash(); });
-    // What cannot be taken out of the selection now is remembered on.
+    // What cannot be deselected now stays remembered.
     prosegui([] { ApplicaAccettati(); });
     PuntatorePredefinito();
     riavvio::SegnaFinestra();

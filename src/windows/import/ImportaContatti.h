@@ -15,12 +15,12 @@ struct ViciniContatti {
     std::function<frmScelta&()> Scelta;                 ///< the question for the group
     std::function<ui::ProgressCounter&()> stcProgress;  ///< the counter in the status bar
     cartella::NuovoNodo NuovoNodo;
-    /// Shows in the status bar what is waited for; an empty text brings back what stood there.
+    /// Shows in the status bar what is waited for; an empty text restores the previous one.
     std::function<void(const QString&)> MostraAttesa;
 };
 
 /// What the imports from the address book and from Outlook have in common: the question for the group, the
-/// counter in the status bar, and errors that are ignored from the first statement to the last.
+/// counter in the status bar, and errors that are ignored in every statement.
 class ImportaContatti {
   public:
     explicit ImportaContatti(ViciniContatti intorno) : vicini(std::move(intorno)) {}
@@ -32,7 +32,7 @@ class ImportaContatti {
     /// Sets the counter to 0 of `massimo`.
     void Conta(int massimo);
     void Avanza();
-    /// Inserts a recipient into the group; one that is refused is left out without a word.
+    /// Inserts a recipient into the group; one that is refused is skipped silently.
     void Inserisci(qint64 numero, const destinatario::Valori& valori);
     /// The last rows to disk, the counter back to 0.
     void Finisci();

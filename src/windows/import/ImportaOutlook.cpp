@@ -48,7 +48,7 @@ Result<contacts::ContactFolder> LeggiOutlook(const ViciniContatti& vicini) {
     return cartella;
 }
 
-/// Tells in the status bar which walls the system did not let the reader raise.
+/// Says in the status bar which restrictions of the reader the system lacks.
 void AvvisaSenzaMura(const ViciniContatti& vicini, const QStringList& mura) {
     QStringList mancano;
     for (const auto& [muro, nome] :

@@ -43,7 +43,7 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
 }
 
 /// The box of the name has no caption of its own: it is called after its option, whose text the language file
-/// may have changed. It takes what the column of the present database holds.
+/// may have changed. Its limit is that of the column in the current database.
 void RiquadroCartella::showEvent(QShowEvent* mostra) {
     QWidget::showEvent(mostra);
     txtCartella->setMaxLength(LarghezzaNomeGruppo());

@@ -9,7 +9,7 @@ class QLabel;
 class QLineEdit;
 class QRadioButton;
 
-/// The question into which group the new recipients go, as it stands in the windows of the imports: a
+/// The question into which group the new recipients go, in the windows of the imports: a
 /// label, two options, and the name of a new group, which can be changed while the second option is chosen.
 class RiquadroCartella : public QWidget {
     Q_OBJECT

@@ -33,7 +33,7 @@ QString NuovoGruppo(const QString& nome, ado::Recordset& rs, const cartella::Pas
 std::optional<QString> cartella::Scegli(const Scelta& scelta, ado::Recordset& rs, const QString& avviso,
                                         const Passo& passo, const NuovoNodo& nuovoNodo) {
     if (!scelta.selezionata) return NuovoGruppo(scelta.nuova, rs, passo, nuovoNodo);
-    // Rows of a group that was removed would be seen by nobody and get mail all the same.
+    // Rows of a removed group would be invisible and still get mail.
     if (nodoCorrente && GruppoEsiste(NumeroNodo(nodoCorrente->Key))) return NumeroNodo(nodoCorrente->Key);
     PuntatorePredefinito();
     ui::MessageDialog::show(avviso, ui::MessageDialog::Notice, "Attenzione");

@@ -11,13 +11,13 @@ class Recordset;
 /// Choosing the group ("cartella") that gets the rows of an import: the beginning of every import.
 namespace cartella {
 
-/// What the user said.
+/// The user's answer.
 struct Scelta {
     bool selezionata = true;  ///< the current node; otherwise a new group
     QString nuova;            ///< name of the new group
 };
 
-/// How an import meets the failure of one of its statements: `senzaGuardia`, or, for the carry-on kind,
+/// How an import handles the failure of one of its statements: `senzaGuardia`, or, for the carry-on kind,
 /// std::ref of its Prosegui.
 using Passo = std::function<void(const std::function<void()>& istruzione)>;
 void senzaGuardia(const std::function<void()>& istruzione);

@@ -10,8 +10,8 @@ class QPushButton;
 class RiquadroCampi;
 class RiquadroCartella;
 
-/// The window of the Access import: one recipient for each record of a table that holds a valid address. It
-/// stays loaded and keeps its fields between imports; it is left by cmdChiudi, or by an import that came to
+/// The window of the Access import: one recipient for each record of a table with a valid address. It
+/// stays loaded and keeps its fields between imports; it is left by cmdChiudi, or by an import that reached
 /// its end.
 ///
 /// cmdApri lists the tables and chooses the first one; only that one can be imported, since choosing another

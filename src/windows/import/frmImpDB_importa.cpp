@@ -79,7 +79,7 @@ void importaRecord(ado::Recordset& rs, const Sorgenti& sorgenti, const QString& 
             resoconto.Importata(numero, valori[schema::email]);
         else
             resoconto.Rifiutata(numero, valori[schema::email], prosegui.testo());
-        // Where the source cannot be read on, the same record would come for ever.
+        // Where reading the source fails, the same record would repeat for ever.
         if (!prosegui([&] { esigi(rs.moveNext()); })) break;
         lavoro.breathe();
     }

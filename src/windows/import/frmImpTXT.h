@@ -10,7 +10,7 @@ class RiquadroCampi;
 class RiquadroCartella;
 struct RigaTesto;
 
-/// The window of the text import: one recipient for each line of a delimited text file that holds a valid
+/// The window of the text import: one recipient for each line of a delimited text file with a valid
 /// address. It stays loaded and keeps its fields between imports; it is left by cmdChiudi, or by an import
 /// that went through.
 class frmImpTXT : public ui::LateDialog {

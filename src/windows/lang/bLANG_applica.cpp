@@ -16,7 +16,7 @@ void CaricaLingua(const bLANG::FinestreTradotte& finestre) {
 void ElencaLingue(ui::CommandList& cmdLang) {
     cmdLang.Clear();
     QStringList voci;
-    // What was read before a failure stands in the list.
+    // What was read before a failure is in the list.
     const auto mostra = qScopeGuard([&] {
         for (const QString& voce : voci)
             cmdLang.AddText(voce);

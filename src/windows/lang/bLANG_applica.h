@@ -8,7 +8,7 @@ class CommandList;
 }
 
 /// The language of the windows. It is read once, by the load of the main window; a change counts from the
-/// next start on. Unguarded, as bLANG.h tells: what was set before a failure stays.
+/// next start on. Unguarded, as in bLANG.h: what was set before a failure stays.
 
 /// Lists the languages, then reads the texts of the one in use.
 void CaricaLingua(const bLANG::FinestreTradotte& finestre);

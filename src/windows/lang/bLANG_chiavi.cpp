@@ -77,7 +77,7 @@ void impostaDidascalia(QWidget& finestra, const QString& nome, const QString& te
         fallisci(ErrorCode::ItemNotFound);
 }
 
-/// What gives a control of a window its text: the window is made at once, the text waits for the control.
+/// The setter of a control's text: the window is made at once, the text waits for the control.
 template <class Opera>
 auto assegnazione(const Istanza& istanza, const Opera& opera) {
     return [istanza, opera](const QString& testo) {
@@ -104,7 +104,7 @@ void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& i
         };
 }
 
-/// What the windows of the imports have in common.
+/// The keys that the windows of the imports have in common.
 void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (int i = 0; i < campi::quanti; ++i) {
         const QString nome = QStringLiteral("lblcmp(%1)").arg(i);

@@ -111,7 +111,7 @@ void aggiungiComando(Chiavi& chiavi, const FinestraConBarre& istanza, const char
     };
 }
 
-/// What the two windows have alike: buttons, menus, the status text, one pane.
+/// The keys of both windows: buttons, menus, the status text, one pane.
 template <class Pulsanti, class Menu>
 void aggiungiBarre(Chiavi& chiavi, const FinestraConBarre& istanza, const char* finestra,
                    const Pulsanti& pulsanti, const Menu& menu, const char* pannello) {

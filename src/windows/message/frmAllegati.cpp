@@ -18,7 +18,7 @@ namespace {
 
 constexpr int altezzaRiga = 24;
 
-/// Tells that there is nothing in it where it is empty.
+/// Says that it is empty, where it is.
 class Elenco : public QTreeWidget {
   public:
     using QTreeWidget::QTreeWidget;

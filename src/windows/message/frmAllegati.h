@@ -14,13 +14,13 @@ class frmAllegati : public QWidget {
     Q_OBJECT
 
   public:
-    /// `barre` of the editor, which outlive the window, hold its commands, its menu and the status text.
+    /// `barre` of the editor, which outlive the window, contain its commands, its menu and the status text.
     explicit frmAllegati(ui::CommandBars& barre, QWidget* parent = nullptr);
 
     /// Empties rows and columns and adds the three columns "File", "Size" and "Path".
     void IniList();
     void ClearList() { IniList(); }
-    /// Adds a file as the last row. Unguarded: fails for one whose size cannot be told.
+    /// Adds a file as the last row. Unguarded: fails for one whose size is unknown.
     void InsFile(const QString& percorso);
     /// Takes the selected row away. Unguarded: fails when none is.
     void TogliScelto();

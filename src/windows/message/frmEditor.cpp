@@ -63,7 +63,7 @@ frmEditor::frmEditor(Vicini intorno, QWidget* parent)
 
 void frmEditor::Carica() {
     RilevaTema(this);
-    // Without a layout that can be read the bars and panes stand as they were designed.
+    // Without a readable layout the bars and panes keep their design.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
     vicini.posizione.carica(*this);
     if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
@@ -153,7 +153,7 @@ void frmEditor::closeEvent(QCloseEvent* chiusura) {
 void frmEditor::hideEvent(QHideEvent* nascosta) {
     QMainWindow::hideEvent(nascosta);
     if (nascosta->spontaneous()) return;
-    // Left to itself the desktop may give the keyboard to nobody, when a question over the editor closed just
+    // Otherwise the desktop may focus no window, when a question over the editor closed just
     // before it.
     if (parentWidget()) parentWidget()->activateWindow();
     if (attesa) attesa->quit();

@@ -25,9 +25,9 @@ class TabStrip;
 
 /// The message editor: one document, made of a subject, a priority, a list of attachments and an HTML body.
 ///
-/// The body stands in three views. DHTML, the design view, has the last word: it is what is saved. CODE, the
-/// source view, and WEB, the preview, get the body when their tab comes up; leaving the source view hands its
-/// text to the design view. The list of attachments is the control of frmAllegati and nothing else.
+/// The body is in three views. DHTML, the design view, is authoritative: it is what is saved. CODE, the
+/// source view, and WEB, the preview, get the body when their tab is opened; leaving the source view puts its
+/// text into the design view. The list of attachments is the control of frmAllegati alone.
 class frmEditor : public QMainWindow {
     Q_OBJECT
 
@@ -46,17 +46,17 @@ class frmEditor : public QMainWindow {
     /// Shows the window over the main one; comes back when it is hidden.
     void MostraModale();
 
-    /// An empty document. The path of the last open or save stays, and so does the tab. Passes over every
+    /// An empty document. The path of the last open or save stays, and so does the tab. Ignores every
     /// failure.
     void NuovoMessaggio();
-    /// Asks for a file and reads it. Passes over every failure.
+    /// Asks for a file and reads it. Ignores every failure.
     void ApriMessaggio();
     /// Reads this file, in the same way.
     void LeggiMessaggio(const QString& percorso);
     /// Writes over percorsoFile. Unguarded; the rescue copy is written first. Where the design view does not
     /// answer, a notice says so and nothing is written.
     void SalvaMessaggio();
-    /// Asks for a file and writes it. Passes over every failure: title and path change even where the writing
+    /// Asks for a file and writes it. Ignores every failure: title and path change even where the writing
     /// failed; then a notice says so, and the document is marked as changed.
     void SalvaMessaggioCome();
     /// Saves placement and layout and hides the window. Unguarded.
@@ -74,7 +74,7 @@ class frmEditor : public QMainWindow {
     void ImpostaBarre(bool attive);
 
     /// Inserts at the selection of the design view, whatever tab is on show, and marks the document as
-    /// changed. Passes over every failure.
+    /// changed. Ignores every failure.
     void InserisciHTML(const QString& testo);
     /// Runs the command of that name; a name that is not known has no effect. Unguarded.
     void ComandoPremuto(const QString& nome);
@@ -176,8 +176,8 @@ class frmEditor : public QMainWindow {
     CopiaRecupero copia;                         ///< of the document
     std::vector<CopiaRecupero> lasciate;         ///< of documents that were left without being saved
     std::optional<MessaggioRecuperato> salvato;  ///< the document as it was saved last
-    bool rinunciato = false;                     ///< the user does not want what the document holds
+    bool rinunciato = false;                     ///< the user discarded the content of the document
     bool copiaDovuta = false;                    ///< the document changed since its copy was written
     QTimer tempoCopia{this};
-    QElapsedTimer primaMutazione;  ///< since the first change that the copy does not hold
+    QElapsedTimer primaMutazione;  ///< since the first change that the copy lacks
 };

@@ -1,4 +1,4 @@
-// The commands of the editor and where they stand: bars, menus, keys.
+// The commands of the editor and their places: bars, menus, keys.
 #include <algorithm>
 #include <QFontDatabase>
 #include <QShortcut>

@@ -49,7 +49,7 @@ const typename Tabella::value_type* riga(const Tabella& tabella, const QString& 
 
 }  // namespace
 
-// "cmdGiustify" stands on the bar and has no branch: it does nothing.
+// "cmdGiustify" is on the bar and has no branch: it does nothing.
 void frmEditor::ComandoPremuto(const QString& nome) {
     ComandoDueViste(nome) || ComandoDesign(nome) || ComandoInserimento(nome) || ComandoInterruttore(nome) ||
         ComandoAllegati(nome) || ComandoFile(nome);

@@ -93,7 +93,7 @@ void frmEditor::CollegaViste() {
     quando(tb, &ui::TabStrip::tabChanged, [this](int da, int a) { CambiaScheda(da, a); });
 }
 
-/// What the views say while they go finds no editor any more.
+/// Signals of the views during their destruction reach no editor.
 frmEditor::~frmEditor() {
     for (QObject* mittente : std::initializer_list<QObject*>{DHTML, WEB, CODE, tb})
         mittente->disconnect(this);
@@ -136,7 +136,7 @@ Status frmEditor::SpostaBody(int da, int a) {
     return {};
 }
 
-/// Hands the body of the design view to the view of another tab.
+/// Passes the body of the design view to the view of another tab.
 Status frmEditor::MostraBody(int scheda) {
     if (scheda == Modifica) return {};
     const Result<QString> corpo = DHTML->documentHTML();

@@ -32,7 +32,7 @@ QString nomeDel(const QString& titolo) {
     return nome;
 }
 
-/// Tells what the file has lost, before every recipient sees it. The body loses nothing.
+/// Reports what the file has lost, before every recipient sees it. The body loses nothing.
 void AvvisaCaratteri(const MessaggioMss& messaggio) {
     const QStringList oggetto = text::outsideAnsi(messaggio.Oggetto);
     const QStringList allegati = text::outsideAnsi(messaggio.Allegati.join(QString()));
@@ -46,7 +46,7 @@ void AvvisaCaratteri(const MessaggioMss& messaggio) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
-/// Tells of a body that has grown beyond what its readers take, while it is still here.
+/// Reports a body larger than its readers accept, while it is still in the editor.
 void AvvisaLimiti(const QString& corpo) {
     const Status leggibile = conAttesa([&] { return html::readable(corpo); });
     if (!leggibile.ok())
@@ -58,7 +58,7 @@ void AvvisaLimiti(const QString& corpo) {
 
 }  // namespace
 
-// There is no cancel: whatever is answered, here or in the file dialog, the command goes on.
+// There is no cancel: whatever the answer, here or in the file dialog, the command continues.
 void frmEditor::ChiediSalvataggio() {
     if (!IsModificato()) return;
     const int risposta =
@@ -79,7 +79,7 @@ MessaggioMss frmEditor::Testata() {
     return messaggio;
 }
 
-/// The message as it stands; none, after a notice, where the design view does not answer. The body is that of
+/// The current message; none, after a notice, where the design view does not answer. The body is that of
 /// the design view, whatever view is on show.
 std::optional<MessaggioMss> frmEditor::PrendiMessaggio() {
     const Result<QString> corpo = conAttesa([this] { return DHTML->documentHTML(); });
@@ -143,8 +143,8 @@ void frmEditor::SalvaMessaggioCome() {
                             ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
-/// What came in with a file that is not known stays so. A file that is written anew has been asked about for
-/// what lies apart all the same.
+/// Names that came from an unknown file still need confirmation. A file that is written again keeps what
+/// was confirmed for its path.
 void frmEditor::AnnotaNoto(const QByteArray& scritto, const MessaggioMss& messaggio) const {
     messaggiNoti::Noto noto{{}, messaggiNoti::Confermati(percorsoFile)};
     if (estraneo)
@@ -184,7 +184,7 @@ void frmEditor::RiconosciFile(const FileMss& file, const MessaggioLetto& letto) 
         if (!noto->daConfermare.contains(nominato)) propri << nominato;
 }
 
-/// The document on show goes only once the file is known to hold one that can take its place.
+/// The document on show is replaced only once the file is known to contain a valid one.
 void frmEditor::LeggiMessaggio(const QString& percorso) {
     const FileMss file = conAttesa([&] { return LeggiFileMss(percorso); });
     const MessaggioLetto letto = conAttesa([&] { return LeggiMss(file); });

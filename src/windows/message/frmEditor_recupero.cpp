@@ -71,7 +71,7 @@ void frmEditor::CopiaPrimaDiScrivere(const QString& corpo) {
     prosegui([&] { copia.Scrivi(DaRecuperare(corpo)); });
 }
 
-/// The file holds all that the copy does, unless a text of the source view has not moved yet.
+/// The file contains all of the copy, unless a text of the source view was not taken over yet.
 void frmEditor::CopiaDopoScrittura(const QString& corpo) {
     tempoCopia.stop();
     copiaDovuta = false;
@@ -88,7 +88,7 @@ void frmEditor::ButtaCopia() {
     copia.Togli();
 }
 
-/// A document goes. What was not saved of it stays in its copy, which nobody is offered before this program
+/// A document is left. What was not saved of it stays in its copy, which is not offered before this program
 /// has ended.
 void frmEditor::LasciaCopia() {
     static_cast<void>(DHTML->documentHTML());  // takes in the last change, if it can be had

@@ -1,4 +1,4 @@
-// Tells the user about damaged files of accepted messages.
+// The notice about damaged files of accepted messages.
 #pragma once
 
 /// Shows a box for each file that was put aside since the last call.

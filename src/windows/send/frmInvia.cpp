@@ -214,7 +214,7 @@ void frmInvia::CollegaEtichette() {
 }
 
 /// What has no label of its own is named by translated words: those of the dialog that it opens, or those
-/// that stand around it.
+/// around it.
 void frmInvia::NominaSenzaEtichetta() {
     cmdFile->setAccessibleName(bVAR::goApriEmail.isEmpty() ? Words::tr("Sfoglia il messaggio")
                                                            : bVAR::goApriEmail);
@@ -238,7 +238,7 @@ void frmInvia::CollegaEventi() {
     connect(SMTP, &mail::DeliveryControl::AwaitedEnded, this, [this] { evento([&] { FineInvio(); }); });
 }
 
-/// The labels' column holds seven figures from the start, so that the bars never move during a run.
+/// The labels' column has room for seven figures from the start, so that the bars never move during a run.
 void frmInvia::AllargaEtichette() {
     const QString cifre = ' ' + text::formatGrouped(9999999);
     int larghezza = 0;
@@ -261,7 +261,7 @@ void frmInvia::chkBlocco_Click() {
 
 void frmInvia::cmdChiudi_Click() {
     hide();
-    // What cannot be taken out of the selection now is remembered on.
+    // What cannot be deselected now stays remembered.
     Prosegui prosegui;
     prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); });
     if (nodoCorrente) RiempiGriglia();

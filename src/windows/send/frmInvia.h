@@ -45,7 +45,7 @@ class frmInvia : public ui::LateDialog {
     Q_OBJECT
 
   public:
-    /// `riempiGriglia` fills the grid anew with the recipients of the current node. Unguarded.
+    /// `riempiGriglia` refills the grid with the recipients of the current node. Unguarded.
     explicit frmInvia(std::function<void()> riempiGriglia, QWidget* parent = nullptr);
     ~frmInvia() override;
 
@@ -110,7 +110,7 @@ class frmInvia : public ui::LateDialog {
     void DipingiConteggi();
     void RaccontaConteggi(bool finito);
 
-    // frmInvia_suggerimenti.cpp: what tool tips and descriptions say more
+    // frmInvia_suggerimenti.cpp: the additional text of tool tips and descriptions
     void CollegaSuggerimenti();
     QString DettagliDaInviare() const;
     QString DettagliFallite() const;
@@ -171,5 +171,5 @@ class frmInvia : public ui::LateDialog {
     LimiteBlocco limite;
     QString cartelleScelte;    ///< folders of the selection with their counts, at the last SetPrgBar
     QDateTime inizioInvio;     ///< of the run
-    QDateTime ultimoRacconto;  ///< when assistive programs were told the figures last
+    QDateTime ultimoRacconto;  ///< when the figures were last reported to assistive programs
 };

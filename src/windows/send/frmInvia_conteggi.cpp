@@ -1,4 +1,4 @@
-// The figures of a run: on the screen before a wait, and told to assistive programs.
+// The figures of a run: on the screen before a wait, and reported to assistive programs.
 #include <array>
 
 #include "platform/system/Clock.h"
@@ -14,8 +14,8 @@ constexpr qint64 secondiTraAnnunci = 5;
 
 }  // namespace
 
-/// The wait of the block limit holds the window: what it shows meanwhile is what was painted before. No event
-/// is taken here.
+/// The wait of the block limit blocks the window: it shows meanwhile what was painted before. No event
+/// is processed here.
 void frmInvia::DipingiConteggi() {
     for (QWidget* conteggio :
          std::array<QWidget*, 6>{lblDaInviare, prgDaInviare, lblFallite, prgFallite, lblInviate, prgInviate})

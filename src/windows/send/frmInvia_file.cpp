@@ -1,4 +1,4 @@
-// The message file and what it carries away: what is picked, asked about, and read for the run.
+// The message file and the files it sends: what is picked, asked about, and read for the run.
 #include <algorithm>
 #include <QLineEdit>
 #include <QPushButton>
@@ -29,7 +29,7 @@ bool Stessa(const FonteMss& una, const FonteMss& altra) {
     return una.percorso == altra.percorso && una.impronta == altra.impronta;
 }
 
-/// The user agreed to send these files with a message file, for as long as that is as it is now. What else it
+/// The user agreed to send these files with a message file, for as long as that is unchanged. What else it
 /// names is asked about when it is there. `nominati`: all that it names.
 void Ricorda(FonteMss& fonte, const QList<FileInPartenza>& concessi, const QStringList& nominati) {
     if (fonte.impronta.isEmpty()) return;
@@ -67,7 +67,7 @@ QString frmInvia::FileMessaggio() const {
 }
 
 /// Asks about the files that the run would carry away and that the user has not agreed to yet; false where he
-/// does not. What is judged is what the run then uses: the bytes of the message file as they were read, the
+/// does not. What is checked is what the run then uses: the bytes of the message file as they were read, the
 /// body of goDHTML, and the files that their links lead to now.
 bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
     const QString corpo = goDHTML.documentHTML();
@@ -81,7 +81,7 @@ bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
     if (chiesti.isEmpty() && chieste.isEmpty()) return true;
 
     // In a file that is known they are asked about because of where they lie, once. Of any other the user
-    // says how long his answer holds.
+    // says how long his answer counts.
     const bool unaVolta = (chiesti.isEmpty() || fonte.noto) && (chieste.isEmpty() || fonteCorpo.noto) &&
                           std::ranges::all_of(chiesti + chieste, &FileInPartenza::riposto);
     ui::ListQuestion::Content domanda = DomandaFile(

@@ -60,7 +60,7 @@ void frmInvia::CaricaDati() {
     cmdInvia->setDefault(true);
     txtFile->setFocus();
     NominaSenzaEtichetta();
-    // Lists that were never shown do not tell their layout what has been put into them.
+    // Lists that were never shown do not report their new content to their layout.
     layout()->invalidate();
     layout()->activate();
     resize(size().expandedTo(sizeHint()));
@@ -71,7 +71,7 @@ void frmInvia::CaricaAccount() {
     const bool letto = ::CaricaAccount(
         cartellaDati() + "Account.imp", account,
         [this](const Account& uno, int numero) { cmbAccount->addItem(VoceAccount(uno), numero); });
-    // The list takes its first entry by itself; the one to choose is the account numbered 0.
+    // The list chooses its first entry by itself; the one to choose is the account numbered 0.
     if (letto)
         cmbAccount->setCurrentIndex(cmbAccount->findText(VoceAccount(account.front()), Qt::MatchExactly));
 }
@@ -86,7 +86,7 @@ void frmInvia::CaricaPausa() {
 
 void frmInvia::CaricaTimeout() {
     cmbTimeout->clear();
-    // Two blanks behind the 5: the value is read back from the first three characters.
+    // Two blanks after the 5: the value is read back from the first three characters.
     for (const char* scelta : {"5  ", "10 ", "20 ", "30 ", "60 "})
         cmbTimeout->addItem(scelta + bVAR::goSecondi);
     cmbTimeout->setCurrentIndex(0);
@@ -121,7 +121,7 @@ void frmInvia::cmdInvia_Click() {
         return;
     }
     UsaMessaggio(letto);
-    // The body goes out as it stood when the file was picked; what the file holds now is not looked at.
+    // The body is sent as it was when the file was picked; the file's present content is ignored.
     corpoHtml = goDHTML.documentHTML();
     CorpoTesto = goDHTML.bodyInnerText();
     ImpostaConsegna(prosegui, indiceAccount);
@@ -162,8 +162,8 @@ bool DiscoPienoPrimaDellInvio() {
 
 }  // namespace
 
-/// Sees to it that nobody whom an earlier run served is served again: no other process is sending, whoever is
-/// remembered leaves the selection, and there is room to remember those of this run. Otherwise nothing has
+/// Ensures that no recipient of an earlier run is served again: no other process is sending, those who are
+/// remembered leave the selection, and there is room to remember those of this run. Otherwise nothing has
 /// changed.
 bool frmInvia::PreparaElenco() {
     const auto avvisa = [](const QString& testo) {
@@ -206,7 +206,7 @@ bool frmInvia::PreparaElenco() {
     return true;
 }
 
-/// Tells of a key that cannot sign before a whole run goes out without a signature.
+/// Reports a key that cannot sign before a whole run goes out without a signature.
 void frmInvia::AvvisaFirma() {
     const Account& mittente = account.at(cmbAccount->currentData().toInt());
     const Status firma = mail::DkimSigner::usable(cartellaDati() + "dkim", mittente.txtEmail);
@@ -216,7 +216,7 @@ void frmInvia::AvvisaFirma() {
             MessageDialog::Notice, bVAR::Attenzione);
 }
 
-/// Other processes may send again, once nothing of this run can come any more.
+/// Other processes may send again, once no reply of this run can arrive any more.
 void frmInvia::FineInvio() {
     if (nelGiro || tmr->isActive() || SMTP->Awaiting()) return;
     invioInCorso.release();

@@ -1,4 +1,4 @@
-// What tool tips and descriptions say more of the counts. Nothing is read before somebody asks.
+// Tool tips and descriptions of the counts. Nothing is read before one is requested.
 #include <cmath>
 
 #include "modules/send/MotivoEsito.h"
@@ -32,7 +32,7 @@ void frmInvia::CollegaSuggerimenti() {
     prgFallite->hint.set(fallite);
 }
 
-/// The folders of the selection, and how long the rest of the run takes if it goes on as it did.
+/// The folders of the selection, and how long the rest of the run takes at its speed so far.
 QString frmInvia::DettagliDaInviare() const {
     QStringList dettagli;
     if (!cartelleScelte.isEmpty()) dettagli << cartelleScelte;

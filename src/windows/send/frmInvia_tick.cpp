@@ -28,7 +28,7 @@ void AggiornaEtichetta(QLabel* etichetta, double n) {
 
 }  // namespace
 
-/// One recipient: read his row, hand his copy over, wait for the outcome, count it, arm the timer for the
+/// One recipient: read his row, submit his copy, wait for the outcome, count it, arm the timer for the
 /// next one. The row is read on a recordset that is closed before the delivery starts; a failure of any
 /// statement leaves what it would have set as it was and never ends the run.
 void frmInvia::tmr_Timer() {
@@ -76,7 +76,7 @@ void frmInvia::tmr_Timer() {
     }
 }
 
-/// Personalises the message for the recipient that is next and gives his number, if it can be read.
+/// Personalises the message for the next recipient and returns his number, if it can be read.
 std::optional<qint32> frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     std::optional<qint32> idDestinatario;
     SMTP->Database = percorsoDB;
@@ -101,7 +101,7 @@ std::optional<qint32> frmInvia::LeggiDestinatario(Prosegui& prosegui) {
     return idDestinatario;
 }
 
-/// Turns the event loop between its tests, so that the window lives and the outcome arrives in either order.
+/// Runs events between its tests, so that the window responds and the outcome arrives in either order.
 void frmInvia::AttendiEsito() {
     while (!mailInviata && !fermaInvio && !mailFallita)
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);

@@ -65,13 +65,13 @@ void frmMain::Carica() {
     SvuotaGriglia();
     RilevaTema(this);
     ImpostaColori();
-    // Without a layout that can be read the bars and panes stand as they were designed.
+    // Without a readable layout the bars and panes keep their design.
     static_cast<void>(pannelli.loadLayout(fileDisposizione()));
     // From here on it exists, hidden, and is never unloaded.
     vicini.CreaEditor();
     vicini.CaricaLingua();
     vicini.posizione.carica(*this);
-    // The installed placement is nobody's choice; a saved one stands as it was saved, on any screen.
+    // The installed placement is no user's choice; a saved one is applied unchanged, on any screen.
     if (sys::programFolderIsNew()) ui::bringIntoReach(*this);
     vicini.RiprendiPosizione();
     TitoloPrincipale(*this);

@@ -26,14 +26,14 @@ class DataGrid;
 class FindBar;
 }  // namespace ui
 
-/// What every command has at hand, used or not; it is gone when the command is done, so that no cursor
+/// What every command can use; it is destroyed when the command is done, so that no cursor
 /// outlives it.
 struct AccessoComando {
     ado::Recordset rs;     ///< static cursor, server side, optimistic lock, on connDB
     ado::Command comando;  ///< text, no time-out, not prepared, on connDB
 };
 
-/// The main window: the doorway to everything else. It holds the menus and bars, the grid of recipients and
+/// The main window. It contains the menus and bars, the grid of recipients and
 /// the pane of the groups. All of its commands come through ComandoPremuto, but for those of the menu
 /// "Strumenti", each of which has its own handler.
 class frmMain : public QMainWindow {
@@ -44,7 +44,7 @@ class frmMain : public QMainWindow {
     /// Unguarded.
     using Apertura = std::function<void()>;
 
-    /// A command of the menu "Strumenti". The caption holds its mnemonic; the icon is a name of the icon
+    /// A command of the menu "Strumenti". The caption contains its mnemonic; the icon is a name of the icon
     /// theme.
     struct Strumento {
         QString nome;
@@ -59,7 +59,7 @@ class frmMain : public QMainWindow {
 
     /// What the window needs of others. Each of them is made when it is first named.
     struct Vicini {
-        std::function<frmSplash&()> Splash;  ///< loads it anew after it was unloaded
+        std::function<frmSplash&()> Splash;  ///< reloads it after it was unloaded
         std::function<void()> ScaricaSplash;
         std::function<void()> CreaEditor;    ///< makes it, hidden
         std::function<void()> CaricaLingua;  ///< unguarded
@@ -81,7 +81,7 @@ class frmMain : public QMainWindow {
     explicit frmMain(Vicini intorno);
 
     /// The load of the window, run once by the first mention: splash, theme, layout, editor, language,
-    /// placement, group tree. Unguarded: what stands behind a failed step does not run.
+    /// placement, group tree. Unguarded: what follows a failed step does not run.
     void Carica();
 
     ui::CommandBars& Commands() { return *barre; }
@@ -98,7 +98,7 @@ class frmMain : public QMainWindow {
     /// runs, further ones are ignored.
     void ComandoPremuto(const QString& nome);
 
-    /// Shows in the status bar what is waited for; an empty text brings back what stood there.
+    /// Shows in the status bar what is waited for; an empty text restores the previous one.
     void MostraAttesa(const QString& testo);
 
     /// The grid without rows; it stays so until a group is clicked.
@@ -117,14 +117,14 @@ class frmMain : public QMainWindow {
     /// Makes another database the current one: path file, connection text, no current node, and an empty grid
     /// that is bound to it.
     void CambiaDatabase(const QString& percorso);
-    /// Turns the commands that stand on a bar and in a pop-up menu on or off. To be called after nodoCorrente
+    /// Enables or disables the commands of both a bar and a pop-up menu. To be called after nodoCorrente
     /// or the rows of the grid have changed.
     void AggiornaComandi();
 
     // frmMain_barre.cpp: menus, bars, status bar
     void CreaComandi();
     void CreaMenu();
-    /// Adds the commands of the menu "Strumenti"; gives its items.
+    /// Adds the commands of the menu "Strumenti"; returns its items.
     QStringList CreaStrumenti();
     void CreaBarre();
     void CreaBarraStato();

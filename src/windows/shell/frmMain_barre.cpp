@@ -1,4 +1,4 @@
-// The commands of the main window and where they stand: menus, tool bars, pop-up menus, status bar.
+// The commands of the main window and their places: menus, tool bars, pop-up menus, status bar.
 #include <QLocale>
 #include <QMenuBar>
 #include <QShortcut>
@@ -21,7 +21,7 @@ namespace {
 using Tasti = QList<QKeySequence>;
 constexpr auto dalMenu = ui::CommandDesign::Scope::Popup;
 
-// In the order of the menus. A command with keys of `dalMenu` hears them only where a pop-up offers it.
+// In the order of the menus. A command with keys of `dalMenu` reacts to them only where a pop-up offers it.
 std::vector<ui::CommandDesign> comandiDeiMenu() {
     return {
         {"cmdFileAccount", "Imposta &Account", "Imposta Account", "user-properties",
@@ -172,7 +172,7 @@ void frmMain::AggiornaData() {
     barre->GetStatic("stcData")->setText(QLocale().toString(sys::clock().now().date(), QLocale::LongFormat));
 }
 
-/// The two commands of the pop-up menus that stand on a bar as well are off there wherever no key starts
+/// The two commands that are in the pop-up menus and on a bar are disabled there wherever no key starts
 /// them, so that they never meet an empty nodoCorrente, nor a group that is not the one shown as selected.
 void frmMain::AggiornaComandi() {
     auto* gruppi = static_cast<frmGruppi*>(pannelli.DockWindows("dckGruppi")->content());

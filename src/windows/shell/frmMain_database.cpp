@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Copies a database as it is between two changes. Nothing of what stood under the new name is lost before
+/// Copies a database as it is between two changes. No file under the new name is lost before
 /// the copy is complete.
 void CopiaDatabase(const QString& sorgente, const QString& destinazione) {
     const auto database =
@@ -35,7 +35,7 @@ std::optional<QString> frmMain::ChiediDatabase() {
 }
 
 void frmMain::CambiaDatabase(const QString& percorso) {
-    // The files that are kept open are let go, so that the old one can be moved or its disk taken away.
+    // The files that are kept open are closed, so that the old one can be moved or its disk taken away.
     ado::closeAll();
     CambiaPercorsoDBase(percorso);
     // The number of a group of the old database may be that of another one in the new.
@@ -56,7 +56,7 @@ void frmMain::ApriDatabase() {
             ui::MessageDialog::show("Formato file errato", ui::MessageDialog::Notice, "Attenzione");
         PuntatorePredefinito();
     }
-    // The tree is built anew after a cancel or a refusal as well.
+    // The tree is rebuilt after a cancel or a refusal as well.
     prosegui([this] { Gruppi().CaricaGruppiINI(); });
 }
 

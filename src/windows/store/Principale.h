@@ -12,7 +12,7 @@ class DataControl;
 class DataGrid;
 }  // namespace ui
 
-/// What the tree, the grid and their commands need of the main window that they stand in. It hands this out
+/// What the tree, the grid and their commands need of their main window. It passes this on
 /// when it makes them, and outlives them. Each of the three calls the others: a click on the tree fills the
 /// grid, a drop from the grid changes the tree, and what commands can be started depends on both.
 struct Principale {

@@ -136,7 +136,7 @@ void TrovaDestinatari::Vai(Meta nuova) {
     Racconta();
 }
 
-/// What the grid still holds is not what the folder has.
+/// The rows of the grid are not those of the folder.
 bool TrovaDestinatari::NonLetta() const {
     return !principale.grd.Notice().isEmpty();
 }
@@ -162,7 +162,7 @@ int TrovaDestinatari::RigaDella(Meta quale) const {
     return 0;
 }
 
-/// Goes as far as what is found by now allows; the next part of a search goes on.
+/// Goes as far as the matches so far allow; the next part of a search continues.
 void TrovaDestinatari::Avvicina() {
     if (meta == Meta::Nessuna) return;
     if (ovunque && connessione != connDB) {
@@ -216,7 +216,7 @@ bool TrovaDestinatari::AllaCartella(bool indietro) {
     return !riuscito || aperta;
 }
 
-/// A wait that is over at once is not told.
+/// A short wait is not reported.
 bool TrovaDestinatari::Bloccata() const {
     constexpr int taciute = 5;
     return respinte > taciute;

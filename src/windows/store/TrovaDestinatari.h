@@ -15,7 +15,7 @@ class FindBar;
 class GridSearch;
 }  // namespace ui
 
-/// What stands behind the bar that finds recipients: in the folder that the grid shows, or everywhere. As one
+/// The search of the bar that finds recipients: in the folder that the grid shows, or everywhere. As one
 /// types, the first match of the folder becomes the current row and the counts come in; going on past the
 /// last match of the folder opens the next one that has some, by what a click on it does. Nothing is written.
 class TrovaDestinatari : public QObject {
@@ -28,11 +28,11 @@ class TrovaDestinatari : public QObject {
 
     TrovaDestinatari(const Principale& finestra, ui::FindBar& barra, QObject* parent);
 
-    /// Opens the bar, or goes back to it; what it looks for is looked for anew.
+    /// Opens the bar, or goes back to it; what it looks for is searched again.
     void Apri();
 
   private:
-    /// The row that is gone to as soon as it is found.
+    /// The row to go to as soon as it is found.
     enum class Meta { Nessuna, Prima, Successiva, Precedente, PrimaDiCartella, UltimaDiCartella };
 
     void Cambiato();

@@ -13,7 +13,7 @@ class PropertyList;
 }
 
 /// The form in which one recipient is added to the current group or the recipient of the grid's current row
-/// is edited. Whoever shows it sets the captions, the two numbers and `modo` beforehand.
+/// is edited. The caller sets the captions, the two numbers and `modo` before showing it.
 class frmDestinatario : public ui::LateDialog {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ class frmDestinatario : public ui::LateDialog {
     void reject() override {}
 
     bool salvataggioFallito =
-        false;              ///< what the last opening ended with; the items hold what was not stored
+        false;              ///< how the last opening ended; where it was not saved, the items keep the texts
     std::int16_t modo = 0;  ///< 0 a new recipient, 1 an edited one
     QLineEdit* txtIDuser;   ///< hidden: number of the edited recipient
     QLineEdit* txtIDgroup;  ///< hidden: number of the group
@@ -47,7 +47,7 @@ class frmDestinatario : public ui::LateDialog {
     void CreaVoci();
 
     QStringList
-        didascalie;  ///< of the items, in the order of the form, as they stood when the window was made
+        didascalie;  ///< of the items, in the order of the form, as they were when the window was made
 
     // frmDestinatario_salva.cpp
     bool ValidaCampi();

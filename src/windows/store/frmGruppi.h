@@ -22,7 +22,7 @@ class frmGruppi : public QWidget {
   public:
     explicit frmGruppi(const Principale& finestra, QWidget* parent = nullptr);
 
-    /// Builds the tree anew from the database. When the database cannot be used the user is asked for another
+    /// Rebuilds the tree from the database. When the database cannot be used the user is asked for another
     /// one, until the tree is there; a refusal, or a file that is no recipient database, ends the program.
     void CaricaGruppiINI();
     /// What a click on the tree does: loads the children of the selected node and fills the grid with the
@@ -34,13 +34,13 @@ class frmGruppi : public QWidget {
     void CaricaSottogruppi(const QString& chiave);
     /// Adds a node for the group as the last child of a node. Unguarded.
     void AggiungiNodo(const QString& chiavePadre, const QString& id, const QString& nome);
-    /// Clicks the last of these nodes, which stand one below the other from the root on; where a level is not
+    /// Clicks the last of these nodes, each a child of the one before, from the root on; where a level is not
     /// as it was, the last one that is there. Unguarded.
     void Apri(const QStringList& chiavi);
     /// Name of the pop-up menu whose commands keys and bar buttons start at this moment; empty for none, also
     /// where the current node is not the one that the tree shows as selected.
     QString MenuOra() const;
-    /// From here on no node is current or was clicked: another database took the place of theirs.
+    /// Forgets the current and the clicked node: another database took the place of theirs.
     void DimenticaNodo();
     /// Loads the level of a node again if the last click on it could not. Unguarded.
     void CompletaLivello(const QString& chiave);

@@ -21,7 +21,7 @@ namespace {
 
 using ui::MessageDialog;
 
-/// Adds a group to the table. Its number is known before the row is posted. Gives it as text.
+/// Adds a group to the table. Its number is known before the row is posted. Returns it as text.
 QString AggiungiGruppo(ado::Recordset& rs, const QString& chiavePadre, const QString& nome) {
     rs.setSource("SELECT * FROM [tb_gruppi];");
     esigi(rs.open());

@@ -48,7 +48,7 @@ void frmGruppi::TagliaGruppo() {
         Words::tr("Cartella da spostare: %1. Ctrl+V su un'altra cartella la sposta").arg(nodoCorrente->Text));
 }
 
-/// The mark goes with the move, whatever comes of it.
+/// The move removes the mark, even where it fails.
 void frmGruppi::Incolla() {
     if (!tagliato || MenuOra().isEmpty()) return;
     const Taglio taglio = *tagliato;

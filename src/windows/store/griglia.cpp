@@ -29,7 +29,7 @@ using griglia::colonnaEmail;
 using griglia::colonnaId;
 using griglia::colonnaSel;
 
-// Where a fill has put them: in the order of the table, behind the leading column.
+// Where a fill has put them: in the order of the table, after the leading column.
 constexpr int colonnaEmailInTabella = 3 + schema::email;
 constexpr int colonnaSelInTabella = schema::colonneDestinatari.size();
 
@@ -93,7 +93,7 @@ void grd_DblClick() {
     if (grd().Row() >= 1 && grd().Col() != colonnaSel) comandiDestinatario::Modifica();
 }
 
-/// Tells in the status bar what a heading's arrow shows.
+/// Says in the status bar what a heading's arrow shows.
 void grd_OrderChanged() {
     const auto& ordine = grd().sorted();
     QString testo = Words::tr("Ordine dell'elenco");
@@ -144,7 +144,7 @@ void griglia::Collega(const Principale& finestra) {
     DataGrid* grd = &finestra.grd;
     collegata.emplace(finestra);
     QObject::connect(grd, &QObject::destroyed, grd, [] { collegata.reset(); });
-    // Behind the leading column in the order of schema::colonneDestinatari.
+    // After the leading column in the order of schema::colonneDestinatari.
     std::vector<int> larghezze{0,   0,   0,   200, 140, 120, 170, 64,  130, 52,  110, 110,
                                230, 120, 120, 120, 120, 120, 120, 120, 120, 120, 56};
     for (int& larghezza : larghezze)
@@ -208,7 +208,7 @@ void griglia::ScegliRiga(const QString& id) {
 
 QString griglia::idCorrente() {
     QString id = grd().TextMatrix(grd().Row(), colonnaId);
-    // Anything else (the heading, an emptied cell) would turn the statement it goes into to other rows.
+    // Anything else (the heading, an emptied cell) would make its statement change other rows.
     bool numero = false;
     static_cast<void>(id.toLong(&numero));
     if (!numero) fallisci(ErrorCode::TypeMismatch);

@@ -18,7 +18,7 @@ struct Principale;
 /// its own: each write goes to the table as a statement, and the cell on the screen is changed to match.
 namespace griglia {
 
-// The columns of the grid, once they were rearranged after a fill: behind the leading one the recipient's
+// The columns of the grid, once they were rearranged after a fill: after the leading one the recipient's
 // number, "sel", the address, the number of the group, then the other texts in the order of the table.
 inline constexpr int colonnaId = 1;
 inline constexpr int colonnaSel = 2;
@@ -46,14 +46,14 @@ frmDestinatario& Destinatario();
 void RiempiGriglia();
 /// Number of the group with which the grid was filled last.
 std::int32_t CartellaMostrata();
-/// Fills the grid anew with what its data control asked for last. Unguarded.
+/// Refills the grid with what its data control asked for last. Unguarded.
 void RinfrescaGriglia();
 
-/// To be called when a click on a node could not fill the grid: says so over the rows that it still holds.
+/// To be called when a click on a node could not fill the grid: says so over the rows that it still shows.
 void SegnaNonLetta();
-/// Sees that the sentence over an empty grid is true: an import adds rows behind its back.
+/// Updates the sentence over an empty grid: an import adds rows without the grid.
 void AggiornaFrase();
-/// Marks the current row as one that is to move; gives the recipient's address.
+/// Marks the current row as one that is to move; returns the recipient's address.
 QString SegnaRiga();
 /// Makes the recipient's row the current one, if the grid shows it.
 void ScegliRiga(const QString& id);

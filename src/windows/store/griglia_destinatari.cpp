@@ -20,8 +20,8 @@ frmDestinatario& Intitola(const QString& titolo) {
     return finestra;
 }
 
-/// Shows the form, and again with all that it holds as long as its saving failed. The grid then shows values
-/// that are not stored: it is filled anew in between.
+/// Shows the form, and again with its content as long as saving failed. The grid then shows values
+/// that are not stored: it is refilled in between.
 void Mostra(frmDestinatario& finestra) {
     finestra.exec();
     while (finestra.salvataggioFallito) {

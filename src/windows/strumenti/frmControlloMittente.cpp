@@ -101,7 +101,7 @@ void frmControlloMittente::RiempiRighe() {
 }
 
 void frmControlloMittente::ScriviRiga(int riga) {
-    if (riga >= grdRighe->rowCount()) return;  // told before the lines were put up
+    if (riga >= grdRighe->rowCount()) return;  // reported before the lines were shown
     const RigaControllo& contenuto = controllo.Righe().at(static_cast<std::size_t>(riga));
     const bool interrotta = contenuto.semaforo == Semaforo::Attesa && !controllo.InCorso();
     grdRighe->item(riga, 0)->setText(contenuto.controllo);

@@ -23,8 +23,8 @@ class frmControlloMittente : public QDialog {
   public:
     explicit frmControlloMittente(QWidget* parent = nullptr);
 
-    /// Reads the accounts anew. A file that is missing or damaged gives those before the damage, or none,
-    /// which the window says.
+    /// Reads the accounts again. A file that is missing or damaged yields those before the damage, or none,
+    /// which the window reports.
     void CaricaDati();
 
     /// Esc: ends the check; the window stays.
@@ -50,7 +50,7 @@ class frmControlloMittente : public QDialog {
     void MostraDettagli();
     void Finito();
     void AbilitaControlli();
-    /// Says it to the eye and to assistive programs.
+    /// Shows it and reports it to assistive programs.
     void Avvisa(const QString& frase);
     const Account* Scelto() const;
     QString Rapporto() const;

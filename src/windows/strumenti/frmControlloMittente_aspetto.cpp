@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Lines of text that are broken stand apart from those of the next row.
+/// Wrapped lines of text keep a distance from those of the next row.
 class RigheStaccate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -20,7 +20,7 @@ class frmEsiti : public QDialog {
     Q_OBJECT
 
   public:
-    /// `riempiGriglia` fills the grid anew after the selection was changed. Unguarded.
+    /// `riempiGriglia` refills the grid after the selection was changed. Unguarded.
     explicit frmEsiti(std::function<void()> riempiGriglia, QWidget* parent = nullptr);
 
     /// Reads which runs there are, and shows the newest.

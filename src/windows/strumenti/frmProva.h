@@ -28,7 +28,7 @@ class Announcer;
 class TabStrip;
 }  // namespace ui
 
-/// "Prova messaggio": a message as one selected recipient will get it, what is to be said against it, and a
+/// "Prova messaggio": a message as one selected recipient will get it, what is wrong with it, and a
 /// copy of it to an address of the user's.
 ///
 /// Nothing is written but the list of known message files, where the user agrees to carry files away. The
@@ -47,15 +47,15 @@ class frmProva : public QDialog {
     explicit frmProva(Vicini intorno, QWidget* parent = nullptr);
     ~frmProva() override;
 
-    /// Reads files, accounts and selection anew; to be called before the window is shown. Passes over every
-    /// failure; what is missing is told in the window.
+    /// Reads files, accounts and selection again; to be called before the window is shown. Ignores every
+    /// failure; what is missing is shown in the window.
     void Carica();
 
     /// Esc: gives up a test copy that is under way, otherwise leaves the window.
     void reject() override;
 
   protected:
-    /// The title bar leaves the window as its button does, whatever is under way.
+    /// The title bar leaves the window as its button does, whatever is running.
     void closeEvent(QCloseEvent* chiusura) override;
 
   private:
@@ -81,7 +81,7 @@ class frmProva : public QDialog {
     void Cerca();
     void ContinuaRicerca();
 
-    // frmProva_rilievi.cpp: what is to be said against it
+    // frmProva_rilievi.cpp: the findings
     void IniziaControllo();
     void ContinuaControllo();
     void MostraRilievi();

@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds fetta{15};  // of a search, before the window is served again
+constexpr std::chrono::milliseconds fetta{15};  // of a search, before the window processes events again
 
 QString conta(qint64 n) {
     return text::formatGrouped(static_cast<double>(n));
@@ -42,7 +42,7 @@ void frmProva::CaricaFile() {
     cmbFile->clear();
     for (const QString& percorso : file)
         cmbFile->addItem(NomeDaPercorso(percorso) + "  –  " + PercorsoMostrato(percorso));
-    // What the editor has now goes before what was looked at last.
+    // The editor's current file takes precedence over the last one shown.
     cmbFile->setCurrentIndex(file.isEmpty() ? -1 : 0);
     if (vicini.FileEditor().isEmpty() && file.contains(scelto))
         cmbFile->setCurrentIndex(static_cast<int>(file.indexOf(scelto)));
@@ -90,7 +90,7 @@ void frmProva::UsaFile() {
     AbilitaInvio();
 }
 
-/// Shows the copy of the recipient that stands there in the order of a run, the nearest one where there is
+/// Shows the copy of the recipient at that position in the order of a run, the nearest one where there is
 /// none; the template itself without a selection.
 void frmProva::MostraDestinatario(qint64 nuova) {
     if (!modello) return;
@@ -160,8 +160,8 @@ QString frmProva::DimensioneMessaggio(const CopiaProva& mostrata) const {
     return Words::tr("Messaggio intero: %1.").arg(QLocale().formattedDataSize(composto.value().text.size()));
 }
 
-/// Looks for the text in every column of the selected recipients, from the one behind that on show on, round
-/// the end; no case.
+/// Looks for the text in every column of the selected recipients, starting after the one on show, wrapping at
+/// the end; case-insensitive.
 void frmProva::Cerca() {
     if (!modello || selezionati < 1 || txtCerca->text().isEmpty()) return;
     Prosegui prosegui;

@@ -108,7 +108,7 @@ void frmProva::cmdInviaProva_Click() {
     prova->Send();
 }
 
-/// To the exchanger of the domain once it is known. What there is to say of a domain without one comes with
+/// To the exchanger of the domain once it is known. The reason of a domain without one comes with
 /// the outcome.
 void frmProva::InviaDiretta(const QByteArray& dominio) {
     ricercaMX.Avvia(dominio, [this](const ServerMX& trovato) {
@@ -119,7 +119,7 @@ void frmProva::InviaDiretta(const QByteArray& dominio) {
     });
 }
 
-/// Asks about files that the user has not agreed to send; false where he does not. His answer holds for this
+/// Asks about files that the user has not agreed to send; false where he does not. His answer counts for this
 /// copy alone.
 bool frmProva::ChiediFile() {
     const QList<FileInPartenza> tutti = modello->inPartenza();

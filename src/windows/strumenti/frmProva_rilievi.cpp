@@ -1,4 +1,4 @@
-// The list of what is to be said against the message.
+// The list of the findings about the message.
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
