@@ -13,7 +13,7 @@
 #include "windows/entry/TastoGuida.h"
 
 int main(int argc, char** argv) {
-    QApplication::setApplicationName(prodotto::nome());  // known to whoever asks the application for it
+    QApplication::setApplicationName(prodotto::nome());  // before anything asks for it
     QApplication programma(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("vestrola"));  // its window gets the menu's icon
     ui::setUpDesktop(programma);

@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// The walls around a program that reads foreign files: whoever takes such a reader over by a made-up file is
-/// left with what stands open already.
+/// The sandbox of a process that reads foreign files: whoever takes the reader over by a crafted file
+/// reaches only what is open already.
 namespace walls {
 
 struct Raised {
@@ -24,7 +24,7 @@ Raised limitOnly();
 /// that Outlook writes are loaded now and no file at all can be opened any more. Needs one thread.
 Raised raise(Raised limits);
 
-/// The folder of libc's character sets, as this libc finds it; empty where that cannot be told.
+/// The folder of libc's character sets, as this libc finds it; empty where that is unknown.
 std::string characterSets();
 
 }  // namespace walls

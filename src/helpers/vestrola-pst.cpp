@@ -1,6 +1,6 @@
 // vestrola-pst FILE: prints the contacts of the default contacts folder of an Outlook data file, in the form
-// that platform/contacts/HelperOutput.h tells. A process of its own, because the library that reads such
-// files can be brought down by a damaged one: whatever was printed before counts. Exit status 0 after the
+// that platform/contacts/HelperOutput.h defines. A process of its own, because the library that reads such
+// files can crash on a damaged one: what was printed before counts. Exit status 0 after the
 // last entry, 1 where there is no such folder.
 #include <cstdio>
 #include <cstring>
