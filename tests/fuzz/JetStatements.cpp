@@ -10,7 +10,7 @@ namespace exercise {
 namespace {
 
 constexpr int mostRows = 5000;
-constexpr size_t mostColumns = 4;  ///< of each table, get statements of their own
+constexpr size_t mostColumns = 4;  ///< columns of each table that get statements of their own
 
 QString connection(const QString& file) {
     return QStringLiteral("Data Source = %1;;Jet OLEDB:Database Password=password").arg(file);

@@ -11,11 +11,11 @@ namespace exercise {
 
 namespace {
 
-// Bounds what one input may cost; a loop in the file would run into the time limit before.
+// Bounds the cost of one input; a loop in the file would reach the time limit earlier.
 constexpr size_t mostRows = 20000;
 constexpr size_t mostChanged = 4;
 
-// Something that fits a column.
+// A value that fits a column.
 jet::Value someValue(const jet::Column& column, size_t length) {
     switch (column.type) {
         case jet::Type::Text:

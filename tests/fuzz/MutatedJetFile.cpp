@@ -40,7 +40,7 @@ void require(bool fine) {
     if (!fine) std::abort();
 }
 
-// The disk is no part of what is tried here, and syncing it would take nearly all the time.
+// The disk is not tested here, and syncing would take nearly all the time.
 jet::DiskStep::Outcome withoutSync(const jet::DiskStep& step) {
     const bool sync = step.kind == jet::DiskStep::Kind::Sync || step.kind == jet::DiskStep::Kind::SyncFolder;
     return sync ? jet::DiskStep::Outcome::Skip : jet::DiskStep::Outcome::Proceed;

@@ -8,24 +8,24 @@
 /// Jet files for fuzzing: sound ones with patches over them.
 namespace mutated {
 
-/// Where the file lies while one input is tried; each process has its own.
+/// Path of the file while one input is tried; each process has its own.
 std::string fileName();
 void removeFiles();
 
 using Files = std::vector<std::string>;
 /// The contents of sound files that are made here.
 const Files& soundFiles();
-/// Those of the samples of the shared folder up to that length, by name; none where they are not at hand.
+/// Those of the samples of the shared folder up to that length, by name; none where they are missing.
 Files samples(uintmax_t longest);
 
-/// From here on the files are not synced, since the disk is no part of what is tried.
+/// From now on the files are not synced, since the disk is not tested.
 void leaveOutSyncs();
 
-/// Writes the file that an input stands for, in place of one that was there, and leaves out syncs.
+/// Writes the file that an input describes, over an existing one, without syncs.
 ///
 /// The first byte of the input chooses a sound file, then patches of four bytes (page, u16 offset, value) are
-/// put over it; so most inputs come far. Below 80 the file is one made here; from 80 on it is a sample of the
-/// shared folder, where that is at hand. First byte FF: the rest is the file itself.
+/// applied to it; so most inputs get past the first checks. Below 80 the file is one made here; from 80 on it
+/// is a sample of the shared folder, where that is at hand. First byte FF: the rest is the file itself.
 void writeFile(std::span<const uint8_t> input);
 
 }  // namespace mutated

@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (content.entries.size() > content.room || content.room > mail::mostAccepted) std::abort();
     for (const auto& [slot, entry] : content.entries) {
         const qsizetype place = (slot + 1) * mail::AcceptedEntry::size;
-        // What is taken for an entry is written back as it stood.
+        // What is read as an entry is written back unchanged.
         if (file.sliced(place, mail::AcceptedEntry::size) != entry.bytes()) std::abort();
     }
     return 0;

@@ -1,4 +1,4 @@
-// An account file with any bytes. What could be read must come back the same after it was written again.
+// An account file with any bytes. What could be read is the same after it was written and read again.
 #include <cstdint>
 #include <cstdlib>
 #include <QFile>

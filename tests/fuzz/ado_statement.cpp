@@ -26,8 +26,8 @@ class List {
 
     QString connection() const { return QStringLiteral("Data Source = ") + path(); }
 
-    /// Nothing but the list, and a journal that keeps room for it, lies in the folder, and both tables can be
-    /// read to their ends.
+    /// The folder contains only the list and a journal that reserves room for it, and both tables can be read
+    /// to their ends.
     void check() {
         QStringList files = QDir(m_folder.path()).entryList(QDir::Files);
         if (files.removeOne(QStringLiteral("lista.mdb-journal")))

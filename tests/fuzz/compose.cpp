@@ -1,5 +1,5 @@
-// What users and databases put into a message: the values, parted by FF. In a value FE and two octets are one
-// UTF-16 unit, so that broken characters can be had. The first octet says what else the message carries.
+// What users and databases put into a message: the values, separated by FF. In a value FE and two octets are
+// one UTF-16 unit, so that broken characters are possible. The first octet says what else the message has.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -72,7 +72,7 @@ mail::MessageData messageFrom(const QByteArray& bytes, const Files& files) {
     return message;
 }
 
-// An address that is refused gives way to a good one, so that the other values have their turn.
+// A good address replaces one that is refused, so that the other values are tested.
 Result<mail::ComposedMessage> composed(mail::Composer& composer, mail::MessageData& message) {
     auto result = composer.compose(message);
     if (result.ok()) return result;

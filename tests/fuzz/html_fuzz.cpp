@@ -1,5 +1,5 @@
 // Any text is a document or refused: reading it neither crashes nor hangs, both results are well-formed
-// texts, and what was taken is taken again.
+// texts, and a text that was accepted is accepted again.
 #include <cstdint>
 #include <cstdlib>
 #include <QString>

@@ -1,4 +1,4 @@
-// Whatever a body holds, the places found in it lie inside it, in order and apart.
+// Whatever a body contains, the places found in it are inside it, in order and without overlap.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>

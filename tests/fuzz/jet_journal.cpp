@@ -1,7 +1,7 @@
-// Anything as the journal of a database that was left in the middle of a change: opened, which puts it back
-// or sets it aside. Nothing may crash or hang, and the database is as it was found or as it was before.
+// Any bytes as the journal of a database that was left in the middle of a change: opening rolls it back or
+// sets it aside. Nothing may crash or hang, and the database is as it was found or as before the change.
 //
-// The first byte of an input: bit 0, the checksums of header and records are made right again afterwards, so
+// The first byte of an input: bit 0, the checksums of header and records are corrected afterwards, so
 // that the mutation gets past them; bit 1, what follows are patches of five bytes (u24 offset, how to change,
 // value) over the journal that belongs to the file, else it is the journal itself.
 #include <unistd.h>
@@ -87,7 +87,7 @@ Crash makeCrash() {
             return sync ? DiskStep::Outcome::Skip : DiskStep::Outcome::Proceed;
         });
     }
-    // What stands behind the records is of no use. The last one may end in zeros.
+    // What follows the records is ignored. The last one may end in zeros.
     crash.journal.resize(endOfRecords(crash.journal));
     require(!crash.journal.empty() && crash.after != crash.before);
     return crash;
@@ -102,7 +102,7 @@ std::string patched(std::string bytes, std::span<const uint8_t> patches) {
     return bytes;
 }
 
-// Makes the checksums right, as far as the records have lengths that are known.
+// Corrects the checksums, as far as the lengths of the records are known.
 void seal(std::string& bytes) {
     using namespace jet;
     auto* data = reinterpret_cast<uint8_t*>(bytes.data());

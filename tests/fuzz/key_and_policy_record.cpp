@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (const auto key = policy::readDkimRecord(text)) {
         const auto again = policy::readDkimRecord(policy::dkimRecordText(key->key));
         require(again && again->key == key->key);
-        require(!policy::readDkimRecord(text + "; p=AQID"));  // a name that stands twice
+        require(!policy::readDkimRecord(text + "; p=AQID"));  // a name that occurs twice
     }
     if (const auto record = policy::dmarc::readRecord(text))
         require(record->percent >= 0 && record->percent <= 100);

@@ -1,4 +1,4 @@
-// Whatever a body holds, what is said of its links and images is a few sentences without control characters.
+// For any body, the findings about its links and images are a few sentences without control characters.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         // three examples of a kind, each no longer than what it is taken from
         if (finding.testo.size() > 3 * (body.size() + 1) + 400) std::abort();
     }
-    // A link to a place that stands before it is never said to lead nowhere.
+    // A link to a place before it is never reported as broken.
     const QString anchored = QStringLiteral(
         "<a name=\"anchored\">x</a><a href=\"#anchored\">y</a><a href=\"mailto:a@x.it\">z</a>");
     if (RilieviHtml(anchored + body).size() != findings.size()) std::abort();

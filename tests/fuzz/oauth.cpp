@@ -1,4 +1,4 @@
-// What strangers send during a login by OAuth 2.0: a browser's request, a token endpoint's answer; and the
+// What others send during a login by OAuth 2.0: a browser's request, a token endpoint's answer; and the
 // file of the providers.
 #include <cstdint>
 #include <cstdlib>

@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (database >= content.databases.size()) std::abort();
         if (line.words.size() > mail::OutcomeLine::longestText) std::abort();
         if (line.address.size() > mail::OutcomeLine::longestText) std::abort();
-        // What is taken for a line is written back so that it reads the same.
+        // What is read as a line reads the same after it is written back.
         const QByteArray bytes = line.bytes();
         if (bytes.size() >= mail::longestOutcomeLine || bytes.count('\n') != 1) std::abort();
         if (mail::parseOutcomeLine(QByteArrayView(bytes).chopped(1)) != line) std::abort();

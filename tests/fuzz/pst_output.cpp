@@ -1,4 +1,4 @@
-// What a helper that went astray could print.
+// Any output of the helper that reads Outlook files, as a faulty one could print it.
 #include <cstdint>
 #include <cstdlib>
 

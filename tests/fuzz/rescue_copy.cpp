@@ -1,5 +1,5 @@
-// A rescue copy with any bytes. Where the first byte is 'S' the rest is the object, under a true sum; else
-// the whole is the file.
+// A rescue copy with any bytes. Where the first byte is 'S' the rest is the object, with a valid checksum;
+// else the whole is the file.
 #include <cstdint>
 #include <cstdlib>
 #include <QByteArray>
@@ -24,7 +24,7 @@ QByteArray summed(const QByteArray& object) {
            '\n' + object;
 }
 
-/// What comes back of a message that is written and left behind.
+/// What is read back of a message whose copy was written and left.
 MessaggioRecuperato left(const MessaggioRecuperato& message) {
     {
         CopiaRecupero copy;
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     const MessaggioRecuperato message = found.front().Messaggio();
     found.front().Prendi().Togli();
-    // Half of a pair of surrogates cannot be written; what could be read once is read alike ever after.
+    // Half of a surrogate pair cannot be written; what could be read once is read the same from then on.
     const MessaggioRecuperato again = left(message);
     if (left(again) != again) std::abort();
     return 0;

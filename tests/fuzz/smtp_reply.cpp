@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     for (qsizetype offset = 0;;) {
         const mail::ReplyParse parse = mail::parseSmtpReply(bytes, offset);
         if (parse.state != State::Complete) {
-            // What is malformed stays so whatever follows; what is incomplete is bounded.
+            // A malformed reply stays malformed whatever follows; an incomplete one is bounded.
             if (parse.state == State::Malformed)
                 require(mail::parseSmtpReply(bytes + "\r\n250 ok\r\n", offset).state == State::Malformed);
             else
@@ -30,11 +30,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         require(parse.next > offset && parse.next <= bytes.size());
         require(parse.reply.code >= 200 && parse.reply.code <= 599);
         require(!parse.reply.text.contains('\0'));
-        // The first line decides whether a message was taken, however much of the rest is there.
+        // The first line decides whether a message was accepted, however much of the rest has arrived.
         const bool accepted = mail::isAcceptance(QByteArrayView(bytes).sliced(offset));
         require(accepted == (bytes[offset] == '2'));
         require(mail::isAcceptance(QByteArrayView(bytes).sliced(offset, 3)) == accepted);
-        // The same bytes, one short, are not a reply yet.
+        // Without their last byte they are not a reply yet.
         require(mail::parseSmtpReply(bytes.left(parse.next - 1), offset).state == State::Incomplete);
         for (const QChar c : mail::printable(parse.reply.text))
             require(c.unicode() >= 0x20 && c.unicode() != 0x7f);

@@ -1,5 +1,5 @@
-// An SPF record, and the records that it leads to: the lines of the input are the texts of whatever name is
-// asked for.
+// An SPF record, and the records that it leads to: the lines of the input are the texts of any name that is
+// queried.
 #include <cstdint>
 #include <cstdlib>
 

@@ -39,8 +39,7 @@ void setCounter(const std::string& file, const std::string& name, int32_t last);
 void setProperties(const std::string& file, const std::string& name, const jet::Bytes& list);
 
 enum class Place { InRow, OneRow, Chain };
-/// Stores these bytes at that place as the memo or OLE value of a column (by position) that is Null in the
-/// row.
+/// Stores these bytes, at that place, as a row's memo or OLE value that is Null; column by position.
 void setLongValue(const std::string& file, const std::string& name, jet::RowId row, size_t column,
                   const jet::Bytes& bytes, Place place);
 

@@ -20,8 +20,7 @@ struct Tally {
         std::fprintf(stderr, format, words...);
         std::fputc('\n', stderr);
     }
-    /// Prints the figures as one line of JSON, for tests/torture/torture.py to add up. Returns the exit
-    /// status.
+    /// Prints the figures as one line of JSON, which torture.py adds up. Returns the exit status.
     int report(const char* campaign, unsigned seed) const {
         std::printf(
             "{\"campaign\": \"%s\", \"seed\": %u, \"cases\": %ld, \"survived\": %ld, \"lost\": %ld, "

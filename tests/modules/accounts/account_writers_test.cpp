@@ -213,7 +213,7 @@ TEST_F(AccountWriters, LinkTakesNoPassword) {
     EXPECT_EQ(records(), QStringList(QStringLiteral("0|a|a@b.it||25|0||segreta|EHLO|0|0")));
 }
 
-// In a process of its own that dies with a password in its memory.
+// In a separate process that crashes with a password in its memory.
 TEST_F(AccountWriters, ProcessThatHasReadThemLeavesNoCoreDump) {
     add(simple(QStringLiteral("a")));
     const QByteArray folder = QFile::encodeName(QFileInfo(path()).path());

@@ -23,7 +23,7 @@ Account account(const QString& password) {
     return one;
 }
 
-/// Passwords stay in the file, and a marker leads nowhere.
+/// Expects no keyring: passwords stay in the file, and a marker is not resolved.
 void expectNone(const Account& marked) {
     EXPECT_FALSE(keyring::available());
     EXPECT_EQ(portachiavi::PasswordDi(marked), marked.txtPassword);
@@ -75,7 +75,7 @@ class Portachiavi : public testing::Test {
 
 }  // namespace
 
-// Before the others: a connection that was made once is kept.
+// Before the others: a connection is kept once it is made.
 TEST(BusChiuso, BusThatDoesNotAnswerIsNoKeyring) {
     const QByteArray bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/manca");

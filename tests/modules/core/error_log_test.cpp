@@ -56,7 +56,7 @@ TEST_F(ErrorLog, ReadOnlyFileStaysAsItIs) {
     ASSERT_TRUE(
         QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ReadOther | QFile::ExeOther));
     time = time.addSecs(3600);
-    const bool root = geteuid() == 0;  // who may write everything, and so becomes somebody else
+    const bool root = geteuid() == 0;  // root may write everything, so the process becomes another user
     if (root) {
         ASSERT_EQ(seteuid(nobody), 0);
     }

@@ -27,7 +27,7 @@ TEST(FileExists, FileThatMayNotBeReadCountsAsMissing) {
     const QString path = folder.filePath(QStringLiteral("x"));
     writeBytes(path, {});
     ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions()));
-    const bool root = geteuid() == 0;  // who may read everything, and so becomes somebody else
+    const bool root = geteuid() == 0;  // root may read everything, so the process becomes another user
     if (root) {
         ASSERT_EQ(seteuid(nobody), 0);
     }

@@ -1,4 +1,4 @@
-// What an entry of the address book becomes on its way into a row.
+// How an entry of the address book becomes a row.
 #include "modules/import/bWab.h"
 
 #include <QTemporaryDir>
@@ -12,7 +12,7 @@ using namespace schema;
 
 namespace {
 
-/// What the one card of an address book gives.
+/// The contact from an address book of one card.
 std::optional<Valori> readCard(const QByteArray& lines) {
     const QTemporaryDir folder;
     writeBytes(folder.filePath("a.vcf"), "BEGIN:VCARD\nVERSION:3.0\n" + lines + "\nEND:VCARD\n");

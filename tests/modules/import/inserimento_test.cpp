@@ -1,4 +1,4 @@
-// What the imports share: the boxes, and the rows on disk.
+// The parts that the imports share: the boxes, and the rows on disk.
 #include "modules/import/Inserimento.h"
 #include "modules/store/Destinatario.h"
 #include "modules/store/NuovoDatabase.h"
@@ -108,7 +108,7 @@ TEST_F(InsertedRow, StaysWhenTheImportIsLeftByAFailure) {
     EXPECT_EQ(values("email"), QStringList("a@x.it"));
 }
 
-// The process is gone in the middle of a group: what was committed before stands, the file is sound.
+// The process is gone in the middle of a group: what was committed before is there, the file is sound.
 TEST_F(InsertedRow, OfACommittedGroupSurvivesACrash) {
     ado::closeAll();
     const pid_t child = ::fork();
@@ -124,7 +124,7 @@ TEST_F(InsertedRow, OfACommittedGroupSurvivesACrash) {
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     ASSERT_EQ(status, 0);
     const QStringList addresses = values("email");
-    EXPECT_GT(addresses.size(), 7000);  // a group holds 5000 at most
+    EXPECT_GT(addresses.size(), 7000);  // a group contains 5000 at most
     EXPECT_LE(addresses.size(), 12000);
     for (int i = 0; i < addresses.size(); ++i)
         ASSERT_EQ(addresses[i], QString("n%1@x.it").arg(i));

@@ -1,6 +1,6 @@
-// The language files: every sample of tests/data/lang, and what a reader may meet in a file that was edited
-// by hand. A sample tells the entries of the list, the numbers, the texts that arrive and whether the reading
-// fails.
+// The language files: every sample of tests/data/lang, and what may be found in a file that was edited
+// by hand. A sample states the entries of the list, the numbers, the texts that arrive and whether the
+// reading fails.
 #include "modules/lang/bLANG.h"
 
 #include <QSet>
@@ -40,7 +40,7 @@ class LanguageFile : public testing::Test {
         writeBytes(folder.filePath("LANGz.lng"), choice);
     }
 
-    /// The list, then the texts if the list got through. Gives the number of the failure, 0 for none.
+    /// The list, then the texts if the list could be read. Returns the number of the failure, 0 for none.
     int read() {
         applied.clear();
         Prosegui prosegui;

@@ -1,4 +1,4 @@
-// Rescue copies as files: what they hold, who may read and take them, what becomes of damaged and refused
+// Rescue copies as files: what they contain, who may read and take them, what becomes of damaged and refused
 // ones.
 #include "modules/message/CopiaRecupero.h"
 
@@ -55,7 +55,7 @@ class CopiaRecuperoTest : public testing::Test {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// What becomes of a copy with these bytes.
+    /// The result of taking a copy with these bytes.
     static void expectDamaged(const QByteArray& content) {
         leave(sample());
         const QString path = only(".copia");

@@ -254,7 +254,7 @@ TEST_F(MessageFile, EndlessBodyIsGivenUp) {
         file.write(megabyte + '\r');
     file.close();
     for (const QString& body : {LeggiCorpoMss(path()), readAll(path()).body}) {
-        EXPECT_GT(body.size(), html::mostCharacters);  // so that whoever takes it refuses it
+        EXPECT_GT(body.size(), html::mostCharacters);  // so that its reader refuses it
         EXPECT_LE(body.size(), html::mostCharacters + 1024 * 1024 + 2);
     }
 }

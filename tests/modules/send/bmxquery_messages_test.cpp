@@ -81,7 +81,7 @@ TEST_F(MXMessages, RepliesGiveTheirExchangers) {
     for (const QJsonValue caso : vectorsOf(QStringLiteral("mx/replies.json"))) {
         SCOPED_TRACE(caso[QStringLiteral("name")].toString().toStdString());
         const auto risposte = static_cast<std::uint16_t>(caso[QStringLiteral("ancount")].toInt());
-        if (risposte == 0) continue;  // such a reply is not read; the look-up's own tests send it
+        if (risposte == 0) continue;  // such a reply is not read; other tests of the look-up send it
         const QJsonValue atteso = caso[QStringLiteral("expect")];
         ASSERT_TRUE(atteso[QStringLiteral("error")].isNull());
         const QString migliore = leggi(esadecimale(caso[QStringLiteral("reply_hex")]), risposte);
@@ -203,7 +203,7 @@ TEST_F(MXMessages, FirstBytesFrom193To255AreLengths) {
 }
 
 TEST_F(MXMessages, PointerLoopsFailLikeAPositionBeyondTheBuffer) {
-    // Onto itself, onto each other, and one that gathers a label in each round.
+    // To itself, to each other, and one that adds a label in each round.
     for (const char* esagono : {"c000", "c002c000", "0161c000"}) {
         qsizetype posizione = 0;
         const QByteArray bytes = QByteArray::fromHex(esagono);

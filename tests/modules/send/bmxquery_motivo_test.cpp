@@ -1,4 +1,4 @@
-// Why a look-up led to no exchanger, and how long a silent name server is waited for.
+// Why a look-up found no exchanger, and how long it waits for a silent name server.
 #include "modules/send/bmxquery_server.h"
 
 namespace bmxquery_motivo_test {
@@ -74,7 +74,7 @@ TEST_F(MXMotivo, NoneWhereAnExchangerWasFound) {
     UdpResponder responder([](const LoopbackSocket& socket, const std::vector<Datagram>& received) {
         QByteArray reply = rispostaA(received.back(), "mail");
         if (received.size() == 1) reply = received.back().bytes.chopped(1).replace(3, 1, "\x02");
-        if (received.size() == 3) reply[2] = '\x83';  // truncated, and yet there is one
+        if (received.size() == 3) reply[2] = '\x83';  // truncated, although there is an answer
         socket.send(received.back().from, reply);
     });
     server(responder.port());

@@ -33,7 +33,7 @@ TEST_F(MXNetwork, WithoutASocketTheResultIsEmpty) {
 
 TEST_F(MXNetwork, QueryThatCannotBeSentIsTheThirdError) {
     server(1);
-    // More than a datagram holds.
+    // More than a datagram can contain.
     const QString lungo = QStringLiteral("aaaaaaa.").repeated(9000);
     aspettaFallimento(fallimentoDi([&] { MXQuery(lungo); }), "Problem sending MX query");
     aspettaFallimento(fallimentoDi([] { MXQuery(QString(256, u'a')); }), "Problem sending MX query");
@@ -111,7 +111,7 @@ TEST_F(MXNetwork, DatagramOfAStrangerIsNotHeard) {
 }
 
 TEST_F(MXNetwork, CutReplyIsReadOnIntoZeros) {
-    // Cut behind the first label of the exchanger.
+    // Cut after the first label of the exchanger.
     UdpResponder responder([](const LoopbackSocket& socket, const std::vector<Datagram>& received) {
         socket.send(received.back().from, rispostaA(received.back(), "mail").chopped(2));
     });

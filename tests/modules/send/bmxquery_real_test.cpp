@@ -1,4 +1,4 @@
-// The look-up against real name servers on port 53, found through an /etc/resolv.conf of the test's own.
+// The look-up against real name servers on port 53, found through the test's own /etc/resolv.conf.
 #include <memory>
 
 #include "modules/send/bmxquery_state.h"
@@ -74,7 +74,7 @@ TEST_F(RealNameServer, CompressedExchangersAreAllReadAndSorted) {
 }
 
 TEST_F(RealNameServer, ExchangerOutsideTheDomainEndsTheReading) {
-    // Its name is written in full, whichever server answers: the record behind it is not read.
+    // Its name is written in full, whichever server answers: the record after it is not read.
     start(Program::Unbound);
     EXPECT_EQ(MXQuery("fuori.example"), "mx.altrove.test");
     EXPECT_EQ(mxCount, 1);

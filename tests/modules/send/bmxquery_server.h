@@ -5,14 +5,14 @@
 #include "modules/send/bmxquery_state.h"
 #include "platform/dns/UdpResponder.h"
 
-/// Far beyond what a test may last: whoever waits for its end fails.
+/// Far beyond what a test may last: a test that waits for its end fails.
 inline constexpr auto senzaFine = std::chrono::minutes(60);
 
 class MXLookup : public ConStatoMX {
   protected:
     MXLookup() { reteDNS.attesa = senzaFine; }
 
-    // One server on loopback, asked on the given port.
+    // One server on loopback, queried on the given port.
     static void server(std::uint16_t porta) {
         dnsServers = QStringList(QStringLiteral("127.0.0.1"));
         dnsCount = 1;

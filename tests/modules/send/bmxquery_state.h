@@ -9,7 +9,7 @@
 #include "modules/send/bMXQuery.h"
 #include "support/Vectors.h"
 
-/// Every test of the look-up begins like a new process.
+/// Resets the look-up's state, so that each test begins like a new process.
 class ConStatoMX : public ::testing::Test {
   protected:
     ConStatoMX() { azzera(); }

@@ -1,4 +1,4 @@
-// Reasons in plain words, addresses that do not exist, and the book for spreadsheets.
+// The reasons of outcomes in plain words, addresses that do not exist, and the book for spreadsheets.
 #include <gtest/gtest.h>
 
 #include "modules/send/Esiti.h"

@@ -9,7 +9,7 @@ namespace limiti_test {
 
 namespace {
 
-// Lets the hours pass in no time, under the Italian number format.
+// Advances the clock without waiting, under the Italian number format.
 class Limits : public testing::Test {
   protected:
     void SetUp() override {
@@ -32,7 +32,7 @@ class Limits : public testing::Test {
         limit.avvia(minutes, number);
         return limit;
     }
-    // Ends a message after `seconds`; returns the seconds that the limit then held.
+    // Ends a message after `seconds`; returns the seconds for which the limit then blocked.
     qint64 message(LimiteBlocco& limit, int seconds) {
         time = time.addSecs(seconds);
         const QDateTime ended = time;

@@ -77,7 +77,7 @@ TEST(AlberoCartelle, AGroupWithTheNumberOfTheRootMakesNoCircle) {
     EXPECT_EQ(albero.Ordine(), (Numeri{0, 1}));
 }
 
-// Deeper than any stack.
+// Too deep for recursion on any stack.
 TEST(AlberoCartelle, DepthIsNotLimited) {
     std::vector<Cartella> cartelle;
     for (std::int32_t id = 1; id <= 200000; ++id)

@@ -1,4 +1,4 @@
-// The values of the selection, held against the placeholders that a message uses.
+// The check of the selection's values for the placeholders that a message uses.
 #include "modules/strumenti/ControlloCampi.h"
 
 #include <gtest/gtest.h>

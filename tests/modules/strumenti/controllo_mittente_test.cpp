@@ -110,7 +110,7 @@ TEST_F(Controllo, DomainAndServerInOrderAreGreenLineByLine) {
     for (const char* quale : {"Posta in arrivo (MX)", "Indirizzo del dominio (A)", "Firma DKIM", "DMARC",
                               "Server raggiunto", "TLS", "Accesso", "Dimensione massima"})
         aspetta(righe, quale, Semaforo::Verde);
-    // localhost has no address that others see
+    // localhost has no public address
     aspetta(righe, "SPF", Semaforo::Giallo);
     EXPECT_NE(riga(righe, "Certificato").semaforo, Semaforo::Rosso);
 }
@@ -170,7 +170,7 @@ TEST_F(Controllo, EmptyDomainIsToldLineByLine) {
 TEST_F(Controllo, NoNetworkLeavesAttentionAndNoHarm) {
     Account chi = account();
     chi.txtServerPORT = "1";
-    const auto righe = controlla(chi);  // nobody listens to questions
+    const auto righe = controlla(chi);  // no name server listens
     for (const char* quale : {"Posta in arrivo (MX)", "Indirizzo del dominio (A)", "SPF", "DMARC"})
         aspetta(righe, quale, Semaforo::Giallo);
 }

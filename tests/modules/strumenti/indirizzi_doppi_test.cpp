@@ -71,7 +71,7 @@ TEST_F(IndirizziDoppiTest, AllButTheFirstAreDeselected) {
     EXPECT_TRUE(find().empty());
 }
 
-// More than one statement takes.
+// More than fit into one statement.
 TEST_F(IndirizziDoppiTest, ManyAreDeselectedInBlocks) {
     QList<testing_support::SampleFolder::Columns> all;
     for (int i = 0; i < 2500; ++i)

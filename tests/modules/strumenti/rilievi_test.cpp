@@ -1,4 +1,4 @@
-// What a look at a message finds.
+// The findings about a message.
 #include "modules/strumenti/Rilievi.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ ModelloProva model(const QString& html, const QString& subject = "Oggetto") {
     return made;
 }
 
-/// The findings that hold the text.
+/// The findings that contain the text.
 QList<Rilievo> with(const QList<Rilievo>& findings, const QString& text) {
     QList<Rilievo> found;
     for (const Rilievo& one : findings)
@@ -31,7 +31,7 @@ QList<Rilievo> with(const QList<Rilievo>& findings, const QString& text) {
     return found;
 }
 
-/// How many that hold the text, of this weight.
+/// How many of this severity contain the text.
 int count(const QList<Rilievo>& findings, const QString& text, Peso weight) {
     int found = 0;
     for (const Rilievo& one : with(findings, text))

@@ -9,8 +9,8 @@
 
 namespace ado {
 
-/// Copies of databases made by other programs, with their tables. Without the samples, which lie outside the
-/// sources, every loop is empty and that is told.
+/// Copies of databases made by other programs, with their tables. Without the samples, which are outside the
+/// sources, every loop is empty and a note is printed.
 class Samples : public ::testing::Test {
   protected:
     struct Sample {
@@ -40,7 +40,7 @@ class Samples : public ::testing::Test {
         if (all.empty()) std::printf("[ SAMPLES  ] the samples are not here: skipped\n");
         return all;
     }
-    /// Makes the copy what it was at first.
+    /// Restores the copy.
     static void renew(const Sample& sample) {
         closeAll();
         QFile::remove(sample.path);

@@ -43,7 +43,7 @@ class TestDatabase : public ::testing::Test {
         command.setCommandTimeout(timeout);
         return command.execute();
     }
-    /// Runs a statement that has to work; the number of rows it touched.
+    /// Runs a statement that must succeed; returns the number of rows it affected.
     qint64 run(const QString& statement) const {
         const Result<qint64> rows = tryRun(statement);
         EXPECT_TRUE(rows.ok()) << statement.toStdString() << ": " << words(rows.status());

@@ -1,4 +1,4 @@
-// Every way of inserting rows into a file whose counter lies below the greatest number in use.
+// Every way of inserting rows into a file whose counter is below the greatest number in use.
 #include "platform/ado/GroupedInserts.h"
 #include "support/JetTables.h"
 #include "TestDatabase.h"
@@ -17,7 +17,7 @@ class AutoNumberWaysTest : public ado::TestDatabase {
         ado::closeAll();
         jettables::setCounter(path.toStdString(), "tb_destinatari", 5);
     }
-    /// Runs `insertThree` twice, with the file closed in between; the numbers that the rows got.
+    /// Runs `insertThree` twice, with the file closed in between; returns the numbers of the rows.
     template <class Insert>
     std::string numbersOf(Insert insertThree) {
         for (int round = 0; round < 2; ++round) {

@@ -13,7 +13,7 @@ namespace {
 
 class ConcurrencyTest : public ado::TestDatabase {
   protected:
-    /// Starts a process that does the work and tells by its exit code whether that succeeded.
+    /// Starts a process that does the work and reports by its exit code whether that succeeded.
     pid_t start(const std::function<bool()>& work) {
         ado::closeAll();  // an open file would be shared with the child, its locks included
         const pid_t child = ::fork();

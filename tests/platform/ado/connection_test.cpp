@@ -61,7 +61,7 @@ TEST_F(ConnectionTest, ATruncatedFileIsRefused) {
     EXPECT_FALSE(tryOpen(file).ok());
 }
 
-// The administrator can read every file, so the question is asked by a process that gives up those rights.
+// Root can read every file, so a process that gives up those rights does the check.
 TEST_F(ConnectionTest, AnUnreadableFileIsRefused) {
     ado::closeAll();
     const QString folder = QFileInfo(path).path();

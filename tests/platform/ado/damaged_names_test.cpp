@@ -1,4 +1,4 @@
-// Tables whose columns have names that cannot be: the table is refused, all else works on.
+// Tables whose columns have impossible names: the table is refused, all else still works.
 #include "TestDatabase.h"
 
 namespace damaged_names_test {

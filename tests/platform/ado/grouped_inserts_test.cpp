@@ -1,4 +1,4 @@
-// Rows of an import: written in groups, told only when they stand in the file.
+// Rows of an import: written in groups, reported only when they are in the file.
 #include <sys/wait.h>
 #include <unistd.h>
 #include <csignal>

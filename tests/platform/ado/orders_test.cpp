@@ -20,7 +20,7 @@ constexpr int longList = 20000;  // everything takes ten times as long there
 constexpr int longList = 100000;
 #endif
 
-/// Enough that an order of it is mended, not made anew, after a change from outside.
+/// Enough rows that an order of them is updated, not rebuilt, after a change from outside.
 constexpr int mendedList = 15000;
 
 class OrdersTest : public ado::TestDatabase {
@@ -63,7 +63,7 @@ class OrdersTest : public ado::TestDatabase {
         return result;
     }
 
-    /// What a recordset has to give, computed from the rows of the file without any order that was kept.
+    /// The expected rows of a recordset, computed from the file without any cached order.
     std::vector<qint64> expected(int selected, int group) const {
         using Key = std::pair<std::vector<std::string>, jet::RowId>;
         std::vector<std::pair<Key, qint64>> rows;
@@ -191,9 +191,9 @@ TEST_F(OrdersTest, ALongListIsRightWhateverTwoProgramsChange) {
     const auto some = [&] { return static_cast<int32_t>(1 + random() % 300); };
     for (int round = 0; round < 12; ++round) {
         if (round % 4 != 3)
-            ids(groupListing);  // else a change from outside meets the orders before it is seen
+            ids(groupListing);  // else a change from outside reaches the orders before it is noticed
         ASSERT_EQ(ids(queue), expected(1, -1)) << round;
-        // What this program takes out of the queue the other puts back: the page is as it was then.
+        // The other program puts back what this one takes out of the queue: the page is then as before.
         const int32_t taken = some();
         run(QStringLiteral("UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = %1;").arg(taken));
         auto other = jet::Database::open(path.toStdString());

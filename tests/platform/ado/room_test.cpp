@@ -31,7 +31,7 @@ class RoomOfImportsTest : public ado::TestDatabase {
     qint64 size() const { return QFileInfo(path).size(); }
 };
 
-/// Where the only recipient's row lies.
+/// The place of the only recipient's row.
 jet::RowId placeOfRow(const QString& file) {
     jet::RowId place;
     auto database = jet::Database::open(file.toStdString());

@@ -85,7 +85,7 @@ TEST_F(RowsAheadTest, AWalkSeesInTheEndWhatAnotherProgramChanges) {
         ASSERT_TRUE(table.value()->update(*row.value(), {&change, 1}).ok());
     }
     ASSERT_TRUE(other.value()->commit().ok());
-    // Those that were read before may come as they were, until 5 ms are over.
+    // Rows that were read before may be returned unchanged for 5 ms.
     const auto end = Clock::now() + std::chrono::milliseconds(5);
     while (Clock::now() < end) {
     }

@@ -1,4 +1,4 @@
-// Every kind of SELECT on every table of databases made by other programs gives what mdbtools reads there.
+// Every kind of SELECT on every table of databases made by other programs returns what mdbtools reads there.
 #include <QDate>
 
 #include "platform/ado/Samples.h"
@@ -12,7 +12,7 @@ using jet::Type;
 
 class SamplesReadTest : public ado::Samples {
   protected:
-    /// Tells how two fields of a column stand to each other in the database's order: Null, then values.
+    /// Compares two fields of a column in the database's order: Null, then values.
     static int compare(const ado::Value& left, const ado::Value& right) {
         if (left.isNull() || right.isNull()) return int{right.isNull()} - int{left.isNull()};
         if (left.type() == ado::Value::Type::Text)
@@ -29,8 +29,8 @@ class SamplesReadTest : public ado::Samples {
     }
     static bool canSort(Type type) { return type != Type::Ole && type != Type::Binary; }
 
-    /// A condition that chooses rows with the value of `row` in that column, and the rows that it has to
-    /// choose; nothing where no literal says the value.
+    /// A condition that selects rows with the value of `row` in that column, and the rows that it must
+    /// select; nothing where no literal can express the value.
     struct Choice {
         QString condition;
         std::multiset<std::string> rows;
@@ -60,7 +60,7 @@ class SamplesReadTest : public ado::Samples {
                 return QString::number(value.toInteger().value());
             case ado::Value::Type::Text: {
                 const auto text = std::get<std::string>(value.raw());
-                // mdbtools tells an empty text from Null as little as a character it does not know
+                // mdbtools prints an empty text, Null and an unknown character alike
                 if (text.empty() || text.find('?') != std::string::npos ||
                     text.find('\0') != std::string::npos)
                     return std::nullopt;
@@ -187,7 +187,7 @@ TEST_F(SamplesReadTest, GuidsAndDecimalsAreReadAsTheyAreWritten) {
     }
 }
 
-// What the user may choose a table from: neither system tables nor what is no table of the file.
+// The tables that a user may choose: neither system tables nor those of other files.
 TEST_F(SamplesReadTest, TheCatalogueTellsTablesFromLinksQueriesAndSystemTables) {
     std::map<ado::Catalog::Kind, int> seen;
     for (const Sample& sample : samples()) {

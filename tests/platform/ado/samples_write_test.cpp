@@ -1,6 +1,6 @@
 // INSERT, UPDATE and DELETE of every shape on every table of databases made by other programs: mdbtools reads
-// what has to stand there afterwards and the page checker finds nothing; or the statement is refused and the
-// file stays as it was.
+// the expected rows afterwards and the page checker finds nothing; or the statement is refused and the file
+// is unchanged.
 #include "platform/ado/Samples.h"
 #include "support/JetChecker.h"
 
@@ -33,8 +33,8 @@ class SamplesWriteTest : public ado::Samples {
         EXPECT_EQ(checkJetFile(sample.path.toStdString()), std::vector<std::string>());
     }
 
-    /// Runs a statement that has to leave the table with `expected`, or to be refused with the file
-    /// untouched.
+    /// Runs a statement that must leave `expected` in the table, or be refused with the file
+    /// unchanged.
     void check(const Sample& sample, const jet::TableDefinition& table, const QString& statement,
                const std::vector<ComparableRow>& expected) {
         const std::string before = bytesOf(sample);
@@ -57,7 +57,7 @@ class SamplesWriteTest : public ado::Samples {
         EXPECT_EQ(firstDifference(compared(table, own.rows), lines), "") << statement.toStdString();
     }
 
-    /// A literal for a column and the value that it stands for; nothing for what a statement does not write.
+    /// A literal for a column and its value; nothing for what a statement cannot write.
     struct Given {
         const char* literal;
         jet::Value value;
@@ -96,7 +96,7 @@ class SamplesWriteTest : public ado::Samples {
         return number.find_first_not_of("-0123456789") == std::string::npos ? number : "";
     }
 
-    /// Takes each table that mdbtools reads in a fresh copy of its sample, which has to be sound afterwards.
+    /// Visits each table that mdbtools reads, in a fresh copy of its sample, which must be sound afterwards.
     template <class Walk>
     void onEachTable(const Walk& walk) {
         for (const Sample& sample : samples()) {
@@ -110,7 +110,7 @@ class SamplesWriteTest : public ado::Samples {
             }
         }
     }
-    /// The samples, where they are, gave more statements of both kinds.
+    /// Where the samples are present, there were more statements of both kinds.
     void expectEnough(int leastDone, int leastRefused) const {
         if (!QFile::exists(QStringLiteral(SHARED_DIR "/mdb"))) return;
         EXPECT_GT(done, leastDone);
@@ -213,7 +213,7 @@ TEST_F(SamplesWriteTest, DeletesOfChosenRowsAndOfAll) {
     expectEnough(40, 20);
 }
 
-// A row that is added through a recordset: its number is known before it is posted and stands in the file.
+// A row that is added through a recordset: its number is known before it is posted and is in the file.
 TEST_F(SamplesWriteTest, NewRowsThroughARecordset) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());

@@ -89,7 +89,7 @@ TEST_F(SnapshotTest, RemovedRowLeavesTheOthersTheirIdentity) {
 }
 
 TEST_F(SnapshotTest, RowsFillManyBlocks) {
-    // about 1 MB of rows, more than any one block holds
+    // about 1 MB of rows, more than any one block contains
     const QString filler(255, 'x');
     for (int i = 0; i < 9; ++i)
         run(QStringLiteral("UPDATE [tb_destinatari] SET campo%1 = '%2'").arg(i % 9 + 1).arg(filler));

@@ -18,7 +18,7 @@ class TableWalkTest : public TestDatabase {
             run(QStringLiteral("INSERT INTO [tb_destinatari] (id_grp, sel, rgs) VALUES (7, True, '%1')")
                     .arg(QString::fromUtf8(company)));
     }
-    /// Walks one part; counts how often each number is met.
+    /// Walks one part; counts how often each number occurs.
     bool step(TableWalk& walk, microseconds most = microseconds(0)) {
         const Result<bool> ended = walk.step(
             most, [this](const WalkedRow& row) { ++met[row.integer(*row.definition().find("id"))]; });

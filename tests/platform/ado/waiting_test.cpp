@@ -39,7 +39,7 @@ class WaitingTest : public ado::TestDatabase {
 
     void lock() { m_lock.emplace(path); }
     void unlock() { m_lock.reset(); }
-    /// The next waits end at the n-th question, by the lock's owner or by the user.
+    /// The next waits end at the n-th poll, by the lock's owner or by the user.
     void unlockAfter(int questions) {
         onWait = [this, left = questions]() mutable {
             if (--left == 0) unlock();
@@ -86,7 +86,7 @@ TEST_F(WaitingTest, NamingWhatIsNoDatabaseFailsAllTheSame) {
         EXPECT_EQ(ado::Command().setActiveConnection(ado::connectionTo(file)).code(), code);
         EXPECT_EQ(ado::GroupedInserts().setActiveConnection(ado::connectionTo(file)).code(), code);
     }
-    // What was a database when it was opened counts no more than what lies there now.
+    // It was a database when it was opened, but only its present content counts.
     lock();
     ASSERT_TRUE(QFile::remove(path));
     EXPECT_EQ(ado::Command().setActiveConnection(connection).code(), ErrorCode::FileNotFound);
@@ -138,7 +138,7 @@ TEST_F(WaitingTest, TheTimeOutBoundsTheWaitAndNoneHasNoEnd) {
               ErrorCode::FileInUse);
     const int askedInASecond = std::exchange(asked, 0);
     EXPECT_GT(askedInASecond, 1);
-    // Without a time-out it is still asked for after that many questions.
+    // Without a time-out it is still polled after that many attempts.
     unlockAfter(2 * askedInASecond);
     EXPECT_EQ(run("UPDATE tb_gruppi SET nome = 'x'"), 3);
     EXPECT_EQ(asked, 2 * askedInASecond);
@@ -166,7 +166,7 @@ TEST_F(WaitingTest, AFailedMoveLeavesNoCurrentRow) {
     lock();
     EXPECT_EQ(rows.move(1).code(), ErrorCode::FileInUse);
     noRow();
-    // From no row nothing can be reached by counting, whoever holds the lock by then.
+    // Without a current row a move finds nothing, whoever has the lock by then.
     EXPECT_EQ(rows.moveNext().code(), ErrorCode::NoCurrentRecord);
     EXPECT_EQ(rows.move(-1).code(), ErrorCode::NoCurrentRecord);
     EXPECT_EQ(rows.move(0).code(), ErrorCode::NoCurrentRecord);
@@ -188,7 +188,7 @@ TEST_F(WaitingTest, AFailedMoveLeavesNoCurrentRow) {
     noRow();
     unlock();
     EXPECT_EQ(rows.recordCount(), 3);
-    // A new row is one again.
+    // After a new row there is a current one again.
     ASSERT_TRUE(rows.addNew().ok());
     ASSERT_TRUE(rows.setValue(u"nome", QStringLiteral("quattro")).ok());
     ASSERT_TRUE(rows.update().ok());
@@ -209,7 +209,7 @@ TEST_F(WaitingTest, AMoveWhoseChangeIsRefusedKeepsTheRowAndTheChange) {
     EXPECT_EQ(rows.value(u"nome").value().toTextOrEmpty().toStdString(), "due");
 }
 
-// Two that write: the second one waits before it has read anything, so it counts on from what the first left.
+// Two writers: the second one waits before it has read anything, so it sees what the first one wrote.
 TEST_F(WaitingTest, AStatementThatWaitsToWriteReadsWhatTheOtherOneWrote) {
     auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// An address book as the mail client keeps it, held open as long as this lives.
+/// An address book as the mail client keeps it, open as long as the object lives.
 class BookFixture {
   public:
     explicit BookFixture(const QString& path, const QString& journalMode = "DELETE") : m_path(path) {

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Puts a shell script in the helper's place.
+/// Replaces the helper by a shell script.
 class HelperScript {
   public:
     explicit HelperScript(const QByteArray& script) {
@@ -49,7 +49,7 @@ void setTime(const QString& path, int daysAgo) {
         file.setFileTime(QDateTime::currentDateTime().addDays(-daysAgo), QFile::FileModificationTime));
 }
 
-/// Whoever crashes, hangs or talks rubbish after two entries of three leaves those two.
+/// A helper that crashes, hangs or prints rubbish after two of three entries leaves those two.
 void expectTwoOfThree(const QByteArray& ending, std::chrono::milliseconds patience = 60s) {
     const HelperScript helper(twoOfThree + ending);
     const auto folder = readContactFolder("x.pst", patience);
@@ -126,7 +126,7 @@ TEST(ContactFolder, WhatTheHelperHasStartedEndsWithIt) {
     const QByteArray pid = bytesOf(helper.path("pid")).trimmed();
     ASSERT_FALSE(pid.isEmpty());
     for (int i = 0; i < 500 && QFileInfo::exists("/proc/" + pid); ++i) {
-        // somebody has to fetch its end
+        // somebody has to reap it
         if (bytesOf("/proc/" + pid + "/stat").contains(") Z ")) return;
         QThread::msleep(10);
     }

@@ -1,5 +1,5 @@
-// Takes the place of routines of the library that reads Outlook files, as code does that such a file has
-// smuggled in. What it could get hold of it prints as contacts, for its master to read.
+// Replaces routines of the library that reads Outlook files, as code that such a file has injected would.
+// It prints what it could reach as contacts, so that the test can read it.
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>

@@ -163,7 +163,7 @@ TEST(MailClientBook, WhatIsTooLargeOrCannotBeReadIsTold) {
     EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::FileNotFound);
 }
 
-// What is read is a state that the book really had, or there is a word about it.
+// What is read is a state that the book really had, or a failure is reported.
 TEST(MailClientBook, BookThatIsWrittenToMeanwhileIsNeverReadInPieces) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("abook.sqlite");

@@ -1,4 +1,4 @@
-// Loaded before a program, makes its kernel one without landlock.
+// Preloaded into a program, hides the kernel's landlock from it.
 #include <seccomp.h>
 #include <sys/prctl.h>
 

@@ -38,14 +38,14 @@ class OutlookHelper : public testing::Test {
     }
 };
 
-/// What an independent reader finds, as lines of the texts that a vCard and a contact have in common.
+/// What an independent reader finds, as lines of the texts that a vCard and a contact share.
 QStringList contactsOfReadpst(const QString& file) {
     const QTemporaryDir out;
     QProcess::execute("readpst", {"-q", "-r", "-cv", "-tc", "-o", out.path(), file});
     QStringList lines;
     QDirIterator walk(out.path(), QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
-        // An absent text stands as "(null)" in its output.
+        // An absent text is "(null)" in its output.
         for (const auto& card : contacts::readVCards(bytesOf(walk.next()).replace("(null)", ""))) {
             lines.append(card.emailAddress + '|' + card.companyName + '|' + card.businessTelephone);
         }
@@ -119,7 +119,7 @@ TEST_F(OutlookHelper, WhatIsNoOrdinaryOutlookFileIsNotReached) {
     }
 }
 
-// Whatever moment of the change the helper meets: the entries are good ones, or there are none.
+// At any moment of the change the helper reads valid entries, or none.
 TEST_F(OutlookHelper, FileThatChangesMeanwhileNeverHarms) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("x.pst");

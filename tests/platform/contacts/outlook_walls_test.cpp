@@ -1,4 +1,4 @@
-// What is left to whoever takes the reader of Outlook files over.
+// The limits of an attacker who has taken over the reader of Outlook files.
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
@@ -38,7 +38,7 @@ class OutlookWalls : public testing::Test {
     }
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
-    /// Reads with the reader taken over; `others` are loaded before it.
+    /// Reads with the compromised reader; `others` are preloaded before it.
     ContactFolder readTakenOver(const QByteArray& deed, const QByteArray& others = {}) const {
         qputenv("EVIL_DEED", deed);
         qputenv("LD_PRELOAD", others + " " EVIL_READER);

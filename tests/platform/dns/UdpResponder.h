@@ -54,7 +54,7 @@ class LoopbackSocket {
     std::uint16_t m_port = 0;
 };
 
-/// A port of loopback that refuses every datagram, held as long as the object lives: its socket listens to
+/// A port of loopback that refuses every datagram as long as the object lives: its socket is connected to
 /// one other socket only.
 class RefusingPort {
   public:

@@ -18,9 +18,9 @@ using dns::Type;
 
 namespace {
 
-constexpr int endless = 3600 * 1000;  // whoever waits for its end fails
+constexpr int endless = 3600 * 1000;  // a test that waits for its end fails
 
-/// The question with this many records of an IPv4 address behind it, and a response code.
+/// The query followed by this many IPv4 address records, with a response code.
 QByteArray reply(const QByteArray& question, int records, char code = 0) {
     QByteArray answer = question;
     answer[2] = char(0x81);

@@ -77,7 +77,7 @@ TEST_F(RealNames, EveryTypeIsAsked) {
     EXPECT_EQ(texts, (QByteArrayList{"altro", "v=spf1 -all"}));
 }
 
-// Unbound does not look up what an alias of its own records leads to.
+// Unbound does not look up the target of an alias in its own records.
 TEST_F(RealNames, AliasIsFollowed) {
     NameServer::Records own = records();
     own.others.clear();

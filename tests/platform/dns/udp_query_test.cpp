@@ -15,9 +15,9 @@ using dns::UdpQuery;
 
 namespace {
 
-// Long enough for an answer on a busy machine, where the test waits for the end of one wait.
+// Long enough for an answer on a busy machine, in tests that wait for one time-out.
 constexpr auto oneWait = 1000ms;
-// Far beyond what a test may last: whoever waits for its end fails.
+// Far beyond what a test may last: a test that waits for its end fails.
 constexpr auto endless = std::chrono::minutes(60);
 
 qsizetype openDescriptors() {

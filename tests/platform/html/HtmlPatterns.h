@@ -5,11 +5,11 @@
 #include <QByteArray>
 #include <vector>
 
-/// Texts that are cheap to write and could be dear to read: what each is made of is repeated as often as is
+/// Texts that are short to write and may be expensive to read: each repeats its pattern as often as is
 /// asked.
 struct HtmlPattern {
     const char* name;
-    std::function<QByteArray(int)> text;  ///< of so many repetitions
+    std::function<QByteArray(int)> text;  ///< with so many repetitions
 };
 
 inline std::vector<HtmlPattern> htmlPatterns() {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A shop's whole catalogue in one message of 2.5 MB.
+/// A message of 2.5 MB with a shop's whole catalogue.
 inline QString largeNewsletter() {
     QString html = QStringLiteral(
         "<html><head><title>Catalogo</title></head><body bgcolor=#FFFFFF><h1>Gentile :::nom:::</h1>"

@@ -7,7 +7,7 @@
 #include <QTcpSocket>
 #include <QTest>
 
-/// A server on this machine that counts who comes, whatever they want.
+/// A server on this machine that counts all connections.
 class CountingServer : public QTcpServer {
   public:
     CountingServer() {
@@ -20,7 +20,7 @@ class CountingServer : public QTcpServer {
     QString address(const QString& path) const {
         return QStringLiteral("http://127.0.0.1:%1/%2").arg(serverPort()).arg(path);
     }
-    /// How many came before this call: the server serves in order, so a visitor of the test's own ends the
+    /// Connections before this call: the server serves in order, so a connection of the test's own ends the
     /// count.
     qsizetype visitsSoFar() {
         QTcpSocket last;

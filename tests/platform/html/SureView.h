@@ -4,7 +4,7 @@
 
 #include "platform/html/HtmlView.h"
 
-/// What a call of a view gave; ends the test where the browser gave no answer.
+/// The result of a view's call; ends the test where the browser did not answer.
 template <class T>
 T sure(const Result<T>& answer) {
     if (!answer.ok()) qFatal("%s", qUtf8Printable(answer.status().text()));

@@ -13,7 +13,7 @@
 
 #include "platform/html/SureView.h"
 
-/// Where an element is drawn, in the view's places.
+/// Where an element is drawn, in the view's coordinates.
 inline QRect placeOf(const HtmlView& view, const QString& selector) {
     const QVariantList box =
         view.evaluate(QStringLiteral("{ const b = document.querySelector('%1')"
@@ -25,9 +25,9 @@ inline QRect placeOf(const HtmlView& view, const QString& selector) {
         .toRect();
 }
 
-/// Returns when the page has had the clicks and keys that were sent to it, and has been answered on what it
-/// asked the browser for: the pointer moves after them, and a picture that is not there is asked for last.
-/// What the page told the view meanwhile has come too.
+/// Returns when the page has handled the clicks and keys that were sent to it, and has the answers to its
+/// requests to the browser: the pointer moves after them, and a missing picture is requested last.
+/// The page's messages to the view have arrived too.
 inline void settle(const HtmlView& view) {
     const auto happens = [&](const char* event, const std::function<void()>& act) {
         const QString count = QStringLiteral("globalThis.%1Events").arg(QLatin1String(event));
@@ -53,10 +53,10 @@ inline void settle(const HtmlView& view) {
                            " (globalThis.pictureEvents || 0) + 1 };"
                            " picture.src = 'file:///assente.png'; 1 }"));
     });
-    view.evaluate(QStringLiteral("1"));  // the answer to what the page told last comes before this one's
+    view.evaluate(QStringLiteral("1"));  // the answer to the page's last message comes before this one's
 }
 
-/// Ends the process that holds the document, as a crash would.
+/// Ends the process that contains the document, as a crash would.
 inline void killRenderer(const HtmlView& view) {
     const auto* page = view.findChild<QObject*>(QStringLiteral("page"));
     const qint64 process = page->property("renderProcessPid").toLongLong();
@@ -64,7 +64,7 @@ inline void killRenderer(const HtmlView& view) {
     ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
-/// Ends that process and lets the view take notice. The view may be live again afterwards: a new process can
+/// Ends that process and waits until the view knows. The view may be live again afterwards: a new process can
 /// be there within a few milliseconds.
 inline void endBrowserOf(const HtmlView& view) {
     const QPointer<QObject> page = view.findChild<QObject*>(QStringLiteral("page"));
@@ -72,7 +72,7 @@ inline void endBrowserOf(const HtmlView& view) {
     killRenderer(view);
     if (!QTest::qWaitFor([&] { return !page || page->property("renderProcessPid") != process; }, 30000))
         qFatal("the end of the process is not noticed");
-    QCoreApplication::processEvents();  // the news is handed on by an event
+    QCoreApplication::processEvents();  // an event reports it to the view
 }
 
 /// Drops something at a place of a view, as the desktop does; false where the view does not take it.
@@ -85,7 +85,7 @@ inline bool dropOn(const HtmlView& view, const QMimeData& data, const QPoint& pl
     return event.isAccepted();
 }
 
-/// A shown view, and a user before it.
+/// A shown view, and the input of a user.
 class Desk {
   public:
     explicit Desk(const QString& html = QStringLiteral("<p>Gentile cliente</p>"),
@@ -113,7 +113,7 @@ class Desk {
             press(c.toUpper().unicode(), Qt::NoModifier, c);
     }
 
-    /// Two clicks in quick succession, as the browser tells them by the events' times.
+    /// Two clicks in quick succession, which the browser recognises by the events' times.
     void doubleClick(const QPoint& place) {
         const QPoint global = view.inputWidget()->mapToGlobal(place);
         quint64 time = 1000000;
@@ -127,7 +127,7 @@ class Desk {
         }
     }
 
-    /// What the body holds.
+    /// The body's content.
     QString body() const {
         const QString html = view.documentHTML();
         const qsizetype tag = html.indexOf("<body");
@@ -137,7 +137,7 @@ class Desk {
 
     void selectAll() { view.execCommand(HtmlView::SelectAll); }
 
-    /// Puts the caret into the first element that a CSS selector names, behind its first characters.
+    /// Puts the caret into the first element that a CSS selector names, after its first characters.
     void caretIn(const QString& selector, int offset = 0) {
         view.evaluate(QStringLiteral("{ const e = document.querySelector('%1'); const t = e.firstChild || e;"
                                      " getSelection().collapse(t, %2); 1 }")

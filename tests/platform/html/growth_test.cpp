@@ -27,7 +27,7 @@ namespace {
 constexpr int times = 2500;
 constexpr double mostGrowth = 2.3;
 
-/// As it goes from the file to a recipient, and as it stands where somebody's values make the body.
+/// As it goes from the file to a recipient, and in its raw form where a recipient's values make the body.
 std::uint64_t stepsFor(const QByteArray& text) {
     const std::uint64_t before = steps;
     HtmlDocument document;
@@ -53,7 +53,7 @@ TEST_P(Growth, IsThatOfTheText) {
 
 INSTANTIATE_TEST_SUITE_P(Patterns, Growth, ::testing::Range(std::size_t{0}, htmlPatterns().size()));
 
-// The test's own ground: what is not in proportion is found
+// Checks the test itself: disproportionate growth is found
 TEST(GrowthCount, StepsAreCounted) {
     const QByteArray text("<p>x</p>");
     EXPECT_GT(stepsFor(text.repeated(200)), 20 * stepsFor(text));

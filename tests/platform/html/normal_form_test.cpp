@@ -12,7 +12,7 @@ QString normalForm(const QString& html) {
     return document.documentHTML();
 }
 
-// What the body of the normal form holds
+// The body of the normal form
 QString body(const QString& html) {
     const QString before = QStringLiteral("<html><head></head><body>");
     const QString after = QStringLiteral("</body></html>");

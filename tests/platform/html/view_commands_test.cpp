@@ -5,7 +5,7 @@
 
 namespace view_commands_test {
 
-// Every command by its number, on a document with a selection, and its undoing.
+// Every command by its number, on a document with a selection, and its undo.
 class ViewCommands : public QObject {
     Q_OBJECT
 

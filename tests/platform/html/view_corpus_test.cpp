@@ -64,7 +64,7 @@ class ViewCorpus : public QObject {
         const QString first = m_desk->view.documentHTML();
         const int turns = first.size() > 1'000'000 ? 1 : 3;
         for (int turn = 0; turn < turns; ++turn) {
-            // what a file's reader hands in
+            // what a file's reader passes on
             m_desk->view.setDocumentHTML(first + "\r\n");
             const QString again = m_desk->view.documentHTML();
             QVERIFY2(again == first, qPrintable(firstDifference(again, first)));
@@ -73,7 +73,7 @@ class ViewCorpus : public QObject {
         QVERIFY2(readWithout == first, qPrintable(firstDifference(readWithout, first)));
     }
 
-    // What docs/formats/html.md tells of documents that the two readers take differently
+    // What docs/formats/html.md says of documents that the two readers read differently
     void differsFromTheOtherReaderOnlyWhereItIsKnown_data() {
         QTest::addColumn<QString>("html");
         QTest::addColumn<QString>("view");

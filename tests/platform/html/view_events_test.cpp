@@ -7,7 +7,7 @@
 
 namespace view_events_test {
 
-// What the view tells of the user's doings.
+// The view's signals about the user's actions.
 class ViewEvents : public QObject {
     Q_OBJECT
 

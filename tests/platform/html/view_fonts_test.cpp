@@ -5,7 +5,7 @@
 
 namespace view_fonts_test {
 
-// The font of text that names none: shown, told, and never in the document unless a command writes it.
+// The font of text that names none: shown, reported, and never in the document unless a command writes it.
 class ViewFonts : public QObject {
     Q_OBJECT
 

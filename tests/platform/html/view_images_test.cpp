@@ -8,7 +8,7 @@
 
 namespace view_images_test {
 
-// A picture whose file is not there is a matter of the browser's process alone, and nobody sees how.
+// A missing picture is handled inside the browser's process and is not visible outside.
 class ViewImages : public QObject {
     Q_OBJECT
 
@@ -91,7 +91,7 @@ class ViewImages : public QObject {
         QVERIFY2(!copied.contains("data:"), qPrintable(copied));
         QCOMPARE(desk.body(), QString(missing));
         QVERIFY(!desk.view.commandEnabled(HtmlView::Undo));
-        // what the document holds already may come back
+        // what the document contains already may come back
         desk.view.execCommand(HtmlView::Paste);
         QVERIFY2(desk.body().contains("src=\"foto/1.jpg\""), qPrintable(desk.body()));
         QVERIFY2(desk.body().contains("/assente/2.jpg\""), qPrintable(desk.body()));

@@ -39,7 +39,7 @@ int coloured(const QImage& image) {
     return count;
 }
 
-/// A print spooler of the test's own with one queue, "banco", which keeps what it was given.
+/// A print spooler of the test's own with one queue, "banco", which keeps its jobs.
 class Spooler {
   public:
     Spooler() {
@@ -103,12 +103,12 @@ class Spooler {
 
 }  // namespace
 
-// What comes out when a document is printed.
+// The printed form of a document.
 class ViewPrint : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_folder;
-    // The printing library asks for its server once.
+    // The printing library looks up its server once.
     Spooler m_spooler;
 
     /// Prints into a file as the user would choose it; its path.

@@ -20,7 +20,7 @@ namespace {
 
 const bool isolated = enterPrivateNetwork(__FILE__) && replaceResolverConfiguration("nameserver 127.0.0.1\n");
 
-// In every way in which a page has names looked up without asking for anything there
+// Every way in which a page causes name look-ups without a request
 const char* const namesPage =
     "<html><head><meta http-equiv='x-dns-prefetch-control' content='on'>"
     "<meta http-equiv='X-DNS-Prefetch&#45;Control' content=' ON '>"
@@ -31,7 +31,7 @@ const char* const namesPage =
     "<iframe srcdoc=\"<meta http-equiv=x-dns-prefetch-control content=on><a href='http://h.example/'>x</a>"
     "\"></iframe><form action='http://i.example/'><input type=submit></form></body></html>";
 
-/// What a page puts off for some milliseconds comes before the last of so many frames.
+/// What a page delays by some milliseconds happens before the last of so many frames.
 void rest(const HtmlView& view) {
     for (int i = 0; i < 12; ++i)
         settle(view);
@@ -39,7 +39,7 @@ void rest(const HtmlView& view) {
 
 }  // namespace
 
-// A message does nothing but show, and a browser that dies takes nothing along.
+// A message is only shown, and a browser that crashes takes nothing along.
 class ViewSafety : public QObject {
     Q_OBJECT
 
@@ -79,8 +79,8 @@ class ViewSafety : public QObject {
         const auto after = networkAttempts();
         QCOMPARE(names.soFar(), QByteArrayList());
         QVERIFY(after == before);
-        QVERIFY(networkAttempts() != before);  // the test's own question counts
-        // the page's own means are no part of the document
+        QVERIFY(networkAttempts() != before);  // the test's own query counts
+        // the page's own elements are not part of the document
         const QString html = desk.view.documentHTML();
         QVERIFY(html.contains("<meta http-equiv=\"x-dns-prefetch-control\" content=\"on\">"));
         QCOMPARE(html.count("<meta"), 3);
@@ -115,7 +115,7 @@ class ViewSafety : public QObject {
                  QString(","));
     }
 
-    // The test's own ground: without the filter somebody would have come
+    // Checks the test itself: without the filter there are connections
     void countingServerCounts() {
         CountingServer server;
         QTcpSocket socket;
@@ -248,7 +248,7 @@ class ViewSafety : public QObject {
     void everyNewProcessCanEdit() {
         Desk desk("<p>uno</p>");
         for (int i = 0; i < 8; ++i) {
-            desk.view.setDocumentHTML("<p>uno</p>");  // one that ends the browser often is given up
+            desk.view.setDocumentHTML("<p>uno</p>");  // anew: one that often ends the browser is given up
             endBrowserOf(desk.view);
             QTRY_VERIFY(desk.view.isLive());
             QVERIFY(desk.view.insertHTML("due "));

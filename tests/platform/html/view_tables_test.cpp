@@ -34,7 +34,7 @@ class ViewTables : public QObject {
         return tag + '>' + (text == "." ? QStringLiteral("&nbsp;") : text) + QStringLiteral("</td>");
     }
 
-    // The attributes of a cell stand in the order in which they were set
+    // The attributes of a cell are in the order in which they were set
     QString shown() const {
         return m_desk->body().replace(QRegularExpression("( rowspan=\"\\d+\")( colspan=\"\\d+\")"), "\\2\\1");
     }

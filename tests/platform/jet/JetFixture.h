@@ -18,7 +18,7 @@
 #include "platform/Status.h"
 #include "support/JetChecker.h"
 
-/// A folder of its own and the ways into the engine that the tests share. Failures end the running test.
+/// A folder of its own, and the calls of the engine that the tests share. Failures end the running test.
 class JetTest : public ::testing::Test {
   protected:
     using Row = std::vector<jet::Value>;
@@ -36,12 +36,12 @@ class JetTest : public ::testing::Test {
         m_made.insert(file);
         return open(file);
     }
-    /// What this engine alone has written is sound at the end of each test.
+    /// Verifies at the end of each test that the engine's files are sound.
     void TearDown() override {
         for (const std::string& file : m_made)
             if (!m_unsound && !HasFailure() && std::filesystem::exists(file)) expectSound(file);
     }
-    /// For a test that spoils its files itself.
+    /// For a test that damages its files itself.
     void leaveUnsound() { m_unsound = true; }
     static DatabasePtr open(const std::string& file, const jet::Database::Options& options = {}) {
         auto database = jet::Database::open(file, options);
@@ -115,7 +115,7 @@ class JetTest : public ::testing::Test {
         std::sort(names.begin(), names.end());
         return names;
     }
-    /// A copy of the sample, so that nothing can happen to it; empty when there is none.
+    /// A copy of the sample, so that it stays unchanged; empty when there is none.
     std::string copyOf(const char* name) {
         const std::string file = sample(name);
         if (file.empty()) return {};
@@ -124,7 +124,7 @@ class JetTest : public ::testing::Test {
         return path(name);
     }
     static bool isJet3(const std::string& file) { return bytesOf(file)[0x14] == 0; }
-    /// What opens a sample.
+    /// The password of a sample.
     static jet::Database::Options optionsFor(const std::string& name) {
         const bool hasPassword = name.find("with-password") != std::string::npos;
         return {.password = hasPassword ? "password" : ""};

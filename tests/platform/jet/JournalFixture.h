@@ -13,7 +13,7 @@
 
 using namespace jet;
 
-/// A database of 80 rows, a change that touches everything in it, and accidents on the way.
+/// A database of 80 rows, a change that touches everything in it, and faults during the change.
 class JournalTest : public JetTest {
   protected:
     JournalTest() {
@@ -61,7 +61,7 @@ class JournalTest : public JetTest {
         writeBytes(path(), before);
         ASSERT_NE(before, after);
     }
-    // Opens what the accident left and says which state it is.
+    // Opens what the fault left and returns its state.
     bool isAfter() {
         {
             const auto database = Database::open(path());
@@ -74,7 +74,7 @@ class JournalTest : public JetTest {
         return now == after;
     }
 
-    // Runs a change in a process that dies at the first step for which `when` answers true.
+    // Runs a change in a process that dies at the first step for which `when` returns true.
     void dieAt(const std::function<bool(const DiskStep&)>& when, const Database::Options& options = {}) {
         const pid_t child = ::fork();
         if (child == 0) {
@@ -108,5 +108,5 @@ class JournalTest : public JetTest {
 
     std::string before;
     std::string after;
-    std::vector<std::string> notices;  // that were told
+    std::vector<std::string> notices;  // that were reported
 };

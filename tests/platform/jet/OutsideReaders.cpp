@@ -16,7 +16,7 @@ using namespace jet;
 
 namespace {
 
-// Marks that stand in no sample's text.
+// Characters that are in no sample's text.
 const std::string fieldEnd = "~|F|~";
 const std::string rowEnd = "~|R|~";
 const std::string nullMark = "~|N|~";
@@ -87,7 +87,7 @@ std::string comparable(const Value& value, Type type) {
     if (const Date* date = std::get_if<Date>(&value)) return dateText(date->days);
     if (const Currency* amount = std::get_if<Currency>(&value))
         return numberText(static_cast<double>(amount->tenThousandths) / 10000, type);
-    // The other reader does not tell an empty text from Null.
+    // The other reader does not distinguish an empty text from Null.
     if (const std::string* text = std::get_if<std::string>(&value))
         return text->empty() ? nullMark : withoutUndefined(*text);
     return std::to_string(std::get<Bytes>(value).size()) + " bytes";
@@ -107,7 +107,7 @@ std::string comparable(const std::string& text, Type type) {
     }
 }
 
-// Kinds that both readers give in a form that can be compared.
+// Types that both readers print in a form that can be compared.
 bool isCompared(Type type) {
     return type != Type::Ole && type != Type::Binary && type != Type::Guid && type != Type::Numeric &&
            static_cast<int>(type) <= static_cast<int>(Type::Memo);
@@ -153,7 +153,7 @@ std::optional<std::vector<ComparableRow>> mdbtoolsTable(const std::string& file,
                                     "-D", "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file, table.name},
                                    &exitCode);
     if (exitCode != 0) throw std::runtime_error("mdb-export failed on " + table.name);
-    // It gives the columns in the order of the definition, which is that of their numbers in users' tables.
+    // It prints the columns in the order of the definition, which is that of their numbers in users' tables.
     std::vector<size_t> order(table.columns.size());
     std::iota(order.begin(), order.end(), size_t{0});
     std::sort(order.begin(), order.end(),

@@ -10,19 +10,19 @@
 
 /// Readers that share nothing with the engine.
 
-/// What the page checker of the shared folder finds, empty for nothing; no value when it is not here, which
-/// is told.
+/// What the page checker of the shared folder finds, empty for nothing; no value, and a note, when it is not
+/// here.
 std::optional<std::string> sharedCheckerFindings(const std::string& file);
 
 /// A row in a form in which two readers can be compared: a text for each column, in the order of SELECT *. It
-/// is empty for a kind that the readers give differently.
+/// is empty for a type that the readers print differently.
 using ComparableRow = std::vector<std::string>;
 ComparableRow comparableRow(const jet::TableDefinition& table,
                             const std::function<jet::Value(size_t column)>& valueOf);
 /// Row as one line.
 std::string joined(const ComparableRow& row);
 
-/// The rows of a table as mdbtools reads them; no value when mdbtools is not here, which is told.
+/// The rows of a table as mdbtools reads them; no value, and a note, when mdbtools is not here.
 std::optional<std::vector<ComparableRow>> mdbtoolsTable(const std::string& file,
                                                         const jet::TableDefinition& table);
 /// The same as lines.

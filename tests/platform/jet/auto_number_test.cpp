@@ -1,4 +1,4 @@
-// Auto-numbers of files whose counter lies below the greatest number in use, as some real ones do.
+// Auto-numbers of files whose counter is below the greatest number in use, as in some real ones.
 #include <limits>
 
 #include "platform/jet/JetFixture.h"

@@ -1,5 +1,5 @@
-// A journal that is found beside a database it does not belong to: nothing of the database is changed,
-// nothing of the journal is lost.
+// A journal beside a database to which it does not belong: the database is unchanged, and the journal is
+// kept.
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/xattr.h>
@@ -25,7 +25,7 @@ class BindingTest : public JournalTest {
         std::filesystem::remove(path("altro.mdb"));
         return bytes;
     }
-    // The state before with one name changed: as long, and alike but for a few pages.
+    // The state before with one name changed: of equal length, and equal but for a few pages.
     std::string backup() {
         writeBytes(path("altro.mdb"), before);
         DatabasePtr database = open(path("altro.mdb"));
@@ -51,7 +51,7 @@ class BindingTest : public JournalTest {
         EXPECT_NE(notices[0].find("data.mdb-journal.scartato"), std::string::npos);
         EXPECT_FALSE(OsFile::exists(journal()));
     }
-    // Opening fails, with a text that names the journal, and nothing is touched.
+    // Opening fails, with a text that names the journal, and nothing is changed.
     void expectRefused() {
         const bool folder = std::filesystem::is_directory(journal());
         const std::string journalBytes = folder ? "" : bytesOf(journal());
@@ -187,7 +187,7 @@ TEST_F(BindingTest, PlantedBytesNeverCutTheDatabase) {
     const std::string onePage = asText(journal::encode(header));
     header.pages = static_cast<uint32_t>(before.size() / pageSize);
     const std::string noRecords = asText(journal::encode(header));
-    // A record of page 0, and one of a page that is not there.
+    // A record of page 0, and one of a page past the end.
     std::vector<uint8_t> record;
     journal::appendOriginal(record, journal::recordsStart, header.nonce, 0, Page{});
     const std::string pageZero = noRecords + asText(record);
@@ -231,7 +231,7 @@ TEST_F(BindingTest, LinksAndFoldersAreNoJournals) {
 }
 
 TEST_F(BindingTest, JournalOfSomebodyWhoMayNotWriteTheDatabaseIsNotTouched) {
-    // The rule itself is tested for any user in isTrusted(); here it is played with a real file of somebody
+    // The rule itself is tested for any user in isTrusted(); here it is tested with a real file of somebody
     // else.
     if (::geteuid() != 0) GTEST_SKIP() << "only the administrator can give a file away";
     crash();
@@ -263,7 +263,7 @@ static std::string accessList() {
     add(1, 6, nobodyNamed);   // the owner
     add(2, 6, 12345);         // the user
     add(4, 6, nobodyNamed);   // the group
-    add(16, 6, nobodyNamed);  // what bounds these two
+    add(16, 6, nobodyNamed);  // the mask of these two
     add(32, 0, nobodyNamed);  // others
     return list;
 }

@@ -29,7 +29,7 @@ int compare(const char* left, const char* right) {
     return jet::compareGeneral(left, right);
 }
 
-/// The entries of one index as they stand in its leaf pages: key without the row's identity, and that
+/// The entries of one index as in its leaf pages: key without the row's identity, and that
 /// identity.
 class LeafWalk {
   public:
@@ -96,7 +96,7 @@ struct RealFileCount {
     int keys = 0;
 };
 
-/// Holds every text index of a real file against the keys that its rows give.
+/// Compares every text index of a real file with the keys made from its rows.
 RealFileCount compareIndexes(const std::string& path) {
     RealFileCount count;
     auto database = jet::Database::open(path, {.readOnly = true});
@@ -126,7 +126,7 @@ RealFileCount compareIndexes(const std::string& path) {
                 std::string made(1, '\0');  // the key of Null
                 if (row.value()->text(static_cast<size_t>(column - definition.columns.begin()), text)) {
                     if (text.find("\u00df") != std::string::npos)
-                        continue;  // real files disagree on its positions
+                        continue;  // real files differ in its positions
                     made.clear();
                     if (!jet::appendIndexKey(made, text, index.parts[0].ascending)) continue;
                     if (!previous.empty()) {

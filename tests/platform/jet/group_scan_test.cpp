@@ -1,4 +1,4 @@
-// The rows with one number in a column, found by an index or by a walk, and walks over files longer than the
+// The rows with one number in a column, found by an index or by a scan, and scans of files longer than the
 // cache.
 #include <random>
 
@@ -125,7 +125,7 @@ TEST_F(GroupScanTest, AnIndexThatContradictsItsRowsIsNotBelieved) {
     const std::vector<RowId> rows = expected(*t, Large, int64_t{20});
     database.reset();
     leaveUnsound();
-    // A row of the group gets another number behind the index's back.
+    // A row of the group gets another number without a change of the index.
     std::string bytes = bytesOf(path());
     const size_t page = rows[3].page * size_t{4096};
     const auto at = [&](size_t offset) { return static_cast<uint8_t>(bytes[page + offset]); };

@@ -1,4 +1,4 @@
-// Indexes of every kind that a user's table may carry, on tables made for the purpose.
+// Indexes of every kind that a user's table may have, on tables made for the test.
 #include <random>
 
 #include "platform/jet/JetFixture.h"
@@ -184,7 +184,7 @@ TEST_F(IndexKindsTest, UniquePairLooksAtBothColumns) {
     EXPECT_OK(t.insert(texts(std::string("a"), {}, int64_t{2})));
     EXPECT_FAILS(ErrorCode::DuplicateKey, t.insert(texts(std::string("A"), {}, int64_t{1})));
     EXPECT_OK(t.insert(texts(std::string("a"))));
-    EXPECT_OK(t.insert(texts(std::string("a"))));  // a Null is equal to nothing
+    EXPECT_OK(t.insert(texts(std::string("a"))));  // Null is equal to nothing
     EXPECT_OK(database->commit());
     expectSound(path());  // the other checker looks for a Null in the first column only
 }

@@ -1,4 +1,4 @@
-// The index on a long: splits, tails, emptied leaves, foreign forms.
+// The index on a long: splits, tails, emptied leaves, other writers' forms.
 #include <algorithm>
 #include <numeric>
 #include <random>
@@ -333,7 +333,7 @@ TEST_F(TreeTest, ManyEqualKeysShareALongPrefix) {
         for (uint32_t slot = 0; slot < 250; ++slot)
             tree().insert(key, {page, static_cast<uint8_t>(slot)});
     EXPECT_EQ(entries().size(), 10000u);
-    // A key that shares nothing with the others, into leaves that are only as full as their prefix allows.
+    // A key without the common prefix, into leaves that are so full only because of their prefix.
     tree().insert(longKey(-1000000), {1, 0});
     tree().insert(longKey(2000000000), {1, 0});
     EXPECT_EQ(entries().size(), 10002u);
@@ -346,7 +346,7 @@ TEST_F(TreeTest, ManyEqualKeysShareALongPrefix) {
 TEST_F(TreeTest, NodesWithAPrefixAreReadAndCutUpWhenChanged) {
     for (int32_t i = 0; i < 400000; i += 4)
         tree().insert(longKey(i), {5, 1});
-    // Rewrite each node as another writer would, with a prefix; make one fuller than it could be without.
+    // Rewrites each node as another writer would, with a prefix; makes one fuller than is possible without.
     const std::vector<Bytes> before = entries();
     const IndexPage root(*file->page(index.rootPage), index.rootPage, definition.page);
     ASSERT_FALSE(root.leaf);

@@ -1,4 +1,4 @@
-// The journal that stands beside an open file and keeps room for the next one, and disks that get full.
+// The journal beside an open file, which reserves room for the next change, and full disks.
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -29,8 +29,8 @@ class JournalRoomTest : public JournalTest {
             }
         return database.commit();
     }
-    // From now on nothing gets more room than it has. As on a disk that is full: what is written in place
-    // works, and so does taking away.
+    // From now on no file can grow. As on a full disk, writing in place
+    // and truncating still work.
     void fillDisk() {
         const uint64_t size = std::filesystem::file_size(path());
         const uint64_t kept = allocated(journal());
@@ -96,7 +96,7 @@ TEST_F(JournalRoomTest, UpdatesSucceedOnADiskThatHasBecomeFull) {
         EXPECT_OK(table(*database).update(id, std::span(&change, 1)));
         EXPECT_OK(database->commit());
     }
-    // What needs more room changes nothing and says why; then the small ones go on.
+    // A change that needs more room fails, changes nothing and says why; small ones still work.
     const std::string full = bytesOf(path());
     const Status status = addRows(*database, 400);
     EXPECT_FAILS(ErrorCode::DeviceIo, status);
@@ -118,7 +118,7 @@ TEST_F(JournalRoomTest, DiskThatWasFullAtOpeningIsToldWhenAsked) {
     });
     DatabasePtr database = open(path());
     EXPECT_FALSE(database->roomReserved());
-    EXPECT_OK(addRows(*database, 1));  // there happens to be room
+    EXPECT_OK(addRows(*database, 1));  // there is room by chance
     EXPECT_FALSE(database->roomReserved());
     setDiskHook({});
     EXPECT_TRUE(database->roomReserved());
@@ -154,7 +154,7 @@ TEST_F(JournalRoomTest, JournalHasJustTheRightsOfTheDatabase) {
         EXPECT_EQ(mode(), wanted);
     }
     DatabasePtr database = open(path());
-    // The database's rights change while it is open: before it is hot the journal follows.
+    // The database's permissions change while it is open: the journal gets them before it is hot.
     std::filesystem::permissions(path(), std::filesystem::perms(0600));
     setDiskHook([&](const DiskStep& disk) {
         if (disk.path == journal() && disk.kind == DiskStep::Kind::Write) {
@@ -167,7 +167,7 @@ TEST_F(JournalRoomTest, JournalHasJustTheRightsOfTheDatabase) {
     EXPECT_EQ(mode(), std::filesystem::perms(0600));
 }
 
-// A real refusal of the system, in the middle of the pages.
+// A real failure of the system, in the middle of the pages.
 TEST_F(JournalRoomTest, FileThatMayNotGrowIsLeftAsItWas) {
     const pid_t child = ::fork();
     if (child == 0) {

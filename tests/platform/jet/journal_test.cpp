@@ -1,5 +1,5 @@
-// The machine is broken on purpose: failing and short writes, death at each step, lost power. After each of
-// them the file holds exactly the state before or after the transaction.
+// Injected faults: failing and short writes, death at each step, lost power. After each of them the file
+// contains exactly the state before or after the transaction.
 #include <fcntl.h>
 
 #include "platform/jet/JournalFixture.h"
@@ -24,7 +24,7 @@ TEST_F(JournalTest, FailureOfAnyStepLeavesTheStateBefore) {
                         fileSynced = fileSynced || (!ofJournal && disk.kind == Kind::Sync);
                         return DiskStep::Outcome::Proceed;
                     }
-                    // Room that is missing, and what comes when the change has happened. The first Create is
+                    // Missing room, and steps after the commit. The first Create is
                     // tried again by the transaction, half an emptied header is an empty one.
                     harmless = disk.kind == Kind::Create || disk.kind == Kind::Reserve ||
                                disk.kind == Kind::Remove || (fileSynced && disk.kind == Kind::Sync) ||
@@ -195,7 +195,7 @@ TEST_F(JournalTest, HotJournalIsRolledBackBeforeAReaderSeesAnything) {
 }
 
 TEST_F(JournalTest, IncompleteJournalIsEmptied) {
-    // Of the journal any part may be missing as long as no page is written.
+    // Any part of the journal may be missing as long as no page is written.
     int syncs = 0;
     dieAt([&](const DiskStep& disk) { return disk.kind == DiskStep::Kind::Sync && ++syncs == 1; });
     const std::string whole = bytesOf(journal());

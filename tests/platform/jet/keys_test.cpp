@@ -1,4 +1,4 @@
-// Keys of index entries: each one that stands in a file made by other programs is made again from its row.
+// Keys of index entries: each one in a file made by other programs is made again from its row.
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/Failure.h"
@@ -44,7 +44,7 @@ class KeysTest : public JetTest {
         });
     }
 
-    // Counts by kind of index, for the claims about what was compared.
+    // Counts by kind of index, to verify how much was compared.
     struct Counts {
         size_t keys = 0;
         size_t text = 0;

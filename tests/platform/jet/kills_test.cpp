@@ -1,5 +1,5 @@
-// Three writers and a reader in processes of their own; again and again one of them is killed and started
-// anew. VESTROLA_KILLS in the environment says how often, VESTROLA_SEED from which seed.
+// Three writers and a reader, each a process; again and again one of them is killed and started
+// again. VESTROLA_KILLS in the environment says how often, VESTROLA_SEED from which seed.
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -17,7 +17,7 @@ using namespace jet;
 class KillsTest : public JetTest {
   protected:
     static constexpr int writers = 3;
-    static constexpr int64_t window = 20;  // rows that each keeps
+    static constexpr int64_t window = 20;  // rows that each writer keeps
 
     std::string log(int number) const { return path() + ".log" + std::to_string(number); }
     // How many statements of that writer have returned.
@@ -28,8 +28,8 @@ class KillsTest : public JetTest {
         ::close(fd);
         return count;
     }
-    // Each writer's rows bear its number and rising ones; the last so many are there, never half a statement.
-    // The greatest number of each writer, or nothing when that does not hold.
+    // Each writer's rows have its number and rising ones; the last so many are there, never half a statement.
+    // The greatest number of each writer, or nothing when that is not so.
     static std::optional<std::map<int, int64_t>> lastNumbers(Database& database) {
         std::map<int, std::vector<int64_t>> found;
         const Status status = table(database).scan([&](RowId, const RowView& row) {
@@ -59,14 +59,14 @@ class KillsTest : public JetTest {
         throw std::runtime_error("a row is missing");
     }
 
-    // Goes on until it is killed; ends by itself only when a demand is not met.
+    // Runs until it is killed; ends by itself only when a check fails.
     int write(int number) const {
         DatabasePtr database = open(path(), patient(number));
         auto last = lastNumbers(*database);
         if (!last) return 2;
         int64_t n = (*last)[number];
         const int64_t told = returned(number);
-        if (n < told || n > told + 1) return 3;  // at most the one that was under way
+        if (n < told || n > told + 1) return 3;  // at most the one that was in progress
         const int fd = ::open(log(number).c_str(), O_WRONLY | O_CREAT, 0600);
         for (;; ++n) {
             if (::pwrite(fd, &n, sizeof n, 0) != sizeof n) return 8;

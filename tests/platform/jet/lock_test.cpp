@@ -20,7 +20,7 @@ class LockTest : public JetTest {
   protected:
     LockTest() { create(path()).reset(); }
 
-    // Runs `work` in another process and waits until it says that it is ready; it goes on until it is let go.
+    // Runs `work` in another process and waits until it says that it is ready; it continues until finish().
     class OtherProcess {
       public:
         template <class Work>
@@ -62,7 +62,7 @@ class LockTest : public JetTest {
     };
 
     static Database::Options hasty() { return {.lockWait = {.limit = std::chrono::milliseconds(50)}}; }
-    // In a transaction that is open.
+    // In an open transaction.
     static void addRows(Database& database, int count) {
         for (int i = 0; i < count; ++i)
             insert(table(database), recipient(table(database), std::string(60, 'x')));
@@ -196,7 +196,7 @@ TEST_F(LockTest, JournalOfALivingWriterKeepsNoReaderOut) {
     EXPECT_EQ(rowsOf(table(*reader)).size(), 1u);
 }
 
-// The one who holds the writer's lock is about to roll the journal back, or to find that he need not.
+// The owner of the writer's lock is about to roll the journal back, or to find that it need not.
 TEST_F(LockTest, JournalThatIsLeftIsRolledBackOnlyUnderTheWritersLock) {
     const std::string before = bytesOf(path());
     crash();
@@ -257,7 +257,7 @@ TEST_F(LockTest, WriterWaitsForReadersBeforePagesAreWritten) {
 TEST_F(LockTest, WriterGetsInBetweenReadersThatNeverAllPause) {
     const auto readOn = [&](auto pause) {
         DatabasePtr database = open(path());
-        // A process of its own reads, so that this one can wait to be let go.
+        // Another process reads, so that this one can wait for its release.
         pid_t child = ::fork();
         if (child == 0) {
             for (;;) {
@@ -367,7 +367,7 @@ TEST_F(LockTest, HeldForeignLockFileForbidsWriting) {
     EXPECT_EQ(bytesOf(path()), before);
     EXPECT_TRUE(std::filesystem::exists(ldb));
     other.finish();
-    EXPECT_OK(database->begin());  // nobody holds it now: a leftover
+    EXPECT_OK(database->begin());  // nobody has it locked: a leftover
     EXPECT_FALSE(std::filesystem::exists(ldb));
     database->rollback();
 }
@@ -393,7 +393,7 @@ TEST_F(LockTest, TransactionInsideAnOwnReadScope) {
         addRow(*database, "x");
         EXPECT_EQ(rowsOf(table(*database)).size(), 1u);
         EXPECT_EQ(rowsOf(table(*other)).size(), 1u) << "the exclusive lock outlived the transaction";
-        EXPECT_OK(other->begin());  // the writer's lock went with the transaction
+        EXPECT_OK(other->begin());  // the writer's lock ended with the transaction
         addRows(*other, 1);
         EXPECT_FAILS(ErrorCode::FileInUse, other->commit());  // the scope has kept its lock
     }

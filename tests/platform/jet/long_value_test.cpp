@@ -66,7 +66,7 @@ class LongValueTest : public JetTest {
         });
         return count;
     }
-    // Changes the 12 bytes of the memo that lies in a chain.
+    // Changes the 12 bytes of the memo that is stored in a chain.
     void damageHead(const std::function<void(uint8_t*)>& damage) {
         change([&](PageFile& file, const TableDefinition& t, std::span<const uint8_t> head, RowId place) {
             const size_t at = static_cast<size_t>(head.data() - RowStore(file, t).find(ids[2])->bytes.data());
@@ -101,7 +101,7 @@ class LongValueTest : public JetTest {
         }
         database = open(path());
     }
-    // Reading and deleting the row fail as damage, and the file stays as it is.
+    // Reading and deleting the row fail as damage, and the file is unchanged.
     void expectDamage() {
         EXPECT_FAILS(ErrorCode::DamagedDatabase, prova().value(ids[2], note));
         const std::string before = bytesOf(path());

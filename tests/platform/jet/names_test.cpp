@@ -30,14 +30,14 @@ TEST(Names, EverythingElseMakesADifference) {
     EXPECT_FALSE(sameName("citta", "città"));
     EXPECT_FALSE(sameName("nome", "nome "));
     EXPECT_FALSE(sameName("nom", "nome"));
-    EXPECT_FALSE(sameName("@", "`"));  // as far from each other as a capital from its small letter
+    EXPECT_FALSE(sameName("@", "`"));  // with the distance of a capital from its small letter
     EXPECT_FALSE(sameName("straße", "strasse"));
 }
 
 TEST(Names, OrderIsThatOfTheSmallLetters) {
     EXPECT_LT(compareNames("Zeta", "à"), 0);
     EXPECT_LT(compareNames("alfa", "BETA"), 0);
-    EXPECT_GT(compareNames("B", "_"), 0);  // behind the underscore stand the small letters
+    EXPECT_GT(compareNames("B", "_"), 0);  // after the underscore come the small letters
     EXPECT_LT(compareNames("alfa", "alfa1"), 0);
     EXPECT_GT(compareNames("È2", "è1"), 0);
 }

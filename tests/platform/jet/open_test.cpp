@@ -1,4 +1,4 @@
-// Opening: what is refused and how, and that a file which is only looked at stays as it is.
+// Opening: what is refused and how, and that reading leaves a file unchanged.
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,7 +19,7 @@ using namespace jet;
 
 class OpenTest : public JetTest {
   protected:
-    // The file is refused with that error and a text, and not touched.
+    // The file is refused with that error and a text, and unchanged.
     void expectRefused(ErrorCode code, const std::string& bytes) {
         writeBytes(path(), bytes);
         const auto outcome = Database::open(path());
@@ -73,7 +73,7 @@ TEST_F(OpenTest, UnreadableFileIsAnAccessFailure) {
     create(path()).reset();
     ASSERT_EQ(::chmod(path().c_str(), 0), 0);
     ASSERT_EQ(::chmod(path("").c_str(), 0755), 0);
-    // A process that is not the administrator's, whom nothing is forbidden.
+    // A process that is not root's, to which everything is permitted.
     const pid_t child = ::fork();
     if (child == 0) {
         if (::getuid() == 0 && ::setuid(65534) != 0) ::_exit(2);
@@ -237,14 +237,14 @@ TEST_F(OpenTest, ReadingDoesNotTouchTheFile) {
     EXPECT_EQ(std::filesystem::last_write_time(path()), time);
 }
 
-// Everything that a hostile file can do is answered by an error or by rows, soon and without a crash.
+// Any hostile file leads to an error or to rows, soon and without a crash.
 class DamageTest : public OpenTest {
   protected:
     void SetUp() override { leaveUnsound(); }
 
     static constexpr int rows = 120;
 
-    // Waiting for the disk would take nearly all the time.
+    // Syncs would take nearly all the time.
     DamageTest() {
         setDiskHook([](const DiskStep& step) {
             const bool sync = step.kind == DiskStep::Kind::Sync || step.kind == DiskStep::Kind::SyncFolder;
@@ -333,7 +333,7 @@ TEST_F(DamageTest, FlippedBytesNeverCrashOrHang) {
         const int flips = 1 + static_cast<int>(random() % 8);
         const size_t page = random() % (bytes.size() / 4096);
         for (int i = 0; i < flips; ++i) {
-            // Mostly near the start of a page, where counts and pointers stand.
+            // Mostly near the start of a page, where counts and pointers are.
             const size_t at = page * 4096 + (random() % 3 ? random() % 96 : random() % 4096);
             bytes[at] = static_cast<char>(random() % 4 ? random() : 0xFF);
         }
@@ -406,7 +406,7 @@ TEST_F(DamageTest, IndexThatGoesRoundInCirclesIsDamaged) {
 
 TEST_F(DamageTest, IndexOfAnotherTableRefusesChangesBeforeTheFileIsTouched) {
     std::string bytes = sample();
-    bytes[21 * 4096 + 4] = 77;  // the index root belongs to somebody else
+    bytes[21 * 4096 + 4] = 77;  // the index root belongs to another table
     writeBytes(path(), bytes);
     DatabasePtr database = open(path());
     EXPECT_FAILS(ErrorCode::DamagedDatabase, table(*database).writable());
@@ -430,7 +430,7 @@ TEST_F(DamageTest, IndexWhoseKeysAreNotThoseOfItsRowsRefusesChanges) {
 
 TEST_F(DamageTest, FailureInTheMiddleOfAChangeUndoesTheTransaction) {
     std::string bytes = sample();
-    bytes[20 * 4096 + 4096 - 2 * 69] = 7;  // no form of a map: that of the pages with room
+    bytes[20 * 4096 + 4096 - 2 * 69] = 7;  // an unknown form of the map of pages with room
     writeBytes(path(), bytes);
     DatabasePtr database = open(path());
     Table& recipients = table(*database);

@@ -41,7 +41,7 @@ class ProcessesTest : public JetTest {
         return std::chrono::steady_clock::now() - start < std::chrono::seconds(std::atoi(seconds));
     }
 
-    // One process: its own rows are those of its own group. What it wrote it must find again, in every
+    // One process: its own rows are those of its own group. It must find again what it wrote, in every
     // transaction.
     class Writer {
       public:
@@ -49,7 +49,7 @@ class ProcessesTest : public JetTest {
             : m_number(number), m_random(static_cast<unsigned>(number + 1)) {
             m_database = open(file, {.cachedPages = number % 2 ? 4u : 8192u});
         }
-        // Zero, or which demand was not met.
+        // Zero, or the number of the check that failed.
         int run() {
             const auto start = std::chrono::steady_clock::now();
             for (int done = 0; goesOn(done, start); ++done) {
@@ -125,7 +125,7 @@ TEST_F(ProcessesTest, EveryStatementOfEveryWriterIsThereAtTheEnd) {
     constexpr int rows = 40;
     runAll(writers, [&](int number) {
         for (int i = 0; i < rows; ++i) {
-            // Opened anew each time, as by programs that come and go.
+            // Opened anew each time, as by programs that start and end.
             auto database = Database::open(path(), {.lockWait = {.limit = std::chrono::seconds(30)}});
             if (!database.ok() || !database.value()->begin().ok()) return 1;
             Table& t = table(*database.value());

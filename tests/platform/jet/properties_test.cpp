@@ -1,4 +1,4 @@
-// Required and AllowZeroLength, as the catalogue tells them.
+// Required and AllowZeroLength, as the catalogue has them.
 #include "platform/jet/ColumnProperties.h"
 #include "platform/jet/DefinitionWriter.h"
 #include "platform/jet/JetFixture.h"

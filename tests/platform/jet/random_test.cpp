@@ -82,13 +82,13 @@ class RandomTest : public JetTest {
         return rows;
     }
 
-    // Refusals that random values earn; the last one for characters in an indexed text.
+    // Refusals that random values may cause; the last one for characters in an indexed text.
     static bool isExpected(ErrorCode code) {
         return code == ErrorCode::DuplicateKey || code == ErrorCode::ValueRequired ||
                code == ErrorCode::RecordTooLarge || code == ErrorCode::NotSupported;
     }
 
-    // One table and what it is expected to hold.
+    // One table and its expected content.
     struct Subject {
         Table& t;
         Rows model;

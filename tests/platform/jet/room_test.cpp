@@ -1,4 +1,4 @@
-// Room of deleted rows is found again: files do not grow by importing and deleting.
+// Room of deleted rows is used again: files do not grow by importing and deleting.
 #include <random>
 
 #include "platform/jet/Format.h"
@@ -54,7 +54,7 @@ class RoomTest : public JetTest {
         database = open(path());
     }
     size_t size() const { return std::filesystem::file_size(path()); }
-    // Size after the last round by that after the first. Each round inserts rows and deletes some.
+    // Size after the last round divided by that after the first. Each round inserts rows and deletes some.
     template <class Length, class Which>
     double growth(int count, Length length, Which which, bool reopened) {
         size_t first = 0;

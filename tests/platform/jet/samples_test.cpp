@@ -1,6 +1,6 @@
-// Files made by other programs: every value is read as an independent reader reads it, and what cannot be
-// kept right is refused. The samples lie outside the sources; where they are missing, each test says so and
-// passes.
+// Files made by other programs: every value is read as an independent reader reads it, and a change that
+// cannot be written correctly is refused. The samples are outside the sources; where they are missing, each
+// test reports it and passes.
 #include "platform/jet/Header.h"
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/OutsideReaders.h"

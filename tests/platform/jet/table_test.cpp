@@ -1,4 +1,4 @@
-// Rows of a table: what is written is what is read, what cannot be kept is refused.
+// Rows of a table: what is written is what is read, what cannot be stored is refused.
 #include <limits>
 
 #include "platform/jet/JetFixture.h"
@@ -165,7 +165,7 @@ TEST_F(TableTest, AYesNoColumnOfAllRowsIsSetInPlaceAlsoWhereRowsHaveMoved) {
         }
         return made;
     });
-    // Long texts drive some of them off their pages.
+    // Long texts move some of them to other pages.
     change([&] {
         for (size_t i = 0; i < count; i += 20)
             for (size_t column : {2u, 3u, 5u}) {
@@ -216,7 +216,7 @@ TEST_F(TableTest, TextTooLongNamesTheColumnAndChangesNothing) {
     EXPECT_FAILS(ErrorCode::FieldTooSmall, outcome);
     EXPECT_TRUE(outcome.status().text().contains(QStringLiteral("prov")));
     row[8] = std::string("RM");
-    EXPECT_OK(recipients.insert(row));  // the transaction was not hurt
+    EXPECT_OK(recipients.insert(row));  // the transaction is intact
     EXPECT_OK(database->commit());
     EXPECT_EQ(rowsOf(recipients).size(), 1u);
 }
@@ -284,7 +284,7 @@ TEST_F(TableTest, RowKeepsItsIdentityWhenItMoves) {
         return 0;
     });
     expectSound(path());
-    change([&] {  // again, so that bodies move on
+    change([&] {  // again, so that moved rows move once more
         for (const RowId& id : ids) {
             const std::vector<std::pair<size_t, Value>> grow{{13, std::string(255, 'z')},
                                                              {14, std::string(255, 'y')}};

@@ -121,7 +121,7 @@ TEST_F(UsageMapTest, GlobalMapGrowsWithFreeBitsAndThenTakesFormOne) {
     }
     EXPECT_GT(longest, 3900);
     EXPECT_TRUE(formOne);
-    // Free pages can still be found and told.
+    // Free pages can still be found and reported.
     GlobalMap(*file).give(31000);
     EXPECT_EQ(GlobalMap(*file).take(), 31000u);
     for (const uint32_t used : {2u, 20u, 30000u, 33000u})

@@ -1,4 +1,4 @@
-// What is remembered of accepted messages: in memory, in the file, between processes.
+// The list of accepted messages: in memory, in the file, between processes.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -149,7 +149,7 @@ TEST_F(AcceptedListTest, ALivingProcessKeepsItsFileAndIsSeen) {
     AcceptedList other = opened();
     EXPECT_TRUE(other.holds(m_database, 7, "a@x.it"));
     EXPECT_EQ(files().size(), 1);
-    // What the other one takes out is out.
+    // What the other process removes is removed.
     other.remove(m_database, 7);
     EXPECT_TRUE(parseAccepted(content(m_first)).entries.isEmpty());
     one.refresh();
@@ -235,7 +235,7 @@ TEST_F(AcceptedListTest, AFolderThatCannotBeWrittenHasNoRoom) {
 TEST_F(AcceptedListTest, AFullDiskLeavesTheRoomThatThereWas) {
     AcceptedList list = reserved(10);
     const qsizetype room = list.room();
-    // A limit of the process stands for the full disk: reserving beyond it fails, too.
+    // A limit of the process simulates the full disk: reserving beyond it fails, too.
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto signal = std::signal(SIGXFSZ, SIG_IGN);

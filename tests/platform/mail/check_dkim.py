@@ -1,9 +1,9 @@
-"""Verifies the DKIM signatures of messages with an implementation of its own and prints "good" or why not, one line each.
+"""Verifies the DKIM signatures of messages with an independent implementation and prints "good" or why not, one line each.
 
     check_dkim.py MESSAGES NAME TEXT
 
-MESSAGES holds the messages one after the other, each behind a line with its length. TEXT is what the DNS answers for
-NAME; it has nothing for any other name.
+MESSAGES contains the messages one after the other, each after a line with its length. TEXT is the DNS's answer for
+NAME; there is none for any other name.
 """
 import sys
 

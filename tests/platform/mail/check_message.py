@@ -1,6 +1,6 @@
 """Reads messages with Python's own e-mail parser under its strict policy and prints what it understood, as JSON.
 
-The one argument names a file that holds the messages one after the other, each behind a line with its length.
+The one argument names a file with the messages one after the other, each after a line with its length.
 """
 import email
 import email.header
@@ -17,8 +17,8 @@ def header_defects(part):
 
 
 def phrase_of(header):
-    """The name before an address. Newer builds of Python refuse a phrase before an address literal unless told not to be
-    strict; older ones know no such argument."""
+    """The name before an address. Newer builds of Python refuse a phrase before an address literal unless `strict`
+    is off; older ones do not have that argument."""
     try:
         return email.utils.parseaddr(header, strict=False)[0]
     except TypeError:

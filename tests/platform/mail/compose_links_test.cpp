@@ -1,4 +1,4 @@
-// What becomes of the addresses in a body: made fit to be followed, and listed in the text form.
+// The addresses in a body: made valid URIs, and listed in the text form.
 #include <gtest/gtest.h>
 
 #include "platform/mail/compose_support.h"

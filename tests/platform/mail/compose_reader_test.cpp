@@ -1,5 +1,5 @@
-// Composes messages out of ordinary and hostile values and lets Python's e-mail parser, under its strict
-// policy, tell what it reads in them.
+// Composes messages of ordinary and hostile values and compares them with what Python's e-mail parser,
+// under its strict policy, reads in them.
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -23,7 +23,7 @@ const QByteArray attachmentContent("\0\r\n.\r\nFrom x", 12);
 constexpr int messagesOfTheLoop = 600;
 const QString systemPython = QStringLiteral("/usr/bin/python3");
 
-// Line ends as they travel, NUL as a blank
+// Line ends as sent, NUL as a blank
 QString asSent(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
     return QString::fromUtf8(text.toUtf8());

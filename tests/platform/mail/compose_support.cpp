@@ -76,7 +76,7 @@ QByteArray pngContent(qsizetype size) {
 
 namespace {
 
-// Line ends as they travel, NUL as a blank
+// Line ends as sent, NUL as a blank
 QString travelled(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
     return QString::fromUtf8(text.toUtf8());
@@ -102,13 +102,13 @@ QString complaintAboutText(const mail::MessageData& message, QString read) {
     // a message that is one text alone ends with a line end
     const QString sent = travelled(message.BodyText);
     if (!hasSomethingToSee(sent)) return {};
-    // The list of links is what is left after the text.
+    // The rest after the text is the list of links.
     static const QRegularExpression list("\r\nCollegamenti:\r\n([^\r\n]*[a-z]:[^\r\n]*\r\n)+(\r\n)?$");
     if (const auto links = list.match(read); links.hasMatch() && !sent.contains("Collegamenti:"))
         read.truncate(links.capturedStart());
     if (read.endsWith("\r\n") && !sent.endsWith("\r\n")) read.chop(2);
     if (read == sent) return {};
-    // Where lines without a word stand in a row some are left out, and nothing else.
+    // Of consecutive lines without a word some are omitted, and nothing else.
     const auto words = [](const QString& text) { return text.simplified().remove(' '); };
     const bool hasGap = sent.contains(QRegularExpression("(^|\r\n)[^\\S\r\n]*\r\n[^\\S\r\n]*\r\n"));
     return hasGap && words(read) == words(sent) ? QString() : read + "\n--- sent:\n" + sent;

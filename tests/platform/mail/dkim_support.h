@@ -21,7 +21,7 @@ inline QByteArray run(const QString& program, const QStringList& arguments, cons
     return process.readAllStandardOutput();
 }
 
-/// Puts a new key and its selector into the folder and gives the text for the DNS that belongs to it.
+/// Puts a new key and its selector into the folder and returns the text of its DNS record.
 inline QByteArray makeDkimKey(const QString& folder, const QString& domain, const QByteArray& selector,
                               const QStringList& kind = {"RSA", "-pkeyopt", "rsa_keygen_bits:2048"}) {
     QDir().mkpath(folder);

@@ -16,7 +16,7 @@ struct Record {
     QByteArray name, text;
 };
 
-const Record* known = nullptr;  // the library hands its callback nothing of the caller's
+const Record* known = nullptr;  // the library passes no data of the caller to its callback
 
 DKIM_STAT lookUp(DKIM*, DKIM_SIGINFO* signature, unsigned char* answer, size_t room) {
     const QByteArray name = QByteArray(reinterpret_cast<const char*>(dkim_sig_getselector(signature))) +
@@ -42,7 +42,7 @@ QByteArray openDkimVerdict(const QByteArray& message, const QByteArray& name, co
     DKIM_STAT state = DKIM_STAT_OK;
     unsigned char id[] = "test";
     const std::unique_ptr<DKIM, Close> verification(dkim_verify(library.get(), id, nullptr, &state));
-    QByteArray octets = message;  // the library's interface knows no constants
+    QByteArray octets = message;  // the library's interface has no const
     if (state == DKIM_STAT_OK)
         state = dkim_chunk(verification.get(), reinterpret_cast<unsigned char*>(octets.data()),
                            size_t(octets.size()));

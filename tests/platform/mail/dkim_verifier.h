@@ -4,8 +4,8 @@
 
 namespace compose {
 
-/// What libopendkim says of the signature of a message: "good", or why not. `text` is what the DNS answers
-/// for `name`; it has nothing for any other name.
+/// What libopendkim says of the signature of a message: "good", or why not. `text` is the DNS's answer
+/// for `name`; there is none for any other name.
 QByteArray openDkimVerdict(const QByteArray& message, const QByteArray& name, const QByteArray& text);
 
 }  // namespace compose

@@ -14,7 +14,7 @@ struct ValueKind {
 /// A plain, an accented, an empty, a very long … text for names, subject, text and file names.
 QList<ValueKind> valueKinds();
 
-/// Texts that try to be more than texts, the same ones for the same seed.
+/// A generator of texts with injected syntax, the same ones for the same seed.
 class HostileValues {
   public:
     explicit HostileValues(quint32 seed) : m_random(seed) {}
@@ -23,7 +23,7 @@ class HostileValues {
 
     /// Up to `most` pieces of markup, line ends, encoded words, control characters, broken characters.
     QString text(int most);
-    /// An address that may stand in a message, of any form.
+    /// An address that is allowed in a message, of any form.
     QString address();
 
   private:

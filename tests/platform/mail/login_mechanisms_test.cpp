@@ -18,7 +18,7 @@ const SmtpReply unknown{504, "5.5.4 what"};
 const SmtpReply wrong{535, "5.7.8 authentication failed"};
 const SmtpReply noMechanism{535, "5.7.8 Error: authentication failed: no mechanism available"};
 
-/// Every mechanism that is tried while the server knows none.
+/// Every mechanism that is tried while the server accepts none.
 QByteArrayList tried(const LoginTerms& terms) {
     LoginMechanisms mechanisms(terms);
     QByteArrayList names;
@@ -27,7 +27,7 @@ QByteArrayList tried(const LoginTerms& terms) {
     return names;
 }
 
-/// How many mechanisms are tried with a server that gives these replies, the last one again and again.
+/// How many mechanisms are tried with a server that sends these replies, the last one repeatedly.
 int tries(const LoginTerms& terms, std::initializer_list<SmtpReply> replies) {
     LoginMechanisms mechanisms(terms);
     int count = 1;

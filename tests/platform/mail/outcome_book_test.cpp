@@ -29,7 +29,7 @@ class OutcomeBook : public testing::Test {
 
     QStringList files() const { return QDir(folder).entryList(QDir::Files, QDir::Name); }
 
-    /// What the newest file holds.
+    /// What the newest file contains.
     QList<OutcomeLine> lines() const {
         const auto runs = outcomes::runs(folder);
         return runs.isEmpty() ? QList<OutcomeLine>() : linesOf(runs.first());
@@ -52,7 +52,7 @@ class OutcomeBook : public testing::Test {
         return all.isEmpty() ? OutcomeLine() : all.first();
     }
 
-    /// Sends one message to a server that plays this dialogue; what the book then says of it.
+    /// Sends one message to a server that plays this dialogue; returns the book's line of it.
     OutcomeLine afterDialogue(const QByteArrayList& dialogue) {
         ScriptedServer server({dialogue});
         {
@@ -137,7 +137,7 @@ TEST_F(OutcomeBook, RefusalsTellTheCommandThatWasRefused) {
         said(afterDialogue(hello + mail + rcpt +
                            QByteArrayList{"C: DATA", "S: 354 go", "BODY", "S: 552 5.2.2 full", "WAIT"})),
         refused(Stage::Body, 552, "5.2.2"));
-    // In one group the first refusal counts, and it is that of its own command.
+    // In a group of commands the first refusal counts, as that of its own command.
     EXPECT_EQ(said(afterDialogue(helloPipelining + QByteArrayList{"C: MAIL *", "C: RCPT *", "C: DATA",
                                                                   "S: 250 ok", "S: 550 5.1.1 unknown",
                                                                   "S: 554 no recipients", "WAIT"})),
@@ -245,7 +245,7 @@ TEST_F(OutcomeBook, LateAcceptanceAddsALineToTheRunItBelongsTo) {
     ASSERT_EQ(linesOf(runs[1]).size(), 1);
     EXPECT_EQ(linesOf(runs[1])[0].kind, OutcomeKind::Delivered);
     EXPECT_EQ(linesOf(runs[1])[0].address, rossi);
-    // The second run meets him before his row is marked: that is its own line.
+    // The second run reads him before his row is marked: that is its own line.
     EXPECT_FALSE(client.tick(7).done);
     EXPECT_EQ(linesOf(runs[0]).size(), 2);
 }

@@ -1,4 +1,4 @@
-// The lines of the book of outcomes, and what becomes of damaged ones.
+// The lines of the book of outcomes, sound and damaged.
 #include <gtest/gtest.h>
 
 #include "platform/mail/OutcomeBook.h"

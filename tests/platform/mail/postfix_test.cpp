@@ -150,7 +150,7 @@ TEST_F(RealServer, EachMechanismLogsIn) {
         EXPECT_TRUE(s_server->log().contains("sasl_method=" + mechanism)) << mechanism.constData();
 }
 
-// After HELO the server names no mechanism, and answers 535 to one that it does not know.
+// After HELO the server names no mechanism, and answers 535 to an unknown one.
 TEST_F(RealServer, GreetingByHeloLogsInWhateverTheServerKnows) {
     for (const quint16 port : {Postfix::submission, Postfix::implicitTls, Postfix::onlyPasswords}) {
         Client client(port);
@@ -205,7 +205,7 @@ TEST_F(RealServer, TranscriptTellsTheWholeStoryWithoutASecret) {
                                          (QByteArray(1, '\0') + user + '\0' + password).toBase64(),
                                          password.toHex(), QByteArray("biws"), QByteArray("n,,n=")})
             EXPECT_FALSE(log.contains(secret)) << secret.constData() << '\n' << log.constData();
-        // behind AUTH nothing but the mechanism, and no base64 line anywhere
+        // after AUTH nothing but the mechanism, and no base64 line anywhere
         for (const QByteArray& line : log.split('\n')) {
             const qsizetype at = line.indexOf("> AUTH ");
             if (at < 0) continue;

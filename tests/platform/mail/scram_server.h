@@ -7,14 +7,14 @@
 #include "support/ScriptedServer.h"
 
 /// The server's side of SCRAM-SHA-256 (RFC 5802, RFC 7677) for the scripts of a server, written from the
-/// standard: whole, or with one fault. Its answers are "first", to the AUTH command that bears the client's
-/// first message or to that message alone, and "final", to the client's proof.
+/// standard: whole, or with one fault. Its answers are "first", to the AUTH command that contains the
+/// client's first message or to that message alone, and "final", to the client's proof.
 class ScramServer {
   public:
     struct Fault {
-        QByteArray nonce;       ///< stands in the place of the client's nonce and the server's addition
-        QByteArray iterations;  ///< stands in the place of their number
-        QByteArray first;       ///< stands in the place of the whole first answer, not encoded
+        QByteArray nonce;       ///< instead of the client's nonce and the server's addition
+        QByteArray iterations;  ///< instead of their number
+        QByteArray first;       ///< instead of the whole first answer, not encoded
         bool signature = false;
     };
 
@@ -36,7 +36,7 @@ class ScramServer {
 
     QByteArray first(const QByteArray& line) {
         const QByteArray client = received(line.mid(line.lastIndexOf(' ') + 1));
-        m_clientFirst = client.mid(3);  // behind "n,,": no channel is bound
+        m_clientFirst = client.mid(3);  // after "n,,": no channel is bound
         const QByteArray nonce = m_clientFirst.mid(m_clientFirst.indexOf(",r=") + 3);
         m_serverFirst = "r=" + (m_fault.nonce.isEmpty() ? nonce + "aggiunta" : m_fault.nonce) +
                         ",s=" + m_salt.toBase64() + ",i=" +

@@ -24,7 +24,7 @@ class ServerList : public testing::Test {
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// As the text of an account is taken.
+    /// Whether a password may be sent to the server, as read from an account's text.
     bool mayGo(const char* server) const {
         return mail::passwordMayGoInTheClear(mail::connectableHost(QString::fromUtf8(server)), path());
     }

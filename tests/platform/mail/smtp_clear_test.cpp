@@ -1,5 +1,5 @@
 // What never goes in the clear: a password to a server beyond this machine and its network, and anything to
-// an account's server that has offered TLS before. In a network of its own, where posta.example is a name of
+// an account's server that has offered TLS before. In a private network, where posta.example is a name of
 // 127.0.0.1.
 #include <QFile>
 #include <QTemporaryDir>

@@ -23,7 +23,7 @@ TEST(DeliveryControl, EmptyServerNameIsAnError) {
     }
 }
 
-/// A name from the DNS can be anything; nothing listens that could be connected to.
+/// A name from the DNS can be anything; no server listens at it.
 TEST(DeliveryControl, ServerNameThatIsNoHostEndsBeforeConnectingAndIsNotLogged) {
     Unasked server;
     QTemporaryDir folder;
@@ -63,7 +63,7 @@ TEST(DeliveryControl, NullMxEndsBeforeConnecting) {
     }
 }
 
-/// Refuses servers inside, whatever name leads there.
+/// Refuses internal servers, by any name.
 TEST(DeliveryControl, DirectRouteDoesNotConnectToAnInsideAddress) {
     Unasked server;
     Client client(server.port());
@@ -135,7 +135,7 @@ TEST(DeliveryControl, RefusedConnectionIsAnError) {
     EXPECT_TRUE(heard.text.contains(QStringLiteral("rifiutata"))) << qPrintable(heard.text);
 }
 
-/// Nothing listens for connections at the address of a refused message: it must end before connecting.
+/// No server listens at the address of a refused message: it must end before connecting.
 TEST(DeliveryControl, AddressThatIsNotOnePlainAddressEndsBeforeConnecting) {
     Unasked server;
     Client client(server.port());

@@ -1,4 +1,4 @@
-// What the session does with servers that play by the rules, and with those that do not.
+// The session with servers that follow the rules, and with others.
 #include "platform/mail/smtp_fixture.h"
 
 namespace smtp_dialogue_test {
@@ -7,14 +7,14 @@ using testing_support::ScriptedServer;
 
 namespace {
 
-/// A first message that ends as told, and a second one that must be delivered whatever happened to the first.
+/// A first message with a given outcome, and a second one that must be delivered after any outcome.
 struct Row {
     const char* name;
     QList<QByteArrayList> dialogues;  ///< a last one, for the second message, is added where `kept` is false
     bool done;
     int code;
     const char* text;   ///< part of the text of SendError
-    bool kept = false;  ///< the dialogues hold the second message as well
+    bool kept = false;  ///< the dialogues contain the second message as well
     int timeoutSecs = 10;
 };
 
@@ -206,7 +206,7 @@ INSTANTIATE_TEST_SUITE_P(Dropped, Dialogue, testing::ValuesIn(atEachStep("DROP",
 INSTANTIATE_TEST_SUITE_P(Reset, Dialogue, testing::ValuesIn([] {
                              QList<Row> rows = atEachStep("RESET", "");
                              // A reset that comes before the client saw the connection would only make it
-                             // knock again.
+                             // connect again.
                              rows[0].dialogues[0].prepend("PAUSE 100");
                              return rows;
                          }()),
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(DroppedInTheMiddleOfAReply, Dialogue, testing::ValuesIn
                              QList<Row> rows = atEachStep("S- 250-half", closed);
                              for (Row& row : rows)
                                  row.dialogues[0].append("DROP");
-                             // The first digits of the final reply say enough.
+                             // The first digits of the final reply suffice.
                              rows.last().done = true;
                              rows.last().text = "";
                              return rows;
@@ -289,7 +289,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST(SmtpSession, AnOpenSessionCostsTwoRoundTripsAMessage) {
-    // The server answers only when a whole flight has come, so that a third one would never be answered.
+    // The server answers only after a whole flight, so that a third one would never be answered.
     ScriptedServer server({helloPipelining + groupedMessage + groupedMessage + groupedMessage});
     Client client(server.port());
     for (int i = 0; i < 3; ++i)

@@ -64,7 +64,7 @@ class Client {
         loop.exec();
     }
 
-    /// Lets the event loop run until the condition holds, but not for ever.
+    /// Lets the event loop run until the condition is true, with a limit.
     template <class Condition>
     static bool turnUntil(Condition condition) {
         const QDeadlineTimer patience(20000);
@@ -87,13 +87,13 @@ class Client {
     QEventLoop m_loop;
 };
 
-/// A server that must not be asked.
+/// A server that must not be connected to.
 class Unasked {
   public:
     Unasked() { EXPECT_TRUE(m_server.listen(QHostAddress::Any)); }
     quint16 port() const { return m_server.serverPort(); }
-    /// Whether somebody came before this call: the server takes them in order, so a visitor of its own is the
-    /// first otherwise.
+    /// Whether a client connected before this call: the server accepts in order, so the call's own connection
+    /// is the first otherwise.
     bool wasAsked() {
         QTcpSocket visitor;
         visitor.connectToHost(QHostAddress::LocalHost, port());
@@ -118,7 +118,7 @@ inline const QByteArrayList message{"C: MAIL FROM:<mittente@example.it>",
                                     "S: 354 go ahead",
                                     "BODY",
                                     "S: 250 taken"};
-/// The same with pipelining: nothing is answered before the whole group has come.
+/// The same with pipelining: nothing is answered before the whole group has arrived.
 inline const QByteArrayList groupedMessage{"C: MAIL FROM:<mittente@example.it>",
                                            "C: RCPT TO:<rossi@example.it>",
                                            "C: DATA",
@@ -129,8 +129,8 @@ inline const QByteArrayList groupedMessage{"C: MAIL FROM:<mittente@example.it>",
                                            "S: 250 taken"};
 inline const QByteArrayList reset{"C: RSET", "S: 250 flushed"};
 
-/// Sends a message by a control and a server of its own. Whatever another control had due before has come
-/// when it returns.
+/// Sends a message by a control and a server of its own. Events of another control that were due before
+/// are handled when it returns.
 inline void letAMessagePass() {
     testing_support::ScriptedServer server({hello + message});
     Client client(server.port());

@@ -1,4 +1,4 @@
-// A message and its envelope in one flight: where it is done, and what each fault of the server leads to.
+// A message and its envelope in one flight: when it is done, and the outcome of each fault of the server.
 #include <QFile>
 #include <QTemporaryDir>
 #include <QThread>
@@ -15,7 +15,7 @@ namespace {
 
 const QByteArrayList helloChunking{"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250-PIPELINING",
                                    "S: 250 CHUNKING"};
-/// Nothing is answered before all has come: whoever waits for a reply in between fails.
+/// Nothing is answered before all has arrived: a client that waits for a reply in between fails.
 const QByteArrayList asked{"C: MAIL FROM:<mittente@example.it>", "C: RCPT TO:<rossi@example.it>",
                            "C: BDAT * LAST", "CHUNK"};
 const QByteArrayList answers{"S: 250 sender fine", "S: 250 recipient fine", "S: 250 message taken"};
@@ -30,7 +30,7 @@ class LoggedClient : public RunClient {
         smtp.LogFile = m_folder.filePath("log.xt1");
         smtp.LogEnabled = true;
     }
-    /// Lets the event loop run until the log holds the text.
+    /// Lets the event loop run until the log contains the text.
     void waitForLogged(const QByteArray& text) {
         EXPECT_TRUE(turnUntil([&] {
             smtp.Remark(QStringLiteral("waiting"));
@@ -104,7 +104,7 @@ TEST(Flight, IsNotForALargeMessage) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-/// The server's end of the connection is there, and no event has told of it.
+/// The server's end of the connection has arrived, but no event has reported it.
 TEST(Flight, IsNotGivenToAConnectionThatTheServerHasClosed) {
     for (const char* farewell : {"DROP", "RESET"}) {
         ScriptedServer server({first + QByteArrayList{farewell}, first + flight});
@@ -123,7 +123,7 @@ TEST(Flight, IsNotGivenToAConnectionThatTheServerHasClosed) {
     }
 }
 
-/// Which reply of the three a fault takes the place of.
+/// Which of the three replies a fault replaces.
 class At : public testing::TestWithParam<int> {
   protected:
     QByteArrayList faulty(const QByteArrayList& fault) const {
@@ -152,7 +152,7 @@ TEST_P(At, SecondFarewellIsTheOutcome) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-/// Silence, a drop, a reset, half a farewell, no SMTP, a question.
+/// Silence, a drop, a reset, half a 421, no SMTP, a 3xx reply.
 TEST_P(At, LossIsNotTriedAgainAndEndsTheFlightsOfTheRun) {
     for (const QByteArrayList& loss : QList<QByteArrayList>{{"WAIT"},
                                                             {"DROP"},
@@ -175,7 +175,7 @@ TEST_P(At, LossIsNotTriedAgainAndEndsTheFlightsOfTheRun) {
     }
 }
 
-/// A server may keep all of its replies until it has looked at the message.
+/// A server may keep all of its replies until it has read the message.
 TEST_P(At, ReplyGetsTheTimeOfTheFinalOne) {
     ScriptedServer server({first + faulty({"PAUSE 1300"}) + answers.mid(GetParam()) + flight});
     Client client(server.port());

@@ -36,7 +36,7 @@ const QByteArrayList whole{"S: 220 ready",
                            "BODY",
                            "S: 250 taken"};
 
-/// A place in the dialogue where the server has to say something.
+/// A place in the dialogue where the server must reply.
 struct Step {
     const char* name;
     const char* reply;  ///< the line of `whole` with which the right reply begins
@@ -62,7 +62,7 @@ QByteArrayList upTo(const Step& step) {
     return whole.mid(0, at);
 }
 
-/// What the server does instead of the right reply, and what comes of it.
+/// What the server does instead of the right reply, and the outcome.
 struct Ending {
     const char* name;
     QByteArrayList lines;
@@ -72,7 +72,7 @@ struct Ending {
 };
 
 const QList<Ending> endings{
-    // Before a client has seen its connection, a reset would only make it knock again.
+    // Before a client has seen its connection, a reset would only make it connect again.
     {"Dropped", {"DROP"}, 0, "chiuso la connessione"},
     {"Reset", {"PAUSE 50", "RESET"}, 0, ""},
     {"DroppedInAReply", {"S- 25", "DROP"}, 0, "chiuso la connessione"},
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(Any, RefusingServer,
                                     std::to_string(std::get<int>(row.param));
                          });
 
-/// One reply more than there were questions, in the same breath.
+/// One reply more than there were commands, in the same write.
 class DoublingServer : public testing::TestWithParam<Step> {};
 
 TEST_P(DoublingServer, IsNotTrustedAndTheNextRecipientIsServed) {
@@ -171,7 +171,7 @@ TEST_P(DoublingServer, IsNotTrustedAndTheNextRecipientIsServed) {
         TestCertificates::get().good());
     Client client(server.port());
     prepare(client);
-    // Behind the message's own reply nothing is left to go wrong but the next message.
+    // After the message's own reply a fault can only affect the next message.
     EXPECT_EQ(client.send().done, std::string(step.name) == "Body");
     EXPECT_TRUE(client.send().done);
     EXPECT_EQ(server.remainder(), "");
@@ -185,7 +185,7 @@ TEST(SmtpSession, RepliesMayBeSplitAnywhere) {
     const QByteArrayList commands{"C: MAIL FROM:<mittente@example.it>", "C: RCPT TO:<rossi@example.it>",
                                   "C: DATA"};
     for (qsizetype at = 1; at < replies.size(); ++at) {
-        if (replies[at - 1] == '\\') continue;  // inside the script's own notation
+        if (replies[at - 1] == '\\') continue;  // within the script's notation
         ScriptedServer server({helloPipelining + commands +
                                QByteArrayList{"S- " + replies.left(at), "PAUSE 2", "S- " + replies.mid(at),
                                               "BODY", "S: 250 taken"}});

@@ -6,7 +6,7 @@ namespace smtp_idle_test {
 using testing_support::ScriptedServer;
 
 TEST(SmtpSession, ConnectionThatIsNotUsedIsClosedWithQuit) {
-    // Whatever the first dialogue still waits for when the message is taken can only come from the idle
+    // Whatever the first dialogue still waits for after the message is accepted can only come from the idle
     // client.
     ScriptedServer server({hello + message + QByteArrayList{"C: QUIT", "S: 221 bye"}, hello + message});
     Client client(server.port());

@@ -1,4 +1,4 @@
-// TLS from the start belongs to port 465 alone, so these tests run in a network of their own.
+// TLS from the start belongs to port 465 alone, so these tests run in a private network.
 #include "platform/mail/smtp_fixture.h"
 #include "support/PrivateNetwork.h"
 

@@ -1,4 +1,4 @@
-// A connection that is set up for its own sake.
+// Inspection: a connection without a message.
 #include "platform/mail/smtp_fixture.h"
 #include "platform/mail/SmtpSession.h"
 

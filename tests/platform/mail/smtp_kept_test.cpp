@@ -1,4 +1,4 @@
-// Kept connections that turn out dead, and what the first line of the final reply says.
+// Kept connections that turn out dead, and the first line of the final reply.
 #include "platform/mail/smtp_fixture.h"
 
 namespace smtp_kept_test {
@@ -80,7 +80,7 @@ TEST(KeptConnection, ThatDiesAfterTheFinalPointIsNotReplaced) {
     }
 }
 
-/// A small message goes out in one write with its final point: the server may have got it.
+/// A small message is sent in one write with its final point: the server may have received it.
 TEST(KeptConnection, ThatDiesWhenTheMessageWasWrittenIsNotReplaced) {
     ScriptedServer server({hello + message + before("BODY") + QByteArrayList{"READ 1", "RESET"}});
     Client client(server.port());

@@ -1,4 +1,4 @@
-// Messages that were given up after their final point: the server may have taken them all the same.
+// Messages that were abandoned after their final point: the server may still have accepted them.
 #include <QTcpServer>
 
 #include "platform/mail/smtp_run_fixture.h"
@@ -27,7 +27,7 @@ class LateReply : public testing::Test {
         ASSERT_EQ(sink.held().size(), count);
     }
 
-    /// Sends, and stops when the server has got the message.
+    /// Sends, and stops when the server has received the message.
     void stopAfterFinalPoint(qint64 number, const QString& address = rossi) {
         const qsizetype before = sink.held().size();
         client.begin(number, address);
@@ -37,13 +37,13 @@ class LateReply : public testing::Test {
         EXPECT_FALSE(client.heard.first().done);
     }
 
-    /// Lets what was answered arrive.
+    /// Waits until the answers have arrived.
     template <class Condition>
     bool until(Condition condition) {
         return client.turnUntil(condition);
     }
 
-    /// Returns when everything that the client has started has come to the server: a message that began
+    /// Returns when everything that the client has started has reached the server: a message that began
     /// later, and is refused at its end, was answered.
     static void letAnotherPass(SmtpSink& server) {
         server.treat("altri@example.it", SmtpSink::Treatment::RefuseData);
@@ -313,7 +313,7 @@ TEST_F(LateReply, BeforeTheFinalPointNothingIsAwaited) {
     client.smtp.BodyText = QStringLiteral("breve");
     client.smtp.BeginRun();
     EXPECT_TRUE(client.tick(7).done);
-    EXPECT_TRUE(until([&] { return sink.connected() == 1; }));  // what was broken off has been read
+    EXPECT_TRUE(until([&] { return sink.connected() == 1; }));  // what was aborted has been read
     EXPECT_EQ(sink.messages().size(), 1);
 }
 

@@ -1,4 +1,4 @@
-// Logins with an access token: what goes to the server, to which server, and what becomes of a message
+// Logins with an access token: what is sent, to which server, and what happens to a message
 // meanwhile.
 #include <QFile>
 #include <QNetworkProxy>
@@ -78,7 +78,7 @@ class SmtpOAuth : public testing::Test {
         EXPECT_TRUE(heard.done) << qPrintable(heard.text);
         EXPECT_EQ(server.remainder(), "");
     }
-    /// Fails and says this; the dialogue is played.
+    /// Expects a failure with this text, and the dialogue played.
     void fails(const QByteArrayList& dialogue, const char* why) const {
         ScriptedServer server({dialogue}, TestCertificates::get().good());
         Client client(server.port());
@@ -334,7 +334,7 @@ TEST_F(SmtpOAuth, TokenThatComesAfterAnAbortSendsNothing) {
     ASSERT_TRUE(Client::turnUntil([&] { return !provider.requests().isEmpty(); }));
     client.smtp.Abort();
     provider.goOn();
-    // A whole login of somebody who comes later takes longer than the answer that is on its way.
+    // The whole login of a later client takes longer than the answer in transit.
     giveToken(3600, "accesso-9");
     delivers(login("accesso-9"));
     EXPECT_EQ(client.heard.size(), 1);

@@ -1,5 +1,5 @@
-// Messages that bear the number of a recipient's row: nobody gets one twice in a run, and none is sent that
-// was made for nobody.
+// Messages with the number of a recipient's row: nobody gets one twice in a run, and none without a recipient
+// is sent.
 #include <QFile>
 #include <QTemporaryDir>
 

@@ -5,7 +5,7 @@
 inline const QString database = QStringLiteral("/nessuna/data.mdb");
 inline const QString rossi = QStringLiteral("rossi@example.it");
 
-/// What outlives the control.
+/// The state that outlives the control.
 struct Remembered {
     mail::AcceptedList accepted;
 };

@@ -1,4 +1,4 @@
-// The client's side of each mechanism against the server's side of the same library.
+// The client's side of each mechanism with the server's side of the same library.
 #include <gsasl.h>
 #include <gtest/gtest.h>
 
@@ -37,7 +37,7 @@ class Server {
         gsasl_done(m_context);
     }
 
-    /// The next challenge; `state` is GSASL_OK once the client is known.
+    /// The next challenge; `state` is GSASL_OK once the client is authenticated.
     QByteArray step(const QByteArray& answer) {
         char* output = nullptr;
         size_t size = 0;
@@ -55,7 +55,7 @@ class Server {
     Gsasl_session* m_session = nullptr;
 };
 
-/// Plays a whole login. True: the server knows the client and the client is content with the server.
+/// Plays a whole login. True: each side has authenticated the other.
 bool login(const QByteArray& mechanism, const QByteArray& serverPassword, const QString& clientPassword) {
     Server server(mechanism, serverPassword);
     auto client = mail::SaslExchange::start(mechanism, QString::fromLatin1(user), clientPassword,

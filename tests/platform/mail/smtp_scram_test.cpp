@@ -1,4 +1,4 @@
-// The whole dialogue of SCRAM-SHA-256 with a server that computes its part, or spoils it.
+// The whole dialogue of SCRAM-SHA-256 with a server that computes its part, or falsifies it.
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -17,10 +17,10 @@ const QByteArrayList helloOld{"S: 220 ready", "C: HELO *", "S: 250 ready", "C: S
 const QByteArrayList proved{"A: final", "C: ", "S: 235 welcome"};
 const QByteArrayList loginByPlain{"S: 220 ready",      "C: EHLO *",       "S: 250-ready",
                                   "S: 250 AUTH PLAIN", "C: AUTH PLAIN *", "S: 235 welcome"};
-constexpr qsizetype shortestToken = 8;  // what is shorter stands in the log by chance
+constexpr qsizetype shortestToken = 8;  // what is shorter may be in the log by chance
 const char* const unfinished = "Il server non ha completato l'autenticazione.";
 
-/// A client that logs in, keeps a log, and a server behind it.
+/// A client that logs in and keeps a log, and its server.
 class SmtpScram : public testing::Test {
   protected:
     /// Sends two messages to a server that plays these dialogues.

@@ -1,4 +1,4 @@
-// How long each stage may last. The time-out is a second, what a stage gets at least is scaled down.
+// How long each stage may last. The time-out is a second, the stages' minimum is scaled down.
 #include <QThread>
 
 #include "platform/mail/smtp_fixture.h"
@@ -135,7 +135,7 @@ TEST(Stages, TimeoutAboveThemHoldsForAll) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-/// While the program waits for a lock or for the block limit no event is taken: what came meanwhile counts.
+/// While the program waits for a lock or for the block limit no event is handled: what came meanwhile counts.
 TEST(Stages, WhatCameWhileNoEventWasTakenIsReadBeforeATimeout) {
     const QByteArrayList whole = hello + message;
     for (const char* reply : {"S: 220 ready", "S: 250 ready", "S: 250 sender ok", "S: 250 recipient ok",

@@ -1,4 +1,4 @@
-// Stop and go on, again and again, with a slow server: nobody gets a message twice, and nobody is left out.
+// Stop and continue, repeatedly, with a slow server: nobody gets a message twice, and nobody is left out.
 #include <map>
 #include <random>
 
@@ -23,12 +23,12 @@ Rows rows(int count) {
     return all;
 }
 
-/// What the send window does with the selected rows in one run, which a stop may end.
+/// The send window's work on the selected rows in one run, which a stop may end.
 class RunOfRows {
   public:
     RunOfRows(RunClient& client, Rows& selected) : m_client(client), m_selected(selected) {}
 
-    /// Rows that are accepted and not marked leave the selection, as the start button sees to.
+    /// Deselects rows that are accepted and not marked, as the start button does.
     void begin() {
         for (auto row = m_selected.begin(); row != m_selected.end();) {
             const auto [number, address] = *row++;
@@ -37,7 +37,7 @@ class RunOfRows {
         m_client.smtp.BeginRun();
     }
 
-    /// Serves all of the rest, or until the stop that comes after `stopMs`; one tick more follows that.
+    /// Serves all of the rest, or until the stop after `stopMs`, which one more tick follows.
     void serve(int stopMs) {
         QTimer stop;
         bool stopped = false;

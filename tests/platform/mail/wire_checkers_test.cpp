@@ -1,4 +1,4 @@
-// A corpus of messages shown to programs that others wrote: a spam filter and a MIME reader.
+// A corpus of messages, checked by other programs: a spam filter and a MIME reader.
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -47,7 +47,7 @@ TEST_F(WireCheckers, SpamFilterSeesNothingMalformed) {
                                     .chopped(1)
                                     .split('\n');
     ASSERT_EQ(hits.size(), messages.size());
-    // What the rest speaks of is the way of a message that has not been sent, and how much it has to say.
+    // The other rules are about the route of a message, which was not sent, and the amount of its text.
     static const QSet<QByteArray> harmless = {
         "NO_RECEIVED",          "NO_RELAYS",          "HTML_MESSAGE",       "LIST_PARTIAL_SHORT_MSG",
         "TVD_SPACE_RATIO",      "HTML_IMAGE_ONLY_04", "HTML_IMAGE_ONLY_32", "HTML_SHORT_LINK_IMG_1",
@@ -72,11 +72,11 @@ TEST_F(WireCheckers, SpamFilterSeesWhatIsMalformed) {
         EXPECT_TRUE(hits.contains(rule)) << hits.toStdString();
 }
 
-// Reads what the program made of one section
+// Reads the program's output of one section
 TEST_F(WireCheckers, MimeReaderFindsEachPartWhole) {
     for (const QByteArray& message : corpus()) {
         const wire::Message read = wire::read(message);
-        QByteArrayList leaves;  // "1.1.2" and so on, of the sections that hold no others
+        QByteArrayList leaves;  // "1.1.2" and so on, of the sections that contain no others
         const QByteArrayList sections = run("reformime", {}, message).trimmed().split('\n');
         for (const QByteArray& section : sections) {
             const bool holdsOthers =

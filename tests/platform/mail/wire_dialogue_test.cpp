@@ -1,4 +1,4 @@
-// What stands on the line beside the message: the greeting, the order of commands, dots, the version of TLS.
+// What is sent besides the message: the greeting, the order of commands, dots, the version of TLS.
 #include <QRegularExpression>
 #include <QTemporaryDir>
 

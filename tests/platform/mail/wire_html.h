@@ -5,7 +5,7 @@
 
 namespace wire {
 
-/// Reads HTML as a browser does and complains of every <meta> that declares another encoding than UTF-8.
+/// Reads HTML as a browser does and reports every <meta> that declares another encoding than UTF-8.
 void checkDeclarations(const QByteArray& html, QStringList& complaints);
 
 }  // namespace wire

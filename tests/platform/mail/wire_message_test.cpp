@@ -1,4 +1,4 @@
-// Each kind of value in every field at once, with and without files, against every rule for what goes out.
+// Each kind of value in every field at once, with and without files, checked by every rule for messages.
 #include <gtest/gtest.h>
 
 #include <QSet>
@@ -18,7 +18,7 @@ namespace {
 constexpr int messagesOfTheLoop = 400;
 const QByteArray attachmentContent("\0\r\n.\r\nFrom x\xFF", 13);
 
-// Line ends as they travel
+// Line ends as sent
 QString travelled(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n").replace(QChar(0), ' ');
     return QString::fromUtf8(text.toUtf8());
@@ -73,7 +73,7 @@ class WireMessage : public ::testing::TestWithParam<bool> {
 
     static void expectValues(const mail::MessageData& sent, const wire::Message& read) {
         const auto nameOf = [](const QString& name) {
-            // 1000 characters, and no half of one
+            // 1000 characters, and no half character
             const QString start = name.left(1000);
             return start.trimmed().isEmpty() || inOneLine(start).trimmed().isEmpty() ? QString()
                                                                                      : inOneLine(start);

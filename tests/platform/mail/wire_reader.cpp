@@ -85,7 +85,7 @@ class Reader {
         return headers;
     }
 
-    // 78 octets, unless what stands there cannot be parted: a link, a name, an address or a word of its
+    // 78 octets, unless the content cannot be split: a link, a name, an address or a word of its
     // quoted part
     void checkFolding(const QByteArray& header, const QByteArray& text, const QByteArray& line) {
         const bool ofAddress =
@@ -175,7 +175,7 @@ class Reader {
         return headerText(plain, m_message.complaints);
     }
 
-    // Gives the part's tree. `around` is the kind of the multipart that holds it.
+    // Returns the part's tree. `around` is the kind of the multipart that contains it.
     QByteArray part(const Headers& headers, const QByteArray& body, const QByteArray& around) {
         const QByteArray contentType = valueOf(headers, "content-type");
         const qsizetype semicolon = contentType.indexOf(';');

@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <vector>
 
-/// A reader of messages that shares no code with their composition. It takes nothing for granted: whatever is
-/// against the rules for what goes out becomes a complaint.
+/// A reader of messages that shares no code with their composition. It assumes nothing: every violation of
+/// the rules for messages becomes a complaint.
 namespace wire {
 
 /// A part without parts.
@@ -40,7 +40,7 @@ struct Message {
 /// Reads a message with its CR LF line ends and without dot-stuffing, as Composer makes it.
 Message read(const QByteArray& data);
 
-/// A body as it came behind DATA, without the dots that the transport added.
+/// A body as received after DATA, without the dots that the transport added.
 QByteArray unstuffed(const QByteArray& body);
 
 }  // namespace wire

@@ -91,7 +91,7 @@ QString headerText(const QByteArray& value, QStringList& complaints) {
         if (!match.hasMatch()) complain(complaints, "no encoded word", word);
         if (word.size() > 75) complain(complaints, "encoded word of more than 75 octets", word);
         const QByteArray content = match.captured(2).toLatin1();
-        // each word is whole in itself
+        // each word is complete in itself
         text +=
             utf8(match.captured(1) == "Q" ? qWord(content, complaints) : strictBase64(content, complaints),
                  complaints);

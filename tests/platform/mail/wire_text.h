@@ -5,8 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The ways in which text stands in a message, read strictly. Each reader appends to `complaints` what is
-/// against its standard.
+/// Readers of the forms of text in a message. Each is strict and appends the violations of its standard to
+/// `complaints`.
 namespace wire {
 
 /// UTF-8 without a broken character.

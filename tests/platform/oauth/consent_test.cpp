@@ -1,4 +1,4 @@
-// A consent from the first click to the token's file, with servers that mean well and others.
+// A consent from the first click to the token's file, with honest servers and others.
 #include "platform/oauth/Consent.h"
 #include "oauth_fixture.h"
 #include "platform/oauth/TokenFile.h"
@@ -19,7 +19,7 @@ class OAuthConsent : public OAuth {
         QObject::connect(&consent, &Consent::finished, [this](const Status& status) { ends.append(status); });
     }
 
-    /// The user consents; gives what came of it.
+    /// The user consents; returns the result.
     Status login() {
         const auto address = consent.start(provider(), user);
         if (!address.ok()) return address.status();
@@ -148,7 +148,7 @@ TEST_F(OAuthConsent, CancelledOneGivesNoSignalAtAnyStage) {
     browse(redirect);
     ASSERT_TRUE(turnUntil([&] { return !server.requests().isEmpty(); }));
     consent.cancel();
-    // What comes later is the next consent's end alone.
+    // What comes later ends only the next consent.
     Consent next(folder, trust());
     next.limits.answer = 20;
     bool ended = false;
@@ -183,7 +183,7 @@ TEST_P(OAuthBadAnswer, IsToldAndNothingIsWritten) {
 
 const QByteArray goodBody = R"({"access_token":"a","token_type":"Bearer","expires_in":3600})";
 
-/// The same body by gzip: it was asked to come as it is, since little may become much.
+/// The same body by gzip: it was requested uncompressed, since a short one may expand to a huge one.
 const QByteArray compressedBody =
     "1f8b0800000000000203ab564a4c4e4e2d2e8e2fc9cf4ecd53b2524a54d2"
     "5102b3e34b2a0b5281024ea98945a94540d1d48a82cca2d4e2f84ca03263"

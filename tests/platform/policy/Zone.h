@@ -7,7 +7,7 @@
 
 namespace testing_support {
 
-/// Records that stand in for the whole DNS.
+/// Records that replace the whole DNS.
 class Zone {
   public:
     Zone& txt(const QByteArray& name, const QByteArray& text) {
@@ -44,7 +44,7 @@ class Zone {
         return nothing;
     }
 
-    /// Calls `step` with ever more answers until it gives no question any more.
+    /// Calls `step` with more and more answers until it has no more queries.
     template <class Value, class Step>
     Value follow(const Step& step, dns::Answers& known) const {
         for (;;) {

@@ -77,7 +77,7 @@ TEST(SpfLimits, TwoVoidLookupsAreAllowedAndThreeAreNot) {
     const Verdict three = spfVerdict(Zone().txt(domain, two + " mx:n3.example +all"), "192.0.2.1", domain);
     EXPECT_EQ(three.result, Result::PermError);
     EXPECT_EQ(three.fault, Fault::TooManyVoids);
-    // A name without records of the type is as void as a name that is not there
+    // A name without records of the type counts as void, as does a missing name
     const Zone other = Zone().txt(domain, two + " a:n3.example +all").txt("n3.example", "no address here");
     EXPECT_EQ(spfVerdict(other, "192.0.2.1", domain).fault, Fault::TooManyVoids);
 }

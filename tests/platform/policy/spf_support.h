@@ -5,7 +5,7 @@
 
 namespace testing_support {
 
-/// What check() comes to for ada@`domain` from that address.
+/// The result of check() for ada@`domain` from that address.
 inline policy::spf::Verdict spfVerdict(const Zone& zone, const char* address, const QByteArray& domain,
                                        const QByteArray& sender = {}) {
     policy::spf::Client client;

@@ -13,7 +13,7 @@ namespace shell_test {
 
 namespace {
 
-// Puts an opener of its own in front of the desktop's, which writes down what it was given.
+// Replaces the desktop's opener by one that notes its arguments.
 class Shell : public testing::Test {
   protected:
     void SetUp() override {

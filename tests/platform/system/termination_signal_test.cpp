@@ -11,7 +11,7 @@ namespace termination_signal_test {
 
 namespace {
 
-/// The status of a process that runs `play` and would otherwise wait for events for ever.
+/// The exit status of a process that runs `play` and would otherwise wait for events for ever.
 int statusOf(const std::function<void()>& play) {
     const pid_t child = ::fork();
     if (child == 0) {

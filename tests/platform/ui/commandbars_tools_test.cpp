@@ -1,4 +1,4 @@
-// The tools of a bar that are more than a button, and bars that are off.
+// The tools of a bar that are more than a button, and disabled bars.
 #include <QAccessible>
 #include <QDialog>
 #include <QMainWindow>

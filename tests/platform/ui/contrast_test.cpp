@@ -1,4 +1,4 @@
-// The desktop's wish for high contrast, told by a settings portal on a bus of the test's own.
+// The desktop's setting of high contrast, sent by a settings portal on a private bus.
 #include <QDBusConnection>
 #include <QDBusVariant>
 #include <QProcess>

@@ -83,7 +83,7 @@ class DragCounter : public QObject {
     }
 };
 
-/// Press and two ways: the first tells the view that it is dragged, the second starts the drag. The offscreen
+/// A press and two moves: the first makes the view ready to drag, the second starts the drag. The offscreen
 /// platform has no drag loop, so the drag is over when this returns.
 inline int startDrag(QAbstractScrollArea* view, const QPoint& start) {
     const DragCounter counter(view);
@@ -93,7 +93,7 @@ inline int startDrag(QAbstractScrollArea* view, const QPoint& start) {
     move(view, start + 2 * way);
     return counter.drags;
 }
-/// Comes over a view with something, without dropping it; whether the view takes it.
+/// Drags `content` over a view without dropping it; whether the view accepts it.
 inline bool dragOver(QAbstractScrollArea* view, const QPoint& position, QMimeData* content) {
     QDragEnterEvent enter(position, Qt::MoveAction, content, Qt::LeftButton, {});
     QCoreApplication::sendEvent(view->viewport(), &enter);

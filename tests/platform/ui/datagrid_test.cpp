@@ -1,5 +1,5 @@
-// The grid: cells, marks, keys, mouse and what assistive programs get of it. Above 500 lines: one control,
-// whose tests share one model and its hands.
+// The grid: cells, marks, keys, mouse and what assistive programs read of it. Above 500 lines: one control,
+// whose tests share one model and its helpers.
 #include <QAccessible>
 #include <QDialog>
 #include <QHeaderView>
@@ -316,7 +316,7 @@ class TestDataGrid : public QObject {
         mouse::press(w.grid, w.cell(1, 5));
         mouse::move(w.grid, w.cell(1, 5) + QPoint(1, 1));
         mouse::release(w.grid, w.cell(1, 5) + QPoint(1, 1));
-        QCOMPARE(w.click.size(), 1);  // a shaking hand still clicks
+        QCOMPARE(w.click.size(), 1);  // a small move still counts as a click
         QCOMPARE(mouse::startDrag(w.grid, w.empty()), 0);
         mouse::release(w.grid, w.empty());
     }

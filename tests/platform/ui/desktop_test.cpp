@@ -32,7 +32,7 @@ using ui::MessageDialog;
 
 namespace {
 
-/// Runs `look` on the message box that the next event-loop turn finds on the screen.
+/// Calls `look` with the message box that is shown at the next turn of the event loop.
 void atNextBox(std::function<void(QMessageBox*)> look) {
     QTimer::singleShot(0, qApp, [look] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -19,7 +19,7 @@ using ui::GroupTree;
 
 namespace {
 
-/// Root R with A (and A1 below) and B; every event is written down by name.
+/// Root R with A (and A1 below) and B; every event is noted by name.
 struct Window {
     QWidget window;
     GroupTree* tree = new GroupTree;
@@ -325,7 +325,7 @@ class TestGroupTree : public QObject {
         QVERIFY(mouse::drop(w.tree, w.at("A1"), dragContent(Dragged::Node)));
         QCOMPARE(w.events, QStringList{"node drop A1"});
         QCOMPARE(over, QStringList{"A1"});
-        QCOMPARE(w.tree->Node("B")->Parent()->Key(), "R");  // what it means is the program's business
+        QCOMPARE(w.tree->Node("B")->Parent()->Key(), "R");  // the program decides what it means
     }
 
     void droppedRowIsToldApartFromANode() {

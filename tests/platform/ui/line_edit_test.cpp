@@ -1,4 +1,4 @@
-// The one box for a line of text: whatever comes in stays one line.
+// The control for a line of text: any input stays one line.
 #include <QApplication>
 #include <QClipboard>
 #include <QTest>

@@ -42,7 +42,7 @@ QStringList fields(const Entry& e) {
 QJsonArray vectors() {
     QFile file(QStringLiteral(TEST_DATA_DIR "/account/write.json"));
     if (!file.open(QIODevice::ReadOnly)) qFatal("cannot read write.json");
-    // The window takes no address whose last label has more than four letters.
+    // The window refuses an address whose last label has more than four letters.
     const QByteArray text = file.readAll().replace("@peru.example", "@peru.exa.ple");
     return QJsonDocument::fromJson(text).object()["vectors"].toArray();
 }
@@ -206,7 +206,7 @@ class TestFrmAccountArchivio : public QObject {
     void fileThatCannotBeWrittenChangesTheScreenOnly() {
         AccountStage stage({one});
         const QByteArray before = stage.file();
-        // A folder in its place refuses every write, whoever runs this.
+        // A folder in its place refuses every write, for any user.
         QVERIFY(QFile::rename(stage.path(), stage.path() + ".via"));
         QVERIFY(QDir().mkdir(stage.path()));
         stage.fillSmall("b");
@@ -243,9 +243,9 @@ class TestFrmAccountArchivio : public QObject {
                 if (!lost.isEmpty()) MessageDialog::queue(MessageDialog::Ok);
                 stage.fill(fields);
                 stage.click(operation == "nuovo" ? "cmdNuovo" : "cmdModifica");
-                // What the file has lost is told once it is written.
+                // What the file has lost is reported once it is written.
                 QCOMPARE(MessageDialog::shown().size(), lost.isEmpty() ? 0 : 1);
-                constexpr int password = 6;  // nothing of it is shown
+                constexpr int password = 6;  // no part of it is shown
                 for (const QString& character :
                      text::outsideAnsi((fields.mid(0, password) + fields.mid(password + 1)).join(QString())))
                     QVERIFY2(stage.box().contains(character), qPrintable(stage.box()));

@@ -1,4 +1,4 @@
-// What the account window shows before anybody touches it: texts, limits, states, colours, order and room.
+// What the account window shows before any input: texts, limits, states, colours, order and space.
 #include <QAccessible>
 
 #include "modules/core/bGlobal.h"
@@ -222,7 +222,7 @@ class TestFrmAccountAspetto : public QObject {
         for (auto it = names.begin(); it != names.end(); ++it) {
             auto* control = stage.control<QWidget>(it.key());
             QCOMPARE(control->accessibleName(), it.value());
-            // A drop-down list tells its current entry as its name; its label is found by the relation.
+            // A drop-down list reports its current entry as its name; its label is found by the relation.
             if (qobject_cast<QComboBox*>(control)) continue;
             QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), it.value());
         }

@@ -25,7 +25,7 @@ const QString waitingText = "In attesa del browser: annulla l'accesso";
 const QString account = "0|Rossi|rossi@example.it|smtp.prova.example|587|0|rossi@example.it||EHLO|0|1";
 const QString other = "1|Verdi|verdi@example.it|smtp.altro.example|25|1|verdi|parola|EHLO|0|1";
 
-/// The account window over a data folder that knows one provider; the desktop's opener only notes the
+/// The account window over a data folder with one provider; the desktop's opener only notes the
 /// address.
 class BrowserStage : public AccountStage {
   public:

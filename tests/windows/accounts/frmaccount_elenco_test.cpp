@@ -285,7 +285,7 @@ class TestFrmAccountElenco : public QObject {
     }
 
     void deletionChoosesTheNextEntryInOneStep() {
-        // Chosen on the way, an entry without server would leave its mark on the port.
+        // An entry without server, if chosen on the way, would change the port.
         AccountStage stage(three);
         stage.press(0);
         stage.key(Qt::Key_Delete);

@@ -19,8 +19,8 @@
 
 namespace testing_support {
 
-/// The account window over a program folder of its own, and hands that find its controls by name. Boxes
-/// answer from their queue; the end of the program is only noted.
+/// The account window over a program folder of its own, with functions that find its controls. Boxes answer
+/// from their queue; the end of the program is only noted.
 class AccountStage {
   public:
     /// Opens the window over a file with these records; each is text with "|" between its fields.
@@ -31,7 +31,7 @@ class AccountStage {
     std::unique_ptr<frmAccount> window;
     QList<int> ends;  ///< exit statuses of the ends of the program that were asked for
 
-    /// Puts a window in place of the one there was, as the next start of the program would.
+    /// Replaces the window by a new one, as the next start of the program would.
     void reopen();
 
     template <class Control>
@@ -45,7 +45,7 @@ class AccountStage {
     void type(const QString& name, const QString& text) { control<QLineEdit>(name)->setText(text); }
     bool checked(const QString& name) const { return control<QCheckBox>(name)->isChecked(); }
     void click(const QString& name);
-    /// Clicks the box unless it has that value already.
+    /// Clicks the check box unless it has that value already.
     void check(const QString& name, bool value);
     /// Fields 1 to 10 of a record, as the user would enter them.
     void fill(const QStringList& fields);

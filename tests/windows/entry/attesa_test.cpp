@@ -1,4 +1,4 @@
-// What the windows do while a statement waits for another program that holds the database.
+// What the windows do while a statement waits for another program that locks the database.
 #include <optional>
 #include <QAbstractButton>
 #include <QAction>

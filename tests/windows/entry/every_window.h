@@ -78,7 +78,7 @@ struct Windows {
         show(finestre::UltimaImportazione(), "frmUltimaImportazione");
     }
 
-    /// Shows each window in its turn; `look` sees it.
+    /// Shows one window after the other and calls `look` with each.
     void each(const std::function<void(QWidget&, const QString&)>& look) {
         const auto show = [&](QWidget& window, const QString& name) {
             window.show();

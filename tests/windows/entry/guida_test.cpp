@@ -1,4 +1,4 @@
-// F1 in each window, over the help that was built: it opens the place about that window, in the language in
+// F1 in each window, with the help as built: it opens the section about that window, in the language in
 // use.
 #include <QKeyEvent>
 #include <QScopeGuard>
@@ -48,7 +48,7 @@ QString openedBy(QWidget& control) {
     return QUrl(opener.opened()).toLocalFile();
 }
 
-/// The windows of the program, the main window out of the way: its own F1 is a command.
+/// The windows of the program, the main window hidden: its own F1 is a command.
 struct Stage : StoreStage {
     Stage() { window().hide(); }
 };

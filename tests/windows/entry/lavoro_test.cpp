@@ -1,5 +1,5 @@
-// Long work shows itself: the hourglass while a statement or a fill runs, the progress item of the status
-// bar, and a window that goes on being painted where the work lets it.
+// Long work is visible: the hourglass while a statement or a fill runs, the progress item of the status
+// bar, and a window that keeps being painted where the work permits.
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -236,7 +236,7 @@ class TestLavoro : public QObject {
         stage.command("cmdMailingSalva");
         QCOMPARE(shownAtFailure, -1);
         QVERIFY(!QApplication::overrideCursor());
-        // The copy onto the file itself fails while it is under way.
+        // The copy onto the file itself fails in the middle.
         ui::FileDialog::queue(stage.folder.database());
         MessageDialog::queue(MessageDialog::Ok);
         stage.command("cmdMailingSalva");

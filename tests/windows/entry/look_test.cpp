@@ -117,7 +117,7 @@ class TestLook : public QObject {
         for (auto it = names.begin(); it != names.end(); ++it) {
             auto* control = stage.control<QWidget>(it.key());
             QCOMPARE(control->accessibleName(), it.value());
-            // A list tells its current entry as its name; assistive programs find its label by the relation.
+            // A list's name is its current entry; assistive programs find its label by the relation.
             if (qobject_cast<QComboBox*>(control)) continue;
             QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), it.value());
         }

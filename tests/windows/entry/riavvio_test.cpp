@@ -1,4 +1,4 @@
-// The new start after a failure, and the end that the system asks for.
+// The restart after a failure, and the end that the system requests.
 #include "windows/entry/Riavvio.h"
 #include "support/TestClass.h"
 
@@ -37,7 +37,7 @@ class TestRiavvio : public QObject {
     static void fail() {
         evento([] { fallisci(ErrorCode::TypeMismatch); });
     }
-    /// Ends the program by a failure, with a new start, as a user does half a minute after the start.
+    /// Ends the program by a failure, with a restart, as a user does half a minute after the start.
     void failAndRestart() {
         m_seconds = 30;
         MessageDialog::queue(MessageDialog::Restart);
@@ -173,7 +173,7 @@ class TestRiavvio : public QObject {
         QCOMPARE(ended, old);
     }
 
-    /// What the first events after a start bring: the editor, until it is closed. Whether it has come.
+    /// Runs the first events after a start; whether they opened the editor, which is closed again.
     static bool editorComesAfterTheStart() {
         bool shown = false;
         QTimer close;

@@ -1,4 +1,4 @@
-// No window shows a text of our own that was not looked up in the language in use.
+// Every text of ours in a window was looked up in the language in use.
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
@@ -27,7 +27,7 @@ class Brackets : public QTranslator {
         return QStringLiteral("[[%1]]").arg(QString::fromUtf8(source));
     }
     bool isEmpty() const override { return false; }
-    /// Whether a text stood in a window before, or without, being looked up.
+    /// Whether a window contained a text before, or without, its look-up.
     bool misses(const QString& shown) const { return m_asked.contains(shown); }
 
   private:

@@ -1,4 +1,4 @@
-// Every window as a user may have it: with the four colour schemes, a larger font, longer texts; the screen's
+// Every window with a user's settings: the four colour schemes, a larger font, longer texts; the screen's
 // scale comes from outside (QT_SCALE_FACTOR). With VESTROLA_SHOTS set to a folder, pictures are left there.
 #include <QHeaderView>
 #include <QMenu>

@@ -1,5 +1,5 @@
-// Address books, Outlook files and databases as they should not be: no word to the user, the group that was
-// asked for stays, rows that came in stay, and the database is in good order.
+// Faulty address books, Outlook files and databases: nothing is said to the user, the group that was asked
+// for stays, imported rows stay, and the database is consistent.
 #include <sys/stat.h>
 
 #include "platform/jet/Database.h"
@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* book = "casa/.thunderbird/x.default/abook.sqlite";
 
-/// Puts something that is no good source into the program folder.
+/// Puts an invalid source into the program folder.
 void makeBadFile(const QString& kind, const QString& name, const ContactStage& stage) {
     const QString path = stage.folder.path(name);
     if (kind == "directory") QVERIFY(QDir().mkpath(path));
@@ -63,7 +63,7 @@ class EscWhenPainted : public QObject {
 class TestImportContattiGuasti : public QObject {
     Q_OBJECT
 
-    /// Imports into a new group, which stays behind empty, and nothing is said.
+    /// Imports into a new group, which stays empty, and nothing is said.
     static void expectAnEmptyGroup(ContactStage& stage, const QString& command) {
         stage.chooseNewGroup("Fiera");
         stage.import(command);
@@ -234,7 +234,7 @@ class TestImportContattiGuasti : public QObject {
         stage.step = nullptr;
         stage.folder.showDatabase();
         const QStringList found = stage.inserted("email");
-        // A group of rows that goes to disk together holds 5000 at most.
+        // A group of rows that goes to disk together contains 5000 at most.
         QVERIFY2(found.size() >= 7000, qPrintable(QString::number(found.size())));
         QVERIFY(found == all.mid(0, found.size()));
         QVERIFY(MessageDialog::shown().isEmpty());

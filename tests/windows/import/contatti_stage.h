@@ -63,7 +63,7 @@ class ContactStage : public ImportStage {
 
     void writeCards(const QByteArray& cards) { write("data/rubrica/rubrica.vcf", cards); }
 
-    /// Outlook as a helper that prints these lines, and then does what the shell is told.
+    /// Replaces Outlook's helper by a script that prints these lines and then runs shell commands.
     void writeHelper(const QByteArray& lines, const QByteArray& ending = {}) {
         write("data/posta.pst", "x");
         write("righe", lines);
@@ -85,7 +85,7 @@ class ContactStage : public ImportStage {
     }
 
     QList<double> counted;             ///< the values that the counter of the status bar went through
-    std::function<void(double)> step;  ///< what else happens at each
+    std::function<void(double)> step;  ///< called at each
 
     double progressNow() { return progress()->value(); }
     double progressMaximum() { return progress()->maximum(); }

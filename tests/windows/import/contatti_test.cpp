@@ -32,7 +32,7 @@ QByteArray escaped(QString text) {
     return text.replace("\\", "\\\\").replace(";", "\\;").replace(",", "\\,").replace("\n", "\\n").toUtf8();
 }
 
-/// Cards that give the address book the properties of a vector.
+/// Cards with the properties of a vector.
 QByteArray cardsOf(const QJsonArray& entries) {
     QByteArray cards;
     for (const auto& value : entries) {
@@ -74,7 +74,7 @@ class TestImportContatti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
-    /// Of values that were longer, as many characters stand in the one row as each column takes.
+    /// Of longer values the one row contains as many characters as each column takes.
     static void expectLimits(const ContactStage& stage) {
         const auto length = [&](const char* column) { return stage.inserted(column).value(0).size(); };
         QCOMPARE(length("rgs"), 70);
@@ -110,7 +110,7 @@ class TestImportContatti : public QObject {
         stage.clickNode("K1");
         stage.import("cmdMailingImpOE");
         QCOMPARE(stage.count("tb_destinatari", "sel = True AND id_grp = 1"), 2);
-        QCOMPARE(stage.columnOfGrid(0), QStringList());  // the grid is not filled anew
+        QCOMPARE(stage.columnOfGrid(0), QStringList());  // the grid is not filled again
         stage.chooseRoot();
         stage.import("cmdMailingImpOE");
         QCOMPARE(stage.count("tb_destinatari", "id_grp = 0"), 2);

@@ -1,5 +1,5 @@
-// Real databases of many makers: each is opened, listed and imported from. They are no part of the
-// repository; where they are missing the tests say so and pass.
+// Real databases of many programs: each is opened, listed and imported from. They are not part of the
+// repository; where they are missing the tests report it and pass.
 #include <QDir>
 #include <QProcess>
 
@@ -20,7 +20,7 @@ QStringList samples() {
     return QDir(samplesFolder).entryList({"*.mdb"}, QDir::Files, QDir::Name);
 }
 
-/// True, with a word about it, where the files are missing.
+/// True, with a note, where the files are missing.
 bool missing() {
     if (!samples().isEmpty()) return false;
     qInfo("skipped: there are no sample databases");
@@ -36,8 +36,8 @@ QStringList listed(const QString& path, const QString& kind) {
     return names;
 }
 
-/// Tables with the mark of the system in the catalogue that are not named as such: Access shows them to
-/// nobody, the catalogue lists them like any other. The independent reader leaves them out.
+/// Tables with the mark of the system in the catalogue that are not named as such: Access
+/// hides them, the catalogue lists them like any other. The independent reader leaves them out.
 const QHash<QString, QStringList> hiddenTables{
     {"jk-testUnicodeCompV2003.mdb", {"f_B2444F72C17C49C3B2E92EED7C2E6EF3_Data"}},
     {"tika-testAccess2_2000.mdb", {"f_25107E40424A4A519B280B8F46E54839_Data"}}};

@@ -1,4 +1,4 @@
-// Sources of the Access import as they should not be, and databases that somebody else holds.
+// Faulty sources of the Access import, and databases that another process locks.
 #include <sys/stat.h>
 
 #include <QTimer>
@@ -52,7 +52,7 @@ void openLongSource(DbStage& stage) {
 class TestImportDbGuasti : public QObject {
     Q_OBJECT
 
-    /// The import came to its end without a word, and the database is in good order.
+    /// The import ended without a message, and the database is consistent.
     static void expectAQuietEnd(const DbStage& stage) {
         QVERIFY(!finestre::ImpDB().isVisible());
         QVERIFY(stage.ends.isEmpty());

@@ -50,7 +50,7 @@ class DbStage : public ImportStage {
         tables->setCurrentText(table);
         Q_EMIT tables->activated(tables->currentIndex());
     }
-    /// Imports from the table on show, also where it is not the first one, which alone could be by hand.
+    /// Imports from the table that is shown; a user can do so with the first one only.
     void importPicked() {
         control<QPushButton>("cmdImportaDB")->setEnabled(true);
         click("cmdImportaDB");

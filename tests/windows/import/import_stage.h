@@ -24,8 +24,8 @@ inline bool isBeginningOfTheList(const QStringList& addresses) {
     return true;
 }
 
-/// The main window with a database, and hands for one of the windows of the imports, shown at its first
-/// mention though not modally.
+/// The main window with a database, and functions for one of the import windows, which is shown at its first
+/// use though not modally.
 class ImportStage : public StoreStage {
   public:
     explicit ImportStage(QDialog& (*of)()) : m_of(of) {}
@@ -47,7 +47,7 @@ class ImportStage : public StoreStage {
     }
     void click(const QString& name) { control<QAbstractButton>(name)->click(); }
     QComboBox* box(int index) { return control<QComboBox>(QString("cmbCmp(%1)").arg(index)); }
-    /// The label that stands right above a box.
+    /// The label right above a box.
     QLabel* labelAbove(int index) {
         const QPoint place = box(index)->mapTo(&dialog(), QPoint());
         for (auto* label : dialog().findChildren<QLabel*>()) {
@@ -73,7 +73,7 @@ class ImportStage : public StoreStage {
     }
     static int recipients() { return count("tb_destinatari", "id > 0"); }
     static int groupsInTable() { return count("tb_gruppi", "id > 0"); }
-    /// The statements that insert what stands in the table, as one hash.
+    /// The statements that insert the table's rows, as one hash.
     static QByteArray statementsHash() {
         ado::Recordset rows;
         esigi(rows.setActiveConnection(connDB));

@@ -1,4 +1,4 @@
-// Text files and databases as they should not be: what the user reads, and that the rows before stay.
+// Faulty text files and databases: what the user reads, and that the rows before the fault stay.
 #include <sys/stat.h>
 
 #include <QTimer>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int manyLines = 40000;
 
-/// Enough lines to be busy with for a while: "n1@x.it", "n2@x.it", …
+/// Enough lines for a long import: "n1@x.it", "n2@x.it", …
 QByteArray longList() {
     QByteArray lines;
     for (int i = 1; i <= manyLines; ++i)

@@ -1,4 +1,4 @@
-// What each import notes of its lines, besides the text import.
+// What each import but the text import notes of its lines.
 #include "modules/import/UltimaImportazione.h"
 #include "support/TestClass.h"
 #include "windows/import/contatti_stage.h"

@@ -1,4 +1,4 @@
-// Every key of the language file against what it names in the real windows, and the file that is installed.
+// Every key of the language file and what it names in the real windows, and the file that is installed.
 #include <QAbstractButton>
 #include <QDockWidget>
 #include <QLabel>
@@ -51,7 +51,7 @@ QString captionOfControl(const QWidget& window, const QString& name) {
     return QString();
 }
 
-/// What stands in the place that the key names, read off its own words; null where there is no such place.
+/// The text at the place that the key names, found by the key's own words; null where there is no such place.
 QString valueOf(const QString& key) {
     if (key.startsWith("bVAR.")) {
         for (const auto& [name, text] : bVAR::elenco)
@@ -92,7 +92,7 @@ QString valueOf(const QString& key) {
     return caption ? command->Caption() : command->Description();
 }
 
-/// Every text that a user can see, by what holds it: more than the keys name. A button of a bar and the entry
+/// Every text that a user can see, by its owner: more than the keys name. A button of a bar and the entry
 /// of a pane in a menu only repeat a text.
 QMap<QString, QString> everyText() {
     QMap<QString, QString> texts;
@@ -201,7 +201,7 @@ class TestLangKeys : public QObject {
             QVERIFY2(!keys.contains(key), key);
     }
 
-    // The texts that a user of the Italian file sees are those that the windows have by themselves. The help
+    // The texts of the Italian file are the windows' own. The help
     // command is designed with a placeholder.
     void theInstalledItalianIsWhatTheWindowsSayByThemselves() {
         LangStage stage;

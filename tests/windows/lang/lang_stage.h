@@ -11,7 +11,7 @@
 #include "windows/core/Evento.h"
 #include "windows/entry/Finestre.h"
 
-/// What the tests of the language share: the keys, and a program folder around each test.
+/// The common parts of the language tests: the keys, and a program folder around each test.
 namespace testing_support {
 
 inline const QString dataFolder = QStringLiteral(TEST_DATA_DIR "/");
@@ -40,7 +40,7 @@ inline QStringList allKeys() {
     return keys;
 }
 
-/// A program folder with the windows still to be created; everything is gone behind the test.
+/// A program folder with the windows still to be created; everything is removed after the test.
 class LangStage {
   public:
     LangStage() {

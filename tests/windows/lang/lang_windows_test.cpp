@@ -1,4 +1,4 @@
-// The list of languages, a change of language, and what becomes of a start whose language files are wrong.
+// The list of languages, a change of language, and a start with faulty language files.
 #include <QAbstractButton>
 #include <QMenu>
 
@@ -22,7 +22,7 @@ namespace {
 
 const QByteArray twoLanguages = "[<LNG1>]Italiano\r\n[<LNG2>]English\r\n";
 
-/// English in use, and these lines behind the two languages.
+/// English in use, and these lines after the two languages.
 void setFile(const LangStage& stage, const QByteArray& lines) {
     writeTo(stage.path("LANG.lng"), twoLanguages + lines);
     writeTo(stage.path("LANGz.lng"), "English\r\n");

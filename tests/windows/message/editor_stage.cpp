@@ -39,7 +39,7 @@ void EditorStage::begin() {
     tool("cmdAllegatiDel").setEnabled(false);
     design().setFocus();
     settle(design());
-    // What the last test left under way marks nothing in this one.
+    // What the last test left pending marks nothing in this one.
     editor().titoloFile = "[NuovoFile.mss]";
     editor().ImpostaTitolo();
 }

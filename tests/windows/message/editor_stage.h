@@ -24,7 +24,7 @@ class EditorStage : public StoreStage {
   public:
     EditorStage();
 
-    /// As it is after the start of the program and the first opening: an empty document, the design view, no
+    /// The state after the start of the program and the first opening: an empty document, the design view, no
     /// file.
     void begin();
 
@@ -37,22 +37,22 @@ class EditorStage : public StoreStage {
     QString hint() { return editor().Commands().GetStatic("stcHelp")->Text(); }
     QString subject() { return editor().Commands().GetEdit("txtOggetto")->Text(); }
 
-    /// Clicks the button of a command, or starts it as its menu does where it has none in sight; one that is
-    /// off does nothing.
+    /// Clicks the button of a command, or starts it as its menu does where no button is visible; a disabled
+    /// one does nothing.
     void start(const QString& name);
     /// A click on the tab.
     void chooseTab(int index);
 
-    /// Keys into the design view.
+    /// Sends keys to the design view.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
     void type(const QString& text);
-    /// Sets the document, without its mark.
+    /// Sets the document, not marked as changed.
     void fill(const QString& body);
-    /// Selects what the script's range holds: "select('p', 0, 5)" in the first text of the first such
+    /// Selects the script's range: "select('p', 0, 5)" in the first text of the first such
     /// element.
     void select(const QString& selector, int from, int to);
     void caret(const QString& selector, int at = 0) { select(selector, at, at); }
-    /// What the body of the design view holds.
+    /// The content of the design view's body.
     QString body();
 
     /// Runs `act` on the window of that class name that opens next over the editor.
@@ -75,7 +75,7 @@ class EditorStage : public StoreStage {
     QString path(const QString& name) const { return folder.path(name); }
     QByteArray bytes(const QString& name) const;
     void write(const QString& name, const QByteArray& bytes) const;
-    /// Saves under a name that the file dialog gives.
+    /// Saves under a name that the file dialog returns.
     void saveAs(const QString& name);
     void open(const QString& name);
 
@@ -84,7 +84,7 @@ class EditorStage : public StoreStage {
     static void whenModal(std::function<bool(QWidget&)> act);
 };
 
-/// What the program hands the editor, for one of a test's own; it has no window of page properties.
+/// What the program passes to the editor, for a test's own editor; it has no window of page properties.
 inline frmEditor::Vicini aroundEditor() {
     return {{CaricaPosizioneForm, SalvaPosizioneForm}, {}};
 }

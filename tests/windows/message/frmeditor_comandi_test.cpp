@@ -16,7 +16,7 @@ using namespace testing_support;
 
 namespace {
 
-/// What a test needs to know of a command.
+/// The properties of a command that a test needs.
 struct Comando {
     const char* name;
     const char* caption;

@@ -215,7 +215,7 @@ class TestDialoghi : public QObject {
             QCOMPARE(list.rowCount(), 4);
             click(dialog, "cmdOk");
         });
-        // A double click asks for the same window.
+        // A double click opens the same window.
         Q_EMIT stage().design().doubleClicked();
         QVERIFY2(stage().body().contains("<td align=\"right\" bgcolor=\"#ffeeaa\">testo</td>"),
                  qPrintable(stage().body()));

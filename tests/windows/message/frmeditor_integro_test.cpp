@@ -1,5 +1,5 @@
 // The editor never damages a message: opened, looked at in every tab and saved any number of times, its body
-// stays what it was when it was opened. And what was written is what the send window offers.
+// stays unchanged. And the send window offers what was written.
 #include <QDir>
 
 #include "modules/message/MessaggioMss.h"
@@ -54,7 +54,7 @@ class TestIntegro : public QObject {
     }
     void aNewsletterStaysAsItWasOpened() {
         QFETCH(QString, html);
-        // What the code page does not hold comes into the file as the editor writes it.
+        // Characters outside the code page are written to the file as the editor encodes them.
         HtmlDocument reader;
         if (!reader.setDocumentHTML(html).ok()) qFatal("the text is refused");
         const QString first = reader.documentHTML();

@@ -37,7 +37,7 @@ class TestPagina : public QObject {
         const qsizetype from = html.indexOf("<body");
         return html.mid(from, html.indexOf('>', from) + 1 - from);
     }
-    /// Opens the properties, lets `change` have its way, and presses a button.
+    /// Opens the properties, calls `change`, and presses a button.
     void properties(const char* button, std::function<void(ui::PropertyList&)> change = {}) {
         stage().inDialog<frmPropBody>([button, change](frmPropBody& window) {
             if (change) change(*window.prp);
@@ -204,7 +204,7 @@ class TestPagina : public QObject {
         properties("cdmSalva", [](ui::PropertyList& prp) {
             QCOMPARE(prp.Item("Sinistra")->Value().toString(), "5");
             QCOMPARE(prp.Item("Sfondo")->Value().toUInt(), 0x302010U);
-            // A name is no number.
+            // A colour's name is not a number.
             QCOMPARE(prp.Item("Testo")->Value().toUInt(), 0U);
             prp.Item("Sinistra")->setValue("0");
             prp.Item("Sfondo")->setValue(0x0000ffU);

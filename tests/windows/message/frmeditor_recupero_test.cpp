@@ -1,5 +1,5 @@
-// The rescue copy of the document in the editor: when it comes, what it holds, when it goes away, and how it
-// comes back.
+// The rescue copy of the document in the editor: when it is written, what it contains, when it is removed,
+// and how it is recovered.
 #include <QDir>
 #include <QTimer>
 
@@ -124,7 +124,7 @@ class TestRecupero : public QObject {
         stage().type("x");
         stage().start("cmdSalva");
         QVERIFY(stage().bytes("a.mss").contains('x'));
-        // The next copy that is due would come after this one's.
+        // The next copy that is due would be written after this one.
         stage().editor().titoloFile = "[a.mss]";
         Q_EMIT stage().design().followed();
         const auto* due = stage().editor().findChild<QTimer*>("tempoCopia");
@@ -177,7 +177,7 @@ class TestRecupero : public QObject {
         QCOMPARE(copies().size(), 1);
         QVERIFY2(all().contains(">x<"), all());
         QStringList damaged;
-        QVERIFY(CopiaTrovata::Cerca(damaged).empty());  // of this program, which lives
+        QVERIFY(CopiaTrovata::Cerca(damaged).empty());  // of this program, which is running
         stage().type("y");
         QTRY_COMPARE_WITH_TIMEOUT(copies().size(), 2, patience);
     }

@@ -1,4 +1,4 @@
-// What comes from outside does no harm to the editor: the clipboard, a drop, a hostile message, the end of
+// Input from outside does no harm to the editor: the clipboard, a drop, a hostile message, the end of
 // the browser's process.
 #include <QClipboard>
 #include <QImage>
@@ -42,7 +42,7 @@ const char* const freeOffice =
 
 const char* const script = "document.body.setAttribute('fatto', 1)";
 
-constexpr int browserStart = 30000;  // milliseconds; only a busy machine comes near
+constexpr int browserStart = 30000;  // milliseconds; only a busy machine needs as much
 
 }  // namespace
 

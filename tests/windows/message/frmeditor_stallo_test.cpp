@@ -1,5 +1,5 @@
-// A browser that stalls never has an older text taken for the message's: what was asked of it fails, with a
-// notice, and goes on when the browser does.
+// While the browser stalls, an older text is never taken for the message's: requests to it fail, with a
+// notice, and work again when the browser does.
 #include <csignal>
 #include <QCursor>
 #include <QLabel>
@@ -19,7 +19,7 @@ using ui::MessageDialog;
 
 namespace {
 
-/// Holds the process that has the view's document, from begin to end.
+/// Stops the process that has the view's document for the object's lifetime.
 class Stall {
   public:
     explicit Stall(const HtmlView& view)
@@ -50,7 +50,7 @@ class TestStallo : public QObject {
         stage().fill("<p>vecchio</p>");
         stage().saveAs(name);
     }
-    /// The text is in the document, and no copy outside of the browser's process has it yet.
+    /// Types a text that is in the document, but not yet in a copy outside of the browser's process.
     void typeHeld() { stage().type("nuovo "); }
 
   private Q_SLOTS:

@@ -354,7 +354,7 @@ class TestStato : public QObject {
         QVERIFY(modal);
         QCOMPARE(body.trimmed(), "");
         QVERIFY(!stage().editor().isVisible());
-        // Its browser stays from opening to opening.
+        // Its browser is kept between openings.
         QVERIFY(first > 0);
         QCOMPARE(browser(), first);
     }

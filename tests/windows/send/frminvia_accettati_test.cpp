@@ -1,5 +1,5 @@
-// Whoever was served though his row could not be marked: when he leaves the selection, and what keeps a run
-// from starting.
+// A recipient who was served though his row could not be marked: when he leaves the selection, and what
+// prevents the start of a run.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -28,7 +28,7 @@ mail::DatabaseFile database() {
     return mail::DatabaseFile::at(percorsoDB);
 }
 
-/// As an earlier run leaves it.
+/// Notes a recipient as accepted, as an earlier run does.
 void remember(int number, const QString& address) {
     esigi(accettati().reserve(database(), 1));
     accettati().add(database(), number, address);
@@ -160,7 +160,7 @@ class TestFrmInviaAccettati : public QObject {
 
     void rowThatIsRememberedIsNotServedInMidRun() {
         SendStage stage({"a@x.it", "b@x.it"});
-        // Comes while the run is on, as a late acceptance does.
+        // Arrives during the run, as a late acceptance does.
         stage.sink.onMessage([](const SmtpSink::Message& message) {
             if (message.recipient == "a@x.it") remember(2, "b@x.it");
         });
@@ -270,7 +270,7 @@ class TestFrmInviaAccettati : public QObject {
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
     }
 
-    // A row with the number 0 is a row; the next one cannot be read at all.
+    // 0 is a valid number of a row; the next one cannot be read at all.
     void rowWithTheNumberZeroIsServedAndMarked() {
         SendStage stage({"a@x.it"});
         change("UPDATE [tb_destinatari] SET [sel] = False;");

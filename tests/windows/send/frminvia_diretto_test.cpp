@@ -16,7 +16,7 @@ namespace {
 
 const bool isolated = enterPrivateNetwork(__FILE__);
 
-// A documentation address (RFC 5737), which no network closes off.
+// A documentation address (RFC 5737), which counts as public.
 const char* const publicAddress = "203.0.113.25";
 
 NameServer::Records records() {
@@ -181,7 +181,7 @@ class TestFrmInviaDiretto : public QObject {
     }
 
     void serverThatNeverAnswersEndsInTheTimeoutAndTheNextIsServed() {
-        QTcpServer mute;  // takes connections and says nothing
+        QTcpServer mute;  // accepts connections and sends nothing
         QVERIFY(mute.listen(QHostAddress("127.0.0.5"), 25));
         DirectStage direct({"a@muto.example", "b@alfa.example"});
         direct.stage.pick();

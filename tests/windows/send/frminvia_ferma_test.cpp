@@ -1,4 +1,4 @@
-// A stop in each state of a run, and what may happen before the tick that it leaves pending.
+// A stop in each state of a run, and what can happen before the pending tick.
 #include "support/SendStage.h"
 #include "support/TestClass.h"
 
@@ -22,7 +22,7 @@ class TestFrmInviaFerma : public QObject {
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
         QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
-        // What had been handed over would arrive before the messages of the next run.
+        // A message that was already passed on would arrive before those of the next run.
         stage.start();
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));

@@ -1,4 +1,4 @@
-// What a run carries away: received messages that name files of the user, and the question about them.
+// The files that a run sends: received messages that name files of the user, and the question about them.
 #include <QDir>
 
 #include "modules/message/MessaggiNoti.h"
@@ -54,7 +54,7 @@ class Prey {
             if (!box.rows.isEmpty()) return static_cast<int>(box.rows.size());
         return 0;
     }
-    /// All rows are to be served once more.
+    /// Selects all rows again.
     void again() {
         stage.folder.addRecipients({{{"rgs", "Ditta"}, {"email", "a@x.it"}}});
         stage.open();
@@ -89,7 +89,7 @@ class TestFrmInviaFile : public QObject {
         QCOMPARE(box.defaultAnswer, int(MessageDialog::No));
         QCOMPARE(box.title, QString("Attenti"));
         QVERIFY(box.remembers);
-        // What lies where nobody keeps attachments comes first.
+        // Files in places where nobody keeps attachments come first.
         QCOMPARE(box.rows[0].first(), prey.key());
         QVERIFY(box.rows[0][1].startsWith("35 "));
         QVERIFY(!box.rows[0][3].isEmpty());
@@ -120,7 +120,7 @@ class TestFrmInviaFile : public QObject {
         prey.stage.pick(prey.receive());
         QCOMPARE(prey.ask(MessageDialog::YesAlways), 4);
         prey.again();
-        // Picked when it was known, so its body and images are; the attachments are those of the new bytes.
+        // It was known when picked, so its body and images are; the attachments are those of the new bytes.
         prey.receive(Prey::message({prey.key(), prey.stage.folder.path("Account.imp"), prey.offer()}));
         QCOMPARE(prey.ask(MessageDialog::No), 2);
         prey.receive(Prey::message({}, prey.picture()));
@@ -202,7 +202,7 @@ class TestFrmInviaFile : public QObject {
             prey.stage.folder.writeMessage("mio.mss", Prey::message({prey.offer()})));
         QCOMPARE(prey.ask(MessageDialog::No), 1);
         QCOMPARE(MessageDialog::shown().first().rows[0][0], prey.picture());
-        // What is kept is kept for the file that was picked, and for nothing else that it names.
+        // The answer is kept for the file that was picked, and for nothing else that it names.
         QCOMPARE(prey.ask(MessageDialog::YesAlways), 1);
         prey.again();
         prey.stage.pick(prey.stage.folder.path("ricevuto.mss"));

@@ -1,4 +1,4 @@
-// The window around a run: how it is left and opened again, where focus and default button go.
+// The window around a run: closing, opening again, focus and default button.
 #include <QAccessible>
 #include <QApplication>
 #include <QScopeGuard>

@@ -26,7 +26,7 @@ void writeAccount(const QString& line) {
     file.write(TestoInBit(line).toLatin1() + "\r\n");
 }
 
-/// The program's name server while it lives: answers one query, on a thread of its own since a look-up holds
+/// The program's name server while it lives: answers one query, on a thread of its own since a look-up blocks
 /// the program's, with one exchanger of that name or with none.
 class NameServer {
   public:
@@ -39,7 +39,7 @@ class NameServer {
     }
     ~NameServer() { stop(); }
 
-    /// The query that came; empty if none did.
+    /// The query that was received; empty if none was.
     QByteArray stop() {
         if (m_thread.joinable()) m_thread.join();
         return m_query;
@@ -215,7 +215,7 @@ class TestFrmInviaGiro : public QObject {
         QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "c@x.it"}));
         QCOMPARE(stage.header(1, "Subject"), "C");
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 2}));
-        // As a run's first row, too: the address is the one of the run before.
+        // Also as a run's first row: the address is the one of the run before.
         QVERIFY(stage.run());
         QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "c@x.it"}));
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
@@ -254,7 +254,7 @@ class TestFrmInviaGiro : public QObject {
         });
         back.start(1);
         stage.pick();
-        stage.click("cmdInvia");  // the pause of 200 ms lets the database come back between the two ticks
+        stage.click("cmdInvia");  // the pause of 200 ms lets the database return between the two ticks
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));

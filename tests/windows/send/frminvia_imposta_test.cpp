@@ -1,5 +1,5 @@
 // The set-up of a run: the window's lists, the choice of the message, the checks and what a start prepares.
-// Above 500 lines: one click in its told order, whose steps are read beside each other.
+// Above 500 lines: one click with a fixed order of steps, which are best read side by side.
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -38,7 +38,7 @@ QStringList entries(const QComboBox& list) {
 class TestFrmInviaImposta : public QObject {
     Q_OBJECT
 
-    /// The one box that a refused start showed; nothing else may have changed.
+    /// Expects the one box of a refused start, and that nothing else has changed.
     void verifyRefused(SendStage& stage, const QString& text) {
         QCOMPARE(MessageDialog::shown().size(), 1);
         const auto& box = MessageDialog::shown().constFirst();
@@ -457,7 +457,7 @@ class TestFrmInviaImposta : public QObject {
         QCOMPARE(stage.smtp().Priority, 5);
     }
 
-    // Its number, not its place in the list, leads to the account.
+    // The account is found by its number, not by its place in the list.
     void senderAndGreetingComeFromTheChosenAccount() {
         SendStage stage({"a@x.it"});
         writeAccountLines({"0|Zero|zero@x.it|127.0.0.1|25|0|||EHLO|0|1",

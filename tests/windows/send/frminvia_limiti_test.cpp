@@ -24,7 +24,7 @@ QStringList addresses(int count) {
     return list;
 }
 
-/// Tells which widget is being painted.
+/// Notes which widget is being painted.
 class PaintWatch : public QObject {
   public:
     explicit PaintWatch(std::function<void(QWidget*)> painted) : m_painted(std::move(painted)) {}
@@ -102,7 +102,7 @@ class TestFrmInviaLimiti : public QObject {
         useBlock(stage, "3", "5");
         QVERIFY(stage.run());
         QCOMPARE(stage.counters(), (QList<double>{0, 0, 7}));
-        QCOMPARE(clock.slept(), 600000);  // behind the third and the sixth
+        QCOMPARE(clock.slept(), 600000);  // after the third and the sixth
     }
 
     void whatIsSeenDuringTheWaitIsTrue() {
@@ -259,7 +259,7 @@ class TestFrmInviaLimiti : public QObject {
         log.close();
         stage.pick();
         stage.click("chkLog");
-        // The real dialog: a question about the file that is there would be another modal window.
+        // The real dialog: a question about the existing file would be another modal window.
         ui::setUnattended(false);
         const auto unattended = qScopeGuard([] { ui::setUnattended(true); });
         QStringList asked;

@@ -1,5 +1,5 @@
-// The send window in front of servers that misbehave: a stop at every step of the dialogue, and a run that
-// meets one of them after the other.
+// The send window with servers that misbehave: a stop at every step of the dialogue, and a run over one
+// after the other.
 #include <QDir>
 #include <QNetworkProxy>
 
@@ -37,7 +37,7 @@ class HostileStage {
         lead(port);
     }
 
-    /// Makes and chooses another account, which leads there.
+    /// Makes and chooses another account with that server.
     void lead(quint16 port, const QString& password = "segreto") {
         Account account = SampleFolder::loopbackAccount(port);
         account.txtServerSMTP = "localhost";
@@ -50,8 +50,8 @@ class HostileStage {
         accounts->setCurrentIndex(accounts->count() - 1);
     }
 
-    /// Gives the user a token of the provider that is good for so long, and leads the account to `port` with
-    /// it.
+    /// Stores a token of the provider with that lifetime for the user, and makes the account use it, with
+    /// `port`.
     void leadByToken(const AuthorizationServer& provider, int secs, quint16 port) {
         QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
         const QString folder = stage.folder.path("data/oauth");
@@ -68,7 +68,7 @@ class HostileStage {
         lead(port, "OAuth2");
     }
 
-    /// Whether the window still paints itself while a delivery is under way.
+    /// Whether the window still paints itself during a delivery.
     bool isAlive() {
         bool painted = false;
         EventWatch watch(stage.window.get(), QEvent::Paint, [&] { painted = true; });
@@ -226,7 +226,7 @@ class TestFrmInviaOstile : public QObject {
                               TestCertificates::get().good());
         HostileStage hostile({"a@x.it", "b@x.it", "c@x.it", "d@x.it", "e@x.it", "f@x.it"}, server.port());
         QVERIFY(hostile.stage.run());
-        // a delivered, and the server hangs up; b lost behind the point; c refused; d delivered; e rubbish
+        // a delivered, and the server hangs up; b lost after the point; c refused; d delivered; e rubbish
         QCOMPARE(SampleFolder::selected(), (QStringList{"b@x.it", "c@x.it", "e@x.it"}));
         QCOMPARE(hostile.stage.counters(), (QList<double>{0, 3, 3}));
         QCOMPARE(server.remainder(), "");

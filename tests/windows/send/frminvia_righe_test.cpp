@@ -1,5 +1,5 @@
-// The rows of the selection as a run meets them: what is taken from each, when it leaves the queue, and what
-// other hands do to the rows meanwhile.
+// The rows of the selection in a run: what is read from each, when it leaves the queue, and what other
+// programs do to the rows meanwhile.
 #include <QDirIterator>
 #include <QScopeGuard>
 
@@ -69,7 +69,7 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(SampleFolder::selected().size(), 2);
     }
 
-    // The walk falls off the end: nobody is read, and nothing is sent.
+    // The walk is past the end: no row is read, and nothing is sent.
     void rowDeselectedDuringARunIsNotServedAndTheCountsGoOn() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.sink.onMessage([](const SmtpSink::Message&) {
@@ -146,7 +146,7 @@ class TestFrmInviaRighe : public QObject {
         SendStage stage(QList<SampleFolder::Columns>{
             {{"rgs", ""}, {"nom", "Anna"}, {"email", "a@x.it"}},
             {{"rgs", ""}, {"nom", QString()}, {"email", QString()}, {"ind", "Via Roma"}}});
-        // The Null address sorts in front of the other.
+        // The Null address sorts before the other.
         QList<std::pair<QString, QString>> handed;
         const auto note = [&] { handed.append({stage.smtp().ToName, stage.smtp().ToAddress.text()}); };
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, note);
@@ -157,7 +157,7 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(handed, (QList<std::pair<QString, QString>>{{"Prima", "prima@x.it"}, {"Anna", "a@x.it"}}));
     }
 
-    // The server never answers: only an outcome that is seen at once counts the recipient as delivered.
+    // The server never answers: the recipient is counted as delivered only if an outcome is seen at once.
     void outcomeThatComesBeforeSendReturnsEndsTheWait() {
         SendStage stage({"a@x.it"});
         stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
@@ -165,7 +165,7 @@ class TestFrmInviaRighe : public QObject {
         stage.start();
         const auto restored = qScopeGuard([] { sys::clock() = sys::systemClock(); });
         bool insideSend = false;
-        // A message that is being composed asks for the time.
+        // Composing a message asks for the time.
         sys::clock().now = [&] {
             insideSend = true;
             Q_EMIT stage.smtp().SendDone();

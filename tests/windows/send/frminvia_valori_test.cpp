@@ -15,7 +15,7 @@ namespace {
 
 const QByteArray secret = "contenuto riservato di un file";
 
-/// A stage whose folder holds files that nobody asked to be sent.
+/// A stage whose folder contains files that must not be sent.
 class Temptation {
   public:
     explicit Temptation(const QList<SampleFolder::Columns>& recipients) : stage(recipients) {
@@ -50,7 +50,7 @@ class Temptation {
     SendStage stage;
 };
 
-/// A recipient whose columns all hold the value as far as it fits, but for his address.
+/// A recipient whose columns, except the address, all contain the value as far as it fits.
 SampleFolder::Columns everywhere(const QString& value) {
     SampleFolder::Columns columns;
     for (const schema::Colonna& column : schema::colonneDestinatari) {
@@ -61,7 +61,7 @@ SampleFolder::Columns everywhere(const QString& value) {
     return columns;
 }
 
-/// What a message holds: text, HTML, and nothing but the image and the attachment that it names.
+/// Verifies a message's parts: text, HTML, and only the image and the attachment that it names.
 void verifyNothingMore(const SmtpSink::Message& message) {
     const wire::Message read = wire::read(message.data);
     QCOMPARE(read.complaints.join('\n'), QString());
@@ -185,7 +185,7 @@ class TestFrmInviaValori : public QObject {
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
         verifyNothingMore(stage.sink.messages()[0]);
         const wire::Message read = wire::read(stage.sink.messages()[0].data);
-        // its turn comes before that of the address, behind which nothing is expanded again
+        // it is expanded before the address, after which nothing is expanded again
         QVERIFY(read.subject.startsWith("a@x.it :::em a@x.it :::email::: "));
         QCOMPARE(read.to.name, QString(":::email:::"));
     }

@@ -1,4 +1,4 @@
-// The bars of the main window: what stands where, with which texts; the status bar; the client area.
+// The bars of the main window: what is where, with which texts; the status bar; the client area.
 #include <QAccessible>
 #include <QDockWidget>
 #include <QMenu>

@@ -153,7 +153,7 @@ class TestDatabase : public QObject {
         MessageDialog::queue(MessageDialog::Yes);
         FileDialog::queue(otherDatabase(stage));
         stage.command("cmdMailingApri");
-        // The record source is still that of group 1; the other database has nobody in it.
+        // The record source is still that of group 1, which is empty in the other database.
         QVERIFY(stage.window().Adodc().Refresh().ok());
         QCOMPARE(stage.grd().Rows(), 1);
     }
@@ -293,7 +293,7 @@ class TestDatabase : public QObject {
         stage.command("cmdMailingSalva");
         QVERIFY2(stage.failure().startsWith("Errore 75:"), qPrintable(stage.failure()));
         QCOMPARE(readFile(stage.folder.database()), before);
-        // The pointer is the business of a program that goes on.
+        // The pointer matters only to a program that continues.
         while (QApplication::overrideCursor())
             QApplication::restoreOverrideCursor();
     }

@@ -27,7 +27,7 @@ inline void writeFile(const QString& path, const QByteArray& content) {
         qFatal("cannot write %s", qUtf8Printable(path));
 }
 
-/// Puts an opener of its own in front of the desktop's, which writes down what it was given.
+/// Replaces the desktop's opener by one that notes its arguments.
 class Opener {
   public:
     Opener() : m_path(qgetenv("PATH")) {
@@ -41,7 +41,7 @@ class Opener {
     }
     ~Opener() { qputenv("PATH", m_path); }
 
-    /// What was opened; empty when nothing is within ten seconds.
+    /// What was opened; empty when nothing was within ten seconds.
     QString opened() const {
         return QTest::qWaitFor([this] { return QFile::exists(log()); }, 10000)
                    ? QString::fromUtf8(readFile(log())).trimmed()
@@ -56,7 +56,7 @@ class Opener {
     QByteArray m_path;
 };
 
-/// Hides the modal window that comes up next, as soon as it is there; `look` sees it before.
+/// Hides the next modal window as soon as it is shown; calls `look` before.
 inline void closeModalWindow(std::function<void(QWidget&)> look = {}) {
     auto* timer = new QTimer(qApp);
     timer->callOnTimeout([timer, look = std::move(look)] {

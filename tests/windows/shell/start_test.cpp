@@ -45,7 +45,7 @@ bool splashIsThere() {
 
 }  // namespace
 
-/// Writes down in which order splash and main window come and go.
+/// Notes the order in which splash and main window are shown and hidden.
 class WindowWatch : public QObject {
   public:
     explicit WindowWatch(QStringList& seen) : m_seen(seen) { qApp->installEventFilter(this); }
@@ -269,7 +269,7 @@ class TestStart : public QObject {
             frmSplash& splash = finestre::Splash();
             QVERIFY(splash.isVisible());
             QVERIFY(splash.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-            // The box is the splash's own, so that it is not hidden behind it.
+            // The box belongs to the splash, so that the splash does not cover it.
             QCOMPARE(box->parentWidget(), &splash);
             QVERIFY(!finestre::Main().isVisible());
             seen = true;
@@ -394,7 +394,7 @@ class TestStart : public QObject {
         QVERIFY(!QApplication::overrideCursor());
         QVERIFY(MessageDialog::shown().isEmpty());
         QVERIFY(stage.ends.isEmpty());
-        // The commands that need the group window fail; the others do their work.
+        // The commands that need the group window fail; the others work.
         MessageDialog::queue(MessageDialog::Yes);
         FileDialog::queueCancel();
         stage.command("cmdMailingApri");

@@ -1,4 +1,4 @@
-// The menu "Strumenti": behind the others, with a handler of its own for each command.
+// The menu "Strumenti": after the others, with a handler of its own for each command.
 #include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>

@@ -1,5 +1,5 @@
 // The recipient form: its items, checks, statements and what it does to the grid. Above 500 lines: all of it
-// works one form over one stage, and its tests are read beside each other.
+// tests one form over one stage, and is best read together.
 #include <sys/resource.h>
 #include <csignal>
 #include <QLabel>
@@ -67,7 +67,7 @@ class TestDestinatario : public QObject {
     Q_OBJECT
 
     static QTreeWidget& lines(frmDestinatario& form) { return *form.prp->findChild<QTreeWidget*>(); }
-    /// Without room no file grows, so that a statement that writes fails and one that reads does not.
+    /// No file can grow, so that a statement that writes fails and one that reads does not.
     static void setRoomOnDisk(bool room) {
         std::signal(SIGXFSZ, SIG_IGN);
         rlimit limit{};

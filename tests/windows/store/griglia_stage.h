@@ -22,7 +22,7 @@
 
 namespace testing_support {
 
-/// The main window over a program folder of its own, whose database holds the group "Clienti" (number 1).
+/// The main window over a program folder of its own, whose database contains the group "Clienti" (number 1).
 /// Boxes and file dialogs answer from their queues; the end of the program is only noted.
 class StoreStage {
   public:
@@ -32,7 +32,7 @@ class StoreStage {
     SampleFolder folder;
     QList<int> ends;  ///< exit statuses of the ends of the program that were asked for
 
-    /// The main window, shown at its first mention.
+    /// The main window, shown at its first use.
     frmMain& window();
     frmGruppi& groups() { return window().Gruppi(); }
     ui::GroupTree& tree() { return *groups().TREE; }
@@ -40,7 +40,7 @@ class StoreStage {
     frmDestinatario& form();
     QString help() { return window().Commands().GetStatic("stcHelp")->Text(); }
 
-    /// Rows put straight into the tables; give their numbers.
+    /// Insert rows into the tables directly; return their numbers.
     int addGroup(int parent, const QString& name);
     int addRecipient(int group, const QString& rgs, const QString& email = "a@x.it", bool sel = true);
     static void run(const QString& statement);
@@ -50,7 +50,7 @@ class StoreStage {
     static QStringList column(const QString& statement, const QString& name);
     static int count(const QString& table, const QString& where);
 
-    /// A click on a node with the mouse, its parents opened.
+    /// A mouse click on a node, whose parents are opened first.
     void clickNode(const QString& key, Qt::MouseButton button = Qt::LeftButton);
     QPoint at(const QString& key);
     QPoint emptySpace();
@@ -67,13 +67,13 @@ class StoreStage {
     /// Name of the pop-up menu that is open; it is closed.
     QString takePopup();
 
-    /// Whether the button of a command on the bars is on.
+    /// Whether the button of a command on the bars is enabled.
     bool onBar(const QString& name) { return window().findChild<QToolButton*>(name)->isEnabled(); }
 
     /// Runs `act` as soon as the recipient form is open, while it is modal.
     void whenFormOpens(std::function<void(frmDestinatario&)> act);
 
-    /// Expects that there was one box, with text, style and the title "Attenzione".
+    /// Expects exactly one box, with text, style and the title "Attenzione".
     bool oneBox(const QString& text, int style);
     /// The failure that ended the program, "" for none.
     QString failure();

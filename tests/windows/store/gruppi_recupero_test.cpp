@@ -1,4 +1,4 @@
-// What happens at the load of the tree when the database cannot be used.
+// Loading the tree when the database cannot be used.
 #include <QFile>
 
 #include "modules/core/bImpostazioni.h"
@@ -42,7 +42,7 @@ void renameInFile(const QString& path, const QByteArray& from, const QByteArray&
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write");
 }
 
-/// The program's start, up to the end that was asked for.
+/// The program's start, up to its requested end.
 void start() {
     evento([] { finestre::Main(); });
 }

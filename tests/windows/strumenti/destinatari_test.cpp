@@ -1,4 +1,4 @@
-// The tools that look after recipients and groups, as the menu starts them.
+// The tools that maintain recipients and groups, as the menu starts them.
 #include <QAction>
 #include <QFile>
 

@@ -1,4 +1,4 @@
-// The check of a sender as its user works it, in a network without a name server or with one that is silent.
+// The check of a sender through its window, in a network without a name server or with a silent one.
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -51,7 +51,7 @@ struct Stage {
         return QTest::qWaitFor([this] { return said().startsWith("Controllo finito"); }, 60000);
     }
 
-    /// Works the window of the key once it is there.
+    /// Operates the window of the key once it is shown.
     template <class Work>
     void inKeyWindow(Work work) {
         QTimer::singleShot(10, &window, [this, work] {

@@ -1,4 +1,4 @@
-// A run with the book, and what the send window tells of it when somebody asks.
+// A run with the book of outcomes, and what the send window says of it on request.
 #include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
@@ -21,7 +21,7 @@ esiti::Invio newest() {
     return runs.isEmpty() ? esiti::Invio() : esigi(esiti::Leggi(runs.first().path));
 }
 
-/// As the pointer that rests there reads it.
+/// The widget's tool tip, as shown to a resting pointer.
 QString hovered(QWidget* widget) {
     QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), widget->mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(widget, &event);
@@ -68,7 +68,7 @@ class TestFrmEsitiInvio : public QObject {
                              back = back || left == 1;
                          });
         QVERIFY(stage.run());
-        // The second tick met him again and was refused.
+        // The second tick read him again and was refused.
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
         QCOMPARE(stage.sink.messages().size(), 1);
         const esiti::Invio run = newest();
@@ -121,7 +121,7 @@ class TestFrmEsitiInvio : public QObject {
         QCOMPARE(described(stage.control<QWidget>("prgFallite")),
                  "Ultima non inviata: a@x.it\nCasella o indirizzo inesistente\n5.1.1 <b>unknown</b>");
         QVERIFY(hovered(label).contains("&lt;b&gt;unknown"));
-        // The text of the label itself is the counter's alone.
+        // The label's own text is only the counter.
         QCOMPARE(stage.label("lblFallite"), "Email non inviate: 1");
     }
 

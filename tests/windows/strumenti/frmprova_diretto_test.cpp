@@ -29,7 +29,7 @@ NameServer::Records records() {
             {}};
 }
 
-/// A name server of one answer for every question: silence, or what the script makes of the question.
+/// A name server with one answer to every query: silence, or what the script returns for the query.
 class ScriptedNames {
   public:
     explicit ScriptedNames(std::function<QByteArray(const QByteArray& question)> answer = {})
@@ -73,7 +73,7 @@ class DirectProva : public ProvaStage {
         if (!accounts->currentText().startsWith("Diretto")) qFatal("no account of the direct route");
     }
 
-    /// What is told of a copy to this address in the end.
+    /// The final verdict on a copy to this address.
     QString told(const QString& address) {
         its<QLineEdit>("txtIndirizzo")->setText(address);
         return sendCopy() ? text("lblEsito") : QString("no end");
@@ -213,8 +213,8 @@ class TestFrmProvaDiretto : public QObject {
         const ScriptedNames liar([](const QByteArray& question) {
             QByteArray answer = question;
             answer[2] = '\x81';                      // an answer,
-            answer[7] = '\x09';                      // of nine records,
-            return answer + QByteArray(40, '\xff');  // none of which is one
+            answer[7] = '\x09';                      // with nine records,
+            return answer + QByteArray(40, '\xff');  // all of them rubbish
         });
         DirectProva stage;
         QCOMPARE(stage.told("a@alfa.example"),

@@ -1,4 +1,4 @@
-// The copy that goes to an address of the user's.
+// The test copy to an address of the user's.
 #include "modules/send/Accettati.h"
 #include "support/AsInTheProgram.h"
 #include "support/ScriptedServer.h"
@@ -20,7 +20,7 @@ const QByteArrayList helloPlain{"S: 220 ready", "C: EHLO *", "S: 250 ready"};
 class TestFrmProvaInvio : public QObject {
     Q_OBJECT
 
-    /// A port of this machine on which nobody listens.
+    /// A port of this machine on which nothing listens.
     static quint16 deadPort() {
         QTcpServer taken;
         if (!taken.listen(QHostAddress::LocalHost)) qFatal("no port");

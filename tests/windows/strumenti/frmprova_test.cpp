@@ -1,4 +1,4 @@
-// A message as one recipient will get it, and what is to be said against it.
+// A message as one recipient will get it, and the findings about it.
 #include <QAccessible>
 
 #include "platform/ado/Waiting.h"

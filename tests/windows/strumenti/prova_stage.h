@@ -47,7 +47,7 @@ class ProvaStage : public SendStage {
         QTest::keyClick(accounts, Qt::Key_Down);
         if (!accounts->currentText().startsWith("Altro")) qFatal("the account is not there");
     }
-    /// Waits until the values of all recipients are counted.
+    /// Waits until the values of all recipients are checked.
     bool counted() {
         return QTest::qWaitFor([this] { return !its<QTimer>("tmrControllo")->isActive(); }, 10000);
     }
@@ -59,7 +59,7 @@ class ProvaStage : public SendStage {
             texts << list->item(i)->text();
         return texts;
     }
-    /// The place in the list of the finding that holds the text; -1 for none.
+    /// The place in the list of the finding that contains the text; -1 for none.
     int finding(const QString& part) {
         const QStringList texts = findings();
         for (qsizetype i = 0; i < texts.size(); ++i)

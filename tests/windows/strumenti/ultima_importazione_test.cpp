@@ -1,4 +1,4 @@
-// What an import leaves in memory, and the window that shows it.
+// The last import's report in memory, and the window that shows it.
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
