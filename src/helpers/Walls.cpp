@@ -65,8 +65,8 @@ void loadCharacterSets() {
         static_cast<void>(iconv_open("UTF-8", set));
 }
 
-/// Whether nothing is left but to compute, to read what is open and to write to what is open; and to open
-/// files for reading, where `mayOpen`. Any other call fails.
+/// Whether only computing, reading and writing of what is open are left, and the opening of
+/// files for reading where `mayOpen`. Any other call fails.
 bool closeCalls(bool mayOpen) {
     const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ERRNO(EPERM));
     if (filter == nullptr) return false;

@@ -8,12 +8,12 @@
 
 #include "platform/Status.h"
 
-/// What the next start of the program finds in the file "riavvio.imp" of the data folder, since there is no
-/// command line (docs/formats/riavvio.md): where the program was that starts anew after a failure, and the
+/// The file "riavvio.imp" of the data folder, which the next start of the program reads, since there is no
+/// command line (docs/formats/riavvio.md): the state of a program that restarts after a failure, and the
 /// message files that were opened from the desktop. Each of the two keeps what the other has left.
 namespace fileRiavvio {
 
-/// Where a program was that starts anew.
+/// The state of a program that restarts.
 struct Stato {
     qint64 processo = 0;             ///< the process that ends
     QDateTime ora;                   ///< when it was written

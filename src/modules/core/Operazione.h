@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What the program is doing at a moment, for the report of a failure.
+/// The operation that is under way, for the report of a failure.
 struct Circostanze {
     QString operazione;  ///< as the user calls it, such as the description of a command; empty where unknown
     QString file;        ///< the file that it works on; empty for none

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What the program is called and which version it is.
+/// The program's name and version.
 namespace prodotto {
 
 /// "Vestrola"

@@ -4,7 +4,7 @@
 #include <QString>
 #include <vector>
 
-/// What became of each line of the last import since the program was started, in memory alone. Of imported
+/// The outcome of each line of the last import since the program was started, in memory alone. Of imported
 /// and of refused lines it keeps the first ones up to a bound, and counts the others.
 class UltimaImportazione {
   public:

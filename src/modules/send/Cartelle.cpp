@@ -29,7 +29,7 @@ qint64 Numero(const ado::Recordset& rs, QStringView colonna) {
     return valore.isNull() ? nessuno : esigi(valore.toInteger());
 }
 
-/// Whether the way up ends at the root, and neither at a group that is not there nor in a circle.
+/// Whether the chain of parents ends at the root, not at a missing group nor in a cycle.
 bool VieneDallaRadice(qint64 numero, const QHash<qint64, qint64>& superiori) {
     qsizetype passi = 0;
     while (numero != numeroRadice && superiori.contains(numero) && passi++ <= superiori.size())

@@ -1,4 +1,4 @@
-// The book of what became of each recipient: where it is, whether it is kept, and what can be done with it.
+// The book of each recipient's outcome: where it is, whether it is kept, and what can be done with it.
 #pragma once
 
 #include <QList>

@@ -1,4 +1,4 @@
-// The files of this machine that a run would carry away, and which of them the user has to be asked about.
+// The files of this machine that a run would send, and which of them the user has to be asked about.
 #pragma once
 
 #include <optional>

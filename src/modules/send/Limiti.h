@@ -4,7 +4,7 @@
 #include <QDateTime>
 #include <QString>
 
-/// What shapes the speed of a run: pause, time-out and block limit.
+/// The limits on the speed of a run: pause, time-out and block limit.
 
 /// Milliseconds between two messages, from the text of the pause list: its first three characters as seconds
 /// with "." as decimal point; 200 for nothing.

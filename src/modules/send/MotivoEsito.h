@@ -1,4 +1,4 @@
-// Why a message did not reach its recipient, in plain words.
+// The reasons why a message did not reach its recipient, in plain words.
 #pragma once
 
 #include <QString>

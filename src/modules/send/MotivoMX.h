@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// Why a look-up of a mail exchanger led to none. It is only shown to the user: what a look-up does and
+/// The reason why a look-up found no exchanger. It is only shown to the user: what a look-up does and
 /// returns does not depend on it.
 enum class MotivoMX {
     Nessuno,         ///< there is an exchanger

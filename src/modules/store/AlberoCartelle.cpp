@@ -99,7 +99,7 @@ std::vector<std::int32_t> AlberoCartelle::CapiDellePerdute() const {
         capi.push_back(cartella.id);
         Raggiungi(cartella.id, prese, nullptr);
     }
-    // What is left depends on circles: the way up ends in one.
+    // What is left depends on cycles: each chain of parents ends in one.
     for (const Cartella& cartella : perdute) {
         if (prese.contains(cartella.id)) continue;
         std::set<std::int32_t> viste;

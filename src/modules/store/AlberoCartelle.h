@@ -22,7 +22,7 @@ class AlberoCartelle {
   public:
     /// Reads those of the current database. Unguarded.
     static AlberoCartelle Leggi();
-    /// `cartelle` in the order in which the tree lists brothers.
+    /// `cartelle` in the order in which the tree lists siblings.
     explicit AlberoCartelle(std::vector<Cartella> cartelle);
 
     /// The root (0) and the groups that it reaches, as the open tree shows them from top to bottom.
@@ -37,7 +37,7 @@ class AlberoCartelle {
 
     std::vector<Cartella> Perdute() const;
     /// The lost groups which, put under the root, take all other lost ones along: those without a parent, and
-    /// of each circle the one with the lowest number.
+    /// of each cycle the one with the lowest number.
     std::vector<std::int32_t> CapiDellePerdute() const;
 
   private:

@@ -9,7 +9,7 @@
 #include "platform/ado/TableWalk.h"
 #include "platform/Status.h"
 
-/// Looks for a text in every column that the grid shows, in all groups of a database, without regard to case
+/// A search for a text in every column that the grid shows, in all groups of a database, ignoring case
 /// and accents. It goes over the table in parts and keeps a number for each group, not the recipients: those
 /// are found once more when their group is on the screen.
 class CercaOvunque {
@@ -18,7 +18,7 @@ class CercaOvunque {
     CercaOvunque(const QString& connessione, const QString& testo, bool soloSelezionati);
 
     /// Runs for about that long; true when the whole table was searched. FileInUse while another process
-    /// writes: the same part can be tried again. After other failures there is no sense in going on.
+    /// writes: the same part can be tried again. After other failures the search cannot continue.
     Result<bool> Avanza(std::chrono::microseconds tempo);
 
     qint64 Trovati() const { return trovati; }

@@ -10,7 +10,7 @@
 #include "platform/ado/Waiting.h"
 #include "platform/Status.h"
 
-/// Counts the recipients of each group of a database.
+/// The count of the recipients of each group of a database.
 class ContaPerCartella {
   public:
     explicit ContaPerCartella(const QString& connessione)

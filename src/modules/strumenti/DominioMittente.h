@@ -7,7 +7,7 @@
 #include "platform/mail/DkimKey.h"
 #include "platform/Status.h"
 
-/// What the DNS says about the domain of a sender, line by line: each routine is a function of the answers
+/// The check of a sender's domain in the DNS, line by line: each routine is a function of the answers
 /// that are known, and asks for the next one that it needs.
 
 /// Whose domain, and where its mail leaves from.

@@ -9,7 +9,7 @@
 #include "platform/mail/Transcript.h"
 #include "platform/oauth/TokenSource.h"
 
-/// Goes as far with an account's server as a run would before its first message: connection, TLS, login. The
+/// A test of an account's server, as far as a run gets before its first message: connection, TLS, login. The
 /// password is treated as in a run: never in the clear where it must not be, and a marker of the keyring is
 /// never sent. Delivers nothing.
 class ProvaServer {

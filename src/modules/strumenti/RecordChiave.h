@@ -4,7 +4,7 @@
 
 #include "platform/mail/DkimKey.h"
 
-/// What the owner of a domain has to publish for a DKIM key: a TXT record.
+/// The TXT record that the owner of a domain has to publish for a DKIM key.
 struct RecordChiave {
     QString nome;        ///< in full, without a final point
     QString valore;      ///< in one piece, as the pages of providers take it

@@ -97,7 +97,7 @@ void ElencoAccount::mousePressEvent(QMouseEvent* pressione) {
     if (pressione->button() == Qt::LeftButton && suVoce && ListIndex() == prima) Q_EMIT Click();
 }
 
-// The mouse has had its menu at the press.
+// The mouse's menu was opened at the press.
 void ElencoAccount::contextMenuEvent(QContextMenuEvent* richiesta) {
     if (richiesta->reason() != QContextMenuEvent::Keyboard) return;
     const QListWidgetItem* voce = item(ListIndex());
@@ -124,7 +124,7 @@ void ElencoAccount::paintEvent(QPaintEvent* disegno) {
     QListWidget::paintEvent(disegno);
     QPainter pennello(viewport());
     if (hasFocus() && ListIndex() < 0) {
-        // No entry shows that the keys come here.
+        // Without a chosen entry the list itself shows the keyboard focus.
         QStyleOptionFocusRect bordo;
         bordo.initFrom(this);
         bordo.rect = viewport()->rect();

@@ -1,4 +1,4 @@
-// The question about files of this machine that a message would carry away.
+// The question about files of this machine that a message would send.
 #pragma once
 
 #include "modules/send/FileInPartenza.h"

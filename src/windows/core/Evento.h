@@ -6,7 +6,7 @@
 #include "modules/core/Fallimento.h"
 
 /// The boundary between the program and the toolkit: every handler of a window event runs inside evento(). A
-/// failure that no procedure on the way took stops here: it is shown and the program ends. Nothing is ever
+/// failure that no procedure caught before stops here: it is shown and the program ends. Nothing is ever
 /// thrown across the toolkit's event loop, nested loops of modal windows and of the send engine's wait
 /// included, since each handler has its own boundary.
 
@@ -21,7 +21,7 @@ void PrimaDellaFine(std::function<void()> azione);
 /// all the same, up to its evento(). An empty function puts the real end back.
 void sostituisciTermine(std::function<void(int stato)> termine);
 
-/// The new start of the program that the box of a failure offers. Without one the box offers only the end.
+/// The restart of the program that the box of a failure offers. Without one the box offers only the end.
 struct NuovoAvvio {
     std::function<bool()> possibile;  ///< at this moment
     std::function<void()> avvia;      ///< comes back; the program then ends

@@ -2,7 +2,7 @@
 
 #include <QScopeGuard>
 
-/// The mouse pointer over all windows. Whatever was set before, and how often, the next call replaces it.
+/// The mouse pointer over all windows. Each call replaces all earlier ones.
 
 /// The hourglass, for something slow.
 void PuntatoreAttesa();

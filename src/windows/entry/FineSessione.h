@@ -1,7 +1,7 @@
 #pragma once
 
 /// The end of the desktop's session, and the signals by which the system asks a program to end (SIGTERM,
-/// SIGINT, SIGHUP), take the way of the main window's close button: layout and placement are saved and the
+/// SIGINT, SIGHUP), act like the main window's close button: layout and placement are saved and the
 /// program ends, whatever window is open. To be called once, before the main window is made.
 void SeguiFineSessione();
 

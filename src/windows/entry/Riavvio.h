@@ -2,22 +2,22 @@
 
 #include <functional>
 
-/// The new start that the box of a failure offers. The program comes back where it was: the main window in
+/// The restart that the box of a failure offers. The program returns to its state: the main window in
 /// its place and the group that was open. What it needs for that goes through the file "riavvio.imp" of the
 /// data folder (docs/formats/riavvio.md), since there is no command line. The same file names the message
 /// that was opened from the desktop.
 namespace riavvio {
 
-/// The program begins to start. From here on the box of a failure may offer a new start.
+/// The program begins to start. From here on the box of a failure may offer a restart.
 void SegnaAvvio();
 /// The main window has come up.
 void SegnaFinestra();
 bool FinestraMostrata();
-/// Whether a new start may be offered: the main window has come up, and ten seconds have gone by since the
-/// program began to start, so that a program that fails at once does not start over and over.
+/// Whether a restart may be offered: the main window has come up, and ten seconds have gone by since the
+/// program began to start, so that a program that fails at once does not restart for ever.
 bool Possibile();
 
-/// Writes the file and starts the program anew. Ignores every failure.
+/// Writes the file and restarts the program. Ignores every failure.
 void Avvia();
 
 /// For tests: what starts the program. An empty function puts the real start back.

@@ -1,5 +1,5 @@
 #pragma once
 
-/// F1 opens the help at the place about the window that has the focus, or about the one it belongs to. In the
-/// main window the key is that of the command "Guida in linea". To be called once.
+/// The key F1: it opens the help at the place about the window that has the focus, or about the one it
+/// belongs to. In the main window the key is that of the command "Guida in linea". To be called once.
 void SeguiTastoGuida();

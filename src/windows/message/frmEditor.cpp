@@ -81,8 +81,8 @@ void frmEditor::Carica() {
 void frmEditor::MostraModale() {
     QEventLoop finoAllaChiusura;
     attesa = &finoAllaChiusura;
-    // The browser is of another kind than the other controls: a window that gets it while it is on the screen
-    // is made anew there. Made anew it forgets its state, even before it shows.
+    // The browser is of another kind than the other controls: a window that gets it while on the screen
+    // is recreated there. A recreated window loses its state, even before it is shown.
     const Qt::WindowStates stato = windowState();
     DHTML->wake();
     winId();

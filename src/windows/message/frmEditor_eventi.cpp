@@ -31,7 +31,7 @@ void AvvisaLasciatiFuori(const QStringList& indirizzi) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, Words::tr("Attenzione"));
 }
 
-/// What readers of the message will load from elsewhere, by the hosts that then learn of it.
+/// The remote content that readers of the message will load, by the hosts that then learn of it.
 QString RestaSulWeb(const QStringList& indirizzi) {
     constexpr qsizetype mostrati = 3;
     QStringList siti;
@@ -142,7 +142,7 @@ Status frmEditor::MostraBody(int scheda) {
     const Result<QString> corpo = DHTML->documentHTML();
     if (!corpo.ok()) return corpo.status();
     if (scheda == Anteprima) {
-        // An answer that does not come is no reason to stay; a body that grew too large to be shown is.
+        // A missing answer does not prevent the change of tab; a body too large to be shown does.
         Status mostrato = WEB->setDocumentHTML(corpo.value());
         if (mostrato.code() == ErrorCode::Overflow) return mostrato;
     }

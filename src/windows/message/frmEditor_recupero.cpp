@@ -88,7 +88,7 @@ void frmEditor::ButtaCopia() {
     copia.Togli();
 }
 
-/// A document is left. What was not saved of it stays in its copy, which is not offered before this program
+/// The document is replaced. Its unsaved changes stay in its copy, which is not offered before this program
 /// has ended.
 void frmEditor::LasciaCopia() {
     static_cast<void>(DHTML->documentHTML());  // takes in the last change, if it can be had

@@ -137,7 +137,7 @@ void frmInvia::cmdFerma_Click() {
 
 void frmInvia::AbilitaControlli(bool valore) {
     const bool fuocoSuFerma = focusWidget() == cmdFerma;  // also while another program is in front
-    // The focus goes where the next step is, before what has it is taken away: else it would go from one
+    // The focus moves to the next step before the focused control is disabled: else it would pass from one
     // control to the next as they are turned off.
     QPushButton* prossimo = valore ? cmdChiudi : cmdFerma;
     prossimo->setEnabled(true);

@@ -64,7 +64,7 @@ class frmMain : public QMainWindow {
         std::function<void()> CreaEditor;    ///< makes it, hidden
         std::function<void()> CaricaLingua;  ///< unguarded
         Posizionamento posizione;
-        std::function<void()> RiprendiPosizione;  ///< of the program that started this one anew, if any
+        std::function<void()> RiprendiPosizione;  ///< of the program that restarted this one, if any
         std::function<frmDestinatario&()> Destinatario;
         Apertura Account;
         Apertura Editor;  ///< with an empty document

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// The splash: the program's name and version over everything else while the program comes up. It goes when
+/// The splash: the program's name and version over everything else while the program starts. It closes when
 /// the start unloads it.
 class frmSplash : public QWidget {
     Q_OBJECT

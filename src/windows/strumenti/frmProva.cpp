@@ -42,8 +42,8 @@ frmProva::frmProva(Vicini intorno, QWidget* parent)
 frmProva::~frmProva() = default;
 
 void frmProva::Carica() {
-    // A window that gets the browser while it is on the screen is made anew there, and is no modal one any
-    // more.
+    // A window that gets the browser while it is on the screen is recreated, and is then no longer
+    // modal.
     HTML->wake();
     winId();
     lblEsito->clear();
