@@ -24,7 +24,7 @@ class Command {
     void setPrepared(bool prepared) { m_prepared = prepared; }
     bool prepared() const { return m_prepared; }
 
-    /// Runs the statement and gives the number of rows it inserted, changed or deleted. The statement is one:
+    /// Runs the statement; returns the number of rows it inserted, changed or deleted. The statement is one:
     /// all of its changes are on disk when this returns success, and none is after a failure. Fails with
     /// SyntaxError, TableNotFound, ItemNotFound (unknown column), FieldTooSmall (a text longer than its
     /// column), TypeMismatch, NotSupported (refused statement, table that cannot be changed), FileInUse, or

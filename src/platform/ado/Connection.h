@@ -6,7 +6,7 @@
 
 namespace ado {
 
-/// An open connection to one database file, told by its connection text. It keeps the text, not the file: the
+/// A connection to one database file, named by its connection text. It keeps the text, not the file: the
 /// file is opened and read once by open(), so that its errors are known, and is afterwards reached like any
 /// other through the shared pool of open files.
 class Connection {
@@ -28,8 +28,8 @@ class Connection {
     int m_timeout = 15;
 };
 
-/// Lets go of every open database file. For the moment before a file is replaced or removed; whatever comes
-/// after opens it again. Recordsets that are still open keep their file until they are closed.
+/// Closes every open database file. For the moment before a file is replaced or removed; any use of it
+/// afterwards opens it again. Recordsets that are still open keep their file until they are closed.
 void closeAll();
 
 }  // namespace ado

@@ -39,7 +39,7 @@ bool beginsWithKey(QStringView text) {
     return keys.contains(key) || key.startsWith(QLatin1String("jet oledb:"));
 }
 
-/// Where a path that begins at `at` without quotes ends: it may hold semicolons.
+/// Where a path that begins at `at` without quotes ends: it may have semicolons.
 qsizetype endOfPath(const QString& text, qsizetype at) {
     for (qsizetype end = text.indexOf(u';', at); end >= 0; end = text.indexOf(u';', end + 1)) {
         qsizetype next = end;
@@ -50,7 +50,7 @@ qsizetype endOfPath(const QString& text, qsizetype at) {
     return -1;
 }
 
-/// Cuts the value that begins at `at`, quoted or not, and moves `at` behind its closing semicolon.
+/// Cuts the value that begins at `at`, quoted or not, and moves `at` past its closing semicolon.
 std::optional<QString> takeValue(const QString& text, qsizetype& at, bool path) {
     while (at < text.size() && text[at].isSpace())
         ++at;

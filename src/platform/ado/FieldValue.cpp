@@ -50,7 +50,7 @@ std::optional<double> realOf(const jet::Value& value) {
     return std::nullopt;
 }
 
-/// All digits of a number, as it stands or as users of the current locale write it.
+/// All digits of a number, unchanged or as users of the current locale write it.
 Result<jet::Value> fitNumeric(const jet::Value& value, const jet::Column& column) {
     const std::optional<double> number = realOf(value);
     if (!number) return mismatchOf(column);
@@ -82,7 +82,7 @@ Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& colum
     return jet::Value(jet::Currency{static_cast<int64_t>(scaled)});
 }
 
-/// UTF-16 as it stands, but for what is damaged or compressed.
+/// UTF-16 unchanged, but for what is damaged or compressed.
 std::optional<QString> utf16Text(std::span<const uint8_t> stored) {
     static_assert(std::endian::native == std::endian::little);
     if (stored.size() % 2 != 0) return std::nullopt;
@@ -93,12 +93,12 @@ std::optional<QString> utf16Text(std::span<const uint8_t> stored) {
     return surrogates ? std::nullopt : std::optional(std::move(text));
 }
 
-/// The characters below U+0100 behind the mark of the compressed form, where there are no others.
+/// The characters below U+0100 after the mark of the compressed form, where there are no others.
 std::optional<QLatin1String> latinText(std::span<const uint8_t> stored) {
     if (stored.size() < 2 || stored[0] != 0xFF || stored[1] != 0xFE) return std::nullopt;
     const auto* text = reinterpret_cast<const char*>(stored.data()) + 2;
     const size_t length = stored.size() - 2;
-    if (std::memchr(text, 0, length)) return std::nullopt;  // goes on in UTF-16
+    if (std::memchr(text, 0, length)) return std::nullopt;  // continues in UTF-16
     return QLatin1String(text, static_cast<qsizetype>(length));
 }
 

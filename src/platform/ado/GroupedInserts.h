@@ -15,7 +15,7 @@ class Session;
 struct GroupProgress {
     qint64 taken = 0;  ///< since the last commit
     qint64 committed = 0;
-    Status failure;  ///< of the last commit, until it is told
+    Status failure;  ///< of the last commit, until it is reported
 };
 
 /// Many `INSERT INTO … VALUES …` statements, one after the other, written to disk in groups: for imports,
@@ -26,12 +26,12 @@ struct GroupProgress {
 ///     for (…) inserts.execute(statement);   // a failure concerns that one statement
 ///     inserts.commit();                     // or the destructor
 ///
-/// What execute() has taken stands in the file for good only after the group's commit: committed() counts
+/// What execute() has taken is in the file for good only after the group's commit: committed() counts
 /// those rows, and only that number may be shown as "inserted". They survive a crash of the program and of
-/// the machine. Of the rows behind them a crash leaves none. Memory does not grow with the number of
+/// the machine. Of the rows after them a crash leaves none. Memory does not grow with the number of
 /// statements.
 ///
-/// A group is committed when it holds groupSize() statements, when it is groupAge() old at the next
+/// A group is committed when it has groupSize() statements, when it is groupAge() old at the next
 /// execute(), when a row is refused, by commit(), by the destructor, and before anything else in this program
 /// writes to the database; recordsets in between see all rows. From the first statement of a group to its
 /// commit other programs can neither read nor write the file: call commit() before waiting for anything (a
@@ -58,11 +58,11 @@ class GroupedInserts {
     /// that was given up (FileInUse) it takes rows again as soon as it need not wait. Its failures are those
     /// of Command::execute(), besides NotSupported for a statement of another kind; the statement then has
     /// done nothing, and the rows taken before it stay. When the commit of a group fails, that failure is
-    /// given once, here or by commit(), and none of the group's rows stands in the file.
+    /// returned once, here or by commit(), and none of the group's rows is in the file.
     Status execute(const QString& statement);
     /// Commits the rows taken since the last commit; nothing to do is success.
     Status commit();
-    /// Rows that stand in the file for good.
+    /// Rows that are in the file for good.
     qint64 committed() const { return m_progress.committed; }
 
   private:

@@ -17,7 +17,7 @@ namespace {
 
 using jet::Type;
 
-/// How xFilter finds its rows; what the orders are made by stands in the text beside it.
+/// How xFilter finds its rows; what the orders are made by is in the text beside it.
 enum Plan { AllRows = 0, ByPrimaryKey = 1, OneGroup = 2 };
 
 struct Table {
@@ -96,7 +96,7 @@ int disconnect(sqlite3_vtab* table) {
     return SQLITE_OK;
 }
 
-/// The order of rows that a statement wants, when it can be had.
+/// The order of rows that a statement needs, when it can be made.
 std::optional<std::vector<OrderSpec::Part>> wantedOrder(const sqlite3_index_info& info,
                                                         const jet::TableDefinition& table) {
     std::vector<OrderSpec::Part> parts;
@@ -166,7 +166,7 @@ void settle(Cursor& cursor) {
     if (!cursor.atEnd) cursor.row = cursor.order->at(cursor.at);
 }
 
-/// The whole number a constant stands for in a comparison; no row can equal anything else.
+/// The whole number that a constant means in a comparison; no row can equal anything else.
 std::optional<int64_t> wantedNumber(sqlite3_value* value, Type type) {
     std::optional<int64_t> number;
     const int valueType = sqlite3_value_numeric_type(value);

@@ -88,7 +88,7 @@ void JetTable::countMove(Affected affected) {
     if (++m_moves > mostMoves) std::erase_if(m_orders, [&](const auto& order) { return affected(*order); });
 }
 
-/// Mends the orders that were told of a change; one that cannot be mended is made anew when it is wanted.
+/// Updates the orders after a change; one that cannot be updated is made anew when it is needed.
 template <class Mend>
 void JetTable::mend(Mend mend) {
     std::erase_if(m_orders, [&](const auto& order) { return !mend(*order).ok(); });

@@ -13,7 +13,7 @@
 
 namespace ado {
 
-/// A row as it stood in the file at some moment.
+/// A row as it was in the file at some moment.
 struct StoredRow {
     jet::Bytes bytes;
     bool present = false;  ///< false: there was none of that identity
@@ -37,7 +37,7 @@ class JetTable {
     /// One value of a row that does not lie in its bytes (memo, OLE).
     Result<jet::Value> longValue(jet::RowId id, size_t column);
     Result<std::optional<jet::RowId>> findByPrimaryKey(int32_t key);
-    /// The rows of that order. What is handed out stays as it is written on, and valid, until the next write.
+    /// The rows of that order. The result stays unchanged and valid until the next write.
     Result<std::shared_ptr<const RowOrder>> order(const OrderSpec& spec);
 
     Status writable();
@@ -49,13 +49,13 @@ class JetTable {
     Result<std::optional<int64_t>> setYesNo(size_t column, bool value, const std::function<bool()>& goOn);
     Status erase(jet::RowId id);
 
-    /// A statement begins. One that moves very many rows drops the orders it would have to mend.
+    /// A statement begins. One that moves very many rows drops the orders it would have to update.
     void beginStatement() { m_moves = 0; }
-    /// Drops everything that was learnt from the file.
+    /// Drops everything that was read from the file.
     void forget();
     /// Somebody else has changed the file.
     void changedOutside();
-    /// Whether the file still holds the table with the same columns.
+    /// Whether the file still has the table with the same columns.
     bool stillTheSame();
 
   private:
@@ -67,7 +67,7 @@ class JetTable {
     void renew(jet::Table& table);
 
     static constexpr size_t keptOrders = 8;
-    static constexpr size_t mostMoves = 4000;  ///< about where mending costs as much as making anew
+    static constexpr size_t mostMoves = 4000;  ///< about where updating costs as much as making anew
     static constexpr size_t longOrder = 10000;
 
     jet::Database& m_database;

@@ -8,7 +8,7 @@ namespace ado {
 
 namespace {
 
-// Blocks of their own instead of one text: that would be copied as it grows, and hold twice the memory
+// Blocks of their own instead of one text: that would be copied as it grows, and take twice the memory
 // meanwhile.
 constexpr size_t keyBlockSize = size_t{1} << 20;
 constexpr size_t wordSize = sizeof(uint64_t);
@@ -34,7 +34,7 @@ void KeySort::add(std::string_view key, uint32_t id) {
     m_items.push_back({0, place, static_cast<uint32_t>(key.size()), id});
 }
 
-/// Sorts items whose keys are alike before `at`: by the next eight bytes, which stand in the item while it is
+/// Sorts items whose keys are alike before `at`: by the next eight bytes, which are in the item while it is
 /// moved, and then those that are alike in these.
 void KeySort::sortFrom(Place first, Place last, size_t at) {
     size_t longest = 0;

@@ -7,7 +7,7 @@
 
 namespace ado {
 
-/// Sorts identities by keys: bytewise, those of one key by themselves. For a while it holds all keys.
+/// Sorts identities by keys: bytewise, those of one key by themselves. Meanwhile it keeps all keys.
 class KeySort {
   public:
     void add(std::string_view key, uint32_t id);
@@ -17,7 +17,7 @@ class KeySort {
     uint32_t id(size_t i) const { return m_items[i].id; }
     std::string_view key(size_t i) const { return {m_items[i].key, m_items[i].length}; }
 
-    /// The eight bytes of a key from `at` on as a number that sorts as they do; zeros behind its end.
+    /// The eight bytes of a key from `at` on as a number that sorts as they do; zeros after its end.
     static uint64_t word(std::string_view key, size_t at);
 
   private:

@@ -1,4 +1,4 @@
-// What the database engine did to files beside a database that the user should know of, kept until it can be
+// Notices of what the database engine did to files beside a database, for the user, kept until they can be
 // shown.
 #pragma once
 

@@ -10,7 +10,7 @@
 
 namespace ado {
 
-/// What an order of rows is made by: columns by position. It may hold only the rows with one number in a
+/// The description of an order of rows: columns by position. It may have only the rows with one number in a
 /// column, its group.
 struct OrderSpec {
     struct Part {
@@ -25,7 +25,7 @@ struct OrderSpec {
 
     /// Whether a change of that column may move a row.
     bool uses(size_t column) const;
-    /// Whether a row stands in the order at all.
+    /// Whether a row is in the order at all.
     bool holds(const jet::RowView& row) const;
     /// Appends the row's key: rows are in order as their keys rise bytewise, those of one key by their
     /// identities.

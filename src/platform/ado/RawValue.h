@@ -9,7 +9,7 @@
 
 namespace ado {
 
-/// The engine hands out GUIDs and numerics as the bytes that stand in the file.
+/// The engine returns GUIDs and numerics as the bytes that are in the file.
 
 /// Bytes of a numeric: its sign, then four groups of digits.
 inline constexpr std::size_t numericLength = 17;
@@ -24,7 +24,7 @@ std::optional<jet::Bytes> guidBytes(const std::string& text);
 /// Bytes of a numeric, rounded to the column's decimals, from a number written plainly (a sign, digits, a
 /// point and digits, no exponent). Nothing for what is no such number, or has too many digits for the column.
 std::optional<jet::Bytes> numericBytes(std::string_view number, const jet::Column& column);
-/// A number in that form, with the digits that tell it from every other double.
+/// A number in that form, with the digits that distinguish it from every other double.
 std::string plainDecimal(double number);
 
 }  // namespace ado

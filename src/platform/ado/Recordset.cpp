@@ -55,7 +55,7 @@ struct Recordset::Data {
     size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
     bool lost = false;                     ///< the last move failed: no row is the current one, nor any mark
-    StoredRow row;                         ///< the current one, where rows are told by their identities
+    StoredRow row;                         ///< the current one, where rows have identities
     std::vector<jet::StoredField> fields;  ///< of that row, once one was asked for
     RowsAhead ahead;
 
@@ -201,7 +201,7 @@ Status Recordset::Data::goTo(size_t number) {
     return {};
 }
 
-/// Reads that row and those behind it, `count` in all, as they are at one moment.
+/// Reads that row and those after it, `count` in all, as they are at one moment.
 Status Recordset::Data::read(size_t number, size_t count) {
     ahead.drop();
     row.present = false;
@@ -209,7 +209,7 @@ Status Recordset::Data::read(size_t number, size_t count) {
     const jet::ReadScope reading(session->database());
     if (!reading.status().ok()) return reading.status();
     if (Status status = session->refresh(); !status.ok()) return status;
-    // What another row makes fail is told when it is reached.
+    // A failure at another row is reported when it is reached.
     if (Status status = rows->reach(number + 1); !status.ok()) return status;
     if (count > 1) (void)rows->reach(number + count);
     if (!rows->table()) return {};
@@ -321,7 +321,7 @@ Status Recordset::addNew() {
     return {};
 }
 
-/// Whether the current row still is the one that was read. Where one was deleted another may stand in the
+/// Whether the current row still is the one that was read. Where one was deleted another may be in the
 /// end.
 Status Recordset::Data::sameRow() {
     Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));

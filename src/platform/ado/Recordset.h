@@ -53,7 +53,7 @@ class Recordset {
     /// SyntaxError, TableNotFound, ItemNotFound (unknown column), NotSupported (refused statement) or an
     /// error of the file.
     Status open();
-    /// Lets go of the rows; changes that were not posted are dropped.
+    /// Releases the rows; changes that were not posted are dropped.
     void close();
     bool isOpen() const;
 
@@ -65,7 +65,7 @@ class Recordset {
     /// first.
     Status moveNext() { return move(1); }
     Status move(qint64 rows);
-    /// The number of rows; -1 for a forward-only cursor and where it cannot be told.
+    /// The number of rows; -1 for a forward-only cursor and where it is not known.
     qint64 recordCount();
 
     int fieldCount() const;
@@ -81,7 +81,7 @@ class Recordset {
     ///
     /// Changes a field of the current row, or of the row being added; nothing is written before update().
     Status setValue(QStringView name, const Value& value);
-    /// Begins a new row. Its auto-number is fixed and can be read at once; it is burnt if the row is never
+    /// Begins a new row. Its auto-number is fixed and can be read at once; it is lost if the row is never
     /// posted.
     Status addNew();
     /// Posts what was changed, durably. A row that was added is the current one afterwards. On failure

@@ -79,7 +79,7 @@ RowOrder RowOrder::without(const std::vector<bool>& pages) const {
     return rest;
 }
 
-/// Whether an entry stands before that key and identity.
+/// Whether an entry is before that key and identity.
 Result<bool> RowOrder::before(jet::Table& table, const Entry& entry, std::string_view key,
                               uint32_t id) const {
     const uint64_t prefix = KeySort::word(key, 0);
@@ -93,7 +93,7 @@ Result<bool> RowOrder::before(jet::Table& table, const Entry& entry, std::string
     return order < 0 || (order == 0 && entry.id < id);
 }
 
-/// The place of a row, or the one before which it would stand, which may be behind the last row of a block.
+/// The place of a row, or the one before which it would be, which may be after the last row of a block.
 Result<RowOrder::Place> RowOrder::find(jet::Table& table, std::string_view key, uint32_t id) const {
     if (m_blocks.empty()) return end();
     const uint64_t prefix = KeySort::word(key, 0);
@@ -108,7 +108,7 @@ Result<RowOrder::Place> RowOrder::find(jet::Table& table, std::string_view key, 
             return Place{static_cast<size_t>(least - m_blocks.begin()),
                          static_cast<size_t>(known - least->begin())};
     }
-    // By hand, since comparing may fail: the first block whose last row does not stand before, and in it.
+    // By hand, since comparing may fail: the first block whose last row is not before, and in it.
     const auto search = [&](size_t from, size_t to, const auto& entryAt) -> Result<size_t> {
         while (from < to) {
             const size_t middle = from + (to - from) / 2;

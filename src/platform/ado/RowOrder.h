@@ -12,11 +12,11 @@
 
 namespace ado {
 
-/// The rows of a table that an OrderSpec holds, in its order. Kept in memory and up to date by whoever
-/// writes.
+/// The rows of a table that an OrderSpec takes in, in its order. Kept in memory; code that writes keeps it
+/// up to date.
 ///
 /// Of each row the identity and the first eight bytes of its key are kept, twelve bytes. Where these are
-/// alike the rows themselves tell which comes first: they are read again, so what changes or fills an order
+/// alike the rows themselves say which comes first: they are read again, so what changes or fills an order
 /// is handed the table.
 class RowOrder {
   public:

@@ -25,13 +25,13 @@ class Rows {
     const std::vector<QString>& names() const { return m_names; }
     /// The table's column at that place of names(), where there is a table.
     size_t column(size_t place) const { return m_columns[place]; }
-    /// Whether these are all columns of the table as they stand there.
+    /// Whether these are all columns of the table in their order there.
     bool whole() const { return m_whole; }
 
     /// Steps on until `count` rows are known or there are no more. What makes a statement fail does so for
     /// good.
     Status reach(size_t count);
-    /// Passes all rows that are left. From then on nothing that is written makes a difference.
+    /// Reads all rows that are left. From then on nothing that is written makes a difference.
     Status finish() { return reach(static_cast<size_t>(-1)); }
 
     /// Whether no further step will read the table.
@@ -40,7 +40,7 @@ class Rows {
     size_t known() const { return m_table ? m_ids.size() : m_values.size(); }
     jet::RowId id(size_t row) const { return m_ids[row]; }
     const std::vector<Value>& values(size_t row) const { return m_values[row]; }
-    /// A row that was added through the recordset, behind all others.
+    /// A row that was added through the recordset, after all others.
     void append(jet::RowId id) { m_ids.push_back(id); }
 
   private:

@@ -11,14 +11,14 @@
 namespace ado {
 
 /// Rows of a recordset that were read together with the current one, since asking the file for each costs
-/// more than reading it. They are handed out for 5 ms and dropped then, or when this process begins to write,
+/// more than reading it. They are used for 5 ms and dropped then, or when this process begins to write,
 /// so a row that comes from here may be that much older than the file. More are read the longer rows are
 /// taken one after the other: who reads one row pays for one.
 class RowsAhead {
   public:
     using Clock = std::chrono::steady_clock;
 
-    /// How many rows to read now; `onward`: the one behind the current one was asked for.
+    /// How many rows to read now; `onward`: the one after the current one was asked for.
     size_t wanted(bool onward) {
         m_wanted = onward ? std::min(2 * m_wanted, most) : 1;
         return m_wanted;

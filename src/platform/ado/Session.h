@@ -18,7 +18,7 @@ namespace ado {
 class Rows;
 class Session;
 
-/// Gives a compiled statement back to its session, which keeps it for the next text of the same shape.
+/// Returns a compiled statement to its session, which keeps it for the next text of the same shape.
 struct KeepStatement {
     Session* session = nullptr;
     QByteArray sql;
@@ -45,7 +45,7 @@ class Session {
     /// Runs `work` on that session as one transaction: durable when it succeeds, undone when it fails. The
     /// writer's lock is taken before anything is read.
     static Status write(const QString& connectionText, const std::function<Status(Session&)>& work);
-    /// Empties the pool. A session that is in use lives on until its last user lets go of it.
+    /// Empties the pool. A session that is in use lives on until its last user releases it.
     static void closeAll();
     ~Session();
 
@@ -58,10 +58,10 @@ class Session {
     /// A local table of the user's by name, without regard to case, known to SQLite from here on.
     Result<JetTable*> table(const QString& name);
     /// One statement compiled, with a value for each question mark; these have to stay while it runs.
-    /// Whatever is not reading, inserting, changing or deleting rows of known tables is refused.
+    /// What is not reading, inserting, changing or deleting rows of known tables is refused.
     Result<Prepared> prepare(const QByteArray& sql, const std::vector<jet::Value>& values);
 
-    /// The same for whoever has a session.
+    /// The same for a caller that has a session.
     Status write(const std::function<Status()>& work);
 
     /// Begins the transaction of a group on the session of `connectionText`.
@@ -69,18 +69,18 @@ class Session {
     /// Runs an INSERT of one row inside the open group. A row that is refused ends the group with a commit of
     /// those before.
     Status insertInGroup(const StatementText& statement);
-    /// Ends the open group and tells its progress how that went.
+    /// Ends the open group and reports to its progress how that went.
     void commitGroup();
 
     /// Another number whenever a transaction begins here, or the file was found changed by somebody else:
     /// what was read before may be no longer true.
     uint64_t epoch() const { return m_epoch; }
 
-    /// Open recordsets, so that they can pass all their rows before a write moves them.
+    /// Open recordsets, so that they can read all their rows before a write moves them.
     void enlist(Rows* rows) { m_readers.push_back(rows); }
     void delist(Rows* rows) { std::erase(m_readers, rows); }
 
-    /// What went wrong inside a callback of SQLite, which can only hand on a number.
+    /// What went wrong inside a callback of SQLite, which can only return a number.
     int fail(Status failure);
     /// The failure of the call to SQLite that has just returned an error.
     Status takeFailure();

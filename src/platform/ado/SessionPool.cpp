@@ -37,7 +37,7 @@ std::vector<PoolEntry>& pool() {
 }
 
 /// The entry for a name that was used before and leads to the same file as then, which one look at the file
-/// tells; null where more is needed. `trusting` leaves out that look where it has just been done.
+/// shows; null where more is needed. `trusting` leaves out that look where it has just been done.
 PoolEntry* recognised(const ConnectionText& text, jet::Database::Seen most, bool trusting) {
     const auto entry = std::find_if(pool().begin(), pool().end(), [&](const PoolEntry& known) {
         return known.name == text.path && known.password == text.password;
@@ -57,7 +57,7 @@ PoolEntry* recognised(const ConnectionText& text, jet::Database::Seen most, bool
 /// The file and password of a connection text.
 struct Session::Target {
     QString name;        ///< as it was given
-    QString canonical;   ///< tells it from other files; empty where there is none
+    QString canonical;   ///< identifies the file; empty where there is none
     std::string native;  ///< in the file system's encoding
     QString password;
 

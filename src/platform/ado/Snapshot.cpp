@@ -11,7 +11,7 @@ namespace ado {
 
 namespace {
 
-// A row stands in one block, behind its length in two bytes.
+// A row is in one block, after its length in two bytes.
 constexpr int blockBits = 16;
 constexpr size_t blockSize = size_t{1} << blockBits;
 constexpr size_t lengthSize = sizeof(uint16_t);
@@ -53,7 +53,7 @@ Status Snapshot::copy(const Rows& rows) {
     std::vector<size_t> memos;
     for (size_t i = 0; i < columns().size(); ++i)
         if (columns()[i].type == jet::Type::Memo) memos.push_back(i);
-    // In the order in which they stand in the file, so that each page is visited once.
+    // In the order in which they are in the file, so that each page is visited once.
     std::vector<uint64_t> places(rows.known());  // the row id above, the number among `rows` below
     for (size_t i = 0; i < places.size(); ++i)
         places[i] = static_cast<uint64_t>(rows.id(i).toInteger()) << 32 | i;

@@ -14,7 +14,7 @@ namespace ado {
 
 class Rows;
 
-/// The rows of a `SELECT * FROM table …` as they were at one moment, kept as the bytes in which they stand in
+/// The rows of a `SELECT * FROM table …` as they were at one moment, kept as the bytes in which they are in
 /// the file and decoded when they are read. Nothing that happens to the database afterwards changes it. It
 /// costs six bytes a row beyond the rows themselves.
 class Snapshot {
@@ -30,11 +30,11 @@ class Snapshot {
 
     const std::vector<jet::Column>& columns() const { return m_definition->columns; }
     size_t size() const { return m_rows.size(); }
-    /// Memo texts are read with the rows; OLE values are given as Null.
+    /// Memo texts are read with the rows; OLE values are returned as Null.
     Value value(size_t row, size_t column) const;
     /// Appends the text of a value, in UTF-8, to `out`; nothing for what has no text.
     void appendText(size_t row, size_t column, std::string& out) const;
-    /// Tells a row from all others, whichever are removed.
+    /// Identifies a row among all others, whichever are removed.
     uint32_t identity(size_t row) const { return m_rows[row]; }
     void remove(size_t row);
     /// Puts the rows into another order; `identities` are those of all of them.
@@ -45,7 +45,7 @@ class Snapshot {
 
   private:
     Status copy(const Rows& rows);
-    /// Gives where the row begins.
+    /// Returns where the row begins.
     Result<uint32_t> append(std::span<const uint8_t> bytes);
     jet::RowView view(size_t row) const;
 

@@ -20,7 +20,7 @@ char capital(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-/// Index behind the closing quote of the text that begins at `at`, or npos. Doubled quotes stay inside.
+/// Index after the closing quote of the text that begins at `at`, or npos. Doubled quotes stay inside.
 size_t endOfText(std::string_view sql, size_t at) {
     for (size_t i = at + 1; i < sql.size(); ++i) {
         if (sql[i] != '\'') continue;
@@ -30,7 +30,7 @@ size_t endOfText(std::string_view sql, size_t at) {
     return std::string_view::npos;
 }
 
-/// Index behind the mark that closes what begins at `at`, or npos.
+/// Index after the mark that closes what begins at `at`, or npos.
 size_t endOfMarked(std::string_view sql, size_t at, char mark) {
     const size_t found = sql.find(mark, at + 1);
     return found == std::string_view::npos ? found : found + 1;

@@ -13,7 +13,7 @@ namespace ado {
 struct SqlToken {
     enum class Kind { Word, Number, Name, Text, Date, Sign };
     Kind kind = Kind::Sign;
-    std::string_view text;  ///< as it stands; of a name, a text and a date what is between its marks
+    std::string_view text;  ///< unchanged; of a name, a text and a date what is between its marks
     qsizetype at = 0;       ///< of the first character, marks included
     qsizetype end = 0;
 
@@ -21,12 +21,12 @@ struct SqlToken {
     bool is(std::string_view word) const;
 };
 
-/// The pieces of a statement in UTF-8. Names may stand in brackets, texts stand in single quotes, dates
+/// The pieces of a statement in UTF-8. Names may be in brackets, texts are in single quotes, dates
 /// between number signs. Fails with SyntaxError for what is not closed, NotSupported for comments, parameters
 /// and NUL.
 Result<std::vector<SqlToken>> splitSql(const QByteArray& sql);
 
-/// A name as SQLite takes it, whatever it holds.
+/// A name as SQLite takes it, whatever it contains.
 std::string quotedName(std::string_view name);
 
 Status refusedStatement(const QString& what);

@@ -50,7 +50,7 @@ class Reader {
         } while (take(","));
         return take(")");
     }
-    /// Literals in parentheses: what was meant to stand inside a text, and slipped out, is none.
+    /// Literals in parentheses: what was meant to be inside a text, and slipped out, is none.
     bool skipRow() {
         if (!take("(")) return false;
         do {
@@ -81,7 +81,7 @@ class Reader {
                                                   [&](std::string_view word) { return token.is(word); });
                            });
     }
-    /// Rows told by their identities come out the same, unless a column is named by its number or rows are
+    /// Rows found by their identities come out the same, unless a column is named by its number or rows are
     /// joined.
     bool restKeepsRows() const {
         bool ordered = false;
@@ -99,7 +99,7 @@ class Reader {
     size_t m_next = 0;
 };
 
-/// Everything behind the table's name: its clauses, and no second source of rows.
+/// Everything after the table's name: its clauses, and no second source of rows.
 bool clausesOnly(const Reader& reader) {
     if (reader.atEnd()) return true;
     return reader.next({"WHERE", "ORDER", "GROUP", "LIMIT"}) &&
@@ -130,7 +130,7 @@ std::optional<StatementText::List> readList(Reader reader) {
     return list;
 }
 
-/// `list FROM table clauses`, behind the word SELECT.
+/// `list FROM table clauses`, after the word SELECT.
 bool readSelect(Reader& reader, QString& table, std::optional<StatementText::List>* list) {
     const std::optional<StatementText::List> wanted = readList(reader);
     if (!reader.skipTo("FROM") || !reader.takeName(table) || !clausesOnly(reader)) return false;
@@ -180,7 +180,7 @@ bool readStatement(Reader& reader, StatementText& statement) {
            conditionOnly(reader);
 }
 
-/// The value of a literal; nothing for what had better be left to SQLite.
+/// The value of a literal; nothing for what is better left to SQLite.
 std::optional<jet::Value> valueOf(const SqlToken& token) {
     const char* begin = token.text.data();
     const char* end = begin + token.text.size();
@@ -218,7 +218,7 @@ Status takeLiterals(const Tokens& tokens, StatementText& statement) {
             replace(token, "(-1)");
             continue;
         }
-        // A number behind these words may be a column's.
+        // A number after these words may be a column's.
         ordering = ordering || token.is("ORDER") || token.is("GROUP");
         if (ordering || statement.values.size() == mostParameters) continue;
         std::optional<jet::Value> value;

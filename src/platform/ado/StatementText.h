@@ -13,7 +13,7 @@ namespace ado {
 
 /// One statement as it was given, with what has to be known before SQLite compiles it.
 ///
-/// Only the shapes that work on one table are let through: a single SELECT, INSERT … VALUES, INSERT … SELECT,
+/// Only the shapes that work on one table are accepted: a single SELECT, INSERT … VALUES, INSERT … SELECT,
 /// UPDATE or DELETE. So a text can cost at most one walk over its table, and a value that slipped out of its
 /// quotes cannot reach anything else. What may be touched inside that frame is checked again while the
 /// statement is compiled.
@@ -25,7 +25,7 @@ struct StatementText {
     std::vector<jet::Value> values;
     QString table;     ///< the one that is read, or written
     QString readFrom;  ///< the table that an INSERT … SELECT reads, else empty
-    /// What stands between SELECT and FROM, where rows can be told by their identities.
+    /// What is between SELECT and FROM, where rows can be found by their identities.
     struct List {
         qsizetype at = 0;  ///< in `sql`
         qsizetype size = 0;

@@ -11,7 +11,7 @@
 
 namespace ado {
 
-/// A row on which a TableWalk stands; valid during the visit.
+/// The current row of a TableWalk; valid during the visit.
 class WalkedRow {
   public:
     WalkedRow(jet::Table& table, jet::RowId id, const jet::RowView& view)
@@ -32,7 +32,7 @@ class WalkedRow {
     const jet::RowView& m_view;
 };
 
-/// A walk over all rows of a table, in the order in which they stand in the file, in parts: between two of
+/// A walk over all rows of a table, in the order in which they are in the file, in parts: between two of
 /// them no lock is held and nothing is kept but the place, so that the table may change. A row that stays is
 /// met exactly once; one that comes or goes meanwhile may be met or not.
 class TableWalk {

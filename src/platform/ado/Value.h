@@ -10,7 +10,7 @@
 
 namespace ado {
 
-/// One field of a row, as a Recordset hands it out and takes it. Null is a value of its own, distinct from
+/// One field of a row, as a Recordset returns and takes it. Null is a value of its own, distinct from
 /// the empty text.
 class Value {
   public:
@@ -41,7 +41,7 @@ class Value {
     /// (a date without time of day shows only the date). Fails with InvalidNull for Null, TypeMismatch for
     /// binary data.
     Result<QString> toText(const QLocale& locale = QLocale()) const;
-    /// The same with the empty text for whatever has no text.
+    /// The same with the empty text for what has no text.
     QString toTextOrEmpty(const QLocale& locale = QLocale()) const&;
     QString toTextOrEmpty(const QLocale& locale = QLocale()) &&;
     /// True is -1; fractions round to the nearest, halves to even; texts are read as by readNumber(). Fails

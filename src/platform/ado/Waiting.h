@@ -8,16 +8,16 @@
 
 namespace ado {
 
-/// Who is asked while a statement waits for another process. Neither function may throw, nor use the
+/// The hook called while a statement waits for another process. Neither function may throw, nor use the
 /// database.
 struct WaitHook {
     /// Called every few milliseconds from the thread that waits, with the time since this statement first had
-    /// to wait; false gives the statement up, which then fails with FileInUse.
+    /// to wait; false ends the statement, which then fails with FileInUse.
     std::function<bool(std::chrono::milliseconds waited)> goOn;
     /// Called once before a statement that had to wait returns, whatever became of it.
     std::function<void()> over;
 };
-/// Installs the hook for all statements of the program and gives the one before; an empty one removes it.
+/// Installs the hook for all statements of the program and returns the one before; an empty one removes it.
 WaitHook setWaitHook(WaitHook hook);
 
 /// Longest wait, in seconds, of what has no time-out of its own: opening and moving a recordset, posting its
@@ -38,7 +38,7 @@ class Waiting {
     Waiting(const Waiting&) = delete;
 
     std::optional<Clock::time_point> end() const { return m_end; }
-    /// Whether the hook is being asked: no statement may begin.
+    /// Whether the hook is running: no statement may begin.
     static bool asking();
     /// How the databases of this layer wait.
     static jet::LockWait lockWait();

@@ -10,8 +10,8 @@ namespace jet {
 
 namespace {
 
-// Eight numbers at a time, none of which waits for another: as fast as the page can be read. It tells
-// versions of a page apart and is no guard against forgery.
+// Eight numbers at a time, none of which waits for another: as fast as the page can be read. It distinguishes
+// versions of a page and is no guard against forgery.
 uint64_t digestOf(const Page& page) {
     constexpr uint64_t factor = 0x9E3779B97F4A7C15u;
     std::array<uint64_t, 8> lanes = {1, 2, 3, 4, 5, 6, 7, 8};

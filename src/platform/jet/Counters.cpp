@@ -20,7 +20,7 @@ void TableState::addToRowCount(int change) {
     if (change > 0 || load32(count) > 0) store32(count, load32(count) + static_cast<uint32_t>(change));
 }
 
-// The number of different keys is exact in a unique index only; elsewhere nobody keeps it so, and it stays.
+// The number of different keys is exact in a unique index only; elsewhere it is not kept so, and stays.
 void TableState::addToKeyCount(size_t index, int change) {
     const size_t at = definition::indexCounts + index * definition::indexCountLength + 4;
     if (!definition.indexes[index].unique || at + 4 > pageSize) return;

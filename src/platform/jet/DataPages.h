@@ -25,7 +25,7 @@ class DataPageView {
     size_t room() const;
     /// The first deleted slot; count() when there is none.
     size_t deletedSlot() const;
-    /// Whether no slot holds a row, a part of one or a pointer.
+    /// Whether no slot contains a row, a part of one or a pointer.
     bool isEmpty() const;
 
   private:
@@ -40,11 +40,11 @@ class DataPageView {
 /// Makes `page` an empty data page.
 void makeDataPage(Page& page, uint32_t owner);
 /// Puts a row on a page that has room() for it and returns its slot: a new one, or where that does not fit a
-/// deleted one, so that a slot's number comes again as late as possible. `flags` go into the slot.
+/// deleted one, so that a slot's number is reused as late as possible. `flags` go into the slot.
 uint8_t putRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags = 0);
 /// Appends a row that fits and returns its slot. `flags` go into the slot.
 uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags = 0);
-/// Changes length and flags of a slot, moving the rows below it. The caller has seen to the room.
+/// Changes length and flags of a slot, moving the rows below it. The caller ensures the room.
 /// Bytes of a row that stays are kept as far as the new length reaches; new ones are zero.
 void resizeRow(Page& page, uint32_t number, size_t slot, size_t length, uint16_t flags);
 /// The bytes of a slot for changing.

@@ -74,7 +74,7 @@ class PagePrints;
 struct TableState;
 
 /// Rows and indexes of one local table of an open database. Owned by the Database; valid as long as it is
-/// open and refresh() has not answered true. Failures are those of Database, and besides:
+/// open and refresh() has not returned true. Failures are those of Database, and besides:
 ///   FileInUse when another program changed the table's structure since refresh()
 ///   NoCurrentRecord when a row that is to be changed does not exist
 /// A change that fails because of its values leaves the transaction as it was. After any other failure
@@ -88,14 +88,14 @@ class Table {
 
     /// Calls `visit` for each row in page order until it returns false. Only reading is allowed meanwhile.
     Status scan(const std::function<bool(RowId, const RowView&)>& visit) { return scan({}, visit); }
-    /// The same from the row `from` on, or from where it stood: a scan in parts goes on behind the last row.
+    /// The same from the row `from` on, or from its former place: a scan in parts goes on after the last.
     Status scan(RowId from, const std::function<bool(RowId, const RowView&)>& visit);
     /// The same for the rows with that number in a column of whole numbers, or with True (any number but 0)
     /// or False in a yes/no column. An index that begins with the column is used where few rows have the
     /// number and the index is one that the engine would keep.
     Status scanGroup(size_t column, int64_t number, const std::function<bool(RowId, const RowView&)>& visit);
-    /// Calls `visit`, until it returns false, for each row on a page that holds something else than `prints`
-    /// say, which are of the pages as they are now then; and tells these pages, by number, with those that
+    /// Calls `visit`, until it returns false, for each row on a page whose content is not that of `prints`,
+    /// which are then renewed; and returns these pages, by number, with those that
     /// are no longer the table's. The page of a row is that of its identity.
     Result<std::vector<bool>> scanChanged(PagePrints& prints,
                                           const std::function<bool(RowId, const RowView&)>& visit);
@@ -114,26 +114,26 @@ class Table {
     /// Why these columns (by position) of existing rows may not be changed, or success. Less than writable()
     /// asks for: an index that cannot be kept matters only when one of its columns changes.
     Status updatable(std::span<const size_t> columns);
-    /// Takes the next auto-number for a row that will be inserted; it is burnt if the row is not. Outside a
+    /// Takes the next auto-number for a row that will be inserted; it is lost if the row is not. Outside a
     /// transaction it is a transaction of its own.
     Result<int32_t> takeAutoNumber();
-    /// Inserts a row; `values` in column order, one for each column. An auto-number column that holds Null
+    /// Inserts a row; `values` in column order, one for each column. An auto-number column that is Null
     /// gets the next number; a greater one raises the counter. Only between begin() and commit(). Failures of
     /// values, naming the column: TypeMismatch, Overflow, FieldTooSmall, ValueRequired (Null, or empty text
     /// where the column forbids it), RecordTooLarge, DuplicateKey, NotSupported (OLE other than
     /// Null, indexed text with characters whose key is not known). Taken for a column: yes/no: bool, or a
     /// number that is not 0 · whole numbers: int64_t, or bool as -1 and 0 · single, double: double or int64_t
-    /// · everything else the alternative that reading gives.
+    /// · everything else the alternative that reading returns.
     Result<RowId> insert(std::span<const Value> values);
-    /// Changes the columns named by position; values as for insert(). Columns that already hold the value do
+    /// Changes the columns named by position; values as for insert(). Columns that already have the value do
     /// not count. An auto-number cannot be changed. Only between begin() and commit().
     Status update(RowId id, std::span<const std::pair<size_t, Value>> changes);
-    /// Gives a yes/no column of every row that value, page by page, and tells how many rows there are.
+    /// Sets a yes/no column of every row to that value, page by page, and returns the number of rows.
     /// Nothing, and nothing changed, where rows have to be changed one by one: another type of column, or one
-    /// in an index. `goOn` is asked before each row; when it answers false the call fails (Timeout) and the
+    /// in an index. `goOn` is called before each row; when it returns false the call fails (Timeout) and the
     /// transaction can only be undone. Only between begin() and commit().
     Result<std::optional<int64_t>> setYesNo(size_t column, bool value, const std::function<bool()>& goOn);
-    /// Deletes a row, and what its memo and OLE values hold on other pages. Only between begin() and
+    /// Deletes a row, and what other pages contain of its memo and OLE values. Only between begin() and
     /// commit().
     Status erase(RowId id);
 
@@ -153,11 +153,11 @@ class Table {
 /// Waiting is as LockWait says; then FileInUse. Two Databases in one process keep each other out as well, so
 /// share one.
 ///
-/// While a file is open for writing an empty journal stands beside it (`<file>-journal`), which keeps room on
+/// While a file is open for writing an empty journal is beside it (`<file>-journal`), which reserves room on
 /// the disk for the next one; the last who closes the file removes it.
 ///
 /// Failures: FileNotFound, PathAccess, UnrecognizedFormat, InvalidPassword, FileInUse, ReadOnlyDatabase,
-/// DeviceIo, DamagedDatabase (what the file tells contradicts itself), DatabaseFull (2 GB), Internal (the
+/// DeviceIo, DamagedDatabase (the file contradicts itself), DatabaseFull (2 GB), Internal (the
 /// engine contradicts itself), NotSupported (what cannot be kept right, refused before the file is touched).
 /// One thread at a time.
 class Database {
@@ -166,11 +166,11 @@ class Database {
         std::string password = {};  ///< in UTF-8
         bool readOnly = false;
         LockWait lockWait = {};     ///< for another process, while opening and until setLockWait()
-        size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may hold as many besides
+        size_t cachedPages = 8192;  ///< pages of 4 KB kept in memory; a transaction may use as many more
     };
 
     /// Opens an existing file. What a dead writer left is rolled back first; a journal that does not belong
-    /// to the file is set aside and told (Notices.h); one that somebody made who may not write the file, or
+    /// to the file is set aside and reported (Notices.h); one made by somebody who may not write the file, or
     /// that is a link, makes opening fail (PathAccess). Fails with a clear text for a missing or unreadable
     /// file, a file that is no Jet database, one that is truncated, or a wrong
     /// password. Files of Access 97 (Jet 3) are opened for reading only.
@@ -181,7 +181,7 @@ class Database {
     Database& operator=(const Database&) = delete;
 
     const std::string& path() const;
-    /// What bears the name `path` now: this file as it was when it was last locked, this file changed since,
+    /// What is at `path` now: this file as it was when it was last locked, this file changed since,
     /// or another one or none. Takes no lock and reads nothing.
     enum class Seen { Unchanged, Changed, Other };
     Seen look(const std::string& path) const;
@@ -203,16 +203,16 @@ class Database {
 
     /// Writes a copy of the file as it is now to `target`, given as for open(). It appears under its name
     /// when it is complete and on the disk; a file that is there is replaced then, and a hot journal beside
-    /// it is set aside and told (Notices.h). The file itself as target fails (PathAccess), a target that
+    /// it is set aside and reported (Notices.h). The file itself as target fails (PathAccess), a target that
     /// others use does after the wait (FileInUse); whatever fails leaves the target as it was. `ownerOnly`
-    /// makes a new file for its owner alone; one that is replaced hands its rights on.
+    /// makes a new file for its owner alone; one that is replaced passes its rights on.
     Status copyTo(const std::string& target, bool ownerOnly = false);
 
     /// How the calls that follow wait for another process.
     void setLockWait(LockWait wait);
 
     /// Starts a transaction: takes the writer's lock. Nothing is written to the file before the journal is
-    /// synced. Refused (FileInUse) as well while another program holds the NAME.ldb beside the file. Within a
+    /// synced. Refused (FileInUse) as well while another program keeps the NAME.ldb beside the file. Within a
     /// ReadScope it does not wait: two that read and wait for each other would do so for ever.
     Status begin();
     /// Makes the transaction durable; waits until nobody reads. After it returns success the changes survive

@@ -11,8 +11,8 @@ namespace jet {
 /// loops. One of Jet 3 gets the form of Jet 4.
 std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page);
 
-/// Parses a joined definition; `jet3` tells what file it is from. Throws Failure when it contradicts itself,
-/// or when the table's name or one of its columns' is empty, too long, holds control characters, or is there
+/// Parses a joined definition; `jet3`: it is from a Jet 3 file. Throws Failure when it contradicts itself,
+/// or when the table's name or one of its columns' is empty, too long, has control characters, or is there
 /// twice (without regard to case).
 TableDefinition parseDefinition(std::span<const uint8_t> block, const std::string& name, uint32_t page,
                                 bool jet3);

@@ -31,7 +31,7 @@ struct Writer {
     }
 };
 
-/// What a table's definition says, for writing one. Order as it shall stand in the file.
+/// What a table's definition says, for writing one. The order is that of the file.
 struct ColumnPlan {
     std::string name;
     Type type;
@@ -80,7 +80,7 @@ constexpr uint32_t pointerTo(uint32_t page, uint32_t row) {
     return page << 8 | row;
 }
 
-/// The definition's page from its first byte on; all of it must find room on one page.
+/// The definition's page from its first byte on; all of it must fit on one page.
 Bytes definitionBytes(const TablePlan& plan);
 
 }  // namespace jet

@@ -33,7 +33,7 @@ constexpr uint32_t databasesId = 0x0F000002;
 constexpr uint32_t relationshipsId = 0x0F000003;
 constexpr uint32_t databaseId = 0x10000000;
 
-// Appends what stands behind the variable values of a row.
+// Appends what follows the variable values of a row.
 void finishRow(Writer& w, const std::vector<size_t>& offsets, std::span<const uint8_t> mask) {
     for (auto offset = offsets.rbegin(); offset != offsets.rend(); ++offset)
         w.u16(static_cast<uint32_t>(*offset));

@@ -5,7 +5,7 @@
 
 namespace jet::empty {
 
-/// Pages of an empty database. Only those up to 5 stand where they stand in every file.
+/// Pages of an empty database. Only those up to 5 have the same numbers in every file.
 inline constexpr uint32_t acesPage = 3;
 inline constexpr uint32_t queriesPage = 4;
 inline constexpr uint32_t relationshipsPage = 5;
@@ -23,7 +23,7 @@ TablePlan objectsPlan(uint32_t rows);
 TablePlan acesPlan(uint32_t rows, uint32_t objects);
 TablePlan queriesPlan();
 TablePlan relationshipsPlan();
-/// A user's table with the primary key on its first column. Definition, map page and index root stand on
+/// A user's table with the primary key on its first column. Definition, map page and index root are on
 /// three pages in a row from `page` on.
 TablePlan userPlan(uint32_t page, const std::vector<NewColumn>& columns);
 

@@ -18,7 +18,7 @@ struct Engine {
 
     std::string path;
     PageFile file;
-    uint64_t toldGeneration = 0;  ///< of the file, when refresh() last answered
+    uint64_t toldGeneration = 0;  ///< of the file, when refresh() last returned
     std::vector<CatalogEntry> catalog;
     uint64_t catalogGeneration = 0;
     std::map<uint32_t, std::unique_ptr<Table>> tables;  ///< by definition page
@@ -45,8 +45,8 @@ struct TableState {
     RowStore rows;
     std::map<uint16_t, LongValuePages> longValues;  ///< by column number, as far as they were needed
     std::optional<int32_t> greatestNumber;  ///< in use when `generation` was first seen; see AutoNumber.h
-    std::set<size_t> provedIndexes;         ///< their entries were held against their rows
-    PagePtr borrowed;                       ///< page of the row that row() handed out
+    std::set<size_t> provedIndexes;         ///< their entries were compared with their rows
+    PagePtr borrowed;                       ///< page of the row that row() returned
 };
 
 }  // namespace jet

@@ -10,7 +10,7 @@
 
 namespace jet {
 
-/// How a failure travels inside the engine. It is turned into a Status at the engine's edge (Database, Table)
+/// An exception inside the engine. It is turned into a Status at the engine's edge (Database, Table)
 /// and never leaves it.
 struct Failure {
     Status status;
@@ -42,7 +42,7 @@ template <class... Parts>
     fail(ErrorCode::DamagedDatabase, "Il database è danneggiato: ", phrase(parts...), ".");
 }
 
-/// The engine contradicts itself, whatever the file holds: a page that was found to have room has none. The
+/// The engine contradicts itself, not the file: a page that was found to have room has none. The
 /// parts complete the sentence "Errore interno del database: …".
 template <class... Parts>
 [[noreturn]] void failInternal(const Parts&... parts) {
@@ -54,7 +54,7 @@ template <class... Parts>
     fail(ErrorCode::DatabaseFull, "Il database ha raggiunto la dimensione massima di 2 GB.");
 }
 
-/// Runs `work` and hands back its outcome as a Status or Result.
+/// Runs `work` and returns its outcome as a Status or Result.
 template <class Work>
 auto guarded(Work&& work) -> decltype(work()) {
     try {

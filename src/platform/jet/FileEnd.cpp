@@ -17,7 +17,7 @@ bool namesMissingPage(PageFile& file, uint32_t map) {
     return !pages.empty() && pages.back() >= file.pageCount();
 }
 
-// A definition that contradicts itself is told when its table is asked for.
+// A definition that contradicts itself is reported when its table is opened.
 std::optional<TableDefinition> parsed(const Bytes& block, const CatalogEntry& entry, bool jet3) {
     try {
         return parseDefinition(block, entry.name, entry.definitionPage, jet3);

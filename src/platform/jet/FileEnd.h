@@ -7,8 +7,8 @@
 
 namespace jet {
 
-/// Whether the end of the file is missing: the map of free pages calls pages behind the end used, and a
-/// table, an index or a long value owns one that is not there. The map alone tells nothing, since some
+/// Whether the end of the file is missing: the map of free pages calls pages after the end used, and a
+/// table, an index or a long value owns one that is not there. The map alone proves nothing, since some
 /// programs reserve room in steps. Costs a look at the map for all other files. Throws Failure for
 /// definitions and maps that cannot be read.
 bool lacksItsEnd(PageFile& file, const std::vector<CatalogEntry>& catalog);

@@ -8,10 +8,10 @@
 namespace jet {
 
 /// The locks of a database file, which keep other processes out (docs/formats/jet.md). They fail with
-/// FileInUse when the wait is given up, and then hold nothing new.
+/// FileInUse when the wait is given up, and then lock nothing new.
 
-/// The content, shared or exclusive. Whoever wants it for himself closes the gate first, so that he does not
-/// wait for ever while others come and go to read; he keeps it closed.
+/// The content, shared or exclusive. Who locks it exclusively closes the gate first, so as not to wait for
+/// ever while readers come and go, and keeps it closed.
 void lockContent(OsFile& file, OsFile::Lock kind, const LockWait& wait);
 /// The writer's lock.
 void lockWriter(OsFile& file, const LockWait& wait);

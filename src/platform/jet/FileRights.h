@@ -16,7 +16,7 @@ struct FileRights {
 /// Whether the file's group or mode lets `user` write it; the administrator may write everything.
 bool mayWrite(uint32_t user, const FileRights& file);
 
-/// Whether a journal of these rights may be believed and touched by the user `ours`: a plain file under one
+/// Whether a journal of these rights may be trusted and changed by the user `ours`: a plain file under one
 /// name only, made by the database's owner, by ourselves, or by somebody who may write the database anyway.
 bool isTrusted(const FileRights& journal, const FileRights& database, uint32_t ours);
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Where things stand in a Jet 4 file (those of Jet 3 get this form as they are read, see Jet3.h). Numbers are
-// little endian unless "Big" is said; offsets count from the start of the page. docs/formats/jet.md tells the
+// The layout of a Jet 4 file (files of Jet 3 get this form as they are read, see Jet3.h). Numbers are
+// little endian unless "Big" is said; offsets count from the start of the page. docs/formats/jet.md says the
 // same with the reasons.
 
 #include <array>
@@ -71,7 +71,7 @@ enum PageType : uint8_t {
     BitmapPage = 5,  ///< part of a usage map in form 1
 };
 
-/// Pages 0 to 5 stand where they stand in every file.
+/// Pages 0 to 5 have the same place in every file.
 inline constexpr uint32_t globalMapPage = 1;
 inline constexpr uint32_t catalogPage = 2;
 inline constexpr uint32_t firstOrdinaryPage = 6;
@@ -98,7 +98,7 @@ inline constexpr size_t slots = 14;  // u16 each
 inline constexpr size_t maxSlots = 255;
 inline constexpr uint16_t offsetMask = 0x1FFF;
 inline constexpr uint16_t notARow = 0x8000;  // alone: body of a moved row
-inline constexpr uint16_t pointer = 0x4000;  // alone: the row has moved, 4 bytes tell where
+inline constexpr uint16_t pointer = 0x4000;  // alone: the row has moved, 4 bytes say where
 inline constexpr uint16_t deleted = 0xC000;
 inline constexpr size_t maxRow = 4060;
 }  // namespace data
@@ -132,7 +132,7 @@ inline constexpr size_t bits = 5;       // form 0: low bit first
 inline constexpr size_t pages = 1;      // form 1: u32 numbers of bitmap pages
 inline constexpr size_t bitmap = 4;     // bits on a bitmap page
 inline constexpr uint32_t pagesPerBitmap = (pageSize - bitmap) * 8;
-inline constexpr size_t mostBitmaps = 16;  // reach to the greatest file; what follows may be rubbish
+inline constexpr size_t mostBitmaps = 16;  // reach to the greatest file; what follows may be garbage
 inline constexpr size_t ordinaryLength = 69;
 }  // namespace map
 

@@ -221,7 +221,7 @@ constexpr uint8_t noAccent = 0x02;
 constexpr uint8_t partEnd = 0x01;
 constexpr char32_t brokenCode = 0xfffd;
 
-/// The next code point of `text` from `at` on, which is moved behind it.
+/// The next code point of `text` from `at` on, which is moved past it.
 char32_t nextCodePoint(std::string_view text, size_t& at) {
     const auto byte = [&](size_t i) { return static_cast<uint8_t>(text[i]); };
     const uint8_t first = byte(at++);
@@ -237,7 +237,7 @@ char32_t nextCodePoint(std::string_view text, size_t& at) {
     return code;
 }
 
-/// What stands behind the main weights of a key.
+/// What follows the main weights of a key.
 struct KeyParts {
     size_t places = 0;     ///< of the text so far
     std::string accents;   ///< one byte for each place up to the last accent
@@ -274,7 +274,7 @@ bool isLigature(const Weight& weight) {
     return weight.main[0] >= firstLetter && weight.main[1] >= firstLetter;
 }
 
-/// Appends the whole key of at most `limit` UTF-16 units, and tells whether every character was known.
+/// Appends the whole key of at most `limit` UTF-16 units, and returns whether every character was known.
 bool appendKey(std::string& key, std::string_view text, size_t limit, LigaturePlaces places) {
     const size_t end = text.find_last_not_of(' ');
     text = text.substr(0, end == std::string_view::npos ? 0 : end + 1);

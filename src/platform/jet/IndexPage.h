@@ -7,8 +7,8 @@
 
 namespace jet {
 
-/// An index page taken apart. Entries are key bytes, then the row id; in nodes the child page follows.
-/// A stored entry behind the first lacks the first `prefix` bytes of the first; here all are whole.
+/// A parsed index page. Entries are key bytes, then the row id; in nodes the child page follows.
+/// A stored entry after the first lacks the first `prefix` bytes of the first; here all are whole.
 /// Members throw Failure.
 class IndexPage {
   public:
@@ -19,7 +19,7 @@ class IndexPage {
     bool leaf = true;
     uint32_t previous = 0;
     uint32_t next = 0;
-    uint32_t tail = 0;  ///< nodes: child behind the last listed one
+    uint32_t tail = 0;  ///< nodes: child after the last listed one
     uint8_t level = 0;
 
     size_t count() const { return m_ends.size(); }

@@ -10,7 +10,7 @@ namespace jet {
 
 namespace {
 
-// Deeper than any index of a 2 GB file: whoever gets here goes round in circles.
+// Deeper than any index of a 2 GB file: a walk that gets here is in a cycle.
 constexpr size_t maxDepth = 20;
 
 // Leaves that are joined leave some room, so that the next insertion does not cut them again.
@@ -228,7 +228,7 @@ std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, b
     return parts;
 }
 
-// Stores a changed page, cut up if it has become too full.
+// Stores a changed page, split if it has become too full.
 void IndexTree::place(const Path& path, size_t depth, IndexPage page, bool atEnd) {
     const uint32_t number = path[depth].number;
     if (page.fits()) return store(number, page);
@@ -303,7 +303,7 @@ bool IndexTree::erase(std::span<const uint8_t> key, RowId row) {
     return true;
 }
 
-// A look at the neighbour's free field, before it is taken apart.
+// A look at the neighbour's free field, before it is parsed.
 bool IndexTree::mayJoin(const IndexPage& leaf, uint32_t neighbour) const {
     if (neighbour == 0) return false;
     const size_t free = load16(&(*m_file.page(neighbour))[index::freeBytes]);
@@ -363,7 +363,7 @@ void IndexTree::greatestChanged(const Path& path, size_t depth, const Bytes& gre
     }
 }
 
-// Takes out the page at `depth`, below which nothing is left.
+// Removes the page at `depth`, below which nothing is left.
 void IndexTree::removeEmpty(const Path& path, size_t depth) {
     const uint32_t number = path[depth].number;
     const IndexPage page = load(number);

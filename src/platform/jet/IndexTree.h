@@ -9,7 +9,7 @@
 
 namespace jet {
 
-/// One index of a table as a tree of pages over whole keys. Knows nothing of how a key is made of values.
+/// One index of a table as a tree of pages over whole keys. It does not know how a key is made of values.
 /// Members throw Failure.
 ///
 /// Rules that every change keeps:
@@ -18,7 +18,7 @@ namespace jet {
 ///   T3 pages of one level are chained in order, both ways
 ///   T4 the root keeps its page number: when it is full, its content goes to new pages below it, and when
 ///      only a tail is left, that child's content comes up
-///   T5 the index's map holds just the pages of the tree
+///   T5 the index's map contains just the pages of the tree
 ///   T7 a leaf that becomes less than half full joins a neighbour below the same node, when both leave room
 ///   on one page
 class IndexTree {
@@ -34,7 +34,7 @@ class IndexTree {
     std::optional<Bytes> firstKey() const;
     std::optional<Bytes> lastKey() const;
     void insert(std::span<const uint8_t> key, RowId row);
-    /// Takes an entry out; false when it is not there.
+    /// Removes an entry; false when it is not there.
     bool erase(std::span<const uint8_t> key, RowId row);
     /// Key of the row's entry, found by a walk over the whole index.
     std::optional<Bytes> keyOf(RowId row) const;

@@ -50,7 +50,7 @@ void widenRows(Page& page) {
     for (size_t i = 0; i < kept; ++i) {
         const uint16_t raw = load16(&page[slots + 2 * i]);
         const size_t offset = raw & data::offsetMask;
-        // One behind the page stays behind it.
+        // One after the page stays after it.
         const size_t moved = offset <= pageSize ? offset + pageSize : data::offsetMask;
         store16(&wide[data::slots + 2 * i], static_cast<uint32_t>(moved | (raw & ~data::offsetMask)));
     }

@@ -9,7 +9,7 @@
 
 namespace jet {
 
-/// Text as it is stored: UTF-16LE, or behind FF FE the compressed form. That begins with one byte for each
+/// Text as it is stored: UTF-16LE, or after FF FE the compressed form. That begins with one byte for each
 /// character below U+0100; a zero byte switches to UTF-16LE and back.
 
 /// Appends the UTF-8 form of one character.
@@ -26,11 +26,11 @@ void appendAnsiAsUtf8(std::span<const uint8_t> stored, std::string& out);
 
 /// UTF-16 units of UTF-8 text; invalid bytes become U+FFFD.
 std::u16string toUtf16(std::string_view utf8);
-/// The way back; lone surrogates become U+FFFD.
+/// The inverse; lone surrogates become U+FFFD.
 std::string toUtf8(std::u16string_view text);
 
-/// Bytes to store. The compressed form is taken when it is allowed, shorter and holds for the whole text.
-/// Nothing for the rare text that no form can hold: U+FEFF at the start together with a unit whose low byte
+/// Bytes to store. The compressed form is used when it is allowed, shorter and possible for all the text.
+/// Nothing for the rare text that no form can store: U+FEFF at the start together with a unit whose low byte
 /// is zero.
 std::optional<std::vector<uint8_t>> encodeText(std::u16string_view text, bool mayCompress);
 

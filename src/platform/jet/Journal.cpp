@@ -167,7 +167,7 @@ void Journal::writeRecords() {
 
 void Journal::sync() {
     if (!m_hot && m_end == journal::recordsStart) {
-        // The header stands before the first records: one write does for all.
+        // The header is before the first records: one write does for all.
         const journal::HeaderBytes header = journal::encode(m_header);
         m_records.insert(m_records.begin(), header.begin(), header.end());
         m_end = 0;

@@ -11,10 +11,10 @@
 namespace jet {
 
 /// The rollback journal `<file>-journal`: the original bytes of every page that a transaction changes, and
-/// digests of what is written instead. Its layout stands in JournalFormat.h.
+/// digests of what is written instead. Its layout is in JournalFormat.h.
 ///
 /// The file stays while its database is open for writing, with an empty header, so that the room for the next
-/// small transaction is taken already. Whoever keeps it open holds a shared lock on it, and only who gets
+/// small transaction is taken already. Each process that has it open holds a shared lock on it; only who gets
 /// that lock alone removes it. A journal is hot while its header is not empty.
 ///
 /// Steps of a transaction (PageFile drives them) and what a crash leaves:
@@ -26,13 +26,13 @@ namespace jet {
 ///   6  header emptied: the transaction has happened                        [finish]
 ///   7  journal synced: it has happened for good
 /// Invariants:
-///   J1 a page is written (4) only when its original and the digests of this new content stand in the synced
+///   J1 a page is written (4) only when its original and the digests of this new content are in the synced
 ///      journal (3)
 ///   J2 the header is emptied (6) only when the file is synced (5)
-///   J3 who finds a hot journal whose author's lock nobody holds takes the writer's lock and the exclusive
+///   J3 one that finds a hot journal whose author's lock is free takes the writer's lock and the exclusive
 ///      one, and rolls it back before reading anything else
-///   J4 nothing is rolled back unless all sectors of the file that the journal speaks of hold the original or
-///      an announced content; else the whole journal is set aside under another name, and told (Notices.h)
+///   J4 nothing is rolled back unless all sectors of the file that the journal names contain the original or
+///      an announced content; else the whole journal is set aside under another name, and a notice says so
 ///   J5 a journal is touched only when it is a plain file of somebody who may write the database
 /// A crash before 3 is complete leaves an untouched file, and a journal of which only whole records count:
 /// putting them back changes nothing. Between 3 and 6 the journal leads back to the state before. Between 6
@@ -42,7 +42,7 @@ namespace jet {
 /// transaction.
 class Journal {
   public:
-    /// Kept for the next transaction: enough for one row, the indexes it stands in included.
+    /// Kept for the next transaction: enough for one row, the indexes it is in included.
     static constexpr uint64_t room = 128 * 1024;
 
     explicit Journal(const std::string& databasePath) : m_path(databasePath + "-journal") {}
@@ -51,15 +51,15 @@ class Journal {
 
     /// Foreign: not empty, and not of this layout.
     enum class Found { None, Idle, Hot, Foreign };
-    /// What stands under the name. Fails (PathAccess) for what must not be touched (J5), naming it.
+    /// What is under the name. Fails (PathAccess) for what must not be touched (J5), naming it.
     Found look(const OsFile& database) const { return look(database, database.rights()); }
     /// The same where the database's rights are known.
     Found look(const OsFile& database, const FileRights& rights) const;
-    /// Whether something that is not empty stands under the name; without a database to judge it by.
+    /// Whether something that is not empty is under the name; without a database to judge it by.
     bool isLeftBehind() const;
 
     /// Opens the journal that the name leads to, makes it where there is none, and takes its room. Fails
-    /// where it cannot be opened; lack of room is told by roomKept() alone. Tells what stands in it.
+    /// where it cannot be opened; only roomKept() reports lack of room. Returns what is in it.
     Found keepRoom(const OsFile& database, const FileRights& rights);
     /// Whether the room is taken and the name still leads to it.
     bool roomKept() const;
@@ -86,8 +86,8 @@ class Journal {
     /// Rolls a hot journal back, or sets it aside (J4). The caller holds the writer's lock and the exclusive
     /// one. Can be repeated after a crash within it.
     void recover(OsFile& database);
-    /// Renames the journal to `<file>-journal.scartato`, or with a number behind where that is taken, and
-    /// tells so.
+    /// Renames the journal to `<file>-journal.scartato`, or with a number appended where that is taken, and
+    /// reports it.
     void setAside();
 
   private:

@@ -27,7 +27,7 @@
 ///   4  u32 page number
 ///   8  8 times u64: digest of each sector (512 bytes) of the new content
 ///  72  u64 checksum of the 72 bytes before it
-/// The checksum of a record takes in where it stands. Numbers are little endian. What stands behind the last
+/// The checksum of a record covers its offset as well. Numbers are little endian. What follows the last
 /// record is left from earlier transactions, with another nonce.
 namespace jet::journal {
 
@@ -52,12 +52,12 @@ enum class HeaderState { Empty, Valid, Strange };
 HeaderBytes encode(const Header& header);
 HeaderState readHeader(const OsFile& journal, Header& header);
 
-/// Digest of a sector, or of any bytes whose number is a multiple of 4. It tells versions of a page apart; it
+/// Digest of a sector, or of any bytes whose number is a multiple of 4. It identifies versions of a page; it
 /// is no guard against somebody who forges a journal.
 uint64_t digest(std::span<const uint8_t> bytes, uint64_t nonce);
 Digests digestsOf(const Page& page, uint64_t nonce);
 
-/// Appends a record to `out` that will stand at `at`.
+/// Appends a record to `out` that will be at `at`.
 void appendOriginal(std::vector<uint8_t>& out, uint64_t at, uint64_t nonce, uint32_t page, const Page& bytes);
 void appendAnnouncement(std::vector<uint8_t>& out, uint64_t at, uint64_t nonce, uint32_t page,
                         const Page& bytes);
@@ -65,10 +65,10 @@ void appendAnnouncement(std::vector<uint8_t>& out, uint64_t at, uint64_t nonce, 
 struct Record {
     bool original = false;  ///< else an announcement
     uint32_t page = 0;
-    uint64_t bytesAt = 0;  ///< of an original: where its 4096 bytes stand
+    uint64_t bytesAt = 0;  ///< of an original: where its 4096 bytes are
     Digests digests = {};  ///< of an announcement
 };
-/// Reads the record at `at` and moves `at` behind it; false when there is none that is whole.
+/// Reads the record at `at` and moves `at` past it; false when there is none that is whole.
 bool readRecord(const OsFile& journal, uint64_t nonce, uint64_t& at, Record& record);
 
 }  // namespace jet::journal

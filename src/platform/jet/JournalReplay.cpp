@@ -20,7 +20,7 @@ JournalReplay::JournalReplay(const OsFile& journal, const journal::Header& heade
     m_fits = appendedFit(database, size);
 }
 
-// Whether all records make sense. Those that never became whole end the list: nothing was written for them.
+// Whether all records make sense. Those that are incomplete end the list: nothing was written for them.
 bool JournalReplay::readRecords() {
     journal::Record record;
     for (uint64_t at = journal::recordsStart; journal::readRecord(m_journal, m_header.nonce, at, record);) {

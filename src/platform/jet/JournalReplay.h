@@ -9,20 +9,20 @@
 
 namespace jet {
 
-/// A hot journal held against the file beside it, and then put back. Both files stay the caller's. Members
+/// A hot journal, checked against the file beside it and rolled back. Both files stay the caller's. Members
 /// throw Failure when the disk fails.
 class JournalReplay {
   public:
-    /// Reads the records of the journal and all sectors that they speak of; nothing is written.
+    /// Reads the records of the journal and all sectors that they name; nothing is written.
     JournalReplay(const OsFile& journal, const journal::Header& header, const OsFile& database);
 
     /// Whether the journal is of this file: its first page and its number of pages are plausible, each sector
-    /// of a page that was there before holds the original or an announced content, each one behind them an
+    /// of a page that was there before has the original or an announced content, each one after them an
     /// announced content or zeros, unless the file ends before.
     bool fits() const { return m_fits; }
 
     /// Writes the originals, cuts off what was appended and syncs the file. Only when it fits(). Can be
-    /// repeated after a crash within it: each sector then holds the original or what it held before.
+    /// repeated after a crash within it: each sector then has the original or its former content.
     void putBack(OsFile& database) const;
 
   private:

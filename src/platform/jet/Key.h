@@ -18,17 +18,17 @@
 /// Descending: all bytes inverted, but for the 09; text gets one more 00.
 namespace jet {
 
-/// Bytes that a key may have. Three entries of this length find room on an index page, so each page that is
-/// too full can be cut up.
+/// Bytes that a key may have. Three entries of this length fit on an index page, so each page that is
+/// too full can be split.
 inline constexpr size_t longestKey = 1180;
 
-/// What a key is made of: the stored bytes of a column. Null tells False for a yes/no column.
+/// What a key is made of: the stored bytes of a column. Null means False for a yes/no column.
 using FieldOf = std::function<StoredField(const Column&)>;
 inline FieldOf fieldsOf(const Row& row) {
     return [&row](const Column& column) { return row.field(column); };
 }
 
-/// Why keys of that index cannot be made, whatever the rows hold; completes "… non può essere aggiornato,
+/// Why keys of that index cannot be made, whatever is in the rows; completes "… non può essere aggiornato,
 /// perché ". Empty when they can.
 std::string whyNotKept(const TableDefinition& definition, const Index& index);
 /// Whether no file made by Access was seen with such an index. Its own entries have to show the form then.
@@ -37,8 +37,8 @@ bool needsProof(const TableDefinition& definition, const Index& index);
 /// The key of a row that is to be written. Throws Failure (NotSupported), naming the column, for text whose
 /// key is not known for sure, and for a key that is too long.
 Bytes keyToWrite(const TableDefinition& definition, const Index& index, const FieldOf& field);
-/// The keys that a row in a file may have: none when its text holds characters of unknown weight, two when it
-/// holds a letter that other programs count in two ways.
+/// The keys that a row in a file may have: none when its text has characters of unknown weight, two when it
+/// has a letter that other programs count in two ways.
 std::vector<Bytes> possibleKeys(const TableDefinition& definition, const Index& index, const FieldOf& field);
 
 /// How many columns of the index are Null.
@@ -47,7 +47,7 @@ size_t countNulls(const TableDefinition& definition, const Index& index, const F
 bool isIndexed(const TableDefinition& definition, const Index& index, const FieldOf& field);
 
 /// What the key of a row with that number begins with, where the index begins with the column: one of whole
-/// numbers that holds it, or a yes/no (0 is False).
+/// numbers that contains it, or a yes/no (0 is False).
 Bytes keyOfNumber(const Column& column, bool ascending, int64_t number);
 /// Key of an ascending long.
 Bytes longKey(int32_t value);

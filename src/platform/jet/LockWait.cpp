@@ -5,7 +5,7 @@
 
 namespace jet {
 
-// Busy writers leave a lock free for moments only, so whoever looks seldom may not get it at all.
+// Busy writers leave a lock free for moments only, so a process that tries seldom may not get it at all.
 constexpr std::chrono::milliseconds longestPause{4};
 
 bool waitFor(const LockWait& wait, const std::function<bool()>& attempt) {

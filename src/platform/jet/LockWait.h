@@ -11,12 +11,12 @@ namespace jet {
 struct LockWait {
     /// Of one wait; a call may wait more than once. None: without end.
     std::optional<std::chrono::milliseconds> limit = std::chrono::seconds(5);
-    /// Asked between two looks at the lock, every few milliseconds, with the time waited so far; false gives
+    /// Called between two tries of the lock, every few milliseconds, with the time waited so far; false gives
     /// the wait up. It may paint, but must neither throw nor call the Database that waits. Empty: never.
     std::function<bool(std::chrono::milliseconds waited)> goOn = {};
 };
 
-/// Waits for `attempt` to answer true, with growing pauses in between. Answers false when the wait was given
+/// Waits for `attempt` to return true, with growing pauses in between. Returns false when the wait was given
 /// up.
 bool waitFor(const LockWait& wait, const std::function<bool()>& attempt);
 

@@ -27,7 +27,7 @@ using LongChanges = std::vector<LongChange>;
 LongChange setLong(Row& row, const Column& column, const Value& value);
 /// Stores what is left, and frees the rows of the values before.
 void storeLong(TableState& state, Row& row, const LongChanges& changes);
-/// Whether the column holds that value in a row as it is stored.
+/// Whether the column contains that value in a row as it is stored.
 bool sameLongValue(const TableState& state, const Row& stored, const Column& column, const Value& value);
 
 /// Where a row's memo and OLE values lie on other pages.

@@ -19,7 +19,7 @@ constexpr unsigned chain = 0;
 // Access keeps values of up to so many bytes in their rows.
 constexpr size_t longestInRow = 64;
 
-// What stands on a long-value page in place of its owner.
+// The mark on a long-value page in place of its owner.
 uint32_t longValueOwner() {
     return load32(reinterpret_cast<const uint8_t*>("LVAL"));
 }

@@ -8,7 +8,7 @@
 #include "platform/jet/PageFile.h"
 #include "platform/jet/PageRoom.h"
 
-/// Memo and OLE values. Memos are read and written, OLE values only read. What a row holds of one, 12 bytes
+/// Memo and OLE values. Memos are read and written, OLE values only read. A row contains of one 12 bytes
 /// and more:
 ///   0 u32: low 30 bits length, top 2 bits place · 4 u32 pointer (u8 row, u24 page) · 8 u32
 ///   place 2: the bytes follow at 12 · place 1: one row of a long-value page · place 0: a chain of rows, each
@@ -20,16 +20,16 @@ namespace jet {
 /// Bytes of a value's length, place and pointer in its row.
 inline constexpr size_t longValueHead = 12;
 
-/// The length of a value, as its row tells it; 0 when the head is cut.
+/// The length of a value, as its row says; 0 when the head is cut.
 size_t longValueLength(std::span<const uint8_t> stored);
 
-/// The bytes of a value, wherever they lie. `stored` is what its row holds.
+/// The bytes of a value, wherever they are. `stored` is what its row contains.
 Bytes readLongValue(PageFile& file, std::span<const uint8_t> stored);
 
-/// The rows of long-value pages that hold the value; none when it lies in its own row.
+/// The rows of long-value pages that contain the value; none when it lies in its own row.
 std::vector<RowId> longValueRows(PageFile& file, std::span<const uint8_t> stored);
 
-/// What a row holds of a value that needs no other row, as short ones do; nothing for a longer one.
+/// The bytes in the row of a value that needs no other row, a short one; nothing for a longer one.
 std::optional<Bytes> longValueInRow(std::span<const uint8_t> content);
 
 /// The long-value pages of one memo or OLE column.

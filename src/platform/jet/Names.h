@@ -3,10 +3,10 @@
 #include <string_view>
 
 /// Names of tables and columns, in UTF-8: the same whatever the case of their letters. Letters beyond U+FFFF
-/// are taken as they stand.
+/// are left unchanged.
 namespace jet {
 
-/// Below, equal to or above 0 as `left` stands before, with or behind `right`: by code units of UTF-16,
+/// Below, equal to or above 0 as `left` sorts before, with or after `right`: by code units of UTF-16,
 /// capitals taken for their small letters.
 int compareNames(std::string_view left, std::string_view right);
 

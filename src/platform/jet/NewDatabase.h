@@ -24,7 +24,7 @@ struct NewTable {
 };
 
 /// Writes a database with these tables, all without rows, to `path`, given as for Database::open(). Fails
-/// when the file exists (PathAccess), and for a description that is not of the form above or finds no room on
+/// when the file exists (PathAccess), and for a description that is not of the form above or does not fit on
 /// the pages of an empty database, some dozen tables (Internal).
 Status createDatabase(const std::string& path, const std::vector<NewTable>& tables);
 

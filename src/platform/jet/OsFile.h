@@ -14,7 +14,7 @@ namespace jet {
 struct DiskStep {
     enum class Kind { Create, Write, Sync, Truncate, Reserve, Rename, Remove, SyncFolder };
     /// Half: half of a write is done, then it fails. Full: it fails for lack of room. Skip: nothing is done
-    /// and success is told, as by a disk that does not keep its word.
+    /// and success is reported, as by a disk that loses a write.
     enum class Outcome { Proceed, Fail, Half, Full, Skip };
     Kind kind;
     const std::string& path;
@@ -25,7 +25,7 @@ using DiskHook = std::function<DiskStep::Outcome(const DiskStep&)>;
 /// Installs the hook that is asked before each step; an empty one removes it. For tests, one thread.
 void setDiskHook(DiskHook hook);
 
-/// What tells one state of a file from another.
+/// What distinguishes one state of a file from another.
 struct FileState {
     uint64_t device = 0;
     uint64_t inode = 0;
@@ -36,7 +36,7 @@ struct FileState {
 /// State of the file at `path`, and its rights where they are wanted; false when there is none or it cannot
 /// be asked.
 bool fileState(const std::string& path, FileState& state, FileRights* rights = nullptr);
-/// The same for what bears the name itself, which may be a link.
+/// The same for what has the name itself, which may be a link.
 bool nameState(const std::string& path, FileState& state, FileRights* rights = nullptr);
 /// Whether two states are of one file.
 inline bool sameFile(const FileState& one, const FileState& other) {
@@ -60,15 +60,15 @@ class OsFile {
     bool isOpen() const { return m_fd >= 0; }
     const std::string& path() const { return m_path; }
     FileState state() const;
-    /// Reads up to bytes.size() bytes and tells how many there were.
+    /// Reads up to bytes.size() bytes and returns how many there were.
     size_t read(uint64_t offset, std::span<uint8_t> bytes) const;
     void write(uint64_t offset, std::span<const uint8_t> bytes);
     void truncate(uint64_t size);
-    /// Takes room on the disk for the first `size` bytes, whatever they hold; a shorter file grows to that
+    /// Takes room on the disk for the first `size` bytes, whatever is there; a shorter file grows to that
     /// size, with zeros. False where there is no room, or the file system cannot promise it for writes in
     /// place (some write each change to a new place).
     bool reserve(uint64_t size);
-    /// Handed out by sync(), for what must not begin before it.
+    /// Returned by sync(), for what must not begin before it.
     class Synced {
         friend class OsFile;
         Synced() = default;
@@ -88,8 +88,8 @@ class OsFile {
     void takeRights(const OsFile& other, FileRights now, const FileRights& wanted);
 
     enum class Lock { None, Shared, Exclusive };
-    /// What a lock covers: all content, however the file grows, or one of three bytes far behind it. Gate:
-    /// whoever wants the content has to pass it. Writer: held for a whole transaction. Author: held while the
+    /// What a lock covers: all content, however the file grows, or one of three bytes far beyond it. Gate:
+    /// who locks the content has to pass it. Writer: held for a whole transaction. Author: held while the
     /// journal is hot by the one who wrote it. Aside: these three together.
     enum class Range { Content, Gate, Writer, Author, Aside };
     /// Changes the advisory lock on a range at once; false when another holder forbids it. The lock belongs
@@ -103,10 +103,10 @@ class OsFile {
     /// where that cannot be asked.
     bool isHeld(Range range) const;
 
-    /// Whether the name is taken, be it by a link that leads nowhere.
+    /// Whether the name is taken, even by a dangling link.
     static bool exists(const std::string& path);
     static void remove(const std::string& path);
-    /// Renames a file; one that bears the new name is replaced. False when that was not wanted and there is
+    /// Renames a file; one that has the new name is replaced. False when that was not wanted and there is
     /// one.
     static bool rename(const std::string& from, const std::string& to, bool replace);
     /// Makes the creation or removal of `path` itself durable.

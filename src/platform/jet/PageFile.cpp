@@ -305,7 +305,7 @@ void PageFile::commit() {
     unlock();
 }
 
-// What cannot be put back now is put back by whoever opens the file next, from the journal.
+// What cannot be put back now is put back by the process that opens the file next, from the journal.
 void PageFile::rollback() noexcept {
     try {
         if (m_pagesWritten) {

@@ -16,9 +16,9 @@ namespace jet {
 /// The pages of a Jet file: bounded cache, locks against other processes, and transactions through the
 /// rollback journal. All members throw Failure.
 ///
-/// Locks are advisory locks on the database file. Who reads holds the content shared; who writes holds the
+/// Locks are advisory locks on the database file. A reader holds the content shared; a writer holds the
 /// writer's lock from the start of the transaction and the content exclusive from the first page that is
-/// written to the end. One that waits to write pages lets no new reader in. A cached page is trusted only as
+/// written to the end. One that waits to write pages blocks new readers. A cached page is trusted only as
 /// long as device, inode, size and modification time of the file at the path are what they were when a lock
 /// was last held.
 class PageFile {
@@ -35,14 +35,14 @@ class PageFile {
     PageFile(const PageFile&) = delete;
 
     const Header& header() const { return m_header; }
-    /// Bytes of a page in the file. Pages of Jet 3 are half as long; page() hands them out in the form of Jet
+    /// Bytes of a page in the file. Pages of Jet 3 are half as long; page() returns them in the form of Jet
     /// 4 (see Jet3.h).
     size_t bytesPerPage() const;
     bool readOnly() const { return m_readOnly || m_header.jet3; }
     /// Grows whenever the pages were found changed by somebody else, or a transaction was rolled back.
     uint64_t generation() const { return m_generation; }
     uint32_t pageCount() const { return m_pageCount; }
-    /// What bears the name `path` now: this file as it was when a lock was last held, this file changed
+    /// What is at `path` now: this file as it was when a lock was last held, this file changed
     /// since, or another one, or none. Takes no lock.
     enum class Seen { Unchanged, Changed, Other };
     Seen look(const std::string& path) const;
@@ -52,7 +52,7 @@ class PageFile {
     /// Reading happens between these two; they may be nested.
     void beginRead();
     void endRead();
-    /// Page n. The bytes stay as long as the pointer is held.
+    /// Page n. The bytes stay as long as the pointer is kept.
     PagePtr page(uint32_t n);
     /// Page n if it is in memory, else nothing.
     PagePtr cached(uint32_t n) const { return n < m_cache.size() ? m_cache[n].page : PagePtr(); }

@@ -34,7 +34,7 @@ FileState PageFile::lockCurrent(Range range) {
          "\" viene sostituito di continuo da un altro programma.");
 }
 
-// Lets go of everything but what the readers of this file need.
+// Releases everything but what the readers of this file need.
 void PageFile::unlock() {
     if (!m_file.isOpen()) return;
     m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);

@@ -7,17 +7,17 @@
 
 namespace jet {
 
-/// What each page of a table held at some moment, in eight bytes, so that it can be told later which of them
+/// Digests of the pages of a table at some moment, eight bytes each, which show later which of the pages
 /// have changed. Taken and renewed by Table::scanChanged().
 class PagePrints {
   public:
     bool empty() const { return m_pages.empty(); }
     size_t size() const { return m_pages.size(); }
-    /// The page counts as changed, whatever it holds.
+    /// The page counts as changed, whatever it contains.
     void forget(uint32_t page) {
         if (page < m_pages.size()) m_pages[page] = unknown;
     }
-    /// A page of the table holds something of that digest.
+    /// A page of the table has content with that digest.
     void set(uint32_t page, uint64_t digest) {
         if (page >= m_pages.size()) m_pages.resize(page + size_t{1}, noPage);
         m_pages[page] = std::max(digest, leastDigest);

@@ -16,7 +16,7 @@ namespace jet {
 /// throw Failure.
 class PageRoom {
   public:
-    /// `roomMap` may be 0: then only pages that are told by noteNew() are known. `owner` stands on each of
+    /// `roomMap` may be 0: then only pages that are reported by noteNew() are known. `owner` is on each of
     /// the pages.
     PageRoom(PageFile& file, uint32_t roomMap, uint32_t owner)
         : m_file(file), m_roomMap(roomMap), m_owner(owner) {}
@@ -47,7 +47,7 @@ class PageRoom {
     std::map<uint32_t, size_t> m_roomOf;             ///< by page
     std::set<std::pair<size_t, uint32_t>> m_byRoom;  ///< the same
     uint32_t m_start = 0;                            ///< where learning began; it ends there
-    uint32_t m_next = 0;                             ///< page from which on it goes on
+    uint32_t m_next = 0;                             ///< page at which it continues
     bool m_wrapped = false;
     bool m_allKnown = false;
 };

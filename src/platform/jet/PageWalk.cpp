@@ -22,7 +22,7 @@ const Page& PageWalk::page(uint32_t n) {
         m_first = n;
         m_count = m_file.readPages(n, std::span(m_block).first(m_wanted));
     }
-    if (m_count == 0) return *(m_held = m_file.page(n));  // which tells that it lacks
+    if (m_count == 0) return *(m_held = m_file.page(n));  // which reports that it is missing
     return m_block[n - m_first];
 }
 

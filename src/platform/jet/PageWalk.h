@@ -6,8 +6,8 @@
 
 namespace jet {
 
-/// Hands out pages in rising order for a walk over a table. Those of a file that is longer than the cache are
-/// read many at a time and do not go into it: they would drive out all that is wanted again. Members throw
+/// Returns pages in rising order for a walk over a table. Those of a file that is longer than the cache are
+/// read many at a time and do not go into it: they would evict the pages that are needed again. Members throw
 /// Failure.
 class PageWalk {
   public:
@@ -18,7 +18,7 @@ class PageWalk {
 
   private:
     PageFile& m_file;
-    PagePtr m_held;             ///< the page that was handed out, where it is one of the cache
+    PagePtr m_held;             ///< the page that was returned, where it is one of the cache
     std::vector<Page> m_block;  ///< read last, from page m_first on; m_count of them count
     uint32_t m_first = 0;
     size_t m_count = 0;

@@ -15,7 +15,7 @@ size_t maskLength(size_t columns) {
 }
 
 // The parts of a stored row. In Jet 3 the numbers are bytes: the column count, the offsets, and their number
-// with a jump table before it that tells at which offsets 256 more are to be added.
+// with a jump table before it that says at which offsets 256 more are to be added.
 struct Parts {
     std::span<const uint8_t> row;
     size_t columns = 0;

@@ -8,7 +8,7 @@
 
 namespace jet {
 
-/// A row taken apart, for changing and writing. Row layout:
+/// A parsed row, for changing and writing. Row layout:
 ///   u16 column count · fixed area · variable values · u16 offsets, backwards, one more than values ·
 ///   u16 number of variable values · null mask, bit c = column number c is not Null
 /// The offsets and their number are missing in tables without variable columns. A yes/no column is its mask
@@ -17,7 +17,7 @@ class Row {
   public:
     /// A row of that table in which everything is Null.
     explicit Row(const TableDefinition& definition);
-    /// Takes stored bytes apart, keeping also what belongs to columns that are not understood or no longer
+    /// Parses stored bytes, keeping also what belongs to columns that are not understood or no longer
     /// there. Throws Failure when the row contradicts itself.
     Row(const TableDefinition& definition, std::span<const uint8_t> bytes);
 
@@ -27,11 +27,11 @@ class Row {
     /// The value of a long, nothing for Null.
     std::optional<int32_t> longValue(const Column& column) const;
     /// Stores a value; false when nothing changed by it. Throws Failure, naming the column, for a value that
-    /// the column cannot hold.
+    /// the column cannot contain.
     bool set(const Column& column, const Value& value);
     /// Stores the bytes of a memo or OLE column, as in LongValue.h; nothing for Null.
     void setStored(const Column& column, std::optional<Bytes> bytes);
-    /// The bytes to store. Throws Failure (RecordTooLarge) beyond what a row may hold.
+    /// The bytes to store. Throws Failure (RecordTooLarge) beyond the limit of a row.
     std::vector<uint8_t> bytes() const;
 
   private:
@@ -43,13 +43,13 @@ class Row {
     std::vector<uint8_t> m_mask;
 };
 
-/// Null for whatever the row does not hold or what lies outside it.
+/// Null for whatever the row does not contain or what lies outside it.
 StoredField storedField(const TableDefinition& definition, const Column& column,
                         std::span<const uint8_t> row);
-/// The same of all columns, by position: for whoever reads many of them, since the row is taken apart once.
+/// The same of all columns, by position: for a caller that reads many of them, since the row is parsed once.
 void storedFields(const TableDefinition& definition, std::span<const uint8_t> row,
                   std::vector<StoredField>& fields);
-/// Where in a row the byte with the mask bit of a column stands; nothing in a row that is older than the
+/// Where in a row the byte with the mask bit of a column is; nothing in a row that is older than the
 /// column. Throws Failure when the row contradicts itself.
 std::optional<size_t> maskByte(const TableDefinition& definition, const Column& column,
                                std::span<const uint8_t> row);

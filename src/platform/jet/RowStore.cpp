@@ -108,7 +108,7 @@ void RowStore::patchAll(const std::function<std::optional<Patch>(RowId, std::spa
             const uint16_t flags = rows.flags(slot);
             if ((flags & data::notARow) != 0) continue;
             const RowId id{number, static_cast<uint8_t>(slot)};
-            // Rows keep their places, so what the page was tells them all.
+            // Rows keep their places, so the page before the changes names them all.
             const Stored stored = (flags & data::pointer) != 0 ? body(id, rows.bytes(slot))
                                                                : Stored{page, rows.bytes(slot), id};
             if (const std::optional<Patch> change = patch(id, stored.bytes))

@@ -16,7 +16,7 @@
 
 namespace jet {
 
-/// Rows of one table as bytes on data pages: where they lie, how they move. Knows nothing of columns and
+/// Rows of one table as bytes on data pages: where they are, how they move. It does not know columns and
 /// indexes. Members throw Failure.
 ///
 /// A row's identity is the slot where it was first put. When it no longer fits there, its body goes to
@@ -36,21 +36,21 @@ class RowStore {
         scan({}, visit);
     }
 
-    /// What the pages hold, and for each row that has moved its page and that of its body.
+    /// What the pages contain, and for each row that has moved its page and that of its body.
     PagePrints prints(std::vector<std::pair<uint32_t, uint32_t>>& moved) const;
 
-    /// Bytes of a row, valid as long as the page is held.
+    /// Bytes of a row, valid as long as the page is kept.
     struct Stored {
         PagePtr page;
         std::span<const uint8_t> bytes;
-        RowId place;  ///< where the bytes lie: the row's identity, or its body's place when it has moved
+        RowId place;  ///< where the bytes are: the row's identity, or its body's place when it has moved
     };
     std::optional<Stored> find(RowId id) const;
 
     RowId insert(std::span<const uint8_t> row) { return put(row, 0); }
     /// Replaces the bytes of a row that exists, where they are if there is room.
     void update(RowId id, std::span<const uint8_t> row);
-    /// Calls `patch` for each row in page order; it may change a byte of the row by telling where, and how. A
+    /// Calls `patch` for each row in page order; it may change a byte of the row by saying where, and how. A
     /// page is copied for changing only when one of its rows changes, and pages may be written ahead after
     /// each.
     struct Patch {

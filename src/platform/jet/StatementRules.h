@@ -6,8 +6,8 @@
 namespace jet {
 
 /// For asserts: whether the pages that a statement on this table has changed obey the rules of
-/// docs/formats/jet.md that can be told from them and their neighbours: P1, P3, P5 of row pages, T1 to T4 of
-/// index pages. A file may be damaged when it comes, so nothing is asked of pages that broke a rule before.
+/// docs/formats/jet.md that can be checked on them and their neighbours: P1, P3, P5 of row pages, T1 to T4 of
+/// index pages. A file may be damaged already, so pages that broke a rule before are not checked.
 bool keepsRules(PageFile& file, const TableDefinition& definition);
 
 }  // namespace jet

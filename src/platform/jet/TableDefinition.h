@@ -51,7 +51,7 @@ struct Index {
     bool primaryKey = false;
 };
 
-/// What a table's definition pages tell. Names are in UTF-8. Read by Database; never changed in memory by its
+/// A table's definition, from its pages. Names are in UTF-8. Read by Database; never changed in memory by its
 /// users.
 struct TableDefinition {
     std::string name;

@@ -39,7 +39,7 @@ bool walkBits(std::span<const uint8_t> bits, uint32_t first, uint32_t from,
     return true;
 }
 
-// A map's row as it stands.
+// A map's row unchanged.
 struct MapRow {
     PagePtr page;
     std::span<const uint8_t> bytes;
@@ -223,7 +223,7 @@ void GlobalMap::give(uint32_t page) {
     Page& wiped = m_file.change(page);
     wiped.fill(0);
     const MapRow row(m_file, globalMapPage, 0);
-    // A page that the map does not reach cannot be told to be free; it stays unused.
+    // A page that the map does not reach cannot be marked free; it stays unused.
     if (row.form() == 0 && page - row.first() >= 8 * row.bits().size()) return;
     if (row.form() == 1) {
         const size_t k = page / map::pagesPerBitmap;

@@ -37,7 +37,7 @@ class UsageMap {
     uint8_t m_slot;
 };
 
-/// The map of free pages: row 0 of page 1, where a set bit is a free page. It tells nothing about pages that
+/// The map of free pages: row 0 of page 1, where a set bit is a free page. It says nothing about pages that
 /// it does not reach; they count as used.
 class GlobalMap {
   public:
@@ -47,7 +47,7 @@ class GlobalMap {
     uint32_t take();
     /// Gives a page back and wipes its first bytes.
     void give(uint32_t page);
-    /// Whether pages that the map calls used lie behind the file's end: they are reserved, or the end is
+    /// Whether pages that the map calls used lie after the file's end: they are reserved, or the end is
     /// missing.
     bool reachesBehindFile() const;
 

@@ -9,7 +9,7 @@
 
 namespace jet {
 
-/// Column types as they stand in a table definition.
+/// Column types as they are in a table definition.
 enum class Type : uint8_t {
     YesNo = 1,
     Byte = 2,
@@ -27,7 +27,7 @@ enum class Type : uint8_t {
     Numeric = 16,
 };
 
-/// The numbers that a column of whole numbers holds.
+/// The numbers that a column of whole numbers can store.
 struct WholeRange {
     int64_t least;
     int64_t greatest;
@@ -56,7 +56,7 @@ struct Currency {
 };
 
 /// A number written out, with a point before the decimals: for one with more digits than a double keeps. Rows
-/// never hold it; see ado/RawValue.h.
+/// never contain it; see ado/RawValue.h.
 struct Decimal {
     std::string text;
     bool operator==(const Decimal&) const = default;

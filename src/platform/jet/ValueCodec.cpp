@@ -12,7 +12,7 @@ namespace jet {
 
 namespace {
 
-// In UTF-16 units; 30 bits hold the length in bytes.
+// In UTF-16 units; 30 bits store the length in bytes.
 constexpr size_t longestMemo = (size_t{1} << 29) - 1;
 
 template <class Wanted>
@@ -32,7 +32,7 @@ int64_t wholeOf(const Column& column, const Value& value) {
     return number;
 }
 
-// No key stands for what is no number, and 0 has one key only.
+// There is no key for what is no number, and 0 has one key only.
 double finite(const Column& column, double number) {
     if (!std::isfinite(number)) failOverflow(column);
     return number + 0.0;

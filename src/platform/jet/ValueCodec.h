@@ -8,7 +8,7 @@
 
 namespace jet {
 
-/// Bytes to store for a value, nothing for Null. Throws Failure for a value that the column cannot hold:
+/// Bytes to store for a value, nothing for Null. Throws Failure for a value that the column cannot store:
 /// another type (TypeMismatch), a number out of range (Overflow), text or bytes too long (FieldTooSmall), or
 /// a column that cannot be written (NotSupported); the text names the column. Of a memo it is the content,
 /// which Row does not take (see LongValue.h).

@@ -41,7 +41,7 @@ Proof prove(const TableState& state, const Index& index, const IndexTree::Entry&
     return countNulls(state.definition, index, field) == 0 ? Proof::Agrees : Proof::TellsNothing;
 }
 
-// An index of another making would be spoilt by the first new entry, so its own entries have to agree with
+// An index of another making would be damaged by the first new entry, so its own entries have to agree with
 // the keys that this engine would give their rows.
 std::string whyNotKept(TableState& state, size_t position) {
     const Index& index = state.definition.indexes[position];

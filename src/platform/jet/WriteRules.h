@@ -7,7 +7,7 @@
 #include "platform/jet/Key.h"
 #include "platform/jet/Row.h"
 
-/// What is asked before a table is written. All of these throw Failure and change nothing.
+/// The checks before a table is written. All of these throw Failure and change nothing.
 namespace jet {
 
 /// The table can be written at all: file, kind of table.
