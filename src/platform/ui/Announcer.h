@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// Says sentences to assistive programs, which read each when it comes: a notification in the corner of its
+/// Sends sentences to assistive programs, which read each when it comes: a notification in the corner of its
 /// window, of which there is nothing to see.
 class Announcer : public QWidget {
     Q_OBJECT

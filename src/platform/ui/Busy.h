@@ -9,8 +9,8 @@ namespace ui {
 /// Whether events of that type come from the user's hands.
 bool isInput(QEvent::Type type);
 
-/// One long piece of work that nothing may interrupt. While it lasts, windows go on being painted and answer
-/// the desktop's question whether they are alive, but clicks, keys and the like are thrown away, also those
+/// One long piece of work that nothing may interrupt. While it lasts, windows are still painted and answer
+/// the desktop's question whether they are alive, but clicks, keys and the like are dropped, also those
 /// that wait at its end.
 class Busy : public QObject {
   public:

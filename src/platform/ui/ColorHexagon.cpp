@@ -15,7 +15,7 @@ namespace ui {
 namespace {
 
 constexpr int radius = 6;        // rings around the cell in the middle
-constexpr qreal cellWidth = 24;  // of a hexagon that stands on a corner
+constexpr qreal cellWidth = 24;  // of a hexagon on one of its corners
 constexpr qreal rowPitch = 21;
 constexpr qreal cellHalfHeight = 14;
 constexpr qreal margin = 8;

@@ -4,9 +4,9 @@ namespace ui {
 
 class ColorHexagon;
 
-/// How assistive programs see a ColorHexagon: a list of its cells. To be called before one is used.
+/// The accessibility of a ColorHexagon: a list of its cells. To be called before one is used.
 void installColorHexagonAccess();
-/// Tells them that a cell has become the current one.
+/// Reports to them that a cell has become the current one.
 void announceColorCell(ColorHexagon* hexagon, int cell);
 
 }  // namespace ui

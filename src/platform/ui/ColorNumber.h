@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// Colours as the controls hold them: a number with red in the low byte.
+/// Colours as the controls store them: a number with red in the low byte.
 inline QColor colorOf(quint32 number) {
     return QColor(static_cast<int>(number & 0xff), static_cast<int>(number >> 8 & 0xff),
                   static_cast<int>(number >> 16 & 0xff));

@@ -27,7 +27,7 @@ T* find(const std::map<QString, T*>& items, const QString& name) {
 Command::Command(const QString& name, const QString& description, QAction* action, QObject* parent)
     : QObject(parent), m_name(name), m_description(description), m_action(action) {
     action->setObjectName(name);
-    // A button follows its action on its own, before this is told.
+    // A button follows its action on its own, before this is signalled.
     connect(action, &QAction::changed, this, &Command::enableButtons);
 }
 

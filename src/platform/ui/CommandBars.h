@@ -24,7 +24,7 @@ class QToolBar;
 
 namespace ui {
 
-/// A command as it is designed. "&" in the caption stands before the mnemonic; the icon is a name of the icon
+/// A command as it is designed. "&" in the caption is before the mnemonic; the icon is a name of the icon
 /// theme, empty for none.
 struct CommandDesign {
     /// Where the keys act: in the whole window, or only in a widget whose pop-up menu offers the command at
@@ -41,7 +41,7 @@ struct CommandDesign {
     bool checkable = false;
 };
 
-/// One command, or one menu, wherever it stands. Whatever is changed shows at once in every place.
+/// One command, or one menu, wherever it is. A change shows at once in every place.
 class Command : public QObject {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ class Command : public QObject {
     void setCaption(const QString& caption);
     QString Description() const { return m_description; }
     void setDescription(const QString& description);
-    /// As it was set; a command that stands on bars that are off cannot be started all the same.
+    /// As it was set; a command on bars that are off still cannot be started.
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
     /// Whether its buttons on the tool bars are on; the menus do not follow.
@@ -77,8 +77,8 @@ class Command : public QObject {
     bool m_checked = false;
 };
 
-/// A list of texts that stands in a menu. Picking one starts the list's command; the picked one is ticked.
-/// Indexes count from 1; one that does not exist is ignored, or gives an empty text.
+/// A list of texts in a menu. Picking one starts the list's command; the picked one is ticked.
+/// Indexes count from 1; one that does not exist is ignored, or returns an empty text.
 class CommandList : public QObject {
     Q_OBJECT
 
@@ -102,7 +102,7 @@ class CommandList : public QObject {
 };
 
 /// The menus, tool bars and status bar of a main window, made from commands by name. In a list of names "|"
-/// is a separator, and in that of a tool bar the lists, fields and panels may stand as well. A name that was
+/// is a separator, and in that of a tool bar the lists, fields and panels may occur as well. A name that was
 /// not added is a mistake of the program and ends it.
 ///
 /// However a command is started (menu, bar, pop-up menu, key) there is one signal for it. While its handler
@@ -119,12 +119,12 @@ class CommandBars : public QObject {
     /// A menu, to be named in a menu bar or in a list of items, or to be shown by showPopup().
     void addMenu(const QString& name, const QString& caption, const QString& description,
                  const QStringList& items);
-    /// A menu that holds nothing but a list of texts, which starts as the command `listName`.
+    /// A menu that contains nothing but a list of texts, which starts as the command `listName`.
     void addListMenu(const QString& name, const QString& caption, const QString& description,
                      const QString& listName);
     void addMenuBar(const QString& name, const QStringList& menus);
     QToolBar* addToolBar(const QString& name, const QStringList& items, Qt::ToolButtonStyle style);
-    /// A bar that is off is shown disabled, and the keys of what stands on no other bar are dead.
+    /// A bar that is off is shown disabled, and the keys of what is on no other bar are dead.
     void setBarEnabled(const QString& name, bool enabled);
 
     /// A menu that opens below its button on a tool bar: the button's icon, and keys that open it.
@@ -152,10 +152,10 @@ class CommandBars : public QObject {
     void closePopup(const QString& name);
     /// Shows a menu; returns at once.
     void showPopup(const QString& name, const QPoint& globalPosition);
-    /// Tells which menu belongs to a widget at the moment it is asked for (empty: none). The menu key opens
-    /// it, and keys of Scope::Popup act in the widget as far as that menu holds their command.
+    /// Says which menu belongs to a widget at the moment it is asked for (empty: none). The menu key opens
+    /// it, and keys of Scope::Popup act in the widget as far as that menu has their command.
     void offerPopup(QWidget* where, std::function<QString()> menuNow);
-    /// Moves the keyboard focus to the first button of the bars. Left and right go on from there, Esc goes
+    /// Moves the keyboard focus to the first button of the bars. Left and right move from there, Esc goes
     /// back.
     void focusBars();
 

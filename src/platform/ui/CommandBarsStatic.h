@@ -5,7 +5,7 @@
 namespace ui {
 
 /// A text of the status bar, cut with an ellipsis where it does not fit. Assistive programs find it as a
-/// static text; they are told of a change only by announce(), so that texts that follow the pointer stay
+/// static text; they hear of a change only by announce(), so that texts that follow the pointer stay
 /// quiet.
 class StaticItem : public QWidget {
     Q_OBJECT
@@ -15,7 +15,7 @@ class StaticItem : public QWidget {
 
     const QString& Text() const { return m_text; }
     void setText(const QString& text);
-    /// Tells assistive programs the text, unless it is the one that they were told last.
+    /// Reports the text to assistive programs, unless it was the last one reported.
     void announce();
 
     QSize sizeHint() const override;

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// Whether the desktop asks for high contrast; false until it has answered, and where there is nobody to ask.
+/// Whether the desktop asks for high contrast; false until it has answered, and where no portal answers.
 bool highContrast();
 
 /// Asks the desktop (the settings portal of freedesktop.org: "contrast" of "org.freedesktop.appearance") and

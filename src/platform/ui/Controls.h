@@ -7,7 +7,7 @@ class QFrame;
 class QPushButton;
 class QWidget;
 
-/// What the windows have in common in their make-up.
+/// Measures and controls that the windows share.
 namespace ui {
 
 // Logical pixels.

@@ -31,7 +31,7 @@ QAccessibleInterface* accessibleCount(const QString&, QObject* object) {
 CountLabel::CountLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
     static const bool installed = (QAccessible::installFactory(accessibleCount), true);
     Q_UNUSED(installed)
-    // A label with a name of its own tells nothing when its text changes. The name that is read is the text.
+    // A label with a name of its own sends nothing when its text changes. The name that is read is the text.
     setAccessibleName(QStringLiteral(" "));
 }
 

@@ -6,8 +6,8 @@
 
 namespace ui {
 
-/// A label whose text changes often. Assistive programs find the present text in it at any time, but are told
-/// of a change only by tell(): a plain label tells each of them.
+/// A label whose text changes often. Assistive programs find the present text in it at any time, but hear
+/// of a change only by tell(): a plain label reports each of them.
 class CountLabel : public QLabel {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ class CountLabel : public QLabel {
 
     void tell();
 
-    /// What more there is to say, for tool tip and description.
+    /// More text, for tool tip and description.
     Hint hint;
 
   protected:

@@ -19,7 +19,7 @@ class DataControl : public QObject {
     const QString& RecordSource() const { return m_recordSource; }
     void setRecordSource(const QString& statement) { m_recordSource = statement; }
 
-    /// Runs the record source, a `SELECT * FROM table …`, and hands a snapshot of its rows to the grid. On
+    /// Runs the record source, a `SELECT * FROM table …`, and passes a snapshot of its rows to the grid. On
     /// failure the grid keeps what it shows.
     Status Refresh();
 

@@ -32,7 +32,7 @@ class DataGrid : public QTableView {
 
     /// Number of rows, the heading row included.
     int Rows() const { return m_model->gridRows(); }
-    /// Drops the rows behind; a number above Rows() changes nothing.
+    /// Drops the rows after; a number above Rows() changes nothing.
     void setRows(int rows) { m_model->truncate(rows); }
     /// The current cell. Row 0 when there is none.
     int Row() const { return currentIndex().row() + 1; }
@@ -60,7 +60,7 @@ class DataGrid : public QTableView {
     /// the third brings the order of the fill back, and so does each fill. A click on a heading does the
     /// same.
     void sortBy(int column);
-    /// The column and direction of the heading's arrow; none while the rows stand as they came.
+    /// The column and direction of the heading's arrow; none while the rows are as they came.
     struct Order {
         int column;
         Qt::SortOrder direction;
@@ -91,7 +91,7 @@ class DataGrid : public QTableView {
     /// Painted in the middle while there is no row.
     void setEmptyText(const QString& text);
     const QString& EmptyText() const { return m_emptyText; }
-    /// Stands over the rows, which are neither seen nor reached by mouse or key meanwhile; until the next
+    /// Covers the rows, which are neither seen nor reached by mouse or key meanwhile; until the next
     /// fill, or until it is empty.
     void setNotice(const QString& text);
     const QString& Notice() const { return m_notice; }
@@ -110,7 +110,7 @@ class DataGrid : public QTableView {
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
   Q_SIGNALS:
-    /// The user, or sortBy(), asked for another order; sorted() tells which.
+    /// The user, or sortBy(), asked for another order; sorted() says which.
     void orderChanged();
     /// The rows were filled; the columns are in the table's order again.
     void afterDataRefresh();

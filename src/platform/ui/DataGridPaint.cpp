@@ -17,7 +17,7 @@ constexpr int separatorInset = 4;
 constexpr int currentMark = 2;  ///< below the heading of the current column
 constexpr int currentRim = 2;   ///< round the match that was gone to last
 
-/// A cell that holds what is looked for, told by its ground and, without colours, by the line below its text.
+/// A cell with what is looked for, marked by its ground and, without colours, by the line below its text.
 void markFound(QStyleOptionViewItem& cell) {
     const QColor ground(255, 230, 120);
     cell.font.setUnderline(true);

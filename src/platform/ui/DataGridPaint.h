@@ -25,7 +25,7 @@ class DataGridHeader : public QHeaderView {
     DataGrid* m_grid;
 };
 
-/// The cells of a DataGrid: texts, centred check boxes, lines; a cut text is told in full by a tool tip.
+/// The cells of a DataGrid: texts, centred check boxes, lines; a cut text is shown in full by a tool tip.
 class DataGridDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -56,7 +56,7 @@ bool DataGrid::sortPart(const SlicedWork::Slice& slice) {
     return false;
 }
 
-/// The rows stand as they came.
+/// The rows are as they came.
 void DataGrid::forgetOrder() {
     m_sorting.stop();
     m_sorter.reset();

@@ -5,7 +5,7 @@
 
 namespace ui {
 
-/// The notice while a statement waits for another program that works on the database. As long as it lives,
+/// The notice while a statement waits for another program that works on the database. As long as it exists,
 /// every wait of the data access layer goes through it; a stop button is clicked once the statement has
 /// returned.
 class DatabaseWait : public WaitNotice {

@@ -10,7 +10,7 @@ namespace ui {
 
 namespace {
 
-/// What a window manager puts round a window, where it does not tell; logical pixels.
+/// What a window manager puts round a window, where it does not say; logical pixels.
 constexpr QMargins usualFrame(4, 28, 4, 4);
 
 QMargins frameOf(const QWidget& window) {
@@ -25,7 +25,7 @@ QRect roomFor(const QWidget& window) {
     return window.screen()->availableGeometry().marginsRemoved(frameOf(window));
 }
 
-/// Moves the layout of a window, with all that stands in it, into an area that can be scrolled.
+/// Moves the layout of a window, with all that is in it, into an area that can be scrolled.
 void scrollContent(QWidget& window) {
     QLayout* content = window.layout();
     auto* inner = new QWidget;
@@ -83,7 +83,7 @@ void bringIntoReach(QWidget& window) {
 }
 
 void withoutCloseButton(QWidget& window) {
-    // Of a window that names no button at all the toolkit tells the window manager nothing, which then draws
+    // Of a window that names no button at all the toolkit sends the window manager nothing, which then draws
     // each of them.
     Qt::WindowFlags flags = window.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint;

@@ -4,7 +4,7 @@ class QWidget;
 
 namespace ui {
 
-/// The window over which a box or dialog stands: the active one; while there is none, a window that keeps
+/// The window over which a box or dialog is shown: the active one; while there is none, a window that keeps
 /// itself above all others, since the box would be hidden behind it. Null where there is neither.
 QWidget* dialogOwner();
 

@@ -27,7 +27,7 @@ Status damaged(const QString& path) {
             Words::tr("Il file \"%1\" non contiene una disposizione valida delle barre.").arg(path)};
 }
 
-/// The arrangement that a file holds; empty for what is no layout file.
+/// The arrangement in a file; empty for what is no layout file.
 QByteArray arrangementOf(const QByteArray& file) {
     if (file.size() < headerSize || file.size() > largestFile || !file.startsWith(magic)) return {};
     const auto* bytes = reinterpret_cast<const uchar*>(file.constData());

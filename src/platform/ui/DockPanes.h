@@ -39,7 +39,7 @@ class DockPanes {
     DockPane* DockWindows(const QString& name);
 
     /// Position, visibility and docking state of bars and panes. A file that is missing, damaged or made for
-    /// other bars and panes is told by the Status, and leaves the arrangement as it is.
+    /// other bars and panes is reported by the Status, and leaves the arrangement as it is.
     Status saveLayout(const QString& path) const;
     Status loadLayout(const QString& path);
 

@@ -41,7 +41,7 @@ std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& a
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     const QPointer<QWidget> before = dialogOwner();
     const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    // Left to itself the desktop may give the keyboard to nobody, after a list of names was open.
+    // Left to itself the desktop may give the keyboard to no window, after a list of names was open.
     if (before && !before->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus)) before->activateWindow();
     if (!accepted) return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();

@@ -7,7 +7,7 @@
 
 namespace ui {
 
-/// The one way to ask for a file. A cancelled dialog gives an empty optional. The first dialog of a run
+/// The one way to ask for a file. A cancelled dialog returns an empty optional. The first dialog of a run
 /// starts in the user's documents, each later one where the last one ended. Afterwards the window that was
 /// active before has the keyboard again.
 ///
@@ -24,14 +24,14 @@ class FileDialog {
         bool save = false;
         QString title;
         QString filter;
-        QString proposal;  ///< of a save: the name that stands in the box at first
+        QString proposal;  ///< of a save: the name that is in the box at first
         std::optional<QString> answer;
     };
 
     /// Asks for an existing file.
     static std::optional<QString> open(const QString& title, const QString& filter);
     /// Asks for a file to write; a name without suffix gets the default one. `proposal`, a name or a whole
-    /// path, stands in the box at first. Existing::Ask puts the question before an existing file is taken,
+    /// path, is in the box at first. Existing::Ask puts the question before an existing file is taken,
     /// and asks for another name on No.
     static std::optional<QString> save(const QString& title, const QString& filter,
                                        const QString& proposal = {}, Existing existing = Existing::Ask);

@@ -12,7 +12,7 @@ namespace ui {
 class Announcer;
 
 /// A bar with a field for what is looked for, where, and the buttons that go from one place to the next. It
-/// stands above a list and is hidden until it is opened. Return goes on, Shift+Return back, Esc closes.
+/// is above a list and is hidden until it is opened. Return goes on, Shift+Return back, Esc closes.
 class FindBar : public QToolBar {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ class FindBar : public QToolBar {
     int place() const;
     bool checkedOnly() const;
 
-    /// What became of the search. A sentence that is final is said to assistive programs as well.
+    /// The result of the search. A sentence that is final is said to assistive programs as well.
     void setAnswer(const QString& sentence, bool final);
     QString answer() const;
 

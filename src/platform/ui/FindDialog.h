@@ -17,7 +17,7 @@ class FindDialog : public QDialog {
     Q_OBJECT
 
   public:
-    /// Selects the next place of the text and tells whether there is one. Fails where that is not known.
+    /// Selects the next place of the text and says whether there is one. Fails where that is not known.
     using Search = std::function<Result<bool>(const QString& text, bool caseSensitive, bool backwards)>;
 
     FindDialog(QWidget* parent, Search search);

@@ -10,7 +10,7 @@
 
 namespace ui {
 
-/// What a DataGrid shows: a snapshot of rows, with the few cells that were written by hand over it. Rows and
+/// A DataGrid's model: a snapshot of rows, with the few cells that were written by hand over it. Rows and
 /// columns are numbered as the grid numbers them: row 0 is the heading row (which the toolkit's own row
 /// numbers leave out), column 0 the fixed leading column. Numbers that do not exist give an empty text and
 /// are otherwise ignored.
@@ -20,7 +20,7 @@ class GridModel : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes over new rows. The columns are those of the table, in its order, behind the leading one, headed
+    /// Takes over new rows. The columns are those of the table, in its order, after the leading one, headed
     /// by their names.
     void setSnapshot(ado::Snapshot rows);
     /// Empties all cells and headings.
@@ -35,7 +35,7 @@ class GridModel : public QAbstractTableModel {
     void arrange(std::vector<uint32_t> identities);
     /// The order in which the rows came.
     void arrangeAsFilled();
-    /// What tells the rows apart, in the order in which they are shown.
+    /// The identities of the rows, in the order in which they are shown.
     const std::vector<uint32_t>& identities() const { return m_rows.identities(); }
 
     int gridRows() const { return static_cast<int>(m_rows.size()) + 1; }

@@ -10,8 +10,8 @@ namespace ui {
 
 class DataGrid;
 
-/// Finds the rows of a DataGrid that hold a text in one of their visible columns, without regard to case and
-/// accents (text/Folding.h), in slices. Whatever changes in the grid, it begins anew by itself.
+/// Finds the rows of a DataGrid that have a text in one of their visible columns, without regard to case and
+/// accents (text/Folding.h), in slices. It begins anew by itself when the grid changes.
 class GridSearch : public QObject {
     Q_OBJECT
 
@@ -25,14 +25,14 @@ class GridSearch : public QObject {
     bool underWay() const { return m_work.underWay(); }
     /// The rows found so far, by the grid's numbers, in rising order.
     const std::vector<int>& rows() const { return m_rows; }
-    /// The next row found behind (or before) that one; 0 where there is none so far.
+    /// The next row found after (or before) that one; 0 where there is none so far.
     int after(int row) const;
     int before(int row) const;
-    /// Whether a cell is one of those that hold the text.
+    /// Whether a cell is one of those that have the text.
     bool holds(const QModelIndex& cell) const;
 
   Q_SIGNALS:
-    /// More rows were searched, or all: underWay() tells.
+    /// More rows were searched, or all: underWay() says.
     void progressed();
 
   private:

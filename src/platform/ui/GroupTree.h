@@ -14,7 +14,7 @@ class GroupNode;
 class GroupTreeItem;
 struct ItemAction;
 
-/// A node as it is handed round. It outlives its place in the tree: once removed it still answers with the
+/// A reference to a node. It outlives its place in the tree: once removed it still answers with the
 /// key and text it had, and has neither parent nor children.
 using GroupNodeRef = std::shared_ptr<GroupNode>;
 
@@ -37,7 +37,7 @@ class GroupNode {
 ///
 /// A click is the release of the left button over the node on which it was pressed, the press of the right
 /// button, or a step of the keyboard to another node; Return and the space bar click the current node again.
-/// A click on a node is told by nodeClick, then click, and after a mouse button by mouseUp; a click into
+/// A click on a node is reported by nodeClick, then click, and after a mouse button by mouseUp; a click into
 /// empty space by click and mouseUp only. A drag is no click: the selection goes back to the node last
 /// clicked.
 class GroupTree : public QTreeWidget {
@@ -56,14 +56,14 @@ class GroupTree : public QTreeWidget {
 
     void Clear();
     int Count() const { return static_cast<int>(m_items.size()); }
-    /// Adds the last child of the node `parentKey`; an empty parent key adds a root. `selectedImage` stands
+    /// Adds the last child of the node `parentKey`; an empty parent key adds a root. `selectedImage` is shown
     /// while the node is selected. Fails with ItemNotFound (no such parent) or DuplicateKey.
     Result<GroupNodeRef> Add(const QString& parentKey, const QString& key, const QString& text,
                              const QString& image, const QString& selectedImage);
     /// Removes a node with all below it; ItemNotFound for an unknown key.
     Status Remove(const QString& key);
-    /// Puts a node, with all below it, behind the children of another. Fails with ItemNotFound, or
-    /// NotSupported for a root, or when the new parent is the node itself or stands below it.
+    /// Puts a node, with all below it, after the children of another. Fails with ItemNotFound, or
+    /// NotSupported for a root, or when the new parent is the node itself or is below it.
     Status Move(const QString& key, const QString& parentKey);
     /// Null for an unknown key.
     GroupNodeRef Node(const QString& key) const;
@@ -75,7 +75,7 @@ class GroupTree : public QTreeWidget {
     void setSelectedItem(const GroupNodeRef& node);
     /// Opens the nodes above it and scrolls to it.
     void EnsureVisible(const GroupNodeRef& node);
-    /// Selects a node and tells it, as a click does.
+    /// Selects a node and reports it, as a click does.
     void Click(const GroupNodeRef& node);
     /// Null for empty space. In coordinates of the viewport.
     GroupNodeRef HitTest(const QPoint& position) const;

@@ -14,7 +14,7 @@ class Hint {
     void set(std::function<QString()> make) { m_make = std::move(make); }
     QString text() const { return m_make ? m_make() : QString(); }
     /// To be called for each event of the widget, before it is handled. The tool tip is plain whatever the
-    /// text holds, and wraps.
+    /// text contains, and wraps.
     void prepare(QWidget& widget, const QEvent& event) const {
         if (!m_make || event.type() != QEvent::ToolTip) return;
         const QString now = m_make();

@@ -15,11 +15,11 @@ struct ItemAction {
     std::function<void()> run;
 };
 
-/// What can be done with an item now; empty for one that only stands there.
+/// What can be done with an item now; empty for one that is only shown.
 using ItemActions = std::function<std::vector<ItemAction>(const QModelIndex& item)>;
 
 /// A table or a tree as assistive programs see it: the items that are not inside a closed one as cells of a
-/// table, each with the actions that a user has for it, behind one row of heads (none in a list; in a table
+/// table, each with the actions that a user has for it, after one row of heads (none in a list; in a table
 /// one column of them as well). The toolkit's own interface offers "Toggle" on each item, whatever it is.
 ///
 /// Items are numbered as the toolkit's views number them in the events that they send.
@@ -76,7 +76,7 @@ class ItemViewAccess : public QAccessibleWidget, public QAccessibleTableInterfac
     mutable QHash<int, QAccessible::Id> m_rowHeads;
 };
 
-/// Lets assistive programs see every View so; its itemActions() tells what can be done with an item.
+/// Lets assistive programs see every View so; its itemActions() says what can be done with an item.
 template <class View, QAccessible::Role role>
 void installItemViewAccess() {
     constexpr auto factory = [](const QString&, QObject* object) -> QAccessibleInterface* {

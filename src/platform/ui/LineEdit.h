@@ -13,7 +13,7 @@ class LineEdit : public QLineEdit {
     explicit LineEdit(QWidget* parent = nullptr) : LineEdit(QString(), parent) {}
     explicit LineEdit(const QString& text, QWidget* parent = nullptr);
 
-    /// The same for a box that somebody else made.
+    /// The same for a box made elsewhere.
     static void keepToOneLine(QLineEdit& box);
 };
 

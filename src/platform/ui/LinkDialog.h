@@ -21,7 +21,7 @@ class LinkDialog : public QDialog {
     /// Caption and text of what is offered.
     using Offers = QList<QPair<QString, QString>>;
 
-    /// `link` is the one at hand, without an address for a new one. With `withText` the words of the link are
+    /// `link` is the present one, without an address for a new one. With `withText` the words of the link are
     /// asked for as well.
     LinkDialog(QWidget* parent, const HtmlView::LinkInfo& link, bool withText, const Offers& offers);
 

@@ -8,13 +8,13 @@ class QCheckBox;
 
 namespace ui {
 
-/// A question about a list of things: the text, the list, a check box by which the answer is kept, "Sì" and
+/// A question about a list of items: the text, the list, a check box by which the answer is kept, "Sì" and
 /// "No". Return and Esc answer No; accept() is Yes.
 class ListQuestion : public QDialog {
     Q_OBJECT
 
   public:
-    /// What is asked. Texts are plain whatever they hold.
+    /// The question. Texts are plain whatever they contain.
     struct Content {
         QString title;
         QString text;             ///< lines separated by CR LF

@@ -33,7 +33,7 @@ class AccessibleMenuButton : public QAccessibleWidget {
         if (action != showMenuAction() && action != pressAction()) {
             QAccessibleWidget::doAction(action);
         } else if (isReachable(*button())) {
-            // showMenu() returns when the menu is left, and whoever asks waits for an answer
+            // showMenu() returns when the menu is left, and the caller waits for an answer
             QMetaObject::invokeMethod(button(), &QToolButton::showMenu, Qt::QueuedConnection);
         }
     }

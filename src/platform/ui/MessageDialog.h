@@ -9,7 +9,7 @@
 
 namespace ui {
 
-/// The one way to show a message box. Boxes are modal; the text is plain text whatever it holds.
+/// The one way to show a message box. Boxes are modal; the text is plain text whatever it contains.
 class MessageDialog {
   public:
     /// What the user sees, by the number that the program's texts are written with: low bits for the buttons
@@ -28,13 +28,13 @@ class MessageDialog {
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         int answer = Ok;
         int defaultAnswer = Yes;    ///< of a box of Yes and No: what Return presses
-        QString details;            ///< what stands below the text of a failure
+        QString details;            ///< what is below the text of a failure
         QList<QStringList> rows{};  ///< of a question with a list
         bool remembers = false;     ///< it has a check box
     };
 
     /// Shows a box over the active window and waits for its answer. Lines are separated by CR LF. Closing a
-    /// box of Yes and No by Esc answers No; `defaultAnswer` (Yes or No) tells what Return presses in it.
+    /// box of Yes and No by Esc answers No; `defaultAnswer` (Yes or No) says what Return presses in it.
     static int show(const QString& text, int style, const QString& title, int defaultAnswer = Yes);
 
     /// Shows a failure that ends the program, with the details below its text, and waits until it is closed
@@ -42,7 +42,7 @@ class MessageDialog {
     static int showFailure(const QString& text, const QString& details, bool offerRestart,
                            const QString& title);
 
-    /// Asks about a list of things, with "No" as what Return and Esc press: Yes, YesAlways or No.
+    /// Asks about a list of items, with "No" as what Return and Esc press: Yes, YesAlways or No.
     static int askAbout(const ListQuestion::Content& question);
 
     /// For unattended runs: the answer of the next box that is not answered yet. A box that meets an empty

@@ -8,9 +8,9 @@
 
 namespace ui {
 
-/// A progress bar that is also a counter: it holds its value and its maximum as they were given, also outside
+/// A progress bar that is also a counter: it keeps its value and its maximum as they were given, also outside
 /// the range from 0 to the maximum; only the drawing is clamped. It shows no text. Assistive programs see a
-/// progress bar with its value and range; they are told of a change at most every five seconds, of the value
+/// progress bar with its value and range; they hear of a change at most every five seconds, of the value
 /// 0 at once, and by tell().
 class ProgressCounter : public QWidget {
     Q_OBJECT
@@ -23,16 +23,16 @@ class ProgressCounter : public QWidget {
     double maximum() const { return m_maximum; }
     void setMaximum(double maximum);
     double value() const { return m_value; }
-    /// What changes to the eye is drawn at once: work that holds the events back shows its progress all the
+    /// A visible change is drawn at once: work that blocks the event loop shows its progress all the
     /// same.
     void setValue(double value);
-    /// Tells assistive programs the present value.
+    /// Reports the present value to assistive programs.
     void tell();
 
     /// Colour of the filled part; the palette's highlight colour where none was set.
     void setBarColor(const QColor& color);
 
-    /// What more there is to say, for tool tip and description.
+    /// More text, for tool tip and description.
     Hint hint;
 
     QSize sizeHint() const override;

@@ -31,7 +31,7 @@ class PropertyItem {
 /// A form as a list of captions and values in groups, with a line below that describes the current item. Keys
 /// are compared without case.
 ///
-/// Typing into an item starts editing. Return and Tab take the value over and go down, Esc gives the old
+/// Typing into an item starts editing. Return and Tab take the value over and go down, Esc brings the old
 /// value back; both go to the dialog while no cell is open. Space or a click toggles a yes/no. A colour is
 /// typed as "#rrggbb", and anything else leaves it as it was; or it is picked among those that a click on its
 /// swatch or arrow, F4 or Alt+Down offers.
@@ -41,7 +41,7 @@ class PropertyList : public QWidget {
   public:
     explicit PropertyList(QWidget* parent = nullptr);
 
-    /// Items stand in the order in which they are added.
+    /// Items are in the order in which they are added.
     void addGroup(const QString& key, const QString& caption);
     void addText(const QString& key, const QString& caption, const QString& description);
     void addBoolean(const QString& key, const QString& caption, const QString& description);

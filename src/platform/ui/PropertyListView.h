@@ -8,7 +8,7 @@ namespace ui {
 
 struct ItemAction;
 
-/// One line of the list as the view holds it.
+/// One line of the list as the view keeps it.
 class PropertyListRow : public QTreeWidgetItem {
   public:
     enum class Kind { Group, Text, Boolean, Colour };
@@ -33,7 +33,7 @@ class PropertyListRow : public QTreeWidgetItem {
     QVariant m_value;
 };
 
-/// Draws and edits the lines. What is typed is written on at each key.
+/// Draws and edits the lines. What is typed is stored at each key.
 class PropertyListDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

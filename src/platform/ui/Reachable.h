@@ -4,7 +4,7 @@ class QWidget;
 
 namespace ui {
 
-/// Whether the user could reach the control with the mouse: it is on and in sight, no window stands in front
+/// Whether the user could reach the control with the mouse: it is enabled and visible, no window is in front
 /// that has to be left first, and nothing runs that takes no clicks. An action of an assistive program counts
 /// for no more than a click.
 bool isReachable(const QWidget& control);

@@ -9,7 +9,7 @@
 
 namespace ui {
 
-/// Sorts rows by texts in parts, so that a window goes on meanwhile. Rows with equal texts keep their order,
+/// Sorts rows by texts in parts, so that a window stays responsive. Rows with equal texts keep their order,
 /// whichever way is sorted. For each row it needs some fifty bytes and a copy of its text.
 class RowSorter {
   public:
@@ -19,7 +19,7 @@ class RowSorter {
     /// Sorts the rows 0 to count - 1.
     RowSorter(uint32_t count, bool descending, TextOf textOf);
 
-    /// Goes on until `over`, which is asked every few dozen rows; true when all is done.
+    /// Continues until `over`, which is called every few dozen rows; true when all is done.
     bool step(const std::function<bool()>& over);
     /// The row at each place, once all is done.
     uint32_t row(uint32_t place) const { return m_entries[place].row; }

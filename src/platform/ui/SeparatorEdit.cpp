@@ -22,7 +22,7 @@ SeparatorEdit::SeparatorEdit(QWidget* parent) : LineEdit(parent) {
     tellTabs();
 }
 
-// Nobody hears or sees a tab: assistive programs are told in words.
+// A tab is neither heard nor seen: assistive programs get it in words.
 void SeparatorEdit::tellTabs() {
     setAccessibleDescription(text().contains(u'\t') ? Words::tr("Contiene una tabulazione")
                                                     : Words::tr("Ctrl+Tab inserisce una tabulazione"));

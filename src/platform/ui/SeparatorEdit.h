@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// A text box for what stands between two fields of a file. Ctrl+Tab puts a tab in, which the box shows as an
+/// A text box for what is between two fields of a file. Ctrl+Tab puts a tab in, which the box shows as an
 /// arrow.
 class SeparatorEdit : public LineEdit {
   public:

@@ -26,7 +26,7 @@ class SlicedWork {
 
     explicit SlicedWork(Part part);
 
-    /// From the next turn of the event loop on; what is under way goes on.
+    /// From the next turn of the event loop on; what is under way continues.
     void start();
     void stop() { m_timer.stop(); }
     bool underWay() const { return m_timer.isActive(); }

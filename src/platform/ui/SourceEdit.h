@@ -10,7 +10,7 @@ namespace ui {
 /// Editor for the source text of an HTML document: colours for tags, attributes, values and comments, line
 /// numbers, undo, find.
 ///
-/// The text is handed out as it was set; line ends that are typed are those that the text has.
+/// The text is returned as it was set; line ends that are typed are those that the text has.
 ///
 /// The control that edits is made when it is first shown, or first asked for what only it can do; until then
 /// this keeps the text alone.
@@ -51,14 +51,14 @@ class SourceEdit : public QWidget {
     bool CanUndo() const;
     bool CanRedo() const;
 
-    /// Selects the next occurrence behind (before) the selection, round the end of the text if need be. False
+    /// Selects the next occurrence after (before) the selection, round the end of the text if need be. False
     /// when there is none.
     bool find(const QString& text, bool caseSensitive, bool backwards);
 
     void setFontName(const QString& family);
     void setColours(const Colours& colours);
 
-    /// The name that assistive programs tell of the text.
+    /// The name of the text for assistive programs.
     void setSpokenName(const QString& name);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

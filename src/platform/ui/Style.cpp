@@ -96,7 +96,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         case PM_DockWidgetTitleMargin:
             return 5;
         case PM_HeaderMargin:
-            return 6;  // heads stand over the texts of their cells
+            return 6;  // heads are over the texts of their cells
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }

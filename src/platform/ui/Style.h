@@ -5,7 +5,7 @@
 
 namespace ui {
 
-/// Fusion with the few changes that the program's look needs: flat disabled texts, boxes whose buttons bear
+/// Fusion with the few changes that the program's look needs: flat disabled texts, boxes whose buttons show
 /// words only, tool buttons, check boxes and fields that are easy to hit, a visible focus rim in the
 /// palette's highlight colour, and "*" for each character of a password. Where the desktop asks for high
 /// contrast, dark rims and no animation.

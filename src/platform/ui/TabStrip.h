@@ -19,7 +19,7 @@ class TabStrip : public QTabWidget {
 
     explicit TabStrip(QWidget* parent = nullptr);
 
-    /// Adds a view, whose ownership passes, behind the others; `icon` is a name of the icon theme.
+    /// Adds a view, whose ownership passes, after the others; `icon` is a name of the icon theme.
     void addView(QWidget* view, const QString& caption, const QString& icon);
     /// Tabs count from 0.
     QString TabCaption(int index) const { return tabText(index); }
@@ -27,7 +27,7 @@ class TabStrip : public QTabWidget {
     QString TabToolTip(int index) const { return tabToolTip(index); }
     void setTabToolTip(int index, const QString& text) { QTabWidget::setTabToolTip(index, text); }
     void setColours(const Colours& colours);
-    /// The view behind (before) the one on show, round the end.
+    /// The view after (before) the one on show, round the end.
     void step(int by);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

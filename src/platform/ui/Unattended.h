@@ -2,7 +2,7 @@
 
 namespace ui {
 
-/// True while nobody sits before the screen (tests, the demonstration): message boxes and file dialogs then
+/// True while no user is at the screen (tests, the demonstration): message boxes and file dialogs then
 /// take their answers from the queues of MessageDialog and FileDialog instead of being shown.
 bool unattended();
 void setUnattended(bool on);

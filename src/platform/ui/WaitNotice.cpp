@@ -72,7 +72,7 @@ void WaitNotice::show() {
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setWordWrap(true);
     m_notice->setMargin(4);
-    // Above: the buttons stand below.
+    // Above: the buttons are below.
     m_notice->setGeometry(0, 0, window->width(), m_notice->heightForWidth(window->width()));
     m_notice->show();
     QAccessibleEvent alert(m_notice, QAccessible::Alert);

@@ -12,15 +12,15 @@ class QLabel;
 namespace ui {
 
 /// What the user sees and can do while the program waits for another one. A wait that lasts is shown in the
-/// status bar and, where a modal window or the splash is in front, on that window. From then on Esc gives it
-/// up; a stop button does so at any time, and is clicked once the wait is over. Windows are only painted
+/// status bar and, where a modal window or the splash is in front, on that window. From then on Esc ends
+/// it; a stop button does so at any time, and is clicked once the wait is over. Windows are only painted
 /// meanwhile: a request to close one is repeated afterwards, other mouse and key events are dropped, timers,
 /// sockets and posted events come when the event loop turns again.
 class WaitNotice : public QObject {
     Q_OBJECT
 
   public:
-    /// `words` say what is waited for. `tell` sets the text in the status bar; an empty one when the wait is
+    /// `words` name what is waited for. `tell` sets the text in the status bar; an empty one when the wait is
     /// over.
     WaitNotice(QString words, std::function<void(const QString&)> tell, QObject* parent);
     ~WaitNotice() override;

@@ -12,7 +12,7 @@ void setWindowOwner(QWidget& window, const QWidget& owner) {
     QWindow* above = owner.window()->windowHandle();
     if (above == nullptr) return;
     window.windowHandle()->setTransientParent(above);
-    // Under X11 the toolkit tells it of dialogs alone (ICCCM 4.1.2.6).
+    // Under X11 the toolkit sets it for dialogs alone (ICCCM 4.1.2.6).
     const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     if (QGuiApplication::platformName() != QLatin1String("xcb") || x11 == nullptr) return;
     const xcb_window_t number = static_cast<xcb_window_t>(above->winId());

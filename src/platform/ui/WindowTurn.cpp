@@ -12,7 +12,7 @@ namespace ui {
 
 namespace {
 
-/// What Qt calls the two sources of its main loop that hand out the window system's events: that of the X11
+/// What Qt calls the two sources of its main loop that deliver the window system's events: that of the X11
 /// platform, and that of all others.
 bool isWindowSystem(GSource* source) {
     const char* name = g_source_get_name(source);
@@ -22,7 +22,7 @@ bool isWindowSystem(GSource* source) {
 
 std::vector<GSource*> findWindowSystem() {
     GMainContext* loop = g_main_context_default();
-    // Sources are numbered as they come: the next number tells how far to look.
+    // Sources are numbered as they come: the next number says how far to look.
     GSource* next = g_idle_source_new();
     const guint end = g_source_attach(next, loop);
     g_source_destroy(next);
