@@ -20,7 +20,7 @@ class Deadline {
     Deadline(const Deadline&) = delete;
 
     bool passed() const { return m_passed; }
-    /// For what SQLite does not run: asked often, the clock is read seldom.
+    /// For what SQLite does not run: called often, the clock is read rarely.
     bool goOn() {
         constexpr int callsBetweenLooks = 1000;
         if (m_end && ++m_calls % callsBetweenLooks == 0) m_passed = Waiting::Clock::now() >= *m_end;

@@ -183,7 +183,7 @@ void JetTable::forget() {
     m_prints = {};
 }
 
-/// What was made before the last change and not wanted since stays as it was; pages that were changed here
+/// What was made before the last change and not needed since stays as it was; pages that were changed here
 /// meanwhile count as changed.
 void JetTable::changedOutside() {
     m_table = nullptr;
@@ -194,7 +194,7 @@ void JetTable::changedOutside() {
 }
 
 /// Before an order is looked for: brings those of before a change from outside in line with the table. One
-/// that cannot be, or in which too many rows may have moved, is made anew when it is wanted.
+/// that cannot be, or in which too many rows may have moved, is made anew when it is needed.
 void JetTable::renew(jet::Table& table) {
     const auto before = std::exchange(m_before, {});
     if (before.empty()) return;

@@ -31,7 +31,7 @@ Status unknownField(const QString& name) {
 
 using Changes = std::vector<std::pair<size_t, jet::Value>>;
 
-/// Gives `column` its new value, in place of one that was set before.
+/// Sets `column` to its new value, in place of one that was set before.
 void setChange(Changes& changes, size_t column, jet::Value value) {
     const auto known =
         std::find_if(changes.begin(), changes.end(), [&](const auto& c) { return c.first == column; });

@@ -12,7 +12,7 @@ namespace ado {
 
 namespace {
 
-// Blocks are filled with room for some more, and cut in two when that is used.
+// Blocks are filled with room for some more, and split in two when that is used.
 constexpr size_t rowsOfFullBlock = 384;
 constexpr size_t mostRowsOfBlock = 512;
 

@@ -61,7 +61,7 @@ void Session::forget() {
         table->forget();
 }
 
-/// Lets open recordsets pass all their rows before a write moves them.
+/// Lets open recordsets read all their rows before a write moves them.
 Status Session::finishReaders() {
     for (Rows* reader : m_readers)
         if (Status status = reader->finish(); !reader->ended()) return status;
@@ -116,7 +116,7 @@ Status Session::insertInGroup(const StatementText& statement) {
     };
     Status status = insert();
     if (status.ok()) ++m_group->taken;
-    // A group of nothing would keep the lock for nothing.
+    // An empty group would keep the lock for nothing.
     if (refused || m_group->taken == 0) commitGroup();
     return status;
 }

@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 /// A name is looked at once for the statement that follows at once.
 constexpr std::chrono::milliseconds nameIsTrusted{5};
 
-/// At most one session for each file, or they would keep each other out.
+/// At most one session for each file, or they would lock each other out.
 struct PoolEntry {
     QString path;
     QString password;  ///< that opened it

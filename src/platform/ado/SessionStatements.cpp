@@ -60,7 +60,7 @@ Result<JetTable*> Session::table(const QString& name) {
     if (!found.ok()) return found.status();
     const std::string key = tableKey(QString::fromStdString(found.value()->definition().name));
     if (JetTable* table = known(key)) return table;
-    // Some of the system's own are marked by nothing but their name.
+    // Some of the system's own are marked only by their name.
     if (found.value()->definition().system || name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
         return Status(ErrorCode::NotSupported,
                       QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));

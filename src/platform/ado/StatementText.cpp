@@ -151,7 +151,7 @@ Status readInsert(Reader& reader, StatementText& statement) {
     return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused();
 }
 
-/// Behind the word SET.
+/// After the word SET.
 std::optional<StatementText::Everywhere> readEverywhere(Reader reader) {
     QString column;
     if (!reader.takeName(column) || !reader.take("=")) return std::nullopt;

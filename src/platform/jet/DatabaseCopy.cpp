@@ -47,7 +47,7 @@ class TemporaryFile {
     bool m_there = false;
 };
 
-// Keeps everybody else away from the file that is to be replaced.
+// Locks all other processes out of the file that is to be replaced.
 void lockWhole(OsFile& file, const LockWait& wait) {
     refuseIfOpenElsewhere(file.path());
     lockWriter(file, wait);
@@ -86,8 +86,8 @@ Status Database::copyTo(const std::string& wanted, bool ownerOnly) {
         if (exists) copy.file().takeRights(old);
         Journal journal(target);
         const OsFile& owner = exists ? old : copy.file();
-        (void)journal.look(owner);  // one that must not be touched ends this here
-        // Whoever opens the new file waits until its name is rid of the old one's journal.
+        (void)journal.look(owner);  // fails for one that must not be touched
+        // A process that opens the new file waits until the old one's journal is gone.
         lockWriter(copy.file(), wait);
         lockContent(copy.file(), Lock::Exclusive, wait);
         m_engine->file.copyTo(copy.file());
@@ -98,7 +98,7 @@ Status Database::copyTo(const std::string& wanted, bool ownerOnly) {
             const Journal::Found left = journal.look(owner);
             if (left == Journal::Found::Hot || left == Journal::Found::Foreign) journal.setAside();
         } catch (const Failure&) {
-            // Whoever opens the file next finds that the journal does not fit.
+            // The next process to open the file finds that the journal does not fit.
         }
         return {};
     });

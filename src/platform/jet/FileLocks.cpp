@@ -51,7 +51,7 @@ void refuseIfOpenElsewhere(const std::string& databasePath) {
         if (!held) OsFile::remove(path);
         if (!held) return;
     } catch (const Failure&) {
-        // It cannot be opened or removed: its maker still has it.
+        // It cannot be opened or removed: its maker still has it open.
     }
     fail(ErrorCode::FileInUse, "Il database \"", databasePath, "\" è aperto in un altro programma (", path,
          "): non può essere modificato.");

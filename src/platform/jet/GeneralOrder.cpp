@@ -7,7 +7,7 @@ namespace jet {
 
 namespace {
 
-/// What one character leaves in a key. A weight: `main`, one or two bytes, and `accent` where it has one.
+/// The part of one character in a key. A weight: `main`, one or two bytes, and `accent` where it has one.
 /// Without a weight: a `special` of the last part of the key, or nothing at all.
 struct Character {
     uint16_t code;
@@ -260,7 +260,7 @@ void appendAccent(KeyParts& parts, uint8_t accent) {
 
 constexpr size_t longestUnknown = 4;
 
-/// Behind every known weight, in the order of code points, and without a zero byte.
+/// After every known weight, in the order of code points, and without a zero byte.
 char* putUnknown(char* out, char32_t code) {
     *out++ = static_cast<char>(0xff);
     for (const int shift : {14, 7, 0})

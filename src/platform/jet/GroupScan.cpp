@@ -13,7 +13,7 @@ namespace jet {
 
 namespace {
 
-// Rows found by an index lie on a page each, in the worst case. A walk reads pages in half that time.
+// Rows found by an index are on a page each, in the worst case. A walk reads pages in half that time.
 constexpr size_t pagesPerFoundRow = 4;
 
 struct Group {
@@ -51,7 +51,7 @@ class FoundRows {
 };
 
 // Nothing where no index helps: there is none, it is not known for sure, it names rows of another number, or
-// the rows are so many that a walk is sooner done.
+// the rows are so many that a walk is faster.
 std::optional<FoundRows> findByIndex(TableState& state, const Group& group) {
     const std::vector<Index>& indexes = state.definition.indexes;
     for (size_t i = 0; i < indexes.size(); ++i) {

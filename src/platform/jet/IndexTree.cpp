@@ -13,7 +13,7 @@ namespace {
 // Deeper than any index of a 2 GB file: a walk that gets here is in a cycle.
 constexpr size_t maxDepth = 20;
 
-// Leaves that are joined leave some room, so that the next insertion does not cut them again.
+// Leaves that are joined leave some room, so that the next insertion does not split them again.
 constexpr size_t fullEnough = index::room * 7 / 8;
 
 Bytes entryOf(std::span<const uint8_t> key, RowId row) {
@@ -84,7 +84,7 @@ IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
     failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
 }
 
-// Other programs store nodes with a prefix. Those on the way that are too full without one are cut up first.
+// Other programs store nodes with a prefix. Those on the way that are too full without one are split first.
 IndexTree::Path IndexTree::descendForChange(std::span<const uint8_t> wanted) {
     for (;;) {
         Path path = descend(wanted);
@@ -193,7 +193,7 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     place(path, path.size() - 1, std::move(leaf), atEnd);
 }
 
-// Cuts a page that is too full into pages that are not. At the right end of the index all but the last
+// Splits a page that is too full into pages that are not. At the right end of the index all but the last
 // entries stay together, since more are likely to follow; elsewhere a page is halved.
 std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, bool atEnd) {
     if (page.fits()) return {{std::move(page), std::move(greatest)}};
@@ -212,7 +212,7 @@ std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, b
         page.moveTail(at, right);
         middle = copyOf(page.keyAndRow(at - 1));
     } else {
-        // The entry at the cut moves up; its child becomes the left page's tail.
+        // The entry at the split moves up; its child becomes the left page's tail.
         const size_t at = atEnd ? count - 2 : count / 2;
         page.moveTail(at + 1, right);
         middle = copyOf(page.keyAndRow(at));

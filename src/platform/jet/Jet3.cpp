@@ -38,7 +38,7 @@ constexpr size_t realIndexLength = 39;
 constexpr size_t logicalIndexLength = 20;
 constexpr size_t longColumnLength = 10;
 
-// Rows go to the upper half as they lie, so each offset grows by the size of the lower one.
+// Rows go to the upper half unchanged, so each offset grows by the size of the lower one.
 void widenRows(Page& page) {
     Page wide;
     wide.fill(0);

@@ -23,7 +23,7 @@ bool Journal::leadsTo(const OsFile& file) const {
     return file.isOpen() && nameState(m_path, now) && sameFile(now, file.state());
 }
 
-/// Whether the name leads to the journal that is open, and the rights of what bears it.
+/// Whether the name leads to the journal that is open, and the rights of what has it.
 bool Journal::leadsHere(FileRights& rights) const {
     FileState now;
     return isOpen() && nameState(m_path, now, &rights) && sameFile(now, m_opened);
@@ -194,7 +194,7 @@ void Journal::finish(OsFile::Synced) {
     try {
         empty(m_file);
     } catch (const Failure&) {
-        // Halfway done is done: everybody sees the header as it is read here.
+        // A partial write may be enough: every process sees the header as it is read here.
         if (stateOf(m_file) != Found::Idle) throw;
         m_syncOwed = true;
     }
@@ -221,7 +221,7 @@ void Journal::discard() noexcept {
 }
 
 void Journal::recover(OsFile& database) {
-    // That of an own transaction serves also when somebody has taken its name away.
+    // The journal of an own transaction counts even after its name was taken away.
     const bool own = m_started;
     m_started = m_hot = false;
     m_records.clear();

@@ -50,7 +50,7 @@ struct Head {
     bool isInRow() const { return (place & inRow) != 0; }
 };
 
-// Hands out the pieces of a value that lies on long-value pages, each with its row.
+// Visits the pieces of a value that is on long-value pages, each with its row.
 void forEachPiece(PageFile& file, const Head& head,
                   const std::function<void(RowId, std::span<const uint8_t>)>& visit) {
     std::set<uint32_t> met;

@@ -75,7 +75,7 @@ struct flock requestFor(OsFile::Range range) {
 
 constexpr const char* accessListName = "system.posix_acl_access";
 
-// The rights of single users and groups beside the mode; empty where there are none. A folder can hand some
+// The rights of single users and groups beside the mode; empty where there are none. A folder can pass some
 // to each file that is made in it.
 std::vector<char> accessList(int fd) {
     const ssize_t size = ::fgetxattr(fd, accessListName, nullptr, 0);
@@ -289,7 +289,7 @@ bool OsFile::rename(const std::string& from, const std::string& to, bool replace
         if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
         if (errno == EEXIST) return false;
         if (errno != EINVAL && errno != ENOSYS) failIo("cambio di nome", to, errno);
-        // A file system without that rename: the locks of its callers let nobody of ours come in between.
+        // A file system without that rename: the locks of its callers keep our own processes out.
         if (exists(to)) return false;
     }
     if (::rename(from.c_str(), to.c_str()) != 0) failIo("cambio di nome", to, errno);

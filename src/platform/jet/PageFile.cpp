@@ -81,7 +81,7 @@ void PageFile::open() {
         throw;
     }
     m_opened = m_file.state();
-    // Before the journal is looked at: nothing is ever rolled back into a file of another kind.
+    // Before the journal is read: nothing is ever rolled back into a file of another kind.
     readHeader();
 }
 
@@ -249,7 +249,7 @@ uint32_t PageFile::append() {
     return n;
 }
 
-// A page as it lies in the file: encoded, where the file's pages are.
+// A page as it is in the file: encoded, where the file's pages are.
 Page PageFile::inFileForm(uint32_t n, const Page& page) const {
     Page bytes = page;
     if (m_header.pageKey != 0 && n != 0) codePage(m_header.pageKey, n, bytes);

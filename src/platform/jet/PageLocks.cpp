@@ -93,7 +93,7 @@ void PageFile::recover() {
     if (m_readOnly) m_journal.remove(file);
 }
 
-// The writer's lock, and a file in order. Whoever has that lock is the only one that writes, so the content
+// The writer's lock, and a file in order. The process that has it is the only one that writes, so the content
 // needs no lock for reading. Returns the file's state.
 FileState PageFile::lockForWriting() {
     if (!m_file.isOpen()) open();
@@ -108,7 +108,7 @@ FileState PageFile::lockForWriting() {
     return m_file.state();
 }
 
-// Before pages are written. Fails when another file bears the name now, or none has this one's content any
+// Before pages are written. Fails when another file has the name now, or none has this one's content any
 // more: a change of it would be lost. One that was moved away takes the change with it; its journal waits
 // under the old name.
 void PageFile::lockPages() {

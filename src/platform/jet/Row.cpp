@@ -36,7 +36,7 @@ struct Parts {
             if (maskAt < 2 * width) return;
             variables = number(maskAt - width);
             jumps = definition.jet3 ? (row.size() - 1) / 256 : 0;
-            // count, offsets and their number must find room
+            // count, offsets and their number must fit
             if (width * (variables + 3) + jumps > maskAt) return;
         }
         valid = true;

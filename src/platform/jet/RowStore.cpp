@@ -87,7 +87,7 @@ void RowStore::update(RowId id, std::span<const uint8_t> row) {
     const bool moved = old->place != id;
     if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
     const RowId body = put(row, data::notARow);
-    // Rule P3. Only a file whose map of free pages has a page in use leads here.
+    // Rule P3. Only a file whose map of free pages lists a page in use leads here.
     if (body == id || body == old->place)
         failDamaged("la pagina ", body.page, " è in uso ed è segnata come libera");
     if (moved) {

@@ -14,7 +14,7 @@ namespace jet {
 
 namespace {
 
-// A column that can be written again without changing the row is no obstacle.
+// A column that can be written again without changing the row does not matter.
 bool changes(const TableState& state, const Row& old, Row& row, const Column& column, const Value& value) {
     if (isLong(column)) return !sameLongValue(state, old, column, value);
     std::string why;
@@ -32,7 +32,7 @@ void insertEntry(TableState& state, size_t position, const Row& row, const Bytes
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, 1);
 }
 
-// The entry has one of the keys that are possible for the row, or else another one that only a walk can tell.
+// The entry has one of the keys that are possible for the row, or else another one that only a walk finds.
 void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
     const TableDefinition& table = state.definition;
     const Index& index = table.indexes[position];
@@ -50,7 +50,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
 }
 
-// Runs the part of a change that writes. When it fails half the change may stand, so the transaction is lost.
+// Runs the part of a change that writes. When it fails it may be half done, so the transaction is lost.
 template <class Work>
 void apply(TableState& state, Work&& work) {
     try {

@@ -39,7 +39,7 @@ bool walkBits(std::span<const uint8_t> bits, uint32_t first, uint32_t from,
     return true;
 }
 
-// A map's row unchanged.
+// A map's row as it is in the file.
 struct MapRow {
     PagePtr page;
     std::span<const uint8_t> bytes;
@@ -254,7 +254,7 @@ bool GlobalMap::grow(uint32_t page) {
     return true;
 }
 
-// The bitmap pages come from the end of the file, where the map that is being rebuilt has no say.
+// The bitmap pages come from the end of the file, which the map that is being rebuilt does not decide.
 void GlobalMap::takeForm1() {
     const uint32_t end = m_file.pageCount();
     const std::vector<uint32_t> members = m_map.pages();

@@ -10,7 +10,7 @@ namespace jet {
 
 namespace {
 
-// So many entries at each end of an index are held against their rows before the first change.
+// So many entries at each end of an index are compared with their rows before the first change.
 constexpr size_t entriesProved = 8;
 
 std::string columnNames(const TableDefinition& table, const Index& index) {
@@ -28,7 +28,7 @@ std::string columnNames(const TableDefinition& table, const Index& index) {
 
 enum class Proof { Agrees, Differs, TellsNothing };
 
-// Holds an entry's key against those that its row may have.
+// Compares an entry's key with those that its row may have.
 Proof prove(const TableState& state, const Index& index, const IndexTree::Entry& entry) {
     const std::optional<RowStore::Stored> stored = state.rows.find(entry.row);
     if (!stored) return Proof::Differs;
@@ -42,7 +42,7 @@ Proof prove(const TableState& state, const Index& index, const IndexTree::Entry&
 }
 
 // An index of another making would be damaged by the first new entry, so its own entries have to agree with
-// the keys that this engine would give their rows.
+// the keys that this engine would make for their rows.
 std::string whyNotKept(TableState& state, size_t position) {
     const Index& index = state.definition.indexes[position];
     if (std::string why = whyNotKept(state.definition, index); !why.empty()) return why;

@@ -21,7 +21,7 @@ Announcer::Announcer(QWidget* window) : QWidget(window) {
     hide();
 }
 
-// Qt 6.4 hands the alert to no assistive program; that a notification shows, it does.
+// Qt 6.4 does not pass the alert to assistive programs, but it does report that a notification shows.
 void Announcer::say(const QString& sentence) {
     hide();
     setAccessibleName(sentence);

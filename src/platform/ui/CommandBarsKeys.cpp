@@ -1,4 +1,4 @@
-// What the keyboard does with the bars: the keys of pop-up menus, and the walk along the tool buttons.
+// The keyboard in the bars: the keys of pop-up menus, and the walk along the tool buttons.
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>

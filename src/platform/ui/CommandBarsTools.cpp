@@ -34,7 +34,7 @@ ComboTool::ComboTool(const QString& name, const QString& description, int width)
     lineEdit()->installEventFilter(this);
 }
 
-// The box hands Return to its field twice.
+// The box sends Return to its field twice.
 bool ComboTool::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QComboBox::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();

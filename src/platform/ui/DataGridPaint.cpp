@@ -15,7 +15,7 @@ constexpr int headHeight = 26;
 constexpr int textMargin = 6;
 constexpr int separatorInset = 4;
 constexpr int currentMark = 2;  ///< below the heading of the current column
-constexpr int currentRim = 2;   ///< round the match that was gone to last
+constexpr int currentRim = 2;   ///< round the match that was visited last
 
 /// A cell with what is looked for, marked by its ground and, without colours, by the line below its text.
 void markFound(QStyleOptionViewItem& cell) {

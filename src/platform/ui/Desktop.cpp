@@ -39,7 +39,7 @@ class MenuKey : public QObject {
 
 void setUpDesktop(QApplication& application) {
     registerIcons();
-    // The desktop's own theme is not asked: the windows are always light, a dark desktop would hand out white
+    // The desktop's own theme is not used: the windows are always light, a dark desktop would return white
     // icons.
     QIcon::setThemeName(QStringLiteral("vestrola"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mail-message-new")));

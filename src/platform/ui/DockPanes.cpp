@@ -17,7 +17,7 @@ namespace {
 //   0       8     "VSTLAY1" and a line feed
 //   8       4     number of bytes of the arrangement, little-endian
 //   12      2     checksum (qChecksum) of the arrangement, little-endian
-//   14      ...   the arrangement as the toolkit hands it out
+//   14      ...   the arrangement as the toolkit returns it
 constexpr QByteArrayView magic("VSTLAY1\n");
 constexpr qsizetype headerSize = 14;
 constexpr qsizetype largestFile = 64 * 1024;

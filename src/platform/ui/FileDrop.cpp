@@ -11,7 +11,7 @@ FileDrop::FileDrop(QWidget& window, std::function<void(const QString& path)> dro
     : QObject(&window), m_dropped(std::move(dropped)) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
-    // A text box would take the file for a text and write its address in.
+    // A text box would treat the file as a text and insert its address.
     for (QLineEdit* box : window.findChildren<QLineEdit*>())
         box->installEventFilter(this);
 }

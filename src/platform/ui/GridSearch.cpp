@@ -57,7 +57,7 @@ bool GridSearch::search(const SlicedWork::Slice& slice) {
         if (matches(m_next)) m_rows.push_back(m_next);
     }
     const bool more = m_next < end;
-    // Whoever hears the last part is to find the work done.
+    // A receiver of the last part has to find the work done.
     if (more) m_work.start();
     Q_EMIT progressed();
     return false;

@@ -111,7 +111,7 @@ const PropertyListRow& PropertyListDelegate::rowOf(const QModelIndex& index) con
 void PropertyListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
     QStyleOptionViewItem cell = option;
-    // The whole line shows the selection; a rim around its second half would only disturb.
+    // The whole line shows the selection; a rim around its second half would only distract.
     cell.state &= ~QStyle::State_HasFocus;
     cell.showDecorationSelected = true;
     const PropertyListRow& row = rowOf(index);

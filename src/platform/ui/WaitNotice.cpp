@@ -18,14 +18,14 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Most waits are over before anybody sees them: until then nothing is painted and no click is lost.
+// Most waits are over before the user sees them: until then nothing is painted and no click is lost.
 constexpr milliseconds unnoticed{200};
 constexpr milliseconds betweenTurns{40};
 constexpr milliseconds lasting{1000};
 
 constexpr const char* stopMark = "endsWaitNotice";
 
-/// The window on which the user looks where that is not the one with the status bar.
+/// The window that the user looks at where that is not the one with the status bar.
 QWidget* windowInFront() {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* front = nullptr;
