@@ -7,7 +7,7 @@
 
 namespace ado {
 
-/// Sorts identities by keys: bytewise, those of one key by themselves. Meanwhile it keeps all keys.
+/// A sort of identities by keys: bytewise, those of one key by themselves. Meanwhile it keeps all keys.
 class KeySort {
   public:
     void add(std::string_view key, uint32_t id);

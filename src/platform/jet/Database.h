@@ -144,7 +144,7 @@ class Table {
 };
 
 /// A Jet file. Every read outside a transaction sees the file as it is on disk, also when another process has
-/// changed or replaced it in between; refresh() tells the caller whether that happened. Names are in UTF-8,
+/// changed or replaced it in between; refresh() reports whether that happened. Names are in UTF-8,
 /// paths in the file system's encoding.
 ///
 /// Other processes are kept out by advisory locks on the file. There is one writer at a time, from begin() to

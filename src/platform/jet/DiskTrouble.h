@@ -4,7 +4,7 @@
 
 namespace jet {
 
-/// What the system's error number means, in Italian words that complete "Errore del disco … : ".
+/// The meaning of the system's error number, in Italian words that complete "Errore del disco … : ".
 std::string diskTrouble(int error);
 
 /// A disk operation on `path` has failed (DeviceIo).

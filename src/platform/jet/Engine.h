@@ -12,7 +12,7 @@
 
 namespace jet {
 
-/// What a Database and its Tables share.
+/// The state that a Database and its Tables share.
 struct Engine {
     Engine(std::string filePath, const Database::Options& options);
 

@@ -4,7 +4,7 @@
 
 namespace jet {
 
-/// Who owns a file and who may use it.
+/// The owner of a file and its access rights.
 struct FileRights {
     uint32_t owner = 0;
     uint32_t group = 0;

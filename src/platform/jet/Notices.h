@@ -5,7 +5,7 @@
 
 namespace jet {
 
-/// What the engine did to files beside a database that the user should know of, though no call fails for it:
+/// Notices to the user of changes to files beside a database, though no call fails for them:
 /// a journal that does not belong to its database was set aside. The handler gets a whole Italian sentence.
 /// It is called in the middle of a call to the engine, with locks held: it may only keep the text for later.
 /// Without a handler the text goes to the standard error stream. Set it before other threads use the engine.

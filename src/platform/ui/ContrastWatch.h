@@ -6,8 +6,8 @@
 
 namespace ui {
 
-/// Keeps highContrast() at what the desktop says, from its first answer on; `changed` is called each time
-/// that it changes.
+/// The watcher that keeps highContrast() as the desktop says, from the first answer on; `changed` is called
+/// each time that it changes.
 class ContrastWatch : public QObject {
     Q_OBJECT
 

@@ -8,7 +8,7 @@
 
 namespace ui {
 
-/// Runs a statement for the grid that is bound to it (DataGrid::setDataSource).
+/// A data source: runs a statement for the grid that is bound to it (DataGrid::setDataSource).
 class DataControl : public QObject {
     Q_OBJECT
 

@@ -4,7 +4,7 @@ class QMimeData;
 
 namespace ui {
 
-/// What is dragged from one of our controls to another. The content names no row and no node: a row is the
+/// The drag from one of our controls to another. The content names no row and no node: a row is the
 /// current one of the grid, a node the one under the press. So it only means something inside this process.
 enum class Dragged { Nothing, Row, Node };
 

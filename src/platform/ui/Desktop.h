@@ -4,7 +4,7 @@ class QApplication;
 
 namespace ui {
 
-/// What every program of ours sets up before its first window: the drawing style, the compiled-in icons, the
+/// The set-up of every program of ours before its first window: the drawing style, the compiled-in icons, the
 /// windows' icon, Shift+F10 as a menu key, all texts in Italian.
 /// Call once, after the application object.
 void setUpDesktop(QApplication& application);

@@ -17,7 +17,7 @@ QLineEdit* textField(const QString& name, QWidget* parent);
 /// A list that cannot be typed into.
 QComboBox* choiceField(const QString& name, const QStringList& entries, QWidget* parent);
 
-/// Lays out a small dialog: fields in one column with their labels to the left, the buttons in a row below.
+/// A small dialog's layout: fields in one column with their labels to the left, the buttons in a row below.
 class DialogForm {
   public:
     explicit DialogForm(QDialog* dialog);

@@ -10,7 +10,7 @@ class QTableWidget;
 
 namespace ui {
 
-/// Edits the attributes of an element, or of one of those around it, as a list of names and values. A name
+/// A dialog for the attributes of an element, or of one of those around it: names and values. A name
 /// that is emptied takes its attribute away; the last row takes a new one.
 class ElementDialog : public QDialog {
     Q_OBJECT

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace ui {
 
-/// Lets one local file be dropped anywhere on a window, its text boxes included. Owned by the window.
+/// A drop target for one local file, anywhere on a window, its text boxes included. Owned by the window.
 class FileDrop : public QObject {
   public:
     FileDrop(QWidget& window, std::function<void(const QString& path)> dropped);

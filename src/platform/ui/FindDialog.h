@@ -11,7 +11,7 @@ class QLineEdit;
 
 namespace ui {
 
-/// Asks for a text to find. It stays open beside its window, so that one place after the other can be looked
+/// A dialog to find a text. It stays open beside its window, so that one place after the other can be looked
 /// at; Return finds the next one, Esc closes it.
 class FindDialog : public QDialog {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace ui {
 
 class DataGrid;
 
-/// Finds the rows of a DataGrid that have a text in one of their visible columns, without regard to case and
+/// A search for the rows of a DataGrid with a text in a visible column, without regard to case and
 /// accents (text/Folding.h), in slices. It begins anew by itself when the grid changes.
 class GridSearch : public QObject {
     Q_OBJECT

@@ -9,7 +9,7 @@ class QLineEdit;
 
 namespace ui {
 
-/// Asks for an image: a file or an address, its alternative text, size and alignment.
+/// A dialog that asks for an image: a file or an address, its alternative text, size and alignment.
 class ImageDialog : public QDialog {
     Q_OBJECT
 

@@ -12,7 +12,7 @@ class QLineEdit;
 
 namespace ui {
 
-/// Asks for the address of a link: a web address or a mail link, with texts offered to be put into it, and
+/// A dialog for the target of a link: a web address or a mail link, with texts offered to be put into it, and
 /// whether it is the one by which recipients sign off.
 class LinkDialog : public QDialog {
     Q_OBJECT

@@ -11,7 +11,7 @@ class QLabel;
 
 namespace ui {
 
-/// What the user sees and can do while the program waits for another one. A wait that lasts is shown in the
+/// The notice to the user while the program waits for another one. A wait that lasts is shown in the
 /// status bar and, where a modal window or the splash is in front, on that window. From then on Esc ends
 /// it; a stop button does so at any time, and is clicked once the wait is over. Windows are only painted
 /// meanwhile: a request to close one is repeated afterwards, other mouse and key events are dropped, timers,
