@@ -148,7 +148,7 @@ TEST_F(Portachiavi, FileThatWasNotWrittenWholeTakesNothingOutOfTheKeyring) {
     EXPECT_EQ(portachiavi::PasswordDi(before[0]), "segreta");
 }
 
-TEST_F(Portachiavi, PasswordThatTheFileCannotHoldStaysInTheKeyring) {
+TEST_F(Portachiavi, PasswordThatTheFileCannotContainStaysInTheKeyring) {
     const QString password = QStringLiteral("Ωmega");
     add(account(password), true);
     const Status status = change(0, table[0], false);

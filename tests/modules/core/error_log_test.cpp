@@ -35,7 +35,7 @@ class ErrorLog : public testing::Test {
 
 }  // namespace
 
-TEST_F(ErrorLog, HoldsOneLineWithTheTimeOfTheStart) {
+TEST_F(ErrorLog, ContainsOneLineWithTheTimeOfTheStart) {
     ScriviInizioLog();
     EXPECT_EQ(bytesOf(path()), QByteArray("Inizio applicazione: 09/03/26 07:05:08\r\n"));
 }

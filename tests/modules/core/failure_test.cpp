@@ -30,7 +30,7 @@ TEST(Failure, SuccessHandsTheValueOn) {
     EXPECT_EQ(esigi(Result<int>(5)), 5);
 }
 
-TEST(Failure, CarryOnKeepsTheTargetRemembersAndGoesOn) {
+TEST(Failure, CarryOnKeepsTheTargetRemembersAndContinues) {
     Prosegui prosegui;
     int target = 1;
     EXPECT_FALSE(prosegui(
@@ -58,7 +58,7 @@ TEST(Failure, NearestCarryOnCallerTakesIt) {
     EXPECT_EQ(outer.numero(), 13);
 }
 
-TEST(Failure, FallBackGivesTheDefault) {
+TEST(Failure, FallBackReturnsTheDefault) {
     EXPECT_EQ(ripiega(7, []() -> int { fallisci(ErrorCode::Overflow); }), 7);
     EXPECT_EQ(ripiega(7, [] { return 8; }), 8);
 }

@@ -86,7 +86,7 @@ TEST(Colour, IsTheSameWithAndWithoutTheHashAndInBothCases) {
     }
 }
 
-TEST(Colour, TextOfAnotherLengthGivesWhatItsPiecesGive) {
+TEST(Colour, TextOfAnotherLengthIsReadAsItsPieces) {
     EXPECT_EQ(ColoreDaHex(QStringLiteral("FFF")), 0xFFFFFu);
     EXPECT_EQ(ColoreDaHex(QStringLiteral("1")), 0x11u);
     EXPECT_EQ(ColoreDaHex(QStringLiteral("AABBCCDD")), 0xDDBBAAu);
@@ -132,7 +132,7 @@ TEST(WrittenPath, KeepsABlankThatBelongsToTheName) {
     EXPECT_EQ(PercorsoScritto(folder.filePath("a ") + '\n'), folder.filePath("a "));
 }
 
-TEST(NameOfPath, StandsBehindTheLastSlashOrBackslash) {
+TEST(NameOfPath, IsAfterTheLastSlashOrBackslash) {
     EXPECT_EQ(NomeDaPercorso(QStringLiteral("C:\\a\\b.pdf")), QStringLiteral("b.pdf"));
     EXPECT_EQ(NomeDaPercorso(QStringLiteral("/a/b.pdf")), QStringLiteral("b.pdf"));
     EXPECT_EQ(NomeDaPercorso(QStringLiteral("/a/C:\\b.pdf")), QStringLiteral("b.pdf"));

@@ -33,7 +33,7 @@ class Guasti : public testing::Test {
 
 }  // namespace
 
-TEST_F(Guasti, AnEntryHoldsTimeVersionFailureAndCircumstances) {
+TEST_F(Guasti, AnEntryContainsTimeVersionFailureAndCircumstances) {
     {
         const Operazione outer("Editor messaggi");
         const Operazione inner("Importazione da file di testo", "/a/lista.txt");

@@ -33,7 +33,7 @@ TEST(AddressBookEntry, NulsAreCutAtTheEndOnly) {
     EXPECT_EQ(TagliaNulli(""), "");
 }
 
-TEST(AddressBookEntry, ShortValueBehindALongOneKeepsNothingOfIt) {
+TEST(AddressBookEntry, ShortValueAfterALongOneKeepsNothingOfIt) {
     const auto values = readCard("EMAIL:un.indirizzo.lungo@example.it\nFN:Ada\nORG:Rossi");
     ASSERT_TRUE(values);
     EXPECT_EQ((*values)[nom], "Ada");

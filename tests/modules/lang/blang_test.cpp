@@ -66,7 +66,7 @@ const QByteArray twoLanguages = "[<LNG1>]Italiano\r\n[<LNG2>]English\r\n[<MDLO>]
 
 }  // namespace
 
-TEST_F(LanguageFile, EverySampleGivesItsListItsTextsAndItsEnd) {
+TEST_F(LanguageFile, EverySampleHasItsListItsTextsAndItsEnd) {
     EXPECT_EQ(known.size(), 373);
     for (const QJsonValue& value : vectorsOf("lang/expected.json")) {
         const QJsonObject sample = value.toObject();
@@ -99,7 +99,7 @@ TEST_F(LanguageFile, WithoutTheTextsThereIsNoFile) {
     EXPECT_TRUE(entries.isEmpty());
 }
 
-TEST_F(LanguageFile, WithoutAChoiceTheListStandsUnmarked) {
+TEST_F(LanguageFile, WithoutAChoiceTheListIsUnmarked) {
     writeBytes(folder.filePath("LANG.lng"), twoLanguages);
     EXPECT_EQ(read(), int(ErrorCode::FileNotFound));
     EXPECT_EQ(entries, QStringList({"Italiano", "English"}));

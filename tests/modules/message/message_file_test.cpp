@@ -225,7 +225,7 @@ TEST_F(MessageFile, LineThatIsMissingCountsAsTheOneBefore) {
     EXPECT_EQ(readBytes("HI").priority, QStringLiteral("HI"));
 }
 
-TEST_F(MessageFile, PreviewSkipsWhateverStandsAheadOfTheBody) {
+TEST_F(MessageFile, PreviewSkipsWhateverIsAheadOfTheBody) {
     writeBytes(path(), "\x01\x02\r\n\r\n[<END-MESS>]\r\n  [<INI-MESS>] \r\n x \r\n [<END-MESS>]\r\nrest");
     EXPECT_EQ(LeggiCorpoMss(path()), QStringLiteral(" x \r\n"));
 }
@@ -285,7 +285,7 @@ TEST_F(MessageFile, WriterTruncatesWhatWasThere) {
     EXPECT_EQ(bytesOf(path()).count('x'), 0);
 }
 
-TEST_F(MessageFile, MoreAttachmentsThanTheCounterHoldsFailBeforeTheFirst) {
+TEST_F(MessageFile, MoreAttachmentsThanTheCounterCanCountFailBeforeTheFirst) {
     MessaggioMss message;
     message.Allegati = QStringList(32768, QStringLiteral("a"));
     EXPECT_THROW(ScriviMessaggio(path(), message), Fallimento);

@@ -143,7 +143,7 @@ TEST_F(MXMessages, EqualNamesOfOneReplyAreAllKept) {
     EXPECT_EQ(mxCount, 2);
 }
 
-TEST_F(MXMessages, MoreAnswersAnnouncedThanThereAreEndAtTheZerosBehindThem) {
+TEST_F(MXMessages, MoreAnswersAnnouncedThanThereAreEndAtTheZerosAfterThem) {
     EXPECT_EQ(leggi(domanda + risposta(5, "\1a" + puntaDomanda), 65535), QStringLiteral("a.libero.it"));
     EXPECT_EQ(mxCount, 1);
 }
@@ -153,7 +153,7 @@ TEST_F(MXMessages, EmptyReplyReadsAsNoExchanger) {
     EXPECT_EQ(mxCount, 0);
 }
 
-TEST_F(MXMessages, NameStandsOnItsZeroOrBehindItsPointer) {
+TEST_F(MXMessages, NameEndsOnItsZeroOrAfterItsPointer) {
     qsizetype posizione = 0;
     EXPECT_EQ(nomeDa(QByteArray("\2mx\2it\0", 7), posizione), QStringLiteral("mx.it"));
     EXPECT_EQ(posizione, 6);

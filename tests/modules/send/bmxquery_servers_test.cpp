@@ -99,7 +99,7 @@ TEST_F(MXServers, NameOfAnAddressHasNoNul) {
     EXPECT_FALSE(NomeDaIP(QStringLiteral("127.0.0.1")).contains(QChar(0)));
 }
 
-TEST_F(MXServers, DomainIsTheTextBehindTheFirstAt) {
+TEST_F(MXServers, DomainIsTheTextAfterTheFirstAt) {
     for (const QJsonValue caso : vectorsOf(QStringLiteral("mx/domains.json"))) {
         const QString indirizzo = caso[QStringLiteral("ToAddress")].toString();
         EXPECT_EQ(DominioDi(indirizzo), caso[QStringLiteral("domain")].toString()) << indirizzo.toStdString();

@@ -60,7 +60,7 @@ TEST_F(Limits, PauseAndTimeOutAreThoseOfTheVectors) {
     }
 }
 
-TEST_F(Limits, EveryEntryOfThePauseListGivesItsInterval) {
+TEST_F(Limits, EveryEntryOfThePauseListHasItsInterval) {
     const std::vector<std::pair<const char*, int>> entries{
         {"0.0 ", 200},  {"0.5 ", 500},  {"1.0 ", 1000}, {"1.5 ", 1500}, {"2.0 ", 2000},
         {"2.5 ", 2500}, {"3.0 ", 3000}, {"3.5 ", 3500}, {"4.0 ", 4000}, {"4.5 ", 4500},
@@ -74,7 +74,7 @@ TEST_F(Limits, EveryEntryOfThePauseListGivesItsInterval) {
     EXPECT_EQ(MillisecondiPausa(QString()), 200);
 }
 
-TEST_F(Limits, EveryEntryOfTheTimeOutListGivesItsSeconds) {
+TEST_F(Limits, EveryEntryOfTheTimeOutListHasItsSeconds) {
     const std::vector<std::pair<const char*, int>> entries{
         {"5  ", 5}, {"10 ", 10}, {"20 ", 20}, {"30 ", 30}, {"60 ", 60}};
     for (const auto& [entry, seconds] : entries) {
@@ -108,7 +108,7 @@ TEST_F(Limits, TextThatIsNoNumberKeepsTheOldValue) {
     EXPECT_EQ(limit.bloccoInizio, time);
 }
 
-TEST_F(Limits, BlockLimitHoldsAsTheVectorsSay) {
+TEST_F(Limits, BlockLimitBlocksAsTheVectorsSay) {
     for (const QJsonValue vector : vectorsOf(QStringLiteral("send/block.json"))) {
         SCOPED_TRACE(vector[QLatin1String("name")].toString().toStdString());
         LimiteBlocco limit;
@@ -155,7 +155,7 @@ TEST_F(Limits, LimitOfOneOrNoneWaitsOutTheWindowEachTime) {
     }
 }
 
-TEST_F(Limits, WindowOfNoMinutesHoldsOnlyInItsFirstSecond) {
+TEST_F(Limits, WindowOfNoMinutesBlocksOnlyInItsFirstSecond) {
     LimiteBlocco limit = started(QStringLiteral("0"), QStringLiteral("1"));
     EXPECT_EQ(message(limit, 0), 0);
     EXPECT_EQ(limit.bloccoConta, 1) << "the window began anew";
@@ -177,7 +177,7 @@ TEST_F(Limits, FractionsAreThoseOfTheUsersLocale) {
     EXPECT_EQ(started(QStringLiteral("2.5"), QStringLiteral("1")).bloccoSecondi, 0) << "no number in Italian";
 }
 
-TEST_F(Limits, UncheckedBoxNeverHolds) {
+TEST_F(Limits, UncheckedBoxNeverBlocks) {
     LimiteBlocco limit;
     limit.avvia(QStringLiteral("5"), QStringLiteral("1"));
     EXPECT_EQ(message(limit, 0), 0);

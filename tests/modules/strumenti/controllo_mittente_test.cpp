@@ -189,7 +189,7 @@ TEST_F(Controllo, AccountWithoutAnAddressOrAServerIsTold) {
     EXPECT_TRUE(riga(righe, "Server raggiunto").frase.startsWith("Manca il nome del server."));
 }
 
-TEST_F(Controllo, CancelledCheckTellsNothingMore) {
+TEST_F(Controllo, CancelledCheckReportsNothingMore) {
     const NameServer nomi(NameServer::Program::Unbound, records());
     int dette = 0;
     ControlloMittente controllo({[&](int) { ++dette; }, [&] { ++dette; }});

@@ -52,7 +52,7 @@ TEST(LeggiModelloProva, takesSubjectPriorityBodyTextAndAttachments) {
     EXPECT_FALSE(model.value().inPartenza()[0].riposto);
 }
 
-TEST(LeggiModelloProva, aFileThatIsMissingOrHoldsNoMessageSaysSo) {
+TEST(LeggiModelloProva, aFileThatIsMissingOrContainsNoMessageSaysSo) {
     SampleFolder folder;
     EXPECT_TRUE(LeggiModelloProva(folder.path("niente.mss"))
                     .status()

@@ -53,7 +53,7 @@ TEST(RigaDkim, NoKeyWantsAttentionAndAnUnusableOneIsToBeMended) {
     EXPECT_EQ(rigaDi(RigaDkim, chi, Zone()).frase, "la chiave non va");
 }
 
-TEST(RigaDkim, RecordThatSpoilsTheSignatureIsToBeMended) {
+TEST(RigaDkim, RecordThatInvalidatesTheSignatureIsToBeFixed) {
     EXPECT_EQ(dkim(Zone()), Semaforo::Rosso);
     EXPECT_EQ(dkim(conRecord("v=DKIM1; p=")), Semaforo::Rosso);
     EXPECT_EQ(dkim(conRecord("v=DKIM1; p=AQID")), Semaforo::Rosso);

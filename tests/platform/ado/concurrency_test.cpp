@@ -125,7 +125,7 @@ TEST_F(ConcurrencyTest, AFileThatStaysLockedEndsInAClearError) {
 }
 
 // An open recordset does not keep another program from writing, and shows what that one wrote.
-TEST_F(ConcurrencyTest, ARecordsetThatIsOpenHoldsNobodyUp) {
+TEST_F(ConcurrencyTest, AnOpenRecordsetBlocksNobody) {
     for (int i = 0; i < 5; ++i)
         run("INSERT INTO tb_gruppi (nome) VALUES ('prima')");
     ado::Recordset rows = open("SELECT * FROM tb_gruppi ORDER BY id");

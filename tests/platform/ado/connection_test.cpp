@@ -36,7 +36,7 @@ TEST_F(ConnectionTest, OpensAndClosesAnExistingFile) {
     EXPECT_FALSE(open.isOpen());
 }
 
-TEST_F(ConnectionTest, AMissingFileIsToldByItsName) {
+TEST_F(ConnectionTest, AMissingFileIsReportedByItsName) {
     const Status status = tryOpen(inFolder("manca.mdb"));
     EXPECT_EQ(status.code(), ErrorCode::FileNotFound);
     EXPECT_TRUE(status.text().contains(QStringLiteral("manca.mdb"))) << ado::words(status);
@@ -220,7 +220,7 @@ TEST_F(ConnectionTest, EveryTableOfTheSampleFilesIsReadThroughItsStatement) {
     EXPECT_GE(tables, 50);
 }
 
-TEST_F(ConnectionTest, MoreFilesThanThePoolHoldsCanBeInUse) {
+TEST_F(ConnectionTest, MoreFilesThanThePoolContainsCanBeInUse) {
     std::vector<ado::Recordset> open_;
     for (int i = 0; i < 7; ++i) {
         const QString file = inFolder(qPrintable(QStringLiteral("lista%1.mdb").arg(i)));

@@ -44,7 +44,7 @@ TEST(ConnectionText, ThePathIsTakenLiterally) {
     EXPECT_EQ(parsed("Data Source = C:\\dati\\x.mdb").path, QStringLiteral("C:\\dati\\x.mdb"));
 }
 
-TEST(ConnectionText, APathMayHoldSemicolons) {
+TEST(ConnectionText, APathMayContainSemicolons) {
     const QString start = ado::connectionPrefix;
     for (const char* path :
          {"/dati/a;b.mdb", "/dati/a;b=c.mdb", "/a; b/;c;d.mdb", "/dati/;.mdb", "/a;;b.mdb"}) {
@@ -57,12 +57,12 @@ TEST(ConnectionText, APathMayHoldSemicolons) {
     }
 }
 
-TEST(ConnectionText, AQuotedValueMayHoldSemicolonsAndDoubledQuotes) {
+TEST(ConnectionText, AQuotedValueMayContainSemicolonsAndDoubledQuotes) {
     EXPECT_EQ(parsed("Data Source = \"a;b\"\"c.mdb\" ; Mode=Read").path, QStringLiteral("a;b\"c.mdb"));
     EXPECT_EQ(parsed("Data Source='a;b.mdb'").path, QStringLiteral("a;b.mdb"));
 }
 
-TEST(ConnectionText, TheLastOfTwoEqualKeysHolds) {
+TEST(ConnectionText, TheLastOfTwoEqualKeysCounts) {
     EXPECT_EQ(parsed("Data Source=a.mdb;Data Source=b.mdb").path, QStringLiteral("b.mdb"));
 }
 

@@ -68,7 +68,7 @@ TEST_F(RecordsetTest, AForwardOnlyCursorDoesNotKnowItsCount) {
     EXPECT_EQ(open(QStringLiteral("SELECT * FROM [tb_gruppi];"), CursorType::Keyset).recordCount(), 1);
 }
 
-TEST_F(RecordsetTest, MovesOverRowsAndStopsBehindTheLast) {
+TEST_F(RecordsetTest, MovesOverRowsAndStopsAfterTheLast) {
     addGroups({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
     Recordset rows = open("SELECT * FROM [tb_gruppi] ORDER BY nome ASC;");
     EXPECT_TRUE(rows.move(2).ok());
@@ -125,7 +125,7 @@ TEST_F(RecordsetTest, TrueSortsBeforeFalseHoweverTheRowsAreFound) {
     EXPECT_EQ(column("SELECT * FROM [tb_destinatari] WHERE NOT (sel = True) OR id_grp = 7", "id"), "1");
 }
 
-TEST_F(RecordsetTest, OrdersWithoutCaseAccentsBehindBaseLettersNullFirst) {
+TEST_F(RecordsetTest, OrdersWithoutCaseAccentsAfterBaseLettersNullFirst) {
     for (const char* name :
          {"'zeta'", "'Per\u00f2'", "'perone'", "'PERO'", "Null", "''", "'pera'", "'9'", "'10'"})
         run(QStringLiteral("INSERT INTO tb_gruppi (id_up, nome) VALUES (0, %1)")

@@ -188,7 +188,7 @@ TEST_F(SamplesReadTest, GuidsAndDecimalsAreReadAsTheyAreWritten) {
 }
 
 // The tables that a user may choose: neither system tables nor those of other files.
-TEST_F(SamplesReadTest, TheCatalogueTellsTablesFromLinksQueriesAndSystemTables) {
+TEST_F(SamplesReadTest, TheCatalogueDistinguishesTablesFromLinksQueriesAndSystemTables) {
     std::map<ado::Catalog::Kind, int> seen;
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());

@@ -68,7 +68,7 @@ TEST(StatementText, KnowsWhereRowsCanBeToldByTheirIdentities) {
     EXPECT_FALSE(accepted("INSERT INTO t SELECT * FROM t").list);
 }
 
-TEST(StatementText, TextBehindTheFirstStatementIsRefused) {
+TEST(StatementText, TextAfterTheFirstStatementIsRefused) {
     for (const char* text : {"DELETE FROM t; DELETE FROM u", "SELECT * FROM t;;", "SELECT * FROM t; x",
                              "; SELECT * FROM t", "INSERT INTO t (a) VALUES ('x'); DELETE FROM t;"})
         EXPECT_EQ(failure(text), ErrorCode::NotSupported) << text;

@@ -94,7 +94,7 @@ TEST_F(WaitingTest, NamingWhatIsNoDatabaseFailsAllTheSame) {
     EXPECT_EQ(ado::Command().setActiveConnection(connection).code(), ErrorCode::UnrecognizedFormat);
 }
 
-TEST_F(WaitingTest, AStatementThatHadToWaitGoesOnAndTellsOnceThatTheWaitIsOver) {
+TEST_F(WaitingTest, AStatementThatHadToWaitContinuesAndReportsOnceThatTheWaitIsOver) {
     lock();
     unlockAfter(3);
     EXPECT_EQ(run("UPDATE tb_gruppi SET nome = 'x'"), 3);

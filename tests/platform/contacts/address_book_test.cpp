@@ -174,7 +174,7 @@ TEST_F(AddressBookTest, FilesComeInTheOrderOfTheirNames) {
     EXPECT_EQ(names, (QByteArrayList{"Ada", "Bea", "Cleo"}));
 }
 
-TEST_F(AddressBookTest, MailClientStandsBeforeFiles) {
+TEST_F(AddressBookTest, MailClientComesBeforeFiles) {
     writeBytes(cards("a.vcf"), card("FN:File"));
     BookFixture client(mailClientBook());
     client.addCard("1", "FN:Cliente di posta");

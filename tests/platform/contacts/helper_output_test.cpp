@@ -47,7 +47,7 @@ TEST(HelperOutput, NothingOrRubbishInsteadOfTheCountIsNoFolder) {
     }
 }
 
-TEST(HelperOutput, RubbishEndsTheListBehindTheGoodEntries) {
+TEST(HelperOutput, RubbishEndsTheListAfterTheGoodEntries) {
     for (const char* rubbish :
          {"rubbish\n", "\n", "[]\n", "{\"Email1Address\":\"b@exam", "\xFF\xFE\n", "12\n"}) {
         const auto folder = readHelperOutput(QByteArray("{\"count\":3}\n") + ada + rubbish + ada);

@@ -78,7 +78,7 @@ TEST(Ldif, PostalAddressIsDividedByDollars) {
               "Via Casa 9\r\n00100 Roma");
 }
 
-TEST(Ldif, ValueBehindALinkIsNotFetched) {
+TEST(Ldif, ValueOfALinkIsNotFetched) {
     const auto cards = readLdif("dn: x\ncn:< file:///etc/hostname\nmail: a@example.it\n");
     ASSERT_EQ(cards.size(), 1u);
     EXPECT_EQ(cards.front().displayName, "");

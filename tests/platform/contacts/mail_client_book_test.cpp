@@ -81,7 +81,7 @@ TEST(MailClientBook, CardOfAnOlderVersionIsReadFromItsProperties) {
                                                            "Via Casa 9", "00100", "Roma", "02 1", "02 2"}));
 }
 
-TEST(MailClientBook, CardStandsAboveSinglePropertiesWhateverTheirOrder) {
+TEST(MailClientBook, CardComesBeforeSinglePropertiesWhateverTheirOrder) {
     const QTemporaryDir folder;
     BookFixture book(folder.filePath("abook.sqlite"));
     book.addProperty("a", "DisplayName", "prima");
@@ -94,7 +94,7 @@ TEST(MailClientBook, CardStandsAboveSinglePropertiesWhateverTheirOrder) {
     EXPECT_EQ(cards.value().front().emailAddress, "ada@example.it");
 }
 
-TEST(MailClientBook, WhatStandsInTheWriteAheadLogCounts) {
+TEST(MailClientBook, WhatIsInTheWriteAheadLogCounts) {
     const QTemporaryDir folder;
     BookFixture book(folder.filePath("abook.sqlite"), "WAL");
     book.addCard("a", "FN:Ada\nEMAIL:ada@example.it");

@@ -32,12 +32,12 @@ TEST(ResolverConfig, ServersWithoutAnIPv4AddressAreLeftOut) {
               QStringList(QStringLiteral("192.0.2.1")));
 }
 
-TEST(ResolverConfig, DomainLineIsTheOwnDomainWhereverItStands) {
+TEST(ResolverConfig, DomainLineIsTheOwnDomainWhereverItIs) {
     EXPECT_EQ(configOf("search a.example b.example\ndomain c.example\n").domain, QStringLiteral("c.example"));
     EXPECT_EQ(configOf("domain c.example\nsearch a.example b.example\n").domain, QStringLiteral("c.example"));
 }
 
-TEST(ResolverConfig, FirstNameOfSearchStandsInForTheDomain) {
+TEST(ResolverConfig, FirstNameOfSearchReplacesTheDomain) {
     EXPECT_EQ(configOf("search\ta.example b.example\n").domain, QStringLiteral("a.example"));
 }
 

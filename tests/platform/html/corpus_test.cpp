@@ -36,7 +36,7 @@ TEST_P(Newsletter, EveryPlaceholderSurvives) {
     EXPECT_EQ(m_document.documentHTML().count(placeholder), m_source.count(placeholder));
 }
 
-TEST_P(Newsletter, VisibleTextHoldsNoMarkupAndOnlyWholeLineEnds) {
+TEST_P(Newsletter, VisibleTextContainsNoMarkupAndOnlyWholeLineEnds) {
     const QString text = m_document.bodyInnerText();
     EXPECT_EQ(text.count('\n'), text.count("\r\n"));
     EXPECT_EQ(text.count('\r'), text.count("\r\n"));

@@ -123,7 +123,7 @@ TEST(InnerText, FrameSetHasNoBodyText) {
     expectText("<frameset><noframes>x</noframes></frameset>", "");
 }
 
-TEST(InnerText, TextBehindTheEndBelongsToTheBody) {
+TEST(InnerText, TextAfterTheEndBelongsToTheBody) {
     expectText("<body>a</body></html>b", "ab");
 }
 

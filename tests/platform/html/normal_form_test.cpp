@@ -94,7 +94,7 @@ TEST(NormalForm, TitleAndTextAreaAreEscaped) {
     expectBody("x<textarea>a<b>&amp;</textarea>", "x<textarea>a&lt;b&gt;&amp;</textarea>");
 }
 
-TEST(NormalForm, NoscriptHoldsElementsSinceScriptsAreOff) {
+TEST(NormalForm, NoscriptContainsElementsSinceScriptsAreOff) {
     expectBody("x<noscript><b>y</b>&amp;</noscript>", "x<noscript><b>y</b>&amp;</noscript>");
 }
 
@@ -188,7 +188,7 @@ TEST(NormalForm, CharactersOutsideWindows1252StayTheSameWhenReadAgain) {
     EXPECT_EQ(normalForm(first).toStdString(), first.toStdString());
 }
 
-TEST(NormalForm, BlanksBehindTheDocumentAreNoPartOfIt) {
+TEST(NormalForm, BlanksAfterTheDocumentAreNotPartOfIt) {
     expectBody("<p>x</p>\r\n \r\n", "<p>x</p>");
     const QString first = normalForm("<html><body>x\n</body>\n</html>\r\n");
     EXPECT_EQ(normalForm(first + "\r\n").toStdString(), first.toStdString());

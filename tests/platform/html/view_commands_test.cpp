@@ -107,7 +107,7 @@ class ViewCommands : public QObject {
         QCOMPARE(run(HtmlView::GetForeColor).toString(), QString("#000000"));
     }
 
-    void fontOfABareCaretHoldsForTheTextTypedNext() {
+    void fontOfABareCaretAppliesToTheTextTypedNext() {
         load("<HTML>\r\n<BODY>\r\n</BODY>\r\n</HTML>");
         const QString before = m_desk->view.documentHTML();
         run(HtmlView::SetFontName, "Verdana");

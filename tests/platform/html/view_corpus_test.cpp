@@ -57,8 +57,8 @@ class ViewCorpus : public QObject {
         QCOMPARE(shown.count(":::"), html.count(":::"));
     }
 
-    void staysAsItIsHoweverOftenItIsReadAgain_data() { corpus(); }
-    void staysAsItIsHoweverOftenItIsReadAgain() {
+    void staysUnchangedHoweverOftenItIsReadAgain_data() { corpus(); }
+    void staysUnchangedHoweverOftenItIsReadAgain() {
         QFETCH(QString, html);
         m_desk->view.setDocumentHTML(html);
         const QString first = m_desk->view.documentHTML();

@@ -100,7 +100,7 @@ class ViewFonts : public QObject {
         QCOMPARE(fontName(), family);
     }
 
-    void aFontThatWasWrittenIsToldByItsOwnName() {
+    void aFontThatWasWrittenIsReportedByItsOwnName() {
         load("<p><font face=\"Courier New\">uno</font></p>");
         QVERIFY(m_view->find("uno"));
         QCOMPARE(fontName(), QString("Courier New"));

@@ -79,7 +79,7 @@ class ViewImages : public QObject {
         QCOMPARE(desk.body(), QString(missing));
     }
 
-    void aCopyHoldsTheAddressesOfTheDocument() {
+    void aCopyContainsTheAddressesOfTheDocument() {
         Desk desk(missing);
         desk.selectAll();
         desk.view.execCommand(HtmlView::Copy);

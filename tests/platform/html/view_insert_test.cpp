@@ -99,7 +99,7 @@ class ViewInsert : public QObject {
         QCOMPARE(m_desk->body(), QString("<p>uno <b>:::rgs:::</b> tre</p>"));
     }
 
-    void formNeverStandsInsideAForm() {
+    void formIsNeverInsideAForm() {
         m_desk->view.setDocumentHTML("<form name=\"a\">x<input></form>");
         m_desk->view.find("x");
         QVERIFY(m_desk->view.insertHTML("<form name=\"b\"></form>"));

@@ -48,7 +48,7 @@ TEST_F(AutoNumberTest, NumbersFollowTheGreatestOfADescendingIndex) {
     expectTheNextNumbers();
 }
 
-TEST_F(AutoNumberTest, NumbersFollowTheGreatestOfAnIndexThatGoesOn) {
+TEST_F(AutoNumberTest, NumbersFollowTheGreatestOfAnIndexThatContinues) {
     makeTable({{{{1, true}, {0, true}}, 0x81}});
     expectTheNextNumbers();
 }

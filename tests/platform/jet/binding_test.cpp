@@ -161,7 +161,7 @@ TEST_F(BindingTest, SetAsideJournalsAreAllKept) {
     EXPECT_EQ(notices.size(), 3u);
 }
 
-TEST_F(BindingTest, OpenDatabaseGoesOnWhenItsFileWasReplacedAfterACrash) {
+TEST_F(BindingTest, OpenDatabaseWorksWhenItsFileWasReplacedAfterACrash) {
     DatabasePtr database = open(path());
     const std::string other = otherDatabase(7, "altra");
     crash();

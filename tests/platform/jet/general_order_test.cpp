@@ -186,7 +186,7 @@ TEST(GeneralOrder, CaseMakesNoDifference) {
     EXPECT_EQ(compare("\u00e0", "\u00c0"), 0);
 }
 
-TEST(GeneralOrder, AccentsCountBehindAllBaseLetters) {
+TEST(GeneralOrder, AccentsCountAfterAllBaseLetters) {
     EXPECT_LT(compare("pero", "per\u00f2"), 0);
     EXPECT_LT(compare("per\u00f2", "perone"), 0);
     EXPECT_LT(compare("peron", "per\u00f2ne"), 0);

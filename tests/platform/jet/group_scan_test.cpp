@@ -175,7 +175,7 @@ TEST_F(GroupScanTest, AFileLongerThanTheCacheIsWalkedAsItIsInATransaction) {
     EXPECT_EQ(group(t, Large, 1000), std::vector<RowId>());
 }
 
-TEST_F(GroupScanTest, AWalkInPartsGoesOnWhereItStood) {
+TEST_F(GroupScanTest, AWalkInPartsContinuesWhereItStopped) {
     Table& t = make({}, 16);
     fill(t, 3000);
     std::vector<RowId> all;

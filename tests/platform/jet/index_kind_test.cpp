@@ -201,7 +201,7 @@ TEST_F(IndexKindsTest, RequiredPairRefusesANullInEither) {
     expectSoundForAll(path());
 }
 
-TEST_F(IndexKindsTest, PairThatIgnoresNullsHoldsRowsWithOneNull) {
+TEST_F(IndexKindsTest, PairThatIgnoresNullsContainsRowsWithOneNull) {
     Table& t = makeTexts({{{{0, true}, {1, true}}, ignoresNulls}});
     EXPECT_OK(database->begin());
     const RowId none = insert(t, texts({}));

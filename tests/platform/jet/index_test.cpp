@@ -197,7 +197,7 @@ TEST_F(IndexKindTest, ChangedKeyMustNotBeTaken) {
     expectSound(path());
 }
 
-TEST_F(IndexKindTest, IndexThatIgnoresNullsHoldsNone) {
+TEST_F(IndexKindTest, IndexThatIgnoresNullsContainsNone) {
     redefine({{flags, 0x82}}, false);
     std::vector<Value> ids(1500);
     for (size_t i = 0; i < ids.size(); ++i)

@@ -49,7 +49,7 @@ class JournalRoomTest : public JournalTest {
     }
 };
 
-TEST_F(JournalRoomTest, EmptyJournalStandsBesideAnOpenFileAndTheLastTakesItAway) {
+TEST_F(JournalRoomTest, EmptyJournalIsBesideAnOpenFileAndTheLastRemovesIt) {
     DatabasePtr first = open(path());
     EXPECT_TRUE(first->roomReserved());
     EXPECT_GE(allocated(journal()), Journal::room);
@@ -112,7 +112,7 @@ TEST_F(JournalRoomTest, UpdatesSucceedOnADiskThatHasBecomeFull) {
     expectSound(path());
 }
 
-TEST_F(JournalRoomTest, DiskThatWasFullAtOpeningIsToldWhenAsked) {
+TEST_F(JournalRoomTest, DiskThatWasFullAtOpeningIsReportedWhenAsked) {
     setDiskHook([](const DiskStep& disk) {
         return disk.kind == DiskStep::Kind::Reserve ? DiskStep::Outcome::Full : DiskStep::Outcome::Proceed;
     });

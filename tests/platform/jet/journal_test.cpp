@@ -92,7 +92,7 @@ TEST_F(JournalTest, FailureThatStaysIsHealedByTheNextOpening) {
     }
 }
 
-TEST_F(JournalTest, SameDatabaseGoesOnAfterAFailure) {
+TEST_F(JournalTest, SameDatabaseWorksAfterAFailure) {
     DatabasePtr database = open(path());
     Table& recipients = table(*database);
     const auto addOne = [&] {

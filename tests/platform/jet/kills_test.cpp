@@ -104,7 +104,7 @@ class KillsTest : public JetTest {
     }
 };
 
-TEST_F(KillsTest, EveryStatementThatReturnedStandsInTheFile) {
+TEST_F(KillsTest, EveryStatementThatReturnedIsInTheFile) {
     create(path()).reset();
     const char* wanted = std::getenv("VESTROLA_KILLS");
     const int kills = wanted ? std::atoi(wanted) : 40;

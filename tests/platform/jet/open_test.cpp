@@ -108,7 +108,7 @@ TEST_F(OpenTest, TruncatedFileIsDamagedWhereverItIsCut) {
         expectRefused(ErrorCode::DamagedDatabase, whole.substr(0, length));
 }
 
-TEST_F(OpenTest, RoomReservedBehindTheEndIsNoDamage) {
+TEST_F(OpenTest, RoomReservedPastTheEndIsNoDamage) {
     std::string bytes = emptyBytes();
     // The map of free pages ends on page 1: pages 23 to 31 and some more are taken.
     bytes.replace(2 * 4096 - 64 + 23 / 8, 20, std::string(20, '\0'));
@@ -128,7 +128,7 @@ TEST_F(OpenTest, RoomReservedBehindTheEndIsNoDamage) {
     expectSoundForAll(path());
 }
 
-TEST_F(OpenTest, TableThatOwnsAPageBehindTheEndTellsATruncatedFile) {
+TEST_F(OpenTest, TableThatOwnsAPagePastTheEndReportsATruncatedFile) {
     std::string bytes = emptyBytes();
     bytes[2 * 4096 - 64 + 40 / 8] = '\0';
     for (const size_t map :

@@ -63,7 +63,7 @@ TEST_F(TableTest, AutoNumberIsKnownBeforeTheRowIsPosted) {
     EXPECT_EQ(recipients.takeAutoNumber().value(), 2);
 }
 
-TEST_F(TableTest, AutoNumberThatWasNotUsedIsBurnt) {
+TEST_F(TableTest, UnusedAutoNumberIsSkipped) {
     EXPECT_EQ(recipients.takeAutoNumber().value(), 1);
     EXPECT_EQ(stored(change([&] { return insert(recipients, recipient(recipients, "x")); }))[0],
               Value(int64_t{2}));

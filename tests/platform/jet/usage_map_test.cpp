@@ -133,7 +133,7 @@ TEST_F(UsageMapTest, FirstPagesAreNeverHandedOut) {
     EXPECT_GE(GlobalMap(*file).take(), firstOrdinaryPage);
 }
 
-TEST_F(UsageMapTest, PageBehindTheReachOfEveryMapTellsTheLimit) {
+TEST_F(UsageMapTest, PageBeyondEveryMapReportsTheLimit) {
     map().set(10, true);
     map().set(16 * map::pagesPerBitmap - 1, true);
     try {

@@ -31,7 +31,7 @@ QByteArray readBack(QByteArray encoded) {
     return out;
 }
 
-TEST(QuotedPrintable, PlainTextStandsAsItIs) {
+TEST(QuotedPrintable, PlainTextIsUnchanged) {
     EXPECT_EQ(quotedPrintable("a b\tc <d>!~"), "a b\tc <d>!~");
 }
 
@@ -72,7 +72,7 @@ TEST(QuotedPrintable, LinesHaveAtMost76Octets) {
     }
 }
 
-TEST(ComposeBody, TextStandsBeforeHtmlInAlternative) {
+TEST(ComposeBody, TextIsBeforeHtmlInAlternative) {
     const QByteArray data = wire(plainMessage());
     EXPECT_TRUE(header(data, "Content-Type").startsWith("multipart/alternative;"));
     const qsizetype text = data.indexOf("Content-Type: text/plain; charset=utf-8\r\n");

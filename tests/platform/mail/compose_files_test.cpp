@@ -40,7 +40,7 @@ class ComposeFiles : public ::testing::Test {
 using ComposeAttachments = ComposeFiles;
 using ComposeImages = ComposeFiles;
 
-TEST_F(ComposeAttachments, MixedStandsAroundTheRest) {
+TEST_F(ComposeAttachments, MixedContainsTheRest) {
     auto message = plainMessage();
     message.Attachments = {{makeFile(path("listino.pdf"), "%PDF-1.4 x"), "listino.pdf"}};
     const QByteArray data = compose(message);
@@ -302,7 +302,7 @@ TEST_F(ComposeImages, ChangedImageIsReadAgain) {
     EXPECT_EQ(imagesIn(compose(message)), 0);
 }
 
-TEST_F(ComposeImages, MixedStandsAroundRelatedAroundAlternative) {
+TEST_F(ComposeImages, MixedContainsRelatedContainsAlternative) {
     auto message = withHtml("<img src='" + makeFile(path("a.png"), pngContent()) + "'>");
     message.Attachments = {{makeFile(path("b.zip"), "x"), "b.zip"}};
     const QByteArray data = compose(message);

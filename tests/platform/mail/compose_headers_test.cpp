@@ -17,7 +17,7 @@ using namespace compose;
 
 namespace {
 
-TEST(ComposeHeaders, EachNecessaryHeaderStandsOnce) {
+TEST(ComposeHeaders, EachNecessaryHeaderOccursOnce) {
     EXPECT_EQ(complaintAbout(wire(plainMessage())).toStdString(), "");
     EXPECT_EQ(header(wire(plainMessage()), "MIME-Version"), "1.0");
 }
@@ -200,7 +200,7 @@ TEST(ComposeHeaders, EachMessageOfARunHasItsOwnMessageId) {
     EXPECT_EQ(seen.size(), 1000);
 }
 
-TEST(ComposeHeaders, PriorityStandsInThreeHeaders) {
+TEST(ComposeHeaders, PriorityIsInThreeHeaders) {
     auto message = plainMessage();
     message.Priority = 1;
     EXPECT_EQ(header(wire(message), "X-Priority"), "1 (Highest)");

@@ -26,7 +26,7 @@ TEST(WebAddress, WhatAUriMayNotHoldIsPercentEncoded) {
     EXPECT_EQ(uri("http://x.it/<>\\^`{|}\x01\x7F"), "http://x.it/%3C%3E%5C%5E%60%7B%7C%7D%01%7F");
 }
 
-TEST(WebAddress, WhatAUriMayHoldStays) {
+TEST(WebAddress, WhatAUriMayContainStays) {
     const char* const address = "https://a.b:80/c%20d/e+f?g=h&i=%zz#j'k(l)*!;,@~_-.\"[]$";
     EXPECT_EQ(uri(address), address);
     EXPECT_EQ(attribute(address), address);

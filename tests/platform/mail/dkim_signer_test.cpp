@@ -94,7 +94,7 @@ TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
     }
 }
 
-TEST_F(Dkim, SignatureStandsInFrontAndNamesWhatItCovers) {
+TEST_F(Dkim, SignatureIsInFrontAndNamesWhatItCovers) {
     const auto composed = compose(signedMessage());
     EXPECT_TRUE(composed.signing.ok());
     EXPECT_TRUE(composed.text.whole().startsWith("DKIM-Signature: "));

@@ -104,7 +104,7 @@ TEST_F(OutcomeBook, NamesTheRunAndWhoGotTheMessage) {
     EXPECT_GE(line.time, before.addSecs(-1));
 }
 
-TEST_F(OutcomeBook, LineStandsThereBeforeTheSignal) {
+TEST_F(OutcomeBook, LineIsWrittenBeforeTheSignal) {
     sink.refuse("bianchi@example.it", "550 5.1.1 unknown");
     QList<qsizetype> seen;
     const auto look = [&] { seen << lines().size(); };
@@ -250,7 +250,7 @@ TEST_F(OutcomeBook, LateAcceptanceAddsALineToTheRunItBelongsTo) {
     EXPECT_EQ(linesOf(runs[0]).size(), 2);
 }
 
-TEST_F(OutcomeBook, LateRefusalTellsTheServersCode) {
+TEST_F(OutcomeBook, LateRefusalReportsTheServersCode) {
     sink.treat(rossi.toUtf8(), SmtpSink::Treatment::Hold);
     client.smtp.StageTimes.finalReply = 20000;
     client.begin(7);

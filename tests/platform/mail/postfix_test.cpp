@@ -126,7 +126,7 @@ QList<mail::ComposedMessage> corpus(const QTemporaryDir& folder) {
     return messages;
 }
 
-TEST_F(RealServer, WhatLiesInTheMailboxIsWhatWasComposed) {
+TEST_F(RealServer, WhatIsInTheMailboxIsWhatWasComposed) {
     const QTemporaryDir folder;
     const auto messages = corpus(folder);
     deliver(messages, Postfix::submission);
@@ -177,7 +177,7 @@ TEST_F(RealServer, WrongPasswordCostsOneLoginInARun) {
     }
 }
 
-TEST_F(RealServer, TranscriptTellsTheWholeStoryWithoutASecret) {
+TEST_F(RealServer, TranscriptContainsTheWholeDialogueWithoutASecret) {
     const QTemporaryDir folder;
     const QByteArray password = Postfix::password.toUtf8(), user = Postfix::user.toUtf8();
     QByteArrayList ports{QByteArray::number(Postfix::submission), QByteArray::number(Postfix::implicitTls)};

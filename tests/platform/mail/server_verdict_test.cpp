@@ -14,7 +14,7 @@ bool tells(const QString& verdict, const char* what) {
     return verdict.contains(QString::fromUtf8(what));
 }
 
-TEST(ServerVerdict, TellsSpamByTheServersWords) {
+TEST(ServerVerdict, RecognisesSpamByTheServersWords) {
     for (const char* text :
          {"5.7.1 Message rejected as spam", "5.7.1 [1.2.3.4] This message is likely unsolicited mail.",
           "5.7.0 JUNK mail", "5.7.999 bulk mail is not taken, limit your rate"}) {

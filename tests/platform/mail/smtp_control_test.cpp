@@ -242,7 +242,7 @@ TEST(DeliveryControl, AbortEndsTheDeliveryBeforeItReturns) {
     }
 }
 
-TEST(DeliveryControl, AbortRightBehindSend) {
+TEST(DeliveryControl, AbortRightAfterSend) {
     ScriptedServer server({hello + message});
     Client client(server.port());
     client.smtp.ServerName.clear();

@@ -251,7 +251,7 @@ TEST_F(LateReply, OfOthersIsStillAwaitedWhenSomebodyIsChosenAnew) {
     EXPECT_TRUE(until([&] { return client.remembers(7); }));
 }
 
-TEST_F(LateReply, ControlTellsWhoIsAwaitedAndWhenNobodyIs) {
+TEST_F(LateReply, ControlSaysWhoIsAwaitedAndWhenNobodyIs) {
     int ended = 0;
     QObject::connect(&client.smtp, &mail::DeliveryControl::AwaitedEnded, [&] { ++ended; });
     EXPECT_FALSE(client.smtp.Awaiting());

@@ -73,7 +73,7 @@ TEST_F(SupportLog, EachLineBearsTimeAndDirection) {
     EXPECT_TRUE(QRegularExpression(", [0-9]+\\.[0-9]{3} s\\r\\n\\z").match(contents(path())).hasMatch());
 }
 
-TEST_F(SupportLog, TellsWhyAMessageIsNotSigned) {
+TEST_F(SupportLog, SaysWhyAMessageIsNotSigned) {
     ScriptedServer server({hello + message});
     QFile key(m_folder.filePath(QStringLiteral("example.it.pem")));
     ASSERT_TRUE(key.open(QIODevice::WriteOnly));
@@ -90,7 +90,7 @@ TEST_F(SupportLog, TellsWhyAMessageIsNotSigned) {
     EXPECT_FALSE(contents(path()).contains("segreto"));
 }
 
-TEST_F(SupportLog, TellsInItalianWhatAServerHasAgainstAMessage) {
+TEST_F(SupportLog, SaysInItalianWhyAServerRefusesAMessage) {
     const QByteArrayList upToBody = message.mid(0, message.size() - 1);
     ScriptedServer server(
         {hello + QByteArrayList{message[0], "S: 550-5.7.1 this looks", "S: 550 5.7.1 like spam"} +

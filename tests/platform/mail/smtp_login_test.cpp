@@ -190,7 +190,7 @@ TEST_F(SmtpLogin, GreetingByHeloTriesStartTlsOnce) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST_F(SmtpLogin, GreetingByHeloGoesOnInTheClearWhereStartTlsIsUnknown) {
+TEST_F(SmtpLogin, GreetingByHeloContinuesInTheClearWhereStartTlsIsUnknown) {
     ScriptedServer server(
         {QByteArrayList{"S: 220 ready", "C: HELO *", "S: 250 ready", "C: STARTTLS", "S: 502 what",
                         "C: AUTH SCRAM-SHA-256 *", "S: 504 no", "C: AUTH SCRAM-SHA-1 *", "S: 504 no",

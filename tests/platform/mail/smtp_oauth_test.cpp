@@ -217,7 +217,7 @@ TEST_F(SmtpOAuth, UnverifiedTlsGetsNoToken) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST_F(SmtpOAuth, NoLogHoldsAToken) {
+TEST_F(SmtpOAuth, NoLogContainsAToken) {
     const QString log = folder.filePath(QStringLiteral("prova.xt1"));
     giveToken(0);
     ScriptedServer server({offers("XOAUTH2") + QByteArrayList{"C: AUTH XOAUTH2 *",

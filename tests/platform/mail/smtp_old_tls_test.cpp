@@ -98,7 +98,7 @@ TEST_F(OldTls, RecipientOfAnotherServerIsServedNext) {
     EXPECT_EQ(newer.remainder(), "");
 }
 
-TEST_F(OldTls, OpportunisticRouteGoesOnWithOnePlainAttempt) {
+TEST_F(OldTls, OpportunisticRouteContinuesWithOnePlainAttempt) {
     ScriptedServer server(
         {refused, QByteArrayList{"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250 STARTTLS"} + message},
         old());

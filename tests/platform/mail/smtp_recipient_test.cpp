@@ -27,7 +27,7 @@ TEST(Recipient, MessagesOutsideARunAreNotChecked) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(Recipient, NobodyGetsNothing) {
+TEST(Recipient, NoRecipientMeansNoMessage) {
     Unasked server;
     RunClient client(server.port());
     expectRefused(client.tick(mail::recipient::nobody), "non è stato letto");
@@ -122,7 +122,7 @@ TEST(Recipient, SameNumberOfAnotherDatabaseIsAnother) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(Recipient, StopHoldsUntilTheNextRun) {
+TEST(Recipient, StopLastsUntilTheNextRun) {
     ScriptedServer server({hello + message});
     RunClient client(server.port());
     client.smtp.Abort();
@@ -196,7 +196,7 @@ TEST(Recipient, NothingIsSentThatCouldNotBeRemembered) {
     EXPECT_FALSE(server.wasAsked());
 }
 
-TEST(Recipient, TranscriptTellsWhyNothingWasSent) {
+TEST(Recipient, TranscriptSaysWhyNothingWasSent) {
     QTemporaryDir folder;
     RunClient client;
     client.smtp.LogFile = folder.filePath(QStringLiteral("prova.xt1"));

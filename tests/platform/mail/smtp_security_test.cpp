@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadCertificate{"WrongName", &TestCertificates::wrongName, "di un altro server"}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(SmtpTls, AuthorityThatNobodyTrustsIsRefused) {
+TEST_F(SmtpTls, UntrustedAuthorityIsRefused) {
     ScriptedServer server({failedStartTls}, TestCertificates::get().good());
     Client client(server.port());
     client.smtp.ServerName = QStringLiteral("localhost");
@@ -102,7 +102,7 @@ TEST_F(SmtpTls, AuthorityThatNobodyTrustsIsRefused) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST_F(SmtpTls, PlainTextBehindStartTlsIsRefused) {
+TEST_F(SmtpTls, PlainTextAfterStartTlsIsRefused) {
     ScriptedServer server({offer + QByteArrayList{"S- 220 go ahead\\r\\n250 ready\\r\\n", "WAIT"}},
                           TestCertificates::get().good());
     Client client(server.port());

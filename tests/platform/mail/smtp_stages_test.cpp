@@ -125,7 +125,7 @@ TEST(Stages, ServerThatStopsReadingBeforeTheFinalPointGetsTheTimeout) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(Stages, TimeoutAboveThemHoldsForAll) {
+TEST(Stages, TimeoutAboveThemAppliesToAll) {
     QByteArrayList late = message;
     late.insert(late.size() - 1, "PAUSE 1600");
     ScriptedServer server({lateHello + late});

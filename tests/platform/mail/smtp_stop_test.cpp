@@ -71,7 +71,7 @@ class RunOfRows {
     Rows& m_selected;
 };
 
-TEST(StopAndGoOn, AHundredTimesBringsNobodyTwoCopies) {
+TEST(StopAndGoOn, AHundredTimesNobodyGetsTwoCopies) {
     SmtpSink sink;
     sink.setDelay(slownessMs);
     RunClient client(sink.port());

@@ -27,7 +27,7 @@ class Transcript : public testing::Test {
 
 }  // namespace
 
-TEST_F(Transcript, IsMadeForItsOwnerAloneAndGoesOnBehindAnEarlierOne) {
+TEST_F(Transcript, IsMadeForItsOwnerAloneAndIsAppendedToAnEarlierOne) {
     const mode_t before = ::umask(0);
     writeOneLine();
     writeOneLine();
@@ -58,7 +58,7 @@ TEST_F(Transcript, SamePathAgainKeepsTheOpenFile) {
     EXPECT_FALSE(transcript.active());
 }
 
-TEST_F(Transcript, HoldsNothingThatSteersADisplay) {
+TEST_F(Transcript, ContainsNoTerminalControls) {
     const QByteArray hostile =
         "a\r\x1b[2J\x07\x7f\xc2\x9b"
         "31m\xe2\x80\xae\xe2\x80\xa8\xe2\x81\xa6\xe2\x80\x8b\xef\xbb\xbf\xf3\xa0\x81\x81\x9bz";

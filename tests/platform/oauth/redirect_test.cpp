@@ -93,7 +93,7 @@ TEST_F(OAuthListener, OtherRequestsDoNotDisturbIt) {
     EXPECT_EQ(answers, QByteArrayList{"|access_denied"});
 }
 
-TEST_F(OAuthListener, PageHoldsNothingOfTheRequest) {
+TEST_F(OAuthListener, PageContainsNothingOfTheRequest) {
     const QByteArray page = bring("code=%3Cscript%3E&state=" + state);
     EXPECT_FALSE(page.contains("script>"));
     EXPECT_TRUE(page.contains("default-src 'none'"));

@@ -107,7 +107,7 @@ TEST(OAuthToken, ErrorsOfTheProviderAreToldInOneLine) {
     EXPECT_EQ(other.status().text(), "Il fornitore ha rifiutato la richiesta: server _error a 250 ok b c");
 }
 
-TEST(OAuthTokenFile, PathHoldsTheUserPercentEncoded) {
+TEST(OAuthTokenFile, PathContainsTheUserPercentEncoded) {
     EXPECT_EQ(tokenPath("/d/oauth", "google", "rossi@example.it"), "/d/oauth/google/rossi%40example.it.json");
     EXPECT_EQ(tokenPath("/d/oauth", "google", "../../x"), "/d/oauth/google/..%2F..%2Fx.json");
     EXPECT_EQ(tokenPath("/d/oauth", "google", ".."), "/d/oauth/google/...json");

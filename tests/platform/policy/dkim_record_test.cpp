@@ -8,7 +8,7 @@ using namespace policy;
 
 namespace {
 
-TEST(DkimRecord, StandsBelowTheDomain) {
+TEST(DkimRecord, IsBelowTheDomain) {
     EXPECT_EQ(dkimRecordName("Uno", "Example.it"), "uno._domainkey.example.it");
 }
 

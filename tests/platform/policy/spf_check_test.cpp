@@ -48,7 +48,7 @@ TEST(SpfCheck, FirstMatchDecides) {
     EXPECT_EQ(resultOfRecord(""), Result::Neutral);
 }
 
-TEST(SpfCheck, SyntaxErrorBehindTheMatchCountsToo) {
+TEST(SpfCheck, SyntaxErrorAfterTheMatchCountsToo) {
     const Verdict verdict = spfVerdict(Zone().txt(domain, "v=spf1 +all ip4:1.2.3"), "192.0.2.1", domain);
     EXPECT_EQ(verdict.result, Result::PermError);
     EXPECT_EQ(verdict.fault, Fault::Syntax);

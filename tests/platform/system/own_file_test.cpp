@@ -80,7 +80,7 @@ TEST_F(OwnFileTest, AFolderThatIsALinkIsRefusedWhereItIsAStrangers) {
     EXPECT_EQ(QDir(folder.filePath("vera")).entryList(QDir::Files), QStringList());
 }
 
-TEST_F(OwnFileTest, ALockHoldsAsLongAsItsObject) {
+TEST_F(OwnFileTest, ALockLastsAsLongAsItsObject) {
     sys::FileLock other;
     {
         sys::FileLock lock;

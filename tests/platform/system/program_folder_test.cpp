@@ -167,7 +167,7 @@ TEST_F(ProgramFolder, MissingTextsAreLaidDownAgainAndOthersStay) {
     EXPECT_TRUE(sys::restoreTexts(folder, path(QStringLiteral("nowhere"))).ok());
 }
 
-TEST_F(ProgramFolder, RenewalTellsWhereItCannotWrite) {
+TEST_F(ProgramFolder, RenewalReportsWhereItCannotWrite) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));
     ASSERT_TRUE(QDir().mkpath(folder));
@@ -177,7 +177,7 @@ TEST_F(ProgramFolder, RenewalTellsWhereItCannotWrite) {
     EXPECT_TRUE(sys::renewTexts(folder, path(QStringLiteral("nowhere"))).ok());
 }
 
-TEST_F(ProgramFolder, FillingTellsWhereItCannotWrite) {
+TEST_F(ProgramFolder, FillingReportsWhereItCannotWrite) {
     makeTemplates();
     writeBytes(path(QStringLiteral("file")), "");
     const Status status =

@@ -57,7 +57,7 @@ TEST_F(Shell, RefusesWhatIsNoAddress) {
     }
 }
 
-TEST_F(Shell, TellsThatThereIsNoOpener) {
+TEST_F(Shell, ReportsThatThereIsNoOpener) {
     qputenv("PATH", "/nonexistent");
     EXPECT_EQ(sys::openAddress(QStringLiteral("https://www.quintara.example/")).code(),
               ErrorCode::PathAccess);

@@ -33,7 +33,7 @@ TEST_F(TextWriter, WriterEndsEachLineWithCarriageReturnAndLineFeed) {
     EXPECT_EQ(bytesOf(path()), QByteArray("Perch\xe9 \x80 ?\r\n\r\n"));
 }
 
-TEST_F(TextWriter, OutputEmptiesAndAppendGoesOn) {
+TEST_F(TextWriter, OutputEmptiesAndAppendContinues) {
     writeBytes(path(), "old");
     sys::TextWriter writer;
     ASSERT_TRUE(writer.open(path(), WriteMode::Append, FileKind::Document).ok());
@@ -45,7 +45,7 @@ TEST_F(TextWriter, OutputEmptiesAndAppendGoesOn) {
     EXPECT_EQ(bytesOf(path()), QByteArray());
 }
 
-TEST_F(TextWriter, WriterTellsWhereItCannotWrite) {
+TEST_F(TextWriter, WriterReportsWhereItCannotWrite) {
     sys::TextWriter writer;
     EXPECT_EQ(writer.open(path(QStringLiteral("missing/file")), WriteMode::Output, FileKind::Document).code(),
               ErrorCode::PathAccess);

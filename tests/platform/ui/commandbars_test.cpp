@@ -75,7 +75,7 @@ class TestCommandBars : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void captionShowsAtOnceWhereverTheCommandStands() {
+    void captionShowsAtOnceWhereverTheCommandIs() {
         Window w;
         w.bars.GetToolButton("cmdOpen")->setCaption("&Open list");
         QCOMPARE(w.bars.GetToolButton("cmdOpen")->Caption(), "&Open list");
@@ -252,7 +252,7 @@ class TestCommandBars : public QObject {
         QVERIFY(w.menu("mnuLanguage")->actions().isEmpty());
     }
 
-    void statusBarHoldsItsItemsFromLeftToRight() {
+    void statusBarContainsItsItemsFromLeftToRight() {
         Window w;
         const QWidget* help = w.bars.GetStatic("stcHelp");
         const QWidget* progress = w.bars.GetProgress("stcProgress");

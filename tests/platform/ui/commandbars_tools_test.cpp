@@ -122,7 +122,7 @@ class TestCommandBarsTools : public QObject {
         QVERIFY(w.edited.isEmpty());
     }
 
-    void typingInAFieldTellsOfEachChange() {
+    void typingInAFieldReportsEachChange() {
         Window w;
         auto* edit = w.find<QLineEdit>("txtSubject");
         edit->setFocus();

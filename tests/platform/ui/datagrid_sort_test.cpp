@@ -99,7 +99,7 @@ class TestDataGridSort : public QObject {
         QCOMPARE(test.click.count(), 0);
     }
 
-    void headingTellsItsOrderToAssistivePrograms() {
+    void headingReportsItsOrderToAssistivePrograms() {
         Window test;
         const auto told = [&] {
             const auto* face =
@@ -272,7 +272,7 @@ class TestDataGridSort : public QObject {
         QCOMPARE(test.found("uno"), QString("uno"));
     }
 
-    void searchGoesOnWithAnotherFillAndAnotherOrder() {
+    void searchContinuesWithAnotherFillAndAnotherOrder() {
         Window test;
         QCOMPARE(test.found("per"), QString("acero Betulla"));
         test.sort(3);

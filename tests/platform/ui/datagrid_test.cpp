@@ -80,7 +80,7 @@ class TestDataGrid : public QObject {
         QCOMPARE(w.grid->TextMatrix(0, 3), "Email");
     }
 
-    void columnsComeInTheTablesOrderBehindTheFixedOne() {
+    void columnsComeInTheTablesOrderAfterTheFixedOne() {
         Window w(false);
         QStringList heads;
         disconnect(w.grid, &DataGrid::afterDataRefresh, w.grid, nullptr);
@@ -341,7 +341,7 @@ class TestDataGrid : public QObject {
         QVERIFY(other.hasFocus());
     }
 
-    void cutTextIsToldByAToolTip() {
+    void cutTextIsShownByAToolTip() {
         Window w;
         w.grid->setColWidth(5, 40);
         w.grid->setTextMatrix(1, 5, "Un nome <b>lungo");

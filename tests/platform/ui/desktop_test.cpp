@@ -280,7 +280,7 @@ class TestUi : public QObject {
         QVERIFY(!asked.answer);
     }
 
-    void counterHoldsValuesAsTheyAre() {
+    void counterKeepsValuesUnchanged() {
         ui::ProgressCounter counter;
         counter.setMaximum(3);
         counter.setValue(-1.5);

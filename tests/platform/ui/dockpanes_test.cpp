@@ -54,7 +54,7 @@ class TestDockPanes : public QObject {
     QString path() const { return m_folder.filePath("Layout.imp"); }
 
   private Q_SLOTS:
-    void paneStandsWhereItWasDesigned() {
+    void paneIsWhereItWasDesigned() {
         Window w;
         QCOMPARE(w.window.dockWidgetArea(w.dock()), Qt::LeftDockWidgetArea);
         QCOMPARE(w.dock()->width(), 230);

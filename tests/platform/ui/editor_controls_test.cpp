@@ -27,7 +27,7 @@ class TestEditorControls : public QObject {
     }
 
   private Q_SLOTS:
-    void theHexagonHoldsThePureColoursAndTheGreys() {
+    void theHexagonContainsThePureColoursAndTheGreys() {
         const ColorHexagon hexagon;
         QCOMPARE(hexagon.cellCount(), 127 + 13);
         for (const quint32 color :
@@ -145,7 +145,7 @@ class TestEditorControls : public QObject {
         QCOMPARE(edit.Text(), text + "!");
     }
 
-    void theSourceTellsOfAChangedTextBeforeItIsShown() {
+    void theSourceReportsAChangedTextBeforeItIsShown() {
         SourceEdit edit;
         QSignalSpy changed(&edit, &SourceEdit::textChanged);
         edit.setText("uno");

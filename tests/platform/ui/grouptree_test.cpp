@@ -99,7 +99,7 @@ class TestGroupTree : public QObject {
         QCOMPARE(w.tree->Count(), 4);
     }
 
-    void newNodeStandsLastAndIsNotSelected() {
+    void newNodeIsLastAndNotSelected() {
         Window w;
         w.tree->setSelectedItem(w.tree->Node("B"));
         w.add("R", "N", "Abete");
@@ -144,7 +144,7 @@ class TestGroupTree : public QObject {
         QCOMPARE(node->Children(), 0);
     }
 
-    void nodeMovesWithItsChildrenBehindTheOthers() {
+    void nodeMovesWithItsChildrenAfterTheOthers() {
         Window w;
         w.add("B", "B1", "Betulla uno");
         w.tree->setSelectedItem(w.tree->Node("A"));
@@ -184,7 +184,7 @@ class TestGroupTree : public QObject {
         QCOMPARE(int(w.tree->Move("A", "").code()), int(ErrorCode::ItemNotFound));
     }
 
-    void leftClickTellsNodeThenClickThenUp() {
+    void leftClickReportsNodeThenClickThenUp() {
         Window w;
         mouse::press(w.tree, w.at("B"));
         QVERIFY(w.events.isEmpty());
@@ -249,7 +249,7 @@ class TestGroupTree : public QObject {
         QVERIFY(w.events.isEmpty());
     }
 
-    void movingTellsEachTime() {
+    void movingReportsEachTime() {
         Window w;
         QSignalSpy moves(w.tree, &GroupTree::mouseMove);
         mouse::move(w.tree, w.at("A"));

@@ -114,7 +114,7 @@ class TestFrmAccountArchivio : public QObject {
         }
     }
 
-    void withoutALanguageTheBoxHoldsLineEndsOnly() {
+    void withoutALanguageTheBoxContainsLineEndsOnly() {
         AccountStage stage;
         for (QString* text : {&bVAR::ImpossibileContinuare, &bVAR::accNomeVisual, &bVAR::accEmailCorretta,
                               &bVAR::accServerSMTP})
@@ -173,7 +173,7 @@ class TestFrmAccountArchivio : public QObject {
         QCOMPARE(stage.records().at(1), "1|Rossi|copia@rossi.it|mail.rossi.it|25|1|rossi|segreta|EHLO|0|1");
     }
 
-    void accountWithoutServerKeepsWhateverThePortHolds() {
+    void accountWithoutServerKeepsWhateverThePortContains() {
         AccountStage stage;
         stage.fill({"a", "a@b.it", "", "xyz", "0", "", "", "EHLO", "0", "0"});
         stage.click("cmdNuovo");
@@ -276,7 +276,7 @@ class TestFrmAccountArchivio : public QObject {
         failsToLoad(stage, "Errore 13:");
     }
 
-    void fieldsBehindTheEleventhAreDropped() {
+    void fieldsAfterTheEleventhAreDropped() {
         AccountStage stage({one + "|altro|ancora"});
         stage.press(0);
         stage.click("cmdModifica");

@@ -93,7 +93,7 @@ class TestFrmAccountBrowser : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void linkStandsUnderThePasswordWhereTheServerBelongsToAProvider() {
+    void linkIsUnderThePasswordWhereTheServerBelongsToAProvider() {
         BrowserStage stage;
         QVERIFY(!stage.link().isVisible());
         for (const char* server : {"smtp.prova.example", "SMTP.Prova.Example", "smtp.prova.example."}) {
@@ -253,7 +253,7 @@ class TestFrmAccountBrowser : public QObject {
         QVERIFY(!stage.waiting());
     }
 
-    void keyboardReachesTheLinkBehindThePassword() {
+    void keyboardReachesTheLinkAfterThePassword() {
         BrowserStage stage({account});
         stage.press(0);
         stage.check("chkAutentick", true);

@@ -159,7 +159,7 @@ class TestFrmAccountElenco : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void positionBehindTheTableEndsTheProgram() {
+    void positionPastTheTableEndsTheProgram() {
         AccountStage stage({"0|a|a@b.it||25|0|||EHLO|0|0", "0|b|b@b.it||25|0|||EHLO|0|0"});
         ui::MessageDialog::queue(ui::MessageDialog::Ok);
         stage.press(1);
@@ -266,7 +266,7 @@ class TestFrmAccountElenco : public QObject {
         QCOMPARE(stage.list().count(), left);
     }
 
-    void entryBehindTheDeletedOneBecomesCurrent() {
+    void entryAfterTheDeletedOneBecomesCurrent() {
         AccountStage stage(three);
         stage.press(0);
         stage.key(Qt::Key_Delete);
@@ -379,7 +379,7 @@ class TestFrmAccountElenco : public QObject {
         QVERIFY(stage.window->isVisible());
     }
 
-    void closeButtonHidesItAndKeepsWhatItHolds() {
+    void closeButtonHidesItAndKeepsWhatItContains() {
         AccountStage stage(three);
         stage.press(0);
         stage.type("txtNomeVisual", "in corso");

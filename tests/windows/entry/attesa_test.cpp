@@ -172,7 +172,7 @@ class TestAttesa : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void escGivesAWaitUpOnceItIsShown() {
+    void escCancelsAWaitOnceItIsShown() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
@@ -258,12 +258,12 @@ class TestAttesa : public QObject {
         QVERIFY(shown);
     }
 
-    void theStopButtonGivesTheTicksWaitUpAndThenStopsTheRun_data() {
+    void theStopButtonCancelsTheTicksWaitAndThenStopsTheRun_data() {
         QTest::addColumn<bool>("byKey");
         QTest::newRow("mouse") << false;
         QTest::newRow("key") << true;
     }
-    void theStopButtonGivesTheTicksWaitUpAndThenStopsTheRun() {
+    void theStopButtonCancelsTheTicksWaitAndThenStopsTheRun() {
         QFETCH(bool, byKey);
         SendStage stage({"a@x.it", "b@x.it"});
         ui::DatabaseWait wait([](const QString&) {}, nullptr);

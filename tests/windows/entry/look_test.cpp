@@ -89,7 +89,7 @@ class TestLook : public QObject {
         QCOMPARE(stage.control<QWidget>("cmdChiudi")->geometry().bottom(), stage.window->height() - 13);
     }
 
-    void barsStandStillWhileTheFiguresGrow() {
+    void barsDoNotMoveWhileTheFiguresGrow() {
         SendStage stage({"a@x.it"});
         const QRect before = stage.control<QWidget>("prgFallite")->geometry();
         stage.control<QLabel>("lblFallite")->setText("Email non inviate: 9.999.999");

@@ -260,7 +260,7 @@ class TestPosizione : public QObject {
         QVERIFY(file.contains("mnWindowState.: 2\r\n"));
     }
 
-    void theMainWindowsNormalStateHoldsForAMaximisedEditorToo() {
+    void theMainWindowsNormalStateAppliesToAMaximisedEditorToo() {
         StoreStage stage;
         stage.window();
         QWidget editor;

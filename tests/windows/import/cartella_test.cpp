@@ -188,7 +188,7 @@ class TestImportCartella : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
     }
 
-    void newGroupStandsAtTheTopLevelWhateverIsSelected() {
+    void newGroupIsAtTheTopLevelWhateverIsSelected() {
         Stage stage;
         stage.window();
         stage.clickNode("K1");
@@ -222,7 +222,7 @@ class TestImportCartella : public QObject {
         QCOMPARE(Stage::look("SELECT nome FROM [tb_gruppi] WHERE id = " + id + " ;"), "");
     }
 
-    void aCarryOnImportGoesOnWhereTheGroupCannotBeMade() {
+    void aCarryOnImportContinuesWhereTheGroupCannotBeMade() {
         Stage stage;
         stage.window();
         ado::Recordset rs = RecordsetDB();

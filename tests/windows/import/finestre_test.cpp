@@ -67,8 +67,8 @@ class TestImportFinestre : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void eachBoxStandsUnderTheLabelOfItsColumn_data() { bothWindows(); }
-    void eachBoxStandsUnderTheLabelOfItsColumn() {
+    void eachBoxIsUnderTheLabelOfItsColumn_data() { bothWindows(); }
+    void eachBoxIsUnderTheLabelOfItsColumn() {
         QFETCH(bool, text);
         Stage stage(text);
         const QStringList labels{"Ragione Sociale:", "Nome:",      "Email:",     "P.Iva o Cod.Fis.:", "CAP:",

@@ -61,13 +61,13 @@ class TestImportDbGuasti : public QObject {
     }
 
   private Q_SLOTS:
-    void whatIsNoDatabaseTellsWhyAndLeavesTheBoxesEmpty_data() {
+    void whatIsNoDatabaseSaysWhyAndLeavesTheBoxesEmpty_data() {
         QTest::addColumn<QString>("kind");
         for (const char* kind : {"empty path", "directory", "device", "pipe", "text", "empty file", "binary",
                                  "unreadable", "zeros of 2 GB", "semicolon in the path", "quote in the path"})
             QTest::newRow(kind) << kind;
     }
-    void whatIsNoDatabaseTellsWhyAndLeavesTheBoxesEmpty() {
+    void whatIsNoDatabaseSaysWhyAndLeavesTheBoxesEmpty() {
         QFETCH(QString, kind);
         DbStage stage;
         QString path = stage.folder.path("sorgente.mdb");
@@ -172,7 +172,7 @@ class TestImportDbGuasti : public QObject {
         QCOMPARE(DbStage::recipients(), manyRecords);
     }
 
-    void aSourceThatSomebodyElseWritesToTellsSo() {
+    void aSourceThatSomebodyElseWritesToSaysSo() {
         DbStage stage;
         stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
         {

@@ -81,7 +81,7 @@ class TestImportDb : public QObject {
         QVERIFY(stage.enabled("cmdImportaDB"));
     }
 
-    void aSourceThatCannotBeOpenedTellsWhyAndLeavesTheBoxesEmpty() {
+    void aSourceThatCannotBeOpenedSaysWhyAndLeavesTheBoxesEmpty() {
         DbStage stage;
         stage.addPeople({});
         stage.open();

@@ -39,7 +39,7 @@ class TestResoconto : public QObject {
         QCOMPARE(ultimaImportazione().Scritte(), 1);
     }
 
-    void outlookTellsShortAddressesAndRefusedStatements() {
+    void outlookReportsShortAddressesAndRefusedStatements() {
         ContactStage stage;
         stage.writeHelper("{\"count\":4}\n" + contactLine("ada@example.it", "Ada") +
                           contactLine("a@b.c", "Corta") + contactLine("eva@example.it", "L'Eva") + "{}\n");

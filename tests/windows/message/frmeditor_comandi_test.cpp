@@ -141,7 +141,7 @@ class TestComandi : public QObject {
     void cleanupTestCase() { m_stage.reset(); }
     void init() { stage().begin(); }
 
-    void everyCommandHasItsCaptionAndIconAndStandsSomewhere() {
+    void everyCommandHasItsCaptionAndIconAndAPlace() {
         for (const Comando& command : commands) {
             QCOMPARE(stage().tool(command.name).Caption(), QString::fromUtf8(command.caption));
             auto* action = stage().editor().findChild<QAction*>(command.name);

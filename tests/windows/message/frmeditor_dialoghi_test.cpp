@@ -174,7 +174,7 @@ class TestDialoghi : public QObject {
         QCOMPARE(stage().body(), "<p>via</p>");
     }
 
-    void theUnsubscribeLinkOfTheDialogStandsInTheHeadersOfADeliveredMessage() {
+    void theUnsubscribeLinkOfTheDialogIsInTheHeadersOfADeliveredMessage() {
         stage().fill("<p>Non scrivetemi</p>");
         stage().select("p", 0, 14);
         stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) {

@@ -214,7 +214,7 @@ class TestDocumento : public QObject {
         QVERIFY(!stage().editor().isVisible());
     }
 
-    void yesSavesToTheKnownPathAndGoesOn() {
+    void yesSavesToTheKnownPathAndContinues() {
         stage().saveAs("b.mss");
         stage().type("testo");
         MessageDialog::queue(MessageDialog::Yes);

@@ -74,7 +74,7 @@ class TestIntegro : public QObject {
         }
     }
 
-    void whatTheCodePageDoesNotHoldSurvivesAsAReference() {
+    void whatTheCodePageDoesNotContainSurvivesAsAReference() {
         stage().fill(QString::fromUtf8("<p>\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D \xF0\x9F\x8E\x84 è €</p>"));
         stage().saveAs("r.mss");
         QVERIFY(!bodyOf(stage().bytes("r.mss")).contains('?'));

@@ -191,7 +191,7 @@ class TestRecupero : public QObject {
         QVERIFY(all().contains("<b>uno</b>"));
     }
 
-    void aSaveThatFailsEndsTheProgramAndTheCopyHoldsTheText() {
+    void aSaveThatFailsEndsTheProgramAndTheCopyContainsTheText() {
         stage().editor().fileAperto = true;
         stage().editor().percorsoFile = stage().path("manca/x.mss");
         stage().type("Gentile");

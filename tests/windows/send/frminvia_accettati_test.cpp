@@ -71,7 +71,7 @@ class TestFrmInviaAccettati : public QObject {
         QVERIFY(MessageDialog::shown().isEmpty());
     }
 
-    void rowWithAnotherAddressIsLeftAsItIsAndTheLogTellsSo() {
+    void rowWithAnotherAddressIsUnchangedAndTheLogSaysSo() {
         SendStage stage({"a@x.it", "b@x.it"});
         remember(1, "vecchio@x.it");
         remember(9, "nessuno@x.it");

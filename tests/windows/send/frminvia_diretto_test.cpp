@@ -154,7 +154,7 @@ class TestFrmInviaDiretto : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
-    void refusedRecipientStaysAndTheSessionGoesOn() {
+    void refusedRecipientStaysAndTheSessionContinues() {
         DirectStage direct({"a@alfa.example", "b@alfa.example", "c@alfa.example"});
         direct.alfa.treat("b@alfa.example", SmtpSink::Treatment::Refuse);
         QVERIFY(direct.stage.run());

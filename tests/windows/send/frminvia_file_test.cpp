@@ -99,7 +99,7 @@ class TestFrmInviaFile : public QObject {
         QCOMPARE(box.rows[3].first(), prey.picture());
     }
 
-    void answerHoldsForOneRunUnlessItIsKept() {
+    void answerAppliesToOneRunUnlessItIsKept() {
         Prey prey;
         prey.stage.pick(prey.receive());
         QCOMPARE(prey.ask(MessageDialog::Yes), 4);
@@ -209,7 +209,7 @@ class TestFrmInviaFile : public QObject {
         QCOMPARE(prey.ask(MessageDialog::No), 0);
     }
 
-    void keptAnswerHoldsForNothingThatWasNotShown() {
+    void keptAnswerAppliesToNothingThatWasNotShown() {
         Prey prey;
         prey.stage.pick(prey.stage.folder.writeMessage("mio.mss", Prey::message({})));
         prey.stage.control<QLineEdit>("txtFile")->setText(
@@ -234,7 +234,7 @@ class TestFrmInviaFile : public QObject {
         QVERIFY(!QFile::exists(prey.stage.folder.path("dopo.xt1")));
     }
 
-    void noticesComeInTheirOrderAndTheRunGoesOn() {
+    void noticesComeInTheirOrderAndTheRunContinues() {
         Prey prey;
         QDir(prey.stage.folder.path("data")).mkdir("dkim");
         compose::makeFile(prey.stage.folder.path("data/dkim/klukla.example.pem"), "nessuna chiave");

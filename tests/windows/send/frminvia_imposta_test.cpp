@@ -106,7 +106,7 @@ class TestFrmInviaImposta : public QObject {
         QCOMPARE(stage.label("lblFallite"), "Email non inviate: 0");
     }
 
-    void labelKeepsWhatStandsBeforeItsFirstColon() {
+    void labelKeepsWhatIsBeforeItsFirstColon() {
         SendStage stage({"a@x.it"});
         stage.control<QLabel>("lblDaInviare")->setText("To do: now: 7");
         stage.control<QLabel>("lblFallite")->setText("without");
@@ -418,7 +418,7 @@ class TestFrmInviaImposta : public QObject {
         QVERIFY(stage.waitForEnd());
     }
 
-    void missingAttachmentIsANoticeAndTheRunGoesOnWithoutIt() {
+    void missingAttachmentIsANoticeAndTheRunContinuesWithoutIt() {
         SendStage stage({"a@x.it"});
         const QString present = stage.folder.path("listino prezzi.txt");
         QFile file(present);

@@ -142,12 +142,12 @@ class TestFrmInviaLimiti : public QObject {
         QCOMPARE(clock.slept(), 60000);
     }
 
-    void limitOfOneAndOfNoneWaitBehindEveryMessage_data() {
+    void limitOfOneAndOfNoneWaitAfterEveryMessage_data() {
         QTest::addColumn<QString>("number");
         QTest::newRow("one") << "1";
         QTest::newRow("none") << "0";
     }
-    void limitOfOneAndOfNoneWaitBehindEveryMessage() {
+    void limitOfOneAndOfNoneWaitAfterEveryMessage() {
         QFETCH(QString, number);
         TestClock clock;
         SendStage stage(addresses(3));
@@ -156,7 +156,7 @@ class TestFrmInviaLimiti : public QObject {
         QCOMPARE(clock.slept(), 120000);
     }
 
-    void noWaitBehindTheLastMessage() {
+    void noWaitAfterTheLastMessage() {
         TestClock clock;
         SendStage stage(addresses(2));
         useBlock(stage, "2", "1");

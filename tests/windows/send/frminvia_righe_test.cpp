@@ -96,7 +96,7 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
     }
 
-    void addressIsHandedOverAsItStands() {
+    void addressIsPassedOnUnchanged() {
         SendStage stage({"  a@x.it ", "Rossi <b@x.it>"});
         QStringList handed;
         const auto note = [&] { handed << stage.smtp().ToAddress.text(); };

@@ -226,7 +226,7 @@ class TestBars : public QObject {
         QVERIFY(button(stage, "cmdMailingApri")->size().height() >= 30);
     }
 
-    void statusBarHoldsHelpProgressAndToday() {
+    void statusBarContainsHelpProgressAndToday() {
         const sys::Clock before = sys::clock();
         sys::clock().now = [] { return QDateTime(QDate(2025, 11, 20), QTime(9, 0)); };
         StoreStage stage;

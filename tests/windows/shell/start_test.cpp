@@ -373,12 +373,12 @@ class TestStart : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void aLanguageThatFailsLeavesTheStepsBehindItUndone_data() {
+    void aLanguageThatFailsLeavesTheStepsAfterItUndone_data() {
         QTest::addColumn<QString>("missing");
         QTest::newRow("texts") << "LANG.lng";
         QTest::newRow("choice") << "LANGz.lng";
     }
-    void aLanguageThatFailsLeavesTheStepsBehindItUndone() {
+    void aLanguageThatFailsLeavesTheStepsAfterItUndone() {
         QFETCH(QString, missing);
         StoreStage stage;
         posLeft = posTop = posWidth = posHeight = 0;

@@ -33,7 +33,7 @@ class TestStrumenti : public QObject {
     }
 
   private Q_SLOTS:
-    void theMenuStandsBehindTheOthersWithASeparatorBetweenGroups() {
+    void theMenuIsAfterTheOthersWithASeparatorBetweenGroups() {
         StoreStage stage;
         stage.window();
         const auto window =

@@ -19,7 +19,7 @@ class TestGruppiComandi : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void newGroupStandsLastUntilTheNextRebuild() {
+    void newGroupIsLastUntilTheNextRebuild() {
         StoreStage stage;
         stage.addGroup(1, "Zeta");
         stage.clickNode("K1");
@@ -97,7 +97,7 @@ class TestGruppiComandi : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(D'Este, D'Este_Copia)");
     }
 
-    void copyOfASubgroupStandsBesideIt() {
+    void copyOfASubgroupIsBesideIt() {
         StoreStage stage;
         const int b = stage.addGroup(1, "B");
         stage.clickNode("K1");

@@ -41,7 +41,7 @@ class TestGruppiTrascina : public QObject {
         QCOMPARE(stage.shape(), "Database Mailing(B(Sotto B), Clienti(Sotto))");
     }
 
-    void newGroupUnderTheTargetOfADropComesBehindThoseOfTheTable() {
+    void newGroupUnderTheTargetOfADropComesAfterThoseOfTheTable() {
         StoreStage stage;
         const int b = stage.addGroup(0, "B");
         stage.addGroup(b, "Sotto B");

@@ -78,7 +78,7 @@ class TestTrova : public QObject {
         QCOMPARE(stage.window().focusWidget(), &stage.grd());
     }
 
-    void barStandsAboveTheGridWhichFillsTheRest() {
+    void barIsAboveTheGridWhichFillsTheRest() {
         Scena stage;
         const int before = (stage.window(), stage.grd().height());
         stage.open();
@@ -281,7 +281,7 @@ class TestTrova : public QObject {
         QCOMPARE(stage.columnOfGrid(colonnaAzienda), rows);
     }
 
-    void databaseThatAnotherProgramHoldsIsToldAndTheSearchGoesOnAfterwards() {
+    void databaseThatAnotherProgramLocksIsReportedAndTheSearchContinuesAfterwards() {
         Scena stage;
         stage.clickNode("K1");
         stage.open();

@@ -38,7 +38,7 @@ class TestFrmEsitiInvio : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void eachRecipientOfARunStandsInTheBook() {
+    void eachRecipientOfARunIsInTheBook() {
         SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
         stage.sink.refuse("b@x.it", "550 5.1.1 unknown");
         QVERIFY(stage.run());
@@ -85,7 +85,7 @@ class TestFrmEsitiInvio : public QObject {
         QVERIFY(esiti::Acceso());
     }
 
-    void toDoTellsTheFoldersOfTheSelection() {
+    void toDoShowsTheFoldersOfTheSelection() {
         SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
         ado::Command command;
         esigi(command.setActiveConnection(connDB));
@@ -97,7 +97,7 @@ class TestFrmEsitiInvio : public QObject {
         QCOMPARE(described(stage.control<QWidget>("prgDaInviare")), "Clienti 2, cartelle perdute 1");
     }
 
-    void toDoTellsTheTimeLeft() {
+    void toDoShowsTheTimeLeft() {
         TestClock clock;
         SendStage stage({"a@x.it", "b@x.it", "c@x.it", "d@x.it", "e@x.it"});
         QString seen;

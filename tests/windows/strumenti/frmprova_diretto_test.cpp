@@ -112,7 +112,7 @@ class TestFrmProvaDiretto : public QObject {
         QVERIFY(stage.sink.attempts().isEmpty());
     }
 
-    void aDomainWithoutAMailServerIsToldByOneSentence() {
+    void aDomainWithoutAMailServerIsReportedByOneSentence() {
         const NameServer names(NameServer::Program::Unbound, records());
         QVERIFY2(names.problem().isEmpty(), names.problem().constData());
         DirectProva stage;
@@ -162,7 +162,7 @@ class TestFrmProvaDiretto : public QObject {
         QVERIFY(!stage.prova().isVisible());
     }
 
-    void theButtonThatGivesUpHasTheKeyboardWhileACopyIsUnderWay() {
+    void theCancelButtonHasTheKeyboardDuringACopy() {
         const ScriptedNames silent;
         DirectProva stage;
         auto* annulla = stage.its<QPushButton>("cmdAnnulla");
@@ -194,7 +194,7 @@ class TestFrmProvaDiretto : public QObject {
         QCOMPARE(alfa.attempts(), QStringList{"b@alfa.example"});
     }
 
-    void aDnsThatStaysSilentIsToldByOneSentence() {
+    void aDnsThatStaysSilentIsReportedByOneSentence() {
         const ScriptedNames silent;
         DirectProva stage;
         QCOMPARE(stage.told("a@muto.example"),
@@ -209,7 +209,7 @@ class TestFrmProvaDiretto : public QObject {
                                       "raggiungibile. Riprovare più tardi.")));
     }
 
-    void aDamagedAnswerIsToldByOneSentence() {
+    void aDamagedAnswerIsReportedByOneSentence() {
         const ScriptedNames liar([](const QByteArray& question) {
             QByteArray answer = question;
             answer[2] = '\x81';                      // an answer,

@@ -174,7 +174,7 @@ class TestFrmProvaInvio : public QObject {
         QCOMPARE(stage.text("lblEsito"), mayBeDelivered + " Invio interrotto.");
     }
 
-    void leavingTheWindowGivesTheCopyUp() {
+    void leavingTheWindowCancelsTheCopy() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         stage.its<QLineEdit>("txtIndirizzo")->setText("muto@x.it");

@@ -91,7 +91,7 @@ class TestFrmProva : public QObject {
         QCOMPARE(stage.line("txtOggetto"), "Terzo");
     }
 
-    void withoutAMessageAClearSentenceStandsThere() {
+    void withoutAMessageAClearSentenceIsShown() {
         ProvaStage stage(threeRecipients());
         QVERIFY(stage.text("lblStato").startsWith("Nessun messaggio"));
         QVERIFY(stage.ends.isEmpty());
@@ -145,7 +145,7 @@ class TestFrmProva : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void aDatabaseThatAnotherProgramHoldsIsToldOnceTheWaitIsGivenUp() {
+    void aDatabaseThatAnotherProgramLocksIsReportedOnceTheWaitIsCancelled() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         QVERIFY(stage.prova().isVisible() && stage.counted());

@@ -65,7 +65,7 @@ class TestUltimaImportazione : public QObject {
         QVERIFY(!form.cmdCopia->isEnabled());
     }
 
-    void textImportTellsEachLineAndWhyItWasRefused() {
+    void textImportReportsEachLineAndWhyItWasRefused() {
         Scena stage;
         stage.import(
             "anna@x.it;Anna\r\nbruno.x.it;Bruno\r\n;Carla\r\ndino@x.museum;Dino\r\nelsa@x.it;Elsa\r\n");
