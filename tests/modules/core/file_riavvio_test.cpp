@@ -159,7 +159,7 @@ TEST_F(FileRiavvio, WhatDoesNotFitIsRefusedAndLeavesTheRest) {
     EXPECT_EQ(fileRiavvio::Raccogli().messaggio.size(), 4001);
 }
 
-TEST_F(FileRiavvio, ADiskThatKeepsNoModesIsToldOfOnce) {
+TEST_F(FileRiavvio, ADiskThatKeepsNoModesIsReportedOnce) {
     EXPECT_TRUE(AvvisoSenzaPermessi().isEmpty());
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("senzapermessi.imp"))));
     sys::diskKind() = [](int) { return 0x4d44L; };

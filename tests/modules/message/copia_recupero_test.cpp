@@ -150,7 +150,7 @@ TEST_F(CopiaRecuperoTest, CanBeWrittenAnewAfterItWentAway) {
     EXPECT_EQ(files(".copia").size(), 1);
 }
 
-TEST_F(CopiaRecuperoTest, TheOneThatTakesItOverGoesOnWithTheSameFile) {
+TEST_F(CopiaRecuperoTest, TheOneThatTakesItOverContinuesWithTheSameFile) {
     leave(sample());
     const QString path = only(".copia");
     CopiaRecupero copy = offered().at(0).Prendi();

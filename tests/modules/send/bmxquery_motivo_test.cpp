@@ -38,7 +38,7 @@ struct Caso {
 
 class MXMotivoDi : public MXLookup, public testing::WithParamInterface<Caso> {};
 
-TEST_P(MXMotivoDi, IsToldAndTheResultStaysEmpty) {
+TEST_P(MXMotivoDi, IsReportedAndTheResultStaysEmpty) {
     UdpResponder responder(GetParam().script);
     server(responder.port());
     for (int i = 0; i < 2; ++i) {

@@ -36,7 +36,7 @@ ControlloCampi::Campo field(const ControlloCampi& check, const QString& column) 
 
 }  // namespace
 
-TEST(UsiDi, tellsTextFromAttributesAndTheSubject) {
+TEST(UsiDi, distinguishesTextFromAttributesAndTheSubject) {
     const UsiSegnaposto uses =
         UsiDi(body("<p>:::nom:::</p><a href=\"https://x.it/?c=:::cap:::\">:::nom:::</a>", ":::rgs:::"));
     EXPECT_TRUE(uses[place("nom")].inTesto);
@@ -97,7 +97,7 @@ TEST(ControlloCampi, aSelectionOfNobodyEndsAtOnce) {
     EXPECT_EQ(check.righe(), 0);
 }
 
-TEST(ControlloCampi, goesOnWhereASliceEnded) {
+TEST(ControlloCampi, continuesWhereASliceEnded) {
     SampleFolder folder;
     QList<SampleFolder::Columns> rows;
     for (int i = 0; i < 500; ++i)

@@ -154,7 +154,7 @@ TEST_F(Controllo, DirectRouteIsJudgedByThisMachine) {
     aspetta(righe, "Nome inverso di questo computer", Semaforo::Verde);
 }
 
-TEST_F(Controllo, EmptyDomainIsToldLineByLine) {
+TEST_F(Controllo, EmptyDomainIsReportedLineByLine) {
     const NameServer nomi(NameServer::Program::Unbound, records());
     Account chi = account();
     chi.txtEmail = "ada@niente.example";
@@ -175,7 +175,7 @@ TEST_F(Controllo, NoNetworkLeavesAttentionAndNoHarm) {
         aspetta(righe, quale, Semaforo::Giallo);
 }
 
-TEST_F(Controllo, AccountWithoutAnAddressOrAServerIsTold) {
+TEST_F(Controllo, AccountWithoutAnAddressOrAServerIsReported) {
     Account chi = account();
     chi.txtEmail = "nessuno";
     auto righe = controlla(chi);

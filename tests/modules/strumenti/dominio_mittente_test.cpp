@@ -28,7 +28,7 @@ TEST(RigaMX, ServerWithAnAddressIsInOrder) {
     EXPECT_TRUE(dice(riga, "10 mx.example.it: 203.0.113.2"));
 }
 
-TEST(RigaMX, WhatKeepsRepliesFromComingIsToldByItsWeight) {
+TEST(RigaMX, WhatKeepsRepliesFromComingIsReportedByItsWeight) {
     EXPECT_EQ(semaforo(RigaMX, Zone()), Semaforo::Rosso);
     EXPECT_EQ(semaforo(RigaMX, Zone().address("example.it", "203.0.113.2")), Semaforo::Giallo);
     EXPECT_EQ(semaforo(RigaMX, Zone().mx("example.it", "")), Semaforo::Rosso);
@@ -69,7 +69,7 @@ TEST(RigaSpf, ServerOfWhichOnlySomeAddressesAreCoveredWantsAttention) {
     EXPECT_EQ(semaforo(RigaSpf, conServer().txt("example.it", "v=spf1 -all")), Semaforo::Giallo);
 }
 
-TEST(RigaSpf, MissingAndFaultyRecordsAreToBeMended) {
+TEST(RigaSpf, MissingAndFaultyRecordsAreToBeFixed) {
     EXPECT_EQ(semaforo(RigaSpf, conServer()), Semaforo::Rosso);
     const RigaControllo riga =
         rigaDi(RigaSpf, mittente(), conServer().txt("example.it", "v=spf1 ipv4:1.2.3.4 -all"));

@@ -45,7 +45,7 @@ TEST(RigaDkim, PublishedKeyOfTheFolderIsInOrder) {
     EXPECT_EQ(dkim(conRecord(record())), Semaforo::Verde);
 }
 
-TEST(RigaDkim, NoKeyWantsAttentionAndAnUnusableOneIsToBeMended) {
+TEST(RigaDkim, NoKeyWantsAttentionAndAnUnusableOneIsToBeFixed) {
     EXPECT_EQ(dkim(Zone(), mittente()), Semaforo::Giallo);
     DominioMittente chi = mittente();
     chi.chiave = Status(ErrorCode::NotSupported, QStringLiteral("la chiave non va"));
@@ -77,7 +77,7 @@ TEST(RigaDmarc, PolicyThatTheMessagesMeetIsInOrder) {
     EXPECT_EQ(dmarc(perSpf, mittente()), Semaforo::Verde);
 }
 
-TEST(RigaDmarc, PolicyThatTheMessagesFailIsToBeMended) {
+TEST(RigaDmarc, PolicyThatTheMessagesFailIsToBeFixed) {
     const Zone zone =
         conServer().txt("example.it", "v=spf1 -all").txt("_dmarc.example.it", "v=DMARC1; p=quarantine");
     EXPECT_EQ(dmarc(zone, mittente()), Semaforo::Rosso);
@@ -101,7 +101,7 @@ TEST(RigaDmarc, FaultyOrMissingSpfDoesNotPassWhereverTheMailComesFrom) {
               Semaforo::Giallo);
 }
 
-TEST(RigaDmarc, RecordsThatDoNotCountAreToBeMended) {
+TEST(RigaDmarc, RecordsThatDoNotCountAreToBeFixed) {
     EXPECT_EQ(dmarc(conServer().txt("_dmarc.example.it", "v=DMARC1; x=y")), Semaforo::Rosso);
     EXPECT_EQ(dmarc(conServer()
                         .txt("_dmarc.example.it", "v=DMARC1; p=none")

@@ -42,7 +42,7 @@ TEST(RicercaMX, WithoutAServerOneSentenceSaysWhy) {
     }
 }
 
-TEST(RicercaMX, TextThatIsNoDomainIsToldAtOnceAndNobodyIsAsked) {
+TEST(RicercaMX, TextThatIsNoDomainIsReportedAtOnceAndNobodyIsAsked) {
     RicercaMX look;
     ServerMX found;
     look.Avvia("[127.0.0.1]", [&](const ServerMX& one) { found = one; });

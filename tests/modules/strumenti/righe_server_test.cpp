@@ -42,7 +42,7 @@ TEST(RigheServer, GoodServerIsInOrder) {
     EXPECT_EQ(semafori(buono(), primaDellaFine(60)), QList<Semaforo>(5, Semaforo::Verde));
 }
 
-TEST(RigheServer, CertificateIsToldBeforeItEndsAndAfter) {
+TEST(RigheServer, CertificateIsReportedBeforeItEndsAndAfter) {
     EXPECT_EQ(semafori(buono(), primaDellaFine(60))[Certificato], Semaforo::Verde);
     EXPECT_EQ(semafori(buono(), primaDellaFine(5))[Certificato], Semaforo::Giallo);
     EXPECT_EQ(semafori(buono(), primaDellaFine(-1))[Certificato], Semaforo::Rosso);
@@ -59,7 +59,7 @@ TEST(RigheServer, ServerThatIsNotReachedLeavesTheRestOpen) {
         RigheServer(provato, QDateTime::currentDateTimeUtc())[0].frase.startsWith("Connessione rifiutata."));
 }
 
-TEST(RigheServer, CertificateThatIsNotAcceptedIsToBeMended) {
+TEST(RigheServer, CertificateThatIsNotAcceptedIsToBeFixed) {
     ServerProvato provato = buono();
     provato.esito = {false, 0, QStringLiteral("Connessione TLS non riuscita."), false};
     provato.trovato.encrypted = provato.trovato.loggedIn = false;
@@ -70,7 +70,7 @@ TEST(RigheServer, CertificateThatIsNotAcceptedIsToBeMended) {
     EXPECT_EQ(tutti[Accesso], Semaforo::Giallo);
 }
 
-TEST(RigheServer, ServerWithoutTlsIsToBeMendedWhereAPasswordIsSent) {
+TEST(RigheServer, ServerWithoutTlsIsToBeFixedWhereAPasswordIsSent) {
     ServerProvato provato = buono();
     provato.trovato.encrypted = false;
     provato.trovato.certificate = QSslCertificate();
@@ -80,7 +80,7 @@ TEST(RigheServer, ServerWithoutTlsIsToBeMendedWhereAPasswordIsSent) {
     EXPECT_EQ(semafori(provato)[Accesso], Semaforo::Verde);
 }
 
-TEST(RigheServer, RefusedLoginIsToldInTheServersWords) {
+TEST(RigheServer, RefusedLoginIsReportedInTheServersWords) {
     ServerProvato provato = buono();
     provato.trovato.loggedIn = false;
     provato.esito = {false, 535, QStringLiteral("5.7.8 wrong"), true};

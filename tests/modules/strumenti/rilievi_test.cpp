@@ -64,7 +64,7 @@ TEST(RilieviModello, aPlaceholderThatAFormatPartsIsFound) {
     EXPECT_EQ(count(findings, "spezzato da un cambio di formato", Peso::Grave), 1);
 }
 
-TEST(RilieviModello, missingTextSubjectAndSignOffAreTold) {
+TEST(RilieviModello, missingTextSubjectAndSignOffAreReported) {
     ModelloProva made = model("<img src=\"https://x.it/a.png\">", " ");
     made.testi.disiscrizione.clear();
     const auto findings = RilieviModello(made);
@@ -126,7 +126,7 @@ TEST(RilieviHtml, anAddressOfAnyLengthIsShownShort) {
     EXPECT_LT(findings[0].testo.size(), 200);
 }
 
-TEST(RilieviCopia, aBodyAbove100KilobytesIsTold) {
+TEST(RilieviCopia, aBodyAbove100KilobytesIsReported) {
     EXPECT_TRUE(RilieviCopia({QString(corpoMassimo, 'x'), {}, {}, {}}).isEmpty());
     EXPECT_EQ(
         count(RilieviCopia({QString(corpoMassimo + 1, 'x'), {}, {}, {}}), "lo tagliano", Peso::Attenzione),

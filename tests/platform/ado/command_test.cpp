@@ -195,7 +195,7 @@ TEST_F(CommandTest, ATextWithANullCharacterIsRefused) {
     EXPECT_EQ(open("SELECT * FROM tb_gruppi").recordCount(), 0);
 }
 
-TEST_F(CommandTest, ErrorsAreToldInItalian) {
+TEST_F(CommandTest, ErrorsAreReportedInItalian) {
     EXPECT_EQ(ado::words(tryRun(QStringLiteral("UPDATE tb_gruppi SET cognome = 1")).status()),
               "Impossibile trovare il campo \"cognome\".");
     EXPECT_EQ(failure("UPDATE tb_gruppi SET cognome = 1"), ErrorCode::ItemNotFound);

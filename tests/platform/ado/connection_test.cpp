@@ -43,7 +43,7 @@ TEST_F(ConnectionTest, AMissingFileIsReportedByItsName) {
     EXPECT_FALSE(QFile::exists(inFolder("manca.mdb")));
 }
 
-TEST_F(ConnectionTest, WhatIsNoDatabaseIsRefusedAndUntouched) {
+TEST_F(ConnectionTest, WhatIsNoDatabaseIsRefusedAndUnchanged) {
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("x"), QByteArray("testo semplice\r\n").repeated(1000),
           QByteArray(8192, '\0'), QByteArray("SQLite format 3\0", 16).repeated(512)}) {
@@ -89,7 +89,7 @@ TEST_F(ConnectionTest, WhatIsNoOrdinaryFileIsRefused) {
         EXPECT_FALSE(tryOpen(file).ok()) << file.toStdString();
 }
 
-TEST_F(ConnectionTest, ADamagedTableEndsInAnErrorAndAnUntouchedFile) {
+TEST_F(ConnectionTest, ADamagedTableEndsInAnErrorAndAnUnchangedFile) {
     for (int i = 0; i < 50; ++i)
         run("INSERT INTO tb_destinatari (id_grp, rgs) VALUES (1, 'Ditta')");
     ado::closeAll();

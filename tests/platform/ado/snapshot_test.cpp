@@ -117,7 +117,7 @@ TEST_F(SnapshotTest, RefusesWhatAreNoWholeRowsOfATable) {
     EXPECT_EQ(run("UPDATE tb_destinatari SET sel = False"), 3);
 }
 
-TEST_F(SnapshotTest, MissingFileIsTold) {
+TEST_F(SnapshotTest, MissingFileIsReported) {
     const auto rows = Snapshot::take(connectionTo(inFolder("assente.mdb")), QString::fromUtf8(everything));
     EXPECT_EQ(rows.status().code(), ErrorCode::FileNotFound);
 }

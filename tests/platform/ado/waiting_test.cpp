@@ -226,7 +226,7 @@ TEST_F(WaitingTest, AStatementThatWaitsToWriteReadsWhatTheOtherOneWrote) {
     EXPECT_EQ(column("SELECT * FROM tb_gruppi WHERE id = 1", "id_up"), "8");
 }
 
-TEST_F(WaitingTest, ReadingGoesOnWhileAnotherOneHasAStatementUnderWay) {
+TEST_F(WaitingTest, ReadingContinuesWhileAnotherOneHasAStatementUnderWay) {
     auto other = jet::Database::open(path.toStdString());
     ASSERT_TRUE(other.ok());
     auto table = other.value()->table("tb_gruppi");

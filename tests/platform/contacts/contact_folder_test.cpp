@@ -91,7 +91,7 @@ TEST(ContactFolder, HelperThatNeverStopsTalkingIsCutOff) {
     expectTwoOfThree("exec cat /dev/zero");
 }
 
-TEST(ContactFolder, HelperThatDoesNotReachTheFolderIsToldApart) {
+TEST(ContactFolder, HelperThatDoesNotReachTheFolderIsReportedSeparately) {
     contacts::setOutlookHelper("/manca/vestrola-pst");
     EXPECT_EQ(readContactFolder("x.pst").status().code(), ErrorCode::FileNotFound);
     {
@@ -133,7 +133,7 @@ TEST(ContactFolder, WhatTheHelperHasStartedEndsWithIt) {
     EXPECT_FALSE(QFileInfo::exists("/proc/" + pid));
 }
 
-TEST(ContactFolder, ReadingEndsWhenTheUserGivesUp) {
+TEST(ContactFolder, ReadingEndsWhenTheUserCancels) {
     const HelperScript helper(twoOfThree + QByteArray("exec sleep 600"));
     int asked = 0;
     const auto folder =

@@ -140,7 +140,7 @@ TEST(MailClientBook, HotJournalIsRolledBackInTheCopy) {
     EXPECT_EQ(namesIn(book.path()).size(), 300);
 }
 
-TEST(MailClientBook, WhatIsNoBookIsToldAndNotRead) {
+TEST(MailClientBook, WhatIsNoBookIsReportedAndNotRead) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("abook.sqlite");
     EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::FileNotFound);
@@ -151,7 +151,7 @@ TEST(MailClientBook, WhatIsNoBookIsToldAndNotRead) {
     EXPECT_EQ(readMailClientBook(path).status().code(), ErrorCode::UnrecognizedFormat);
 }
 
-TEST(MailClientBook, WhatIsTooLargeOrCannotBeReadIsTold) {
+TEST(MailClientBook, WhatIsTooLargeOrCannotBeReadIsReported) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("abook.sqlite");
     writeBytes(path, "SQLite format 3");

@@ -69,7 +69,7 @@ TEST_F(OutlookWalls, TakenOverReaderReachesNoFileNoSocketAndNoProgram) {
     EXPECT_FALSE(QFile::exists(path("nuovo")));
 }
 
-TEST_F(OutlookWalls, WithoutLandlockTheOtherWallsHoldAndThatIsTold) {
+TEST_F(OutlookWalls, WithoutLandlockTheOtherWallsHoldAndThatIsReported) {
     const ContactFolder folder = readTakenOver("reach", NO_LANDLOCK);
     EXPECT_EQ(deeds(folder), QStringList{"end"});
     QStringList others = expectedWalls();

@@ -87,7 +87,7 @@ TEST_F(RealNames, AliasIsFollowed) {
     EXPECT_EQ(ask("uno.example", Type::Mx).exchangers.size(), 2);
 }
 
-TEST_F(RealNames, NameAndRecordThatAreNotThereAreToldApart) {
+TEST_F(RealNames, NameAndRecordThatAreNotThereAreDistinguished) {
     const NameServer server(NameServer::Program::Unbound, records());
     EXPECT_EQ(ask("niente.example", Type::A).kind, Answer::Kind::NoName);
     EXPECT_EQ(ask("posta.uno.example", Type::Txt).kind, Answer::Kind::NoRecords);

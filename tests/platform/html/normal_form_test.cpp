@@ -45,7 +45,7 @@ TEST(NormalForm, MissingTagsAreSupplied) {
                "<table><tbody><tr><td>a</td><td>b</td></tr></tbody></table>");
 }
 
-TEST(NormalForm, WronglyNestedTagsAreMended) {
+TEST(NormalForm, WronglyNestedTagsAreRepaired) {
     expectBody("<b>a<i>b</b>c</i>", "<b>a<i>b</i></b><i>c</i>");
     expectBody("<table><b>x</b><tr><td>y</table>",
                "<b>x</b><table><tbody><tr><td>y</td></tr></tbody></table>");

@@ -78,7 +78,7 @@ class ViewCommands : public QObject {
         QVERIFY(!m_desk->view.commandEnabled(HtmlView::Redo));
     }
 
-    void tellsTheStateOfTheSelection() {
+    void reportsTheStateOfTheSelection() {
         load(
             "<p align=center><b><i><u><font face='Courier New' size=5 "
             "color=#ff8000>uno</font></u></i></b></p><p>due</p>");

@@ -12,7 +12,7 @@ class ViewEvents : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void eachReleasedKeyIsTold() {
+    void eachReleasedKeyIsReported() {
         Desk desk;
         QSignalSpy released(&desk.view, &HtmlView::keyReleased);
         desk.type("ab");
@@ -49,7 +49,7 @@ class ViewEvents : public QObject {
         view.setParent(nullptr);
     }
 
-    void leavingForAnotherControlIsTold() {
+    void leavingForAnotherControlIsReported() {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
         auto* subject = new QLineEdit(&window);
@@ -97,7 +97,7 @@ class ViewEvents : public QObject {
         QCOMPARE(menu.at(0).at(0).toPoint(), desk.view.inputWidget()->mapToGlobal(place));
     }
 
-    void doubleClickIsToldWithItsElement() {
+    void doubleClickIsReportedWithItsElement() {
         Desk desk("<p>uno</p><p><a href=\"x\">due</a></p>");
         QSignalSpy clicked(&desk.view, &HtmlView::doubleClicked);
         const QPoint place = desk.placeOf("a").center();
@@ -107,7 +107,7 @@ class ViewEvents : public QObject {
         QCOMPARE(desk.view.selectedText(), QString("due"));
     }
 
-    void pointerOverTheViewIsTold() {
+    void pointerOverTheViewIsReported() {
         Desk desk;
         QSignalSpy entered(&desk.view, &HtmlView::pointerEntered);
         QEnterEvent event(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));

@@ -387,7 +387,7 @@ class ViewInsert : public QObject {
         QVERIFY2(!body.contains("f()"), qPrintable(body));
     }
 
-    void pastedThingsOfTheWebStayAndAreTold() {
+    void pastedThingsOfTheWebStayAndAreReported() {
         m_desk->view.setDocumentHTML("<p>uno</p>");
         QSignalSpy told(&m_desk->view, &HtmlView::staysOnTheWeb);
         paste(

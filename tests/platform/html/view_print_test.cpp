@@ -213,7 +213,7 @@ class ViewPrint : public QObject {
         QVERIFY(taken.readAll() == document + "-d p\n");
     }
 
-    void aSpoolerThatFailsIsTold() {
+    void aSpoolerThatFailsIsReported() {
         const QByteArray document(1000000, 'x');
         const Status refused = spool("/bin/sh", {"-c", "echo nessuna coda >&2; exit 1"}, document, 60000);
         QCOMPARE(refused.code(), ErrorCode::DeviceIo);
@@ -271,7 +271,7 @@ class ViewPrint : public QObject {
             QCOMPARE(withTitle(odd, "t"), odd);
     }
 
-    void theSpoolerIsToldWhatTheUserChose() {
+    void theSpoolerGetsWhatTheUserChose() {
         QPrinter printer;
         printer.setPageSize(QPageSize(QPageSize::A5));
         printer.setCopyCount(3);

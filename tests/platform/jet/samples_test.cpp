@@ -321,7 +321,7 @@ TEST_F(SamplesTest, EnforcedRelationRefusesWrites) {
     }
 }
 
-TEST_F(SamplesTest, MemoStaysUntouchedWhenAnotherColumnChanges) {
+TEST_F(SamplesTest, MemoStaysUnchangedWhenAnotherColumnChanges) {
     const std::string file = copyOf("tika-testAccess2_2000.mdb");
     if (file.empty()) return;
     DatabasePtr database = open(file);

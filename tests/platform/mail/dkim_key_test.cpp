@@ -83,7 +83,7 @@ TEST_F(Key, OfAnInvalidDomainIsNone) {
         EXPECT_FALSE(createDkimKey(folder, domain).ok()) << domain;
 }
 
-TEST_F(Key, ThatIsMissingAndOneThatCannotBeUsedAreToldApart) {
+TEST_F(Key, ThatIsMissingAndOneThatCannotBeUsedAreDistinguished) {
     EXPECT_EQ(readDkimKey(folder, "example.it").status().code(), ErrorCode::FileNotFound);
     EXPECT_EQ(readDkimKey(folder, "../x").status().code(), ErrorCode::FileNotFound);
     ASSERT_TRUE(createDkimKey(folder, "example.it").ok());

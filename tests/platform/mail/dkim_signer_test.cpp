@@ -219,7 +219,7 @@ TEST_F(Dkim, OneClickIsNotOfferedWhereItCannotWork) {
     EXPECT_EQ(postsOf(oneClick.arg(link), link, sender, QString()), 0u) << "no folder";
 }
 
-TEST_F(Dkim, KeyThatCannotBeUsedIsToldBeforeARun) {
+TEST_F(Dkim, KeyThatCannotBeUsedIsReportedBeforeARun) {
     const auto told = [](const QString& sender, const QString& folder) {
         return mail::DkimSigner::usable(folder, sender);
     };
@@ -230,7 +230,7 @@ TEST_F(Dkim, KeyThatCannotBeUsedIsToldBeforeARun) {
     EXPECT_FALSE(told("info@curve.example", s_folder->path()).ok());
 }
 
-TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
+TEST_F(Dkim, BadKeyIsReportedAndTheMessageGoesOutUnsigned) {
     auto message = signedMessage();
     message.FromAddress = "a@small.example";
     expectUnsigned(message, "meno di 2048 bit");
@@ -247,7 +247,7 @@ TEST_F(Dkim, BadKeyIsToldAndTheMessageGoesOutUnsigned) {
     }
 }
 
-TEST_F(Dkim, KeyThatOthersCanReadIsToldAndUsedAgainOnceTheyCannot) {
+TEST_F(Dkim, KeyThatOthersCanReadIsReportedAndUsedAgainOnceTheyCannot) {
     auto message = signedMessage();
     message.FromAddress = "a@open.example";
     const QString pem = s_folder->filePath("open.example.pem");
@@ -263,7 +263,7 @@ TEST_F(Dkim, KeyThatOthersCanReadIsToldAndUsedAgainOnceTheyCannot) {
     EXPECT_FALSE(mail::DkimSigner::usable(s_folder->path(), message.FromAddress).ok());
 }
 
-TEST_F(Dkim, SelectorThatIsNoNameIsToldAndTheMessageGoesOutUnsigned) {
+TEST_F(Dkim, SelectorThatIsNoNameIsReportedAndTheMessageGoesOutUnsigned) {
     auto message = signedMessage();
     message.FromAddress = "a@selector.example";
     QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("selector.example.pem"));

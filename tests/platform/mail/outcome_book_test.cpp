@@ -170,7 +170,7 @@ TEST_F(OutcomeBook, SilenceAndLostConnectionsAreNoAnswer) {
     EXPECT_EQ(said(only()), none(DeliveryStage::Connecting, DeliveryCause::Server));
 }
 
-TEST_F(OutcomeBook, DomainWithoutAServerIsToldAsThat) {
+TEST_F(OutcomeBook, DomainWithoutAServerIsReportedAsThat) {
     client.smtp.OpportunisticTls = true;
     client.smtp.ServerName = QString();
     client.smtp.NoServerReason = QStringLiteral("Il dominio non esiste.");

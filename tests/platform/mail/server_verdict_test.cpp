@@ -24,7 +24,7 @@ TEST(ServerVerdict, RecognisesSpamByTheServersWords) {
     }
 }
 
-TEST(ServerVerdict, TellsTheRate) {
+TEST(ServerVerdict, ReportsTheRate) {
     for (const char* text :
          {"4.7.28 unusual rate of unsolicited mail, you are rate limited", "4.7.1 Too many messages",
           "4.7.0 sending quota exceeded", "4.7.650 throttled", "4.7.1 connection limit reached"}) {

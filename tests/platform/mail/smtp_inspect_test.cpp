@@ -75,7 +75,7 @@ TEST(SmtpInspect, KeepsTheCertificateThatWasNotAccepted) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(SmtpInspect, ServerWithoutAnythingIsFoundAndNoneIsTold) {
+TEST(SmtpInspect, ServerWithoutAnythingIsFoundAndNoneIsReported) {
     ScriptedServer server({hello + QByteArrayList{"C: QUIT"}});
     Inspection inspection;
     EXPECT_TRUE(inspection.of(Inspection::to(server.port())).delivered);

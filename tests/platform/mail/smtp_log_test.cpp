@@ -23,7 +23,7 @@ class SupportLog : public testing::Test {
     QTemporaryDir m_folder;
 };
 
-TEST_F(SupportLog, TellsTheDialogueAndTheOutcome) {
+TEST_F(SupportLog, ReportsTheDialogueAndTheOutcome) {
     ScriptedServer server({hello + message + QByteArrayList{"C: MAIL*", "S: 550 non gradito", "WAIT"}});
     {
         Client client(server.port());
@@ -46,7 +46,7 @@ TEST_F(SupportLog, TellsTheDialogueAndTheOutcome) {
         EXPECT_TRUE(line.isEmpty() || line.endsWith('\r')) << line.constData();
 }
 
-TEST_F(SupportLog, TellsTheDirectRoute) {
+TEST_F(SupportLog, ReportsTheDirectRoute) {
     Client client(25);
     client.smtp.OpportunisticTls = true;
     client.smtp.ServerName = QStringLiteral("non-esiste.invalid");

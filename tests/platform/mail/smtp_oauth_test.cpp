@@ -133,7 +133,7 @@ TEST_F(SmtpOAuth, ErrorChallengeOfOauthbearerIsAnsweredAsTheStandardHasIt) {
           "non accetta il consenso di OAuth 2.0 per l'utente rossi@example.it: 5.7.8 no");
 }
 
-TEST_F(SmtpOAuth, ServerThatTellsOfErrorsWithoutEndIsLeft) {
+TEST_F(SmtpOAuth, ServerWithEndlessErrorRepliesIsLeft) {
     fails(offers("XOAUTH2") +
               QByteArrayList{"C: AUTH XOAUTH2 *", errorChallenge, "C: ", errorChallenge, "WAIT"},
           "non ha completato");
@@ -157,7 +157,7 @@ TEST_F(SmtpOAuth, AfterHeloXoauth2IsGuessed) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST_F(SmtpOAuth, ServerWithoutOauthIsTold) {
+TEST_F(SmtpOAuth, ServerWithoutOauthIsReported) {
     fails(offers("PLAIN LOGIN") + QByteArrayList{"C: QUIT"}, "non offre l'accesso con OAuth 2.0");
 }
 
@@ -252,7 +252,7 @@ TEST_F(SmtpOAuth, ExpiredTokenIsRenewedBeforeTheLoginAndTheConnectionIsKept) {
     EXPECT_EQ(provider.requests().size(), 1);
 }
 
-TEST_F(SmtpOAuth, WithdrawnConsentIsToldToEveryRecipientAndAskedAboutOnce) {
+TEST_F(SmtpOAuth, WithdrawnConsentIsReportedToEveryRecipientAndAskedAboutOnce) {
     giveToken(0);
     provider.withdraw();
     Unasked server;

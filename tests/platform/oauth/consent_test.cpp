@@ -89,7 +89,7 @@ TEST_F(OAuthConsent, WithoutAnIdSaysWhereOneGoes) {
     EXPECT_FALSE(consent.waiting());
 }
 
-TEST_F(OAuthConsent, RefusedByTheUserIsToldAndAsksForNoToken) {
+TEST_F(OAuthConsent, RefusedByTheUserIsReportedAndAsksForNoToken) {
     const QUrl address = consent.start(provider(), user).value();
     QUrl redirect = server.consent(address);
     redirect.setQuery("error=access_denied&state=" + QUrlQuery(redirect).queryItemValue("state"));
@@ -173,7 +173,7 @@ struct BadAnswer {
 
 class OAuthBadAnswer : public OAuthConsent, public testing::WithParamInterface<BadAnswer> {};
 
-TEST_P(OAuthBadAnswer, IsToldAndNothingIsWritten) {
+TEST_P(OAuthBadAnswer, IsReportedAndNothingIsWritten) {
     server.answerWith(GetParam().bytes);
     const Status status = login();
     EXPECT_FALSE(status.ok());
@@ -290,7 +290,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadIdentity{"NoTls", [] { return TlsIdentity(); }}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(OAuthConsent, FolderThatCannotBeWrittenIsTold) {
+TEST_F(OAuthConsent, FolderThatCannotBeWrittenIsReported) {
     ASSERT_TRUE(QFile::link(temporary.path(), folder + "/prova"));
     EXPECT_TRUE(login().text().startsWith("Impossibile scrivere il file " + tokenFile));
 }

@@ -108,7 +108,7 @@ TEST(OAuthProviders, FileThatIsNoListOfProvidersIsRefused) {
             << content.left(20).constData();
 }
 
-TEST_F(OAuth, ProvidersFileThatIsMissingIsToldWithItsPath) {
+TEST_F(OAuth, ProvidersFileThatIsMissingIsReportedWithItsPath) {
     QFile::remove(folder + "/providers.json");
     EXPECT_TRUE(oauth::readProviders(folder).status().text().contains("Manca il file " + folder));
 }

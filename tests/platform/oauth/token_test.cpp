@@ -96,7 +96,7 @@ TEST(OAuthToken, WhatIsNoTokenIsRefused) {
     }
 }
 
-TEST(OAuthToken, ErrorsOfTheProviderAreToldInOneLine) {
+TEST(OAuthToken, ErrorsOfTheProviderAreReportedInOneLine) {
     const auto gone = parseTokenAnswer(R"({"error":"invalid_grant"})", mail, now);
     EXPECT_EQ(gone.status().code(), ErrorCode::InvalidPassword);
     EXPECT_TRUE(gone.status().text().contains("scaduto o è stato ritirato"));

@@ -32,7 +32,7 @@ TEST(DkimRecord, WhatIsLeftOutHasItsDefault) {
     EXPECT_FALSE(record->testing);
 }
 
-TEST(DkimRecord, OtherUsesAreTold) {
+TEST(DkimRecord, OtherUsesAreReported) {
     EXPECT_FALSE(readDkimRecord("h=sha1; p=AQID")->takesSha256);
     EXPECT_FALSE(readDkimRecord("s=tlsrpt; p=AQID")->forMail);
     EXPECT_TRUE(readDkimRecord("s=*; p=AQID")->forMail);

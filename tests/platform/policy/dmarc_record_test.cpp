@@ -83,7 +83,7 @@ TEST(DmarcRecord, OthersAtTheSameNameDoNotCountAndTwoAreOneTooMany) {
     EXPECT_EQ(findingOf(zone, "example.it").kind, Finding::Kind::Several);
 }
 
-TEST(DmarcRecord, NothingAndNoAnswerAreToldApart) {
+TEST(DmarcRecord, NothingAndNoAnswerAreDistinguished) {
     EXPECT_EQ(findingOf(Zone(), "posta.example.it").kind, Finding::Kind::None);
     EXPECT_EQ(findingOf(Zone().fails("_dmarc.example.it", dns::Type::Txt), "example.it").kind,
               Finding::Kind::NoAnswer);

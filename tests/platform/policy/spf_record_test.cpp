@@ -54,7 +54,7 @@ TEST(SpfRecord, ModifiersStandAnywhereAndOthersAreLeftOut) {
     EXPECT_EQ(read.record->directives.size(), 1);
 }
 
-TEST(SpfRecord, FirstFaultyTermIsTold) {
+TEST(SpfRecord, FirstFaultyTermIsReported) {
     const auto read = readRecord("v=spf1 a ipv4:192.0.2.1 -al");
     EXPECT_FALSE(read.record);
     EXPECT_EQ(read.faultyTerm, "ipv4:192.0.2.1");

@@ -53,7 +53,7 @@ TEST_F(TextWriter, WriterReportsWhereItCannotWrite) {
     EXPECT_EQ(writer.close().code(), ErrorCode::DeviceIo);
 }
 
-TEST_F(TextWriter, FullDiskIsToldAtTheLatestWhenClosing) {
+TEST_F(TextWriter, FullDiskIsReportedAtTheLatestWhenClosing) {
     ASSERT_TRUE(QFileInfo::exists(QStringLiteral("/dev/full")));
     sys::TextWriter writer;
     ASSERT_TRUE(writer.open(QStringLiteral("/dev/full"), WriteMode::Output, FileKind::Document).ok());

@@ -143,7 +143,7 @@ class TestCommandBars : public QObject {
         QCOMPARE(w.started.size(), 0);
     }
 
-    void pointerOnAButtonTellsNameAndDescription() {
+    void pointerOnAButtonShowsNameAndDescription() {
         Window w;
         QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
         QCoreApplication::sendEvent(w.button("cmdSave"), &enter);

@@ -249,7 +249,7 @@ class TestDataGrid : public QObject {
         QCOMPARE(w.grid->Row(), 2);
     }
 
-    void rightPressMakesTheRowCurrentAndTheReleaseIsTold() {
+    void rightPressMakesTheRowCurrentAndTheReleaseIsReported() {
         Window w;
         mouse::click(w.grid, w.cell(3, 5), Qt::RightButton);
         QCOMPARE(w.grid->Row(), 3);
@@ -279,7 +279,7 @@ class TestDataGrid : public QObject {
         QCOMPARE(w.mouseUp.size(), 1);
     }
 
-    void moveTellsTheButtonsAndDoesNotDragTheSelectionAlong() {
+    void moveReportsTheButtonsAndDoesNotDragTheSelectionAlong() {
         Window w;
         mouse::move(w.grid, w.cell(1, 5));
         QCOMPARE(w.mouseMove.last()[0].value<Qt::MouseButtons>(), Qt::NoButton);
@@ -405,7 +405,7 @@ class TestDataGrid : public QObject {
         QCOMPARE(dark(), 0);
     }
 
-    void aNoticeStandsOverTheRowsUntilTheNextFill() {
+    void aNoticeIsShownOverTheRowsUntilTheNextFill() {
         Window w;
         mouse::click(w.grid, w.cell(1, 5));
         const QImage rows = w.grid->viewport()->grab().toImage();

@@ -100,14 +100,14 @@ class TestDockPanes : public QObject {
         QVERIFY(w.dock()->isFloating());
     }
 
-    void missingFileIsToldAndLeavesTheDesign() {
+    void missingFileIsReportedAndLeavesTheDesign() {
         Window w;
         const Status status = w.panes.loadLayout(m_folder.filePath("none.imp"));
         QCOMPARE(int(status.code()), int(ErrorCode::FileNotFound));
         QCOMPARE(w.dock()->width(), 230);
     }
 
-    void damagedFileIsToldAndLeavesTheDesign_data() {
+    void damagedFileIsReportedAndLeavesTheDesign_data() {
         QTest::addColumn<int>("cut");
         QTest::addColumn<int>("flipped");
         QTest::newRow("empty") << 0 << -1;
@@ -119,7 +119,7 @@ class TestDockPanes : public QObject {
         QTest::newRow("wrong checksum") << -1 << 12;
         QTest::newRow("damaged arrangement") << -1 << 40;
     }
-    void damagedFileIsToldAndLeavesTheDesign() {
+    void damagedFileIsReportedAndLeavesTheDesign() {
         QFETCH(int, cut);
         QFETCH(int, flipped);
         Window moved;
@@ -158,7 +158,7 @@ class TestDockPanes : public QObject {
         QCOMPARE(w.dock()->width(), 230);
     }
 
-    void unwritableFileIsTold() {
+    void unwritableFileIsReported() {
         Window w;
         QCOMPARE(int(w.panes.saveLayout(m_folder.filePath("none/Layout.imp")).code()),
                  int(ErrorCode::PathAccess));

@@ -317,7 +317,7 @@ class TestGroupTree : public QObject {
         QVERIFY(!w.editor());
     }
 
-    void droppedNodeIsToldWithItsTarget() {
+    void droppedNodeIsReportedWithItsTarget() {
         Window w;
         QStringList over;
         connect(w.tree, &GroupTree::draggedOver, &w.window,
@@ -328,7 +328,7 @@ class TestGroupTree : public QObject {
         QCOMPARE(w.tree->Node("B")->Parent()->Key(), "R");  // the program decides what it means
     }
 
-    void droppedRowIsToldApartFromANode() {
+    void droppedRowIsDistinguishedFromANode() {
         Window w;
         QVERIFY(mouse::drop(w.tree, w.at("B"), dragContent(Dragged::Row)));
         QCOMPARE(w.events, QStringList{"row drop B"});

@@ -229,7 +229,7 @@ class TestFrmAccountBrowser : public QObject {
         QVERIFY(stage.openedNothing());
     }
 
-    void refusedConsentIsToldAndChangesNothing() {
+    void refusedConsentIsReportedAndChangesNothing() {
         BrowserStage stage({account});
         stage.press(0);
         stage.clickLink();

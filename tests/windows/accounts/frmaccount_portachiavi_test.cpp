@@ -75,7 +75,7 @@ class TestFrmAccountPortachiavi : public QObject {
         QVERIFY(ui::MessageDialog::shown().isEmpty());
     }
 
-    void fileOfAnotherUserTakesNothingAndThatIsTold() {
+    void fileOfAnotherUserTakesNothingAndThatIsReported() {
         AccountStage stage;
         const QByteArray path = QFile::encodeName(cartellaDati() + "Account.imp");
         if (::chown(path.constData(), 65534, static_cast<gid_t>(-1)) != 0)
@@ -89,7 +89,7 @@ class TestFrmAccountPortachiavi : public QObject {
         QCOMPARE(stage.file(), QByteArray());
     }
 
-    void markerThatTheKeyringDoesNotKnowIsToldAndTheFileStays() {
+    void markerThatTheKeyringDoesNotKnowIsReportedAndTheFileStays() {
         AccountStage stage({"0|Ada|ada@x.it|mail.x.it|25|1|ada|" + sys::keyring::newMarker() + "|EHLO|0|1"});
         const QString before = written().txtPassword;
         stage.window->show();

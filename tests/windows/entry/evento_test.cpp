@@ -58,7 +58,7 @@ class TestEvento : public QObject {
         QCOMPARE(ends, QList<int>{1});
     }
 
-    void theBoxTellsWhatWasBeingDoneAndWithWhichFile() {
+    void theBoxSaysWhatWasBeingDoneAndWithWhichFile() {
         MessageDialog::queue(MessageDialog::Ok);
         evento([] {
             const Operazione command("Importa Mailing List da file di testo");

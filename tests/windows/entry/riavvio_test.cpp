@@ -242,7 +242,7 @@ class TestRiavvio : public QObject {
         QCOMPARE(finestre::Editor().percorsoFile, taken ? QString() : path);
     }
 
-    void aNameThatIsNoTextIsToldOf() {
+    void aNameThatIsNoTextIsReported() {
         StoreStage stage;
         QVERIFY(fileRiavvio::LasciaMessaggio("/posta/\xff.mss").ok());
         riavvio::Raccogli();

@@ -75,7 +75,7 @@ class TestImportCartella : public QObject {
         QVERIFY(!stage.enabled("txtCartella"));
     }
 
-    void okTellsTheChoiceAndHides() {
+    void okReportsTheChoiceAndHides() {
         Stage stage;
         stage.click("cmdOK");
         QVERIFY(!finestre::Scelta().isVisible());

@@ -179,7 +179,7 @@ class TestImportDbCampioni : public QObject {
         QCOMPARE(DbStage::inserted("loc"), QStringList("Berlin"));
     }
 
-    void aWrongPasswordTellsTheWordsOfTheDatabaseAndLeavesTheBoxesEmpty() {
+    void aWrongPasswordShowsTheWordsOfTheDatabaseAndLeavesTheBoxesEmpty() {
         if (missing()) return;
         DbStage stage;
         const QString path = copyOf("mr-V2000_with-password.mdb", stage);

@@ -187,7 +187,7 @@ class TestImportDbGuasti : public QObject {
         QVERIFY(stage.enabled("cmdImportaDB"));
     }
 
-    void recipientsThatSomebodyElseWritesToTakeNoRowsOnceTheUserGivesUp() {
+    void recipientsThatSomebodyElseWritesToTakeNoRowsOnceTheUserCancels() {
         DbStage stage;
         stage.addPeople({{std::string("a@x.it"), std::string("Anna")}});
         stage.chooseNode();

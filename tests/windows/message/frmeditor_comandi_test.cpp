@@ -452,7 +452,7 @@ class TestComandi : public QObject {
         QVERIFY(pages[1].contains("seconda"));
     }
 
-    void aFileThatCannotBeWrittenIsTold() {
+    void aFileThatCannotBeWrittenIsReported() {
         stage().fill("<p>testo</p>");
         const QString path = stage().path("manca/stampa.pdf");
         stage().design().setPrintPrompt([&path](QPrinter& printer) {

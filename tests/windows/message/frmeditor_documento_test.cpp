@@ -290,7 +290,7 @@ class TestDocumento : public QObject {
         QVERIFY(!stage().editor().fileAperto);
     }
 
-    void aMissingAttachmentIsToldLeftOutAndMarksTheDocument() {
+    void aMissingAttachmentIsReportedLeftOutAndMarksTheDocument() {
         stage().write("m.mss", message("s", "NR", "C:\\dati\\perso.pdf\r\n", "<p>x</p>\r\n"));
         MessageDialog::queue(MessageDialog::Ok);
         stage().open("m.mss");

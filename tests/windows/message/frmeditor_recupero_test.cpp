@@ -201,7 +201,7 @@ class TestRecupero : public QObject {
         QVERIFY(all().contains("Gentile"));
     }
 
-    void aSaveUnderANameThatFailsIsToldAndTheCopyStays() {
+    void aSaveUnderANameThatFailsIsReportedAndTheCopyStays() {
         stage().type("Gentile");
         FileDialog::queue(stage().path("manca/x.mss"));
         MessageDialog::queue(MessageDialog::Ok);
@@ -302,7 +302,7 @@ class TestRecupero : public QObject {
         QCOMPARE(MessageDialog::shown().size(), 2);
     }
 
-    void aDamagedCopyIsToldAndIsNoFailure() {
+    void aDamagedCopyIsReportedAndIsNoFailure() {
         leave({"a.mss", "uno", "NR", {}, "<p>uno</p>", {}});
         QFile file(place() + '/' + copies().at(0));
         QVERIFY(file.open(QIODevice::WriteOnly));

@@ -212,7 +212,7 @@ class TestSicuro : public QObject {
         QVERIFY(!stage().marked());
     }
 
-    void whatAPastedTextLeavesOnTheWebIsToldAndTooDeepATextIsRefused() {
+    void whatAPastedTextLeavesOnTheWebIsReportedAndTooDeepATextIsRefused() {
         stage().fill("<p>uno</p>");
         stage().caret("p", 0);
         auto* data = new QMimeData;

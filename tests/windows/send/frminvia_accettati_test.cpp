@@ -256,7 +256,7 @@ class TestFrmInviaAccettati : public QObject {
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
     }
 
-    void damagedFileIsToldOnce() {
+    void damagedFileIsReportedOnce() {
         SendStage stage({"a@x.it"});
         QFile file(cartellaDati() + "Accettati1.imp");
         QVERIFY(file.open(QFile::WriteOnly));

@@ -34,7 +34,7 @@ class TestFrmInviaFirma : public QObject {
         QVERIFY(!stage.sink.messages()[0].data.contains("DKIM-Signature"));
     }
 
-    void badKeyIsToldBeforeTheRunAndInTheLogAndTheMessagesGoOutUnsigned() {
+    void badKeyIsReportedBeforeTheRunAndInTheLogAndTheMessagesGoOutUnsigned() {
         SendStage stage({"a@x.it", "b@x.it"});
         compose::makeFile(stage.folder.path("data/dkim/klukla.example.pem"), "nessuna chiave segreta");
         compose::makeFile(stage.folder.path("data/dkim/klukla.example.selector"), "maggio\r\n");

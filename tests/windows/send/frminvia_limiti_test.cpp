@@ -222,7 +222,7 @@ class TestFrmInviaLimiti : public QObject {
         QVERIFY(log.readAll().contains("a@x.it"));
     }
 
-    void cancellingTheLogLeavesEverythingUntouched() {
+    void cancellingTheLogLeavesEverythingUnchanged() {
         SendStage stage({"a@x.it"});
         stage.pick();
         stage.smtp().LogFile = "prima";

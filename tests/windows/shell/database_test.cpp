@@ -174,13 +174,13 @@ class TestDatabase : public QObject {
         QCOMPARE(MessageDialog::shown().size(), 1);
     }
 
-    void aWrongFileIsToldAndChangesNothingButTheTree_data() {
+    void aWrongFileIsReportedAndChangesNothingButTheTree_data() {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("no database") << QByteArray("hello");
         QTest::newRow("empty file") << QByteArray();
         QTest::newRow("groups only") << groupsOnly();
     }
-    void aWrongFileIsToldAndChangesNothingButTheTree() {
+    void aWrongFileIsReportedAndChangesNothingButTheTree() {
         QFETCH(QByteArray, content);
         StoreStage stage;
         stage.addRecipient(1, "A");
@@ -253,7 +253,7 @@ class TestDatabase : public QObject {
         QCOMPARE(QFile::permissions(stage.folder.path("copia.mdb")) & others, others);
     }
 
-    void aCopyReplacesAnOlderOneAndLeavesNothingBehind() {
+    void aCopyReplacesAnOlderOneAndLeavesNothingElse() {
         StoreStage stage;
         stage.window();
         QVERIFY(QDir().mkdir(stage.folder.path("copie")));

@@ -115,7 +115,7 @@ class TestStrumenti : public QObject {
         QCOMPARE(menu->child(0)->text(QAccessible::Name), "Aaa...");
     }
 
-    void aFailureInAToolTellsWhatWasBeingDone() {
+    void aFailureInAToolSaysWhatWasBeingDone() {
         StoreStage stage;
         stage.window();
         const auto window = windowWith({{tool("cmdA", "A", [] { fallisci(ErrorCode::FileNotFound); })}});

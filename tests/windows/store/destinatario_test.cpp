@@ -385,7 +385,7 @@ class TestDestinatario : public QObject {
         QCOMPARE(value(stage.form(), "Nome"), "Anna");
     }
 
-    void failedEditIsToldAndTheFormComesBackAsItWas() {
+    void failedEditIsReportedAndTheFormComesBackAsItWas() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         const int beta = stage.addRecipient(1, "Beta", "b@x.it");

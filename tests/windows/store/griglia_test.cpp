@@ -114,7 +114,7 @@ class TestGriglia : public QObject {
         QCOMPARE(stage.help(), "Email presenti: 1,234");
     }
 
-    void countIsToldOnlyWhenThePointerMoves() {
+    void countIsReportedOnlyWhenThePointerMoves() {
         StoreStage stage;
         stage.clickNode("K1");
         QCOMPARE(stage.help(), "Mailing List");

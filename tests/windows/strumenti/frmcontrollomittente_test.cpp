@@ -85,7 +85,7 @@ class TestFrmControlloMittente : public QObject {
         QVERIFY(stage.control<QPushButton>("cmdChiudi")->isEnabled());
     }
 
-    void damagedAccountFileIsTold() {
+    void damagedAccountFileIsReported() {
         Stage stage;
         QFile file(stage.folder.path("data/Account.imp"));
         QVERIFY(file.open(QIODevice::Append));
@@ -114,7 +114,7 @@ class TestFrmControlloMittente : public QObject {
                     .startsWith(lines->item(6, 2)->text()));
     }
 
-    void nameServerThatFailsIsToldAsWhatItIs() {
+    void nameServerThatFailsIsReportedAsWhatItIs() {
         QUdpSocket failing;
         QVERIFY(failing.bind(QHostAddress::LocalHost, 53));
         connect(&failing, &QUdpSocket::readyRead, &failing, [&failing] {
@@ -204,7 +204,7 @@ class TestFrmControlloMittente : public QObject {
         QVERIFY(!QFile::exists(stage.folder.path("data/dkim/example.it.pem")));
     }
 
-    void keyThatCannotBeUsedIsToldAndKept() {
+    void keyThatCannotBeUsedIsReportedAndKept() {
         Stage stage;
         QVERIFY(QDir().mkpath(stage.folder.path("data/dkim")));
         QFile key(stage.folder.path("data/dkim/example.it.pem"));

@@ -125,7 +125,7 @@ class TestFrmEsitiInvio : public QObject {
         QCOMPARE(stage.label("lblFallite"), "Email non inviate: 1");
     }
 
-    void bookThatCannotBeWrittenIsTold() {
+    void bookThatCannotBeWrittenIsReported() {
         SendStage stage({"a@x.it"});
         QVERIFY(QFile(esiti::Cartella().chopped(1)).open(QFile::WriteOnly));
         QVERIFY(stage.run());

@@ -280,7 +280,7 @@ class TestFrmEsiti : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void damagedAndCutOffBooksAreTold() {
+    void damagedAndCutOffBooksAreReported() {
         Stage stage(3);
         writeRun({"250 ok", "250 ok", "250 ok"});
         const QString path = mail::outcomes::runs(esiti::Cartella()).first().path;
@@ -299,7 +299,7 @@ class TestFrmEsiti : public QObject {
         QVERIFY(stage.summary().contains("si interrompe"));
     }
 
-    void bookThatCannotBeReadIsTold() {
+    void bookThatCannotBeReadIsReported() {
         Stage stage(1);
         writeRun({"250 ok"});
         const QString path = mail::outcomes::runs(esiti::Cartella()).first().path;

@@ -75,7 +75,7 @@ class TestFrmProvaInvio : public QObject {
         QVERIFY(stage.text("lblEsito").startsWith("La prova è stata accettata"));
     }
 
-    void aServerThatIsNotThereIsTold() {
+    void aServerThatIsNotThereIsReported() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         stage.useServer(deadPort());
@@ -94,7 +94,7 @@ class TestFrmProvaInvio : public QObject {
         QVERIFY(stage.sink.attempts().isEmpty());
     }
 
-    void withoutAnAccountTheWayIsTold() {
+    void withoutAnAccountTheWayIsReported() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         QVERIFY(QFile::remove(stage.folder.path("data/Account.imp")));

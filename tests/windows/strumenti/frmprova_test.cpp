@@ -99,7 +99,7 @@ class TestFrmProva : public QObject {
         QCOMPARE(stage.text("lblEsito"), "Scegliere un messaggio prima di inviare la prova.");
     }
 
-    void aDamagedMessageIsToldAndTheWindowLivesOn() {
+    void aDamagedMessageIsReportedAndTheWindowLivesOn() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.path("rotto.mss");
         QFile file(stage.editorFile);
@@ -122,7 +122,7 @@ class TestFrmProva : public QObject {
         QVERIFY(!stage.its<QPushButton>("cmdCerca")->isEnabled());
     }
 
-    void aDatabaseThatIsGoneIsTold() {
+    void aDatabaseThatIsGoneIsReported() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         stage.folder.hideDatabase();
@@ -131,7 +131,7 @@ class TestFrmProva : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void aTableThatIsDamagedMeanwhileIsToldAndTheWindowLivesOn() {
+    void aTableThatIsDamagedMeanwhileIsReportedAndTheWindowLivesOn() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         QVERIFY(stage.prova().isVisible() && stage.counted());
@@ -164,7 +164,7 @@ class TestFrmProva : public QObject {
         QCOMPARE(stage.finding("I campi dei destinatari non si possono controllare"), -1);
     }
 
-    void anAddressThatNoMailCanGoToIsTold() {
+    void anAddressThatNoMailCanGoToIsReported() {
         ProvaStage stage({{{"rgs", "A"}, {"email", "senza chiocciola"}}});
         stage.editorFile = stage.folder.writeMessage();
         QVERIFY(stage.text("lblAllegati").contains("Il messaggio non può partire"));

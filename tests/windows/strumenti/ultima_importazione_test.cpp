@@ -130,7 +130,7 @@ class TestUltimaImportazione : public QObject {
         QCOMPARE(report.Righe()[0].testo.size(), qsizetype{UltimaImportazione::massimoTesto});
     }
 
-    void linesThatWereLostAtTheEndAreTold() {
+    void linesThatWereLostAtTheEndAreReported() {
         Scena stage;
         ultimaImportazione().Comincia("prova");
         ultimaImportazione().Importata(1, "a@x.it");
