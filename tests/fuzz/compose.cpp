@@ -8,6 +8,7 @@
 
 #include "platform/mail/Composer.h"
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace {
 
@@ -110,11 +111,11 @@ void checkTransport(const mail::MessageText& text, qsizetype limit) {
     while (!text.isEnd(place))
         sent += text.stuffed(place, limit);
     require(!sent.startsWith(".\r\n") && !sent.contains("\r\n.\r\n"), "a final point in the middle", sent);
-    require(wire::unstuffed(sent) == text.whole(), "what is sent is not what was composed", sent);
+    require(wire::unstuffed(sent) == wholeOf(text), "what is sent is not what was composed", sent);
 }
 
 void checkMessage(const mail::MessageData& given, const mail::ComposedMessage& message) {
-    const QByteArray data = message.text.whole();
+    const QByteArray data = wholeOf(message.text);
     const wire::Message read = wire::read(data);
     require(read.complaints.isEmpty(), read.complaints.join('\n').toUtf8().constData(), data);
     require(read.from.address == message.from.address() && read.to.address == message.to.address(),

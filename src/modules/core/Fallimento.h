@@ -48,7 +48,7 @@ T esigi(Result<T> risultato) {
     return std::move(risultato).value();
 }
 
-/// State of one carry-on procedure: the last failure since azzera().
+/// State of one carry-on procedure: its last failure.
 class Prosegui {
   public:
     /// Runs one statement; true on success. On failure what it would have set keeps its value,
@@ -67,10 +67,6 @@ class Prosegui {
 
     int numero() const { return m_numero; }
     const QString& testo() const { return m_testo; }
-    void azzera() {
-        m_numero = 0;
-        m_testo.clear();
-    }
 
   private:
     int m_numero = 0;

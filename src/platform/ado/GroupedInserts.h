@@ -31,11 +31,11 @@ struct GroupProgress {
 /// the machine. Of the rows after them a crash leaves none. Memory does not grow with the number of
 /// statements.
 ///
-/// A group is committed when it has groupSize() statements, when it is groupAge() old at the next
-/// execute(), when a row is refused, by commit(), by the destructor, and before anything else in this program
-/// writes to the database; recordsets in between see all rows. From the first statement of a group to its
-/// commit other programs can neither read nor write the file: call commit() before waiting for anything (a
-/// box, a slow source).
+/// A group is committed when it has 5000 statements, when it is 250 ms old at the next execute(), when a row
+/// is refused, by commit(), by the destructor, and before anything else in this program writes to the
+/// database; recordsets in between see all rows. From the first statement of a group to its commit other
+/// programs can neither read nor write the file: call commit() before waiting for anything (a box, a slow
+/// source).
 class GroupedInserts {
   public:
     GroupedInserts();
@@ -49,9 +49,8 @@ class GroupedInserts {
         return setActiveConnection(connection.text());
     }
 
-    int groupSize() const { return m_groupSize; }
+    /// Other bounds of a group, so that a test knows where it ends.
     void setGroupSize(int statements) { m_groupSize = statements; }
-    std::chrono::milliseconds groupAge() const { return m_groupAge; }
     void setGroupAge(std::chrono::milliseconds age) { m_groupAge = age; }
 
     /// Takes one INSERT INTO … VALUES. It waits for other programs without end; after a wait

@@ -367,8 +367,4 @@ Status Recordset::update() {
     return data.load();
 }
 
-void Recordset::cancelUpdate() {
-    m_data->drop();
-}
-
 }  // namespace ado

@@ -87,8 +87,6 @@ class Recordset {
     /// Posts what was changed, durably. A row that was added is the current one afterwards. On failure
     /// nothing is written and the change stays pending.
     Status update();
-    /// Drops what was changed since the last update().
-    void cancelUpdate();
 
   private:
     struct Data;

@@ -87,10 +87,4 @@ std::optional<ContactFolder> HelperOutput::folder() && {
     return std::move(m_folder);
 }
 
-std::optional<ContactFolder> readHelperOutput(const QByteArray& output) {
-    HelperOutput reader;
-    reader.take(output);
-    return std::move(reader).folder();
-}
-
 }  // namespace contacts

@@ -39,9 +39,6 @@ class HelperOutput {
     ContactFolder m_folder;
 };
 
-/// All of it at once.
-std::optional<ContactFolder> readHelperOutput(const QByteArray& output);
-
 /// The contact of an entry's line, which is a JSON object; none where it has no values.
 std::optional<Contact> contactOfEntry(QByteArrayView line);
 

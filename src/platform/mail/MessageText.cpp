@@ -52,14 +52,6 @@ bool MessageText::endsLine() const {
     return !all.empty() && all.back().endsWith("\r\n");
 }
 
-QByteArray MessageText::whole() const {
-    QByteArray text;
-    text.reserve(size());
-    for (const QByteArrayView piece : pieces())
-        text.append(piece.data(), piece.size());
-    return text;
-}
-
 QByteArray MessageText::stuffed(Place& place, qsizetype limit) const {
     if (place.piece == m_shared.size()) return stuffedPiece(m_end, place.offset, limit);
     const SharedLines& lines = m_shared[place.piece];

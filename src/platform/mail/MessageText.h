@@ -36,7 +36,6 @@ class MessageText {
 
     qsizetype size() const;
     bool endsLine() const;  ///< its last octets are CR LF
-    QByteArray whole() const;
     std::vector<QByteArrayView> pieces() const;
 
     /// The next octets as they are sent after DATA: a line that begins with a dot gets a second one (RFC 5321

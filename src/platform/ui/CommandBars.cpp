@@ -31,10 +31,6 @@ Command::Command(const QString& name, const QString& description, QAction* actio
     connect(action, &QAction::changed, this, &Command::enableButtons);
 }
 
-QString Command::Caption() const {
-    return m_action->text();
-}
-
 void Command::setCaption(const QString& caption) {
     m_action->setText(caption);
 }
@@ -99,21 +95,9 @@ void CommandList::AddText(const QString& caption) {
     m_menu->addAction(action);
 }
 
-int CommandList::Count() const {
-    return static_cast<int>(m_group->actions().size());
-}
-
-QAction* CommandList::at(int index) const {
-    return m_group->actions().value(index - 1);
-}
-
 QString CommandList::Caption(int index) const {
-    const QAction* action = at(index);
+    const QAction* action = m_group->actions().value(index - 1);
     return action ? action->text() : QString();
-}
-
-void CommandList::setCaption(int index, const QString& caption) {
-    if (QAction* action = at(index)) action->setText(caption);
 }
 
 int CommandList::SelectedIndex() const {

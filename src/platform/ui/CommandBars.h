@@ -47,7 +47,6 @@ class Command : public QObject {
 
   public:
     const QString& name() const { return m_name; }
-    QString Caption() const;
     void setCaption(const QString& caption);
     QString Description() const { return m_description; }
     void setDescription(const QString& description);
@@ -85,17 +84,13 @@ class CommandList : public QObject {
   public:
     void Clear();
     void AddText(const QString& caption);
-    int Count() const;
     QString Caption(int index) const;
-    void setCaption(int index, const QString& caption);
     /// 0 before anything was picked.
     int SelectedIndex() const;
 
   private:
     friend class CommandBars;
     CommandList(QMenu* menu, QObject* parent);
-
-    QAction* at(int index) const;
 
     QActionGroup* m_group;
     QMenu* m_menu;

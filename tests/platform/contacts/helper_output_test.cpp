@@ -6,17 +6,21 @@
 
 namespace helper_output_test {
 
-using contacts::readHelperOutput;
-
 namespace {
 
 constexpr const char* ada = R"({"Email1Address":"ada@example.it","LastNameAndFirstName":"Rossi, Ada"})"
                             "\n";
 
+std::optional<contacts::ContactFolder> readWhole(const QByteArray& output) {
+    contacts::HelperOutput reader;
+    reader.take(output);
+    return std::move(reader).folder();
+}
+
 }  // namespace
 
 TEST(HelperOutput, CountAndEntries) {
-    const auto folder = readHelperOutput(
+    const auto folder = readWhole(
         "{\"count\":2}\n"
         R"({"Email1Address":"a","CompanyName":"b","LastNameAndFirstName":"c","BusinessAddress":"d\r\ne",)"
         R"("BusinessAddressPostalCode":"f","BusinessAddressCity":"g","BusinessTelephoneNumber":"h",)"
@@ -43,14 +47,14 @@ TEST(HelperOutput, NothingOrRubbishInsteadOfTheCountIsNoFolder) {
           QByteArray("{\"count\":-1}\n"), QByteArray("{\"count\":\"3\"}\n"), QByteArray("{\"count\":1.5}\n"),
           QByteArray("{\"count\":1e30}\n"), QByteArray("[1]\n"), QByteArray("{\"count\":3}"), QByteArray(ada),
           QByteArray(100, '\0')}) {
-        EXPECT_FALSE(readHelperOutput(output)) << output.constData();
+        EXPECT_FALSE(readWhole(output)) << output.constData();
     }
 }
 
 TEST(HelperOutput, RubbishEndsTheListAfterTheGoodEntries) {
     for (const char* rubbish :
          {"rubbish\n", "\n", "[]\n", "{\"Email1Address\":\"b@exam", "\xFF\xFE\n", "12\n"}) {
-        const auto folder = readHelperOutput(QByteArray("{\"count\":3}\n") + ada + rubbish + ada);
+        const auto folder = readWhole(QByteArray("{\"count\":3}\n") + ada + rubbish + ada);
         ASSERT_TRUE(folder);
         EXPECT_EQ(folder->count, 3);
         EXPECT_EQ(folder->items.size(), 1u) << rubbish;
@@ -58,13 +62,13 @@ TEST(HelperOutput, RubbishEndsTheListAfterTheGoodEntries) {
 }
 
 TEST(HelperOutput, EntriesBeyondTheCountAreNotTaken) {
-    const auto folder = readHelperOutput(QByteArray("{\"count\":1}\n") + ada + ada);
+    const auto folder = readWhole(QByteArray("{\"count\":1}\n") + ada + ada);
     ASSERT_TRUE(folder);
     EXPECT_EQ(folder->items.size(), 1u);
 }
 
 TEST(HelperOutput, ValueThatIsNoTextIsEmpty) {
-    const auto folder = readHelperOutput("{\"count\":1}\n{\"Email1Address\":5,\"CompanyName\":null}\n");
+    const auto folder = readWhole("{\"count\":1}\n{\"Email1Address\":5,\"CompanyName\":null}\n");
     ASSERT_TRUE(folder);
     ASSERT_TRUE(folder->items[0]);
     EXPECT_EQ(folder->items[0]->email1Address, "");
@@ -72,13 +76,13 @@ TEST(HelperOutput, ValueThatIsNoTextIsEmpty) {
 
 TEST(HelperOutput, EntryAboveTheBoundEndsTheList) {
     const QByteArray huge = "{\"CompanyName\":\"" + QByteArray(contacts::longestEntry, 'x') + "\"}\n";
-    const auto folder = readHelperOutput(QByteArray("{\"count\":3}\n") + ada + huge + ada);
+    const auto folder = readWhole(QByteArray("{\"count\":3}\n") + ada + huge + ada);
     ASSERT_TRUE(folder);
     EXPECT_EQ(folder->items.size(), 1u);
 }
 
 TEST(HelperOutput, DeepNestingIsRubbish) {
-    const auto folder = readHelperOutput("{\"count\":3}\n" + QByteArray("{\"a\":").repeated(100000) + '\n');
+    const auto folder = readWhole("{\"count\":3}\n" + QByteArray("{\"a\":").repeated(100000) + '\n');
     ASSERT_TRUE(folder);
     EXPECT_TRUE(folder->items.empty());
 }

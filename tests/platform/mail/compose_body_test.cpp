@@ -3,6 +3,7 @@
 #include "platform/mail/compose_support.h"
 #include "platform/mail/HtmlReferences.h"
 #include "platform/mail/QuotedPrintable.h"
+#include "support/WholeText.h"
 
 namespace compose_body_test {
 
@@ -117,7 +118,7 @@ TEST(ComposeBody, BoundaryDoesNotOccurInTheContent) {
     message.BodyText = "--" + boundary + "\r\n\r\n--" + boundary + "--\r\n";
     message.BodyHtml = message.BodyText;
     mail::Composer composer;
-    const QByteArray data = composer.compose(message).value().text.whole();
+    const QByteArray data = wholeOf(composer.compose(message).value().text);
     EXPECT_EQ(data.count("--=_"), 3);
     EXPECT_EQ(complaintAbout(data).toStdString(), "");
 }

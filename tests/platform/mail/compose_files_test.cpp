@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "platform/mail/compose_support.h"
+#include "support/WholeText.h"
 
 namespace compose_files_test {
 
@@ -19,7 +20,7 @@ class ComposeFiles : public ::testing::Test {
     QByteArray compose(const mail::MessageData& message) {
         const auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        QByteArray data = composed.ok() ? composed.value().text.whole() : QByteArray();
+        QByteArray data = composed.ok() ? wholeOf(composed.value().text) : QByteArray();
         EXPECT_EQ(complaintAbout(data).toStdString(), "");
         return data;
     }

@@ -10,6 +10,7 @@
 #include "platform/mail/Identity.h"
 #include "platform/mail/Unsubscribe.h"
 #include "platform/system/Clock.h"
+#include "support/WholeText.h"
 
 namespace compose_headers_test {
 
@@ -137,7 +138,7 @@ TEST(ComposeHeaders, InternationalDomainsAreALabelsEverywhere) {
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_FALSE(composed.value().needsSmtputf8);
-    EXPECT_EQ(header(composed.value().text.whole(), "From"), "Orto Facile <info@xn--caff-8oa.example>");
+    EXPECT_EQ(header(wholeOf(composed.value().text), "From"), "Orto Facile <info@xn--caff-8oa.example>");
     EXPECT_EQ(composed.value().to.address(), "mario@xn--citt-3na.example");
     EXPECT_TRUE(composed.value().messageId.endsWith("@xn--caff-8oa.example>"));
 }
@@ -148,7 +149,7 @@ TEST(ComposeHeaders, NonAsciiLocalPartNeedsSmtputf8) {
     const auto composed = mail::Composer().compose(message);
     ASSERT_TRUE(composed.ok());
     EXPECT_TRUE(composed.value().needsSmtputf8);
-    EXPECT_EQ(header(composed.value().text.whole(), "To"),
+    EXPECT_EQ(header(wholeOf(composed.value().text), "To"),
               QStringLiteral("Mario Rossi <mario.però@example.it>").toUtf8());
 }
 
@@ -172,7 +173,7 @@ TEST(ComposeHeaders, MessageIdBearsTheSendersDomain) {
     mail::Composer composer;
     const auto composed = composer.compose(plainMessage());
     ASSERT_TRUE(composed.ok());
-    EXPECT_EQ(header(composed.value().text.whole(), "Message-ID"), composed.value().messageId);
+    EXPECT_EQ(header(wholeOf(composed.value().text), "Message-ID"), composed.value().messageId);
     const QRegularExpression form("\\A<[a-z0-9]+(\\.[a-z0-9]+)*@orto\\.example>\\z");
     EXPECT_TRUE(form.match(QString::fromLatin1(composed.value().messageId)).hasMatch());
 }

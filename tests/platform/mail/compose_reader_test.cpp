@@ -12,6 +12,7 @@
 #include "platform/mail/compose_support.h"
 #include "platform/mail/HeaderText.h"
 #include "platform/mail/hostile_values.h"
+#include "support/WholeText.h"
 
 namespace compose_reader_test {
 
@@ -40,8 +41,8 @@ class ReadByPython : public ::testing::Test {
     void add(const mail::MessageData& message) {
         const auto composed = m_composer.compose(message);
         ASSERT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        EXPECT_EQ(complaintAbout(composed.value().text.whole()).toStdString(), "")
-            << composed.value().text.whole().toStdString();
+        EXPECT_EQ(complaintAbout(wholeOf(composed.value().text)).toStdString(), "")
+            << wholeOf(composed.value().text).toStdString();
         m_sent.push_back(message);
         m_composed.push_back(composed.value());
     }
@@ -50,7 +51,7 @@ class ReadByPython : public ::testing::Test {
     QJsonArray read() {
         QByteArray all;
         for (const auto& composed : m_composed)
-            all += QByteArray::number(composed.text.whole().size()) + '\n' + composed.text.whole();
+            all += QByteArray::number(wholeOf(composed.text).size()) + '\n' + wholeOf(composed.text);
         QProcess python;
         python.start(systemPython, {TEST_DATA_DIR "/../platform/mail/check_message.py",
                                     makeFile(m_folder.filePath("all"), all)});
@@ -65,7 +66,7 @@ class ReadByPython : public ::testing::Test {
         const QJsonArray results = read();
         for (std::size_t i = 0; i < m_sent.size() && !HasFailure(); ++i) {
             expectRead(m_sent[i], m_composed[i], results[static_cast<qsizetype>(i)].toObject());
-            if (HasFailure()) std::fputs(m_composed[i].text.whole().constData(), stderr);
+            if (HasFailure()) std::fputs(wholeOf(m_composed[i].text).constData(), stderr);
         }
     }
 

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace compose {
 namespace {
@@ -33,7 +34,7 @@ mail::MessageData plainMessage() {
 QByteArray wire(const mail::MessageData& message) {
     const auto composed = mail::Composer().compose(message);
     EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-    return composed.ok() ? composed.value().text.whole() : QByteArray();
+    return composed.ok() ? wholeOf(composed.value().text) : QByteArray();
 }
 
 std::vector<QByteArray> headers(const QByteArray& message, const QByteArray& name) {

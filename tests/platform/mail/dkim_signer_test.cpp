@@ -6,6 +6,7 @@
 #include "platform/mail/dkim_verifier.h"
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace dkim_signer_test {
 
@@ -36,13 +37,13 @@ class Dkim : public ::testing::Test {
     mail::ComposedMessage compose(const mail::MessageData& message) {
         auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
-        EXPECT_EQ(complaintAbout(composed.value().text.whole()).toStdString(), "");
+        EXPECT_EQ(complaintAbout(wholeOf(composed.value().text)).toStdString(), "");
         return composed.value();
     }
 
     void expectUnsigned(const mail::MessageData& message, const char* why) {
         const auto composed = compose(message);
-        EXPECT_FALSE(composed.text.whole().contains("DKIM"));
+        EXPECT_FALSE(wholeOf(composed.text).contains("DKIM"));
         EXPECT_FALSE(composed.signing.ok());
         EXPECT_TRUE(composed.signing.text().contains(QString::fromUtf8(why)))
             << composed.signing.text().toStdString();
@@ -82,14 +83,14 @@ QByteArray Dkim::s_record;
 
 TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
     auto message = plainMessage();
-    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
+    EXPECT_FALSE(wholeOf(compose(message).text).contains("DKIM"));
     message.DkimFolder = s_folder->filePath("assente");
-    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
+    EXPECT_FALSE(wholeOf(compose(message).text).contains("DKIM"));
     message.DkimFolder = s_folder->path();
     for (const char* address : {"a@altro.example", "a@sub.orto.example", "a@example", "a@[192.0.2.1]"}) {
         message.FromAddress = address;
         const auto composed = compose(message);
-        EXPECT_FALSE(composed.text.whole().contains("DKIM")) << address;
+        EXPECT_FALSE(wholeOf(composed.text).contains("DKIM")) << address;
         EXPECT_TRUE(composed.signing.ok()) << address;
     }
 }
@@ -97,8 +98,8 @@ TEST_F(Dkim, NothingIsSignedWithoutTheFilesOfTheDomain) {
 TEST_F(Dkim, SignatureIsInFrontAndNamesWhatItCovers) {
     const auto composed = compose(signedMessage());
     EXPECT_TRUE(composed.signing.ok());
-    EXPECT_TRUE(composed.text.whole().startsWith("DKIM-Signature: "));
-    const QByteArray value = QByteArray(wire::read(composed.text.whole()).header("dkim-signature"))
+    EXPECT_TRUE(wholeOf(composed.text).startsWith("DKIM-Signature: "));
+    const QByteArray value = QByteArray(wire::read(wholeOf(composed.text)).header("dkim-signature"))
                                  .replace("\t", "")
                                  .replace(" ", "");
     const QByteArrayList tags = value.split(';');
@@ -118,15 +119,15 @@ TEST_F(Dkim, SignatureIsInFrontAndNamesWhatItCovers) {
 }
 
 TEST_F(Dkim, SignatureIsFolded) {
-    for (const QByteArray& line : compose(signedMessage()).text.whole().split('\n'))
+    for (const QByteArray& line : wholeOf(compose(signedMessage()).text).split('\n'))
         EXPECT_LE(line.size(), 79) << line.constData();
 }
 
 TEST_F(Dkim, RestOfTheMessageIsAsWithoutIt) {
-    const QByteArray data = compose(signedMessage()).text.whole();
+    const QByteArray data = wholeOf(compose(signedMessage()).text);
     const QByteArray rest = data.mid(data.indexOf("\r\nFrom: ") + 2);
     auto message = plainMessage();
-    const QByteArray plain = compose(message).text.whole();
+    const QByteArray plain = wholeOf(compose(message).text);
     EXPECT_EQ(rest.size(), plain.size());
     EXPECT_EQ(rest.left(rest.indexOf("Date:")), plain.left(plain.indexOf("Date:")));
 }
@@ -147,7 +148,7 @@ TEST_F(Dkim, IndependentVerifiersAcceptEachKindOfMessage) {
         }
         if (i % 4 == 0) message.Attachments = {{file, "a.pdf"}};
         if (i == 1) message.BodyText = message.BodyHtml = QString();
-        messages += compose(message).text.whole();
+        messages += wholeOf(compose(message).text);
     }
     const QByteArrayList all = verdicts(messages);
     EXPECT_EQ(all.size(), messages.size());
@@ -156,7 +157,7 @@ TEST_F(Dkim, IndependentVerifiersAcceptEachKindOfMessage) {
 }
 
 TEST_F(Dkim, ChangedMessageIsNotAccepted) {
-    const QByteArray good = compose(signedMessage()).text.whole();
+    const QByteArray good = wholeOf(compose(signedMessage()).text);
     const QByteArrayList changed{QByteArray(good).replace("Buongiorno", "Buonasera"),
                                  QByteArray(good).replace("maggio\r\n", "giugno\r\n"),
                                  QByteArray(good).replace("MIME-Version: 1.0", "MIME-Version: 1.1"),
@@ -169,7 +170,7 @@ TEST_F(Dkim, ChangedMessageIsNotAccepted) {
 }
 
 TEST_F(Dkim, HeaderPutInFrontIsNotAccepted) {
-    const QByteArray good = compose(signedMessage()).text.whole();
+    const QByteArray good = wholeOf(compose(signedMessage()).text);
     QByteArrayList changed;
     for (const char* line :
          {"Subject: x", "From: x@y.it", "To: x@y.it", "Cc: x@y.it", "Reply-To: x@y.it",
@@ -187,7 +188,7 @@ TEST_F(Dkim, OneClickIsOfferedInSignedHeaders) {
     auto message = signedMessage();
     message.TemplateHtml = "<a rel='unsubscribe One-Click' href='https://x.it/u?e=:::email:::'>x</a>";
     message.UnsubscribeLink = "https://x.it/u?e=a@b.it";
-    const QByteArray data = compose(message).text.whole();
+    const QByteArray data = wholeOf(compose(message).text);
     EXPECT_EQ(header(data, "List-Unsubscribe"),
               "<https://x.it/u?e=a@b.it>, <mailto:info@orto.example?subject=unsubscribe>");
     EXPECT_EQ(header(data, "List-Unsubscribe-Post"), "List-Unsubscribe=One-Click");
@@ -205,7 +206,7 @@ TEST_F(Dkim, OneClickIsNotOfferedWhereItCannotWork) {
         message.UnsubscribeLink = link;
         message.FromAddress = sender;
         message.DkimFolder = folder;
-        return headers(compose(message).text.whole(), "List-Unsubscribe-Post").size();
+        return headers(wholeOf(compose(message).text), "List-Unsubscribe-Post").size();
     };
     const QString link = "https://x.it/u", sender = "info@orto.example", folder = s_folder->path();
     EXPECT_EQ(postsOf(oneClick.arg(link), link, sender, folder), 1u);
@@ -258,7 +259,7 @@ TEST_F(Dkim, KeyThatOthersCanReadIsReportedAndUsedAgainOnceTheyCannot) {
     expectUnsigned(message, "altri utenti possono leggere o scrivere");
     EXPECT_TRUE(mail::DkimSigner::usable(s_folder->path(), message.FromAddress).text().contains(pem));
     QFile::setPermissions(pem, ours);
-    EXPECT_TRUE(compose(message).text.whole().contains("aperto"));
+    EXPECT_TRUE(wholeOf(compose(message).text).contains("aperto"));
     QFile::setPermissions(selector, ours | QFile::WriteGroup);
     EXPECT_FALSE(mail::DkimSigner::usable(s_folder->path(), message.FromAddress).ok());
 }
@@ -275,21 +276,21 @@ TEST_F(Dkim, SelectorThatIsNoNameIsReportedAndTheMessageGoesOutUnsigned) {
         expectUnsigned(message, "non è valido");
     }
     makeFile(s_folder->filePath("selector.example.selector"), " buono \n");
-    EXPECT_TRUE(compose(message).text.whole().contains("buono"));
+    EXPECT_TRUE(wholeOf(compose(message).text).contains("buono"));
 }
 
 TEST_F(Dkim, FilesAreReadAgainWhenTheyChange) {
     auto message = signedMessage();
     message.FromAddress = "a@change.example";
-    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
+    EXPECT_FALSE(wholeOf(compose(message).text).contains("DKIM"));
     QFile::copy(s_folder->filePath("orto.example.pem"), s_folder->filePath("change.example.pem"));
     makeFile(s_folder->filePath("change.example.selector"), "primo");
-    EXPECT_TRUE(compose(message).text.whole().contains("primo"));
+    EXPECT_TRUE(wholeOf(compose(message).text).contains("primo"));
     makeFile(s_folder->filePath("change.example.selector"), "secondo");
-    EXPECT_TRUE(compose(message).text.whole().contains("secondo"));
+    EXPECT_TRUE(wholeOf(compose(message).text).contains("secondo"));
     QFile::remove(s_folder->filePath("change.example.pem"));
     QFile::remove(s_folder->filePath("change.example.selector"));
-    EXPECT_FALSE(compose(message).text.whole().contains("DKIM"));
+    EXPECT_FALSE(wholeOf(compose(message).text).contains("DKIM"));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "platform/mail/wire_reader.h"
 #include "support/Postfix.h"
 #include "support/PrivateNetwork.h"
+#include "support/WholeText.h"
 
 namespace postfix_test {
 
@@ -88,7 +89,7 @@ class RealServer : public testing::Test {
     static void expectArrived(const QList<mail::ComposedMessage>& messages) {
         const auto all = arrived(messages.size());
         for (const auto& message : messages)
-            EXPECT_EQ(all[message.messageId].toStdString(), message.text.whole().toStdString());
+            EXPECT_EQ(all[message.messageId].toStdString(), wholeOf(message.text).toStdString());
     }
 
     static Postfix* s_server;
@@ -251,7 +252,7 @@ TEST_F(RealServer, RelayedMessageKeepsItsSignature) {
         ASSERT_EQ(relayed.remainder(), "") << s_server->log().toStdString();
         const QByteArray received = wire::unstuffed(relayed.bodies().at(0));
         EXPECT_TRUE(received.contains("\r\nReceived: ") || received.startsWith("Received: "));
-        EXPECT_TRUE(received.endsWith(message.text.whole()));
+        EXPECT_TRUE(received.endsWith(wholeOf(message.text)));
         EXPECT_TRUE(compose::run("dkimverify", {}, received).contains("signature ok"));
     }
     dns.kill();

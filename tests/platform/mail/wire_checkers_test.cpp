@@ -5,6 +5,7 @@
 #include "platform/mail/dkim_support.h"
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace wire_checkers_test {
 
@@ -25,11 +26,11 @@ class WireCheckers : public ::testing::Test {
             message.ToName = message.FromName = message.Subject = kind.value;
             message.BodyText = "Buongiorno, " + kind.value;
             message.BodyHtml = "<html><head></head><body><p>Buongiorno, " + kind.value + "</p></body></html>";
-            messages += composer.compose(message).value().text.whole();
+            messages += wholeOf(composer.compose(message).value().text);
             message.TemplateHtml = "<img src='" + logo + "'>";
             message.BodyHtml.replace("</body>", message.TemplateHtml + "</body>");
             message.Attachments = {{file, "a" + kind.value.left(100) + ".pdf"}, {logo, "logo.png"}};
-            messages += composer.compose(message).value().text.whole();
+            messages += wholeOf(composer.compose(message).value().text);
         }
         return messages;
     }

@@ -5,6 +5,7 @@
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/smtp_fixture.h"
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace wire_dialogue_test {
 
@@ -57,7 +58,7 @@ TEST(WireDialogue, DotsArriveAsTheyAreWhereverTheWritesAreCut) {
         shared.append(mail::SharedLines(text));
         shared.append(mail::SharedLines(QByteArray("no dots here\r\n").repeated(20000)));
         shared.end() += ".\r\n..";
-        expectArrives(shared, shared.whole() + "\r\n");
+        expectArrives(shared, wholeOf(shared) + "\r\n");
     }
 }
 

@@ -8,6 +8,7 @@
 #include "platform/mail/hostile_values.h"
 #include "platform/mail/Unsubscribe.h"
 #include "platform/mail/wire_reader.h"
+#include "support/WholeText.h"
 
 namespace wire_message_test {
 
@@ -56,7 +57,7 @@ class WireMessage : public ::testing::TestWithParam<bool> {
         const auto composed = m_composer.compose(message);
         EXPECT_TRUE(composed.ok()) << composed.status().text().toStdString();
         if (!composed.ok()) return {};
-        const QByteArray data = composed.value().text.whole();
+        const QByteArray data = wholeOf(composed.value().text);
         wire::Message read = wire::read(data);
         EXPECT_EQ(read.complaints.join("\n").toStdString(), "") << data.left(20000).toStdString();
         EXPECT_EQ('<' + read.messageId + '>', composed.value().messageId);
@@ -198,10 +199,10 @@ TEST_P(WireMessage, KeepsEveryRuleForFuzzedValues) {
         if (withFiles()) message.Attachments = {{m_folder.filePath("allegato"), values.text(8) + ".pdf"}};
         const auto composed = m_composer.compose(message);
         ASSERT_TRUE(composed.ok());
-        const wire::Message read = wire::read(composed.value().text.whole());
+        const wire::Message read = wire::read(wholeOf(composed.value().text));
         EXPECT_EQ(read.complaints.join("\n").toStdString(), "")
             << i << '\n'
-            << composed.value().text.whole().toStdString();
+            << wholeOf(composed.value().text).toStdString();
         EXPECT_EQ(read.subject.toStdString(), inOneLine(message.Subject).toStdString());
         if (withFiles()) {
             EXPECT_EQ(read.leaves.back().content, attachmentContent);

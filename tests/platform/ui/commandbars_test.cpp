@@ -13,6 +13,7 @@
 
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/Desktop.h"
+#include "support/CommandCaption.h"
 #include "support/TestClass.h"
 
 namespace commandbars_test {
@@ -78,7 +79,7 @@ class TestCommandBars : public QObject {
     void captionShowsAtOnceWhereverTheCommandIs() {
         Window w;
         w.bars.GetToolButton("cmdOpen")->setCaption("&Open list");
-        QCOMPARE(w.bars.GetToolButton("cmdOpen")->Caption(), "&Open list");
+        QCOMPARE(captionOf(w.bars.GetToolButton("cmdOpen")), "&Open list");
         QCOMPARE(entry(w.menu("mnuFile"), 0)->text(), "&Open list");
         QCOMPARE(w.button("cmdOpen")->text(), "Open list");
         QCOMPARE(w.button("cmdOpen")->toolTip(), "Open list");
@@ -233,10 +234,8 @@ class TestCommandBars : public QObject {
         ui::CommandList* list = w.bars.GetList("cmdLanguage");
         list->AddText("Italiano");
         list->AddText("English");
-        QCOMPARE(list->Count(), 2);
+        QCOMPARE(w.menu("mnuLanguage")->actions().size(), 2);
         QCOMPARE(list->SelectedIndex(), 0);
-        list->setCaption(1, ">> Italiano <<");
-        QCOMPARE(w.menu("mnuLanguage")->actions().at(0)->text(), ">> Italiano <<");
         entry(w.menu("mnuLanguage"), 1)->trigger();
         QCOMPARE(w.startedNames(), QStringList{"cmdLanguage"});
         QCOMPARE(list->SelectedIndex(), 2);
@@ -247,7 +246,6 @@ class TestCommandBars : public QObject {
         QCOMPARE(list->Caption(0), "");
         QCOMPARE(list->Caption(3), "");
         list->Clear();
-        QCOMPARE(list->Count(), 0);
         QCOMPARE(list->SelectedIndex(), 0);
         QVERIFY(w.menu("mnuLanguage")->actions().isEmpty());
     }

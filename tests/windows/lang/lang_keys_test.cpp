@@ -10,6 +10,7 @@
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
 #include "platform/ui/TabStrip.h"
+#include "support/CommandCaption.h"
 #include "support/TestClass.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/entry/Vicini.h"
@@ -67,7 +68,7 @@ QString valueOf(const QString& key) {
     if (const auto parts = tab.match(rest); parts.hasMatch()) {
         const int index = parts.captured(2).toInt();
         const ui::TabStrip& tabs = *finestre::Editor().tb;
-        return parts.captured(1) == "Caption" ? tabs.TabCaption(index) : tabs.TabToolTip(index);
+        return parts.captured(1) == "Caption" ? tabs.TabCaption(index) : tabs.tabToolTip(index);
     }
     static const QRegularExpression named("^(.*)\\(\"(.+)\"\\)\\.(Caption|Description|Text|Label)$");
     const auto parts = named.match(rest);
@@ -89,7 +90,7 @@ QString valueOf(const QString& key) {
                                  : kind == "GetCustomPopup" ? bars.GetCustomPopup(name)
                                                             : bars.GetPopupMenu(name);
     if (!command) return QString();
-    return caption ? command->Caption() : command->Description();
+    return caption ? captionOf(command) : command->Description();
 }
 
 /// Every text that a user can see, by its owner: more than the keys name. A button of a bar and the entry
@@ -127,7 +128,7 @@ QMap<QString, QString> everyText() {
         for (const auto* tabs : window->findChildren<ui::TabStrip*>())
             for (int i = 0; i < tabs->count(); ++i) {
                 note(tabs, qPrintable(QString("caption %1").arg(i)), tabs->TabCaption(i));
-                note(tabs, qPrintable(QString("tool tip %1").arg(i)), tabs->TabToolTip(i));
+                note(tabs, qPrintable(QString("tool tip %1").arg(i)), tabs->tabToolTip(i));
             }
         for (auto* list : window->findChildren<ui::PropertyList*>())
             for (const char* item : {"Datidestinatario",
@@ -251,8 +252,8 @@ class TestLangKeys : public QObject {
     void theEnglishFileMakesTheWindowsEnglish() {
         LangStage stage;
         stage.install("English");
-        QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Language");
-        QCOMPARE(finestre::Main().Commands().GetToolButton("cmdInvia")->Caption(), "&Send messages");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetPopupMenu("mnuLingua")), "&Language");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetToolButton("cmdInvia")), "&Send messages");
         QCOMPARE(finestre::Destinatario().prp->Item("CAP")->Caption(), "ZIP");
         QCOMPARE(finestre::Invia().windowTitle(), " Send messages");
         QCOMPARE(finestre::Account().findChild<QLabel*>("lbl(9)")->text(), "PORT");

@@ -6,6 +6,7 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DockPanes.h"
 #include "platform/ui/PropertyList.h"
+#include "support/CommandCaption.h"
 #include "support/TestClass.h"
 #include "windows/entry/bMain.h"
 #include "windows/lang/lang_stage.h"
@@ -31,7 +32,7 @@ void setFile(const LangStage& stage, const QByteArray& lines) {
 QStringList entriesOfTheList() {
     const ui::CommandList& list = *finestre::Main().Commands().GetList("cmdLang");
     QStringList entries;
-    for (int i = 1; i <= list.Count(); ++i)
+    for (int i = 1; !list.Caption(i).isEmpty(); ++i)
         entries += list.Caption(i);
     return entries;
 }
@@ -68,7 +69,7 @@ class TestLangWindows : public QObject {
     void withoutItsTextTheMenuOfTheLanguagesHasNoCaption() {
         LangStage stage;
         setFile(stage, "");
-        QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetPopupMenu("mnuLingua")), "");
     }
 
     void pickingTheMarkedLanguageDoesNothing() {
@@ -95,13 +96,13 @@ class TestLangWindows : public QObject {
         QCOMPARE(box.style, int(MessageDialog::Notice));
         QCOMPARE(entriesOfTheList(),
                  QStringList({">> Italiano <<", "English", "Español", "Français", "Deutsch"}));
-        QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Lingua");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetPopupMenu("mnuLingua")), "&Lingua");
 
         finestre::dimentica();
         finestre::Main();
         QCOMPARE(entriesOfTheList(),
                  QStringList({"Italiano", ">> English <<", "Español", "Français", "Deutsch"}));
-        QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Language");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetPopupMenu("mnuLingua")), "&Language");
     }
 
     void aChoiceThatCannotBeWrittenEndsTheProgramWithItsFailure() {
@@ -148,7 +149,7 @@ class TestLangWindows : public QObject {
         QVERIFY(finestre::Main().isVisible());
         QCOMPARE(entriesOfTheList(), entries);
         QCOMPARE(bVAR::Attenzione, entries.contains(">> English <<") ? "b" : "");
-        QCOMPARE(finestre::Main().Commands().GetPopupMenu("mnuLingua")->Caption(), "&Lingua");
+        QCOMPARE(captionOf(finestre::Main().Commands().GetPopupMenu("mnuLingua")), "&Lingua");
         Prosegui prosegui;
         QVERIFY2(!prosegui([] { finestre::Main().Gruppi(); }), "the tree is built behind the language");
     }

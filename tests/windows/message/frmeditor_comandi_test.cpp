@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QToolBar>
 
+#include "support/CommandCaption.h"
 #include "support/TestClass.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
@@ -143,7 +144,7 @@ class TestComandi : public QObject {
 
     void everyCommandHasItsCaptionAndIconAndAPlace() {
         for (const Comando& command : commands) {
-            QCOMPARE(stage().tool(command.name).Caption(), QString::fromUtf8(command.caption));
+            QCOMPARE(captionOf(&stage().tool(command.name)), QString::fromUtf8(command.caption));
             auto* action = stage().editor().findChild<QAction*>(command.name);
             QVERIFY2(!action->icon().isNull(), command.name);
             bool stands = false;
@@ -155,7 +156,7 @@ class TestComandi : public QObject {
         QCOMPARE(bars.GetComboBox("cmbFontName")->Description(), "Seleziona font");
         QCOMPARE(bars.GetComboBox("cmbFontSize")->Description(), "Font size");
         QCOMPARE(bars.GetPopupMenu("popVariabili")->Description(), "Clicca per visualizzare le variabili");
-        QCOMPARE(bars.GetCustomPopup("popColors")->Caption(), "Tabella colori");
+        QCOMPARE(captionOf(bars.GetCustomPopup("popColors")), "Tabella colori");
     }
 
     void aFormattingCommandFormatsWithoutAMarkAndCanBeUndone_data() {
@@ -252,7 +253,7 @@ class TestComandi : public QObject {
         QFETCH(QString, caption);
         QFETCH(QString, text);
         if (!caption.isEmpty()) {
-            QCOMPARE(stage().tool(name).Caption(), caption);
+            QCOMPARE(captionOf(&stage().tool(name)), caption);
             QCOMPARE(stage().tool(name).Description(), caption);
         }
         stage().fill("<div>prima dopo</div>");

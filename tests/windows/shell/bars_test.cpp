@@ -10,6 +10,7 @@
 #include "platform/system/Clock.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/DockPanes.h"
+#include "support/CommandCaption.h"
 #include "support/TestClass.h"
 #include "windows/core/bTheme.h"
 #include "windows/shell/shell_support.h"
@@ -111,7 +112,7 @@ class TestBars : public QObject {
         const Row& expected = commands[row];
         const ui::Command* command = stage.window().Commands().GetToolButton(expected.name);
         QVERIFY(command);
-        QCOMPARE(command->Caption(), QString::fromUtf8(expected.caption));
+        QCOMPARE(captionOf(command), QString::fromUtf8(expected.caption));
         QCOMPARE(command->Description(), QString::fromUtf8(expected.description));
         QVERIFY(namesOf(*menu(stage, expected.menu)).contains(expected.name));
         QVERIFY(!stage.window().findChild<QAction*>(expected.name)->icon().isNull());
@@ -170,10 +171,10 @@ class TestBars : public QObject {
         QCOMPARE(namesOf(*bar),
                  (QStringList{"mnuFile", "mnuEditor", "mnuMailing", "mnuLingua", "mnuHelp", "mnuStrumenti"}));
         const ui::CommandBars& commands = stage.window().Commands();
-        QCOMPARE(commands.GetPopupMenu("mnuFile")->Caption(), "&File");
-        QCOMPARE(commands.GetPopupMenu("mnuEditor")->Caption(), "&Editor");
-        QCOMPARE(commands.GetPopupMenu("mnuMailing")->Caption(), "&Mailing");
-        QCOMPARE(commands.GetPopupMenu("mnuHelp")->Caption(), "&Help");
+        QCOMPARE(captionOf(commands.GetPopupMenu("mnuFile")), "&File");
+        QCOMPARE(captionOf(commands.GetPopupMenu("mnuEditor")), "&Editor");
+        QCOMPARE(captionOf(commands.GetPopupMenu("mnuMailing")), "&Mailing");
+        QCOMPARE(captionOf(commands.GetPopupMenu("mnuHelp")), "&Help");
         QVERIFY(commands.GetPopupMenu("mnuLingua"));
         QVERIFY(commands.GetList("cmdLang"));
     }

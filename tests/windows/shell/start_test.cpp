@@ -418,7 +418,7 @@ class TestStart : public QObject {
         QCOMPARE(stage.tree().Count(), 1);
         QCOMPARE(finestre::Main().size(), QSize(990, 640));  // within 1024 by 768
         QCOMPARE(finestre::Main().Commands().GetList("cmdLang")->SelectedIndex(), 0);
-        QVERIFY(finestre::Main().Commands().GetList("cmdLang")->Count() >= 2);
+        QVERIFY(finestre::Main().Commands().GetList("cmdLang")->Caption(2) != QString());
         QCOMPARE(readFile(folder + "/data/Account.imp"), QByteArray());
         QVERIFY(MessageDialog::shown().isEmpty());
     }
