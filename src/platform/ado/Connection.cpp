@@ -22,4 +22,8 @@ void closeAll() {
     Session::closeAll();
 }
 
+void commitAll() {
+    if (!Waiting::asking()) Session::commitAll();
+}
+
 }  // namespace ado

@@ -32,4 +32,8 @@ class Connection {
 /// afterwards opens it again. Recordsets that are still open keep their file until they are closed.
 void closeAll();
 
+/// Commits what every GroupedInserts of this program has taken. For the moment before the process ends; it
+/// does nothing where that is decided while a statement waits.
+void commitAll();
+
 }  // namespace ado

@@ -47,6 +47,7 @@ class Session {
     static Status write(const QString& connectionText, const std::function<Status(Session&)>& work);
     /// Empties the pool. A session that is in use lives on until its last user releases it.
     static void closeAll();
+    static void commitAll();
     ~Session();
 
     jet::Database& database() { return *m_database; }

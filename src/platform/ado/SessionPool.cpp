@@ -180,10 +180,14 @@ Result<std::shared_ptr<Session>> Session::openForWriting(const QString& connecti
 }
 
 void Session::closeAll() {
+    commitAll();
+    pool().clear();
+}
+
+void Session::commitAll() {
     const Waiting waiting(recordsetSeconds);
     for (const PoolEntry& entry : pool())
         entry.session->commitGroup();
-    pool().clear();
 }
 
 }  // namespace ado

@@ -8,6 +8,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/Guasti.h"
 #include "modules/core/Prodotto.h"
+#include "platform/ado/Connection.h"
 #include "platform/ado/Notices.h"
 #include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
@@ -19,6 +20,12 @@ std::function<void()> azioneFinale;
 NuovoAvvio nuovoAvvio;
 bool fallimentoInMostra = false;
 
+/// The process ends without destructors, and before that may stay for long below the box of a failure.
+void salvaPrimaDellaFine() {
+    if (azioneFinale) azioneFinale();
+    ado::commitAll();
+}
+
 }  // namespace
 
 void PrimaDellaFine(std::function<void()> azione) {
@@ -26,7 +33,7 @@ void PrimaDellaFine(std::function<void()> azione) {
 }
 
 void TerminaProgramma(int stato) {
-    if (azioneFinale) azioneFinale();
+    salvaPrimaDellaFine();
     fallimentoInMostra = false;
     if (termineSostituito) {
         termineSostituito(stato);
@@ -66,7 +73,7 @@ QString dettagli(const Fallimento& fallimento) {
 
 void mostraEtermina(const Fallimento& fallimento) {
     fallimentoInMostra = true;
-    if (azioneFinale) azioneFinale();
+    salvaPrimaDellaFine();
     guasti::Annota(fallimento);
     const int risposta = ui::MessageDialog::showFailure(
         Words::tr("Errore %1:\r\n\r\n%2").arg(QString::number(fallimento.numero()), fallimento.testo()),

@@ -11,7 +11,7 @@
 /// included, since each handler has its own boundary.
 
 /// Ends the program at once, with the given exit status: no window gets its own unload, nothing is saved but
-/// what PrimaDellaFine() was given.
+/// what PrimaDellaFine() was given and the rows that an import has inserted.
 [[noreturn]] void TerminaProgramma(int stato = 1);
 
 /// What runs at the start of every TerminaProgramma. It must not fail, nor wait for events.

@@ -5,6 +5,7 @@
 #include "platform/jet/Database.h"
 #include "support/Impatience.h"
 #include "support/TestClass.h"
+#include "windows/core/Evento.h"
 #include "windows/import/contatti_stage.h"
 
 namespace contatti_guasti_test {
@@ -210,6 +211,43 @@ class TestImportContattiGuasti : public QObject {
         QVERIFY(MessageDialog::shown().isEmpty());
         QCOMPARE(stage.failure(), "");
         QCOMPARE(stage.faults(), QStringList());
+    }
+
+    void endOfTheProgramMeanwhileKeepsTheRowsBefore_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<bool>("byAFailure");
+        for (const char* command : {"cmdMailingImpOE", "cmdMailingImpMSO"}) {
+            QTest::addRow("%s, main window closed", command) << command << false;
+            QTest::addRow("%s, failure of a handler", command) << command << true;
+        }
+    }
+    void endOfTheProgramMeanwhileKeepsTheRowsBefore() {
+        QFETCH(QString, command);
+        QFETCH(bool, byAFailure);
+        ContactStage stage;
+        stage.writeCards(QByteArray(twoCards) + twoCards);
+        stage.writeHelper("{\"count\":4}\n" + contactLine("ada@example.it", "").repeated(4));
+        stage.window();
+        stage.chooseRoot();
+        // What a process leaves behind that goes without its destructors.
+        const QString left = stage.folder.path("rimasto.mdb");
+        sostituisciTermine([&](int) { QFile::copy(percorsoDB, left); });
+        if (byAFailure) MessageDialog::queue(MessageDialog::Ok);
+        stage.step = [&](double value) {
+            if (value != 2) return;
+            if (byAFailure)
+                evento([] { fallisci(ErrorCode::Overflow); });
+            else
+                stage.window().close();
+        };
+        stage.import(command);
+        stage.step = nullptr;
+        ado::Recordset rows;
+        esigi(rows.setActiveConnection("Provider = Microsoft.Jet.OLEDB.4.0; Data Source = " + left));
+        rows.setCursorType(ado::CursorType::Static);
+        rows.setSource("SELECT * FROM [tb_destinatari];");
+        esigi(rows.open());
+        QCOMPARE(rows.recordCount(), 2);
     }
 
     void databaseThatIsTakenAwayMeanwhileKeepsTheRowsBefore_data() { commands(); }
