@@ -222,7 +222,26 @@ class TestFrmInviaLimiti : public QObject {
         QVERIFY(log.readAll().contains("a@x.it"));
     }
 
-    void cancellingTheLogLeavesEverythingUnchanged() {
+    void logThatCannotBeOpenedIsToldAndTheRunGoesOn() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.pick();
+        stage.click("chkLog");
+        const QString path = stage.folder.path("manca/registro.xt1");
+        FileDialog::queue(path);
+        MessageDialog::reset();
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        const auto& boxes = MessageDialog::shown();
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY2(
+            boxes[0].text.startsWith("Il file per l'assistenza non si può scrivere:\r\n" + path + "\r\n"),
+            qPrintable(boxes[0].text));
+        QVERIFY(boxes[0].text.endsWith("\r\nL'invio prosegue senza."));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+    }
+
+    void cancellingTheLogLeavesEverythingUntouched() {
         SendStage stage({"a@x.it"});
         stage.pick();
         stage.smtp().LogFile = "prima";
