@@ -5,7 +5,10 @@
 #include <optional>
 #include <QString>
 
-/// State that lives as long as the program. Apart from the texts of bVAR there is no other global state.
+/// State that lives as long as the program and that every module may read and set. What else lives as long is
+/// kept by the routines that it belongs to: the texts of the language file (bVAR.h), the last lookup of mail
+/// servers (bMXQuery.h), who was accepted (Accettati.h), the last import (UltimaImportazione.h), and the one
+/// instance of each window (Finestre.h).
 
 /// Full path of the recipient database.
 inline QString percorsoDB;

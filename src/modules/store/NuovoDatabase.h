@@ -13,7 +13,6 @@ namespace schema {
 template <std::size_t colonne>
 jet::NewTable TabellaNuova(std::u16string_view nome, const std::array<Colonna, colonne>& descritte,
                            bool testiVuoti = true) {
-    constexpr int larghezzaMassima = 255;
     const auto ascii = [](std::u16string_view testo) { return std::string(testo.begin(), testo.end()); };
     jet::NewTable tabella{ascii(nome), {}};
     for (const Colonna& colonna : descritte) {
@@ -22,7 +21,7 @@ jet::NewTable TabellaNuova(std::u16string_view nome, const std::array<Colonna, c
         if (colonna.tipo == Tipo::SiNo) nuova.type = jet::Type::YesNo;
         if (colonna.tipo == Tipo::Testo) {
             nuova.type = jet::Type::Text;
-            nuova.characters = static_cast<uint16_t>(colonna.massimo ? colonna.massimo : larghezzaMassima);
+            nuova.characters = static_cast<uint16_t>(colonna.massimo ? colonna.massimo : larghezzaNomeGruppo);
             nuova.emptyAllowed = testiVuoti;
         }
         tabella.columns.push_back(std::move(nuova));

@@ -26,7 +26,7 @@ struct Colonna {
     int massimo = 0;  ///< most characters of a text; 0 for no limit of the program's own
 };
 
-/// Size of the column of a group's name, in characters, in a new database.
+/// Characters of the one text without a limit of the program's own, a group's name, in a new database.
 inline constexpr int larghezzaNomeGruppo = 255;
 
 inline constexpr std::array<Colonna, 3> colonneGruppi{{

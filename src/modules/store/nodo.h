@@ -12,3 +12,7 @@ QString NumeroNodoCorrente();
 /// Whether the group is in the table; the root ("0") always is. Where the table cannot be read the group
 /// counts as existing, and the next statement fails.
 bool GruppoEsiste(const QString& numero);
+
+/// Characters that the column of a group's name has room for in the current database; those of a new database
+/// where it cannot be read. Ignores every failure.
+int LarghezzaNomeGruppo();

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "modules/store/larghezzaNome.h"
+#include "modules/store/nodo.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/LineEdit.h"
 #include "windows/core/bTheme.h"

@@ -40,7 +40,7 @@ class ProgressCounter;
 ///
 /// The column "sel" of the recipients is the queue: a delivered recipient leaves it, a failed one stays and
 /// is stepped over by counting. The counters of a run are the values of the three bars; the run is over when
-/// the to-do bar reaches zero or after a stop. docs/architecture.md shows the states of a run.
+/// the to-do bar reaches zero or after a stop. docs/architecture.md has a table of the states of a run.
 class frmInvia : public ui::LateDialog {
     Q_OBJECT
 
@@ -87,11 +87,12 @@ class frmInvia : public ui::LateDialog {
     void AvvisaFirma();
     void FineInvio();
     void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);
+    void ImpostaPausa(Prosegui& prosegui);
+    void ImpostaTimeout(Prosegui& prosegui);
 
     // frmInvia_file.cpp: the message file and what it carries away
     void cmdFile_Click();
     bool ChiediFile(const FileMss& file, const MessaggioLetto& letto);
-    void AvvisaLog();
     void UsaMessaggio(const MessaggioLetto& letto);
 
     // frmInvia_tick.cpp: the engine
@@ -115,10 +116,9 @@ class frmInvia : public ui::LateDialog {
     QString DettagliDaInviare() const;
     QString DettagliFallite() const;
 
-    // frmInvia_limiti.cpp: pause, time-out and log
-    void ImpostaPausa(Prosegui& prosegui);
-    void ImpostaTimeout(Prosegui& prosegui);
+    // frmInvia_log.cpp: the log for support
     bool ChiediLog();
+    void AvvisaLog();
 
     const std::function<void()> RiempiGriglia;
     QLabel* lblFile;

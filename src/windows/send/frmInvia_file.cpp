@@ -103,16 +103,6 @@ bool frmInvia::ChiediFile(const FileMss& file, const MessaggioLetto& letto) {
     return true;
 }
 
-/// A log that cannot be written would be missed only when it is needed.
-void frmInvia::AvvisaLog() {
-    const Status aperto = SMTP->OpenLog();
-    if (!aperto.ok())
-        MessageDialog::show(Words::tr("Il file per l'assistenza non si può scrivere:") + "\r\n" +
-                                SMTP->LogFile + "\r\n" + aperto.text() + "\r\n" +
-                                Words::tr("L'invio prosegue senza."),
-                            MessageDialog::Notice, bVAR::Attenzione);
-}
-
 void frmInvia::UsaMessaggio(const MessaggioLetto& letto) {
     oggettoMail = letto.oggetto;
     SMTP->Priority = NumeroPriorita(letto.priorita);

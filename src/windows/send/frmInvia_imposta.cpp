@@ -238,3 +238,11 @@ void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     SMTP->BookTitle = oggettoMail;
     inizioInvio = sys::clock().now();
 }
+
+void frmInvia::ImpostaPausa(Prosegui& prosegui) {
+    prosegui([&] { tmr->setInterval(MillisecondiPausa(cmbPausa->currentText())); });
+}
+
+void frmInvia::ImpostaTimeout(Prosegui& prosegui) {
+    prosegui([&] { SMTP->TimeoutSecs = static_cast<qint16>(SecondiTimeout(cmbTimeout->currentText())); });
+}

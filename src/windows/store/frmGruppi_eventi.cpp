@@ -1,6 +1,5 @@
 // What the user does to the tree.
 #include "modules/core/bGlobal.h"
-#include "modules/store/larghezzaNome.h"
 #include "modules/store/nodo.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/ado/Command.h"
