@@ -54,9 +54,9 @@ TEST_F(FileRiavvio, WithoutAFileThereIsNothingAndNothingIsLeftBehind) {
 
 TEST_F(FileRiavvio, StateAndMessageComeBackAsTheyWereLeftInEitherOrder) {
     for (const bool stateFirst : {true, false}) {
-        if (stateFirst) ASSERT_TRUE(fileRiavvio::LasciaStato(state()).ok());
-        ASSERT_TRUE(fileRiavvio::LasciaMessaggio("/posta/offerta.mss").ok());
-        if (!stateFirst) ASSERT_TRUE(fileRiavvio::LasciaStato(state()).ok());
+        const bool leftFirst = !stateFirst || fileRiavvio::LasciaStato(state()).ok();
+        ASSERT_TRUE(leftFirst && fileRiavvio::LasciaMessaggio("/posta/offerta.mss").ok());
+        ASSERT_TRUE(stateFirst || fileRiavvio::LasciaStato(state()).ok());
         const fileRiavvio::Raccolto taken = fileRiavvio::Raccogli();
         EXPECT_EQ(taken.messaggio, "/posta/offerta.mss");
         ASSERT_TRUE(taken.stato);
