@@ -45,6 +45,13 @@ def is_possible():
     return not os.geteuid() and pathlib.Path("/proc/self/uid_map").read_text(encoding="ascii").split()[2] != "1"
 
 
+def last_of_each(settings):
+    """Each name once, with its last value: each part warns of a second one, and so many warnings before the log is served would
+    block the part that starts the log."""
+    values = dict((line.split("=", 1)[0].strip(), line.split("=", 1)[1]) for line in settings.splitlines() if line and not line.startswith("#"))
+    return "".join(f"{name}={value}\n" for name, value in values.items())
+
+
 class Postfix:
     """Runs between `with` and its end. `listen`: address and port; `settings`: further lines of main.cf."""
 
@@ -54,7 +61,8 @@ class Postfix:
         for name in ("spool", "data"):
             (self.folder / name).mkdir()
         os.chown(self.folder / "data", pwd.getpwnam("postfix").pw_uid, -1)
-        (self.folder / "main.cf").write_text(settings + SETTINGS.format(folder=self.folder, host=host), encoding="ascii")
+        (self.folder / "main.cf").write_text(last_of_each(settings + SETTINGS.format(folder=self.folder, host=host)),
+                                             encoding="ascii")
         (self.folder / "master.cf").write_text(SERVICES.format(listen=listen), encoding="ascii")
 
     def __enter__(self):

@@ -34,7 +34,7 @@ def fail(text):
 
 
 def settings():
-    """The example with the test's own settings appended; Postfix uses the last line of a name."""
+    """The example, and what the test puts in place of some of its lines."""
     return (ROOT / "packaging/postfix-relay/main.cf").read_text(encoding="ascii") + OURS.format(port=PROVIDER)
 
 

@@ -288,7 +288,7 @@ TEST_F(SmtpLogin, NothingThatAServerSaysSteersTheDisplayOfATranscript) {
         {"S: 554 " + hostile, "C: QUIT"},
         greeted + QByteArrayList{"S: 535-" + hostile, "S: 535 " + hostile, "C: QUIT"},
         greeted + QByteArrayList{"S: 235 " + hostile, "C: MAIL*", "S: 550 " + hostile},
-        {"S: 220 x", "S: 250 " + hostile, "WAIT"},
+        {"S: 220 x\r\n250 " + hostile, "WAIT"},  // at once: the second is too early to be an answer
         {"S: 2" + hostile, "WAIT"},
         {"S: 220 x", "C: EHLO *", "S: 421 " + hostile, "DROP"}};
     for (const QByteArrayList& dialogue : dialogues) {
