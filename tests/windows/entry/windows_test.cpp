@@ -21,6 +21,8 @@ using namespace testing_support;
 
 namespace {
 
+constexpr int smallestScreen = 1024;  // points wide, for which the windows are made
+
 /// The installed languages besides Italian, as the file names them.
 const QList<std::pair<const char*, const char*>> otherLanguages{
     {"English", "English"}, {"Spanish", "Espa\361ol"}, {"French", "Fran\347ais"}, {"German", "Deutsch"}};
@@ -117,6 +119,14 @@ class TestWindows : public QObject {
         Windows windows(false, language);
         windows.each([](QWidget& window, const QString& name) {
             QVERIFY2(window.width() <= 1280 && window.height() <= 700, qPrintable(name));
+            const QRect screen = window.screen()->availableGeometry();
+            if (screen.width() < smallestScreen) return;
+            // the main window is placed by the start, which is not played here
+            const bool placed = name != "frmMain";
+            QVERIFY2(placed ? screen.contains(window.geometry())
+                            : window.minimumSizeHint().width() <= screen.width() &&
+                                  window.minimumSizeHint().height() <= screen.height(),
+                     qPrintable(name));
         });
     }
 
