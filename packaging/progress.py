@@ -25,6 +25,8 @@ def main():
             if not step:
                 continue
             done, total, elapsed = int(step[1]), int(step[2]), float(step[3])
+            if not done:
+                continue
             tenth = 10 * done // total
             if not terminal and tenth == shown:
                 continue

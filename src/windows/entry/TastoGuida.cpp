@@ -11,7 +11,7 @@ namespace {
 /// The nearest of the windows and panels around a control that the help knows.
 QString paginaPer(const QWidget* controllo) {
     for (; controllo; controllo = controllo->parentWidget())
-        if (const QString pagina = guida::PaginaDellaFinestra(controllo->objectName()); !pagina.isEmpty())
+        if (QString pagina = guida::PaginaDellaFinestra(controllo->objectName()); !pagina.isEmpty())
             return pagina;
     return guida::PrimaPagina();
 }
