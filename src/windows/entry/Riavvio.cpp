@@ -26,7 +26,8 @@ namespace riavvio {
 
 namespace {
 
-constexpr int attesaMassima = 5000;  // milliseconds
+// Milliseconds; a loaded machine may take many seconds to end a browser.
+constexpr int attesaMassima = 30000;
 constexpr qint64 primaOfferta = 10;  // seconds
 
 std::optional<QDateTime> avvio;

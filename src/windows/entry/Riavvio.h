@@ -23,7 +23,7 @@ void Avvia();
 /// For tests: what starts the program. An empty function puts the real start back.
 void sostituisciPartenza(std::function<void()> partenza);
 
-/// At the very start: takes the file in and removes it, and waits up to five seconds for the end of the
+/// At the very start: takes the file in and removes it, and waits up to half a minute for the end of the
 /// program that wrote it, whose files and locks are free after that. What is older than a minute does not
 /// count; a damaged file is set aside.
 void Raccogli();

@@ -153,7 +153,13 @@ class TestRiavvio : public QObject {
         QVERIFY(stage.ends == QList<int>{1});
     }
 
+    void theNewStartWaitsForTheEndOfTheOldProgram_data() {
+        QTest::addColumn<int>("milliseconds");
+        QTest::newRow("that ends at once") << 300;
+        QTest::newRow("that has a browser to end, on a loaded machine") << 6000;
+    }
     void theNewStartWaitsForTheEndOfTheOldProgram() {
+        QFETCH(int, milliseconds);
         StoreStage stage;
         const pid_t old = ::fork();
         if (old == 0)
@@ -162,8 +168,8 @@ class TestRiavvio : public QObject {
         writeFile(file(stage), "[Riavvio]\r\nprocesso=" + QByteArray::number(old) +
                                    "\r\nora=" + sys::clock().now().toUTC().toString(Qt::ISODate).toLatin1() +
                                    "\r\nposizione=1 2 3 4 0\r\ndatabase=\r\ngruppi=\r\n");
-        std::thread end([old] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        std::thread end([old, milliseconds] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
             ::kill(old, SIGKILL);  // Qt Test would catch another signal in the child too
         });
         riavvio::Raccogli();
