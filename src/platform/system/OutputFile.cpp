@@ -101,10 +101,8 @@ Status openForWriting(QFile& file, const QString& path, WriteMode mode, FileKind
         return errno == ELOOP ? refused(path, Words::tr("Il percorso è un collegamento")) : noAccess(path);
     }
     const QString why = objection(opened, kind);
-    const bool ready = why.isEmpty() && (mode == WriteMode::Append || ::ftruncate(opened, 0) == 0 ||
-                                         errno == EINVAL);  // a device has no length
     const auto handling = mode == WriteMode::Append ? QIODevice::Append : QIODevice::WriteOnly;
-    if (ready && file.open(opened, handling, QFileDevice::AutoCloseHandle)) return {};
+    if (why.isEmpty() && file.open(opened, handling, QFileDevice::AutoCloseHandle)) return {};
     ::close(opened);
     return why.isEmpty() ? noAccess(path) : refused(path, why);
 }

@@ -5,12 +5,12 @@
 
 #include "platform/Status.h"
 
-/// Opening files for writing. The program folder may be shared: other users who can write there can put a
-/// link or their own file where the program is going to write.
+/// Writing files: opened with care, and replaced as a whole. The program folder may be shared: other users
+/// who can write there can put a link or their own file where the program is going to write.
 namespace sys {
 
 enum class WriteMode {
-    Output,  ///< starts with an empty file
+    Output,  ///< new content comes as a whole, by replaceContent(); until then the file keeps its own
     Append,  ///< keeps what is there and appends
 };
 
@@ -33,6 +33,12 @@ enum class FileKind {
 /// PathAccess, with the reason, for what is refused and for what the user may not write; also for an Own or
 /// Secret file whose folder is not safe.
 Status openForWriting(QFile& file, const QString& path, WriteMode mode, FileKind kind);
+
+/// Gives the file that openForWriting() opened for Output these bytes, and closes it. They are written to a
+/// new file beside it that takes its place (a Document or Secret after a sync), so that a full disk or a loss
+/// of power leaves the old content. Written in place instead: what is no ordinary file of the user's alone,
+/// with one name and no access list, and where no file can be made beside it. DeviceIo where it fails.
+Status replaceContent(QFile& file, const QString& path, FileKind kind, const QByteArray& bytes);
 
 /// Whether the file is there and belongs to another user, so that no Secret is written to it.
 bool belongsToAnother(const QString& path);

@@ -11,6 +11,7 @@
 
 #include "platform/system/FileModes.h"
 #include "platform/system/OutputFile.h"
+#include "platform/system/WriteAll.h"
 #include "platform/text/Words.h"
 
 namespace sys {
@@ -55,17 +56,6 @@ bool isFolder(const QString& path) {
     return ::lstat(QFile::encodeName(path).constData(), &found) == 0 && S_ISDIR(found.st_mode);
 }
 
-bool writeAll(int file, const QByteArray& bytes) {
-    for (qsizetype done = 0; done < bytes.size();) {
-        const ssize_t wrote =
-            ::write(file, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
-        if (wrote < 0 && errno == EINTR) continue;
-        if (wrote < 0) return false;
-        done += wrote;
-    }
-    return ::fsync(file) == 0;
-}
-
 Result<QByteArray> readPart(int open, qint64 offset, qint64 size) {
     QFile file;
     if (!file.open(open, QIODevice::ReadOnly) || !file.seek(offset))
@@ -100,7 +90,7 @@ Status replaceOwnFile(const QString& path, const QByteArray& bytes) {
     const QByteArray aside = QFile::encodeName(path + QStringLiteral(".nuovo"));
     ::unlink(aside.constData());
     Open file(path + QStringLiteral(".nuovo"), O_WRONLY | O_CREAT | O_EXCL);
-    if (file.get() >= 0 && writeAll(file.get(), bytes) &&
+    if (file.get() >= 0 && writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 &&
         ::rename(aside.constData(), QFile::encodeName(path).constData()) == 0)
         return {};
     Status failed = failure();
@@ -113,7 +103,7 @@ Status createOwnFile(const QString& path, const QByteArray& bytes) {
     const Open file(path, O_WRONLY | O_CREAT | O_EXCL);
     if (file.get() < 0 && errno == EEXIST) return {ErrorCode::FileInUse, QString()};
     if (file.get() < 0) return failure();
-    if (writeAll(file.get(), bytes)) return {};
+    if (writeAll(file.get(), bytes) && ::fsync(file.get()) == 0) return {};
     Status failed = failure();
     removeOwnFile(path);
     return failed;

@@ -2,14 +2,11 @@
 
 #include <unistd.h>
 
+#include "platform/system/WriteAll.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/Words.h"
 
 namespace sys {
-
-TextWriter::~TextWriter() {
-    if (m_file.isOpen()) m_file.close();
-}
 
 Status TextWriter::writeFailed() const {
     return Status(ErrorCode::DeviceIo, Words::tr("Errore di I/O del dispositivo"))
@@ -19,21 +16,32 @@ Status TextWriter::writeFailed() const {
 Status TextWriter::open(const QString& path, WriteMode mode, FileKind kind) {
     if (m_file.isOpen()) m_file.close();
     m_path = path;
+    m_mode = mode;
     m_kind = kind;
+    m_bytes.clear();
     return openForWriting(m_file, path, mode, kind);
 }
 
 Status TextWriter::print(QStringView line) {
-    const QByteArray bytes = text::toAnsi(line) + "\r\n";
-    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) return writeFailed();
+    if (!m_file.isOpen()) return writeFailed();
+    m_bytes += text::toAnsi(line) + "\r\n";
     return {};
 }
 
 Status TextWriter::close() {
     if (!m_file.isOpen()) return writeFailed();
-    const bool flushed = m_file.flush() && (m_kind != FileKind::Secret || ::fsync(m_file.handle()) == 0);
+    return m_mode == WriteMode::Append ? append() : replaceContent(m_file, m_path, m_kind, m_bytes);
+}
+
+/// A line that was written in part is taken back: the next one would continue it.
+Status TextWriter::append() {
+    const int file = m_file.handle();
+    const qint64 before = m_file.size();
+    const bool written = writeAll(file, m_bytes) && (m_kind == FileKind::Own || ::fsync(file) == 0);
+    Status status = written ? Status() : writeFailed();
+    if (!written && !m_file.isSequential() && ::ftruncate(file, before) != 0) status = writeFailed();
     m_file.close();
-    return flushed && m_file.error() == QFileDevice::NoError ? Status() : writeFailed();
+    return status;
 }
 
 }  // namespace sys

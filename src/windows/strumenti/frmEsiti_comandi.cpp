@@ -34,10 +34,9 @@ bool Chiedi(const QString& testo) {
 
 Status Scrivi(const QString& percorso, const QByteArray& byte) {
     QFile file;
-    Status stato = sys::openForWriting(file, percorso, sys::WriteMode::Output, sys::kindByFolder(percorso));
-    if (!stato.ok()) return stato;
-    if (file.write(byte) == byte.size() && file.flush()) return {};
-    return {ErrorCode::DeviceIo, file.errorString()};
+    const sys::FileKind tipo = sys::kindByFolder(percorso);
+    Status stato = sys::openForWriting(file, percorso, sys::WriteMode::Output, tipo);
+    return stato.ok() ? sys::replaceContent(file, percorso, tipo, byte) : stato;
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "modules/accounts/AccountFile.h"
 #include "modules/accounts/bBinary.h"
+#include "support/FullDisk.h"
 #include "support/Vectors.h"
 
 namespace account_writers_test {
@@ -178,6 +179,37 @@ TEST_F(AccountWriters, FileThatCannotBeWrittenLeavesOnlyTheMemoryChanged) {
     ASSERT_EQ(table.size(), 1u);
     EXPECT_EQ(table[0].txtNomeVisual, QStringLiteral("c"));
     EXPECT_TRUE(QDir(path()).isEmpty());
+}
+
+TEST_F(AccountWriters, FullDiskLosesNoAccount) {
+    writeBytes(path(), {});
+    for (const char* name : {"Uno", "Due", "Tre"})
+        add(simple(QString::fromLatin1(name)));
+    const QByteArray before = bytesOf(path());
+    {
+        const FullDisk full(static_cast<rlim_t>(before.size() / 2));
+        change(0, simple(QStringLiteral("Primo")));
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_EQ(list[0], QStringLiteral("Primo [Primo@b.it]"));
+    change(0, simple(QStringLiteral("Primo")));
+    EXPECT_EQ(records().size(), 3);
+    EXPECT_TRUE(records()[0].startsWith(QStringLiteral("0|Primo|")));
+}
+
+TEST_F(AccountWriters, FullDiskLeavesNoHalfAccountThatTheNextReadingFailsOn) {
+    writeBytes(path(), {});
+    add(simple(QStringLiteral("Uno")));
+    const QByteArray before = bytesOf(path());
+    {
+        const FullDisk full(static_cast<rlim_t>(before.size() + 20));
+        add(simple(QStringLiteral("Due")));
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+    table.clear();
+    list.clear();
+    load();
+    EXPECT_EQ(list, QStringList("Uno [Uno@b.it]"));
 }
 
 TEST_F(AccountWriters, FileIsForItsOwnerAlone) {

@@ -7,6 +7,7 @@
 
 #include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
+#include "support/FullDisk.h"
 #include "support/Vectors.h"
 
 namespace message_file_test {
@@ -285,11 +286,25 @@ TEST_F(MessageFile, WriterTruncatesWhatWasThere) {
     EXPECT_EQ(bytesOf(path()).count('x'), 0);
 }
 
-TEST_F(MessageFile, MoreAttachmentsThanTheCounterCanCountFailBeforeTheFirst) {
+TEST_F(MessageFile, FullDiskKeepsTheMessageThatWasThere) {
+    ScriviMessaggio(path(),
+                    {QStringLiteral("prima"), QStringLiteral("NR"), {}, QStringLiteral("<p>prima</p>")});
+    const QByteArray before = bytesOf(path());
+    {
+        const FullDisk full(static_cast<rlim_t>(before.size() / 2));
+        EXPECT_THROW(
+            ScriviMessaggio(
+                path(), {QStringLiteral("dopo"), QStringLiteral("NR"), {}, QStringLiteral("<p>dopo</p>")}),
+            Fallimento);
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+}
+
+TEST_F(MessageFile, MoreAttachmentsThanTheCounterCanCountFailAndNothingIsWritten) {
     MessaggioMss message;
     message.Allegati = QStringList(32768, QStringLiteral("a"));
     EXPECT_THROW(ScriviMessaggio(path(), message), Fallimento);
-    EXPECT_TRUE(bytesOf(path()).endsWith("[<INI-ALLG>]\r\n"));
+    EXPECT_EQ(bytesOf(path()), QByteArray());
     message.Allegati.removeLast();
     ScriviMessaggio(path(), message);
     EXPECT_TRUE(bytesOf(path()).endsWith("[<END-MESS>]\r\n"));

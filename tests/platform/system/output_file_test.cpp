@@ -51,6 +51,7 @@ struct OutputFile : testing::Test {
     static Status write(const QString& file, WriteMode mode, FileKind kind, const QByteArray& bytes) {
         QFile out;
         if (Status status = sys::openForWriting(out, file, mode, kind); !status.ok()) return status;
+        if (mode == WriteMode::Output) return sys::replaceContent(out, file, kind, bytes);
         EXPECT_EQ(out.write(bytes), bytes.size());
         out.close();
         return {};
