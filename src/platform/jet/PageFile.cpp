@@ -120,6 +120,7 @@ void PageFile::dropCache() {
     m_cached = 0;
     m_hand = 0;
     m_state = {};
+    m_sound.clear();
     ++m_generation;
 }
 
@@ -211,7 +212,21 @@ bool PageFile::noteTaken(uint32_t n) {
     return true;
 }
 
+bool PageFile::wasSound(uint32_t n, uint32_t table) const {
+    const auto sound = m_sound.find(n);
+    return sound != m_sound.end() && sound->second == table;
+}
+
+void PageFile::noteSound(uint32_t table) {
+    for (const auto& touched : m_touched)
+        m_sound[touched.first] = table;
+    m_touched.clear();
+}
+
+// What is still noted as touched was not checked.
 bool PageFile::forgetTouched() {
+    for (const auto& touched : m_touched)
+        m_sound.erase(touched.first);
     m_touched.clear();
     m_touchedInDoubt = false;
     return true;

@@ -3,6 +3,7 @@
 #include <map>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/jet/Format.h"
@@ -87,6 +88,13 @@ class PageFile {
     /// Whether a page was taken for free that does not look so: what it was before says nothing.
     bool touchedInDoubt() const { return m_touchedInDoubt; }
     bool noteTaken(uint32_t n);
+    /// Whether the page kept the rules after the last statement that has touched it, which was one on that
+    /// table: then it need not be asked before the next one.
+    bool wasSound(uint32_t n, uint32_t table) const;
+    /// Says so of the pages that the statement has touched.
+    void noteSound(uint32_t table);
+    /// Of no page any more: a statement was not checked.
+    void forgetSound() { m_sound.clear(); }
 
   private:
     void open();
@@ -141,6 +149,7 @@ class PageFile {
 
     std::map<uint32_t, PagePtr> m_touched;
     bool m_touchedInDoubt = false;
+    std::unordered_map<uint32_t, uint32_t> m_sound;  // a page and its table
 };
 
 /// Holds the shared lock for a stretch of reading.

@@ -1,7 +1,8 @@
 #include "platform/jet/StatementRules.h"
 
 #include <algorithm>
-#include <optional>
+#include <bit>
+#include <utility>
 
 #include "platform/jet/DataPages.h"
 #include "platform/jet/Failure.h"
@@ -28,14 +29,64 @@ bool rowPageHolds(const Page& page, uint32_t number) {
     return rows.count() < data::maxSlots || !rows.isEmpty();
 }
 
+/// First and last entry of an index page, without the rest: most pages are asked for no more.
+class Edges {
+  public:
+    Edges(const Page& page, uint32_t number, uint32_t owner)
+        : leaf(page[0] == LeafPage), tail(load32(&page[index::tail])) {
+        if (!isIndexPage(page) || load32(&page[index::owner]) != owner)
+            failDamaged("manca la pagina ", number);
+        const uint8_t* entries = &page[index::entries];
+        const size_t end = endBefore(page, bits);
+        if (end == 0) return;
+        const size_t firstEnd = firstEndOf(page);
+        const size_t start = end == firstEnd ? 0 : endBefore(page, end);
+        const size_t shared = start == 0 ? 0 : load16(&page[index::prefix]);
+        const size_t least = index::rowIdLength + (leaf ? 0 : index::childLength);
+        if (end > index::room || shared > firstEnd || firstEnd < least || shared + end - start < least)
+            failDamaged("la pagina di indice ", number, " non è leggibile");
+        first.assign(entries, entries + firstEnd);
+        last.assign(entries, entries + shared);
+        last.insert(last.end(), entries + start, entries + end);
+        if (leaf) return;
+        first.resize(first.size() - index::childLength);
+        last.resize(last.size() - index::childLength);
+    }
+
+    bool leaf;
+    uint32_t tail;
+    Bytes first;  ///< key and row id; empty where there is no entry
+    Bytes last;
+
+    /// Bytes that the entries of a page take.
+    static size_t stored(const Page& page) { return endBefore(page, bits); }
+
+  private:
+    static constexpr size_t bits = 8 * (index::entries - index::mask);
+
+    static size_t firstEndOf(const Page& page) {
+        const uint8_t* mask = &page[index::mask];
+        const uint8_t* byte =
+            std::find_if(mask, &page[index::entries], [](uint8_t some) { return some != 0; });
+        return static_cast<size_t>(8 * (byte - mask)) + static_cast<size_t>(std::countr_zero(*byte));
+    }
+    // The last end below `limit`; 0 where there is none.
+    static size_t endBefore(const Page& page, size_t limit) {
+        const uint8_t* mask = &page[index::mask];
+        for (size_t byte = (limit + 7) / 8; byte-- > 0;) {
+            const size_t below = std::min<size_t>(limit - 8 * byte, 8);
+            const unsigned rest = mask[byte] & ((1u << below) - 1);
+            if (rest != 0) return 8 * byte + static_cast<size_t>(std::bit_width(rest)) - 1;
+        }
+        return 0;
+    }
+};
+
 // T1 within a page, and its free field.
 bool indexPageHolds(const Page& bytes, const IndexPage& page) {
     for (size_t i = 1; i < page.count(); ++i)
         if (compareEntries(page.keyAndRow(i - 1), page.keyAndRow(i)) >= 0) return false;
-    size_t stored = 0;
-    for (size_t bit = 0; bit < 8 * (index::entries - index::mask); ++bit)
-        if (bytes[index::mask + bit / 8] >> bit % 8 & 1) stored = bit;
-    return load16(&bytes[index::freeBytes]) == index::room - stored;
+    return load16(&bytes[index::freeBytes]) == index::room - Edges::stored(bytes);
 }
 
 /// The table's pages before the statement or after it.
@@ -48,8 +99,11 @@ class View {
 
     bool holds() const {
         try {
-            return std::all_of(m_file.touched().begin(), m_file.touched().end(),
-                               [&](const auto& touched) { return holds(touched.first); });
+            return std::all_of(m_file.touched().begin(), m_file.touched().end(), [&](const auto& touched) {
+                const bool known =
+                    m_moment == Moment::Before && m_file.wasSound(touched.first, m_definition.page);
+                return known || holds(touched.first);
+            });
         } catch (const Failure&) {
             return false;
         }
@@ -83,6 +137,12 @@ class View {
         return {*bytes, number, m_definition.page};
     }
 
+    Edges edges(uint32_t number) const {
+        const PagePtr bytes = find(number);
+        if (!bytes) failDamaged("manca la pagina ", number);
+        return {*bytes, number, m_definition.page};
+    }
+
     bool holds(uint32_t number) const {
         const PagePtr bytes = find(number);
         if (!bytes) return true;
@@ -94,18 +154,17 @@ class View {
     }
     // T3, and T1 from one page to the next.
     bool chained(uint32_t number, const IndexPage& page) const {
-        const auto inOrder = [&](const IndexPage& left, const IndexPage& right) {
-            return left.leaf == right.leaf &&
-                   (left.count() == 0 || right.count() == 0 ||
-                    compareEntries(left.keyAndRow(left.count() - 1), right.keyAndRow(0)) < 0);
+        const auto inOrder = [&](uint32_t left, uint32_t right) {
+            const Edges one = edges(left);
+            const Edges other = edges(right);
+            return one.leaf == other.leaf &&
+                   (one.last.empty() || other.first.empty() || compareEntries(one.last, other.first) < 0);
         };
-        if (page.next != 0) {
-            const IndexPage next = indexPage(page.next);
-            if (next.previous != number || !inOrder(page, next)) return false;
-        }
-        if (page.previous == 0) return true;
-        const IndexPage previous = indexPage(page.previous);
-        return previous.next == number && inOrder(previous, page);
+        const auto link = [&](uint32_t at, size_t field) { return load32(&(*find(at))[field]); };
+        return (page.next == 0 ||
+                (inOrder(number, page.next) && link(page.next, index::previous) == number)) &&
+               (page.previous == 0 ||
+                (inOrder(page.previous, number) && link(page.previous, index::next) == number));
     }
     // T2 and T4: one of the table's indexes has the page, as its root or where its entries say.
     bool listed(uint32_t number) const {
@@ -130,12 +189,8 @@ class View {
     }
     Bytes greatestBelow(uint32_t number) const {
         for (size_t depth = 0; depth < deepestPath; ++depth) {
-            const IndexPage page = indexPage(number);
-            if (page.leaf && page.count() == 0) return {};
-            if (page.leaf) {
-                const auto last = page.keyAndRow(page.count() - 1);
-                return {last.begin(), last.end()};
-            }
+            Edges page = edges(number);
+            if (page.leaf) return std::move(page.last);
             number = page.tail;
         }
         failDamaged("un indice gira in tondo");
@@ -149,11 +204,15 @@ class View {
 }  // namespace
 
 bool keepsRules(PageFile& file, const TableDefinition& definition) {
-    if (file.touchedInDoubt()) return true;
     const View before(file, definition, View::Moment::Before);
-    if (!before.holds()) return true;
+    if (file.touchedInDoubt() || !before.holds()) {
+        file.forgetSound();
+        return true;
+    }
     const View after(file, definition, View::Moment::After);
-    return after.holds() && after.pointersWithoutBody() == before.pointersWithoutBody();
+    if (!after.holds() || after.pointersWithoutBody() != before.pointersWithoutBody()) return false;
+    file.noteSound(definition.page);
+    return true;
 }
 
 }  // namespace jet
