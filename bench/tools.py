@@ -1,10 +1,14 @@
-"""What several benchmarks need: tools of packages that are unpacked and never installed, process times, medians."""
+"""What several benchmarks need: tools of packages that are unpacked and never installed, process times, medians, a line with
+latency."""
+import contextlib
 import os
 import pathlib
 import shutil
 import statistics
 import subprocess
 import time
+
+ROUND_TRIPS = (0, 10, 20, 50, 100)  # milliseconds, of the chart over them
 
 
 def unpacked(package, program, folder):
@@ -45,3 +49,16 @@ def timed(command, **more):
 
 def median(values):
     return statistics.median(values)
+
+
+@contextlib.contextmanager
+def delayed(build, port, flights, each_way=10):
+    """A line to `port` that delays some ms each way; the number of flights towards the server goes to `flights`."""
+    proxy = subprocess.Popen([str(build / "bench/smtp/bench_smtp_delay_proxy"), str(port), str(each_way)], text=True,
+                             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+    try:
+        yield int(proxy.stdout.readline())
+    finally:
+        proxy.stdin.close()
+        flights.append(int(proxy.stdout.readline()))
+        proxy.wait()

@@ -166,6 +166,20 @@ class Bench:
                          "the file read by 4 KiB, time of ours over its", changed["processor"] / read["processor"], 1.0)
             base.unlink()
 
+    def growth(self):
+        """The chart's lines over the size of the list."""
+        make = str(self.build / "bench/scan/scan_recipients")
+        lines = {}
+        for rows in (self.rows // 1000, self.rows // 100, self.rows // 10, self.rows):
+            base = self.work / "growing.mdb"
+            subprocess.run([make, "--make", str(base), str(rows)], check=True)
+            for what, line, times in (("scan", "every cell as text", 1), ("select", "UPDATE … SET sel = True", 1),
+                                      ("order", "first query of a run", 1), ("tick", "a later tick", min(rows // 5, 2000))):
+                spent = self.measured(what, base, *([times] if times > 1 else []))["processor"] / times
+                lines.setdefault(line, []).append((rows, spent * 1000))
+            base.unlink()
+        self.records += [{"chart": "list", "line": line, "points": points} for line, points in lines.items()]
+
     def ticks(self):
         own, peer = self.work / "ticks.mdb", self.work / "ticks.sqlite"
         shutil.copy(self.base, own)
@@ -197,6 +211,7 @@ def main():
     bench.groups()
     bench.writing()
     bench.later_ticks()
+    bench.growth()
     bench.ticks()
     print(json.dumps(bench.records))
 

@@ -9,6 +9,7 @@ them. Where the processes run is pinned: client and server on one core, and on t
 time counts, that of the whole process with its start.
 """
 import contextlib
+import functools
 import json
 import os
 import pathlib
@@ -118,19 +119,6 @@ def with_attachment(build, work, port, rounds):
             "peer": "smtp-source, time of ours over its", "ratio": ratio, "goal": 1.3, "met": ratio <= 1.3}
 
 
-@contextlib.contextmanager
-def delayed(build, port, flights):
-    """A line to `port` that delays 10 ms each way; the number of flights towards the server goes to `flights`."""
-    proxy = subprocess.Popen([str(build / "bench/smtp/bench_smtp_delay_proxy"), str(port), "10"], text=True,
-                             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-    try:
-        yield int(proxy.stdout.readline())
-    finally:
-        proxy.stdin.close()
-        flights.append(int(proxy.stdout.readline()))
-        proxy.wait()
-
-
 def processor_microseconds(pid):
     """Time that a process of one thread has spent in the processor, in the system's finest unit."""
     return int(pathlib.Path(f"/proc/{pid}/schedstat").read_text(encoding="ascii").split()[0]) / 1000
@@ -201,11 +189,11 @@ def over_a_line(build, work):
     count = 100
     with own_sink(build) as port:
         for _ in range(3):
-            with delayed(build, port, flights) as line:
+            with tools.delayed(build, port, flights) as line:
                 ours.append(deliver(build, line, count))
-            with delayed(build, port, []) as line:
+            with tools.delayed(build, port, []) as line:
                 peers.append(source(work, line, count))
-            with delayed(build, port, []) as line:
+            with tools.delayed(build, port, []) as line:
                 raws.append(raw(build, line, count, "flight"))
     # The greeting is followed by EHLO, and the last message by QUIT: two flights that belong to no message. The first
     # message takes two.
@@ -213,6 +201,18 @@ def over_a_line(build, work):
     return [record("deliver over a line of 10 ms each way", ours, peers, raws, 3.5),
             {"name": "round trips a message", "value": trips, "unit": "round trips", "peer": "one", "ratio": 1 / trips,
              "goal": 1.0, "met": trips <= 1}]
+
+
+def over_lines(build, work):
+    """The chart's lines over the round-trip time."""
+    ours, peers = [], []
+    with own_sink(build) as port:
+        for trip in tools.ROUND_TRIPS:
+            for points, rate in ((ours, functools.partial(deliver, build)), (peers, functools.partial(source, work))):
+                with tools.delayed(build, port, [], trip // 2) as line:
+                    points.append((trip, rate(line, 50)[0]))
+    return [{"chart": "line", "line": "delivery alone, without the pause", "points": ours},
+            {"chart": "line", "line": "smtp-source -d, one connection", "points": peers}]
 
 
 def main():
@@ -227,6 +227,7 @@ def main():
     with pinned({one}), sink(work) as server:
         records.append(with_book(build, work, server, 9 * rounds))
     records += over_a_line(build, work)
+    records += over_lines(build, work)
     print(json.dumps(records))
 
 

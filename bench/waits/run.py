@@ -31,7 +31,7 @@ def play(program, *arguments):
 def record(name, kind, played):
     place, value = max(((place, min(one[kind] for one in rounds)) for place, rounds in played.items()),
                        key=lambda found: found[1])
-    return {"name": f"{name}: {place}", "value": value, "unit": "ms", "peer": f"{GOAL} ms", "ratio": value / GOAL,
+    return {"name": name, "value": value, "unit": "ms", "peer": f"{GOAL} ms; the longest is \"{place}\"", "ratio": value / GOAL,
             "goal": 1.0, "met": value <= GOAL}
 
 

@@ -5,7 +5,9 @@ with a DELETE journal, one RSA signature with a kept key.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]
 
-What the ratio compares is done without painting; the time with the window on a screen is shown beside it. With the database on a tmpfs and on disk (the work folder), client and server on a core each where there are two.
+What the ratio compares is done without painting; the time with the window on a screen is shown beside it. With the database on a
+tmpfs and on disk (the work folder), client and server on a core each where there are two. A line of the chart over the round-trip
+time has the pause of the window besides.
 """
 import contextlib
 import json
@@ -42,8 +44,12 @@ def told(command, **more):
     return json.loads(done.stdout)
 
 
+def surroundings(folder):
+    return dict(os.environ, TMPDIR=str(folder), QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(folder))
+
+
 def compare(build, port, own, signing, folder, rounds):
-    environment = dict(os.environ, TMPDIR=str(folder), QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(folder))
+    environment = surroundings(folder)
     ours, peers = [], []
     for _ in range(rounds):
         run = [build / "bench/whole_run/bench_whole_run", port, MESSAGES, SIZE, own, signing]
@@ -53,6 +59,16 @@ def compare(build, port, own, signing, folder, rounds):
         raw = told([build / "bench/smtp/bench_smtp_raw_client", port, MESSAGES, SIZE, "flight", "tls"])
         peers.append([seconds * 1e6 / MESSAGES for seconds in (raw["seconds"], parts["commits"], parts["signatures"])])
     return ours, peers
+
+
+def over_lines(build, port, own, signing, folder):
+    """The chart's line of the window over the round-trip time: with its pause, which every message waits for."""
+    points = []
+    for trip in tools.ROUND_TRIPS:
+        with tools.delayed(build, port, [], trip // 2) as line:
+            run = [build / "bench/whole_run/bench_whole_run", line, 30, SIZE, own, signing, "paced"]
+            points.append((trip, 1e6 / told(run, env=surroundings(folder))["microseconds"]))
+    return {"chart": "line", "line": "the send window, with its shortest pause", "points": points}
 
 
 def record(place, ours, peers, goal):
@@ -87,6 +103,7 @@ def main():
         with tempfile.TemporaryDirectory(dir=MEMORY) as folder:
             records.append(record("on a tmpfs", *compare(build, port, own, signing, pathlib.Path(folder), rounds), 1.15))
         records.append(record("on disk", *compare(build, port, own, signing, work, rounds), 1.0))
+        records.append(over_lines(build, port, own, signing, work))
     print(json.dumps(records))
 
 
