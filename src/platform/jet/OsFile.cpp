@@ -205,12 +205,19 @@ OsFile::Synced OsFile::sync() {
     return {};
 }
 
-void OsFile::stampAfter(int64_t previousNs) {
+FileState OsFile::stampAfter(int64_t previousNs) {
+    static constexpr int64_t steps[] = {1, 10'000'000, 2'000'000'000};  // of most disks, exFAT, FAT
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    const int64_t ns = std::max(now.tv_sec * int64_t{1000000000} + now.tv_nsec, previousNs + 1);
-    const timespec times[2] = {{0, UTIME_OMIT}, {ns / 1000000000, ns % 1000000000}};
-    if (::futimens(m_fd, times) != 0) return;
+    FileState stamped;
+    for (const int64_t step : steps) {
+        const int64_t ns = std::max(now.tv_sec * int64_t{1000000000} + now.tv_nsec, previousNs + step);
+        const timespec times[2] = {{0, UTIME_OMIT}, {ns / 1000000000, ns % 1000000000}};
+        const bool refused = ::futimens(m_fd, times) != 0;
+        stamped = state();
+        if (refused || stamped.modifiedNs > previousNs) break;
+    }
+    return stamped;
 }
 
 FileRights OsFile::rights() const {

@@ -75,9 +75,10 @@ class OsFile {
     };
     Synced sync();
     /// Sets a modification time later than `previousNs`, so that no two states written by this engine carry
-    /// the same one however coarse the file system's clock is. Not allowed to some users: then nothing
-    /// happens.
-    void stampAfter(int64_t previousNs);
+    /// the same one however coarse the file system's clock is: FAT counts in steps of two seconds, and many
+    /// changes in a short time bring its files ahead of the clock. Not allowed to some users: then nothing
+    /// happens. Returns the state of the file afterwards.
+    FileState stampAfter(int64_t previousNs);
 
     FileRights rights() const;
     /// Gives this file the group and the access rights of `other`, its access list included; those of the

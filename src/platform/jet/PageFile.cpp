@@ -306,15 +306,16 @@ void PageFile::endStatement() {
 void PageFile::commit() {
     assert(m_writing);
     if (m_journal.started()) {
+        FileState written;
         try {
             writeChanged();
-            m_file.stampAfter(m_state.modifiedNs);
+            written = m_file.stampAfter(m_state.modifiedNs);
             m_journal.finish(m_file.sync());
         } catch (...) {
             rollback();
             throw;
         }
-        m_state = m_file.state();
+        m_state = written;
     }
     m_writing = false;
     unlock();
