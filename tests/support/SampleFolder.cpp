@@ -150,6 +150,24 @@ void SampleFolder::damagePagesWith(const QByteArray& text) const {
     if (damaged == 0) qFatal("the text is on no page");
 }
 
+void SampleFolder::renameInFile(const QString& path, const QByteArray& from, const QByteArray& to) {
+    if (from.size() != to.size()) qFatal("a name of another length");
+    const auto wide = [](const QByteArray& text) {
+        QByteArray bytes;
+        for (const char character : text)
+            bytes += character + QByteArray(1, '\0');
+        return bytes;
+    };
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite)) qFatal("no database");
+    const QByteArray before = file.readAll();
+    QByteArray bytes = before;
+    bytes.replace(wide(from), wide(to)).replace(from, to);
+    if (bytes == before) qFatal("the name is not in the file");
+    file.seek(0);
+    if (file.write(bytes) != bytes.size()) qFatal("cannot write");
+}
+
 void SampleFolder::hideDatabase() {
     QFile::rename(database(), database() + ".via");
 }

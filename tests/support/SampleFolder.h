@@ -50,6 +50,9 @@ class SampleFolder {
     /// Replaces the database by one whose column of the groups' names is narrower than a new one's.
     void narrowGroupNames(int characters);
 
+    /// Renames a table or a column in the bytes of a database, to a name of the same length.
+    static void renameInFile(const QString& path, const QByteArray& from, const QByteArray& to);
+
     /// Overwrites the pages that contain this text; the file must have some.
     void damagePagesWith(const QByteArray& text) const;
 

@@ -39,12 +39,8 @@ class TestDatabase : public QObject {
         const QTemporaryDir folder;
         const QString path = folder.filePath("gruppi.mdb");
         if (!schema::CreaDatabase(path.toStdString()).ok()) qFatal("no database of groups");
-        const auto wide = [](const QString& text) {
-            return QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
-        };
-        QByteArray bytes = readFile(path);
-        return bytes.replace(wide("tb_destinatari"), wide("tb_destinatarx"))
-            .replace("tb_destinatari", "tb_destinatarx");
+        SampleFolder::renameInFile(path, "tb_destinatari", "tb_destinatarx");
+        return readFile(path);
     }
     static QByteArray pathFile(const StoreStage& stage) {
         return readFile(stage.folder.path("data/pathDBase.imp"));
@@ -217,6 +213,26 @@ class TestDatabase : public QObject {
         QCOMPARE(pathFile(stage), "[Path dabatase Quintara]\r\n" + stage.folder.database().toUtf8() + "\r\n");
         QCOMPARE(stage.grd().Rows(), 1);
         QCOMPARE(stage.tree().Count(), 2);
+    }
+
+    void aDatabaseThatLacksAColumnIsTakenAndFailsAtTheStatementThatNeedsIt() {
+        StoreStage stage;
+        stage.window();
+        const QString other = otherDatabase(stage);
+        SampleFolder::renameInFile(other, "campo5", "campox");
+        MessageDialog::queue(MessageDialog::Yes);
+        FileDialog::queue(other);
+        stage.command("cmdMailingApri");
+        QCOMPARE(percorsoDB, other);
+        QCOMPARE(MessageDialog::shown().size(), 1);
+        const QString group = "K" + QString::number(stage.addGroup(0, "Altri"));
+        stage.groups().CaricaGruppiINI();
+        stage.clickNode(group);
+        QVERIFY(stage.ends.isEmpty());
+        MessageDialog::queue(MessageDialog::Ok);
+        stage.command("cmdPopMailingCopia");
+        QVERIFY(stage.failure().contains("campo5"));
+        QCOMPARE(stage.ends, QList<int>{1});
     }
 
     void savingAsksNothingAndCopiesTheDatabase() {

@@ -1,6 +1,7 @@
 // The tree: how it is built, what a click does, labels and pop-up menus.
 #include <QLineEdit>
 
+#include "platform/ui/GroupTreeItem.h"
 #include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
 
@@ -29,6 +30,21 @@ class TestGruppiAlbero : public QObject {
         QCOMPARE(root->Text(), "Database Mailing");
         QVERIFY(stage.tree().topLevelItem(0)->isExpanded());
         QVERIFY(!nodoCorrente);
+    }
+
+    void rootAndGroupsHaveTheirImages() {
+        StoreStage stage;
+        const auto images = [](QTreeWidgetItem* item) {
+            const auto* node = static_cast<ui::GroupTreeItem*>(item);
+            return QStringList{node->image(false), node->image(true)};
+        };
+        QTreeWidgetItem* root = stage.tree().topLevelItem(0);
+        stage.clickNode("K0");
+        stage.command("cmdPopMailingNew");
+        QCOMPARE(images(root), (QStringList{"Mailing", "Mailing"}));
+        QCOMPARE(root->childCount(), 2);
+        for (const int child : {0, 1})
+            QCOMPARE(images(root->child(child)), (QStringList{"Close", "Open"}));
     }
 
     void formFillsItsPaneWithTheTree() {

@@ -18,6 +18,14 @@ using ui::MessageDialog;
 class TestGruppiComandi : public QObject {
     Q_OBJECT
 
+    /// A click while the database is away.
+    static void failToClick(StoreStage& stage, const QString& key) {
+        const QPoint place = stage.at(key);
+        stage.folder.hideDatabase();
+        mouse::click(&stage.tree(), place);
+        stage.folder.showDatabase();
+    }
+
   private Q_SLOTS:
     void newGroupIsLastUntilTheNextRebuild() {
         StoreStage stage;
@@ -151,6 +159,22 @@ class TestGruppiComandi : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
+    void deleteThatFailsHalfwayLeavesItsFirstStatementDone() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        SampleFolder::renameInFile(stage.folder.database(), "tb_gruppi", "tb_gruppx");
+        for (const int answer : {MessageDialog::Yes, MessageDialog::Ok})
+            MessageDialog::queue(answer);
+        stage.command("cmdPopMailingDel");
+        SampleFolder::renameInFile(stage.folder.database(), "tb_gruppx", "tb_gruppi");
+        QVERIFY(stage.failure().contains("tb_gruppi"));
+        QCOMPARE(stage.ends, QList<int>{1});
+        QCOMPARE(StoreStage::count("tb_destinatari", "id > 0"), 0);
+        QCOMPARE(StoreStage::count("tb_gruppi", "id = 1"), 1);
+        QVERIFY(stage.tree().Node("K1"));
+    }
+
     void theQuestionShowsTheGroupItIsAboutAndReturnAnswersNo() {
         StoreStage stage;
         const int other = stage.addGroup(1, "Altro");
@@ -223,10 +247,7 @@ class TestGruppiComandi : public QObject {
     void groupWhoseClickFailedIsNotDeletedFromAboveItsSubgroups() {
         StoreStage stage;
         stage.addGroup(1, "Sotto");
-        const QPoint place = stage.at("K1");
-        stage.folder.hideDatabase();
-        mouse::click(&stage.tree(), place);
-        stage.folder.showDatabase();
+        failToClick(stage, "K1");
         QCOMPARE(stage.shape(), "Database Mailing(Clienti)");
         MessageDialog::queue(MessageDialog::Ok);
         stage.command("cmdPopMailingDel");

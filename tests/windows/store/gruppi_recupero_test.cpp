@@ -27,21 +27,6 @@ QByteArray bytesOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray wide(const QByteArray& text) {
-    QByteArray bytes;
-    for (const char character : text)
-        bytes += character + QByteArray(1, '\0');
-    return bytes;
-}
-
-/// Renames a table or column in the bytes of a file, to a name of the same length.
-void renameInFile(const QString& path, const QByteArray& from, const QByteArray& to) {
-    QByteArray bytes = bytesOf(path);
-    bytes.replace(wide(from), wide(to)).replace(from, to);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write");
-}
-
 /// The program's start, up to its requested end.
 void start() {
     evento([] { finestre::Main(); });
@@ -123,7 +108,7 @@ class TestGruppiRecupero : public QObject {
         text.write("testo");
         text.close();
         QVERIFY(schema::CreaDatabase(stage.folder.path("gruppi.mdb").toStdString()).ok());
-        renameInFile(stage.folder.path("gruppi.mdb"), "tb_destinatari", "tb_destinatarx");
+        SampleFolder::renameInFile(stage.folder.path("gruppi.mdb"), "tb_destinatari", "tb_destinatarx");
         stage.folder.hideDatabase();
         MessageDialog::queue(MessageDialog::Ok);
         MessageDialog::queue(MessageDialog::Ok);
@@ -132,6 +117,10 @@ class TestGruppiRecupero : public QObject {
         verifyBoxes({{missing, 16}, {"Formato file errato", 64}});
         QCOMPARE(stage.ends, QList<int>{1});
         QCOMPARE(percorsoDB, stage.folder.database());
+        // The hourglass goes with the process.
+        QVERIFY(QApplication::overrideCursor());
+        while (QApplication::overrideCursor())
+            QApplication::restoreOverrideCursor();
     }
 
     void databaseThatPassesButCannotBeLoadedAsksAgain() {
@@ -139,7 +128,7 @@ class TestGruppiRecupero : public QObject {
         const QString good = otherDatabase(stage);
         const QString lacking = stage.folder.path("manca.mdb");
         QVERIFY(QFile::copy(good, lacking));
-        renameInFile(lacking, "id_up", "id_xx");
+        SampleFolder::renameInFile(lacking, "id_up", "id_xx");
         stage.folder.hideDatabase();
         for (int i = 0; i < 2; ++i)
             MessageDialog::queue(MessageDialog::Ok);
