@@ -180,6 +180,8 @@ std::int32_t griglia::CartellaMostrata() {
 void griglia::RinfrescaGriglia() {
     FinestraDellaGriglia().SvuotaGriglia();
     Aggiorna();
+    // After a click that could not fill the grid these are the rows of the group before.
+    if (nodoCorrente && NumeroNodoCorrente().toInt() != numeroMostrata) SegnaNonLetta();
 }
 
 void griglia::SegnaNonLetta() {

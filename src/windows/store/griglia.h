@@ -46,7 +46,8 @@ frmDestinatario& Destinatario();
 void RiempiGriglia();
 /// Number of the group with which the grid was filled last.
 std::int32_t CartellaMostrata();
-/// Refills the grid with what its data control asked for last. Unguarded.
+/// Refills the grid with what its data control asked for last. Unguarded. Where that is not the current
+/// group, because it could not be read, the rows stay covered.
 void RinfrescaGriglia();
 
 /// To be called when a click on a node could not fill the grid: says so over the rows that it still shows.

@@ -2,10 +2,12 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScopeGuard>
 #include <QTimer>
 
 #include "modules/send/Accettati.h"
+#include "platform/ui/PropertyList.h"
 #include "platform/ui/Unattended.h"
 #include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"
@@ -388,6 +390,42 @@ class TestGruppiComandi : public QObject {
         stage.command("cmdPopMailingSelAllDB");
         QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
         QCOMPARE(stage.columnOfGrid(2), QStringList("Vero"));
+    }
+
+    void selectionAfterAClickThatFailedKeepsTheRowsOfTheGroupBeforeCovered() {
+        StoreStage stage;
+        const QString b = "K" + QString::number(stage.addGroup(0, "B"));
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        failToClick(stage, b);
+        stage.command("cmdPopMailingSelNotDB");
+        QCOMPARE(nodoCorrente->Text, "B");
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
+        QCOMPARE(stage.columnOfGrid(2), QStringList("Falso"));
+        // To edit one of them would move it into the group that was clicked.
+        QCOMPARE(stage.grd().Notice(), "Impossibile leggere i destinatari di questa cartella");
+        QTest::mouseDClick(stage.grd().viewport(), Qt::LeftButton, {}, stage.cell(1, 5));
+        QCOMPARE(StoreStage::count("tb_destinatari", "id_grp = 1"), 1);
+        stage.clickNode(b);
+        QCOMPARE(stage.grd().Notice(), "");
+        QCOMPARE(stage.grd().Rows(), 1);
+    }
+
+    void newRecipientAfterAClickThatFailedIsShownInItsGroup() {
+        StoreStage stage;
+        const int b = stage.addGroup(0, "B");
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        failToClick(stage, "K" + QString::number(b));
+        stage.whenFormOpens([](frmDestinatario& form) {
+            form.prp->Item("RagioneSociale")->setValue("Beta");
+            form.prp->Item("Email")->setValue("b@x.it");
+            QTest::mouseClick(form.cdmSalva, Qt::LeftButton);
+        });
+        stage.command("cmdPopMailingUserNew");
+        QCOMPARE(StoreStage::count("tb_destinatari", QString("id_grp = %1 AND rgs = 'Beta'").arg(b)), 1);
+        QCOMPARE(stage.columnOfGrid(5), QStringList("Beta"));
+        QCOMPARE(stage.grd().Notice(), "");
     }
 
     void commandWithoutDatabaseEndsTheProgram() {
