@@ -177,6 +177,13 @@ TEST_F(MessageFile, EmptyAttachmentListIsTheTwoMarkersInARow) {
     EXPECT_TRUE(readAll(path()).present.empty());
 }
 
+TEST_F(MessageFile, BodyIsEmptyWhereItsLastMarkerStandsInThePlaceOfTheFirst) {
+    const QByteArray head = "s\r\nNR\r\n[<INI-ALLG>]\r\n[<END-ALLG>]\r\n";
+    EXPECT_EQ(readBytes(head + "[<END-MESS>]\r\nx\r\n[<END-MESS>]\r\n").body, QString());
+    // Only the exact row counts there.
+    EXPECT_EQ(readBytes(head + " [<END-MESS>]\r\nx\r\n[<END-MESS>]\r\n").body, QStringLiteral("x\r\n"));
+}
+
 TEST_F(MessageFile, LoneLineFeedStaysInsideALine) {
     const Reading reading =
         readBytes("a\nb\r\nHI\r\n[<INI-ALLG>]\r\n[<END-ALLG>]\r\n[<INI-MESS>]\r\nx\ny\r\n[<END-MESS>]\r\n");

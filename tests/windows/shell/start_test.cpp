@@ -406,6 +406,21 @@ class TestStart : public QObject {
         QCOMPARE(stage.ends, (QList<int>{1, 0}));
     }
 
+    void theLayoutComesBackAlsoWhereTheLanguageFails() {
+        StoreStage stage;
+        {
+            frmMain& window = stage.window();
+            window.addDockWidget(Qt::RightDockWidgetArea, window.findChild<QDockWidget*>("dckGruppi"));
+            window.close();
+            finestre::dimentica();
+        }
+        QVERIFY(QFile::remove(stage.folder.path("LANG.lng")));
+        start();
+        frmMain& window = finestre::Main();
+        QVERIFY(!window.DockWindows().DockWindows("dckGruppi")->content());
+        QCOMPARE(window.dockWidgetArea(window.findChild<QDockWidget*>("dckGruppi")), Qt::RightDockWidgetArea);
+    }
+
     void theInstalledTemplatesMakeAFolderThatStartsWithoutAQuestion() {
         StoreStage stage;
         const QTemporaryDir user;
