@@ -46,12 +46,11 @@ QByteArray pemOf(EVP_PKEY* key) {
 }
 
 QByteArray publicPart(EVP_PKEY* key) {
-    unsigned char* bytes = nullptr;
-    const int size = i2d_PUBKEY(key, &bytes);
+    const int size = i2d_PUBKEY(key, nullptr);
     if (size <= 0) return {};
-    QByteArray der(reinterpret_cast<const char*>(bytes), size);
-    OPENSSL_free(bytes);
-    return der;
+    QByteArray der(size, Qt::Uninitialized);
+    auto* bytes = reinterpret_cast<unsigned char*>(der.data());
+    return i2d_PUBKEY(key, &bytes) == size ? der : QByteArray();
 }
 
 Key keyOfDer(const QByteArray& der) {
