@@ -109,6 +109,10 @@ Answer unusable(const QString& why) {
 
 Answer readReply(Type type, QByteArrayView reply) {
     constexpr int headerSize = 12;
+    constexpr int isReply = 0x80;
+    // the library takes a question for an answer as well
+    if (reply.size() >= headerSize && !(reply[2] & isReply))
+        return unusable(Words::tr("la risposta del DNS è danneggiata"));
     const int code = reply.size() < headerSize ? 0 : reply[3] & 0x0f;
     if (code != 0) return unusable(Words::tr("il DNS risponde con il codice di errore %1").arg(code));
     Answer answer;

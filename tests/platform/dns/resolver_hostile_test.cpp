@@ -92,6 +92,18 @@ TEST(ResolverHostile, ReplyToAnotherQuestionIsNotTaken) {
     EXPECT_TRUE(ask(other, {50, 2, endless}).failed());
 }
 
+TEST(ResolverHostile, DatagramWithoutTheBitOfAReplyIsAFailure) {
+    const UdpResponder server(answering([](const QByteArray& question) {
+        QByteArray noReply = reply(question, 1);
+        noReply[2] = 1;
+        return noReply;
+    }));
+    const Answer answer = ask(server, {endless, 1, endless});
+    EXPECT_TRUE(answer.failed());
+    EXPECT_TRUE(answer.addresses.isEmpty());
+    EXPECT_EQ(answer.why.toStdString(), "la risposta del DNS è danneggiata");
+}
+
 TEST(ResolverHostile, RubbishIsAFailure) {
     const UdpResponder server(
         answering([](const QByteArray& question) { return reply(question, 1).chopped(3); }));
