@@ -32,15 +32,20 @@ struct Tally {
 
 /// Seed and number of cases from the command line.
 struct Wanted {
+    enum class Cases { DependOnEarlierOnes, StandAlone };
+
     unsigned seed;
     int cases;
+    int first = 0;  ///< number of the first case; another than 0 only where cases stand alone
 
-    Wanted(int argc, char** argv) {
-        if (argc != 3) {
-            std::fprintf(stderr, "usage: %s SEED CASES\n", argv[0]);
+    Wanted(int argc, char** argv, Cases kind = Cases::DependOnEarlierOnes) {
+        const bool alone = kind == Cases::StandAlone;
+        if (argc != 3 && !(alone && argc == 4)) {
+            std::fprintf(stderr, "usage: %s SEED CASES%s\n", argv[0], alone ? " [FIRST]" : "");
             std::exit(2);
         }
         seed = static_cast<unsigned>(std::strtoul(argv[1], nullptr, 10));
         cases = std::atoi(argv[2]);
+        if (argc == 4) first = std::atoi(argv[3]);
     }
 };
