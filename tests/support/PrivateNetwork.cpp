@@ -39,7 +39,7 @@ bool isRun(const char* source) {
 /// With mounts that the rest of the system does not see.
 bool leaveWorld() {
     return ::unshare(CLONE_NEWNET | CLONE_NEWNS) == 0 &&
-           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+           ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 /// Tried by a child process: one that fails half-way, as in a chroot, cannot undo the first half.
@@ -90,7 +90,7 @@ bool replaceResolverConfiguration(const QByteArray& text) {
     if (!file.resize(0) || !file.seek(0) || file.write(text) != text.size() || !file.flush()) return false;
     if (mounted) return true;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    mounted = ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", nullptr, MS_BIND,
+    mounted = ::mount(QFile::encodeName(file.fileName()).constData(), "/etc/resolv.conf", "none", MS_BIND,
                       nullptr) == 0;
     return mounted;
 }
