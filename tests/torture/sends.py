@@ -153,8 +153,11 @@ def kills(build, seed, count, timer):
                     tally.add("survived")
                 before = len(stage.received())
             if still_selected(stage):
+                # Who was accepted and not marked leaves the queue when the program starts. Was he the last one, then it
+                # refuses to begin a run, and ends here.
+                all_served = set(stage.people) <= set(stage.received())
                 last = stage.start("none", 10 ** 9, stdout=subprocess.DEVNULL)
-                if last.wait(timeout=300) != 0:
+                if last.wait(timeout=300) != 0 and not all_served:
                     raise SystemExit(f"FAILED: the last run ended with {last.returncode}")
                 time.sleep(0.05)
             twice += len(again(stage, before))
