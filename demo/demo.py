@@ -11,7 +11,6 @@ be.
 import csv
 import email
 import email.policy
-import hashlib
 import os
 import pathlib
 import re
@@ -171,9 +170,11 @@ def main():
     report.check((output / "send-window.png").stat().st_size > 0, "there is no picture of the window")
 
     print_table(["recipient", "name", "subject", "bytes"], lines)
-    digest = hashlib.sha256(attachment.read_bytes()).hexdigest()[:12]
-    print(f"\n{len(lines)} messages arrived for {len(selected)} selected recipients of {len(rows)}; attachment {digest}; "
-          f"message file {message.stat().st_size} bytes")
+    print(f"\n{len(lines)} messages arrived for the {len(selected)} selected of {len(rows)} recipients.")
+    if not report.problems:
+        print(f"Each has its recipient's fields, the picture and {attachment.name}; nobody is selected any more.")
+    if unknown := [row["rgs"] for row in selected.values() if row["nom"] == NULL]:
+        print(f"Where the database has no value a placeholder stays, as the name of {' and '.join(unknown)}.")
     print_where_to_look(os.path.relpath(output), os.path.relpath(received[0]) if received else "")
     for problem in report.problems:
         print("PROBLEM:", problem)
