@@ -1,4 +1,5 @@
 // The list of attachments, and the properties of the page.
+#include <QDir>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -84,6 +85,20 @@ class TestPagina : public QObject {
         attach("b.txt");
         QCOMPARE(list().columnWidth(0), list().fontMetrics().horizontalAdvance("b.txt") + 36);
         QCOMPARE(list().columnWidth(1), list().fontMetrics().horizontalAdvance(cell(1, 1)) + 20);
+    }
+
+    void aLongPathIsNotCut() {
+        const QString folder = QString(200, 'x');
+        QVERIFY(QDir(stage().path("")).mkpath(folder));
+        attach(folder + "/a.txt");
+        const int wanted = list().fontMetrics().horizontalAdvance(cell(0, 2)) + 20;
+        QVERIFY(wanted > list().viewport()->width());
+        QCOMPARE(list().columnWidth(2), wanted);
+        stage().editor().resize(stage().editor().width() + 20, stage().editor().height());
+        QTest::qWait(0);
+        QCOMPARE(list().columnWidth(2), wanted);
+        attach("b.txt");
+        QVERIFY(list().columnWidth(2) < wanted);
     }
 
     void theRowsAreHighEnoughToBeHit() {

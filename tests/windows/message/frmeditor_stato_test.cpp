@@ -9,6 +9,7 @@
 
 #include "platform/ui/ColorHexagon.h"
 #include "support/TestClass.h"
+#include "windows/core/bTheme.h"
 #include "windows/entry/Finestre.h"
 #include "windows/message/editor_stage.h"
 
@@ -118,6 +119,7 @@ class TestStato : public QObject {
         stage().fill("<table><tbody><tr><td>1</td></tr></tbody></table>");
         stage().caret("td", 1);
         QTRY_VERIFY(enabled("cmdTableInsRow"));
+        stage().tool("cmdSelezionaTutto").setEnabled(false);
         stage().chooseTab(1);
         for (const char* tool : tableTools)
             QVERIFY2(!enabled(tool), tool);
@@ -167,6 +169,18 @@ class TestStato : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void aNewDocumentIsShownWithBordersAndWithoutDetailsLikeItsTools() {
+        stage().start("cmdShowDetails");
+        stage().start("cmdShowBorder");
+        stage().editor().NuovoMessaggio();
+        stage().fill("<table border=0><tbody><tr><td>x</td></tr></tbody></table><form><br></form>");
+        const auto styleOf = [this](const QString& what) {
+            return stage().design().evaluate("getComputedStyle(document.querySelector" + what).toString();
+        };
+        QCOMPARE(styleOf("('td')).outlineStyle"), "dotted");
+        QCOMPARE(styleOf("('form'), '::before').content"), "none");
+    }
+
     void theListsOfFontsAndSizes() {
         const ui::ComboTool& fonts = *bars().GetComboBox("cmbFontName");
         QCOMPARE(fonts.Count(), QFontDatabase::families().size());
@@ -186,6 +200,19 @@ class TestStato : public QObject {
         QCOMPARE(another.tb->currentIndex(), 0);
         QCOMPARE(another.titoloFile, "[NuovoFile.mss]");
         QCOMPARE(another.Allegati().LIST->columnCount(), 3);
+    }
+
+    void theSourceViewHasTheColoursOfTheTheme() {
+        stage().fill("<p>testo</p>");
+        stage().chooseTab(1);
+        const QImage numbers = stage().source().grab(QRect(2, 40, 8, 8)).toImage();
+        QCOMPARE(numbers.pixelColor(1, 1), coloreTema(0));
+        stage().start("cmdSelezionaTutto");
+        const QImage text = stage().source().grab().toImage();
+        int selected = 0;
+        for (int x = 0; x < text.width(); ++x)
+            selected += text.pixelColor(x, 4) == coloreTema(13);
+        QVERIFY(selected > 0);
     }
 
     void placeAndLayoutComeBackWithTheNextLoad() {
@@ -253,6 +280,9 @@ class TestStato : public QObject {
         enter(*stage().source().focusProxy()->findChild<QWidget*>("qt_scrollarea_viewport"));
         QCOMPARE(stage().hint(), "Mod. Codice");
         stage().editor().tb->setTabCaption(1, "Origine");
+        stage().chooseTab(2);
+        Q_EMIT stage().editor().WEB->pointerEntered();
+        QCOMPARE(stage().hint(), "Mod. Anteprima");
         QWidget& rows = *stage().editor().Allegati().LIST->viewport();
         QVERIFY(rows.hasMouseTracking());
         QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), rows.mapToGlobal(QPointF(3, 3)), Qt::NoButton,
