@@ -13,13 +13,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
-#include <QTimer>
-#include <QTreeWidget>
 
+#include "controls.h"
 #include "platform/ui/CommandBars.h"
-#include "platform/ui/DataGrid.h"
 #include "platform/ui/FileDialog.h"
-#include "platform/ui/GroupTree.h"
 #include "unattended.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/entry/Finestre.h"
@@ -53,14 +50,9 @@ void take(QWidget& window, const QString& name) {
     if (!picture.save(outputFolder + '/' + name + ".png", "PNG", 0)) qFatal("cannot write a picture");
 }
 
-/// Runs one command of the main window; pictures and hides the modal window that `meanwhile` finds.
-void during(const QString& command, const std::function<QWidget&()>& meanwhile, const QString& name) {
-    QTimer::singleShot(200, [&] {
-        QWidget& window = meanwhile();
-        take(window, name);
-        window.hide();
-    });
-    finestre::Main().ComandoPremuto(command);
+/// What takes the picture of a window under this name.
+std::function<void(QWidget&)> taken(const QString& name) {
+    return [name](QWidget& window) { take(window, name); };
 }
 
 QWidget& filledImport() {
@@ -83,12 +75,10 @@ QWidget& filledAccount() {
 void takeAll(const QString& message) {
     frmMain& main = finestre::Main();
     main.resize(900, 420);
-    auto* tree = main.findChild<ui::GroupTree*>("TREE");
-    auto* group = tree->topLevelItem(0)->child(0);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(group).center());
+    clickFirstGroup();
     take(main, "main");
-    during("cmdMailingImpTXT", filledImport, "import-text");
-    during("cmdFileAccount", filledAccount, "account");
+    during("cmdMailingImpTXT", filledImport, taken("import-text"));
+    during("cmdFileAccount", filledAccount, taken("account"));
     during(
         "cmdInvia",
         [&message]() -> QWidget& {
@@ -97,7 +87,7 @@ void takeAll(const QString& message) {
             QTest::mouseClick(window.findChild<QWidget*>("cmdFile"), Qt::LeftButton);
             return window;
         },
-        "send");
+        taken("send"));
 
     frmEditor& editor = finestre::Editor();
     editor.NuovoMessaggio();

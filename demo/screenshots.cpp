@@ -10,13 +10,12 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
-#include <QTreeWidget>
 
+#include "controls.h"
 #include "modules/core/bGlobal.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FileDialog.h"
-#include "platform/ui/GroupTree.h"
 #include "platform/ui/TabStrip.h"
 #include "unattended.h"
 #include "windows/accounts/frmAccount.h"
@@ -41,14 +40,9 @@ void take(QWidget& window, const QString& name) {
     if (!window.grab().save(outputFolder + '/' + name + ".png")) qFatal("cannot write a picture");
 }
 
-/// Runs one command of the main window; pictures and hides the modal window that `meanwhile` finds.
-void during(const QString& command, const std::function<QWidget&()>& meanwhile, const QString& name) {
-    QTimer::singleShot(200, [&] {
-        QWidget& window = meanwhile();
-        take(window, name);
-        window.hide();
-    });
-    finestre::Main().ComandoPremuto(command);
+/// What takes the picture of a window under this name.
+std::function<void(QWidget&)> taken(const QString& name) {
+    return [name](QWidget& window) { take(window, name); };
 }
 
 /// The editor with a message: its tabs, its windows, its panels.
@@ -102,18 +96,17 @@ void takeEditor(const QString& message) {
 
 void takeAll(const QString& message) {
     frmMain& main = finestre::Main();
-    auto* tree = main.findChild<ui::GroupTree*>("TREE");
-    auto* group = tree->topLevelItem(0)->child(0);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(group).center());
+    clickFirstGroup();
     take(main, "frmMain");
     during(
-        "cmdFileAccount", []() -> QWidget& { return finestre::Account(); }, "frmAccount");
+        "cmdFileAccount", []() -> QWidget& { return finestre::Account(); }, taken("frmAccount"));
     during(
-        "cmdPopMailingUserMod", []() -> QWidget& { return finestre::Destinatario(); }, "frmDestinatario");
+        "cmdPopMailingUserMod", []() -> QWidget& { return finestre::Destinatario(); },
+        taken("frmDestinatario"));
     during(
-        "cmdHelpInfoSu", []() -> QWidget& { return finestre::InfoSu(); }, "frmInfoSu");
+        "cmdHelpInfoSu", []() -> QWidget& { return finestre::InfoSu(); }, taken("frmInfoSu"));
     during(
-        "cmdMailingImpTXT", []() -> QWidget& { return finestre::ImpTXT(); }, "frmImpTXT");
+        "cmdMailingImpTXT", []() -> QWidget& { return finestre::ImpTXT(); }, taken("frmImpTXT"));
     during(
         "cmdMailingImpDB",
         []() -> QWidget& {
@@ -123,7 +116,7 @@ void takeAll(const QString& message) {
             window.findChild<QComboBox*>("cmbCmp(2)")->setCurrentText("email");
             return window;
         },
-        "frmImpDB");
+        taken("frmImpDB"));
     finestre::Scelta().show();
     take(finestre::Scelta(), "frmScelta");
     finestre::Scelta().hide();
@@ -135,7 +128,7 @@ void takeAll(const QString& message) {
             QTest::mouseClick(pick, Qt::LeftButton);
             return finestre::Invia();
         },
-        "frmInvia_pronta");
+        taken("frmInvia_pronta"));
     takeEditor(message);
     finestre::Splash().show();
     take(finestre::Splash(), "frmSplash");
