@@ -103,6 +103,14 @@ class Window:
         wait_for(lambda: not is_shown(self.frame), f"{self.frame} to close")
 
 
+def choose_file(title, path):
+    """Answers the file dialog of that title."""
+    chooser = Window("dialog", title)
+    chooser.write("Nome del file:", str(path))
+    chooser.press("Apri")
+    chooser.gone()
+
+
 def has(control, state):
     return control.getState().contains(state)
 
@@ -142,10 +150,7 @@ def send(main, message, delivered=1, failed=0, asked=False):
     window = Window("dialog", "Invia messaggi")
     window.find("label", f"Email da inviare: {delivered + failed}")
     window.press("Apri messaggio")
-    chooser = Window("dialog", "Apri messaggio")
-    chooser.write("Nome del file:", str(message))
-    chooser.press("Apri")
-    chooser.gone()
+    choose_file("Apri messaggio", message)
     window.press("Invia messaggi")
     if asked:
         question = Window("dialog", "Attenzione")

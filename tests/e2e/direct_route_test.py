@@ -9,7 +9,6 @@ ever connects there. The send window is operated as by an assistive program.
 import csv
 import mailbox
 import os
-import pathlib
 import socket
 import subprocess
 import sys
@@ -18,6 +17,7 @@ import tempfile
 import desktop
 from desktop import fail, wait_for
 import network
+import samples
 
 SERVERS = {"alfa.example": "127.0.0.2", "beta.example": "127.0.0.3", "spento.example": "127.0.0.4"}
 DOWN = "spento.example"
@@ -75,14 +75,8 @@ class MailServer:
 
 
 def make_program_folder(stage):
-    rows = [("gruppo", "rgs", "nom", "email", "sel")]
-    rows += [("Clienti", f"Ditta {number}", address.split("@")[0].capitalize(), address, "1")
-             for number, address in enumerate(RECIPIENTS)]
-    table = stage.work / "recipients.tsv"
-    table.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
-    build = pathlib.Path(sys.argv[1]).resolve()
-    subprocess.run([build / "demo" / "demo_make", stage.program_folder, "0", table], stdout=subprocess.DEVNULL, check=True,
-                   env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    people = [(f"Ditta {number}", address.split("@")[0].capitalize(), address) for number, address in enumerate(RECIPIENTS)]
+    samples.make_folder(stage.program_folder, 0, samples.write_table(stage.work / "recipients.tsv", people))
 
 
     names = "".join(f"mx.{domain}\n" for domain in SERVERS)

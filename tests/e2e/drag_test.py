@@ -6,11 +6,10 @@ contains afterwards is read with foreign tools.
 """
 import csv
 import os
-import pathlib
 import subprocess
-import sys
 
 import desktop
+import samples
 
 desktop.inside()
 from accessible import Window, act, click, extents, wait_for  # noqa: E402  looks for the bus when it is imported
@@ -51,10 +50,8 @@ def drag(begin, end):
 
 
 def play(stage, program):
-    build = pathlib.Path(sys.argv[1]).resolve()
     folder = stage.work / "sample"
-    subprocess.run([str(build / "demo" / "demo_make"), str(folder), "25"], env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
-                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
+    samples.make_folder(folder)
     database = folder / "data" / "data.mdb"
     running = stage.start([program], env={**os.environ, "VESTROLA_FOLDER": str(folder)})
     main = Window("frame", "Vestrola")

@@ -10,20 +10,20 @@ pictures are left there.
 import csv
 import email
 import email.policy
-import os
 import pathlib
 import subprocess
 import sys
 
 import desktop
 from desktop import fail
+import samples
 
 desktop.inside()
 desktop.PATIENCE = 150  # the wait of the block limit lasts up to a minute
 from accessible import Window, act, click, has, wait_for  # noqa: E402  looks for the bus when it is imported
 from assistive_test import type_into  # noqa: E402
 from drag_test import drag, middle  # noqa: E402
-from keyboard_test import add_account, keys, make_group, type_text  # noqa: E402
+from keyboard_test import add_account, keys, make_group, type_file, type_text  # noqa: E402
 from scripted_mail import ScriptedMail  # noqa: E402
 import pyatspi  # noqa: E402
 
@@ -77,14 +77,10 @@ def add_group(main, name):
 
 
 def import_access(stage, main):
-    build, folder = pathlib.Path(sys.argv[1]).resolve(), stage.work / "fiera"
-    table = stage.work / "fiera.tsv"
+    folder = stage.work / "fiera"
     heads = "gruppo rgs nom email piva ind cap loc prov campo1 campo2 sel".split()
-    table.write_text("\t".join(heads) + "\n" + "".join(
-        "\t".join(["Clienti", f"Ditta {n}", f"Ospite{n}", f"f{n:02}@fiera.test", *[""] * 7, "1"]) + "\n"
-        for n in range(FEW)), encoding="utf-8")
-    subprocess.run([str(build / "demo" / "demo_make"), str(folder), "25", str(table)],
-                   env={**os.environ, "QT_QPA_PLATFORM": "offscreen"}, stdout=subprocess.DEVNULL, check=True)
+    people = [("Clienti", f"Ditta {n}", f"Ospite{n}", f"f{n:02}@fiera.test", *[""] * 7, "1") for n in range(FEW)]
+    samples.make_folder(folder, table=samples.write_table(stage.work / "fiera.tsv", people, heads))
     act(main.find("table cell", "Fiera"), "Press")
     main.press("Importa Mailing List da Microsoft Access")
     window = Window("dialog", "Importa destinatari da Database Access")
@@ -125,14 +121,6 @@ def choose_and_edit(main, database):
     return recipients(database, nom="Zoe")[0]["email"]
 
 
-def choose_file(title, path):
-    chooser = Window("dialog", title)
-    chooser.wait_focus("text", "Nome del file:")
-    type_text(path)
-    keys("Return")
-    chooser.gone()
-
-
 def paste(stage, html):
     """What another program has copied goes into the control that has the keyboard."""
     neighbour = stage.start([pathlib.Path(sys.argv[1]).resolve() / "tests" / "e2e" / "e2e_clipboard"], stdin=subprocess.PIPE,
@@ -171,9 +159,9 @@ def write_newsletter(stage):
     click(editor.find("push button", "Tabella"))
     keys("Down", "Return")
     keys("ctrl+shift+a")
-    choose_file("Inserisci allegato", attachment)
+    type_file("Inserisci allegato", attachment)
     keys("ctrl+s")
-    choose_file("Salva messaggio", path)
+    type_file("Salva messaggio", path)
 
     def whole():
         text = path.read_text(encoding="cp1252") if path.is_file() else ""
@@ -200,7 +188,7 @@ def run(message, stopped_at=None):
     window = Window("dialog", "Invia messaggi")
     if stopped_at:
         window.press("Apri messaggio")
-        choose_file("Apri messaggio", message)
+        type_file("Apri messaggio", message)
         act(window.find("check box", "Non inviare più di"), "Toggle")
         window.write("Non inviare più di … email ogni", str(BLOCK))
         window.write("email ogni … minuti.", "1")

@@ -5,31 +5,24 @@ database under a name that no old code page contains. What the database contains
     groups_test.py BUILD_FOLDER
 """
 import os
-import pathlib
 import shutil
-import subprocess
-import sys
 
 import desktop
 from desktop import fail
+import samples
 
 desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
-from accessible import Window, click, has, wait_for  # noqa: E402
+from accessible import Window, choose_file, click, has, wait_for  # noqa: E402
 from drag_test import Table, drag, middle  # noqa: E402
+from keyboard_test import keys  # noqa: E402
 
 FIRST = "banco@barsport.example"
 
 
-def keys(*names):
-    subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
-
-
 def play(stage, program):
-    build = pathlib.Path(sys.argv[1]).resolve()
     folder = stage.work / "sample"
-    subprocess.run([str(build / "demo" / "demo_make"), str(folder), "25"], env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
-                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
+    samples.make_folder(folder)
     database = folder / "data" / "data.mdb"
     other = stage.work / "łódź; 2.mdb"
     shutil.copy(database, other)
@@ -117,10 +110,7 @@ def open_database(main, path):
     box = Window("alert", "Attenzione")
     keys("Return")
     box.gone()
-    chooser = Window("dialog", "Apri Mailing List")
-    chooser.write("Nome del file:", str(path))
-    chooser.press("Apri")
-    chooser.gone()
+    choose_file("Apri Mailing List", path)
     select(main, "Database Mailing")
     keys("ctrl+shift+n")
     main.find("table cell", "Nuovo gruppo")

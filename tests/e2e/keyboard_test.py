@@ -23,6 +23,15 @@ def type_text(text):
     subprocess.run(["xdotool", "type", "--clearmodifiers", str(text)], check=True)
 
 
+def type_file(title, path):
+    """Answers the file dialog of that title with the keyboard."""
+    chooser = Window("dialog", title)
+    chooser.wait_focus("text", "Nome del file:")
+    type_text(path)
+    keys("Return")
+    chooser.gone()
+
+
 def play(stage, program):
     server = desktop.MailServer(stage)
     message = stage.write_message()
@@ -95,11 +104,7 @@ def send(message):
     window = Window("dialog", "Invia messaggi")
     window.wait_focus("text", "File messaggio da inviare")
     keys("Tab", "space")
-    chooser = Window("dialog", "Apri messaggio")
-    chooser.wait_focus("text", "Nome del file:")
-    type_text(message)
-    keys("Return")
-    chooser.gone()
+    type_file("Apri messaggio", message)
     keys("alt+i")
     window.find("label", "Email inviate: 1")
     keys("alt+c")
@@ -126,11 +131,7 @@ def write_message(editor, path):
     keys("Tab")
     type_text(desktop.TEXT)
     keys("ctrl+s")
-    chooser = Window("dialog", "Salva messaggio")
-    chooser.wait_focus("text", "Nome del file:")
-    type_text(path)
-    keys("Return")
-    chooser.gone()
+    type_file("Salva messaggio", path)
     saved = wait_for(lambda: whole_message(path), "the whole message in its file")
     if f"[<INI-SUBJ>]{desktop.NAME}[<END-SUBJ>]" not in saved or desktop.TEXT not in saved:
         fail(f"the saved message is {saved}")

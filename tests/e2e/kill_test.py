@@ -18,6 +18,8 @@ import sys
 import tempfile
 import time
 
+import samples
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 SEED = 20260715
 
@@ -39,16 +41,10 @@ class Stage:
         self.server = subprocess.Popen([sys.executable, str(ROOT / "demo" / "catch_all.py"), str(self.messages)],
                                        stdout=subprocess.PIPE, text=True)
         port = self.server.stdout.readline().split()[1]
-        table = []
-        if people:
-            table = [str(work / "people.tsv")]
-            rows = [("gruppo", "rgs", "nom", "email", "sel")]
-            rows += [("Clienti", f"Ditta {address}", "Nome", address, "1") for address in people]
-            pathlib.Path(table[0]).write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+        rows = [(f"Ditta {address}", "Nome", address) for address in people]
+        table = samples.write_table(work / "people.tsv", rows) if people else None
         self.wanted = people or selected_recipients()
-        made = subprocess.run([str(build / "demo" / "demo_make"), str(self.program), port, *table], env=self.environment,
-                              stdout=subprocess.PIPE, text=True, check=True)
-        self.message = made.stdout.strip()
+        self.message = samples.make_folder(self.program, port, table)
         self.database = self.program / "data" / "data.mdb"
 
     def received(self):

@@ -22,6 +22,7 @@ import time
 
 import desktop
 from desktop import fail
+import samples
 from scripted_mail import ScriptedMail
 
 PRIVATE = "VESTROLA_TEST_MOUNTS"
@@ -44,7 +45,7 @@ def isolate():
 
 isolate()
 desktop.inside()
-from accessible import Window, act, wait_for  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, act, choose_file, wait_for  # noqa: E402  looks for the bus when it is imported
 
 
 class Story:
@@ -65,15 +66,10 @@ class Story:
         self.start()
 
     def _make_folder(self):
-        rows = [("gruppo", "rgs", "nom", "email", "sel")]
-        rows += [("Clienti", f"Ditta {number:04d}", f"Nome{number:03d}", address or "\\N", "1")
-                 for number, address in enumerate(self.addresses)]
-        with tempfile.NamedTemporaryFile("w", suffix=".tsv") as table:
-            table.write("".join("\t".join(row) + "\n" for row in rows))
-            table.flush()
-            subprocess.run([pathlib.Path(sys.argv[1]).resolve() / "demo" / "demo_make", self.folder, str(self.server.port),
-                            table.name], stdout=subprocess.DEVNULL, check=True,
-                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+        people = [(f"Ditta {number:04d}", f"Nome{number:03d}", address or "\\N") for number, address in enumerate(self.addresses)]
+        with tempfile.TemporaryDirectory() as place:
+            table = samples.write_table(pathlib.Path(place) / "people.tsv", people)
+            samples.make_folder(self.folder, self.server.port, table)
 
     def start(self):
         self.running = self.stage.start([self.program])
@@ -103,10 +99,7 @@ class Story:
         self.main.press("Invia messaggi")
         self.window = Window("dialog", "Invia messaggi")
         self.window.press("Apri messaggio")
-        chooser = Window("dialog", "Apri messaggio")
-        chooser.write("Nome del file:", str(self.message))
-        chooser.press("Apri")
-        chooser.gone()
+        choose_file("Apri messaggio", self.message)
 
     def press_start(self):
         self.window.press("Invia messaggi")

@@ -15,6 +15,7 @@ import tempfile
 import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import samples  # noqa: E402
 from scripted_mail import ScriptedMail  # noqa: E402
 
 PATIENCE = 120
@@ -27,14 +28,10 @@ def fail(text):
 
 
 def make(build, work, port):
-    rows = [("gruppo", "rgs", "nom", "email", "sel")]
-    rows += [("Clienti", f"Ditta {address}", "Nome", address, "1") for address in PEOPLE]
-    table = work / "people.tsv"
-    table.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+    table = samples.write_table(work / "people.tsv", [(f"Ditta {address}", "Nome", address) for address in PEOPLE])
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
-    made = subprocess.run([str(build / "demo/demo_make"), str(work / "vestrola"), str(port), str(table)], env=environment,
-                          stdout=subprocess.PIPE, text=True, check=True)
-    return [str(build / "demo/demo_send"), str(work / "vestrola"), made.stdout.strip(), "-", "-"], environment
+    message = samples.make_folder(work / "vestrola", port, table)
+    return [str(build / "demo/demo_send"), str(work / "vestrola"), message, "-", "-"], environment
 
 
 def book(path):

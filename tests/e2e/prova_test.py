@@ -8,27 +8,21 @@ that arrives at a local mail server while the recipients stay selected.
 import email
 import email.policy
 import os
-import pathlib
-import subprocess
-import sys
 
 import desktop
 from desktop import fail, wait_for
+import samples
 
 desktop.inside()
-from accessible import Window, has  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, choose_file, has  # noqa: E402  looks for the bus when it is imported
 from keyboard_test import keys  # noqa: E402
 from scripted_mail import ScriptedMail  # noqa: E402
 import pyatspi  # noqa: E402
 
 
 def make_program_folder(stage, port):
-    table = stage.work / "recipients.tsv"
-    table.write_text("gruppo\trgs\tnom\temail\tsel\nClienti\tAlfa\tAnna\talfa@x.test\t1\nClienti\tBeta\tBice\tbeta@x.test\t1\n",
-                     encoding="utf-8")
-    build = pathlib.Path(sys.argv[1]).resolve()
-    subprocess.run([build / "demo" / "demo_make", stage.program_folder, str(port), table], stdout=subprocess.DEVNULL,
-                   check=True, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    people = [("Alfa", "Anna", "alfa@x.test"), ("Beta", "Bice", "beta@x.test")]
+    samples.make_folder(stage.program_folder, port, samples.write_table(stage.work / "recipients.tsv", people))
 
 
 def write_message(folder):
@@ -53,10 +47,7 @@ def play(stage, program):
     keys("p")
     window = Window("dialog", "Prova messaggio")
     window.press("Sfoglia il messaggio")
-    chooser = Window("dialog", "Apri messaggio")
-    chooser.write("Nome del file:", str(message))
-    chooser.press("Apri")
-    chooser.gone()
+    choose_file("Apri messaggio", message)
 
     window.find("list item", 'Grave: ":::cognome:::" non viene sostituito: nessuna colonna ha questo nome.')
     window.press("Successivo")

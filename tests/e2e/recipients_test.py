@@ -6,12 +6,10 @@ that is damaged while the program runs. What the database contains is read with 
     recipients_test.py BUILD_FOLDER
 """
 import os
-import pathlib
-import subprocess
-import sys
 
 import desktop
 from desktop import fail
+import samples
 
 desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
@@ -35,9 +33,7 @@ def play(stage, program):
     folder = stage.work / "sample"
     table = stage.work / "people.tsv"
     table.write_text(PEOPLE, encoding="utf-8")
-    build = pathlib.Path(sys.argv[1]).resolve()
-    subprocess.run([build / "demo" / "demo_make", folder, "25", table], env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
-                   stdout=subprocess.DEVNULL, check=True)
+    samples.make_folder(folder, table=table)
     database = folder / "data" / "data.mdb"
     running = stage.start([program], env={**os.environ, "VESTROLA_FOLDER": str(folder)})
     main = Window("frame", "Vestrola")

@@ -9,18 +9,16 @@ operated as by an assistive program.
 import email
 import email.policy
 import os
-import pathlib
 import pwd
 import signal
-import subprocess
-import sys
 import tempfile
 
 from sender_check_test import NameServer, resolves  # moves into a private network
 import desktop
 import direct_route_test
 from desktop import fail, wait_for
-from accessible import Window, act, is_shown, send
+import samples
+from accessible import Window, act, choose_file, is_shown, send
 import postfix
 from postfix import Postfix
 import pyatspi
@@ -62,14 +60,8 @@ class MailServer(Postfix):
 
 
 def make_program_folder(stage):
-    rows = [("gruppo", "rgs", "nom", "email", "sel")]
-    rows += [("Clienti", f"Ditta {number}", address.split("@")[0].capitalize(), address, "1")
-             for number, address in enumerate([*KNOWN, UNKNOWN])]
-    table = stage.work / "recipients.tsv"
-    table.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
-    build = pathlib.Path(sys.argv[1]).resolve()
-    subprocess.run([build / "demo" / "demo_make", stage.program_folder, "0", table], stdout=subprocess.DEVNULL, check=True,
-                   env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    people = [(f"Ditta {number}", address.split("@")[0].capitalize(), address) for number, address in enumerate([*KNOWN, UNKNOWN])]
+    samples.make_folder(stage.program_folder, 0, samples.write_table(stage.work / "recipients.tsv", people))
     (stage.program_folder / "data" / "mx-interni.txt").write_text(MAIL + "\n", encoding="ascii")
 
 
@@ -89,10 +81,7 @@ def told(window):
 def try_message(main, names, server, message):
     window = open_tool(main, "Prova messaggio...", "Prova messaggio")
     window.press("Sfoglia il messaggio")
-    chooser = Window("dialog", "Apri messaggio")
-    chooser.write("Nome del file:", str(message))
-    chooser.press("Apri")
-    chooser.gone()
+    choose_file("Apri messaggio", message)
 
     names.process.send_signal(signal.SIGSTOP)
     window.press("Invia una copia di prova")

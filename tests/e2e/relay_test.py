@@ -13,6 +13,7 @@ import time
 
 import network
 import postfix
+import samples
 
 PATIENCE = 120
 PORT, PROVIDER = 25, 2525
@@ -39,14 +40,11 @@ def settings():
 
 
 def run_list(build, work):
-    rows = [("gruppo", "rgs", "nom", "email", "sel")] + [("Clienti", "Ditta", "Nome", address, "1") for address in PEOPLE]
-    table = work / "people.tsv"
-    table.write_text("".join("\t".join(row) + "\n" for row in rows), encoding="utf-8")
+    table = samples.write_table(work / "people.tsv", [("Ditta", "Nome", address) for address in PEOPLE])
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
     folder = work / "vestrola"
-    made = subprocess.run([build / "demo/demo_make", folder, str(PORT), table], env=environment, stdout=subprocess.PIPE, text=True,
-                          check=True)
-    subprocess.run([build / "demo/demo_send", folder, made.stdout.strip(), "-", "-"], env=environment, check=True, timeout=PATIENCE)
+    message = samples.make_folder(folder, PORT, table)
+    subprocess.run([build / "demo/demo_send", folder, message, "-", "-"], env=environment, check=True, timeout=PATIENCE)
     exported = subprocess.run(["mdb-sql", "-HFP", folder / "data/data.mdb"], input="select sel from tb_destinatari\n",
                               stdout=subprocess.PIPE, text=True, check=True).stdout.split()
     if exported != ["0"] * len(PEOPLE):

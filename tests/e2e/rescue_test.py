@@ -17,17 +17,9 @@ from desktop import fail
 
 desktop.inside()
 from accessible import Window, wait_for  # noqa: E402  looks for the bus when it is imported
-
+from keyboard_test import keys, type_file, type_text  # noqa: E402
 
 OFFER = 10  # seconds after a start in which no new one is offered
-
-
-def keys(*names):
-    subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
-
-
-def type_text(text):
-    subprocess.run(["xdotool", "type", "--clearmodifiers", str(text)], check=True)
 
 
 def properties(name):
@@ -131,11 +123,7 @@ def save_over_a_stalled_browser(stage, running, path):
 def save(path):
     Window("frame", "Editor Messaggi")
     keys("ctrl+s")
-    chooser = Window("dialog", "Salva messaggio")
-    chooser.wait_focus("text", "Nome del file:")
-    type_text(path)
-    keys("Return")
-    chooser.gone()
+    type_file("Salva messaggio", path)
 
 
 def restart_after_a_failed_save(stage, running, path):

@@ -4,8 +4,6 @@ say, a new key and its record, a name server that stops answering. The window is
 
     sender_check_test.py BUILD_FOLDER
 """
-import os
-import pathlib
 import signal
 import socket
 import subprocess
@@ -14,6 +12,7 @@ import sys
 import direct_route_test  # noqa: F401  moves into a private network
 import desktop
 from desktop import fail, wait_for
+import samples
 from accessible import Window, act, is_shown
 import pyatspi
 
@@ -71,12 +70,6 @@ def expect(told, line, word):
         fail(f"{line}: {told.get(line)} instead of {word}; all: {told}")
 
 
-def make_program_folder(stage):
-    build = pathlib.Path(sys.argv[1]).resolve()
-    subprocess.run([build / "demo" / "demo_make", stage.program_folder, "25"], stdout=subprocess.DEVNULL, check=True,
-                   env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-
-
 def make_key(window):
     """Makes the key by the window and returns the line for a zone file that it shows."""
     window.press("Crea chiave DKIM...")
@@ -90,7 +83,7 @@ def make_key(window):
 
 
 def play(stage, program):
-    make_program_folder(stage)
+    samples.make_folder(stage.program_folder)
     names = NameServer(stage, RECORDS)
     wait_for(resolves, "the name server")
     server = stage.start([sys.executable, desktop.ROOT / "demo" / "catch_all.py", stage.work / "Maildir", "maildir", "127.0.0.1",

@@ -17,7 +17,7 @@ SIZE, SCALE = sys.argv[2], sys.argv[3]
 desktop.inside(SIZE)
 os.environ["QT_SCALE_FACTOR"] = SCALE
 import pyatspi  # noqa: E402  looks for the bus when it is imported
-from accessible import Window, act, extents, has, wait_for  # noqa: E402
+from accessible import Window, extents, has, wait_for  # noqa: E402
 from keyboard_test import add_recipient, keys, make_group, tick, type_text  # noqa: E402
 
 
