@@ -5,7 +5,7 @@ add_library(vestrola_options INTERFACE)
 target_include_directories(vestrola_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(vestrola_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 target_compile_definitions(vestrola_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS)
-if(NOT VESTROLA_TESTS)
+if(VESTROLA_COVERAGE OR NOT VESTROLA_TESTS)
   # sources are included by another one here, which does not make a type of an unnamed namespace a fault
   target_compile_options(vestrola_options INTERFACE -Wno-subobject-linkage)
 endif()
