@@ -121,7 +121,18 @@ TEST_F(KillsTest, EveryStatementThatReturnedIsInTheFile) {
         EXPECT_TRUE(WIFSIGNALED(status)) << "process " << number << " ended with " << WEXITSTATUS(status);
         met = met && WIFSIGNALED(status);
     };
+    const auto returnedByAll = [&] {
+        int64_t all = 0;
+        for (int i = 0; i < writers; ++i)
+            all += returned(i);
+        return all;
+    };
     for (int i = 0; i < kills && met; ++i) {
+        // On a busy machine no statement would return in the time alone, and each kill would meet a
+        // beginning.
+        const int64_t wanted = returnedByAll() + random() % 4;
+        for (int waits = 0; waits < 2000 && returnedByAll() < wanted; ++waits)
+            ::usleep(1000);
         ::usleep(static_cast<useconds_t>(random() % 60000));
         const int number = static_cast<int>(random() % (writers + 1));
         end(number);
