@@ -149,6 +149,7 @@ void HtmlView::Live::takeInput() {
     if (input == nullptr || input == m_input) return;
     m_input = input;
     input->installEventFilter(&view);
+    input->setAccessibleName(view.accessibleName());
     view.setFocusPolicy(Qt::StrongFocus);  // without one it has no place
     QWidget::setTabOrder(&view, input);
     view.setFocusPolicy(Qt::NoFocus);

@@ -42,6 +42,11 @@ class TestStato : public QObject {
     void cleanupTestCase() { m_stage.reset(); }
     void init() { stage().begin(); }
 
+    void assistiveProgramsNameTheInputWidgetOfTheDesignAsTheView() {
+        QVERIFY(!stage().design().accessibleName().isEmpty());
+        QCOMPARE(stage().design().inputWidget()->accessibleName(), stage().design().accessibleName());
+    }
+
     void theToolsShowTheFormatOfTheSelection_data() {
         QTest::addColumn<QString>("tool");
         QTest::addColumn<QString>("html");
