@@ -23,7 +23,7 @@ void closeAll() {
 }
 
 void commitAll() {
-    if (!Waiting::asking()) Session::commitAll();
+    if (!Waiting::refused()) Session::commitAll();
 }
 
 }  // namespace ado

@@ -100,7 +100,7 @@ Result<std::shared_ptr<Session>> Session::pooled(const Target& target) {
 
 /// The pooled session for that text, or null.
 Result<std::shared_ptr<Session>> Session::known(const QString& connectionText) {
-    if (Waiting::asking())
+    if (Waiting::refused())
         return Status(ErrorCode::FileInUse, QStringLiteral("Un'altra istruzione è in attesa del database."));
     const Result<ConnectionText> text = ConnectionText::parse(connectionText);
     if (!text.ok()) return text.status();

@@ -1,6 +1,8 @@
 #include "platform/ado/Waiting.h"
 
 #include <algorithm>
+#include <atomic>
+#include <cassert>
 #include <utility>
 
 namespace ado {
@@ -10,8 +12,18 @@ namespace {
 WaitHook installed;
 Waiting* underWay = nullptr;  ///< the outermost one
 bool hookRuns = false;
+std::atomic<std::thread::id> onlyThread{};
 
 }  // namespace
+
+StatementsOf::StatementsOf(std::thread::id thread) {
+    assert(onlyThread.load() == std::thread::id());
+    onlyThread = thread;
+}
+
+StatementsOf::~StatementsOf() {
+    onlyThread = std::thread::id();
+}
 
 WaitHook setWaitHook(WaitHook hook) {
     return std::exchange(installed, std::move(hook));
@@ -39,8 +51,9 @@ bool Waiting::goOn(std::chrono::milliseconds waited) {
     return !m_givenUp;
 }
 
-bool Waiting::asking() {
-    return hookRuns;
+bool Waiting::refused() {
+    const std::thread::id only = onlyThread;
+    return (only != std::thread::id() && only != std::this_thread::get_id()) || hookRuns;
 }
 
 jet::LockWait Waiting::lockWait() {

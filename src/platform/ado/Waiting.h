@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <thread>
 
 #include "platform/jet/LockWait.h"
 
@@ -11,7 +12,7 @@ namespace ado {
 /// The hook called while a statement waits for another process. Neither function may throw, nor use the
 /// database.
 struct WaitHook {
-    /// Called every few milliseconds from the thread that waits, with the time since this statement first had
+    /// Called every few milliseconds in the thread that waits, with the time since this statement first had
     /// to wait; false ends the statement, which then fails with FileInUse.
     std::function<bool(std::chrono::milliseconds waited)> goOn;
     /// Called once before a statement that had to wait returns, whatever became of it.
@@ -19,6 +20,15 @@ struct WaitHook {
 };
 /// Installs the hook for all statements of the program and returns the one before; an empty one removes it.
 WaitHook setWaitHook(WaitHook hook);
+
+/// As long as it exists, that thread alone runs statements. Those that another one begins are refused, as
+/// during a wait.
+class StatementsOf {
+  public:
+    explicit StatementsOf(std::thread::id thread);
+    ~StatementsOf();
+    StatementsOf(const StatementsOf&) = delete;
+};
 
 /// Longest wait, in seconds, of what has no time-out of its own: opening and moving a recordset, posting its
 /// changes.
@@ -38,8 +48,8 @@ class Waiting {
     Waiting(const Waiting&) = delete;
 
     std::optional<Clock::time_point> end() const { return m_end; }
-    /// Whether the hook is running: no statement may begin.
-    static bool asking();
+    /// Whether no statement may begin here: the hook is running, or statements are another thread's.
+    static bool refused();
     /// How the databases of this layer wait.
     static jet::LockWait lockWait();
 

@@ -47,6 +47,10 @@ QVariant HtmlView::evaluate(const QString& script) const {
     return value.ok() ? value.value() : QVariant();
 }
 
+void HtmlView::setLongWork(std::function<void(const std::function<void()>&)> run) {
+    m_live->longWork = std::move(run);
+}
+
 void HtmlView::setDefaultFont(const QString& family) {
     m_live->setDefaultFont(family);
 }

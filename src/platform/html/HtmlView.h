@@ -200,6 +200,10 @@ class HtmlView : public QWidget {
 
     // --- Appearance. None touches the document; all survive setDocumentHTML().
 
+    /// How the view runs what takes long with a large document and needs no widget, such as in a thread of
+    /// its own; it returns after the work. As it stands, at once.
+    void setLongWork(std::function<void(const std::function<void()>& work)> run);
+
     /// Shows text that names no font, or none that is there, in this font or in the one without serifs that
     /// replaces it; GetFontName gives the family for such text. A font that a command sets is written
     /// even where the text is shown in it already. To be called before the view is shown.

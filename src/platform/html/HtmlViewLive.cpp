@@ -91,9 +91,15 @@ void HtmlView::Live::fail(const QString& reason) {
 }
 
 Status HtmlView::Live::setSource(const QString& html) {
-    if (Status fits = html::readable(html); !fits.ok()) return fits;
+    Status fits;
+    QString source;
+    longWork([&] {
+        fits = html::readable(html);
+        if (fits.ok()) source = html::sourceText(html);
+    });
+    if (!fits.ok()) return fits;
     awaitStrokes();  // what was typed before goes with the old document
-    m_source = html::sourceText(html);
+    m_source = source;
     m_text = QString();
     m_followTimer.setInterval(0);  // the cost of the last document says nothing about this one
     if (std::exchange(m_deaths, 0) >= deathsInARow) tryAgain();
@@ -120,18 +126,21 @@ void HtmlView::Live::write() {
         shown[mark.key()] = mark.value();
     m_writing = true;
     forgetRead();
-    const QString marked = html::markMissingImages(m_source, m_missingMark);
-    const QString mark = marked == m_source ? QString() : m_missingMark;
-    browser.run(QStringLiteral("editor.load(%1); [editor.commands.state(), editor.history.version]")
-                    .arg(arguments({marked, mode == Mode::Design, shown, mark})),
-                [this, number = ++m_lastWrite](const QVariant& answer) {
-                    if (number != m_lastWrite) return;
-                    m_writing = false;
-                    m_stalled = false;
-                    takeState(answer.toList().value(0).toMap());
-                    m_toldVersion = answer.toList().value(1).toInt();
-                    written();
-                });
+    QString script;
+    longWork([&] {
+        const QString marked = html::markMissingImages(m_source, m_missingMark);
+        const QString mark = marked == m_source ? QString() : m_missingMark;
+        script = QStringLiteral("editor.load(%1); [editor.commands.state(), editor.history.version]")
+                     .arg(arguments({marked, mode == Mode::Design, shown, mark}));
+    });
+    browser.run(script, [this, number = ++m_lastWrite](const QVariant& answer) {
+        if (number != m_lastWrite) return;
+        m_writing = false;
+        m_stalled = false;
+        takeState(answer.toList().value(0).toMap());
+        m_toldVersion = answer.toList().value(1).toInt();
+        written();
+    });
 }
 
 void HtmlView::Live::written() {
@@ -176,7 +185,8 @@ QString HtmlView::Live::knownText() {
     if (m_text.isNull()) {
         HtmlDocument document;
         // It was parsed when it was set; the time limit of a parse may fail this one
-        m_text = document.setDocumentHTML(m_source).ok() ? document.documentHTML() : m_source;
+        longWork(
+            [&] { m_text = document.setDocumentHTML(m_source).ok() ? document.documentHTML() : m_source; });
     }
     return m_text;
 }

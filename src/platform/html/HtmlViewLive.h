@@ -62,6 +62,7 @@ struct HtmlView::Live {
     QVariantMap state;
     QMap<QString, bool> marks{{"borders", false}, {"details", false}};
     std::function<bool(QPrinter&)> printPrompt;
+    std::function<void(const std::function<void()>&)> longWork = [](const auto& work) { work(); };
     Browser browser;
 
   private:

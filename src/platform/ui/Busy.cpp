@@ -47,6 +47,7 @@ bool isInput(QEvent::Type type) {
         case QEvent::KeyRelease:
         case QEvent::Shortcut:
         case QEvent::ShortcutOverride:
+        case QEvent::InputMethod:
         case QEvent::ContextMenu:
         case QEvent::TouchBegin:
         case QEvent::TouchUpdate:

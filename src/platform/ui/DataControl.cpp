@@ -1,9 +1,12 @@
 #include "platform/ui/DataControl.h"
 
+#include "platform/ui/PaintedWork.h"
+
 namespace ui {
 
 Status DataControl::Refresh() {
-    Result<ado::Snapshot> rows = ado::Snapshot::take(m_connectionString, m_recordSource);
+    Result<ado::Snapshot> rows =
+        painted([this] { return ado::Snapshot::take(m_connectionString, m_recordSource); });
     if (!rows.ok()) return rows.status();
     Q_EMIT refreshed(rows.value());
     return {};

@@ -7,10 +7,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QToolTip>
-#include <QWindow>
-
-#include "platform/ui/Busy.h"
-#include "platform/ui/WindowTurn.h"
 
 namespace ui {
 
@@ -40,7 +36,11 @@ QWidget* windowInFront() {
 }  // namespace
 
 WaitNotice::WaitNotice(QString words, std::function<void(const QString&)> tell, QObject* parent)
-    : QObject(parent), m_tell(std::move(tell)), m_words(std::move(words)) {}
+    : QObject(parent),
+      m_tell(std::move(tell)),
+      m_words(std::move(words)),
+      m_windows(HeldWindows::Keys::Dropped,
+                [this](QObject& receiver, QEvent& input) { notice(receiver, input); }) {}
 
 WaitNotice::~WaitNotice() {
     delete m_notice;
@@ -54,7 +54,7 @@ bool WaitNotice::goOn(milliseconds waited) {
     if (waited < unnoticed || waited - m_turned < betweenTurns) return true;
     m_turned = waited;
     if (waited >= lasting && !m_shown) show();
-    turn();
+    m_windows.turn();
     return !m_givenUp;
 }
 
@@ -79,70 +79,48 @@ void WaitNotice::show() {
     QAccessible::updateAccessibility(&alert);
 }
 
-void WaitNotice::turn() {
-    qApp->installEventFilter(this);
-    turnWindows();
-    qApp->removeEventFilter(this);
-}
-
 void WaitNotice::over() {
-    if (m_turned > milliseconds{}) turn();  // what waits at the end is dropped as well
+    if (m_turned > milliseconds{}) m_windows.turn();  // what waits at the end is dropped as well
     if (m_shown) m_tell({});
     delete m_notice;
     if (m_pressed) QMetaObject::invokeMethod(m_pressed, &QAbstractButton::click, Qt::QueuedConnection);
-    for (const QPointer<QObject>& closing : std::as_const(m_closing)) {
-        if (auto* window = qobject_cast<QWindow*>(closing))
-            QMetaObject::invokeMethod(
-                window, [window] { window->close(); }, Qt::QueuedConnection);
-        if (auto* widget = qobject_cast<QWidget*>(closing))
-            QMetaObject::invokeMethod(
-                widget, [widget] { widget->close(); }, Qt::QueuedConnection);
-    }
+    m_windows.release();
     m_turned = {};
     m_shown = false;
     m_givenUp = false;
     m_pressed.clear();
-    m_closing.clear();
 }
 
 /// The stop button that a press of the mouse or of a key means, or null.
-QAbstractButton* WaitNotice::stopMeant(QObject* receiver, QEvent* event) const {
+QAbstractButton* WaitNotice::stopMeant(QObject& receiver, QEvent& event) {
     const auto stop = [](QWidget* widget) -> QAbstractButton* {
         auto* button = qobject_cast<QAbstractButton*>(widget);
         return button && button->isEnabled() && button->property(stopMark).toBool() ? button : nullptr;
     };
-    if (event->type() == QEvent::MouseButtonPress) {
-        const auto* press = static_cast<QMouseEvent*>(event);
-        if (press->button() != Qt::LeftButton) return nullptr;
-        auto* widget = qobject_cast<QWidget*>(receiver);
-        return stop(widget ? widget : QApplication::widgetAt(press->globalPosition().toPoint()));
+    if (event.type() == QEvent::MouseButtonPress) {
+        const auto& press = static_cast<QMouseEvent&>(event);
+        if (press.button() != Qt::LeftButton) return nullptr;
+        auto* widget = qobject_cast<QWidget*>(&receiver);
+        return stop(widget ? widget : QApplication::widgetAt(press.globalPosition().toPoint()));
     }
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return nullptr;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Space || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+    if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return nullptr;
+    const auto& key = static_cast<QKeyEvent&>(event);
+    if (key.key() == Qt::Key_Space || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
         return stop(QApplication::focusWidget());
     QWidget* window = QApplication::activeWindow();
     if (!window) return nullptr;
     for (auto* button : window->findChildren<QAbstractButton*>())
-        if (stop(button) && button->shortcut() == QKeySequence(key->keyCombination())) return button;
+        if (stop(button) && button->shortcut() == QKeySequence(key.keyCombination())) return button;
     return nullptr;
 }
 
-bool WaitNotice::eventFilter(QObject* watched, QEvent* event) {
-    const QEvent::Type type = event->type();
-    if (type == QEvent::Close) {
-        if (!m_closing.contains(watched)) m_closing.append(watched);
-        event->ignore();
-        return true;
-    }
-    if (!isInput(type)) return false;
-    if (QAbstractButton* stop = stopMeant(watched, event)) {
+void WaitNotice::notice(QObject& receiver, QEvent& input) {
+    if (QAbstractButton* stop = stopMeant(receiver, input)) {
         m_pressed = stop;
         m_givenUp = true;
     }
-    const bool key = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
-    if (key && m_shown && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) m_givenUp = true;
-    return true;
+    const bool key = input.type() == QEvent::KeyPress || input.type() == QEvent::ShortcutOverride;
+    if (key && m_shown && static_cast<QKeyEvent&>(input).key() == Qt::Key_Escape) m_givenUp = true;
 }
 
 }  // namespace ui

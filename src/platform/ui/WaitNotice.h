@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <functional>
-#include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QString>
+
+#include "platform/ui/HeldWindows.h"
 
 class QAbstractButton;
 class QLabel;
@@ -33,12 +35,10 @@ class WaitNotice : public QObject {
     /// Makes it a stop button.
     static void makeStop(QAbstractButton& button);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
-    void turn();
     void show();
-    QAbstractButton* stopMeant(QObject* receiver, QEvent* event) const;
+    void notice(QObject& receiver, QEvent& input);
+    static QAbstractButton* stopMeant(QObject& receiver, QEvent& event);
 
     std::function<void(const QString&)> m_tell;
     QString m_words;
@@ -47,7 +47,7 @@ class WaitNotice : public QObject {
     bool m_givenUp = false;
     QPointer<QLabel> m_notice;  ///< on the window in front
     QPointer<QAbstractButton> m_pressed;
-    QList<QPointer<QObject>> m_closing;  ///< windows that were asked to close
+    HeldWindows m_windows;
 };
 
 }  // namespace ui

@@ -8,6 +8,7 @@
 #include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/PaintedWork.h"
 #include "platform/ui/TabStrip.h"
 #include "windows/core/Evento.h"
 #include "windows/core/Puntatore.h"
@@ -52,8 +53,10 @@ void frmEditor::CollegaViste() {
         connect(mittente, segnale, this,
                 [fai](const auto&... argomenti) { evento([&] { fai(argomenti...); }); });
     };
-    for (HtmlView* vista : {DHTML, WEB})
+    for (HtmlView* vista : {DHTML, WEB}) {
         vista->setDefaultFont(fontPredefinito);
+        vista->setLongWork(ui::paintWhile);
+    }
     setTabOrder(barre->GetEdit("txtOggetto")->focusProxy(), DHTML);
     setTabOrder(DHTML, tb->tabBar());
     quando(DHTML, &HtmlView::documentComplete, [this] {

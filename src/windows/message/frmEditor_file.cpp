@@ -48,7 +48,7 @@ void AvvisaCaratteri(const MessaggioMss& messaggio) {
 
 /// Reports a body larger than its readers accept, while it is still in the editor.
 void AvvisaLimiti(const QString& corpo) {
-    const Status leggibile = conAttesa([&] { return html::readable(corpo); });
+    const Status leggibile = inDisparte([&] { return html::readable(corpo); });
     if (!leggibile.ok())
         ui::MessageDialog::show(
             Words::tr("Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.") + "\r\n" +
@@ -101,14 +101,12 @@ void frmEditor::ImpostaFile(const QString& percorso) {
 void frmEditor::SalvaMessaggio() {
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
-    const MessaggioMss daScrivere = conFiniRiga(*messaggio);
-    conAttesa([&] {
-        CopiaPrimaDiScrivere(messaggio->CorpoHTML);
-        const QByteArray scritto = ScriviMessaggio(percorsoFile, daScrivere);
-        ImpostaFile(percorsoFile);
-        AnnotaNoto(scritto, *messaggio);
-        CopiaDopoScrittura(messaggio->CorpoHTML);
-    });
+    const MessaggioMss daScrivere = inDisparte([&] { return conFiniRiga(*messaggio); });
+    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
+    const QByteArray scritto = inDisparte([&] { return ScriviMessaggio(percorsoFile, daScrivere); });
+    ImpostaFile(percorsoFile);
+    AnnotaNoto(scritto, *messaggio);
+    CopiaDopoScrittura(messaggio->CorpoHTML);
     AvvisaCaratteri(*messaggio);
     AvvisaLimiti(daScrivere.CorpoHTML);
 }
@@ -119,21 +117,17 @@ void frmEditor::SalvaMessaggioCome() {
     const auto messaggio = PrendiMessaggio();
     if (!messaggio) return;
     Prosegui prosegui;
-    const MessaggioMss daScrivere = conFiniRiga(*messaggio);
-    const bool scritto = conAttesa([&] {
-        CopiaPrimaDiScrivere(messaggio->CorpoHTML);
-        QByteArray byte;
-        const bool riuscito = prosegui([&] { byte = ScriviMessaggio(*percorso, daScrivere); });
-        ImpostaFile(*percorso);
-        fileAperto = true;
-        percorsoFile = *percorso;
-        if (riuscito) {
-            AnnotaNoto(byte, *messaggio);
-            CopiaDopoScrittura(messaggio->CorpoHTML);
-        }
-        return riuscito;
-    });
+    const MessaggioMss daScrivere = inDisparte([&] { return conFiniRiga(*messaggio); });
+    CopiaPrimaDiScrivere(messaggio->CorpoHTML);
+    QByteArray byte;
+    const bool scritto =
+        prosegui([&] { byte = inDisparte([&] { return ScriviMessaggio(*percorso, daScrivere); }); });
+    ImpostaFile(*percorso);
+    fileAperto = true;
+    percorsoFile = *percorso;
     if (scritto) {
+        AnnotaNoto(byte, *messaggio);
+        CopiaDopoScrittura(messaggio->CorpoHTML);
         AvvisaCaratteri(*messaggio);
         return AvvisaLimiti(daScrivere.CorpoHTML);
     }
@@ -146,11 +140,14 @@ void frmEditor::SalvaMessaggioCome() {
 /// Names that came from an unknown file still need confirmation. A file that is written again keeps what
 /// was confirmed for its path.
 void frmEditor::AnnotaNoto(const QByteArray& scritto, const MessaggioMss& messaggio) const {
-    messaggiNoti::Noto noto{{}, messaggiNoti::Confermati(percorsoFile)};
-    if (estraneo)
-        for (const QString& nominato : messaggiNoti::FileNominati(messaggio.Allegati, messaggio.CorpoHTML))
-            if (!propri.contains(nominato)) noto.daConfermare << nominato;
-    messaggiNoti::Annota(percorsoFile, messaggiNoti::Impronta(scritto), noto);
+    inDisparte([&] {
+        messaggiNoti::Noto noto{{}, messaggiNoti::Confermati(percorsoFile)};
+        if (estraneo)
+            for (const QString& nominato :
+                 messaggiNoti::FileNominati(messaggio.Allegati, messaggio.CorpoHTML))
+                if (!propri.contains(nominato)) noto.daConfermare << nominato;
+        messaggiNoti::Annota(percorsoFile, messaggiNoti::Impronta(scritto), noto);
+    });
 }
 
 void frmEditor::ApriMessaggio() {
@@ -186,13 +183,13 @@ void frmEditor::RiconosciFile(const FileMss& file, const MessaggioLetto& letto) 
 
 /// The document on show is replaced only once the file is known to contain a valid one.
 void frmEditor::LeggiMessaggio(const QString& percorso) {
-    const FileMss file = conAttesa([&] { return LeggiFileMss(percorso); });
-    const MessaggioLetto letto = conAttesa([&] { return LeggiMss(file); });
+    const FileMss file = inDisparte([&] { return LeggiFileMss(percorso); });
+    const MessaggioLetto letto = inDisparte([&] { return LeggiMss(file); });
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
     QString corpo = letto.corpo;
     if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
-    if (const Status leggibile = conAttesa([&] { return html::readable(corpo); }); !leggibile.ok())
+    if (const Status leggibile = inDisparte([&] { return html::readable(corpo); }); !leggibile.ok())
         return AvvisaVista(leggibile, Words::tr("Il messaggio nella finestra resta quello di prima."));
     NuovoMessaggio();
     ImpostaTestata(letto.oggetto, letto.priorita);
@@ -206,7 +203,7 @@ void frmEditor::LeggiMessaggio(const QString& percorso) {
         ImpostaFile(percorso);
         fileAperto = true;
         percorsoFile = percorso;
-        RiconosciFile(file, letto);
+        ui::painted([&] { RiconosciFile(file, letto); });
     });
     if (lasciato) SegnaModificato();
 }

@@ -10,9 +10,11 @@
 #include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/PaintedWork.h"
 #include "platform/ui/SourceEdit.h"
 #include "platform/ui/TabStrip.h"
 #include "windows/core/Evento.h"
+#include "windows/core/Puntatore.h"
 #include "windows/message/frmEditor.h"
 
 void frmEditor::CollegaCopia() {
@@ -50,7 +52,7 @@ MessaggioRecuperato frmEditor::DaRecuperare(const QString& corpo) {
     const QString origine = CODE->Text();
     if (origine == corpo) return messaggio;
     HtmlDocument spostata;
-    const bool spostabile = spostata.setDocumentHTML(origine).ok();
+    const bool spostabile = ui::painted([&] { return spostata.setDocumentHTML(origine).ok(); });
     if (!spostabile || spostata.documentHTML() != corpo) messaggio.Origine = origine;
     return messaggio;
 }
@@ -63,12 +65,15 @@ void frmEditor::ScriviCopia() {
     // The last change before a save may become known after it.
     if (messaggio == salvato) return copia.Togli();
     Prosegui prosegui;
-    prosegui([&] { copia.Scrivi(messaggio); });
+    prosegui([&] { inDisparte([&] { copia.Scrivi(messaggio); }); });
 }
 
 void frmEditor::CopiaPrimaDiScrivere(const QString& corpo) {
     Prosegui prosegui;
-    prosegui([&] { copia.Scrivi(DaRecuperare(corpo)); });
+    prosegui([&] {
+        const MessaggioRecuperato messaggio = DaRecuperare(corpo);
+        inDisparte([&] { copia.Scrivi(messaggio); });
+    });
 }
 
 /// The file contains all of the copy, unless a text of the source view was not taken over yet.

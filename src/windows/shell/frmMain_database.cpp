@@ -13,6 +13,7 @@
 #include "platform/ui/DataControl.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/PaintedWork.h"
 #include "windows/core/Puntatore.h"
 #include "windows/shell/frmMain.h"
 #include "windows/store/frmGruppi.h"
@@ -65,6 +66,6 @@ void frmMain::SalvaDatabase() {
                                                    Words::tr("Copia di ") + NomeDaPercorso(percorsoDB));
     if (!destinazione) fallisci(ErrorCode::CancelSelected);
     PuntatoreAttesa();
-    CopiaDatabase(percorsoDB, *destinazione);
+    ui::painted([&] { CopiaDatabase(percorsoDB, *destinazione); });
     PuntatorePredefinito();
 }

@@ -35,10 +35,8 @@ QString AggiungiGruppo(ado::Recordset& rs, const QString& chiavePadre, const QSt
 }
 
 void Esegui(ado::Command& comando, const QString& istruzione) {
-    PuntatoreAttesa();
-    const auto fatto = qScopeGuard(PuntatorePredefinito);
     comando.setCommandText(istruzione);
-    esigi(comando.execute());
+    esigi(inDisparte([&] { return comando.execute(); }));
 }
 
 void Seleziona(ado::Command& comando, const QString& istruzione) {
@@ -84,7 +82,7 @@ bool ConfermaCancellazione(frmGruppi& gruppi, const QString& domanda, int stile)
         albero.setSelectedItem(nodo);
         albero.EnsureVisible(nodo);
     }
-    stcHelp.setText(conAttesa(NomeConDestinatari));
+    stcHelp.setText(inDisparte(NomeConDestinatari));
     stcHelp.announce();
     return MessageDialog::show(domanda, stile, "Attenzione", MessageDialog::No) == MessageDialog::Yes;
 }

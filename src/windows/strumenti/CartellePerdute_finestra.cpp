@@ -11,6 +11,7 @@
 #include "platform/ui/Busy.h"
 #include "platform/ui/ListQuestion.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/PaintedWork.h"
 #include "windows/core/Puntatore.h"
 #include "windows/strumenti/ViciniDestinatari.h"
 
@@ -65,7 +66,7 @@ void RecuperaPerdute(const ViciniDestinatari& vicini) {
         PuntatoreAttesa();
         const auto fatto = qScopeGuard(PuntatorePredefinito);
         // What was done before a failure is shown as well.
-        const bool recuperate = prosegui([&] { RecuperaCartelle(perdute); });
+        const bool recuperate = prosegui([&] { ui::painted([&] { RecuperaCartelle(perdute); }); });
         const QString motivo = prosegui.testo();
         vicini.RicaricaAlbero();
         if (!recuperate) fallisci(static_cast<ErrorCode>(prosegui.numero()), motivo);

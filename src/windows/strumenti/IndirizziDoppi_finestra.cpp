@@ -12,6 +12,7 @@
 #include "platform/ui/Busy.h"
 #include "platform/ui/ListQuestion.h"
 #include "platform/ui/MessageDialog.h"
+#include "platform/ui/PaintedWork.h"
 #include "windows/core/Puntatore.h"
 #include "windows/strumenti/ViciniDestinatari.h"
 
@@ -82,7 +83,7 @@ void ControllaDoppi(const ViciniDestinatari& vicini) {
             return;
         PuntatoreAttesa();
         const auto fatto = qScopeGuard(PuntatorePredefinito);
-        DeselezionaDoppi(doppi);
+        ui::painted([&] { DeselezionaDoppi(doppi); });
         vicini.RinfrescaGriglia();
     });
     if (riuscito) return;

@@ -214,9 +214,8 @@ void frmEsiti::cmbInvio_Click() {
     invio = {};
     guasto.clear();
     if (cmbInvio->currentIndex() >= 0) {
-        PuntatoreAttesa();
-        Result<esiti::Invio> letto = esiti::Leggi(cmbInvio->currentData().toString());
-        PuntatorePredefinito();
+        const QString percorso = cmbInvio->currentData().toString();
+        Result<esiti::Invio> letto = inDisparte([&] { return esiti::Leggi(percorso); });
         if (letto.ok())
             invio = std::move(letto).value();
         else

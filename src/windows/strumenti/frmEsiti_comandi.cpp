@@ -104,9 +104,8 @@ void frmEsiti::cmdDeseleziona_Click() {
 void frmEsiti::Cambia(const QList<esiti::Riga>& righe, bool selezionati) {
     esiti::Cambiati cambiati;
     Prosegui prosegui;
-    PuntatoreAttesa();
-    const bool riuscito = prosegui([&] { cambiati = esiti::Seleziona(righe, selezionati); });
-    PuntatorePredefinito();
+    const bool riuscito =
+        prosegui([&] { cambiati = inDisparte([&] { return esiti::Seleziona(righe, selezionati); }); });
     if (nodoCorrente) RiempiGriglia();
     if (!riuscito) return Avvisa(Words::tr("La selezione non si può cambiare:") + "\r\n" + prosegui.testo());
     QStringList frasi;

@@ -1,4 +1,6 @@
-// What the windows do while a statement waits for another program that locks the database.
+// What the windows do while a statement waits for another program that locks the database, in their thread or
+// aside.
+#include <atomic>
 #include <optional>
 #include <QAbstractButton>
 #include <QAction>
@@ -7,10 +9,12 @@
 #include <QTcpSocket>
 #include <QTimer>
 #include <QWindow>
+#include <thread>
 
 #include "platform/ado/Command.h"
 #include "platform/ado/Waiting.h"
 #include "platform/ui/DatabaseWait.h"
+#include "platform/ui/PaintedWork.h"
 #include "support/LockedFile.h"
 #include "support/SendStage.h"
 #include "support/TestClass.h"
@@ -33,11 +37,14 @@ class DuringWait : public QObject {
         painted.installEventFilter(this);
         auto before = ado::setWaitHook({});
         ado::setWaitHook({[this, before](milliseconds waited) {
-                              ++asked;
-                              m_painted.update();
-                              m_waiting = true;
-                              const bool goOn = before.goOn(waited);
-                              m_waiting = false;
+                              bool goOn = false;
+                              ui::inWindowThread([&] {
+                                  ++asked;
+                                  m_painted.update();
+                                  m_waiting = true;
+                                  goOn = before.goOn(waited);
+                                  m_waiting = false;
+                              });
                               return goOn;
                           },
                           before.over});
@@ -235,6 +242,67 @@ class TestAttesa : public QObject {
         });
         QVERIFY(unselectAll().ok());
         QCOMPARE(inner, ErrorCode::FileInUse);
+    }
+
+    void aStatementOfAHandlerIsRefusedWhileAnotherThreadHasTheDatabase() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        struct Painted : QObject {
+            std::atomic<int> times = 0;
+            std::optional<ErrorCode> inner;
+            bool eventFilter(QObject* watched, QEvent* event) override {
+                if (event->type() != QEvent::Paint) return false;
+                if (times++ == 0) inner = unselectAll().code();
+                static_cast<QWidget*>(watched)->update();
+                return false;
+            }
+        } painted;
+        QWidget* grid = stage.grd().viewport();
+        grid->update();
+        grid->installEventFilter(&painted);
+        const Status own = ui::painted([&] {
+            for (int i = 0; painted.times < 2 && i < 20'000; ++i)
+                std::this_thread::sleep_for(milliseconds(1));
+            return unselectAll();
+        });
+        grid->removeEventFilter(&painted);
+        QVERIFY2(own.ok(), qPrintable(own.text()));
+        QCOMPARE(painted.inner, ErrorCode::FileInUse);
+        QVERIFY(unselectAll().ok());
+    }
+
+    void aCommandOverAllRecipientsThatWaitsIsShownAndDone() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        LockedFile lock(stage.folder.database());
+        bool hourglass = true;
+        DuringWait during(*stage.grd().viewport(), [&] {
+            const QCursor* pointer = QApplication::overrideCursor();
+            hourglass = hourglass && pointer && pointer->shape() == Qt::WaitCursor;
+            if (stage.help() == waitingWords) lock.release();
+        });
+        stage.command("cmdPopMailingSelNotDB");
+        QVERIFY(during.paints > 0);
+        QVERIFY(hourglass);
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(stage.count("tb_destinatari", "sel = True"), 0);
+    }
+
+    void aCommandThatIsGivenUpFailsAsBefore() {
+        StoreStage stage;
+        stage.addRecipient(1, "Alfa");
+        stage.clickNode("K1");
+        LockedFile lock(stage.folder.database());
+        DuringWait during(*stage.grd().viewport(),
+                          [&] { press(stage.window().windowHandle(), Qt::Key_Escape); });
+        ui::MessageDialog::queue(ui::MessageDialog::Ok);
+        stage.command("cmdPopMailingSelNotDB");
+        QVERIFY2(stage.failure().startsWith("Errore 3045"), qPrintable(stage.failure()));
+        lock.release();
+        QCOMPARE(stage.count("tb_destinatari", "sel = True"), 1);
     }
 
     void aModalWindowShowsTheWaitItself() {

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "platform/jet/OsFile.h"
+#include "platform/ui/PaintedWork.h"
 #include "support/TestClass.h"
 #include "windows/core/Evento.h"
 #include "windows/import/contatti_stage.h"
@@ -27,7 +28,7 @@ class DiskWatch {
     DiskWatch() {
         jet::setDiskHook([this](const jet::DiskStep&) {
             ++steps;
-            uncovered += isWaiting() ? 0 : 1;
+            ui::inWindowThread([this] { uncovered += isWaiting() ? 0 : 1; });
             return jet::DiskStep::Outcome::Proceed;
         });
     }
