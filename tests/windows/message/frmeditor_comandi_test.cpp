@@ -266,6 +266,15 @@ class TestComandi : public QObject {
         QCOMPARE(stage().body(), "<div>prima dopo</div>");
     }
 
+    void anInsertionWithoutASelectionIsLostAndMarksAllTheSame() {
+        stage().fill("<p>testo</p>");
+        stage().design().evaluate("getSelection().removeAllRanges(), 1");
+        QVERIFY(!stage().marked());
+        stage().start("cmdHR");
+        QCOMPARE(stage().body(), "<p>testo</p>");
+        QVERIFY(stage().marked());
+    }
+
     void aPlaceholderReplacesWhatIsSelected() {
         stage().fill("<p>Gentile cliente</p>");
         stage().select("p", 8, 15);

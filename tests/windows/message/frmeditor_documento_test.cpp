@@ -253,6 +253,17 @@ class TestDocumento : public QObject {
         QVERIFY(!stage().marked());
     }
 
+    void aMessageThatIsOpenedAndSavedAgainHasTheSameBytes() {
+        const QByteArray whole =
+            message("s", "NR", "", "<html><head></head><body><p>uno</p>\r\n<p>due</p></body></html>\r\n");
+        stage().write("m.mss", whole);
+        for (int i = 0; i < 2; ++i) {
+            stage().open("m.mss");
+            stage().start("cmdSalva");
+            QCOMPARE(stage().bytes("m.mss"), whole);
+        }
+    }
+
     void onlyTheTwoCapitalCodesSetAPriority_data() {
         QTest::addColumn<QByteArray>("code");
         QTest::addColumn<int>("low");
