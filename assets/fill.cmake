@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Copies the templates into a program folder: what the user may have changed only where it is missing, the
 # language texts always.
 #

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws a chart of lines as SVG: growth over the size of the list, and over the round-trip time."""
 import dataclasses
 import html

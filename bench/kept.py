@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The runs of a benchmark that are kept in OUTPUT/kept/NAME.json, and what several runs come to.
 
 A file is {"conditions": {"sources": commit, "machine": {...}}, "runs": [{"load": L, "records": [...]}]}.

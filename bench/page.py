@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes docs/performance.md and its charts from the runs that were kept. What a measure means is told by docs/benchmarks.md."""
 import chart
 import kept

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Runs the benchmarks several times each, keeps every run, and writes docs/performance.md from what was kept.
 
     run.py BUILD_FOLDER OUTPUT_FOLDER [--runs N] [--docs FOLDER] [NAME...]

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What several benchmarks need: tools of packages that are unpacked and never installed, process times, medians, a line with
 latency."""
 import contextlib

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # How a release build limits the harm of remaining faults: checked copies of libc (_FORTIFY_SOURCE), checked indexes of the
 # standard library, canaries on the stack, no jump of the stack over its guard page, marked jump targets (CET), a random
 # address space, and linker tables that are read-only after the start. tests/check_hardening verifies it.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Headers of libraries that most sources read, precompiled once for all targets: that halves the time of a build. A source
 # still includes what it uses: tests/check_includes reads each without this.
 

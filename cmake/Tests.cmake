@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Programs of tests. The tests of a folder are one program: its sources are read several at a time, since most of the work is
 # to look through headers and to link. ctest still runs each source by itself, in a process of its own.
 

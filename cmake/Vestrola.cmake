@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Build helpers: one small static library for each platform folder, one library for the plain
 # modules of the eight subsystem folders, one for their windows.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A catch-all mail server for the demo: accepts every message for everybody and writes each as one .eml file.
 
     catch_all.py FOLDER [maildir [ADDRESS PORT]]

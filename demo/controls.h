@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of a window by their names, the mouse on them, and the modal windows of the main window's
 // commands.
 #pragma once

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sends the sample newsletter to the sample recipients through a local mail server and compares what arrived with
 what should have.
 

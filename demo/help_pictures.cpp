@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Takes the pictures of the help in the language of a sample folder.
 //
 //     demo_help_pictures FOLDER MESSAGE.mss OUTPUT_FOLDER

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Takes the pictures of the help, in each of its languages.
 
     help_pictures.py BUILD_FOLDER SAMPLE_FOLDER

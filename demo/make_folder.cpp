@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Makes a program folder for the demo: an empty database filled with the groups and recipients of
 // recipients.tsv, a message with an attachment and a picture, one account.
 //

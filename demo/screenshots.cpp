@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Takes the pictures of docs/screenshots: each window over a sample folder, after a few clicks.
 //
 //     demo_screenshots FOLDER MESSAGE.mss OUTPUT_FOLDER

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Makes a sample program folder and takes the pictures of its windows.
 
     screenshots.py BUILD_FOLDER SAMPLE_FOLDER OUTPUT_FOLDER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drives the program's own windows through one run, as a user would with the mouse: opens the send window
 // from the main window's menu, picks the message and a log, starts, waits for the end, closes.
 //

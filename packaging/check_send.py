@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sends the demo's newsletter with the installed program, as its user would: run by packaging/check in the bare system.
 
     check_send.py prepare FOLDER USER    as root: puts the demo's recipients, account and message into the user's folder

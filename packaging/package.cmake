@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian package: `cpack -G DEB` in the folder of the preset "package". `./run package` does it all.
 
 # Manual pages and changelogs, packed without a name or a time.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Shows how far a build is: how much of how much, and about how long it still takes.
 
     ninja ... | progress.py LOG

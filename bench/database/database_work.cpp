@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // database_work WORK FILE
 //
 // One piece of work on a database of recipients, through ado as the program does it. Prints one line of JSON:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // make_group FILE ROWS [indexed]
 //
 // Writes a database whose table tb_destinatari has that many rows, in twelve groups but for every thousandth

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The database's part of the program at 1,000,000 recipients.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROWS]

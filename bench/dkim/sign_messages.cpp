@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // sign_messages <messages> <octets> <folder> <key.pem>: composes messages of about that size with and without
 // a signature for mittente.example, whose key lies in the folder, and signs as many digests with the key
 // alone, in turns of a hundred. Prints one line of JSON: microseconds of the processor a message.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The editor: the design view's first opening, a key in newsletters of 100 KB and 2.5 MB, a newsletter whose images are
 missing, and 5 MB in the source view.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each of these is a process of its own that prints one line of JSON.
 //
 // find_rows --one-folder DATABASE    puts all recipients into group 1

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Finding and sorting among 1,000,000 recipients: a full miss against one scan of the engine, the longest time that the window's
 thread is blocked, the answer to a key struck in the middle of a search.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each of these is a process of its own that prints one line of JSON.
 //
 // fill_grid --prepare DATABASE SQLITE   puts all recipients into group 1, and the rows into a SQLite file

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A group of 100,000 recipients in the grid: time to the first rows on screen, and memory.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]

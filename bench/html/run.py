@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reading a hostile body: processor time over the patterns of tests/platform/html/HtmlPatterns.h.
 
     run.py BUILD_FOLDER WORK_FOLDER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // import_rows STATEMENTS DATABASE ROWS
 //
 // Makes an empty database and runs the file's INSERT statements, one a line, as an import does: committed in

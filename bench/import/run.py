@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A million INSERT statements of recipients, committed in groups, compared with `sqlite3` with transactions of equal size.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS [ROWS]]

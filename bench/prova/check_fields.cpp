@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // check_fields FILE [ROUNDS]
 //     selects every recipient, then by turns reads every column of the whole table as text and checks the
 //     selection for the placeholders of a message; prints the median processor seconds of both, and

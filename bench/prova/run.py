@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The values of 100,000 selected recipients, checked for the placeholders of a message, compared with one scan of the table
 by the same layer with every column read as text.
 

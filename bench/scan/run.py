@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reading every column of 100,000 recipients as UTF-8, compared with mdb-export on the same file, as whole processes.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]

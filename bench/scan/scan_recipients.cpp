@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // scan_recipients --make FILE [ROWS]
 //     writes a database with that many recipients (100,000) in twelve groups, in one transaction
 // scan_recipients --scan FILE

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // delay_proxy <target port> <milliseconds>: a loopback line with latency. Prints the port it listens at;
 // prints the number of flights from the client at the end of its input.
 #include <cstdio>

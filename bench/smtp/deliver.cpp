@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // deliver <host> <port> <messages> <octets> [<attachment> <support log> | <book>]: composes personalised
 // messages of about that size, the attachment not counted, and delivers them one after the other over one
 // delivery control, as the send window does. <book> is the folder of a book of outcomes, ending in "/"; "-"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // raw_client <port> <messages> <octets> [flight] [tls]: delivers one canned message again and again over one
 // connection, with MAIL, RCPT and DATA in one write; with "flight" the message by BDAT in the same write. The
 // minimum of a client. Prints one line of JSON.

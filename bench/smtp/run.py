@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Composing and delivering over one kept session, against smtp-source with messages of the same size.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // sink [<certificate and key.pem>]: an SMTP server on loopback that accepts everything and keeps nothing, a
 // thread for each connection. It offers PIPELINING, CHUNKING and 8BITMIME, and STARTTLS where it has a
 // certificate. The replies to what came together go out together. Prints the port it listens at and ends with

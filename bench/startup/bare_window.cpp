@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The smallest program of this toolkit: an empty main window of the size of ours.
 #include <QApplication>
 #include <QMainWindow>

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """From the start of the process to the main window on the screen, with 100,000 recipients in groups: against the first
 window of keepassxc, and against an empty main window of the same toolkit. Besides what the start costs, until the
 program has nothing left to do: instructions, which valgrind counts, and memory.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // list_tables FILE...
 //     opens each database and prints the names of its users' tables, one a line
 //

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Opening a database and listing its tables, compared with mdb-tables, on each sample file: as one process for each file, and
 with all files in one process of ours, as the program itself does it.
 

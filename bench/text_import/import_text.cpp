@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Imports a delimited text file as the window of the text import does, or prints the statements of that
 // import for another database engine.
 //

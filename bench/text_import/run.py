@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A delimited file of a million lines (about 200 MB) imported, compared with `sqlite3` with the INSERT statements of that import.
 
     run.py BUILD_FOLDER WORK_FOLDER [ROUNDS [LINES]]

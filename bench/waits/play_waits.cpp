@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // play_waits --editor SIZE: opens a body of so many characters, types, changes the view, saves, searches.
 // play_waits --lists FILE TEXT: copies a database with a long list, works on it and imports a text file.
 //

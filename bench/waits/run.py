@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Waits in the window's thread: messages with bodies of 0.1, 2.5 and 10 MB are opened, typed in, shown in each view, saved and
 searched; a list of 1,000,000 recipients is opened, selected and emptied, and 200,000 lines of text are imported.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // commit_and_sign <database> <count> <key.pem>: as many commits of one changed row to a new SQLite database
 // with a DELETE journal, and as many signatures with an RSA key that is kept. Prints one line of JSON.
 #include <openssl/evp.h>

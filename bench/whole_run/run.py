@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A whole run of the send window, one tick after the other: row, placeholders, signature, delivery by TLS, commit. Compared with
 the sum of its parts, each done by the smallest program that can do it: a raw pipelined client of canned octets over TLS, an SQLite commit
 with a DELETE journal, one RSA signature with a kept key.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // whole_run <port> <messages> <octets> <authority.pem> <key.pem> [shown|paced]: the send window with a
 // database of as many selected recipients, in a folder below TMPDIR, runs through them one tick after the
 // other: row, placeholders, signature, delivery by TLS to 127.0.0.1, commit. Without "paced" there is no

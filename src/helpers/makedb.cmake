@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes FILE with MAKEDB unless it is there already, and touches STAMP.
 get_filename_component(folder ${FILE} DIRECTORY)
 file(MAKE_DIRECTORY ${folder})

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // vestrola-apri [FILE]: what a double click on a message file starts. Leaves the file's path for the next
 // start and becomes the program, which takes no arguments. Without FILE it starts the program alone.
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // vestrola-pst FILE: prints the contacts of the default contacts folder of an Outlook data file, in the form
 // that platform/contacts/HelperOutput.h defines. A process of its own, because the library that reads such
 // files can crash on a damaged one: what was printed before counts. Exit status 0 after the

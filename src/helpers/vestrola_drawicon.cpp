@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // vestrola_drawicon DRAWING.svg PICTURE.png SIZE [PICTURE.png SIZE]...: draws an icon in the sizes in which
 // desktops look for it, for the build.
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // vestrola_makedb FILE: writes the empty recipient database. The build makes the default data.mdb with it.
 #include <cstdio>
 

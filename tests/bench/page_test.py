@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The page of the benchmarks' results: the runs that are kept and go on, what several runs come to, the page, its charts."""
 import contextlib
 import io

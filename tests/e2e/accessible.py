@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The program's windows as an assistive program finds them. Import it only inside a private desktop (desktop.inside)."""
 import time
 

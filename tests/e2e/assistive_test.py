@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Does the whole job as an assistive program does it for its user, on the built program, from its very first start to the
 message in a Maildir: a group, a recipient in it, its tick, an account, the send window. Every control is found by its
 role and name; buttons, menus, boxes and the rows of lists are worked by their actions, and texts are written into them.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A message file that came by mail names the user's private key, on the built program: the send window asks before anything
 is sent, with "No" as the default button; nothing is sent then, and the key is sent only when the user agrees.
 

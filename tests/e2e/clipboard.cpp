@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puts HTML from the standard input on the clipboard, as the browser that it was copied from would, and
 // keeps it there until it is ended. Prints "ready" when it is there.
 #include <cstdio>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A private desktop for the built program: a session bus, an X server without a screen, a window manager, the registry
 of assistive programs, and a copy of the program as newly installed, whose user has never started it.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sends over the direct route with the built program, in a private network: a real name server leads to the mail servers
 of three domains, one of which is down. Its recipients stay selected and the others are served; once it is up, a second run
 serves them and nobody else. A fourth domain leads to an internal server that the list of own servers does not name: nothing

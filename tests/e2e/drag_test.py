@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Drags recipients and groups with the mouse over the built program, and floats the pane of the groups; what the database
 contains afterwards is read with foreign tools.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """How the built program ends, and how it comes back: a failure names its subject, is written to the log, ends the program
 with status 1 and, on "Riavvia", brings it back to its place and group; SIGTERM saves the placement; language texts that
 were lost are there again at the next start.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The story of a first day, on the built program from outside: an empty folder; 1,000 recipients from a text file and 50
 from an Access database; a second group, a drag, an edit; a newsletter with a table, a picture, a link with a placeholder,
 a piece of a web page that is pasted, and an attachment; an account; a run that is stopped and one that sends the rest

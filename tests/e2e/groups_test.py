@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Works on the groups of the built program by keys: what moves, what is asked before a deletion, what a key leaves alone, and a
 database under a name that no old code page contains. What the database contains afterwards is read with foreign tools.
 

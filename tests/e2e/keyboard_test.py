@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Does the whole job with the keyboard alone, on the built program, from its very first start to the message in a Maildir:
 a group, a recipient in it, its tick, an account, the send window, and last a message of its own. What assistive programs
 are told is only read, to know when the next key may be pressed.

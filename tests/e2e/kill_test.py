@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Kills the program in the middle of a run, twenty times, and starts it again: no recipient is lost, and each kill serves at most
 one recipient twice.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Another program locks the database while the built program wants to write: it waits and then continues, and Esc cancels
 the statement, which is a failure like any other.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Starts and ends the built program in a folder in which another user has put links where the program writes: their targets
 stay unchanged, and the program writes files of its own that nobody else can read.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A private network and private mounts for a story: every port may be bound, and nothing outside is reached."""
 import fcntl
 import os

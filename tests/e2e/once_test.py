@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Nobody is served twice, and every copy was made for its recipient: runs of the built program during which a disk
 becomes full, the database is moved away or locked by another process, the user stops and continues, a row has no address, or
 the server's reply is late. Over the whole story and the run after it each recipient with an address gets exactly one copy.

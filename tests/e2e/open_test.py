@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Opens message files as a double click does, by the starter: at the very first start, beside a running program, after a
 program that left a rescue copy, and a file whose name is not valid UTF-8.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The book of outcomes of the built program: a server refuses some recipients, and the first run is killed in its middle.
 
     outcomes_test.py BUILD_FOLDER

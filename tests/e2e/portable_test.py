@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Starts, by the loader, a portable copy whose files have no execute permission, as on a USB stick: it keeps its data beside
 itself, opens the editor by its plug-in, and a newer copy over it leaves the data unchanged.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A complete private Postfix: configuration, queue and log are in a folder of its own."""
 import os
 import pathlib

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A message is tested before its run, on the built program, as an assistive program finds it: from the menu "Strumenti" to the
 window, a message file that names a column which does not exist, the finding that says so, the next recipient, and a test copy
 that arrives at a local mail server while the recipients stay selected.

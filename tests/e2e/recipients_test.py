@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Maintains the recipients of the built program by keys: finds them in the folder and everywhere, sorts them, deselects double
 addresses, brings back lost folders, looks at the last import; waits for another program that locks the file, reports a file
 that is damaged while the program runs. What the database contains is read with foreign tools.

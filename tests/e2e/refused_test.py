@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Before and after a run over the direct route with the built program, in a private network with a real name server and a
 real mail server: a test copy from "Prova messaggio..." arrives, a silent name server does not block the window, and after
 a run with one unknown mailbox "Esito degli invii..." says who was served, who was refused, and why. The windows are

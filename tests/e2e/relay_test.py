@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A run through a local Postfix, configured as packaging/postfix-relay has it: the provider's server is down, the run ends
 with everybody served, and what is queued arrives when the provider is up.
 

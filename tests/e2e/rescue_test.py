@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Kills the built program while a message is written, starts it again and recovers the message from its rescue copy; then
 stops the browser's process, saves, and verifies that nothing older is written; then makes a save fail, and recovers the
 text in the new start that the failure offers. Verifies meanwhile that the editor's window

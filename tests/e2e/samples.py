@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Program folders with recipients, as a user has them after some work. Made by demo_make of the build that the story's first
 argument names."""
 import os

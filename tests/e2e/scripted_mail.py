@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A mail server whose answer to each message is set by the test; it counts the copies that reach each recipient."""
 import email
 import email.policy

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Starts the built program twice over one program folder: the second start is not prevented, both programs stay and show
 the groups of the one database, and Error.txt reports only the second start.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks a sender with the built program, in a private network with a real name server and a mail server: what the lines
 say, a new key and its record, a name server that stops answering. The window is operated as by an assistive program.
 

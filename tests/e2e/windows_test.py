@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Opens the windows of the built program under a window manager, after its very first start on a screen of a given size,
 and inspects them from outside: each is within the screen, over the window that owns it, has the keyboard focus, and returns
 it to its owner when it is closed; no button is out of reach.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/JetExercise.h"
 #include "platform/ado/Catalog.h"
 #include "platform/ado/Command.h"

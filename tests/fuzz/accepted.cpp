@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file that remembers accepted messages, read as at a start of the program.
 #include <cstdint>
 #include <cstdlib>

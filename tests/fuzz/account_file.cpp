@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An account file with any bytes. What could be read is the same after it was written and read again.
 #include <cstdint>
 #include <cstdlib>

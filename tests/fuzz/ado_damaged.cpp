@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Statements of every shape on every table of a Jet file with anything in it. Nothing may crash or hang.
 #include <cstdint>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any text as a statement over a small recipient list: it must neither crash nor leave anything but the two
 // tables in a file that can be read.
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What users and databases put into a message: the values, separated by FF. In a value FE and two octets are
 // one UTF-16 unit, so that broken characters are possible. The first octet says what else the message has.
 #include <algorithm>

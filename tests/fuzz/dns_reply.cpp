@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A reply of a name server, read as the answer to each type of question.
 #include <cstdint>
 #include <cstdlib>

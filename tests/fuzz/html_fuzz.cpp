@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any text is a document or refused: reading it neither crashes nor hangs, both results are well-formed
 // texts, and a text that was accepted is accepted again.
 #include <cstdint>

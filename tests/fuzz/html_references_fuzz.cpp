@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a body contains, the places found in it are inside it, in order and without overlap.
 #include <algorithm>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as the journal of a database that was left in the middle of a change: opening rolls it back or
 // sets it aside. Nothing may crash or hang, and the database is as it was found or as before the change.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A Jet file with anything in it: opened, walked, changed. Nothing may crash, hang or read outside its
 // bounds.
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of a TXT record, read as a DKIM key and as a DMARC policy.
 #include <cstdint>
 #include <cstdlib>

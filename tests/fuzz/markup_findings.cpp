@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // For any body, the findings about its links and images are a few sentences without control characters.
 #include <algorithm>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A message file with any bytes, read by the editor, the send set-up and the preview.
 #include <algorithm>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A datagram as a name server could send it, read as the answer to a look-up of exchangers.
 #include <cstdint>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What others send during a login by OAuth 2.0: a browser's request, a token endpoint's answer; and the
 // file of the providers.
 #include <cstdint>

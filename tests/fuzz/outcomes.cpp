@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file of the book of outcomes, read as the window does.
 #include <cstdint>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any output of the helper that reads Outlook files, as a faulty one could print it.
 #include <cstdint>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a fuzz target over every file of the folders and files given, so that the seed corpus and every input
 // that ever failed stay part of the ordinary tests.
 #include <cstdint>

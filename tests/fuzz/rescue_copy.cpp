@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A rescue copy with any bytes. Where the first byte is 'S' the rest is the object, with a valid checksum;
 // else the whole is the file.
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a server sends: its replies one after the other, and the extensions that each would announce.
 #include <cstdint>
 #include <cstdlib>

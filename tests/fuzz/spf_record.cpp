@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An SPF record, and the records that it leads to: the lines of the input are the texts of any name that is
 // queried.
 #include <cstdint>

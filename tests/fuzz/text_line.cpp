@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A line of a delimited text file under any choice of separator and fields.
 //
 // The first byte is the length of the separator (its low three bits), the next 19 the fields of the boxes,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file of cards from anywhere, read as the address book reads it.
 #include <cstdint>
 #include <cstdlib>

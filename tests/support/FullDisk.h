@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A disk without room: no file of this process can grow beyond a number of bytes.
 #pragma once
 

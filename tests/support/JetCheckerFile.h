@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The reader of a Jet file's bytes for JetChecker, independent of the engine. A contradiction after which

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The classes of Qt Test in the test program of a folder: each source adds its own, main() runs the
 // one that its first argument names.

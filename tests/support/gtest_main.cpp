@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entry of every GoogleTest program: the parts under test may use Qt's event loop and application paths. The
 // name of a source, without ".cpp", as the first argument leaves its tests only, unless a filter is given.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Faults below the page file: writes and syncs that fail or are cut short, a full disk, power that fails with
 // what was not synced kept, dropped or torn, also during the recovery from an earlier fault. After each of
 // them the file is, byte by byte, as before the transaction or as after it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Mutated Jet files: each sample, and each sound file made here, with bytes, fields and pages changed, cut
 // off or exchanged. Each is opened, read and changed, some by statements as well. None may crash the program,
 // cost it more than ten seconds of processor time or more than 200 MiB, or keep it waiting; one that is

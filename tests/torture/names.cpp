@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Name servers that misbehave: silent, late, lying about ids, questions, ports, counts and lengths, truncated
 // with and without TCP, with names and aliases in a circle. Every second case asks by the resolver, the
 // others by the look-up of the recipient's server. Each question has one answer, and in time; what only a

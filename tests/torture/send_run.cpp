@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One run of the send window over a program folder made by demo_make, as demo_send plays it, but with a short
 // message and, unless the real timer is asked for, each tick right after the other.
 //

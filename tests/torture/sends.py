@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Runs of the send window that are killed at random, and long ones.
 
     sends.py BUILD_FOLDER kills SEED KILLS [real]

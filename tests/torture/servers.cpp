@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Mail servers that misbehave: silent, dropping, half replies, endless ones, wrong codes, broken TLS, odd
 // logins; one thing in each case, at any stage, against the delivery control. Each message has one outcome,
 // "delivered" never without the server's acceptance, none comes whole a second time, the wait ends in time,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random statements, run on a database of the program and on a table of plain SQLite: both return the same
 // rows, change the same number of them, and contain the same afterwards.
 //

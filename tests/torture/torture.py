@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Plays the campaigns of torture, in parts, and prints a table.
 
     torture.py BUILD_FOLDER SANITIZED_BUILD_FOLDER [MINUTES [SEED [CAMPAIGN...]]]

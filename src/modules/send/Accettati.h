@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recipients who were served but whose row is still selected: the process's one list, and
 // what becomes of it.
 #pragma once

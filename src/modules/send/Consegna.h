@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings of the delivery control for an account, the same for a run and for a single copy.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The book of each recipient's outcome: where it is, whether it is kept, and what can be done with it.
 #pragma once
 

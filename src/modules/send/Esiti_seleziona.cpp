@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Changes of the selection from the book, when the user asks for them.
 #include <QHash>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files of this machine that a run would send, and which of them the user has to be asked about.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reasons why a message did not reach its recipient, in plain words.
 #pragma once
 

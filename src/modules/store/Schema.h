@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The two tables of a recipient database, as the program expects them, and what it knows of each text of a

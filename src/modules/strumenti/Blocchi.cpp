@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "modules/strumenti/Blocchi.h"
 
 QStringList strumenti::Blocchi(const std::vector<std::int32_t>& numeri) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of the values of all selected recipients for the placeholders that a message uses.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copy of a message that one recipient of the selection would get.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines of DKIM and DMARC.
 #include "modules/strumenti/DominioMittente_spf.h"
 #include "platform/policy/DkimRecord.h"

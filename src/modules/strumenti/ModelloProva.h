@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A message file as a run would set it up, to be looked at before the run.
 #pragma once
 

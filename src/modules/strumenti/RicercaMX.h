@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mail exchanger that a test copy goes to on the direct route, looked up while the window lives.
 #pragma once
 

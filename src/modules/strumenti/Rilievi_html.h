@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The findings in the markup of a body: its links and images.
 #pragma once
 

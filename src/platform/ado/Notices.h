@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Notices of what the database engine did to files beside a database, for the user, kept until they can be
 // shown.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pool of sessions: which of them a connection text names.
 #include <algorithm>
 #include <chrono>

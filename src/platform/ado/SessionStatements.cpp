@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The statements of a session: its tables as SQLite knows them, what may be compiled, and what went wrong.
 #include <algorithm>
 #include <iterator>

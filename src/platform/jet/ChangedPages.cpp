@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which pages of a table have changed, and the rows on them.
 #include <array>
 #include <cstring>

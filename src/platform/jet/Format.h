@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The layout of a Jet 4 file (files of Jet 3 get this form as they are read, see Jet3.h). Numbers are

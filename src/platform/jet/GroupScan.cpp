@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows with one number in a column: by an index of the file, or by a walk over all rows.
 #include <algorithm>
 

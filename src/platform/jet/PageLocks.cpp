@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The locks of a PageFile: other processes are kept out, what a dead one left is rolled back.
 #include <cassert>
 #include <chrono>

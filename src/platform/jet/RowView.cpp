@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/Database.h"
 #include "platform/jet/Format.h"
 #include "platform/jet/Row.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One recipient whose message was accepted and whose row is not marked yet, and the file that keeps it.
 #pragma once
 

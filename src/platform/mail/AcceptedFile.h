@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file of recipients who are accepted and not marked, which belongs to the process that holds its lock.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recipients whose message a server has accepted and who are not marked in their database yet.
 #pragma once
 

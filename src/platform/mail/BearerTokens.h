@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Logins with an access token of OAuth 2.0 (RFC 6750) instead of a password: OAUTHBEARER and XOAUTH2.
 #pragma once
 

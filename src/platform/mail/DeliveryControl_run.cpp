@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whom a message is for, what was accepted in a run, and the replies that are awaited separately.
 #include <algorithm>
 #include <QDeadlineTimer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The token that replaces a password.
 #include "platform/mail/DeliveryControl.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The book of outcomes: a folder with one file for each of the last runs (docs/formats/esiti.md).
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file in which the delivery control records the outcomes of the messages of one run.
 #pragma once
 

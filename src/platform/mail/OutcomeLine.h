@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The outcome of one message of a run, and its line in the book of outcomes (docs/formats/esiti.md).
 #pragma once
 

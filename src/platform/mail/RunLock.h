@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lock by which other processes see that a run over a database is under way.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialogue of a session: commands, replies and what follows from them.
 #include <algorithm>
 #include <QHostAddress>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A message and its envelope in one flight (RFC 3030): MAIL, RCPT and BDAT with all octets of the message.
 #include <utility>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TLS and login of a session.
 #include <QSslCipher>
 #include <QSslConfiguration>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/oauth/Consent.h"
 
 #include "platform/oauth/Pkce.h"

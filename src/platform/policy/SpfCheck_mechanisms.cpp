@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mechanisms of an SPF record: does one match the client? (RFC 7208 5)
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The program's texts in each language, and the toolkit's own, are compiled in as :/translations/<name>_<language>.qm.
 # vestrola_*.ts: the program's texts; Italian, the language of the sources, has only plurals.
 # toolkit_*.ts: texts of the toolkit that its own translation lacks.

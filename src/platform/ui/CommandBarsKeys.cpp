@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The keyboard in the bars: the keys of pop-up menus, and the walk along the tool buttons.
 #include <QAbstractItemView>
 #include <QAction>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tools of a bar that are more than a button: lists, fields, buttons that open a panel.
 #include "platform/ui/CommandBarsTools.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Clicks, keys and drags of the tree.
 #include <QDrag>
 #include <QDropEvent>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Icons are compiled in: the named files of the installed Breeze theme are copied (links resolved) into the resource
 # :/icons/vestrola at sizes 16 and 22, with the theme's licence. A name that the theme lacks stops the configuration.
 set(VESTROLA_ICON_NAMES

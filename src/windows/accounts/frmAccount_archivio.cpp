@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The accounts of the window: reading, checking and writing them.
 #include <QCheckBox>
 #include <QComboBox>

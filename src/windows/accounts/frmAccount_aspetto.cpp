@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look of the account window: its controls, their places and their colours.
 #include <QCheckBox>
 #include <QComboBox>

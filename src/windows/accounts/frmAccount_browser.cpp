@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The login by the browser, for servers of providers that end the login by password.
 #include <optional>
 #include <QAccessible>

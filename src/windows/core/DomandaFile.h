@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The question about files of this machine that a message would send.
 #pragma once
 

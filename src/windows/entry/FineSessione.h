@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The end of the desktop's session, and the signals by which the system asks a program to end (SIGTERM,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The key F1: it opens the help at the place about the window that has the focus, or about the one it

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The entry routine of the program: writes the log of starts, finds the recipient database and brings up the

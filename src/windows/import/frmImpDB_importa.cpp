@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The source of the Access import: its tables, their columns, and the walk over the records.
 #include <QComboBox>
 #include <QLineEdit>

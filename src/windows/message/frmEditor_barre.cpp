@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the editor and their places: bars, menus, keys.
 #include <algorithm>
 #include <QFontDatabase>

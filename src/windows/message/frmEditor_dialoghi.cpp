@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the design view leaves to windows: image, link, properties of an element, search.
 #include "modules/message/variabili.h"
 #include "platform/mail/LocalImages.h"

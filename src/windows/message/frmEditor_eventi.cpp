@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the three views and the tabs report, and the state of the tools that follows from it.
 #include <initializer_list>
 #include <QScopedValueRollback>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The document and its file.
 #include "modules/core/bFunctions.h"
 #include "modules/core/Fallimento.h"

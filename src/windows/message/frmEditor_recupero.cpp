@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rescue copy of the document: when it is written, when it goes away, how it is offered.
 #include <algorithm>
 #include <QLocale>

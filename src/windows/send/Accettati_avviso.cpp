@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/send/Accettati_avviso.h"
 
 #include "modules/send/Accettati.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The notice about damaged files of accepted messages.
 #pragma once
 

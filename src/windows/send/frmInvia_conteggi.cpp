@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The figures of a run: on the screen before a wait, and reported to assistive programs.
 #include <array>
 

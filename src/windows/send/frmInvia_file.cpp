@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The message file and the files it sends: what is picked, asked about, and read for the run.
 #include <algorithm>
 #include <QLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tool tips and descriptions of the counts. Nothing is read before one is requested.
 #include <cmath>
 

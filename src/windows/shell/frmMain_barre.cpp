@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the main window and their places: menus, tool bars, pop-up menus, status bar.
 #include <QLocale>
 #include <QMenuBar>

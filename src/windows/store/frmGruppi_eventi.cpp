@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user does to the tree.
 #include "modules/core/bGlobal.h"
 #include "modules/store/nodo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Moving recipients and groups without the mouse: Ctrl+X marks what is to move, Ctrl+V on a group moves it
 // there, Esc takes the mark back.
 #include <QShortcut>

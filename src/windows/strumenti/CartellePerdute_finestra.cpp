@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command "Recupera cartelle perdute...".
 #include "modules/strumenti/CartellePerdute.h"
 

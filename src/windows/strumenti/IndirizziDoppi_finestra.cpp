@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command "Indirizzi doppi...".
 #include "modules/strumenti/IndirizziDoppi.h"
 

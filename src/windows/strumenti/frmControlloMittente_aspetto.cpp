@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look of the window: its controls, their places and their names.
 #include <QComboBox>
 #include <QHeaderView>

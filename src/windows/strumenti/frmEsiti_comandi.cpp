@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the buttons of the window do: copy, save, change the selection, delete, switch.
 #include <algorithm>
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The message and the recipient that are on show.
 #include <QComboBox>
 #include <QDeadlineTimer>

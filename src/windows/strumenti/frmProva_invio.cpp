@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copy that goes to an address of the user's.
 #include <algorithm>
 #include <QComboBox>

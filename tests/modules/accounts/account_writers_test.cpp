@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How an entry of the address book becomes a row.
 #include "modules/import/bWab.h"
 

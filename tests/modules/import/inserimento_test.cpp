@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The parts that the imports share: the boxes, and the rows on disk.
 #include "modules/import/Inserimento.h"
 #include "modules/store/Destinatario.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One line of a delimited text file, and the files whose statements are known.
 #include "modules/import/RigaTesto.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The language files: every sample of tests/data/lang, and what may be found in a file that was edited
 // by hand. A sample states the entries of the list, the numbers, the texts that arrive and whether the
 // reading fails.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rescue copies as files: what they contain, who may read and take them, what becomes of damaged and refused
 // ones.
 #include "modules/message/CopiaRecupero.h"

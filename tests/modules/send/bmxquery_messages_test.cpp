@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "modules/send/bmxquery_state.h"
 #include "platform/text/AnsiCodec.h"
 

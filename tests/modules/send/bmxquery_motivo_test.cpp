@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Why a look-up found no exchanger, and how long it waits for a silent name server.
 #include "modules/send/bmxquery_server.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look-up against real name servers on port 53, found through the test's own /etc/resolv.conf.
 #include <memory>
 

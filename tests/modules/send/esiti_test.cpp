@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reasons of outcomes in plain words, addresses that do not exist, and the book for spreadsheets.
 #include <gtest/gtest.h>
 

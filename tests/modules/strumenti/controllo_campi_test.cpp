@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of the selection's values for the placeholders that a message uses.
 #include "modules/strumenti/ControlloCampi.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole check: a real name server, and a real mail server with TLS and login.
 #include "modules/strumenti/ControlloMittente.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copy of a message that one recipient would get.
 #include "modules/strumenti/CopiaProva.h"
 

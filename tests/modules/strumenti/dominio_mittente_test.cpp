@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines of MX, address, SPF and reverse name.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every way of inserting rows into a file whose counter is below the greatest number in use.
 #include "platform/ado/GroupedInserts.h"
 #include "support/JetTables.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Several programs at work on one file: no statement is lost, none waits for ever.
 #include <sys/wait.h>
 #include <unistd.h>

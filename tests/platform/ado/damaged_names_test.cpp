@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tables whose columns have impossible names: the table is refused, all else still works.
 #include "TestDatabase.h"
 

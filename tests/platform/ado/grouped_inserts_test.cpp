@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of an import: written in groups, reported only when they are in the file.
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Memo fields through statements and recordsets.
 #include "support/JetTables.h"
 #include "TestDatabase.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numerics ("decimale") keep all their digits, through recordsets, snapshots and statements.
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Snapshot.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Importing and deleting again and again leaves the file about as large as it was.
 #include <random>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every kind of SELECT on every table of databases made by other programs returns what mdbtools reads there.
 #include <QDate>
 

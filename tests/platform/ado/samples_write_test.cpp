@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // INSERT, UPDATE and DELETE of every shape on every table of databases made by other programs: mdbtools reads
 // the expected rows afterwards and the page checker finds nothing; or the statement is refused and the file
 // is unchanged.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the data access layer does while another process works on the file. The other one is a second
 // jet::Database, which this process's locks keep out like any other program's.
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replaces routines of the library that reads Outlook files, as code that such a file has injected would.
 // It prints what it could reach as contacts, so that the test can read it.
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Preloaded into a program, hides the kernel's landlock from it.
 #include <seccomp.h>
 #include <sys/prctl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The helper itself, over real Outlook files and damaged copies of them.
 #include <gtest/gtest.h>
 

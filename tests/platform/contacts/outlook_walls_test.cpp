@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The limits of an attacker who has taken over the reader of Outlook files.
 #include <gtest/gtest.h>
 

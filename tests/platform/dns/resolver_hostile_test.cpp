@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Name servers that lie, stay silent or send rubbish.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real name servers, in a private network.
 #include "platform/dns/Resolver.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Twice the text takes no more than 2.3 times the work, whatever the text is. Work is counted in steps of the
 // readers' own code: they are compiled once more for this program, with a call at each branch.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Auto-numbers of files whose counter is below the greatest number in use, as in some real ones.
 #include <limits>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A journal beside a database to which it does not belong: the database is unchanged, and the journal is
 // kept.
 #include <sys/stat.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The page checker itself: it finds nothing in sound files and something in each kind of damage.
 #include "platform/jet/Format.h"
 #include "platform/jet/JetFixture.h"

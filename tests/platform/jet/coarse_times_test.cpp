@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Disks that keep the time of a change in steps, FAT in steps of two seconds: another program's change is
 // seen all the same. The system's calls for times are replaced in this test program, and do as such a disk
 // does while `step` is not 0.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bytes of a Jet file: header, texts, keys, values, and the empty database.
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows with one number in a column, found by an index or by a scan, and scans of files longer than the
 // cache.
 #include <random>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Indexes of every kind that a user's table may have, on tables made for the test.
 #include <random>
 

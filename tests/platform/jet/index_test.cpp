@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The index on a long: splits, tails, emptied leaves, other writers' forms.
 #include <algorithm>
 #include <numeric>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The journal beside an open file, which reserves room for the next change, and full disks.
 #include <signal.h>
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Injected faults: failing and short writes, death at each step, lost power. After each of them the file
 // contains exactly the state before or after the transaction.
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys of index entries: each one in a file made by other programs is made again from its row.
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"

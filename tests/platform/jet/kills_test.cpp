@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Three writers and a reader, each a process; again and again one of them is killed and started
 // again. VESTROLA_KILLS in the environment says how often, VESTROLA_SEED from which seed.
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Several processes and several Databases on one file.
 #include <fcntl.h>
 #include <signal.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Memo and OLE values: in the row, in one row elsewhere, in a chain of rows.
 #include "platform/jet/Catalog.h"
 #include "platform/jet/DefinitionReader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Memo values are written: in the row, in one row elsewhere, in a chain of rows.
 #include <random>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // New databases from descriptions of their tables.
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Failure.h"

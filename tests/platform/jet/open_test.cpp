@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening: what is refused and how, and that reading leaves a file unchanged.
 #include <sys/stat.h>
 #include <sys/wait.h>

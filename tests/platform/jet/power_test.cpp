@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Power fails: what was not synced may or may not have reached the disk, in any selection, pages torn at any
 // sector.
 #include <random>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Four processes that change one file at the same time. None of their statements may be lost, and the file
 // must be sound at the end. VESTROLA_SECONDS=60 in the environment makes them go on for that long.
 #include <sys/wait.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Required and AllowZeroLength, as the catalogue has them.
 #include "platform/jet/ColumnProperties.h"
 #include "platform/jet/DefinitionWriter.h"

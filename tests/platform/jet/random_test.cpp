@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Thousands of random changes from a seed, on a new file and on copies of real ones; afterwards a model in
 // memory, two page checkers and another reader of the format must agree with the file.
 #include <cstdlib>

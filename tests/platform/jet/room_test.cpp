@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Room of deleted rows is used again: files do not grow by importing and deleting.
 #include <random>
 

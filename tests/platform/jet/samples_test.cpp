@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files made by other programs: every value is read as an independent reader reads it, and a change that
 // cannot be written correctly is refused. The samples are outside the sources; where they are missing, each
 // test reports it and passes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of a table: what is written is what is read, what cannot be stored is refused.
 #include <limits>
 

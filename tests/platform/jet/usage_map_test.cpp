@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Usage maps: both forms, growth at either end, and the map of free pages.
 #include <random>
 #include <set>

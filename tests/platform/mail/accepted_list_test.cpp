@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of accepted messages: in memory, in the file, between processes.
 #include <fcntl.h>
 #include <gtest/gtest.h>

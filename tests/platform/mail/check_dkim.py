@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Verifies the DKIM signatures of messages with an independent implementation and prints "good" or why not, one line each.
 
     check_dkim.py MESSAGES NAME TEXT

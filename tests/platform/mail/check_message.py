@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reads messages with Python's own e-mail parser under its strict policy and prints what it understood, as JSON.
 
 The one argument names a file with the messages one after the other, each after a line with its length.

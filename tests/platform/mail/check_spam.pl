@@ -1,4 +1,5 @@
 #!/usr/bin/perl
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Shows messages to SpamAssassin without its tests that need a network and prints for each one the names of the rules that
 # hit, with blanks between them, on a line.
 #

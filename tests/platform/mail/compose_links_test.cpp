@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The addresses in a body: made valid URIs, and listed in the text form.
 #include <gtest/gtest.h>
 

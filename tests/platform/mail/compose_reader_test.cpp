@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Composes messages of ordinary and hostile values and compares them with what Python's e-mail parser,
 // under its strict policy, reads in them.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mail/dkim_verifier.h"
 
 // The library's header is C, and standard C++ has no _Bool.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which mechanism is tried, and which one after it.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The book of outcomes as the delivery control keeps it, against real sockets.
 #include <sys/resource.h>
 #include <csignal>

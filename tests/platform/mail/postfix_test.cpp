@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A real mail server with all its parts: login, TLS, delivery to a Maildir, and relaying of what was signed.
 #include <QMap>
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a password may go without TLS, and which servers have offered TLS.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What never goes in the clear: a password to a server beyond this machine and its network, and anything to
 // an account's server that has offered TLS before. In a private network, where posta.example is a name of
 // 127.0.0.1.

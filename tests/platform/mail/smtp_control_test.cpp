@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The delivery control as the send window uses it: sending, stopping, hostile values.
 #include <QFile>
 #include <QTcpServer>

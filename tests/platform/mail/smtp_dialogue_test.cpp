@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The session with servers that follow the rules, and with others.
 #include "platform/mail/smtp_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A message and its envelope in one flight: when it is done, and the outcome of each fault of the server.
 #include <QFile>
 #include <QTemporaryDir>

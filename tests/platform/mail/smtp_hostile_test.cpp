@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A server that misbehaves at any step of a whole dialogue, with TLS and login: each ending has its one
 // outcome, and the next recipient is served.
 #include "platform/mail/smtp_fixture.h"

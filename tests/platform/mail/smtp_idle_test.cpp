@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program of its own, since it lasts longer than the half minute for which a connection is kept.
 #include "platform/mail/smtp_fixture.h"
 

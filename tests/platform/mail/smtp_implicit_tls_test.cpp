@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TLS from the start belongs to port 465 alone, so these tests run in a private network.
 #include "platform/mail/smtp_fixture.h"
 #include "support/PrivateNetwork.h"

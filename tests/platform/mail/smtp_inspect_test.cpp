@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Inspection: a connection without a message.
 #include "platform/mail/smtp_fixture.h"
 #include "platform/mail/SmtpSession.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Kept connections that turn out dead, and the first line of the final reply.
 #include "platform/mail/smtp_fixture.h"
 

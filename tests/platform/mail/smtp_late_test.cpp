@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that were abandoned after their final point: the server may still have accepted them.
 #include <QTcpServer>
 

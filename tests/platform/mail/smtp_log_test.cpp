@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The support log that the delivery control keeps: dialogue, outcomes, reasons, hostile text.
 #include <QFile>
 #include <QRegularExpression>

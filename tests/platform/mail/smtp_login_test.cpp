@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Login: which mechanisms are tried, what is refused, and what never appears in a log. User "utente",
 // password "segreto-più".
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Logins with an access token: what is sent, to which server, and what happens to a message
 // meanwhile.
 #include <QFile>

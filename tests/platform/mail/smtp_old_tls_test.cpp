@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A server that knows nothing newer than TLS 1.1. The system's own settings would refuse it as well, so these
 // tests run under settings that allow everything: what refuses is the client's minimum.
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages with the number of a recipient's row: nobody gets one twice in a run, and none without a recipient
 // is sent.
 #include <QFile>

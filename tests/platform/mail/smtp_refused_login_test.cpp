@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A login that was refused for its password is not tried again at once.
 #include "platform/mail/smtp_run_fixture.h"
 

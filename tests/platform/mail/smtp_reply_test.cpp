@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The readers and writers of the dialogue that work on bytes alone.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The client's side of each mechanism with the server's side of the same library.
 #include <gsasl.h>
 #include <gtest/gtest.h>

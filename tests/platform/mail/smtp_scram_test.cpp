@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole dialogue of SCRAM-SHA-256 with a server that computes its part, or falsifies it.
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TLS: what is accepted, and what is refused.
 #include "platform/mail/smtp_fixture.h"
 

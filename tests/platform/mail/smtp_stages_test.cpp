@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long each stage may last. The time-out is a second, the stages' minimum is scaled down.
 #include <QThread>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stop and continue, repeatedly, with a slow server: nobody gets a message twice, and nobody is left out.
 #include <map>
 #include <random>

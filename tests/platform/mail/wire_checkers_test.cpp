@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A corpus of messages, checked by other programs: a spam filter and a MIME reader.
 #include <QSet>
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is sent besides the message: the greeting, the order of commands, dots, the version of TLS.
 #include <QRegularExpression>
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each kind of value in every field at once, with and without files, checked by every rule for messages.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A consent from the first click to the token's file, with honest servers and others.
 #include "platform/oauth/Consent.h"
 #include "oauth_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file of the providers: what is installed, and what is refused.
 #include "oauth_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The request that a browser makes at the end of a consent, and the listener that waits for it.
 #include <QCoreApplication>
 

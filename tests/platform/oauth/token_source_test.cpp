@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tokens for logins: kept while they last, renewed when they do not, and given to nobody else.
 #include "oauth_fixture.h"
 #include "platform/oauth/TokenFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Answers of a token endpoint, and the files that keep tokens.
 #include <QCryptographicHash>
 #include <QFileInfo>

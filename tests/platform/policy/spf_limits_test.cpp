@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The limits of RFC 7208 4.6.4, from both sides.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tools of a bar that are more than a button, and disabled bars.
 #include <QAccessible>
 #include <QDialog>

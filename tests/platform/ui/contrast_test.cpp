@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop's setting of high contrast, sent by a settings portal on a private bus.
 #include <QDBusConnection>
 #include <QDBusVariant>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order of the grid's rows, and the search in them.
 #include <QAccessible>
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The grid: cells, marks, keys, mouse and what assistive programs read of it. Above 500 lines: one control,
 // whose tests share one model and its helpers.
 #include <QAccessible>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of the editor: the colour hexagon, the source view, the tabs.
 #include <QAbstractScrollArea>
 #include <QAccessible>

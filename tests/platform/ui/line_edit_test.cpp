@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The control for a line of text: any input stays one line.
 #include <QApplication>
 #include <QClipboard>

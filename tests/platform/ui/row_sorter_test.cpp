@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sorting in parts, without a grid.
 #include <algorithm>
 #include <QTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the account window is opened: by its command, modal over the main window, the same one every time.
 #include <QTimer>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Checking, saving and reading of accounts through the account window's buttons.
 #include <QFile>
 #include <QJsonArray>

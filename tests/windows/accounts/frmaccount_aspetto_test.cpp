@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the account window shows before any input: texts, limits, states, colours, order and space.
 #include <QAccessible>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The login by the browser in the account window, with a browser and an authorization server of the test.
 #include <QAccessible>
 #include <QDir>

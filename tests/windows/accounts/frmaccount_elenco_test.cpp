@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of the account window and the boxes that follow its position: choosing, deleting, the states that
 // the check boxes set, focus and closing.
 #include <QContextMenuEvent>

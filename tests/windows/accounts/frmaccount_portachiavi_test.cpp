@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The account window over a keyring of its own.
 #include <unistd.h>
 

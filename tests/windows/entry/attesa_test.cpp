@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the windows do while a statement waits for another program that locks the database, in their thread or
 // aside.
 #include <atomic>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // F1 in each window, with the help as built: it opens the section about that window, in the language in
 // use.
 #include <QKeyEvent>

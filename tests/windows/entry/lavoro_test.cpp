@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Long work is visible: the hourglass while a statement or a fill runs, the progress item of the status
 // bar, and a window that keeps being painted where the work permits.
 #include <QScopeGuard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the windows look: nothing is cut, also with longer texts and larger fonts; names and order for
 // assistive programs and the keyboard. With VESTROLA_SHOTS set to a folder, pictures of the windows are left
 // there.

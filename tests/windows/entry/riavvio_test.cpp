@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The restart after a failure, and the end that the system requests.
 #include "windows/entry/Riavvio.h"
 #include "support/TestClass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every text of ours in a window was looked up in the language in use.
 #include <QAction>
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every window with a user's settings: the four colour schemes, a larger font, longer texts; the screen's
 // scale comes from outside (QT_SCALE_FACTOR). With VESTROLA_SHOTS set to a folder, pictures are left there.
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The small window that asks for the group, and what the choice of the group does.
 #include "windows/import/cartella.h"
 #include "support/TestClass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Faulty address books, Outlook files and databases: nothing is said to the user, the group that was asked
 // for stays, imported rows stay, and the database is consistent.
 #include <sys/stat.h>

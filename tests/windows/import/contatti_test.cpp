@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The imports from the address book and from Outlook, from the question for the group to the rows on disk.
 #include "support/TestClass.h"
 #include "windows/import/contatti_stage.h"

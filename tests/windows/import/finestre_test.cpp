@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the windows of the text import and of the Access import have in common.
 #include <QTimer>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real databases of many programs: each is opened, listed and imported from. They are not part of the
 // repository; where they are missing the tests report it and pass.
 #include <QDir>

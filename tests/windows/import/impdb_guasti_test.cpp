@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Faulty sources of the Access import, and databases that another process locks.
 #include <sys/stat.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the Access import: listing, mapping, and what the walk over the records does.
 #include "modules/store/NuovoDatabase.h"
 #include "support/TestClass.h"

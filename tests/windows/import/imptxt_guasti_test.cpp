@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Faulty text files and databases: what the user reads, and that the rows before the fault stay.
 #include <sys/stat.h>
 

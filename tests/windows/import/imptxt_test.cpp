@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the text import: its controls, and files that import as they should.
 #include "support/TestClass.h"
 #include "windows/import/frmImpTXT.h"

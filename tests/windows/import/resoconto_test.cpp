@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What each import but the text import notes of its lines.
 #include "modules/import/UltimaImportazione.h"
 #include "support/TestClass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every key of the language file and what it names in the real windows, and the file that is installed.
 #include <QAbstractButton>
 #include <QDockWidget>

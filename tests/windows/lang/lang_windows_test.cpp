@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of languages, a change of language, and a start with faulty language files.
 #include <QAbstractButton>
 #include <QMenu>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every command of the editor: its texts, the view it goes to, what it does, whether it marks the document,
 // and that it can be undone.
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows that the design view asks for: image, link, properties of an element, search.
 #include <QAccessible>
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The life of a document in the editor: new, open, save, changed, the guard, the body's way through the
 // views.
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The editor never damages a message: opened, looked at in every tab and saved any number of times, its body
 // stays unchanged. And the send window offers what was written.
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // While a message is read for long, the editor is painted under the hourglass and nothing that is typed is
 // lost.
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of attachments, and the properties of the page.
 #include <QDir>
 #include <QHeaderView>

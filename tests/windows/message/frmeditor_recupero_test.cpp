@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rescue copy of the document in the editor: when it is written, what it contains, when it is removed,
 // and how it is recovered.
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Input from outside does no harm to the editor: the clipboard, a drop, a hostile message, the end of
 // the browser's process.
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // While the browser stalls, an older text is never taken for the message's: requests to it fail, with a
 // notice, and work again when the browser does.
 #include <csignal>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tools of the editor follow the selection; toggles, lists, colours, status text, menus, keys.
 #include <QContextMenuEvent>
 #include <QDockWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A recipient who was served though his row could not be marked: when he leaves the selection, and what
 // prevents the start of a run.
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole run over the direct route: real name servers, and mail servers on port 25 of their own addresses.
 #include <QFile>
 #include <utility>

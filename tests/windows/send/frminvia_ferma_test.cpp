@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A stop in each state of a run, and what can happen before the pending tick.
 #include "support/SendStage.h"
 #include "support/TestClass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files that a run sends: received messages that name files of the user, and the question about them.
 #include <QDir>
 

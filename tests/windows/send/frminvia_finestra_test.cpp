@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window around a run: closing, opening again, focus and default button.
 #include <QAccessible>
 #include <QApplication>

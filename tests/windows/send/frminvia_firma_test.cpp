@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Signatures of a run, made with the keys in the data folder.
 #include <QFile>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The walk over the selection: order, outcomes, personalisation, the route of each recipient, failures in
 // mid-run.
 #include <future>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up of a run: the window's lists, the choice of the message, the checks and what a start prepares.
 // Above 500 lines: one click with a fixed order of steps, which are best read side by side.
 #include <QFile>

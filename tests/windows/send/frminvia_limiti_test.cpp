@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pause, time-out and block limit of a run, and its log.
 #include <QFile>
 #include <QFileDialog>

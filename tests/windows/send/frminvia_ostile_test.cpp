@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The send window with servers that misbehave: a stop at every step of the dialogue, and a run over one
 // after the other.
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the selection in a run: what is read from each, when it leaves the queue, and what other
 // programs do to the rows meanwhile.
 #include <QDirIterator>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole runs over recipients and messages whose values try to widen what is sent: another file, another
 // recipient, another header, another command.
 #include "modules/send/Personalizza.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bars of the main window: what is where, with which texts; the status bar; the client area.
 #include <QAccessible>
 #include <QDockWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one handler of all commands.
 #include <QLabel>
 #include <QMenu>

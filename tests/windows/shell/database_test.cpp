@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening another recipient database, and saving a copy of the current one.
 #include <sys/stat.h>
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The keyboard in the main window: keys of the commands, tab order, F6, and when the pop-up commands are on.
 #include <QSignalSpy>
 #include <QToolButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menu "Strumenti": after the others, with a handler of its own for each command.
 #include <QAccessible>
 #include <QMenu>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recipient form: its items, checks, statements and what it does to the grid. Above 500 lines: all of it
 // tests one form over one stage, and is best read together.
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How tree, grid and recipient form look, also with texts a third longer; names and order for assistive
 // programs and the keyboard. With VESTROLA_SHOTS set to a folder, pictures of the windows are left there.
 #include <QAccessible>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recipient commands of the pop-up menus.
 #include <QLabel>
 #include <QLineEdit>

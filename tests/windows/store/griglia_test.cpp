@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The grid: its columns, clicks, status text and pop-up menu.
 #include <QHeaderView>
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tree: how it is built, what a click does, labels and pop-up menus.
 #include <QLineEdit>
 

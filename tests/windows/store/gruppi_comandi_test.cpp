@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The group commands of the pop-up menus.
 #include <QAccessible>
 #include <QLineEdit>

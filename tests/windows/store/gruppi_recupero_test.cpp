@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Loading the tree when the database cannot be used.
 #include <QFile>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drag and drop: recipients and groups onto the tree.
 #include "support/TestClass.h"
 #include "windows/store/griglia_stage.h"

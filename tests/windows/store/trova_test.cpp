@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding recipients: the bar above the grid, in the folder and everywhere; sorting by the headings.
 #include <QCheckBox>
 #include <QComboBox>

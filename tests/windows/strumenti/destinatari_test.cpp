@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tools that maintain recipients and groups, as the menu starts them.
 #include <QAction>
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of a sender through its window, in a network without a name server or with a silent one.
 #include <QApplication>
 #include <QClipboard>

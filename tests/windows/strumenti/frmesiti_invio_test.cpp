@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A run with the book of outcomes, and what the send window says of it on request.
 #include <QAccessible>
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Esito degli invii...": filters, copies, saves, changes the selection, deletes.
 #include <QApplication>
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The test copy over the direct route: name servers that lead to a mail server, to none, that are silent or
 // lie.
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The test copy to an address of the user's.
 #include "modules/send/Accettati.h"
 #include "support/AsInTheProgram.h"

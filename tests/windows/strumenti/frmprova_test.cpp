@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A message as one recipient will get it, and the findings about it.
 #include <QAccessible>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The last import's report in memory, and the window that shows it.
 #include <QAction>
 #include <QClipboard>

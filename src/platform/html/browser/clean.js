@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cleans text of other programs: content stays; what acts, what leads to other schemes, and what steers
 // another program's layout goes. All is called through the prototypes: a form's control named "attributes"
 // shadows that member, and in a document an image does.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Commands by their published numbers, and the states that the tool bars show.
 editor.commands = {
     native: {

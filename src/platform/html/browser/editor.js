@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The editing of one document. Runs in an isolated world beside the page, whose scripts never run. Timers
 // do not run here; what has to wait is sent to the program, which calls again.
 const editor = {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The elements around the selection, and the page itself.
 editor.elements = {
     // The element that is selected whole (an image, a field), else none.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Undo and redo. Every change of the tree is recorded as it happens, whatever its source: typing, the browser's own
 // commands, our changes of tables and attributes. A step is the list of changes between two moments of rest, and is
 // undone by applying the changes' inverses backwards, so that the same nodes come back.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Content that comes from outside: fragments, pasted text, images, links.
 editor.insert = {
     blocks: 'address,article,aside,blockquote,center,dd,details,dir,div,dl,dt,fieldset,figure,footer,form,h1,h2,h3,h4,h5,h6,header,hr,li,main,menu,nav,ol,p,pre,section,table,ul',

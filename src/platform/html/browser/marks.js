@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What design view shows beside the document, by style sheets that are no part of it.
 editor.marks = {
     sheets: {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Images that name files which are not there come with a mark in front of the address. It makes them addresses that the
 // browser knows to be no picture, without asking the program about each. The mark is never visible outside.
 editor.missing = {

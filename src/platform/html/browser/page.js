@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Margins, colours and background of the page: attributes of the body.
 editor.page = {
     colors: [

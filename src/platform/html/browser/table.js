@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows and columns of the table that contains the caret. Cells that span several rows or columns keep their
 // shape: they grow by what is inserted inside them and shrink by what is deleted.
 editor.table = {

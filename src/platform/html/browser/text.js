@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The document as text, in and out.
 editor.text = {
     // The document by the serialisation rules of the HTML standard, with what they leave out and a second
