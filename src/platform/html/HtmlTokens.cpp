@@ -10,33 +10,31 @@ namespace {
 using namespace std::string_view_literals;
 using std::string_view;
 
-bool isLetter(char c) {
+constexpr bool isLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// What a character ends inside a tag
-constexpr unsigned char atBlank = 1, atSlash = 2, atTagEnd = 4, atEquals = 8;
+// What a character ends inside a tag, and what most names consist of
+constexpr unsigned char atBlank = 1, atSlash = 2, atTagEnd = 4, atEquals = 8, letterOrDigit = 16;
 
-constexpr std::array<unsigned char, 256> endings = [] {
+constexpr std::array<unsigned char, 256> classes = [] {
     std::array<unsigned char, 256> table{};
     for (const char blank : " \t\n\r\f"sv)
         table[static_cast<unsigned char>(blank)] = atBlank;
     table['/'] = atSlash;
     table['>'] = atTagEnd;
     table['='] = atEquals;
+    for (unsigned char c = 0; c < 0x80; ++c)
+        if (isLetter(static_cast<char>(c)) || (c >= '0' && c <= '9')) table[c] = letterOrDigit;
     return table;
 }();
 
-bool endsAny(char c, int ends) {
-    return (endings[static_cast<unsigned char>(c)] & ends) != 0;
+bool isAny(char c, int wanted) {
+    return (classes[static_cast<unsigned char>(c)] & wanted) != 0;
 }
-
-constexpr std::size_t shortestRawTextTag = 3;
-constexpr std::array rawTextTags = {"style"sv, "script"sv, "textarea"sv, "title"sv,
-                                    "xmp"sv,   "iframe"sv, "noembed"sv,  "noframes"sv};
 
 string_view* placeOf(HtmlTag& tag, string_view name) {
     static constexpr std::array<std::pair<string_view, string_view HtmlTag::*>, 9> places = {
@@ -77,6 +75,20 @@ string_view trimmedHtml(string_view text) {
     return text;
 }
 
+namespace {
+
+constexpr std::size_t shortestRawTextTag = 3;
+
+bool hasRawText(string_view tagName) {
+    static constexpr std::array names = {"style"sv, "script"sv, "textarea"sv, "title"sv,
+                                         "xmp"sv,   "iframe"sv, "noembed"sv,  "noframes"sv};
+    if (tagName.size() < shortestRawTextTag) return false;
+    return std::any_of(names.begin(), names.end(),
+                       [tagName](string_view name) { return sameHtmlText(tagName, name); });
+}
+
+}  // namespace
+
 HtmlTokens::Kind HtmlTokens::next() {
     if (m_rawTextNext) {
         m_rawTextNext = false;
@@ -97,7 +109,7 @@ HtmlTokens::Kind HtmlTokens::next() {
         if (isLetter(following)) {
             ++m_at;
             readTag();
-            m_rawTextNext = hasRawText();
+            m_rawTextNext = hasRawText(m_tag.name);
             return Kind::Tag;
         }
         if (m_html.compare(m_at, 4, "<!--") == 0) {
@@ -112,6 +124,21 @@ HtmlTokens::Kind HtmlTokens::next() {
         }
     }
     return Kind::End;
+}
+
+void HtmlTokens::skipBare() {
+    if (m_rawTextNext) return;
+    while ((m_at = std::min(m_html.find('<', m_at), m_html.size())) != m_html.size()) {
+        std::size_t at = m_at + 1;
+        const bool endTag = at < m_html.size() && m_html[at] == '/';
+        if (endTag) ++at;
+        const std::size_t from = at;
+        while (at < m_html.size() && isAny(m_html[at], letterOrDigit))
+            ++at;
+        const bool bare = at < m_html.size() && m_html[at] == '>' && isLetter(m_html[from]);
+        if (!bare || (!endTag && hasRawText(m_html.substr(from, at - from)))) return;
+        m_at = at + 1;
+    }
 }
 
 bool HtmlTokens::startsMarkup(std::size_t at) const {
@@ -146,10 +173,10 @@ string_view HtmlTokens::readUntil(Condition stop) {
 
 void HtmlTokens::readTag() {
     m_tag = {};
-    m_tag.name = readUntil([](char c) { return endsAny(c, atBlank | atSlash | atTagEnd); });
+    m_tag.name = readUntil([](char c) { return isAny(c, atBlank | atSlash | atTagEnd); });
     const std::size_t from = m_at;
     for (;;) {
-        const string_view between = readUntil([](char c) { return !endsAny(c, atBlank | atSlash); });
+        const string_view between = readUntil([](char c) { return !isAny(c, atBlank | atSlash); });
         if (atEnd()) return;
         if (m_html[m_at] == '>') {
             m_tag.attributes = m_html.substr(from, m_at - from);
@@ -164,7 +191,7 @@ void HtmlTokens::readTag() {
 
 void HtmlTokens::readAttribute() {
     const std::size_t from = m_at++;  // a "=" in front is part of the name
-    readUntil([](char c) { return endsAny(c, atBlank | atSlash | atTagEnd | atEquals); });
+    readUntil([](char c) { return isAny(c, atBlank | atSlash | atTagEnd | atEquals); });
     const string_view name = m_html.substr(from, m_at - from);
     readUntil([](char c) { return !isHtmlBlank(c); });
     if (atEnd() || m_html[m_at] != '=') return;
@@ -183,12 +210,6 @@ string_view HtmlTokens::readValue() {
     const string_view value = m_html.substr(m_at, m_html.find(quote, m_at) - m_at);
     m_at = std::min(m_html.size(), m_at + value.size() + 1);
     return value;
-}
-
-bool HtmlTokens::hasRawText() const {
-    if (m_tag.name.size() < shortestRawTextTag) return false;
-    return std::any_of(rawTextTags.begin(), rawTextTags.end(),
-                       [this](string_view name) { return sameHtmlText(m_tag.name, name); });
 }
 
 std::size_t HtmlTokens::endOfRawText() const {

@@ -32,6 +32,9 @@ class HtmlTokens {
         End,
     };
     Kind next();
+    /// Moves past texts and tags up to the next tag that has attributes or whose content is raw text. For
+    /// readers to whom nothing else means anything there: most tags of a message have neither.
+    void skipBare();
     /// To be called after a start tag whose content is no raw text, as in a drawing.
     void readAsMarkup() { m_rawTextNext = false; }
     /// The last start tag or end tag.
@@ -47,7 +50,6 @@ class HtmlTokens {
     void readTag();
     void readAttribute();
     std::string_view readValue();
-    bool hasRawText() const;
     std::size_t endOfRawText() const;
     template <class Condition>
     std::string_view readUntil(Condition stop);

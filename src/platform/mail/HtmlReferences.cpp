@@ -100,7 +100,7 @@ class Reader {
 
     HtmlReferences read() {
         using Kind = HtmlTokens::Kind;
-        for (Kind kind = m_tokens.next(); kind != Kind::End; kind = m_tokens.next()) {
+        for (Kind kind = nextKind(); kind != Kind::End; kind = nextKind()) {
             if (kind == Kind::Text)
                 showText(m_tokens.text());
             else if (kind == Kind::Tag)
@@ -120,6 +120,12 @@ class Reader {
     }
 
   private:
+    /// A link's text is read whole. Outside of links only attributes and styles mean anything.
+    HtmlTokens::Kind nextKind() {
+        if (!m_inLink) m_tokens.skipBare();
+        return m_tokens.next();
+    }
+
     void use(const HtmlTag& tag) {
         if (tag.attributeCount == 0 && !m_inLink) return;  // most of them
         if (!tag.style.empty()) findStyleImages(tag.style);
