@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -28,32 +29,45 @@ Kind kindOf(char c) {
     return kinds[static_cast<unsigned char>(c)];
 }
 
-// Whether one of eight octets is outside the range from the blank to "~", or is "=".
-bool holdsOther(const char* octets) {
-    constexpr std::uint64_t each = 0x0101010101010101, high = each * 0x80;
-    std::uint64_t word = 0;
-    std::memcpy(&word, octets, sizeof word);
-    const std::uint64_t equals = word ^ each * '=';
-    // Where no octet has its highest bit, no sum carries over
-    return ((word | (word + each) | ~((word | high) - each * ' ') | ~((equals | high) - each)) & high) != 0;
+constexpr std::ptrdiff_t groupSize = 16;
+using Group = signed char __attribute__((vector_size(groupSize)));
+
+// Copies sixteen octets; returns how many of them come before the first that is outside the range from the
+// blank to "~" or is "=".
+std::ptrdiff_t copyGroup(char* to, const char* from) {
+    Group octets;
+    std::memcpy(&octets, from, groupSize);
+    std::memcpy(to, &octets, groupSize);
+    // Those with the highest bit are negative. Each octet of the result is all ones or zero.
+    const Group others = (octets < Group{} + ' ') | (octets == Group{} + '\x7F') | (octets == Group{} + '=');
+    const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(others);
+    if ((halves[0] | halves[1]) == 0) return groupSize;
+    constexpr auto before = [](std::uint64_t half) {
+        return (std::endian::native == std::endian::big ? std::countl_zero(half) : std::countr_zero(half)) /
+               8;
+    };
+    return halves[0] != 0 ? before(halves[0]) : 8 + before(halves[1]);
 }
 
 bool isPlain(char c) {
     return kindOf(c) == Kind::Literal || c == ' ';
 }
 
-// The end of what is literal; a blank in front of a line end is not
-const char* endOfPlain(const char* at, const char* limit, const char* end) {
-    const char* to = at;
-    while (limit - to >= 8 && !holdsOther(to))
-        to += 8;
-    while (to != limit && isPlain(*to))
-        ++to;
-    const bool endsLine = to == end || kindOf(*to) == Kind::LineEnd;
-    return endsLine && to != at && to[-1] == ' ' ? to - 1 : to;
+// Copies what is plain up to `limit`, and octets of the same groups after it; returns its end.
+const char* copyPlain(char* to, const char* at, const char* limit, const char* end) {
+    while (at < limit && end - at >= groupSize) {
+        const std::ptrdiff_t plain = copyGroup(to, at);
+        at += plain;
+        to += plain;
+        if (plain != groupSize) return std::min(at, limit);
+    }
+    if (at >= limit) return limit;
+    for (; at != limit && isPlain(*at); ++at)
+        *to++ = *at;
+    return at;
 }
 
-/// Writes into room that is large enough for the whole text.
+/// Writes into room that is large enough for the whole text, with a group to spare.
 class Writer {
   public:
     explicit Writer(char* to) : m_to(to) {}
@@ -78,8 +92,10 @@ class Writer {
     const char* plain(const char* at, const char* end) {
         makeRoom(1);
         const char* const limit = at + std::min<std::ptrdiff_t>(lineRoom - m_column, end - at);
-        const char* const to = endOfPlain(at, limit, end);
-        std::memcpy(m_to, at, static_cast<std::size_t>(to - at));
+        const char* to = copyPlain(m_to, at, limit, end);
+        // A blank in front of a line end is encoded
+        const bool endsLine = to == end || kindOf(*to) == Kind::LineEnd;
+        if (endsLine && to != at && to[-1] == ' ') --to;
         m_to += to - at;
         m_column += static_cast<int>(to - at);
         return to;
@@ -117,7 +133,7 @@ bool mustNotStartLine(const char* at, const char* end) {
 void appendQuotedPrintable(QByteArray& out, const QByteArray& text) {
     const qsizetype before = out.size();
     // each octet three, and three more for a soft line break after each 24 of them
-    out.resize(before + text.size() * 3 + text.size() / 8 + 8);
+    out.resize(before + text.size() * 3 + text.size() / 8 + groupSize);
     Writer writer(out.data() + before);
     const char* const end = text.constData() + text.size();
     for (const char* at = text.constData(); at != end; ++at) {
