@@ -26,11 +26,14 @@ QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype lim
     const char* const end = at + std::min(limit, data.size() - offset);
     offset = end - begin;
 
+    const char* const first = nextPointLine(begin, at, end);
+    if (first == end) return QByteArray::fromRawData(at, end - at);
     QByteArray piece;
     piece.reserve(end - at + 64);
-    for (const char* dot; (dot = nextPointLine(begin, at, end)) != end; at = dot + 1) {
+    for (const char* dot = first; dot != end; dot = nextPointLine(begin, at, end)) {
         piece.append(at, dot - at);
         piece.append("..", 2);
+        at = dot + 1;
     }
     return piece.append(at, end - at);
 }

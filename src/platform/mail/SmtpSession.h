@@ -148,7 +148,7 @@ class SmtpSession : public QObject {
     void sendEnvelope();
     void noteMessage();
     void feedBody();
-    void writePiece(const QByteArray& piece);
+    void writePiece(QByteArrayView piece, QByteArrayView end = {});
     QByteArray envelopeCommand(Step step) const;
     QByteArray greetingName() const;
     bool inputLeft() const;

@@ -300,28 +300,34 @@ void SmtpSession::noteMessage() {
 void SmtpSession::feedBody() {
     QSslSocket* const socket = m_socket;
     for (int pieces = 1; m_socket == socket && m_feeding && allTaken(); ++pieces) {
-        QByteArray piece = m_message.text.stuffed(m_fed, bodyPiece);
+        const QByteArray piece = m_message.text.stuffed(m_fed, bodyPiece);
         m_feeding = !m_message.text.isEnd(m_fed);
         m_pointGiven = !m_feeding;
-        if (!m_feeding) piece += m_message.text.endsLine() ? ".\r\n" : "\r\n.\r\n";
+        QByteArrayView end;
+        if (!m_feeding) end = m_message.text.endsLine() ? ".\r\n" : "\r\n.\r\n";
         // The event loop runs in between, however quickly the server reads.
         if (pieces == piecesInARow)
-            socket->write(piece);
+            socket->write(piece + end.toByteArray());
         else
-            writePiece(piece);
+            writePiece(piece, end);
     }
 }
 
 /// Writes what the system takes at once. Only the rest goes through the socket's own buffer, which saves a
 /// copy of each large message.
-void SmtpSession::writePiece(const QByteArray& piece) {
+void SmtpSession::writePiece(QByteArrayView piece, QByteArrayView end) {
     QSslSocket* const socket = m_socket;  // a failure clears m_socket
     const bool atOnce = !socket->isEncrypted() && socket->bytesToWrite() == 0;
-    const qsizetype taken = atOnce ? sendAtOnce(int(socket->socketDescriptor()), piece) : 0;
-    const qsizetype left = piece.size() - taken;
-    if (left > 0) socket->write(piece.constData() + taken, left);
+    const qsizetype taken = atOnce ? sendAtOnce(int(socket->socketDescriptor()), piece, end) : 0;
+    const bool anyLeft = taken < piece.size() + end.size();
+    if (anyLeft) {
+        // In one write: with TLS each becomes a record of its own
+        QByteArray left = piece.toByteArray() + end.toByteArray();
+        left.remove(0, taken);
+        socket->write(left);
+    }
     noteTaken();
-    if (left > 0) socket->flush();
+    if (anyLeft) socket->flush();
 }
 
 bool SmtpSession::allTaken() const {

@@ -7,8 +7,10 @@
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <sys/uio.h>
 
 #include <algorithm>
+#include <array>
 
 namespace mail {
 
@@ -24,9 +26,13 @@ int msSinceAcknowledgement(int descriptor) {
     return int(info.tcpi_last_ack_recv);
 }
 
-qsizetype sendAtOnce(int descriptor, QByteArrayView octets) {
-    const ssize_t taken =
-        ::send(descriptor, octets.data(), size_t(octets.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
+qsizetype sendAtOnce(int descriptor, QByteArrayView octets, QByteArrayView end) {
+    std::array<iovec, 2> pieces{{{const_cast<char*>(octets.data()), size_t(octets.size())},
+                                 {const_cast<char*>(end.data()), size_t(end.size())}}};
+    msghdr message{};
+    message.msg_iov = pieces.data();
+    message.msg_iovlen = pieces.size();
+    const ssize_t taken = ::sendmsg(descriptor, &message, MSG_DONTWAIT | MSG_NOSIGNAL);
     return std::max<ssize_t>(taken, 0);
 }
 

@@ -13,8 +13,9 @@ int unacknowledgedOctets(int descriptor);
 /// Milliseconds since the other side last acknowledged something.
 int msSinceAcknowledgement(int descriptor);
 
-/// Writes octets without blocking; returns how many the system took, 0 where it takes none now or ever.
-qsizetype sendAtOnce(int descriptor, QByteArrayView octets);
+/// Writes octets, and those of `end` after them, without blocking; returns how many the system took, 0 where
+/// it takes none now or ever.
+qsizetype sendAtOnce(int descriptor, QByteArrayView octets, QByteArrayView end);
 
 /// Waits until there is something to read, an end or an error included. False: nothing came within `ms`.
 bool waitForInput(int descriptor, int ms);
