@@ -78,9 +78,47 @@ void adaptHtml(Body& body, const HtmlReferences& references, const LocalImages& 
     }
 }
 
+/// What the headers say of the sender, made again where he is another one.
+class SenderHeaders {
+  public:
+    Status follow(const QString& name, const QString& address) {
+        if (address != m_address || name != m_name || m_from.isEmpty()) {
+            m_from.clear();
+            const auto read = parseAddrSpec(address);
+            if (!read.ok()) return read.status();
+            m_name = name;
+            m_address = address;
+            m_mailbox = read.value();
+            m_from = foldedHeader("From", namedAddress(name, m_mailbox.address()));
+            const QByteArray id = mail::listId(m_mailbox);
+            m_listId = id.isEmpty() ? id : foldedHeader("List-Id", id);
+            m_unsubscribe.clear();
+        }
+        return {};
+    }
+    const Mailbox& mailbox() const { return m_mailbox; }
+    const QByteArray& from() const { return m_from; }
+    const QByteArray& listId() const { return m_listId; }  ///< may be empty
+    const QByteArray& unsubscribe(const QString& link, bool oneClick) {
+        if (m_unsubscribe.isEmpty() || link != m_link || oneClick != m_oneClick) {
+            m_link = link;
+            m_oneClick = oneClick;
+            m_unsubscribe = unsubscribeHeaders(link, oneClick, m_mailbox);
+        }
+        return m_unsubscribe;
+    }
+
+  private:
+    QString m_name, m_address, m_link;
+    bool m_oneClick = false;
+    Mailbox m_mailbox;
+    QByteArray m_from, m_listId, m_unsubscribe;
+};
+
 }  // namespace
 
 struct Composer::State {
+    SenderHeaders sender;
     Attachments attachments;
     LocalImages images;
     UniqueWords words;
@@ -102,8 +140,9 @@ Composer::Composer() : m_state(std::make_unique<State>()) {}
 Composer::~Composer() = default;
 
 Result<ComposedMessage> Composer::compose(const MessageData& message) {
-    const auto from = parseAddrSpec(message.FromAddress);
-    if (!from.ok()) return from.status();
+    SenderHeaders& sender = m_state->sender;
+    const Status senderRead = sender.follow(message.FromName, message.FromAddress);
+    if (!senderRead.ok()) return senderRead;
     const auto to = parseAddrSpec(message.ToAddress);
     if (!to.ok()) return to.status();
     const Status attached = m_state->attachments.follow(message.Attachments.items(), message.FilesToCarry);
@@ -124,21 +163,21 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
     const QByteArray word = m_state->words.next(now);
 
     ComposedMessage composed;
-    composed.from = from.value();
+    composed.from = sender.mailbox();
     composed.to = to.value();
     composed.needsSmtputf8 = composed.from.needsSmtputf8 || composed.to.needsSmtputf8;
     composed.messageId = '<' + word + '@' + composed.from.domain + '>';
     QByteArray& out = composed.text.end();
     out.reserve(headerRoom + (body.text.size() + body.html.size()) * mostEncoded);
-    out += foldedHeader("From", namedAddress(message.FromName, composed.from.address()));
+    out += sender.from();
     out += foldedHeader("To", namedAddress(message.ToName, composed.to.address()));
     out += foldedHeader("Subject", unstructuredText(message.Subject));
     out += foldedHeader("Date", m_state->date.text(now));
     out += foldedHeader("Message-ID", composed.messageId);
     const bool oneClick = m_state->mayUnsubscribeByOneClick(message.TemplateHtml) &&
                           m_state->signer.signs(message.DkimFolder, composed.from.domain);
-    out += unsubscribeHeaders(message.UnsubscribeLink, oneClick, from.value());
-    if (const QByteArray id = listId(from.value()); !id.isEmpty()) out += foldedHeader("List-Id", id);
+    out += sender.unsubscribe(message.UnsubscribeLink, oneClick);
+    out += sender.listId();
     appendPriority(out, message.Priority);
     out += "MIME-Version: 1.0\r\n";
     appendBody(composed.text, body, word);

@@ -35,6 +35,38 @@ TEST(ComposeHeaders, PlainValuesStandAsTheyAre) {
     EXPECT_EQ(header(message, "Subject"), "Le novita di maggio");
 }
 
+TEST(ComposeHeaders, EachMessageHasItsOwnSenderAndLink) {
+    mail::Composer composer;
+    const auto composed = [&](const mail::MessageData& message) {
+        const auto result = composer.compose(message);
+        QByteArray text;
+        if (result.ok())
+            for (const QByteArrayView piece : result.value().text.pieces())
+                text += piece.toByteArray();
+        return text;
+    };
+    auto message = plainMessage();
+    composed(message);
+    message.FromName = "Vivaio Verde";
+    EXPECT_EQ(header(composed(message), "From"), "Vivaio Verde <info@orto.example>");
+    message.FromAddress = "senza chiocciola";
+    EXPECT_EQ(composed(message), "");
+    message.FromAddress = "posta@vivaio.example";
+    QByteArray text = composed(message);
+    EXPECT_EQ(header(text, "From"), "Vivaio Verde <posta@vivaio.example>");
+    EXPECT_EQ(header(text, "List-Id"), "<posta.vivaio.example>");
+    EXPECT_EQ(header(text, "List-Unsubscribe"), "<mailto:posta@vivaio.example?subject=unsubscribe>");
+    message.UnsubscribeLink = "https://vivaio.example/via";
+    EXPECT_EQ(header(composed(message), "List-Unsubscribe"), "<https://vivaio.example/via>");
+    message.UnsubscribeLink = "https://vivaio.example/basta";
+    EXPECT_EQ(header(composed(message), "List-Unsubscribe"), "<https://vivaio.example/basta>");
+    message.UnsubscribeLink.clear();
+    message.FromAddress = "info@orto.example";
+    text = composed(message);
+    EXPECT_EQ(header(text, "List-Id"), "<info.orto.example>");
+    EXPECT_EQ(header(text, "List-Unsubscribe"), "<mailto:info@orto.example?subject=unsubscribe>");
+}
+
 TEST(ComposeHeaders, EmptyNameLeavesTheBareAddress) {
     auto message = plainMessage();
     message.FromName.clear();
