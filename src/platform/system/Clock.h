@@ -9,7 +9,7 @@ namespace sys {
 
 /// Time of day and waiting. Tests set their own functions to simulate the passing of hours.
 struct Clock {
-    std::function<QDateTime()> now;
+    std::function<QDateTime()> now;                        ///< local time, with its distance from UTC
     std::function<void(std::chrono::milliseconds)> sleep;  ///< blocks the calling thread
 };
 

@@ -10,6 +10,8 @@ TEST(Clock, StartsAsTheMachinesClock) {
     const QDateTime now = sys::clock().now();
     EXPECT_GE(now, before);
     EXPECT_LE(now, QDateTime::currentDateTime());
+    EXPECT_EQ(now.offsetFromUtc(), QDateTime::currentDateTime().offsetFromUtc());
+    EXPECT_EQ(now.toLocalTime().time(), now.time());
     sys::clock().sleep(std::chrono::milliseconds(20));
     EXPECT_GE(sys::clock().now(), now);
 }
