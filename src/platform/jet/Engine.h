@@ -47,6 +47,7 @@ struct TableState {
     std::map<uint16_t, LongValuePages> longValues;  ///< by column number, as far as they were needed
     std::optional<int32_t> greatestNumber;  ///< in use when `generation` was first seen; see AutoNumber.h
     std::set<size_t> provedIndexes;         ///< their entries were compared with their rows
+    std::map<size_t, uint32_t> lastLeaves;  ///< of indexes whose last new entry was their greatest
     PagePtr borrowed;                       ///< page of the row that row() returned
 };
 

@@ -149,6 +149,51 @@ void IndexPage::store(Page& page, uint32_t owner) const {
     }
 }
 
+namespace {
+
+// Where an entry's end is marked at or before that place; 0 where none is.
+size_t markBefore(const uint8_t* marks, size_t from) {
+    for (size_t byte = from / 8;; --byte) {
+        const unsigned wanted = byte == from / 8 ? (2u << (from % 8)) - 1 : 0xFFu;
+        if (const unsigned found = marks[byte] & wanted; found != 0)
+            return 8 * byte + static_cast<size_t>(std::bit_width(found)) - 1;
+        if (byte == 0) return 0;
+    }
+}
+
+size_t firstMark(const uint8_t* marks, size_t last) {
+    size_t byte = 0;
+    while (marks[byte] == 0 && 8 * byte < last)
+        ++byte;
+    return 8 * byte + static_cast<size_t>(std::countr_zero(unsigned{marks[byte]}));
+}
+
+}  // namespace
+
+bool appendEntry(Page& leaf, std::span<const uint8_t> entry) {
+    uint8_t* const p = leaf.data();
+    uint8_t* const entries = p + index::entries;
+    const size_t shared = load16(p + index::prefix);
+    const size_t end = index::room - std::min<size_t>(load16(p + index::freeBytes), index::room);
+    if (end == 0 || entry.size() <= shared || end + entry.size() - shared > index::room) return false;
+    const size_t start = markBefore(p + index::mask, end - 1);
+    const size_t firstEnd = firstMark(p + index::mask, end);
+    if (firstEnd > end || shared > firstEnd) return false;
+    const std::span<const uint8_t> first(entries, firstEnd);
+    const auto own = entry.subspan(shared);
+    if (!std::equal(entry.begin(), entry.end() - static_cast<ptrdiff_t>(own.size()), first.begin()))
+        return false;
+    // The longest prefix, where there is one, is what the first entry shares with the last.
+    if (shared > 0 && shared < firstEnd && first[shared] == own.front()) return false;
+    const auto last = std::span<const uint8_t>(entries, end).subspan(start == 0 ? shared : start);
+    if (compareEntries(last, own) >= 0) return false;
+    std::copy(own.begin(), own.end(), entries + end);
+    const size_t now = end + own.size();
+    p[index::mask + now / 8] |= static_cast<uint8_t>(1u << (now % 8));
+    store16(p + index::freeBytes, static_cast<uint32_t>(index::room - now));
+    return true;
+}
+
 int compareEntries(std::span<const uint8_t> a, std::span<const uint8_t> b) {
     const size_t most = std::min(a.size(), b.size());
     const int order = most == 0 ? 0 : std::memcmp(a.data(), b.data(), most);

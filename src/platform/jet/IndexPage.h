@@ -52,6 +52,11 @@ class IndexPage {
     std::vector<uint32_t> m_ends;
 };
 
+/// Appends an entry to a leaf as store() would write it, without reading the others. False, and nothing done,
+/// where the leaf is empty or full, the entry is not greater than the last one, or the prefix would change.
+/// The page was written by store().
+bool appendEntry(Page& leaf, std::span<const uint8_t> entry);
+
 /// Bytewise order of keys and row ids.
 int compareEntries(std::span<const uint8_t> a, std::span<const uint8_t> b);
 /// A node's entry.

@@ -180,7 +180,7 @@ std::vector<IndexTree::Entry> IndexTree::someEntries(size_t most) const {
     return entries;
 }
 
-void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
+std::optional<uint32_t> IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     const Bytes entry = entryOf(key, row);
     Path path = descendForChange(entry);
     IndexPage leaf = std::move(path.back().page);
@@ -191,7 +191,15 @@ void IndexTree::insert(std::span<const uint8_t> key, RowId row) {
     assert(at == 0 || compareEntries(leaf.keyAndRow(at - 1), entry) < 0);  // T1
     assert(at + 1 == leaf.count() || compareEntries(entry, leaf.keyAndRow(at + 1)) < 0);
     const bool atEnd = leaf.next == 0 && at + 1 == leaf.count();
+    const bool fits = leaf.fits();
     place(path, path.size() - 1, std::move(leaf), atEnd);
+    return atEnd && fits ? std::optional(path.back().number) : std::nullopt;
+}
+
+bool IndexTree::append(uint32_t leaf, std::span<const uint8_t> key, RowId row) {
+    const Bytes entry = entryOf(key, row);
+    assert(load(leaf).leaf && load(leaf).next == 0);
+    return appendEntry(m_file.change(leaf), entry);
 }
 
 // Splits a page that is too full into pages that are not. At the right end of the index all but the last

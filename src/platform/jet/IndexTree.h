@@ -34,7 +34,12 @@ class IndexTree {
     /// Least and greatest key of the index.
     std::optional<Bytes> firstKey() const;
     std::optional<Bytes> lastKey() const;
-    void insert(std::span<const uint8_t> key, RowId row);
+    /// The number of the index's last leaf where the entry has become its last one and no page was divided.
+    std::optional<uint32_t> insert(std::span<const uint8_t> key, RowId row);
+    /// The same for an entry after all others, on that leaf, without reading the pages above it. False, and
+    /// nothing done, where it does not belong there or the leaf has no room for it. `leaf` comes from
+    /// insert(), and nothing else has changed the index since.
+    bool append(uint32_t leaf, std::span<const uint8_t> key, RowId row);
     /// Removes an entry; false when it is not there.
     bool erase(std::span<const uint8_t> key, RowId row);
     /// Key of the row's entry, found by a walk over the whole index.

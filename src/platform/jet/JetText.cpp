@@ -10,7 +10,8 @@ namespace jet {
 
 namespace {
 
-// Longer text is never compressed.
+// Neither shorter nor longer text is ever compressed.
+constexpr size_t shortestCompressed = 3;
 constexpr size_t longestCompressed = 1024;
 constexpr char32_t replacement = 0xFFFD;
 
@@ -45,6 +46,10 @@ size_t asciiRun(std::span<const uint8_t> bytes) {
     while (length < bytes.size() && static_cast<uint8_t>(bytes[length] - 1) < 0x7F)
         ++length;
     return length;
+}
+
+std::span<const uint8_t> bytesOf(std::string_view text) {
+    return {reinterpret_cast<const uint8_t*>(text.data()), text.size()};
 }
 
 void appendCompressed(std::span<const uint8_t> bytes, std::string& out) {
@@ -109,6 +114,14 @@ std::u16string toUtf16(std::string_view utf8) {
     std::u16string out;
     out.reserve(utf8.size());
     for (size_t i = 0; i < utf8.size();) {
+        if (const size_t ascii = asciiRun(bytesOf(utf8.substr(i))); ascii > 0) {
+            const size_t at = out.size();
+            out.resize(at + ascii);
+            std::copy_n(utf8.begin() + static_cast<ptrdiff_t>(i), ascii,
+                        out.begin() + static_cast<ptrdiff_t>(at));
+            i += ascii;
+            continue;
+        }
         const uint8_t lead = static_cast<uint8_t>(utf8[i++]);
         const int more = lead < 0x80                   ? 0
                          : lead >= 0xC2 && lead < 0xE0 ? 1
@@ -140,6 +153,17 @@ std::u16string toUtf16(std::string_view utf8) {
     return out;
 }
 
+std::optional<std::vector<uint8_t>> compressAscii(std::string_view text) {
+    if (text.size() < shortestCompressed || text.size() > longestCompressed ||
+        asciiRun(bytesOf(text)) != text.size())
+        return std::nullopt;
+    std::vector<uint8_t> bytes(text.size() + 2);
+    bytes[0] = 0xFF;
+    bytes[1] = 0xFE;
+    std::copy(text.begin(), text.end(), bytes.begin() + 2);
+    return bytes;
+}
+
 std::string toUtf8(std::u16string_view text) {
     std::string out;
     appendUnits(
@@ -150,7 +174,7 @@ std::string toUtf8(std::u16string_view text) {
 std::optional<std::vector<uint8_t>> encodeText(std::u16string_view text, bool mayCompress) {
     std::vector<uint8_t> bytes;
     const bool single = std::all_of(text.begin(), text.end(), [](char16_t c) { return c != 0 && c < 0x100; });
-    if (mayCompress && single && text.size() > 2 && text.size() <= longestCompressed) {
+    if (mayCompress && single && text.size() >= shortestCompressed && text.size() <= longestCompressed) {
         bytes.reserve(text.size() + 2);
         bytes = {0xFF, 0xFE};
         for (char16_t c : text)

@@ -34,5 +34,7 @@ std::string toUtf8(std::u16string_view text);
 /// Nothing for the rare text that no form can store: U+FEFF at the start together with a unit whose low byte
 /// is zero.
 std::optional<std::vector<uint8_t>> encodeText(std::u16string_view text, bool mayCompress);
+/// The compressed form of text of the characters 01 to 7F alone; nothing where that is not the form to store.
+std::optional<std::vector<uint8_t>> compressAscii(std::string_view text);
 
 }  // namespace jet

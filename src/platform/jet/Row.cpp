@@ -178,7 +178,7 @@ bool Row::set(const Column& column, const Value& value) {
         setMask(column, yes);
         return yes == wasNull;
     }
-    const std::optional<Bytes> encoded = encodeValue(column, value);
+    std::optional<Bytes> encoded = encodeValue(column, value);
     setMask(column, encoded.has_value());
     if (column.fixed) {
         if (!encoded) return !wasNull;  // the bytes in the fixed area have no meaning now
@@ -188,9 +188,10 @@ bool Row::set(const Column& column, const Value& value) {
         return !same;
     }
     Bytes& place = m_variable[column.variableIndex];
-    const Bytes now = encoded.value_or(Bytes());
-    const bool same = wasNull == !encoded && place == now;
-    place = now;
+    const bool hasValue = encoded.has_value();
+    Bytes now = std::move(encoded).value_or(Bytes());
+    const bool same = wasNull != hasValue && place == now;
+    place = std::move(now);
     return !same;
 }
 
@@ -200,23 +201,29 @@ void Row::setStored(const Column& column, std::optional<Bytes> bytes) {
 }
 
 std::vector<uint8_t> Row::bytes() const {
-    std::vector<uint8_t> out(2);
+    size_t variableEnd = 2 + m_fixed.size();
+    for (const Bytes& value : m_variable)
+        variableEnd += value.size();
+    const bool hasVariable = m_definition->variableColumns > 0;
+    const size_t maskAt = hasVariable ? variableEnd + 2 * (m_variable.size() + 2) : 2 + m_fixed.size();
+    std::vector<uint8_t> out(maskAt + m_mask.size());
     store16(out.data(), m_definition->maxColumns);
-    out.insert(out.end(), m_fixed.begin(), m_fixed.end());
-    if (m_definition->variableColumns > 0) {
-        std::vector<size_t> offsets;
-        for (const Bytes& value : m_variable) {
-            offsets.push_back(out.size());
-            out.insert(out.end(), value.begin(), value.end());
+    const auto put = [&out](size_t at, const Bytes& bytes) {
+        std::copy(bytes.begin(), bytes.end(), out.begin() + static_cast<ptrdiff_t>(at));
+    };
+    put(2, m_fixed);
+    if (hasVariable) {
+        size_t at = variableEnd;
+        size_t offset = variableEnd;
+        store16(&out[at], static_cast<uint32_t>(offset));
+        for (size_t k = m_variable.size(); k-- > 0;) {
+            offset -= m_variable[k].size();
+            put(offset, m_variable[k]);
+            store16(&out[at += 2], static_cast<uint32_t>(offset));
         }
-        offsets.push_back(out.size());
-        size_t at = out.size();
-        out.resize(out.size() + 2 * offsets.size() + 2);
-        for (size_t k = offsets.size(); k-- > 0; at += 2)
-            store16(&out[at], static_cast<uint32_t>(offsets[k]));
-        store16(&out[at], static_cast<uint32_t>(m_variable.size()));
+        store16(&out[at + 2], static_cast<uint32_t>(m_variable.size()));
     }
-    out.insert(out.end(), m_mask.begin(), m_mask.end());
+    put(maskAt, m_mask);
     if (out.size() > data::maxRow)
         fail(ErrorCode::RecordTooLarge, "Il record è troppo grande per la tabella \"", m_definition->name,
              "\" (", out.size(), " byte; al massimo ", data::maxRow, ").");

@@ -40,6 +40,7 @@ void TableState::ensureCurrent() {
     longValues.clear();
     greatestNumber.reset();
     provedIndexes.clear();
+    lastLeaves.clear();
 }
 
 const TableDefinition& Table::definition() const {

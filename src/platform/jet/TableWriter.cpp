@@ -29,7 +29,12 @@ void insertEntry(TableState& state, size_t position, const Row& row, const Bytes
     assert(key.size() <= longestKey);                                              // K5
     assert(state.provedIndexes.contains(position));                                // K2, K3
     assert(possibleKeys(table, index, fieldsOf(row)) == std::vector<Bytes>{key});  // K1
-    IndexTree(state.file, table, index).insert(key, id);
+    IndexTree tree(state.file, table, index);
+    const auto lastLeaf = state.lastLeaves.find(position);
+    if (lastLeaf == state.lastLeaves.end() || !tree.append(lastLeaf->second, key, id)) {
+        state.lastLeaves.erase(position);
+        if (const auto leaf = tree.insert(key, id)) state.lastLeaves[position] = *leaf;
+    }
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, 1);
 }
 
@@ -39,6 +44,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
     const Index& index = table.indexes[position];
     if (!isIndexed(table, index, fieldsOf(row))) return;
     assert(state.provedIndexes.contains(position));  // K2
+    state.lastLeaves.erase(position);
     IndexTree tree(state.file, table, index);
     const std::vector<Bytes> keys = possibleKeys(table, index, fieldsOf(row));
     bool erased =
@@ -143,7 +149,7 @@ Result<RowId> Table::insert(std::span<const Value> values) {
                 numbered && index.parts.size() == 1 && index.parts.front().column == counter->number;
             if (!fresh) requireFits(*m_state, index, row, keys.back());
         }
-        (void)row.bytes();  // too long a record is refused before anything is written
+        const Bytes bytes = row.bytes();  // too long a record is refused before anything is written
 
         RowId id;
         apply(*m_state, [&] {
@@ -151,7 +157,7 @@ Result<RowId> Table::insert(std::span<const Value> values) {
             if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
                 m_state->setAutoNumber(*row.longValue(*counter));
             assert(!counter || *row.longValue(*counter) <= m_state->lastAutoNumber());  // D2
-            id = m_state->rows.insert(row.bytes());
+            id = m_state->rows.insert(longs.empty() ? bytes : row.bytes());
             for (size_t i = 0; i < keys.size(); ++i)
                 insertEntry(*m_state, i, row, keys[i], id);
             m_state->addToRowCount(1);

@@ -57,12 +57,13 @@ Bytes singleBytes(const Column& column, double number) {
 }
 
 Bytes textBytes(const Column& column, const std::string& utf8) {
+    const size_t most = column.type == Type::Memo ? longestMemo : column.length / 2u;
+    if (column.compressed && utf8.size() <= most)
+        if (std::optional<Bytes> bytes = compressAscii(utf8)) return std::move(*bytes);
     const std::u16string text = toUtf16(utf8);
-    const bool memo = column.type == Type::Memo;
-    if (text.size() > (memo ? longestMemo : column.length / 2u))
+    if (text.size() > most)
         fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name,
-             "\" è troppo piccolo per il testo (al massimo ", memo ? longestMemo : column.length / 2u,
-             " caratteri).");
+             "\" è troppo piccolo per il testo (al massimo ", most, " caratteri).");
     if (std::optional<Bytes> bytes = encodeText(text, column.compressed)) return std::move(*bytes);
     fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
          "\" contiene caratteri che il database non può conservare.");
@@ -111,8 +112,9 @@ bool isWritable(const Column& column, std::string& why) {
             return false;
         case Type::Text:
         case Type::Memo:
+            if (!column.fixed) return true;
             why = "è un testo di lunghezza fissa";
-            return !column.fixed;
+            return false;
         case Type::YesNo:
         case Type::Byte:
         case Type::Integer:

@@ -46,8 +46,8 @@ Proof prove(const TableState& state, const Index& index, const IndexTree::Entry&
 // the keys that this engine would make for their rows.
 std::string whyNotKept(TableState& state, size_t position) {
     const Index& index = state.definition.indexes[position];
-    if (std::string why = whyNotKept(state.definition, index); !why.empty()) return why;
     if (state.provedIndexes.contains(position)) return {};
+    if (std::string why = whyNotKept(state.definition, index); !why.empty()) return why;
     bool shown = false;
     for (const IndexTree::Entry& entry :
          IndexTree(state.file, state.definition, index).someEntries(entriesProved)) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bytes of a Jet file: header, texts, keys, values, and the empty database.
+#include <algorithm>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QProcess>
+#include <random>
 
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Failure.h"
@@ -153,6 +155,33 @@ TEST(JetText, ZeroByteSwitchesToTwoByteModeAndBack) {
 TEST(JetText, ByteOrderMarkAtTheStartIsKept) {
     EXPECT_EQ(decoded(encoded("\uFEFFciao")), "\uFEFFciao");
     EXPECT_FALSE(encodeText(u"\xFEFF\x0100", true).has_value());
+}
+
+TEST(Text, AsciiIsCompressedAsAnyOtherText) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 20000; ++round) {
+        std::string text;
+        for (auto left = random() % 40; left > 0; --left)
+            text += static_cast<char>(random() % 50 ? 1 + random() % 0x7F : random());
+        const auto compressed = compressAscii(text);
+        const auto any = encodeText(toUtf16(text), true);
+        const bool ascii = std::ranges::all_of(text, [](char c) { return c > 0; });
+        ASSERT_EQ(compressed.has_value(), ascii && text.size() > 2) << text;
+        if (compressed) {
+            ASSERT_EQ(compressed, any) << text;
+        }
+    }
+    EXPECT_TRUE(compressAscii(std::string(1024, 'a')));
+    EXPECT_FALSE(compressAscii(std::string(1025, 'a')));
+}
+
+TEST(Text, EachCharacterKeepsItsPlaceBesideLongAscii) {
+    for (const std::string_view odd : {"\xC3\xA8", "\xE2\x98\x83", "\xF0\x9F\x98\x80"})
+        for (size_t before = 0; before < 20; ++before) {
+            const std::string text =
+                std::string(before, 'a') + std::string(odd) + '\0' + std::string(before, 'z');
+            EXPECT_EQ(toUtf8(toUtf16(text)), text);
+        }
 }
 
 TEST(JetText, InvalidUtf8BecomesTheReplacementCharacter) {
