@@ -34,13 +34,18 @@ QString destinatario::Taglia(QStringView valore, schema::Campo campo) {
 QString destinatario::IstruzioneNuovo(const QString& gruppo, const QString& spedire, const Valori& valori) {
     static const QString inizio = "INSERT INTO [tb_destinatari] (id_grp, sel, " +
                                   elencoColonne(schema::ordineIstruzioni) + ") VALUES (";
-    QString istruzione = inizio + gruppo + ", " + spedire;
+    qsizetype lunghezza = inizio.size() + gruppo.size() + spedire.size() + 4;
+    for (const schema::Campo campo : schema::ordineIstruzioni)
+        lunghezza += valori[campo].size() + 4;
+    QString istruzione;
+    istruzione.reserve(lunghezza);
+    istruzione += inizio + gruppo + ", " + spedire;
     for (const schema::Campo campo : schema::ordineIstruzioni) {
-        istruzione += ", '";
+        istruzione += QLatin1String(", '");
         istruzione += valori[campo];
-        istruzione += '\'';
+        istruzione += u'\'';
     }
-    istruzione += ") ";
+    istruzione += QLatin1String(") ");
     return istruzione;
 }
 

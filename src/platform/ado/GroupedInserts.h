@@ -10,6 +10,7 @@
 
 namespace ado {
 
+class InsertShape;
 class Session;
 
 /// How far the rows of a group got.
@@ -66,13 +67,16 @@ class GroupedInserts {
     qint64 committed() const { return m_progress.committed; }
 
   private:
+    Status insert(const QString& statement);
+
     QString m_connection;
     std::shared_ptr<Session> m_session;
     int m_groupSize = 5000;
     std::chrono::milliseconds m_groupAge{250};
     std::chrono::steady_clock::time_point m_began;  ///< of the open group
     GroupProgress m_progress;
-    bool m_givenUp = false;  ///< the last wait
+    std::unique_ptr<InsertShape> m_shape;  ///< of the last statement of the open group that SQLite has run
+    bool m_givenUp = false;                ///< the last wait
 };
 
 }  // namespace ado

@@ -301,14 +301,10 @@ jet::Value taken(sqlite3_value* value) {
 }
 
 Status insertRow(JetTable& rows, sqlite3_value** fields) {
-    std::vector<jet::Value> values;
-    values.reserve(rows.definition().columns.size());
-    for (const jet::Column& column : rows.definition().columns) {
-        Result<jet::Value> value = fitToColumn(taken(fields[values.size()]), column);
-        if (!value.ok()) return value.status();
-        values.push_back(std::move(value).value());
-    }
-    return rows.insert(values).status();
+    std::vector<jet::Value> values(rows.definition().columns.size());
+    for (size_t i = 0; i < values.size(); ++i)
+        values[i] = taken(fields[i]);
+    return rows.insertFitted(std::move(values));
 }
 
 Status updateRow(JetTable& rows, jet::RowId id, sqlite3_value** fields) {

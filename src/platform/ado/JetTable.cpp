@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/ado/FieldValue.h"
+
 namespace ado {
 
 namespace {
@@ -93,6 +95,15 @@ void JetTable::countMove(Affected affected) {
 template <class Mend>
 void JetTable::mend(Mend mend) {
     std::erase_if(m_orders, [&](const auto& order) { return !mend(*order).ok(); });
+}
+
+Status JetTable::insertFitted(std::vector<jet::Value> values) {
+    for (size_t i = 0; i < values.size(); ++i) {
+        Result<jet::Value> fitted = fitToColumn(std::move(values[i]), m_definition.columns[i]);
+        if (!fitted.ok()) return fitted.status();
+        values[i] = std::move(fitted).value();
+    }
+    return insert(values).status();
 }
 
 Result<jet::RowId> JetTable::insert(std::span<const jet::Value> values) {

@@ -44,6 +44,8 @@ class JetTable {
     Status writable();
     Status updatable(std::span<const size_t> columns);
     Result<int32_t> takeAutoNumber();
+    /// A value for each column, of any type: each is put into the form in which its column stores it.
+    Status insertFitted(std::vector<jet::Value> values);
     Result<jet::RowId> insert(std::span<const jet::Value> values);
     Status update(jet::RowId id, std::span<const std::pair<size_t, jet::Value>> changes);
     /// As jet::Table::setYesNo().

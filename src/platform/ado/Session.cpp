@@ -106,16 +106,35 @@ Result<std::shared_ptr<Session>> Session::beginGroup(const QString& connectionTe
 }
 
 Status Session::insertInGroup(const StatementText& statement) {
-    bool refused = false;
-    const auto insert = [&]() -> Status {
-        if (Status status = finishReaders(); !status.ok()) return status;
-        if (const auto target = table(statement.table); !target.ok()) return target.status();
+    return insertInGroup(statement.table, [&](JetTable&, bool& refused) {
         const Result<Prepared> prepared = prepare(statement.sql, statement.values);
         if (!prepared.ok()) return prepared.status();
         refused = sqlite3_step(prepared.value().get()) != SQLITE_DONE;
         return refused ? takeFailure() : Status();
-    };
-    Status status = insert();
+    });
+}
+
+Status Session::insertInGroup(const InsertShape& shape, std::vector<jet::Value> row) {
+    return insertInGroup(shape.table(), [&](JetTable& target, bool& refused) {
+        Status status = target.insertFitted(std::move(row));
+        refused = !status.ok();
+        if (!refused) countChange();
+        return status;
+    });
+}
+
+std::optional<InsertShape> Session::shapeOf(const StatementText& statement) {
+    const Result<JetTable*> target = table(statement.table);
+    return target.ok() ? InsertShape::of(statement, target.value()->definition()) : std::nullopt;
+}
+
+Status Session::insertInGroup(const QString& name, const std::function<Status(JetTable&, bool&)>& insert) {
+    bool refused = false;
+    Status status = finishReaders();
+    if (status.ok()) {
+        const Result<JetTable*> target = table(name);
+        status = target.ok() ? insert(*target.value(), refused) : target.status();
+    }
     if (status.ok()) ++m_group->taken;
     // An empty group would keep the lock for nothing.
     if (refused || m_group->taken == 0) commitGroup();

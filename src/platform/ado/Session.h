@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/ado/GroupedInserts.h"
+#include "platform/ado/InsertShape.h"
 #include "platform/ado/JetTable.h"
 #include "platform/ado/StatementText.h"
 #include "platform/jet/Database.h"
@@ -71,6 +72,10 @@ class Session {
     /// Runs an INSERT of one row inside the open group. A row that is refused ends the group with a commit of
     /// those before.
     Status insertInGroup(const StatementText& statement);
+    /// The same for a row of that shape, which a statement of this group has had before.
+    Status insertInGroup(const InsertShape& shape, std::vector<jet::Value> row);
+    /// The shape of a statement that was run; nothing where it has none.
+    std::optional<InsertShape> shapeOf(const StatementText& statement);
     /// Ends the open group and reports to its progress how that went.
     void commitGroup();
 
@@ -103,6 +108,7 @@ class Session {
     static Result<std::shared_ptr<Session>> openForWriting(const QString& connectionText);
     Status start();
     Status finishReaders();
+    Status insertInGroup(const QString& table, const std::function<Status(JetTable&, bool& refused)>& insert);
     Status begin();
     Status end(Status status);
     Status declare(JetTable& table);

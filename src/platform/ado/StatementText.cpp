@@ -11,7 +11,6 @@ namespace ado {
 
 namespace {
 
-constexpr qsizetype longestStatement = 64000;
 constexpr size_t mostParameters = 500;
 
 using Tokens = std::vector<SqlToken>;
@@ -42,12 +41,12 @@ class Reader {
         return true;
     }
     /// Names in parentheses, or nothing.
-    bool skipColumns() {
+    bool takeColumns(std::vector<std::string>& names) {
         if (!take("(")) return true;
         do {
-            if (atEnd() || (m_tokens[m_next].kind != Kind::Name && m_tokens[m_next].kind != Kind::Word))
-                return false;
-            ++m_next;
+            QString name;
+            if (!takeName(name)) return false;
+            names.push_back(name.toStdString());
         } while (take(","));
         return take(")");
     }
@@ -142,8 +141,12 @@ bool readSelect(Reader& reader, QString& table, std::optional<StatementText::Lis
 Status readInsert(Reader& reader, StatementText& statement) {
     statement.verb = StatementText::Verb::Insert;
     const auto refused = [] { return refusedStatement(QStringLiteral("forma non prevista")); };
-    if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.skipColumns()) return refused();
+    StatementText::Row row;
+    if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.takeColumns(row.columns))
+        return refused();
     if (reader.take("VALUES")) {
+        if (!reader.atEnd()) row.start = statement.sql.first(reader.offset());
+        if (!row.columns.empty()) statement.row = std::move(row);
         if (!reader.skipRow())
             return wrongStatement(QStringLiteral("i valori da inserire non sono leggibili"));
         return reader.atEnd() ? Status() : refused();

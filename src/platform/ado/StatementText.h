@@ -12,6 +12,8 @@
 
 namespace ado {
 
+inline constexpr qsizetype longestStatement = 64000;  ///< in UTF-16 units
+
 /// One statement as it was given, with what has to be known before SQLite compiles it.
 ///
 /// Only the shapes that work on one table are accepted: a single SELECT, INSERT … VALUES, INSERT … SELECT,
@@ -33,6 +35,13 @@ struct StatementText {
         std::vector<std::string> columns;  ///< names in UTF-8; none: all of them, by an asterisk
     };
     std::optional<List> list;
+
+    /// INSERT … VALUES with the names of columns.
+    struct Row {
+        QByteArray start;                  ///< the text as it was given, up to the parenthesis of the values
+        std::vector<std::string> columns;  ///< names in UTF-8
+    };
+    std::optional<Row> row;
 
     /// `UPDATE table SET column = True` or False, on all rows.
     struct Everywhere {
