@@ -7,6 +7,7 @@
 
 #include "modules/core/Errori.h"
 #include "modules/store/Destinatario.h"
+#include "platform/text/SameText.h"
 
 const std::array<QString, numeroSegnaposto> colonneSegnaposto = [] {
     std::array<QString, numeroSegnaposto> colonne;
@@ -89,26 +90,25 @@ QString Personalizza(QString modello, const ValoriSegnaposto& valori) {
 }
 
 QString ModelloDiviso::Personalizza(const QString& modello, const ValoriSegnaposto& valori) {
-    if (modello != m_modello) {
+    if (!text::sameText(modello, m_modello)) {
         m_modello = modello;
         Dividi();
     }
     if (!BastaUnGiro(valori)) return ::Personalizza(modello, valori);
+    std::array<QStringView, numeroSegnaposto + 1> per;  // the last one: none
+    for (std::size_t i = 0; i < numeroSegnaposto; ++i)
+        if (m_presenti[i]) per[i] = *valori[i];
     qsizetype lunghezza = 0;
     for (const Pezzo& pezzo : m_pezzi)
-        lunghezza += pezzo.lunghezza + pezzo.Valore(valori).size();
+        lunghezza += pezzo.lunghezza + per[pezzo.segnaposto].size();
     QString testo(lunghezza, Qt::Uninitialized);
     QChar* a = testo.data();
     for (const Pezzo& pezzo : m_pezzi) {
-        const QStringView valore = pezzo.Valore(valori);
+        const QStringView valore = per[pezzo.segnaposto];
         a = std::copy_n(m_modello.constData() + pezzo.da, pezzo.lunghezza, a);
-        a = std::copy(valore.begin(), valore.end(), a);
+        a = std::copy_n(valore.begin(), valore.size(), a);
     }
     return testo;
-}
-
-QStringView ModelloDiviso::Pezzo::Valore(const ValoriSegnaposto& valori) const {
-    return segnaposto < numeroSegnaposto ? QStringView(*valori[segnaposto]) : QStringView();
 }
 
 void ModelloDiviso::Dividi() {

@@ -51,7 +51,6 @@ class ModelloDiviso {
     struct Pezzo {
         qsizetype da = 0, lunghezza = 0;  ///< of the text before a placeholder
         std::size_t segnaposto = 0;       ///< the placeholder's number; numeroSegnaposto at the end
-        QStringView Valore(const ValoriSegnaposto& valori) const;
     };
     void Dividi();
     bool BastaUnGiro(const ValoriSegnaposto& valori) const;

@@ -16,6 +16,7 @@
 #include "platform/mail/Unsubscribe.h"
 #include "platform/mail/WebAddress.h"
 #include "platform/system/Clock.h"
+#include "platform/text/SameText.h"
 
 namespace mail {
 namespace {
@@ -128,7 +129,7 @@ struct Composer::State {
     bool oneClick = false;  ///< of knownTemplate
 
     bool mayUnsubscribeByOneClick(const QString& templateHtml) {
-        if (templateHtml != knownTemplate) {
+        if (!text::sameText(templateHtml, knownTemplate)) {
             knownTemplate = templateHtml;
             oneClick = markedOneClick(templateHtml);
         }

@@ -7,6 +7,7 @@
 
 #include "platform/mail/FilePart.h"
 #include "platform/mail/HtmlReferences.h"
+#include "platform/text/SameText.h"
 
 namespace mail {
 namespace {
@@ -56,7 +57,7 @@ QStringList localImagePaths(const QString& templateHtml) {
 }
 
 bool LocalImages::isCurrent(const QString& templateHtml, const CarriedFiles& allowed) const {
-    return templateHtml == m_template && allowed == m_allowed &&
+    return text::sameText(templateHtml, m_template) && allowed == m_allowed &&
            std::all_of(m_seen.begin(), m_seen.end(),
                        [](const Seen& seen) { return FileStamp::of(seen.path) == seen.stamp; });
 }
