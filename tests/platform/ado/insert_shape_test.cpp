@@ -82,8 +82,8 @@ TEST_F(InsertShapeTest, RowsOfOneShapeAreThoseThatSqliteMakes) {
         add(QString::fromUtf8(values));
     add("1, True, '" + QString(300, 'x') + "', 'y')");
     add("1, True, '" + QString(70000, 'x') + "', 'y')");
-    add("1, True, 'a" + QChar(0) + "b', 'y')");
-    add("1, True, 'mezza " + QChar(0xD83D) + "', 'y')");
+    add(QString("1, True, 'a") + QChar(0) + "b', 'y')");
+    add(QString("1, True, 'mezza ") + QChar(0xD83D) + "', 'y')");
     add("1, True, 'ultimo', 'z')");
     expectTheSame(statements);
 }
