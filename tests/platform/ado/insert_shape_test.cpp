@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows that go to the table without SQLite, compared with the same statements run by it.
 #include "modules/store/NuovoDatabase.h"
 #include "platform/ado/GroupedInserts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An entry appended to a leaf in place, compared with the leaf that is parsed, changed and stored.
 #include <gtest/gtest.h>
 
