@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/SampleFolder.h"
 
+#include <algorithm>
 #include <QDir>
 #include <QFile>
+#include <QTest>
+#include <string>
+#include <vector>
 
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
@@ -15,6 +19,7 @@
 #include "platform/jet/Database.h"
 #include "platform/system/HomeFolder.h"
 #include "platform/system/ProgramFolder.h"
+#include "support/JetChecker.h"
 
 namespace testing_support {
 
@@ -33,6 +38,22 @@ void write(const QString& path, const QByteArray& content) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+constexpr qsizetype pageSize = 4096;
+const QByteArray damagedPage(pageSize, '\xee');
+
+/// Makes the running test fail where the file that the engine has written is not sound.
+void requireSound(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return;
+    const QByteArray whole = file.readAll();
+    for (qsizetype page = 0; page < whole.size(); page += pageSize)
+        if (whole.sliced(page, std::min(pageSize, whole.size() - page)) == damagedPage) return;
+    const std::vector<std::string> findings = checkJetFile(path.toStdString());
+    if (findings.empty()) return;
+    if (!QTest::currentTestFunction()) qFatal("the database is not sound: %s", findings.front().c_str());
+    QTest::qFail(("the database is not sound: " + findings.front()).c_str(), __FILE__, __LINE__);
 }
 
 }  // namespace
@@ -70,6 +91,7 @@ void SampleFolder::narrowGroupNames(int characters) {
 
 SampleFolder::~SampleFolder() {
     ado::closeAll();
+    requireSound(database());
     sys::setProgramFolder({});
     sys::setHomeFolder({});
 }
@@ -137,7 +159,6 @@ QString SampleFolder::writeMessage() const {
 }
 
 void SampleFolder::damagePagesWith(const QByteArray& text) const {
-    constexpr qsizetype pageSize = 4096;
     QFile file(database());
     if (!file.open(QIODevice::ReadWrite)) qFatal("no database");
     const QByteArray whole = file.readAll();
@@ -145,7 +166,7 @@ void SampleFolder::damagePagesWith(const QByteArray& text) const {
     for (qsizetype page = 0; page < whole.size(); page += pageSize) {
         if (!whole.sliced(page, pageSize).contains(text)) continue;
         file.seek(page);
-        file.write(QByteArray(pageSize, '\xee'));
+        file.write(damagedPage);
         ++damaged;
     }
     if (damaged == 0) qFatal("the text is on no page");

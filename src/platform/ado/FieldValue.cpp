@@ -106,29 +106,31 @@ std::optional<QLatin1String> latinText(std::span<const uint8_t> stored) {
 }  // namespace
 
 Value fieldValue(const jet::RowView& row, size_t column) {
-    return fieldValue(row, column, row.field(column));
+    Value value;
+    takeFieldValue(row, column, row.field(column), value);
+    return value;
 }
 
-Value fieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field) {
+void takeFieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field, Value& value) {
     const jet::Column& definition = row.definition().columns[column];
     switch (definition.type) {
         case Type::YesNo:
-            return !field.null;
+            return value.take(!field.null);
         case Type::Byte:
         case Type::Integer:
         case Type::Long:
-            if (field.bytes.size() < jet::fixedLength(definition)) return {};
-            return static_cast<long long>(jet::wholeNumber(definition, field));
+            if (field.bytes.size() < jet::fixedLength(definition)) return;
+            return value.take(int64_t{jet::wholeNumber(definition, field)});
         case Type::Text:
-            if (field.null) return {};
+            if (field.null) return;
             if (definition.ansi) break;
-            if (const auto text = latinText(field.bytes)) return Value(*text);
-            if (auto text = utf16Text(field.bytes)) return *std::move(text);
+            if (const auto text = latinText(field.bytes)) return value.take(QString(*text));
+            if (auto text = utf16Text(field.bytes)) return value.take(*std::move(text));
             break;
         default:
-            if (field.null) return {};
+            if (field.null) return;
     }
-    return Value(readable(definition, row.value(column)));
+    value = Value(readable(definition, row.value(column)));
 }
 
 Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {

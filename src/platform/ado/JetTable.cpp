@@ -61,7 +61,8 @@ Result<std::shared_ptr<const RowOrder>> JetTable::order(const OrderSpec& spec) {
     }
     auto made = std::make_shared<RowOrder>(spec);
     if (Status status = made->fill(*source.value()); !status.ok()) return status;
-    if (m_prints.empty() && made->size() >= longOrder &&
+    // What was not sorted is made anew in the time that it takes to compare the pages.
+    if (m_prints.empty() && made->isSorted() && made->size() >= longOrder &&
         !source.value()->scanChanged(m_prints, [](jet::RowId, const jet::RowView&) { return false; }).ok())
         m_prints = {};
     if (m_orders.size() == keptOrders) m_orders.erase(m_orders.begin());

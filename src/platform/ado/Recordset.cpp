@@ -251,7 +251,9 @@ Result<Value> Recordset::Data::field(size_t column) {
     if (type != jet::Type::Memo && type != jet::Type::Ole) {
         const jet::RowView view(&definition, row.bytes);
         if (fields.empty()) view.fields(fields);
-        return fieldValue(view, position, fields[position]);
+        Result<Value> value{Value()};
+        takeFieldValue(view, position, fields[position], value.value());
+        return value;
     }
     const Waiting waiting(recordsetSeconds);
     Result<jet::Value> value = rows->table()->longValue(rows->id(current), position);

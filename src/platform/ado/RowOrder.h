@@ -34,6 +34,8 @@ class RowOrder {
     /// Takes over the rows of the table that belong here.
     Status fill(jet::Table& table);
     size_t size() const;
+    /// Whether its rows come in another order than that of the walk.
+    bool isSorted() const { return !m_spec.parts.empty(); }
     /// This order without the rows of those pages.
     RowOrder without(const std::vector<bool>& pages) const;
     /// Adds the row with that key. After a failure the order is of no use any more.

@@ -51,15 +51,52 @@ Result<qint64> rounded(double number) {
 
 }  // namespace
 
-Value::Value(jet::Value value) : m_value(std::move(value)) {
-    auto* text = std::get_if<std::string>(&m_value);
-    if (!text) return;
-    m_text = QString::fromStdString(*text);
-    text->clear();
+Value::Value(jet::Value value) {
+    if (const auto* yes = std::get_if<bool>(&value)) {
+        *this = *yes;
+    } else if (const auto* whole = std::get_if<int64_t>(&value)) {
+        *this = static_cast<long long>(*whole);
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        *this = *real;
+    } else if (const auto* date = std::get_if<jet::Date>(&value)) {
+        m_type = Type::Date;
+        m_real = date->days;
+    } else if (const auto* amount = std::get_if<jet::Currency>(&value)) {
+        m_type = Type::Currency;
+        m_whole = amount->tenThousandths;
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+        *this = QString::fromStdString(*text);
+    } else if (const auto* decimal = std::get_if<jet::Decimal>(&value)) {
+        m_type = Type::Decimal;
+        m_text = QString::fromStdString(decimal->text);
+    } else if (auto* bytes = std::get_if<jet::Bytes>(&value)) {
+        m_type = Type::Binary;
+        m_bytes = std::move(*bytes);
+    }
 }
 
 jet::Value Value::raw() const {
-    return type() == Type::Text ? jet::Value(m_text.toStdString()) : m_value;
+    switch (m_type) {
+        case Type::Null:
+            break;
+        case Type::YesNo:
+            return m_whole != 0;
+        case Type::Integer:
+            return m_whole;
+        case Type::Real:
+            return m_real;
+        case Type::Date:
+            return jet::Date{m_real};
+        case Type::Currency:
+            return jet::Currency{m_whole};
+        case Type::Text:
+            return m_text.toStdString();
+        case Type::Decimal:
+            return jet::Decimal{m_text.toStdString()};
+        case Type::Binary:
+            return m_bytes;
+    }
+    return {};
 }
 
 std::optional<double> readNumber(const QString& written) {
@@ -75,28 +112,27 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
     if (type() == Type::Text) return m_text;
     if (isNull()) return nullValue;
     if (type() == Type::Binary) return mismatch;
-    if (const auto* number = std::get_if<int64_t>(&m_value);
-        number && *number >= 0 && plainDigits(userLocale))
-        return QString::number(static_cast<qlonglong>(*number));
+    if (type() == Type::Integer && m_whole >= 0 && plainDigits(userLocale))
+        return QString::number(static_cast<qlonglong>(m_whole));
     if (type() == Type::YesNo) {
         if (userLocale.language() == QLocale::Italian)
-            return std::get<bool>(m_value) ? QStringLiteral("Vero") : QStringLiteral("Falso");
-        return std::get<bool>(m_value) ? QStringLiteral("True") : QStringLiteral("False");
+            return m_whole != 0 ? QStringLiteral("Vero") : QStringLiteral("Falso");
+        return m_whole != 0 ? QStringLiteral("True") : QStringLiteral("False");
     }
     QLocale locale = userLocale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     switch (type()) {
         case Type::Integer:
-            return locale.toString(static_cast<qlonglong>(std::get<int64_t>(m_value)));
+            return locale.toString(static_cast<qlonglong>(m_whole));
         case Type::Real:
-            return realText(std::get<double>(m_value), locale);
+            return realText(m_real, locale);
         case Type::Currency:
-            return currencyText(std::get<jet::Currency>(m_value).tenThousandths, locale);
+            return currencyText(m_whole, locale);
         case Type::Date:
-            if (auto text = dateText(std::get<jet::Date>(m_value).days, locale)) return *text;
+            if (auto text = dateText(m_real, locale)) return *text;
             return mismatch;
         case Type::Decimal: {
-            QString text = QString::fromStdString(std::get<jet::Decimal>(m_value).text);
+            QString text = m_text;
             if (text.startsWith(u'-')) text.replace(0, 1, locale.negativeSign());
             return text.replace(u'.', locale.decimalPoint());
         }
@@ -112,8 +148,8 @@ QString Value::toTextOrEmpty(const QLocale& locale) && {
 QString Value::toTextOrEmpty(const QLocale& locale) const& {
     if (type() == Type::Text) return m_text;
     if (isNull()) return {};
-    const Result<QString> text = toText(locale);
-    return text.ok() ? text.value() : QString();
+    Result<QString> text = toText(locale);
+    return text.ok() ? std::move(text).value() : QString();
 }
 
 Result<qint64> Value::toInteger() const {
@@ -121,23 +157,22 @@ Result<qint64> Value::toInteger() const {
         case Type::Null:
             return nullValue;
         case Type::YesNo:
-            return std::get<bool>(m_value) ? -1 : 0;
+            return m_whole != 0 ? -1 : 0;
         case Type::Integer:
-            return static_cast<qint64>(std::get<int64_t>(m_value));
+            return static_cast<qint64>(m_whole);
         case Type::Real:
-            return rounded(std::get<double>(m_value));
+            return rounded(m_real);
         case Type::Currency:
-            return rounded(static_cast<double>(std::get<jet::Currency>(m_value).tenThousandths) / 10000);
+            return rounded(static_cast<double>(m_whole) / 10000);
         case Type::Date:
-            return rounded(std::get<jet::Date>(m_value).days);
+            return rounded(m_real);
         case Type::Text: {
             const std::optional<double> number = readNumber(m_text);
             if (!number) return mismatch;
             return rounded(*number);
         }
         case Type::Decimal:
-            return rounded(
-                readNumber(QString::fromStdString(std::get<jet::Decimal>(m_value).text)).value_or(0));
+            return rounded(readNumber(m_text).value_or(0));
         case Type::Binary:
             break;
     }
@@ -158,13 +193,13 @@ Result<bool> Value::toBool() const {
             return *number != 0;
         }
         case Type::Real:
-            return std::get<double>(m_value) != 0;
+            return m_real != 0;
         case Type::Currency:
-            return std::get<jet::Currency>(m_value).tenThousandths != 0;
+            return m_whole != 0;
         case Type::Date:
-            return std::get<jet::Date>(m_value).days != 0;
+            return m_real != 0;
         case Type::Decimal:
-            return std::get<jet::Decimal>(m_value).text != "0";
+            return m_text != u"0";
         default: {
             const Result<qint64> number = toInteger();
             if (!number.ok()) return number.status();

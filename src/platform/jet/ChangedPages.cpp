@@ -11,8 +11,8 @@ namespace jet {
 
 namespace {
 
-// Eight numbers at a time, none of which waits for another: as fast as the page can be read. It distinguishes
-// versions of a page and is no guard against forgery.
+// Eight numbers at a time, none of which waits for another, and unrolled so that they stay in registers: as
+// fast as the page can be read. It distinguishes versions of a page and is no guard against forgery.
 uint64_t digestOf(const Page& page) {
     constexpr uint64_t factor = 0x9E3779B97F4A7C15u;
     std::array<uint64_t, 8> lanes = {1, 2, 3, 4, 5, 6, 7, 8};
@@ -20,12 +20,14 @@ uint64_t digestOf(const Page& page) {
         lane = (lane ^ word) * factor;
         lane ^= lane >> 32;
     };
-    for (size_t at = 0; at < pageSize; at += 8 * lanes.size())
+    for (size_t at = 0; at < pageSize; at += 8 * lanes.size()) {
+#pragma GCC unroll 8
         for (size_t i = 0; i < lanes.size(); ++i) {
             uint64_t word = 0;
             std::memcpy(&word, &page[at + 8 * i], 8);
             take(lanes[i], word);
         }
+    }
     uint64_t digest = 0;
     for (const uint64_t lane : lanes)
         take(digest, lane);
@@ -34,20 +36,23 @@ uint64_t digestOf(const Page& page) {
 
 }  // namespace
 
-PagePrints RowStore::prints(std::vector<std::pair<uint32_t, uint32_t>>& moved) const {
+PagePrints RowStore::prints(const PagePrints& before) const {
     PagePrints now;
     PageWalk pages(m_file);
     UsageMap(m_file, m_definition.ownedMap).forEach([&](uint32_t number) {
         const Page& page = pages.page(number);
         now.set(number, digestOf(page));
+        if (now.sameAs(before, number)) return true;
         const DataPageView rows = view(page, number);
         for (size_t slot = 0; slot < rows.count(); ++slot) {
             if (rows.flags(slot) != data::pointer) continue;
             const std::span<const uint8_t> bytes = rows.bytes(slot);
-            if (bytes.size() >= 4) moved.emplace_back(number, load24(&bytes[1]));
+            if (bytes.size() >= 4) now.addMoved({number, load24(&bytes[1])});
         }
         return true;
     });
+    for (const PagePrints::Moved& row : before.moved())
+        if (now.sameAs(before, row.page)) now.addMoved(row);
     return now;
 }
 
@@ -56,13 +61,12 @@ Result<std::vector<bool>> Table::scanChanged(PagePrints& prints,
     return guarded([&]() -> Result<std::vector<bool>> {
         const Reading reading(m_state->file);
         m_state->ensureCurrent();
-        std::vector<std::pair<uint32_t, uint32_t>> moved;  // a page and where the body of a row of it lies
-        PagePrints now = m_state->rows.prints(moved);
+        PagePrints now = m_state->rows.prints(prints);
         std::vector<bool> changed(std::max(now.size(), prints.size()));
         for (uint32_t page = 0; page < changed.size(); ++page)
             changed[page] = !now.sameAs(prints, page);
-        for (const auto& [page, body] : moved)
-            if (body < changed.size() && changed[body]) changed[page] = true;
+        for (const PagePrints::Moved& row : now.moved())
+            if (row.body < changed.size() && changed[row.body]) changed[row.page] = true;
         prints = std::move(now);
         for (uint32_t page = 0; page < changed.size(); ++page) {
             if (!changed[page] || !prints.has(page)) continue;

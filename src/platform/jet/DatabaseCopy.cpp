@@ -2,6 +2,7 @@
 // A copy of a database under another name.
 #include <unistd.h>
 
+#include <cassert>
 #include <filesystem>
 #include <random>
 
@@ -38,7 +39,8 @@ class TemporaryFile {
     }
     TemporaryFile(const TemporaryFile&) = delete;
     OsFile& file() { return m_file; }
-    void becomes(const std::string& target) {
+    /// Once it is on the disk (L7).
+    void becomes(const std::string& target, OsFile::Synced) {
         (void)OsFile::rename(m_file.path(), target, true);
         m_there = false;
     }
@@ -92,12 +94,15 @@ Status Database::copyTo(const std::string& wanted, bool ownerOnly) {
         lockWriter(copy.file(), wait);
         lockContent(copy.file(), Lock::Exclusive, wait);
         m_engine->file.copyTo(copy.file());
-        copy.file().sync();
-        copy.becomes(target);
+        [[maybe_unused]] const auto excluded = [](const OsFile& file) {
+            return file.isHeld(Range::Writer) && file.isHeld(Range::Content);
+        };
+        assert(excluded(copy.file()) && (!exists || excluded(old)));  // L7
+        copy.becomes(target, copy.file().sync());
         OsFile::syncFolderOf(target);
         try {
             const Journal::Found left = journal.look(owner);
-            if (left == Journal::Found::Hot || left == Journal::Found::Foreign) journal.setAside();
+            if (left == Journal::Found::Hot || left == Journal::Found::Foreign) journal.setAside(owner);
         } catch (const Failure&) {
             // The next process to open the file finds that the journal does not fit.
         }

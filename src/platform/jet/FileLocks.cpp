@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/FileLocks.h"
 
+#include <cassert>
+
 #include "platform/jet/Failure.h"
 
 namespace jet {
@@ -27,6 +29,7 @@ std::string foreignLockFile(const std::string& path) {
 void lockContent(OsFile& file, OsFile::Lock kind, const LockWait& wait) {
     if (kind == Lock::Exclusive) {
         if (!waitFor(wait, [&] { return file.tryLock(kind, Range::Gate); })) failInUse(file);
+        assert(file.isHeld(Range::Gate));  // L4: those who read end, and none begins
         if (waitFor(wait, [&] { return file.tryLock(kind, Range::Content); })) return;
         file.tryLock(Lock::None, Range::Gate);
         failInUse(file);

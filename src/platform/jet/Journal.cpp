@@ -30,9 +30,13 @@ bool Journal::leadsHere(FileRights& rights) const {
     return isOpen() && nameState(m_path, now, &rights) && sameFile(now, m_opened);
 }
 
-void Journal::requireTrusted(const FileRights& rights, const FileRights& database) const {
+bool Journal::trusted(const FileRights& rights, const FileRights& database) {
     // Who we are is asked only where the database's owner did not make it.
-    if (isTrusted(rights, database, database.owner) || isTrusted(rights, database, ::geteuid())) return;
+    return isTrusted(rights, database, database.owner) || isTrusted(rights, database, ::geteuid());
+}
+
+void Journal::requireTrusted(const FileRights& rights, const FileRights& database) const {
+    if (trusted(rights, database)) return;
     fail(ErrorCode::PathAccess, "Il file \"", m_path,
          "\" non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il "
          "database. Il database non viene aperto finché il file resta al suo posto.");
@@ -128,8 +132,10 @@ void Journal::close() {
 void Journal::remove(const OsFile& database) {
     if (!isOpen() && OsFile::exists(m_path)) m_file = open(database.rights(), Access::ReadWrite);
     if (isOpen() && m_file.tryLock(Lock::Exclusive, Range::Content) && leadsTo(m_file) &&
-        stateOf(m_file) == Found::Idle)
+        stateOf(m_file) == Found::Idle) {
+        assert(database.isHeld(Range::Writer) && database.isHeld(Range::Content));  // R1
         OsFile::remove(m_path);
+    }
     close();
 }
 
@@ -145,18 +151,17 @@ void Journal::start(const OsFile& database, const FileRights& rights, uint32_t p
     m_end = journal::recordsStart;
     m_synced = 0;
     m_records.clear();
-    m_hot = false;
-    m_started = true;
+    m_stage = Stage::Recording;
 }
 
 void Journal::add(uint32_t page, const Page& original) {
-    assert(m_started && page < m_header.pages);
+    assert(started() && page < m_header.pages);
     if (m_records.size() >= recordsTogether * journal::originalLength) writeRecords();
     journal::appendOriginal(m_records, m_end + m_records.size(), m_header.nonce, page, original);
 }
 
 void Journal::announce(uint32_t page, const Page& content) {
-    assert(m_started);
+    assert(started());
     journal::appendAnnouncement(m_records, m_end + m_records.size(), m_header.nonce, page, content);
 }
 
@@ -167,16 +172,17 @@ void Journal::writeRecords() {
 }
 
 void Journal::sync() {
-    if (!m_hot && m_end == journal::recordsStart) {
+    assert(started());
+    if (m_stage != Stage::Hot && m_end == journal::recordsStart) {
         // The header is before the first records: one write does for all.
         const journal::HeaderBytes header = journal::encode(m_header);
         m_records.insert(m_records.begin(), header.begin(), header.end());
         m_end = 0;
-        m_hot = true;
+        m_stage = Stage::Hot;
     }
     writeRecords();
-    if (!m_hot) {
-        m_hot = true;
+    if (m_stage != Stage::Hot) {
+        m_stage = Stage::Hot;
         m_file.write(0, journal::encode(m_header));
     }
     m_file.sync();
@@ -199,7 +205,7 @@ void Journal::finish(OsFile::Synced) {
         if (stateOf(m_file) != Found::Idle) throw;
         m_syncOwed = true;
     }
-    m_started = m_hot = false;
+    m_stage = Stage::Idle;
     try {
         m_file.sync();
         m_syncOwed = false;
@@ -211,37 +217,38 @@ void Journal::finish(OsFile::Synced) {
 
 // Where the header stays, putting back the records will change nothing.
 void Journal::discard() noexcept {
-    assert(m_started);
+    assert(started());
     try {
-        if (m_hot) empty(m_file);
+        if (m_stage == Stage::Hot) empty(m_file);
         if (m_end > room) m_file.truncate(room);
     } catch (const Failure&) {
     }
     m_records.clear();
-    m_started = m_hot = false;
+    m_stage = Stage::Idle;
 }
 
 void Journal::recover(OsFile& database) {
     // The journal of an own transaction counts even after its name was taken away.
-    const bool own = m_started;
-    m_started = m_hot = false;
+    const bool own = started();
+    m_stage = Stage::Idle;
     m_records.clear();
     OsFile other;
     FileRights rights;
     if (!own && !leadsHere(rights)) other = open(database.rights(), Access::ReadWrite);
     OsFile& file = other.isOpen() ? other : m_file;
+    assert(own || trusted(file.rights(), database.rights()));  // J6
     journal::Header header;
     switch (journal::readHeader(file, header)) {
         case journal::HeaderState::Empty:
             return;
         case journal::HeaderState::Strange:
-            return setAside();
+            return setAside(database);
         case journal::HeaderState::Valid:
             break;
     }
     assert(database.isHeld(Range::Writer) && database.isHeld(Range::Content));  // J3
     const JournalReplay replay(file, header, database);
-    if (!replay.fits()) return setAside();
+    if (!replay.fits()) return setAside(database);
     replay.putBack(database);
     assert(JournalReplay(file, header, database).fits());  // J7: it can be repeated
     empty(file);
@@ -249,7 +256,8 @@ void Journal::recover(OsFile& database) {
     if (file.state().size > room) file.truncate(room);
 }
 
-void Journal::setAside() {
+void Journal::setAside([[maybe_unused]] const OsFile& database) {
+    assert(database.isHeld(Range::Writer));  // J5: nobody else does so, nor makes another one
     const std::string wanted = m_path + ".scartato";
     std::string name = wanted;
     for (int n = 2; !OsFile::rename(m_path, name, false); ++n) {  // J5: no other one is replaced

@@ -73,9 +73,9 @@ class Journal {
     /// Begins a transaction, after keepRoom(): `rights` and `firstPage` are the database's. Nothing is
     /// written yet.
     void start(const OsFile& database, const FileRights& rights, uint32_t pages, const Page& firstPage);
-    bool started() const { return m_started; }
+    bool started() const { return m_stage != Stage::Idle; }
     /// Whether the journal is hot, and synced with everything that was added and announced.
-    bool inForce() const { return m_hot && m_synced == m_end && m_records.empty(); }
+    bool inForce() const { return m_stage == Stage::Hot && m_synced == m_end && m_records.empty(); }
     void add(uint32_t page, const Page& original);
     void announce(uint32_t page, const Page& content);
     void sync();
@@ -88,8 +88,8 @@ class Journal {
     /// one. Can be repeated after a crash within it.
     void recover(OsFile& database);
     /// Renames the journal to `<file>-journal.scartato`, or with a number appended where that is taken, and
-    /// reports it.
-    void setAside();
+    /// reports it. The caller holds the writer's lock.
+    void setAside(const OsFile& database);
 
   private:
     /// So many originals are written together.
@@ -100,6 +100,7 @@ class Journal {
     bool leadsTo(const OsFile& file) const;
     bool leadsHere(FileRights& rights) const;
     OsFile open(const FileRights& database, OsFile::Access access) const;
+    static bool trusted(const FileRights& rights, const FileRights& database);
     void requireTrusted(const FileRights& rights, const FileRights& database) const;
     static void empty(OsFile& file);
     Found stateOf(const OsFile& file) const;
@@ -112,8 +113,9 @@ class Journal {
     bool m_folderSynced = false;
     bool m_syncOwed = false;  // step 7 has failed
 
-    bool m_started = false;
-    bool m_hot = false;
+    /// Of the own transaction: there is none, it is not in the file yet, its header is.
+    enum class Stage { Idle, Recording, Hot };
+    Stage m_stage = Stage::Idle;
     journal::Header m_header;
     std::vector<uint8_t> m_records;  ///< that are still to be written, at m_end
     uint64_t m_end = 0;

@@ -37,8 +37,8 @@ class RowStore {
         scan({}, visit);
     }
 
-    /// What the pages contain, and for each row that has moved its page and that of its body.
-    PagePrints prints(std::vector<std::pair<uint32_t, uint32_t>>& moved) const;
+    /// What the pages contain now. Those that are as they were `before` are not looked at any further.
+    PagePrints prints(const PagePrints& before) const;
 
     /// Bytes of a row, valid as long as the page is kept.
     struct Stored {

@@ -53,6 +53,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
         const std::optional<Bytes> key = tree.keyOf(id);
         erased = key && tree.erase(*key, id);
     }
+    // K4: nothing of it can be left, since entries rise strictly (T1).
     if (!erased) failDamaged("nell'indice \"", index.name, "\" manca una riga");
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
 }
@@ -60,6 +61,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
 // Runs the part of a change that writes. When it fails it may be half done, so the transaction is lost.
 template <class Work>
 void apply(TableState& state, Work&& work) {
+    assert(state.generation == state.file.generation());  // L10: this is the table's definition
     try {
         work();
         assert(keepsRules(state.file, state.definition));

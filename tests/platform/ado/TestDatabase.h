@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <string>
+#include <vector>
 
 #include "modules/store/NuovoDatabase.h"
 #include "platform/ado/Catalog.h"
@@ -12,6 +14,7 @@
 #include "platform/ado/Connection.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
+#include "support/JetChecker.h"
 
 namespace ado {
 
@@ -33,7 +36,15 @@ class TestDatabase : public ::testing::Test {
         ASSERT_TRUE(status.ok()) << words(status);
         connection = connectionTo(path);
     }
-    void TearDown() override { closeAll(); }
+    /// Verifies at the end of each test that what the engine has written is sound.
+    void TearDown() override {
+        closeAll();
+        if (!m_unsound && !HasFailure() && QFile::exists(path)) {
+            EXPECT_EQ(checkJetFile(path.toStdString()), std::vector<std::string>());
+        }
+    }
+    /// For a test that damages the file itself.
+    void leaveUnsound() { m_unsound = true; }
 
     QString inFolder(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
@@ -90,6 +101,7 @@ class TestDatabase : public ::testing::Test {
 
   private:
     QTemporaryDir m_folder;
+    bool m_unsound = false;
 };
 
 }  // namespace ado

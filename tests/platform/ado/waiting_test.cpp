@@ -75,6 +75,7 @@ TEST_F(WaitingTest, NamingTheDatabaseTakesNoLock) {
 }
 
 TEST_F(WaitingTest, NamingWhatIsNoDatabaseFailsAllTheSame) {
+    leaveUnsound();
     const QString text = inFolder("testo.mdb");
     {
         QFile file(text);

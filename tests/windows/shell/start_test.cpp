@@ -190,6 +190,7 @@ class TestStart : public QObject {
         QVERIFY(MessageDialog::shown()[0].text.startsWith("Impossibile trovare il database."));
         QCOMPARE(stage.ends.size(), 1);
         QCOMPARE(readFile(stage.folder.database()), content);
+        QVERIFY(QFile::remove(stage.folder.database()));  // else it is verified at the end
     }
 
     void refusingAnotherDatabaseEndsTheProgramAndSavesNothing() {
