@@ -32,7 +32,7 @@
     <name>QPrintDialog</name>
     <message>
         <source>%1 does not follow the correct syntax. Please use ',' to separate ranges and pages, '-' to define ranges and make sure ranges do not intersect with each other.</source>
-        <translation>%1 n'est pas bien écrit. Utilisez « , » pour séparer plages et pages, « - » pour les plages, sans que les plages se recoupent.</translation>
+        <translation>%1 n'est pas bien écrit. Utilisez « , » pour séparer plages et pages, « - » pour les plages, sans que les plages se recoupent.</translation>
     </message>
     <message>
         <source>Duplex Settings Conflicts</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>There are conflicts in duplex settings. Do you want to fix them?</source>
-        <translation>Les réglages recto verso sont en conflit. Voulez-vous les corriger ?</translation>
+        <translation>Les réglages recto verso sont en conflit. Voulez-vous les corriger ?</translation>
     </message>
 </context>
 <context>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>Specify pages or ranges separated by commas. Ranges are specified by two numbers separated by a hyphen. E.g: 3,5-7,9 prints pages 3, 5, 6, 7 and 9.</source>
-        <translation>Pages ou plages séparées par des virgules. Une plage est faite de deux nombres séparés par un trait d'union : 3,5-7,9 imprime les pages 3, 5, 6, 7 et 9.</translation>
+        <translation>Pages ou plages séparées par des virgules. Une plage est faite de deux nombres séparés par un trait d'union : 3,5-7,9 imprime les pages 3, 5, 6, 7 et 9.</translation>
     </message>
 </context>
 </TS>

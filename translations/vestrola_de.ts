@@ -1559,7 +1559,7 @@ Versuchen Sie es noch einmal, wenn es fertig ist.</translation>
     </message>
     <message>
         <source>Il disco del database è pieno. Chi riceve il messaggio resta selezionato finché non c&apos;è di nuovo posto, ma non lo riceve una seconda volta.</source>
-        <translation>Die Festplatte der Datenbank ist voll. Wer die Nachricht erhält, bleibt ausgewählt, bis wieder Platz ist, erhält sie aber nicht ein zweites Mal.</translation>
+        <translation>Der Datenträger der Datenbank ist voll. Wer die Nachricht erhält, bleibt ausgewählt, bis wieder Platz ist, erhält sie aber nicht ein zweites Mal.</translation>
     </message>
     <message>
         <source>L&apos;invio non è iniziato.</source>
@@ -2916,6 +2916,1018 @@ Importate %3, rifiutate %4.</source>
     <message>
         <source>Impossibile aprire </source>
         <translation>Nicht zu öffnen ist </translation>
+    </message>
+    <message>
+        <source>Un comando non può eseguire una SELECT.</source>
+        <translation>Ein Befehl kann kein SELECT ausführen.</translation>
+    </message>
+    <message>
+        <source>Tempo scaduto.</source>
+        <translation>Zeitüberschreitung.</translation>
+    </message>
+    <message>
+        <source>Formato della stringa di connessione non valido.</source>
+        <translation>Ungültiges Format der Verbindungszeichenfolge.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il provider &quot;%1&quot;.</source>
+        <translation>Der Provider „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Nessun file di database indicato.</source>
+        <translation>Es ist keine Datenbankdatei angegeben.</translation>
+    </message>
+    <message>
+        <source>Tipo di dati non corrispondente nel campo &quot;%1&quot;.</source>
+        <translation>Unverträglicher Datentyp im Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>Valore troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>Der Wert ist zu groß für das Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una INSERT di valori.</source>
+        <translation>Die Anweisung ist kein INSERT von Werten.</translation>
+    </message>
+    <message>
+        <source>L&apos;identità di un record non può essere scelta.</source>
+        <translation>Die Identität eines Datensatzes ist nicht wählbar.</translation>
+    </message>
+    <message>
+        <source>Il record è stato eliminato.</source>
+        <translation>Der Datensatz wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>Nessun record corrente.</source>
+        <translation>Kein aktueller Datensatz.</translation>
+    </message>
+    <message>
+        <source>Operazione non consentita se l&apos;oggetto è chiuso.</source>
+        <translation>Der Vorgang ist bei geschlossenem Objekt nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>Il recordset corrente non supporta l&apos;aggiornamento.</source>
+        <translation>Das aktuelle Recordset unterstützt keine Änderung.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il campo &quot;%1&quot;.</source>
+        <translation>Das Feld „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>L&apos;origine di un recordset deve essere una SELECT.</source>
+        <translation>Die Quelle eines Recordsets muss ein SELECT sein.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: una riga ha perso il suo posto.</source>
+        <translation>Interner Fehler der Datenbank: Eine Zeile hat ihren Platz verloren.</translation>
+    </message>
+    <message>
+        <source>Impossibile avviare il motore SQL.</source>
+        <translation>Die SQL-Engine lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>La struttura del database è stata modificata.</source>
+        <translation>Der Aufbau der Datenbank wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Un&apos;altra istruzione è in attesa del database.</source>
+        <translation>Eine andere Anweisung wartet auf die Datenbank.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL vicino a &quot;%1&quot;.</source>
+        <translation>Syntaxfehler in der SQL-Anweisung bei „%1“.</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non corrisponde al numero dei campi di destinazione.</source>
+        <translation>Die Anzahl der Werte entspricht nicht der Anzahl der Zielfelder.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa.</source>
+        <translation>SQL-Anweisung nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non valida.</source>
+        <translation>Ungültige SQL-Anweisung.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è riservata al sistema.</source>
+        <translation>Die Tabelle „%1“ ist dem System vorbehalten.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere usata nelle istruzioni SQL.</source>
+        <translation>Die Tabelle „%1“ ist in SQL-Anweisungen nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una SELECT.</source>
+        <translation>Die Anweisung ist kein SELECT.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione deve leggere tutte le colonne di una tabella.</source>
+        <translation>Die Anweisung muss alle Spalten einer Tabelle lesen.</translation>
+    </message>
+    <message>
+        <source>Il record è troppo lungo.</source>
+        <translation>Der Datensatz ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Troppi record per essere mostrati.</source>
+        <translation>Zu viele Datensätze zum Anzeigen.</translation>
+    </message>
+    <message>
+        <source>carattere nullo</source>
+        <translation>Nullzeichen</translation>
+    </message>
+    <message>
+        <source>commento</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>parametro</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>virgolette fuori da un testo</source>
+        <translation>Anführungszeichen außerhalb eines Textes</translation>
+    </message>
+    <message>
+        <source>manca un apice di chiusura</source>
+        <translation>ein schließender Apostroph fehlt</translation>
+    </message>
+    <message>
+        <source>manca una parentesi quadra di chiusura</source>
+        <translation>eine schließende eckige Klammer fehlt</translation>
+    </message>
+    <message>
+        <source>manca un cancelletto di chiusura</source>
+        <translation>ein schließendes Rautezeichen fehlt</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa: %1.</source>
+        <translation>SQL-Anweisung nicht erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL: %1.</source>
+        <translation>Syntaxfehler in der SQL-Anweisung: %1.</translation>
+    </message>
+    <message>
+        <source>forma non prevista</source>
+        <translation>unerwartete Form</translation>
+    </message>
+    <message>
+        <source>i valori da inserire non sono leggibili</source>
+        <translation>die einzufügenden Werte sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>la data #%1# non è valida</source>
+        <translation>das Datum #%1# ist ungültig</translation>
+    </message>
+    <message>
+        <source>testo troppo lungo</source>
+        <translation>Text zu lang</translation>
+    </message>
+    <message>
+        <source>più di una istruzione</source>
+        <translation>mehr als eine Anweisung</translation>
+    </message>
+    <message>
+        <source>istruzione vuota</source>
+        <translation>leere Anweisung</translation>
+    </message>
+    <message>
+        <source>Il disco è pieno: il file &quot;%1&quot; non trova posto.</source>
+        <translation>Der Datenträger ist voll: kein Platz für die Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo di posta elettronica non è valido.</source>
+        <translation>Die E-Mail-Adresse ist ungültig.</translation>
+    </message>
+    <message>
+        <source>L&apos;allegato %1 %2.</source>
+        <translation>Die Anlage %1 %2.</translation>
+    </message>
+    <message>
+        <source>non esiste</source>
+        <translation>existiert nicht</translation>
+    </message>
+    <message>
+        <source>è troppo grande</source>
+        <translation>ist zu groß</translation>
+    </message>
+    <message>
+        <source>Il nome utente contiene un carattere non ammesso.</source>
+        <translation>Der Benutzername enthält ein unzulässiges Zeichen.</translation>
+    </message>
+    <message>
+        <source>non si può leggere</source>
+        <translation>lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>non è il file che è stato confermato</source>
+        <translation>ist nicht die bestätigte Datei</translation>
+    </message>
+    <message>
+        <source>Invio interrotto.</source>
+        <translation>Versand abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Risposta in ritardo al messaggio di prima</source>
+        <translation>Verspätete Antwort auf die vorige Nachricht</translation>
+    </message>
+    <message>
+        <source>Il destinatario non è stato letto: nessun invio.</source>
+        <translation>Der Empfänger wurde nicht gelesen: kein Versand.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio è stato fermato: nessun invio fino al prossimo avvio.</source>
+        <translation>Der Versand wurde angehalten: kein Versand bis zum nächsten Start.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo del destinatario non è stato letto: nessun invio.</source>
+        <translation>Die Adresse des Empfängers wurde nicht gelesen: kein Versand.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato in questo invio.</source>
+        <translation>Die Nachricht für diesen Empfänger wurde in diesem Versand schon angenommen.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato.</source>
+        <translation>Die Nachricht für diesen Empfänger wurde schon angenommen.</translation>
+    </message>
+    <message>
+        <source>Non c&apos;è più spazio per ricordare i messaggi accettati.</source>
+        <translation>Es ist kein Platz mehr, um die angenommenen Nachrichten zu vermerken.</translation>
+    </message>
+    <message>
+        <source>Il destinatario è stato selezionato di nuovo.</source>
+        <translation>Der Empfänger wurde erneut ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Il file %1 esiste già.</source>
+        <translation>Die Datei %1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Non è possibile scrivere il file %1.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>La chiave non si può leggere.</source>
+        <translation>Der Schlüssel kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Il dominio non è valido.</source>
+        <translation>Die Domain ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.</source>
+        <translation>Die Domain hat schon einen Schlüssel oder einen Selektor: %1.pem, %1.selector.</translation>
+    </message>
+    <message>
+        <source>Non è possibile creare la cartella %1.</source>
+        <translation>Der Ordner %1 kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>La creazione della chiave non è riuscita.</source>
+        <translation>Der Schlüssel konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Messaggio non firmato (DKIM): %1.</source>
+        <translation>Nachricht nicht signiert (DKIM): %1.</translation>
+    </message>
+    <message>
+        <source>il selettore manca o non è valido</source>
+        <translation>der Selektor fehlt oder ist ungültig</translation>
+    </message>
+    <message>
+        <source>la chiave manca o non è una chiave RSA</source>
+        <translation>der Schlüssel fehlt oder ist kein RSA-Schlüssel</translation>
+    </message>
+    <message>
+        <source>la chiave ha meno di %1 bit</source>
+        <translation>der Schlüssel hat weniger als %1 Bit</translation>
+    </message>
+    <message>
+        <source>la firma non è riuscita</source>
+        <translation>das Signieren ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Il server non ha completato l&apos;autenticazione.</source>
+        <translation>Der Server hat die Anmeldung nicht abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta il consenso di OAuth 2.0 per l&apos;utente %1: %2</source>
+        <translation>Der Server nimmt die OAuth-2.0-Zustimmung des Benutzers %1 nicht an: %2</translation>
+    </message>
+    <message>
+        <source>La password non viene inviata in chiaro a %1, che non offre una connessione TLS. Per inviarla ugualmente scrivere il nome del server nel file %2.</source>
+        <translation>Das Passwort wird nicht unverschlüsselt an %1 gesendet, der keine TLS-Verbindung anbietet. Um es trotzdem zu senden, den Namen des Servers in die Datei %2 schreiben.</translation>
+    </message>
+    <message>
+        <source>Il server non offre l&apos;accesso con OAuth 2.0.</source>
+        <translation>Der Server bietet keine Anmeldung mit OAuth 2.0 an.</translation>
+    </message>
+    <message>
+        <source>Il server non offre un metodo di autenticazione conosciuto.</source>
+        <translation>Der Server bietet kein bekanntes Anmeldeverfahren an.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può eliminare.</source>
+        <translation>Die Datei „%1“ kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>La cartella &quot;%1&quot; non si può creare.</source>
+        <translation>Der Ordner „%1“ kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può scrivere: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Autenticazione non riuscita: %1</source>
+        <translation>Anmeldung fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Il nome utente o la password contengono un carattere non ammesso.</source>
+        <translation>Benutzername oder Passwort enthält ein unzulässiges Zeichen.</translation>
+    </message>
+    <message>
+        <source>Il server rifiuta il messaggio per le sue regole</source>
+        <translation>Der Server lehnt die Nachricht nach seinen Regeln ab</translation>
+    </message>
+    <message>
+        <source>Il server limita il numero o la frequenza degli invii</source>
+        <translation>Der Server begrenzt Anzahl oder Häufigkeit der Sendungen</translation>
+    </message>
+    <message>
+        <source>Il server considera il messaggio posta indesiderata (spam)</source>
+        <translation>Der Server hält die Nachricht für unerwünscht (Spam)</translation>
+    </message>
+    <message>
+        <source>%1, per ora, codice %2: %3</source>
+        <translation>%1, vorerst, Code %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, codice %2: %3</source>
+        <translation>%1, Code %2: %3</translation>
+    </message>
+    <message>
+        <source>Server %1 non trovato.</source>
+        <translation>Server %1 nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Connessione rifiutata da %1, porta %2.</source>
+        <translation>Verbindung von %1, Port %2, abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Il server ha chiuso la connessione.</source>
+        <translation>Der Server hat die Verbindung geschlossen.</translation>
+    </message>
+    <message>
+        <source>Errore di rete: %1</source>
+        <translation>Netzwerkfehler: %1</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non ha un server di posta.</source>
+        <translation>Die Domain des Empfängers hat keinen Mailserver.</translation>
+    </message>
+    <message>
+        <source>Risposta del server non valida: %1</source>
+        <translation>Ungültige Antwort des Servers: %1</translation>
+    </message>
+    <message>
+        <source>Risposta del server inattesa: %1 %2</source>
+        <translation>Unerwartete Antwort des Servers: %1 %2</translation>
+    </message>
+    <message>
+        <source>Il server non offre più la connessione TLS, che ha offerto in passato. Per dimenticarlo cancellare la sua riga dal file %1.</source>
+        <translation>Der Server bietet die TLS-Verbindung, die er früher angeboten hat, nicht mehr an. Um das zu vergessen, seine Zeile aus der Datei %1 löschen.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta indirizzi con caratteri internazionali.</source>
+        <translation>Der Server nimmt keine Adressen mit internationalen Zeichen an.</translation>
+    </message>
+    <message>
+        <source>il certificato è autofirmato</source>
+        <translation>das Zertifikat ist selbstsigniert</translation>
+    </message>
+    <message>
+        <source>il certificato è scaduto</source>
+        <translation>das Zertifikat ist abgelaufen</translation>
+    </message>
+    <message>
+        <source>il certificato non è ancora valido</source>
+        <translation>das Zertifikat ist noch nicht gültig</translation>
+    </message>
+    <message>
+        <source>il certificato è di un altro server</source>
+        <translation>das Zertifikat gehört einem anderen Server</translation>
+    </message>
+    <message>
+        <source>l&apos;autorità che ha emesso il certificato non è attendibile</source>
+        <translation>der Aussteller des Zertifikats ist nicht vertrauenswürdig</translation>
+    </message>
+    <message>
+        <source>Il server ha aggiunto testo in chiaro alla risposta a STARTTLS.</source>
+        <translation>Der Server hat der Antwort auf STARTTLS unverschlüsselten Text angefügt.</translation>
+    </message>
+    <message>
+        <source>in chiaro</source>
+        <translation>unverschlüsselt</translation>
+    </message>
+    <message>
+        <source>%1, %2, certificato %3</source>
+        <translation>%1, %2, Zertifikat %3</translation>
+    </message>
+    <message>
+        <source>non verificato</source>
+        <translation>nicht geprüft</translation>
+    </message>
+    <message>
+        <source>valido</source>
+        <translation>gültig</translation>
+    </message>
+    <message>
+        <source>Connessione TLS non riuscita: %1.</source>
+        <translation>TLS-Verbindung fehlgeschlagen: %1.</translation>
+    </message>
+    <message>
+        <source>Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta da TLS con un certificato valido.</source>
+        <translation>Das OAuth-2.0-Token wird nicht an %1 gesendet: Die Verbindung ist nicht durch TLS mit gültigem Zertifikat geschützt.</translation>
+    </message>
+    <message>
+        <source>Uso non valido di Null.</source>
+        <translation>Ungültige Verwendung von Null.</translation>
+    </message>
+    <message>
+        <source>Tipo non corrispondente.</source>
+        <translation>Unverträglicher Typ.</translation>
+    </message>
+    <message>
+        <source>Overflow.</source>
+        <translation>Überlauf.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha un contatore.</source>
+        <translation>Die Tabelle „%1“ hat keinen Zähler.</translation>
+    </message>
+    <message>
+        <source>Il contatore della tabella &quot;%1&quot; è esaurito.</source>
+        <translation>Der Zähler der Tabelle „%1“ ist erschöpft.</translation>
+    </message>
+    <message>
+        <source>il catalogo non è leggibile</source>
+        <translation>der Katalog ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non contiene righe</source>
+        <translation>Seite %1 enthält keine Zeilen</translation>
+    </message>
+    <message>
+        <source>la pagina %1 ha troppe righe</source>
+        <translation>Seite %1 hat zu viele Zeilen</translation>
+    </message>
+    <message>
+        <source>le righe della pagina %1 si sovrappongono</source>
+        <translation>die Zeilen der Seite %1 überlappen sich</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 è fuori posto</source>
+        <translation>Zeile %1 der Seite %2 liegt am falschen Platz</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non ha posto</source>
+        <translation>Seite %1 hat keinen Platz</translation>
+    </message>
+    <message>
+        <source>Password non valida.</source>
+        <translation>Ungültiges Passwort.</translation>
+    </message>
+    <message>
+        <source>il file &quot;%1&quot; è troncato</source>
+        <translation>die Datei „%1“ ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è collegata a un altro file.</source>
+        <translation>Die Tabelle „%1“ ist mit einer anderen Datei verknüpft.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è una query, non una tabella.</source>
+        <translation>„%1“ ist eine Abfrage, keine Tabelle.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare la tabella &quot;%1&quot;.</source>
+        <translation>Die Tabelle „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Nessuna transazione è in corso.</source>
+        <translation>Es läuft keine Transaktion.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere nella cartella di &quot;%1&quot;.</source>
+        <translation>In den Ordner von „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>Die Datei „%1“ wird von einem anderen Programm benutzt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è il database aperto.</source>
+        <translation>„%1“ ist die geöffnete Datenbank.</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 è incompleta</source>
+        <translation>die Tabellendefinition auf Seite %1 ist unvollständig</translation>
+    </message>
+    <message>
+        <source>un nome nella definizione della tabella a pagina %1 non è valido</source>
+        <translation>ein Name in der Tabellendefinition auf Seite %1 ist ungültig</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 ha due campi con il nome &quot;%2&quot;</source>
+        <translation>die Tabellendefinition auf Seite %1 hat zwei Felder mit dem Namen „%2“</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è la definizione di una tabella</source>
+        <translation>Seite %1 ist keine Tabellendefinition</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non finisce</source>
+        <translation>die Tabellendefinition auf Seite %1 endet nicht</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non è leggibile</source>
+        <translation>die Tabellendefinition auf Seite %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>un campo della tabella a pagina %1 non ha posto nelle righe</source>
+        <translation>ein Feld der Tabelle auf Seite %1 hat keinen Platz in den Zeilen</translation>
+    </message>
+    <message>
+        <source>un indice della tabella a pagina %1 non esiste</source>
+        <translation>ein Index der Tabelle auf Seite %1 existiert nicht</translation>
+    </message>
+    <message>
+        <source>disco pieno</source>
+        <translation>Datenträger voll</translation>
+    </message>
+    <message>
+        <source>lo spazio concesso all&apos;utente sul disco è esaurito</source>
+        <translation>das Speicherkontingent des Benutzers ist erschöpft</translation>
+    </message>
+    <message>
+        <source>il disco è di sola lettura</source>
+        <translation>der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>permesso negato</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>il disco non riesce a leggere o scrivere</source>
+        <translation>der Datenträger kann nicht lesen oder schreiben</translation>
+    </message>
+    <message>
+        <source>il file supera la dimensione concessa</source>
+        <translation>die Datei überschreitet die erlaubte Größe</translation>
+    </message>
+    <message>
+        <source>il nome è un collegamento</source>
+        <translation>der Name ist eine Verknüpfung</translation>
+    </message>
+    <message>
+        <source>il file esiste già</source>
+        <translation>die Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>è una cartella</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>il file o la cartella non esiste</source>
+        <translation>die Datei oder der Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>il nome è troppo lungo</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>troppi file aperti</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>memoria esaurita</source>
+        <translation>der Speicher ist erschöpft</translation>
+    </message>
+    <message>
+        <source>il disco non conosce questa operazione</source>
+        <translation>der Datenträger unterstützt diesen Vorgang nicht</translation>
+    </message>
+    <message>
+        <source>il disco non è più raggiungibile</source>
+        <translation>der Datenträger ist nicht mehr erreichbar</translation>
+    </message>
+    <message>
+        <source>il file è in uso</source>
+        <translation>die Datei wird benutzt</translation>
+    </message>
+    <message>
+        <source>errore di sistema %1</source>
+        <translation>Systemfehler %1</translation>
+    </message>
+    <message>
+        <source>Errore del disco (%1) sul file &quot;%2&quot;: %3.</source>
+        <translation>Datenträgerfehler (%1) bei der Datei „%2“: %3.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il file &quot;%1&quot;.</source>
+        <translation>Die Datei „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;: %2.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono descritte male</source>
+        <translation>die neuen Tabellen sind falsch beschrieben</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono troppe</source>
+        <translation>es sind zu viele neue Tabellen</translation>
+    </message>
+    <message>
+        <source>una tabella nuova ha troppe colonne</source>
+        <translation>eine neue Tabelle hat zu viele Spalten</translation>
+    </message>
+    <message>
+        <source>un nome non ha chiave</source>
+        <translation>ein Name hat keinen Schlüssel</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; esiste già.</source>
+        <translation>Die Datei „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Il database è danneggiato: %1.</source>
+        <translation>Die Datenbank ist beschädigt: %1.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: %1.</source>
+        <translation>Interner Fehler der Datenbank: %1.</translation>
+    </message>
+    <message>
+        <source>Il database ha raggiunto la dimensione massima di 2 GB.</source>
+        <translation>Die Datenbank hat die maximale Größe von 2 GB erreicht.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>Die Datenbank „%1“ wird von einem anderen Programm benutzt.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è aperto in un altro programma (%2): non può essere modificato.</source>
+        <translation>Die Datenbank „%1“ ist in einem anderen Programm geöffnet (%2): Sie kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Formato di database non riconosciuto: %1.</source>
+        <translation>Unbekanntes Datenbankformat: %1.</translation>
+    </message>
+    <message>
+        <source>il file non è un database Jet</source>
+        <translation>die Datei ist keine Jet-Datenbank</translation>
+    </message>
+    <message>
+        <source>è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)</source>
+        <translation>es ist eine .accdb-Datei von Access 2007 oder neuer; im Format Access 2000-2003 (.mdb) speichern</translation>
+    </message>
+    <message>
+        <source>è di una versione più recente di Access 2003</source>
+        <translation>sie ist von einer neueren Version als Access 2003</translation>
+    </message>
+    <message>
+        <source>il file è troncato</source>
+        <translation>die Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)</source>
+        <translation>es ist eine Access-97-Datei mit einer anderen Codepage als der westlichen (1252)</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non è leggibile</source>
+        <translation>Indexseite %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 è troppo piena</source>
+        <translation>Indexseite %1 ist zu voll</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non ha un ultimo ramo</source>
+        <translation>Indexseite %1 hat keinen letzten Zweig</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; gira in tondo</source>
+        <translation>ein Index von „%1“ läuft im Kreis</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; contiene già la riga</source>
+        <translation>ein Index von „%1“ enthält die Zeile schon</translation>
+    </message>
+    <message>
+        <source>Le voci di un indice del database sono troppo lunghe per essere divise.</source>
+        <translation>Die Einträge eines Index der Datenbank sind zu lang, um geteilt zu werden.</translation>
+    </message>
+    <message>
+        <source>la definizione di una tabella è incompleta</source>
+        <translation>eine Tabellendefinition ist unvollständig</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il database. Il database non viene aperto finché il file resta al suo posto.</source>
+        <translation>Die Datei „%1“ ist kein Journal dieser Datenbank: Sie ist eine Verknüpfung oder gehört jemandem, der die Datenbank nicht schreiben kann. Die Datenbank wird nicht geöffnet, solange die Datei an ihrem Platz bleibt.</translation>
+    </message>
+    <message>
+        <source>Troppi file &quot;%1&quot;.</source>
+        <translation>Zu viele Dateien „%1“.</translation>
+    </message>
+    <message>
+        <source>Accanto al database c&apos;era un giornale di modifiche interrotte che non gli appartiene. Il database resta com&apos;è; il giornale è stato messo da parte come &quot;%1&quot;.</source>
+        <translation>Neben der Datenbank lag ein Journal unterbrochener Änderungen, das nicht zu ihr gehört. Die Datenbank bleibt, wie sie ist; das Journal wurde als „%1“ beiseitegelegt.</translation>
+    </message>
+    <message>
+        <source>lettura</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; nomina un campo che non c&apos;è</source>
+        <translation>ein Index von „%1“ nennt ein Feld, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>un valore del campo &quot;%1&quot; è troppo corto</source>
+        <translation>ein Wert des Feldes „%1“ ist zu kurz</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; non ha l&apos;ordinamento generale</source>
+        <translation>das Feld „%1“ hat nicht die allgemeine Sortierreihenfolge</translation>
+    </message>
+    <message>
+        <source>il tipo del campo &quot;%1&quot; non è adatto a un indice</source>
+        <translation>der Typ des Feldes „%1“ eignet sich nicht für einen Index</translation>
+    </message>
+    <message>
+        <source>non è su alcun campo</source>
+        <translation>er umfasst kein Feld</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene il carattere %2, che non può stare nell&apos;indice &quot;%3&quot;.</source>
+        <translation>Der Text des Feldes „%1“ enthält das Zeichen %2, das im Index „%3“ nicht stehen kann.</translation>
+    </message>
+    <message>
+        <source>I valori sono troppo lunghi per l&apos;indice &quot;%1&quot;.</source>
+        <translation>Die Werte sind zu lang für den Index „%1“.</translation>
+    </message>
+    <message>
+        <source>un campo memo non è leggibile</source>
+        <translation>ein Memofeld ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Il database non ha posto per i testi lunghi di un campo memo.</source>
+        <translation>Die Datenbank hat keinen Platz für die langen Texte eines Memofeldes.</translation>
+    </message>
+    <message>
+        <source>scrittura</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>creazione</source>
+        <translation>Erstellen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; non è un file.</source>
+        <translation>„%1“ ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>accorciamento</source>
+        <translation>Kürzen</translation>
+    </message>
+    <message>
+        <source>prenotazione</source>
+        <translation>Reservieren</translation>
+    </message>
+    <message>
+        <source>sincronizzazione</source>
+        <translation>Synchronisieren</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; può essere letto o scritto da chi non può farlo con &quot;%2&quot;.</source>
+        <translation>Die Datei „%1“ kann von Benutzern gelesen oder geschrieben werden, die das mit „%2“ nicht können.</translation>
+    </message>
+    <message>
+        <source>blocco</source>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <source>cancellazione</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>cambio di nome</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>%1 Accanto è rimasto il giornale delle sue ultime modifiche, &quot;%2&quot;, che viene conservato: rimettere il file al suo posto.</source>
+        <translation>%1 Daneben liegt noch das Journal ihrer letzten Änderungen, „%2“, das aufbewahrt wird: die Datei an ihren Platz zurücklegen.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; supera la dimensione massima di un database, 2 GB.</source>
+        <translation>Die Datei „%1“ überschreitet die maximale Größe einer Datenbank, 2 GB.</translation>
+    </message>
+    <message>
+        <source>la lunghezza del file non è quella di un database</source>
+        <translation>die Länge der Datei ist nicht die einer Datenbank</translation>
+    </message>
+    <message>
+        <source>manca la pagina %1</source>
+        <translation>Seite %1 fehlt</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è troncata</source>
+        <translation>Seite %1 ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato Access 2000-2003 (.mdb).</source>
+        <translation>Die Datenbank „%1“ ist von Access 97: Sie kann gelesen, aber nicht geändert werden. Zum Ändern in das Format Access 2000-2003 (.mdb) umwandeln.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di sola lettura.</source>
+        <translation>Die Datenbank „%1“ ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>Una transazione è già in corso.</source>
+        <translation>Es läuft schon eine Transaktion.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; viene sostituito di continuo da un altro programma.</source>
+        <translation>Die Datenbank „%1“ wird von einem anderen Programm ständig ersetzt.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; va ripristinato dopo un&apos;interruzione, ma non può essere scritto.</source>
+        <translation>Die Datenbank „%1“ muss nach einer Unterbrechung wiederhergestellt werden, kann aber nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è stato sostituito o cancellato: la modifica non è stata fatta.</source>
+        <translation>Die Datenbank „%1“ wurde ersetzt oder gelöscht: Die Änderung wurde nicht vorgenommen.</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è fra quelle libere di una tabella a cui non appartiene</source>
+        <translation>Seite %1 zählt zu den freien einer Tabelle, zu der sie nicht gehört</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; non è leggibile</source>
+        <translation>eine Zeile von „%1“ ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Il record è troppo grande per la tabella &quot;%1&quot; (%2 byte; al massimo %3).</source>
+        <translation>Der Datensatz ist zu groß für die Tabelle „%1“ (%2 Byte; höchstens %3).</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non appartiene alla tabella &quot;%2&quot;</source>
+        <translation>Seite %1 gehört nicht zur Tabelle „%2“</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 non dice dove è</source>
+        <translation>Zeile %1 der Seite %2 sagt nicht, wo sie ist</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 si è persa</source>
+        <translation>Zeile %1 der Seite %2 ist verloren</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; è sparita</source>
+        <translation>eine Zeile von „%1“ ist verschwunden</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è in uso ed è segnata come libera</source>
+        <translation>Seite %1 wird benutzt und ist als frei markiert</translation>
+    </message>
+    <message>
+        <source>un indice gira in tondo</source>
+        <translation>ein Index läuft im Kreis</translation>
+    </message>
+    <message>
+        <source>La struttura della tabella &quot;%1&quot; è stata cambiata da un altro programma.</source>
+        <translation>Der Aufbau der Tabelle „%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha una chiave primaria numerica.</source>
+        <translation>Die Tabelle „%1“ hat keinen numerischen Primärschlüssel.</translation>
+    </message>
+    <message>
+        <source>nell&apos;indice &quot;%1&quot; manca una riga</source>
+        <translation>im Index „%1“ fehlt eine Zeile</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non è quello dei campi della tabella &quot;%1&quot;.</source>
+        <translation>Die Anzahl der Werte ist nicht die der Felder der Tabelle „%1“.</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore</source>
+        <translation>das Feld „%1“ ist ein Zähler</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 non è leggibile</source>
+        <translation>die Seitenkarte %1/%2 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 comincia oltre il file</source>
+        <translation>die Seitenkarte %1/%2 beginnt hinter dem Dateiende</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è una mappa</source>
+        <translation>Seite %1 ist keine Seitenkarte</translation>
+    </message>
+    <message>
+        <source>Una mappa delle pagine del database non può crescere oltre.</source>
+        <translation>Eine Seitenkarte der Datenbank kann nicht weiter wachsen.</translation>
+    </message>
+    <message>
+        <source>Il numero è troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>Die Zahl ist zu groß für das Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; è troppo piccolo per il testo (al massimo %2 caratteri).</source>
+        <translation>Das Feld „%1“ ist zu klein für den Text (höchstens %2 Zeichen).</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene caratteri che il database non può conservare.</source>
+        <translation>Der Text des Feldes „%1“ enthält Zeichen, die die Datenbank nicht speichern kann.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere %2 byte.</source>
+        <translation>Das Feld „%1“ kann keine %2 Byte enthalten.</translation>
+    </message>
+    <message>
+        <source>contiene un oggetto OLE</source>
+        <translation>enthält ein OLE-Objekt</translation>
+    </message>
+    <message>
+        <source>è un testo di lunghezza fissa</source>
+        <translation>ist ein Text fester Länge</translation>
+    </message>
+    <message>
+        <source>è di un tipo sconosciuto (%1)</source>
+        <translation>ist von unbekanntem Typ (%1)</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; %2: non può essere modificato.</source>
+        <translation>Das Feld „%1“ %2: Es kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>l&apos;indice &quot;%1&quot; (%2) non può essere aggiornato, perché %3</source>
+        <translation>der Index „%1“ (%2) kann nicht aktualisiert werden, denn %3</translation>
+    </message>
+    <message>
+        <source>le sue voci non corrispondono alle righe della tabella</source>
+        <translation>seine Einträge stimmen nicht mit den Zeilen der Tabelle überein</translation>
+    </message>
+    <message>
+        <source>la forma delle sue chiavi decrescenti non è certa</source>
+        <translation>die Form seiner absteigenden Schlüssel ist nicht sicher</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere modificata: %2.</source>
+        <translation>Die Tabelle „%1“ kann nicht geändert werden: %2.</translation>
+    </message>
+    <message>
+        <source>è una tabella di sistema</source>
+        <translation>sie ist eine Systemtabelle</translation>
+    </message>
+    <message>
+        <source>ha una relazione con un&apos;altra tabella</source>
+        <translation>sie hat eine Beziehung zu einer anderen Tabelle</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; %2</source>
+        <translation>das Feld „%1“ %2</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore di tipo GUID</source>
+        <translation>das Feld „%1“ ist ein Zähler vom Typ GUID</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; deve contenere un valore.</source>
+        <translation>Das Feld „%1“ muss einen Wert enthalten.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere un testo vuoto.</source>
+        <translation>Das Feld „%1“ kann keinen leeren Text enthalten.</translation>
+    </message>
+    <message>
+        <source>I campi dell&apos;indice &quot;%1&quot; (%2) devono contenere un valore.</source>
+        <translation>Die Felder des Index „%1“ (%2) müssen einen Wert enthalten.</translation>
+    </message>
+    <message>
+        <source>Il valore di &quot;%1&quot; esiste già e l&apos;indice &quot;%2&quot; non ammette duplicati.</source>
+        <translation>Der Wert von „%1“ existiert schon, und der Index „%2“ erlaubt keine Duplikate.</translation>
     </message>
 </context>
 </TS>

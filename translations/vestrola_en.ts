@@ -2917,5 +2917,1017 @@ Imported %3, refused %4.</translation>
         <source>Impossibile aprire </source>
         <translation>Cannot open </translation>
     </message>
+    <message>
+        <source>Un comando non può eseguire una SELECT.</source>
+        <translation>A command cannot run a SELECT.</translation>
+    </message>
+    <message>
+        <source>Tempo scaduto.</source>
+        <translation>Time expired.</translation>
+    </message>
+    <message>
+        <source>Formato della stringa di connessione non valido.</source>
+        <translation>Invalid format of the connection string.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il provider &quot;%1&quot;.</source>
+        <translation>The provider &quot;%1&quot; cannot be found.</translation>
+    </message>
+    <message>
+        <source>Nessun file di database indicato.</source>
+        <translation>No database file is stated.</translation>
+    </message>
+    <message>
+        <source>Tipo di dati non corrispondente nel campo &quot;%1&quot;.</source>
+        <translation>Data type mismatch in the field &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Valore troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>The value is too large for the field &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una INSERT di valori.</source>
+        <translation>The statement is not an INSERT of values.</translation>
+    </message>
+    <message>
+        <source>L&apos;identità di un record non può essere scelta.</source>
+        <translation>The identity of a record cannot be chosen.</translation>
+    </message>
+    <message>
+        <source>Il record è stato eliminato.</source>
+        <translation>The record was deleted.</translation>
+    </message>
+    <message>
+        <source>Nessun record corrente.</source>
+        <translation>No current record.</translation>
+    </message>
+    <message>
+        <source>Operazione non consentita se l&apos;oggetto è chiuso.</source>
+        <translation>Operation not allowed when the object is closed.</translation>
+    </message>
+    <message>
+        <source>Il recordset corrente non supporta l&apos;aggiornamento.</source>
+        <translation>The current recordset does not support updating.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il campo &quot;%1&quot;.</source>
+        <translation>The field &quot;%1&quot; cannot be found.</translation>
+    </message>
+    <message>
+        <source>L&apos;origine di un recordset deve essere una SELECT.</source>
+        <translation>The source of a recordset must be a SELECT.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: una riga ha perso il suo posto.</source>
+        <translation>Internal error of the database: a row has lost its place.</translation>
+    </message>
+    <message>
+        <source>Impossibile avviare il motore SQL.</source>
+        <translation>The SQL engine cannot be started.</translation>
+    </message>
+    <message>
+        <source>La struttura del database è stata modificata.</source>
+        <translation>The structure of the database has changed.</translation>
+    </message>
+    <message>
+        <source>Un&apos;altra istruzione è in attesa del database.</source>
+        <translation>Another statement is waiting for the database.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL vicino a &quot;%1&quot;.</source>
+        <translation>Syntax error in the SQL statement near &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non corrisponde al numero dei campi di destinazione.</source>
+        <translation>The number of values does not match the number of target fields.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa.</source>
+        <translation>SQL statement not allowed.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non valida.</source>
+        <translation>Invalid SQL statement.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è riservata al sistema.</source>
+        <translation>The table &quot;%1&quot; is reserved for the system.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere usata nelle istruzioni SQL.</source>
+        <translation>The table &quot;%1&quot; cannot be used in SQL statements.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una SELECT.</source>
+        <translation>The statement is not a SELECT.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione deve leggere tutte le colonne di una tabella.</source>
+        <translation>The statement must read all columns of a table.</translation>
+    </message>
+    <message>
+        <source>Il record è troppo lungo.</source>
+        <translation>The record is too long.</translation>
+    </message>
+    <message>
+        <source>Troppi record per essere mostrati.</source>
+        <translation>Too many records to be shown.</translation>
+    </message>
+    <message>
+        <source>carattere nullo</source>
+        <translation>null character</translation>
+    </message>
+    <message>
+        <source>commento</source>
+        <translation>comment</translation>
+    </message>
+    <message>
+        <source>parametro</source>
+        <translation>parameter</translation>
+    </message>
+    <message>
+        <source>virgolette fuori da un testo</source>
+        <translation>quotation marks outside a text</translation>
+    </message>
+    <message>
+        <source>manca un apice di chiusura</source>
+        <translation>a closing apostrophe is missing</translation>
+    </message>
+    <message>
+        <source>manca una parentesi quadra di chiusura</source>
+        <translation>a closing square bracket is missing</translation>
+    </message>
+    <message>
+        <source>manca un cancelletto di chiusura</source>
+        <translation>a closing number sign is missing</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa: %1.</source>
+        <translation>SQL statement not allowed: %1.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL: %1.</source>
+        <translation>Syntax error in the SQL statement: %1.</translation>
+    </message>
+    <message>
+        <source>forma non prevista</source>
+        <translation>unexpected form</translation>
+    </message>
+    <message>
+        <source>i valori da inserire non sono leggibili</source>
+        <translation>the values to insert cannot be read</translation>
+    </message>
+    <message>
+        <source>la data #%1# non è valida</source>
+        <translation>the date #%1# is not valid</translation>
+    </message>
+    <message>
+        <source>testo troppo lungo</source>
+        <translation>text too long</translation>
+    </message>
+    <message>
+        <source>più di una istruzione</source>
+        <translation>more than one statement</translation>
+    </message>
+    <message>
+        <source>istruzione vuota</source>
+        <translation>empty statement</translation>
+    </message>
+    <message>
+        <source>Il disco è pieno: il file &quot;%1&quot; non trova posto.</source>
+        <translation>The disk is full: there is no room for the file &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;.</source>
+        <translation>The file &quot;%1&quot; cannot be opened.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo di posta elettronica non è valido.</source>
+        <translation>The email address is not valid.</translation>
+    </message>
+    <message>
+        <source>L&apos;allegato %1 %2.</source>
+        <translation>The attachment %1 %2.</translation>
+    </message>
+    <message>
+        <source>non esiste</source>
+        <translation>does not exist</translation>
+    </message>
+    <message>
+        <source>è troppo grande</source>
+        <translation>is too large</translation>
+    </message>
+    <message>
+        <source>Il nome utente contiene un carattere non ammesso.</source>
+        <translation>The user name contains a character that is not allowed.</translation>
+    </message>
+    <message>
+        <source>non si può leggere</source>
+        <translation>cannot be read</translation>
+    </message>
+    <message>
+        <source>non è il file che è stato confermato</source>
+        <translation>is not the file that was confirmed</translation>
+    </message>
+    <message>
+        <source>Invio interrotto.</source>
+        <translation>Sending interrupted.</translation>
+    </message>
+    <message>
+        <source>Risposta in ritardo al messaggio di prima</source>
+        <translation>Late reply to the previous message</translation>
+    </message>
+    <message>
+        <source>Il destinatario non è stato letto: nessun invio.</source>
+        <translation>The recipient was not read: nothing is sent.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio è stato fermato: nessun invio fino al prossimo avvio.</source>
+        <translation>Sending was stopped: nothing is sent until the next start.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo del destinatario non è stato letto: nessun invio.</source>
+        <translation>The recipient&apos;s address was not read: nothing is sent.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato in questo invio.</source>
+        <translation>The message for this recipient was already accepted in this run.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato.</source>
+        <translation>The message for this recipient was already accepted.</translation>
+    </message>
+    <message>
+        <source>Non c&apos;è più spazio per ricordare i messaggi accettati.</source>
+        <translation>There is no more room to remember the accepted messages.</translation>
+    </message>
+    <message>
+        <source>Il destinatario è stato selezionato di nuovo.</source>
+        <translation>The recipient was selected again.</translation>
+    </message>
+    <message>
+        <source>Il file %1 esiste già.</source>
+        <translation>The file %1 already exists.</translation>
+    </message>
+    <message>
+        <source>Non è possibile scrivere il file %1.</source>
+        <translation>The file %1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>La chiave non si può leggere.</source>
+        <translation>The key cannot be read.</translation>
+    </message>
+    <message>
+        <source>Il dominio non è valido.</source>
+        <translation>The domain is not valid.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.</source>
+        <translation>The domain already has a key or a selector: %1.pem, %1.selector.</translation>
+    </message>
+    <message>
+        <source>Non è possibile creare la cartella %1.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>La creazione della chiave non è riuscita.</source>
+        <translation>The key could not be created.</translation>
+    </message>
+    <message>
+        <source>Messaggio non firmato (DKIM): %1.</source>
+        <translation>Message not signed (DKIM): %1.</translation>
+    </message>
+    <message>
+        <source>il selettore manca o non è valido</source>
+        <translation>the selector is missing or not valid</translation>
+    </message>
+    <message>
+        <source>la chiave manca o non è una chiave RSA</source>
+        <translation>the key is missing or is no RSA key</translation>
+    </message>
+    <message>
+        <source>la chiave ha meno di %1 bit</source>
+        <translation>the key has fewer than %1 bits</translation>
+    </message>
+    <message>
+        <source>la firma non è riuscita</source>
+        <translation>the signing failed</translation>
+    </message>
+    <message>
+        <source>Il server non ha completato l&apos;autenticazione.</source>
+        <translation>The server did not complete the authentication.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta il consenso di OAuth 2.0 per l&apos;utente %1: %2</source>
+        <translation>The server does not accept the OAuth 2.0 consent for the user %1: %2</translation>
+    </message>
+    <message>
+        <source>La password non viene inviata in chiaro a %1, che non offre una connessione TLS. Per inviarla ugualmente scrivere il nome del server nel file %2.</source>
+        <translation>The password is not sent in the clear to %1, which offers no TLS connection. To send it all the same, write the name of the server into the file %2.</translation>
+    </message>
+    <message>
+        <source>Il server non offre l&apos;accesso con OAuth 2.0.</source>
+        <translation>The server does not offer login by OAuth 2.0.</translation>
+    </message>
+    <message>
+        <source>Il server non offre un metodo di autenticazione conosciuto.</source>
+        <translation>The server offers no known method of authentication.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può eliminare.</source>
+        <translation>The file &quot;%1&quot; cannot be deleted.</translation>
+    </message>
+    <message>
+        <source>La cartella &quot;%1&quot; non si può creare.</source>
+        <translation>The folder &quot;%1&quot; cannot be created.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può scrivere: %2</source>
+        <translation>The file &quot;%1&quot; cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>Autenticazione non riuscita: %1</source>
+        <translation>Authentication failed: %1</translation>
+    </message>
+    <message>
+        <source>Il nome utente o la password contengono un carattere non ammesso.</source>
+        <translation>The user name or the password contains a character that is not allowed.</translation>
+    </message>
+    <message>
+        <source>Il server rifiuta il messaggio per le sue regole</source>
+        <translation>The server refuses the message because of its rules</translation>
+    </message>
+    <message>
+        <source>Il server limita il numero o la frequenza degli invii</source>
+        <translation>The server limits the number or the rate of messages</translation>
+    </message>
+    <message>
+        <source>Il server considera il messaggio posta indesiderata (spam)</source>
+        <translation>The server considers the message unsolicited mail (spam)</translation>
+    </message>
+    <message>
+        <source>%1, per ora, codice %2: %3</source>
+        <translation>%1, for now, code %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, codice %2: %3</source>
+        <translation>%1, code %2: %3</translation>
+    </message>
+    <message>
+        <source>Server %1 non trovato.</source>
+        <translation>Server %1 not found.</translation>
+    </message>
+    <message>
+        <source>Connessione rifiutata da %1, porta %2.</source>
+        <translation>Connection refused by %1, port %2.</translation>
+    </message>
+    <message>
+        <source>Il server ha chiuso la connessione.</source>
+        <translation>The server has closed the connection.</translation>
+    </message>
+    <message>
+        <source>Errore di rete: %1</source>
+        <translation>Network error: %1</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non ha un server di posta.</source>
+        <translation>The recipient&apos;s domain has no mail server.</translation>
+    </message>
+    <message>
+        <source>Risposta del server non valida: %1</source>
+        <translation>Invalid reply of the server: %1</translation>
+    </message>
+    <message>
+        <source>Risposta del server inattesa: %1 %2</source>
+        <translation>Unexpected reply of the server: %1 %2</translation>
+    </message>
+    <message>
+        <source>Il server non offre più la connessione TLS, che ha offerto in passato. Per dimenticarlo cancellare la sua riga dal file %1.</source>
+        <translation>The server no longer offers the TLS connection that it offered in the past. To forget about that, delete its line in the file %1.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta indirizzi con caratteri internazionali.</source>
+        <translation>The server does not accept addresses with international characters.</translation>
+    </message>
+    <message>
+        <source>il certificato è autofirmato</source>
+        <translation>the certificate is self-signed</translation>
+    </message>
+    <message>
+        <source>il certificato è scaduto</source>
+        <translation>the certificate has expired</translation>
+    </message>
+    <message>
+        <source>il certificato non è ancora valido</source>
+        <translation>the certificate is not valid yet</translation>
+    </message>
+    <message>
+        <source>il certificato è di un altro server</source>
+        <translation>the certificate belongs to another server</translation>
+    </message>
+    <message>
+        <source>l&apos;autorità che ha emesso il certificato non è attendibile</source>
+        <translation>the authority that issued the certificate is not trusted</translation>
+    </message>
+    <message>
+        <source>Il server ha aggiunto testo in chiaro alla risposta a STARTTLS.</source>
+        <translation>The server added text in the clear to its reply to STARTTLS.</translation>
+    </message>
+    <message>
+        <source>in chiaro</source>
+        <translation>in the clear</translation>
+    </message>
+    <message>
+        <source>%1, %2, certificato %3</source>
+        <translation>%1, %2, certificate %3</translation>
+    </message>
+    <message>
+        <source>non verificato</source>
+        <translation>not verified</translation>
+    </message>
+    <message>
+        <source>valido</source>
+        <translation>valid</translation>
+    </message>
+    <message>
+        <source>Connessione TLS non riuscita: %1.</source>
+        <translation>TLS connection failed: %1.</translation>
+    </message>
+    <message>
+        <source>Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta da TLS con un certificato valido.</source>
+        <translation>The OAuth 2.0 token is not sent to %1: the connection is not protected by TLS with a valid certificate.</translation>
+    </message>
+    <message>
+        <source>Uso non valido di Null.</source>
+        <translation>Invalid use of Null.</translation>
+    </message>
+    <message>
+        <source>Tipo non corrispondente.</source>
+        <translation>Type mismatch.</translation>
+    </message>
+    <message>
+        <source>Overflow.</source>
+        <translation>Overflow.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha un contatore.</source>
+        <translation>The table &quot;%1&quot; has no counter.</translation>
+    </message>
+    <message>
+        <source>Il contatore della tabella &quot;%1&quot; è esaurito.</source>
+        <translation>The counter of the table &quot;%1&quot; is exhausted.</translation>
+    </message>
+    <message>
+        <source>il catalogo non è leggibile</source>
+        <translation>the catalogue cannot be read</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non contiene righe</source>
+        <translation>page %1 contains no rows</translation>
+    </message>
+    <message>
+        <source>la pagina %1 ha troppe righe</source>
+        <translation>page %1 has too many rows</translation>
+    </message>
+    <message>
+        <source>le righe della pagina %1 si sovrappongono</source>
+        <translation>the rows of page %1 overlap</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 è fuori posto</source>
+        <translation>row %1 of page %2 is out of place</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non ha posto</source>
+        <translation>page %1 has no room</translation>
+    </message>
+    <message>
+        <source>Password non valida.</source>
+        <translation>Invalid password.</translation>
+    </message>
+    <message>
+        <source>il file &quot;%1&quot; è troncato</source>
+        <translation>the file &quot;%1&quot; is truncated</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è collegata a un altro file.</source>
+        <translation>The table &quot;%1&quot; is linked to another file.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è una query, non una tabella.</source>
+        <translation>&quot;%1&quot; is a query, not a table.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare la tabella &quot;%1&quot;.</source>
+        <translation>The table &quot;%1&quot; cannot be found.</translation>
+    </message>
+    <message>
+        <source>Nessuna transazione è in corso.</source>
+        <translation>No transaction is in progress.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere nella cartella di &quot;%1&quot;.</source>
+        <translation>The folder of &quot;%1&quot; cannot be written to.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>The file &quot;%1&quot; is in use by another program.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è il database aperto.</source>
+        <translation>&quot;%1&quot; is the open database.</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 è incompleta</source>
+        <translation>the table definition on page %1 is incomplete</translation>
+    </message>
+    <message>
+        <source>un nome nella definizione della tabella a pagina %1 non è valido</source>
+        <translation>a name in the table definition on page %1 is not valid</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 ha due campi con il nome &quot;%2&quot;</source>
+        <translation>the table definition on page %1 has two fields with the name &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è la definizione di una tabella</source>
+        <translation>page %1 is not a table definition</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non finisce</source>
+        <translation>the table definition on page %1 does not end</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non è leggibile</source>
+        <translation>the table definition on page %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>un campo della tabella a pagina %1 non ha posto nelle righe</source>
+        <translation>a field of the table on page %1 has no place in the rows</translation>
+    </message>
+    <message>
+        <source>un indice della tabella a pagina %1 non esiste</source>
+        <translation>an index of the table on page %1 does not exist</translation>
+    </message>
+    <message>
+        <source>disco pieno</source>
+        <translation>disk full</translation>
+    </message>
+    <message>
+        <source>lo spazio concesso all&apos;utente sul disco è esaurito</source>
+        <translation>the user&apos;s disk quota is exhausted</translation>
+    </message>
+    <message>
+        <source>il disco è di sola lettura</source>
+        <translation>the disk is read-only</translation>
+    </message>
+    <message>
+        <source>permesso negato</source>
+        <translation>permission denied</translation>
+    </message>
+    <message>
+        <source>il disco non riesce a leggere o scrivere</source>
+        <translation>the disk cannot read or write</translation>
+    </message>
+    <message>
+        <source>il file supera la dimensione concessa</source>
+        <translation>the file exceeds the permitted size</translation>
+    </message>
+    <message>
+        <source>il nome è un collegamento</source>
+        <translation>the name is a link</translation>
+    </message>
+    <message>
+        <source>il file esiste già</source>
+        <translation>the file already exists</translation>
+    </message>
+    <message>
+        <source>è una cartella</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>il file o la cartella non esiste</source>
+        <translation>the file or folder does not exist</translation>
+    </message>
+    <message>
+        <source>il nome è troppo lungo</source>
+        <translation>the name is too long</translation>
+    </message>
+    <message>
+        <source>troppi file aperti</source>
+        <translation>too many open files</translation>
+    </message>
+    <message>
+        <source>memoria esaurita</source>
+        <translation>out of memory</translation>
+    </message>
+    <message>
+        <source>il disco non conosce questa operazione</source>
+        <translation>the disk does not support this operation</translation>
+    </message>
+    <message>
+        <source>il disco non è più raggiungibile</source>
+        <translation>the disk can no longer be reached</translation>
+    </message>
+    <message>
+        <source>il file è in uso</source>
+        <translation>the file is in use</translation>
+    </message>
+    <message>
+        <source>errore di sistema %1</source>
+        <translation>system error %1</translation>
+    </message>
+    <message>
+        <source>Errore del disco (%1) sul file &quot;%2&quot;: %3.</source>
+        <translation>Disk error (%1) on the file &quot;%2&quot;: %3.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il file &quot;%1&quot;.</source>
+        <translation>The file &quot;%1&quot; cannot be found.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;: %2.</source>
+        <translation>The file &quot;%1&quot; cannot be opened: %2.</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono descritte male</source>
+        <translation>the new tables are described wrongly</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono troppe</source>
+        <translation>there are too many new tables</translation>
+    </message>
+    <message>
+        <source>una tabella nuova ha troppe colonne</source>
+        <translation>a new table has too many columns</translation>
+    </message>
+    <message>
+        <source>un nome non ha chiave</source>
+        <translation>a name has no key</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; esiste già.</source>
+        <translation>The file &quot;%1&quot; already exists.</translation>
+    </message>
+    <message>
+        <source>Il database è danneggiato: %1.</source>
+        <translation>The database is damaged: %1.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: %1.</source>
+        <translation>Internal error of the database: %1.</translation>
+    </message>
+    <message>
+        <source>Il database ha raggiunto la dimensione massima di 2 GB.</source>
+        <translation>The database has reached the maximum size of 2 GB.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>The database &quot;%1&quot; is in use by another program.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è aperto in un altro programma (%2): non può essere modificato.</source>
+        <translation>The database &quot;%1&quot; is open in another program (%2): it cannot be changed.</translation>
+    </message>
+    <message>
+        <source>Formato di database non riconosciuto: %1.</source>
+        <translation>Unknown database format: %1.</translation>
+    </message>
+    <message>
+        <source>il file non è un database Jet</source>
+        <translation>the file is not a Jet database</translation>
+    </message>
+    <message>
+        <source>è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)</source>
+        <translation>it is an .accdb file of Access 2007 or later; save it in the format Access 2000-2003 (.mdb)</translation>
+    </message>
+    <message>
+        <source>è di una versione più recente di Access 2003</source>
+        <translation>it is of a later version than Access 2003</translation>
+    </message>
+    <message>
+        <source>il file è troncato</source>
+        <translation>the file is truncated</translation>
+    </message>
+    <message>
+        <source>è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)</source>
+        <translation>it is an Access 97 file with a code page other than the Western one (1252)</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non è leggibile</source>
+        <translation>index page %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 è troppo piena</source>
+        <translation>index page %1 is too full</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non ha un ultimo ramo</source>
+        <translation>index page %1 has no last branch</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; gira in tondo</source>
+        <translation>an index of &quot;%1&quot; runs in a circle</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; contiene già la riga</source>
+        <translation>an index of &quot;%1&quot; already contains the row</translation>
+    </message>
+    <message>
+        <source>Le voci di un indice del database sono troppo lunghe per essere divise.</source>
+        <translation>The entries of an index of the database are too long to be split.</translation>
+    </message>
+    <message>
+        <source>la definizione di una tabella è incompleta</source>
+        <translation>a table definition is incomplete</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il database. Il database non viene aperto finché il file resta al suo posto.</source>
+        <translation>The file &quot;%1&quot; is not a journal of this database: it is a link, or belongs to somebody who cannot write the database. The database is not opened while the file stays in its place.</translation>
+    </message>
+    <message>
+        <source>Troppi file &quot;%1&quot;.</source>
+        <translation>Too many files &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Accanto al database c&apos;era un giornale di modifiche interrotte che non gli appartiene. Il database resta com&apos;è; il giornale è stato messo da parte come &quot;%1&quot;.</source>
+        <translation>Beside the database there was a journal of interrupted changes that does not belong to it. The database stays as it is; the journal was set aside as &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>lettura</source>
+        <translation>reading</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; nomina un campo che non c&apos;è</source>
+        <translation>an index of &quot;%1&quot; names a field that is not there</translation>
+    </message>
+    <message>
+        <source>un valore del campo &quot;%1&quot; è troppo corto</source>
+        <translation>a value of the field &quot;%1&quot; is too short</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; non ha l&apos;ordinamento generale</source>
+        <translation>the field &quot;%1&quot; does not have the general sort order</translation>
+    </message>
+    <message>
+        <source>il tipo del campo &quot;%1&quot; non è adatto a un indice</source>
+        <translation>the type of the field &quot;%1&quot; is not fit for an index</translation>
+    </message>
+    <message>
+        <source>non è su alcun campo</source>
+        <translation>it is on no field</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene il carattere %2, che non può stare nell&apos;indice &quot;%3&quot;.</source>
+        <translation>The text of the field &quot;%1&quot; contains the character %2, which cannot be in the index &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>I valori sono troppo lunghi per l&apos;indice &quot;%1&quot;.</source>
+        <translation>The values are too long for the index &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>un campo memo non è leggibile</source>
+        <translation>a memo field cannot be read</translation>
+    </message>
+    <message>
+        <source>Il database non ha posto per i testi lunghi di un campo memo.</source>
+        <translation>The database has no room for the long texts of a memo field.</translation>
+    </message>
+    <message>
+        <source>scrittura</source>
+        <translation>writing</translation>
+    </message>
+    <message>
+        <source>creazione</source>
+        <translation>creating</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; non è un file.</source>
+        <translation>&quot;%1&quot; is not a file.</translation>
+    </message>
+    <message>
+        <source>accorciamento</source>
+        <translation>shortening</translation>
+    </message>
+    <message>
+        <source>prenotazione</source>
+        <translation>reserving</translation>
+    </message>
+    <message>
+        <source>sincronizzazione</source>
+        <translation>synchronizing</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; può essere letto o scritto da chi non può farlo con &quot;%2&quot;.</source>
+        <translation>The file &quot;%1&quot; can be read or written by those who cannot do so with &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>blocco</source>
+        <translation>locking</translation>
+    </message>
+    <message>
+        <source>cancellazione</source>
+        <translation>deleting</translation>
+    </message>
+    <message>
+        <source>cambio di nome</source>
+        <translation>renaming</translation>
+    </message>
+    <message>
+        <source>%1 Accanto è rimasto il giornale delle sue ultime modifiche, &quot;%2&quot;, che viene conservato: rimettere il file al suo posto.</source>
+        <translation>%1 The journal of its latest changes, &quot;%2&quot;, was left beside it and is kept: put the file back in its place.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; supera la dimensione massima di un database, 2 GB.</source>
+        <translation>The file &quot;%1&quot; exceeds the maximum size of a database, 2 GB.</translation>
+    </message>
+    <message>
+        <source>la lunghezza del file non è quella di un database</source>
+        <translation>the length of the file is not that of a database</translation>
+    </message>
+    <message>
+        <source>manca la pagina %1</source>
+        <translation>page %1 is missing</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è troncata</source>
+        <translation>page %1 is truncated</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato Access 2000-2003 (.mdb).</source>
+        <translation>The database &quot;%1&quot; is of Access 97: it can be read but not changed. To change it, convert it to the format Access 2000-2003 (.mdb).</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di sola lettura.</source>
+        <translation>The database &quot;%1&quot; is read-only.</translation>
+    </message>
+    <message>
+        <source>Una transazione è già in corso.</source>
+        <translation>A transaction is already in progress.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; viene sostituito di continuo da un altro programma.</source>
+        <translation>The database &quot;%1&quot; keeps being replaced by another program.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; va ripristinato dopo un&apos;interruzione, ma non può essere scritto.</source>
+        <translation>The database &quot;%1&quot; has to be restored after an interruption, but cannot be written.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è stato sostituito o cancellato: la modifica non è stata fatta.</source>
+        <translation>The database &quot;%1&quot; was replaced or deleted: the change was not made.</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è fra quelle libere di una tabella a cui non appartiene</source>
+        <translation>page %1 is among the free pages of a table to which it does not belong</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; non è leggibile</source>
+        <translation>a row of &quot;%1&quot; cannot be read</translation>
+    </message>
+    <message>
+        <source>Il record è troppo grande per la tabella &quot;%1&quot; (%2 byte; al massimo %3).</source>
+        <translation>The record is too large for the table &quot;%1&quot; (%2 bytes; at most %3).</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non appartiene alla tabella &quot;%2&quot;</source>
+        <translation>page %1 does not belong to the table &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 non dice dove è</source>
+        <translation>row %1 of page %2 does not say where it is</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 si è persa</source>
+        <translation>row %1 of page %2 is lost</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; è sparita</source>
+        <translation>a row of &quot;%1&quot; has disappeared</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è in uso ed è segnata come libera</source>
+        <translation>page %1 is in use and is marked as free</translation>
+    </message>
+    <message>
+        <source>un indice gira in tondo</source>
+        <translation>an index runs in a circle</translation>
+    </message>
+    <message>
+        <source>La struttura della tabella &quot;%1&quot; è stata cambiata da un altro programma.</source>
+        <translation>The structure of the table &quot;%1&quot; was changed by another program.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha una chiave primaria numerica.</source>
+        <translation>The table &quot;%1&quot; has no numeric primary key.</translation>
+    </message>
+    <message>
+        <source>nell&apos;indice &quot;%1&quot; manca una riga</source>
+        <translation>a row is missing in the index &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non è quello dei campi della tabella &quot;%1&quot;.</source>
+        <translation>The number of values is not that of the fields of the table &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore</source>
+        <translation>the field &quot;%1&quot; is a counter</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 non è leggibile</source>
+        <translation>the page map %1/%2 cannot be read</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 comincia oltre il file</source>
+        <translation>the page map %1/%2 begins beyond the file</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è una mappa</source>
+        <translation>page %1 is not a map</translation>
+    </message>
+    <message>
+        <source>Una mappa delle pagine del database non può crescere oltre.</source>
+        <translation>A page map of the database cannot grow any further.</translation>
+    </message>
+    <message>
+        <source>Il numero è troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>The number is too large for the field &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; è troppo piccolo per il testo (al massimo %2 caratteri).</source>
+        <translation>The field &quot;%1&quot; is too small for the text (at most %2 characters).</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene caratteri che il database non può conservare.</source>
+        <translation>The text of the field &quot;%1&quot; contains characters that the database cannot keep.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere %2 byte.</source>
+        <translation>The field &quot;%1&quot; cannot contain %2 bytes.</translation>
+    </message>
+    <message>
+        <source>contiene un oggetto OLE</source>
+        <translation>contains an OLE object</translation>
+    </message>
+    <message>
+        <source>è un testo di lunghezza fissa</source>
+        <translation>is a text of fixed length</translation>
+    </message>
+    <message>
+        <source>è di un tipo sconosciuto (%1)</source>
+        <translation>is of an unknown type (%1)</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; %2: non può essere modificato.</source>
+        <translation>The field &quot;%1&quot; %2: it cannot be changed.</translation>
+    </message>
+    <message>
+        <source>l&apos;indice &quot;%1&quot; (%2) non può essere aggiornato, perché %3</source>
+        <translation>the index &quot;%1&quot; (%2) cannot be updated, because %3</translation>
+    </message>
+    <message>
+        <source>le sue voci non corrispondono alle righe della tabella</source>
+        <translation>its entries do not match the rows of the table</translation>
+    </message>
+    <message>
+        <source>la forma delle sue chiavi decrescenti non è certa</source>
+        <translation>the form of its descending keys is not certain</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere modificata: %2.</source>
+        <translation>The table &quot;%1&quot; cannot be changed: %2.</translation>
+    </message>
+    <message>
+        <source>è una tabella di sistema</source>
+        <translation>it is a system table</translation>
+    </message>
+    <message>
+        <source>ha una relazione con un&apos;altra tabella</source>
+        <translation>it has a relationship with another table</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; %2</source>
+        <translation>the field &quot;%1&quot; %2</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore di tipo GUID</source>
+        <translation>the field &quot;%1&quot; is a counter of type GUID</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; deve contenere un valore.</source>
+        <translation>The field &quot;%1&quot; must contain a value.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere un testo vuoto.</source>
+        <translation>The field &quot;%1&quot; cannot contain an empty text.</translation>
+    </message>
+    <message>
+        <source>I campi dell&apos;indice &quot;%1&quot; (%2) devono contenere un valore.</source>
+        <translation>The fields of the index &quot;%1&quot; (%2) must contain a value.</translation>
+    </message>
+    <message>
+        <source>Il valore di &quot;%1&quot; esiste già e l&apos;indice &quot;%2&quot; non ammette duplicati.</source>
+        <translation>The value of &quot;%1&quot; already exists and the index &quot;%2&quot; does not allow duplicates.</translation>
+    </message>
 </context>
 </TS>

@@ -2917,5 +2917,1017 @@ Importadas %3, rechazadas %4.</translation>
         <source>Impossibile aprire </source>
         <translation>No se puede abrir </translation>
     </message>
+    <message>
+        <source>Un comando non può eseguire una SELECT.</source>
+        <translation>Un comando no puede ejecutar una SELECT.</translation>
+    </message>
+    <message>
+        <source>Tempo scaduto.</source>
+        <translation>Tiempo agotado.</translation>
+    </message>
+    <message>
+        <source>Formato della stringa di connessione non valido.</source>
+        <translation>Formato de la cadena de conexión no válido.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il provider &quot;%1&quot;.</source>
+        <translation>No se encuentra el proveedor &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Nessun file di database indicato.</source>
+        <translation>No se ha indicado ningún archivo de base de datos.</translation>
+    </message>
+    <message>
+        <source>Tipo di dati non corrispondente nel campo &quot;%1&quot;.</source>
+        <translation>El tipo de datos no corresponde en el campo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Valore troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>El valor es demasiado grande para el campo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una INSERT di valori.</source>
+        <translation>La instrucción no es una INSERT de valores.</translation>
+    </message>
+    <message>
+        <source>L&apos;identità di un record non può essere scelta.</source>
+        <translation>No se puede elegir la identidad de un registro.</translation>
+    </message>
+    <message>
+        <source>Il record è stato eliminato.</source>
+        <translation>El registro se ha eliminado.</translation>
+    </message>
+    <message>
+        <source>Nessun record corrente.</source>
+        <translation>No hay registro actual.</translation>
+    </message>
+    <message>
+        <source>Operazione non consentita se l&apos;oggetto è chiuso.</source>
+        <translation>Operación no permitida si el objeto está cerrado.</translation>
+    </message>
+    <message>
+        <source>Il recordset corrente non supporta l&apos;aggiornamento.</source>
+        <translation>El recordset actual no admite la actualización.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il campo &quot;%1&quot;.</source>
+        <translation>No se encuentra el campo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;origine di un recordset deve essere una SELECT.</source>
+        <translation>El origen de un recordset debe ser una SELECT.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: una riga ha perso il suo posto.</source>
+        <translation>Error interno de la base de datos: una fila ha perdido su lugar.</translation>
+    </message>
+    <message>
+        <source>Impossibile avviare il motore SQL.</source>
+        <translation>No se puede iniciar el motor SQL.</translation>
+    </message>
+    <message>
+        <source>La struttura del database è stata modificata.</source>
+        <translation>La estructura de la base de datos ha cambiado.</translation>
+    </message>
+    <message>
+        <source>Un&apos;altra istruzione è in attesa del database.</source>
+        <translation>Otra instrucción está esperando la base de datos.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL vicino a &quot;%1&quot;.</source>
+        <translation>Error de sintaxis en la instrucción SQL cerca de &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non corrisponde al numero dei campi di destinazione.</source>
+        <translation>El número de valores no corresponde al número de campos de destino.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa.</source>
+        <translation>Instrucción SQL no admitida.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non valida.</source>
+        <translation>Instrucción SQL no válida.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è riservata al sistema.</source>
+        <translation>La tabla &quot;%1&quot; está reservada al sistema.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere usata nelle istruzioni SQL.</source>
+        <translation>La tabla &quot;%1&quot; no se puede usar en las instrucciones SQL.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una SELECT.</source>
+        <translation>La instrucción no es una SELECT.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione deve leggere tutte le colonne di una tabella.</source>
+        <translation>La instrucción debe leer todas las columnas de una tabla.</translation>
+    </message>
+    <message>
+        <source>Il record è troppo lungo.</source>
+        <translation>El registro es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Troppi record per essere mostrati.</source>
+        <translation>Demasiados registros para mostrarlos.</translation>
+    </message>
+    <message>
+        <source>carattere nullo</source>
+        <translation>carácter nulo</translation>
+    </message>
+    <message>
+        <source>commento</source>
+        <translation>comentario</translation>
+    </message>
+    <message>
+        <source>parametro</source>
+        <translation>parámetro</translation>
+    </message>
+    <message>
+        <source>virgolette fuori da un testo</source>
+        <translation>comillas fuera de un texto</translation>
+    </message>
+    <message>
+        <source>manca un apice di chiusura</source>
+        <translation>falta un apóstrofo de cierre</translation>
+    </message>
+    <message>
+        <source>manca una parentesi quadra di chiusura</source>
+        <translation>falta un corchete de cierre</translation>
+    </message>
+    <message>
+        <source>manca un cancelletto di chiusura</source>
+        <translation>falta una almohadilla de cierre</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa: %1.</source>
+        <translation>Instrucción SQL no admitida: %1.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL: %1.</source>
+        <translation>Error de sintaxis en la instrucción SQL: %1.</translation>
+    </message>
+    <message>
+        <source>forma non prevista</source>
+        <translation>forma no prevista</translation>
+    </message>
+    <message>
+        <source>i valori da inserire non sono leggibili</source>
+        <translation>los valores que hay que insertar no se pueden leer</translation>
+    </message>
+    <message>
+        <source>la data #%1# non è valida</source>
+        <translation>la fecha #%1# no es válida</translation>
+    </message>
+    <message>
+        <source>testo troppo lungo</source>
+        <translation>texto demasiado largo</translation>
+    </message>
+    <message>
+        <source>più di una istruzione</source>
+        <translation>más de una instrucción</translation>
+    </message>
+    <message>
+        <source>istruzione vuota</source>
+        <translation>instrucción vacía</translation>
+    </message>
+    <message>
+        <source>Il disco è pieno: il file &quot;%1&quot; non trova posto.</source>
+        <translation>El disco está lleno: el archivo &quot;%1&quot; no cabe.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;.</source>
+        <translation>No se puede abrir el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo di posta elettronica non è valido.</source>
+        <translation>La dirección de correo electrónico no es válida.</translation>
+    </message>
+    <message>
+        <source>L&apos;allegato %1 %2.</source>
+        <translation>El adjunto %1 %2.</translation>
+    </message>
+    <message>
+        <source>non esiste</source>
+        <translation>no existe</translation>
+    </message>
+    <message>
+        <source>è troppo grande</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Il nome utente contiene un carattere non ammesso.</source>
+        <translation>El nombre de usuario contiene un carácter no admitido.</translation>
+    </message>
+    <message>
+        <source>non si può leggere</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>non è il file che è stato confermato</source>
+        <translation>no es el archivo que se confirmó</translation>
+    </message>
+    <message>
+        <source>Invio interrotto.</source>
+        <translation>Envío interrumpido.</translation>
+    </message>
+    <message>
+        <source>Risposta in ritardo al messaggio di prima</source>
+        <translation>Respuesta tardía al mensaje anterior</translation>
+    </message>
+    <message>
+        <source>Il destinatario non è stato letto: nessun invio.</source>
+        <translation>No se ha leído el destinatario: no se envía nada.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio è stato fermato: nessun invio fino al prossimo avvio.</source>
+        <translation>El envío se ha detenido: no se envía nada hasta el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo del destinatario non è stato letto: nessun invio.</source>
+        <translation>No se ha leído la dirección del destinatario: no se envía nada.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato in questo invio.</source>
+        <translation>El mensaje para este destinatario ya se aceptó en este envío.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato.</source>
+        <translation>El mensaje para este destinatario ya se aceptó.</translation>
+    </message>
+    <message>
+        <source>Non c&apos;è più spazio per ricordare i messaggi accettati.</source>
+        <translation>Ya no hay espacio para recordar los mensajes aceptados.</translation>
+    </message>
+    <message>
+        <source>Il destinatario è stato selezionato di nuovo.</source>
+        <translation>El destinatario se ha seleccionado de nuevo.</translation>
+    </message>
+    <message>
+        <source>Il file %1 esiste già.</source>
+        <translation>El archivo %1 ya existe.</translation>
+    </message>
+    <message>
+        <source>Non è possibile scrivere il file %1.</source>
+        <translation>No se puede escribir el archivo %1.</translation>
+    </message>
+    <message>
+        <source>La chiave non si può leggere.</source>
+        <translation>No se puede leer la clave.</translation>
+    </message>
+    <message>
+        <source>Il dominio non è valido.</source>
+        <translation>El dominio no es válido.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.</source>
+        <translation>El dominio ya tiene una clave o un selector: %1.pem, %1.selector.</translation>
+    </message>
+    <message>
+        <source>Non è possibile creare la cartella %1.</source>
+        <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>La creazione della chiave non è riuscita.</source>
+        <translation>No se ha podido crear la clave.</translation>
+    </message>
+    <message>
+        <source>Messaggio non firmato (DKIM): %1.</source>
+        <translation>Mensaje no firmado (DKIM): %1.</translation>
+    </message>
+    <message>
+        <source>il selettore manca o non è valido</source>
+        <translation>el selector falta o no es válido</translation>
+    </message>
+    <message>
+        <source>la chiave manca o non è una chiave RSA</source>
+        <translation>la clave falta o no es una clave RSA</translation>
+    </message>
+    <message>
+        <source>la chiave ha meno di %1 bit</source>
+        <translation>la clave tiene menos de %1 bits</translation>
+    </message>
+    <message>
+        <source>la firma non è riuscita</source>
+        <translation>no se ha podido firmar</translation>
+    </message>
+    <message>
+        <source>Il server non ha completato l&apos;autenticazione.</source>
+        <translation>El servidor no ha completado la autenticación.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta il consenso di OAuth 2.0 per l&apos;utente %1: %2</source>
+        <translation>El servidor no acepta el consentimiento de OAuth 2.0 del usuario %1: %2</translation>
+    </message>
+    <message>
+        <source>La password non viene inviata in chiaro a %1, che non offre una connessione TLS. Per inviarla ugualmente scrivere il nome del server nel file %2.</source>
+        <translation>La contraseña no se envía sin cifrar a %1, que no ofrece conexión TLS. Para enviarla de todos modos, escriba el nombre del servidor en el archivo %2.</translation>
+    </message>
+    <message>
+        <source>Il server non offre l&apos;accesso con OAuth 2.0.</source>
+        <translation>El servidor no ofrece el acceso con OAuth 2.0.</translation>
+    </message>
+    <message>
+        <source>Il server non offre un metodo di autenticazione conosciuto.</source>
+        <translation>El servidor no ofrece ningún método de autenticación conocido.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può eliminare.</source>
+        <translation>No se puede eliminar el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>La cartella &quot;%1&quot; non si può creare.</source>
+        <translation>No se puede crear la carpeta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può scrivere: %2</source>
+        <translation>No se puede escribir el archivo &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Autenticazione non riuscita: %1</source>
+        <translation>Error de autenticación: %1</translation>
+    </message>
+    <message>
+        <source>Il nome utente o la password contengono un carattere non ammesso.</source>
+        <translation>El nombre de usuario o la contraseña contienen un carácter no admitido.</translation>
+    </message>
+    <message>
+        <source>Il server rifiuta il messaggio per le sue regole</source>
+        <translation>El servidor rechaza el mensaje por sus reglas</translation>
+    </message>
+    <message>
+        <source>Il server limita il numero o la frequenza degli invii</source>
+        <translation>El servidor limita el número o la frecuencia de los envíos</translation>
+    </message>
+    <message>
+        <source>Il server considera il messaggio posta indesiderata (spam)</source>
+        <translation>El servidor considera el mensaje correo no deseado (spam)</translation>
+    </message>
+    <message>
+        <source>%1, per ora, codice %2: %3</source>
+        <translation>%1, por ahora, código %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, codice %2: %3</source>
+        <translation>%1, código %2: %3</translation>
+    </message>
+    <message>
+        <source>Server %1 non trovato.</source>
+        <translation>No se encuentra el servidor %1.</translation>
+    </message>
+    <message>
+        <source>Connessione rifiutata da %1, porta %2.</source>
+        <translation>Conexión rechazada por %1, puerto %2.</translation>
+    </message>
+    <message>
+        <source>Il server ha chiuso la connessione.</source>
+        <translation>El servidor ha cerrado la conexión.</translation>
+    </message>
+    <message>
+        <source>Errore di rete: %1</source>
+        <translation>Error de red: %1</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non ha un server di posta.</source>
+        <translation>El dominio del destinatario no tiene servidor de correo.</translation>
+    </message>
+    <message>
+        <source>Risposta del server non valida: %1</source>
+        <translation>Respuesta del servidor no válida: %1</translation>
+    </message>
+    <message>
+        <source>Risposta del server inattesa: %1 %2</source>
+        <translation>Respuesta inesperada del servidor: %1 %2</translation>
+    </message>
+    <message>
+        <source>Il server non offre più la connessione TLS, che ha offerto in passato. Per dimenticarlo cancellare la sua riga dal file %1.</source>
+        <translation>El servidor ya no ofrece la conexión TLS que ofreció en el pasado. Para olvidarlo, borre su línea del archivo %1.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta indirizzi con caratteri internazionali.</source>
+        <translation>El servidor no acepta direcciones con caracteres internacionales.</translation>
+    </message>
+    <message>
+        <source>il certificato è autofirmato</source>
+        <translation>el certificado está autofirmado</translation>
+    </message>
+    <message>
+        <source>il certificato è scaduto</source>
+        <translation>el certificado ha caducado</translation>
+    </message>
+    <message>
+        <source>il certificato non è ancora valido</source>
+        <translation>el certificado aún no es válido</translation>
+    </message>
+    <message>
+        <source>il certificato è di un altro server</source>
+        <translation>el certificado es de otro servidor</translation>
+    </message>
+    <message>
+        <source>l&apos;autorità che ha emesso il certificato non è attendibile</source>
+        <translation>la autoridad que emitió el certificado no es de confianza</translation>
+    </message>
+    <message>
+        <source>Il server ha aggiunto testo in chiaro alla risposta a STARTTLS.</source>
+        <translation>El servidor ha añadido texto sin cifrar a la respuesta a STARTTLS.</translation>
+    </message>
+    <message>
+        <source>in chiaro</source>
+        <translation>sin cifrar</translation>
+    </message>
+    <message>
+        <source>%1, %2, certificato %3</source>
+        <translation>%1, %2, certificado %3</translation>
+    </message>
+    <message>
+        <source>non verificato</source>
+        <translation>no verificado</translation>
+    </message>
+    <message>
+        <source>valido</source>
+        <translation>válido</translation>
+    </message>
+    <message>
+        <source>Connessione TLS non riuscita: %1.</source>
+        <translation>La conexión TLS ha fallado: %1.</translation>
+    </message>
+    <message>
+        <source>Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta da TLS con un certificato valido.</source>
+        <translation>El token de OAuth 2.0 no se envía a %1: la conexión no está protegida por TLS con un certificado válido.</translation>
+    </message>
+    <message>
+        <source>Uso non valido di Null.</source>
+        <translation>Uso no válido de Null.</translation>
+    </message>
+    <message>
+        <source>Tipo non corrispondente.</source>
+        <translation>Los tipos no coinciden.</translation>
+    </message>
+    <message>
+        <source>Overflow.</source>
+        <translation>Desbordamiento.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha un contatore.</source>
+        <translation>La tabla &quot;%1&quot; no tiene contador.</translation>
+    </message>
+    <message>
+        <source>Il contatore della tabella &quot;%1&quot; è esaurito.</source>
+        <translation>El contador de la tabla &quot;%1&quot; está agotado.</translation>
+    </message>
+    <message>
+        <source>il catalogo non è leggibile</source>
+        <translation>el catálogo no se puede leer</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non contiene righe</source>
+        <translation>la página %1 no contiene filas</translation>
+    </message>
+    <message>
+        <source>la pagina %1 ha troppe righe</source>
+        <translation>la página %1 tiene demasiadas filas</translation>
+    </message>
+    <message>
+        <source>le righe della pagina %1 si sovrappongono</source>
+        <translation>las filas de la página %1 se solapan</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 è fuori posto</source>
+        <translation>la fila %1 de la página %2 está fuera de lugar</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non ha posto</source>
+        <translation>la página %1 no tiene espacio</translation>
+    </message>
+    <message>
+        <source>Password non valida.</source>
+        <translation>Contraseña no válida.</translation>
+    </message>
+    <message>
+        <source>il file &quot;%1&quot; è troncato</source>
+        <translation>el archivo &quot;%1&quot; está truncado</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è collegata a un altro file.</source>
+        <translation>La tabla &quot;%1&quot; está vinculada a otro archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è una query, non una tabella.</source>
+        <translation>&quot;%1&quot; es una consulta, no una tabla.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare la tabella &quot;%1&quot;.</source>
+        <translation>No se encuentra la tabla &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Nessuna transazione è in corso.</source>
+        <translation>No hay ninguna transacción en curso.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere nella cartella di &quot;%1&quot;.</source>
+        <translation>No se puede escribir en la carpeta de &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>El archivo &quot;%1&quot; está en uso por otro programa.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è il database aperto.</source>
+        <translation>&quot;%1&quot; es la base de datos abierta.</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 è incompleta</source>
+        <translation>la definición de la tabla en la página %1 está incompleta</translation>
+    </message>
+    <message>
+        <source>un nome nella definizione della tabella a pagina %1 non è valido</source>
+        <translation>un nombre en la definición de la tabla en la página %1 no es válido</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 ha due campi con il nome &quot;%2&quot;</source>
+        <translation>la definición de la tabla en la página %1 tiene dos campos con el nombre &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è la definizione di una tabella</source>
+        <translation>la página %1 no es la definición de una tabla</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non finisce</source>
+        <translation>la definición de la tabla en la página %1 no termina</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non è leggibile</source>
+        <translation>la definición de la tabla en la página %1 no se puede leer</translation>
+    </message>
+    <message>
+        <source>un campo della tabella a pagina %1 non ha posto nelle righe</source>
+        <translation>un campo de la tabla en la página %1 no tiene lugar en las filas</translation>
+    </message>
+    <message>
+        <source>un indice della tabella a pagina %1 non esiste</source>
+        <translation>un índice de la tabla en la página %1 no existe</translation>
+    </message>
+    <message>
+        <source>disco pieno</source>
+        <translation>disco lleno</translation>
+    </message>
+    <message>
+        <source>lo spazio concesso all&apos;utente sul disco è esaurito</source>
+        <translation>el espacio de disco concedido al usuario está agotado</translation>
+    </message>
+    <message>
+        <source>il disco è di sola lettura</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>permesso negato</source>
+        <translation>permiso denegado</translation>
+    </message>
+    <message>
+        <source>il disco non riesce a leggere o scrivere</source>
+        <translation>el disco no consigue leer o escribir</translation>
+    </message>
+    <message>
+        <source>il file supera la dimensione concessa</source>
+        <translation>el archivo supera el tamaño permitido</translation>
+    </message>
+    <message>
+        <source>il nome è un collegamento</source>
+        <translation>el nombre es un enlace</translation>
+    </message>
+    <message>
+        <source>il file esiste già</source>
+        <translation>el archivo ya existe</translation>
+    </message>
+    <message>
+        <source>è una cartella</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>il file o la cartella non esiste</source>
+        <translation>el archivo o la carpeta no existe</translation>
+    </message>
+    <message>
+        <source>il nome è troppo lungo</source>
+        <translation>el nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>troppi file aperti</source>
+        <translation>demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>memoria esaurita</source>
+        <translation>memoria agotada</translation>
+    </message>
+    <message>
+        <source>il disco non conosce questa operazione</source>
+        <translation>el disco no admite esta operación</translation>
+    </message>
+    <message>
+        <source>il disco non è più raggiungibile</source>
+        <translation>ya no se puede acceder al disco</translation>
+    </message>
+    <message>
+        <source>il file è in uso</source>
+        <translation>el archivo está en uso</translation>
+    </message>
+    <message>
+        <source>errore di sistema %1</source>
+        <translation>error del sistema %1</translation>
+    </message>
+    <message>
+        <source>Errore del disco (%1) sul file &quot;%2&quot;: %3.</source>
+        <translation>Error del disco (%1) en el archivo &quot;%2&quot;: %3.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il file &quot;%1&quot;.</source>
+        <translation>No se encuentra el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;: %2.</source>
+        <translation>No se puede abrir el archivo &quot;%1&quot;: %2.</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono descritte male</source>
+        <translation>las tablas nuevas están mal descritas</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono troppe</source>
+        <translation>hay demasiadas tablas nuevas</translation>
+    </message>
+    <message>
+        <source>una tabella nuova ha troppe colonne</source>
+        <translation>una tabla nueva tiene demasiadas columnas</translation>
+    </message>
+    <message>
+        <source>un nome non ha chiave</source>
+        <translation>un nombre no tiene clave</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; esiste già.</source>
+        <translation>El archivo &quot;%1&quot; ya existe.</translation>
+    </message>
+    <message>
+        <source>Il database è danneggiato: %1.</source>
+        <translation>La base de datos está dañada: %1.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: %1.</source>
+        <translation>Error interno de la base de datos: %1.</translation>
+    </message>
+    <message>
+        <source>Il database ha raggiunto la dimensione massima di 2 GB.</source>
+        <translation>La base de datos ha alcanzado el tamaño máximo de 2 GB.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>La base de datos &quot;%1&quot; está en uso por otro programa.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è aperto in un altro programma (%2): non può essere modificato.</source>
+        <translation>La base de datos &quot;%1&quot; está abierta en otro programa (%2): no se puede modificar.</translation>
+    </message>
+    <message>
+        <source>Formato di database non riconosciuto: %1.</source>
+        <translation>Formato de base de datos no reconocido: %1.</translation>
+    </message>
+    <message>
+        <source>il file non è un database Jet</source>
+        <translation>el archivo no es una base de datos Jet</translation>
+    </message>
+    <message>
+        <source>è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)</source>
+        <translation>es un archivo .accdb de Access 2007 o posterior; guárdelo en formato Access 2000-2003 (.mdb)</translation>
+    </message>
+    <message>
+        <source>è di una versione più recente di Access 2003</source>
+        <translation>es de una versión posterior a Access 2003</translation>
+    </message>
+    <message>
+        <source>il file è troncato</source>
+        <translation>el archivo está truncado</translation>
+    </message>
+    <message>
+        <source>è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)</source>
+        <translation>es un archivo de Access 97 con una página de códigos distinta de la occidental (1252)</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non è leggibile</source>
+        <translation>la página de índice %1 no se puede leer</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 è troppo piena</source>
+        <translation>la página de índice %1 está demasiado llena</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non ha un ultimo ramo</source>
+        <translation>la página de índice %1 no tiene última rama</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; gira in tondo</source>
+        <translation>un índice de &quot;%1&quot; da vueltas en círculo</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; contiene già la riga</source>
+        <translation>un índice de &quot;%1&quot; ya contiene la fila</translation>
+    </message>
+    <message>
+        <source>Le voci di un indice del database sono troppo lunghe per essere divise.</source>
+        <translation>Las entradas de un índice de la base de datos son demasiado largas para dividirlas.</translation>
+    </message>
+    <message>
+        <source>la definizione di una tabella è incompleta</source>
+        <translation>la definición de una tabla está incompleta</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il database. Il database non viene aperto finché il file resta al suo posto.</source>
+        <translation>El archivo &quot;%1&quot; no es un diario de esta base de datos: es un enlace o pertenece a quien no puede escribir la base de datos. La base de datos no se abre mientras el archivo siga en su lugar.</translation>
+    </message>
+    <message>
+        <source>Troppi file &quot;%1&quot;.</source>
+        <translation>Demasiados archivos &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Accanto al database c&apos;era un giornale di modifiche interrotte che non gli appartiene. Il database resta com&apos;è; il giornale è stato messo da parte come &quot;%1&quot;.</source>
+        <translation>Junto a la base de datos había un diario de modificaciones interrumpidas que no le pertenece. La base de datos queda como está; el diario se ha apartado como &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>lettura</source>
+        <translation>lectura</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; nomina un campo che non c&apos;è</source>
+        <translation>un índice de &quot;%1&quot; nombra un campo que no existe</translation>
+    </message>
+    <message>
+        <source>un valore del campo &quot;%1&quot; è troppo corto</source>
+        <translation>un valor del campo &quot;%1&quot; es demasiado corto</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; non ha l&apos;ordinamento generale</source>
+        <translation>el campo &quot;%1&quot; no tiene el orden general</translation>
+    </message>
+    <message>
+        <source>il tipo del campo &quot;%1&quot; non è adatto a un indice</source>
+        <translation>el tipo del campo &quot;%1&quot; no es apto para un índice</translation>
+    </message>
+    <message>
+        <source>non è su alcun campo</source>
+        <translation>no está sobre ningún campo</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene il carattere %2, che non può stare nell&apos;indice &quot;%3&quot;.</source>
+        <translation>El texto del campo &quot;%1&quot; contiene el carácter %2, que no puede estar en el índice &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>I valori sono troppo lunghi per l&apos;indice &quot;%1&quot;.</source>
+        <translation>Los valores son demasiado largos para el índice &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>un campo memo non è leggibile</source>
+        <translation>un campo memo no se puede leer</translation>
+    </message>
+    <message>
+        <source>Il database non ha posto per i testi lunghi di un campo memo.</source>
+        <translation>La base de datos no tiene espacio para los textos largos de un campo memo.</translation>
+    </message>
+    <message>
+        <source>scrittura</source>
+        <translation>escritura</translation>
+    </message>
+    <message>
+        <source>creazione</source>
+        <translation>creación</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; non è un file.</source>
+        <translation>&quot;%1&quot; no es un archivo.</translation>
+    </message>
+    <message>
+        <source>accorciamento</source>
+        <translation>acortamiento</translation>
+    </message>
+    <message>
+        <source>prenotazione</source>
+        <translation>reserva</translation>
+    </message>
+    <message>
+        <source>sincronizzazione</source>
+        <translation>sincronización</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; può essere letto o scritto da chi non può farlo con &quot;%2&quot;.</source>
+        <translation>El archivo &quot;%1&quot; lo puede leer o escribir quien no puede hacerlo con &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>blocco</source>
+        <translation>bloqueo</translation>
+    </message>
+    <message>
+        <source>cancellazione</source>
+        <translation>eliminación</translation>
+    </message>
+    <message>
+        <source>cambio di nome</source>
+        <translation>cambio de nombre</translation>
+    </message>
+    <message>
+        <source>%1 Accanto è rimasto il giornale delle sue ultime modifiche, &quot;%2&quot;, che viene conservato: rimettere il file al suo posto.</source>
+        <translation>%1 Al lado ha quedado el diario de sus últimas modificaciones, &quot;%2&quot;, que se conserva: vuelva a poner el archivo en su lugar.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; supera la dimensione massima di un database, 2 GB.</source>
+        <translation>El archivo &quot;%1&quot; supera el tamaño máximo de una base de datos, 2 GB.</translation>
+    </message>
+    <message>
+        <source>la lunghezza del file non è quella di un database</source>
+        <translation>la longitud del archivo no es la de una base de datos</translation>
+    </message>
+    <message>
+        <source>manca la pagina %1</source>
+        <translation>falta la página %1</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è troncata</source>
+        <translation>la página %1 está truncada</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato Access 2000-2003 (.mdb).</source>
+        <translation>La base de datos &quot;%1&quot; es de Access 97: se puede leer pero no modificar. Para modificarla, conviértala al formato Access 2000-2003 (.mdb).</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di sola lettura.</source>
+        <translation>La base de datos &quot;%1&quot; es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>Una transazione è già in corso.</source>
+        <translation>Ya hay una transacción en curso.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; viene sostituito di continuo da un altro programma.</source>
+        <translation>Otro programa sustituye continuamente la base de datos &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; va ripristinato dopo un&apos;interruzione, ma non può essere scritto.</source>
+        <translation>La base de datos &quot;%1&quot; debe restaurarse tras una interrupción, pero no se puede escribir.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è stato sostituito o cancellato: la modifica non è stata fatta.</source>
+        <translation>La base de datos &quot;%1&quot; se ha sustituido o eliminado: la modificación no se ha hecho.</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è fra quelle libere di una tabella a cui non appartiene</source>
+        <translation>la página %1 está entre las libres de una tabla a la que no pertenece</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; non è leggibile</source>
+        <translation>una fila de &quot;%1&quot; no se puede leer</translation>
+    </message>
+    <message>
+        <source>Il record è troppo grande per la tabella &quot;%1&quot; (%2 byte; al massimo %3).</source>
+        <translation>El registro es demasiado grande para la tabla &quot;%1&quot; (%2 bytes; como máximo %3).</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non appartiene alla tabella &quot;%2&quot;</source>
+        <translation>la página %1 no pertenece a la tabla &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 non dice dove è</source>
+        <translation>la fila %1 de la página %2 no dice dónde está</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 si è persa</source>
+        <translation>la fila %1 de la página %2 se ha perdido</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; è sparita</source>
+        <translation>una fila de &quot;%1&quot; ha desaparecido</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è in uso ed è segnata come libera</source>
+        <translation>la página %1 está en uso y marcada como libre</translation>
+    </message>
+    <message>
+        <source>un indice gira in tondo</source>
+        <translation>un índice da vueltas en círculo</translation>
+    </message>
+    <message>
+        <source>La struttura della tabella &quot;%1&quot; è stata cambiata da un altro programma.</source>
+        <translation>Otro programa ha cambiado la estructura de la tabla &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha una chiave primaria numerica.</source>
+        <translation>La tabla &quot;%1&quot; no tiene clave principal numérica.</translation>
+    </message>
+    <message>
+        <source>nell&apos;indice &quot;%1&quot; manca una riga</source>
+        <translation>en el índice &quot;%1&quot; falta una fila</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non è quello dei campi della tabella &quot;%1&quot;.</source>
+        <translation>El número de valores no es el de los campos de la tabla &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore</source>
+        <translation>el campo &quot;%1&quot; es un contador</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 non è leggibile</source>
+        <translation>el mapa de páginas %1/%2 no se puede leer</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 comincia oltre il file</source>
+        <translation>el mapa de páginas %1/%2 empieza más allá del archivo</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è una mappa</source>
+        <translation>la página %1 no es un mapa</translation>
+    </message>
+    <message>
+        <source>Una mappa delle pagine del database non può crescere oltre.</source>
+        <translation>Un mapa de páginas de la base de datos no puede crecer más.</translation>
+    </message>
+    <message>
+        <source>Il numero è troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>El número es demasiado grande para el campo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; è troppo piccolo per il testo (al massimo %2 caratteri).</source>
+        <translation>El campo &quot;%1&quot; es demasiado pequeño para el texto (como máximo %2 caracteres).</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene caratteri che il database non può conservare.</source>
+        <translation>El texto del campo &quot;%1&quot; contiene caracteres que la base de datos no puede conservar.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere %2 byte.</source>
+        <translation>El campo &quot;%1&quot; no puede contener %2 bytes.</translation>
+    </message>
+    <message>
+        <source>contiene un oggetto OLE</source>
+        <translation>contiene un objeto OLE</translation>
+    </message>
+    <message>
+        <source>è un testo di lunghezza fissa</source>
+        <translation>es un texto de longitud fija</translation>
+    </message>
+    <message>
+        <source>è di un tipo sconosciuto (%1)</source>
+        <translation>es de un tipo desconocido (%1)</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; %2: non può essere modificato.</source>
+        <translation>El campo &quot;%1&quot; %2: no se puede modificar.</translation>
+    </message>
+    <message>
+        <source>l&apos;indice &quot;%1&quot; (%2) non può essere aggiornato, perché %3</source>
+        <translation>el índice &quot;%1&quot; (%2) no se puede actualizar, porque %3</translation>
+    </message>
+    <message>
+        <source>le sue voci non corrispondono alle righe della tabella</source>
+        <translation>sus entradas no corresponden a las filas de la tabla</translation>
+    </message>
+    <message>
+        <source>la forma delle sue chiavi decrescenti non è certa</source>
+        <translation>la forma de sus claves descendentes no es segura</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere modificata: %2.</source>
+        <translation>La tabla &quot;%1&quot; no se puede modificar: %2.</translation>
+    </message>
+    <message>
+        <source>è una tabella di sistema</source>
+        <translation>es una tabla del sistema</translation>
+    </message>
+    <message>
+        <source>ha una relazione con un&apos;altra tabella</source>
+        <translation>tiene una relación con otra tabla</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; %2</source>
+        <translation>el campo &quot;%1&quot; %2</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore di tipo GUID</source>
+        <translation>el campo &quot;%1&quot; es un contador de tipo GUID</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; deve contenere un valore.</source>
+        <translation>El campo &quot;%1&quot; debe contener un valor.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere un testo vuoto.</source>
+        <translation>El campo &quot;%1&quot; no puede contener un texto vacío.</translation>
+    </message>
+    <message>
+        <source>I campi dell&apos;indice &quot;%1&quot; (%2) devono contenere un valore.</source>
+        <translation>Los campos del índice &quot;%1&quot; (%2) deben contener un valor.</translation>
+    </message>
+    <message>
+        <source>Il valore di &quot;%1&quot; esiste già e l&apos;indice &quot;%2&quot; non ammette duplicati.</source>
+        <translation>El valor de &quot;%1&quot; ya existe y el índice &quot;%2&quot; no admite duplicados.</translation>
+    </message>
 </context>
 </TS>

@@ -6,7 +6,7 @@
     <message>
         <source>Il nome di questo file contiene caratteri sconosciuti, rinominalo:<byte value="xd"/>
 %1</source>
-        <translation>Le nom de ce fichier contient des caractères inconnus, renommez-le :<byte value="xd"/>
+        <translation>Le nom de ce fichier contient des caractères inconnus, renommez-le&#xa0;:<byte value="xd"/>
 %1</translation>
     </message>
     <message>
@@ -85,7 +85,7 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Riga %1: il campo %2 non c&apos;è; %3</source>
-        <translation>Ligne %1 : le champ %2 manque ; %3</translation>
+        <translation>Ligne %1&#xa0;: le champ %2 manque&#xa0;; %3</translation>
     </message>
     <message numerus="yes">
         <source>inseriti %n destinatari</source>
@@ -100,15 +100,15 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Nell&apos;indirizzo manca &quot;@&quot;</source>
-        <translation>Il manque « @ » dans l&apos;adresse</translation>
+        <translation>Il manque «&#xa0;@&#xa0;» dans l&apos;adresse</translation>
     </message>
     <message>
         <source>Nell&apos;indirizzo manca il nome prima di &quot;@&quot;</source>
-        <translation>Il manque le nom avant « @ » dans l&apos;adresse</translation>
+        <translation>Il manque le nom avant «&#xa0;@&#xa0;» dans l&apos;adresse</translation>
     </message>
     <message>
         <source>Nell&apos;indirizzo manca il dominio dopo &quot;@&quot;</source>
-        <translation>Il manque le domaine après « @ » dans l&apos;adresse</translation>
+        <translation>Il manque le domaine après «&#xa0;@&#xa0;» dans l&apos;adresse</translation>
     </message>
     <message>
         <source>L&apos;ultima parte dell&apos;indirizzo ha più di quattro caratteri</source>
@@ -120,7 +120,7 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Destinatario numero %1: già servito, ma la sua riga non ha più quell&apos;indirizzo. Resta com&apos;è.</source>
-        <translation>Destinataire numéro %1 : déjà servi, mais sa ligne n&apos;a plus cette adresse. Elle reste telle quelle.</translation>
+        <translation>Destinataire numéro %1&#xa0;: déjà servi, mais sa ligne n&apos;a plus cette adresse. Elle reste telle quelle.</translation>
     </message>
     <message>
         <source>cartelle perdute</source>
@@ -147,7 +147,7 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>La cartella &quot;%1&quot; non si può scrivere.</source>
-        <translation>Impossible d&apos;écrire dans le dossier « %1 ».</translation>
+        <translation>Impossible d&apos;écrire dans le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Data e ora</source>
@@ -191,7 +191,7 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Regole del server: spam, blocchi o limiti</source>
-        <translation>Règles du serveur : spam, blocages ou limites</translation>
+        <translation>Règles du serveur&#xa0;: spam, blocages ou limites</translation>
     </message>
     <message>
         <source>Mittente non accettato</source>
@@ -223,7 +223,7 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Rifiuto temporaneo: riprovare più tardi</source>
-        <translation>Refus temporaire : réessayez plus tard</translation>
+        <translation>Refus temporaire&#xa0;: réessayez plus tard</translation>
     </message>
     <message>
         <source>Invio fermato</source>
@@ -255,15 +255,15 @@ Qui peut lire le disque peut lire aussi les destinataires et les mots de passe d
     </message>
     <message>
         <source>Ricerca del server di posta non riuscita per un problema temporaneo: %1.</source>
-        <translation>La recherche du serveur de messagerie a échoué pour une raison temporaire : %1.</translation>
+        <translation>La recherche du serveur de messagerie a échoué pour une raison temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>La risposta del DNS sul dominio del destinatario non si può usare: %1.</source>
-        <translation>La réponse du DNS sur le domaine du destinataire est inutilisable : %1.</translation>
+        <translation>La réponse du DNS sur le domaine du destinataire est inutilisable&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Il dominio del destinatario non ha un server di posta: %1.</source>
-        <translation>Le domaine du destinataire n&apos;a pas de serveur de messagerie : %1.</translation>
+        <translation>Le domaine du destinataire n&apos;a pas de serveur de messagerie&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Su questo computer non è configurato un server DNS.</source>
@@ -325,7 +325,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>La tabella dei destinatari non ha la colonna &quot;id_grp&quot;.</source>
-        <translation>La table des destinataires n&apos;a pas de colonne « id_grp ».</translation>
+        <translation>La table des destinataires n&apos;a pas de colonne «&#xa0;id_grp&#xa0;».</translation>
     </message>
     <message>
         <source>La cartella che la contiene non c&apos;è</source>
@@ -333,7 +333,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Sta dentro &quot;%1&quot;, perduta anch&apos;essa</source>
-        <translation>Dans « %1 », perdu lui aussi</translation>
+        <translation>Dans «&#xa0;%1&#xa0;», perdu lui aussi</translation>
     </message>
     <message>
         <source>(cartella %1)</source>
@@ -357,7 +357,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>L&apos;indirizzo email dell&apos;account non è valido: correggerlo nella finestra degli account.</source>
-        <translation>L&apos;adresse e-mail du compte n&apos;est pas valide : corrigez-la dans la fenêtre des comptes.</translation>
+        <translation>L&apos;adresse e-mail du compte n&apos;est pas valide&#xa0;: corrigez-la dans la fenêtre des comptes.</translation>
     </message>
     <message>
         <source>Posta in arrivo (MX)</source>
@@ -377,15 +377,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il DNS è troppo lento o porta troppo lontano: riprovare più tardi.</source>
-        <translation>Le DNS est trop lent ou mène trop loin : réessayez plus tard.</translation>
+        <translation>Le DNS est trop lent ou mène trop loin&#xa0;: réessayez plus tard.</translation>
     </message>
     <message>
         <source>Il dominio non esiste nel DNS: correggere l&apos;indirizzo dell&apos;account o registrare il dominio.</source>
-        <translation>Le domaine n&apos;existe pas dans le DNS : corrigez l&apos;adresse du compte ou enregistrez le domaine.</translation>
+        <translation>Le domaine n&apos;existe pas dans le DNS&#xa0;: corrigez l&apos;adresse du compte ou enregistrez le domaine.</translation>
     </message>
     <message>
         <source>Il dominio non ha un record MX: pubblicarne uno, perché risposte e avvisi di mancata consegna arrivino.</source>
-        <translation>Le domaine n&apos;a pas d&apos;enregistrement MX : publiez-en un pour que les réponses et les avis de non-remise arrivent.</translation>
+        <translation>Le domaine n&apos;a pas d&apos;enregistrement MX&#xa0;: publiez-en un pour que les réponses et les avis de non-remise arrivent.</translation>
     </message>
     <message>
         <source>nessun indirizzo</source>
@@ -393,11 +393,11 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il dominio dichiara di non ricevere posta (MX nullo): molti server rifiutano i messaggi di un mittente a cui non si può rispondere.</source>
-        <translation>Le domaine déclare ne pas recevoir de courrier (MX nul) : beaucoup de serveurs refusent les messages d&apos;un expéditeur à qui l&apos;on ne peut répondre.</translation>
+        <translation>Le domaine déclare ne pas recevoir de courrier (MX nul)&#xa0;: beaucoup de serveurs refusent les messages d&apos;un expéditeur à qui l&apos;on ne peut répondre.</translation>
     </message>
     <message>
         <source>Nessun server del record MX ha un indirizzo: correggere il record.</source>
-        <translation>Aucun serveur de l&apos;enregistrement MX n&apos;a d&apos;adresse : corrigez l&apos;enregistrement.</translation>
+        <translation>Aucun serveur de l&apos;enregistrement MX n&apos;a d&apos;adresse&#xa0;: corrigez l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Il dominio riceve posta.</source>
@@ -409,15 +409,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il dominio non ha un indirizzo suo, e non gli serve: ha un record MX.</source>
-        <translation>Le domaine n&apos;a pas d&apos;adresse propre et n&apos;en a pas besoin : il a un enregistrement MX.</translation>
+        <translation>Le domaine n&apos;a pas d&apos;adresse propre et n&apos;en a pas besoin&#xa0;: il a un enregistrement MX.</translation>
     </message>
     <message>
         <source>Il dominio non ha né un record MX né un indirizzo: molti server rifiutano i suoi messaggi; pubblicare un record MX.</source>
-        <translation>Le domaine n&apos;a ni enregistrement MX ni adresse : beaucoup de serveurs refusent ses messages ; publiez un enregistrement MX.</translation>
+        <translation>Le domaine n&apos;a ni enregistrement MX ni adresse&#xa0;: beaucoup de serveurs refusent ses messages&#xa0;; publiez un enregistrement MX.</translation>
     </message>
     <message>
         <source>L&apos;indirizzo pubblico di questo computer non si può conoscere da qui: verificare con il fornitore di rete che abbia un nome inverso.</source>
-        <translation>L&apos;adresse publique de cet ordinateur n&apos;est pas connue d&apos;ici : vérifiez avec le fournisseur d&apos;accès qu&apos;elle a un nom inverse.</translation>
+        <translation>L&apos;adresse publique de cet ordinateur n&apos;est pas connue d&apos;ici&#xa0;: vérifiez avec le fournisseur d&apos;accès qu&apos;elle a un nom inverse.</translation>
     </message>
     <message>
         <source>nessun nome</source>
@@ -433,23 +433,23 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Chiedere al fornitore di rete un nome inverso che riporti allo stesso indirizzo: senza, molti server rifiutano l&apos;invio diretto.</source>
-        <translation>Demandez au fournisseur d&apos;accès un nom inverse qui ramène à la même adresse : sans lui, beaucoup de serveurs refusent l&apos;envoi direct.</translation>
+        <translation>Demandez au fournisseur d&apos;accès un nom inverse qui ramène à la même adresse&#xa0;: sans lui, beaucoup de serveurs refusent l&apos;envoi direct.</translation>
     </message>
     <message>
         <source>Il record dichiara la chiave ritirata (p= vuoto): pubblicare quella nuova.</source>
-        <translation>L&apos;enregistrement déclare la clé retirée (p= vide) : publiez la nouvelle.</translation>
+        <translation>L&apos;enregistrement déclare la clé retirée (p= vide)&#xa0;: publiez la nouvelle.</translation>
     </message>
     <message>
         <source>Il record pubblicato è di un&apos;altra chiave, e le firme non valgono: pubblicare il record della chiave di questo programma.</source>
-        <translation>L&apos;enregistrement publié est celui d&apos;une autre clé, et les signatures ne sont pas valables : publiez l&apos;enregistrement de la clé de ce programme.</translation>
+        <translation>L&apos;enregistrement publié est celui d&apos;une autre clé, et les signatures ne sont pas valables&#xa0;: publiez l&apos;enregistrement de la clé de ce programme.</translation>
     </message>
     <message>
         <source>Il record non ammette SHA-256: togliere il campo h=.</source>
-        <translation>L&apos;enregistrement n&apos;admet pas SHA-256 : retirez le champ h=.</translation>
+        <translation>L&apos;enregistrement n&apos;admet pas SHA-256&#xa0;: retirez le champ h=.</translation>
     </message>
     <message>
         <source>Il record non vale per la posta: togliere il campo s=.</source>
-        <translation>L&apos;enregistrement ne vaut pas pour le courrier : retirez le champ s=.</translation>
+        <translation>L&apos;enregistrement ne vaut pas pour le courrier&#xa0;: retirez le champ s=.</translation>
     </message>
     <message>
         <source>stretto</source>
@@ -473,7 +473,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>SPF: %1 (%2)</source>
-        <translation>SPF : %1 (%2)</translation>
+        <translation>SPF&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>non si può sapere</source>
@@ -489,7 +489,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>DKIM: %1 (%2)</source>
-        <translation>DKIM : %1 (%2)</translation>
+        <translation>DKIM&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Nessun rapporto richiesto</source>
@@ -501,7 +501,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Con p=%1 i messaggi sono %2, perché non passano né SPF né DKIM: correggere prima quelle righe.</source>
-        <translation>Avec p=%1, les messages sont %2, car ni SPF ni DKIM ne passent : corrigez d&apos;abord ces lignes.</translation>
+        <translation>Avec p=%1, les messages sont %2, car ni SPF ni DKIM ne passent&#xa0;: corrigez d&apos;abord ces lignes.</translation>
     </message>
     <message>
         <source>rifiutati</source>
@@ -513,15 +513,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Se SPF passa non si può sapere da qui: firmare con DKIM, perché DMARC passi in ogni caso.</source>
-        <translation>On ne peut savoir d&apos;ici si SPF passe : signez avec DKIM pour que DMARC passe dans tous les cas.</translation>
+        <translation>On ne peut savoir d&apos;ici si SPF passe&#xa0;: signez avec DKIM pour que DMARC passe dans tous les cas.</translation>
     </message>
     <message>
         <source>Il record osserva soltanto, e per ora non passano né SPF né DKIM: correggere quelle righe.</source>
-        <translation>L&apos;enregistrement ne fait qu&apos;observer, et pour l&apos;instant ni SPF ni DKIM ne passent : corrigez ces lignes.</translation>
+        <translation>L&apos;enregistrement ne fait qu&apos;observer, et pour l&apos;instant ni SPF ni DKIM ne passent&#xa0;: corrigez ces lignes.</translation>
     </message>
     <message>
         <source>Il record osserva soltanto (p=none): quando i rapporti sono buoni, passare a p=quarantine.</source>
-        <translation>L&apos;enregistrement ne fait qu&apos;observer (p=none) : quand les rapports sont bons, passez à p=quarantine.</translation>
+        <translation>L&apos;enregistrement ne fait qu&apos;observer (p=none)&#xa0;: quand les rapports sont bons, passez à p=quarantine.</translation>
     </message>
     <message>
         <source>Il record protegge il dominio, e i messaggi lo rispettano.</source>
@@ -529,27 +529,27 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>I messaggi partono senza firma: creare una chiave DKIM e pubblicarne il record.</source>
-        <translation>Les messages partent sans signature : créez une clé DKIM et publiez son enregistrement.</translation>
+        <translation>Les messages partent sans signature&#xa0;: créez une clé DKIM et publiez son enregistrement.</translation>
     </message>
     <message>
         <source>Il programma non firma i messaggi: se non lo fa il server del fornitore, creare una chiave DKIM e pubblicarne il record.</source>
-        <translation>Le programme ne signe pas les messages : si le serveur du fournisseur ne le fait pas, créez une clé DKIM et publiez son enregistrement.</translation>
+        <translation>Le programme ne signe pas les messages&#xa0;: si le serveur du fournisseur ne le fait pas, créez une clé DKIM et publiez son enregistrement.</translation>
     </message>
     <message>
         <source>Il record della chiave manca: pubblicarlo con il nome %1.</source>
-        <translation>L&apos;enregistrement de la clé manque : publiez-le sous le nom %1.</translation>
+        <translation>L&apos;enregistrement de la clé manque&#xa0;: publiez-le sous le nom %1.</translation>
     </message>
     <message>
         <source>Allo stesso nome ci sono più record: lasciarne uno solo.</source>
-        <translation>Il y a plusieurs enregistrements du même nom : n&apos;en laissez qu&apos;un.</translation>
+        <translation>Il y a plusieurs enregistrements du même nom&#xa0;: n&apos;en laissez qu&apos;un.</translation>
     </message>
     <message>
         <source>Il record non è una chiave DKIM valida: copiarlo di nuovo, intero.</source>
-        <translation>L&apos;enregistrement n&apos;est pas une clé DKIM valide : copiez-le à nouveau, en entier.</translation>
+        <translation>L&apos;enregistrement n&apos;est pas une clé DKIM valide&#xa0;: copiez-le à nouveau, en entier.</translation>
     </message>
     <message>
         <source>La chiave è pubblicata in prova (t=y): togliere il campo quando tutto funziona.</source>
-        <translation>La clé est publiée à l&apos;essai (t=y) : retirez le champ quand tout fonctionne.</translation>
+        <translation>La clé est publiée à l&apos;essai (t=y)&#xa0;: retirez le champ quand tout fonctionne.</translation>
     </message>
     <message>
         <source>La chiave pubblicata è quella con cui il programma firma.</source>
@@ -561,11 +561,11 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>%1 ha più di un record DMARC e nessuno vale: lasciarne uno solo.</source>
-        <translation>%1 a plus d&apos;un enregistrement DMARC et aucun ne vaut : n&apos;en laissez qu&apos;un.</translation>
+        <translation>%1 a plus d&apos;un enregistrement DMARC et aucun ne vaut&#xa0;: n&apos;en laissez qu&apos;un.</translation>
     </message>
     <message>
         <source>Il record DMARC di %1 non vale: manca il campo p= con none, quarantine o reject.</source>
-        <translation>L&apos;enregistrement DMARC de %1 n&apos;est pas valable : il manque le champ p= avec none, quarantine ou reject.</translation>
+        <translation>L&apos;enregistrement DMARC de %1 n&apos;est pas valable&#xa0;: il manque le champ p= avec none, quarantine ou reject.</translation>
     </message>
     <message>
         <source>autorizzato</source>
@@ -585,7 +585,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source> da &quot;%1&quot; di %2</source>
-        <translation> par « %1 » de %2</translation>
+        <translation> par «&#xa0;%1&#xa0;» de %2</translation>
     </message>
     <message>
         <source>, %1 ricerche su 10</source>
@@ -593,51 +593,51 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>; il dominio dice: %1</source>
-        <translation> ; le domaine dit : %1</translation>
+        <translation>&#xa0;; le domaine dit&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pubblicare un record SPF che nomini l&apos;indirizzo di questo computer: senza, molti server non si fidano dei messaggi.</source>
-        <translation>Publiez un enregistrement SPF qui nomme l&apos;adresse de cet ordinateur : sans lui, beaucoup de serveurs se méfient des messages.</translation>
+        <translation>Publiez un enregistrement SPF qui nomme l&apos;adresse de cet ordinateur&#xa0;: sans lui, beaucoup de serveurs se méfient des messages.</translation>
     </message>
     <message>
         <source>Pubblicare un record SPF con la riga che indica il fornitore del server: senza, molti server non si fidano dei messaggi.</source>
-        <translation>Publiez un enregistrement SPF avec la ligne indiquée par le fournisseur du serveur : sans lui, beaucoup de serveurs se méfient des messages.</translation>
+        <translation>Publiez un enregistrement SPF avec la ligne indiquée par le fournisseur du serveur&#xa0;: sans lui, beaucoup de serveurs se méfient des messages.</translation>
     </message>
     <message>
         <source>%1 ha più di un record SPF e nessuno vale: unirli in uno solo.</source>
-        <translation>%1 a plus d&apos;un enregistrement SPF et aucun ne vaut : réunissez-les en un seul.</translation>
+        <translation>%1 a plus d&apos;un enregistrement SPF et aucun ne vaut&#xa0;: réunissez-les en un seul.</translation>
     </message>
     <message>
         <source>Il record SPF di %1 è troppo lungo: accorciarlo.</source>
-        <translation>L&apos;enregistrement SPF de %1 est trop long : raccourcissez-le.</translation>
+        <translation>L&apos;enregistrement SPF de %1 est trop long&#xa0;: raccourcissez-le.</translation>
     </message>
     <message>
         <source>Il record SPF di %1 non vale per un errore in &quot;%2&quot;: correggerlo.</source>
-        <translation>L&apos;enregistrement SPF de %1 n&apos;est pas valable à cause d&apos;une erreur dans « %2 » : corrigez-le.</translation>
+        <translation>L&apos;enregistrement SPF de %1 n&apos;est pas valable à cause d&apos;une erreur dans «&#xa0;%2&#xa0;»&#xa0;: corrigez-le.</translation>
     </message>
     <message>
         <source>Il record SPF richiede più di 10 ricerche nel DNS e non vale: togliere meccanismi, per esempio %1.</source>
-        <translation>L&apos;enregistrement SPF demande plus de 10 recherches dans le DNS et n&apos;est pas valable : retirez des mécanismes, par exemple %1.</translation>
+        <translation>L&apos;enregistrement SPF demande plus de 10 recherches dans le DNS et n&apos;est pas valable&#xa0;: retirez des mécanismes, par exemple %1.</translation>
     </message>
     <message>
         <source>Il record SPF di %1 nomina più di 2 domini senza record e non vale: togliere quelli che non esistono più, per esempio %2.</source>
-        <translation>L&apos;enregistrement SPF de %1 nomme plus de 2 domaines sans enregistrement et n&apos;est pas valable : retirez ceux qui n&apos;existent plus, par exemple %2.</translation>
+        <translation>L&apos;enregistrement SPF de %1 nomme plus de 2 domaines sans enregistrement et n&apos;est pas valable&#xa0;: retirez ceux qui n&apos;existent plus, par exemple %2.</translation>
     </message>
     <message>
         <source>Nel record SPF di %1 &quot;%2&quot; porta a più di 10 server e non vale: indicare gli indirizzi con ip4 o ip6.</source>
-        <translation>Dans l&apos;enregistrement SPF de %1, « %2 » mène à plus de 10 serveurs et n&apos;est pas valable : indiquez les adresses avec ip4 ou ip6.</translation>
+        <translation>Dans l&apos;enregistrement SPF de %1, «&#xa0;%2&#xa0;» mène à plus de 10 serveurs et n&apos;est pas valable&#xa0;: indiquez les adresses avec ip4 ou ip6.</translation>
     </message>
     <message>
         <source>Nel record SPF di %1 &quot;%2&quot; porta a un dominio senza record SPF, e tutto il record non vale: toglierlo o correggerlo.</source>
-        <translation>Dans l&apos;enregistrement SPF de %1, « %2 » mène à un domaine sans enregistrement SPF, et tout l&apos;enregistrement n&apos;est pas valable : retirez-le ou corrigez-le.</translation>
+        <translation>Dans l&apos;enregistrement SPF de %1, «&#xa0;%2&#xa0;» mène à un domaine sans enregistrement SPF, et tout l&apos;enregistrement n&apos;est pas valable&#xa0;: retirez-le ou corrigez-le.</translation>
     </message>
     <message>
         <source>Il record c&apos;è e si legge, ma l&apos;indirizzo pubblico di questo computer non si può conoscere da qui: verificare che il record lo nomini.</source>
-        <translation>L&apos;enregistrement existe et se lit, mais l&apos;adresse publique de cet ordinateur n&apos;est pas connue d&apos;ici : vérifiez que l&apos;enregistrement la nomme.</translation>
+        <translation>L&apos;enregistrement existe et se lit, mais l&apos;adresse publique de cet ordinateur n&apos;est pas connue d&apos;ici&#xa0;: vérifiez que l&apos;enregistrement la nomme.</translation>
     </message>
     <message>
         <source>Il record c&apos;è e si legge, ma il server non ha un indirizzo pubblico noto: chiedere al fornitore se è compreso nel record.</source>
-        <translation>L&apos;enregistrement existe et se lit, mais aucune adresse publique du serveur n&apos;est connue : demandez au fournisseur s&apos;il est compris dans l&apos;enregistrement.</translation>
+        <translation>L&apos;enregistrement existe et se lit, mais aucune adresse publique du serveur n&apos;est connue&#xa0;: demandez au fournisseur s&apos;il est compris dans l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Il record autorizza l&apos;indirizzo di questo computer.</source>
@@ -649,15 +649,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il record non autorizza l&apos;indirizzo di questo computer: aggiungerlo con ip4 o ip6.</source>
-        <translation>L&apos;enregistrement n&apos;autorise pas l&apos;adresse de cet ordinateur : ajoutez-la avec ip4 ou ip6.</translation>
+        <translation>L&apos;enregistrement n&apos;autorise pas l&apos;adresse de cet ordinateur&#xa0;: ajoutez-la avec ip4 ou ip6.</translation>
     </message>
     <message>
         <source>Il record autorizza solo alcuni indirizzi del server: aggiungere gli altri, o verificare con il fornitore da quali spedisce.</source>
-        <translation>L&apos;enregistrement n&apos;autorise que certaines adresses du serveur : ajoutez les autres, ou vérifiez avec le fournisseur desquelles il envoie.</translation>
+        <translation>L&apos;enregistrement n&apos;autorise que certaines adresses du serveur&#xa0;: ajoutez les autres, ou vérifiez avec le fournisseur desquelles il envoie.</translation>
     </message>
     <message>
         <source>Il record non autorizza gli indirizzi noti del server: se il fornitore non spedisce da altri, aggiungere al record la riga che lui indica.</source>
-        <translation>L&apos;enregistrement n&apos;autorise pas les adresses connues du serveur : si le fournisseur n&apos;envoie pas d&apos;autres adresses, ajoutez la ligne qu&apos;il indique.</translation>
+        <translation>L&apos;enregistrement n&apos;autorise pas les adresses connues du serveur&#xa0;: si le fournisseur n&apos;envoie pas d&apos;autres adresses, ajoutez la ligne qu&apos;il indique.</translation>
     </message>
     <message>
         <source>La tabella dei destinatari non ha tutte le sue colonne.</source>
@@ -665,15 +665,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il messaggio non si può aprire: </source>
-        <translation>Impossible d&apos;ouvrir le message : </translation>
+        <translation>Impossible d&apos;ouvrir le message&#xa0;: </translation>
     </message>
     <message>
         <source>Il file non contiene un messaggio intero: </source>
-        <translation>Le fichier ne contient pas de message entier : </translation>
+        <translation>Le fichier ne contient pas de message entier&#xa0;: </translation>
     </message>
     <message>
         <source>Tempo scaduto: il server non risponde.</source>
-        <translation>Délai dépassé : le serveur ne répond pas.</translation>
+        <translation>Délai dépassé&#xa0;: le serveur ne répond pas.</translation>
     </message>
     <message>
         <source>Manca il nome del server.</source>
@@ -725,7 +725,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Non si è potuto provare: correggere prima le righe sopra.</source>
-        <translation>Impossible à essayer : corrigez d&apos;abord les lignes ci-dessus.</translation>
+        <translation>Impossible à essayer&#xa0;: corrigez d&apos;abord les lignes ci-dessus.</translation>
     </message>
     <message>
         <source>Il server risponde.</source>
@@ -741,7 +741,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il server non offre una connessione protetta: usare la porta 587 o 465, o un altro server.</source>
-        <translation>Le serveur n&apos;offre pas de connexion sécurisée : utilisez le port 587 ou 465, ou un autre serveur.</translation>
+        <translation>Le serveur n&apos;offre pas de connexion sécurisée&#xa0;: utilisez le port 587 ou 465, ou un autre serveur.</translation>
     </message>
     <message>
         <source>d MMMM yyyy</source>
@@ -750,11 +750,11 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Per: %1</source>
-        <translation>Pour : %1</translation>
+        <translation>Pour&#xa0;: %1</translation>
     </message>
     <message>
         <source>Emesso da: %1</source>
-        <translation>Émis par : %1</translation>
+        <translation>Émis par&#xa0;: %1</translation>
     </message>
     <message>
         <source>Vale fino al %1</source>
@@ -762,15 +762,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il certificato è scaduto il %1: chi gestisce il server deve rinnovarlo.</source>
-        <translation>Le certificat a expiré le %1 : le gestionnaire du serveur doit le renouveler.</translation>
+        <translation>Le certificat a expiré le %1&#xa0;: le gestionnaire du serveur doit le renouveler.</translation>
     </message>
     <message>
         <source>Il certificato non è accettato: verificare il nome del server nell&apos;account, o chiedere a chi lo gestisce.</source>
-        <translation>Le certificat n&apos;est pas accepté : vérifiez le nom du serveur dans le compte, ou demandez à son gestionnaire.</translation>
+        <translation>Le certificat n&apos;est pas accepté&#xa0;: vérifiez le nom du serveur dans le compte, ou demandez à son gestionnaire.</translation>
     </message>
     <message>
         <source>Il certificato scade il %1: chi gestisce il server deve rinnovarlo in tempo.</source>
-        <translation>Le certificat expire le %1 : le gestionnaire du serveur doit le renouveler à temps.</translation>
+        <translation>Le certificat expire le %1&#xa0;: le gestionnaire du serveur doit le renouveler à temps.</translation>
     </message>
     <message>
         <source>Il certificato è valido fino al %1.</source>
@@ -794,7 +794,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il server accetta messaggi fino a %1: tenere piccoli gli allegati.</source>
-        <translation>Le serveur accepte des messages jusqu&apos;à %1 : limitez les pièces jointes.</translation>
+        <translation>Le serveur accepte des messages jusqu&apos;à %1&#xa0;: limitez les pièces jointes.</translation>
     </message>
     <message>
         <source>Il server accetta messaggi fino a %1.</source>
@@ -810,19 +810,19 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>%1 non viene sostituito: si scrive %2.</source>
-        <translation>%1 n&apos;est pas remplacé : on écrit %2.</translation>
+        <translation>%1 n&apos;est pas remplacé&#xa0;: on écrit %2.</translation>
     </message>
     <message>
         <source>%1 non viene sostituito: nessuna colonna ha questo nome.</source>
-        <translation>%1 n&apos;est pas remplacé : aucune colonne ne porte ce nom.</translation>
+        <translation>%1 n&apos;est pas remplacé&#xa0;: aucune colonne ne porte ce nom.</translation>
     </message>
     <message>
         <source>%1 non viene sostituito nella forma HTML: è spezzato da un cambio di formato. Riscriverlo tutto di seguito.</source>
-        <translation>%1 n&apos;est pas remplacé dans la forme HTML : un changement de format le coupe. Récrivez-le d&apos;un trait.</translation>
+        <translation>%1 n&apos;est pas remplacé dans la forme HTML&#xa0;: un changement de format le coupe. Récrivez-le d&apos;un trait.</translation>
     </message>
     <message>
         <source>L&apos;allegato %1 non c&apos;è: il messaggio parte senza.</source>
-        <translation>La pièce jointe %1 manque : le message part sans elle.</translation>
+        <translation>La pièce jointe %1 manque&#xa0;: le message part sans elle.</translation>
     </message>
     <message>
         <source>L&apos;oggetto è vuoto.</source>
@@ -830,11 +830,11 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Manca la forma di solo testo: il messaggio non contiene testo, e chi non vede le immagini non legge niente.</source>
-        <translation>La forme texte seul manque : le message ne contient pas de texte, et qui ne voit pas les images ne lit rien.</translation>
+        <translation>La forme texte seul manque&#xa0;: le message ne contient pas de texte, et qui ne voit pas les images ne lit rien.</translation>
     </message>
     <message>
         <source>Manca un collegamento di disiscrizione: chi non vuole più messaggi li segnala come indesiderati. Si crea nell&apos;editor con il comando &quot;Collegamento&quot;.</source>
-        <translation>Il manque un lien de désabonnement : qui ne veut plus de messages les signale comme indésirables. L&apos;éditeur en crée un avec la commande « Lien ».</translation>
+        <translation>Il manque un lien de désabonnement&#xa0;: qui ne veut plus de messages les signale comme indésirables. L&apos;éditeur en crée un avec la commande «&#xa0;Lien&#xa0;».</translation>
     </message>
     <message>
         <source>%1 è vuoto per %2 di %3 destinatari selezionati</source>
@@ -842,7 +842,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>; per %1 di loro si legge %2 al posto del valore.</source>
-        <translation> ; pour %1 d&apos;entre eux, on lit %2 à la place de la valeur.</translation>
+        <translation>&#xa0;; pour %1 d&apos;entre eux, on lit %2 à la place de la valeur.</translation>
     </message>
     <message>
         <source>I caratteri &lt;, &amp; o &quot; di %1 cambiano il messaggio per %2 di %3 destinatari selezionati.</source>
@@ -850,7 +850,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il corpo è di %1: oltre 100 kB i grandi gestori di posta lo tagliano.</source>
-        <translation>Le corps fait %1 : au-delà de 100 ko, les grands fournisseurs de messagerie le coupent.</translation>
+        <translation>Le corps fait %1&#xa0;: au-delà de 100 ko, les grands fournisseurs de messagerie le coupent.</translation>
     </message>
     <message>
         <source>(senza indirizzo)</source>
@@ -911,15 +911,15 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Il file &quot;%1&quot; non contiene una disposizione valida delle barre.</source>
-        <translation>Le fichier « %1 » ne contient pas de disposition valable des barres.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de disposition valide des barres.</translation>
     </message>
     <message>
         <source>Impossibile scrivere il file &quot;%1&quot;.</source>
-        <translation>Impossible d&apos;écrire le fichier « %1 ».</translation>
+        <translation>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Impossibile leggere il file &quot;%1&quot;.</source>
-        <translation>Impossible de lire le fichier « %1 ».</translation>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Proprietà elemento</source>
@@ -939,7 +939,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Elemento:</source>
-        <translation>&amp;Élément :</translation>
+        <translation>&amp;Élément&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -959,7 +959,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>T&amp;rova:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>Dove cercare</source>
@@ -995,7 +995,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Testo:</source>
-        <translation>&amp;Texte :</translation>
+        <translation>&amp;Texte&#xa0;:</translation>
     </message>
     <message>
         <source>Trova &amp;successivo</source>
@@ -1015,11 +1015,11 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>Elemento &quot;%1&quot; non trovato.</source>
-        <translation>Élément « %1 » introuvable.</translation>
+        <translation>Élément «&#xa0;%1&#xa0;» introuvable.</translation>
     </message>
     <message>
         <source>L&apos;elemento &quot;%1&quot; esiste già.</source>
-        <translation>L&apos;élément « %1 » existe déjà.</translation>
+        <translation>L&apos;élément «&#xa0;%1&#xa0;» existe déjà.</translation>
     </message>
     <message>
         <source>Un elemento non può essere spostato dentro sé stesso o i propri elementi.</source>
@@ -1063,7 +1063,7 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;File o indirizzo:</source>
-        <translation>&amp;Fichier ou adresse :</translation>
+        <translation>&amp;Fichier ou adresse&#xa0;:</translation>
     </message>
     <message>
         <source>File o indirizzo</source>
@@ -1071,19 +1071,19 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Testo alternativo:</source>
-        <translation>&amp;Texte de remplacement :</translation>
+        <translation>&amp;Texte de remplacement&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Larghezza:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>A&amp;ltezza:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Alli&amp;neamento:</source>
-        <translation>Ali&amp;gnement :</translation>
+        <translation>Ali&amp;gnement&#xa0;:</translation>
     </message>
     <message>
         <source>Inserisci immagine</source>
@@ -1119,19 +1119,19 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     </message>
     <message>
         <source>&amp;Tipo:</source>
-        <translation>T&amp;ype :</translation>
+        <translation>T&amp;ype&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Indirizzo:</source>
-        <translation>&amp;Adresse :</translation>
+        <translation>&amp;Adresse&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Variabile:</source>
-        <translation>&amp;Variable :</translation>
+        <translation>&amp;Variable&#xa0;:</translation>
     </message>
     <message>
         <source>T&amp;esto:</source>
-        <translation>Te&amp;xte :</translation>
+        <translation>Te&amp;xte&#xa0;:</translation>
     </message>
     <message>
         <source>Ri&amp;muovi</source>
@@ -1156,12 +1156,12 @@ Il a été mis de côté sous le nom pathDBase.utf8.guasto.</translation>
     <message>
         <source>Gli account non sono stati salvati:<byte value="xd"/>
 il file Account.imp appartiene a un altro utente, che potrebbe leggere le password.</source>
-        <translation>Les comptes n&apos;ont pas été enregistrés :<byte value="xd"/>
+        <translation>Les comptes n&apos;ont pas été enregistrés&#xa0;:<byte value="xd"/>
 le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les mots de passe.</translation>
     </message>
     <message>
         <source>Il file degli account non può contenere questi caratteri:</source>
-        <translation>Le fichier des comptes n&apos;accepte pas ces caractères :</translation>
+        <translation>Le fichier des comptes n&apos;accepte pas ces caractères&#xa0;:</translation>
     </message>
     <message>
         <source>In attesa del portachiavi… Esc per rinunciare</source>
@@ -1173,7 +1173,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>In attesa del browser: annulla l&apos;accesso</source>
-        <translation>En attente du navigateur : annuler la connexion</translation>
+        <translation>En attente du navigateur&#xa0;: annuler la connexion</translation>
     </message>
     <message>
         <source>Accedi con il browser...</source>
@@ -1185,11 +1185,11 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Accesso riuscito. Salvare ora l&apos;account con &quot;Nuovo Account&quot; o &quot;Modifica Account&quot;.</source>
-        <translation>Connexion réussie. Enregistrez maintenant le compte avec « Nouveau compte » ou « Modifier le compte ».</translation>
+        <translation>Connexion réussie. Enregistrez maintenant le compte avec «&#xa0;Nouveau compte&#xa0;» ou «&#xa0;Modifier le compte&#xa0;».</translation>
     </message>
     <message>
         <source>Nessun account: compilare e premere Nuovo Account</source>
-        <translation>Aucun compte : remplissez et cliquez sur Nouveau compte</translation>
+        <translation>Aucun compte&#xa0;: remplissez et cliquez sur Nouveau compte</translation>
     </message>
     <message>
         <source>Allegato</source>
@@ -1217,15 +1217,15 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Operazione: </source>
-        <translation>Opération : </translation>
+        <translation>Opération&#xa0;: </translation>
     </message>
     <message>
         <source>Finestra: </source>
-        <translation>Fenêtre : </translation>
+        <translation>Fenêtre&#xa0;: </translation>
     </message>
     <message>
         <source>File: </source>
-        <translation>Fichier : </translation>
+        <translation>Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>Il programma viene chiuso</source>
@@ -1269,7 +1269,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Ordina l&apos;elenco per la colonna corrente; la terza volta torna l&apos;ordine di prima</source>
-        <translation>Trie la liste par la colonne actuelle ; la troisième fois, l&apos;ordre d&apos;avant revient</translation>
+        <translation>Trie la liste par la colonne actuelle&#xa0;; la troisième fois, l&apos;ordre d&apos;avant revient</translation>
     </message>
     <message>
         <source>&amp;Indirizzi doppi...</source>
@@ -1301,7 +1301,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>tabella &quot;%1&quot; di %2</source>
-        <translation>table « %1 » de %2</translation>
+        <translation>table «&#xa0;%1&#xa0;» de %2</translation>
     </message>
     <message>
         <source>Importazione da file di testo</source>
@@ -1329,7 +1329,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Outlook letto senza queste protezioni del sistema: </source>
-        <translation>Outlook lu sans ces protections du système : </translation>
+        <translation>Outlook lu sans ces protections du système&#xa0;: </translation>
     </message>
     <message>
         <source>contatti di Outlook</source>
@@ -1381,7 +1381,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Il testo incollato nominava file di questo computer, che sarebbero partiti con il messaggio. Sono stati lasciati fuori:</source>
-        <translation>Le texte collé nommait des fichiers de cet ordinateur, qui seraient partis avec le message. Ils ont été laissés de côté :</translation>
+        <translation>Le texte collé nommait des fichiers de cet ordinateur, qui seraient partis avec le message. Ils ont été laissés de côté&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>e altri %n</source>
@@ -1392,7 +1392,7 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Per mettere un&apos;immagine nel messaggio usa &quot;Inserisci immagine&quot;.</source>
-        <translation>Pour mettre une image dans le message, utilisez « Insérer une image ».</translation>
+        <translation>Pour mettre une image dans le message, utilisez «&#xa0;Insérer une image&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>Nel testo incollato %n elementi restano sul web</source>
@@ -1407,19 +1407,19 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Il file del messaggio non può contenere questi caratteri, al loro posto c&apos;è &quot;?&quot;:</source>
-        <translation>Le fichier du message n&apos;accepte pas ces caractères, « ? » les remplace :</translation>
+        <translation>Le fichier du message n&apos;accepte pas ces caractères, «&#xa0;?&#xa0;» les remplace&#xa0;:</translation>
     </message>
     <message>
         <source>Oggetto: </source>
-        <translation>Objet : </translation>
+        <translation>Objet&#xa0;: </translation>
     </message>
     <message>
         <source>Percorsi degli allegati: </source>
-        <translation>Chemins des pièces jointes : </translation>
+        <translation>Chemins des pièces jointes&#xa0;: </translation>
     </message>
     <message>
         <source>Questi allegati non saranno trovati: rinomina i file.</source>
-        <translation>Ces pièces jointes seront introuvables : renommez les fichiers.</translation>
+        <translation>Ces pièces jointes seront introuvables&#xa0;: renommez les fichiers.</translation>
     </message>
     <message>
         <source>Il messaggio è stato salvato, ma così non si potrà né aprire né inviare.</source>
@@ -1427,11 +1427,11 @@ le fichier Account.imp appartient à un autre utilisateur, qui pourrait lire les
     </message>
     <message>
         <source>Il messaggio non è stato salvato: riprova fra qualche istante.</source>
-        <translation>Le message n&apos;a pas été enregistré : réessayez dans un instant.</translation>
+        <translation>Le message n&apos;a pas été enregistré&#xa0;: réessayez dans un instant.</translation>
     </message>
     <message>
         <source>Il messaggio non è stato salvato in %1:</source>
-        <translation>Le message n&apos;a pas été enregistré dans %1 :</translation>
+        <translation>Le message n&apos;a pas été enregistré dans %1&#xa0;:</translation>
     </message>
     <message>
         <source>Salvalo con un altro nome.</source>
@@ -1453,9 +1453,9 @@ Oggetto: %2<byte value="xd"/>
 Ultima modifica: %3<byte value="xd"/>
 Vuoi recuperarlo?</source>
         <translation>Le message %1 n&apos;a pas été enregistré avant la fin du programme.<byte value="xd"/>
-Objet : %2<byte value="xd"/>
-Dernière modification : %3<byte value="xd"/>
-Voulez-vous le récupérer ?</translation>
+Objet&#xa0;: %2<byte value="xd"/>
+Dernière modification&#xa0;: %3<byte value="xd"/>
+Voulez-vous le récupérer&#xa0;?</translation>
     </message>
     <message>
         <source>Il testo recuperato è nell&apos;origine.</source>
@@ -1503,7 +1503,7 @@ Voulez-vous le récupérer ?</translation>
     </message>
     <message>
         <source>Il file degli invii già accettati era danneggiato ed è stato messo da parte:</source>
-        <translation>Le fichier des envois déjà acceptés était endommagé et a été mis de côté :</translation>
+        <translation>Le fichier des envois déjà acceptés était endommagé et a été mis de côté&#xa0;:</translation>
     </message>
     <message>
         <source>Chi vi era ricordato potrebbe ricevere il messaggio una seconda volta.</source>
@@ -1529,7 +1529,7 @@ Voulez-vous le récupérer ?</translation>
         <source>Ogni destinatario riceverà, insieme al messaggio, questi file di questo computer.<byte value="xd"/>
 Vuoi inviarli?</source>
         <translation>Avec le message, chaque destinataire recevra ces fichiers de cet ordinateur.<byte value="xd"/>
-Voulez-vous les envoyer ?</translation>
+Voulez-vous les envoyer&#xa0;?</translation>
     </message>
     <message>
         <source>Non chiederlo &amp;più per questo messaggio</source>
@@ -1537,7 +1537,7 @@ Voulez-vous les envoyer ?</translation>
     </message>
     <message>
         <source>Il file per l&apos;assistenza non si può scrivere:</source>
-        <translation>Impossible d&apos;écrire le fichier pour l&apos;assistance :</translation>
+        <translation>Impossible d&apos;écrire le fichier pour l&apos;assistance&#xa0;:</translation>
     </message>
     <message>
         <source>L&apos;invio prosegue senza.</source>
@@ -1551,7 +1551,7 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla selezione:</source>
-        <translation>Certains destinataires ont déjà été servis, mais il est impossible de les retirer de la sélection :</translation>
+        <translation>Certains destinataires ont déjà été servis, mais il est impossible de les retirer de la sélection&#xa0;:</translation>
     </message>
     <message>
         <source>L&apos;invio non è iniziato. Riprovare più tardi.</source>
@@ -1600,7 +1600,7 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Tempo rimanente: %1</source>
-        <translation>Temps restant : %1</translation>
+        <translation>Temps restant&#xa0;: %1</translation>
     </message>
     <message>
         <source>Il registro degli esiti non si può scrivere. %1</source>
@@ -1608,11 +1608,11 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Ultima non inviata: %1</source>
-        <translation>Dernier non envoyé : %1</translation>
+        <translation>Dernier non envoyé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Per chiudere: Esc o un clic</source>
-        <translation>Pour fermer : Échap ou un clic</translation>
+        <translation>Pour fermer&#xa0;: Échap ou un clic</translation>
     </message>
     <message>
         <source>Scegliere una cartella</source>
@@ -1676,7 +1676,7 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Nuova cartella: tasto destro sulla radice</source>
-        <translation>Nouveau dossier : clic droit sur la racine</translation>
+        <translation>Nouveau dossier&#xa0;: clic droit sur la racine</translation>
     </message>
     <message numerus="yes">
         <source>%Ln destinatari</source>
@@ -1687,11 +1687,11 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Destinatario da spostare: %1. Ctrl+V su una cartella lo sposta</source>
-        <translation>Destinataire à déplacer : %1. Ctrl+V sur un dossier le déplace</translation>
+        <translation>Destinataire à déplacer&#xa0;: %1. Ctrl+V sur un dossier le déplace</translation>
     </message>
     <message>
         <source>Cartella da spostare: %1. Ctrl+V su un&apos;altra cartella la sposta</source>
-        <translation>Dossier à déplacer : %1. Ctrl+V sur un autre dossier le déplace</translation>
+        <translation>Dossier à déplacer&#xa0;: %1. Ctrl+V sur un autre dossier le déplace</translation>
     </message>
     <message>
         <source>Destinatario spostato in %1</source>
@@ -1739,7 +1739,7 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>Ricerca non riuscita: %1</source>
-        <translation>La recherche a échoué : %1</translation>
+        <translation>La recherche a échoué&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln trovati, ricerca in corso…</source>
@@ -1776,7 +1776,7 @@ Réessayez quand elle aura fini.</translation>
     </message>
     <message>
         <source>; qui %1</source>
-        <translation> ; ici %1</translation>
+        <translation>&#xa0;; ici %1</translation>
     </message>
     <message>
         <source>Recupera cartelle perdute</source>
@@ -1798,7 +1798,7 @@ Réessayez quand elle aura fini.</translation>
         <source>L&apos;albero non mostra %1 e %2.<byte value="xd"/>
 Portarli sotto &quot;Database Mailing&quot;?</source>
         <translation>L&apos;arbre ne montre pas %1 et %2.<byte value="xd"/>
-Les ramener sous « Database Mailing » ?</translation>
+Les ramener sous «&#xa0;Database Mailing&#xa0;»&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln cartelle</source>
@@ -1813,7 +1813,7 @@ Les ramener sous « Database Mailing » ?</translation>
     </message>
     <message>
         <source>Nessuna cartella è perduta: l&apos;albero le mostra tutte.</source>
-        <translation>Aucun dossier n&apos;est perdu : l&apos;arbre les montre tous.</translation>
+        <translation>Aucun dossier n&apos;est perdu&#xa0;: l&apos;arbre les montre tous.</translation>
     </message>
     <message>
         <source>Impossibile recuperare tutte le cartelle.</source>
@@ -1833,19 +1833,19 @@ Les ramener sous « Database Mailing » ?</translation>
     </message>
     <message>
         <source>Selettore:</source>
-        <translation>Sélecteur :</translation>
+        <translation>Sélecteur&#xa0;:</translation>
     </message>
     <message>
         <source>Nome del record:</source>
-        <translation>Nom de l&apos;enregistrement :</translation>
+        <translation>Nom de l&apos;enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Valore:</source>
-        <translation>Valeur :</translation>
+        <translation>Valeur&#xa0;:</translation>
     </message>
     <message>
         <source>Riga per un file di zona:</source>
-        <translation>Ligne pour un fichier de zone :</translation>
+        <translation>Ligne pour un fichier de zone&#xa0;:</translation>
     </message>
     <message>
         <source>Copia &amp;nome</source>
@@ -1877,11 +1877,11 @@ Les ramener sous « Database Mailing » ?</translation>
     </message>
     <message>
         <source>Nessun account: crearne uno con File, Imposta Account.</source>
-        <translation>Aucun compte : créez-en un avec Fichier, Configurer les comptes.</translation>
+        <translation>Aucun compte&#xa0;: créez-en un avec Fichier, Configurer les comptes.</translation>
     </message>
     <message>
         <source>Il file degli account è danneggiato: si vedono solo quelli prima del guasto.</source>
-        <translation>Le fichier des comptes est endommagé : seuls ceux d&apos;avant le dommage sont visibles.</translation>
+        <translation>Le fichier des comptes est endommagé&#xa0;: seuls ceux d&apos;avant le dommage sont visibles.</translation>
     </message>
     <message>
         <source>Scegliere un account e premere Controlla.</source>
@@ -1904,11 +1904,11 @@ Les ramener sous « Database Mailing » ?</translation>
     </message>
     <message>
         <source>Controllo finito: tutto in ordine.</source>
-        <translation>Contrôle terminé : tout est en ordre.</translation>
+        <translation>Contrôle terminé&#xa0;: tout est en ordre.</translation>
     </message>
     <message>
         <source>Controllo finito: %1 da correggere, %2 con attenzione.</source>
-        <translation>Contrôle terminé : %1 à corriger, %2 avec attention.</translation>
+        <translation>Contrôle terminé&#xa0;: %1 à corriger, %2 avec attention.</translation>
     </message>
     <message>
         <source>Controllo interrotto.</source>
@@ -1921,8 +1921,8 @@ Les ramener sous « Database Mailing » ?</translation>
     <message>
         <source>Creare una chiave DKIM per %1?<byte value="xd"/>
 Da quel momento i messaggi di questo dominio vengono firmati; la firma vale quando il suo record è pubblicato.</source>
-        <translation>Créer une clé DKIM pour %1 ?<byte value="xd"/>
-Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois son enregistrement publié.</translation>
+        <translation>Créer une clé DKIM pour %1&#xa0;?<byte value="xd"/>
+Dès lors, les messages de ce domaine sont signés&#xa0;; la signature vaut une fois son enregistrement publié.</translation>
     </message>
     <message>
         <source>Chiave DKIM</source>
@@ -1938,7 +1938,7 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>&amp;Account mittente:</source>
-        <translation>&amp;Compte expéditeur :</translation>
+        <translation>&amp;Compte expéditeur&#xa0;:</translation>
     </message>
     <message>
         <source>C&amp;ontrolla</source>
@@ -1962,7 +1962,7 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>D&amp;ettagli:</source>
-        <translation>&amp;Détails :</translation>
+        <translation>&amp;Détails&#xa0;:</translation>
     </message>
     <message>
         <source>Crea chiave &amp;DKIM...</source>
@@ -2010,7 +2010,7 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>Restano gli ultimi 50 invii, nella cartella &quot;esiti&quot; dei dati del programma</source>
-        <translation>Les 50 derniers envois sont conservés, dans le dossier « esiti » des données du programme</translation>
+        <translation>Les 50 derniers envois sont conservés, dans le dossier «&#xa0;esiti&#xa0;» des données du programme</translation>
     </message>
     <message>
         <source>&amp;Seleziona questi per il prossimo invio</source>
@@ -2036,19 +2036,19 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>I&amp;nvio:</source>
-        <translation>E&amp;nvoi :</translation>
+        <translation>E&amp;nvoi&#xa0;:</translation>
     </message>
     <message>
         <source>Es&amp;ito:</source>
-        <translation>&amp;Résultat :</translation>
+        <translation>&amp;Résultat&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Motivo:</source>
-        <translation>&amp;Motif :</translation>
+        <translation>&amp;Motif&#xa0;:</translation>
     </message>
     <message>
         <source>Trov&amp;a:</source>
-        <translation>Rec&amp;hercher :</translation>
+        <translation>Rec&amp;hercher&#xa0;:</translation>
     </message>
     <message>
         <source>Tutti</source>
@@ -2078,11 +2078,11 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>Il registro si interrompe a metà di una riga: il programma è terminato durante l&apos;invio.</source>
-        <translation>Le journal s&apos;interrompt au milieu d&apos;une ligne : le programme s&apos;est terminé pendant l&apos;envoi.</translation>
+        <translation>Le journal s&apos;interrompt au milieu d&apos;une ligne&#xa0;: le programme s&apos;est terminé pendant l&apos;envoi.</translation>
     </message>
     <message>
         <source>L&apos;invio è di un altro database: la selezione non si può cambiare da qui.</source>
-        <translation>L&apos;envoi est d&apos;une autre base de données : la sélection ne peut être changée d&apos;ici.</translation>
+        <translation>L&apos;envoi est d&apos;une autre base de données&#xa0;: la sélection ne peut être changée d&apos;ici.</translation>
     </message>
     <message>
         <source>Salva l&apos;esito dell&apos;invio</source>
@@ -2094,7 +2094,7 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>Il file non si può scrivere:</source>
-        <translation>Impossible d&apos;écrire le fichier :</translation>
+        <translation>Impossible d&apos;écrire le fichier&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%Ln di questi destinatari hanno già ricevuto il messaggio.</source>
@@ -2105,7 +2105,7 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
     </message>
     <message>
         <source>Selezionarli tutti lo stesso?</source>
-        <translation>Les sélectionner tous quand même ?</translation>
+        <translation>Les sélectionner tous quand même&#xa0;?</translation>
     </message>
     <message>
         <source>In questo invio nessun indirizzo è risultato inesistente.</source>
@@ -2116,12 +2116,12 @@ Dès lors, les messages de ce domaine sont signés ; la signature vaut une fois 
 Quando sono più della metà la causa è spesso un&apos;altra: un server che rifiuta ogni destinatario, o il mittente bloccato.<byte value="xd"/>
 Deselezionarli lo stesso?</source>
         <translation>Dans cet envoi, %1 destinataires sur %2 se révèlent inexistants.<byte value="xd"/>
-Quand c&apos;est plus de la moitié, la cause est souvent autre : un serveur qui refuse tout destinataire, ou l&apos;expéditeur bloqué.<byte value="xd"/>
-Les désélectionner quand même ?</translation>
+Quand c&apos;est plus de la moitié, la cause est souvent autre&#xa0;: un serveur qui refuse tout destinataire, ou l&apos;expéditeur bloqué.<byte value="xd"/>
+Les désélectionner quand même&#xa0;?</translation>
     </message>
     <message>
         <source>La selezione non si può cambiare:</source>
-        <translation>La sélection ne peut être changée :</translation>
+        <translation>La sélection ne peut être changée&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%Ln destinatari sono stati selezionati.</source>
@@ -2147,20 +2147,20 @@ Les désélectionner quand même ?</translation>
     <message numerus="yes">
         <source>%Ln non sono stati toccati: non ci sono più, o il loro indirizzo è cambiato.</source>
         <translation>
-            <numerusform>Un n&apos;a pas été touché : il n&apos;existe plus, ou son adresse a changé.</numerusform>
-            <numerusform>%Ln n&apos;ont pas été touchés : ils n&apos;existent plus, ou leur adresse a changé.</numerusform>
+            <numerusform>Un n&apos;a pas été touché&#xa0;: il n&apos;existe plus, ou son adresse a changé.</numerusform>
+            <numerusform>%Ln n&apos;ont pas été touchés&#xa0;: ils n&apos;existent plus, ou leur adresse a changé.</numerusform>
         </translation>
     </message>
     <message>
         <source>Eliminare il registro di questo invio?<byte value="xd"/>
 I destinatari restano come sono.</source>
-        <translation>Supprimer le journal de cet envoi ?<byte value="xd"/>
+        <translation>Supprimer le journal de cet envoi&#xa0;?<byte value="xd"/>
 Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Eliminare il registro di tutti gli invii?<byte value="xd"/>
 I destinatari restano come sono.</source>
-        <translation>Supprimer le journal de tous les envois ?<byte value="xd"/>
+        <translation>Supprimer le journal de tous les envois&#xa0;?<byte value="xd"/>
 Les destinataires restent tels quels.</translation>
     </message>
     <message>
@@ -2169,11 +2169,11 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>File messaggio:</source>
-        <translation>Fichier du message :</translation>
+        <translation>Fichier du message&#xa0;:</translation>
     </message>
     <message>
         <source>Destinatario:</source>
-        <translation>Destinataire :</translation>
+        <translation>Destinataire&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Precedente</source>
@@ -2185,7 +2185,7 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Cerca:</source>
-        <translation>Rechercher :</translation>
+        <translation>Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>Ce&amp;rca</source>
@@ -2193,11 +2193,11 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Oggetto:</source>
-        <translation>Objet :</translation>
+        <translation>Objet&#xa0;:</translation>
     </message>
     <message>
         <source>Rilievi:</source>
-        <translation>Remarques :</translation>
+        <translation>Remarques&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Vai al primo</source>
@@ -2205,11 +2205,11 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Account mittente:</source>
-        <translation>Compte expéditeur :</translation>
+        <translation>Compte expéditeur&#xa0;:</translation>
     </message>
     <message>
         <source>Indirizzo della prova:</source>
-        <translation>Adresse de l&apos;essai :</translation>
+        <translation>Adresse de l&apos;essai&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Invia una copia di prova</source>
@@ -2265,19 +2265,19 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Nessun messaggio: salvarne uno nell&apos;editor o sceglierlo con il pulsante &quot;...&quot;.</source>
-        <translation>Aucun message : enregistrez-en un dans l&apos;éditeur ou choisissez-le avec le bouton « ... ».</translation>
+        <translation>Aucun message&#xa0;: enregistrez-en un dans l&apos;éditeur ou choisissez-le avec le bouton «&#xa0;...&#xa0;».</translation>
     </message>
     <message>
         <source>I destinatari non si possono leggere: %1</source>
-        <translation>Impossible de lire les destinataires : %1</translation>
+        <translation>Impossible de lire les destinataires&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nessun destinatario è selezionato: il messaggio si vede con i suoi segnaposto.</source>
-        <translation>Aucun destinataire sélectionné : le message se voit avec ses variables.</translation>
+        <translation>Aucun destinataire sélectionné&#xa0;: le message se voit avec ses variables.</translation>
     </message>
     <message>
         <source>Questa copia non si può mostrare: %1</source>
-        <translation>Impossible d&apos;afficher cette copie : %1</translation>
+        <translation>Impossible d&apos;afficher cette copie&#xa0;: %1</translation>
     </message>
     <message>
         <source>non c&apos;è</source>
@@ -2289,19 +2289,19 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Allegati: %1.</source>
-        <translation>Pièces jointes : %1.</translation>
+        <translation>Pièces jointes&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Dimensione non nota: manca l&apos;account mittente.</source>
-        <translation>Taille inconnue : le compte expéditeur manque.</translation>
+        <translation>Taille inconnue&#xa0;: le compte expéditeur manque.</translation>
     </message>
     <message>
         <source>Il messaggio non può partire: %1</source>
-        <translation>Le message ne peut partir : %1</translation>
+        <translation>Le message ne peut partir&#xa0;: %1</translation>
     </message>
     <message>
         <source>Messaggio intero: %1.</source>
-        <translation>Message entier : %1.</translation>
+        <translation>Message entier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Ricerca in corso…</source>
@@ -2309,7 +2309,7 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Nessun destinatario selezionato contiene &quot;%1&quot;.</source>
-        <translation>Aucun destinataire sélectionné ne contient « %1 ».</translation>
+        <translation>Aucun destinataire sélectionné ne contient «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Scegliere un messaggio prima di inviare la prova.</source>
@@ -2317,7 +2317,7 @@ Les destinataires restent tels quels.</translation>
     </message>
     <message>
         <source>Nessun account: crearne uno con il comando &quot;Imposta Account&quot;.</source>
-        <translation>Aucun compte : créez-en un avec la commande « Configurer les comptes ».</translation>
+        <translation>Aucun compte&#xa0;: créez-en un avec la commande «&#xa0;Configurer les comptes&#xa0;».</translation>
     </message>
     <message>
         <source>L&apos;indirizzo della prova non è valido.</source>
@@ -2335,7 +2335,7 @@ Les destinataires restent tels quels.</translation>
         <source>La copia di prova porta con sé questi file di questo computer.<byte value="xd"/>
 Vuoi inviarli?</source>
         <translation>La copie d&apos;essai emporte ces fichiers de cet ordinateur.<byte value="xd"/>
-Voulez-vous les envoyer ?</translation>
+Voulez-vous les envoyer&#xa0;?</translation>
     </message>
     <message>
         <source>La prova non è stata consegnata. Invio interrotto.</source>
@@ -2351,23 +2351,23 @@ Voulez-vous les envoyer ?</translation>
     </message>
     <message>
         <source>Il server ha risposto: %1</source>
-        <translation>Le serveur a répondu : %1</translation>
+        <translation>Le serveur a répondu&#xa0;: %1</translation>
     </message>
     <message>
         <source>I campi dei destinatari non si possono controllare: %1</source>
-        <translation>Impossible de contrôler les champs des destinataires : %1</translation>
+        <translation>Impossible de contrôler les champs des destinataires&#xa0;: %1</translation>
     </message>
     <message>
         <source>Rilievi (controllo dei destinatari in corso):</source>
-        <translation>Remarques (contrôle des destinataires en cours) :</translation>
+        <translation>Remarques (contrôle des destinataires en cours)&#xa0;:</translation>
     </message>
     <message>
         <source>Rilievi: nessuno</source>
-        <translation>Remarques : aucune</translation>
+        <translation>Remarques&#xa0;: aucune</translation>
     </message>
     <message>
         <source>Rilievi: %1</source>
-        <translation>Remarques : %1</translation>
+        <translation>Remarques&#xa0;: %1</translation>
     </message>
     <message>
         <source>Dall&apos;avvio del programma non è stata fatta nessuna importazione.</source>
@@ -2381,7 +2381,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Nel database ne sono rimaste %1: le ultime non sono state scritte.</source>
-        <translation>Il en est resté %1 dans la base de données : les dernières n&apos;ont pas été écrites.</translation>
+        <translation>Il en est resté %1 dans la base de données&#xa0;: les dernières n&apos;ont pas été écrites.</translation>
     </message>
     <message>
         <source>L&apos;elenco ha le prime %1 righe importate e le prime %1 rifiutate.</source>
@@ -2421,7 +2421,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>&amp;Mostra:</source>
-        <translation>&amp;Afficher :</translation>
+        <translation>&amp;Afficher&#xa0;:</translation>
     </message>
     <message>
         <source>Importata</source>
@@ -2449,7 +2449,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Con &quot;Sì&quot;</source>
-        <translation>Avec « Oui »</translation>
+        <translation>Avec «&#xa0;Oui&#xa0;»</translation>
     </message>
     <message>
         <source>Resta selezionato</source>
@@ -2469,8 +2469,8 @@ Importées %3, refusées %4.</translation>
     <message numerus="yes">
         <source>Deselezionare i %Ln doppioni, uno escluso per indirizzo?</source>
         <translation>
-            <numerusform>Désélectionner le doublon ?</numerusform>
-            <numerusform>Désélectionner les %Ln doublons, tous sauf un par adresse ?</numerusform>
+            <numerusform>Désélectionner le doublon&#xa0;?</numerusform>
+            <numerusform>Désélectionner les %Ln doublons, tous sauf un par adresse&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2489,13 +2489,13 @@ Importées %3, refusées %4.</translation>
         <source>Errore %1:<byte value="xd"/>
 <byte value="xd"/>
 %2</source>
-        <translation>Erreur %1 :<byte value="xd"/>
+        <translation>Erreur %1&#xa0;:<byte value="xd"/>
 <byte value="xd"/>
 %2</translation>
     </message>
     <message>
         <source>Ricerca del server di posta non riuscita: %1. Riprovare più tardi.</source>
-        <translation>La recherche du serveur de messagerie a échoué : %1. Réessayez plus tard.</translation>
+        <translation>La recherche du serveur de messagerie a échoué&#xa0;: %1. Réessayez plus tard.</translation>
     </message>
     <message>
         <source>file di testo </source>
@@ -2503,7 +2503,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Ricerca di %1 nel DNS non riuscita: %2. Riprovare più tardi.</source>
-        <translation>La recherche de %1 dans le DNS a échoué : %2. Réessayer plus tard.</translation>
+        <translation>La recherche de %1 dans le DNS a échoué&#xa0;: %2. Réessayer plus tard.</translation>
     </message>
     <message>
         <source>il DNS risponde con il codice di errore %1</source>
@@ -2551,19 +2551,19 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Ricerca non riuscita: questa cartella non si può leggere</source>
-        <translation>La recherche a échoué : ce dossier ne peut pas être lu</translation>
+        <translation>La recherche a échoué&#xa0;: ce dossier ne peut pas être lu</translation>
     </message>
     <message>
         <source>Trovati: %1. Il database è usato da un altro programma: la ricerca riprende quando è libero.</source>
-        <translation>Trouvés : %1. Un autre programme utilise la base de données : la recherche reprend quand elle est libre.</translation>
+        <translation>Trouvés&#xa0;: %1. Un autre programme utilise la base de données&#xa0;: la recherche reprend quand elle est libre.</translation>
     </message>
     <message>
         <source>; questa cartella non si può leggere</source>
-        <translation> ; ce dossier ne peut pas être lu</translation>
+        <translation>&#xa0;; ce dossier ne peut pas être lu</translation>
     </message>
     <message>
         <source>La prova può essere stata consegnata: il server ha ricevuto tutto il messaggio e non ha risposto.</source>
-        <translation>L&apos;essai a peut-être été remis : le serveur a reçu tout le message et n&apos;a pas répondu.</translation>
+        <translation>L&apos;essai a peut-être été remis&#xa0;: le serveur a reçu tout le message et n&apos;a pas répondu.</translation>
     </message>
     <message>
         <source>Non c&apos;è nessuna rubrica.</source>
@@ -2603,7 +2603,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il corpo del messaggio non si può aprire: </source>
-        <translation>Impossible d&apos;ouvrir le corps du message : </translation>
+        <translation>Impossible d&apos;ouvrir le corps du message&#xa0;: </translation>
     </message>
     <message>
         <source>è troppo grande (più di %1 milioni di caratteri).</source>
@@ -2631,7 +2631,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Impossibile caricare la vista dei messaggi: %1</source>
-        <translation>Impossible de charger la vue des messages : %1</translation>
+        <translation>Impossible de charger la vue des messages&#xa0;: %1</translation>
     </message>
     <message>
         <source>Impossibile stampare il messaggio.</source>
@@ -2639,7 +2639,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Impossibile scrivere %1: %2</source>
-        <translation>Impossible d&apos;écrire %1 : %2</translation>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>La stampante non ha preso il messaggio. %1</source>
@@ -2655,7 +2655,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Per %1 manca il client_id: va scritto nel file %2, dopo aver registrato il programma presso il fornitore.</source>
-        <translation>Il manque le client_id de %1 : écrivez-le dans le fichier %2 après avoir enregistré le programme auprès du fournisseur.</translation>
+        <translation>Il manque le client_id de %1&#xa0;: écrivez-le dans le fichier %2 après avoir enregistré le programme auprès du fournisseur.</translation>
     </message>
     <message>
         <source>Il consenso non è stato dato.</source>
@@ -2663,11 +2663,11 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il fornitore ha rifiutato la richiesta: %1</source>
-        <translation>Le fournisseur a refusé la demande : %1</translation>
+        <translation>Le fournisseur a refusé la demande&#xa0;: %1</translation>
     </message>
     <message>
         <source>Il fornitore non accetta la risposta del browser: riprovare.</source>
-        <translation>Le fournisseur n&apos;accepte pas la réponse du navigateur : réessayez.</translation>
+        <translation>Le fournisseur n&apos;accepte pas la réponse du navigateur&#xa0;: réessayez.</translation>
     </message>
     <message>
         <source>Manca il file %1.</source>
@@ -2675,7 +2675,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Impossibile leggere il file %1: %2.</source>
-        <translation>Impossible de lire le fichier %1 : %2.</translation>
+        <translation>Impossible de lire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>non è un elenco</source>
@@ -2731,7 +2731,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il file %1 non è valido: %2.</source>
-        <translation>Le fichier %1 n&apos;est pas valide : %2.</translation>
+        <translation>Le fichier %1 n&apos;est pas valide&#xa0;: %2.</translation>
     </message>
     <message>
         <source>non contiene un oggetto</source>
@@ -2743,7 +2743,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>il nome di un fornitore può contenere solo a-z, 0-9 e &quot;-&quot;</source>
-        <translation>le nom d&apos;un fournisseur ne peut contenir que a-z, 0-9 et « - »</translation>
+        <translation>le nom d&apos;un fournisseur ne peut contenir que a-z, 0-9 et «&#xa0;-&#xa0;»</translation>
     </message>
     <message>
         <source> non è un oggetto</source>
@@ -2755,11 +2755,11 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Impossibile attendere la risposta del browser: %1</source>
-        <translation>Impossible d&apos;attendre la réponse du navigateur : %1</translation>
+        <translation>Impossible d&apos;attendre la réponse du navigateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Richiesta non valida.</source>
-        <translation>Demande non valable.</translation>
+        <translation>Demande non valide.</translation>
     </message>
     <message>
         <source>Pagina inesistente.</source>
@@ -2771,23 +2771,23 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Risposta ricevuta: si può chiudere questa pagina e tornare a Vestrola.</source>
-        <translation>Réponse reçue : vous pouvez fermer cette page et revenir à Vestrola.</translation>
+        <translation>Réponse reçue&#xa0;: vous pouvez fermer cette page et revenir à Vestrola.</translation>
     </message>
     <message>
         <source>L&apos;accesso non è stato concesso: si può chiudere questa pagina.</source>
-        <translation>La connexion n&apos;a pas été accordée : vous pouvez fermer cette page.</translation>
+        <translation>La connexion n&apos;a pas été accordée&#xa0;: vous pouvez fermer cette page.</translation>
     </message>
     <message>
         <source>La risposta del fornitore non è valida.</source>
-        <translation>La réponse du fournisseur n&apos;est pas valable.</translation>
+        <translation>La réponse du fournisseur n&apos;est pas valide.</translation>
     </message>
     <message>
         <source>Il consenso è scaduto o è stato ritirato: nella finestra degli account accedere di nuovo con il browser.</source>
-        <translation>Le consentement a expiré ou a été retiré : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+        <translation>Le consentement a expiré ou a été retiré&#xa0;: reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
     </message>
     <message>
         <source>Il fornitore non riconosce client_id o client_secret: %1</source>
-        <translation>Le fournisseur ne reconnaît pas client_id ou client_secret : %1</translation>
+        <translation>Le fournisseur ne reconnaît pas client_id ou client_secret&#xa0;: %1</translation>
     </message>
     <message>
         <source>Il consenso dato non comprende l&apos;invio della posta.</source>
@@ -2799,7 +2799,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Manca il consenso del fornitore: nella finestra degli account accedere con il browser.</source>
-        <translation>Le consentement du fournisseur manque : connectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+        <translation>Le consentement du fournisseur manque&#xa0;: connectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
     </message>
     <message>
         <source>Il file %1 è un collegamento.</source>
@@ -2807,7 +2807,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il file %1 è danneggiato: nella finestra degli account accedere di nuovo con il browser.</source>
-        <translation>Le fichier %1 est endommagé : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+        <translation>Le fichier %1 est endommagé&#xa0;: reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
     </message>
     <message>
         <source>Impossibile scrivere il file %1.</source>
@@ -2815,7 +2815,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il fornitore non è raggiungibile: %1</source>
-        <translation>Le fournisseur est injoignable : %1</translation>
+        <translation>Le fournisseur est injoignable&#xa0;: %1</translation>
     </message>
     <message>
         <source>tempo scaduto.</source>
@@ -2839,11 +2839,11 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il consenso è scaduto e il fornitore non permette di rinnovarlo: nella finestra degli account accedere di nuovo con il browser.</source>
-        <translation>Le consentement a expiré et le fournisseur ne permet pas de le renouveler : reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
+        <translation>Le consentement a expiré et le fournisseur ne permet pas de le renouveler&#xa0;: reconnectez-vous avec le navigateur dans la fenêtre des comptes.</translation>
     </message>
     <message>
         <source>Il server %1 non appartiene a un fornitore del file %2: nessun token gli viene inviato.</source>
-        <translation>Le serveur %1 n&apos;appartient pas à un fournisseur du fichier %2 : aucun jeton ne lui est envoyé.</translation>
+        <translation>Le serveur %1 n&apos;appartient pas à un fournisseur du fichier %2&#xa0;: aucun jeton ne lui est envoyé.</translation>
     </message>
     <message>
         <source>Il portachiavi del desktop non c&apos;è.</source>
@@ -2859,7 +2859,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>Il portachiavi non risponde: </source>
-        <translation>Le trousseau ne répond pas : </translation>
+        <translation>Le trousseau ne répond pas&#xa0;: </translation>
     </message>
     <message>
         <source>Il portachiavi non conserva la password così com&apos;è.</source>
@@ -2895,7 +2895,7 @@ Importées %3, refusées %4.</translation>
     </message>
     <message>
         <source>altri utenti possono %1 %2: deve essere un file dell&apos;utente con i permessi %3</source>
-        <translation>d&apos;autres utilisateurs peuvent %1 %2 : ce doit être un fichier de l&apos;utilisateur avec les droits %3</translation>
+        <translation>d&apos;autres utilisateurs peuvent %1 %2&#xa0;: ce doit être un fichier de l&apos;utilisateur avec les droits %3</translation>
     </message>
     <message>
         <source>leggere o scrivere</source>
@@ -2916,6 +2916,1018 @@ Importées %3, refusées %4.</translation>
     <message>
         <source>Impossibile aprire </source>
         <translation>Impossible d&apos;ouvrir </translation>
+    </message>
+    <message>
+        <source>Un comando non può eseguire una SELECT.</source>
+        <translation>Une commande ne peut pas exécuter de SELECT.</translation>
+    </message>
+    <message>
+        <source>Tempo scaduto.</source>
+        <translation>Délai dépassé.</translation>
+    </message>
+    <message>
+        <source>Formato della stringa di connessione non valido.</source>
+        <translation>Format de la chaîne de connexion non valide.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il provider &quot;%1&quot;.</source>
+        <translation>Fournisseur «&#xa0;%1&#xa0;» introuvable.</translation>
+    </message>
+    <message>
+        <source>Nessun file di database indicato.</source>
+        <translation>Aucun fichier de base de données n&apos;est indiqué.</translation>
+    </message>
+    <message>
+        <source>Tipo di dati non corrispondente nel campo &quot;%1&quot;.</source>
+        <translation>Type de données incompatible dans le champ «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Valore troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>La valeur est trop grande pour le champ «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una INSERT di valori.</source>
+        <translation>L&apos;instruction n&apos;est pas un INSERT de valeurs.</translation>
+    </message>
+    <message>
+        <source>L&apos;identità di un record non può essere scelta.</source>
+        <translation>L&apos;identité d&apos;un enregistrement ne peut pas être choisie.</translation>
+    </message>
+    <message>
+        <source>Il record è stato eliminato.</source>
+        <translation>L&apos;enregistrement a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Nessun record corrente.</source>
+        <translation>Aucun enregistrement en cours.</translation>
+    </message>
+    <message>
+        <source>Operazione non consentita se l&apos;oggetto è chiuso.</source>
+        <translation>Opération non autorisée si l&apos;objet est fermé.</translation>
+    </message>
+    <message>
+        <source>Il recordset corrente non supporta l&apos;aggiornamento.</source>
+        <translation>Le recordset actuel ne prend pas en charge la mise à jour.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il campo &quot;%1&quot;.</source>
+        <translation>Champ «&#xa0;%1&#xa0;» introuvable.</translation>
+    </message>
+    <message>
+        <source>L&apos;origine di un recordset deve essere una SELECT.</source>
+        <translation>La source d&apos;un recordset doit être un SELECT.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: una riga ha perso il suo posto.</source>
+        <translation>Erreur interne de la base de données&#xa0;: une ligne a perdu sa place.</translation>
+    </message>
+    <message>
+        <source>Impossibile avviare il motore SQL.</source>
+        <translation>Impossible de démarrer le moteur SQL.</translation>
+    </message>
+    <message>
+        <source>La struttura del database è stata modificata.</source>
+        <translation>La structure de la base de données a été modifiée.</translation>
+    </message>
+    <message>
+        <source>Un&apos;altra istruzione è in attesa del database.</source>
+        <translation>Une autre instruction attend la base de données.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL vicino a &quot;%1&quot;.</source>
+        <translation>Erreur de syntaxe dans l&apos;instruction SQL près de «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non corrisponde al numero dei campi di destinazione.</source>
+        <translation>Le nombre de valeurs ne correspond pas au nombre de champs de destination.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa.</source>
+        <translation>Instruction SQL non admise.</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non valida.</source>
+        <translation>Instruction SQL non valide.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è riservata al sistema.</source>
+        <translation>La table «&#xa0;%1&#xa0;» est réservée au système.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere usata nelle istruzioni SQL.</source>
+        <translation>La table «&#xa0;%1&#xa0;» n&apos;est pas utilisable dans les instructions SQL.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione non è una SELECT.</source>
+        <translation>L&apos;instruction n&apos;est pas un SELECT.</translation>
+    </message>
+    <message>
+        <source>L&apos;istruzione deve leggere tutte le colonne di una tabella.</source>
+        <translation>L&apos;instruction doit lire toutes les colonnes d&apos;une table.</translation>
+    </message>
+    <message>
+        <source>Il record è troppo lungo.</source>
+        <translation>L&apos;enregistrement est trop long.</translation>
+    </message>
+    <message>
+        <source>Troppi record per essere mostrati.</source>
+        <translation>Trop d&apos;enregistrements à afficher.</translation>
+    </message>
+    <message>
+        <source>carattere nullo</source>
+        <translation>caractère nul</translation>
+    </message>
+    <message>
+        <source>commento</source>
+        <translation>commentaire</translation>
+    </message>
+    <message>
+        <source>parametro</source>
+        <translation>paramètre</translation>
+    </message>
+    <message>
+        <source>virgolette fuori da un testo</source>
+        <translation>guillemets hors d&apos;un texte</translation>
+    </message>
+    <message>
+        <source>manca un apice di chiusura</source>
+        <translation>il manque une apostrophe fermante</translation>
+    </message>
+    <message>
+        <source>manca una parentesi quadra di chiusura</source>
+        <translation>il manque un crochet fermant</translation>
+    </message>
+    <message>
+        <source>manca un cancelletto di chiusura</source>
+        <translation>il manque un dièse fermant</translation>
+    </message>
+    <message>
+        <source>Istruzione SQL non ammessa: %1.</source>
+        <translation>Instruction SQL non admise&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Errore di sintassi nell&apos;istruzione SQL: %1.</source>
+        <translation>Erreur de syntaxe dans l&apos;instruction SQL&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>forma non prevista</source>
+        <translation>forme non prévue</translation>
+    </message>
+    <message>
+        <source>i valori da inserire non sono leggibili</source>
+        <translation>les valeurs à insérer sont illisibles</translation>
+    </message>
+    <message>
+        <source>la data #%1# non è valida</source>
+        <translation>la date #%1# n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>testo troppo lungo</source>
+        <translation>texte trop long</translation>
+    </message>
+    <message>
+        <source>più di una istruzione</source>
+        <translation>plus d&apos;une instruction</translation>
+    </message>
+    <message>
+        <source>istruzione vuota</source>
+        <translation>instruction vide</translation>
+    </message>
+    <message>
+        <source>Il disco è pieno: il file &quot;%1&quot; non trova posto.</source>
+        <translation>Le disque est plein&#xa0;: le fichier «&#xa0;%1&#xa0;» n&apos;a pas de place.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;.</source>
+        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo di posta elettronica non è valido.</source>
+        <translation>L&apos;adresse e-mail n&apos;est pas valide.</translation>
+    </message>
+    <message>
+        <source>L&apos;allegato %1 %2.</source>
+        <translation>La pièce jointe %1 %2.</translation>
+    </message>
+    <message>
+        <source>non esiste</source>
+        <translation>n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>è troppo grande</source>
+        <translation>est trop grosse</translation>
+    </message>
+    <message>
+        <source>Il nome utente contiene un carattere non ammesso.</source>
+        <translation>Le nom d&apos;utilisateur contient un caractère non admis.</translation>
+    </message>
+    <message>
+        <source>non si può leggere</source>
+        <translation>est illisible</translation>
+    </message>
+    <message>
+        <source>non è il file che è stato confermato</source>
+        <translation>n&apos;est pas le fichier qui a été confirmé</translation>
+    </message>
+    <message>
+        <source>Invio interrotto.</source>
+        <translation>Envoi interrompu.</translation>
+    </message>
+    <message>
+        <source>Risposta in ritardo al messaggio di prima</source>
+        <translation>Réponse tardive au message précédent</translation>
+    </message>
+    <message>
+        <source>Il destinatario non è stato letto: nessun invio.</source>
+        <translation>Le destinataire n&apos;a pas été lu&#xa0;: aucun envoi.</translation>
+    </message>
+    <message>
+        <source>L&apos;invio è stato fermato: nessun invio fino al prossimo avvio.</source>
+        <translation>L&apos;envoi a été arrêté&#xa0;: aucun envoi jusqu&apos;au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo del destinatario non è stato letto: nessun invio.</source>
+        <translation>L&apos;adresse du destinataire n&apos;a pas été lue&#xa0;: aucun envoi.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato in questo invio.</source>
+        <translation>Le message pour ce destinataire a déjà été accepté dans cet envoi.</translation>
+    </message>
+    <message>
+        <source>Il messaggio per questo destinatario è già stato accettato.</source>
+        <translation>Le message pour ce destinataire a déjà été accepté.</translation>
+    </message>
+    <message>
+        <source>Non c&apos;è più spazio per ricordare i messaggi accettati.</source>
+        <translation>Il n&apos;y a plus de place pour retenir les messages acceptés.</translation>
+    </message>
+    <message>
+        <source>Il destinatario è stato selezionato di nuovo.</source>
+        <translation>Le destinataire a été sélectionné de nouveau.</translation>
+    </message>
+    <message>
+        <source>Il file %1 esiste già.</source>
+        <translation>Le fichier %1 existe déjà.</translation>
+    </message>
+    <message>
+        <source>Non è possibile scrivere il file %1.</source>
+        <translation>Impossible d&apos;écrire le fichier %1.</translation>
+    </message>
+    <message>
+        <source>La chiave non si può leggere.</source>
+        <translation>Impossible de lire la clé.</translation>
+    </message>
+    <message>
+        <source>Il dominio non è valido.</source>
+        <translation>Le domaine n&apos;est pas valide.</translation>
+    </message>
+    <message>
+        <source>Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.</source>
+        <translation>Le domaine a déjà une clé ou un sélecteur&#xa0;: %1.pem, %1.selector.</translation>
+    </message>
+    <message>
+        <source>Non è possibile creare la cartella %1.</source>
+        <translation>Impossible de créer le dossier %1.</translation>
+    </message>
+    <message>
+        <source>La creazione della chiave non è riuscita.</source>
+        <translation>La création de la clé a échoué.</translation>
+    </message>
+    <message>
+        <source>Messaggio non firmato (DKIM): %1.</source>
+        <translation>Message non signé (DKIM)&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>il selettore manca o non è valido</source>
+        <translation>le sélecteur manque ou n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>la chiave manca o non è una chiave RSA</source>
+        <translation>la clé manque ou n&apos;est pas une clé RSA</translation>
+    </message>
+    <message>
+        <source>la chiave ha meno di %1 bit</source>
+        <translation>la clé a moins de %1 bits</translation>
+    </message>
+    <message>
+        <source>la firma non è riuscita</source>
+        <translation>la signature a échoué</translation>
+    </message>
+    <message>
+        <source>Il server non ha completato l&apos;autenticazione.</source>
+        <translation>Le serveur n&apos;a pas terminé l&apos;authentification.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta il consenso di OAuth 2.0 per l&apos;utente %1: %2</source>
+        <translation>Le serveur n&apos;accepte pas le consentement OAuth 2.0 de l&apos;utilisateur %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>La password non viene inviata in chiaro a %1, che non offre una connessione TLS. Per inviarla ugualmente scrivere il nome del server nel file %2.</source>
+        <translation>Le mot de passe n&apos;est pas envoyé en clair à %1, qui n&apos;offre pas de connexion TLS. Pour l&apos;envoyer malgré tout, écrivez le nom du serveur dans le fichier %2.</translation>
+    </message>
+    <message>
+        <source>Il server non offre l&apos;accesso con OAuth 2.0.</source>
+        <translation>Le serveur n&apos;offre pas la connexion par OAuth 2.0.</translation>
+    </message>
+    <message>
+        <source>Il server non offre un metodo di autenticazione conosciuto.</source>
+        <translation>Le serveur n&apos;offre aucune méthode d&apos;authentification connue.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può eliminare.</source>
+        <translation>Impossible de supprimer le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>La cartella &quot;%1&quot; non si può creare.</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non si può scrivere: %2</source>
+        <translation>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Autenticazione non riuscita: %1</source>
+        <translation>Échec de l&apos;authentification&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Il nome utente o la password contengono un carattere non ammesso.</source>
+        <translation>Le nom d&apos;utilisateur ou le mot de passe contient un caractère non admis.</translation>
+    </message>
+    <message>
+        <source>Il server rifiuta il messaggio per le sue regole</source>
+        <translation>Le serveur refuse le message selon ses règles</translation>
+    </message>
+    <message>
+        <source>Il server limita il numero o la frequenza degli invii</source>
+        <translation>Le serveur limite le nombre ou la fréquence des envois</translation>
+    </message>
+    <message>
+        <source>Il server considera il messaggio posta indesiderata (spam)</source>
+        <translation>Le serveur considère le message comme indésirable (spam)</translation>
+    </message>
+    <message>
+        <source>%1, per ora, codice %2: %3</source>
+        <translation>%1, pour l&apos;instant, code %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>%1, codice %2: %3</source>
+        <translation>%1, code %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Server %1 non trovato.</source>
+        <translation>Serveur %1 introuvable.</translation>
+    </message>
+    <message>
+        <source>Connessione rifiutata da %1, porta %2.</source>
+        <translation>Connexion refusée par %1, port %2.</translation>
+    </message>
+    <message>
+        <source>Il server ha chiuso la connessione.</source>
+        <translation>Le serveur a fermé la connexion.</translation>
+    </message>
+    <message>
+        <source>Errore di rete: %1</source>
+        <translation>Erreur de réseau&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Il dominio del destinatario non ha un server di posta.</source>
+        <translation>Le domaine du destinataire n&apos;a pas de serveur de messagerie.</translation>
+    </message>
+    <message>
+        <source>Risposta del server non valida: %1</source>
+        <translation>Réponse du serveur non valide&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Risposta del server inattesa: %1 %2</source>
+        <translation>Réponse inattendue du serveur&#xa0;: %1 %2</translation>
+    </message>
+    <message>
+        <source>Il server non offre più la connessione TLS, che ha offerto in passato. Per dimenticarlo cancellare la sua riga dal file %1.</source>
+        <translation>Le serveur n&apos;offre plus la connexion TLS qu&apos;il a offerte par le passé. Pour l&apos;oublier, effacez sa ligne du fichier %1.</translation>
+    </message>
+    <message>
+        <source>Il server non accetta indirizzi con caratteri internazionali.</source>
+        <translation>Le serveur n&apos;accepte pas les adresses à caractères internationaux.</translation>
+    </message>
+    <message>
+        <source>il certificato è autofirmato</source>
+        <translation>le certificat est autosigné</translation>
+    </message>
+    <message>
+        <source>il certificato è scaduto</source>
+        <translation>le certificat a expiré</translation>
+    </message>
+    <message>
+        <source>il certificato non è ancora valido</source>
+        <translation>le certificat n&apos;est pas encore valable</translation>
+    </message>
+    <message>
+        <source>il certificato è di un altro server</source>
+        <translation>le certificat est celui d&apos;un autre serveur</translation>
+    </message>
+    <message>
+        <source>l&apos;autorità che ha emesso il certificato non è attendibile</source>
+        <translation>l&apos;autorité qui a émis le certificat n&apos;est pas fiable</translation>
+    </message>
+    <message>
+        <source>Il server ha aggiunto testo in chiaro alla risposta a STARTTLS.</source>
+        <translation>Le serveur a ajouté du texte en clair à la réponse à STARTTLS.</translation>
+    </message>
+    <message>
+        <source>in chiaro</source>
+        <translation>en clair</translation>
+    </message>
+    <message>
+        <source>%1, %2, certificato %3</source>
+        <translation>%1, %2, certificat %3</translation>
+    </message>
+    <message>
+        <source>non verificato</source>
+        <translation>non vérifié</translation>
+    </message>
+    <message>
+        <source>valido</source>
+        <translation>valable</translation>
+    </message>
+    <message>
+        <source>Connessione TLS non riuscita: %1.</source>
+        <translation>Échec de la connexion TLS&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta da TLS con un certificato valido.</source>
+        <translation>Le jeton OAuth 2.0 n&apos;est pas envoyé à %1&#xa0;: la connexion n&apos;est pas protégée par TLS avec un certificat valable.</translation>
+    </message>
+    <message>
+        <source>Uso non valido di Null.</source>
+        <translation>Utilisation incorrecte de Null.</translation>
+    </message>
+    <message>
+        <source>Tipo non corrispondente.</source>
+        <translation>Type incompatible.</translation>
+    </message>
+    <message>
+        <source>Overflow.</source>
+        <translation>Dépassement de capacité.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha un contatore.</source>
+        <translation>La table «&#xa0;%1&#xa0;» n&apos;a pas de compteur.</translation>
+    </message>
+    <message>
+        <source>Il contatore della tabella &quot;%1&quot; è esaurito.</source>
+        <translation>Le compteur de la table «&#xa0;%1&#xa0;» est épuisé.</translation>
+    </message>
+    <message>
+        <source>il catalogo non è leggibile</source>
+        <translation>le catalogue est illisible</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non contiene righe</source>
+        <translation>la page %1 ne contient pas de lignes</translation>
+    </message>
+    <message>
+        <source>la pagina %1 ha troppe righe</source>
+        <translation>la page %1 a trop de lignes</translation>
+    </message>
+    <message>
+        <source>le righe della pagina %1 si sovrappongono</source>
+        <translation>les lignes de la page %1 se chevauchent</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 è fuori posto</source>
+        <translation>la ligne %1 de la page %2 n&apos;est pas à sa place</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non ha posto</source>
+        <translation>la page %1 n&apos;a pas de place</translation>
+    </message>
+    <message>
+        <source>Password non valida.</source>
+        <translation>Mot de passe incorrect.</translation>
+    </message>
+    <message>
+        <source>il file &quot;%1&quot; è troncato</source>
+        <translation>le fichier «&#xa0;%1&#xa0;» est tronqué</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; è collegata a un altro file.</source>
+        <translation>La table «&#xa0;%1&#xa0;» est liée à un autre fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è una query, non una tabella.</source>
+        <translation>«&#xa0;%1&#xa0;» est une requête, pas une table.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare la tabella &quot;%1&quot;.</source>
+        <translation>Table «&#xa0;%1&#xa0;» introuvable.</translation>
+    </message>
+    <message>
+        <source>Nessuna transazione è in corso.</source>
+        <translation>Aucune transaction n&apos;est en cours.</translation>
+    </message>
+    <message>
+        <source>Impossibile scrivere nella cartella di &quot;%1&quot;.</source>
+        <translation>Impossible d&apos;écrire dans le dossier de «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est utilisé par un autre programme.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; è il database aperto.</source>
+        <translation>«&#xa0;%1&#xa0;» est la base de données ouverte.</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 è incompleta</source>
+        <translation>la définition de la table en page %1 est incomplète</translation>
+    </message>
+    <message>
+        <source>un nome nella definizione della tabella a pagina %1 non è valido</source>
+        <translation>un nom dans la définition de la table en page %1 n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 ha due campi con il nome &quot;%2&quot;</source>
+        <translation>la définition de la table en page %1 a deux champs du nom de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è la definizione di una tabella</source>
+        <translation>la page %1 n&apos;est pas la définition d&apos;une table</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non finisce</source>
+        <translation>la définition de la table en page %1 ne se termine pas</translation>
+    </message>
+    <message>
+        <source>la definizione della tabella a pagina %1 non è leggibile</source>
+        <translation>la définition de la table en page %1 est illisible</translation>
+    </message>
+    <message>
+        <source>un campo della tabella a pagina %1 non ha posto nelle righe</source>
+        <translation>un champ de la table en page %1 n&apos;a pas de place dans les lignes</translation>
+    </message>
+    <message>
+        <source>un indice della tabella a pagina %1 non esiste</source>
+        <translation>un index de la table en page %1 n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>disco pieno</source>
+        <translation>disque plein</translation>
+    </message>
+    <message>
+        <source>lo spazio concesso all&apos;utente sul disco è esaurito</source>
+        <translation>l&apos;espace disque accordé à l&apos;utilisateur est épuisé</translation>
+    </message>
+    <message>
+        <source>il disco è di sola lettura</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>permesso negato</source>
+        <translation>permission refusée</translation>
+    </message>
+    <message>
+        <source>il disco non riesce a leggere o scrivere</source>
+        <translation>le disque n&apos;arrive pas à lire ou à écrire</translation>
+    </message>
+    <message>
+        <source>il file supera la dimensione concessa</source>
+        <translation>le fichier dépasse la taille permise</translation>
+    </message>
+    <message>
+        <source>il nome è un collegamento</source>
+        <translation>le nom est un lien</translation>
+    </message>
+    <message>
+        <source>il file esiste già</source>
+        <translation>le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>è una cartella</source>
+        <translation>c&apos;est un dossier</translation>
+    </message>
+    <message>
+        <source>il file o la cartella non esiste</source>
+        <translation>le fichier ou le dossier n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>il nome è troppo lungo</source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message>
+        <source>troppi file aperti</source>
+        <translation>trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>memoria esaurita</source>
+        <translation>mémoire épuisée</translation>
+    </message>
+    <message>
+        <source>il disco non conosce questa operazione</source>
+        <translation>le disque ne connaît pas cette opération</translation>
+    </message>
+    <message>
+        <source>il disco non è più raggiungibile</source>
+        <translation>le disque n&apos;est plus accessible</translation>
+    </message>
+    <message>
+        <source>il file è in uso</source>
+        <translation>le fichier est utilisé</translation>
+    </message>
+    <message>
+        <source>errore di sistema %1</source>
+        <translation>erreur système %1</translation>
+    </message>
+    <message>
+        <source>Errore del disco (%1) sul file &quot;%2&quot;: %3.</source>
+        <translation>Erreur du disque (%1) sur le fichier «&#xa0;%2&#xa0;»&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Impossibile trovare il file &quot;%1&quot;.</source>
+        <translation>Fichier «&#xa0;%1&#xa0;» introuvable.</translation>
+    </message>
+    <message>
+        <source>Impossibile aprire il file &quot;%1&quot;: %2.</source>
+        <translation>Impossible d&apos;ouvrir le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono descritte male</source>
+        <translation>les nouvelles tables sont mal décrites</translation>
+    </message>
+    <message>
+        <source>le tabelle nuove sono troppe</source>
+        <translation>les nouvelles tables sont trop nombreuses</translation>
+    </message>
+    <message>
+        <source>una tabella nuova ha troppe colonne</source>
+        <translation>une nouvelle table a trop de colonnes</translation>
+    </message>
+    <message>
+        <source>un nome non ha chiave</source>
+        <translation>un nom n&apos;a pas de clé</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; esiste già.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» existe déjà.</translation>
+    </message>
+    <message>
+        <source>Il database è danneggiato: %1.</source>
+        <translation>La base de données est endommagée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Errore interno del database: %1.</source>
+        <translation>Erreur interne de la base de données&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Il database ha raggiunto la dimensione massima di 2 GB.</source>
+        <translation>La base de données a atteint la taille maximale de 2 Go.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è in uso da un altro programma.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» est utilisée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è aperto in un altro programma (%2): non può essere modificato.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» est ouverte dans un autre programme (%2)&#xa0;: elle ne peut pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>Formato di database non riconosciuto: %1.</source>
+        <translation>Format de base de données non reconnu&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>il file non è un database Jet</source>
+        <translation>le fichier n&apos;est pas une base de données Jet</translation>
+    </message>
+    <message>
+        <source>è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)</source>
+        <translation>c&apos;est un fichier .accdb d&apos;Access 2007 ou ultérieur&#xa0;; enregistrez-le au format Access 2000-2003 (.mdb)</translation>
+    </message>
+    <message>
+        <source>è di una versione più recente di Access 2003</source>
+        <translation>il est d&apos;une version plus récente qu&apos;Access 2003</translation>
+    </message>
+    <message>
+        <source>il file è troncato</source>
+        <translation>le fichier est tronqué</translation>
+    </message>
+    <message>
+        <source>è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)</source>
+        <translation>c&apos;est un fichier Access 97 dont la page de codes n&apos;est pas l&apos;occidentale (1252)</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non è leggibile</source>
+        <translation>la page d&apos;index %1 est illisible</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 è troppo piena</source>
+        <translation>la page d&apos;index %1 est trop pleine</translation>
+    </message>
+    <message>
+        <source>la pagina di indice %1 non ha un ultimo ramo</source>
+        <translation>la page d&apos;index %1 n&apos;a pas de dernière branche</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; gira in tondo</source>
+        <translation>un index de «&#xa0;%1&#xa0;» tourne en rond</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; contiene già la riga</source>
+        <translation>un index de «&#xa0;%1&#xa0;» contient déjà la ligne</translation>
+    </message>
+    <message>
+        <source>Le voci di un indice del database sono troppo lunghe per essere divise.</source>
+        <translation>Les entrées d&apos;un index de la base de données sont trop longues pour être divisées.</translation>
+    </message>
+    <message>
+        <source>la definizione di una tabella è incompleta</source>
+        <translation>la définition d&apos;une table est incomplète</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il database. Il database non viene aperto finché il file resta al suo posto.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n&apos;est pas un journal de cette base de données&#xa0;: c&apos;est un lien, ou il appartient à quelqu&apos;un qui ne peut pas écrire la base de données. La base de données ne s&apos;ouvre pas tant que le fichier reste à sa place.</translation>
+    </message>
+    <message>
+        <source>Troppi file &quot;%1&quot;.</source>
+        <translation>Trop de fichiers «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Accanto al database c&apos;era un giornale di modifiche interrotte che non gli appartiene. Il database resta com&apos;è; il giornale è stato messo da parte come &quot;%1&quot;.</source>
+        <translation>À côté de la base de données se trouvait un journal de modifications interrompues qui ne lui appartient pas. La base de données reste telle quelle&#xa0;; le journal a été mis de côté sous le nom «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>lettura</source>
+        <translation>lecture</translation>
+    </message>
+    <message>
+        <source>un indice di &quot;%1&quot; nomina un campo che non c&apos;è</source>
+        <translation>un index de «&#xa0;%1&#xa0;» nomme un champ qui n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>un valore del campo &quot;%1&quot; è troppo corto</source>
+        <translation>une valeur du champ «&#xa0;%1&#xa0;» est trop courte</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; non ha l&apos;ordinamento generale</source>
+        <translation>le champ «&#xa0;%1&#xa0;» n&apos;a pas l&apos;ordre de tri général</translation>
+    </message>
+    <message>
+        <source>il tipo del campo &quot;%1&quot; non è adatto a un indice</source>
+        <translation>le type du champ «&#xa0;%1&#xa0;» ne convient pas à un index</translation>
+    </message>
+    <message>
+        <source>non è su alcun campo</source>
+        <translation>il ne porte sur aucun champ</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene il carattere %2, che non può stare nell&apos;indice &quot;%3&quot;.</source>
+        <translation>Le texte du champ «&#xa0;%1&#xa0;» contient le caractère %2, que l&apos;index «&#xa0;%3&#xa0;» ne peut pas contenir.</translation>
+    </message>
+    <message>
+        <source>I valori sono troppo lunghi per l&apos;indice &quot;%1&quot;.</source>
+        <translation>Les valeurs sont trop longues pour l&apos;index «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>un campo memo non è leggibile</source>
+        <translation>un champ mémo est illisible</translation>
+    </message>
+    <message>
+        <source>Il database non ha posto per i testi lunghi di un campo memo.</source>
+        <translation>La base de données n&apos;a pas de place pour les textes longs d&apos;un champ mémo.</translation>
+    </message>
+    <message>
+        <source>scrittura</source>
+        <translation>écriture</translation>
+    </message>
+    <message>
+        <source>creazione</source>
+        <translation>création</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; non è un file.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>accorciamento</source>
+        <translation>raccourcissement</translation>
+    </message>
+    <message>
+        <source>prenotazione</source>
+        <translation>réservation</translation>
+    </message>
+    <message>
+        <source>sincronizzazione</source>
+        <translation>synchronisation</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; può essere letto o scritto da chi non può farlo con &quot;%2&quot;.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» peut être lu ou écrit par qui ne le peut pas avec «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>blocco</source>
+        <translation>verrouillage</translation>
+    </message>
+    <message>
+        <source>cancellazione</source>
+        <translation>suppression</translation>
+    </message>
+    <message>
+        <source>cambio di nome</source>
+        <translation>changement de nom</translation>
+    </message>
+    <message>
+        <source>%1 Accanto è rimasto il giornale delle sue ultime modifiche, &quot;%2&quot;, che viene conservato: rimettere il file al suo posto.</source>
+        <translation>%1 À côté est resté le journal de ses dernières modifications, «&#xa0;%2&#xa0;», qui est conservé&#xa0;: remettez le fichier à sa place.</translation>
+    </message>
+    <message>
+        <source>Il file &quot;%1&quot; supera la dimensione massima di un database, 2 GB.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» dépasse la taille maximale d&apos;une base de données, 2 Go.</translation>
+    </message>
+    <message>
+        <source>la lunghezza del file non è quella di un database</source>
+        <translation>la longueur du fichier n&apos;est pas celle d&apos;une base de données</translation>
+    </message>
+    <message>
+        <source>manca la pagina %1</source>
+        <translation>la page %1 manque</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è troncata</source>
+        <translation>la page %1 est tronquée</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato Access 2000-2003 (.mdb).</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» est d&apos;Access 97&#xa0;: elle peut être lue mais pas modifiée. Pour la modifier, convertissez-la au format Access 2000-2003 (.mdb).</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è di sola lettura.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>Una transazione è già in corso.</source>
+        <translation>Une transaction est déjà en cours.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; viene sostituito di continuo da un altro programma.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» est sans cesse remplacée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; va ripristinato dopo un&apos;interruzione, ma non può essere scritto.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» doit être rétablie après une interruption, mais ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>Il database &quot;%1&quot; è stato sostituito o cancellato: la modifica non è stata fatta.</source>
+        <translation>La base de données «&#xa0;%1&#xa0;» a été remplacée ou supprimée&#xa0;: la modification n&apos;a pas été faite.</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è fra quelle libere di una tabella a cui non appartiene</source>
+        <translation>la page %1 est parmi les pages libres d&apos;une table à laquelle elle n&apos;appartient pas</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; non è leggibile</source>
+        <translation>une ligne de «&#xa0;%1&#xa0;» est illisible</translation>
+    </message>
+    <message>
+        <source>Il record è troppo grande per la tabella &quot;%1&quot; (%2 byte; al massimo %3).</source>
+        <translation>L&apos;enregistrement est trop grand pour la table «&#xa0;%1&#xa0;» (%2 octets&#xa0;; au plus %3).</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non appartiene alla tabella &quot;%2&quot;</source>
+        <translation>la page %1 n&apos;appartient pas à la table «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 non dice dove è</source>
+        <translation>la ligne %1 de la page %2 ne dit pas où elle est</translation>
+    </message>
+    <message>
+        <source>la riga %1 della pagina %2 si è persa</source>
+        <translation>la ligne %1 de la page %2 est perdue</translation>
+    </message>
+    <message>
+        <source>una riga di &quot;%1&quot; è sparita</source>
+        <translation>une ligne de «&#xa0;%1&#xa0;» a disparu</translation>
+    </message>
+    <message>
+        <source>la pagina %1 è in uso ed è segnata come libera</source>
+        <translation>la page %1 est utilisée et marquée comme libre</translation>
+    </message>
+    <message>
+        <source>un indice gira in tondo</source>
+        <translation>un index tourne en rond</translation>
+    </message>
+    <message>
+        <source>La struttura della tabella &quot;%1&quot; è stata cambiata da un altro programma.</source>
+        <translation>La structure de la table «&#xa0;%1&#xa0;» a été modifiée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non ha una chiave primaria numerica.</source>
+        <translation>La table «&#xa0;%1&#xa0;» n&apos;a pas de clé primaire numérique.</translation>
+    </message>
+    <message>
+        <source>nell&apos;indice &quot;%1&quot; manca una riga</source>
+        <translation>il manque une ligne dans l&apos;index «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Il numero dei valori non è quello dei campi della tabella &quot;%1&quot;.</source>
+        <translation>Le nombre de valeurs n&apos;est pas celui des champs de la table «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore</source>
+        <translation>le champ «&#xa0;%1&#xa0;» est un compteur</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 non è leggibile</source>
+        <translation>la carte des pages %1/%2 est illisible</translation>
+    </message>
+    <message>
+        <source>la mappa delle pagine %1/%2 comincia oltre il file</source>
+        <translation>la carte des pages %1/%2 commence au-delà du fichier</translation>
+    </message>
+    <message>
+        <source>la pagina %1 non è una mappa</source>
+        <translation>la page %1 n&apos;est pas une carte</translation>
+    </message>
+    <message>
+        <source>Una mappa delle pagine del database non può crescere oltre.</source>
+        <translation>Une carte des pages de la base de données ne peut plus grandir.</translation>
+    </message>
+    <message>
+        <source>Il numero è troppo grande per il campo &quot;%1&quot;.</source>
+        <translation>Le nombre est trop grand pour le champ «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; è troppo piccolo per il testo (al massimo %2 caratteri).</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» est trop petit pour le texte (au plus %2 caractères).</translation>
+    </message>
+    <message>
+        <source>Il testo del campo &quot;%1&quot; contiene caratteri che il database non può conservare.</source>
+        <translation>Le texte du champ «&#xa0;%1&#xa0;» contient des caractères que la base de données ne peut pas conserver.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere %2 byte.</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» ne peut pas contenir %2 octets.</translation>
+    </message>
+    <message>
+        <source>contiene un oggetto OLE</source>
+        <translation>contient un objet OLE</translation>
+    </message>
+    <message>
+        <source>è un testo di lunghezza fissa</source>
+        <translation>est un texte de longueur fixe</translation>
+    </message>
+    <message>
+        <source>è di un tipo sconosciuto (%1)</source>
+        <translation>est d&apos;un type inconnu (%1)</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; %2: non può essere modificato.</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» %2&#xa0;: il ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>l&apos;indice &quot;%1&quot; (%2) non può essere aggiornato, perché %3</source>
+        <translation>l&apos;index «&#xa0;%1&#xa0;» (%2) ne peut pas être mis à jour, parce que %3</translation>
+    </message>
+    <message>
+        <source>le sue voci non corrispondono alle righe della tabella</source>
+        <translation>ses entrées ne correspondent pas aux lignes de la table</translation>
+    </message>
+    <message>
+        <source>la forma delle sue chiavi decrescenti non è certa</source>
+        <translation>la forme de ses clés décroissantes n&apos;est pas certaine</translation>
+    </message>
+    <message>
+        <source>La tabella &quot;%1&quot; non può essere modificata: %2.</source>
+        <translation>La table «&#xa0;%1&#xa0;» ne peut pas être modifiée&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>è una tabella di sistema</source>
+        <translation>c&apos;est une table système</translation>
+    </message>
+    <message>
+        <source>ha una relazione con un&apos;altra tabella</source>
+        <translation>elle a une relation avec une autre table</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; %2</source>
+        <translation>le champ «&#xa0;%1&#xa0;» %2</translation>
+    </message>
+    <message>
+        <source>il campo &quot;%1&quot; è un contatore di tipo GUID</source>
+        <translation>le champ «&#xa0;%1&#xa0;» est un compteur de type GUID</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; deve contenere un valore.</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» doit contenir une valeur.</translation>
+    </message>
+    <message>
+        <source>Il campo &quot;%1&quot; non può contenere un testo vuoto.</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» ne peut pas contenir un texte vide.</translation>
+    </message>
+    <message>
+        <source>I campi dell&apos;indice &quot;%1&quot; (%2) devono contenere un valore.</source>
+        <translation>Les champs de l&apos;index «&#xa0;%1&#xa0;» (%2) doivent contenir une valeur.</translation>
+    </message>
+    <message>
+        <source>Il valore di &quot;%1&quot; esiste già e l&apos;indice &quot;%2&quot; non ammette duplicati.</source>
+        <translation>La valeur de «&#xa0;%1&#xa0;» existe déjà et l&apos;index «&#xa0;%2&#xa0;» n&apos;admet pas de doublons.</translation>
     </message>
 </context>
 </TS>

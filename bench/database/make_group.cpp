@@ -17,7 +17,7 @@
 namespace {
 
 int failed(const Status& status) {
-    std::fprintf(stderr, "make_group: %s\n", jet::toUtf8(status.plainText()).c_str());
+    std::fprintf(stderr, "make_group: %s\n", status.plainText().c_str());
     return 1;
 }
 

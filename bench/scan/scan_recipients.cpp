@@ -18,7 +18,7 @@
 namespace {
 
 int failed(const Status& status) {
-    std::fprintf(stderr, "scan_recipients: %s\n", jet::toUtf8(status.plainText()).c_str());
+    std::fprintf(stderr, "scan_recipients: %s\n", status.plainText().c_str());
     return 1;
 }
 

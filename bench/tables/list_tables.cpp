@@ -15,7 +15,7 @@ bool list(const char* file) {
     const auto opened = jet::Database::open(file, {.password = "password", .readOnly = true});
     const auto catalog = opened.ok() ? opened.value()->catalog() : opened.status();
     if (!catalog.ok()) {
-        std::fprintf(stderr, "list_tables: %s\n", jet::toUtf8(catalog.status().plainText()).c_str());
+        std::fprintf(stderr, "list_tables: %s\n", catalog.status().plainText().c_str());
         return false;
     }
     for (const jet::CatalogEntry& entry : catalog.value())

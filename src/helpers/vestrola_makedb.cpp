@@ -11,6 +11,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     const Status status = schema::CreaDatabase(argv[1]);
-    if (!status.ok()) std::fprintf(stderr, "vestrola_makedb: %s\n", jet::toUtf8(status.plainText()).c_str());
+    if (!status.ok()) std::fprintf(stderr, "vestrola_makedb: %s\n", status.plainText().c_str());
     return status.ok() ? 0 : 1;
 }

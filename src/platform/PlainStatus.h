@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <variant>
+
+#include "platform/Phrase.h"
 
 class QString;
 
@@ -39,21 +42,22 @@ enum class ErrorCode : int {
     Timeout = -2147217871,
 };
 
-/// Outcome of a platform call: success, or an error number with an Italian text that can be shown to the user
+/// Outcome of a platform call: success, or an error number with a text that can be shown to the user
 /// unchanged. Platform code only ever returns it; what a failure means to the program is decided above.
 ///
-/// Code without Qt includes this header and reads plainText(); all other code includes
-/// platform/Status.h, which adds the two members that need a QString.
+/// Code without Qt includes this header, hands over a phrase and reads plainText(), which is Italian; all
+/// other code includes platform/Status.h, which adds the two members that need a QString: text() is in the
+/// language in use.
 class [[nodiscard]] Status {
   public:
     Status() = default;
-    Status(ErrorCode code, std::u16string text) : m_code(code), m_text(std::move(text)) {}
+    Status(ErrorCode code, Phrase text) : m_code(code), m_text(std::make_shared<Phrase>(std::move(text))) {}
     inline Status(ErrorCode code, const QString& text);
 
     bool ok() const { return m_code == ErrorCode::None; }
     ErrorCode code() const { return m_code; }
     inline QString text() const;
-    const std::u16string& plainText() const { return m_text; }
+    std::string plainText() const { return m_text ? m_text->sourceText() : std::string(); }
 
     /// The file that a failure is about; empty where that is not known.
     const std::u16string& file() const { return m_file; }
@@ -64,7 +68,7 @@ class [[nodiscard]] Status {
 
   private:
     ErrorCode m_code = ErrorCode::None;
-    std::u16string m_text;
+    std::shared_ptr<const Phrase> m_text;
     std::u16string m_file;
 };
 

@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "platform/PlainStatus.h"
 
-inline Status::Status(ErrorCode code, const QString& text) : Status(code, text.toStdU16String()) {}
+inline Status::Status(ErrorCode code, const QString& text)
+    : Status(code, Phrase::literal(text.toStdString())) {}
+
+/// The phrase in the language in use.
+inline QString translatedText(const Phrase& phrase) {
+    return QString::fromStdString(phrase.text(
+        [](const char* own) { return QCoreApplication::translate("Vestrola", own).toStdString(); }));
+}
 
 inline QString Status::text() const {
-    return QString::fromStdU16String(m_text);
+    return m_text ? translatedText(*m_text) : QString();
 }

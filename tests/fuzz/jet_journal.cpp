@@ -123,7 +123,7 @@ void seal(std::string& bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const Crash crash = makeCrash();
     if (size == 0) return 0;
-    jet::setNoticeHandler([](const std::u16string&) {});
+    jet::setNoticeHandler([](const Phrase&) {});
     const std::span<const uint8_t> rest(data + 1, size - 1);
     std::string journal = data[0] & 2 ? patched(crash.journal, rest) : std::string(rest.begin(), rest.end());
     const bool sealed = data[0] & 1;

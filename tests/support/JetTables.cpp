@@ -38,7 +38,7 @@ TableDefinition definitionAt(PageFile& file, const std::string& name, uint32_t p
 CatalogEntry entryOf(PageFile& file, const std::string& name) {
     for (const CatalogEntry& entry : readCatalog(file))
         if (entry.name == name) return entry;
-    fail(ErrorCode::TableNotFound, name);
+    fail(ErrorCode::TableNotFound, Phrase::literal(name));
 }
 
 // Pages for a map row: none yet, or the one given.

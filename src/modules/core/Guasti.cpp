@@ -49,7 +49,7 @@ QByteArray vociPresenti(const QString& percorso) {
 
 QString Ripulito(QString testo) {
     static const QRegularExpression citato(
-        QStringLiteral("\"[^\"]*\"|'[^']*'|«[^»]*»|“[^”]*”|#[^#]*#|(?<=vicino a ).*|(?<=column: ).*"));
+        QStringLiteral("\"[^\"]*\"|'[^']*'|«[^»]*»|„[^“]*“|“[^”]*”|#[^#]*#|(?<=column: ).*"));
     static const QRegularExpression indirizzo(QStringLiteral("[^\\s/\\\\]*@[^\\s/\\\\]*"));
     const QString omesso = QStringLiteral("(omesso)");
     return testo.replace(citato, omesso).replace(indirizzo, omesso);

@@ -5,6 +5,7 @@
 
 #include "platform/ado/Session.h"
 #include "platform/ado/Waiting.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -65,7 +66,7 @@ Result<qint64> Command::execute() {
     if (!statement.ok()) return statement.status();
     const StatementText& text = statement.value();
     if (text.verb == StatementText::Verb::Select)
-        return Status(ErrorCode::NotSupported, QStringLiteral("Un comando non può eseguire una SELECT."));
+        return Status(ErrorCode::NotSupported, Words::tr("Un comando non può eseguire una SELECT."));
     qint64 changes = 0;
     const Status status = Session::write(m_connection, [&](Session& session) -> Status {
         const Result<JetTable*> target = session.table(text.table);
@@ -89,7 +90,7 @@ Result<qint64> Command::execute() {
         const int code = sqlite3_step(prepared.value().get());
         changes = session.takeChanges();
         if (code == SQLITE_DONE) return {};
-        if (deadline.passed()) return {ErrorCode::Timeout, QStringLiteral("Tempo scaduto.")};
+        if (deadline.passed()) return {ErrorCode::Timeout, Words::tr("Tempo scaduto.")};
         return session.takeFailure();
     });
     if (!status.ok()) return status;

@@ -4,12 +4,14 @@
 #include <optional>
 #include <QStringList>
 
+#include "platform/text/Words.h"
+
 namespace ado {
 
 namespace {
 
 Status malformed() {
-    return {ErrorCode::SyntaxError, QStringLiteral("Formato della stringa di connessione non valido.")};
+    return {ErrorCode::SyntaxError, Words::tr("Formato della stringa di connessione non valido.")};
 }
 
 /// Whether a text begins with a key of a connection text and its equal sign.
@@ -103,11 +105,11 @@ Result<ConnectionText> ConnectionText::parse(const QString& text) {
         } else if (key == QLatin1String("provider") &&
                    value->compare(QLatin1String("Microsoft.Jet.OLEDB.4.0"), Qt::CaseInsensitive) != 0) {
             return Status(ErrorCode::NotSupported,
-                          QStringLiteral("Impossibile trovare il provider \"%1\".").arg(*value));
+                          Words::tr("Impossibile trovare il provider \"%1\".").arg(*value));
         }
     }
     if (result.path.isEmpty())
-        return Status(ErrorCode::FileNotFound, QStringLiteral("Nessun file di database indicato."));
+        return Status(ErrorCode::FileNotFound, Words::tr("Nessun file di database indicato."));
     return result;
 }
 

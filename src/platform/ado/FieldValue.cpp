@@ -12,6 +12,7 @@
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Value.h"
 #include "platform/jet/ValueCodec.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -20,14 +21,13 @@ namespace {
 using jet::Type;
 
 Status mismatchOf(const jet::Column& column) {
-    return {ErrorCode::TypeMismatch, QStringLiteral("Tipo di dati non corrispondente nel campo \"%1\".")
+    return {ErrorCode::TypeMismatch, Words::tr("Tipo di dati non corrispondente nel campo \"%1\".")
                                          .arg(QString::fromStdString(column.name))};
 }
 
 Status overflowOf(const jet::Column& column) {
-    return {
-        ErrorCode::Overflow,
-        QStringLiteral("Valore troppo grande per il campo \"%1\".").arg(QString::fromStdString(column.name))};
+    return {ErrorCode::Overflow,
+            Words::tr("Valore troppo grande per il campo \"%1\".").arg(QString::fromStdString(column.name))};
 }
 
 Result<jet::Value> fitInteger(const Value& value, const jet::Column& column) {

@@ -6,6 +6,7 @@
 #include "platform/ado/InsertShape.h"
 #include "platform/ado/Session.h"
 #include "platform/ado/Waiting.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -41,7 +42,7 @@ Status GroupedInserts::insert(const QString& text) {
     const Result<StatementText> statement = StatementText::read(text);
     if (!statement.ok()) return statement.status();
     if (statement.value().verb != StatementText::Verb::Insert || !statement.value().readFrom.isEmpty())
-        return {ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una INSERT di valori.")};
+        return {ErrorCode::NotSupported, Words::tr("L'istruzione non è una INSERT di valori.")};
     const Waiting waiting(m_givenUp ? noWait : 0);
     if (m_progress.taken == 0) {
         m_shape.reset();

@@ -11,6 +11,7 @@
 #include "platform/ado/RawValue.h"
 #include "platform/ado/Session.h"
 #include "platform/ado/SqlTokens.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -333,8 +334,7 @@ int update(sqlite3_vtab* base, int count, sqlite3_value** arguments, sqlite3_int
                sqlite3_value_int64(arguments[0]) == sqlite3_value_int64(arguments[1])) {
         status = updateRow(*table.rows, old, arguments + 2);
     } else {
-        status =
-            Status(ErrorCode::NotSupported, QStringLiteral("L'identità di un record non può essere scelta."));
+        status = Status(ErrorCode::NotSupported, Words::tr("L'identità di un record non può essere scelta."));
     }
     if (!status.ok()) return table.session->fail(status);
     table.session->countChange();

@@ -5,13 +5,14 @@
 #include <utility>
 
 #include "platform/ado/FieldValue.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
 namespace {
 
 Status rowGone() {
-    return {ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato.")};
+    return {ErrorCode::NoCurrentRecord, Words::tr("Il record è stato eliminato.")};
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ado/Notices.h"
 
-#include <string>
 #include <utility>
 
 #include "platform/jet/Notices.h"
+#include "platform/Status.h"
 
 namespace ado {
 
@@ -18,7 +18,7 @@ QStringList& kept() {
 }  // namespace
 
 void keepNotices() {
-    jet::setNoticeHandler([](const std::u16string& text) { kept().append(QString::fromStdU16String(text)); });
+    jet::setNoticeHandler([](const Phrase& text) { kept().append(translatedText(text)); });
 }
 
 QStringList takeNotices() {

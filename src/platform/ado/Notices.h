@@ -10,7 +10,7 @@ namespace ado {
 /// Keeps these sentences from now on; before, they go to the standard error stream. To be called once, at the
 /// start.
 void keepNotices();
-/// The sentences (Italian) since the last call.
+/// The sentences since the last call, in the language in use.
 QStringList takeNotices();
 
 }  // namespace ado

@@ -9,25 +9,26 @@
 #include "platform/ado/Rows.h"
 #include "platform/ado/RowsAhead.h"
 #include "platform/ado/Waiting.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
 namespace {
 
 Status noCurrentRecord() {
-    return {ErrorCode::NoCurrentRecord, QStringLiteral("Nessun record corrente.")};
+    return {ErrorCode::NoCurrentRecord, Words::tr("Nessun record corrente.")};
 }
 
 Status notOpen() {
-    return {ErrorCode::NotSupported, QStringLiteral("Operazione non consentita se l'oggetto è chiuso.")};
+    return {ErrorCode::NotSupported, Words::tr("Operazione non consentita se l'oggetto è chiuso.")};
 }
 
 Status notUpdatable() {
-    return {ErrorCode::NotSupported, QStringLiteral("Il recordset corrente non supporta l'aggiornamento.")};
+    return {ErrorCode::NotSupported, Words::tr("Il recordset corrente non supporta l'aggiornamento.")};
 }
 
 Status unknownField(const QString& name) {
-    return {ErrorCode::ItemNotFound, QStringLiteral("Impossibile trovare il campo \"%1\".").arg(name)};
+    return {ErrorCode::ItemNotFound, Words::tr("Impossibile trovare il campo \"%1\".").arg(name)};
 }
 
 using Changes = std::vector<std::pair<size_t, jet::Value>>;
@@ -111,7 +112,7 @@ Status Recordset::open() {
     const Result<StatementText> statement = StatementText::read(m_data->source);
     if (!statement.ok()) return statement.status();
     if (statement.value().verb != StatementText::Verb::Select)
-        return {ErrorCode::NotSupported, QStringLiteral("L'origine di un recordset deve essere una SELECT.")};
+        return {ErrorCode::NotSupported, Words::tr("L'origine di un recordset deve essere una SELECT.")};
     auto rows = Rows::run(session, statement.value());
     if (!rows.ok()) return rows.status();
     m_data->session = session;
@@ -243,8 +244,7 @@ Result<Value> Recordset::Data::field(size_t column) {
         return rows->table()->definition().columns[column].type == jet::Type::YesNo ? Value(false) : Value();
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
-    if (!row.present)
-        return Status(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    if (!row.present) return Status(ErrorCode::NoCurrentRecord, Words::tr("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const size_t position = rows->column(column);
     const jet::Type type = definition.columns[position].type;
@@ -327,7 +327,7 @@ Status Recordset::addNew() {
 /// Whether the current row still is the one that was read. Where one was deleted another may be in the
 /// end.
 Status Recordset::Data::sameRow() {
-    Status gone(ErrorCode::NoCurrentRecord, QStringLiteral("Il record è stato eliminato."));
+    Status gone(ErrorCode::NoCurrentRecord, Words::tr("Il record è stato eliminato."));
     const jet::TableDefinition& definition = rows->table()->definition();
     const std::optional<size_t> key = definition.longPrimaryKey();
     StoredRow now;

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/ado/KeySort.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -26,8 +27,7 @@ uint32_t packed(jet::RowId id) {
 }
 
 Status lostItsPlace() {
-    return {ErrorCode::Internal,
-            QStringLiteral("Errore interno del database: una riga ha perso il suo posto.")};
+    return {ErrorCode::Internal, Words::tr("Errore interno del database: una riga ha perso il suo posto.")};
 }
 
 }  // namespace

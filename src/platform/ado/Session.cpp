@@ -8,6 +8,7 @@
 #include "platform/ado/JetModule.h"
 #include "platform/ado/Rows.h"
 #include "platform/jet/GeneralOrder.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -32,7 +33,7 @@ Status Session::start() {
     const bool ready = works(sqlite3_open_v2(":memory:", &m_sqlite, oneThread, nullptr)) &&
                        works(sqlite3_create_module(m_sqlite, "jet", &jetModule, this)) &&
                        works(sqlite3_create_collation(m_sqlite, "JET", SQLITE_UTF8, nullptr, compareTexts));
-    if (!ready) return {ErrorCode::DeviceIo, QStringLiteral("Impossibile avviare il motore SQL.")};
+    if (!ready) return {ErrorCode::DeviceIo, Words::tr("Impossibile avviare il motore SQL.")};
     sqlite3_db_config(m_sqlite, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(m_sqlite, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_limit(m_sqlite, SQLITE_LIMIT_ATTACHED, 0);
@@ -52,7 +53,7 @@ Status Session::refresh() {
                      });
     }
     if (m_outdated)
-        return {ErrorCode::TableNotFound, QStringLiteral("La struttura del database è stata modificata.")};
+        return {ErrorCode::TableNotFound, Words::tr("La struttura del database è stata modificata.")};
     return {};
 }
 

@@ -9,6 +9,7 @@
 #include "platform/ado/Session.h"
 #include "platform/ado/Waiting.h"
 #include "platform/jet/Probe.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -102,7 +103,7 @@ Result<std::shared_ptr<Session>> Session::pooled(const Target& target) {
 /// The pooled session for that text, or null.
 Result<std::shared_ptr<Session>> Session::known(const QString& connectionText) {
     if (Waiting::refused())
-        return Status(ErrorCode::FileInUse, QStringLiteral("Un'altra istruzione è in attesa del database."));
+        return Status(ErrorCode::FileInUse, Words::tr("Un'altra istruzione è in attesa del database."));
     const Result<ConnectionText> text = ConnectionText::parse(connectionText);
     if (!text.ok()) return text.status();
     if (PoolEntry* entry = recognised(text.value(), jet::Database::Seen::Changed, true)) {

@@ -6,6 +6,7 @@
 #include "platform/ado/JetModule.h"
 #include "platform/ado/Session.h"
 #include "platform/ado/SqlTokens.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -35,18 +36,18 @@ Status statementFailure(const QString& message) {
     if (message.startsWith(unknownColumn)) column = message.mid(unknownColumn.size());
     if (const auto at = message.indexOf(notInTable); at >= 0) column = message.mid(at + notInTable.size());
     if (!column.isEmpty())
-        return {ErrorCode::ItemNotFound, QStringLiteral("Impossibile trovare il campo \"%1\".").arg(column)};
+        return {ErrorCode::ItemNotFound, Words::tr("Impossibile trovare il campo \"%1\".").arg(column)};
     if (message.startsWith(QLatin1String("near \"")) ||
         message.startsWith(QLatin1String("unrecognized token")))
-        return {ErrorCode::SyntaxError, QStringLiteral("Errore di sintassi nell'istruzione SQL vicino a %1.")
+        return {ErrorCode::SyntaxError, Words::tr("Errore di sintassi nell'istruzione SQL vicino a \"%1\".")
                                             .arg(message.section(u'"', 1, 1))};
     if (message.contains(QLatin1String(" values for ")))
         return {ErrorCode::SyntaxError,
-                QStringLiteral("Il numero dei valori non corrisponde al numero dei campi di destinazione.")};
+                Words::tr("Il numero dei valori non corrisponde al numero dei campi di destinazione.")};
     if (message == QLatin1String("not authorized") || message.startsWith(QLatin1String("access to ")) ||
         message.startsWith(QLatin1String("not authorized to use function")))
-        return {ErrorCode::NotSupported, QStringLiteral("Istruzione SQL non ammessa.")};
-    return {ErrorCode::SyntaxError, QStringLiteral("Istruzione SQL non valida.")};
+        return {ErrorCode::NotSupported, Words::tr("Istruzione SQL non ammessa.")};
+    return {ErrorCode::SyntaxError, Words::tr("Istruzione SQL non valida.")};
 }
 
 }  // namespace
@@ -64,7 +65,7 @@ Result<JetTable*> Session::table(const QString& name) {
     // Some of the system's own are marked only by their name.
     if (found.value()->definition().system || name.startsWith(QLatin1String("MSys"), Qt::CaseInsensitive))
         return Status(ErrorCode::NotSupported,
-                      QStringLiteral("La tabella \"%1\" è riservata al sistema.").arg(name));
+                      Words::tr("La tabella \"%1\" è riservata al sistema.").arg(name));
     const auto entry = m_tables.emplace(key, std::make_unique<JetTable>(*m_database, *found.value())).first;
     if (Status status = declare(*entry->second); !status.ok()) {
         m_tables.erase(entry);
@@ -78,9 +79,8 @@ Status Session::declare(JetTable& table) {
         "CREATE VIRTUAL TABLE " + quotedName(table.definition().name) + " USING jet";
     const int code = sqlite3_exec(m_sqlite, declaration.c_str(), nullptr, nullptr, nullptr);
     if (code == SQLITE_OK) return {};
-    return {ErrorCode::NotSupported,
-            QStringLiteral("La tabella \"%1\" non può essere usata nelle istruzioni SQL.")
-                .arg(QString::fromStdString(table.definition().name))};
+    return {ErrorCode::NotSupported, Words::tr("La tabella \"%1\" non può essere usata nelle istruzioni SQL.")
+                                         .arg(QString::fromStdString(table.definition().name))};
 }
 
 JetTable* Session::declared(const char* name) const {
@@ -123,7 +123,7 @@ Result<Prepared> Session::compile(const QByteArray& sql) {
                                         SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     sqlite3_set_authorizer(m_sqlite, nullptr, nullptr);
     if (code != SQLITE_OK) return takeFailure();
-    if (!statement) return Status(ErrorCode::SyntaxError, QStringLiteral("Istruzione SQL non valida."));
+    if (!statement) return Status(ErrorCode::SyntaxError, Words::tr("Istruzione SQL non valida."));
     return Prepared(statement, {this, sql});
 }
 

@@ -7,6 +7,7 @@
 #include "platform/ado/FieldValue.h"
 #include "platform/ado/Rows.h"
 #include "platform/ado/Waiting.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -34,12 +35,12 @@ Result<Snapshot> Snapshot::take(const QString& connectionText, const QString& st
     if (Status status = session.value()->refresh(); !status.ok()) return status;
     auto run = text.value().verb == StatementText::Verb::Select
                    ? Rows::run(session.value(), text.value())
-                   : Status(ErrorCode::NotSupported, QStringLiteral("L'istruzione non è una SELECT."));
+                   : Status(ErrorCode::NotSupported, Words::tr("L'istruzione non è una SELECT."));
     if (!run.ok()) return run.status();
     Rows& rows = *run.value();
     if (!rows.whole())
         return Status(ErrorCode::NotSupported,
-                      QStringLiteral("L'istruzione deve leggere tutte le colonne di una tabella."));
+                      Words::tr("L'istruzione deve leggere tutte le colonne di una tabella."));
     if (Status status = rows.finish(); !status.ok()) return status;
 
     Snapshot snapshot;
@@ -80,10 +81,10 @@ Status Snapshot::copy(const Rows& rows) {
 Result<uint32_t> Snapshot::append(std::span<const uint8_t> bytes) {
     const auto length = static_cast<uint16_t>(bytes.size());
     if (bytes.size() > blockSize - lengthSize)
-        return Status(ErrorCode::RecordTooLarge, QStringLiteral("Il record è troppo lungo."));
+        return Status(ErrorCode::RecordTooLarge, Words::tr("Il record è troppo lungo."));
     if (m_blocks.empty() || m_used + lengthSize + length > blockSize) {
         if (m_blocks.size() == mostBlocks)
-            return Status(ErrorCode::RecordTooLarge, QStringLiteral("Troppi record per essere mostrati."));
+            return Status(ErrorCode::RecordTooLarge, Words::tr("Troppi record per essere mostrati."));
         m_blocks.push_back(std::make_unique_for_overwrite<uint8_t[]>(blockSize));
         m_used = 0;
     }

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "platform/text/Words.h"
+
 namespace ado {
 
 namespace {
@@ -48,7 +50,7 @@ bool SqlToken::is(std::string_view word) const {
 Result<std::vector<SqlToken>> splitSql(const QByteArray& bytes) {
     using Kind = SqlToken::Kind;
     const std::string_view sql(bytes.constData(), static_cast<size_t>(bytes.size()));
-    if (bytes.contains('\0')) return refusedStatement(QStringLiteral("carattere nullo"));
+    if (bytes.contains('\0')) return refusedStatement(Words::tr("carattere nullo"));
     std::vector<SqlToken> tokens;
     tokens.reserve(sql.size() / 4);
     for (size_t at = 0; at < sql.size();) {
@@ -59,10 +61,9 @@ Result<std::vector<SqlToken>> splitSql(const QByteArray& bytes) {
             continue;
         }
         if ((c == '-' && next == '-') || (c == '/' && next == '*'))
-            return refusedStatement(QStringLiteral("commento"));
-        if (c == '?' || c == ':' || c == '@' || c == '$')
-            return refusedStatement(QStringLiteral("parametro"));
-        if (c == '"' || c == '`') return wrongStatement(QStringLiteral("virgolette fuori da un testo"));
+            return refusedStatement(Words::tr("commento"));
+        if (c == '?' || c == ':' || c == '@' || c == '$') return refusedStatement(Words::tr("parametro"));
+        if (c == '"' || c == '`') return wrongStatement(Words::tr("virgolette fuori da un testo"));
         Kind kind = Kind::Sign;
         size_t end = at + 1;
         if (c == '\'') {
@@ -84,10 +85,9 @@ Result<std::vector<SqlToken>> splitSql(const QByteArray& bytes) {
                 ++end;
         }
         if (end == std::string_view::npos)
-            return wrongStatement(kind == Kind::Text ? QStringLiteral("manca un apice di chiusura")
-                                  : kind == Kind::Name
-                                      ? QStringLiteral("manca una parentesi quadra di chiusura")
-                                      : QStringLiteral("manca un cancelletto di chiusura"));
+            return wrongStatement(kind == Kind::Text   ? Words::tr("manca un apice di chiusura")
+                                  : kind == Kind::Name ? Words::tr("manca una parentesi quadra di chiusura")
+                                                       : Words::tr("manca un cancelletto di chiusura"));
         const bool marked = kind == Kind::Text || kind == Kind::Name || kind == Kind::Date;
         const std::string_view text = marked ? sql.substr(at + 1, end - at - 2) : sql.substr(at, end - at);
         tokens.push_back({kind, text, static_cast<qsizetype>(at), static_cast<qsizetype>(end)});
@@ -104,11 +104,11 @@ std::string quotedName(std::string_view name) {
 }
 
 Status refusedStatement(const QString& what) {
-    return {ErrorCode::NotSupported, QStringLiteral("Istruzione SQL non ammessa: %1.").arg(what)};
+    return {ErrorCode::NotSupported, Words::tr("Istruzione SQL non ammessa: %1.").arg(what)};
 }
 
 Status wrongStatement(const QString& what) {
-    return {ErrorCode::SyntaxError, QStringLiteral("Errore di sintassi nell'istruzione SQL: %1.").arg(what)};
+    return {ErrorCode::SyntaxError, Words::tr("Errore di sintassi nell'istruzione SQL: %1.").arg(what)};
 }
 
 }  // namespace ado

@@ -6,6 +6,7 @@
 
 #include "platform/ado/DateText.h"
 #include "platform/ado/SqlTokens.h"
+#include "platform/text/Words.h"
 
 namespace ado {
 
@@ -140,15 +141,14 @@ bool readSelect(Reader& reader, QString& table, std::optional<StatementText::Lis
 
 Status readInsert(Reader& reader, StatementText& statement) {
     statement.verb = StatementText::Verb::Insert;
-    const auto refused = [] { return refusedStatement(QStringLiteral("forma non prevista")); };
+    const auto refused = [] { return refusedStatement(Words::tr("forma non prevista")); };
     StatementText::Row row;
     if (!reader.take("INTO") || !reader.takeName(statement.table) || !reader.takeColumns(row.columns))
         return refused();
     if (reader.take("VALUES")) {
         if (!reader.atEnd()) row.start = statement.sql.first(reader.offset());
         if (!row.columns.empty()) statement.row = std::move(row);
-        if (!reader.skipRow())
-            return wrongStatement(QStringLiteral("i valori da inserire non sono leggibili"));
+        if (!reader.skipRow()) return wrongStatement(Words::tr("i valori da inserire non sono leggibili"));
         return reader.atEnd() ? Status() : refused();
     }
     if (!reader.take("SELECT") || reader.restHas({"SELECT"})) return refused();
@@ -228,8 +228,7 @@ Status takeLiterals(const Tokens& tokens, StatementText& statement) {
         std::optional<jet::Value> value;
         if (token.kind == Kind::Date) {
             const std::optional<double> days = readDate(toText(token.text), DateOrder::MonthFirst);
-            if (!days)
-                return wrongStatement(QStringLiteral("la data #%1# non è valida").arg(toText(token.text)));
+            if (!days) return wrongStatement(Words::tr("la data #%1# non è valida").arg(toText(token.text)));
             value = *days;
         } else if (token.kind == Kind::Text || token.kind == Kind::Number) {
             value = valueOf(token);
@@ -246,7 +245,7 @@ Status takeLiterals(const Tokens& tokens, StatementText& statement) {
 }  // namespace
 
 Result<StatementText> StatementText::read(const QString& text) {
-    if (text.size() > longestStatement) return refusedStatement(QStringLiteral("testo troppo lungo"));
+    if (text.size() > longestStatement) return refusedStatement(Words::tr("testo troppo lungo"));
     StatementText statement;
     statement.sql = text.toUtf8();
     Result<Tokens> pieces = splitSql(statement.sql);
@@ -255,9 +254,9 @@ Result<StatementText> StatementText::read(const QString& text) {
     const auto end =
         std::find_if(tokens.begin(), tokens.end(), [](const SqlToken& token) { return token.is(";"); });
     if (end != tokens.end() && end + 1 != tokens.end())
-        return refusedStatement(QStringLiteral("più di una istruzione"));
+        return refusedStatement(Words::tr("più di una istruzione"));
     tokens.erase(end, tokens.end());
-    if (tokens.empty()) return wrongStatement(QStringLiteral("istruzione vuota"));
+    if (tokens.empty()) return wrongStatement(Words::tr("istruzione vuota"));
     if (!tokens.front().is("SELECT") && !tokens.front().is("INSERT") && !tokens.front().is("UPDATE") &&
         !tokens.front().is("DELETE"))
         return refusedStatement(QStringLiteral("sono ammesse SELECT, INSERT, UPDATE e DELETE"));
@@ -265,7 +264,7 @@ Result<StatementText> StatementText::read(const QString& text) {
     if (reader.take("INSERT")) {
         if (Status status = readInsert(reader, statement); !status.ok()) return status;
     } else if (!readStatement(reader, statement)) {
-        return refusedStatement(QStringLiteral("forma non prevista"));
+        return refusedStatement(Words::tr("forma non prevista"));
     }
     if (Status status = takeLiterals(tokens, statement); !status.ok()) return status;
     return statement;

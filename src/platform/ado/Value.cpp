@@ -10,9 +10,9 @@ namespace ado {
 
 namespace {
 
-const Status nullValue{ErrorCode::InvalidNull, QStringLiteral("Uso non valido di Null.")};
-const Status mismatch{ErrorCode::TypeMismatch, QStringLiteral("Tipo non corrispondente.")};
-const Status overflow{ErrorCode::Overflow, QStringLiteral("Overflow.")};
+const Status nullValue{ErrorCode::InvalidNull, "Uso non valido di Null."_tr};
+const Status mismatch{ErrorCode::TypeMismatch, "Tipo non corrispondente."_tr};
+const Status overflow{ErrorCode::Overflow, "Overflow."_tr};
 
 /// As many digits as the number needs: a single that was widened shows those of the single.
 QString realText(double number, const QLocale& locale) {

@@ -47,14 +47,14 @@ const Column* autoNumberColumn(const TableDefinition& table) {
 int32_t nextAutoNumber(TableState& state) {
     const Column* column = autoNumberColumn(state.definition);
     if (!column)
-        fail(ErrorCode::NotSupported, "La tabella \"", state.definition.name, "\" non ha un contatore.");
+        fail(ErrorCode::NotSupported, "La tabella \"%1\" non ha un contatore."_tr, state.definition.name);
     if (!state.greatestNumber) {
         const std::optional<int32_t> indexed = greatestIndexed(state, *column);
         state.greatestNumber = indexed ? *indexed : greatestOfRows(state, *column);
     }
     const int32_t last = std::max(state.lastAutoNumber(), *state.greatestNumber);
     if (last == std::numeric_limits<int32_t>::max())
-        fail(ErrorCode::Overflow, "Il contatore della tabella \"", state.definition.name, "\" è esaurito.");
+        fail(ErrorCode::Overflow, "Il contatore della tabella \"%1\" è esaurito."_tr, state.definition.name);
     return last + 1;
 }
 

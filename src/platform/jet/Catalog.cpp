@@ -30,7 +30,7 @@ TableDefinition objectsDefinition(PageFile& file) {
 
 size_t columnOf(const TableDefinition& objects, std::string_view name) {
     const std::optional<size_t> found = objects.find(name);
-    if (!found) failDamaged("il catalogo non è leggibile");
+    if (!found) failDamaged("il catalogo non è leggibile"_tr);
     return *found;
 }
 

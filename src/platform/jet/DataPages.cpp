@@ -25,15 +25,15 @@ void storeFree(Page& page) {
 
 DataPageView::DataPageView(const Page& page, uint32_t number)
     : m_page(page), m_number(number), m_count(load16(&page[data::slotCount])) {
-    if (page[0] != DataPage) failDamaged("la pagina ", number, " non contiene righe");
-    if (m_count > data::maxSlots) failDamaged("la pagina ", number, " ha troppe righe");
+    if (page[0] != DataPage) failDamaged("la pagina %1 non contiene righe"_tr, number);
+    if (m_count > data::maxSlots) failDamaged("la pagina %1 ha troppe righe"_tr, number);
 }
 
 size_t DataPageView::freeBytes() const {
     const size_t lowest = lowestStart(m_page, m_count);
     const size_t slotsEnd = data::slots + 2 * m_count;
     if (lowest < slotsEnd || lowest > pageSize)
-        failDamaged("le righe della pagina ", m_number, " si sovrappongono");
+        failDamaged("le righe della pagina %1 si sovrappongono"_tr, m_number);
     return lowest - slotsEnd;
 }
 
@@ -42,7 +42,7 @@ std::span<const uint8_t> DataPageView::bytes(size_t slot) const {
     const size_t start = rawSlot(slot) & data::offsetMask;
     const size_t end = slot == 0 ? pageSize : rawSlot(slot - 1) & data::offsetMask;
     if (start > end || end > pageSize || start < data::slots + 2 * m_count)
-        failDamaged("la riga ", slot, " della pagina ", m_number, " è fuori posto");
+        failDamaged("la riga %1 della pagina %2 è fuori posto"_tr, slot, m_number);
     return std::span(m_page).subspan(start, end - start);
 }
 
@@ -75,7 +75,7 @@ void makeDataPage(Page& page, uint32_t owner) {
 
 uint8_t appendRow(Page& page, uint32_t number, std::span<const uint8_t> row, uint16_t flags) {
     const DataPageView view(page, number);
-    if (!view.fits(row.size())) failInternal("la pagina ", number, " non ha posto");
+    if (!view.fits(row.size())) failInternal("la pagina %1 non ha posto"_tr, number);
     const size_t count = view.count();
     const size_t start = lowestStart(page, count) - row.size();
     std::copy(row.begin(), row.end(), page.begin() + static_cast<ptrdiff_t>(start));
@@ -102,7 +102,7 @@ void resizeRow(Page& page, uint32_t number, size_t slot, size_t length, uint16_t
     for (size_t i = slot; i < count; ++i)
         (void)view.bytes(i);  // nothing is moved on a damaged page
     if (slot >= count || length > oldLength + view.freeBytes())
-        failInternal("la pagina ", number, " non ha posto");
+        failInternal("la pagina %1 non ha posto"_tr, number);
 
     const size_t lowest = lowestStart(page, count);
     const size_t start = load16(&page[data::slots + 2 * slot]) & data::offsetMask;

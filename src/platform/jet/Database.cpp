@@ -33,10 +33,10 @@ Result<std::unique_ptr<Database>> Database::open(const std::string& path, const 
         auto engine = std::make_unique<Engine>(path, options);
         const std::string& wanted = engine->file.header().password;
         if (!wanted.empty() && wanted != options.password)
-            fail(ErrorCode::InvalidPassword, "Password non valida.");
+            fail(ErrorCode::InvalidPassword, "Password non valida."_tr);
         const Reading reading(engine->file);
         if (lacksItsEnd(engine->file, currentCatalog(*engine)))
-            failDamaged("il file \"", path, "\" è troncato");
+            failDamaged("il file \"%1\" è troncato"_tr, path);
         engine->toldGeneration = engine->file.generation();
         return std::unique_ptr<Database>(new Database(std::move(engine)));
     });
@@ -85,9 +85,9 @@ Result<Table*> Database::table(std::string_view name) {
         if (other)
             fail(ErrorCode::NotSupported,
                  other->kind == CatalogEntry::Kind::Linked
-                     ? phrase("La tabella \"", other->name, "\" è collegata a un altro file.")
-                     : phrase("\"", other->name, "\" è una query, non una tabella."));
-        fail(ErrorCode::TableNotFound, "Impossibile trovare la tabella \"", name, "\".");
+                     ? Phrase("La tabella \"%1\" è collegata a un altro file."_tr, other->name)
+                     : Phrase("\"%1\" è una query, non una tabella."_tr, other->name));
+        fail(ErrorCode::TableNotFound, "Impossibile trovare la tabella \"%1\"."_tr, name);
     });
 }
 
@@ -118,7 +118,7 @@ Status Database::begin() {
 }
 
 Status Database::commit() {
-    if (!inTransaction()) return {ErrorCode::NotSupported, u"Nessuna transazione è in corso."};
+    if (!inTransaction()) return {ErrorCode::NotSupported, "Nessuna transazione è in corso."_tr};
     if (!m_engine->doom.ok()) {
         rollback();
         return m_engine->doom;

@@ -25,12 +25,12 @@ class TemporaryFile {
   public:
     TemporaryFile(const std::string& target, OsFile::Links links) {
         std::random_device random;
-        const std::string name = phrase(target, ".", random(), ".tmp");
+        const std::string name = target + "." + std::to_string(random()) + ".tmp";
         try {
             m_file = OsFile(name, OsFile::Access::Create, links);
         } catch (const Failure& failure) {
             if (failure.status.code() != ErrorCode::FileNotFound) throw;
-            fail(ErrorCode::PathAccess, "Impossibile scrivere nella cartella di \"", target, "\".");
+            fail(ErrorCode::PathAccess, "Impossibile scrivere nella cartella di \"%1\"."_tr, target);
         }
         m_there = true;
     }
@@ -57,7 +57,7 @@ void lockWhole(OsFile& file, const LockWait& wait) {
     lockContent(file, Lock::Exclusive, wait);
     FileState now;
     if (!fileState(file.path(), now) || !sameFile(now, file.state()))
-        fail(ErrorCode::FileInUse, "Il file \"", file.path(), "\" è in uso da un altro programma.");
+        fail(ErrorCode::FileInUse, "Il file \"%1\" è in uso da un altro programma."_tr, file.path());
 }
 
 // What the name leads to, if it is a link.
@@ -78,7 +78,7 @@ Status Database::copyTo(const std::string& wanted, bool ownerOnly) {
         const Reading reading(m_engine->file);
         FileState source;
         if (exists && fileState(m_engine->path, source) && sameFile(source, there))
-            fail(ErrorCode::PathAccess, "\"", wanted, "\" è il database aperto.");
+            fail(ErrorCode::PathAccess, "\"%1\" è il database aperto."_tr, wanted);
 
         OsFile old;
         if (exists) {

@@ -31,7 +31,7 @@ class Cursor {
 
     const uint8_t* take(size_t length) {
         if (length > m_bytes.size() - m_at)
-            failDamaged("la definizione della tabella a pagina ", m_page, " è incompleta");
+            failDamaged("la definizione della tabella a pagina %1 è incompleta"_tr, m_page);
         const uint8_t* p = m_bytes.data() + m_at;
         m_at += length;
         return p;
@@ -94,7 +94,7 @@ bool isControl(char c) {
 void requireName(const std::string& name, uint32_t page) {
     if (name.empty() || toUtf16(name).size() > mostNameUnits ||
         std::any_of(name.begin(), name.end(), isControl))
-        failDamaged("un nome nella definizione della tabella a pagina ", page, " non è valido");
+        failDamaged("un nome nella definizione della tabella a pagina %1 non è valido"_tr, page);
 }
 
 void requireColumnNames(const std::vector<Column>& columns, uint32_t page) {
@@ -107,8 +107,8 @@ void requireColumnNames(const std::vector<Column>& columns, uint32_t page) {
               [](std::string_view a, std::string_view b) { return compareNames(a, b) < 0; });
     const auto twice = std::adjacent_find(names.begin(), names.end(), sameName);
     if (twice != names.end())
-        failDamaged("la definizione della tabella a pagina ", page, " ha due campi con il nome \"", *twice,
-                    "\"");
+        failDamaged("la definizione della tabella a pagina %1 ha due campi con il nome \"%2\""_tr, page,
+                    *twice);
 }
 
 }  // namespace
@@ -120,9 +120,9 @@ std::vector<uint8_t> readDefinition(PageFile& file, uint32_t page) {
     for (size_t pages = 0; pages == 0 || next != 0; ++pages) {
         const PagePtr bytes = file.page(next);
         if ((*bytes)[0] != DefinitionPage)
-            failDamaged("la pagina ", next, " non è la definizione di una tabella");
+            failDamaged("la pagina %1 non è la definizione di una tabella"_tr, next);
         if (pages == maxDefinitionPages)
-            failDamaged("la definizione della tabella a pagina ", page, " non finisce");
+            failDamaged("la definizione della tabella a pagina %1 non finisce"_tr, page);
         const auto own = std::span(*bytes).first(pageEnd).subspan(pages == 0 ? 0 : definition::joined);
         block.insert(block.end(), own.begin(), own.end());
         next = load32(bytes->data() + definition::next);
@@ -147,7 +147,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const std::strin
     const size_t realIndexes = load32(p + definition::realIndexes);
     if (columns > mostColumns || realIndexes > mostIndexes ||
         logicalIndexes > block.size() / definition::logicalIndexLength)
-        failDamaged("la definizione della tabella a pagina ", page, " non è leggibile");
+        failDamaged("la definizione della tabella a pagina %1 non è leggibile"_tr, page);
 
     Cursor cursor(block, definition::indexCounts, page);
     cursor.take(realIndexes * definition::indexCountLength);
@@ -158,7 +158,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const std::strin
         column.ansi = jet3;
         if (column.number >= table.maxColumns ||
             (!column.fixed && column.type != Type::YesNo && column.variableIndex >= table.variableColumns))
-            failDamaged("un campo della tabella a pagina ", page, " non ha posto nelle righe");
+            failDamaged("un campo della tabella a pagina %1 non ha posto nelle righe"_tr, page);
     }
     requireName(name, page);
     requireColumnNames(table.columns, page);
@@ -171,7 +171,7 @@ TableDefinition parseDefinition(std::span<const uint8_t> block, const std::strin
         realOf[i] = load32(logical + 8);
         const uint32_t otherTable = load32(logical + 17);
         const uint8_t kind = logical[23];
-        if (realOf[i] >= realIndexes) failDamaged("un indice della tabella a pagina ", page, " non esiste");
+        if (realOf[i] >= realIndexes) failDamaged("un indice della tabella a pagina %1 non esiste"_tr, page);
         if (kind == 1) table.indexes[realOf[i]].primaryKey = true;
         if (kind == 2 || otherTable != 0) table.enforcedRelation = true;
     }

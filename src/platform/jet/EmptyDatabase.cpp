@@ -155,7 +155,7 @@ bool canBeMade(const std::vector<NewTable>& tables) {
 class Builder {
   public:
     explicit Builder(const std::vector<NewTable>& tables) : m_tables(tables) {
-        if (!canBeMade(tables)) failInternal("le tabelle nuove sono descritte male");
+        if (!canBeMade(tables)) failInternal("le tabelle nuove sono descritte male"_tr);
         for (const NewTable& table : tables)
             m_lists.push_back(propertyList(table.columns));
     }
@@ -165,7 +165,7 @@ class Builder {
             std::any_of(m_lists.begin(), m_lists.end(), [](const Bytes& list) { return !list.empty(); });
         if (properties) m_propertiesPage = pageOf(m_tables.size());
         const size_t pages = pageOf(m_tables.size()) + (properties ? 1 : 0);
-        if (pages > pagesOfGlobalMap) failInternal("le tabelle nuove sono troppe");
+        if (pages > pagesOfGlobalMap) failInternal("le tabelle nuove sono troppe"_tr);
         m_pages.resize(pages);
         for (Page& page : m_pages)
             page.fill(0);
@@ -268,7 +268,7 @@ class Builder {
 
     void writeDefinition(const TablePlan& plan) {
         const Bytes bytes = definitionBytes(plan);
-        if (bytes.size() > pageSize - 8) failInternal("una tabella nuova ha troppe colonne");
+        if (bytes.size() > pageSize - 8) failInternal("una tabella nuova ha troppe colonne"_tr);
         std::copy(bytes.begin(), bytes.end(), m_pages[plan.page].begin());
         for (const IndexPlan& index : plan.indexes)
             if (m_pages[index.root][0] == 0) IndexPage().store(m_pages[index.root], plan.page);
@@ -279,7 +279,7 @@ class Builder {
         IndexPage page;
         for (const Bytes& entry : entries)
             page.insert(page.count(), entry);
-        if (!page.fits()) failInternal("le tabelle nuove sono troppe");
+        if (!page.fits()) failInternal("le tabelle nuove sono troppe"_tr);
         page.store(m_pages[root], owner);
     }
 
@@ -314,7 +314,7 @@ class Builder {
             Bytes key;
             appendLong(key, object.parent);
             std::string name;
-            if (!appendIndexKey(name, object.name)) failInternal("un nome non ha chiave");
+            if (!appendIndexKey(name, object.name)) failInternal("un nome non ha chiave"_tr);
             key.insert(key.end(), name.begin(), name.end());
             byName.push_back(withRow(key, objectRowsPage, slot));
             key.clear();
@@ -374,7 +374,7 @@ std::vector<Page> emptyDatabase(const std::vector<NewTable>& tables) {
 
 Status createDatabase(const std::string& path, const std::vector<NewTable>& tables) {
     return guarded([&]() -> Status {
-        if (OsFile::exists(path)) fail(ErrorCode::PathAccess, "Il file \"", path, "\" esiste già.");
+        if (OsFile::exists(path)) fail(ErrorCode::PathAccess, "Il file \"%1\" esiste già."_tr, path);
         const std::vector<Page> pages = emptyDatabase(tables);
         OsFile file(path, OsFile::Access::Create);
         try {

@@ -13,7 +13,7 @@ using Range = OsFile::Range;
 namespace {
 
 [[noreturn]] void failInUse(const OsFile& file) {
-    fail(ErrorCode::FileInUse, "Il database \"", file.path(), "\" è in uso da un altro programma.");
+    fail(ErrorCode::FileInUse, "Il database \"%1\" è in uso da un altro programma."_tr, file.path());
 }
 
 // NAME.ldb beside NAME.mdb: made by other programs while they have the database open.
@@ -57,8 +57,9 @@ void refuseIfOpenElsewhere(const std::string& databasePath) {
     } catch (const Failure&) {
         // It cannot be opened or removed: its maker still has it open.
     }
-    fail(ErrorCode::FileInUse, "Il database \"", databasePath, "\" è aperto in un altro programma (", path,
-         "): non può essere modificato.");
+    fail(ErrorCode::FileInUse,
+         "Il database \"%1\" è aperto in un altro programma (%2): non può essere modificato."_tr,
+         databasePath, path);
 }
 
 }  // namespace jet

@@ -16,8 +16,8 @@ namespace {
 
 constexpr uint8_t headerKey[] = {0xC7, 0xDA, 0x39, 0x6B};
 
-[[noreturn]] void failFormat(const char* why) {
-    fail(ErrorCode::UnrecognizedFormat, "Formato di database non riconosciuto: ", why, ".");
+[[noreturn]] void failFormat(OwnText why) {
+    fail(ErrorCode::UnrecognizedFormat, "Formato di database non riconosciuto: %1."_tr, why);
 }
 
 // The password is masked by the whole part of the creation date, four bytes repeated.
@@ -78,22 +78,22 @@ void maskHeader(Page& page0) {
 Header parseHeader(std::span<const uint8_t> page0) {
     static constexpr uint8_t start[] = {0, 1, 0, 0};
     if (page0.size() < header::masked || std::memcmp(page0.data(), start, sizeof start) != 0)
-        failFormat("il file non è un database Jet");
+        failFormat("il file non è un database Jet"_tr);
     const char* name = reinterpret_cast<const char*>(page0.data() + header::engineName);
     if (std::memcmp(name, "Standard ACE DB", 16) == 0)
         failFormat(
-            "è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)");
-    if (std::memcmp(name, "Standard Jet DB", 16) != 0) failFormat("il file non è un database Jet");
+            "è un file .accdb di Access 2007 o successivo; salvarlo in formato Access 2000-2003 (.mdb)"_tr);
+    if (std::memcmp(name, "Standard Jet DB", 16) != 0) failFormat("il file non è un database Jet"_tr);
     const uint32_t version = load32(page0.data() + header::version);
-    if (version > 1) failFormat("è di una versione più recente di Access 2003");
+    if (version > 1) failFormat("è di una versione più recente di Access 2003"_tr);
     const bool old = version == 0;
-    if (page0.size() < (old ? jet3::pageSize : pageSize)) failDamaged("il file è troncato");
+    if (page0.size() < (old ? jet3::pageSize : pageSize)) failDamaged("il file è troncato"_tr);
 
     Page clear{};
     std::copy_n(page0.begin(), old ? jet3::pageSize : pageSize, clear.begin());
     rc4(headerKey, std::span(clear).subspan(header::masked, old ? jet3::maskedLength : header::maskedLength));
     if (old && load16(&clear[header::codePage]) != 1252)
-        failFormat("è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)");
+        failFormat("è un file di Access 97 con una tabella codici diversa da quella occidentale (1252)"_tr);
     return {old, load32(&clear[header::pageKey]), old ? jet3PasswordOf(clear) : passwordOf(clear)};
 }
 

@@ -10,7 +10,7 @@ namespace jet {
 
 IndexPage::IndexPage(const Page& page, uint32_t number, uint32_t owner) {
     const uint8_t* p = page.data();
-    const auto damaged = [&] { failDamaged("la pagina di indice ", number, " non è leggibile"); };
+    const auto damaged = [&] { failDamaged("la pagina di indice %1 non è leggibile"_tr, number); };
     if ((p[0] != NodePage && p[0] != LeafPage) || load32(p + index::owner) != owner) damaged();
     leaf = p[0] == LeafPage;
     previous = load32(p + index::previous);

@@ -46,7 +46,7 @@ IndexPage IndexTree::load(uint32_t number) const {
 }
 
 void IndexTree::store(uint32_t number, const IndexPage& page) {
-    if (!page.fits()) failInternal("la pagina di indice ", number, " è troppo piena");
+    if (!page.fits()) failInternal("la pagina di indice %1 è troppo piena"_tr, number);
     page.store(m_file.change(number), m_definition.page);
 }
 
@@ -79,10 +79,10 @@ IndexTree::Path IndexTree::descend(std::span<const uint8_t> wanted) const {
         if (step.page.leaf) return path;
         step.child = step.page.lowerBound(wanted);
         if (step.child == step.page.count() && step.page.tail == 0)
-            failDamaged("la pagina di indice ", number, " non ha un ultimo ramo");
+            failDamaged("la pagina di indice %1 non ha un ultimo ramo"_tr, number);
         number = step.page.child(step.child);
     }
-    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+    failDamaged("un indice di \"%1\" gira in tondo"_tr, m_definition.name);
 }
 
 // Other programs store nodes with a prefix. Those on the way that are too full without one are split first.
@@ -110,7 +110,7 @@ std::optional<RowId> IndexTree::find(std::span<const uint8_t> key) const {
         if (leaf.next == 0) return std::nullopt;
         leaf = load(leaf.next);
     }
-    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+    failDamaged("un indice di \"%1\" gira in tondo"_tr, m_definition.name);
 }
 
 // The first or the last leaf of the index.
@@ -122,7 +122,7 @@ IndexPage IndexTree::edgeLeaf(bool last) const {
         const bool tail = page.count() == 0 || (last && page.tail != 0);
         number = tail ? page.tail : page.child(last ? page.count() - 1 : 0);
     }
-    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+    failDamaged("un indice di \"%1\" gira in tondo"_tr, m_definition.name);
 }
 
 std::optional<Bytes> IndexTree::firstKey() const {
@@ -145,7 +145,7 @@ std::optional<Bytes> IndexTree::keyOf(RowId row) const {
         if (leaf.next == 0) return std::nullopt;
         leaf = load(leaf.next);
     }
-    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+    failDamaged("un indice di \"%1\" gira in tondo"_tr, m_definition.name);
 }
 
 std::optional<std::vector<RowId>> IndexTree::rowsFrom(std::span<const uint8_t> start, size_t most) const {
@@ -165,7 +165,7 @@ std::optional<std::vector<RowId>> IndexTree::rowsFrom(std::span<const uint8_t> s
         leaf = load(leaf.next);
         at = 0;
     }
-    failDamaged("un indice di \"", m_definition.name, "\" gira in tondo");
+    failDamaged("un indice di \"%1\" gira in tondo"_tr, m_definition.name);
 }
 
 std::vector<IndexTree::Entry> IndexTree::someEntries(size_t most) const {
@@ -186,7 +186,7 @@ std::optional<uint32_t> IndexTree::insert(std::span<const uint8_t> key, RowId ro
     IndexPage leaf = std::move(path.back().page);
     const size_t at = leaf.lowerBound(entry);
     if (at < leaf.count() && compareEntries(leaf.keyAndRow(at), entry) == 0)
-        failDamaged("un indice di \"", m_definition.name, "\" contiene già la riga");
+        failDamaged("un indice di \"%1\" contiene già la riga"_tr, m_definition.name);
     leaf.insert(at, entry);
     assert(at == 0 || compareEntries(leaf.keyAndRow(at - 1), entry) < 0);  // T1
     assert(at + 1 == leaf.count() || compareEntries(entry, leaf.keyAndRow(at + 1)) < 0);
@@ -210,7 +210,7 @@ std::vector<IndexTree::Part> IndexTree::divide(IndexPage page, Bytes greatest, b
     // The engine's own keys are shorter than a third of a page.
     if (count < 4)
         fail(ErrorCode::NotSupported,
-             "Le voci di un indice del database sono troppo lunghe per essere divise.");
+             "Le voci di un indice del database sono troppo lunghe per essere divise."_tr);
     IndexPage right;
     right.leaf = page.leaf;
     right.level = page.level;

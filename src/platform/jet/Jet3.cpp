@@ -76,7 +76,7 @@ class Source {
     explicit Source(std::span<const uint8_t> bytes) : m_rest(bytes) {}
 
     std::span<const uint8_t> take(size_t length) {
-        if (length > m_rest.size()) failDamaged("la definizione di una tabella è incompleta");
+        if (length > m_rest.size()) failDamaged("la definizione di una tabella è incompleta"_tr);
         const auto taken = m_rest.first(length);
         m_rest = m_rest.subspan(length);
         return taken;

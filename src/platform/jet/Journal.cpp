@@ -37,9 +37,11 @@ bool Journal::trusted(const FileRights& rights, const FileRights& database) {
 
 void Journal::requireTrusted(const FileRights& rights, const FileRights& database) const {
     if (trusted(rights, database)) return;
-    fail(ErrorCode::PathAccess, "Il file \"", m_path,
-         "\" non è un giornale di questo database: è un collegamento o appartiene a chi non può scrivere il "
-         "database. Il database non viene aperto finché il file resta al suo posto.");
+    fail(ErrorCode::PathAccess,
+         "Il file \"%1\" non è un giornale di questo database: è un collegamento o "
+         "appartiene a chi non può scrivere il database. Il database "
+         "non viene aperto finché il file resta al suo posto."_tr,
+         m_path);
 }
 
 OsFile Journal::open(const FileRights& database, Access access) const {
@@ -114,7 +116,7 @@ Journal::Found Journal::keepRoom(const OsFile& database, const FileRights& right
         return true;
     };
     if (!waitFor(LockWait{}, attempt))
-        fail(ErrorCode::FileInUse, "Il file \"", m_path, "\" è in uso da un altro programma.");
+        fail(ErrorCode::FileInUse, "Il file \"%1\" è in uso da un altro programma."_tr, m_path);
     m_roomTaken = m_file.reserve(room);
     return stateOf(m_file);
 }
@@ -261,14 +263,14 @@ void Journal::setAside([[maybe_unused]] const OsFile& database) {
     const std::string wanted = m_path + ".scartato";
     std::string name = wanted;
     for (int n = 2; !OsFile::rename(m_path, name, false); ++n) {  // J5: no other one is replaced
-        if (n > 999) fail(ErrorCode::PathAccess, "Troppi file \"", wanted, "\".");
-        name = phrase(wanted, "-", n);
+        if (n > 999) fail(ErrorCode::PathAccess, "Troppi file \"%1\"."_tr, wanted);
+        name = wanted + "-" + std::to_string(n);
     }
     close();
     notice(
-        phrase("Accanto al database c'era un giornale di modifiche interrotte che non gli appartiene. Il "
-               "database resta com'è; il giornale è stato messo da parte come \"",
-               name, "\"."));
+        Phrase("Accanto al database c'era un giornale di modifiche interrotte che non gli appartiene. Il "
+               "database resta com'è; il giornale è stato messo da parte come \"%1\"."_tr,
+               name));
     try {
         OsFile::syncFolderOf(m_path);
     } catch (const Failure&) {

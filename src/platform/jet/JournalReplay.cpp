@@ -91,7 +91,8 @@ void JournalReplay::putBack(OsFile& database) const {
         if (page >= m_header.pages) continue;
         Page original;
         Page now;
-        if (m_journal.read(record.originalAt, original) != pageSize) failIo("lettura", m_journal.path(), EIO);
+        if (m_journal.read(record.originalAt, original) != pageSize)
+            failIo("lettura"_tr, m_journal.path(), EIO);
         const uint64_t at = uint64_t{page} * pageSize;
         if (database.read(at, now) != pageSize || now != original) database.write(at, original);
     }

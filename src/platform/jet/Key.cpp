@@ -20,7 +20,7 @@ const Column& columnOf(const TableDefinition& definition, const Index::Part& par
     const auto found = std::find_if(definition.columns.begin(), definition.columns.end(),
                                     [&](const Column& column) { return column.number == part.column; });
     if (found == definition.columns.end())
-        failDamaged("un indice di \"", definition.name, "\" nomina un campo che non c'è");
+        failDamaged("un indice di \"%1\" nomina un campo che non c'è"_tr, definition.name);
     return *found;
 }
 
@@ -85,7 +85,7 @@ std::string characterName(char32_t code) {
         number += digits[code >> shift & 0xF];
     std::string character;
     appendCodePoint(code, character);
-    return phrase("\"", character, "\" (U+", number, ")");
+    return "\"" + character + "\" (U+" + number + ")";
 }
 
 // False when the text has no known key.
@@ -127,7 +127,7 @@ bool appendPart(Bytes& key, const Column& column, bool ascending, const StoredFi
     }
     if (column.type == Type::Text) return appendText(key, textOf(column, field), ascending, places);
     if (!yesNo && column.type != Type::Binary && field.bytes.size() < fixedLength(column))
-        failDamaged("un valore del campo \"", column.name, "\" è troppo corto");
+        failDamaged("un valore del campo \"%1\" è troppo corto"_tr, column.name);
     if (column.type == Type::Binary || column.type == Type::Guid) {
         key.push_back(ascending ? 0x7F : 0x80);
         if (column.type == Type::Guid)
@@ -152,7 +152,7 @@ std::optional<Bytes> keyWith(const TableDefinition& definition, const Index& ind
 
 }  // namespace
 
-std::string whyNotKept(const TableDefinition& definition, const Index& index) {
+Phrase whyNotKept(const TableDefinition& definition, const Index& index) {
     for (const Index::Part& part : index.parts) {
         const Column& column = columnOf(definition, part);
         switch (column.type) {
@@ -169,12 +169,12 @@ std::string whyNotKept(const TableDefinition& definition, const Index& index) {
                 break;
             case Type::Text:
                 if (column.generalOrder) break;
-                return phrase("il campo \"", column.name, "\" non ha l'ordinamento generale");
+                return Phrase("il campo \"%1\" non ha l'ordinamento generale"_tr, column.name);
             default:
-                return phrase("il tipo del campo \"", column.name, "\" non è adatto a un indice");
+                return Phrase("il tipo del campo \"%1\" non è adatto a un indice"_tr, column.name);
         }
     }
-    return index.parts.empty() ? "non è su alcun campo" : std::string();
+    return index.parts.empty() ? "non è su alcun campo"_tr : Phrase();
 }
 
 bool needsProof(const TableDefinition& definition, const Index& index) {
@@ -190,12 +190,14 @@ Bytes keyToWrite(const TableDefinition& definition, const Index& index, const Fi
         const StoredField stored = field(column);
         if (column.type != Type::Text || stored.null) continue;
         if (const auto character = characterWithoutKey(textOf(column, stored)))
-            fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name, "\" contiene il carattere ",
-                 characterName(*character), ", che non può stare nell'indice \"", index.name, "\".");
+            fail(ErrorCode::NotSupported,
+                 "Il testo del campo \"%1\" contiene il carattere %2, "
+                 "che non può stare nell'indice \"%3\"."_tr,
+                 column.name, characterName(*character), index.name);
     }
     const std::optional<Bytes> key = keyWith(definition, index, field, LigaturePlaces::One);
     if (!key || key->size() > longestKey)
-        fail(ErrorCode::NotSupported, "I valori sono troppo lunghi per l'indice \"", index.name, "\".");
+        fail(ErrorCode::NotSupported, "I valori sono troppo lunghi per l'indice \"%1\"."_tr, index.name);
     return *key;
 }
 

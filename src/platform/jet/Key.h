@@ -3,11 +3,11 @@
 
 #include <functional>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "platform/jet/Row.h"
 #include "platform/jet/TableDefinition.h"
+#include "platform/Phrase.h"
 
 /// Keys of index entries. One part for each column of the index: Null is 00; else 7F and
 ///   yes/no          00 True, FF False (never Null)
@@ -31,7 +31,7 @@ inline FieldOf fieldsOf(const Row& row) {
 
 /// Why keys of that index cannot be made, whatever is in the rows; completes "… non può essere aggiornato,
 /// perché ". Empty when they can.
-std::string whyNotKept(const TableDefinition& definition, const Index& index);
+Phrase whyNotKept(const TableDefinition& definition, const Index& index);
 /// Whether no file made by Access was seen with such an index. Its own entries have to show the form then.
 bool needsProof(const TableDefinition& definition, const Index& index);
 

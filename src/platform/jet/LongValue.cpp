@@ -26,7 +26,7 @@ uint32_t longValueOwner() {
 }
 
 [[noreturn]] void failBroken() {
-    failDamaged("un campo memo non è leggibile");
+    failDamaged("un campo memo non è leggibile"_tr);
 }
 
 DataPageView longRows(const Page& page, uint32_t number) {
@@ -136,7 +136,7 @@ uint32_t LongValuePages::put(std::span<const uint8_t> row) {
 
 Bytes LongValuePages::store(std::span<const uint8_t> content) {
     if (m_owned == 0)
-        fail(ErrorCode::NotSupported, "Il database non ha posto per i testi lunghi di un campo memo.");
+        fail(ErrorCode::NotSupported, "Il database non ha posto per i testi lunghi di un campo memo."_tr);
     if (content.size() <= data::maxRow) return headOf(content.size(), oneRow, put(content));
     // From the end, since each row names the next.
     constexpr size_t piece = data::maxRow - 4;

@@ -4,8 +4,6 @@
 #include <cstdio>
 #include <utility>
 
-#include "platform/jet/JetText.h"
-
 namespace jet {
 
 namespace {
@@ -18,11 +16,11 @@ void setNoticeHandler(NoticeHandler handler) {
     noticeHandler = std::move(handler);
 }
 
-void notice(const std::string& text) {
+void notice(const Phrase& text) {
     if (noticeHandler)
-        noticeHandler(toUtf16(text));
+        noticeHandler(text);
     else
-        std::fprintf(stderr, "%s\n", text.c_str());
+        std::fprintf(stderr, "%s\n", text.sourceText().c_str());
 }
 
 }  // namespace jet

@@ -28,7 +28,7 @@ DiskStep::Outcome ask(const DiskStep& step) {
 }
 
 // Whether the step is to be done.
-bool proceed(const DiskStep& step, const char* doing) {
+bool proceed(const DiskStep& step, OwnText doing) {
     const DiskStep::Outcome outcome = ask(step);
     if (outcome == DiskStep::Outcome::Full) failIo(doing, step.path, ENOSPC);
     if (outcome == DiskStep::Outcome::Fail || outcome == DiskStep::Outcome::Half)
@@ -49,7 +49,7 @@ void writeAll(int fd, uint64_t offset, std::span<const uint8_t> bytes, const std
     while (!bytes.empty()) {
         const ssize_t n = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
         if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) failIo("scrittura", path, n < 0 ? errno : ENOSPC);
+        if (n <= 0) failIo("scrittura"_tr, path, n < 0 ? errno : ENOSPC);
         bytes = bytes.subspan(static_cast<size_t>(n));
         offset += static_cast<uint64_t>(n);
     }
@@ -115,7 +115,7 @@ bool nameState(const std::string& path, FileState& state, FileRights* rights) {
 }
 
 OsFile::OsFile(const std::string& path, Access access, Links links) : m_path(path) {
-    if (access == Access::Create) (void)proceed({DiskStep::Kind::Create, m_path}, "creazione");
+    if (access == Access::Create) (void)proceed({DiskStep::Kind::Create, m_path}, "creazione"_tr);
     // O_NONBLOCK: opening a pipe by mistake must not hang.
     const int mode = access == Access::Read ? O_RDONLY : O_RDWR;
     const int creation = access == Access::Create ? O_CREAT | O_EXCL : 0;
@@ -127,7 +127,7 @@ OsFile::OsFile(const std::string& path, Access access, Links links) : m_path(pat
     if (::fstat(m_fd, &s) != 0 || !S_ISREG(s.st_mode)) {
         ::close(m_fd);
         m_fd = -1;
-        fail(ErrorCode::PathAccess, "\"", path, "\" non è un file.");
+        fail(ErrorCode::PathAccess, "\"%1\" non è un file."_tr, path);
     }
 }
 
@@ -147,7 +147,7 @@ OsFile::~OsFile() {
 
 FileState OsFile::state() const {
     struct stat s;
-    if (::fstat(m_fd, &s) != 0) failIo("lettura", m_path, errno);
+    if (::fstat(m_fd, &s) != 0) failIo("lettura"_tr, m_path, errno);
     return toState(s);
 }
 
@@ -157,7 +157,7 @@ size_t OsFile::read(uint64_t offset, std::span<uint8_t> bytes) const {
         const ssize_t n =
             ::pread(m_fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) failIo("lettura", m_path, errno);
+        if (n < 0) failIo("lettura"_tr, m_path, errno);
         if (n == 0) break;
         done += static_cast<size_t>(n);
     }
@@ -174,23 +174,23 @@ void OsFile::write(uint64_t offset, std::span<const uint8_t> bytes) {
             writeAll(m_fd, offset, bytes.first(bytes.size() / 2), m_path);
             break;
         case DiskStep::Outcome::Full:
-            failIo("scrittura", m_path, ENOSPC);
+            failIo("scrittura"_tr, m_path, ENOSPC);
         case DiskStep::Outcome::Fail:
             break;
     }
-    failIo("scrittura", m_path, EIO);
+    failIo("scrittura"_tr, m_path, EIO);
 }
 
 void OsFile::truncate(uint64_t size) {
-    if (!proceed({DiskStep::Kind::Truncate, m_path, size}, "accorciamento")) return;
-    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0) failIo("accorciamento", m_path, errno);
+    if (!proceed({DiskStep::Kind::Truncate, m_path, size}, "accorciamento"_tr)) return;
+    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0) failIo("accorciamento"_tr, m_path, errno);
 }
 
 bool OsFile::reserve(uint64_t size) {
     // Those that never write in place: the next change of a page needs new room, whatever is reserved.
     static constexpr uint32_t copiers[] = {0x9123683E, 0x2FC12FC1, 0xCA451A4E, 0xF2F52010, 0x3434};
     try {
-        if (!proceed({DiskStep::Kind::Reserve, m_path, size}, "prenotazione")) return true;
+        if (!proceed({DiskStep::Kind::Reserve, m_path, size}, "prenotazione"_tr)) return true;
     } catch (const Failure&) {
         return false;
     }
@@ -201,8 +201,8 @@ bool OsFile::reserve(uint64_t size) {
 }
 
 OsFile::Synced OsFile::sync() {
-    if (proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione") && ::fdatasync(m_fd) != 0)
-        failIo("sincronizzazione", m_path, errno);
+    if (proceed({DiskStep::Kind::Sync, m_path}, "sincronizzazione"_tr) && ::fdatasync(m_fd) != 0)
+        failIo("sincronizzazione"_tr, m_path, errno);
     return {};
 }
 
@@ -223,7 +223,7 @@ FileState OsFile::stampAfter(int64_t previousNs) {
 
 FileRights OsFile::rights() const {
     struct stat s;
-    if (::fstat(m_fd, &s) != 0) failIo("lettura", m_path, errno);
+    if (::fstat(m_fd, &s) != 0) failIo("lettura"_tr, m_path, errno);
     return toRights(s);
 }
 
@@ -245,8 +245,9 @@ void OsFile::takeRights(const OsFile& other, FileRights now, const FileRights& w
     // Without the group the bits of the group are closed, and they bound the list as well.
     const bool listed = !otherList || (mode & 070) == 0 || setAccessList(m_fd, list);
     if (listed && (::fchmod(m_fd, mode) == 0 || (rights().mode & ~mode) == 0)) return;
-    fail(ErrorCode::PathAccess, "Il file \"", m_path,
-         "\" può essere letto o scritto da chi non può farlo con \"", other.path(), "\".");
+    fail(ErrorCode::PathAccess,
+         "Il file \"%1\" può essere letto o scritto da chi non può farlo con \"%2\"."_tr, m_path,
+         other.path());
 }
 
 bool OsFile::tryLock(Lock lock, Range range) {
@@ -254,7 +255,7 @@ bool OsFile::tryLock(Lock lock, Range range) {
     request.l_type = lock == Lock::Shared ? F_RDLCK : lock == Lock::Exclusive ? F_WRLCK : F_UNLCK;
     if (::fcntl(m_fd, F_OFD_SETLK, &request) == 0) return true;
     if (errno == EAGAIN || errno == EACCES || errno == EINTR) return false;
-    failIo("blocco", m_path, errno);
+    failIo("blocco"_tr, m_path, errno);
 }
 
 bool OsFile::lockedByOthers(Range range) const {
@@ -272,7 +273,7 @@ bool OsFile::lockedByOthers() const {
 
 bool OsFile::isHeld(Range range) const {
     // Who has opened the file anew is one of the others.
-    const int other = ::open(phrase("/proc/self/fd/", m_fd).c_str(), O_RDONLY | O_CLOEXEC);
+    const int other = ::open(("/proc/self/fd/" + std::to_string(m_fd)).c_str(), O_RDONLY | O_CLOEXEC);
     if (other < 0) return true;
     struct flock request = requestFor(range);
     request.l_type = F_RDLCK;
@@ -287,34 +288,34 @@ bool OsFile::exists(const std::string& path) {
 }
 
 void OsFile::remove(const std::string& path) {
-    if (!proceed({DiskStep::Kind::Remove, path}, "cancellazione")) return;
-    if (::unlink(path.c_str()) != 0 && errno != ENOENT) failIo("cancellazione", path, errno);
+    if (!proceed({DiskStep::Kind::Remove, path}, "cancellazione"_tr)) return;
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT) failIo("cancellazione"_tr, path, errno);
 }
 
 bool OsFile::rename(const std::string& from, const std::string& to, bool replace) {
-    if (!proceed({DiskStep::Kind::Rename, to}, "cambio di nome")) return true;
+    if (!proceed({DiskStep::Kind::Rename, to}, "cambio di nome"_tr)) return true;
     if (!replace) {
         if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
         if (errno == EEXIST) return false;
-        if (errno != EINVAL && errno != ENOSYS) failIo("cambio di nome", to, errno);
+        if (errno != EINVAL && errno != ENOSYS) failIo("cambio di nome"_tr, to, errno);
         // A file system without that rename: the locks of its callers keep our own processes out.
         if (exists(to)) return false;
     }
-    if (::rename(from.c_str(), to.c_str()) != 0) failIo("cambio di nome", to, errno);
+    if (::rename(from.c_str(), to.c_str()) != 0) failIo("cambio di nome"_tr, to, errno);
     return true;
 }
 
 void OsFile::syncFolderOf(const std::string& path) {
-    if (!proceed({DiskStep::Kind::SyncFolder, path}, "sincronizzazione")) return;
+    if (!proceed({DiskStep::Kind::SyncFolder, path}, "sincronizzazione"_tr)) return;
     const size_t slash = path.rfind('/');
     const std::string folder = slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
     const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0) failIo("sincronizzazione", folder, errno);
+    if (fd < 0) failIo("sincronizzazione"_tr, folder, errno);
     const int outcome = ::fsync(fd);
     const int error = errno;
     ::close(fd);
     // Some file systems cannot sync a folder and need not.
-    if (outcome != 0 && error != EINVAL) failIo("sincronizzazione", folder, error);
+    if (outcome != 0 && error != EINVAL) failIo("sincronizzazione"_tr, folder, error);
 }
 
 }  // namespace jet

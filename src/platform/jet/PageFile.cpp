@@ -87,10 +87,12 @@ void PageFile::open() {
 }
 
 void PageFile::failMissing() const {
-    const std::string text = phrase("Impossibile trovare il file \"", m_path, "\".");
+    const Phrase text("Impossibile trovare il file \"%1\"."_tr, m_path);
     if (!m_journal.isLeftBehind()) fail(ErrorCode::FileNotFound, text);
-    fail(ErrorCode::FileNotFound, text, " Accanto è rimasto il giornale delle sue ultime modifiche, \"",
-         m_journal.path(), "\", che viene conservato: rimettere il file al suo posto.");
+    fail(ErrorCode::FileNotFound,
+         "%1 Accanto è rimasto il giornale delle sue ultime modifiche, "
+         "\"%2\", che viene conservato: rimettere il file al suo posto."_tr,
+         text, m_journal.path());
 }
 
 void PageFile::readHeader() {
@@ -109,9 +111,9 @@ void PageFile::refreshState(const FileState& now) {
     dropCache();
     readHeader();
     if (now.size > uint64_t{maxPages} * bytesPerPage())
-        fail(ErrorCode::DatabaseFull, "Il file \"", m_path,
-             "\" supera la dimensione massima di un database, 2 GB.");
-    if (now.size % bytesPerPage() != 0) failDamaged("la lunghezza del file non è quella di un database");
+        fail(ErrorCode::DatabaseFull, "Il file \"%1\" supera la dimensione massima di un database, 2 GB."_tr,
+             m_path);
+    if (now.size % bytesPerPage() != 0) failDamaged("la lunghezza del file non è quella di un database"_tr);
     m_state = now;
     m_pageCount = static_cast<uint32_t>(now.size / bytesPerPage());
 }
@@ -156,11 +158,11 @@ PagePtr PageFile::page(uint32_t n) {
         m_cache[n].used = true;
         return m_cache[n].page;
     }
-    if (n >= m_pageCount) failDamaged("manca la pagina ", n);
+    if (n >= m_pageCount) failDamaged("manca la pagina %1"_tr, n);
     auto page = std::make_shared_for_overwrite<Page>();
     const std::span<uint8_t> bytes = std::span(*page).first(bytesPerPage());
     if (m_file.read(uint64_t{n} * bytes.size(), bytes) != bytes.size())
-        failDamaged("la pagina ", n, " è troncata");
+        failDamaged("la pagina %1 è troncata"_tr, n);
     if (m_header.pageKey != 0 && n != 0) codePage(m_header.pageKey, n, bytes);
     if (m_header.jet3) jet3::widenPage(*page);
     keep(n, page);
@@ -178,14 +180,15 @@ size_t PageFile::readPages(uint32_t first, std::span<Page> pages) const {
 
 void PageFile::requireWritable() const {
     if (m_header.jet3)
-        fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,
-             "\" è di Access 97: può essere letto ma non modificato. Per modificarlo convertirlo in formato "
-             "Access 2000-2003 (.mdb).");
-    if (m_readOnly) fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path, "\" è di sola lettura.");
+        fail(ErrorCode::ReadOnlyDatabase,
+             "Il database \"%1\" è di Access 97: può essere letto ma non modificato. "
+             "Per modificarlo convertirlo in formato Access 2000-2003 (.mdb)."_tr,
+             m_path);
+    if (m_readOnly) fail(ErrorCode::ReadOnlyDatabase, "Il database \"%1\" è di sola lettura."_tr, m_path);
 }
 
 void PageFile::beginWrite() {
-    if (m_writing) fail(ErrorCode::NotSupported, "Una transazione è già in corso.");
+    if (m_writing) fail(ErrorCode::NotSupported, "Una transazione è già in corso."_tr);
     requireWritable();
     refuseIfOpenElsewhere(m_path);
     try {

@@ -31,8 +31,8 @@ FileState PageFile::lockCurrent(Range range) {
         open();
         if (range == Range::Writer) requireWritable();
     }
-    fail(ErrorCode::FileInUse, "Il database \"", m_path,
-         "\" viene sostituito di continuo da un altro programma.");
+    fail(ErrorCode::FileInUse, "Il database \"%1\" viene sostituito di continuo da un altro programma."_tr,
+         m_path);
 }
 
 // Releases everything but what the readers of this file need.
@@ -81,8 +81,9 @@ void PageFile::recover() {
     try {
         file = OsFile(m_path, OsFile::Access::ReadWrite);
     } catch (const Failure&) {
-        fail(ErrorCode::ReadOnlyDatabase, "Il database \"", m_path,
-             "\" va ripristinato dopo un'interruzione, ma non può essere scritto.");
+        fail(ErrorCode::ReadOnlyDatabase,
+             "Il database \"%1\" va ripristinato dopo un'interruzione, ma non può essere scritto."_tr,
+             m_path);
     }
     m_file.tryLock(Lock::None, Range::Content);
     lockWriter(file, m_limits.lockWait);
@@ -116,12 +117,12 @@ void PageFile::lockPages() {
     const auto requireInPlace = [&] {
         FileState now;
         if (fileState(m_path, now) ? sameFile(now, m_opened) : m_file.rights().links > 0) return;
-        fail(ErrorCode::FileNotFound, "Il database \"", m_path,
-             "\" è stato sostituito o cancellato: la modifica non è stata fatta.");
+        fail(ErrorCode::FileNotFound,
+             "Il database \"%1\" è stato sostituito o cancellato: la modifica non è stata fatta."_tr, m_path);
     };
     if (m_pagesWritten) requireInPlace();
     if (!m_file.tryLock(Lock::Exclusive, Range::Author))
-        fail(ErrorCode::FileInUse, "Il database \"", m_path, "\" è in uso da un altro programma.");
+        fail(ErrorCode::FileInUse, "Il database \"%1\" è in uso da un altro programma."_tr, m_path);
     m_journal.sync();
     if (m_pagesWritten) return;
     assert(m_file.isHeld(Range::Writer));  // L2: never waited for with the content locked

@@ -23,7 +23,7 @@ constexpr size_t pagesLearnt = 32;
 DataPageView PageRoom::view(const Page& page, uint32_t number) const {
     const DataPageView view(page, number);
     if (view.owner() != m_owner)
-        failDamaged("la pagina ", number, " è fra quelle libere di una tabella a cui non appartiene");
+        failDamaged("la pagina %1 è fra quelle libere di una tabella a cui non appartiene"_tr, number);
     return view;
 }
 

@@ -17,7 +17,7 @@ Status probe(const std::string& path, const std::string& password) {
         const size_t length = file.read(0, page0);
         const Header header = parseHeader(std::span(page0).first(length));
         if (!header.password.empty() && header.password != password)
-            return {ErrorCode::InvalidPassword, u"Password non valida."};
+            return {ErrorCode::InvalidPassword, "Password non valida."_tr};
         return {};
     });
 }

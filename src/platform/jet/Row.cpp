@@ -97,7 +97,7 @@ std::optional<size_t> maskByte(const TableDefinition& definition, const Column& 
                                std::span<const uint8_t> row) {
     const Parts parts(definition, row);
     if (!parts.valid || parts.columns > definition.maxColumns)
-        failDamaged("una riga di \"", definition.name, "\" non è leggibile");
+        failDamaged("una riga di \"%1\" non è leggibile"_tr, definition.name);
     if (column.number >= parts.columns) return std::nullopt;
     return parts.maskAt + column.number / 8;
 }
@@ -128,7 +128,7 @@ Row::Row(const TableDefinition& definition) : m_definition(&definition) {
 
 Row::Row(const TableDefinition& definition, std::span<const uint8_t> bytes) : Row(definition) {
     const Parts parts(definition, bytes);
-    const auto damaged = [&] { failDamaged("una riga di \"", definition.name, "\" non è leggibile"); };
+    const auto damaged = [&] { failDamaged("una riga di \"%1\" non è leggibile"_tr, definition.name); };
     if (!parts.valid || parts.columns > definition.maxColumns) damaged();
     const size_t fixedEnd = definition.variableColumns > 0 ? parts.offset(0) : parts.maskAt;
     if (fixedEnd < 2 || fixedEnd > parts.maskAt) damaged();
@@ -225,8 +225,9 @@ std::vector<uint8_t> Row::bytes() const {
     }
     put(maskAt, m_mask);
     if (out.size() > data::maxRow)
-        fail(ErrorCode::RecordTooLarge, "Il record è troppo grande per la tabella \"", m_definition->name,
-             "\" (", out.size(), " byte; al massimo ", data::maxRow, ").");
+        fail(ErrorCode::RecordTooLarge,
+             "Il record è troppo grande per la tabella \"%1\" (%2 byte; al massimo %3)."_tr,
+             m_definition->name, out.size(), data::maxRow);
     return out;
 }
 

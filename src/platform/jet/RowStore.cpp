@@ -22,17 +22,17 @@ void storePointer(Page& page, RowId slot, RowId body) {
 DataPageView RowStore::view(const Page& page, uint32_t number) const {
     const DataPageView view(page, number);
     if (view.owner() != m_definition.page)
-        failDamaged("la pagina ", number, " non appartiene alla tabella \"", m_definition.name, "\"");
+        failDamaged("la pagina %1 non appartiene alla tabella \"%2\""_tr, number, m_definition.name);
     return view;
 }
 
 RowStore::Stored RowStore::body(RowId id, std::span<const uint8_t> pointer) const {
-    if (pointer.size() < 4) failDamaged("la riga ", id.slot, " della pagina ", id.page, " non dice dove è");
+    if (pointer.size() < 4) failDamaged("la riga %1 della pagina %2 non dice dove è"_tr, id.slot, id.page);
     const RowId place{load24(&pointer[1]), pointer[0]};
     PagePtr bodyPage = m_file.page(place.page);
     const DataPageView rows = view(*bodyPage, place.page);
     if (rows.flags(place.slot) != data::notARow)
-        failDamaged("la riga ", id.slot, " della pagina ", id.page, " si è persa");
+        failDamaged("la riga %1 della pagina %2 si è persa"_tr, id.slot, id.page);
     const std::span<const uint8_t> bytes = rows.bytes(place.slot);
     return {std::move(bodyPage), bytes, place};
 }
@@ -84,13 +84,13 @@ bool RowStore::replaceAt(RowId place, std::span<const uint8_t> row, uint16_t fla
 
 void RowStore::update(RowId id, std::span<const uint8_t> row) {
     const std::optional<Stored> old = find(id);
-    if (!old) failInternal("una riga di \"", m_definition.name, "\" è sparita");
+    if (!old) failInternal("una riga di \"%1\" è sparita"_tr, m_definition.name);
     const bool moved = old->place != id;
     if (replaceAt(old->place, row, moved ? data::notARow : 0)) return;
     const RowId body = put(row, data::notARow);
     // Rule P3. Only a file whose map of free pages lists a page in use leads here.
     if (body == id || body == old->place)
-        failDamaged("la pagina ", body.page, " è in uso ed è segnata come libera");
+        failDamaged("la pagina %1 è in uso ed è segnata come libera"_tr, body.page);
     if (moved) {
         remove(old->place);
     } else {
@@ -123,7 +123,7 @@ void RowStore::patchAll(const std::function<std::optional<Patch>(RowId, std::spa
 
 void RowStore::erase(RowId id) {
     const std::optional<Stored> old = find(id);
-    if (!old) failInternal("una riga di \"", m_definition.name, "\" è sparita");
+    if (!old) failInternal("una riga di \"%1\" è sparita"_tr, m_definition.name);
     if (old->place != id) remove(old->place);
     remove(id);
 }

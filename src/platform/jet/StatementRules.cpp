@@ -36,7 +36,7 @@ class Edges {
     Edges(const Page& page, uint32_t number, uint32_t owner)
         : leaf(page[0] == LeafPage), tail(load32(&page[index::tail])) {
         if (!isIndexPage(page) || load32(&page[index::owner]) != owner)
-            failDamaged("manca la pagina ", number);
+            failDamaged("manca la pagina %1"_tr, number);
         const uint8_t* entries = &page[index::entries];
         const size_t end = endBefore(page, bits);
         if (end == 0) return;
@@ -45,7 +45,7 @@ class Edges {
         const size_t shared = start == 0 ? 0 : load16(&page[index::prefix]);
         const size_t least = index::rowIdLength + (leaf ? 0 : index::childLength);
         if (end > index::room || shared > firstEnd || firstEnd < least || shared + end - start < least)
-            failDamaged("la pagina di indice ", number, " non è leggibile");
+            failDamaged("la pagina di indice %1 non è leggibile"_tr, number);
         first.assign(entries, entries + firstEnd);
         last.assign(entries, entries + shared);
         last.insert(last.end(), entries + start, entries + end);
@@ -134,13 +134,13 @@ class View {
     }
     IndexPage indexPage(uint32_t number) const {
         const PagePtr bytes = find(number);
-        if (!bytes) failDamaged("manca la pagina ", number);
+        if (!bytes) failDamaged("manca la pagina %1"_tr, number);
         return {*bytes, number, m_definition.page};
     }
 
     Edges edges(uint32_t number) const {
         const PagePtr bytes = find(number);
-        if (!bytes) failDamaged("manca la pagina ", number);
+        if (!bytes) failDamaged("manca la pagina %1"_tr, number);
         return {*bytes, number, m_definition.page};
     }
 
@@ -194,7 +194,7 @@ class View {
             if (page.leaf) return std::move(page.last);
             number = page.tail;
         }
-        failDamaged("un indice gira in tondo");
+        failDamaged("un indice gira in tondo"_tr);
     }
 
     PageFile& m_file;

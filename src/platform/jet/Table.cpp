@@ -33,8 +33,8 @@ void TableState::ensureCurrent() {
     Bytes now = readDefinition(file, definition.page);
     clearCounters(now);
     if (now != structure)
-        fail(ErrorCode::FileInUse, "La struttura della tabella \"", definition.name,
-             "\" è stata cambiata da un altro programma.");
+        fail(ErrorCode::FileInUse,
+             "La struttura della tabella \"%1\" è stata cambiata da un altro programma."_tr, definition.name);
     generation = file.generation();
     rows.forget();
     longValues.clear();
@@ -75,7 +75,7 @@ Result<Value> Table::value(RowId id, size_t column) {
         const Reading reading(m_state->file);
         m_state->ensureCurrent();
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
-        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
+        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato."_tr);
         const Column& c = m_state->definition.columns[column];
         if (c.type != Type::Memo && c.type != Type::Ole)
             return RowView(&m_state->definition, stored->bytes).value(column);
@@ -92,8 +92,8 @@ Result<std::optional<RowId>> Table::findByPrimaryKey(int32_t key) {
         for (const Index& index : m_state->definition.indexes)
             if (index.primaryKey && m_state->definition.longPrimaryKey())
                 return IndexTree(m_state->file, m_state->definition, index).find(longKey(key));
-        fail(ErrorCode::NotSupported, "La tabella \"", m_state->definition.name,
-             "\" non ha una chiave primaria numerica.");
+        fail(ErrorCode::NotSupported, "La tabella \"%1\" non ha una chiave primaria numerica."_tr,
+             m_state->definition.name);
     });
 }
 

@@ -18,7 +18,7 @@ namespace {
 // A column that can be written again without changing the row does not matter.
 bool changes(const TableState& state, const Row& old, Row& row, const Column& column, const Value& value) {
     if (isLong(column)) return !sameLongValue(state, old, column, value);
-    std::string why;
+    Phrase why;
     return !isWritable(column, why) || row.set(column, value);
 }
 
@@ -54,7 +54,7 @@ void eraseEntry(TableState& state, size_t position, const Row& row, RowId id) {
         erased = key && tree.erase(*key, id);
     }
     // K4: nothing of it can be left, since entries rise strictly (T1).
-    if (!erased) failDamaged("nell'indice \"", index.name, "\" manca una riga");
+    if (!erased) failDamaged("nell'indice \"%1\" manca una riga"_tr, index.name);
     if (countNulls(table, index, fieldsOf(row)) == 0) state.addToKeyCount(position, -1);
 }
 
@@ -73,7 +73,7 @@ void apply(TableState& state, Work&& work) {
 }
 
 void requireTransaction(const TableState& state) {
-    if (!state.file.writing()) fail(ErrorCode::NotSupported, "Nessuna transazione è in corso.");
+    if (!state.file.writing()) fail(ErrorCode::NotSupported, "Nessuna transazione è in corso."_tr);
     if (!state.engine.doom.ok()) throw Failure{state.engine.doom};
 }
 
@@ -128,8 +128,8 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         requireWritable(*m_state);
         const TableDefinition& table = m_state->definition;
         if (values.size() != table.columns.size())
-            fail(ErrorCode::TypeMismatch, "Il numero dei valori non è quello dei campi della tabella \"",
-                 table.name, "\".");
+            fail(ErrorCode::TypeMismatch,
+                 "Il numero dei valori non è quello dei campi della tabella \"%1\"."_tr, table.name);
         Row row(table);
         LongChanges longs;
         for (size_t i = 0; i < values.size(); ++i) {
@@ -175,7 +175,7 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
         requireWritableTable(*m_state);
         const TableDefinition& table = m_state->definition;
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
-        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
+        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato."_tr);
         const Row old(table, stored->bytes);
         Row row = old;
         LongChanges longs;
@@ -183,7 +183,7 @@ Status Table::update(RowId id, std::span<const std::pair<size_t, Value>> changed
         for (const auto& [position, value] : changed) {
             const Column& column = table.columns[position];
             if (!changes(*m_state, old, row, column, value)) continue;
-            if (column.autoNumber) refuse(table, phrase("il campo \"", column.name, "\" è un contatore"));
+            if (column.autoNumber) refuse(table, Phrase("il campo \"%1\" è un contatore"_tr, column.name));
             const bool emptied = column.type == Type::Ole && std::holds_alternative<std::monostate>(value);
             if (!emptied) requireUpdatable(*m_state, position);
             if (isLong(column)) {
@@ -243,7 +243,7 @@ Result<std::optional<int64_t>> Table::setYesNo(size_t position, bool value,
         apply(*m_state, [&] {
             m_state->rows.patchAll(
                 [&](RowId id, std::span<const uint8_t> row) -> std::optional<RowStore::Patch> {
-                    if (!goOn()) fail(ErrorCode::Timeout, "Tempo scaduto.");
+                    if (!goOn()) fail(ErrorCode::Timeout, "Tempo scaduto."_tr);
                     ++rows;
                     const std::optional<size_t> at = maskByte(table, column, row);
                     if (!at && value) older.push_back(id);
@@ -265,7 +265,7 @@ Status Table::erase(RowId id) {
         requireWritable(*m_state);
         const TableDefinition& table = m_state->definition;
         const std::optional<RowStore::Stored> stored = m_state->rows.find(id);
-        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato.");
+        if (!stored) fail(ErrorCode::NoCurrentRecord, "Il record è stato eliminato."_tr);
         const Row row(table, stored->bytes);
         const LongRows values = longRowsOf(*m_state, row);
         apply(*m_state, [&] {

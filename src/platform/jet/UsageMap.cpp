@@ -52,9 +52,9 @@ struct MapRow {
         bytes = view.bytes(slot);
         const size_t least = form() == 0 ? map::bits : map::pages + 4;
         if ((view.flags(slot) & data::deleted) != 0 || bytes.size() < least || form() > 1)
-            failDamaged("la mappa delle pagine ", number, "/", slot, " non è leggibile");
+            failDamaged("la mappa delle pagine %1/%2 non è leggibile"_tr, number, slot);
         if (form() == 0 && first() >= maxPages)
-            failDamaged("la mappa delle pagine ", number, "/", slot, " comincia oltre il file");
+            failDamaged("la mappa delle pagine %1/%2 comincia oltre il file"_tr, number, slot);
     }
     int form() const { return bytes.empty() ? -1 : bytes[0]; }
     uint32_t first() const { return load32(&bytes[map::firstPage]); }
@@ -73,7 +73,7 @@ std::span<const uint8_t> bitsOf(const PageFile& file, const Page& bitmap) {
 
 PagePtr bitmapPage(PageFile& file, uint32_t number) {
     PagePtr page = file.page(number);
-    if ((*page)[0] != BitmapPage) failDamaged("la pagina ", number, " non è una mappa");
+    if ((*page)[0] != BitmapPage) failDamaged("la pagina %1 non è una mappa"_tr, number);
     return page;
 }
 
@@ -152,7 +152,7 @@ void UsageMap::set(uint32_t page, bool member) {
     const MapRow now(m_file, m_page, m_slot);
     if (k >= map::mostBitmaps) failFull();
     if (k >= now.bitmaps())
-        fail(ErrorCode::NotSupported, "Una mappa delle pagine del database non può crescere oltre.");
+        fail(ErrorCode::NotSupported, "Una mappa delle pagine del database non può crescere oltre."_tr);
     uint32_t bitmap = now.bitmap(k);
     if (bitmap == 0) {
         bitmap = GlobalMap(m_file).take();

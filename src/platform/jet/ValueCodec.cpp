@@ -19,11 +19,11 @@ constexpr size_t longestMemo = (size_t{1} << 29) - 1;
 template <class Wanted>
 const Wanted& expect(const Column& column, const Value& value) {
     if (const Wanted* wanted = std::get_if<Wanted>(&value)) return *wanted;
-    fail(ErrorCode::TypeMismatch, "Tipo di dati non corrispondente nel campo \"", column.name, "\".");
+    fail(ErrorCode::TypeMismatch, "Tipo di dati non corrispondente nel campo \"%1\"."_tr, column.name);
 }
 
 [[noreturn]] void failOverflow(const Column& column) {
-    fail(ErrorCode::Overflow, "Il numero è troppo grande per il campo \"", column.name, "\".");
+    fail(ErrorCode::Overflow, "Il numero è troppo grande per il campo \"%1\"."_tr, column.name);
 }
 
 int64_t wholeOf(const Column& column, const Value& value) {
@@ -62,11 +62,12 @@ Bytes textBytes(const Column& column, const std::string& utf8) {
         if (std::optional<Bytes> bytes = compressAscii(utf8)) return std::move(*bytes);
     const std::u16string text = toUtf16(utf8);
     if (text.size() > most)
-        fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name,
-             "\" è troppo piccolo per il testo (al massimo ", most, " caratteri).");
+        fail(ErrorCode::FieldTooSmall,
+             "Il campo \"%1\" è troppo piccolo per il testo (al massimo %2 caratteri)."_tr, column.name,
+             most);
     if (std::optional<Bytes> bytes = encodeText(text, column.compressed)) return std::move(*bytes);
-    fail(ErrorCode::NotSupported, "Il testo del campo \"", column.name,
-         "\" contiene caratteri che il database non può conservare.");
+    fail(ErrorCode::NotSupported,
+         "Il testo del campo \"%1\" contiene caratteri che il database non può conservare."_tr, column.name);
 }
 
 Bytes rawBytes(const Column& column, const Value& value) {
@@ -74,8 +75,8 @@ Bytes rawBytes(const Column& column, const Value& value) {
     const bool exact = column.fixed || column.type == Type::Guid || column.type == Type::Numeric;
     const size_t wanted = exact && column.type != Type::Binary ? fixedLength(column) : column.length;
     if (bytes.size() > wanted || (exact && bytes.size() != wanted))
-        fail(ErrorCode::FieldTooSmall, "Il campo \"", column.name, "\" non può contenere ", bytes.size(),
-             " byte.");
+        fail(ErrorCode::FieldTooSmall, "Il campo \"%1\" non può contenere %2 byte."_tr, column.name,
+             bytes.size());
     return bytes;
 }
 
@@ -105,15 +106,15 @@ size_t fixedLength(const Column& column) {
     }
 }
 
-bool isWritable(const Column& column, std::string& why) {
+bool isWritable(const Column& column, Phrase& why) {
     switch (column.type) {
         case Type::Ole:
-            why = "contiene un oggetto OLE";
+            why = "contiene un oggetto OLE"_tr;
             return false;
         case Type::Text:
         case Type::Memo:
             if (!column.fixed) return true;
-            why = "è un testo di lunghezza fissa";
+            why = "è un testo di lunghezza fissa"_tr;
             return false;
         case Type::YesNo:
         case Type::Byte:
@@ -128,7 +129,7 @@ bool isWritable(const Column& column, std::string& why) {
         case Type::Numeric:
             return true;
     }
-    why = phrase("è di un tipo sconosciuto (", static_cast<int>(column.type), ")");
+    why = Phrase("è di un tipo sconosciuto (%1)"_tr, static_cast<int>(column.type));
     return false;
 }
 
@@ -163,9 +164,9 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value) {
         default:
             break;
     }
-    std::string why;
+    Phrase why;
     (void)isWritable(column, why);
-    fail(ErrorCode::NotSupported, "Il campo \"", column.name, "\" ", why, ": non può essere modificato.");
+    fail(ErrorCode::NotSupported, "Il campo \"%1\" %2: non può essere modificato."_tr, column.name, why);
 }
 
 void appendStoredText(const Column& column, std::span<const uint8_t> bytes, std::string& out) {

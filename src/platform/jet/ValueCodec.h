@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/jet/TableDefinition.h"
+#include "platform/Phrase.h"
 
 namespace jet {
 
@@ -18,7 +19,7 @@ std::optional<Bytes> encodeValue(const Column& column, const Value& value);
 bool yesNoValue(const Column& column, const Value& value);
 
 /// Whether the engine can store values in the column. If not, `why` completes "Il campo … ".
-bool isWritable(const Column& column, std::string& why);
+bool isWritable(const Column& column, Phrase& why);
 
 /// Bytes that a column takes in the fixed area.
 size_t fixedLength(const Column& column);

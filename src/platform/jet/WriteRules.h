@@ -2,11 +2,11 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
 #include "platform/jet/Engine.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/Row.h"
+#include "platform/Phrase.h"
 
 /// The checks before a table is written. All of these throw Failure and change nothing.
 namespace jet {
@@ -19,7 +19,7 @@ void requireWritable(TableState& state);
 void requireUpdatable(TableState& state, size_t position);
 /// Whether the index at that position can be kept right, so that its entries are those of the rows.
 bool isKept(TableState& state, size_t position);
-[[noreturn]] void refuse(const TableDefinition& table, std::string_view why);
+[[noreturn]] void refuse(const TableDefinition& table, const Phrase& why);
 
 /// The column's own rules for its value in a row that will be stored: Required, AllowZeroLength.
 void requireAllowed(const Column& column, const Row& row);

@@ -13,6 +13,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/text/Words.h"
+
 namespace mail {
 
 namespace {
@@ -110,8 +112,8 @@ Status AcceptedFile::reserve(qsizetype entries) {
     const auto full = [this](int error) {
         return Status(ErrorCode::DeviceIo,
                       error == ENOSPC || error == EDQUOT
-                          ? QStringLiteral("Il disco è pieno: il file \"%1\" non trova posto.").arg(m_path)
-                          : QStringLiteral("Impossibile scrivere il file \"%1\".").arg(m_path));
+                          ? Words::tr("Il disco è pieno: il file \"%1\" non trova posto.").arg(m_path)
+                          : Words::tr("Impossibile scrivere il file \"%1\".").arg(m_path));
     };
     struct stat known {};
     if (::fstat(m_descriptor, &known) != 0) return full(errno);

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <utility>
 
+#include "platform/text/Words.h"
+
 namespace mail {
 
 namespace {
@@ -110,7 +112,7 @@ Status AcceptedList::makeFile() {
         if (!QFile::exists(path)) --number;  // the name is free now
     }
     return {ErrorCode::PathAccess,
-            QStringLiteral("Impossibile aprire il file \"%1\".").arg(fileName(m_folder, 1))};
+            Words::tr("Impossibile aprire il file \"%1\".").arg(fileName(m_folder, 1))};
 }
 
 void AcceptedList::keep(const AcceptedEntry& entry) {

@@ -6,6 +6,7 @@
 
 #include "platform/mail/DomainName.h"
 #include "platform/text/Blanks.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 namespace {
@@ -64,7 +65,7 @@ bool isRefusedCharacter(char32_t c) {
 
 Result<Mailbox> parseAddrSpec(const QString& text) {
     const Status refusal(ErrorCode::TypeMismatch,
-                         QStringLiteral("L'indirizzo di posta elettronica non è valido."));
+                         Words::tr("L'indirizzo di posta elettronica non è valido."));
     const QString plain = text::trimBlanks(text).toString();
     if (!plain.isValidUtf16() ||
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return isRefusedCharacter(c.unicode()); })) {

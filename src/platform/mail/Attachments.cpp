@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/mail/FilePart.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 namespace {
@@ -11,13 +12,13 @@ namespace {
 constexpr qint64 largestAttachment = qint64{512} << 20;
 
 Status unusable(ErrorCode code, const Attachment& file, const QString& why) {
-    return {code, QStringLiteral("L'allegato %1 %2.").arg(file.name.isEmpty() ? file.path : file.name, why)};
+    return {code, Words::tr("L'allegato %1 %2.").arg(file.name.isEmpty() ? file.path : file.name, why)};
 }
 
 Result<QByteArray> encode(const Attachment& file, const FileStamp& stamp, const CarriedFiles& allowed) {
-    if (!stamp.exists()) return unusable(ErrorCode::FileNotFound, file, QStringLiteral("non esiste"));
+    if (!stamp.exists()) return unusable(ErrorCode::FileNotFound, file, Words::tr("non esiste"));
     if (stamp.size > largestAttachment)
-        return unusable(ErrorCode::RecordTooLarge, file, QStringLiteral("è troppo grande"));
+        return unusable(ErrorCode::RecordTooLarge, file, Words::tr("è troppo grande"));
     const auto content = readCarried(file.path, allowed, largestAttachment);
     if (!content.ok()) return unusable(content.status().code(), file, content.status().text());
     return attachmentPart(file.name.isEmpty() ? file.path : file.name, content.value());

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "platform/text/Words.h"
+
 namespace mail {
 
 namespace {
@@ -17,7 +19,7 @@ Result<QByteArray> bearerResponse(const QByteArray& mechanism, const QString& us
     QByteArray name = user.toUtf8();
     if (std::any_of(name.begin(), name.end(), [](char c) { return (c >= 0 && c < 0x20) || c == 0x7F; }))
         return Status(ErrorCode::TypeMismatch,
-                      QStringLiteral("Il nome utente contiene un carattere non ammesso."));
+                      Words::tr("Il nome utente contiene un carattere non ammesso."));
     const QByteArray credentials = "auth=Bearer " + token + separator + separator;
     if (mechanism != oauthBearer) return "user=" + name + separator + credentials;
     name.replace('=', "=3D").replace(',', "=2C");  // RFC 5801 4

@@ -9,6 +9,7 @@
 #include "platform/mail/ServerVerdict.h"
 #include "platform/system/Keyring.h"
 #include "platform/text/Blanks.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -84,11 +85,11 @@ void DeliveryControl::startNew(const QString& host) {
         return;
     }
     if (UseAuth && sys::keyring::isMarker(UserPassword)) {
-        finish({false, 0, QStringLiteral("Il portachiavi non ha dato la password di questo account.")});
+        finish({false, 0, Words::tr("Il portachiavi non ha dato la password di questo account.")});
         return;
     }
     if (ServerPort == 0) {
-        finish({false, 0, QStringLiteral("La porta del server non è valida.")});
+        finish({false, 0, Words::tr("La porta del server non è valida.")});
         return;
     }
     const Result<ComposedMessage> message = m_composer.compose(*this);
@@ -109,8 +110,8 @@ QString DeliveryControl::whyNoHost() const {
     if (OpportunisticTls && !NoServerReason.isEmpty()) return NoServerReason;
     // A null MX names the root (RFC 7505)
     if (OpportunisticTls && (name.isEmpty() || name == u".")) return noMailServer();
-    return name.isEmpty() ? QStringLiteral("Manca il nome del server.")
-                          : QStringLiteral("Il nome del server non è valido.");
+    return name.isEmpty() ? Words::tr("Manca il nome del server.")
+                          : Words::tr("Il nome del server non è valido.");
 }
 
 void DeliveryControl::Abort() {
@@ -118,7 +119,7 @@ void DeliveryControl::Abort() {
     if (!m_running) return;
     const DeliveryStage reached = m_session.busy() ? m_session.stage() : DeliveryStage::NotTried;
     const bool unanswered = giveUp();
-    m_outcome = {false,     0, QStringLiteral("Invio interrotto."), false, reached, DeliveryCause::Stopped,
+    m_outcome = {false,     0, Words::tr("Invio interrotto."), false, reached, DeliveryCause::Stopped,
                  unanswered};
     report();
 }

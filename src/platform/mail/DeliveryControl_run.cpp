@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/mail/DeliveryControl.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -15,7 +16,7 @@ constexpr size_t mostAwaited = 2;
 DeliveryOutcome lateOutcome(bool accepted, int code) {
     return {accepted,
             code,
-            QStringLiteral("Risposta in ritardo al messaggio di prima"),
+            Words::tr("Risposta in ritardo al messaggio di prima"),
             false,
             DeliveryStage::Body,
             DeliveryCause::Server};
@@ -27,17 +28,16 @@ DeliveryOutcome lateOutcome(bool accepted, int code) {
 QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
     if (RecipientNumber == recipient::outsideRun) return {};
     if (RecipientNumber == recipient::nobody)
-        return QStringLiteral("Il destinatario non è stato letto: nessun invio.");
-    if (m_stopped) return QStringLiteral("L'invio è stato fermato: nessun invio fino al prossimo avvio.");
-    if (!addressIsFresh)
-        return QStringLiteral("L'indirizzo del destinatario non è stato letto: nessun invio.");
+        return Words::tr("Il destinatario non è stato letto: nessun invio.");
+    if (m_stopped) return Words::tr("L'invio è stato fermato: nessun invio fino al prossimo avvio.");
+    if (!addressIsFresh) return Words::tr("L'indirizzo del destinatario non è stato letto: nessun invio.");
     if (m_acceptedInRun.contains({Database, RecipientNumber}))
-        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato in questo invio.");
+        return Words::tr("Il messaggio per questo destinatario è già stato accettato in questo invio.");
     if (!Accepted) return {};
     if (Accepted->holds(m_current.database, m_current.number, m_current.address))
-        return QStringLiteral("Il messaggio per questo destinatario è già stato accettato.");
+        return Words::tr("Il messaggio per questo destinatario è già stato accettato.");
     if (Accepted->room() <= int(m_awaited.size()))
-        return QStringLiteral("Non c'è più spazio per ricordare i messaggi accettati.");
+        return Words::tr("Non c'è più spazio per ricordare i messaggi accettati.");
     return {};
 }
 
@@ -97,7 +97,7 @@ void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbe
     m_awaited.erase(forgotten, m_awaited.end());
     if (current) {
         m_awaitedHere = nullptr;
-        m_outcome = {false, 0, QStringLiteral("Il destinatario è stato selezionato di nuovo.")};
+        m_outcome = {false, 0, Words::tr("Il destinatario è stato selezionato di nuovo.")};
         m_deferred.start();
     }
     startWaiting();

@@ -12,6 +12,7 @@
 #include "platform/mail/FileStamp.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 namespace {
@@ -65,8 +66,8 @@ Key keyOfDer(const QByteArray& der) {
 
 Status notWritten(const QString& path, const Status& why) {
     if (why.code() == ErrorCode::FileInUse)
-        return {ErrorCode::FileInUse, QStringLiteral("Il file %1 esiste già.").arg(path)};
-    return {why.code(), QStringLiteral("Non è possibile scrivere il file %1.").arg(path)};
+        return {ErrorCode::FileInUse, Words::tr("Il file %1 esiste già.").arg(path)};
+    return {why.code(), Words::tr("Non è possibile scrivere il file %1.").arg(path)};
 }
 
 }  // namespace
@@ -86,25 +87,24 @@ Result<DkimKey> readDkimKey(const QString& folder, const QByteArray& domain) {
     const auto selector = sys::readGuardedFile(place + ".selector", largestKeyPart, sys::Others::Read);
     const Key key = pem.ok() ? keyOfPem(pem.value()) : Key();
     if (!key || !selector.ok())
-        return Status(ErrorCode::NotSupported, QStringLiteral("La chiave non si può leggere."));
+        return Status(ErrorCode::NotSupported, Words::tr("La chiave non si può leggere."));
     return DkimKey{selector.value().trimmed(), publicPart(key.get())};
 }
 
 Result<DkimKey> createDkimKey(const QString& folder, const QByteArray& domain) {
-    if (!isDomainName(domain))
-        return Status(ErrorCode::NotSupported, QStringLiteral("Il dominio non è valido."));
+    if (!isDomainName(domain)) return Status(ErrorCode::NotSupported, Words::tr("Il dominio non è valido."));
     const QString place = keyPlace(folder, domain);
     if (hasDkimFiles(folder, domain))
         return Status(
             ErrorCode::FileInUse,
-            QStringLiteral("Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.").arg(place));
+            Words::tr("Il dominio ha già una chiave o un selettore: %1.pem, %1.selector.").arg(place));
     const Status made = sys::makeOwnFolder(folder);
     if (!made.ok())
-        return Status(made.code(), QStringLiteral("Non è possibile creare la cartella %1.").arg(folder));
+        return Status(made.code(), Words::tr("Non è possibile creare la cartella %1.").arg(folder));
     const Key key(EVP_RSA_gen(newKeyBits));
     const QByteArray pem = key ? pemOf(key.get()) : QByteArray();
     if (pem.isEmpty())
-        return Status(ErrorCode::NotSupported, QStringLiteral("La creazione della chiave non è riuscita."));
+        return Status(ErrorCode::NotSupported, Words::tr("La creazione della chiave non è riuscita."));
     DkimKey created{"vestrola" + sys::clock().now().toString("yyyyMMdd").toLatin1(), publicPart(key.get())};
     const Status keyWritten = sys::createOwnFile(place + ".pem", pem);
     if (!keyWritten.ok()) return notWritten(place + ".pem", keyWritten);

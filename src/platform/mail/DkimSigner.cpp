@@ -17,6 +17,7 @@
 #include "platform/mail/HeaderText.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 namespace {
@@ -130,7 +131,7 @@ bool isNamed(QByteArrayView field, std::string_view name) {
 }
 
 Status unusable(const QString& why) {
-    return {ErrorCode::NotSupported, QStringLiteral("Messaggio non firmato (DKIM): %1.").arg(why)};
+    return {ErrorCode::NotSupported, Words::tr("Messaggio non firmato (DKIM): %1.").arg(why)};
 }
 
 // Adds the signed header fields to the digest, and returns their names: those that are present, in
@@ -209,10 +210,10 @@ struct DkimSigner::State {
     }
 
     Status check() const {
-        if (!isDomainName(selector)) return unusable(QStringLiteral("il selettore manca o non è valido"));
-        if (!key.isThere()) return unusable(QStringLiteral("la chiave manca o non è una chiave RSA"));
+        if (!isDomainName(selector)) return unusable(Words::tr("il selettore manca o non è valido"));
+        if (!key.isThere()) return unusable(Words::tr("la chiave manca o non è una chiave RSA"));
         if (key.bits() < fewestBits)
-            return unusable(QStringLiteral("la chiave ha meno di %1 bit").arg(fewestBits));
+            return unusable(Words::tr("la chiave ha meno di %1 bit").arg(fewestBits));
         return {};
     }
 };
@@ -249,7 +250,7 @@ Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& dom
     const QByteArray hash = digest.end();
     const QByteArray signature =
         hash.isEmpty() || bodyHash.isEmpty() ? QByteArray() : m_state->key.sign(hash);
-    if (signature.isEmpty()) return unusable(QStringLiteral("la firma non è riuscita"));
+    if (signature.isEmpty()) return unusable(Words::tr("la firma non è riuscita"));
     return foldedHeader("DKIM-Signature", value + foldable(signature.toBase64()));
 }
 

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "platform/text/Words.h"
+
 namespace mail {
 
 namespace {
@@ -23,7 +25,7 @@ LoginStep failed(const SmtpReply& reply) {
 
 /// The server is not authenticated, or violates the protocol: no further mechanism is tried with it.
 LoginStep untrusted() {
-    LoginStep step = failed(0, QStringLiteral("Il server non ha completato l'autenticazione."));
+    LoginStep step = failed(0, Words::tr("Il server non ha completato l'autenticazione."));
     step.kind = LoginStep::Kind::Untrusted;
     return step;
 }
@@ -84,7 +86,7 @@ LoginStep Login::refusedCredentials(const SmtpReply& refusal) const {
     step.credentialsRefused = true;
     // The server's text is about user names and passwords, which do not apply here.
     if (m_identity.bearer)
-        step.text = QStringLiteral("Il server non accetta il consenso di OAuth 2.0 per l'utente %1: %2")
+        step.text = Words::tr("Il server non accetta il consenso di OAuth 2.0 per l'utente %1: %2")
                         .arg(m_identity.user, step.text);
     return step;
 }
@@ -93,14 +95,14 @@ LoginStep Login::refusedCredentials(const SmtpReply& refusal) const {
 LoginStep Login::noneLeft() const {
     if (const auto& refusal = m_mechanisms.credentialsRefusal()) return refusedCredentials(*refusal);
     if (m_mechanisms.leftOutInTheClear())
-        return failed(0, QStringLiteral("La password non viene inviata in chiaro a %1, che non offre una "
-                                        "connessione TLS. Per inviarla ugualmente scrivere il nome del "
-                                        "server nel file %2.")
+        return failed(0, Words::tr("La password non viene inviata in chiaro a %1, che non offre una "
+                                   "connessione TLS. Per inviarla ugualmente scrivere il nome del "
+                                   "server nel file %2.")
                              .arg(m_identity.host, m_clearListFile));
     if (m_lastRefusal) return failed(*m_lastRefusal);
     if (!m_whyNotUsable.isEmpty()) return failed(0, m_whyNotUsable);
-    if (m_identity.bearer) return failed(0, QStringLiteral("Il server non offre l'accesso con OAuth 2.0."));
-    return failed(0, QStringLiteral("Il server non offre un metodo di autenticazione conosciuto."));
+    if (m_identity.bearer) return failed(0, Words::tr("Il server non offre l'accesso con OAuth 2.0."));
+    return failed(0, Words::tr("Il server non offre un metodo di autenticazione conosciuto."));
 }
 
 LoginStep Login::onReply(const SmtpReply& reply) {

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace mail::outcomes {
 
@@ -104,7 +105,7 @@ Result<Content> read(const QString& path) {
 
 Status remove(const QString& path) {
     if (QFile::remove(path) || !QFileInfo::exists(path)) return {};
-    return {ErrorCode::PathAccess, QStringLiteral("Il file \"%1\" non si può eliminare.").arg(path)};
+    return {ErrorCode::PathAccess, Words::tr("Il file \"%1\" non si può eliminare.").arg(path)};
 }
 
 Status removeAll(const QString& folder) {

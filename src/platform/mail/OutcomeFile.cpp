@@ -7,6 +7,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/OutputFile.h"
 #include "platform/system/OwnFile.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -37,8 +38,7 @@ void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
 void OutcomeFile::open() {
     m_status = sys::makeOwnFolder(m_folder.chopped(1));
     if (!m_status.ok()) {
-        m_status = {ErrorCode::PathAccess,
-                    QStringLiteral("La cartella \"%1\" non si può creare.").arg(m_folder)};
+        m_status = {ErrorCode::PathAccess, Words::tr("La cartella \"%1\" non si può creare.").arg(m_folder)};
         return;
     }
     m_path = m_folder + outcomes::newFileName(m_head.begun);
@@ -53,7 +53,7 @@ bool OutcomeFile::write(const QByteArray& line) {
         return true;
     }
     m_status = {ErrorCode::DeviceIo,
-                QStringLiteral("Il file \"%1\" non si può scrivere: %2").arg(m_path, m_file.errorString())};
+                Words::tr("Il file \"%1\" non si può scrivere: %2").arg(m_path, m_file.errorString())};
     return false;
 }
 

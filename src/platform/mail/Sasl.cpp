@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/mail/BearerTokens.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -22,7 +23,7 @@ Gsasl* context() {
 
 Status failure(int code) {
     return {ErrorCode::NotSupported,
-            QStringLiteral("Autenticazione non riuscita: %1").arg(QString::fromUtf8(gsasl_strerror(code)))};
+            Words::tr("Autenticazione non riuscita: %1").arg(QString::fromUtf8(gsasl_strerror(code)))};
 }
 
 /// Whether a digest can be made of the text: it has to be a valid string of RFC 4013, without unassigned
@@ -77,7 +78,7 @@ Result<SaslExchange> SaslExchange::start(const QByteArray& mechanism, const QStr
                                          const QString& password, const QString& host) {
     if (user.contains(QChar::Null) || password.contains(QChar::Null))
         return Status(ErrorCode::TypeMismatch,
-                      QStringLiteral("Il nome utente o la password contengono un carattere non ammesso."));
+                      Words::tr("Il nome utente o la password contengono un carattere non ammesso."));
     if (!sendsPassword(mechanism) && !(canBeDigested(user) && canBeDigested(password)))
         return failure(GSASL_SASLPREP_ERROR);
     auto state = std::make_unique<State>();

@@ -3,6 +3,8 @@
 
 #include <QRegularExpression>
 
+#include "platform/text/Words.h"
+
 namespace mail {
 
 namespace {
@@ -37,13 +39,14 @@ QString verdictOf(const DeliveryOutcome& outcome) {
     const QString words = match.captured(2);
     // A server that limits the rate often mentions spam as well; in a permanent refusal spam is the reason.
     const bool temporary = outcome.code < 500;
-    QString verdict = QStringLiteral("Il server rifiuta il messaggio per le sue regole");
+    QString verdict = Words::tr("Il server rifiuta il messaggio per le sue regole");
     if (saysRate(words) && (temporary || !saysSpam(words)))
-        verdict = QStringLiteral("Il server limita il numero o la frequenza degli invii");
+        verdict = Words::tr("Il server limita il numero o la frequenza degli invii");
     else if (saysSpam(words))
-        verdict = QStringLiteral("Il server considera il messaggio posta indesiderata (spam)");
-    return QStringLiteral("%1%2, codice %3: %4")
-        .arg(verdict, temporary ? QStringLiteral(", per ora") : QString(), match.captured(1), words);
+        verdict = Words::tr("Il server considera il messaggio posta indesiderata (spam)");
+    const QString whole =
+        temporary ? Words::tr("%1, per ora, codice %2: %3") : Words::tr("%1, codice %2: %3");
+    return whole.arg(verdict, match.captured(1), words);
 }
 
 }  // namespace mail

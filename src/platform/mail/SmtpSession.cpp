@@ -10,6 +10,7 @@
 
 #include "platform/mail/InsideAddress.h"
 #include "platform/mail/TcpState.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -24,14 +25,14 @@ constexpr qsizetype longestReplyShown = 200;  // of a reply that does not end
 QString describe(QAbstractSocket::SocketError error, const QSslSocket& socket, const Route& route) {
     switch (error) {
         case QAbstractSocket::HostNotFoundError:
-            return QStringLiteral("Server %1 non trovato.").arg(route.host);
+            return Words::tr("Server %1 non trovato.").arg(route.host);
         case QAbstractSocket::ConnectionRefusedError:
-            return QStringLiteral("Connessione rifiutata da %1, porta %2.")
+            return Words::tr("Connessione rifiutata da %1, porta %2.")
                 .arg(route.host, QString::number(route.port));
         case QAbstractSocket::RemoteHostClosedError:
-            return QStringLiteral("Il server ha chiuso la connessione.");
+            return Words::tr("Il server ha chiuso la connessione.");
         default:
-            return QStringLiteral("Errore di rete: %1").arg(printable(socket.errorString().toUtf8()));
+            return Words::tr("Errore di rete: %1").arg(printable(socket.errorString().toUtf8()));
     }
 }
 
@@ -226,7 +227,7 @@ void SmtpSession::onLookedUp(const QHostInfo& found) {
     if (!m_addresses.isEmpty()) {
         connectToNext();
     } else if (found.addresses().isEmpty()) {
-        lost(0, QStringLiteral("Server %1 non trovato.").arg(m_route.host));
+        lost(0, Words::tr("Server %1 non trovato.").arg(m_route.host));
     } else {
         m_transcript.remark(QStringLiteral("%1 ha solo indirizzi di reti interne: se è un server della "
                                            "propria rete, scriverne il nome in mx-interni.txt")
@@ -352,7 +353,7 @@ void SmtpSession::onTimeout() {
         if (!m_lookedAgain || !m_busy) return;
     }
     if (limitMs() > m_times.stall && m_expected.first() == Step::Greeting) noteGreeting();
-    lost(0, QStringLiteral("Tempo scaduto: il server non risponde."), Loss::Dead, DeliveryCause::TimedOut);
+    lost(0, Words::tr("Tempo scaduto: il server non risponde."), Loss::Dead, DeliveryCause::TimedOut);
 }
 
 bool SmtpSession::isTaking(int descriptor) {

@@ -22,6 +22,7 @@
 #include "platform/mail/SmtpReply.h"
 #include "platform/mail/TlsMemory.h"
 #include "platform/mail/Transcript.h"
+#include "platform/text/Words.h"
 
 class QHostInfo;
 
@@ -29,7 +30,7 @@ namespace mail {
 
 /// The outcome of a delivery to a domain without a server of the public internet.
 inline QString noMailServer() {
-    return QStringLiteral("Il dominio del destinatario non ha un server di posta.");
+    return Words::tr("Il dominio del destinatario non ha un server di posta.");
 }
 
 /// How long the server may take, in milliseconds. `stall` is what the user chose. Some waits are longer than

@@ -8,6 +8,7 @@
 #include "platform/mail/DomainName.h"
 #include "platform/mail/SmtpSession.h"
 #include "platform/mail/TcpState.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -40,7 +41,7 @@ void SmtpSession::onReadyRead() {
             const qsizetype shown = std::min<qsizetype>(m_input.size() - m_inputRead, 200);
             m_transcript.remark(QStringLiteral("Risposta non valida"));
             lost(0,
-                 QStringLiteral("Risposta del server non valida: %1")
+                 Words::tr("Risposta del server non valida: %1")
                      .arg(printable(QByteArrayView(m_input).sliced(m_inputRead, shown))),
                  Loss::Disorder);
             return;
@@ -68,8 +69,7 @@ void SmtpSession::onUnexpectedInput() {
     if (reply.code == 421)
         lost(421, printable(reply.text));
     else
-        lost(0,
-             QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
+        lost(0, Words::tr("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
              Loss::Disorder);
 }
 
@@ -177,8 +177,8 @@ void SmtpSession::afterHello() {
         writeCommands();
     } else if (missesTls()) {
         conclude({false, 0,
-                  QStringLiteral("Il server non offre più la connessione TLS, che ha offerto in passato. Per "
-                                 "dimenticarlo cancellare la sua riga dal file %1.")
+                  Words::tr("Il server non offre più la connessione TLS, che ha offerto in passato. Per "
+                            "dimenticarlo cancellare la sua riga dal file %1.")
                       .arg(m_route.tlsListFile),
                   false, DeliveryStage::Tls});
     } else if (m_route.login && !m_authenticated) {
@@ -195,8 +195,8 @@ void SmtpSession::afterHello() {
 
 void SmtpSession::startTransaction() {
     if (m_message.needsSmtputf8 && !m_extensions.smtputf8) {
-        conclude({false, 0, QStringLiteral("Il server non accetta indirizzi con caratteri internazionali."),
-                  false, DeliveryStage::Sender});
+        conclude({false, 0, Words::tr("Il server non accetta indirizzi con caratteri internazionali."), false,
+                  DeliveryStage::Sender});
         return;
     }
     if (mayFly()) {
@@ -269,8 +269,7 @@ void SmtpSession::onDataReply(const SmtpReply& reply) {
     if (reply.positive()) {
         // No answer to DATA: replies and commands are out of step, and the reply to MAIL is unknown.
         m_mailAccepted = false;
-        lost(0,
-             QStringLiteral("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
+        lost(0, Words::tr("Risposta del server inattesa: %1 %2").arg(reply.code).arg(printable(reply.text)),
              Loss::Disorder);
     } else if (!reply.intermediate()) {
         refuse(reply);

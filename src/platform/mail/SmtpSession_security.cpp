@@ -6,6 +6,7 @@
 #include "platform/mail/ClearPassword.h"
 #include "platform/mail/SmtpSession.h"
 #include "platform/oauth/Certificates.h"
+#include "platform/text/Words.h"
 
 namespace mail {
 
@@ -15,18 +16,18 @@ QString describe(const QSslError& error) {
     switch (error.error()) {
         case QSslError::SelfSignedCertificate:
         case QSslError::SelfSignedCertificateInChain:
-            return QStringLiteral("il certificato è autofirmato");
+            return Words::tr("il certificato è autofirmato");
         case QSslError::CertificateExpired:
-            return QStringLiteral("il certificato è scaduto");
+            return Words::tr("il certificato è scaduto");
         case QSslError::CertificateNotYetValid:
-            return QStringLiteral("il certificato non è ancora valido");
+            return Words::tr("il certificato non è ancora valido");
         case QSslError::HostNameMismatch:
-            return QStringLiteral("il certificato è di un altro server");
+            return Words::tr("il certificato è di un altro server");
         case QSslError::UnableToGetLocalIssuerCertificate:
         case QSslError::UnableToGetIssuerCertificate:
         case QSslError::UnableToVerifyFirstCertificate:
         case QSslError::CertificateUntrusted:
-            return QStringLiteral("l'autorità che ha emesso il certificato non è attendibile");
+            return Words::tr("l'autorità che ha emesso il certificato non è attendibile");
         default:
             return error.errorString();
     }
@@ -71,7 +72,7 @@ void SmtpSession::onStartTlsReply(const SmtpReply& reply) {
     if (reply.positive()) {
         if (inputLeft()) {
             // Data injected before the handshake is meant to be taken for what comes after it.
-            lost(0, QStringLiteral("Il server ha aggiunto testo in chiaro alla risposta a STARTTLS."));
+            lost(0, Words::tr("Il server ha aggiunto testo in chiaro alla risposta a STARTTLS."));
             return;
         }
         noteTlsOffer();
@@ -99,17 +100,17 @@ void SmtpSession::onEncrypted() {
 }
 
 QString SmtpSession::security() const {
-    if (!m_socket->isEncrypted()) return QStringLiteral("in chiaro");
+    if (!m_socket->isEncrypted()) return Words::tr("in chiaro");
     const QSslCipher cipher = m_socket->sessionCipher();
-    return QStringLiteral("%1, %2, certificato %3")
+    return Words::tr("%1, %2, certificato %3")
         .arg(cipher.protocolString(), cipher.name(),
-             m_route.opportunisticTls ? QStringLiteral("non verificato") : QStringLiteral("valido"));
+             m_route.opportunisticTls ? Words::tr("non verificato") : Words::tr("valido"));
 }
 
 QString SmtpSession::handshakeFailure() const {
     const QList<QSslError> errors = m_socket->sslHandshakeErrors();
     const QString why = errors.isEmpty() ? m_socket->errorString() : describe(errors.first());
-    return QStringLiteral("Connessione TLS non riuscita: %1.").arg(printable(why.toUtf8()));
+    return Words::tr("Connessione TLS non riuscita: %1.").arg(printable(why.toUtf8()));
 }
 
 void SmtpSession::startLogin() {
@@ -119,12 +120,11 @@ void SmtpSession::startLogin() {
     terms.clearAllowed = passwordMayGoInTheClear(m_route.host, m_route.clearListFile);
     terms.bearer = m_route.bearer;
     if (terms.bearer && !terms.verifiedTls) {
-        conclude(
-            {false, 0,
-             QStringLiteral("Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta "
+        conclude({false, 0,
+                  Words::tr("Il token di OAuth 2.0 non viene inviato a %1: la connessione non è protetta "
                             "da TLS con un certificato valido.")
-                 .arg(m_route.host),
-             true, DeliveryStage::Login});
+                      .arg(m_route.host),
+                  true, DeliveryStage::Login});
         return;
     }
     m_login.emplace(LoginIdentity{m_route.host, m_route.user, m_route.password, m_route.port, m_route.bearer},

@@ -79,9 +79,10 @@ TEST_F(Guasti, AnEntryOfAnyLengthIsCut) {
 
 TEST_F(Guasti, NobodysAddressNorTextIsWrittenDown) {
     for (const char* text :
-         {"Destinatario mario.rossi@x.it rifiutato", "Errore di sintassi vicino a mario segreto",
+         {"Destinatario mario.rossi@x.it rifiutato", "Errore di sintassi vicino a \"mario segreto\"",
           "near \"segreto\": syntax error", "valore 'segreto' non valido", "no such column: segreto",
-          "la data #segreto# non è valida", "<mario@segreto>", "provider «segreto»"})
+          "la data #segreto# non è valida", "<mario@segreto>", "provider «segreto»", "Feld „segreto“",
+          "champ « segreto »"})
         guasti::Annota(Fallimento(3075, QString(text), {}, "/home/mario@segreto/a.txt"));
     const QByteArray bytes = bytesOf(path());
     EXPECT_FALSE(bytes.contains("segreto")) << bytes.toStdString();

@@ -205,7 +205,7 @@ TEST_F(CommandTest, ErrorsAreReportedInItalian) {
               "Il numero dei valori non corrisponde al numero dei campi di destinazione.");
     EXPECT_EQ(failure("UPDATE tb_altro SET a = 1"), ErrorCode::TableNotFound);
     EXPECT_EQ(ado::words(tryRun(QStringLiteral("DELETE FROM tb_gruppi WHERE WHERE")).status()),
-              "Errore di sintassi nell'istruzione SQL vicino a WHERE.");
+              "Errore di sintassi nell'istruzione SQL vicino a \"WHERE\".");
     EXPECT_EQ(failure("SELECT * FROM tb_gruppi"), ErrorCode::NotSupported);
 }
 

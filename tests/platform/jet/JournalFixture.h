@@ -26,7 +26,7 @@ class JournalTest : public JetTest {
         EXPECT_OK(database->commit());
         database.reset();
         before = bytesOf(path());
-        setNoticeHandler([this](const std::u16string& text) { notices.push_back(toUtf8(text)); });
+        setNoticeHandler([this](const Phrase& text) { notices.push_back(text.sourceText()); });
     }
     ~JournalTest() override {
         setDiskHook({});

@@ -58,7 +58,7 @@ ErrorCode codeOf(const Column& column, const Value& value) {
     try {
         (void)encodeValue(column, value);
     } catch (const Failure& failure) {
-        EXPECT_TRUE(failure.status.plainText().find(toUtf16(column.name)) != std::u16string::npos)
+        EXPECT_TRUE(failure.status.plainText().find(column.name) != std::string::npos)
             << jetTextOf(failure.status);
         return failure.status.code();
     }

@@ -142,7 +142,7 @@ TEST_F(UsageMapTest, PageBeyondEveryMapReportsTheLimit) {
         ADD_FAILURE() << "no failure";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.status.code(), ErrorCode::DatabaseFull);
-        EXPECT_NE(failure.status.plainText().find(u"2 GB"), std::u16string::npos);
+        EXPECT_NE(failure.status.plainText().find("2 GB"), std::string::npos);
     }
 }
 
@@ -170,7 +170,7 @@ TEST_F(UsageMapTest, RowThatDoesNotFitIsAnErrorOfTheEngineAndNotOfTheFile) {
         ADD_FAILURE() << "no failure";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.status.code(), ErrorCode::Internal);
-        EXPECT_TRUE(failure.status.plainText().starts_with(u"Errore interno"));
+        EXPECT_TRUE(failure.status.plainText().starts_with("Errore interno"));
     }
 }
 
