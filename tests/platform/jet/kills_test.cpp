@@ -131,8 +131,8 @@ TEST_F(KillsTest, EveryStatementThatReturnedIsInTheFile) {
     for (int i = 0; i < kills && met; ++i) {
         // On a busy machine no statement would return in the time alone, and each kill would meet a
         // beginning.
-        const int64_t wanted = returnedByAll() + random() % 4;
-        for (int waits = 0; waits < 2000 && returnedByAll() < wanted; ++waits)
+        const int64_t least = returnedByAll() + random() % 4;
+        for (int waits = 0; waits < 2000 && returnedByAll() < least; ++waits)
             ::usleep(1000);
         ::usleep(static_cast<useconds_t>(random() % 60000));
         const int number = static_cast<int>(random() % (writers + 1));
