@@ -10,3 +10,9 @@ QWidget* ui::dialogOwner() {
         if (window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) return window;
     return nullptr;
 }
+
+void ui::keepAboveOwner(QWidget& dialog) {
+    const QWidget* owner = dialog.parentWidget();
+    if (owner && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}

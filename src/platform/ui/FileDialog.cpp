@@ -40,6 +40,7 @@ std::optional<QString> runDialog(QFileDialog& dialog, const FileDialog::Shown& a
     // The suffix is added, and the question about an existing file put, outside the dialog: a desktop's own
     // dialog would look at the name before it has its suffix.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    keepAboveOwner(dialog);
     const QPointer<QWidget> before = dialogOwner();
     const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
     // Left to itself the desktop may give the keyboard to no window, after a list of names was open.
@@ -56,6 +57,7 @@ bool mayReplace(const QString& path) {
                          QMessageBox::Yes | QMessageBox::No, dialogOwner());
     question.setTextFormat(Qt::PlainText);
     question.setDefaultButton(QMessageBox::No);
+    keepAboveOwner(question);
     return question.exec() == QMessageBox::Yes;
 }
 

@@ -77,6 +77,7 @@ int answerOfUser(const MessageDialog::Shown& box) {
         dialog.setDefaultButton(QMessageBox::Close);
         dialog.setEscapeButton(QMessageBox::Close);
     }
+    keepAboveOwner(dialog);
     const int pressed = dialog.exec();
     for (const Offered& one : answers)
         if (pressed == one.button) return one.answer;
@@ -91,6 +92,7 @@ int answerTo(MessageDialog::Shown box) {
 
 int answerOfUser(const ListQuestion::Content& question) {
     ListQuestion dialog(dialogOwner(), question);
+    keepAboveOwner(dialog);
     if (dialog.exec() != QDialog::Accepted) return MessageDialog::No;
     return dialog.remembers() ? MessageDialog::YesAlways : MessageDialog::Yes;
 }
