@@ -17,7 +17,7 @@ using std::chrono::milliseconds;
 
 // Most waits are over before the user sees them: until then nothing is painted and no click is lost.
 constexpr milliseconds unnoticed{200};
-constexpr milliseconds betweenTurns{40};
+constexpr milliseconds betweenPaintings{40};
 constexpr milliseconds lasting{1000};
 
 constexpr const char* stopMark = "endsWaitNotice";
@@ -52,7 +52,7 @@ void WaitNotice::makeStop(QAbstractButton& button) {
 }
 
 bool WaitNotice::goOn(milliseconds waited) {
-    if (waited < unnoticed || waited - m_turned < betweenTurns) return true;
+    if (waited < unnoticed || waited - m_turned < betweenPaintings) return true;
     m_turned = waited;
     if (waited >= lasting && !m_shown) show();
     m_windows.turn();
