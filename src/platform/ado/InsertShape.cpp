@@ -5,15 +5,13 @@
 #include <charconv>
 #include <string_view>
 
+#include "platform/ado/SqlTokens.h"
+
 namespace ado {
 
 namespace {
 
 using namespace std::string_view_literals;
-
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
 
 /// ASCII letters without regard to case, as SQLite compares names.
 bool sameName(std::string_view a, std::string_view b) {

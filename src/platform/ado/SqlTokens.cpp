@@ -9,9 +9,6 @@ namespace ado {
 
 namespace {
 
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }

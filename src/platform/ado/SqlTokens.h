@@ -27,6 +27,11 @@ struct SqlToken {
 /// and NUL.
 Result<std::vector<SqlToken>> splitSql(const QByteArray& sql);
 
+/// White space of a statement.
+inline bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
+
 /// A name as SQLite takes it, whatever it contains.
 std::string quotedName(std::string_view name);
 

@@ -34,7 +34,7 @@ struct Unpainted {
 
 class Job;
 /// The one under way, in its own thread and in the window's.
-thread_local Job* underWay = nullptr;
+thread_local Job* jobUnderWay = nullptr;
 
 /// One piece of work in its thread, and what that thread wants of the window's.
 class Job {
@@ -87,7 +87,7 @@ class Job {
         unpainted.since = Clock::now();
     }
     void run(const std::function<void()>& work) {
-        underWay = this;
+        jobUnderWay = this;
         try {
             work();
         } catch (...) {
@@ -117,24 +117,24 @@ bool inWindowsThread() {
 }  // namespace
 
 void paintWhile(const std::function<void()>& work) {
-    if (underWay || !inWindowsThread()) return work();
+    if (jobUnderWay || !inWindowsThread()) return work();
     std::optional<Job> job;
     try {
         job.emplace(work);
     } catch (const std::system_error&) {
         return work();  // the system has no thread left
     }
-    underWay = &*job;
+    jobUnderWay = &*job;
     job->paint();
     const std::exception_ptr failure = job->end();
-    underWay = nullptr;
+    jobUnderWay = nullptr;
     job.reset();
     if (failure) std::rethrow_exception(failure);
 }
 
 void inWindowThread(const std::function<void()>& call) {
-    if (!underWay || inWindowsThread()) return call();
-    underWay->callInWindowThread(call);
+    if (!jobUnderWay || inWindowsThread()) return call();
+    jobUnderWay->callInWindowThread(call);
 }
 
 }  // namespace ui
