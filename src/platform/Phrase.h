@@ -16,7 +16,7 @@ struct OwnText {
 
 /// The suffix _tr is to code without Qt what Words::tr() is to all other code; translations/update finds it
 /// by its end.
-consteval OwnText operator"" _tr(const char* pattern, std::size_t) {
+constexpr OwnText operator"" _tr(const char* pattern, std::size_t) {
     return {pattern};
 }
 
