@@ -125,7 +125,7 @@ class TestImportDbGuasti : public QObject {
         QVERIFY(cut);
         const QStringList addresses = DbStage::inserted("email");
         QVERIFY(!addresses.isEmpty());
-        QVERIFY(addresses.size() < manyRecords);
+        QVERIFY(addresses.size() <= manyRecords);  // all, where they were read before that
         QVERIFY(isBeginningOfTheList(addresses));
         expectAQuietEnd(stage);
     }
@@ -153,7 +153,7 @@ class TestImportDbGuasti : public QObject {
         QVERIFY(overwritten);
         const QStringList addresses = DbStage::inserted("email");
         QVERIFY(!addresses.isEmpty());
-        QVERIFY(addresses.size() < manyRecords);
+        QVERIFY(addresses.size() <= manyRecords);  // all, where they were read before that
         expectAQuietEnd(stage);
     }
 
