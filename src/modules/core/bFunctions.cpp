@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "modules/core/bFunctions.h"
 
+#include <algorithm>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -37,11 +38,12 @@ std::uint32_t ColoreDaHex(const QString& testo) {
     prosegui([&] {
         QString cifre = testo.toUpper();
         cifre.remove(u'#');
-        bool numero = false;
-        const std::uint32_t valore =
-            QString(cifre.right(2) + cifre.mid(2, 2) + cifre.left(2)).toUInt(&numero, 16);
-        if (!numero) fallisci(ErrorCode::TypeMismatch);
-        colore = valore;
+        cifre = cifre.right(2) + cifre.mid(2, 2) + cifre.left(2);
+        // toUInt() would also take blanks, a sign and "0X".
+        const bool soloCifre = std::ranges::all_of(
+            cifre, [](QChar c) { return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'F'); });
+        if (cifre.isEmpty() || !soloCifre) fallisci(ErrorCode::TypeMismatch);
+        colore = cifre.toUInt(nullptr, 16);
     });
     return colore;
 }

@@ -94,7 +94,8 @@ TEST(Colour, TextOfAnotherLengthIsReadAsItsPieces) {
 }
 
 TEST(Colour, TextThatIsNoNumberGivesZero) {
-    for (const char* text : {"", "#", "zzzzzz", "red", "12 456"})
+    for (const char* text :
+         {"", "#", "zzzzzz", "red", "12 456", "12340X", "1234 5", "1234+5", "1234-5", " 12345"})
         EXPECT_EQ(ColoreDaHex(QLatin1String(text)), 0u) << text;
 }
 
