@@ -5,6 +5,7 @@
 #include "modules/message/MessaggiNoti.h"
 #include "modules/message/MessaggioMss.h"
 #include "platform/html/Bounds.h"
+#include "platform/html/SourceText.h"
 #include "platform/text/AnsiCodec.h"
 #include "platform/text/Words.h"
 #include "platform/ui/CommandBars.h"
@@ -188,8 +189,7 @@ void frmEditor::LeggiMessaggio(const QString& percorso) {
     const MessaggioLetto letto = inDisparte([&] { return LeggiMss(file); });
     // The end of the body's last row is the file's. Left in, it would become one more line of the body each
     // time the message is opened.
-    QString corpo = letto.corpo;
-    if (corpo.endsWith(fineRiga)) corpo.chop(fineRiga.size());
+    const QString corpo = html::sourceText(letto.corpo);
     if (const Status leggibile = inDisparte([&] { return html::readable(corpo); }); !leggibile.ok())
         return AvvisaVista(leggibile, Words::tr("Il messaggio nella finestra resta quello di prima."));
     NuovoMessaggio();
