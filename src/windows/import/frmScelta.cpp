@@ -30,7 +30,7 @@ void frmScelta::makeControls() {
 }
 
 void frmScelta::cmdOK_Click() {
-    cartellaSelezionata = Scelta().selezionata;
+    cartellaSelezionata = riquadro->Scelta().selezionata;
     sceltaAnnullata = false;
     hide();
 }
@@ -41,7 +41,7 @@ void frmScelta::cmdAnnulla_Click() {
 }
 
 cartella::Scelta frmScelta::Scelta() const {
-    return riquadro->Scelta();
+    return {cartellaSelezionata, riquadro->Scelta().nuova};
 }
 
 void frmScelta::closeEvent(QCloseEvent* chiusura) {
