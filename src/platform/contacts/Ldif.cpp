@@ -14,8 +14,6 @@ namespace {
 /// Values by attribute in lower case; the first of several is used.
 class Record {
   public:
-    bool isEmpty() const { return m_values.isEmpty(); }
-
     void add(const QByteArray& line) {
         const qsizetype colon = line.indexOf(':');
         if (colon < 1 || line.startsWith('#')) return;
