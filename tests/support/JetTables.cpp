@@ -2,6 +2,7 @@
 #include "support/JetTables.h"
 
 #include <algorithm>
+#include <fstream>
 #include <functional>
 #include <optional>
 
@@ -10,6 +11,7 @@
 #include "platform/jet/DefinitionReader.h"
 #include "platform/jet/DefinitionWriter.h"
 #include "platform/jet/Failure.h"
+#include "platform/jet/Header.h"
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/IndexTree.h"
 #include "platform/jet/Key.h"
@@ -245,6 +247,20 @@ void setProperties(const std::string& path, const std::string& name, const Bytes
         setStored(file, objects, entryOf(file, name).place, position,
                   stored(file, objects.columns[position], list, Place::InRow));
     });
+}
+
+void setPassword(const std::string& path, std::u16string_view password) {
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    Page page{};
+    auto* bytes = reinterpret_cast<char*>(page.data());
+    if (!file.read(bytes, pageSize)) fail(ErrorCode::DeviceIo, Phrase::literal(path));
+    maskHeader(page);
+    for (size_t i = 0; i < password.size(); ++i) {
+        page[header::password + 2 * i] ^= static_cast<uint8_t>(password[i]);
+        page[header::password + 2 * i + 1] ^= static_cast<uint8_t>(password[i] >> 8);
+    }
+    maskHeader(page);
+    if (!file.seekp(0).write(bytes, pageSize).flush()) fail(ErrorCode::DeviceIo, Phrase::literal(path));
 }
 
 }  // namespace jettables

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -38,6 +39,9 @@ void setCounter(const std::string& file, const std::string& name, int32_t last);
 
 /// Sets the property list (LvProp) of a table.
 void setProperties(const std::string& file, const std::string& name, const jet::Bytes& list);
+
+/// Protects a file without a password by this one, of at most 20 characters.
+void setPassword(const std::string& file, std::u16string_view password);
 
 enum class Place { InRow, OneRow, Chain };
 /// Stores these bytes, at that place, as a row's memo or OLE value that is Null; column by position.

@@ -104,6 +104,27 @@ class TestImportDb : public QObject {
         QVERIFY(!QApplication::overrideCursor());
     }
 
+    void aWrongPasswordSaysSoAndLeavesTheBoxesEmptyUntilTheRightOneIsGiven() {
+        DbStage stage;
+        stage.addPeople({{words("a@x.it"), words("Anna")}});
+        jettables::setPassword(stage.source().toStdString(), u"Segreta");
+        for (const char* password : {"", "segreta", "Segreta1"}) {
+            ui::MessageDialog::reset();
+            stage.answerBox();
+            stage.open(stage.source(), password);
+            QVERIFY(stage.oneBox("Password non valida.", 64));
+            QCOMPARE(stage.tables(), QStringList());
+            for (int i = 0; i < 19; ++i)
+                QCOMPARE(stage.box(i)->count(), 0);
+            QVERIFY(!stage.enabled("cmdImportaDB"));
+        }
+        stage.chooseNode();
+        stage.open(stage.source(), "Segreta");
+        stage.feed(2, "mail");
+        stage.click("cmdImportaDB");
+        QCOMPARE(DbStage::inserted("email"), QStringList("a@x.it"));
+    }
+
     void withoutABoxForTheAddressNothingIsImported() {
         DbStage stage;
         stage.addPeople({{words("a@x.it"), words("Anna")}});
