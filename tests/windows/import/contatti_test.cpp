@@ -246,6 +246,21 @@ class TestImportContatti : public QObject {
         QVERIFY(MessageDialog::shown().isEmpty());
     }
 
+    void outlookContactWithoutAnAddressIsLeftOutAndIsNotCounted() {
+        ContactStage stage;
+        stage.writeHelper("{\"count\":3}\n" + contactLine("", "Senza indirizzo") +
+                          R"({"CompanyName":"Senza la proprietà"})"
+                          "\n" +
+                          contactLine("uno@example.it", "Uno"));
+        stage.window();
+        stage.chooseRoot();
+        stage.import("cmdMailingImpMSO");
+        QCOMPARE(stage.inserted("email"), QStringList("uno@example.it"));
+        QCOMPARE(stage.progressMaximum(), 3.0);
+        QCOMPARE(stage.counted, countedTo(1));
+        QVERIFY(MessageDialog::shown().isEmpty());
+    }
+
     void outlookValueCannotAddRowsOfItsOwn() {
         ContactStage stage;
         const QString rest = QString(", ''").repeated(17);
