@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 
 #include "modules/core/bGlobal.h"
@@ -65,6 +66,20 @@ class TestTheme : public QObject {
         ImpostaColoriTema("Metallic");
         ImpostaColoriTema("metallic");
         QCOMPARE(coloriTema[0], rgb(243, 243, 247));
+    }
+
+    void aStyleOfAnotherSchemeLeavesThePaletteAsTheSchemeBeforeHadIt() {
+        const auto back = qScopeGuard([] { sostituisciSchema({}); });
+        QWidget window;
+        sostituisciSchema("Royale");
+        QCOMPARE(RilevaTema(&window), "Royale");
+        QCOMPARE(std::count(coloriTema.begin(), coloriTema.end(), 0u), 25);
+        sostituisciSchema("HomeStead");
+        QCOMPARE(RilevaTema(&window), "HomeStead");
+        sostituisciSchema("Royale");
+        QCOMPARE(RilevaTema(&window), "Royale");
+        QCOMPARE(coloriTema[0], rgb(242, 241, 228));
+        QCOMPARE(coloriTema[24], rgb(151, 160, 123));
     }
 
     void mixingWithWhiteAtQuotaTenGivesTheGridsBackground() {

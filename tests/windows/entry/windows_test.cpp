@@ -4,9 +4,12 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopeGuard>
+#include <QTabBar>
 #include <QToolButton>
 
+#include "modules/core/bGlobal.h"
 #include "platform/ui/Contrast.h"
+#include "platform/ui/TabStrip.h"
 #include "support/LookChange.h"
 #include "support/LookCheck.h"
 #include "support/TestClass.h"
@@ -159,6 +162,59 @@ class TestWindows : public QObject {
             faults += faultsOfMarks(window);
         });
         none(faults);
+    }
+
+    void everyWindowReadsTheColourSchemeAnewAtItsLoad() {
+        StoreStage stage;
+        const auto reads = [](const char* name, const std::function<void()>& load) {
+            coloriTema.fill(0x123456);
+            load();
+            for (const std::uint32_t colour : coloriTema)
+                QVERIFY2(colour != 0x123456, name);
+        };
+        reads("frmMain", [] { finestre::Main(); });
+        delete &finestre::Editor();
+        reads("frmEditor", [] { finestre::Editor(); });
+        reads("frmPropBody", [] { finestre::PropBody(); });
+        reads("frmColor", [] { frmColor(*finestre::Editor().DHTML, finestre::Editor().Commands()); });
+        reads("frmSplash", [] { finestre::Splash(); });
+        reads("frmInfoSu", [] { finestre::InfoSu(); });
+        reads("frmAccount", [] { finestre::Account(); });
+        reads("frmInvia", [] { finestre::Invia(); });
+        reads("frmDestinatario", [] { finestre::Destinatario(); });
+        reads("frmScelta", [] { finestre::Scelta(); });
+        reads("frmImpTXT", [] { finestre::ImpTXT(); });
+        reads("frmImpDB", [] { finestre::ImpDB(); });
+        reads("frmProva", [] { finestre::Prova(); });
+        reads("frmControlloMittente", [] { finestre::Controllo(); });
+        reads("frmEsiti", [] { finestre::Esiti(); });
+        reads("frmUltimaImportazione", [] { finestre::UltimaImportazione(); });
+    }
+
+    void headersAndTabsAreShadedInTwoColoursOfTheScheme() {
+        sostituisciSchema("Metallic");
+        const auto back = qScopeGuard([] { sostituisciSchema({}); });
+        StoreStage stage;
+        stage.window();
+        const QColor light(243, 244, 250);
+        const QColor dark(153, 151, 181);
+        for (QWidget* window : {static_cast<QWidget*>(&finestre::Destinatario()),
+                                static_cast<QWidget*>(&finestre::PropBody())}) {
+            const QBrush ground = window->findChild<QWidget*>("pic")->palette().brush(QPalette::Window);
+            QVERIFY(ground.gradient());
+            QCOMPARE(ground.gradient()->stops(), (QGradientStops{{0, light}, {1, dark}}));
+        }
+        const QTabBar& tabs = *finestre::Editor().tb->tabBar();
+        const QImage shown = finestre::Editor().tb->tabBar()->grab().toImage();
+        const QRect tab = tabs.tabRect((tabs.currentIndex() + 1) % tabs.count());
+        const auto isNear = [&](const QPoint& place, const QColor& wanted) {
+            const QColor found = shown.pixelColor(place * shown.devicePixelRatio());
+            constexpr int step = 10;  // of the shade, from one line to the next but one
+            return qAbs(found.red() - wanted.red()) <= step && qAbs(found.green() - wanted.green()) <= step &&
+                   qAbs(found.blue() - wanted.blue()) <= step;
+        };
+        QVERIFY(isNear(tab.topLeft() + QPoint(4, 2), light));
+        QVERIFY(isNear(tab.bottomLeft() + QPoint(4, -2), dark));
     }
 
     void aDarkDesktopChangesNothing() {
