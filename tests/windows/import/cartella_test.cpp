@@ -98,6 +98,7 @@ class TestImportCartella : public QObject {
         QVERIFY(!finestre::Scelta().isVisible());
         QVERIFY(finestre::Scelta().sceltaAnnullata);
         QVERIFY(finestre::Scelta().cartellaSelezionata);
+        QVERIFY(finestre::Scelta().Scelta().selezionata);
     }
 
     void isLeftByItsTwoButtonsOnlyAndKeepsChoiceAndName() {
