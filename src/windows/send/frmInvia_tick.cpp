@@ -55,6 +55,7 @@ void frmInvia::tmr_Timer() {
     SMTP->RecipientNumber = letto ? *letto : mail::recipient::nobody;
     SMTP->Send();
     AttendiEsito();
+    tmr->stop();  // as above: the same may have been taken during the wait
 
     if (mailInviata) {
         ContaInviata(prosegui, idDestinatario);

@@ -127,6 +127,32 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
     }
 
+    // Both clicks are taken in one turn of the wait, as after a look-up that kept the window from responding.
+    void stopAndNewStartDuringADeliveryMakeItsTickTheNewRunsFirst_data() {
+        QTest::addColumn<QStringList>("recipients");
+        QTest::addColumn<QList<double>>("counters");
+        QTest::newRow("others follow") << QStringList{"a@x.it", "b@x.it"} << QList<double>{0, 1, 1};
+        QTest::newRow("the last one") << QStringList{"a@x.it"} << QList<double>{0, 1, 0};
+    }
+    void stopAndNewStartDuringADeliveryMakeItsTickTheNewRunsFirst() {
+        QFETCH(QStringList, recipients);
+        QFETCH(QList<double>, counters);
+        SendStage stage(recipients);
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        QObject::connect(
+            &stage.sink, &SmtpSink::attempted, &stage.sink,
+            [&] {
+                stage.click("cmdFerma");
+                stage.click("cmdInvia");
+            },
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), recipients);
+        QCOMPARE(stage.counters(), counters);
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+        QVERIFY(!stage.timer().isActive());
+    }
+
     void pendingTickRunsWithTheWindowHidden() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();
