@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "modules/send/Limiti.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "modules/core/Fallimento.h"
 #include "platform/system/Clock.h"
@@ -17,9 +19,11 @@ std::chrono::milliseconds finoAlSecondo() {
     return std::chrono::milliseconds(1000 - sys::clock().now().time().msec());
 }
 
+// A clock that was set a lifetime away counts as far as the number goes.
 std::int32_t secondiDa(const QDateTime& inizio) {
+    using Numero = std::numeric_limits<std::int32_t>;
     const qint64 secondi = sys::clock().now().toSecsSinceEpoch() - inizio.toSecsSinceEpoch();
-    return esigi(text::toInt32(static_cast<double>(secondi)));
+    return static_cast<std::int32_t>(std::clamp<qint64>(secondi, Numero::min(), Numero::max()));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pause, time-out and block limit of a run, and its log.
+#include <limits>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -193,6 +194,22 @@ class TestFrmInviaLimiti : public QObject {
         });
         QVERIFY(stage.run());
         QCOMPARE(clock.slept(), 0);
+    }
+
+    void clockThatLeapsFartherThanSecondsAreCountedDoesNotEndTheRun() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, "2", "1");
+        bool first = true;
+        stage.sink.onMessage([&](const SmtpSink::Message&) {
+            for (int i = 0; first && i < 2; ++i)
+                clock.advance(std::numeric_limits<int>::max());
+            first = false;
+        });
+        QVERIFY(stage.run());
+        QVERIFY(stage.ends.isEmpty());
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 3}));
     }
 
     void uncheckedBoxDoesNotLimit() {
