@@ -173,6 +173,21 @@ class TestFrmInviaAccettati : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
+    void cancelledLogLeavesTheDatabaseUntouched() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        remember(1, "a@x.it");
+        stage.pick();
+        stage.click("chkLog");
+        const QByteArray before = content(percorsoDB);
+        QVERIFY(!before.isEmpty());
+        ui::FileDialog::queueCancel();
+        stage.click("cmdInvia");
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "b@x.it"}));
+        QVERIFY(content(percorsoDB) == before);
+        QCOMPARE(accettati().of(database()).size(), 1);
+        QVERIFY(!stage.timer().isActive());
+    }
+
     void anotherProcessesRunEndsTheClickWithANotice() {
         SendStage stage({"a@x.it"});
         mail::RunLock other;

@@ -70,6 +70,18 @@ class TestFrmInviaFinestra : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
+    void reopeningAfterAStopShowsTheFailedAndTheUnreached() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it", "d@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
+        QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendDone, [&] { stage.click("cmdFerma"); });
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{2, 1, 1}));
+        stage.click("cmdChiudi");
+        stage.open();
+        QCOMPARE(stage.counters(), (QList<double>{3, 0, 0}));
+        QCOMPARE(SampleFolder::selected(), (QStringList{"a@x.it", "c@x.it", "d@x.it"}));
+    }
+
     void focusAndDefaultButtonFollowTheRun() {
         SendStage stage({"a@x.it"});
         QVERIFY(stage.control<QPushButton>("cmdInvia")->isDefault());

@@ -100,9 +100,16 @@ class TestFrmInviaGiro : public QObject {
     void failedRecipientIsSteppedOverAndStaysSelected() {
         SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
         stage.sink.treat("b@x.it", SmtpSink::Treatment::Refuse);
+        QList<QStringList> queues;
+        QObject::connect(&stage.sink, &SmtpSink::attempted, [&] { queues << SampleFolder::selected(); });
         QVERIFY(stage.run());
         QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it", "c@x.it"}));
+        QCOMPARE(queues, (QList<QStringList>{
+                             {"a@x.it", "b@x.it", "c@x.it"}, {"b@x.it", "c@x.it"}, {"b@x.it", "c@x.it"}}));
         QCOMPARE(stage.counters(), (QList<double>{0, 1, 2}));
+        QCOMPARE(stage.label("lblDaInviare"), "Email da inviare: 0");
+        QCOMPARE(stage.label("lblFallite"), "Email non inviate: 1");
+        QCOMPARE(stage.label("lblInviate"), "Email inviate: 2");
         QCOMPARE(SampleFolder::selected(), QStringList{"b@x.it"});
     }
 
@@ -275,6 +282,52 @@ class TestFrmInviaGiro : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
     }
 
+    void lateOutcomeInTheTurnBeforeTheSendIsWipedToo() {
+        SendStage stage({"a@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
+        stage.pick();
+        stage.start();
+        bool late = false;
+        EventWatch beforeTick(&stage.timer(), QEvent::Timer, [&] {
+            QMetaObject::invokeMethod(
+                &stage.smtp(),
+                [&] {
+                    late = stage.sink.attempts().isEmpty();
+                    Q_EMIT stage.smtp().SendDone();
+                },
+                Qt::QueuedConnection);
+        });
+        QVERIFY(stage.waitForEnd());
+        QVERIFY(late);
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 0}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
+    }
+
+    void startWithNothingLeftToServeCountsOneFailureAndServesNobody() {
+        SendStage stage({"a@x.it"});
+        QVERIFY(stage.run());
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 1}));
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
+        QCOMPARE(stage.counters(), (QList<double>{-1, 1, 0}));
+        QVERIFY(MessageDialog::shown().isEmpty());
+        QVERIFY(stage.ends.isEmpty());
+    }
+
+    void timerThatIsDueAgainDuringATickBeginsNoSecondOne() {
+        SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
+        stage.pick();
+        stage.start();
+        stage.timer().setInterval(0);
+        bool active = false;
+        QObject::connect(&stage.sink, &SmtpSink::attempted, [&] { active |= stage.timer().isActive(); });
+        QVERIFY(stage.waitForEnd());
+        QVERIFY(!active);
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it", "c@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 3}));
+    }
+
     void bothOutcomesCountAsDelivered() {
         SendStage stage({"a@x.it"});
         stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
@@ -407,6 +460,40 @@ class TestFrmInviaGiro : public QObject {
         QCOMPARE(int(stage.smtp().OutPort), 4243);
         QVERIFY(stage.smtp().OpportunisticTls);
         QCOMPARE(SampleFolder::selected(), QStringList{"nessuno"});
+    }
+
+    void eachRouteLeavesNothingOfTheOtherBehind() {
+        SendStage stage({"nessuno"});
+        const QString server =
+            QString("0|Z|z@x.it|127.0.0.1|%1|1|utente|segreta|EHLO|0|1").arg(stage.sink.port());
+        QString direct = server;
+        direct.back() = '0';
+        const auto runOver = [&](const QString& account) {
+            writeAccount(account);
+            stage.window->CaricaDati();
+            return stage.run();
+        };
+        QVERIFY(runOver(server));
+        QCOMPARE(stage.smtp().UserPassword, "segreta");
+        {
+            const NameServer names("");
+            QVERIFY(runOver(direct));
+        }
+        QCOMPARE(stage.smtp().ServerName, "");
+        QCOMPARE(int(stage.smtp().ServerPort), 25);
+        QVERIFY(!stage.smtp().UseAuth);
+        QCOMPARE(stage.smtp().UserName, "");
+        QCOMPARE(stage.smtp().UserPassword, "");
+        QVERIFY(stage.smtp().OpportunisticTls);
+        QVERIFY(stage.smtp().PublicServersOnly);
+        QVERIFY(runOver(server));
+        QCOMPARE(stage.smtp().ServerName, "127.0.0.1");
+        QCOMPARE(stage.smtp().ServerPort, stage.sink.port());
+        QVERIFY(stage.smtp().UseAuth);
+        QCOMPARE(stage.smtp().UserName, "utente");
+        QCOMPARE(stage.smtp().UserPassword, "segreta");
+        QVERIFY(!stage.smtp().OpportunisticTls);
+        QVERIFY(!stage.smtp().PublicServersOnly);
     }
 
     // An address without "@" is a domain as a whole.

@@ -196,6 +196,41 @@ class TestFrmInviaLimiti : public QObject {
         QCOMPARE(clock.slept(), 0);
     }
 
+    void pauseBeginsAfterTheWaitOfTheBlock() {
+        TestClock clock;
+        SendStage stage(addresses(3));
+        useBlock(stage, "1", "1");
+        bool paused = false;
+        clock.onSleep([&] { paused |= stage.timer().isActive(); });
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 120000);
+        QVERIFY(!paused);
+    }
+
+    void firstWindowBeginsWithTheStart() {
+        TestClock clock;
+        SendStage stage(addresses(2));
+        useBlock(stage, "1", "1");
+        stage.pick();
+        stage.start();
+        clock.advance(10);
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(clock.slept(), 50000);
+    }
+
+    // The two fields stay enabled during a run.
+    void blockFieldsAreNotReadAgainDuringARun() {
+        TestClock clock;
+        SendStage stage(addresses(7));
+        useBlock(stage, "3", "5");
+        stage.sink.onMessage([&](const SmtpSink::Message&) {
+            stage.control<QLineEdit>("txtBloccoNum")->setText("1");
+            stage.control<QLineEdit>("txtBloccoMin")->setText("9");
+        });
+        QVERIFY(stage.run());
+        QCOMPARE(clock.slept(), 600000);
+    }
+
     void clockThatLeapsFartherThanSecondsAreCountedDoesNotEndTheRun() {
         TestClock clock;
         SendStage stage(addresses(3));
