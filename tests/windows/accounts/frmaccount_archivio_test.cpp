@@ -165,6 +165,17 @@ class TestFrmAccountArchivio : public QObject {
         QVERIFY(stage.control<QPushButton>("cmdModifica")->isDefault());
     }
 
+    void newAccountChoosesThePositionOfItsNumberAlsoWhereTheListIsLonger() {
+        AccountStage stage({one, "0|Bianchi|b@bianchi.it||25|0|||EHLO|0|0"});
+        stage.fillSmall("c");
+        stage.click("cmdNuovo");
+        QCOMPARE(stage.entries(),
+                 (QStringList{"Rossi [info@rossi.it]", "Bianchi [b@bianchi.it]", "c [c@b.it]"}));
+        QCOMPARE(stage.records().constLast(), "1|c|c@b.it||25|0|||EHLO|0|0");
+        QCOMPARE(stage.list().ListIndex(), 1);
+        QCOMPARE(stage.text("txtNomeVisual"), "c");
+    }
+
     void newAccountFromAChosenOneIsItsCopy() {
         AccountStage stage({one});
         stage.press(0);
