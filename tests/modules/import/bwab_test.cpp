@@ -34,6 +34,26 @@ TEST(AddressBookEntry, NulsAreCutAtTheEndOnly) {
     EXPECT_EQ(TagliaNulli(""), "");
 }
 
+TEST(AddressBookEntry, PrivateAddressAndBusinessNumbersFeedTheirColumns) {
+    const auto values = readCard(
+        "EMAIL:ada@example.it\nFN:Ada Rossi\nORG:Rossi Srl\n"
+        "ADR;TYPE=work:;;Via Lavoro 2;Cesena;FC;47521;Italia\n"
+        "ADR;TYPE=home:;;Via Casa 1;Forlì;FC;47121;Italia\n"
+        "TEL;TYPE=home:0543 1\nTEL;TYPE=work:0543 2\nTEL;TYPE=work,fax:0543 3");
+    ASSERT_TRUE(values);
+    EXPECT_EQ((*values)[email], "ada@example.it");
+    EXPECT_EQ((*values)[nom], "Ada Rossi");
+    EXPECT_EQ((*values)[rgs], "Rossi Srl");
+    EXPECT_EQ((*values)[ind], "Via Casa 1");
+    EXPECT_EQ((*values)[cap], "47121");
+    EXPECT_EQ((*values)[loc], "Forlì");
+    EXPECT_EQ((*values)[tel], "0543 2");
+    EXPECT_EQ((*values)[fax], "0543 3");
+    for (const Campo column :
+         {piva, prov, campo1, campo2, campo3, campo4, campo5, campo6, campo7, campo8, campo9})
+        EXPECT_EQ((*values)[column], "") << column;
+}
+
 TEST(AddressBookEntry, ShortValueAfterALongOneKeepsNothingOfIt) {
     const auto values = readCard("EMAIL:un.indirizzo.lungo@example.it\nFN:Ada\nORG:Rossi");
     ASSERT_TRUE(values);
