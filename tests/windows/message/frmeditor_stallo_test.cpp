@@ -189,6 +189,19 @@ class TestStallo : public QObject {
         }
         QTRY_COMPARE(stage().body(), "<p>vecchio</p>");
     }
+
+    void theSourceShowsAMessageThatIsOpenedMeanwhile() {
+        savedAs("c.mss");
+        stage().chooseTab(1);
+        stage().editor().NuovoMessaggio();
+        {
+            const Stall stall(stage().design());
+            stage().open("c.mss");
+            QCOMPARE(stage().source().Text(), "<html><head></head><body><p>vecchio</p></body></html>");
+        }
+        stage().chooseTab(0);
+        QTRY_COMPARE(stage().body(), "<p>vecchio</p>");
+    }
 };
 
 TEST_CLASS(TestStallo);
