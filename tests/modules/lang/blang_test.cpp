@@ -147,6 +147,13 @@ TEST_F(LanguageFile, TheLastOfTwoEqualKeysWins) {
     EXPECT_EQ(applied, Coppie({{"bVAR.Lingua", "b"}, {"bVAR.Lingua", "d"}}));
 }
 
+TEST_F(LanguageFile, TheFirstOfTwoEqualMarkersCounts) {
+    write(twoLanguages + "[<NOME>]Lingua[<LNG1>]a[<LNG2>]b[<LNG3>]c[<LNG1>]d[<LNG2>]e[<LNG3>]\r\n",
+          "English\r\n");
+    EXPECT_EQ(read(), 0);
+    EXPECT_EQ(applied, Coppie({{"bVAR.Lingua", "b"}}));
+}
+
 TEST_F(LanguageFile, AKeyMarkerAloneEndsTheReading) {
     write(twoLanguages + "[<NOME>]Lingua\r\n[<NOME>]Lingua[<LNG1>]a[<LNG2>]b[<LNG3>]\r\n", "English\r\n");
     EXPECT_EQ(read(), int(ErrorCode::SubscriptOutOfRange));
