@@ -188,6 +188,18 @@ class TestFrmAccountElenco : public QObject {
         }
     }
 
+    void choosingAnEntryLeavesTheAdvancedBoxAsItIs() {
+        AccountStage stage(three);
+        for (const bool on : {true, false}) {
+            stage.check("chkAvanzate", on);
+            for (const int position : {0, 1, 2}) {
+                stage.press(position);
+                QCOMPARE(stage.checked("chkAvanzate"), on);
+                QCOMPARE(stage.enabled("txtOutPort"), on);
+            }
+        }
+    }
+
     void uncheckedServerBoxTurnsEightControlsOff() {
         AccountStage stage;
         stage.click("chkAutentick");
