@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Writes docs/performance.md and its charts from the runs that were kept. What a measure means is told by docs/benchmarks.md."""
+"""Writes docs/performance.md and its charts from the runs that were kept. docs/benchmarks.md says what a measure means."""
 import chart
 import kept
 

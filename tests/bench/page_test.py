@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The page of the benchmarks' results: the runs that are kept and go on, what several runs come to, the page, its charts."""
+"""The page of the benchmarks' results: the runs that are kept and continued, the sum of several runs, the page, its charts."""
 import contextlib
 import io
 import json
@@ -61,11 +61,11 @@ class Page(Folder):
         runs = kept.read(DATA, "mail")["runs"][:2]
         self.assertEqual([one["ratio"] for one in kept.measures(runs)], [0.9, 1.3])
 
-    def test_runs_load_and_sources_are_told(self):
+    def test_runs_load_and_sources_are_reported(self):
         self.assertIn("## mail\n\n3 runs of commit 1234abc, load 0.10 to 2.25.\n", self.text)
         self.assertIn("## rows\n\n1 run of commit 1234abc, load 0.50.\n", self.text)
 
-    def test_the_machine_is_told_once(self):
+    def test_the_machine_is_named_once(self):
         self.assertEqual(self.text.count("| Prova 3000 | 2 | 24 GB | Linux 6.1.0 | Debian 12.11 |"), 1)
 
     def points(self, name):

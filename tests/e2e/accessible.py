@@ -44,7 +44,7 @@ class Window:
     """One window of the program, by the role and the start of the name that it has."""
 
     def __init__(self, role, name, active=True):
-        # Looked for anew each time: what was found first may belong to a program that has just ended.
+        # Looked for again each time: what was found first may belong to a program that has just ended.
         wait_for(lambda: self.shown(role, name, active=False), f"the window {name!r}", shown_windows)
         self.frame = wait_for(lambda: self.shown(role, name, active), f"{name!r} to be the active window", shown_windows)
         # The window manager may still move it.

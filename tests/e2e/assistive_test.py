@@ -104,7 +104,7 @@ def hear(event_name, role, doing, wanted):
 
 
 def hear_the_count(main):
-    """A count is announced when the pointer first enters the list, and not at each move that shows it anew."""
+    """A count is announced when the pointer first enters the list, and not at each move that shows it again."""
     def move():
         rows, tree = extents(main.find("table", "Mailing List")), extents(main.find("tree", "Gruppi mailing"))
         for left, top, _, _ in (tree, rows, tree, rows):

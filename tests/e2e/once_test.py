@@ -245,7 +245,7 @@ def killed(make, number):
 
 
 def locked(make, seconds):
-    """Another process holds the whole database locked in the middle of the run."""
+    """Another process has the whole database locked in the middle of the run."""
     addresses = people(12)
     story = make(served_slowly(addresses), addresses)
     story.open()

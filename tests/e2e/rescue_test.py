@@ -24,7 +24,7 @@ OFFER = 10  # seconds after a start in which no new one is offered
 
 
 def properties(name):
-    """What the window manager is told of the program's window of that name: its number, and its properties."""
+    """What the window manager knows of the program's window of that name: its number, and its properties."""
     found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{name}"], stdout=subprocess.PIPE, text=True,
                            check=True).stdout.split()
     if len(found) != 1:

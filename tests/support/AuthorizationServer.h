@@ -21,8 +21,8 @@ class AuthorizationServer : public QTcpServer {
   public:
     explicit AuthorizationServer(TlsIdentity identity = TestCertificates::get().good());
 
-    /// The content of a providers.json with this server as "prova", for the SMTP host "localhost" unless told
-    /// otherwise.
+    /// The content of a providers.json with this server as "prova", for the SMTP host "localhost" unless
+    /// other ones are given.
     QByteArray providers(const QByteArrayList& smtpHosts = {"localhost"}) const;
 
     /// What the browser is sent to when the user consents on the page of `address`. Fails the test's process

@@ -15,7 +15,7 @@ struct TlsIdentity {
     QByteArray newestProtocol = QByteArray();  ///< OpenSSL's name of it, such as "TLSv1.1"; empty: any
 };
 
-/// An authority and server certificates, made anew by the openssl program when they are first asked for.
+/// An authority and server certificates, made by the openssl program when they are first asked for.
 class TestCertificates {
   public:
     static const TestCertificates& get();

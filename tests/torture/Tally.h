@@ -6,7 +6,7 @@
 #include <string>
 
 /// The result of a torture campaign. Its program is called with a seed and a number of cases; the same seed
-/// always gives the same cases.
+/// always plays the same cases.
 struct Tally {
     long cases = 0;         ///< that were played
     long survived = 0;      ///< faults after which everything was as promised

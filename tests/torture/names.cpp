@@ -2,7 +2,7 @@
 // Name servers that misbehave: silent, late, lying about ids, questions, ports, counts and lengths, truncated
 // with and without TCP, with names and aliases in a circle. Every second case asks by the resolver, the
 // others by the look-up of the recipient's server. Each question has one answer, and in time; what only a
-// liar said is never believed, what was told soundly is the answer.
+// liar said is never accepted, a valid answer is the result.
 //
 //     torture_names SEED CASES [FIRST]
 #include <sys/resource.h>

@@ -74,7 +74,7 @@ TEST_F(AccountFile, ReadsTheVectors) {
     }
 }
 
-TEST_F(AccountFile, EmptyFileGivesNoAccount) {
+TEST_F(AccountFile, EmptyFileHasNoAccount) {
     write({});
     EXPECT_FALSE(read(path()));
     EXPECT_TRUE(table.empty());

@@ -160,7 +160,7 @@ TEST_F(AccountWriters, RewritingNumbersTheLinesByPosition) {
     EXPECT_EQ(table[5].txtNomeVisual, QStringLiteral("a")) << "a position may pick another slot";
 }
 
-TEST_F(AccountWriters, PositionWithoutASlotIsPassedOver) {
+TEST_F(AccountWriters, PositionWithoutASlotIsSkipped) {
     const QByteArray line = TestoInBit(u"0|a|a@b.it||25|0|||EHLO|0|0").toLatin1() + "\r\n";
     writeBytes(path(), line + line);
     load();

@@ -28,7 +28,7 @@ TEST(Binary, EachByteSurvivesWritingAndReading) {
     }
 }
 
-TEST(Binary, CharacterOutsideThePageComesBackAsCodeZero) {
+TEST(Binary, CharacterOutsideThePageIsReadBackAsCodeZero) {
     EXPECT_EQ(BitInTesto(TestoInBit(u"aЖb")), QStringView(u"a\0b", 3).toString());
     EXPECT_EQ(TestoInBit(u"\U0001F600"), QStringLiteral("00000000"));
 }

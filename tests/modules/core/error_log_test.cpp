@@ -68,7 +68,7 @@ TEST_F(ErrorLog, ReadOnlyFileStaysAsItIs) {
     EXPECT_EQ(bytesOf(path()), before);
 }
 
-TEST_F(ErrorLog, FileThatCannotBeWrittenIsPassedOver) {
+TEST_F(ErrorLog, FileThatCannotBeWrittenIsIgnored) {
     ASSERT_TRUE(QDir().mkpath(path()));
     EXPECT_NO_THROW(ScriviInizioLog());
     sys::setProgramFolder(QStringLiteral("/nonexistent"));

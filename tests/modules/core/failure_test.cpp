@@ -17,7 +17,7 @@ TEST(Failure, UnguardedStatementThrowsNumberAndText) {
     }
 }
 
-TEST(Failure, WithoutATextItBringsTheStandardOne) {
+TEST(Failure, WithoutATextItHasTheStandardOne) {
     try {
         fallisci(ErrorCode::TypeMismatch);
     } catch (const Fallimento& failure) {

@@ -46,14 +46,14 @@ class FileRiavvio : public testing::Test {
 
 }  // namespace
 
-TEST_F(FileRiavvio, WithoutAFileThereIsNothingAndNothingIsLeftBehind) {
+TEST_F(FileRiavvio, WithoutAFileThereIsNothingAndNoFileIsLeft) {
     const fileRiavvio::Raccolto taken = fileRiavvio::Raccogli();
     EXPECT_FALSE(taken.stato);
     EXPECT_TRUE(taken.messaggio.isEmpty());
     EXPECT_TRUE(QDir(QFileInfo(path()).path()).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot));
 }
 
-TEST_F(FileRiavvio, StateAndMessageComeBackAsTheyWereLeftInEitherOrder) {
+TEST_F(FileRiavvio, StateAndMessageAreReadBackAsTheyWereWrittenInEitherOrder) {
     for (const bool stateFirst : {true, false}) {
         const bool leftFirst = !stateFirst || fileRiavvio::LasciaStato(state()).ok();
         ASSERT_TRUE(leftFirst && fileRiavvio::LasciaMessaggio("/posta/offerta.mss").ok());
@@ -70,7 +70,7 @@ TEST_F(FileRiavvio, StateAndMessageComeBackAsTheyWereLeftInEitherOrder) {
     }
 }
 
-TEST_F(FileRiavvio, APathComesBackOctetByOctet) {
+TEST_F(FileRiavvio, APathIsReadBackOctetByOctet) {
     for (const QByteArray& odd :
          {QByteArray("/a b/c.mss"), QByteArray("/a\r\nmessaggio=/b\n.mss"), QByteArray("/\xff\xfe%41=.mss"),
           QByteArray("/è/%00.mss"), "/" + QByteArray(4000, '\n')}) {

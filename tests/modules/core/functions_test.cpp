@@ -93,7 +93,7 @@ TEST(Colour, TextOfAnotherLengthIsReadAsItsPieces) {
     EXPECT_EQ(ColoreDaHex(QStringLiteral("AABBCCDD")), 0xDDBBAAu);
 }
 
-TEST(Colour, TextThatIsNoNumberGivesZero) {
+TEST(Colour, TextThatIsNoNumberReturnsZero) {
     for (const char* text :
          {"", "#", "zzzzzz", "red", "12 456", "12340X", "1234 5", "1234+5", "1234-5", " 12345"})
         EXPECT_EQ(ColoreDaHex(QLatin1String(text)), 0u) << text;

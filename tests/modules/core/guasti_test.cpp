@@ -110,7 +110,7 @@ TEST_F(Guasti, NoLinkIsFollowed) {
     EXPECT_FALSE(QFileInfo(path()).isSymLink());
 }
 
-TEST_F(Guasti, AFolderThatCannotBeWrittenIsPassedOver) {
+TEST_F(Guasti, AFolderThatCannotBeWrittenIsIgnored) {
     sys::setProgramFolder("/nowhere");
     EXPECT_NO_THROW(guasti::Annota(Fallimento(9, "a")));
 }

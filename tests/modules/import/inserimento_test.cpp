@@ -65,7 +65,7 @@ TEST(ColumnBoxes, FeedEveryColumnOnce) {
         EXPECT_EQ(times, 1);
 }
 
-TEST(ColumnBoxes, StandInTheirOrderUnderTheLabelsOfTheirColumns) {
+TEST(ColumnBoxes, AreInTheirOrderUnderTheLabelsOfTheirColumns) {
     using namespace schema;
     EXPECT_EQ(campi::colonne, (Ordine{rgs, nom, email, piva, cap, loc, prov, ind, tel, fax, campo1, campo2,
                                       campo3, campo4, campo5, campo6, campo7, campo8, campo9}));

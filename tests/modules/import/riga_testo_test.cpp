@@ -89,14 +89,14 @@ void expectVector(const QJsonObject& vector, const QString& path) {
 
 }  // namespace
 
-TEST(TextLine, VectorsGiveTheirStatements) {
+TEST(TextLine, VectorsResultInTheirStatements) {
     const QJsonArray vectors = vectorsOf("txt/expected.json");
     EXPECT_EQ(vectors.size(), 16);
     for (const QJsonValue& value : vectors)
         expectVector(value.toObject(), dataPath("txt/" + value.toObject()["file"].toString()));
 }
 
-TEST(TextLine, EveryWayOfEndingALineGivesTheSameRows) {
+TEST(TextLine, EveryLineEndResultsInTheSameRows) {
     const QJsonObject vector = vectorsOf("txt/expected.json")[0].toObject();
     QByteArray bytes = bytesOf(dataPath("txt/" + vector["file"].toString()));
     const QTemporaryDir dir;
@@ -200,7 +200,7 @@ TEST(TextLine, KeepsCharactersOfTheCodePage) {
     EXPECT_EQ(regola(1, 2).Leggi(riga)->at(nom), QString("Niccolò € ") + QChar(0x9d));
 }
 
-TEST(TextLine, OfSeparatorsAloneIsReadNoFurtherThanTheChoiceGoes) {
+TEST(TextLine, OfSeparatorsAloneIsReadOnlyAsFarAsFieldsAreChosen) {
     const QString riga = "a@x.it" + QString(8 << 20, u';');
     EXPECT_EQ(regola(1, 18).Leggi(riga)->at(nom), "");
 }

@@ -84,7 +84,7 @@ TEST_F(CopiaRecuperoTest, NothingIsThereBeforeTheFirstCopy) {
     EXPECT_FALSE(QDir(place()).exists());
 }
 
-TEST_F(CopiaRecuperoTest, HoldsEveryCharacterOfTheMessage) {
+TEST_F(CopiaRecuperoTest, ContainsEveryCharacterOfTheMessage) {
     MessaggioRecuperato message = sample();
     message.CorpoHTML = QString::fromUtf8("a\0b \n\r\t\"\\ \xF0\x9F\x8E\x84", 14);
     leave(message);
@@ -142,7 +142,7 @@ TEST_F(CopiaRecuperoTest, EachDocumentHasItsOwn) {
     EXPECT_EQ(QDir(place()).entryList(QDir::Files), QStringList());
 }
 
-TEST_F(CopiaRecuperoTest, CanBeWrittenAnewAfterItWentAway) {
+TEST_F(CopiaRecuperoTest, CanBeWrittenAgainAfterItWasRemoved) {
     CopiaRecupero copy;
     copy.Scrivi(sample());
     copy.Togli();

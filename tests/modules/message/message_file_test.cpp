@@ -129,7 +129,7 @@ TEST_F(MessageFile, PreviewReadsTheVectors) {
     }
 }
 
-TEST_F(MessageFile, WriterGivesTheBytesOfTheVectors) {
+TEST_F(MessageFile, WriterMakesTheBytesOfTheVectors) {
     for (const QJsonValue vector : vectorsOf(QStringLiteral("mss/write.json"))) {
         MessaggioMss message;
         message.Oggetto = vector[QLatin1String("txtOggetto")].toString();
@@ -178,7 +178,7 @@ TEST_F(MessageFile, EmptyAttachmentListIsTheTwoMarkersInARow) {
     EXPECT_TRUE(readAll(path()).present.empty());
 }
 
-TEST_F(MessageFile, BodyIsEmptyWhereItsLastMarkerStandsInThePlaceOfTheFirst) {
+TEST_F(MessageFile, BodyIsEmptyWhereItsLastMarkerReplacesTheFirst) {
     const QByteArray head = "s\r\nNR\r\n[<INI-ALLG>]\r\n[<END-ALLG>]\r\n";
     EXPECT_EQ(readBytes(head + "[<END-MESS>]\r\nx\r\n[<END-MESS>]\r\n").body, QString());
     // Only the exact row counts there.

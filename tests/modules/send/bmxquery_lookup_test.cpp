@@ -30,7 +30,7 @@ TEST_F(MXLookup, ResultStaysInTheState) {
     EXPECT_EQ(mxCount, 1);
 }
 
-TEST_F(MXLookup, RepliesGiveTheirBestExchanger) {
+TEST_F(MXLookup, RepliesReturnTheirBestExchanger) {
     for (const QJsonValue caso : vectorsOf(QStringLiteral("mx/replies.json"))) {
         SCOPED_TRACE(caso[QStringLiteral("name")].toString().toStdString());
         UdpResponder responder(always(esadecimale(caso[QStringLiteral("reply_hex")])));

@@ -53,7 +53,7 @@ TEST_F(MXMessages, QueriesAreAsWritten) {
     }
 }
 
-TEST_F(MXMessages, DoubledPointGivesAnEmptyLabel) {
+TEST_F(MXMessages, DoubledPointIsAnEmptyLabel) {
     EXPECT_EQ(NomeDNS(QStringLiteral("a..b")), QByteArray("\1a\0\1b", 5));
     EXPECT_EQ(NomeDNS(QStringLiteral(".a")), QByteArray("\0\1a", 3));
     EXPECT_EQ(NomeDNS(QString()), QByteArray("\0", 1));
@@ -78,7 +78,7 @@ TEST_F(MXMessages, LengthsUpTo255FitAndALongerLabelCannotBeSent) {
     EXPECT_EQ(fallimento.sorgente(), QStringLiteral("MXQuery"));
 }
 
-TEST_F(MXMessages, RepliesGiveTheirExchangers) {
+TEST_F(MXMessages, RepliesReturnTheirExchangers) {
     for (const QJsonValue caso : vectorsOf(QStringLiteral("mx/replies.json"))) {
         SCOPED_TRACE(caso[QStringLiteral("name")].toString().toStdString());
         const auto risposte = static_cast<std::uint16_t>(caso[QStringLiteral("ancount")].toInt());
@@ -110,14 +110,14 @@ TEST_F(MXMessages, PreferencesReachUpTo65535) {
     EXPECT_EQ(elencoMX().back(), (std::pair{QStringLiteral("b.libero.it"), 65535}));
 }
 
-TEST_F(MXMessages, FullyWrittenNamesGiveTheFirstRecordOnly) {
+TEST_F(MXMessages, FullyWrittenNamesReturnTheFirstRecordOnly) {
     const QByteArray scritti =
         domanda + risposta(20, QByteArray("\1b\2it\0", 6)) + risposta(10, QByteArray("\1a\2it\0", 6));
     EXPECT_EQ(leggi(scritti, 2), QStringLiteral("b.it"));
     EXPECT_EQ(mxCount, 1);
 }
 
-TEST_F(MXMessages, FirstAnswerOfAnotherTypeGivesNothing) {
+TEST_F(MXMessages, FirstAnswerOfAnotherTypeReturnsNothing) {
     QByteArray alias = risposta(10, "\1a" + puntaDomanda);
     alias[3] = 5;
     EXPECT_EQ(leggi(domanda + alias + risposta(10, "\1a" + puntaDomanda), 2), QString());
@@ -134,7 +134,7 @@ TEST_F(MXMessages, EarlierResultIsForgotten) {
     EXPECT_TRUE(mxList.empty());
 }
 
-TEST_F(MXMessages, ExchangerOfBlanksIsPassedOver) {
+TEST_F(MXMessages, ExchangerOfBlanksIsSkipped) {
     EXPECT_EQ(leggi(domanda + risposta(5, QByteArray("\2  \0", 4)), 1), QString());
     EXPECT_TRUE(mxList.empty());
 }

@@ -120,7 +120,7 @@ TEST_F(MXMotivo, TemporaryOneOfAChildDomainStaysOnTheWayUp) {
     EXPECT_EQ(motivoMX, MotivoMX::ErroreServer);
 }
 
-TEST_F(MXMotivo, AnyBytesGiveOne) {
+TEST_F(MXMotivo, AnyBytesLeadToOne) {
     const QByteArray whole = QByteArray::fromHex("11df818000010001000000000000") + tipoMX + null;
     for (qsizetype size = 0; size <= whole.size(); ++size)
         EXPECT_NE(MotivoDiRisposta(whole.left(size)), MotivoMX::Nessuno);

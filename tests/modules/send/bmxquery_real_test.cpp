@@ -81,7 +81,7 @@ TEST_F(RealNameServer, ExchangerOutsideTheDomainEndsTheReading) {
     EXPECT_EQ(mxCount, 1);
 }
 
-TEST_F(RealNameServer, ServerThatDoesNotCompressGivesItsFirstExchanger) {
+TEST_F(RealNameServer, ServerThatDoesNotCompressReturnsItsFirstExchanger) {
     start(Program::Dnsmasq);
     const QString first = MXQuery("multi.example");
     EXPECT_TRUE(QStringList({"a.multi.example", "b.multi.example", "c.multi.example"}).contains(first))
@@ -90,7 +90,7 @@ TEST_F(RealNameServer, ServerThatDoesNotCompressGivesItsFirstExchanger) {
     EXPECT_EQ(MXQuery("uno.example"), "mx.uno.example");
 }
 
-TEST_F(RealNameServer, DomainsWithoutExchangersGiveNone) {
+TEST_F(RealNameServer, DomainsWithoutExchangersHaveNone) {
     for (const Program program : {Program::Unbound, Program::Dnsmasq}) {
         start(program);
         expectNothing("solo.example");    // an address, but no exchanger

@@ -136,7 +136,7 @@ TEST_F(Limits, BlockLimitBlocksAsTheVectorsSay) {
     }
 }
 
-TEST_F(Limits, FiftyInFiveMinutesHoldAfterTheFiftiethUntilThreeHundredSeconds) {
+TEST_F(Limits, FiftyInFiveMinutesWaitAfterTheFiftiethUntilThreeHundredSeconds) {
     LimiteBlocco limit = started(QStringLiteral("5"), QStringLiteral("50"));
     const QDateTime start = time;
     for (int round = 1; round <= 2; ++round) {

@@ -45,7 +45,7 @@ QString nameOf(const Row& row) {
 
 }  // namespace
 
-TEST(Personalisation, GivesTheTextsOfTheVectors) {
+TEST(Personalisation, ReturnsTheTextsOfTheVectors) {
     for (const QJsonValue vector : vectorsOf(QStringLiteral("send/placeholders.json"))) {
         SCOPED_TRACE(vector[QLatin1String("name")].toString().toStdString());
         Row row = rowOf(vector[QLatin1String("row")].toObject());
@@ -72,7 +72,7 @@ TEST(Personalisation, NullKeepsThePlaceholderAndTheEmptyTextRemovesIt) {
     EXPECT_EQ(personalized(QStringLiteral("a:::nom:::b"), {{"nom", QString()}}), QStringLiteral("ab"));
 }
 
-TEST(Personalisation, MissingColumnKeepsThePlaceholderAndTheOthersGoOn) {
+TEST(Personalisation, MissingColumnKeepsThePlaceholderAndTheOthersAreReplaced) {
     EXPECT_EQ(personalized(QStringLiteral(":::rgs::: :::nom:::"), {{"nom", "Ada"}}),
               QStringLiteral(":::rgs::: Ada"));
 }
@@ -102,7 +102,7 @@ TEST(Personalisation, OrderIsThatOfTheColumns) {
         EXPECT_EQ(colonneSegnaposto[i], QLatin1String(order[i]));
 }
 
-TEST(Personalisation, SplitTemplateGivesTheSameText) {
+TEST(Personalisation, SplitTemplateReturnsTheSameText) {
     std::mt19937 random(11);
     const QStringList pieces{
         ":::nom:::", ":::rgs:::", ":::campo1:::", ":::tel:::", ":::", "::",  ":", "nom", "rgs",

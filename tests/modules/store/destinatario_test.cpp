@@ -34,7 +34,7 @@ TEST(InsertStatement, NamesTheColumnsInTheirOrderAndEndsWithABlank) {
               "'CAMPO3', 'CAMPO4', 'CAMPO5', 'CAMPO6', 'CAMPO7', 'CAMPO8', 'CAMPO9') ");
 }
 
-TEST(InsertStatement, GivesTwoQuotesToAColumnWithoutAValue) {
+TEST(InsertStatement, WritesTwoQuotesForAColumnWithoutAValue) {
     Valori values;
     values[schema::email] = "a@x.it";
     EXPECT_TRUE(IstruzioneNuovo("0", "False", values).contains("(0, False, 'a@x.it', '', '', "));

@@ -83,7 +83,7 @@ TEST_F(DatabasePath, ChangeRewritesTheFileAndTheConnection) {
     EXPECT_EQ(percorsoDB, QStringLiteral("/dati/città.mdb"));
 }
 
-TEST_F(DatabasePath, ChangeHoldsWhereTheFileCannotBeWritten) {
+TEST_F(DatabasePath, ChangeIsKeptWhereTheFileCannotBeWritten) {
     EXPECT_EQ(CaricaPercorsoDBase(), QString());
     ASSERT_TRUE(QDir().mkpath(file()));
     CambiaPercorsoDBase(QStringLiteral("/dati/lista.mdb"));
@@ -124,7 +124,7 @@ TEST_F(DatabasePath, AWholePathThatIsNotTheOneOfTheFirstFileIsNotUsed) {
     EXPECT_TRUE(QFile::exists(whole()));
 }
 
-TEST_F(DatabasePath, ADamagedWholePathIsSetAsideAndTold) {
+TEST_F(DatabasePath, ADamagedWholePathIsSetAsideAndReported) {
     const QByteArray damaged[] = {"",
                                   "\r\n",
                                   "/dati/\xC5\x82.mdb",

@@ -93,7 +93,7 @@ TEST(RilieviHtml, linksWithoutATargetAreGrave) {
         << findings[0].testo.toStdString();
 }
 
-TEST(RilieviHtml, linksThatLeadSomewhereAreNotTold) {
+TEST(RilieviHtml, linksWithATargetAreNotReported) {
     EXPECT_TRUE(RilieviHtml("<a name=\"qui\"></a><a href=\"#qui\">1</a><a href=\"https://x.it\">2</a>"
                             "<a href=\"mailto:a@x.it\">3</a><a href=\":::campo1:::\">4</a>"
                             "<a href=\"tel:+39\">5</a>")

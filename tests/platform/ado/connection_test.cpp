@@ -62,7 +62,7 @@ TEST_F(ConnectionTest, ATruncatedFileIsRefused) {
     EXPECT_FALSE(tryOpen(file).ok());
 }
 
-// Root can read every file, so a process that gives up those rights does the check.
+// Root can read every file, so a process without those rights does the check.
 TEST_F(ConnectionTest, AnUnreadableFileIsRefused) {
     ado::closeAll();
     const QString folder = QFileInfo(path).path();

@@ -14,7 +14,7 @@ class DamagedNamesTest : public ado::TestDatabase {
         run("INSERT INTO [tb_destinatari] (id_grp, rgs) VALUES (1, 'ditta')");
         ado::closeAll();
     }
-    /// Gives a column of tb_destinatari another name of the same length.
+    /// Renames a column of tb_destinatari to a name of the same length.
     void rename(std::u16string from, std::u16string to) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));

@@ -169,7 +169,7 @@ TEST_F(GroupedInsertsTest, AReplacedFileGetsTheNextGroup) {
 }
 
 // The importing program is killed in the middle of a group.
-TEST_F(GroupedInsertsTest, WhatWasToldSurvivesTheDeathOfTheProgramAndNothingElse) {
+TEST_F(GroupedInsertsTest, WhatWasReportedSurvivesACrashOfTheProgramAndNothingElse) {
     for (const int last : {4, 10, 37}) {
         ado::closeAll();
         ASSERT_TRUE(QFile::remove(path));

@@ -89,7 +89,7 @@ TEST_F(InsertShapeTest, RowsOfOneShapeAreThoseThatSqliteMakes) {
     expectTheSame(statements);
 }
 
-TEST_F(InsertShapeTest, ADifferentStartIsReadAnew) {
+TEST_F(InsertShapeTest, ADifferentStartIsReadAgain) {
     expectTheSame({start + "1, True, 'a', 'b')", "INSERT INTO tb_destinatari (nom, email) VALUES ('x', 'y')",
                    "insert into tb_destinatari (nom, email) values ('x', 'y')", start + "1, True, 'c', 'd')",
                    "INSERT INTO tb_destinatari (email, email) VALUES ('x', 'y')",

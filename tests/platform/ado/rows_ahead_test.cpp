@@ -23,7 +23,7 @@ class RowsAheadTest : public ado::TestDatabase {};
 
 }  // namespace
 
-TEST(RowsAhead, HandsOutTheRowsItHolds) {
+TEST(RowsAhead, ReturnsTheRowsItKeeps) {
     RowsAhead ahead;
     StoredRow row;
     EXPECT_FALSE(ahead.take(0, 0, start, row));
@@ -36,7 +36,7 @@ TEST(RowsAhead, HandsOutTheRowsItHolds) {
     EXPECT_FALSE(ahead.take(12, 1, start, row));
 }
 
-TEST(RowsAhead, HoldsThemForFiveMillisecondsAndOneEpoch) {
+TEST(RowsAhead, KeepsThemForFiveMillisecondsAndOneEpoch) {
     RowsAhead ahead;
     StoredRow row;
     fill(ahead, 1);

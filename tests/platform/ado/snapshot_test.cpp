@@ -50,7 +50,7 @@ TEST(Snapshot, NewOneHasNeitherRowsNorColumns) {
     EXPECT_TRUE(empty.columns().empty());
 }
 
-TEST_F(SnapshotTest, HoldsTheRowsInTheStatementsOrder) {
+TEST_F(SnapshotTest, ContainsTheRowsInTheStatementsOrder) {
     const Snapshot rows = take(everything);
     EXPECT_EQ(texts(rows, "rgs"), "Acero|Betulla|Cedro");
     EXPECT_EQ(texts(rows, "id"), "2|3|1");
@@ -147,7 +147,7 @@ TEST(SnapshotOfSample, LongMemoTextsComeWhole) {
     closeAll();
 }
 
-TEST_F(SnapshotTest, GivesTextsInUtf8) {
+TEST_F(SnapshotTest, ReturnsTextsInUtf8) {
     run("UPDATE tb_destinatari SET nom = 'Niccolò' WHERE rgs = 'Acero'");
     const Snapshot rows = take(everything);
     std::string out = "<";

@@ -47,7 +47,7 @@ TEST(StatementText, FindsTheTableOfEachKindOfStatement) {
     }
 }
 
-TEST(StatementText, KnowsWhereRowsCanBeToldByTheirIdentities) {
+TEST(StatementText, KnowsWhereRowsCanBeKeptByTheirIdentities) {
     for (const char* text : {"SELECT * FROM [t] ;", "SELECT * FROM t WHERE a = 5 ORDER BY b ASC, c DESC"}) {
         const auto list = accepted(text).list;
         ASSERT_TRUE(list) << text;

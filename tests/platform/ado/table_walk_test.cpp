@@ -63,7 +63,7 @@ TEST_F(TableWalkTest, TheTableMayChangeBetweenTwoParts) {
     EXPECT_EQ(met[2], 1);
 }
 
-TEST_F(TableWalkTest, GivesTheFieldsOfARow) {
+TEST_F(TableWalkTest, ReturnsTheFieldsOfARow) {
     run("INSERT INTO [tb_destinatari] (id_grp, sel, nom) VALUES (7, True, 'Niccolò')");
     TableWalk walk(connection, QStringLiteral("tb_destinatari"));
     std::string out = "<";

@@ -168,7 +168,7 @@ TEST_F(WaitingTest, AFailedMoveLeavesNoCurrentRow) {
     lock();
     EXPECT_EQ(rows.move(1).code(), ErrorCode::FileInUse);
     noRow();
-    // Without a current row a move finds nothing, whoever has the lock by then.
+    // Without a current row a move finds nothing, whatever process has the lock by then.
     EXPECT_EQ(rows.moveNext().code(), ErrorCode::NoCurrentRecord);
     EXPECT_EQ(rows.move(-1).code(), ErrorCode::NoCurrentRecord);
     EXPECT_EQ(rows.move(0).code(), ErrorCode::NoCurrentRecord);

@@ -70,7 +70,7 @@ TEST_F(AddressBookTest, FolderThatIsMissingIsNoBook) {
     EXPECT_EQ(none.open().code(), ErrorCode::FileNotFound);
 }
 
-TEST_F(AddressBookTest, EveryTagGivesItsProperty) {
+TEST_F(AddressBookTest, EveryTagReturnsItsProperty) {
     writeBytes(cards("a.vcf"),
                card("FN:Ada\nEMAIL:ada@example.it\nORG:Rossi\nADR;TYPE=home:;;Via 1;Roma;;00100;\n"
                     "TEL;TYPE=work:1\nTEL;TYPE=fax:2"));

@@ -91,7 +91,7 @@ TEST(Ldif, ChangesThatAddNothingAreNoEntries) {
     EXPECT_TRUE(readLdif("dn: x\nchangetype: modify\nreplace: mail\nmail: a@example.it\n").empty());
 }
 
-TEST(Ldif, FileWithoutEntriesGivesNone) {
+TEST(Ldif, FileWithoutEntriesHasNone) {
     EXPECT_TRUE(readLdif("").empty());
     EXPECT_TRUE(readLdif("version: 1\n").empty());
     EXPECT_TRUE(readLdif("\n\n\n").empty());
@@ -103,7 +103,7 @@ TEST(Ldif, MoreEntriesThanTheBoundAreNotTaken) {
     EXPECT_EQ(readLdif(QByteArray("mail: a\n\n").repeated(count)).size(), contacts::mostCards);
 }
 
-TEST(Ldif, VersionMayStandInTheFirstEntry) {
+TEST(Ldif, VersionMayBeInTheFirstEntry) {
     EXPECT_EQ(readLdif("version: 1\ndn: x\nmail: a@example.it\n").front().emailAddress, "a@example.it");
 }
 

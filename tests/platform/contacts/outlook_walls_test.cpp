@@ -70,7 +70,7 @@ TEST_F(OutlookWalls, TakenOverReaderReachesNoFileNoSocketAndNoProgram) {
     EXPECT_FALSE(QFile::exists(path("nuovo")));
 }
 
-TEST_F(OutlookWalls, WithoutLandlockTheOtherWallsHoldAndThatIsReported) {
+TEST_F(OutlookWalls, WithoutLandlockTheOtherWallsAreKeptAndThatIsReported) {
     const ContactFolder folder = readTakenOver("reach", NO_LANDLOCK);
     EXPECT_EQ(deeds(folder), QStringList{"end"});
     QStringList others = expectedWalls();
@@ -84,7 +84,7 @@ TEST_F(OutlookWalls, TakenOverReaderGetsNoMoreMemoryThanItsShare) {
     EXPECT_EQ(deeds(readTakenOver("eat")), QStringList{"bounded"});
 }
 
-TEST_F(OutlookWalls, FloodOfEntriesIsBoundedAndItsCountNotBelieved) {
+TEST_F(OutlookWalls, FloodOfEntriesIsBoundedAndItsCountNotTrusted) {
     struct rusage before {};
     struct rusage after {};
     getrusage(RUSAGE_SELF, &before);

@@ -32,7 +32,7 @@ TEST(VCard, EachPropertyFeedsItsText) {
                                           "Roma", "0543 1", "0543 2"}));
 }
 
-TEST(VCard, WorkAddressAloneGivesNoHomeAddress) {
+TEST(VCard, WorkAddressAloneIsNoHomeAddress) {
     const Card card = cardWith("ADR;TYPE=WORK:;;Via Roma 2;Forlì;FC;47121;Italia");
     EXPECT_EQ(card.homeStreet, "");
     EXPECT_EQ(card.homeCity, "");
@@ -53,7 +53,7 @@ TEST(VCard, PreferredAddressComesFirst) {
     EXPECT_EQ(cardWith("EMAIL:a@example.it\r\nEMAIL:b@example.it").emailAddress, "a@example.it");
 }
 
-TEST(VCard, LinkGivesItsAddressOrNumber) {
+TEST(VCard, LinkBecomesItsAddressOrNumber) {
     EXPECT_EQ(cardWith("EMAIL;VALUE=uri:mailto:ada@example.it", "4.0").emailAddress, "ada@example.it");
     EXPECT_EQ(cardWith("TEL;VALUE=uri;TYPE=\"voice,work\":tel:+39-0543-1;ext=7", "4.0").businessTelephone,
               "+39-0543-1");
@@ -133,7 +133,7 @@ TEST(VCard, GroupPrefixAndCaseMakeNoDifference) {
     EXPECT_EQ(readVCards("begin:vcard\nversion:3.0\nfn:Ada\nend:vcard\n").front().displayName, "Ada");
 }
 
-TEST(VCard, QuotedParameterMayHoldDividers) {
+TEST(VCard, QuotedParameterMayContainDividers) {
     EXPECT_EQ(cardWith("EMAIL;X-A=\"a:b;c\":a@example.it", "4.0").emailAddress, "a@example.it");
 }
 
@@ -167,7 +167,7 @@ TEST(VCard, CardWithoutItsEndCountsAsFarAsItGoes) {
     EXPECT_EQ(cards[1].emailAddress, "eva@exa");
 }
 
-TEST(VCard, CardInsideACardIsPassedOver) {
+TEST(VCard, CardInsideACardIsSkipped) {
     const auto cards = readVCards(
         "BEGIN:VCARD\nVERSION:2.1\nFN:Capo\nAGENT:\nBEGIN:VCARD\nFN:Segretaria\nEMAIL:s@example.it\nEND:"
         "VCARD\n"
@@ -177,7 +177,7 @@ TEST(VCard, CardInsideACardIsPassedOver) {
     EXPECT_EQ(cards.front().emailAddress, "capo@example.it");
 }
 
-TEST(VCard, FileWithoutCardsGivesNone) {
+TEST(VCard, FileWithoutCardsHasNone) {
     EXPECT_TRUE(readVCards("").empty());
     EXPECT_TRUE(readVCards("END:VCARD\nFN:Ada\n").empty());
     EXPECT_TRUE(readVCards(QByteArray(10000, '\0')).empty());

@@ -154,7 +154,7 @@ class Desk {
     QString address;  ///< of the page that documents are written into
 };
 
-/// True when reading the document again gives the same one.
+/// True when reading the document again results in the same one.
 inline bool isStable(const QString& html) {
     SureView again(HtmlView::Mode::Design);
     again.setDocumentHTML(html);

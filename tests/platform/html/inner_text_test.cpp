@@ -18,7 +18,7 @@ void expectText(const QString& html, const QString& expected) {
     EXPECT_EQ(text.toStdString(), expected.toStdString()) << html.toStdString();
 }
 
-TEST(InnerText, BlocksStandOnTheirOwnLines) {
+TEST(InnerText, BlocksAreOnTheirOwnLines) {
     expectText("a<div>b</div>c", "a\nb\nc");
     expectText("<div><div>a</div></div><div>b</div>", "a\nb");
     expectText("<h1>a</h1><h2>b</h2><center>c</center><address>d</address>", "a\nb\nc\nd");
@@ -52,7 +52,7 @@ TEST(InnerText, NestedTablesCountTheirOwnRowsAndCells) {
                "a\tb\nc\n\td\ne");
 }
 
-TEST(InnerText, ListItemsStandOnTheirOwnLines) {
+TEST(InnerText, ListItemsAreOnTheirOwnLines) {
     expectText("<ul><li>a<li>b<ol><li>c</ol></ul>", "a\nb\nc");
     expectText("<dl><dt>a<dd>b</dl>", "a\nb");
     expectText("<select><option>a<option>b</select>", "a\nb");
@@ -111,7 +111,7 @@ TEST(InnerText, NoscriptIsVisibleSinceScriptsAreOff) {
     expectText("<noscript><b>x</b></noscript>", "x");
 }
 
-TEST(InnerText, ImagesAndInputsGiveNoText) {
+TEST(InnerText, ImagesAndInputsHaveNoText) {
     expectText("a<img src=x alt=y title=z>b<input value=w>c", "abc");
 }
 

@@ -114,7 +114,7 @@ TEST(NormalForm, DoctypeKeepsItsIdentifiers) {
         normalForm("<!DOCTYPE html SYSTEM 'a\"b'>").startsWith("<!DOCTYPE html SYSTEM 'a\"b'><html>"));
 }
 
-TEST(NormalForm, CommentsStayWhereTheyStand) {
+TEST(NormalForm, CommentsStayInTheirPlaces) {
     EXPECT_EQ(
         normalForm(
             "<!DOCTYPE html><!--a--><html><!--b--><head><!--c--></head><body><!--d--></body></html><!--e-->")

@@ -35,7 +35,7 @@ class ViewDocument : public QObject {
         QVERIFY(!view.isLive());
     }
 
-    void showingBringsTheBrowserWithTheText() {
+    void showingLoadsTheBrowserWithTheText() {
         SureView view(HtmlView::Mode::Design);
         view.setDocumentHTML("<P>ciao");
         QSignalSpy complete(&view, &HtmlView::documentComplete);

@@ -129,7 +129,7 @@ class ViewEvents : public QObject {
         QTRY_VERIFY(QApplication::focusWidget() == view->inputWidget());
     }
 
-    void theTabKeyLeadsToTheCaretBeforeAndAfterTheBrowserDies() {
+    void theTabKeyLeadsToTheCaretBeforeAndAfterTheBrowserCrashes() {
         QWidget window;
         auto* box = new QVBoxLayout(&window);
         auto* subject = new QLineEdit(&window);

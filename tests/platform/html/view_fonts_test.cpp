@@ -53,7 +53,7 @@ class ViewFonts : public QObject {
         QCOMPARE(width("#named"), width("#there"));
     }
 
-    void aNewTableIsShownAndToldInTheDefaultFont() {
+    void aNewTableIsShownAndReportedInTheDefaultFont() {
         load("<HTML>\r\n<BODY>\r\n</BODY>\r\n</HTML>");
         m_view->execCommand(HtmlView::SetFontName, "Verdana");
         const QString table = "<table><tbody><tr><td><span>Cella1</span></td></tr></tbody></table>";

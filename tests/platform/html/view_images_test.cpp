@@ -71,7 +71,7 @@ class ViewImages : public QObject {
         QCOMPARE(desk.body(), QString(missing));
     }
 
-    void deletingAndUndoingGiveItBack() {
+    void deletingAndUndoingRestoreIt() {
         Desk desk(missing);
         desk.selectAll();
         desk.press(Qt::Key_Delete);

@@ -171,7 +171,7 @@ class ViewInsert : public QObject {
         QCOMPARE(m_desk->body(), QString("<p>vai <b>qui</b> ora</p>"));
     }
 
-    void linkWithoutSelectionBringsItsText() {
+    void linkWithoutSelectionInsertsItsText() {
         m_desk->view.setDocumentHTML("<p>x</p>");
         QVERIFY(m_desk->view.setLink({":::campo1:::"}, "Il tuo <sito>"));
         QCOMPARE(m_desk->body(), QString("<p><a href=\":::campo1:::\">Il tuo &lt;sito&gt;</a>x</p>"));
@@ -249,7 +249,7 @@ class ViewInsert : public QObject {
         QCOMPARE(m_desk->body(), QString("<p>a<a>b</a></p><p>x</p>"));
     }
 
-    void pastedHtmlBringsInNoFileOfThisMachine_data() {
+    void pastedHtmlInsertsNoFileOfThisMachine_data() {
         QTest::addColumn<QString>("html");
         QTest::addColumn<QString>("result");
         const auto row = [](const char* name, const QString& html, const QString& result) {
@@ -279,18 +279,18 @@ class ViewInsert : public QObject {
         row("inside", "<p>a<img src=\"data:image/gif;base64,R0lG\">b</p>",
             "<p>a<img src=\"data:image/gif;base64,R0lG\">b</p>");
     }
-    void pastedHtmlBringsInNoFileOfThisMachine() {
+    void pastedHtmlInsertsNoFileOfThisMachine() {
         QFETCH(QString, html);
         QFETCH(QString, result);
         QSignalSpy leftOut(&m_desk->view, &HtmlView::leftOut);
         m_desk->view.setDocumentHTML("");
         paste(html);
         QCOMPARE(m_desk->body(), result);
-        m_desk->view.evaluate("1");  // the answer comes after what the page told before
+        m_desk->view.evaluate("1");  // the answer comes after what the page reported before
         QCOMPARE(leftOut.count(), html == result ? 0 : 1);
     }
 
-    void droppedHtmlBringsInNoFileOfThisMachine() {
+    void droppedHtmlInsertsNoFileOfThisMachine() {
         m_desk->view.setDocumentHTML("<p>uno</p>");
         QSignalSpy leftOut(&m_desk->view, &HtmlView::leftOut);
         QMimeData data;
@@ -321,7 +321,7 @@ class ViewInsert : public QObject {
         QCOMPARE(leftOut.count(), 1);
     }
 
-    void pastedControlsDoNotStandInForWhatCleans_data() {
+    void pastedControlsDoNotReplaceTheFunctionsThatClean_data() {
         QTest::addColumn<QString>("html");
         for (const char* name :
              {"attributes", "getAttribute", "getAttributeNames", "removeAttribute", "setAttribute",
@@ -338,7 +338,7 @@ class ViewInsert : public QObject {
                        "<a href=\"javascript:f()\">x</a>")
                        .arg(name);
     }
-    void pastedControlsDoNotStandInForWhatCleans() {
+    void pastedControlsDoNotReplaceTheFunctionsThatClean() {
         QFETCH(QString, html);
         m_desk->view.setDocumentHTML("<p>uno</p>");
         paste(html);

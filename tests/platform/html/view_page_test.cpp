@@ -14,7 +14,7 @@ class ViewPage : public QObject {
     void initTestCase() { m_desk = std::make_unique<Desk>(); }
     void cleanupTestCase() { m_desk.reset(); }
 
-    void elementsAreToldFromTheCaretOutwards() {
+    void elementsAreListedFromTheCaretOutwards() {
         m_desk->view.setDocumentHTML(
             "<body bgcolor=#ffffff><table><tr><td WIDTH=10 Align=left><b>x</b></td></tr></table>");
         m_desk->view.find("x");
@@ -26,7 +26,7 @@ class ViewPage : public QObject {
         QCOMPARE(cell, (HtmlView::Attributes{{"width", "10"}, {"align", "left"}}));
     }
 
-    void attributesAreChangedAddedAndTakenAway() {
+    void attributesAreChangedAddedAndRemoved() {
         m_desk->view.setDocumentHTML("<p align=\"left\" class=\"a\" title=\":::nom:::\">x</p>");
         m_desk->view.find("x");
         QVERIFY(m_desk->view.setElementAttributes(
@@ -66,7 +66,7 @@ class ViewPage : public QObject {
         }
     }
 
-    void pageColoursAreReadAndWrittenAsTheyStand() {
+    void pageColoursAreReadAndWrittenUnchanged() {
         m_desk->view.setDocumentHTML("<body bgcolor=yellow text=#112233 link=a alink=b vlink=c>x</body>");
         QCOMPARE(m_desk->view.pageColor(HtmlView::PageColor::Background), QString("yellow"));
         QCOMPARE(m_desk->view.pageColor(HtmlView::PageColor::Text), QString("#112233"));

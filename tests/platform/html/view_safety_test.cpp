@@ -249,7 +249,7 @@ class ViewSafety : public QObject {
     void everyNewProcessCanEdit() {
         Desk desk("<p>uno</p>");
         for (int i = 0; i < 8; ++i) {
-            desk.view.setDocumentHTML("<p>uno</p>");  // anew: one that often ends the browser is given up
+            desk.view.setDocumentHTML("<p>uno</p>");  // again: one that often ends the browser is given up
             endBrowserOf(desk.view);
             QTRY_VERIFY(desk.view.isLive());
             QVERIFY(desk.view.insertHTML("due "));
@@ -257,7 +257,7 @@ class ViewSafety : public QObject {
         }
     }
 
-    void commandDuringTheDeathComesBack() {
+    void commandDuringTheCrashReturns() {
         Desk desk("<p>uno</p>");
         desk.killRenderer();
         QVERIFY(!desk.view.HtmlView::execCommand(HtmlView::Bold).ok());

@@ -79,7 +79,7 @@ TEST_F(AutoNumberTest, NumbersTakenBeforeTheirRowCountOn) {
     EXPECT_EQ(insertOne(*database), greatest + 3);
 }
 
-TEST_F(AutoNumberTest, TwoThatWriteInTurnNeverGiveANumberTwice) {
+TEST_F(AutoNumberTest, TwoThatWriteInTurnNeverUseANumberTwice) {
     makeTable({{{{1, true}}, 0x81}});
     const DatabasePtr one = open(path());
     const DatabasePtr other = open(path());

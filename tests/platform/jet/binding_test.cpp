@@ -276,7 +276,7 @@ static std::string accessListOf(const std::string& file) {
     return list;
 }
 
-TEST_F(BindingTest, JournalHasNoRightsThatOnlyItsFolderWouldGiveIt) {
+TEST_F(BindingTest, JournalHasNoRightsThatComeOnlyFromItsFolder) {
     const std::string folder = path("") + "condivisa", database = folder + "/d.mdb", list = accessList();
     std::filesystem::create_directory(folder);
     if (::setxattr(folder.c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0)
@@ -316,7 +316,7 @@ TEST_F(BindingTest, WhoseJournalIsTrusted) {
     EXPECT_FALSE(isTrusted(folder, database, ours));
 }
 
-TEST_F(BindingTest, JournalBesideAMissingFileIsKeptAndTold) {
+TEST_F(BindingTest, JournalBesideAMissingFileIsKeptAndReported) {
     crash();
     const std::string hot = bytesOf(journal());
     std::filesystem::rename(path(), path("altrove.mdb"));

@@ -154,7 +154,7 @@ TEST_F(CheckerTest, CommitCounterOfZero) {
     expectFinding("commit counter");
 }
 
-TEST_F(CheckerTest, JournalLeftBehind) {
+TEST_F(CheckerTest, LeftoverJournal) {
     writeBytes(path("data.mdb-journal"), "x");
     expectFinding("journal");
 }

@@ -205,7 +205,7 @@ TEST(GeneralOrder, TrailingBlanksMakeNoDifference) {
     EXPECT_NE(compare(" fine", "fine"), 0);
 }
 
-TEST(GeneralOrder, DigitsStandBeforeLettersAndBlanksBeforeBoth) {
+TEST(GeneralOrder, DigitsSortBeforeLettersAndBlanksBeforeBoth) {
     EXPECT_LT(compare(" a", "1"), 0);
     EXPECT_LT(compare("1", "a"), 0);
     EXPECT_LT(compare("10", "9"), 0);
@@ -239,7 +239,7 @@ TEST(GeneralOrder, AKeyIsNeverTheBeginningOfAnother) {
         }
 }
 
-TEST(GeneralOrder, IndexKeysHoldTheFirst255Characters) {
+TEST(GeneralOrder, IndexKeysContainTheFirst255Characters) {
     const QString longText = QString(255, QLatin1Char('a'));
     EXPECT_EQ(key(longText), key(longText + QLatin1Char('b')));
     EXPECT_NE(jet::compareGeneral(longText.toStdString(), longText.toStdString() + "b"), 0);

@@ -79,7 +79,7 @@ class GroupScanTest : public JetTest {
                 EXPECT_EQ(group(t, column, beyond), std::vector<RowId>());
         EXPECT_EQ(group(t, Tiny, 256 + 20), std::vector<RowId>());
     }
-    // Gives that page another type.
+    // Changes the type of that page.
     void damage(uint32_t page) {
         leaveUnsound();
         std::string bytes = bytesOf(path());
@@ -120,7 +120,7 @@ TEST_F(GroupScanTest, AnIndexLeavesThePagesOfOtherRowsAlone) {
                  t->scanGroup(Small, 1, [](RowId, const RowView&) { return true; }));
 }
 
-TEST_F(GroupScanTest, AnIndexThatContradictsItsRowsIsNotBelieved) {
+TEST_F(GroupScanTest, AnIndexThatContradictsItsRowsIsNotUsed) {
     Table* t = &make({{{{Large, true}}}});
     fill(*t, 3000);
     const std::vector<RowId> rows = expected(*t, Large, int64_t{20});

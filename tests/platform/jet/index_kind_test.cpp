@@ -146,7 +146,7 @@ TEST_F(AllTypesTest, ThousandsOfChangesKeepEveryIndexRight) {
     expectSoundForAll(path());
 }
 
-TEST_F(AllTypesTest, NumbersThatNoKeyCanHoldAreRefused) {
+TEST_F(AllTypesTest, NumbersThatNoKeyCanContainAreRefused) {
     Table& t = reopen();
     EXPECT_OK(database->begin());
     const RowId id = insert(t, randomRow());
@@ -271,7 +271,7 @@ TEST_F(IndexKindsTest, NamesOfOtherCountriesAndTypographicSignsAreKept) {
     expectSoundForAll(path());
 }
 
-TEST_F(IndexKindsTest, TextInAnUnindexedColumnMayHoldAnything) {
+TEST_F(IndexKindsTest, TextInAnUnindexedColumnMayContainAnything) {
     Table& t = makeTexts({{{{0, true}}, plain}});
     EXPECT_OK(database->begin());
     EXPECT_OK(t.insert(texts(std::string("a"), std::string("10 € \u2013 \u4e2d\U0001F600"))));

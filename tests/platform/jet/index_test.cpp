@@ -328,7 +328,7 @@ TEST_F(TreeTest, RandomKeysOfManyLengthsAgreeWithASet) {
 }
 
 TEST_F(TreeTest, SparseLeavesJoinTheirNeighbours) {
-    // Of each five keys one stays, in the order in which an import gives them.
+    // Of each five keys one stays, in the order of an import.
     const auto key = [](uint32_t i) { return longKey(static_cast<int32_t>(i)); };
     constexpr uint32_t count = 20000;
     for (uint32_t i = 0; i < count; ++i)

@@ -71,7 +71,7 @@ TEST_F(JournalRoomTest, FileThatIsOnlyReadHasNoJournal) {
     EXPECT_FALSE(database->roomReserved());
 }
 
-TEST_F(JournalRoomTest, JournalGivesBackWhatALargeTransactionTook) {
+TEST_F(JournalRoomTest, JournalFreesWhatALargeTransactionTook) {
     DatabasePtr database = open(path());
     EXPECT_OK(addRows(*database, 3000));
     std::vector<RowId> ids;
@@ -126,7 +126,7 @@ TEST_F(JournalRoomTest, DiskThatWasFullAtOpeningIsReportedWhenAsked) {
     EXPECT_GE(allocated(journal()), Journal::room);
 }
 
-TEST_F(JournalRoomTest, JournalThatWasTakenAwayOrReplacedIsMadeAnew) {
+TEST_F(JournalRoomTest, JournalThatWasRemovedOrReplacedIsMadeAgain) {
     DatabasePtr database = open(path());
     const RowId id = rowsOf(table(*database)).begin()->first;
     EXPECT_OK(setName(*database, id, "uno"));

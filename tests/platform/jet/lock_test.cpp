@@ -143,7 +143,7 @@ TEST_F(LockTest, WaitThatIsGivenUpEndsAtOnce) {
     database->rollback();
 }
 
-TEST_F(LockTest, ReadersGoOnWhileAWriterWorks) {
+TEST_F(LockTest, ReadersContinueWhileAWriterWorks) {
     DatabasePtr reader = open(path(), hasty());
     OtherProcess other([&](auto pause) {
         DatabasePtr database = open(path());
@@ -279,7 +279,7 @@ TEST_F(LockTest, WriterGetsInBetweenReadersThatNeverAllPause) {
     EXPECT_EQ(rowsOf(table(*writer)).size(), 20u);
 }
 
-TEST_F(LockTest, ChangeByAnotherProcessIsSeenAndTold) {
+TEST_F(LockTest, ChangeByAnotherProcessIsSeenAndReported) {
     DatabasePtr database = open(path());
     addRow(*database, "mia");
     EXPECT_FALSE(database->refresh().value()) << "an own change was told as a foreign one";

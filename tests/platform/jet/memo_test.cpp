@@ -102,7 +102,7 @@ TEST_F(MemoTest, EveryLengthReplacesEveryOther) {
     expectSoundAndReadByOthers();
 }
 
-TEST_F(MemoTest, ReplacedAndEmptiedValuesGiveTheirPagesBack) {
+TEST_F(MemoTest, ReplacedAndEmptiedValuesFreeTheirPages) {
     const RowId id = add({});
     const size_t before = freePages();
     EXPECT_OK(set(id, text(40000, "ж")));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Four processes that change one file at the same time. None of their statements may be lost, and the file
-// must be sound at the end. VESTROLA_SECONDS=60 in the environment makes them go on for that long.
+// must be sound at the end. VESTROLA_SECONDS=60 in the environment makes them run for that long.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -126,7 +126,7 @@ TEST_F(ProcessesTest, EveryStatementOfEveryWriterIsThereAtTheEnd) {
     constexpr int rows = 40;
     runAll(writers, [&](int number) {
         for (int i = 0; i < rows; ++i) {
-            // Opened anew each time, as by programs that start and end.
+            // Opened again each time, as by programs that start and end.
             auto database = Database::open(path(), {.lockWait = {.limit = std::chrono::seconds(30)}});
             if (!database.ok() || !database.value()->begin().ok()) return 1;
             Table& t = table(*database.value());

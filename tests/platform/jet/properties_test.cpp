@@ -137,7 +137,7 @@ TEST_F(PropertiesTest, ColumnsOfTheEmptyDatabaseAllowEmptyText) {
     }
 }
 
-TEST_F(PropertiesTest, CutAndForeignListsAreReadAsFarAsTheyHold) {
+TEST_F(PropertiesTest, CutAndForeignListsAreReadAsFarAsTheyAreValid) {
     Bytes list = listStart();
     addColumn(list, "uno", {{required, true}});
     addColumn(list, "due", {{required, true}});

@@ -80,7 +80,7 @@ class RoomTest : public JetTest {
     std::vector<RowId> m_ids;
 };
 
-// Lengths of rows, and whether the file is opened anew after each round.
+// Lengths of rows, and whether the file is opened again after each round.
 struct Lengths {
     size_t least;
     size_t most;

@@ -31,7 +31,7 @@ class TableTest : public JetTest {
     Table& recipients;
 };
 
-TEST_F(TableTest, ColumnsStandInDisplayOrderWithTheirLengths) {
+TEST_F(TableTest, ColumnsAreInDisplayOrderWithTheirLengths) {
     const auto& columns = recipients.definition().columns;
     ASSERT_EQ(columns.size(), 22u);
     const char* names[] = {"id",     "id_grp", "rgs",    "nom",    "piva",   "ind",    "cap",    "loc",

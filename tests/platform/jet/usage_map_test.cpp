@@ -29,7 +29,7 @@ class UsageMapTest : public JetTest {
     std::unique_ptr<PageFile> file;
 };
 
-TEST_F(UsageMapTest, HoldsWhatWasSet) {
+TEST_F(UsageMapTest, ContainsWhatWasSet) {
     EXPECT_TRUE(map().pages().empty());
     for (uint32_t page : {30u, 7u, 511u})
         map().set(page, true);

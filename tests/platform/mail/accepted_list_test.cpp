@@ -95,7 +95,7 @@ TEST_F(AcceptedListTest, RoomIsOnTheDiskWhenItIsReserved) {
     EXPECT_GE(known.st_blocks * 512, 1001 * AcceptedEntry::size);
 }
 
-TEST_F(AcceptedListTest, EachEntryTakesRoomAndGivesItBack) {
+TEST_F(AcceptedListTest, EachEntryTakesRoomAndFreesIt) {
     AcceptedList list = reserved(10);
     const qsizetype room = list.room();
     for (int number = 0; number < room; ++number)

@@ -5,7 +5,7 @@
 #
 #   check_spam.pl MESSAGES WORK_FOLDER
 #
-# MESSAGES holds the messages one after the other, each behind a line with its length.
+# MESSAGES contains the messages one after the other, each after a line with its length.
 use strict;
 use warnings;
 use Mail::SpamAssassin;

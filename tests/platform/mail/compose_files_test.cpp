@@ -231,7 +231,7 @@ TEST_F(ComposeImages, ImageOfAStyleSheetIsEmbedded) {
     EXPECT_EQ(imagesIn(compose(withHtml("<style>p{background:url(\"" + file + "\")}</style>"))), 1);
 }
 
-TEST_F(ComposeImages, FiveKindsOfImageAreKnownByTheirContent) {
+TEST_F(ComposeImages, FiveKindsOfImageAreIdentifiedByTheirContent) {
     const std::vector<std::pair<QByteArray, QByteArray>> kinds = {{"image/png", pngContent()},
                                                                   {"image/jpeg", "\xFF\xD8\xFF\xE0 JFIF"},
                                                                   {"image/gif", "GIF89a........"},

@@ -28,7 +28,7 @@ TEST(ComposeHeaders, AutoSubmittedIsNotSet) {
     EXPECT_TRUE(headers(wire(plainMessage()), "Auto-Submitted").empty());
 }
 
-TEST(ComposeHeaders, PlainValuesStandAsTheyAre) {
+TEST(ComposeHeaders, PlainValuesAreWrittenUnchanged) {
     const QByteArray message = wire(plainMessage());
     EXPECT_EQ(header(message, "From"), "Orto Facile <info@orto.example>");
     EXPECT_EQ(header(message, "To"), "Mario Rossi <m.rossi@example.it>");
@@ -202,7 +202,7 @@ TEST(ComposeHeaders, DateIsTheProgramsClock) {
     sys::clock() = before;
 }
 
-TEST(ComposeHeaders, MessageIdBearsTheSendersDomain) {
+TEST(ComposeHeaders, MessageIdContainsTheSendersDomain) {
     mail::Composer composer;
     const auto composed = composer.compose(plainMessage());
     ASSERT_TRUE(composed.ok());
@@ -302,7 +302,7 @@ TEST(ComposeHeaders, MarkedLinkTakesThePlaceOfTheMail) {
         "<mailto:via@x.it>");
 }
 
-TEST(ComposeHeaders, MarkedLinkThatCannotStandInAHeaderIsPassedOver) {
+TEST(ComposeHeaders, MarkedLinkThatCannotBeInAHeaderIsSkipped) {
     const QByteArray mail = "<mailto:info@orto.example?subject=unsubscribe>";
     EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe href='javascript:x()'>x</a>"), mail);
     EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe>x</a>"), mail);
@@ -310,7 +310,7 @@ TEST(ComposeHeaders, MarkedLinkThatCannotStandInAHeaderIsPassedOver) {
     EXPECT_EQ(unsubscribeOf("<a rel=unsubscribe href='http://x.it/" + QString(2000, 'x') + "'>x</a>"), mail);
 }
 
-TEST(ComposeHeaders, MarkedLinkThatNamesNoGoalOfItsOwnIsPassedOver) {
+TEST(ComposeHeaders, MarkedLinkWithoutATargetOfItsOwnIsSkipped) {
     for (const char* href :
          {":::campo1:::", "https://:::campo1:::/u", "https://:::campo1:::@x.it/u",
           "https://x.it:::campo1:::/u", "https:///u", "mailto::::email:::", "mailto:?to=a@b.it",

@@ -21,7 +21,7 @@ std::string attribute(const char* source) {
     return mail::attributeAsUri(source).toStdString();
 }
 
-TEST(WebAddress, WhatAUriMayNotHoldIsPercentEncoded) {
+TEST(WebAddress, WhatAUriMayNotContainIsPercentEncoded) {
     EXPECT_EQ(uri("https://x.it/?c=Associazione \xC3\x80ncora"),
               "https://x.it/?c=Associazione%20%C3%80ncora");
     EXPECT_EQ(uri("http://x.it/<>\\^`{|}\x01\x7F"), "http://x.it/%3C%3E%5C%5E%60%7B%7C%7D%01%7F");
@@ -127,7 +127,7 @@ std::string textOf(const QString& bodyText, const QString& html, const QString& 
     return read.leaves.front().type == "text/plain" ? read.leaves.front().content.toStdString() : "(nessuno)";
 }
 
-TEST(ComposeText, AtMostTwoEmptyLinesStandInARow) {
+TEST(ComposeText, AtMostTwoEmptyLinesAreInARow) {
     EXPECT_EQ(textOf("a\r\n\r\n\r\n\r\n\r\nb\r\n\r\nc", "<p>x"), "a\r\n\r\n\r\nb\r\n\r\nc");
     EXPECT_EQ(textOf(QStringLiteral("a\r\n \r\n\u00a0\r\n\t\r\n\u200b\u200c\r\nb"), "<p>x"),
               "a\r\n \r\n\xC2\xA0\r\nb");
@@ -135,7 +135,7 @@ TEST(ComposeText, AtMostTwoEmptyLinesStandInARow) {
     EXPECT_EQ(textOf("a\n\n\n\nb", ""), "a\r\n\r\n\r\nb\r\n");
 }
 
-TEST(ComposeText, LinksThatTheTextDoesNotNameStandAfterIt) {
+TEST(ComposeText, LinksThatTheTextDoesNotNameFollowIt) {
     EXPECT_EQ(textOf("Ciao",
                      QStringLiteral("<a href='http://x.it/?c=è b'>Offerte</a><a href='http://y.it/'> </a>")),
               "Ciao\r\n\r\nCollegamenti:\r\nOfferte: http://x.it/?c=%C3%A8%20b\r\nhttp://y.it/\r\n");

@@ -140,7 +140,7 @@ class ReadByPython : public ::testing::Test {
     std::vector<mail::ComposedMessage> m_composed;
 };
 
-TEST_F(ReadByPython, EachKindOfValueComesBack) {
+TEST_F(ReadByPython, EachKindOfValueIsReadBack) {
     for (const ValueKind& kind : valueKinds()) {
         auto message = plainMessage();
         message.FromName = message.ToName = message.Subject = message.BodyText = kind.value;
@@ -150,7 +150,7 @@ TEST_F(ReadByPython, EachKindOfValueComesBack) {
     expectAllRead();
 }
 
-TEST_F(ReadByPython, HostileValuesComeBackAsText) {
+TEST_F(ReadByPython, HostileValuesAreReadBackAsText) {
     HostileValues values(20050307);
     for (int i = 0; i < messagesOfTheLoop; ++i) {
         mail::MessageData message;
@@ -174,7 +174,7 @@ TEST_F(ReadByPython, HostileValuesComeBackAsText) {
     expectAllRead();
 }
 
-TEST_F(ReadByPython, LayersStandInsideEachOther) {
+TEST_F(ReadByPython, LayersAreInsideEachOther) {
     auto message = plainMessage();
     message.BodyHtml = message.TemplateHtml = "<img src='" + m_folder.filePath("logo.png") + "'>";
     message.Attachments = {{m_folder.filePath("allegato"), "a.pdf"}};
@@ -186,7 +186,7 @@ TEST_F(ReadByPython, LayersStandInsideEachOther) {
               "\"image/png\"],\"application/pdf\"]");
 }
 
-TEST_F(ReadByPython, FileNamesComeBack) {
+TEST_F(ReadByPython, FileNamesAreReadBack) {
     auto message = plainMessage();
     const QStringList names = {"listino.pdf",
                                "con blanks.pdf",

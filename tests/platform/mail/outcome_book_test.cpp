@@ -117,7 +117,7 @@ TEST_F(OutcomeBook, LineIsWrittenBeforeTheSignal) {
     EXPECT_EQ(seen, (QList<qsizetype>{1, 2, 3}));
 }
 
-TEST_F(OutcomeBook, RefusalsTellTheCommandThatWasRefused) {
+TEST_F(OutcomeBook, RefusalsNameTheCommandThatWasRefused) {
     using Stage = DeliveryStage;
     const QByteArrayList mail{"C: MAIL *", "S: 250 ok"}, rcpt{"C: RCPT *", "S: 250 ok"};
     const auto refused = [](Stage stage, int code, const char* status) {

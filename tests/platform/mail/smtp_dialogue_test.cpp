@@ -25,7 +25,7 @@ std::ostream& operator<<(std::ostream& out, const Row& row) {
 
 class Dialogue : public testing::TestWithParam<Row> {};
 
-TEST_P(Dialogue, EndsAsToldAndTheNextMessageIsServed) {
+TEST_P(Dialogue, EndsAsExpectedAndTheNextMessageIsServed) {
     const Row& row = GetParam();
     QList<QByteArrayList> dialogues = row.dialogues;
     if (!row.kept) dialogues.append(hello + message);
@@ -326,7 +326,7 @@ TEST(SmtpSession, FarewellToAnIdleSessionIsFollowedByANewOne) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(SmtpSession, KeptSessionThatDiedUnnoticedIsReopened) {
+TEST(SmtpSession, KeptSessionThatBrokeUnnoticedIsReopened) {
     for (const char* ending : {"DROP", "RESET"}) {
         ScriptedServer server({hello + message + QByteArrayList{mailLine, ending}, hello + message});
         Client client(server.port());

@@ -110,7 +110,7 @@ void prepare(Client& client) {
 
 class HostileServer : public testing::TestWithParam<Row> {};
 
-TEST_P(HostileServer, EndsAsToldAndTheNextRecipientIsServed) {
+TEST_P(HostileServer, EndsAsExpectedAndTheNextRecipientIsServed) {
     const auto& [step, ending] = GetParam();
     ScriptedServer server({upTo(step) + ending.lines, whole}, TestCertificates::get().good());
     Client client(server.port());

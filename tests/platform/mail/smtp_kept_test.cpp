@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
                std::get<1>(row.param).name;
     });
 
-TEST(KeptConnection, ThatDiesInTheMiddleOfALargeMessageIsReplaced) {
+TEST(KeptConnection, ThatBreaksInTheMiddleOfALargeMessageIsReplaced) {
     ScriptedServer server(
         {hello + message + before("BODY") + QByteArrayList{"READ 100000", "RESET"}, hello + message});
     Client client(server.port());
@@ -69,7 +69,7 @@ TEST(KeptConnection, ThatDiesInTheMiddleOfALargeMessageIsReplaced) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(KeptConnection, ThatDiesAfterTheFinalPointIsNotReplaced) {
+TEST(KeptConnection, ThatBreaksAfterTheFinalPointIsNotReplaced) {
     for (const QByteArrayList& ending : {QByteArrayList{"DROP"}, QByteArrayList{"S: 421 bye", "WAIT"},
                                          QByteArrayList{"PAUSE 20", "RESET"}}) {
         ScriptedServer server({hello + message + before("S: 250 taken") + ending, hello + message});
@@ -82,7 +82,7 @@ TEST(KeptConnection, ThatDiesAfterTheFinalPointIsNotReplaced) {
 }
 
 /// A small message is sent in one write with its final point: the server may have received it.
-TEST(KeptConnection, ThatDiesWhenTheMessageWasWrittenIsNotReplaced) {
+TEST(KeptConnection, ThatBreaksWhenTheMessageWasWrittenIsNotReplaced) {
     ScriptedServer server({hello + message + before("BODY") + QByteArrayList{"READ 1", "RESET"}});
     Client client(server.port());
     EXPECT_TRUE(client.send().done);

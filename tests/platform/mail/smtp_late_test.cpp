@@ -222,7 +222,7 @@ TEST_F(LateReply, SendOverAMessageForTheSameRowWaits) {
     EXPECT_EQ(sink.messages().size(), 1);
 }
 
-TEST_F(LateReply, IsNoLongerAwaitedForWhoIsChosenAnew) {
+TEST_F(LateReply, IsNoLongerAwaitedForARecipientWhoIsChosenAgain) {
     stopAfterFinalPoint(7);
     client.smtp.Forget(database, {7});
     EXPECT_TRUE(until([&] { return sink.held().isEmpty(); }));
@@ -232,7 +232,7 @@ TEST_F(LateReply, IsNoLongerAwaitedForWhoIsChosenAnew) {
     EXPECT_EQ(sink.messages().size(), 2);
 }
 
-TEST_F(LateReply, MessageThatWaitsForItFailsWhenItsRecipientIsChosenAnew) {
+TEST_F(LateReply, MessageThatWaitsForItFailsWhenItsRecipientIsChosenAgain) {
     stopAfterFinalPoint(7);
     client.smtp.BeginRun();
     client.begin(7);
@@ -244,7 +244,7 @@ TEST_F(LateReply, MessageThatWaitsForItFailsWhenItsRecipientIsChosenAnew) {
     EXPECT_TRUE(client.tick(7).done);
 }
 
-TEST_F(LateReply, OfOthersIsStillAwaitedWhenSomebodyIsChosenAnew) {
+TEST_F(LateReply, OfOthersIsStillAwaitedWhenSomebodyIsChosenAgain) {
     stopAfterFinalPoint(7);
     client.smtp.Forget(database, {6, 8});
     client.smtp.Forget(QStringLiteral("/nessuna/altri.mdb"), {7});

@@ -60,7 +60,7 @@ TEST_F(SupportLog, ReportsTheDirectRoute) {
         << contents(path()).constData();
 }
 
-TEST_F(SupportLog, EachLineBearsTimeAndDirection) {
+TEST_F(SupportLog, EachLineContainsTimeAndDirection) {
     ScriptedServer server({hello + message});
     Client client(server.port());
     client.smtp.LogFile = path();

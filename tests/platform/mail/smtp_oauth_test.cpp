@@ -140,7 +140,7 @@ TEST_F(SmtpOAuth, ServerWithEndlessErrorRepliesIsLeft) {
           "non ha completato");
 }
 
-TEST_F(SmtpOAuth, SuccessAfterAnErrorChallengeIsNotBelieved) {
+TEST_F(SmtpOAuth, SuccessAfterAnErrorChallengeIsNotAccepted) {
     fails(offers("XOAUTH2") + QByteArrayList{"C: AUTH XOAUTH2 *", errorChallenge, "C: ", "S: 235 ok", "WAIT"},
           "non ha completato");
 }

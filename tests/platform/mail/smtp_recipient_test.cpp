@@ -178,7 +178,7 @@ TEST(Recipient, ThatIsRememberedIsServedAtAnotherAddress) {
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST(Recipient, ChosenAnewIsServedAgain) {
+TEST(Recipient, ChosenAgainIsServedAgain) {
     ScriptedServer server({hello + message + message});
     RunClient client(server.port());
     EXPECT_TRUE(client.tick(7).done);

@@ -80,7 +80,7 @@ TEST_F(SmtpScram, LogsInWithAnInitialResponse) {
     delivers(helloScram + QByteArrayList{"A: first"} + proved);
 }
 
-TEST_F(SmtpScram, LogsInWhereTheInitialResponseIsPassedOver) {
+TEST_F(SmtpScram, LogsInWhereTheInitialResponseIsIgnored) {
     delivers(helloScram + QByteArrayList{"C: AUTH SCRAM-SHA-256 *", "S: 334 ", "A: first"} + proved);
 }
 

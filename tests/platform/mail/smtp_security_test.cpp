@@ -187,7 +187,7 @@ TEST_F(SmtpTls, FailedHandshakeOnAnOpportunisticRouteIsFollowedByOnePlainAttempt
     EXPECT_EQ(server.remainder(), "");
 }
 
-TEST_F(SmtpTls, RefusedStartTlsOnAnOpportunisticRouteIsPassedOver) {
+TEST_F(SmtpTls, RefusedStartTlsOnAnOpportunisticRouteIsIgnored) {
     ScriptedServer server({offer + QByteArrayList{"S: 454 not now"} + message});
     Client client(server.port());
     client.smtp.OpportunisticTls = true;

@@ -72,7 +72,7 @@ class RunOfRows {
     Rows& m_selected;
 };
 
-TEST(StopAndGoOn, AHundredTimesNobodyGetsTwoCopies) {
+TEST(StopAndContinue, AHundredTimesNobodyGetsTwoCopies) {
     SmtpSink sink;
     sink.setDelay(slownessMs);
     RunClient client(sink.port());

@@ -128,7 +128,7 @@ TEST_F(OAuthConsent, CodeOfSomebodyElseIsRefusedByTheProvider) {
     expectNothingWritten();
 }
 
-TEST_F(OAuthConsent, BrowserThatNeverComesBackEndsAfterTheLimit) {
+TEST_F(OAuthConsent, BrowserThatNeverAnswersEndsAfterTheLimit) {
     consent.limits.answer = 20;
     const quint16 port = quint16(
         QUrl(QUrlQuery(consent.start(provider(), user).value()).queryItemValue("redirect_uri")).port());
@@ -140,7 +140,7 @@ TEST_F(OAuthConsent, BrowserThatNeverComesBackEndsAfterTheLimit) {
     EXPECT_EQ(Consent::Limits().answer, 5 * 60 * 1000);
 }
 
-TEST_F(OAuthConsent, CancelledOneGivesNoSignalAtAnyStage) {
+TEST_F(OAuthConsent, CancelledOneEmitsNoSignalAtAnyStage) {
     consent.start(provider(), user).value();
     consent.cancel();
     EXPECT_FALSE(consent.waiting());

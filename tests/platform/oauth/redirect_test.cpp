@@ -18,7 +18,7 @@ QByteArray get(const QByteArray& target) {
     return "GET " + target + " HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n";
 }
 
-TEST(OAuthRedirect, AnswerIsReadWhereverItsParametersStand) {
+TEST(OAuthRedirect, AnswerIsReadWhereverItsParametersAre) {
     const auto answer = parseRedirectRequest(get("/?scope=a&code=4%2F0A+b&state=xyz"));
     ASSERT_EQ(answer.kind, State::Answer);
     EXPECT_EQ(answer.code, "4/0A b");

@@ -115,7 +115,7 @@ TEST(OAuthTokenFile, PathContainsTheUserPercentEncoded) {
     EXPECT_EQ(tokenPath("/d/oauth", "google", "àé%"), "/d/oauth/google/%C3%A0%C3%A9%25.json");
 }
 
-TEST_F(OAuth, TokenComesBackFromItsFileWhichIsTheOwnersAlone) {
+TEST_F(OAuth, TokenIsReadBackFromItsFileWhichIsTheOwnersAlone) {
     const Token token{"accesso", "rinnovo", now};
     ASSERT_TRUE(oauth::writeToken(folder, tokenFile, token).ok());
     ASSERT_TRUE(oauth::writeToken(folder, tokenFile, token).ok());

@@ -47,7 +47,7 @@ TEST(SpfRecord, EveryMechanismIsRead) {
     EXPECT_EQ(all[11].text, "-all");
 }
 
-TEST(SpfRecord, ModifiersStandAnywhereAndOthersAreLeftOut) {
+TEST(SpfRecord, ModifiersMayBeAnywhereAndOthersAreLeftOut) {
     const auto read = readRecord("v=spf1 exp=e.example future=any%{d}thing -all redirect=r.example");
     ASSERT_TRUE(read.record);
     EXPECT_EQ(read.record->explanation, QByteArray("e.example"));

@@ -78,7 +78,7 @@ TEST_F(ProgramFolder, LaterStartsLeaveItAlone) {
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/data/pathDBase.imp")));
 }
 
-TEST_F(ProgramFolder, ProvidersAreLaidDownWhereTheyAreMissingAndThenLeftAlone) {
+TEST_F(ProgramFolder, ProvidersAreInstalledWhereTheyAreMissingAndThenLeftAlone) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));
     const QString templates = path(QStringLiteral("templates"));

@@ -8,7 +8,7 @@
 
 namespace ansi_codec_test {
 
-TEST(AnsiCodec, EveryByteComesBackFromItsCharacter) {
+TEST(AnsiCodec, EveryByteIsRestoredFromItsCharacter) {
     for (int code = 0; code < 256; ++code) {
         const QByteArray byte(1, static_cast<char>(code));
         EXPECT_EQ(text::toAnsi(text::fromAnsi(byte)), byte) << code;
@@ -41,7 +41,7 @@ TEST(Blanks, OnlyTheBlankAtTheEndsIsTaken) {
     EXPECT_TRUE(text::trimBlanks(u"").isEmpty());
 }
 
-TEST(AnsiCodec, NamesWhatTheCodePageDoesNotHold) {
+TEST(AnsiCodec, NamesWhatTheCodePageDoesNotContain) {
     EXPECT_EQ(text::outsideAnsi(u"perché € \u0081"), QStringList());
     EXPECT_EQ(text::outsideAnsi(u"Łódź Ł \U0001F384"), (QStringList{"Ł", "ź", "\U0001F384"}));
     EXPECT_EQ(text::outsideAnsi({}), QStringList());

@@ -14,7 +14,7 @@ TEST(FoldingTest, CaseAndAccentsMakeNoDifference) {
     EXPECT_EQ(folded(u"ÇA"), "ca");
 }
 
-TEST(FoldingTest, AnAccentThatStandsApartIsTheSame) {
+TEST(FoldingTest, ACombiningAccentIsTheSame) {
     EXPECT_EQ(folded(u"e\u0300 vero"), folded(u"è vero"));
 }
 

@@ -74,7 +74,7 @@ TEST(WholeNumbers, HalvesGoToTheEvenNeighbour) {
     EXPECT_EQ(text::int32FromText(u"2,6", italian).value(), 3);
 }
 
-TEST(WholeNumbers, WhatTheTypeCannotHoldOverflows) {
+TEST(WholeNumbers, WhatTheTypeCannotContainOverflows) {
     EXPECT_EQ(text::toInt16(32767).value(), 32767);
     EXPECT_EQ(text::toInt16(-32768).value(), -32768);
     EXPECT_EQ(text::toInt16(32767.4).value(), 32767);

@@ -133,7 +133,7 @@ TEST_F(TextFile, NulIsLeftOutWhereTheEncodingIsFoundOut) {
               QStringList({"ab", "", "cà"}));
 }
 
-TEST_F(TextFile, EachOpeningFindsOutAnew) {
+TEST_F(TextFile, EachOpeningDetectsItAgain) {
     writeBytes(path("8"), "\xc3\xb9");
     writeBytes(path("16"), QByteArray("\xff\xfe\xf9\0", 4));
     LineReader reader;

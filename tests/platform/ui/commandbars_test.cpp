@@ -88,7 +88,7 @@ class TestCommandBars : public QObject {
         QCOMPARE(w.window.menuBar()->actions().constFirst()->text(), "&Datei");
     }
 
-    void menusAndBarsStandInTheGivenOrderWithSeparators() {
+    void menusAndBarsAreInTheGivenOrderWithSeparators() {
         Window w;
         const auto actions = w.menu("mnuFile")->actions();
         QCOMPARE(actions.size(), 3);
@@ -109,7 +109,7 @@ class TestCommandBars : public QObject {
         QVERIFY(!w.bars.GetList("mnuLanguage"));
     }
 
-    void everyWayOfStartingGivesTheOneSignal() {
+    void everyWayOfStartingEmitsTheOneSignal() {
         Window w;
         QTest::mouseClick(w.button("cmdOpen"), Qt::LeftButton);
         entry(w.menu("mnuFile"), 0)->trigger();

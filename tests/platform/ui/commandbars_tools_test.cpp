@@ -133,7 +133,7 @@ class TestCommandBarsTools : public QObject {
         QCOMPARE(w.bars.GetEdit("txtSubject")->Text(), "ab");
     }
 
-    void fieldsAndListsTellTheirDescriptionUnderThePointer() {
+    void fieldsAndListsShowTheirDescriptionUnderThePointer() {
         Window w;
         QTest::mouseMove(w.find<QLineEdit>("txtSubject"));
         QTRY_VERIFY(!w.pointed.isEmpty());
@@ -153,7 +153,7 @@ class TestCommandBarsTools : public QObject {
         QCOMPARE(w.find<QLabel>("txtSubjectLabel")->buddy(), w.find<QLineEdit>("txtSubject"));
     }
 
-    void aPanelOpensBelowItsButtonAndIsToldFirst() {
+    void aPanelOpensBelowItsButtonAndIsAnnouncedFirst() {
         Window w;
         bool hiddenWhenTold = false;
         connect(&w.bars, &CommandBars::popupOpening, &w.window,
@@ -232,7 +232,7 @@ class TestCommandBarsTools : public QObject {
         w.panel->hide();
     }
 
-    void aBarThatIsOffIsDisabledAndItsKeysAreDead() {
+    void aBarThatIsOffIsDisabledAndItsKeysHaveNoEffect() {
         Window w;
         w.bars.setBarEnabled("Html", false);
         QVERIFY(!w.find<QToolButton>("cmdBold")->isEnabled());

@@ -49,7 +49,7 @@ class TestContrast : public QObject {
         m_bus.waitForFinished();
     }
 
-    void theDesktopsAnswerIsTakenAndToldOnce() {
+    void theDesktopsAnswerIsTakenAndReportedOnce() {
         m_portal.contrast = 1;
         QVERIFY(!ui::highContrast());
         ui::watchContrast([this] { ++m_changes; });

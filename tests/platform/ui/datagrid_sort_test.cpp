@@ -84,7 +84,7 @@ class TestDataGridSort : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void thirdClickOnAHeadingBringsTheToldOrderBack() {
+    void thirdClickOnAHeadingRestoresTheOrderOfTheStatement() {
         Window test;
         QCOMPARE(test.texts(companyColumn), told);
         test.sort(3);
@@ -163,7 +163,7 @@ class TestDataGridSort : public QObject {
         QCOMPARE(test.grid->sorted()->column, companyColumn);
     }
 
-    void fillBringsItsOwnOrderBack() {
+    void fillRestoresItsOwnOrder() {
         Window test;
         test.sort(3);
         QVERIFY(test.data.Refresh().ok());

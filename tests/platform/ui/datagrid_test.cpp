@@ -263,7 +263,7 @@ class TestDataGrid : public QObject {
         QCOMPARE(w.grid->Row(), 3);
     }
 
-    void doubleClickGivesOneClickAndOneDoubleClick() {
+    void doubleClickEmitsOneClickAndOneDoubleClick() {
         Window w;
         QTest::mouseDClick(w.window.windowHandle(), Qt::LeftButton, {},
                            mouse::inWindow(w.grid, w.cell(2, 5)));

@@ -261,7 +261,7 @@ class TestUi : public QObject {
         QVERIFY(!dialog.findChild<QScrollArea*>());
     }
 
-    void realDialogThatIsCancelledGivesNothing() {
+    void realDialogThatIsCancelledReturnsNothing() {
         ui::setUnattended(false);
         QTimer::singleShot(0, qApp, [] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -271,7 +271,7 @@ class TestUi : public QObject {
         QVERIFY(!FileDialog::open("Apri", "Message File (*.mss)|*.mss").has_value());
     }
 
-    void cancelGivesNothing() {
+    void cancelReturnsNothing() {
         FileDialog::queueCancel();
         QVERIFY(!FileDialog::open("Apri", "Message File (*.mss)|*.mss").has_value());
         const auto& asked = FileDialog::shown().constFirst();

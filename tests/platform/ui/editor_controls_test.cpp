@@ -195,7 +195,7 @@ class TestEditorControls : public QObject {
         QCOMPARE(edit.Text(), "uno");
     }
 
-    void theTabsTellOfEachChangeWithBothIndexes() {
+    void theTabsReportEachChangeWithBothIndexes() {
         TabStrip tabs;
         tabs.addView(new QWidget, "Uno", "text-html");
         tabs.addView(new QWidget, "Due", "text-html");

@@ -154,7 +154,7 @@ class TestPropertyList : public QObject {
         QVERIFY(f.save->hasFocus());
     }
 
-    void escapeGivesTheOldValueBackAndLeavesTheCellOnly() {
+    void escapeRestoresTheOldValueAndLeavesTheCellOnly() {
         Form f;
         f.list->Item("Email")->setValue("prima");
         f.list->setCurrentItem("Email");

@@ -123,7 +123,7 @@ class TestFrmAccountAspetto : public QObject {
         }
     }
 
-    void loadComputesThePaletteAnew() {
+    void loadComputesThePaletteAgain() {
         coloriTema.fill(0x123456);
         const AccountStage stage;
         QVERIFY(coloriTema[0] != 0x123456);

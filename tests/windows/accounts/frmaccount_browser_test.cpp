@@ -167,7 +167,7 @@ class TestFrmAccountBrowser : public QObject {
         QVERIFY(stage.waiting());
     }
 
-    void linkCancelsTheWaitAndBeginsAnew() {
+    void linkCancelsTheWaitAndBeginsAgain() {
         BrowserStage stage({account});
         stage.press(0);
         stage.clickLink();

@@ -117,7 +117,7 @@ class TestEvento : public QObject {
         QCOMPARE(ends, QList<int>{1});
     }
 
-    void carryOnTakesTheFailureBeforeTheEdge() {
+    void carryOnHandlesTheFailureBeforeTheEdge() {
         bool behind = false;
         evento([&] {
             Prosegui prosegui;
@@ -128,7 +128,7 @@ class TestEvento : public QObject {
         QVERIFY(ends.isEmpty());
     }
 
-    void fallBackTakesTheFailureBeforeTheEdge() {
+    void fallBackHandlesTheFailureBeforeTheEdge() {
         int value = 0;
         evento([&] { value = ripiega(7, []() -> int { fallisci(ErrorCode::FileNotFound); }); });
         QCOMPARE(value, 7);

@@ -105,7 +105,7 @@ class TestLavoro : public QObject {
         QCOMPARE(disk.uncovered, 0);
     }
 
-    void aFailedStatementTakesTheHourglassAway() {
+    void aFailedStatementRemovesTheHourglass() {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
@@ -161,7 +161,7 @@ class TestLavoro : public QObject {
         QCOMPARE(stage.control<QLineEdit>("txtSep")->text(), ";");
     }
 
-    void theAddressBookImportCountsEachEntryUnderTheHourglassAndIsSeenToDoSo() {
+    void theAddressBookImportCountsEachEntryVisiblyUnderTheHourglass() {
         ContactStage stage;
         QByteArray cards;
         for (int i = 0; i < 40; ++i)

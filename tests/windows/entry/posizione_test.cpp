@@ -103,7 +103,7 @@ class TestPosizione : public QObject {
         QCOMPARE(second.size(), QSize(600, 400));
     }
 
-    void aKeyWithNothingBehindItIsZero() {
+    void aKeyWithNothingAfterItIsZero() {
         StoreStage stage;
         QWidget window;
         window.setObjectName("frmMain");
@@ -166,7 +166,7 @@ class TestPosizione : public QObject {
         QCOMPARE(window.windowState(), Qt::WindowMaximized);
     }
 
-    void aStateThatDoesNotExistIsPassedOver() {
+    void aStateThatDoesNotExistIsIgnored() {
         StoreStage stage;
         QWidget window;
         window.setObjectName("frmMain");
@@ -211,7 +211,7 @@ class TestPosizione : public QObject {
         QCOMPARE(window.geometry(), QRect(7, 8, 300, 200));
     }
 
-    void absurdNumbersArePassedOverOneByOne() {
+    void absurdNumbersAreSkippedOneByOne() {
         StoreStage stage;
         QWidget window;
         window.setObjectName("frmMain");

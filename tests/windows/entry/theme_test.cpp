@@ -82,7 +82,7 @@ class TestTheme : public QObject {
         QCOMPARE(coloriTema[24], rgb(151, 160, 123));
     }
 
-    void mixingWithWhiteAtQuotaTenGivesTheGridsBackground() {
+    void mixingWithWhiteAtQuotaTenIsTheGridsBackground() {
         QCOMPARE(MescolaColori(rgb(212, 208, 200), rgb(255, 255, 255), 10), rgb(253, 253, 253));
     }
 

@@ -173,7 +173,7 @@ class TestImportCartella : public QObject {
         QCOMPARE(Stage::groupsInTable(), 1);
     }
 
-    void rootGivesZero() {
+    void rootReturnsZero() {
         Stage stage;
         stage.window();
         stage.clickNode("K0");

@@ -194,8 +194,8 @@ class TestImportContattiGuasti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
-    void databaseThatIsTakenAwayBeforehandGivesNoRowsAndNoMessage_data() { commands(); }
-    void databaseThatIsTakenAwayBeforehandGivesNoRowsAndNoMessage() {
+    void databaseThatIsRemovedBeforehandHasNoRowsAndCausesNoMessage_data() { commands(); }
+    void databaseThatIsRemovedBeforehandHasNoRowsAndCausesNoMessage() {
         QFETCH(QString, command);
         ContactStage stage;
         stage.writeCards(twoCards);
@@ -230,7 +230,7 @@ class TestImportContattiGuasti : public QObject {
         stage.writeHelper("{\"count\":4}\n" + contactLine("ada@example.it", "").repeated(4));
         stage.window();
         stage.chooseRoot();
-        // What a process leaves behind that goes without its destructors.
+        // What a process leaves that ends without its destructors.
         const QString left = stage.folder.path("rimasto.mdb");
         sostituisciTermine([&](int) { QFile::copy(percorsoDB, left); });
         if (byAFailure) MessageDialog::queue(MessageDialog::Ok);
@@ -251,8 +251,8 @@ class TestImportContattiGuasti : public QObject {
         QCOMPARE(rows.recordCount(), 2);
     }
 
-    void databaseThatIsTakenAwayMeanwhileKeepsTheRowsBefore_data() { commands(); }
-    void databaseThatIsTakenAwayMeanwhileKeepsTheRowsBefore() {
+    void databaseThatIsRemovedMeanwhileKeepsTheRowsBefore_data() { commands(); }
+    void databaseThatIsRemovedMeanwhileKeepsTheRowsBefore() {
         QFETCH(QString, command);
         ContactStage stage;
         QStringList all;

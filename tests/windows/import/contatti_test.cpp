@@ -233,7 +233,7 @@ class TestImportContatti : public QObject {
         expectLimits(stage);
     }
 
-    void outlookContactWithAnApostropheIsLeftOutAndTheOthersComeIn() {
+    void outlookContactWithAnApostropheIsLeftOutAndTheOthersAreImported() {
         ContactStage stage;
         stage.writeHelper("{\"count\":3}\n" + contactLine("uno@example.it", "Uno") +
                           contactLine("due@example.it", "Bar dell'Angolo") +

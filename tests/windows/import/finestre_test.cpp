@@ -86,8 +86,8 @@ class TestImportFinestre : public QObject {
         }
     }
 
-    void boxesStandInFourRowsOfFiveTheLastOfFour_data() { bothWindows(); }
-    void boxesStandInFourRowsOfFiveTheLastOfFour() {
+    void boxesAreInFourRowsOfFiveTheLastOfFour_data() { bothWindows(); }
+    void boxesAreInFourRowsOfFiveTheLastOfFour() {
         QFETCH(bool, text);
         Stage stage(text);
         const auto place = [&](int box) { return stage.box(box)->mapTo(&stage.dialog(), QPoint()); };
@@ -227,8 +227,8 @@ class TestImportFinestre : public QObject {
         QCOMPARE(stage.inserted("id_grp"), QStringList({"0", "0"}));
     }
 
-    void sameSourceTwiceGivesEveryRowTwice_data() { bothWindows(); }
-    void sameSourceTwiceGivesEveryRowTwice() {
+    void sameSourceTwiceInsertsEveryRowTwice_data() { bothWindows(); }
+    void sameSourceTwiceInsertsEveryRowTwice() {
         QFETCH(bool, text);
         Stage stage(text);
         stage.chooseNode();

@@ -199,7 +199,7 @@ class TestImportDbCampioni : public QObject {
         QCOMPARE(stage.tables(), QStringList("Table1"));
     }
 
-    void aLinkedTableIsListedAndGivesNoColumns() {
+    void aLinkedTableIsListedAndHasNoColumns() {
         if (missing()) return;
         DbStage stage;
         stage.open(copyOf("uc-linked.mdb", stage));

@@ -116,7 +116,7 @@ class TestImportDbGuasti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
-    void aSourceThatIsCutMeanwhileGivesItsBeginning() {
+    void aSourceThatIsCutMeanwhileIsReadToItsNewEnd() {
         DbStage stage;
         openLongSource(stage);
         bool cut = false;

@@ -137,7 +137,7 @@ class TestImportDb : public QObject {
         QVERIFY(stage.dialog().isVisible());
     }
 
-    void onlyTheAddressMappedGivesRowsWithEverythingElseEmpty() {
+    void onlyTheAddressMappedInsertsRowsWithEverythingElseEmpty() {
         DbStage stage;
         stage.addPeople({{words("a@x.it"), words("Anna")}, {words("b@x.it"), words("Bruno")}});
         stage.chooseNode();
@@ -319,7 +319,7 @@ class TestImportDb : public QObject {
         QCOMPARE(DbStage::inserted("email"), QStringList({"d@x.it"}));
     }
 
-    void onlySystemTablesGiveAnEmptyListAndAnImportThatStopsAtOnce() {
+    void onlySystemTablesLeadToAnEmptyListAndAnImportThatStopsAtOnce() {
         DbStage stage;
         esigi(schema::CreaDatabase(stage.source().toStdString()));
         QFile file(stage.source());

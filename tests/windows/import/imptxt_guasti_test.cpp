@@ -106,7 +106,7 @@ class TestImportTxtGuasti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
-    void aBinaryFileGivesNoRows() {
+    void aBinaryFileHasNoRows() {
         TxtStage stage;
         stage.chooseNode(1);
         QByteArray bytes;
@@ -156,7 +156,7 @@ class TestImportTxtGuasti : public QObject {
         QCOMPARE(TxtStage::recipients(), 0);
     }
 
-    void aFileThatIsCutMeanwhileGivesItsBeginning() {
+    void aFileThatIsCutMeanwhileIsReadToItsNewEnd() {
         TxtStage stage;
         stage.chooseNode(1);
         const QString path = stage.write("a.txt", longList());
@@ -254,7 +254,7 @@ class TestImportTxtGuasti : public QObject {
         QCOMPARE(stage.faults(), QStringList());
     }
 
-    void aDatabaseThatIsTakenAwayMeanwhileIsAFailureAndTheRowsBeforeStay() {
+    void aDatabaseThatIsRemovedMeanwhileIsAFailureAndTheRowsBeforeStay() {
         TxtStage stage;
         stage.chooseNode(1);
         stage.map(stage.write("a.txt", longList()), 1);

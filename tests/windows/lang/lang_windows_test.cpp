@@ -60,7 +60,7 @@ class TestLangWindows : public QObject {
         QCOMPARE(bVAR::xxxNome, "Name");
     }
 
-    void anEmptyTextGivesAnEmptyCaption() {
+    void anEmptyTextIsAnEmptyCaption() {
         LangStage stage;
         setFile(stage, "[<FORM>]: frmInvia\r\n[<NOME>]cmdInvia.Caption[<LNG1>]a[<LNG2>][<LNG3>]\r\n");
         finestre::Main();

@@ -124,7 +124,7 @@ class TestDialoghi : public QObject {
         QCOMPARE(stage().body(), "<p>testo<a href=\"mailto:info@example.it\">scrivici</a></p>");
     }
 
-    void aLinkCanBeChangedAndTakenAway() {
+    void aLinkCanBeChangedAndRemoved() {
         stage().fill("<p><a href=\"mailto:a@x.it\">testo</a></p>");
         stage().caret("a", 2);
         stage().inDialog<ui::LinkDialog>([&](QWidget& dialog) {

@@ -389,7 +389,7 @@ class TestDocumento : public QObject {
         QCOMPARE(stage().body(), "<p>aperto</p>");
     }
 
-    void aPathThatCannotBeWrittenGivesTitleAndPathAndStaysMarked() {
+    void aPathThatCannotBeWrittenSetsTitleAndPathAndStaysMarked() {
         change();
         FileDialog::queue(stage().path("manca/x.mss"));
         MessageDialog::queue(MessageDialog::Ok);

@@ -122,7 +122,7 @@ class TestPagina : public QObject {
         QVERIFY(stage().marked());
     }
 
-    void aFileThatIsNotThereIsPassedOver() {
+    void aFileThatIsNotThereIsSkipped() {
         FileDialog::queue(stage().path("manca.txt"));
         stage().start("cmdAllegatiNew");
         QCOMPARE(list().topLevelItemCount(), 0);
@@ -262,7 +262,7 @@ class TestPagina : public QObject {
         });
     }
 
-    void theFirstTwoMarginsAreWrittenAnewAndTheOthersInTheirPlace() {
+    void theFirstTwoMarginsAreWrittenAgainAndTheOthersInTheirPlace() {
         static_cast<void>(stage().design().setDocumentHTML(
             "<body leftmargin=\"1\" topmargin=\"2\" marginwidth=\"3\" marginheight=\"4\" id=\"x\">y"));
         properties("cdmSalva");

@@ -289,7 +289,7 @@ class TestSicuro : public QObject {
         QVERIFY(!stage().body().contains(":::nom:::"));
     }
 
-    void aBrowserThatDiesBehindAnotherTabTakesNothingAlong() {
+    void aBrowserThatCrashesUnderAnotherTabLosesNothing() {
         stage().fill("<p>uno</p>");
         stage().chooseTab(1);
         endBrowserOf(stage().design());

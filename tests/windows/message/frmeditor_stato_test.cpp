@@ -264,7 +264,7 @@ class TestStato : public QObject {
         }
     }
 
-    void keysOfABarThatIsOffAreDead() {
+    void keysOfABarThatIsOffHaveNoEffect() {
         stage().fill("<p>testo</p>");
         stage().select("p", 0, 5);
         stage().chooseTab(1);

@@ -76,7 +76,7 @@ class TestFrmInviaFile : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void receivedMessageCarriesNothingAwayUnlessTheUserAgrees() {
+    void receivedMessageSendsNoFileUnlessTheUserAgrees() {
         Prey prey;
         prey.stage.pick(prey.receive());
         QCOMPARE(prey.ask(MessageDialog::No), 4);
@@ -173,7 +173,7 @@ class TestFrmInviaFile : public QObject {
         QVERIFY(MessageDialog::shown().first().rows[0][0].contains(prey.key()));
     }
 
-    void linkThatIsTurnedAfterTheQuestionLeadsNowhere() {
+    void linkThatIsChangedAfterTheQuestionHasNoEffect() {
         Prey prey;
         const QString link = prey.stage.folder.path("vacanze.pdf");
         const QString image = prey.stage.folder.path("logo.png");
@@ -255,7 +255,7 @@ class TestFrmInviaFile : public QObject {
         QCOMPARE(prey.stage.counters(), (QList<double>{0, 0, 1}));
     }
 
-    void listThatAnotherMayWriteIsNotBelieved() {
+    void listThatAnotherMayWriteIsNotUsed() {
         Prey prey;
         prey.stage.pick(prey.stage.folder.writeMessage("mio.mss", Prey::message({prey.offer()})));
         QFile list(prey.stage.folder.path("data/messaggi-noti.json"));

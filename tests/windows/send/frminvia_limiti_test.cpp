@@ -51,7 +51,7 @@ class TestFrmInviaLimiti : public QObject {
     }
 
   private Q_SLOTS:
-    void everyPauseGivesItsInterval_data() {
+    void everyPauseHasItsInterval_data() {
         QTest::addColumn<int>("entry");
         QTest::addColumn<int>("interval");
         const int intervals[] = {200,  500,  1000, 1500,  2000,  2500,  3000, 3500,
@@ -60,7 +60,7 @@ class TestFrmInviaLimiti : public QObject {
         for (const int interval : intervals)
             QTest::newRow(qPrintable(QString::number(interval))) << entry++ << interval;
     }
-    void everyPauseGivesItsInterval() {
+    void everyPauseHasItsInterval() {
         QFETCH(int, entry);
         QFETCH(int, interval);
         SendStage stage({"a@x.it"});
@@ -275,7 +275,7 @@ class TestFrmInviaLimiti : public QObject {
         QVERIFY(log.readAll().contains("a@x.it"));
     }
 
-    void logThatCannotBeOpenedIsToldAndTheRunGoesOn() {
+    void logThatCannotBeOpenedIsReportedAndTheRunContinues() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.pick();
         stage.click("chkLog");

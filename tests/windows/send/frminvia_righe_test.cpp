@@ -71,7 +71,7 @@ class TestFrmInviaRighe : public QObject {
     }
 
     // The walk is past the end: no row is read, and nothing is sent.
-    void rowDeselectedDuringARunIsNotServedAndTheCountsGoOn() {
+    void rowDeselectedDuringARunIsNotServedAndTheCountsContinue() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.sink.onMessage([](const SmtpSink::Message&) {
             change("UPDATE [tb_destinatari] SET [sel] = False WHERE [email] = 'b@x.it';");
@@ -109,7 +109,7 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(SampleFolder::selected(), QStringList{"Rossi <b@x.it>"});
     }
 
-    void nullKeepsThePlaceholderInAllThreeTextsAndAnEmptyTextTakesItAway() {
+    void nullKeepsThePlaceholderInAllThreeTextsAndAnEmptyTextRemovesIt() {
         SendStage stage(QList<SampleFolder::Columns>{{{"rgs", "A"}, {"nom", QString()}, {"email", "a@x.it"}},
                                                      {{"rgs", "B"}, {"nom", ""}, {"email", "b@x.it"}}});
         QStringList texts;
@@ -129,7 +129,7 @@ class TestFrmInviaRighe : public QObject {
         QCOMPARE(texts[5], "per !");
     }
 
-    void normalFormAndVisibleTextGoOutWithTheValuesAsTheyStand() {
+    void normalFormAndVisibleTextGoOutWithTheValuesUnchanged() {
         SendStage stage(QList<SampleFolder::Columns>{{{"nom", "Anna & <b>"}, {"email", "a@x.it"}}});
         stage.pick(stage.folder.writeMessage(
             "n.mss", {"x", "NR", {}, "<P CLASS=a>Gentile <I>:::nom:::</I><BR><A HREF=?:::nom:::>qui"}));

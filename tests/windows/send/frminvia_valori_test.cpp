@@ -95,7 +95,7 @@ class TestFrmInviaValori : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void valueThatNamesAFileBringsNoneAlong_data() {
+    void valueThatNamesAFileInsertsNone_data() {
         QTest::addColumn<QString>("pattern");  // %1 a text file, %2 an image, each of them there
         QTest::newRow("passwords") << "<img src=\"file:///etc/passwd\">";
         QTest::newRow("image") << "<img src=\"%2\">";
@@ -112,7 +112,7 @@ class TestFrmInviaValori : public QObject {
         QTest::newRow("link to sign off") << "<a rel=\"unsubscribe\" href=\"https://spia.example/\">x</a>";
         QTest::newRow("base") << "<base href=\"file:///etc/\"><meta charset=\"utf-7\">";
     }
-    void valueThatNamesAFileBringsNoneAlong() {
+    void valueThatNamesAFileInsertsNone() {
         QFETCH(QString, pattern);
         Temptation temptation({});
         SendStage& stage = temptation.stage;

@@ -119,7 +119,7 @@ class TestBars : public QObject {
         QVERIFY(!stage.window().findChild<QAction*>(expected.name)->icon().isNull());
     }
 
-    void menusStandInTheirOrder_data() {
+    void menusAreInTheirOrder_data() {
         QTest::addColumn<QByteArray>("menu");
         QTest::addColumn<QStringList>("items");
         QTest::newRow("file") << QByteArray("mnuFile")
@@ -158,7 +158,7 @@ class TestBars : public QObject {
                                              "|",
                                              "cmdPopMailingSvuotaCartella"};
     }
-    void menusStandInTheirOrder() {
+    void menusAreInTheirOrder() {
         QFETCH(QByteArray, menu);
         QFETCH(QStringList, items);
         StoreStage stage;
@@ -194,7 +194,7 @@ class TestBars : public QObject {
         }
     }
 
-    void barsStandInTheOrderOfTheWork() {
+    void barsAreInTheOrderOfTheWork() {
         StoreStage stage;
         QCOMPARE(
             namesOf(*bar(stage, "Mailing")),
@@ -218,7 +218,7 @@ class TestBars : public QObject {
                             [](const QAction* a) { return a->text() == "&Spedisci"; }));
     }
 
-    void buttonsTellAssistiveProgramsTheirCaptionAndDescription() {
+    void buttonsReportTheirCaptionAndDescriptionToAssistivePrograms() {
         StoreStage stage;
         QAccessibleInterface* face = QAccessible::queryAccessibleInterface(button(stage, "cmdMailingApri"));
         QCOMPARE(face->text(QAccessible::Name), "Apri Mailing List");

@@ -261,7 +261,7 @@ class TestCommands : public QObject {
         QCOMPARE(opener.opened(), target);
     }
 
-    void aDesktopThatOpensNothingIsPassedOver() {
+    void aDesktopThatOpensNothingIsIgnored() {
         StoreStage stage;
         stage.window();
         const QByteArray path = qgetenv("PATH");

@@ -72,7 +72,7 @@ class TestInfoSu : public QObject {
         QVERIFY(window.isVisible());
     }
 
-    void aDesktopThatOpensNothingIsPassedOver() {
+    void aDesktopThatOpensNothingIsIgnored() {
         StoreStage stage;
         frmInfoSu& window = opened(stage);
         const QByteArray path = qgetenv("PATH");

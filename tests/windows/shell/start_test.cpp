@@ -76,7 +76,7 @@ class TestStart : public QObject {
             QApplication::restoreOverrideCursor();
     }
 
-    void aJournalThatDoesNotBelongToTheDatabaseIsSetAsideAndTold() {
+    void aJournalThatDoesNotBelongToTheDatabaseIsSetAsideAndReported() {
         StoreStage stage;
         writeFile(stage.folder.database() + "-journal", QByteArray(5000, 'x'));
         MessageDialog::queue(MessageDialog::Ok);
@@ -239,7 +239,7 @@ class TestStart : public QObject {
         QVERIFY(!QFile::exists(stage.folder.path("data/LayoutMain.imp")));
     }
 
-    void anotherDatabaseLetsTheStartGoOn() {
+    void anotherDatabaseLetsTheStartContinue() {
         StoreStage stage;
         setPathFile(stage, "h\r\n/nowhere\r\n");
         MessageDialog::queue(1);

@@ -82,7 +82,7 @@ class TestStrumenti : public QObject {
         QCOMPARE(opened, 1);
     }
 
-    void aToolIsIgnoredWhileTheHandlerOfAToldCommandRuns() {
+    void aToolIsIgnoredWhileTheHandlerOfAReportedCommandRuns() {
         StoreStage stage;
         stage.window();
         int opened = 0;

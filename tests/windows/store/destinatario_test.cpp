@@ -99,7 +99,7 @@ class TestDestinatario : public QObject {
             QVERIFY2(form.findChild<QWidget*>(name), name);
     }
 
-    void itemsStandInOrderWithTheirCaptionsAndGroups() {
+    void itemsAreInOrderWithTheirCaptionsAndGroups() {
         StoreStage stage;
         QTreeWidget& list = lines(stage.form());
         QStringList wanted{"Dati destinatario", "Send"};

@@ -164,7 +164,7 @@ class TestAspetto : public QObject {
         keepPicture(stage.form(), "destinatario_14pt");
     }
 
-    void buttonsStandAtTheBottomRight() {
+    void buttonsAreAtTheBottomRight() {
         StoreStage stage;
         frmDestinatario& form = stage.form();
         form.show();

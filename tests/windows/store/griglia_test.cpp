@@ -30,7 +30,7 @@ class TestGriglia : public QObject {
     static void moveOver(StoreStage& stage, int x = 100) { mouse::move(&stage.grd(), QPoint(x, 300)); }
 
   private Q_SLOTS:
-    void columnsStandInTheOrderOfTheScreen() {
+    void columnsAreInTheOrderOfTheScreen() {
         StoreStage stage;
         stage.folder.addRecipient({{"rgs", "RGS"},   {"nom", "NOM"},     {"piva", "PIVA"}, {"ind", "IND"},
                                    {"cap", "CAP"},   {"loc", "LOC"},     {"prov", "PR"},   {"tel", "TEL"},
@@ -168,7 +168,7 @@ class TestGriglia : public QObject {
         QCOMPARE(stage.grd().CellChecked(), 2);
     }
 
-    void theSentenceOverAnEmptyGridIsTrueAfterRowsCameBehindItsBack() {
+    void theSentenceOverAnEmptyGridIsTrueAfterRowsWereAddedElsewhere() {
         StoreStage stage;
         QCOMPARE(stage.grd().EmptyText(), "Scegliere una cartella");
         stage.clickNode("K1");

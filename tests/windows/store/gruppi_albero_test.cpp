@@ -23,7 +23,7 @@ class TestGruppiAlbero : public QObject {
     }
 
   private Q_SLOTS:
-    void emptyTableGivesTheRootAloneExpanded() {
+    void emptyTableShowsTheRootAloneExpanded() {
         StoreStage stage;
         StoreStage::run("DELETE FROM [tb_gruppi];");
         QCOMPARE(stage.tree().Count(), 1);

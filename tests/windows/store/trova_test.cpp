@@ -179,7 +179,7 @@ class TestTrova : public QObject {
         QTRY_COMPARE(stage.row(), QString("Circolo PERU"));
     }
 
-    void matchesWithoutAWayAreToldAndNotGoneTo() {
+    void matchesWithoutAWayAreReportedAndNotShown() {
         Scena stage;
         const int id = stage.addRecipient(777, "Perduto Perù");
         Q_UNUSED(id)
@@ -208,7 +208,7 @@ class TestTrova : public QObject {
         QTRY_COMPARE(stage.row(), QString("Rifugio Perù"));
     }
 
-    void folderThatWasEmptiedMeanwhileIsPassedOver() {
+    void folderThatWasEmptiedMeanwhileIsSkipped() {
         Scena stage;
         stage.window();
         stage.open();
@@ -300,7 +300,7 @@ class TestTrova : public QObject {
         QVERIFY(stage.ends.isEmpty());
     }
 
-    void otherDatabaseIsSearchedAnew() {
+    void otherDatabaseIsSearchedAgain() {
         Scena stage;
         stage.open();
         stage.everywhere();
@@ -318,7 +318,7 @@ class TestTrova : public QObject {
         QTRY_COMPARE(stage.row(), QString("Altro Perù"));
     }
 
-    void headingSortsTheViewAndAReloadBringsTheToldOrderBack() {
+    void headingSortsTheViewAndAReloadRestoresTheOrderOfTheStatement() {
         Scena stage;
         stage.clickNode("K1");
         const QString before = stage.selections();

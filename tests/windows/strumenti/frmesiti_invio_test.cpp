@@ -113,7 +113,7 @@ class TestFrmEsitiInvio : public QObject {
         QVERIFY(!described(stage.control<QWidget>("prgDaInviare")).contains("Tempo"));
     }
 
-    void failuresTellTheLastReason() {
+    void failuresShowTheLastReason() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.sink.refuse("a@x.it", "550 5.1.1 <b>unknown</b>");
         auto* label = stage.control<QLabel>("lblFallite");

@@ -58,7 +58,7 @@ class TestFrmProva : public QObject {
         QCOMPARE(stage.text("lblStato"), "Nessun destinatario selezionato contiene \"nessuno\".");
     }
 
-    void findingsStandByWeightAndLeadToTheFirstRecipient() {
+    void findingsAreSortedByWeightAndLeadToTheFirstRecipient() {
         ProvaStage stage(threeRecipients());
         stage.editorFile = stage.folder.writeMessage();
         stage.prova();

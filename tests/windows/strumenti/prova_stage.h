@@ -38,7 +38,7 @@ class ProvaStage : public SendStage {
     QString text(const char* name) { return its<QLabel>(name)->text(); }
     QString line(const char* name) { return its<QLineEdit>(name)->text(); }
     void press(const char* name) { QTest::mouseClick(its<QPushButton>(name), Qt::LeftButton); }
-    /// Chooses an account, made anew, that leads to a server on this port of loopback. To be called before
+    /// Chooses a new account that leads to a server on this port of loopback. To be called before
     /// the window is there.
     void useServer(quint16 port) {
         Account another = SampleFolder::loopbackAccount(port);
