@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFontInfo>
 #include <QFrame>
+#include <QLabel>
 #include <QPushButton>
 
 namespace {
@@ -34,6 +35,11 @@ int ui::scaledToFont(const QWidget& widget, int length) {
 
 QString ui::spokenCaption(QString caption) {
     return caption.remove('&').remove(':');
+}
+
+void ui::bindLabel(QLabel* label, QWidget* control) {
+    label->setBuddy(control);
+    control->setAccessibleName(spokenCaption(label->text()));
 }
 
 QPushButton* ui::commandButton(const QString& caption, const QString& name, QWidget* parent) {

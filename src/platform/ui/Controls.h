@@ -5,6 +5,7 @@
 #include <QString>
 
 class QFrame;
+class QLabel;
 class QPushButton;
 class QWidget;
 
@@ -31,6 +32,10 @@ int scaledToFont(const QWidget& widget, int length);
 
 /// A caption as assistive programs say it: without the mark of its access key and without the colon.
 QString spokenCaption(QString caption);
+
+/// Makes a label the one of a control: its access key leads there, and its caption is the control's name for
+/// assistive programs.
+void bindLabel(QLabel* label, QWidget* control);
 
 /// A command button of a dialog, which presses it by the Enter key only where it is made the default one.
 QPushButton* commandButton(const QString& caption, const QString& name, QWidget* parent);

@@ -43,8 +43,7 @@ void DialogForm::addField(const QString& label, QWidget* field) {
     const int row = m_fields->rowCount();
     if (!label.isEmpty()) {
         auto* text = new QLabel(label, m_dialog);
-        text->setBuddy(field);
-        field->setAccessibleName(spokenCaption(label));
+        bindLabel(text, field);
         m_fields->addWidget(text, row, 0);
     }
     m_fields->addWidget(field, row, 1);

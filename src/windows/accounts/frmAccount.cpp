@@ -39,10 +39,6 @@ void frmAccount::makeControls() {
 }
 
 void frmAccount::CollegaEventi() {
-    const auto alClick = [this](QAbstractButton* pulsante, void (frmAccount::*gestore)()) {
-        connect(pulsante, &QAbstractButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
     // A check box runs its handler whenever its value changes, by the user or by code.
     const auto alCambio = [this](QCheckBox* casella, void (frmAccount::*gestore)()) {
         connect(casella, &QCheckBox::toggled, this, [this, gestore] { evento([&] { (this->*gestore)(); }); });
@@ -55,9 +51,9 @@ void frmAccount::CollegaEventi() {
     alCambio(chkUsaSMTP, &frmAccount::chkUsaSMTP_Click);
     alCambio(chkAutentick, &frmAccount::chkAutentick_Click);
     alCambio(chkAvanzate, &frmAccount::chkAvanzate_Click);
-    alClick(cmdNuovo, &frmAccount::cmdNuovo_Click);
-    alClick(cmdModifica, &frmAccount::cmdModifica_Click);
-    alClick(cmdChiudi, &frmAccount::cmdChiudi_Click);
+    alClick(cmdNuovo, this, &frmAccount::cmdNuovo_Click);
+    alClick(cmdModifica, this, &frmAccount::cmdModifica_Click);
+    alClick(cmdChiudi, this, &frmAccount::cmdChiudi_Click);
     for (QLineEdit* casella :
          {txtNomeVisual, txtEmail, txtServerSMTP, txtServerPORT, txtUsername, txtPassword})
         casella->installEventFilter(this);

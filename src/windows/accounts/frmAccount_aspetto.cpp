@@ -250,8 +250,7 @@ QWidget* frmAccount::DisponiAvanzate() {
 /// Names for assistive programs, from the captions unchanged.
 void frmAccount::CollegaEtichette() {
     const auto collega = [this](std::size_t indice, QWidget* controllo, int esempio = -1) {
-        lbl[indice]->setBuddy(controllo);
-        controllo->setAccessibleName(ui::spokenCaption(lbl[indice]->text()));
+        ui::bindLabel(lbl[indice], controllo);
         if (esempio >= 0) controllo->setAccessibleDescription(lbl[static_cast<std::size_t>(esempio)]->text());
     };
     collega(1, lstAccount);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <QAbstractButton>
+#include <type_traits>
 #include <utility>
 
 #include "modules/core/Fallimento.h"
@@ -71,4 +73,17 @@ void evento(Gestore&& gestore) {
         if (!HandlerInCorso::alcuno()) mostraAvvisi();
     } catch (const ProgrammaTerminato&) {
     }
+}
+
+/// Has each click on a button run `gestore` as a handler of its own: a member of the window, or a function.
+template <class Finestra, class Gestore>
+void alClick(QAbstractButton* pulsante, Finestra* finestra, Gestore gestore) {
+    QObject::connect(pulsante, &QAbstractButton::clicked, finestra, [finestra, gestore] {
+        evento([&] {
+            if constexpr (std::is_member_function_pointer_v<Gestore>)
+                (finestra->*gestore)();
+            else
+                gestore();
+        });
+    });
 }

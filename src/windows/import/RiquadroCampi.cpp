@@ -38,8 +38,7 @@ RiquadroCampi::RiquadroCampi(QWidget* parent) : QWidget(parent), griglia(new QGr
         box->setMinimumHeight(ui::fieldHeight);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(8);
-        box->setAccessibleName(ui::spokenCaption(etichetta->text()));
-        etichetta->setBuddy(box);
+        ui::bindLabel(etichetta, box);
         lblcmp[static_cast<std::size_t>(numero)] = etichetta;
         boxes[static_cast<std::size_t>(i)] = box;
         const int riga = i / colonneGriglia * 3;

@@ -18,8 +18,7 @@ QGridLayout* DisponiSorgente(std::initializer_list<RigaSorgente> sorgente) {
     griglia->setColumnStretch(1, 1);
     int riga = 0;
     for (const auto& [etichetta, campo, pulsante] : sorgente) {
-        etichetta->setBuddy(campo);
-        campo->setAccessibleName(ui::spokenCaption(etichetta->text()));
+        ui::bindLabel(etichetta, campo);
         campo->setMinimumHeight(ui::fieldHeight);
         griglia->addWidget(etichetta, riga, 0);
         griglia->addWidget(campo, riga, 1);

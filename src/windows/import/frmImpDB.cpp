@@ -49,13 +49,9 @@ void frmImpDB::makeControls() {
 }
 
 void frmImpDB::CollegaEventi() {
-    const auto alClick = [this](QPushButton* pulsante, void (frmImpDB::*gestore)()) {
-        connect(pulsante, &QPushButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
-    alClick(cmdSfoglia, &frmImpDB::cmdSfoglia_Click);
-    alClick(cmdApri, &frmImpDB::ElencaTabelle);
-    alClick(cmdImportaDB, &frmImpDB::cmdImportaDB_Click);
+    alClick(cmdSfoglia, this, &frmImpDB::cmdSfoglia_Click);
+    alClick(cmdApri, this, &frmImpDB::ElencaTabelle);
+    alClick(cmdImportaDB, this, &frmImpDB::cmdImportaDB_Click);
     connect(cmdChiudi, &QPushButton::clicked, this, &QWidget::hide);
     connect(cmbTab, &QComboBox::activated, this, [this] { evento([this] { cmbTab_Click(); }); });
 }

@@ -58,12 +58,8 @@ void frmImpTXT::makeControls() {
 }
 
 void frmImpTXT::CollegaEventi() {
-    const auto alClick = [this](QPushButton* pulsante, void (frmImpTXT::*gestore)()) {
-        connect(pulsante, &QPushButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
-    alClick(cmdSfoglia, &frmImpTXT::cmdSfoglia_Click);
-    alClick(cmdImportaTXT, &frmImpTXT::cmdImportaTXT_Click);
+    alClick(cmdSfoglia, this, &frmImpTXT::cmdSfoglia_Click);
+    alClick(cmdImportaTXT, this, &frmImpTXT::cmdImportaTXT_Click);
     connect(cmdChiudi, &QPushButton::clicked, this, &QWidget::hide);
     connect(&riquadroCampi->cmbCmp(campi::boxEmail), &QComboBox::currentIndexChanged, this,
             [this] { evento([this] { cmbCmp_Click(); }); });

@@ -23,8 +23,8 @@ void frmScelta::makeControls() {
     cmdAnnulla = ui::commandButton("&Annulla", "cmdAnnulla", this);
     DisponiImportazione(*this, {}, nullptr, *riquadro, {cmdOK, cmdAnnulla});
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, [this] { evento([this] { cmdOK_Click(); }); });
-    connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { cmdAnnulla_Click(); }); });
+    alClick(cmdOK, this, &frmScelta::cmdOK_Click);
+    alClick(cmdAnnulla, this, &frmScelta::cmdAnnulla_Click);
     ui::openAtLeast(*this, {440, 190});
     ui::setUpDialog(*this);
 }

@@ -79,8 +79,8 @@ void frmPropBody::makeControls() {
     prp->addText(sfondo.chiave, "Immagine di sfondo",
                  Words::tr("Percorso o indirizzo dell'immagine di sfondo"));
     DisponiScheda(*this, {lbl, prp, cdmSalva, cmdAnnulla}, "document-properties");
-    connect(cdmSalva, &QPushButton::clicked, this, [this] { evento([this] { cdmSalva_Click(); }); });
-    connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
+    alClick(cdmSalva, this, &frmPropBody::cdmSalva_Click);
+    alClick(cmdAnnulla, this, &QWidget::hide);
     resize(440, 460);
     ui::setUpDialog(*this);
 }

@@ -196,19 +196,15 @@ QGridLayout* frmInvia::DisponiContatori() {
 }
 
 void frmInvia::CollegaEtichette() {
-    const auto collega = [](QLabel* etichetta, QWidget* controllo) {
-        etichetta->setBuddy(controllo);
-        controllo->setAccessibleName(ui::spokenCaption(etichetta->text()));
-    };
-    collega(lblFile, txtFile);
-    collega(lblMittente, cmbAccount);
-    collega(lblPausa, cmbPausa);
-    collega(lblTimeOut, cmbTimeout);
-    collega(lblBlocco1, txtBloccoMin);
-    collega(lblBlocco2, txtBloccoMin);
-    collega(lblDaInviare, prgDaInviare);
-    collega(lblFallite, prgFallite);
-    collega(lblInviate, prgInviate);
+    ui::bindLabel(lblFile, txtFile);
+    ui::bindLabel(lblMittente, cmbAccount);
+    ui::bindLabel(lblPausa, cmbPausa);
+    ui::bindLabel(lblTimeOut, cmbTimeout);
+    ui::bindLabel(lblBlocco1, txtBloccoMin);
+    ui::bindLabel(lblBlocco2, txtBloccoMin);
+    ui::bindLabel(lblDaInviare, prgDaInviare);
+    ui::bindLabel(lblFallite, prgFallite);
+    ui::bindLabel(lblInviate, prgInviate);
     for (QCheckBox* casella : {chkBlocco, chkLog})
         casella->setAccessibleName(ui::spokenCaption(casella->text()));
     NominaSenzaEtichetta();
@@ -224,14 +220,10 @@ void frmInvia::NominaSenzaEtichetta() {
 }
 
 void frmInvia::CollegaEventi() {
-    const auto alClick = [this](QAbstractButton* pulsante, void (frmInvia::*gestore)()) {
-        connect(pulsante, &QAbstractButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
-    alClick(cmdFile, &frmInvia::cmdFile_Click);
-    alClick(cmdInvia, &frmInvia::cmdInvia_Click);
-    alClick(cmdFerma, &frmInvia::cmdFerma_Click);
-    alClick(cmdChiudi, &frmInvia::cmdChiudi_Click);
+    alClick(cmdFile, this, &frmInvia::cmdFile_Click);
+    alClick(cmdInvia, this, &frmInvia::cmdInvia_Click);
+    alClick(cmdFerma, this, &frmInvia::cmdFerma_Click);
+    alClick(cmdChiudi, this, &frmInvia::cmdChiudi_Click);
     connect(chkBlocco, &QCheckBox::toggled, this, [this] { evento([&] { chkBlocco_Click(); }); });
     connect(tmr, &QTimer::timeout, this, [this] { evento([&] { tmr_Timer(); }); });
     connect(SMTP, &mail::DeliveryControl::SendDone, this, [this] { mailInviata = true; });

@@ -41,8 +41,8 @@ void frmDestinatario::makeControls() {
     txtIDgroup->hide();
     CreaVoci();
     DisponiScheda(*this, {lbl, prp, cdmSalva, cmdAnnulla}, "user-properties");
-    connect(cdmSalva, &QPushButton::clicked, this, [this] { evento([this] { cdmSalva_Click(); }); });
-    connect(cmdAnnulla, &QPushButton::clicked, this, [this] { evento([this] { hide(); }); });
+    alClick(cdmSalva, this, &frmDestinatario::cdmSalva_Click);
+    alClick(cmdAnnulla, this, &QWidget::hide);
     const QSize dimensione(ui::scaledToFont(*this, 460), ui::scaledToFont(*this, 640));
     resize(dimensione.boundedTo(screen()->availableSize()));
     ui::setUpDialog(*this);

@@ -82,7 +82,7 @@ frmChiaveDkim::frmChiaveDkim(const QByteArray& dominio, const mail::DkimKey& chi
     copia(Words::tr("Copia riga di &zona"), "cmdCopiaZona", record.rigaDiZona,
           Words::tr("La riga è negli appunti."));
     QPushButton* const cmdChiudi = modulo.addButton(Words::tr("&Chiudi"), "cmdChiudi");
-    connect(cmdChiudi, &QPushButton::clicked, this, [this] { evento([this] { accept(); }); });
+    alClick(cmdChiudi, this, &QDialog::accept);
     modulo.finish(valore, 680);
     valore->setFocus();
     ui::setUpDialog(*this);

@@ -69,10 +69,8 @@ void frmControlloMittente::CreaControlli() {
     cmdCopia = ui::commandButton(Words::tr("Copia &tutto"), "cmdCopia", this);
     cmdChiudi = ui::commandButton(Words::tr("&Chiudi"), "cmdChiudi", this);
     annuncio = new ui::Announcer(this);
-    lblAccount->setBuddy(cmbAccount);
-    cmbAccount->setAccessibleName(ui::spokenCaption(lblAccount->text()));
-    lblDettagli->setBuddy(txtDettagli);
-    txtDettagli->setAccessibleName(ui::spokenCaption(lblDettagli->text()));
+    ui::bindLabel(lblAccount, cmbAccount);
+    ui::bindLabel(lblDettagli, txtDettagli);
     cmdChiave->setAccessibleDescription(
         Words::tr("Crea la chiave con cui firmare i messaggi, o mostra quella che c'è"));
 }
@@ -103,15 +101,11 @@ void frmControlloMittente::DisponiControlli() {
 }
 
 void frmControlloMittente::CollegaEventi() {
-    const auto alClic = [this](QPushButton* pulsante, void (frmControlloMittente::*gestore)()) {
-        connect(pulsante, &QPushButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
-    alClic(cmdControlla, &frmControlloMittente::cmdControlla_Click);
-    alClic(cmdInterrompi, &frmControlloMittente::Interrompi);
-    alClic(cmdChiave, &frmControlloMittente::cmdChiave_Click);
-    alClic(cmdCopia, &frmControlloMittente::cmdCopia_Click);
-    alClic(cmdChiudi, &frmControlloMittente::cmdChiudi_Click);
+    alClick(cmdControlla, this, &frmControlloMittente::cmdControlla_Click);
+    alClick(cmdInterrompi, this, &frmControlloMittente::Interrompi);
+    alClick(cmdChiave, this, &frmControlloMittente::cmdChiave_Click);
+    alClick(cmdCopia, this, &frmControlloMittente::cmdCopia_Click);
+    alClick(cmdChiudi, this, &frmControlloMittente::cmdChiudi_Click);
     connect(grdRighe, &QTableWidget::currentCellChanged, this,
             [this] { evento([this] { MostraDettagli(); }); });
     connect(grdRighe->horizontalHeader(), &QHeaderView::sectionResized, grdRighe,

@@ -174,17 +174,13 @@ QLayout* frmEsiti::DisponiComandi() {
 }
 
 void frmEsiti::CollegaEventi() {
-    const auto alClick = [this](QAbstractButton* pulsante, void (frmEsiti::*gestore)()) {
-        connect(pulsante, &QAbstractButton::clicked, this,
-                [this, gestore] { evento([&] { (this->*gestore)(); }); });
-    };
-    alClick(cmdElimina, &frmEsiti::cmdElimina_Click);
-    alClick(cmdEliminaTutti, &frmEsiti::cmdEliminaTutti_Click);
-    alClick(cmdSeleziona, &frmEsiti::cmdSeleziona_Click);
-    alClick(cmdDeseleziona, &frmEsiti::cmdDeseleziona_Click);
-    alClick(cmdCopia, &frmEsiti::cmdCopia_Click);
-    alClick(cmdSalva, &frmEsiti::cmdSalva_Click);
-    alClick(chkRegistro, &frmEsiti::chkRegistro_Click);
+    alClick(cmdElimina, this, &frmEsiti::cmdElimina_Click);
+    alClick(cmdEliminaTutti, this, &frmEsiti::cmdEliminaTutti_Click);
+    alClick(cmdSeleziona, this, &frmEsiti::cmdSeleziona_Click);
+    alClick(cmdDeseleziona, this, &frmEsiti::cmdDeseleziona_Click);
+    alClick(cmdCopia, this, &frmEsiti::cmdCopia_Click);
+    alClick(cmdSalva, this, &frmEsiti::cmdSalva_Click);
+    alClick(chkRegistro, this, &frmEsiti::chkRegistro_Click);
     connect(cmdChiudi, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmbInvio, &QComboBox::currentIndexChanged, this, [this] { evento([&] { cmbInvio_Click(); }); });
     for (QComboBox* elenco : {cmbEsito, cmbMotivo})

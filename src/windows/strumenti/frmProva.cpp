@@ -242,17 +242,13 @@ QLayout* frmProva::DisponiInvio() {
 }
 
 void frmProva::CollegaEtichette() {
-    const auto collega = [](QLabel* etichetta, QWidget* campo) {
-        etichetta->setBuddy(campo);
-        campo->setAccessibleName(ui::spokenCaption(etichetta->text()));
-    };
-    collega(lblFile, cmbFile);
-    collega(lblDestinatario, txtDestinatario);
-    collega(lblCerca, txtCerca);
-    collega(lblOggetto, txtOggetto);
-    collega(lblRilievi, lstRilievi);
-    collega(lblAccount, cmbAccount);
-    collega(lblIndirizzo, txtIndirizzo);
+    ui::bindLabel(lblFile, cmbFile);
+    ui::bindLabel(lblDestinatario, txtDestinatario);
+    ui::bindLabel(lblCerca, txtCerca);
+    ui::bindLabel(lblOggetto, txtOggetto);
+    ui::bindLabel(lblRilievi, lstRilievi);
+    ui::bindLabel(lblAccount, cmbAccount);
+    ui::bindLabel(lblIndirizzo, txtIndirizzo);
     cmdFile->setAccessibleName(Words::tr("Sfoglia il messaggio"));
     cmdCerca->setAccessibleName(Words::tr("Cerca il destinatario"));
     HTML->setAccessibleName(Words::tr("Messaggio in HTML"));
@@ -267,17 +263,14 @@ void frmProva::CollegaEtichette() {
 }
 
 void frmProva::CollegaEventi() {
-    const auto alClick = [this](QAbstractButton* pulsante, auto gestore) {
-        connect(pulsante, &QAbstractButton::clicked, this, [this, gestore] { evento([&] { gestore(); }); });
-    };
-    alClick(cmdFile, [this] { cmdFile_Click(); });
-    alClick(cmdPrecedente, [this] { MostraDestinatario(riga - 1); });
-    alClick(cmdSuccessivo, [this] { MostraDestinatario(riga + 1); });
-    alClick(cmdCerca, [this] { Cerca(); });
-    alClick(cmdVai, [this] { VaiAlPrimo(); });
-    alClick(cmdInviaProva, [this] { cmdInviaProva_Click(); });
-    alClick(cmdAnnulla, [this] { AnnullaInvio(); });
-    alClick(cmdChiudi, [this] { Lascia(); });
+    alClick(cmdFile, this, &frmProva::cmdFile_Click);
+    alClick(cmdPrecedente, this, [this] { MostraDestinatario(riga - 1); });
+    alClick(cmdSuccessivo, this, [this] { MostraDestinatario(riga + 1); });
+    alClick(cmdCerca, this, &frmProva::Cerca);
+    alClick(cmdVai, this, &frmProva::VaiAlPrimo);
+    alClick(cmdInviaProva, this, &frmProva::cmdInviaProva_Click);
+    alClick(cmdAnnulla, this, &frmProva::AnnullaInvio);
+    alClick(cmdChiudi, this, &frmProva::Lascia);
     connect(cmbFile, &QComboBox::activated, this, [this] { evento([this] { UsaFile(); }); });
     connect(cmbAccount, &QComboBox::activated, this, [this] { evento([this] { UsaAccount(); }); });
     connect(txtCerca, &QLineEdit::returnPressed, this, [this] { evento([this] { Cerca(); }); });

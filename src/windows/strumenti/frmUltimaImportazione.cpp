@@ -73,8 +73,7 @@ frmUltimaImportazione::frmUltimaImportazione(QWidget* parent)
     lstRighe->header()->resizeSection(Esito, ui::scaledToFont(*this, 90));
     lstRighe->header()->resizeSection(Testo, ui::scaledToFont(*this, 260));
     auto* etichetta = new QLabel(Words::tr("&Mostra:"), this);
-    etichetta->setBuddy(cmbMostra);
-    cmbMostra->setAccessibleName(ui::spokenCaption(etichetta->text()));
+    ui::bindLabel(etichetta, cmbMostra);
     auto* scelta = new QHBoxLayout;
     scelta->setSpacing(ui::controlSpacing);
     scelta->addWidget(etichetta);
@@ -94,7 +93,7 @@ frmUltimaImportazione::frmUltimaImportazione(QWidget* parent)
     righe->addLayout(pulsanti);
     cmdChiudi->setDefault(true);
     connect(cmdChiudi, &QPushButton::clicked, this, &QDialog::hide);
-    connect(cmdCopia, &QPushButton::clicked, this, [this] { evento([this] { Copia(); }); });
+    alClick(cmdCopia, this, &frmUltimaImportazione::Copia);
     connect(cmbMostra, &QComboBox::currentIndexChanged, this, [this] { evento([this] { Filtra(); }); });
     ui::openAtLeast(*this, {720, 460});
     ui::setUpDialog(*this);
