@@ -10,8 +10,6 @@
 #include "platform/jet/GeneralOrder.h"
 #include "platform/jet/Header.h"
 #include "platform/jet/IndexPage.h"
-#include "platform/jet/Names.h"
-#include "platform/jet/OsFile.h"
 
 namespace jet {
 
@@ -112,44 +110,6 @@ Bytes withRow(Bytes key, uint32_t page, uint8_t slot) {
     const uint8_t row[] = {0, static_cast<uint8_t>(page >> 8), static_cast<uint8_t>(page), slot};
     key.insert(key.end(), row, row + 4);
     return key;
-}
-
-bool isPlainName(const std::string& name) {
-    constexpr size_t longest = 64;
-    return !name.empty() && name.size() <= longest && std::all_of(name.begin(), name.end(), [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
-    });
-}
-
-/// Tables, or columns: each has a name of its own.
-template <class Named>
-bool areNamedApart(const std::vector<Named>& all) {
-    for (size_t i = 0; i < all.size(); ++i) {
-        if (!isPlainName(all[i].name)) return false;
-        for (size_t k = 0; k < i; ++k)
-            if (sameName(all[i].name, all[k].name)) return false;
-    }
-    return true;
-}
-
-bool canBeMade(const NewColumn& column) {
-    if (column.type == Type::Text)
-        return column.characters >= 1 && column.characters <= 255 && !column.autoNumber;
-    if (column.characters != 0 || column.emptyAllowed) return false;
-    return column.type == Type::Long || (column.type == Type::YesNo && !column.autoNumber);
-}
-
-bool canBeMade(const NewTable& table) {
-    const auto& columns = table.columns;
-    return !columns.empty() && columns.front().type == Type::Long && areNamedApart(columns) &&
-           std::all_of(columns.begin(), columns.end(), [](const NewColumn& c) { return canBeMade(c); }) &&
-           std::count_if(columns.begin(), columns.end(), [](const NewColumn& c) { return c.autoNumber; }) < 2;
-}
-
-bool canBeMade(const std::vector<NewTable>& tables) {
-    return areNamedApart(tables) && std::all_of(tables.begin(), tables.end(), [](const NewTable& table) {
-               return canBeMade(table) && !sameName(table.name.substr(0, 4), "MSys");
-           });
 }
 
 class Builder {
@@ -370,24 +330,6 @@ class Builder {
 
 std::vector<Page> emptyDatabase(const std::vector<NewTable>& tables) {
     return Builder(tables).build();
-}
-
-Status createDatabase(const std::string& path, const std::vector<NewTable>& tables) {
-    return guarded([&]() -> Status {
-        if (OsFile::exists(path)) fail(ErrorCode::PathAccess, "Il file \"%1\" esiste già."_tr, path);
-        const std::vector<Page> pages = emptyDatabase(tables);
-        OsFile file(path, OsFile::Access::Create);
-        try {
-            for (size_t n = 0; n < pages.size(); ++n)
-                file.write(n * pageSize, pages[n]);
-            file.sync();
-            OsFile::syncFolderOf(path);
-        } catch (const Failure&) {
-            OsFile::remove(path);
-            throw;
-        }
-        return {};
-    });
 }
 
 }  // namespace jet

@@ -18,7 +18,7 @@ namespace jet {
 ///   T2 a node lists each child but the last with the greatest entry below it; the last child is its tail
 ///   T3 pages of one level are chained in order, both ways
 ///   T4 the root keeps its page number: when it is full, its content goes to new pages below it, and when
-///      only a tail is left, that child's content comes up
+///      only a tail is left, that child's content moves into the root
 ///   T5 the index's map contains just the pages of the tree
 ///   T7 a leaf that becomes less than half full joins a neighbour below the same node, when both leave room
 ///   on one page
@@ -65,13 +65,16 @@ class IndexTree {
         Bytes greatest;
     };
 
+    static Bytes entryOf(std::span<const uint8_t> key, RowId row);
     IndexPage load(uint32_t number) const;
+    Path descend(std::span<const uint8_t> wanted) const;
     IndexPage edgeLeaf(bool last) const;
+
+    // IndexTreeChange.cpp
     void store(uint32_t number, const IndexPage& page);
     uint32_t takePage();
     void givePage(uint32_t number);
     void link(uint32_t number, size_t field, uint32_t value);
-    Path descend(std::span<const uint8_t> wanted) const;
     Path descendForChange(std::span<const uint8_t> wanted);
     void place(const Path& path, size_t depth, IndexPage page, bool atEnd);
     void growRoot(std::vector<Part> parts, uint8_t level);

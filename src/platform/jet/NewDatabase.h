@@ -24,6 +24,9 @@ struct NewTable {
     std::vector<NewColumn> columns;
 };
 
+/// Whether the description is of the form above.
+bool canBeMade(const std::vector<NewTable>& tables);
+
 /// Writes a database with these tables, all without rows, to `path`, given as for Database::open(). Fails
 /// when the file exists (PathAccess), and for a description that is not of the form above or does not fit on
 /// the pages of an empty database, some dozen tables (Internal).
