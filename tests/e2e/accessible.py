@@ -162,3 +162,9 @@ def send(main, message, delivered=1, failed=0, asked=False):
     window.find("label", "Email da inviare: 0")
     window.press("Chiudi")
     window.gone()
+
+
+def leave(main):
+    """Ends the program by its menu."""
+    act(main.find("menu item", "File"), "ShowMenu")
+    act(main.find("menu item", "Esci"), "Press")

@@ -18,22 +18,16 @@ from desktop import fail
 desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
 from accessible import Window, extents, has, wait_for  # noqa: E402
-from keyboard_test import keys, make_group  # noqa: E402
+from keyboard_test import choose_text_file, keys, make_group  # noqa: E402
 
 OFFER = 10  # seconds after a start in which no new one is offered
 
 
 def import_broken(stage, path):
     """Imports a file whose last line is blank, up to the failure's box."""
-    keys("ctrl+i")
-    window = Window("dialog", "Importa destinatari da file di testo")
-    window.write("Percorso file di testo", str(path))
-    window.wait_focus("text", "Percorso file di testo")
-    keys(*["Tab"] * 5, "Down")  # the box of the address
-    wait_for(lambda: has(window.find("push button", "Importa destinatari"), pyatspi.STATE_SENSITIVE), "the import to be on")
+    choose_text_file(path, *["Tab"] * 5, "Down")  # the box of the address
     keys("alt+i")
-    failure = Window("alert", "Vestrola")
-    return failure
+    return Window("alert", "Vestrola")
 
 
 def texts(window):

@@ -24,7 +24,7 @@ desktop.PATIENCE = 150  # the wait of the block limit lasts up to a minute
 from accessible import Window, act, click, has, wait_for  # noqa: E402  looks for the bus when it is imported
 from assistive_test import type_into  # noqa: E402
 from drag_test import drag, middle  # noqa: E402
-from keyboard_test import add_account, keys, make_group, type_file, type_text  # noqa: E402
+from keyboard_test import add_account, choose_text_file, keys, make_group, type_file, type_text  # noqa: E402
 from scripted_mail import ScriptedMail  # noqa: E402
 import pyatspi  # noqa: E402
 
@@ -56,12 +56,8 @@ def group_number(database, name):
 def import_text(stage):
     path = stage.work / "clienti.csv"
     path.write_text("".join(f"Società {number};c{number}@clienti.test\r\n" for number in range(MANY)), encoding="utf-8")
-    keys("ctrl+i")
-    window = Window("dialog", "Importa destinatari da file di testo")
-    window.write("Percorso file di testo", str(path))
-    window.wait_focus("text", "Percorso file di testo")
-    keys("Tab", "Tab", "Tab", "Down", "Tab", "Tab", "Down", "Down")  # the name from field 1, the address from field 2
-    wait_for(lambda: has(window.find("push button", "Importa destinatari"), pyatspi.STATE_SENSITIVE), "the import to be on")
+    # the name from field 1, the address from field 2
+    window = choose_text_file(path, "Tab", "Tab", "Tab", "Down", "Tab", "Tab", "Down", "Down")
     keep("testo")
     keys("alt+i")
     window.gone()

@@ -33,6 +33,17 @@ def type_file(title, path):
     chooser.gone()
 
 
+def choose_text_file(path, *boxes):
+    """Opens the text import and chooses the file, and by these keys the boxes of its columns. "alt+i" in the window imports it."""
+    keys("ctrl+i")
+    window = Window("dialog", "Importa destinatari da file di testo")
+    window.write("Percorso file di testo", str(path))
+    window.wait_focus("text", "Percorso file di testo")
+    keys(*boxes)
+    wait_for(lambda: has(window.find("push button", "Importa destinatari"), pyatspi.STATE_SENSITIVE), "the import to be on")
+    return window
+
+
 def play(stage, program):
     server = desktop.MailServer(stage)
     message = stage.write_message()

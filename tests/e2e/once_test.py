@@ -46,7 +46,7 @@ def isolate():
 
 isolate()
 desktop.inside()
-from accessible import Window, act, choose_file, wait_for  # noqa: E402  looks for the bus when it is imported
+from accessible import Window, choose_file, leave, wait_for  # noqa: E402  looks for the bus when it is imported
 
 
 class Story:
@@ -87,8 +87,7 @@ class Story:
         self.running.wait()
 
     def quit(self):
-        act(self.main.find("menu item", "File"), "ShowMenu")
-        act(self.main.find("menu item", "Esci"), "Press")
+        leave(self.main)
         self.stage.ends(self.running, 0)
 
     def selected(self):
@@ -174,6 +173,26 @@ def fill(folder):
     return filler
 
 
+def four_arrived(make, addresses):
+    """A story in the middle of its run, before the server accepts the fourth message."""
+    story = make(served_slowly(addresses), addresses)
+    story.open()
+    story.press_start()
+    story.arrived(4)
+    return story
+
+
+def end_of_run(story):
+    story.window.find("label", "Email da inviare: 0")
+    story.window.find("push button", "Chiudi")
+
+
+def close_and_run_again(story):
+    story.close()
+    story.run_again()
+    return story
+
+
 def full_before(make, number):
     """The disk is full when the run is to begin: it does not begin, and a box says why."""
     addresses = people(number or 4)
@@ -191,50 +210,30 @@ def full_before(make, number):
         fail("a run began on a full disk")
     filler.unlink()
     story.run()
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 def disk_full(make, number):
     """The disk becomes full in the middle of the run; it has room again before the window is closed."""
-    addresses = people(number or 12)
-    story = make(served_slowly(addresses), addresses)
-    story.open()
-    story.press_start()
-    story.arrived(4)
+    story = four_arrived(make, people(number or 12))
     filler = fill(story.folder)
-    story.window.find("label", "Email da inviare: 0")
-    story.window.find("push button", "Chiudi")
+    end_of_run(story)
     filler.unlink()
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 def moved(make, number):
     """The database is moved away in the middle of the run and back after its end."""
-    addresses = people(number or 12)
-    story = make(served_slowly(addresses), addresses)
-    story.open()
-    story.press_start()
-    story.arrived(4)
+    story = four_arrived(make, people(number or 12))
     away = story.hide()
-    story.window.find("label", "Email da inviare: 0")
-    story.window.find("push button", "Chiudi")
+    end_of_run(story)
     away.rename(story.database)
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 def killed(make, number):
     """The program is killed when a recipient has been accepted whose row cannot be marked."""
-    addresses = people(number or 8)
-    story = make(served_slowly(addresses), addresses)
-    story.open()
-    story.press_start()
-    story.arrived(4)
+    story = four_arrived(make, people(number or 8))
     away = story.hide()
     story.window.find("label", "Email inviate: 4")
     story.kill()
@@ -246,20 +245,13 @@ def killed(make, number):
 
 def locked(make, seconds):
     """Another process has the whole database locked in the middle of the run."""
-    addresses = people(12)
-    story = make(served_slowly(addresses), addresses)
-    story.open()
-    story.press_start()
-    story.arrived(4)
+    story = four_arrived(make, people(12))
     ofd_setlkw = 38
     with open(story.database, "r+b") as file:
         fcntl.fcntl(file, ofd_setlkw, struct.pack("hhqqhi", fcntl.F_WRLCK, os.SEEK_SET, 0, (1 << 62) + 1, 0, 0))
         time.sleep(seconds or 8)
-    story.window.find("label", "Email da inviare: 0")
-    story.window.find("push button", "Chiudi")
-    story.close()
-    story.run_again()
-    return story
+    end_of_run(story)
+    return close_and_run_again(story)
 
 
 def stops(make, number):
@@ -277,9 +269,7 @@ def stops(make, number):
         time.sleep(moment.uniform(0, 0.4))
         story.stop()
     story.run()
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 def null_address(make, number):
@@ -289,9 +279,7 @@ def null_address(make, number):
     story = make(ScriptedMail(), addresses)
     story.open()
     story.run()
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 def late_reply(make, number):
@@ -300,9 +288,7 @@ def late_reply(make, number):
     story = make(ScriptedMail(slow={addresses[1]: 7}), addresses)
     story.open()
     story.run()
-    story.close()
-    story.run_again()
-    return story
+    return close_and_run_again(story)
 
 
 STORIES = {one.__name__: one for one in (disk_full, full_before, moved, killed, locked, stops, null_address, late_reply)}

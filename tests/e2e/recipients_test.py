@@ -16,7 +16,7 @@ desktop.inside()
 import pyatspi  # noqa: E402  looks for the bus when it is imported
 from accessible import Window, has, is_shown, wait_for  # noqa: E402
 from drag_test import Table  # noqa: E402
-from keyboard_test import keys, type_text  # noqa: E402
+from keyboard_test import choose_text_file, keys, type_text  # noqa: E402
 from locked_test import Lock  # noqa: E402
 
 PEOPLE = """gruppo\trgs\temail\tsel\tid_grp
@@ -161,12 +161,7 @@ def last_import(stage):
     window.gone()
     path = stage.work / "lista.csv"
     path.write_text("buono@x.test\r\nnessun indirizzo\r\n", encoding="utf-8")
-    keys("ctrl+i")
-    importing = Window("dialog", "Importa destinatari da file di testo")
-    importing.write("Percorso file di testo", str(path))
-    importing.wait_focus("text", "Percorso file di testo")
-    keys(*["Tab"] * 5, "Down")  # the box of the address
-    wait_for(lambda: has(importing.find("push button", "Importa destinatari"), pyatspi.STATE_SENSITIVE), "the import to be on")
+    importing = choose_text_file(path, *["Tab"] * 5, "Down")  # the box of the address
     keys("alt+i")
     importing.gone()
     start_tool("u")
