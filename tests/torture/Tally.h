@@ -5,6 +5,13 @@
 #include <cstdlib>
 #include <string>
 
+/// Whether this is a build under AddressSanitizer, whose memory is no measure of the program's.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool sanitized = true;
+#else
+inline constexpr bool sanitized = false;
+#endif
+
 /// The result of a torture campaign. Its program is called with a seed and a number of cases; the same seed
 /// always plays the same cases.
 struct Tally {

@@ -30,12 +30,6 @@ constexpr long mostKiB = 200 * 1024;
 constexpr int casesPerProcess = 200;
 constexpr size_t pageSize = 4096;
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool sanitized = true;
-#else
-constexpr bool sanitized = false;
-#endif
-
 using Random = std::mt19937;
 
 /// Shared memory in which the playing process leaves its state.

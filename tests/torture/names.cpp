@@ -26,12 +26,6 @@ constexpr size_t casesTogether = 20;
 constexpr long longestTicks = 80;  // 4 s of a question that ends after 0.7
 constexpr long mostKiB = 200 * 1024;
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool sanitized = true;
-#else
-constexpr bool sanitized = false;
-#endif
-
 struct Sum {
     unsigned seed;
     const OddNames* server;

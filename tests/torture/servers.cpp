@@ -30,12 +30,6 @@ constexpr long mostKiB = 300 * 1024;
 constexpr mail::SmtpTimes stageTimes{
     .greeting = 1200, .hello = 1100, .login = 1300, .finalReply = 1500, .farewell = 20, .refusedLogin = 100};
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool sanitized = true;
-#else
-constexpr bool sanitized = false;
-#endif
-
 /// What the cases have in common.
 struct Sum {
     Tally tally;
