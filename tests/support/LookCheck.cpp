@@ -204,6 +204,23 @@ QStringList faultsOfAccess(QWidget& window) {
     return faults;
 }
 
+QStringList otherNames(const QWidget& window, const QHash<QString, QString>& wanted) {
+    QStringList others;
+    for (auto it = wanted.begin(); it != wanted.end(); ++it) {
+        auto* control = window.findChild<QWidget*>(it.key());
+        if (!control) {
+            others << it.key() + ": missing";
+            continue;
+        }
+        QString name = control->accessibleName();
+        // The interface of a drop-down list says its current entry; its label is found by the relation.
+        if (name == it.value() && !qobject_cast<QComboBox*>(control))
+            name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+        if (name != it.value()) others << it.key() + ": " + name;
+    }
+    return others;
+}
+
 QStringList faultsOfMnemonics(QWidget& window) {
     QStringList faults;
     const auto verify = [&](const QStringList& captions) {

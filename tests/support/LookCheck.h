@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 
 class QWidget;
@@ -17,6 +18,10 @@ QStringList faultsOfContrast(QWidget& window);
 /// Controls that the keyboard reaches and that have no name, no object name or no role for assistive
 /// programs, or that are smaller than 24 by 24.
 QStringList faultsOfAccess(QWidget& window);
+
+/// Controls, by their object names, that assistive programs call otherwise than is wanted; each with its
+/// name.
+QStringList otherNames(const QWidget& window, const QHash<QString, QString>& wanted);
 
 /// Mnemonics that two entries of one menu, or two buttons of the window, share.
 QStringList faultsOfMnemonics(QWidget& window);

@@ -15,6 +15,7 @@
 #include "modules/store/NuovoDatabase.h"
 #include "modules/store/percorsoDBase.h"
 #include "modules/store/Schema.h"
+#include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/jet/Database.h"
 #include "platform/system/HomeFolder.h"
@@ -112,6 +113,13 @@ int SampleFolder::addRecipients(const QList<Columns>& recipients) {
     }
     esigi(file->commit());
     return first;
+}
+
+void SampleFolder::run(const QString& statement) {
+    ado::Command command;
+    esigi(command.setActiveConnection(connDB));
+    command.setCommandText(statement);
+    esigi(command.execute());
 }
 
 QStringList SampleFolder::selected() {

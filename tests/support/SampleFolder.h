@@ -37,6 +37,8 @@ class SampleFolder {
 
     /// Addresses of the recipients that are selected, in the order of sending.
     static QStringList selected();
+    /// Runs a statement on the program's database.
+    static void run(const QString& statement);
 
     /// Appends an account that sends through 127.0.0.1:port. `chkUsaSMTP` and the like can be changed
     /// beforehand.

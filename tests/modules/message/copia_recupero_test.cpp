@@ -12,6 +12,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "platform/system/ProgramFolder.h"
+#include "support/Vectors.h"
 
 namespace copia_recupero_test {
 
@@ -47,24 +48,15 @@ class CopiaRecuperoTest : public testing::Test {
         EXPECT_EQ(damaged, QStringList());
         return found;
     }
-    static void overwrite(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    static QByteArray bytes(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// The result of taking a copy with these bytes.
     static void expectDamaged(const QByteArray& content) {
         leave(sample());
         const QString path = only(".copia");
-        overwrite(path, content);
+        writeBytes(path, content);
         QStringList damaged;
         EXPECT_TRUE(CopiaTrovata::Cerca(damaged).empty());
         ASSERT_EQ(damaged.size(), 1);
-        EXPECT_EQ(bytes(damaged[0]), content);
+        EXPECT_EQ(bytesOf(damaged[0]), content);
         EXPECT_EQ(files(".copia"), QStringList());
         EXPECT_EQ(files(".blocco"), QStringList());
         QFile::remove(damaged[0]);
@@ -194,7 +186,7 @@ TEST_F(CopiaRecuperoTest, TheLastFiveRefusedOnesAreKept) {
     EXPECT_EQ(files(".rifiutata").size(), 5);
     QByteArray kept;
     for (const QString& name : files(".rifiutata"))
-        kept += bytes(place() + '/' + name);
+        kept += bytesOf(place() + '/' + name);
     for (int i = 0; i < 7; ++i)
         EXPECT_EQ(kept.contains("\"oggetto\":\"" + QByteArray::number(i) + '"'), i >= 2) << i;
     EXPECT_EQ(files(".blocco"), QStringList());
@@ -202,7 +194,7 @@ TEST_F(CopiaRecuperoTest, TheLastFiveRefusedOnesAreKept) {
 
 TEST_F(CopiaRecuperoTest, ADamagedOneIsSetAsideAndNamed) {
     leave(sample());
-    const QByteArray whole = bytes(only(".copia"));
+    const QByteArray whole = bytesOf(only(".copia"));
     QFile::remove(only(".copia"));
     expectDamaged({});
     expectDamaged("non è una copia");
@@ -218,7 +210,7 @@ TEST_F(CopiaRecuperoTest, ADamagedOneIsSetAsideAndNamed) {
 TEST_F(CopiaRecuperoTest, TheLastFiveDamagedOnesAreKept) {
     for (int i = 0; i < 7; ++i) {
         leave(sample());
-        overwrite(only(".copia"), "x");
+        writeBytes(only(".copia"), "x");
         QStringList damaged;
         EXPECT_TRUE(CopiaTrovata::Cerca(damaged).empty());
     }
@@ -228,11 +220,11 @@ TEST_F(CopiaRecuperoTest, TheLastFiveDamagedOnesAreKept) {
 TEST_F(CopiaRecuperoTest, ALinkOrAFolderInItsPlaceIsLeftAlone) {
     leave(sample());
     const QString outside = m_folder.filePath("fuori");
-    overwrite(outside, "resta");
+    writeBytes(outside, "resta");
     ASSERT_TRUE(QFile::link(outside, place() + "/x.copia"));
     ASSERT_TRUE(QDir(place()).mkdir("y.copia"));
     EXPECT_EQ(offered().size(), 1U);
-    EXPECT_EQ(bytes(outside), "resta");
+    EXPECT_EQ(bytesOf(outside), "resta");
 }
 
 TEST_F(CopiaRecuperoTest, AFolderThatIsALinkIsNotWrittenInto) {
@@ -247,10 +239,10 @@ TEST_F(CopiaRecuperoTest, AFolderThatIsALinkIsNotWrittenInto) {
 TEST_F(CopiaRecuperoTest, AWriteThatFailsLeavesTheCopyBefore) {
     CopiaRecupero copy;
     copy.Scrivi(sample("prima"));
-    const QByteArray before = bytes(only(".copia"));
+    const QByteArray before = bytesOf(only(".copia"));
     ASSERT_TRUE(QDir().mkdir(only(".copia") + ".nuovo"));  // nothing can be written aside
     EXPECT_THROW(copy.Scrivi(sample("dopo")), Fallimento);
-    EXPECT_EQ(bytes(only(".copia")), before);
+    EXPECT_EQ(bytesOf(only(".copia")), before);
 }
 
 TEST(AttesaCopiaTest, IsASecondFromEachChangeButNotForEver) {

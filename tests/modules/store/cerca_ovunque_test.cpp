@@ -5,10 +5,11 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
-#include "platform/ado/Command.h"
 #include "support/SampleFolder.h"
 
 namespace cerca_ovunque_test {
+
+using testing_support::SampleFolder;
 
 namespace {
 
@@ -17,12 +18,8 @@ using PerCartella = std::map<std::int32_t, qint64>;
 class CercaOvunqueTest : public testing::Test {
   protected:
     static void add(const QString& group, const char* name, bool sel = true) {
-        ado::Command command;
-        esigi(command.setActiveConnection(connDB));
-        command.setCommandText(
-            QString("INSERT INTO [tb_destinatari] (id_grp, sel, nom) VALUES (%1, %2, '%3')")
-                .arg(group, sel ? "True" : "False", QString::fromUtf8(name)));
-        esigi(command.execute());
+        SampleFolder::run(QString("INSERT INTO [tb_destinatari] (id_grp, sel, nom) VALUES (%1, %2, '%3')")
+                              .arg(group, sel ? "True" : "False", QString::fromUtf8(name)));
     }
     static CercaOvunque searched(const QString& text, bool selectedOnly = false) {
         CercaOvunque search(connDB, text, selectedOnly);
@@ -31,7 +28,7 @@ class CercaOvunqueTest : public testing::Test {
         return search;
     }
 
-    testing_support::SampleFolder folder;
+    SampleFolder folder;
 };
 
 }  // namespace

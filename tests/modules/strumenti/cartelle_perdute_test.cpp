@@ -7,27 +7,24 @@
 #include "modules/core/Fallimento.h"
 #include "modules/store/RecordsetDB.h"
 #include "modules/strumenti/Giro.h"
-#include "platform/ado/Command.h"
 #include "support/SampleFolder.h"
 
 namespace cartelle_perdute_test {
+
+using testing_support::SampleFolder;
 
 namespace {
 
 class CartellePerduteTest : public testing::Test {
   protected:
-    static void run(const QString& statement) {
-        ado::Command command;
-        esigi(command.setActiveConnection(connDB));
-        command.setCommandText(statement);
-        esigi(command.execute());
-    }
     static int group(const char* name, int parent) {
-        run(QString("INSERT INTO [tb_gruppi] (id_up, nome) VALUES (%1, '%2')").arg(parent).arg(name));
+        SampleFolder::run(
+            QString("INSERT INTO [tb_gruppi] (id_up, nome) VALUES (%1, '%2')").arg(parent).arg(name));
         return look("SELECT * FROM [tb_gruppi] ORDER BY id DESC", u"id");
     }
     static void recipient(const QString& group) {
-        run("INSERT INTO [tb_destinatari] (id_grp, sel, email) VALUES (" + group + ", True, 'a@x.it')");
+        SampleFolder::run("INSERT INTO [tb_destinatari] (id_grp, sel, email) VALUES (" + group +
+                          ", True, 'a@x.it')");
     }
     static int look(const QString& statement, QStringView column) {
         ado::Recordset rs = RecordsetDB();
@@ -50,7 +47,7 @@ class CartellePerduteTest : public testing::Test {
         return {AlberoCartelle::Leggi(), conta};
     }
 
-    testing_support::SampleFolder folder;
+    SampleFolder folder;
 };
 
 }  // namespace
@@ -86,9 +83,9 @@ TEST_F(CartellePerduteTest, CirclesAreOpenedAtOnePlace) {
     const int a = group("A", 0);
     const int b = group("B", a);
     const int c = group("C", b);
-    run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %2").arg(c).arg(a));
+    SampleFolder::run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %2").arg(c).arg(a));
     const int itself = group("Sé stessa", 0);
-    run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %1").arg(itself));
+    SampleFolder::run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %1").arg(itself));
     const CartellePerdute perdute = find();
     EXPECT_EQ(perdute.cartelle, 4);
     RecuperaCartelle(perdute);
@@ -119,7 +116,7 @@ TEST_F(CartellePerduteTest, WhatFoundItsWayBackMeanwhileStays) {
     const int lost = group("Orfana", 77);
     recipient(QString::number(lost + 5));
     const CartellePerdute perdute = find();
-    run(QString("UPDATE [tb_gruppi] SET id_up = 1 WHERE id = %1").arg(lost));
+    SampleFolder::run(QString("UPDATE [tb_gruppi] SET id_up = 1 WHERE id = %1").arg(lost));
     while (group("Nuova", 0) < lost + 5) {
     }
     RecuperaCartelle(perdute);

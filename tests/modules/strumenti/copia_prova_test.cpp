@@ -3,13 +3,13 @@
 #include "modules/strumenti/CopiaProva.h"
 
 #include <gtest/gtest.h>
-#include <QFile>
 
 #include "modules/core/Fallimento.h"
 #include "modules/send/Selezione.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/mail/Composer.h"
 #include "support/SampleFolder.h"
+#include "support/Vectors.h"
 #include "support/WholeText.h"
 
 namespace copia_prova_test {
@@ -29,19 +29,13 @@ CopiaProva firstCopy(const ModelloProva& model) {
     return LeggiCopia(model, rows);
 }
 
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 }  // namespace
 
 TEST(LeggiModelloProva, takesSubjectPriorityBodyTextAndAttachments) {
     SampleFolder folder;
     MessaggioMss written = message("<p>Gentile <b>:::nom:::</b></p>");
     written.Allegati = {folder.path("c'e.txt"), folder.path("manca.txt")};
-    write(folder.path("c'e.txt"), "12345");
+    writeBytes(folder.path("c'e.txt"), "12345");
     const auto model = LeggiModelloProva(folder.writeMessage("m.mss", written));
     ASSERT_TRUE(model.ok()) << model.status().text().toStdString();
     EXPECT_EQ(model.value().testi.oggetto, "Per :::rgs:::");
@@ -60,7 +54,7 @@ TEST(LeggiModelloProva, aFileThatIsMissingOrContainsNoMessageSaysSo) {
                     .status()
                     .text()
                     .startsWith("Il messaggio non si può aprire"));
-    write(folder.path("rotto.mss"), "solo\r\ndue righe\r\n");
+    writeBytes(folder.path("rotto.mss"), "solo\r\ndue righe\r\n");
     EXPECT_TRUE(LeggiModelloProva(folder.path("rotto.mss"))
                     .status()
                     .text()

@@ -114,7 +114,7 @@ TEST_F(SamplesReadTest, EveryTableIsReadWholeAndInEveryOrder) {
     }
 }
 
-TEST_F(SamplesReadTest, ConditionsChooseTheRowsThatHoldTheValue) {
+TEST_F(SamplesReadTest, ConditionsChooseTheRowsWithTheValue) {
     size_t chosen = 0;
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name.toStdString());

@@ -14,6 +14,7 @@
 
 #include "platform/mail/AcceptedList.h"
 #include "platform/mail/RunLock.h"
+#include "support/Vectors.h"
 
 namespace accepted_list_test {
 
@@ -46,16 +47,6 @@ class AcceptedListTest : public testing::Test {
         return list;
     }
     QStringList files() const { return QDir(m_data).entryList({"Accettati*"}, QDir::Files | QDir::System); }
-    QByteArray content(const QString& path) const {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QFile::ReadOnly));
-        return file.readAll();
-    }
-    void write(const QString& path, const QByteArray& octets) const {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-        EXPECT_EQ(file.write(octets), octets.size());
-    }
     QByteArray fileOf(std::initializer_list<AcceptedEntry> entries) const {
         QByteArray octets = acceptedHead();
         for (const AcceptedEntry& entry : entries)
@@ -141,7 +132,7 @@ TEST_F(AcceptedListTest, FilesOfSeveralThatAreGoneBecomeOne) {
     AcceptedList list = opened();
     EXPECT_EQ(list.of(m_database).size(), 2);
     EXPECT_EQ(files().size(), 1);
-    EXPECT_EQ(parseAccepted(content(m_data + files().first())).entries.size(), 2);
+    EXPECT_EQ(parseAccepted(bytesOf(m_data + files().first())).entries.size(), 2);
 }
 
 TEST_F(AcceptedListTest, ALivingProcessKeepsItsFileAndIsSeen) {
@@ -152,7 +143,7 @@ TEST_F(AcceptedListTest, ALivingProcessKeepsItsFileAndIsSeen) {
     EXPECT_EQ(files().size(), 1);
     // What the other process removes is removed.
     other.remove(m_database, 7);
-    EXPECT_TRUE(parseAccepted(content(m_first)).entries.isEmpty());
+    EXPECT_TRUE(parseAccepted(bytesOf(m_first)).entries.isEmpty());
     one.refresh();
     EXPECT_FALSE(one.holds(m_database, 7, "a@x.it"));
 }
@@ -192,27 +183,27 @@ TEST_F(AcceptedListTest, ADamagedFileIsPutAsideAndWhatIsSoundInItIsKept) {
     const auto sound = AcceptedEntry::of(m_database, 7, "a@x.it");
     QByteArray octets = fileOf({sound, sound, sound});
     octets[2 * AcceptedEntry::size + 20] = 'x';
-    write(m_first, octets);
+    writeBytes(m_first, octets);
     AcceptedList list = opened();
     EXPECT_EQ(list.takeSetAside(), QStringList(m_first + ".scartato"));
     EXPECT_TRUE(list.takeSetAside().isEmpty());
-    EXPECT_EQ(content(m_first + ".scartato"), octets);
+    EXPECT_EQ(bytesOf(m_first + ".scartato"), octets);
     EXPECT_TRUE(list.reserve(m_database, 3).ok());
     EXPECT_TRUE(list.holds(m_database, 7, "a@x.it"));
-    EXPECT_EQ(parseAccepted(content(m_first)).entries.size(), 1);
+    EXPECT_EQ(parseAccepted(bytesOf(m_first)).entries.size(), 1);
 }
 
 TEST_F(AcceptedListTest, AForeignFileOfThatNameIsPutAside) {
-    write(m_first, "something else");
+    writeBytes(m_first, "something else");
     AcceptedList list = reserved();
     EXPECT_EQ(list.takeSetAside(), QStringList(m_first + ".scartato"));
     EXPECT_TRUE(list.of(m_database).isEmpty());
-    EXPECT_FALSE(parseAccepted(content(m_first)).damaged);
+    EXPECT_FALSE(parseAccepted(bytesOf(m_first)).damaged);
 }
 
 TEST_F(AcceptedListTest, LinksAndPipesOfThatNameAreLeftAlone) {
     const QString target = m_data + "bersaglio";
-    write(target, "untouched");
+    writeBytes(target, "untouched");
     ASSERT_TRUE(QFile::link(target, m_first));
     ASSERT_EQ(::link(QFile::encodeName(target).constData(),
                      QFile::encodeName(m_data + "Accettati2.imp").constData()),
@@ -221,7 +212,7 @@ TEST_F(AcceptedListTest, LinksAndPipesOfThatNameAreLeftAlone) {
     ASSERT_TRUE(QDir(m_data).mkdir("Accettati4.imp"));
     AcceptedList list = reserved();
     list.add(m_database, 7, "a@x.it");
-    EXPECT_EQ(content(target), "untouched");
+    EXPECT_EQ(bytesOf(target), "untouched");
     EXPECT_TRUE(QFile::exists(m_data + "Accettati5.imp"));
     EXPECT_TRUE(list.takeSetAside().isEmpty());
 }
@@ -248,8 +239,8 @@ TEST_F(AcceptedListTest, AFullDiskLeavesTheRoomThatThereWas) {
     EXPECT_EQ(failed.code(), ErrorCode::DeviceIo);
     EXPECT_EQ(list.room(), room);
     list.add(m_database, 7, "a@x.it");
-    EXPECT_EQ(parseAccepted(content(m_first)).entries.size(), 1);
-    EXPECT_FALSE(parseAccepted(content(m_first)).damaged);
+    EXPECT_EQ(parseAccepted(bytesOf(m_first)).entries.size(), 1);
+    EXPECT_FALSE(parseAccepted(bytesOf(m_first)).damaged);
 }
 
 TEST(ParseAccepted, EntriesAndDamageOfAnyOctets) {

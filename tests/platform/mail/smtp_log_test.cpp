@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "platform/mail/smtp_fixture.h"
+#include "support/Vectors.h"
 
 namespace smtp_log_test {
 
@@ -15,11 +16,6 @@ namespace {
 class SupportLog : public testing::Test {
   protected:
     QString path() const { return m_folder.filePath(QStringLiteral("assistenza.xt1")); }
-
-    static QByteArray contents(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 
     QTemporaryDir m_folder;
 };
@@ -34,7 +30,7 @@ TEST_F(SupportLog, ReportsTheDialogueAndTheOutcome) {
         EXPECT_TRUE(client.send().done);
         EXPECT_FALSE(client.send().done);
     }
-    const QByteArray log = contents(path());
+    const QByteArray log = bytesOf(path());
     for (const char* part :
          {"* Destinatario rossi@example.it, invio tramite server, server 127.0.0.1, porta ",
           "* Connessione a 127.0.0.1, porta ", "* Connessione in chiaro\r\n",
@@ -55,9 +51,9 @@ TEST_F(SupportLog, ReportsTheDirectRoute) {
     client.smtp.LogFile = path();
     client.smtp.LogEnabled = true;
     client.send();
-    EXPECT_TRUE(contents(path()).contains(
+    EXPECT_TRUE(bytesOf(path()).contains(
         "* Destinatario a%2b@example.it, invio diretto, server non-esiste.invalid, porta 25\r\n"))
-        << contents(path()).constData();
+        << bytesOf(path()).constData();
 }
 
 TEST_F(SupportLog, EachLineContainsTimeAndDirection) {
@@ -67,11 +63,11 @@ TEST_F(SupportLog, EachLineContainsTimeAndDirection) {
     client.smtp.LogEnabled = true;
     client.send();
     const QRegularExpression form("\\A\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} [*<>] .+\\r\\z");
-    const QByteArrayList lines = contents(path()).split('\n');
+    const QByteArrayList lines = bytesOf(path()).split('\n');
     EXPECT_GT(lines.size(), 10);
     for (const QByteArray& line : lines)
         EXPECT_TRUE(line.isEmpty() || form.match(QString::fromUtf8(line)).hasMatch()) << line.constData();
-    EXPECT_TRUE(QRegularExpression(", [0-9]+\\.[0-9]{3} s\\r\\n\\z").match(contents(path())).hasMatch());
+    EXPECT_TRUE(QRegularExpression(", [0-9]+\\.[0-9]{3} s\\r\\n\\z").match(bytesOf(path())).hasMatch());
 }
 
 TEST_F(SupportLog, SaysWhyAMessageIsNotSigned) {
@@ -87,8 +83,8 @@ TEST_F(SupportLog, SaysWhyAMessageIsNotSigned) {
     EXPECT_TRUE(client.send().done);
     ASSERT_EQ(server.remainder(), "");
     EXPECT_FALSE(server.bodies().at(0).contains("DKIM"));
-    EXPECT_TRUE(contents(path()).contains("* Messaggio non firmato (DKIM): "));
-    EXPECT_FALSE(contents(path()).contains("segreto"));
+    EXPECT_TRUE(bytesOf(path()).contains("* Messaggio non firmato (DKIM): "));
+    EXPECT_FALSE(bytesOf(path()).contains("segreto"));
 }
 
 TEST_F(SupportLog, SaysInItalianWhyAServerRefusesAMessage) {
@@ -112,7 +108,7 @@ TEST_F(SupportLog, SaysInItalianWhyAServerRefusesAMessage) {
     client.smtp.UseAuth = false;
     EXPECT_FALSE(client.send().done);
     EXPECT_EQ(server.remainder(), "");
-    const QByteArray log = contents(path());
+    const QByteArray log = bytesOf(path());
     for (const char* line :
          {"* Il server considera il messaggio posta indesiderata (spam), codice 5.7.1: this "
           "looks 5.7.1 like spam\r\n",
@@ -134,8 +130,8 @@ TEST_F(SupportLog, IsAppendedTo) {
     client.smtp.LogFile = path();
     client.smtp.LogEnabled = true;
     client.send();
-    EXPECT_TRUE(contents(path()).startsWith("riga di prima\r\n"));
-    EXPECT_TRUE(contents(path()).contains("non consegnato"));
+    EXPECT_TRUE(bytesOf(path()).startsWith("riga di prima\r\n"));
+    EXPECT_TRUE(bytesOf(path()).contains("non consegnato"));
 }
 
 TEST_F(SupportLog, IsKeptOnlyWhileItIsEnabled) {
@@ -146,11 +142,11 @@ TEST_F(SupportLog, IsKeptOnlyWhileItIsEnabled) {
     EXPECT_FALSE(QFile::exists(path()));
     client.smtp.LogEnabled = true;
     client.send();
-    const QByteArray log = contents(path());
+    const QByteArray log = bytesOf(path());
     EXPECT_FALSE(log.isEmpty());
     client.smtp.LogEnabled = false;
     client.send();
-    EXPECT_EQ(contents(path()), log);
+    EXPECT_EQ(bytesOf(path()), log);
 }
 
 TEST_F(SupportLog, ThatCannotBeOpenedHarmsNothing) {
@@ -169,7 +165,7 @@ TEST_F(SupportLog, HostileTextStaysInItsLine) {
     client.smtp.LogEnabled = true;
     client.smtp.ToAddress = QStringLiteral("rossi@example.it\r\n2000-01-01 00:00:00.000 * falso");
     client.send();
-    EXPECT_FALSE(contents(path()).contains("\n2000-01-01"));
+    EXPECT_FALSE(bytesOf(path()).contains("\n2000-01-01"));
     client.smtp.ToAddress = QStringLiteral("rossi@example.it");
     client.send();
     EXPECT_EQ(server.remainder(), "");

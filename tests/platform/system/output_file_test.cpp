@@ -11,6 +11,7 @@
 
 #include "platform/system/FileModes.h"
 #include "platform/system/ProgramFolder.h"
+#include "support/Vectors.h"
 
 namespace output_file_test {
 
@@ -27,21 +28,12 @@ struct OutputFile : testing::Test {
     QString document = folder.filePath("documento");
     mode_t before = ::umask(022);
 
-    void SetUp() override { put(document, "resta"); }
+    void SetUp() override { writeBytes(document, "resta"); }
     void TearDown() override {
         ::umask(before);
         sys::setProgramFolder({});
     }
 
-    static void put(const QString& file, const QByteArray& bytes) {
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bytes);
-    }
-    static QByteArray get(const QString& file) {
-        QFile in(file);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-    }
     static QByteArray name(const QString& file) { return QFile::encodeName(file); }
     static struct stat statOf(const QString& file) {
         struct stat found {};
@@ -74,19 +66,19 @@ TEST_P(OutputFileOfTheProgram, IsMadeForItsOwnerAlone) {
     ::umask(0);
     ASSERT_TRUE(write(path, WriteMode::Append, GetParam(), "uno").ok());
     ASSERT_TRUE(write(path, WriteMode::Append, GetParam(), "due").ok());
-    EXPECT_EQ(get(path), "unodue");
+    EXPECT_EQ(bytesOf(path), "unodue");
     EXPECT_EQ(modeOf(path), 0600U);
     ASSERT_TRUE(write(path, WriteMode::Output, GetParam(), "tre").ok());
-    EXPECT_EQ(get(path), "tre");
+    EXPECT_EQ(bytesOf(path), "tre");
 }
 
 TEST_P(OutputFileOfTheProgram, TakesThePlaceOfALinkAndLeavesWhatItLeadsTo) {
     ASSERT_TRUE(QFile::link(document, path));
     EXPECT_EQ(write(path, WriteMode::Append, GetParam(), "mio").code(), ErrorCode::PathAccess);
     ASSERT_TRUE(write(path, WriteMode::Output, GetParam(), "mio").ok());
-    EXPECT_EQ(get(document), "resta");
+    EXPECT_EQ(bytesOf(document), "resta");
     EXPECT_TRUE(S_ISREG(statOf(path).st_mode));
-    EXPECT_EQ(get(path), "mio");
+    EXPECT_EQ(bytesOf(path), "mio");
     EXPECT_EQ(modeOf(path), 0600U);
 }
 
@@ -102,8 +94,8 @@ TEST_P(OutputFileOfTheProgram, TakesThePlaceOfASecondNameAndLeavesTheFile) {
     ASSERT_EQ(::link(name(document).constData(), name(path).constData()), 0);
     EXPECT_EQ(write(path, WriteMode::Append, GetParam(), "mio").code(), ErrorCode::PathAccess);
     ASSERT_TRUE(write(path, WriteMode::Output, GetParam(), "mio").ok());
-    EXPECT_EQ(get(document), "resta");
-    EXPECT_EQ(get(path), "mio");
+    EXPECT_EQ(bytesOf(document), "resta");
+    EXPECT_EQ(bytesOf(path), "mio");
     EXPECT_EQ(statOf(document).st_nlink, 1U);
 }
 
@@ -126,7 +118,7 @@ TEST_P(OutputFileOfTheProgram, IsNotMadeInAFolderThatIsAStrangersLink) {
 }
 
 TEST_F(OutputFile, ASecretOnlyGoesIntoAFileOfTheUser) {
-    put(path, "altrui");
+    writeBytes(path, "altrui");
     ASSERT_EQ(::chmod(name(path).constData(), 0666), 0);
     if (!give(path)) GTEST_SKIP() << "only the administrator can give a file away";
     for (const WriteMode mode : {WriteMode::Append, WriteMode::Output}) {
@@ -134,14 +126,14 @@ TEST_F(OutputFile, ASecretOnlyGoesIntoAFileOfTheUser) {
         EXPECT_EQ(status.code(), ErrorCode::PathAccess);
         EXPECT_EQ(status.text(), "Il file appartiene a un altro utente");
     }
-    EXPECT_EQ(get(path), "altrui");
+    EXPECT_EQ(bytesOf(path), "altrui");
     EXPECT_EQ(statOf(path).st_uid, somebody);
     EXPECT_TRUE(write(path, WriteMode::Append, FileKind::Own, "!").ok());
-    EXPECT_EQ(get(path), "altrui!");
+    EXPECT_EQ(bytesOf(path), "altrui!");
 }
 
 TEST_F(OutputFile, ASecretNarrowsTheFileBeforeItIsWritten) {
-    put(path, {});
+    writeBytes(path, {});
     ASSERT_EQ(::chmod(name(path).constData(), 0644), 0);
     QFile out;
     ASSERT_TRUE(sys::openForWriting(out, path, WriteMode::Append, FileKind::Secret).ok());
@@ -149,12 +141,12 @@ TEST_F(OutputFile, ASecretNarrowsTheFileBeforeItIsWritten) {
 }
 
 TEST_F(OutputFile, WhereTheDiskKeepsNoModesASecretIsWrittenAndItsOwnerStillCounts) {
-    put(path, {});
+    writeBytes(path, {});
     ASSERT_EQ(::chmod(name(path).constData(), 0755), 0);
     sys::diskKind() = [](int) { return 0x4d44L; };
     const auto back = qScopeGuard([] { sys::diskKind() = sys::systemDiskKind; });
     EXPECT_TRUE(write(path, WriteMode::Append, FileKind::Secret, "segreto").ok());
-    EXPECT_EQ(get(path), "segreto");
+    EXPECT_EQ(bytesOf(path), "segreto");
     EXPECT_EQ(modeOf(path), 0755U) << "asked to keep a mode";
     if (!give(path)) GTEST_SKIP() << "only the administrator can give a file away";
     EXPECT_FALSE(write(path, WriteMode::Append, FileKind::Secret, "!").ok());
@@ -167,10 +159,10 @@ TEST_F(OutputFile, ADocumentFollowsTheUsersSettingsAndHisLinks) {
     const QString linked = folder.filePath("scorciatoia");
     ASSERT_TRUE(QFile::link(path, linked));
     ASSERT_TRUE(write(linked, WriteMode::Output, FileKind::Document, "nuovo").ok());
-    EXPECT_EQ(get(path), "nuovo");
+    EXPECT_EQ(bytesOf(path), "nuovo");
     if (!give(linked)) GTEST_SKIP() << "only the administrator can give a link away";
     EXPECT_FALSE(write(linked, WriteMode::Output, FileKind::Document, "rubato").ok());
-    EXPECT_EQ(get(path), "nuovo");
+    EXPECT_EQ(bytesOf(path), "nuovo");
 }
 
 TEST_F(OutputFile, APipeThatNobodyReadsDoesNotHang) {

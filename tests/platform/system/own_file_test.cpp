@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "platform/system/FileModes.h"
+#include "support/Vectors.h"
 
 namespace own_file_test {
 
@@ -21,15 +22,6 @@ struct OwnFileTest : testing::Test {
     QString path = folder.filePath("a");
 
     void link(const QString& target) const { ASSERT_TRUE(QFile::link(target, path)); }
-    void put(const QString& file, const QByteArray& bytes) const {
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bytes);
-    }
-    static QByteArray get(const QString& file) {
-        QFile in(file);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-    }
 };
 
 }  // namespace
@@ -46,11 +38,11 @@ TEST_F(OwnFileTest, AFileIsReplacedWholeAndForItsOwnerOnly) {
 
 TEST_F(OwnFileTest, ALinkIsReplacedAndNotFollowed) {
     const QString target = folder.filePath("altro");
-    put(target, "resta");
+    writeBytes(target, "resta");
     link(target);
     EXPECT_FALSE(sys::readOwnFile(path, 100).ok());
     ASSERT_TRUE(sys::replaceOwnFile(path, "mio").ok());
-    EXPECT_EQ(get(target), "resta");
+    EXPECT_EQ(bytesOf(target), "resta");
     EXPECT_EQ(sys::readOwnFile(path, 100).value(), "mio");
 }
 

@@ -146,7 +146,7 @@ TEST_F(ProgramFolder, UpgradeLeavesTextsThatTheUserChangedOrTookAway) {
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/LANG.lng")));
 }
 
-TEST_F(ProgramFolder, MissingTextsAreLaidDownAgainAndOthersStay) {
+TEST_F(ProgramFolder, MissingTextsAreInstalledAgainAndOthersStay) {
     makeTemplates();
     const QString folder = path(QStringLiteral("home/vestrola"));
     const QString templates = path(QStringLiteral("templates"));

@@ -42,6 +42,16 @@ void atNextBox(std::function<void(QMessageBox*)> look) {
     });
 }
 
+/// Types a path into the file dialog that is shown at the next turn of the event loop, and accepts it.
+void typeIntoNextFileDialog(const QString& path) {
+    QTimer::singleShot(0, qApp, [path] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+}
+
 }  // namespace
 
 class TestUi : public QObject {
@@ -161,12 +171,7 @@ class TestUi : public QObject {
         QTemporaryDir folder;
         const QString path = folder.filePath("registro.xt1");
         QFile(path).open(QIODevice::WriteOnly);
-        QTimer::singleShot(0, qApp, [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
+        typeIntoNextFileDialog(path);
         QCOMPARE(FileDialog::save("Crea", "Log (*.xt1)|*.xt1|", {}, FileDialog::Existing::Accept), path);
     }
 
@@ -214,12 +219,7 @@ class TestUi : public QObject {
         QTemporaryDir place;
         const QString path = place.filePath("lista.csv");
         QFile(path).open(QIODevice::WriteOnly);
-        QTimer::singleShot(0, qApp, [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
+        typeIntoNextFileDialog(path);
         QCOMPARE(FileDialog::open("Apri", "File di Testo (*.TXT)|*.TXT"), path);
     }
 

@@ -138,7 +138,7 @@ class TestRiavvio : public QObject {
         stage.clickNode(QString("K%1").arg(upper));
         stage.clickNode(QString("K%1").arg(lower));
         failAndRestart();
-        StoreStage::run(QString("DELETE FROM [tb_gruppi] WHERE id = %1 ;").arg(lower));
+        SampleFolder::run(QString("DELETE FROM [tb_gruppi] WHERE id = %1 ;").arg(lower));
         startAnew(stage);
         QCOMPARE(nodoCorrente->Text, "Fiere");
     }

@@ -11,7 +11,6 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/send/Accettati.h"
-#include "platform/ado/Command.h"
 #include "platform/mail/RunLock.h"
 #include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
@@ -33,13 +32,6 @@ mail::DatabaseFile database() {
 void remember(int number, const QString& address) {
     esigi(accettati().reserve(database(), 1));
     accettati().add(database(), number, address);
-}
-
-void change(const QString& statement) {
-    ado::Command command;
-    esigi(command.setActiveConnection(connDB));
-    command.setCommandText(statement);
-    esigi(command.execute());
 }
 
 QString boxes() {
@@ -76,7 +68,7 @@ class TestFrmInviaAccettati : public QObject {
         SendStage stage({"a@x.it", "b@x.it"});
         remember(1, "vecchio@x.it");
         remember(9, "nessuno@x.it");
-        change("UPDATE [tb_destinatari] SET [email] = Null WHERE [id] = 2;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [email] = Null WHERE [id] = 2;");
         remember(2, "b@x.it");
         const QString log = stage.folder.path("registro.xt1");
         stage.pick();
@@ -289,8 +281,9 @@ class TestFrmInviaAccettati : public QObject {
     // 0 is a valid number of a row; the next one cannot be read at all.
     void rowWithTheNumberZeroIsServedAndMarked() {
         SendStage stage({"a@x.it"});
-        change("UPDATE [tb_destinatari] SET [sel] = False;");
-        change("INSERT INTO [tb_destinatari] (id, id_grp, email, sel) VALUES (0, 1, 'zero@x.it', True);");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = False;");
+        SampleFolder::run(
+            "INSERT INTO [tb_destinatari] (id, id_grp, email, sel) VALUES (0, 1, 'zero@x.it', True);");
         QVERIFY(stage.run());
         QCOMPARE(stage.sink.attempts(), QStringList{"zero@x.it"});
         QCOMPARE(SampleFolder::selected(), QStringList());

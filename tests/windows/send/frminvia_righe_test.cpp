@@ -6,7 +6,6 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/send/Esiti.h"
-#include "platform/ado/Command.h"
 #include "platform/system/Clock.h"
 #include "support/SendStage.h"
 #include "support/TestClass.h"
@@ -17,14 +16,6 @@ using namespace testing_support;
 using ui::MessageDialog;
 
 namespace {
-
-/// What another program does to the list.
-void change(const QString& statement) {
-    ado::Command command;
-    esigi(command.setActiveConnection(connDB));
-    command.setCommandText(statement);
-    esigi(command.execute());
-}
 
 QStringList filesIn(const QString& folder) {
     QStringList files;
@@ -74,7 +65,7 @@ class TestFrmInviaRighe : public QObject {
     void rowDeselectedDuringARunIsNotServedAndTheCountsContinue() {
         SendStage stage({"a@x.it", "b@x.it"});
         stage.sink.onMessage([](const SmtpSink::Message&) {
-            change("UPDATE [tb_destinatari] SET [sel] = False WHERE [email] = 'b@x.it';");
+            SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = False WHERE [email] = 'b@x.it';");
         });
         QVERIFY(stage.run());
         QCOMPARE(stage.sink.attempts(), QStringList{"a@x.it"});
@@ -89,7 +80,7 @@ class TestFrmInviaRighe : public QObject {
         SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
         stage.sink.treat("a@x.it", SmtpSink::Treatment::Refuse);
         QObject::connect(&stage.smtp(), &mail::DeliveryControl::SendError, [] {
-            change("UPDATE [tb_destinatari] SET [sel] = False WHERE [email] = 'a@x.it';");
+            SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = False WHERE [email] = 'a@x.it';");
         });
         QVERIFY(stage.run());
         QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "c@x.it"}));

@@ -103,7 +103,7 @@ class TestDatabase : public QObject {
         stage.command("cmdMailingApri");
         const int same = stage.addGroup(0, "Altri");
         QCOMPARE(same, 1);
-        StoreStage::run("INSERT INTO [tb_destinatari] (id_grp, sel, rgs) VALUES (1, True, 'B');");
+        SampleFolder::run("INSERT INTO [tb_destinatari] (id_grp, sel, rgs) VALUES (1, True, 'B');");
         stage.groups().CaricaGruppiINI();
         QVERIFY(!nodoCorrente);
         stage.tree().setFocus();

@@ -55,7 +55,7 @@ void fillWithGroupsAndRecipients(StoreStage& stage) {
                      {"email", QString("info%1@bianchi.example.it").arg(i)},
                      {"sel", i % 4 ? "1" : "0"}});
     stage.folder.addRecipients(rows);
-    StoreStage::run(QString("UPDATE [tb_destinatari] SET id_grp = %1;").arg(italy));
+    SampleFolder::run(QString("UPDATE [tb_destinatari] SET id_grp = %1;").arg(italy));
 }
 
 }  // namespace
@@ -107,7 +107,7 @@ class TestAspetto : public QObject {
 
     void pictureOfATreeWithoutGroups() {
         StoreStage stage;
-        StoreStage::run("DELETE FROM [tb_gruppi];");
+        SampleFolder::run("DELETE FROM [tb_gruppi];");
         keepPicture(stage.window(), "main_senza_cartelle");
         QCOMPARE(stage.tree().Count(), 1);
     }

@@ -84,7 +84,7 @@ class TestGrigliaDestinatari : public QObject {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
-        StoreStage::run("DELETE FROM [tb_destinatari];");
+        SampleFolder::run("DELETE FROM [tb_destinatari];");
         MessageDialog::queue(MessageDialog::Ok);
         stage.command("cmdPopMailingUserMod");
         QVERIFY(stage.failure().startsWith("Errore 3021:"));
@@ -110,7 +110,7 @@ class TestGrigliaDestinatari : public QObject {
             stage.addRecipient(1, name);
         stage.clickNode("K1");
         stage.clickCell(2, 5);
-        StoreStage::run("UPDATE [tb_destinatari] SET rgs = 'Cambiato' WHERE rgs = 'Alfa';");
+        SampleFolder::run("UPDATE [tb_destinatari] SET rgs = 'Cambiato' WHERE rgs = 'Alfa';");
         MessageDialog::queue(MessageDialog::Yes);
         stage.command("cmdPopMailingUserDel");
         QCOMPARE(StoreStage::count("tb_destinatari", "rgs = 'Beta'"), 0);

@@ -6,7 +6,6 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
-#include "platform/ado/Command.h"
 #include "platform/ado/Recordset.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/Unattended.h"
@@ -97,15 +96,8 @@ int StoreStage::addGroup(int parent, const QString& name) {
 
 int StoreStage::addRecipient(int group, const QString& rgs, const QString& email, bool sel) {
     const int id = folder.addRecipient({{"rgs", rgs}, {"email", email}, {"sel", sel ? "1" : "0"}});
-    run(QString("UPDATE [tb_destinatari] SET id_grp = %1 WHERE id = %2 ;").arg(group).arg(id));
+    SampleFolder::run(QString("UPDATE [tb_destinatari] SET id_grp = %1 WHERE id = %2 ;").arg(group).arg(id));
     return id;
-}
-
-void StoreStage::run(const QString& statement) {
-    ado::Command command;
-    esigi(command.setActiveConnection(connDB));
-    command.setCommandText(statement);
-    esigi(command.execute());
 }
 
 QString StoreStage::look(const QString& statement) {

@@ -44,7 +44,6 @@ class StoreStage {
     /// Insert rows into the tables directly; return their numbers.
     int addGroup(int parent, const QString& name);
     int addRecipient(int group, const QString& rgs, const QString& email = "a@x.it", bool sel = true);
-    static void run(const QString& statement);
     /// First column of the first row; empty for no row.
     static QString look(const QString& statement);
     /// All values of one column.

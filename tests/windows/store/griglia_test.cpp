@@ -267,7 +267,7 @@ class TestGriglia : public QObject {
         StoreStage stage;
         stage.addRecipient(1, "Alfa", "a@x.it");
         stage.clickNode("K1");
-        StoreStage::run("UPDATE [tb_destinatari] SET sel = False;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET sel = False;");
         frmInvia& send = finestre::Invia();
         send.show();
         QTest::mouseClick(send.findChild<QPushButton*>("cmdChiudi"), Qt::LeftButton);
@@ -292,7 +292,7 @@ class TestGriglia : public QObject {
         };
         for (const char* name : {"cmdFile", "cmdInvia", "cmdFerma"})
             click(name);
-        StoreStage::run("UPDATE [tb_destinatari] SET sel = False WHERE rgs = 'Beta';");
+        SampleFolder::run("UPDATE [tb_destinatari] SET sel = False WHERE rgs = 'Beta';");
         click("cmdChiudi");
         const auto* tmr = send.findChild<QTimer*>("tmr");
         QVERIFY(tmr->isActive());
@@ -317,8 +317,8 @@ class TestGriglia : public QObject {
         StoreStage stage;
         stage.addRecipient(1, "Alfa");
         stage.clickNode("K1");
-        StoreStage::run("UPDATE [tb_destinatari] SET rgs = 'Altro';");
-        StoreStage::run("DELETE FROM [tb_destinatari];");
+        SampleFolder::run("UPDATE [tb_destinatari] SET rgs = 'Altro';");
+        SampleFolder::run("DELETE FROM [tb_destinatari];");
         QCOMPARE(stage.columnOfGrid(5), QStringList("Alfa"));
     }
 
@@ -333,7 +333,7 @@ class TestGriglia : public QObject {
         QVERIFY(isOn("cmdPopMailingUserNew"));
         stage.clickNode("K0");
         QVERIFY(isOn("cmdPopMailingUserNew"));
-        StoreStage::run("DELETE FROM [tb_destinatari];");
+        SampleFolder::run("DELETE FROM [tb_destinatari];");
         stage.clickNode("K0");
         QVERIFY(!isOn("cmdPopMailingUserNew"));
         QVERIFY(isOn("cmdPopMailingNew"));
@@ -343,7 +343,7 @@ class TestGriglia : public QObject {
         StoreStage stage;
         const int few = stage.addGroup(0, "Pochi");
         stage.folder.addRecipients(QList<SampleFolder::Columns>(100, {{"rgs", "Ditta"}}));
-        StoreStage::run(QString("UPDATE [tb_destinatari] SET id_grp = %1;").arg(few));
+        SampleFolder::run(QString("UPDATE [tb_destinatari] SET id_grp = %1;").arg(few));
         stage.folder.addRecipients(QList<SampleFolder::Columns>(100000, {{"rgs", "Ditta"}}));
         stage.clickNode("K" + QString::number(few));
         QCOMPARE(stage.grd().Rows(), 101);

@@ -25,7 +25,7 @@ class TestGruppiAlbero : public QObject {
   private Q_SLOTS:
     void emptyTableShowsTheRootAloneExpanded() {
         StoreStage stage;
-        StoreStage::run("DELETE FROM [tb_gruppi];");
+        SampleFolder::run("DELETE FROM [tb_gruppi];");
         QCOMPARE(stage.tree().Count(), 1);
         const ui::GroupNodeRef root = stage.tree().Node("K0");
         QCOMPARE(root->Text(), "Database Mailing");
@@ -273,7 +273,7 @@ class TestGruppiAlbero : public QObject {
     void renameOfAGroupThatWentAwayEndsTheProgram() {
         StoreStage stage;
         stage.clickNode("K1");
-        StoreStage::run("DELETE FROM [tb_gruppi] WHERE id = 1;");
+        SampleFolder::run("DELETE FROM [tb_gruppi] WHERE id = 1;");
         stage.command("cmdPopMailingRinomina");
         ui::MessageDialog::queue(ui::MessageDialog::Ok);
         typeLabel(stage, "Altro");

@@ -215,7 +215,7 @@ class TestTrova : public QObject {
         stage.everywhere();
         stage.type("peru");
         QTRY_COMPARE(stage.answer(), QString("2 in 2 cartelle"));
-        StoreStage::run(QString("DELETE FROM [tb_destinatari] WHERE id_grp = %1 ;").arg(stage.alpi));
+        SampleFolder::run(QString("DELETE FROM [tb_destinatari] WHERE id_grp = %1 ;").arg(stage.alpi));
         stage.press(Qt::Key_Return);
         QTRY_COMPARE(stage.row(), QString("Circolo PERU"));
     }

@@ -97,7 +97,7 @@ class TestDestinatari : public QObject {
         const int perduta = stage.addGroup(55, "Perduta");
         const int giro = stage.addGroup(0, "Giro");
         const int tondo = stage.addGroup(giro, "Tondo");
-        StoreStage::run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %2 ;").arg(tondo).arg(giro));
+        SampleFolder::run(QString("UPDATE [tb_gruppi] SET id_up = %1 WHERE id = %2 ;").arg(tondo).arg(giro));
         stage.addRecipient(perduta, "Uno", "uno@x.it");
         stage.addRecipient(99, "Due", "due@x.it");
         stage.clickNode("K1");

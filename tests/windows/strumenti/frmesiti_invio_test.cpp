@@ -6,7 +6,6 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/send/Esiti.h"
-#include "platform/ado/Command.h"
 #include "support/SendStage.h"
 #include "support/TestClass.h"
 
@@ -88,10 +87,7 @@ class TestFrmEsitiInvio : public QObject {
 
     void toDoShowsTheFoldersOfTheSelection() {
         SendStage stage({"a@x.it", "b@x.it", "c@x.it"});
-        ado::Command command;
-        esigi(command.setActiveConnection(connDB));
-        command.setCommandText("UPDATE [tb_destinatari] SET [id_grp] = 999 WHERE [id] = 2;");
-        esigi(command.execute());
+        SampleFolder::run("UPDATE [tb_destinatari] SET [id_grp] = 999 WHERE [id] = 2;");
         stage.window->SetPrgBar();
         auto* label = stage.control<QLabel>("lblDaInviare");
         QVERIFY2(hovered(label).contains("Clienti 2, cartelle perdute 1"), qPrintable(hovered(label)));

@@ -10,7 +10,6 @@
 
 #include "modules/core/bGlobal.h"
 #include "modules/send/Accettati.h"
-#include "platform/ado/Command.h"
 #include "platform/mail/OutcomeFile.h"
 #include "support/SendStage.h"
 #include "support/TestClass.h"
@@ -25,13 +24,6 @@ using mail::OutcomeKind;
 using ui::MessageDialog;
 
 namespace {
-
-void change(const QString& statement) {
-    ado::Command command;
-    esigi(command.setActiveConnection(connDB));
-    command.setCommandText(statement);
-    esigi(command.execute());
-}
 
 /// A run of as many rows as there are replies; "250" is a delivery. Row 1 is "uno1@x.it".
 void writeRun(const QStringList& replies, const QString& database = percorsoDB) {
@@ -168,9 +160,9 @@ class TestFrmEsiti : public QObject {
     void selectsThoseThatAreShownForTheNextRun() {
         Stage stage(4);
         writeRun({"250 ok", "452 4.2.2 full", "452 4.2.2 full", "452 4.2.2 full"});
-        change("UPDATE [tb_destinatari] SET [sel] = False;");
-        change("UPDATE [tb_destinatari] SET [email] = 'altro@x.it' WHERE [id] = 3;");
-        change("UPDATE [tb_destinatari] SET [sel] = True WHERE [id] = 4;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = False;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [email] = 'altro@x.it' WHERE [id] = 3;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = True WHERE [id] = 4;");
         stage.show();
         auto* outcome = stage.its<QComboBox>("cmbEsito");
         outcome->setCurrentIndex(outcome->findText("Rifiutato (3)"));
@@ -188,7 +180,7 @@ class TestFrmEsiti : public QObject {
     void asksBeforeItSelectsWhoGotTheMessage() {
         Stage stage(2);
         writeRun({"250 ok", "452 4.2.2 full"});
-        change("UPDATE [tb_destinatari] SET [sel] = False;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [sel] = False;");
         stage.show();
         MessageDialog::queue(MessageDialog::No);
         stage.press("cmdSeleziona");
@@ -212,7 +204,7 @@ class TestFrmEsiti : public QObject {
     void deselectsAddressesThatDoNotExist() {
         Stage stage(5);
         writeRun({"250 ok", "550 5.1.1 unknown", "550 5.7.1 policy", "550 unknown user", "550 5.1.3 syntax"});
-        change("UPDATE [tb_destinatari] SET [email] = 'UNO5@x.it' WHERE [id] = 5;");
+        SampleFolder::run("UPDATE [tb_destinatari] SET [email] = 'UNO5@x.it' WHERE [id] = 5;");
         stage.show();
         MessageDialog::queue(MessageDialog::Ok);
         stage.press("cmdDeseleziona");
