@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// The sandbox of a process that reads foreign files: whoever takes the reader over by a crafted file
+/// The sandbox of a process that reads foreign files: code that a crafted file injects into the reader
 /// reaches only what is open already.
 namespace walls {
 

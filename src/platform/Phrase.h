@@ -20,8 +20,8 @@ constexpr OwnText operator"" _tr(const char* pattern, std::size_t) {
     return {pattern};
 }
 
-/// An own text and its values, kept apart so that whoever shows it can look the text up in the language in
-/// use. Values are texts in UTF-8, whole numbers, own texts and other phrases.
+/// An own text and its values, kept apart so that the code that shows it can look the text up in the language
+/// in use. Values are texts in UTF-8, whole numbers, own texts and other phrases.
 class Phrase {
   public:
     Phrase() = default;

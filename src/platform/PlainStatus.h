@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The outcome of a platform call: Status, Result and the error numbers, for code without Qt too.
 #pragma once
 
 #include <memory>

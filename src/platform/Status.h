@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Status and Result for code with Qt: texts as a QString, in the language in use.
 #pragma once
 
 #include <QCoreApplication>

@@ -43,8 +43,8 @@ QString VoceAccount(const Account& account);
 bool CaricaAccount(const QString& percorso, TabellaAccount& tabella,
                    const std::function<void(const Account& account, int numero)>& aggiungi);
 
-/// The three writers ignore every failure, as a file that cannot be written must not keep the window from
-/// going on. The entries of the window's list are the caller's: `voci` is their count before the call.
+/// The three writers ignore every failure, as a file that cannot be written must not stop the window. The
+/// entries of the window's list are the caller's: `voci` is their count before the call.
 
 /// Appends an account with the number above the highest of the table and stores it there. Returns the number.
 int NuovoAccount(const QString& percorso, TabellaAccount& tabella, Account nuovo);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The reader of one line of a text import.
 #pragma once
 
 #include <array>

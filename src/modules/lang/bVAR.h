@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Texts that the language file fills once at the start. They have no defaults: without a language they are
-/// empty, and their users go on with the empty text. Some have no user; they are there so that the
+/// empty, and their users take the empty text. Some have no user; they are there so that the
 /// file's line has a target.
 namespace bVAR {
 

@@ -19,8 +19,8 @@ mail::AcceptedList& accettati();
 /// in the middle of a run, which counts rows.
 void ApplicaAccettati(const std::function<void(const QString& riga)>& annota = {});
 
-/// Before the user selects a recipient anew or deselects him: his choice is newer than what is remembered, or
-/// what a server's reply that is still awaited may bring.
+/// Before the user selects a recipient again or deselects him: his choice is newer than what is remembered,
+/// or what a server's reply that is still awaited may bring.
 void DimenticaAccettato(const QString& id);
 /// The same for all recipients of a group, given by its number. Unguarded.
 void DimenticaAccettatiDelGruppo(const QString& numero);

@@ -40,8 +40,8 @@ ValoriSegnaposto LeggiValori(const LeggiColonna& leggi);
 /// an earlier one is not.
 QString Personalizza(QString modello, const ValoriSegnaposto& valori);
 
-/// The same for one recipient after another: the template is split at its placeholders once where that gives
-/// the same text.
+/// The same for one recipient after another: the template is split at its placeholders once where the result
+/// is the same.
 class ModelloDiviso {
   public:
     /// Personalizza(modello, valori). The template is split again where it is another one than the last time.

@@ -3,5 +3,5 @@
 
 #include <QString>
 
-/// The port number that an account's text gives: a whole number from 0 to 65535. Unguarded.
+/// The port number in an account's text: a whole number from 0 to 65535. Unguarded.
 quint16 NumeroPorta(const QString& testo);

@@ -105,7 +105,7 @@ std::uint16_t LeggiParola(QByteArrayView risposta, qsizetype& posizione);
 void LeggiNome(QByteArrayView risposta, qsizetype& posizione, QString& nome);
 
 /// Reads question and answers from the position on, `risposte` being the number of answers, into mxList,
-/// mxCount and bestMX, and returns the latter. It goes by positions as they are where every owner name is a
+/// mxCount and bestMX, and returns the latter. It uses the positions unchanged where every owner name is a
 /// pointer and every exchanger's name ends in one, and stops at the first answer where that does not lead to
 /// an MX record.
 QString LeggiRisposta(QByteArrayView risposta, qsizetype posizione, std::uint16_t risposte);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The tree of groups, read from the database at one moment.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The groups that are unreachable from the root, and how they are recovered.
 #pragma once
 
 #include <chrono>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The lines about the account's server in the check of a sender.
 #pragma once
 
 #include <QDateTime>

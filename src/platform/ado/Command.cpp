@@ -11,7 +11,7 @@ namespace ado {
 
 namespace {
 
-/// Makes SQLite give up a statement that runs beyond its time.
+/// Interrupts a statement that runs beyond its time.
 class Deadline {
   public:
     Deadline(sqlite3* sqlite, const Waiting& waiting) : m_sqlite(sqlite), m_end(waiting.end()) {

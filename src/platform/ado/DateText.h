@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Dates as texts that a user of a locale writes, and back.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The conversion of a value to the type of its column.
 #pragma once
 
 #include "platform/ado/Value.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// INSERT statements of an import, written to disk in groups.
 #pragma once
 
 #include <chrono>

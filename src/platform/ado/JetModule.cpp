@@ -46,7 +46,7 @@ Table& tableOf(Cursor& cursor) {
     return tableOf(cursor.base.pVtab);
 }
 
-/// The declared type gives SQLite the affinity, and a recordset the type of a result column.
+/// The declared type determines SQLite's affinity, and for a recordset the type of a result column.
 const char* declaredType(Type type) {
     switch (type) {
         case Type::YesNo:

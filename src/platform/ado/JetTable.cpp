@@ -62,7 +62,7 @@ Result<std::shared_ptr<const RowOrder>> JetTable::order(const OrderSpec& spec) {
     }
     auto made = std::make_shared<RowOrder>(spec);
     if (Status status = made->fill(*source.value()); !status.ok()) return status;
-    // What was not sorted is made anew in the time that it takes to compare the pages.
+    // What was not sorted is made again in the time that it takes to compare the pages.
     if (m_prints.empty() && made->isSorted() && made->size() >= longOrder &&
         !source.value()->scanChanged(m_prints, [](jet::RowId, const jet::RowView&) { return false; }).ok())
         m_prints = {};
@@ -93,7 +93,7 @@ void JetTable::countMove(Affected affected) {
     if (++m_moves > mostMoves) std::erase_if(m_orders, [&](const auto& order) { return affected(*order); });
 }
 
-/// Updates the orders after a change; one that cannot be updated is made anew when it is needed.
+/// Updates the orders after a change; one that cannot be updated is made again when it is needed.
 template <class Mend>
 void JetTable::mend(Mend mend) {
     std::erase_if(m_orders, [&](const auto& order) { return !mend(*order).ok(); });
@@ -208,7 +208,7 @@ void JetTable::changedOutside() {
 }
 
 /// Before an order is looked for: brings those of before a change from outside in line with the table. One
-/// that cannot be, or in which too many rows may have moved, is made anew when it is needed.
+/// that cannot be, or in which too many rows may have moved, is made again when it is needed.
 void JetTable::renew(jet::Table& table) {
     const auto before = std::exchange(m_before, {});
     if (before.empty()) return;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The rows of one table, as statements and recordsets use them, and the orders that were asked for.
 #pragma once
 
 #include <functional>
@@ -70,7 +71,7 @@ class JetTable {
     void renew(jet::Table& table);
 
     static constexpr size_t keptOrders = 8;
-    static constexpr size_t mostMoves = 4000;  ///< about where updating costs as much as making anew
+    static constexpr size_t mostMoves = 4000;  ///< about where updating costs as much as making a new order
     static constexpr size_t longOrder = 10000;
 
     jet::Database& m_database;

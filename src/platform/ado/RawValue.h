@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Conversions of the values that the engine returns as bytes, GUIDs and numerics, and back.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// An open database file with the SQLite connection that runs statements on it.
 #pragma once
 
 #include <sqlite3.h>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The tokenizer of statements.
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A walk over all rows of a table in parts.
 #pragma once
 
 #include <chrono>

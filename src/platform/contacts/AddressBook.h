@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The user's address book, opened, read entry by entry and closed.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The contacts of Microsoft Outlook's default folder, read by the helper vestrola-pst.
 #pragma once
 
 #include <chrono>
@@ -67,9 +68,9 @@ void setOutlookHelper(const QString& program);
 
 /// Reads the contacts folder of a data file. The file is read by the helper in a separate process, since
 /// such files can crash their readers. A helper that cannot be started, or ends, hangs or prints invalid
-/// lines before the count, gives FileNotFound, Timeout or UnrecognizedFormat; after the count, its end is the
-/// end of the entries; the count is not trusted. The helper is ended with all processes that it may have
-/// started. Blocks while it works, at most for `patience`; reads at most 64 MB of its output. `goOn` is
+/// lines before the count, fails with FileNotFound, Timeout or UnrecognizedFormat; after the count, its end
+/// is the end of the entries; the count is not trusted. The helper is ended with all processes that it may
+/// have started. Blocks while it works, at most for `patience`; reads at most 64 MB of its output. `goOn` is
 /// called every few milliseconds with the elapsed time, and ends the reading with CancelSelected by returning
 /// false.
 Result<ContactFolder> readContactFolder(

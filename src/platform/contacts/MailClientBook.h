@@ -17,7 +17,7 @@ namespace contacts {
 QString findMailClientBook(const QString& home);
 
 /// The entries in the order in which they were added, then the lists, which are entries without an address.
-/// Reads a copy, so that the mail client may go on writing: the last committed state is read, and no file
+/// Reads a copy, so that the mail client may continue to write: the last committed state is read, and no file
 /// beside the book is changed. FileNotFound; PathAccess where it cannot be read or is written to without a
 /// pause for a second; UnrecognizedFormat for a file that is no such database, is larger than 512 MB or takes
 /// too much work to read.

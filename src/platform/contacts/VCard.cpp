@@ -58,7 +58,7 @@ class Choice {
     int m_rank = 1000;
 };
 
-/// A link such as "tel:+39-0543-1;ext=2" gives the number to dial; any other text is unchanged.
+/// A link such as "tel:+39-0543-1;ext=2" becomes the number to dial; any other text is unchanged.
 QString withoutScheme(const QString& text, const QString& scheme) {
     if (!text.startsWith(scheme, Qt::CaseInsensitive)) return text;
     return text.mid(scheme.size()).section(u';', 0, 0);

@@ -32,7 +32,7 @@ struct VCardProperty {
 /// Whether a logical line is in quoted-printable, so that a "=" at its end continues it on the next one.
 bool isQuotedPrintable(const QByteArray& line);
 
-/// Reads a logical line. A line without a colon gives a property without a name.
+/// Reads a logical line. A line without a colon is a property without a name.
 VCardProperty readProperty(const QByteArray& line, VCardStyle style);
 
 }  // namespace contacts

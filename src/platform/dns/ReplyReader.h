@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The parser of replies of name servers.
 #pragma once
 
 #include <QByteArrayView>

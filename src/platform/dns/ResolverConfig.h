@@ -16,7 +16,7 @@ inline const QString resolverConfigPath = QStringLiteral("/etc/resolv.conf");
 
 /// The own domain is what the "domain" line says, else the first name of the "search" line; of several such
 /// lines the last one counts. The root domain ("search .") is no domain. A file that is missing or cannot be
-/// read gives an empty one.
+/// read is an empty configuration.
 ResolverConfig readResolverConfig(const QString& path = resolverConfigPath);
 
 }  // namespace dns

@@ -16,8 +16,8 @@ class HtmlDocument {
     Status setDocumentHTML(const QString& html);
 
     /// The normal form: the parsed document written by the serialisation rules of the HTML standard. Lines
-    /// end in LF as the parser leaves them. Empty until a document was set. Setting the normal form gives the
-    /// same one back.
+    /// end in LF as the parser leaves them. Empty until a document was set. Setting the normal form results
+    /// in the same one back.
     const QString& documentHTML() const { return m_documentHTML; }
 
     /// The visible text of the body, laid out as a browser's innerText: blocks on lines of their own, a blank

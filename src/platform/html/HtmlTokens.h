@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A tokenizer of HTML text.
 #pragma once
 
 #include <cstddef>

@@ -22,12 +22,12 @@ class QPrinter;
 /// nothing.
 ///
 /// All calls are synchronous: they return when the browser's process has done the work. While they wait (at
-/// most a few seconds, usually about a millisecond) timers and sockets go on and the user's input is held
-/// back; a longer wait shows the hourglass. When the browser's process dies, it is started again with the
+/// most a few seconds, usually about a millisecond) timers and sockets continue and the user's input is
+/// delayed; a longer wait shows the hourglass. When the browser's process dies, it is started again with the
 /// text that was last known; the undo list is empty then.
 ///
 /// A browser that does not answer in time is a failure of the call (Timeout): a query has no result,
-/// never an outdated one; a change may still happen when the browser goes on. After such a failure the
+/// never an outdated one; a change may still happen when the browser continues. After such a failure the
 /// next calls but documentHTML() and responds() wait for a moment only, until the browser answers
 /// again. A browser that cannot be loaded is a failure too (FileNotFound), except for the text of the
 /// document.
@@ -116,7 +116,7 @@ class HtmlView : public QWidget {
 
     // --- The document
 
-    /// The document in its one normal form, the same that HtmlDocument gives for it: lines end in LF as in
+    /// The document in its one normal form, the same that HtmlDocument returns for it: lines end in LF as in
     /// the document, and a character that is not in Windows-1252 is a numeric reference (in style sheets a
     /// CSS escape).
     Result<QString> documentHTML() const;
@@ -202,11 +202,11 @@ class HtmlView : public QWidget {
     // --- Appearance. None touches the document; all survive setDocumentHTML().
 
     /// How the view runs what takes long with a large document and needs no widget, such as in a thread of
-    /// its own; it returns after the work. As it stands, at once.
+    /// its own; it returns after the work. By default in the caller's thread.
     void setLongWork(std::function<void(const std::function<void()>& work)> run);
 
     /// Shows text that names no font, or none that is there, in this font or in the one without serifs that
-    /// replaces it; GetFontName gives the family for such text. A font that a command sets is written
+    /// replaces it; GetFontName returns the family for such text. A font that a command sets is written
     /// even where the text is shown in it already. To be called before the view is shown.
     void setDefaultFont(const QString& family);
 

@@ -13,6 +13,6 @@ struct Layout {
     bool keepsLineFeeds = false;  ///< inherited
 };
 
-/// Layout of an element inside a parent's layout: what browsers give the element, changed by its `hidden`
-/// attribute and its inline style.
+/// Layout of an element inside a parent's layout: the one that browsers use for the element, changed by its
+/// `hidden` attribute and its inline style.
 Layout layoutOf(const GumboElement& element, const Layout& parent);

@@ -12,7 +12,7 @@ QString sourceText(const QString& html);
 
 /// The document (written by the serialisation rules of the HTML standard) with every character that
 /// Windows-1252 does not contain written in ASCII: a numeric reference in text, attributes and comments, an
-/// escape in style sheets (CSS) and scripts (ECMAScript). Reading it gives the same document, except in
+/// escape in style sheets (CSS) and scripts (ECMAScript). Reading it results in the same document, except in
 /// comments, where the reference is part of the text.
 QString ansiForm(const QString& serialised);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A Jet 4 database file: its tables, their rows, and transactions over them.
 #pragma once
 
 #include <cstdint>
@@ -52,7 +53,7 @@ class RowView {
 
     bool isNull(size_t column) const;
     /// The column's value decoded; memo and OLE values are those stored in the row's own bytes only, so use
-    /// Table::value() for them. Damaged rows give Null for what cannot be read.
+    /// Table::value() for them. What cannot be read of a damaged row is Null.
     Value value(size_t column) const;
     /// Fast paths. text() appends the UTF-8 form to `out` and returns false for Null.
     bool text(size_t column, std::string& out) const;
@@ -89,7 +90,7 @@ class Table {
 
     /// Calls `visit` for each row in page order until it returns false. Only reading is allowed meanwhile.
     Status scan(const std::function<bool(RowId, const RowView&)>& visit) { return scan({}, visit); }
-    /// The same from the row `from` on, or from its former place: a scan in parts goes on after the last.
+    /// The same from the row `from` on, or from its former place: a scan in parts continues after the last.
     Status scan(RowId from, const std::function<bool(RowId, const RowView&)>& visit);
     /// The same for the rows with that number in a column of whole numbers, or with True (any number but 0)
     /// or False in a yes/no column. An index that begins with the column is used where few rows have the

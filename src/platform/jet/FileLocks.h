@@ -18,7 +18,7 @@ void lockContent(OsFile& file, OsFile::Lock kind, const LockWait& wait);
 void lockWriter(OsFile& file, const LockWait& wait);
 
 /// Fails (FileInUse) when another program has the database open, as its file NAME.ldb shows. Removes one that
-/// was left behind.
+/// a crash left.
 void refuseIfOpenElsewhere(const std::string& path);
 
 }  // namespace jet

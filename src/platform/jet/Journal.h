@@ -15,8 +15,8 @@ namespace jet {
 /// digests of what is written instead. Its layout is in JournalFormat.h.
 ///
 /// The file stays while its database is open for writing, with an empty header, so that the room for the next
-/// small transaction is taken already. Each process that has it open holds a shared lock on it; only who gets
-/// that lock alone removes it. A journal is hot while its header is not empty.
+/// small transaction is taken already. Each process that has it open has a shared lock on it; only one that
+/// gets that lock alone removes it. A journal is hot while its header is not empty.
 ///
 /// Steps of a transaction (PageFile drives them) and what a crash leaves:
 ///   1  writer's lock taken; no hot journal is there; the name leads to the open journal   [keepRoom]

@@ -7,7 +7,7 @@
 
 namespace jet {
 
-/// The length of a wait for another process, and who may end it. A call that gives up fails with
+/// The length of a wait for another process, and who may end it. A call whose wait is ended fails with
 /// FileInUse and has changed nothing.
 struct LockWait {
     /// Of one wait; a call may wait more than once. None: without end.

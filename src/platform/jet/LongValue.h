@@ -41,7 +41,7 @@ class LongValuePages {
     /// Stores a value on them and returns the 12 bytes for its row. Throws Failure (NotSupported) when the
     /// column has no map for its pages.
     Bytes store(std::span<const uint8_t> content);
-    /// Deletes such rows of a value, and gives back the pages that become empty. Rows on pages that the
+    /// Deletes such rows of a value, and frees the pages that become empty. Rows on pages that the
     /// column's map does not name are left as they are.
     void free(std::span<const RowId> rows);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The description of a new database, and the routine that writes it.
 #pragma once
 
 #include <string>

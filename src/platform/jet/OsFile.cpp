@@ -272,7 +272,7 @@ bool OsFile::lockedByOthers() const {
 }
 
 bool OsFile::isHeld(Range range) const {
-    // Who has opened the file anew is one of the others.
+    // A second opening of the file counts as another process.
     const int other = ::open(("/proc/self/fd/" + std::to_string(m_fd)).c_str(), O_RDONLY | O_CLOEXEC);
     if (other < 0) return true;
     struct flock request = requestFor(range);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Files of the operating system, with a hook by which tests watch each change of the disk.
 #pragma once
 
 #include <cstdint>

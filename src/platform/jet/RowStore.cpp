@@ -128,7 +128,7 @@ void RowStore::erase(RowId id) {
     remove(id);
 }
 
-// A page on which no row and no new slot is left begins anew.
+// A page on which no row and no new slot is left starts again with slot 0.
 void RowStore::remove(RowId place) {
     Page& page = m_file.change(place.page);
     resizeRow(page, place.page, place.slot, 0, data::deleted);

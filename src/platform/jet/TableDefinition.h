@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The definition of a table: its columns and indexes.
 #pragma once
 
 #include <cstdint>

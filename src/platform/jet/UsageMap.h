@@ -46,7 +46,7 @@ class GlobalMap {
 
     /// A page for use, zeroed: the lowest free one inside the file, or a new one at its end.
     uint32_t take();
-    /// Gives a page back and wipes its first bytes.
+    /// Frees a page and clears its first bytes.
     void give(uint32_t page);
     /// Whether pages that the map calls used lie after the file's end: they are reserved, or the end is
     /// missing.

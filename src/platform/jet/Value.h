@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Values of rows, and the types of columns.
 #pragma once
 
 #include <cstdint>

@@ -119,7 +119,7 @@ class DeliveryControl : public QObject, public MessageData {
     /// The outcome of the message that SendDone or SendError was last emitted for; set before the signal.
     const DeliveryOutcome& LastOutcome() const { return m_last; }
 
-    /// To be called before the program ends: gives up the running message, and waits some seconds, without an
+    /// To be called before the program ends: ends the running message, and waits some seconds, without an
     /// event loop, for the replies that are still awaited; see SmtpTimes::farewell. Later replies are lost;
     /// such a message may be sent twice.
     void Settle();

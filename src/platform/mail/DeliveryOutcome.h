@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The outcome of a delivery: how far it got, and what ended it.
 #pragma once
 
 #include <QString>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The text of header lines: encoding, parameters and folding.
 #pragma once
 
 #include <QByteArray>
@@ -15,7 +16,7 @@ QString singleLine(QString text);
 QByteArray unstructuredText(const QString& text);
 
 /// Value of an address header: the name as atoms, quoted string or encoded words, and the address. An empty
-/// name gives the bare address; a name is cut after 1000 characters.
+/// name leaves the bare address; a name is cut after 1000 characters.
 QByteArray namedAddress(const QString& name, const QByteArray& address);
 
 /// A parameter that follows a header's value, on separate lines: ";", line end, blank, name and value. A

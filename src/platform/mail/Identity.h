@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The date of a message, and unique words for its Message-ID and boundaries.
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// One login over SMTP, without its connection.
 #pragma once
 
 #include <optional>

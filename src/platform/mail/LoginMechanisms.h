@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The choice of the mechanisms that a login tries.
 #pragma once
 
 #include <optional>

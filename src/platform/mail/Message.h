@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The fields of a message before and after its composition.
 #pragma once
 
 #include <initializer_list>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The octets of a composed message, in pieces that messages share.
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// One SMTP connection that is kept between messages.
 #pragma once
 
 #include <memory>

@@ -9,7 +9,7 @@ namespace mail {
 
 namespace {
 
-/// Octets that a server reads in vain if it refuses the recipient. For larger messages a round trip is a
+/// Octets that a server reads for nothing if it refuses the recipient. For larger messages a round trip is a
 /// small cost.
 constexpr qsizetype largestFlight = 128 * 1024;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Secrets of a consent and their challenge (RFC 7636).
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The source of access tokens for logins.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Domain names as octets: check and comparison.
 #pragma once
 
 #include <QByteArray>

@@ -45,7 +45,7 @@ struct Verdict {
 };
 
 /// The verdict, or the question whose answer is missing: put it into `known`, and call check() again. The
-/// same answers give the same questions, of which there are at most 250.
+/// same answers lead to the same questions, of which there are at most 250.
 std::variant<Verdict, dns::Question> check(const Client& client, const QByteArray& domain,
                                            const dns::Answers& known);
 

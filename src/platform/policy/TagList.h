@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The parser of lists of "name=value", as DKIM and DMARC records are.
 #pragma once
 
 #include <optional>

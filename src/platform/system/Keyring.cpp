@@ -146,9 +146,9 @@ struct Answer {
     QString error;
 };
 
-/// Runs a call of the library in a thread, since it blocks, and asks meanwhile whether to go on. After giving
-/// up nothing waits for it: a bus that does not answer ignores that. So `call` has copies of what it uses. It
-/// takes the library, what cancels it, the place of an error, and the answer's password.
+/// Runs a call of the library in a thread, since it blocks, and asks meanwhile whether to continue. After
+/// giving up nothing waits for it: a bus that does not answer ignores that. So `call` has copies of what it
+/// uses. It takes the library, what cancels it, the place of an error, and the answer's password.
 template <typename Call>
 Result<QString> run(Call call, const GoOn& goOn) {
     const Library* const secret = library();

@@ -21,7 +21,7 @@ struct Binding {
 };
 
 /// Called every few milliseconds during a call of the keyring, which may ask the user for its own password;
-/// false gives up, with CancelSelected.
+/// false ends the call with CancelSelected.
 using GoOn = std::function<bool(std::chrono::milliseconds waited)>;
 
 /// A new marker: 128 bits from the system's random numbers.
@@ -29,7 +29,7 @@ QString newMarker();
 /// Whether the text is a marker. No program may send one as a password.
 bool isMarker(const QString& text);
 
-/// Whether there is a keyring. Starts one that the desktop starts on demand; gives up after two seconds.
+/// Whether there is a keyring. Starts one that the desktop starts on demand; waits two seconds at most.
 bool available();
 
 /// Stores the password under a new marker, which is returned, and reads it back. NotSupported where

@@ -35,10 +35,10 @@ enum class FileKind {
 /// Secret file whose folder is not safe.
 Status openForWriting(QFile& file, const QString& path, WriteMode mode, FileKind kind);
 
-/// Gives the file that openForWriting() opened for Output these bytes, and closes it. They are written to a
-/// new file beside it that takes its place (a Document or Secret after a sync), so that a full disk or a loss
-/// of power leaves the old content. Written in place instead: what is no ordinary file of the user's alone,
-/// with one name and no access list, and where no file can be made beside it. DeviceIo where it fails.
+/// Writes these bytes to the file that openForWriting() opened for Output, and closes it. They are written to
+/// a new file beside it that takes its place (a Document or Secret after a sync), so that a full disk or a
+/// loss of power leaves the old content. Written in place instead: what is no ordinary file of the user's
+/// alone, with one name and no access list, and where no file can be made beside it. DeviceIo where it fails.
 Status replaceContent(QFile& file, const QString& path, FileKind kind, const QByteArray& bytes);
 
 /// Whether the file is there and belongs to another user, so that no Secret is written to it.

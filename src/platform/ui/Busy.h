@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Long work that nothing may interrupt, while windows are painted.
 #pragma once
 
 #include <QElapsedTimer>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Commands with their menus, tool bars and keys.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop's wish for high contrast.
 #pragma once
 
 #include <functional>

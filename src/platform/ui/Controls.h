@@ -40,7 +40,7 @@ void bindLabel(QLabel* label, QWidget* control);
 /// A command button of a dialog, which presses it by the Enter key only where it is made the default one.
 QPushButton* commandButton(const QString& caption, const QString& name, QWidget* parent);
 
-/// Lets a window open at a size, or at what its texts ask for where that is more, each time anew.
+/// Lets a window open at a size, or at what its texts ask for where that is more, at each opening.
 void openAtLeast(QWidget& window, const QSize& size);
 
 /// A thin line between two parts of a window, owned by the parent.

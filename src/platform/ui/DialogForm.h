@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The layout of a small dialog: fields with labels, and a row of buttons.
 #pragma once
 
 #include <QString>

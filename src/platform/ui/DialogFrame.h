@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The frame of a window: no close button, and a size that fits its screen.
 #pragma once
 
 class QWidget;

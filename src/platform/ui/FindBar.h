@@ -13,7 +13,8 @@ namespace ui {
 class Announcer;
 
 /// A bar with a field for what is looked for, where, and the buttons that go from one place to the next. It
-/// is above a list and is hidden until it is opened. Return goes on, Shift+Return back, Esc closes.
+/// is above a list and is hidden until it is opened. Return finds the next one, Shift+Return the previous
+/// one, Esc closes.
 class FindBar : public QToolBar {
     Q_OBJECT
 

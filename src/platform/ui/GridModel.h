@@ -13,7 +13,7 @@ namespace ui {
 
 /// A DataGrid's model: a snapshot of rows, with the few cells that were written by hand over it. Rows and
 /// columns are numbered as the grid numbers them: row 0 is the heading row (which the toolkit's own row
-/// numbers leave out), column 0 the fixed leading column. Numbers that do not exist give an empty text and
+/// numbers leave out), column 0 the fixed leading column. Numbers that do not exist have an empty text and
 /// are otherwise ignored.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace ui {
 class DataGrid;
 
 /// A search for the rows of a DataGrid with a text in a visible column, without regard to case and
-/// accents (text/Folding.h), in slices. It begins anew by itself when the grid changes.
+/// accents (text/Folding.h), in slices. It starts again when the grid changes.
 class GridSearch : public QObject {
     Q_OBJECT
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A tree of nodes with keys.
 #pragma once
 
 #include <map>

@@ -18,7 +18,7 @@ class HeldWindows : public QObject {
         Dropped,
         Kept  ///< they come afterwards (KeptInput.h)
     };
-    /// Told of each event of the user's hands, with its first receiver.
+    /// Called for each event of the user's hands, with its first receiver.
     using Input = std::function<void(QObject& receiver, QEvent& event)>;
     explicit HeldWindows(Keys keys, Input input = {});
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The accessibility of a table or a tree.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A form as a list of captions and values.
 #pragma once
 
 #include <map>

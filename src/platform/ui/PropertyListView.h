@@ -75,7 +75,7 @@ class PropertyListView : public QTreeWidget {
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
-    /// Gives the captions the width that the longest of them needs.
+    /// Sets the column of the captions to the width of the longest.
     void showEvent(QShowEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;

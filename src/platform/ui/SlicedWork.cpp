@@ -20,7 +20,7 @@ void SlicedWork::turn() {
         restFor(whileResting);
         return;
     }
-    // A part that begins something anew, or asks for a rest, has started the timer itself.
+    // A part that starts new work, or asks for a rest, has started the timer itself.
     if (m_part(Slice())) start();
 }
 

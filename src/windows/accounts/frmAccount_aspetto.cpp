@@ -50,7 +50,7 @@ void frmAccount::CreaControlli() {
     for (std::size_t i = 0; i < lbl.size(); ++i)
         lbl[i] = ui::named(new QLabel(testi[i], this), QString("lbl(%1)").arg(i));
     pic = ui::named(new QWidget(this), "pic");
-    // In the order in which the keyboard goes round them.
+    // In tab order.
     lstAccount = ui::named(new ElencoAccount(this), "lstAccount");
     CreaCaselle();
     cmdNuovo = ui::commandButton("&Nuovo Account", "cmdNuovo", this);

@@ -14,7 +14,7 @@ class QWidget;
 /// first in its load. Without a theme service, or after a failure on the way, the scheme is "Classic".
 QString RilevaTema(QWidget* finestra);
 
-/// For tests: the name of the scheme that a theme service would give; empty for none.
+/// For tests: the name of the scheme that a theme service would return; empty for none.
 void sostituisciSchema(const QString& nome);
 
 /// Fills the palette with the colours of a scheme: "Classic", "NormalColor", "Metallic" or "HomeStead". Any
@@ -26,7 +26,7 @@ void ImpostaColoriTema(const QString& nome);
 /// 0xffffffff, for a value that is neither.
 std::uint32_t TraduciColore(std::uint32_t valore);
 
-/// Colour 1 over colour 2, system colours included: quota 0 gives colour 2, 255 gives colour 1. Halves go to
+/// Colour 1 over colour 2, system colours included: quota 0 is colour 2, 255 is colour 1. Halves go to
 /// the even number.
 std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int quota);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The common layout of the windows of the imports.
 #pragma once
 
 #include <initializer_list>

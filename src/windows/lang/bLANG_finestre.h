@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The windows that have texts in the language file.
 #pragma once
 
 #include <functional>

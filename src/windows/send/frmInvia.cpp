@@ -77,7 +77,7 @@ void frmInvia::CreaControlli() {
     const auto conteggio = [&](const char* nome, const char* testo) {
         return nomina(new ui::CountLabel(testo), nome);
     };
-    // In the order in which the keyboard goes round them.
+    // In tab order.
     lblFile = etichetta("lblFile", "File messaggio da inviare:");
     txtFile = casella("txtFile");
     cmdFile = pulsante("cmdFile", "...", nullptr);

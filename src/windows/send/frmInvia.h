@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The send window.
 #pragma once
 
 #include <functional>

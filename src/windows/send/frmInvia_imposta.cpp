@@ -116,7 +116,7 @@ void frmInvia::cmdInvia_Click() {
     fermaInvio = false;
     const int indiceAccount = cmbAccount->currentData().toInt();
     if (!file.aperto.ok() || !FileEsiste(txtFile->text())) {
-        // The controls stay locked: cmdFerma is the way to go on.
+        // The controls stay locked until cmdFerma is pressed.
         MessageDialog::show("Il File messaggio è stato eliminato o spostato.", MessageDialog::Notice,
                             "Attenzione");
         return;

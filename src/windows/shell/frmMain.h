@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The main window.
 #pragma once
 
 #include <functional>
@@ -129,7 +130,7 @@ class frmMain : public QMainWindow {
     QStringList CreaStrumenti();
     void CreaBarre();
     void CreaBarraStato();
-    /// Tab goes from the tree to the grid; F6 goes round tree, grid and bars; F10 opens the first menu.
+    /// Tab goes from the tree to the grid; F6 moves between tree, grid and bars; F10 opens the first menu.
     void CreaGiroFuoco(frmGruppi& gruppi);
     void AggiornaData();
 

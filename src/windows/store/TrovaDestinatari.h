@@ -17,7 +17,7 @@ class GridSearch;
 }  // namespace ui
 
 /// The search of the bar that finds recipients: in the folder that the grid shows, or everywhere. As one
-/// types, the first match of the folder becomes the current row and the counts come in; going on past the
+/// types, the first match of the folder becomes the current row and the counts are shown; searching past the
 /// last match of the folder opens the next one that has some, by what a click on it does. Nothing is written.
 class TrovaDestinatari : public QObject {
     Q_OBJECT

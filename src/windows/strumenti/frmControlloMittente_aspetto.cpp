@@ -30,7 +30,7 @@ class RigheStaccate : public QStyledItemDelegate {
 }  // namespace
 
 void frmControlloMittente::CreaControlli() {
-    // In the order in which the keyboard goes round them.
+    // In tab order.
     lblAccount = ui::named(new QLabel(Words::tr("&Account mittente:"), this), "lblAccount");
     cmbAccount = ui::named(new QComboBox(this), "cmbAccount");
     cmbAccount->setMinimumHeight(ui::fieldHeight);

@@ -67,7 +67,7 @@ void frmEsiti::CreaControlli() {
     const auto pulsante = [this](const char* nome, const QString& testo) {
         return ui::commandButton(testo, nome, this);
     };
-    // In the order in which the keyboard goes round them.
+    // In tab order.
     cmbInvio = elenco("cmbInvio", Words::tr("Invio"));
     cmdElimina = pulsante("cmdElimina", Words::tr("&Elimina"));
     cmdEliminaTutti = pulsante("cmdEliminaTutti", Words::tr("Elimina &tutti"));

@@ -86,7 +86,7 @@ void frmProva::CreaControlli() {
         campo->setReadOnly(true);
         return campo;
     };
-    // In the order in which the keyboard goes round them.
+    // In tab order.
     lblFile = etichetta("lblFile", Words::tr("File messaggio:"));
     cmbFile = ui::choiceField("cmbFile", {}, this);
     cmdFile = ui::commandButton("...", "cmdFile", this);

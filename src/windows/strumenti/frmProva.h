@@ -52,7 +52,7 @@ class frmProva : public QDialog {
     /// failure; what is missing is shown in the window.
     void Carica();
 
-    /// Esc: gives up a test copy that is under way, otherwise leaves the window.
+    /// Esc: ends a test copy that is under way, otherwise leaves the window.
     void reject() override;
 
   protected:

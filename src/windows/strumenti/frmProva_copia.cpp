@@ -62,7 +62,7 @@ void frmProva::cmdFile_Click() {
     UsaFile();
 }
 
-/// Reads the file that is chosen, anew each time, and shows it for the recipient on show.
+/// Reads the file that is chosen, again each time, and shows it for the recipient on show.
 void frmProva::UsaFile() {
     modello.reset();
     QString motivo =

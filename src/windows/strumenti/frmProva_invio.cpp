@@ -59,7 +59,7 @@ void frmProva::UsaAccount() {
     AbilitaInvio();
 }
 
-/// While a copy is under way the keyboard is on the button that gives it up.
+/// While a copy is under way the keyboard is on the button that ends it.
 void frmProva::AbilitaInvio() {
     const bool suInvia = cmdInviaProva->hasFocus(), suAnnulla = cmdAnnulla->hasFocus();
     if (inInvio) {

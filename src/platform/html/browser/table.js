@@ -135,7 +135,7 @@ editor.table = {
         return true;
     },
 
-    // A cell that reaches below the deleted rows goes on in the row after them, at its column.
+    // A cell that reaches below the deleted rows continues in the row after them, at its column.
     moveDown(table, grid, cell, y) {
         const x = grid[y].indexOf(cell);
         const next = grid[y].slice(x).find((other) => other !== cell && other.parentNode === table.rows[y]);
