@@ -7,7 +7,7 @@
 Each benchmark is a folder below bench/ with a run.py of its own, which is called with the build folder and a work folder of its
 own and prints a JSON list of measures (name, value, unit, peer, ratio, goal, met) and of lines in a chart (chart, line, points).
 A ratio compares with the peer in the same run, on the same machine. Runs that are there already, of the same sources on the same
-machine, count: what was interrupted goes on where it was. `--runs 0` measures nothing and writes the page anew.
+machine, count: what was interrupted continues where it was. `--runs 0` measures nothing and writes the page again.
 """
 import argparse
 import json

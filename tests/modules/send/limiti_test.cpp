@@ -159,7 +159,7 @@ TEST_F(Limits, LimitOfOneOrNoneWaitsOutTheWindowEachTime) {
 TEST_F(Limits, WindowOfNoMinutesBlocksOnlyInItsFirstSecond) {
     LimiteBlocco limit = started(QStringLiteral("0"), QStringLiteral("1"));
     EXPECT_EQ(message(limit, 0), 0);
-    EXPECT_EQ(limit.bloccoConta, 1) << "the window began anew";
+    EXPECT_EQ(limit.bloccoConta, 1) << "the window began again";
     EXPECT_EQ(message(limit, 1), 0);
     EXPECT_EQ(limit.bloccoConta, 2) << "the window was over";
 }
