@@ -17,14 +17,15 @@ QByteArrayView withoutBlanksAtEnd(QByteArrayView line) {
 }
 
 QByteArray withSingleBlanks(QByteArrayView text) {
-    QByteArray out;
-    out.reserve(text.size());
+    QByteArray out(text.size(), Qt::Uninitialized);
+    char* to = out.data();
+    bool afterBlank = false;
     for (const char c : text) {
-        if (!isWsp(c))
-            out += c;
-        else if (!out.endsWith(' '))
-            out += ' ';
+        const bool blank = isWsp(c);
+        if (!blank || !afterBlank) *to++ = blank ? ' ' : c;
+        afterBlank = blank;
     }
+    out.truncate(to - out.constData());
     return out;
 }
 
@@ -50,26 +51,34 @@ QByteArray relaxedField(QByteArrayView field) {
 }
 
 void RelaxedBody::add(QByteArrayView lines) {
-    qsizetype same = 0;  // from here on the lines are in this form, and were not passed on yet
+    // From `same` on the lines are in this form and were not passed on yet. Those after `shownEnd` are empty:
+    // they count where another line follows.
+    qsizetype same = 0, shownEnd = 0, emptyLines = 0;
+    const auto passOn = [&](qsizetype end) {
+        if (end > same) m_consumer(lines.sliced(same, end - same));
+    };
     for (qsizetype from = 0, next = 0; from < lines.size(); from = next) {
         const qsizetype end = lines.indexOf('\n', from);
         next = end < 0 ? lines.size() : end + 1;
         const bool ended = end > from && lines[end - 1] == '\r';
         const QByteArrayView line = lines.sliced(from, (end < 0 ? next : end) - from - (ended ? 1 : 0));
         const QByteArrayView shown = withoutBlanksAtEnd(line);
-        if (ended && !shown.isEmpty() && m_emptyLines == 0 && shown.size() == line.size() &&
-            hasSingleBlanks(line))
-            continue;
-        if (from > same) m_consumer(lines.sliced(same, from - same));
-        same = next;
-        if (shown.isEmpty()) {
-            ++m_emptyLines;
+        const bool empty = shown.isEmpty();
+        if (ended && m_emptyLines == 0 && shown.size() == line.size() && hasSingleBlanks(line)) {
+            emptyLines = empty ? emptyLines + 1 : 0;
+            if (!empty) shownEnd = next;
             continue;
         }
+        passOn(empty ? shownEnd : from);
+        if (empty) m_emptyLines += emptyLines + 1;
+        same = shownEnd = next;
+        emptyLines = 0;
+        if (empty) continue;
         m_consumer(QByteArray("\r\n").repeated(m_emptyLines) + withSingleBlanks(shown) + "\r\n");
         m_emptyLines = 0;
     }
-    if (lines.size() > same) m_consumer(lines.sliced(same));
+    passOn(shownEnd);
+    m_emptyLines += emptyLines;
 }
 
 }  // namespace mail
