@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#include "platform/text/SameText.h"
+
 namespace mail {
 
 namespace {
@@ -33,8 +35,17 @@ QByteArray sha256(QByteArrayView octets) {
     return hash.result();
 }
 
+// The path of a run's database is the same for each of its messages.
 QByteArray digestOfPath(const QString& path) {
-    return sha256(QDir::cleanPath(QFileInfo(path).absoluteFilePath()).toUtf8());
+    static thread_local QString knownPath;
+    static thread_local QByteArray known;
+    if (!known.isEmpty() && text::sameText(path, knownPath)) return known;
+    const QByteArray digest = sha256(QDir::cleanPath(QFileInfo(path).absoluteFilePath()).toUtf8());
+    // What a relative one means changes with the working folder.
+    if (!QDir::isAbsolutePath(path)) return digest;
+    knownPath = path;
+    known = digest;
+    return digest;
 }
 
 bool isEmpty(QByteArrayView entry) {
@@ -69,6 +80,10 @@ bool DatabaseFile::same(const DatabaseFile& other) const {
 
 AcceptedEntry AcceptedEntry::of(const DatabaseFile& database, qint64 number, const QString& address) {
     return {number, database.device, database.inode, digestOfPath(database.path), sha256(address.toUtf8())};
+}
+
+AcceptedEntry AcceptedEntry::ofDatabase(const DatabaseFile& database) {
+    return {0, database.device, database.inode, digestOfPath(database.path), {}};
 }
 
 bool AcceptedEntry::sameDatabase(const AcceptedEntry& other) const {

@@ -32,6 +32,8 @@ struct AcceptedEntry {
     QByteArray address;  ///< SHA-256
 
     static AcceptedEntry of(const DatabaseFile& database, qint64 number, const QString& address);
+    /// For sameDatabase() alone.
+    static AcceptedEntry ofDatabase(const DatabaseFile& database);
     /// Whether both are rows of one database.
     bool sameDatabase(const AcceptedEntry& other) const;
     /// Whether it is of this address, compared octet by octet.

@@ -158,6 +158,7 @@ void AcceptedList::release() {
 }
 
 bool AcceptedList::holds(const DatabaseFile& database, qint64 number, const QString& address) const {
+    if (m_entries.isEmpty() && m_foreign.isEmpty()) return false;  // as a rule
     const AcceptedEntry wanted = AcceptedEntry::of(database, number, address);
     const auto fits = [&](const AcceptedEntry& entry) {
         return entry.number == number && entry.address == wanted.address && entry.sameDatabase(wanted);
@@ -169,7 +170,7 @@ bool AcceptedList::holds(const DatabaseFile& database, qint64 number, const QStr
 }
 
 QVector<AcceptedEntry> AcceptedList::of(const DatabaseFile& database) const {
-    const AcceptedEntry any = AcceptedEntry::of(database, 0, {});
+    const AcceptedEntry any = AcceptedEntry::ofDatabase(database);
     QVector<AcceptedEntry> found;
     for (const AcceptedContent::Place& place : m_entries)
         if (place.entry.sameDatabase(any)) found.append(place.entry);
@@ -184,7 +185,7 @@ void AcceptedList::add(const DatabaseFile& database, qint64 number, const QStrin
 }
 
 void AcceptedList::remove(const DatabaseFile& database, qint64 number) {
-    const auto meant = [&, any = AcceptedEntry::of(database, number, {})](const AcceptedEntry& entry) {
+    const auto meant = [&, any = AcceptedEntry::ofDatabase(database)](const AcceptedEntry& entry) {
         return entry.number == number && entry.sameDatabase(any);
     };
     for (const AcceptedContent::Place& place : std::as_const(m_entries))
