@@ -142,10 +142,11 @@ void DeliveryControl::report() {
     noteOutcome(outcome);
     if (const QString verdict = m_transcript.active() ? verdictOf(outcome) : QString(); !verdict.isEmpty())
         m_transcript.remark(m_transcript.withoutSecrets(verdict));
-    log(QStringLiteral("%1: %2").arg(
-        outcome.delivered ? QStringLiteral("consegnato") : QStringLiteral("non consegnato"),
-        (outcome.code ? QString::number(outcome.code) + u' ' : QString()) +
-            m_transcript.withoutSecrets(outcome.text)));
+    if (m_transcript.active())
+        log(QStringLiteral("%1: %2").arg(
+            outcome.delivered ? QStringLiteral("consegnato") : QStringLiteral("non consegnato"),
+            (outcome.code ? QString::number(outcome.code) + u' ' : QString()) +
+                m_transcript.withoutSecrets(outcome.text)));
     m_last = outcome;
     if (outcome.delivered)
         Q_EMIT SendDone();

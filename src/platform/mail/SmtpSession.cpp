@@ -82,7 +82,8 @@ void SmtpSession::deliver(const Route& route, const ComposedMessage& message, co
     m_reused =
         m_ready && route == m_route && !inputLeft() && m_socket->state() == QAbstractSocket::ConnectedState;
     if (m_reused) {
-        m_transcript.remark(QStringLiteral("Connessione ancora aperta, ") + security());
+        if (m_transcript.active())
+            m_transcript.remark(QStringLiteral("Connessione ancora aperta, ") + security());
         startTransaction();
         return;
     }

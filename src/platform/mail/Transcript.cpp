@@ -34,7 +34,7 @@ bool Transcript::holdsSecret(QByteArrayView text) const {
 }
 
 QString Transcript::withoutSecrets(const QString& text) const {
-    return holdsSecret(text.toUtf8()) ? QStringLiteral("(omesso)") : text;
+    return !m_secrets.isEmpty() && holdsSecret(text.toUtf8()) ? QStringLiteral("(omesso)") : text;
 }
 
 void Transcript::sent(QByteArrayView text) {
