@@ -321,11 +321,18 @@ void SmtpSession::writePiece(QByteArrayView piece, QByteArrayView end) {
     const bool anyLeft = taken < piece.size() + end.size();
     if (anyLeft) {
         // In one write: with TLS each becomes a record of its own
-        QByteArray left = piece.toByteArray() + end.toByteArray();
-        left.remove(0, taken);
-        socket->write(left);
+        if (taken == 0 && end.isEmpty()) {
+            socket->write(piece.data(), piece.size());
+        } else {
+            QByteArray left = piece.toByteArray() + end.toByteArray();
+            left.remove(0, taken);
+            socket->write(left);
+        }
     }
-    noteTaken();
+    if (taken > 0)
+        noteTaken();
+    else
+        progress();
     if (anyLeft) socket->flush();
 }
 
