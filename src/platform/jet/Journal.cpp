@@ -21,13 +21,13 @@ using Range = OsFile::Range;
 
 bool Journal::leadsTo(const OsFile& file) const {
     FileState now;
-    return file.isOpen() && nameState(m_path, now) && sameFile(now, file.state());
+    return file.isOpen() && nameIs(m_path, now) && sameFile(now, file.state());
 }
 
 /// Whether the name leads to the journal that is open, and the rights of what has it.
 bool Journal::leadsHere(FileRights& rights) const {
     FileState now;
-    return isOpen() && nameState(m_path, now, &rights) && sameFile(now, m_opened);
+    return isOpen() && nameIs(m_path, now, &rights) && sameFile(now, m_opened);
 }
 
 bool Journal::trusted(const FileRights& rights, const FileRights& database) {

@@ -38,8 +38,8 @@ struct FileState {
 /// State of the file at `path`, and its rights where they are wanted; false when there is none or it cannot
 /// be asked.
 bool fileState(const std::string& path, FileState& state, FileRights* rights = nullptr);
-/// The same for what has the name itself, which may be a link.
-bool nameState(const std::string& path, FileState& state, FileRights* rights = nullptr);
+/// The file that has the name itself, which may be a link: its device and inode, no more of its state.
+bool nameIs(const std::string& path, FileState& identity, FileRights* rights = nullptr);
 /// Whether two states are of one file.
 inline bool sameFile(const FileState& one, const FileState& other) {
     return one.inode == other.inode && one.device == other.device;
