@@ -4,6 +4,7 @@
 #include <optional>
 #include <QStringList>
 
+#include "platform/text/SameText.h"
 #include "platform/text/Words.h"
 
 namespace ado {
@@ -78,9 +79,7 @@ std::optional<QString> takeValue(const QString& text, qsizetype& at, bool path) 
     return value;
 }
 
-}  // namespace
-
-Result<ConnectionText> ConnectionText::parse(const QString& text) {
+Result<ConnectionText> readParts(const QString& text) {
     ConnectionText result;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype equal = text.indexOf(u'=', at);
@@ -110,6 +109,20 @@ Result<ConnectionText> ConnectionText::parse(const QString& text) {
     }
     if (result.path.isEmpty())
         return Status(ErrorCode::FileNotFound, Words::tr("Nessun file di database indicato."));
+    return result;
+}
+
+}  // namespace
+
+Result<ConnectionText> ConnectionText::parse(const QString& text) {
+    // Each recordset and each command of a program names the same database.
+    static thread_local QString knownText;
+    static thread_local ConnectionText known;
+    if (!text.isEmpty() && text::sameText(text, knownText)) return known;
+    const Result<ConnectionText> result = readParts(text);
+    if (!result.ok()) return result;
+    knownText = text;
+    known = result.value();
     return result;
 }
 
