@@ -181,7 +181,7 @@ QString Recordset::fieldName(int index) const {
 std::optional<size_t> Recordset::Data::find(QStringView name) const {
     const auto& names = rows->names();
     const auto found = std::find_if(names.begin(), names.end(), [&](const QString& n) {
-        return name.compare(n, Qt::CaseInsensitive) == 0;
+        return name.size() == n.size() && name.compare(n, Qt::CaseInsensitive) == 0;
     });
     if (found == names.end()) return std::nullopt;
     return static_cast<size_t>(found - names.begin());

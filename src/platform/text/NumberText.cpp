@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/text/NumberText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -79,6 +80,14 @@ double leadingNumber(QStringView text) {
 }
 
 Result<double> numberFromText(QStringView text, const QLocale& locale) {
+    // A port, a switch: a whole number is the same in each locale, and exact.
+    constexpr qsizetype exactDigits = 15;
+    if (!text.isEmpty() && text.size() <= exactDigits && std::all_of(text.begin(), text.end(), isDigit)) {
+        double number = 0;
+        for (const QChar digit : text)
+            number = number * 10 + (digit.unicode() - u'0');
+        return number;
+    }
     const QString decimalSign = locale.decimalPoint();
     const QString groupSign = locale.groupSeparator();
     QStringView rest = trimBlanks(text);

@@ -46,6 +46,8 @@ TEST(NumberFromText, TakesSignDecimalsAndGroupsOfTheLocale) {
     EXPECT_EQ(number(u"5,"), 5);
     EXPECT_EQ(number(u"1,234.5", english), 1234.5);
     EXPECT_EQ(number(u"000012"), 12);
+    EXPECT_EQ(number(u"999999999999999"), 999999999999999.0);
+    EXPECT_EQ(number(u"1234567890123456789"), 1234567890123456789.0);
 }
 
 TEST(NumberFromText, RefusesEverythingElse) {
