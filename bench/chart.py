@@ -5,7 +5,7 @@ import html
 import math
 
 WIDTH, HEIGHT = 720, 420
-LEFT, RIGHT, TOP, BOTTOM = 84, 24, 16, 52
+LEFT, RIGHT, TOP, BOTTOM = 84, 40, 16, 52
 LEGEND = 22
 COLOURS = ("#0b57a4", "#b3261e", "#1b6e3c", "#7a3fa0", "#8a5a00")
 MARKS = ("circle", "square")
