@@ -176,7 +176,8 @@ class TestWindows : public QObject {
         delete &finestre::Editor();
         reads("frmEditor", [] { finestre::Editor(); });
         reads("frmPropBody", [] { finestre::PropBody(); });
-        reads("frmColor", [] { frmColor(*finestre::Editor().DHTML, finestre::Editor().Commands()); });
+        reads("frmColor",
+              [] { const frmColor colours(*finestre::Editor().DHTML, finestre::Editor().Commands()); });
         reads("frmSplash", [] { finestre::Splash(); });
         reads("frmInfoSu", [] { finestre::InfoSu(); });
         reads("frmAccount", [] { finestre::Account(); });
