@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cassert>
 #include <cerrno>
 #include <chrono>
 #include <QFile>
@@ -43,7 +44,9 @@ bool lockForChange(int descriptor) {
     return false;
 }
 
+/// Of slot number mostAccepted: the end of the largest file.
 off_t placeOf(qsizetype slot) {
+    assert(slot >= 0 && slot <= mostAccepted);
     return (slot + 1) * AcceptedEntry::size;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mail/AwaitedReply.h"
 
+#include <cassert>
 #include <QDeadlineTimer>
 
 #include "platform/mail/SmtpReply.h"
@@ -10,6 +11,7 @@ namespace mail {
 
 AwaitedReply::AwaitedReply(QSslSocket* socket, const QByteArray& input, int before, int limitMs)
     : m_socket(socket), m_input(input), m_before(before) {
+    assert(before >= 0);
     m_socket->setParent(this);
     connect(m_socket, &QSslSocket::readyRead, this, &AwaitedReply::look);
     connect(m_socket, &QSslSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {

@@ -2,6 +2,7 @@
 #include "platform/mail/Composer.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "platform/mail/Attachments.h"
@@ -187,6 +188,7 @@ Result<ComposedMessage> Composer::compose(const MessageData& message) {
         composed.signing = signature.status();
     else if (!signature.value().isEmpty())
         composed.text.prepend(signature.value());
+    assert(composed.text.endsLine());
     return composed;
 }
 

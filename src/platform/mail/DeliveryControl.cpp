@@ -3,6 +3,7 @@
 
 #include <cassert>
 #include <QHostAddress>
+#include <QScopedValueRollback>
 #include <utility>
 
 #include "platform/mail/DomainName.h"
@@ -22,7 +23,7 @@ constexpr int defaultTimeoutSecs = 60;
 DeliveryControl::DeliveryControl(QObject* parent) : QObject(parent), m_session(m_transcript) {
     connect(&m_session, &SmtpSession::finished, this, &DeliveryControl::finish);
     m_deferred.setSingleShot(true);
-    connect(&m_deferred, &QTimer::timeout, this, &DeliveryControl::report);
+    connect(&m_deferred, &QTimer::timeout, this, [this] { report(std::exchange(m_later, {})); });
 }
 
 Route DeliveryControl::route(const QString& host) const {
@@ -51,8 +52,9 @@ void DeliveryControl::Send() {
         giveUp();
         log(QStringLiteral("abbandonato"));
     }
+    assert(!m_insideSend && !m_session.busy());
     m_running = true;
-    m_insideSend = true;
+    const QScopedValueRollback inside(m_insideSend, true);
     m_clock.start();
     const bool addressIsFresh = ToAddress.useUp();
     m_current = {DatabaseFile::at(Database), RecipientNumber, addressIsFresh ? ToAddress.text() : QString()};
@@ -70,7 +72,6 @@ void DeliveryControl::Send() {
     } else {
         startNew(host);
     }
-    m_insideSend = false;
 }
 
 void DeliveryControl::startNew(const QString& host) {
@@ -119,24 +120,27 @@ void DeliveryControl::Abort() {
     if (!m_running) return;
     const DeliveryStage reached = m_session.busy() ? m_session.stage() : DeliveryStage::NotTried;
     const bool unanswered = giveUp();
-    m_outcome = {false,     0, Words::tr("Invio interrotto."), false, reached, DeliveryCause::Stopped,
-                 unanswered};
-    report();
+    report({false, 0, Words::tr("Invio interrotto."), false, reached, DeliveryCause::Stopped, unanswered});
 }
 
 void DeliveryControl::finish(const DeliveryOutcome& outcome) {
-    assert(m_running && !m_deferred.isActive());  // one outcome for each Send
     noteLogin(outcome);
-    m_outcome = outcome;
     if (m_insideSend)
-        m_deferred.start();
+        finishLater(outcome);
     else
-        report();
+        report(outcome);
 }
 
-void DeliveryControl::report() {
-    assert(m_running);
-    const DeliveryOutcome outcome = std::exchange(m_outcome, {});
+void DeliveryControl::finishLater(const DeliveryOutcome& outcome) {
+    assert(m_running && !m_deferred.isActive());  // one outcome for each Send
+    m_later = outcome;
+    m_deferred.start();
+}
+
+void DeliveryControl::report(const DeliveryOutcome& outcome) {
+    assert(m_running && !m_deferred.isActive());                          // one outcome for each Send,
+    assert(!m_insideSend);                                                // after it has returned,
+    assert(!m_session.busy() && !m_waiting && m_awaitedHere == nullptr);  // when nothing of it is under way
     m_running = false;
     if (outcome.delivered) noteAccepted(m_current);
     noteOutcome(outcome);

@@ -165,6 +165,7 @@ class DeliveryControl : public QObject, public MessageData {
     bool giveUp();
     void onLateReply(AwaitedReply* reply, bool accepted, int code);
     void startWaiting();
+    bool mayStart() const;
 
     // DeliveryControl_token.cpp: the token that replaces a password
     void deliver(const Waiting& waiting);
@@ -175,7 +176,8 @@ class DeliveryControl : public QObject, public MessageData {
     void startNew(const QString& host);
     QString whyNoHost() const;
     void finish(const DeliveryOutcome& outcome);
-    void report();
+    void finishLater(const DeliveryOutcome& outcome);
+    void report(const DeliveryOutcome& outcome);
     void logStart(const QString& host);
     void log(const QString& outcome);
     Route route(const QString& host) const;
@@ -194,8 +196,8 @@ class DeliveryControl : public QObject, public MessageData {
     std::vector<GivenUp> m_awaited;
     AwaitedReply* m_awaitedHere = nullptr;  ///< the running message takes the outcome of this one
     std::optional<Waiting> m_waiting;
-    bool m_insideSend = false;
-    DeliveryOutcome m_outcome;
+    bool m_insideSend = false;  ///< the session may report during the call
+    DeliveryOutcome m_later;    ///< to be reported when m_deferred fires
     DeliveryOutcome m_last;
     QByteArray m_messageId;
     QString m_recipient;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whom a message is for, what was accepted in a run, and the replies that are awaited separately.
 #include <algorithm>
+#include <cassert>
 #include <QDeadlineTimer>
 #include <utility>
 
@@ -44,7 +45,9 @@ QString DeliveryControl::whyNotSent(bool addressIsFresh) const {
 void DeliveryControl::noteAccepted(const Recipient& accepted) {
     if (accepted.number == recipient::outsideRun) return;
     m_acceptedInRun.insert({accepted.database.path, accepted.number});
-    if (Accepted) Accepted->add(accepted.database, accepted.number, accepted.address);
+    if (!Accepted) return;
+    Accepted->add(accepted.database, accepted.number, accepted.address);
+    assert(Accepted->holds(accepted.database, accepted.number, accepted.address));
 }
 
 /// An outcome is in the book before the caller is notified.
@@ -97,8 +100,7 @@ void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbe
     m_awaited.erase(forgotten, m_awaited.end());
     if (current) {
         m_awaitedHere = nullptr;
-        m_outcome = {false, 0, Words::tr("Il destinatario è stato selezionato di nuovo.")};
-        m_deferred.start();
+        finishLater({false, 0, Words::tr("Il destinatario è stato selezionato di nuovo.")});
     }
     startWaiting();
     if (forgotSome && m_awaited.empty()) Q_EMIT AwaitedEnded();
@@ -123,6 +125,7 @@ bool DeliveryControl::giveUp() {
     m_awaitedHere = nullptr;
     std::unique_ptr<AwaitedReply> reply = m_session.abandon();
     if (!reply) return false;
+    assert(m_awaited.size() < mostAwaited && !awaitedFor(m_current));
     AwaitedReply* const shown = reply.get();
     connect(shown, &AwaitedReply::ended, this,
             [this, shown](bool accepted, int code) { onLateReply(shown, accepted, code); });
@@ -136,6 +139,7 @@ bool DeliveryControl::giveUp() {
 void DeliveryControl::onLateReply(AwaitedReply* reply, bool accepted, int code) {
     const auto found = std::find_if(m_awaited.begin(), m_awaited.end(),
                                     [&](const GivenUp& awaited) { return awaited.reply.get() == reply; });
+    assert(found != m_awaited.end());  // a reply ends once
     GivenUp awaited = std::move(*found);
     m_awaited.erase(found);
     reply->setParent(this);
@@ -163,6 +167,14 @@ void DeliveryControl::startWaiting() {
     }
     const Waiting waiting = *std::exchange(m_waiting, std::nullopt);
     deliver(waiting);
+}
+
+/// For asserts: the message may be handed to the session. One with a number is for a row that was read, in a
+/// run that goes on, and no reply is awaited for it.
+bool DeliveryControl::mayStart() const {
+    if (!m_running || m_session.busy() || m_awaitedHere || m_awaited.size() >= mostAwaited) return false;
+    if (m_current.number == recipient::outsideRun) return true;
+    return m_current.number != recipient::nobody && !m_stopped && !awaitedFor(m_current);
 }
 
 QList<qint64> DeliveryControl::Awaited(const QString& database) const {

@@ -2,10 +2,13 @@
 // The token that replaces a password.
 #include "platform/mail/DeliveryControl.h"
 
+#include <cassert>
+
 namespace mail {
 
 /// Passes the message to the session, once there is a token where one is needed.
 void DeliveryControl::deliver(const Waiting& waiting) {
+    assert(mayStart());
     m_token.clear();
     if (!waiting.route.bearer) {
         m_session.deliver(waiting.route, waiting.message, waiting.times);
@@ -18,10 +21,10 @@ void DeliveryControl::deliver(const Waiting& waiting) {
 
 void DeliveryControl::onToken(const Waiting& waiting, const Result<oauth::Access>& access) {
     if (!access.ok()) {
-        m_outcome = {false, 0, access.status().text(), true, DeliveryStage::Login};
-        m_deferred.start();
+        finishLater({false, 0, access.status().text(), true, DeliveryStage::Login});
         return;
     }
+    assert(mayStart());
     if (!access.value().remark.isEmpty()) m_transcript.remark(access.value().remark);
     m_token = access.value().token;
     Route route = waiting.route;

@@ -2,6 +2,7 @@
 #include "platform/mail/DotStuffing.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 
 namespace mail {
@@ -21,6 +22,7 @@ const char* nextPointLine(const char* begin, const char* from, const char* end) 
 }  // namespace
 
 QByteArray stuffedPiece(const QByteArray& data, qsizetype& offset, qsizetype limit) {
+    assert(limit > 0 && offset >= 0 && offset <= data.size());
     const char* const begin = data.constData();
     const char* at = begin + offset;
     const char* const end = at + std::min(limit, data.size() - offset);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mail/Login.h"
 
+#include <cassert>
 #include <utility>
 
 #include "platform/text/Words.h"
@@ -45,6 +46,7 @@ Login::Login(LoginIdentity identity, const LoginTerms& terms, QString clearListF
     : m_identity(std::move(identity)), m_clearListFile(std::move(clearListFile)), m_mechanisms(terms) {}
 
 LoginStep Login::begin() {
+    assert(!m_exchange);
     return tryMechanism();
 }
 
@@ -106,6 +108,7 @@ LoginStep Login::noneLeft() const {
 }
 
 LoginStep Login::onReply(const SmtpReply& reply) {
+    assert(m_exchange);
     if (reply.intermediate()) return onChallenge(reply.text);
     if (!reply.positive()) return onRefusal(reply);
     if (!m_exchange->complete()) return untrusted();

@@ -2,6 +2,7 @@
 #include "platform/mail/MessageText.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "platform/mail/DotStuffing.h"
@@ -15,9 +16,12 @@ constexpr qsizetype leastShared = 64 * 1024;
 }  // namespace
 
 SharedLines::SharedLines(QByteArray octets)
-    : m_octets(std::move(octets)), m_hasPoints(hasPointLines(m_octets)) {}
+    : m_octets(std::move(octets)), m_hasPoints(hasPointLines(m_octets)) {
+    assert(m_octets.isEmpty() || m_octets.endsWith("\r\n"));
+}
 
 void MessageText::append(const SharedLines& lines) {
+    assert(m_end.isEmpty() || m_end.endsWith("\r\n"));
     if (lines.octets().size() < leastShared) {
         m_end += lines.octets();
         return;
@@ -27,6 +31,7 @@ void MessageText::append(const SharedLines& lines) {
 }
 
 void MessageText::prepend(const QByteArray& lines) {
+    assert(lines.isEmpty() || lines.endsWith("\r\n"));
     if (m_shared.empty())
         m_end.prepend(lines);
     else

@@ -65,7 +65,7 @@ SmtpSession::~SmtpSession() {
 }
 
 void SmtpSession::begin(const SmtpTimes& times) {
-    assert(!m_busy);
+    assert(!m_busy && (!m_socket || isIdle()));
     m_busy = true;
     m_inspecting = m_reused = false;
     m_refused = m_mailAccepted = false;
@@ -147,18 +147,25 @@ DeliveryStage SmtpSession::stageOf(Step step) {
 }
 
 std::unique_ptr<AwaitedReply> SmtpSession::abandon() {
-    m_busy = false;
     m_stall.stop();
     std::unique_ptr<AwaitedReply> awaited;
     if (hasGivenAll() && !m_refused) {
+        assert(m_busy && !m_inspecting);
         QSslSocket* const socket = std::exchange(m_socket, nullptr);
         socket->disconnect(this);
         awaited = std::make_unique<AwaitedReply>(socket, m_input.mid(m_inputRead), int(m_expected.size()) - 1,
                                                  std::max(m_times.stall, m_times.finalReply));
     }
+    m_busy = false;
     dropConnection();
     m_message = {};
     return awaited;
+}
+
+/// For asserts: a kept connection between two messages owes nothing, and nothing is owed to it.
+bool SmtpSession::isIdle() const {
+    return m_ready && !m_handshaking && !m_feeding && !m_login && m_expected.isEmpty() && m_plan.isEmpty() &&
+           m_output.isEmpty();
 }
 
 /// The system has taken the whole message, the final point included, and the server has not replied.
@@ -414,6 +421,7 @@ void SmtpSession::lost(int code, const QString& why, Loss loss, DeliveryCause ca
     }
     if (m_inFlight && loss != Loss::Farewell) endFlights();
     if (m_reused && !m_refused && nothingTaken(loss)) {
+        assert(m_inFlight || !m_pointGiven);  // none of it may have been delivered
         m_reused = m_pointGiven = m_inFlight = false;
         m_transcript.remark(QStringLiteral("Connessione caduta, nuova connessione"));
         open();
@@ -437,6 +445,7 @@ void SmtpSession::conclude(const DeliveryOutcome& outcome) {
     if (m_socket && inputLeft()) dropConnection();
     if (m_socket && !m_ready) quit();
     if (m_socket) m_idle.start();
+    assert(!m_socket || isIdle());
     Q_EMIT finished(outcome);
 }
 

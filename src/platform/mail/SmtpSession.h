@@ -117,6 +117,7 @@ class SmtpSession : public QObject {
     void conclude(const DeliveryOutcome& outcome);
     void progress();
     int limitMs() const;
+    bool isIdle() const;
     bool hasGivenAll() const;
     bool wasAccepted() const;
     void onConnected();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialogue of a session: commands, replies and what follows from them.
 #include <algorithm>
+#include <cassert>
 #include <QHostAddress>
 #include <QHostInfo>
 #include <utility>
@@ -194,6 +195,7 @@ void SmtpSession::afterHello() {
 }
 
 void SmtpSession::startTransaction() {
+    assert(m_busy && !m_inspecting && isIdle() && !missesTls());
     if (m_message.needsSmtputf8 && !m_extensions.smtputf8) {
         conclude({false, 0, Words::tr("Il server non accetta indirizzi con caratteri internazionali."), false,
                   DeliveryStage::Sender});
@@ -299,6 +301,7 @@ void SmtpSession::noteMessage() {
 void SmtpSession::feedBody() {
     QSslSocket* const socket = m_socket;
     for (int pieces = 1; m_socket == socket && m_feeding && allTaken(); ++pieces) {
+        assert(!m_pointGiven && !m_refused);
         const QByteArray piece = m_message.text.stuffed(m_fed, bodyPiece);
         m_feeding = !m_message.text.isEnd(m_fed);
         m_pointGiven = !m_feeding;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A message and its envelope in one flight (RFC 3030): MAIL, RCPT and BDAT with all octets of the message.
+#include <cassert>
 #include <utility>
 
 #include "platform/mail/SmtpSession.h"
@@ -30,10 +31,12 @@ void SmtpSession::fly() {
     command(Step::Body, "BDAT " + QByteArray::number(size) + " LAST");
     noteMessage();
     QByteArray flight = std::exchange(m_output, {});
-    flight.reserve(flight.size() + size);
+    const qsizetype whole = flight.size() + size;
+    flight.reserve(whole);
     for (const QByteArrayView piece : m_message.text.pieces())
         flight.append(piece);
     flight.append(end);
+    assert(flight.size() == whole);  // what BDAT announces
     m_inFlight = m_pointGiven = true;
     writePiece(flight);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // TLS and login of a session.
+#include <cassert>
 #include <QSslCipher>
 #include <QSslConfiguration>
 
@@ -75,6 +76,7 @@ void SmtpSession::onStartTlsReply(const SmtpReply& reply) {
             lost(0, Words::tr("Il server ha aggiunto testo in chiaro alla risposta a STARTTLS."));
             return;
         }
+        assert(m_expected.isEmpty() && m_output.isEmpty());
         noteTlsOffer();
         m_handshaking = true;
         prepareTls();
@@ -137,6 +139,7 @@ void SmtpSession::takeLoginStep(const LoginStep& step) {
         m_transcript.addSecret(secret);
     switch (step.kind) {
         case LoginStep::Kind::Send:
+            assert(!m_route.bearer || (m_socket->isEncrypted() && !m_route.opportunisticTls));
             command(Step::Auth, step.line, step.shown);
             writeCommands();
             break;
