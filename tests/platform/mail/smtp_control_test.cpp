@@ -318,17 +318,19 @@ TEST(DeliveryControl, EventLoopThatWasHeldIsNoTimeout) {
 
 TEST(DeliveryControl, AbortAndSendInTheMiddleOfALargeMessage) {
     const QByteArrayList stuck =
-        hello + message.mid(0, message.indexOf("S: 354 go ahead") + 1) + QByteArrayList{"READ 1000", "HOLD"};
+        hello + message.mid(0, message.indexOf("S: 354 go ahead") + 1) + QByteArrayList{"READ 1000", "GATE"};
     ScriptedServer server({stuck, stuck, hello + message});
     Client client(server.port());
     const QString shortText = client.smtp.BodyText;
     client.smtp.BodyText = QString(20000000, u'x');
     client.smtp.Send();
-    client.turn(100);
+    ASSERT_TRUE(client.turnUntil([&] { return server.waits() == 1; }));
     client.smtp.Abort();
     EXPECT_EQ(client.heard.size(), 1);
+    server.goOn();
     client.smtp.Send();
-    client.turn(100);
+    ASSERT_TRUE(client.turnUntil([&] { return server.waits() == 2; }));
+    server.goOn();
     client.smtp.BodyText = shortText;
     EXPECT_TRUE(client.send().done);
     EXPECT_EQ(server.remainder(), "");
