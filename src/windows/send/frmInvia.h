@@ -88,6 +88,7 @@ class frmInvia : public ui::LateDialog {
     bool PreparaElenco();
     void AvvisaFirma();
     void FineInvio();
+    void Rilascia();
     void ImpostaConsegna(Prosegui& prosegui, int indiceAccount);
     void ImpostaPausa(Prosegui& prosegui);
     void ImpostaTimeout(Prosegui& prosegui);
@@ -159,6 +160,7 @@ class frmInvia : public ui::LateDialog {
     // The run. The window stays loaded between runs, so each field keeps its value until it is set again.
     mail::RunLock invioInCorso;  ///< from the click until the last tick; seen by other processes
     bool nelGiro = false;        ///< a tick is under way
+    bool siPrepara = false;      ///< a click prepares a run, which needs lock and room
     bool fermaInvio = false;
     bool mailInviata = false;
     bool mailFallita = false;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <cassert>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QStorageInfo>
 #include <QTimer>
 #include <tuple>
@@ -101,9 +103,10 @@ void frmInvia::cmdInvia_Click() {
     if (chkLog->isChecked() && !ChiediLog()) return;
     const FileMss file = LeggiFileMss(txtFile->text());
     const MessaggioLetto letto = LeggiMss(file);
-    const bool pronto = PreparaElenco();
-    if (!pronto || !ChiediFile(file, letto)) {
-        if (pronto) FineInvio();
+    // The boxes may let a tick that was pending end the run before.
+    const QScopedValueRollback prepara(siPrepara, true);
+    if (!PreparaElenco() || !ChiediFile(file, letto)) {
+        Rilascia();
         std::tie(SMTP->LogFile, SMTP->LogEnabled) = logPrima;
         return;
     }
@@ -127,10 +130,9 @@ void frmInvia::cmdInvia_Click() {
     CorpoTesto = goDHTML.bodyInnerText();
     ImpostaConsegna(prosegui, indiceAccount);
     limite.avvia(txtBloccoMin->text(), txtBloccoNum->text());
-    // The boxes above may have let a tick that was pending end a run.
-    invioInCorso.take(percorsoDB);
     SMTP->BeginRun();
     NuovoGiroMX();
+    assert(accettati().room() > 0 || prgDaInviare->maximum() == 0);
     tmr->start();
 }
 
@@ -178,7 +180,7 @@ bool frmInvia::PreparaElenco() {
     }
     Prosegui prosegui;
     if (!prosegui([this] { ApplicaAccettati([this](const QString& riga) { SMTP->Remark(riga); }); })) {
-        FineInvio();
+        Rilascia();
         avvisa(Words::tr("Alcuni destinatari sono già stati serviti, ma non è possibile toglierli dalla "
                          "selezione:") +
                "\r\n" + prosegui.testo() + "\r\n" +
@@ -198,7 +200,7 @@ bool frmInvia::PreparaElenco() {
         return true;
     }
     if (accettati().room() < 1) {
-        FineInvio();
+        Rilascia();
         avvisa(riservato.text() + "\r\n" + Words::tr("L'invio non è iniziato."));
         return false;
     }
@@ -219,6 +221,10 @@ void frmInvia::AvvisaFirma() {
 
 /// Other processes may send again, once no reply of this run can arrive any more.
 void frmInvia::FineInvio() {
+    if (!siPrepara) Rilascia();
+}
+
+void frmInvia::Rilascia() {
     if (nelGiro || tmr->isActive() || SMTP->Awaiting()) return;
     invioInCorso.release();
     accettati().release();

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A stop in each state of a run, and what can happen before the pending tick.
+#include <QApplication>
+#include <QDialog>
+
+#include "modules/message/MessaggioMss.h"
+#include "platform/ui/Unattended.h"
 #include "support/SendStage.h"
 #include "support/TestClass.h"
 
@@ -151,6 +156,34 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(stage.counters(), counters);
         QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
         QVERIFY(!stage.timer().isActive());
+    }
+
+    void pendingTickThatEndsDuringTheQuestionOfANewRunLeavesItItsRoom() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        ScriviMessaggio(stage.folder.path("ricevuto.mss"),
+                        {"Offerta", "NR", {"/etc/passwd"}, "<html><body><p>Buongiorno</p></body></html>"});
+        stage.pick(stage.folder.path("ricevuto.mss"));
+        ui::MessageDialog::queue(ui::MessageDialog::Yes);
+        stage.click("cmdInvia");
+        QVERIFY(stage.timer().isActive());
+        stage.click("cmdFerma");
+        stage.timer().setInterval(1);
+        QTimer answer;
+        answer.callOnTimeout([&] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!box || stage.timer().isActive() || !stage.enabled("cmdInvia")) return;
+            answer.stop();
+            ui::setUnattended(true);
+            box->accept();
+        });
+        answer.start(1);
+        ui::setUnattended(false);
+        stage.start();
+        QVERIFY(!answer.isActive());
+        QVERIFY(stage.waitForEnd());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 0, 2}));
+        QCOMPARE(SampleFolder::selected(), QStringList());
     }
 
     void pendingTickRunsWithTheWindowHidden() {
