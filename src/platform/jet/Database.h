@@ -103,6 +103,8 @@ class Table {
                                           const std::function<bool(RowId, const RowView&)>& visit);
     /// The row of that identity; no row there is an empty optional.
     Result<std::optional<RowView>> row(RowId id);
+    /// Calls `visit` for each of these rows in turn as row() returns it, at one moment; a failure ends it.
+    Status rows(std::span<const RowId> ids, const std::function<void(const std::optional<RowView>&)>& visit);
     /// One value, following memo and OLE values to their pages.
     Result<Value> value(RowId id, size_t column);
     /// The row with that number in the primary key, found through the index. Only for tables with

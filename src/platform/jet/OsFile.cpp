@@ -4,11 +4,13 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <sys/uio.h>
 #include <sys/vfs.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
@@ -21,6 +23,8 @@
 namespace jet {
 
 namespace {
+
+constexpr size_t mostPlaces = 16;
 
 DiskHook diskHook;
 
@@ -166,6 +170,16 @@ size_t OsFile::read(uint64_t offset, std::span<uint8_t> bytes) const {
         done += static_cast<size_t>(n);
     }
     return done;
+}
+
+size_t OsFile::read(uint64_t offset, std::span<const std::span<uint8_t>> places) const {
+    std::array<iovec, mostPlaces> parts;
+    const size_t count = std::min(places.size(), parts.size());
+    for (size_t i = 0; i < count; ++i)
+        parts[i] = {places[i].data(), places[i].size()};
+    const ssize_t n = ::preadv(m_fd, parts.data(), static_cast<int>(count), static_cast<off_t>(offset));
+    if (n < 0 && errno != EINTR) failIo("lettura"_tr, m_path, errno);
+    return n < 0 ? 0 : static_cast<size_t>(n);
 }
 
 void OsFile::write(uint64_t offset, std::span<const uint8_t> bytes) {

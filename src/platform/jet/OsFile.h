@@ -64,6 +64,9 @@ class OsFile {
     FileState state() const;
     /// Reads up to bytes.size() bytes and returns how many there were.
     size_t read(uint64_t offset, std::span<uint8_t> bytes) const;
+    /// The same by one call into several places, one after the other; at most 16 of them. It may end early
+    /// without reason.
+    size_t read(uint64_t offset, std::span<const std::span<uint8_t>> places) const;
     void write(uint64_t offset, std::span<const uint8_t> bytes);
     void truncate(uint64_t size);
     /// Takes room on the disk for the first `size` bytes, whatever is there; a shorter file grows to that

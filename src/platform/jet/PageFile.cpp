@@ -2,9 +2,11 @@
 #include "platform/jet/PageFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <filesystem>
 #include <span>
+#include <utility>
 
 #include "platform/jet/Failure.h"
 #include "platform/jet/FileLocks.h"
@@ -15,6 +17,8 @@ namespace jet {
 namespace {
 
 constexpr size_t pagesTogether = 64;
+constexpr size_t pagesBrought = 16;  // by one call
+constexpr size_t mostBrought = 64;
 
 // Under whatever name a database is opened, its journal has one.
 std::string realPath(const std::string& path) {
@@ -120,7 +124,7 @@ void PageFile::refreshState(const FileState& now) {
 
 void PageFile::dropCache() {
     m_cache.clear();
-    m_cached = 0;
+    m_cached.clear();
     m_hand = 0;
     m_state = {};
     m_sound.clear();
@@ -130,26 +134,26 @@ void PageFile::dropCache() {
 void PageFile::keep(uint32_t n, std::shared_ptr<Page> page) {
     if (m_cache.size() <= n) m_cache.resize(std::max<size_t>(n + 1, m_pageCount));
     Slot& slot = m_cache[n];
-    if (!slot.page) ++m_cached;
+    if (!slot.page) m_cached.push_back(n);
     slot = {std::move(page), true};
-    while (m_cached > m_limits.cachedPages + m_changed.size())
+    while (m_cached.size() > m_limits.cachedPages + m_changed.size())
         evict();
 }
 
 // Drops one page. Second chance: those read since the hand last passed stay this time, changed ones always.
 // There are more cached pages than changed ones when this is called, so it ends.
 void PageFile::evict() {
-    for (;;) {
-        Slot& slot = m_cache[m_hand];
-        const uint32_t n = static_cast<uint32_t>(m_hand);
-        m_hand = (m_hand + 1) % m_cache.size();
-        if (!slot.page || m_changed.contains(n)) continue;
-        if (!slot.used) {
+    for (;; ++m_hand) {
+        if (m_hand >= m_cached.size()) m_hand = 0;
+        const uint32_t n = m_cached[m_hand];
+        if (m_changed.contains(n)) continue;
+        Slot& slot = m_cache[n];
+        if (!std::exchange(slot.used, false)) {
             slot.page.reset();
-            --m_cached;
+            m_cached[m_hand++] = m_cached.back();  // the newest
+            m_cached.pop_back();
             return;
         }
-        slot.used = false;
     }
 }
 
@@ -167,6 +171,30 @@ PagePtr PageFile::page(uint32_t n) {
     if (m_header.jet3) jet3::widenPage(*page);
     keep(n, page);
     return page;
+}
+
+void PageFile::bring(uint32_t first, uint32_t last) {
+    if (last < first || last - first >= mostBrought || last >= m_pageCount || m_header.jet3 ||
+        m_limits.cachedPages < 2 * mostBrought)
+        return;
+    for (uint32_t n = first; n <= last; ++n) {
+        std::array<std::shared_ptr<Page>, pagesBrought> pages;
+        std::array<std::span<uint8_t>, pagesBrought> places;
+        size_t count = 0;
+        for (; count < pagesBrought && n + count <= last && !cached(n + static_cast<uint32_t>(count));
+             ++count) {
+            pages[count] = std::make_shared_for_overwrite<Page>();
+            places[count] = *pages[count];
+        }
+        if (count < 2) continue;
+        const size_t read = m_file.read(uint64_t{n} * pageSize, std::span(places).first(count)) / pageSize;
+        for (size_t i = 0; i < read; ++i) {
+            const uint32_t number = n + static_cast<uint32_t>(i);
+            if (m_header.pageKey != 0 && number != 0) codePage(m_header.pageKey, number, *pages[i]);
+            keep(number, std::move(pages[i]));
+        }
+        n += static_cast<uint32_t>(count - 1);
+    }
 }
 
 size_t PageFile::readPages(uint32_t first, std::span<Page> pages) const {

@@ -56,6 +56,9 @@ class PageFile {
     void endRead();
     /// Page n. The bytes stay as long as the pointer is kept.
     PagePtr page(uint32_t n);
+    /// Before the pages from `first` to `last` are asked for: reads those that are not in memory by few
+    /// calls, where they are few. What cannot be read is reported by page().
+    void bring(uint32_t first, uint32_t last);
     /// Page n if it is in memory, else nothing.
     PagePtr cached(uint32_t n) const { return n < m_cache.size() ? m_cache[n].page : PagePtr(); }
     /// Whether the cache has room for all pages.
@@ -137,9 +140,9 @@ class PageFile {
     uint64_t m_generation = 1;
     int m_readers = 0;
 
-    std::vector<Slot> m_cache;  // by page number
-    size_t m_cached = 0;
-    size_t m_hand = 0;
+    std::vector<Slot> m_cache;       // by page number
+    std::vector<uint32_t> m_cached;  // the numbers of those in memory
+    size_t m_hand = 0;               // among them
 
     Journal m_journal;
     bool m_writing = false;

@@ -40,7 +40,7 @@ RowStore::Stored RowStore::body(RowId id, std::span<const uint8_t> pointer) cons
 std::optional<RowStore::Stored> RowStore::find(RowId id) const {
     if (id.page >= m_file.pageCount()) return std::nullopt;
     PagePtr page = m_file.page(id.page);
-    if ((*page)[0] != DataPage || load32(&(*page)[data::owner]) != m_definition.page) return std::nullopt;
+    if (!isOwn(*page)) return std::nullopt;
     const DataPageView rows(*page, id.page);
     const uint16_t flags = rows.flags(id.slot);
     if (id.slot >= rows.count() || (flags & data::notARow) != 0) return std::nullopt;

@@ -47,6 +47,9 @@ class RowStore {
         RowId place;  ///< where the bytes are: the row's identity, or its body's place when it has moved
     };
     std::optional<Stored> find(RowId id) const;
+    /// Calls `visit(std::optional<std::span<const uint8_t>>)` for each of these rows; no row there is empty.
+    template <class Visit>
+    void forEach(std::span<const RowId> ids, const Visit& visit) const;
 
     RowId insert(std::span<const uint8_t> row) { return put(row, 0); }
     /// Replaces the bytes of a row that exists, where they are if there is room.
@@ -65,6 +68,9 @@ class RowStore {
 
   private:
     DataPageView view(const Page& page, uint32_t number) const;
+    bool isOwn(const Page& page) const {
+        return page[0] == DataPage && load32(&page[data::owner]) == m_definition.page;
+    }
     Stored body(RowId id, std::span<const uint8_t> pointer) const;
     RowId put(std::span<const uint8_t> row, uint16_t flags);
     void remove(RowId place);
@@ -91,6 +97,34 @@ void RowStore::scan(RowId from, const Visit& visit) const {
         }
         return true;
     });
+}
+
+template <class Visit>
+void RowStore::forEach(std::span<const RowId> ids, const Visit& visit) const {
+    using Found = std::optional<std::span<const uint8_t>>;
+    if (ids.size() > 1) m_file.bring(ids.front().page, ids.back().page);
+    PagePtr page;
+    uint32_t number = 0;
+    for (const RowId id : ids) {
+        if (id.page >= m_file.pageCount()) {
+            visit(Found());
+            continue;
+        }
+        if (!page || id.page != number) page = m_file.page(number = id.page);
+        if (!isOwn(*page)) {
+            visit(Found());
+            continue;
+        }
+        const DataPageView rows(*page, number);
+        const uint16_t flags = rows.flags(id.slot);
+        if ((flags & data::notARow) != 0) {
+            visit(Found());
+        } else if ((flags & data::pointer) != 0) {
+            visit(Found(body(id, rows.bytes(id.slot)).bytes));
+        } else {
+            visit(Found(rows.bytes(id.slot)));
+        }
+    }
 }
 
 }  // namespace jet

@@ -70,6 +70,18 @@ Result<std::optional<RowView>> Table::row(RowId id) {
     });
 }
 
+Status Table::rows(std::span<const RowId> ids,
+                   const std::function<void(const std::optional<RowView>&)>& visit) {
+    return guarded([&]() -> Status {
+        const Reading reading(m_state->file);
+        m_state->ensureCurrent();
+        m_state->rows.forEach(ids, [&](const std::optional<std::span<const uint8_t>>& bytes) {
+            visit(bytes ? std::optional(RowView(&m_state->definition, *bytes)) : std::nullopt);
+        });
+        return {};
+    });
+}
+
 Result<Value> Table::value(RowId id, size_t column) {
     return guarded([&]() -> Result<Value> {
         const Reading reading(m_state->file);
