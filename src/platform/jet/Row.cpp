@@ -112,9 +112,24 @@ StoredField storedField(const TableDefinition& definition, const Column& column,
 void storedFields(const TableDefinition& definition, std::span<const uint8_t> row,
                   std::vector<StoredField>& fields) {
     const Parts parts(definition, row);
-    fields.assign(definition.columns.size(), {});
-    for (size_t i = 0; i < fields.size(); ++i)
-        takeField(parts, definition.columns[i], fields[i]);
+    fields.resize(definition.columns.size());
+    const bool plain = parts.valid && !definition.jet3;
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const Column& column = definition.columns[i];
+        StoredField& field = fields[i];
+        field = {};
+        if (!plain || column.fixed || column.type == Type::YesNo) {
+            takeField(parts, column, field);
+        } else if (parts.mask(column.number) && column.variableIndex < parts.variables) {
+            // As takeField() does, for what most columns are.
+            field.null = false;
+            const uint8_t* ends = row.data() + parts.maskAt - 2 * (size_t{column.variableIndex} + 3);
+            const size_t start = load16(ends + 2);
+            const size_t end = load16(ends);
+            if (start >= parts.fixedAt() && start <= end && end <= parts.offsetsAt())
+                field.bytes = {row.data() + start, end - start};
+        }
+    }
 }
 
 Row::Row(const TableDefinition& definition) : m_definition(&definition) {
