@@ -11,26 +11,30 @@ namespace jet {
 
 namespace {
 
-// Eight numbers at a time, none of which waits for another, and unrolled so that they stay in registers: as
-// fast as the page can be read. It distinguishes versions of a page and is no guard against forgery.
+__extension__ using Product = unsigned __int128;
+
+// Sixteen bytes for one multiplication, eight of which run beside each other in registers: faster than the
+// page can be read. It distinguishes versions of a page and is no guard against forgery.
 uint64_t digestOf(const Page& page) {
     constexpr uint64_t factor = 0x9E3779B97F4A7C15u;
     std::array<uint64_t, 8> lanes = {1, 2, 3, 4, 5, 6, 7, 8};
-    const auto take = [](uint64_t& lane, uint64_t word) {
-        lane = (lane ^ word) * factor;
-        lane ^= lane >> 32;
+    const auto take = [](uint64_t& lane, uint64_t one, uint64_t other) {
+        const Product product = Product{one ^ factor} * (other ^ lane);
+        lane = static_cast<uint64_t>(product) ^ static_cast<uint64_t>(product >> 64);
     };
-    for (size_t at = 0; at < pageSize; at += 8 * lanes.size()) {
+    const auto word = [&](size_t at) {
+        uint64_t bytes = 0;
+        std::memcpy(&bytes, &page[at], 8);
+        return bytes;
+    };
+    for (size_t at = 0; at < pageSize; at += 16 * lanes.size()) {
 #pragma GCC unroll 8
-        for (size_t i = 0; i < lanes.size(); ++i) {
-            uint64_t word = 0;
-            std::memcpy(&word, &page[at + 8 * i], 8);
-            take(lanes[i], word);
-        }
+        for (size_t i = 0; i < lanes.size(); ++i)
+            take(lanes[i], word(at + 16 * i), word(at + 16 * i + 8));
     }
     uint64_t digest = 0;
     for (const uint64_t lane : lanes)
-        take(digest, lane);
+        take(digest, lane, factor);
     return digest;
 }
 
