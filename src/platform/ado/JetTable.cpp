@@ -28,14 +28,17 @@ Result<jet::Table*> JetTable::table() {
 
 Status JetTable::read(jet::RowId id, StoredRow& row) {
     row.present = false;
+    return read({&id, 1}, [&]() -> StoredRow& { return row; });
+}
+
+Status JetTable::read(std::span<const jet::RowId> ids, const std::function<StoredRow&()>& next) {
     const Result<jet::Table*> source = table();
     if (!source.ok()) return source.status();
-    const Result<std::optional<jet::RowView>> found = source.value()->row(id);
-    if (!found.ok()) return found.status();
-    if (!found.value()) return {};
-    row.bytes.assign(found.value()->bytes().begin(), found.value()->bytes().end());
-    row.present = true;
-    return {};
+    return source.value()->rows(ids, [&](const std::optional<jet::RowView>& found) {
+        StoredRow& row = next();
+        row.present = found.has_value();
+        if (found) row.bytes.assign(found->bytes().begin(), found->bytes().end());
+    });
 }
 
 Result<jet::Value> JetTable::longValue(jet::RowId id, size_t column) {
@@ -220,11 +223,14 @@ void JetTable::renew(jet::Table& table) {
     if (!pages.ok()) m_prints = {};
     if (!pages.ok() || rows.size() > mostMoves) return;
     for (const auto& order : before) {
-        auto renewed = std::make_shared<RowOrder>(order->without(pages.value()));
+        // A recordset that is open goes on in the order as it was.
+        const bool read = order.use_count() > 1;
+        const auto renewed = read ? std::make_shared<RowOrder>(*order) : order;
+        renewed->drop(pages.value());
         const bool right = std::all_of(rows.begin(), rows.end(), [&](const auto& row) {
             return renewed->take(table, jet::RowView(&m_definition, row.second), row.first).ok();
         });
-        if (right) m_orders.push_back(std::move(renewed));
+        if (right) m_orders.push_back(renewed);
     }
 }
 

@@ -36,6 +36,9 @@ class JetTable {
 
     /// Takes the bytes of a row, to be seen through definition(), or that there is no such row (any more).
     Status read(jet::RowId id, StoredRow& row);
+    /// The same for several rows, each into the place that `next` returns; they are as they were at one
+    /// moment.
+    Status read(std::span<const jet::RowId> ids, const std::function<StoredRow&()>& next);
     /// One value of a row that does not lie in its bytes (memo, OLE).
     Result<jet::Value> longValue(jet::RowId id, size_t column);
     Result<std::optional<jet::RowId>> findByPrimaryKey(int32_t key);

@@ -71,13 +71,13 @@ size_t RowOrder::size() const {
                            [](size_t sum, const Block& block) { return sum + block.size(); });
 }
 
-RowOrder RowOrder::without(const std::vector<bool>& pages) const {
-    RowOrder rest(m_spec);
-    for (const Block& block : m_blocks)
-        for (const Entry& entry : block)
-            if (const uint32_t page = entry.row().page; page >= pages.size() || !pages[page])
-                rest.append(entry);
-    return rest;
+void RowOrder::drop(const std::vector<bool>& pages) {
+    for (Block& block : m_blocks)
+        std::erase_if(block, [&](const Entry& entry) {
+            const uint32_t page = entry.row().page;
+            return page < pages.size() && pages[page];
+        });
+    std::erase_if(m_blocks, [](const Block& block) { return block.empty(); });
 }
 
 /// Whether an entry is before that key and identity.

@@ -36,8 +36,8 @@ class RowOrder {
     size_t size() const;
     /// Whether its rows come in another order than that of the walk.
     bool isSorted() const { return !m_spec.parts.empty(); }
-    /// This order without the rows of those pages.
-    RowOrder without(const std::vector<bool>& pages) const;
+    /// Drops the rows of those pages.
+    void drop(const std::vector<bool>& pages);
     /// Adds the row with that key. After a failure the order is of no use any more.
     Status add(jet::Table& table, std::string_view key, jet::RowId id);
     /// The same for a row that may belong here or not.
