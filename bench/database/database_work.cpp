@@ -48,23 +48,39 @@ T demand(Result<T> result) {
     return std::move(result).value();
 }
 
+double processorSeconds() {
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& t) {
+        return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// After what was freed went back to the system.
+long residentKilobytes() {
+    malloc_trim(0);
+    long pages = 0;
+    long resident = 0;
+    std::ifstream("/proc/self/statm") >> pages >> resident;
+    return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
 struct Moment {
-    std::chrono::steady_clock::time_point clock = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::time_point clock;
     double processor = 0;
     long kilobytes = 0;
 
-    Moment() {
-        rusage usage = {};
-        getrusage(RUSAGE_SELF, &usage);
-        const auto seconds = [](const timeval& t) {
-            return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
-        };
-        processor = seconds(usage.ru_utime) + seconds(usage.ru_stime);
-        malloc_trim(0);
-        long pages = 0;
-        long resident = 0;
-        std::ifstream("/proc/self/statm") >> pages >> resident;
-        kilobytes = resident * (sysconf(_SC_PAGESIZE) / 1024);
+    /// Neither includes the time that it takes to look at the memory.
+    static Moment before() {
+        const long kilobytes = residentKilobytes();
+        const double processor = processorSeconds();
+        return {std::chrono::steady_clock::now(), processor, kilobytes};
+    }
+    static Moment after() {
+        const auto clock = std::chrono::steady_clock::now();
+        const double processor = processorSeconds();
+        return {clock, processor, residentKilobytes()};
     }
 };
 
@@ -185,7 +201,7 @@ int main(int argc, char** argv) {
     if (work == "group") (void)query(path, QStringLiteral("SELECT * FROM [tb_destinatari] WHERE id = 0;"));
     if (work == "tick" || work == "changed") (void)tick(path, failed);
     if (work == "changed") changeOutside(path, 3);
-    const Moment start;
+    const Moment start = Moment::before();
     Counted counted;
     ado::Recordset kept;
     if (work == "engine") {
@@ -218,7 +234,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "database_work: %s?\n", work.c_str());
         return 2;
     }
-    const Moment end;
+    const Moment end = Moment::after();
     std::printf(
         "{\"seconds\": %.6f, \"processor\": %.6f, \"kilobytes\": %ld, \"rows\": %lld, \"characters\": "
         "%lld}\n",
