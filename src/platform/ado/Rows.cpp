@@ -17,6 +17,26 @@ const char* identityName(const jet::TableDefinition& table) {
     return nullptr;
 }
 
+/// The order that those clauses ask for; nothing where SQLite has to see to it.
+std::optional<OrderSpec> orderOf(const StatementText::Plain& plain, const jet::TableDefinition& table) {
+    OrderSpec order;
+    if (plain.group) {
+        order.group = table.find(*plain.group);
+        if (!order.group || order.group == table.longPrimaryKey()) return std::nullopt;
+        const jet::Type type = table.columns[*order.group].type;
+        if (!OrderSpec::canGroup(type)) return std::nullopt;
+        const bool yesNo = type == jet::Type::YesNo;
+        if (yesNo && plain.number != 0 && plain.number != -1) return std::nullopt;
+        order.number = yesNo ? plain.number != 0 : plain.number;
+    }
+    for (const StatementText::Plain::Part& part : plain.order) {
+        const std::optional<size_t> column = table.find(part.column);
+        if (!column || !OrderSpec::canSort(table.columns[*column].type)) return std::nullopt;
+        order.parts.push_back({*column, part.ascending});
+    }
+    return order;
+}
+
 }  // namespace
 
 Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session, StatementText statement) {
@@ -28,6 +48,11 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
     if (const char* identity = identityName(definition);
         identity && statement.list && rows->takeColumns(definition, *statement.list)) {
         rows->m_table = table.value();
+        if (statement.plain) rows->m_wanted = orderOf(*statement.plain, definition);
+        if (rows->m_wanted) {
+            session->enlist(rows.get());
+            return rows;
+        }
         statement.sql.replace(statement.list->at, statement.list->size, QByteArray(identity) + ' ');
     }
     Result<Prepared> prepared = session->prepare(statement.sql, rows->m_literals);
@@ -61,9 +86,32 @@ Rows::~Rows() {
 
 Status Rows::reach(size_t count) {
     if (known() >= count) return {};
-    if (!m_statement) return m_failure;
+    if (ended()) return m_failure;
     const jet::ReadScope reading(m_session->database());
     if (!reading.status().ok()) return reading.status();
+    return m_wanted ? follow(count) : step(count);
+}
+
+Status Rows::follow(size_t count) {
+    if (!m_order) {
+        auto order = m_table->order(*m_wanted);
+        if (!order.ok()) {
+            m_wanted.reset();
+            return m_failure = order.status();
+        }
+        m_order = std::move(order).value();
+        m_next = m_order->begin();
+    }
+    const RowOrder::Place end = m_order->end();
+    for (; m_next != end && known() < count; m_next = m_order->next(m_next))
+        m_ids.push_back(m_order->at(m_next));
+    if (m_next != end) return {};
+    m_order.reset();
+    m_wanted.reset();
+    return {};
+}
+
+Status Rows::step(size_t count) {
     while (m_statement && known() < count) {
         const int code = sqlite3_step(m_statement.get());
         if (code == SQLITE_DONE) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <memory>
+#include <optional>
+#include <span>
 #include <vector>
 
 #include "platform/ado/Session.h"
@@ -36,10 +39,15 @@ class Rows {
     Status finish() { return reach(static_cast<size_t>(-1)); }
 
     /// Whether no further step will read the table.
-    bool ended() const { return m_statement == nullptr; }
+    bool ended() const { return m_statement == nullptr && !m_wanted; }
 
     size_t known() const { return m_table ? m_ids.size() : m_values.size(); }
     jet::RowId id(size_t row) const { return m_ids[row]; }
+    /// As many of those from `first` on, or all that are known.
+    std::span<const jet::RowId> ids(size_t first, size_t count) const {
+        const size_t from = std::min(first, m_ids.size());
+        return std::span(m_ids).subspan(from, std::min(count, m_ids.size() - from));
+    }
     const std::vector<Value>& values(size_t row) const { return m_values[row]; }
     /// A row that was added through the recordset, after all others.
     void append(jet::RowId id) { m_ids.push_back(id); }
@@ -48,11 +56,18 @@ class Rows {
     explicit Rows(std::shared_ptr<Session> session) : m_session(std::move(session)) {}
     Value valueOf(int column) const;
     bool takeColumns(const jet::TableDefinition& definition, const StatementText::List& list);
+    Status step(size_t count);
+    Status follow(size_t count);
 
     std::shared_ptr<Session> m_session;
     std::vector<jet::Value> m_literals;  ///< of the statement
     JetTable* m_table = nullptr;
     Prepared m_statement;  ///< null when all rows are known, or a step has failed
+    /// In place of the statement, where it says no more than an order does; nothing when all rows are known,
+    /// or the order could not be made.
+    std::optional<OrderSpec> m_wanted;
+    std::shared_ptr<const RowOrder> m_order;  ///< once a row was asked for
+    RowOrder::Place m_next;
     Status m_failure;
     std::vector<QString> m_names;
     std::vector<size_t> m_columns;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ado/StatementText.h"
 
+#include <sqlite3.h>
 #include <algorithm>
 #include <charconv>
 
@@ -38,6 +39,30 @@ class Reader {
         const SqlToken& token = m_tokens[m_next];
         if (token.kind != Kind::Name && token.kind != Kind::Word) return false;
         name = toText(token.text);
+        ++m_next;
+        return true;
+    }
+    /// The same for a name that is found in only one way, whoever reads it.
+    bool takePlainName(std::string& name) {
+        if (atEnd()) return false;
+        const SqlToken& token = m_tokens[m_next];
+        const bool word =
+            token.kind == Kind::Word &&
+            sqlite3_keyword_check(token.text.data(), static_cast<int>(token.text.size())) == 0 &&
+            !token.is("TRUE") && !token.is("FALSE");
+        const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+        if ((!word && token.kind != Kind::Name) ||
+            !std::all_of(token.text.begin(), token.text.end(), isAscii))
+            return false;
+        name = token.text;
+        ++m_next;
+        return true;
+    }
+    bool takeWhole(int64_t& number) {
+        if (atEnd() || m_tokens[m_next].kind != Kind::Number) return false;
+        const std::string_view text = m_tokens[m_next].text;
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return false;
         ++m_next;
         return true;
     }
@@ -139,6 +164,31 @@ bool readSelect(Reader& reader, QString& table, std::optional<StatementText::Lis
     return true;
 }
 
+/// After the word FROM: nothing where the clauses say more, or a name may mean something else to SQLite.
+std::optional<StatementText::Plain> readPlain(Reader reader) {
+    StatementText::Plain plain;
+    if (std::string table; !reader.takePlainName(table)) return std::nullopt;
+    if (reader.take("WHERE")) {
+        if (!reader.takePlainName(plain.group.emplace()) || !reader.take("=")) return std::nullopt;
+        if (reader.take("TRUE")) {
+            plain.number = -1;
+        } else if (!reader.take("FALSE") && !reader.takeWhole(plain.number)) {
+            return std::nullopt;
+        }
+    }
+    if (reader.take("ORDER")) {
+        if (!reader.take("BY")) return std::nullopt;
+        do {
+            StatementText::Plain::Part& part = plain.order.emplace_back();
+            if (!reader.takePlainName(part.column)) return std::nullopt;
+            part.ascending = !reader.take("DESC");
+            if (part.ascending) (void)reader.take("ASC");
+        } while (reader.take(","));
+    }
+    if (!reader.atEnd()) return std::nullopt;
+    return plain;
+}
+
 Status readInsert(Reader& reader, StatementText& statement) {
     statement.verb = StatementText::Verb::Insert;
     const auto refused = [] { return refusedStatement(Words::tr("forma non prevista")); };
@@ -171,6 +221,7 @@ bool readStatement(Reader& reader, StatementText& statement) {
         statement.verb = Verb::Select;
         Reader list = reader;
         if (list.skipTo("SELECT")) return false;
+        if (Reader clauses = reader; clauses.skipTo("FROM")) statement.plain = readPlain(clauses);
         return readSelect(reader, statement.table, &statement.list);
     }
     if (reader.take("UPDATE")) {

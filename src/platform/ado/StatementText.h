@@ -36,6 +36,19 @@ struct StatementText {
     };
     std::optional<List> list;
 
+    /// The clauses of a SELECT that says which rows by one whole number at most (`WHERE column = 7`, or True
+    /// or False), and in which order by columns.
+    struct Plain {
+        struct Part {
+            std::string column;
+            bool ascending = true;
+        };
+        std::optional<std::string> group;  ///< the column with the number
+        int64_t number = 0;                ///< True is -1
+        std::vector<Part> order;
+    };
+    std::optional<Plain> plain;
+
     /// INSERT … VALUES with the names of columns.
     struct Row {
         QByteArray start;                  ///< the text as it was given, up to the parenthesis of the values

@@ -4,6 +4,7 @@
 #include <map>
 #include <random>
 
+#include "platform/ado/StatementText.h"
 #include "platform/jet/GeneralOrder.h"
 #include "TestDatabase.h"
 
@@ -269,6 +270,79 @@ TEST_F(OrdersTest, ARecordsetThatIsOpenOutlivesAChangeFromOutside) {
     EXPECT_EQ(rows.value(u"id").status().code(), ErrorCode::NoCurrentRecord);
     ASSERT_TRUE(rows.moveNext().ok());
     EXPECT_EQ(rows.value(u"id").value().toInteger().value(), before[2]);
+}
+
+TEST_F(OrdersTest, ARecordsetThatIsOpenKeepsItsRowsWhileTheOrderIsMended) {
+    fill(mendedList);
+    const std::vector<qint64> before = ids(queue);
+    ado::Recordset rows = open(queue);
+    auto other = jet::Database::open(path.toStdString());
+    ASSERT_TRUE(other.ok());
+    auto table = other.value()->table("tb_destinatari");
+    ASSERT_TRUE(table.ok());
+    const size_t gone = before.size() / 2;
+    const auto row = table.value()->findByPrimaryKey(static_cast<int32_t>(before[gone]));
+    ASSERT_TRUE(row.ok() && row.value());
+    ASSERT_TRUE(other.value()->begin().ok());
+    ASSERT_TRUE(table.value()->erase(*row.value()).ok());
+    ASSERT_TRUE(other.value()->commit().ok());
+    std::vector<qint64> after = before;
+    after.erase(after.begin() + static_cast<std::ptrdiff_t>(gone));
+    ASSERT_EQ(ids(queue), after);
+    for (size_t i = 0; i < before.size(); ++i) {
+        const auto id = rows.value(u"id");
+        if (i == gone)
+            EXPECT_EQ(id.status().code(), ErrorCode::NoCurrentRecord);
+        else
+            ASSERT_EQ(id.value().toInteger().value(), before[i]) << i;
+        ASSERT_TRUE(rows.moveNext().ok());
+    }
+    EXPECT_TRUE(rows.isEof());
+}
+
+TEST_F(OrdersTest, WhatAPlainStatementFindsIsWhatSqliteFinds) {
+    fill(60);
+    run("UPDATE tb_destinatari SET id_grp = Null WHERE id = 7");
+    const struct {
+        const char* clauses;
+        bool plain;
+    } statements[] = {
+        {"", true},
+        {"ORDER BY rgs DESC, nom", true},
+        {"ORDER BY [Rgs] ASC, id DESC", true},
+        {"WHERE sel = True ORDER BY rgs", true},
+        {"where [SEL] = false", true},
+        {"WHERE sel = 1", true},
+        {"WHERE sel = 0 ORDER BY sel, email", true},
+        {"WHERE id_grp = 2 ORDER BY rgs ASC, email DESC", true},
+        {"WHERE id_grp = 002", true},
+        {"WHERE id_grp = 0", true},
+        {"WHERE id_grp = 9999999999", true},
+        {"WHERE id = 3 ORDER BY rgs", true},
+        {"WHERE sel = -1", false},
+        {"WHERE id_grp = 2.0", false},
+        {"WHERE id_grp = '2'", false},
+        {"WHERE id_grp = 2 AND sel = True ORDER BY rgs", false},
+        {"WHERE id_grp > 2", false},
+        {"WHERE id_grp = id", false},
+        {"WHERE (id_grp = 2)", false},
+    };
+    for (const auto& [clauses, plain] : statements) {
+        const std::string statement = std::string("SELECT * FROM tb_destinatari ") + clauses;
+        const auto text = ado::StatementText::read(QString::fromStdString(statement));
+        ASSERT_TRUE(text.ok()) << statement;
+        EXPECT_EQ(text.value().plain.has_value(), plain) << statement;
+        const std::string limited = statement + " LIMIT 1000";
+        EXPECT_FALSE(ado::StatementText::read(QString::fromStdString(limited)).value().plain) << limited;
+        EXPECT_EQ(ids(statement.c_str()), ids(limited.c_str())) << statement;
+    }
+    for (const char* text :
+         {"SELECT * FROM tb_destinatari ORDER BY group", "SELECT * FROM tb_destinatari WHERE order = 1"}) {
+        ado::Recordset rows;
+        ASSERT_TRUE(rows.setActiveConnection(connection).ok());
+        rows.setSource(QString::fromLatin1(text));
+        EXPECT_EQ(rows.open().code(), ErrorCode::SyntaxError) << text;
+    }
 }
 
 TEST_F(OrdersTest, ManyDifferentOrdersOfOneTableAreAllRight) {
