@@ -2,6 +2,7 @@
 #include "platform/ado/FieldValue.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -83,54 +84,79 @@ Result<jet::Value> fitCurrency(const jet::Value& value, const jet::Column& colum
     return jet::Value(jet::Currency{static_cast<int64_t>(scaled)});
 }
 
-/// UTF-16 unchanged, but for what is damaged or compressed.
-std::optional<QString> utf16Text(std::span<const uint8_t> stored) {
+/// Takes UTF-16 unchanged; false for what is damaged or compressed.
+bool takeUtf16(std::span<const uint8_t> stored, QString& text) {
     static_assert(std::endian::native == std::endian::little);
-    if (stored.size() % 2 != 0) return std::nullopt;
-    QString text(static_cast<qsizetype>(stored.size() / 2), Qt::Uninitialized);
+    if (stored.size() % 2 != 0) return false;
+    text = QString(static_cast<qsizetype>(stored.size() / 2), Qt::Uninitialized);
     if (!stored.empty()) std::memcpy(text.data(), stored.data(), stored.size());
-    if (text.startsWith(QChar::ByteOrderMark)) return std::nullopt;
-    const bool surrogates = std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate(); });
-    return surrogates ? std::nullopt : std::optional(std::move(text));
+    if (text.startsWith(QChar::ByteOrderMark)) return false;
+    return std::none_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate(); });
 }
 
-/// The characters below U+0100 after the mark of the compressed form, where there are no others.
-std::optional<QLatin1String> latinText(std::span<const uint8_t> stored) {
-    if (stored.size() < 2 || stored[0] != 0xFF || stored[1] != 0xFE) return std::nullopt;
-    const auto* text = reinterpret_cast<const char*>(stored.data()) + 2;
+/// Takes the characters below U+0100 after the mark of the compressed form; false where there are others.
+bool takeLatin(std::span<const uint8_t> stored, QString& text) {
+    if (stored.size() < 2 || stored[0] != 0xFF || stored[1] != 0xFE) return false;
+    constexpr size_t together = 8;
     const size_t length = stored.size() - 2;
-    if (std::memchr(text, 0, length)) return std::nullopt;  // continues in UTF-16
-    return QLatin1String(text, static_cast<qsizetype>(length));
+    const uint8_t* from = stored.data() + 2;
+    text = QString(static_cast<qsizetype>(length), Qt::Uninitialized);
+    auto* to = reinterpret_cast<char16_t*>(text.data());
+    // Eight characters at a time; the last eight may begin among those before. A zero continues in UTF-16.
+    uint64_t zeros = 0;
+    const auto widen = [&](size_t at) {
+        std::array<uint8_t, together> bytes;
+        std::array<char16_t, together> wide;
+        std::memcpy(bytes.data(), from + at, sizeof bytes);
+        for (size_t i = 0; i < together; ++i)
+            wide[i] = bytes[i];
+        std::memcpy(to + at, wide.data(), sizeof wide);
+        const auto word = std::bit_cast<uint64_t>(bytes);
+        zeros |= (word - 0x0101010101010101u) & ~word & 0x8080808080808080u;
+    };
+    if (length >= together) {
+        for (size_t at = 0; at + together < length; at += together)
+            widen(at);
+        widen(length - together);
+    } else {
+        for (size_t i = 0; i < length; ++i) {
+            zeros |= from[i] == 0;
+            to[i] = from[i];
+        }
+    }
+    return zeros == 0;
 }
 
 }  // namespace
 
 Value fieldValue(const jet::RowView& row, size_t column) {
+    const jet::Column& definition = row.definition().columns[column];
+    if (definition.type == Type::Memo || definition.type == Type::Ole) return Value(row.value(column));
     Value value;
-    takeFieldValue(row, column, row.field(column), value);
+    takeFieldValue(definition, row.field(column), value);
     return value;
 }
 
-void takeFieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field, Value& value) {
-    const jet::Column& definition = row.definition().columns[column];
-    switch (definition.type) {
+void takeFieldValue(const jet::Column& column, const jet::StoredField& field, Value& value) {
+    switch (column.type) {
         case Type::YesNo:
             return value.take(!field.null);
         case Type::Byte:
         case Type::Integer:
         case Type::Long:
-            if (field.bytes.size() < jet::fixedLength(definition)) return;
-            return value.take(int64_t{jet::wholeNumber(definition, field)});
+            if (field.bytes.size() < jet::fixedLength(column)) return;
+            return value.take(int64_t{jet::wholeNumber(column, field)});
         case Type::Text:
             if (field.null) return;
-            if (definition.ansi) break;
-            if (const auto text = latinText(field.bytes)) return value.take(QString(*text));
-            if (auto text = utf16Text(field.bytes)) return value.take(*std::move(text));
+            if (!column.ansi && value.takeText([&](QString& text) {
+                    return takeLatin(field.bytes, text) || takeUtf16(field.bytes, text);
+                }))
+                return;
             break;
         default:
             if (field.null) return;
     }
-    value = Value(readable(definition, row.value(column)));
+    value = Value(readable(column, jet::decodeValue(column, field.bytes)));
 }
 
 Result<jet::Value> fitToColumn(jet::Value raw, const jet::Column& column) {

@@ -17,7 +17,8 @@ Result<jet::Value> fitToColumn(jet::Value value, const jet::Column& column);
 /// The value of a column of that row as a recordset returns it; of memo and OLE values what lies in the
 /// row.
 Value fieldValue(const jet::RowView& row, size_t column);
-/// The same for a caller that has its stored bytes, into a Null: nothing is moved.
-void takeFieldValue(const jet::RowView& row, size_t column, const jet::StoredField& field, Value& value);
+/// The same for a caller that has its stored bytes, into a Null: nothing is moved. Not of memo and OLE
+/// values.
+void takeFieldValue(const jet::Column& column, const jet::StoredField& field, Value& value);
 
 }  // namespace ado

@@ -56,9 +56,12 @@ struct Recordset::Data {
     std::unique_ptr<Rows> rows;  ///< null when closed
     size_t current = 0;          ///< as many as there are rows: the end mark
     bool beforeFirst = false;
-    bool lost = false;                     ///< the last move failed: no row is the current one, nor any mark
-    StoredRow row;                         ///< the current one, where rows have identities
-    std::vector<jet::StoredField> fields;  ///< of that row, once one was asked for
+    bool lost = false;  ///< the last move failed: no row is the current one, nor any mark
+    StoredRow row;      ///< the current one, where rows have identities
+    std::vector<const jet::Column*> columns;  ///< of the recordset, where rows have identities
+    std::vector<jet::StoredField> fields;     ///< of these in that row
+    size_t parsed = 0;                     ///< all of them, once one of a row without changes was asked for
+    std::vector<jet::StoredField> others;  ///< of the whole row, where the recordset has some columns only
     RowsAhead ahead;
 
     Changes changes;
@@ -76,6 +79,10 @@ struct Recordset::Data {
     Status read(size_t number, size_t count);
     Status load();
     Result<Value> field(size_t column);
+    Result<Value> storedField(size_t column);
+    Result<Value> longField(size_t column);
+    Result<Value> valueAt(int index);
+    void parse();
     Status updatable() const;
     Status sameRow();
     Status post();
@@ -117,12 +124,16 @@ Status Recordset::open() {
     if (!rows.ok()) return rows.status();
     m_data->session = session;
     m_data->rows = std::move(rows).value();
+    m_data->columns.clear();
+    for (size_t i = 0; m_data->rows->table() && i < m_data->rows->names().size(); ++i)
+        m_data->columns.push_back(&m_data->rows->table()->definition().columns[m_data->rows->column(i)]);
     Status status = m_data->goTo(0);
     if (!status.ok()) close();
     return status;
 }
 
 void Recordset::close() {
+    m_data->parsed = 0;
     m_data->drop();
     m_data->rows.reset();
     m_data->session.reset();
@@ -158,6 +169,7 @@ Status Recordset::move(qint64 rows) {
     const qint64 from = data.beforeFirst ? -1 : static_cast<qint64>(data.current);
     if (rows < 0 && -rows > from) {
         data.beforeFirst = true;
+        data.parsed = 0;
         return {};
     }
     return data.goTo(static_cast<size_t>(from + rows));
@@ -191,7 +203,7 @@ std::optional<size_t> Recordset::Data::find(QStringView name) const {
 /// current row.
 Status Recordset::Data::goTo(size_t number) {
     const bool onward = !lost && !beforeFirst && number == current + 1;
-    fields.clear();
+    parsed = 0;
     if (!onward || !ahead.take(number, session->epoch(), RowsAhead::Clock::now(), row)) {
         const Waiting waiting(recordsetSeconds);
         lost = true;
@@ -215,20 +227,16 @@ Status Recordset::Data::read(size_t number, size_t count) {
     if (Status status = rows->reach(number + 1); !status.ok()) return status;
     if (count > 1) (void)rows->reach(number + count);
     if (!rows->table()) return {};
-    if (number < rows->known())
-        if (Status status = rows->table()->read(rows->id(number), row); !status.ok()) return status;
     ahead.begin(number + 1, session->epoch(), begun);
-    for (size_t next = number + 1; next < std::min(number + count, rows->known()); ++next)
-        if (Status status = rows->table()->read(rows->id(next), ahead.add()); !status.ok()) {
-            ahead.dropLast();
-            break;
-        }
-    return {};
+    size_t taken = 0;
+    Status status = rows->table()->read(rows->ids(number, count),
+                                        [&]() -> StoredRow& { return taken++ == 0 ? row : ahead.add(); });
+    return taken == 0 ? status : Status();
 }
 
 Status Recordset::Data::load() {
     ahead.drop();
-    fields.clear();
+    parsed = 0;
     row.present = false;
     return onRow() && rows->table() ? rows->table()->read(rows->id(current), row) : Status();
 }
@@ -245,18 +253,33 @@ Result<Value> Recordset::Data::field(size_t column) {
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
     if (!row.present) return Status(ErrorCode::NoCurrentRecord, Words::tr("Il record è stato eliminato."));
-    const jet::TableDefinition& definition = rows->table()->definition();
-    const size_t position = rows->column(column);
-    const jet::Type type = definition.columns[position].type;
-    if (type != jet::Type::Memo && type != jet::Type::Ole) {
-        const jet::RowView view(&definition, row.bytes);
-        if (fields.empty()) view.fields(fields);
-        Result<Value> value{Value()};
-        takeFieldValue(view, position, fields[position], value.value());
-        return value;
+    parse();
+    return storedField(column);
+}
+
+void Recordset::Data::parse() {
+    const jet::RowView view(&rows->table()->definition(), row.bytes);
+    view.fields(rows->whole() ? fields : others);
+    if (!rows->whole()) {
+        fields.resize(columns.size());
+        for (size_t i = 0; i < fields.size(); ++i)
+            fields[i] = others[rows->column(i)];
     }
+    parsed = fields.size();
+}
+
+/// Once the row is parsed.
+Result<Value> Recordset::Data::storedField(size_t column) {
+    const jet::Column& definition = *columns[column];
+    if (definition.type == jet::Type::Memo || definition.type == jet::Type::Ole) return longField(column);
+    Result<Value> value{Value()};
+    takeFieldValue(definition, fields[column], value.value());
+    return value;
+}
+
+Result<Value> Recordset::Data::longField(size_t column) {
     const Waiting waiting(recordsetSeconds);
-    Result<jet::Value> value = rows->table()->longValue(rows->id(current), position);
+    Result<jet::Value> value = rows->table()->longValue(rows->id(current), rows->column(column));
     if (!value.ok()) return value.status();
     return Value(std::move(value).value());
 }
@@ -269,10 +292,15 @@ Result<Value> Recordset::value(QStringView name) const {
 }
 
 Result<Value> Recordset::value(int index) const {
-    if (!isOpen()) return notOpen();
     const auto column = static_cast<size_t>(index);
-    if (index < 0 || column >= m_data->rows->names().size()) return unknownField(QString::number(index));
-    return m_data->field(column);
+    return column < m_data->parsed ? m_data->storedField(column) : m_data->valueAt(index);
+}
+
+Result<Value> Recordset::Data::valueAt(int index) {
+    if (!rows) return notOpen();
+    const auto column = static_cast<size_t>(index);
+    if (index < 0 || column >= rows->names().size()) return unknownField(QString::number(index));
+    return field(column);
 }
 
 Status Recordset::Data::updatable() const {
@@ -296,6 +324,7 @@ Status Recordset::setValue(QStringView name, const Value& value) {
     Result<jet::Value> fitted = fitToColumn(value.raw(), data.rows->table()->definition().columns[*column]);
     if (!fitted.ok()) return fitted.status();
     setChange(data.changes, *column, std::move(fitted).value());
+    data.parsed = 0;
     return {};
 }
 
@@ -321,6 +350,7 @@ Status Recordset::addNew() {
     if (!status.ok()) return status;
     data.changes = std::move(fixed);
     data.adding = true;
+    data.parsed = 0;
     return {};
 }
 
@@ -342,10 +372,10 @@ Status Recordset::Data::post() {
         if (Status status = sameRow(); !status.ok()) return status;
         return rows->table()->update(rows->id(current), changes);
     }
-    const auto& columns = rows->table()->definition().columns;
-    std::vector<jet::Value> values(columns.size());
-    for (size_t i = 0; i < columns.size(); ++i)
-        if (columns[i].type == jet::Type::YesNo) values[i] = false;
+    const auto& all = rows->table()->definition().columns;
+    std::vector<jet::Value> values(all.size());
+    for (size_t i = 0; i < all.size(); ++i)
+        if (all[i].type == jet::Type::YesNo) values[i] = false;
     for (const auto& [column, value] : changes)
         values[column] = value;
     const Result<jet::RowId> id = rows->table()->insert(values);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ado/Value.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -36,11 +37,14 @@ QString currencyText(int64_t tenThousandths, const QLocale& locale) {
     return decimals.isEmpty() ? text : text + locale.decimalPoint() + decimals;
 }
 
-/// Whether a whole number that is not negative is written in the digits 0 to 9; else it may be too. Asked for
-/// each number of a long list, for which the locale's own way takes fifteen times as long.
-bool plainDigits(const QLocale& locale) {
-    return locale.language() == QLocale::Italian || locale.language() == QLocale::English ||
-           locale.language() == QLocale::C;
+QString digitsOf(uint64_t number) {
+    std::array<QChar, std::numeric_limits<uint64_t>::digits10 + 1> digits;
+    size_t first = digits.size();
+    do {
+        digits[--first] = QChar(static_cast<char16_t>(u'0' + number % 10));
+        number /= 10;
+    } while (number != 0);
+    return QString(&digits[first], static_cast<qsizetype>(digits.size() - first));
 }
 
 Result<qint64> rounded(double number) {
@@ -60,7 +64,7 @@ Value::Value(jet::Value value) {
         *this = *real;
     } else if (const auto* date = std::get_if<jet::Date>(&value)) {
         m_type = Type::Date;
-        m_real = date->days;
+        m_whole = bitsOf(date->days);
     } else if (const auto* amount = std::get_if<jet::Currency>(&value)) {
         m_type = Type::Currency;
         m_whole = amount->tenThousandths;
@@ -71,7 +75,25 @@ Value::Value(jet::Value value) {
         m_text = QString::fromStdString(decimal->text);
     } else if (auto* bytes = std::get_if<jet::Bytes>(&value)) {
         m_type = Type::Binary;
-        m_bytes = std::move(*bytes);
+        m_bytes = std::make_shared<const jet::Bytes>(std::move(*bytes));
+    }
+}
+
+bool Value::operator==(const Value& other) const {
+    if (m_type != other.m_type) return false;
+    switch (m_type) {
+        case Type::Null:
+            return true;
+        case Type::Real:
+        case Type::Date:
+            return real() == other.real();
+        case Type::Text:
+        case Type::Decimal:
+            return m_text == other.m_text;
+        case Type::Binary:
+            return *m_bytes == *other.m_bytes;
+        default:
+            return m_whole == other.m_whole;
     }
 }
 
@@ -84,9 +106,9 @@ jet::Value Value::raw() const {
         case Type::Integer:
             return m_whole;
         case Type::Real:
-            return m_real;
+            return real();
         case Type::Date:
-            return jet::Date{m_real};
+            return jet::Date{real()};
         case Type::Currency:
             return jet::Currency{m_whole};
         case Type::Text:
@@ -94,7 +116,7 @@ jet::Value Value::raw() const {
         case Type::Decimal:
             return jet::Decimal{m_text.toStdString()};
         case Type::Binary:
-            return m_bytes;
+            return *m_bytes;
     }
     return {};
 }
@@ -108,12 +130,19 @@ std::optional<double> readNumber(const QString& written) {
     return number;
 }
 
+/// Whether this is a whole number that is written in the digits 0 to 9; else it may be too. Asked for each
+/// number of a long list, for which the locale's own way takes fifteen times as long.
+bool Value::isPlainNumber(const QLocale& locale) const {
+    if (m_type != Type::Integer || m_whole < 0) return false;
+    const QLocale::Language language = locale.language();
+    return language == QLocale::Italian || language == QLocale::English || language == QLocale::C;
+}
+
 Result<QString> Value::toText(const QLocale& userLocale) const {
     if (type() == Type::Text) return m_text;
     if (isNull()) return nullValue;
     if (type() == Type::Binary) return mismatch;
-    if (type() == Type::Integer && m_whole >= 0 && plainDigits(userLocale))
-        return QString::number(static_cast<qlonglong>(m_whole));
+    if (isPlainNumber(userLocale)) return digitsOf(static_cast<uint64_t>(m_whole));
     if (type() == Type::YesNo) {
         if (userLocale.language() == QLocale::Italian)
             return m_whole != 0 ? QStringLiteral("Vero") : QStringLiteral("Falso");
@@ -125,11 +154,11 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
         case Type::Integer:
             return locale.toString(static_cast<qlonglong>(m_whole));
         case Type::Real:
-            return realText(m_real, locale);
+            return realText(real(), locale);
         case Type::Currency:
             return currencyText(m_whole, locale);
         case Type::Date:
-            if (auto text = dateText(m_real, locale)) return *text;
+            if (auto text = dateText(real(), locale)) return *text;
             return mismatch;
         case Type::Decimal: {
             QString text = m_text;
@@ -141,13 +170,9 @@ Result<QString> Value::toText(const QLocale& userLocale) const {
     }
 }
 
-QString Value::toTextOrEmpty(const QLocale& locale) && {
-    return type() == Type::Text ? std::move(m_text) : std::as_const(*this).toTextOrEmpty(locale);
-}
-
-QString Value::toTextOrEmpty(const QLocale& locale) const& {
-    if (type() == Type::Text) return m_text;
+QString Value::otherText(const QLocale& locale) const {
     if (isNull()) return {};
+    if (isPlainNumber(locale)) return digitsOf(static_cast<uint64_t>(m_whole));
     Result<QString> text = toText(locale);
     return text.ok() ? std::move(text).value() : QString();
 }
@@ -161,11 +186,11 @@ Result<qint64> Value::toInteger() const {
         case Type::Integer:
             return static_cast<qint64>(m_whole);
         case Type::Real:
-            return rounded(m_real);
+            return rounded(real());
         case Type::Currency:
             return rounded(static_cast<double>(m_whole) / 10000);
         case Type::Date:
-            return rounded(m_real);
+            return rounded(real());
         case Type::Text: {
             const std::optional<double> number = readNumber(m_text);
             if (!number) return mismatch;
@@ -193,11 +218,11 @@ Result<bool> Value::toBool() const {
             return *number != 0;
         }
         case Type::Real:
-            return m_real != 0;
+            return real() != 0;
         case Type::Currency:
             return m_whole != 0;
         case Type::Date:
-            return m_real != 0;
+            return real() != 0;
         case Type::Decimal:
             return m_text != u"0";
         default: {

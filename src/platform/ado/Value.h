@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <QLocale>
 #include <QString>
@@ -23,7 +25,7 @@ class Value {
     Value(int number) : m_type(Type::Integer), m_whole(number) {}
     Value(long number) : m_type(Type::Integer), m_whole(number) {}
     Value(long long number) : m_type(Type::Integer), m_whole(number) {}
-    Value(double number) : m_type(Type::Real), m_real(number) {}
+    Value(double number) : m_type(Type::Real), m_whole(bitsOf(number)) {}
     Value(QString text) : m_type(Type::Text), m_text(std::move(text)) {}
     explicit Value(QLatin1String text) : m_type(Type::Text), m_text(text) {}
     template <class T>
@@ -39,9 +41,11 @@ class Value {
         m_type = Type::Integer;
         m_whole = number;
     }
-    void take(QString&& text) {
+    /// It becomes the text that `fill` makes of an empty one; where that returns false it is of no use.
+    template <class Fill>
+    bool takeText(const Fill& fill) {
         m_type = Type::Text;
-        m_text.swap(text);
+        return fill(m_text);
     }
 
     Type type() const { return m_type; }
@@ -53,8 +57,12 @@ class Value {
     /// binary data.
     Result<QString> toText(const QLocale& locale = QLocale()) const;
     /// The same with the empty text for what has no text.
-    QString toTextOrEmpty(const QLocale& locale = QLocale()) const&;
-    QString toTextOrEmpty(const QLocale& locale = QLocale()) &&;
+    QString toTextOrEmpty(const QLocale& locale = QLocale()) const& {
+        return m_type == Type::Text ? m_text : otherText(locale);
+    }
+    QString toTextOrEmpty(const QLocale& locale = QLocale()) && {
+        return m_type == Type::Text ? std::move(m_text) : otherText(locale);
+    }
     /// True is -1; fractions round to the nearest, halves to even; texts are read as by readNumber(). Fails
     /// with InvalidNull, TypeMismatch or Overflow.
     Result<qint64> toInteger() const;
@@ -63,15 +71,22 @@ class Value {
     Result<bool> toBool() const;
 
     jet::Value raw() const;
-    bool operator==(const Value&) const = default;
+    bool operator==(const Value& other) const;
 
   private:
-    // Beside each other rather than in a variant: a list of cells is made and moved faster than it is read.
+    static int64_t bitsOf(double number) { return std::bit_cast<int64_t>(number); }
+    double real() const { return std::bit_cast<double>(m_whole); }
+    bool isPlainNumber(const QLocale& locale) const;
+    QString otherText(const QLocale& locale) const;
+
+    // Beside each other rather than in a variant, and few of them: a list of cells is made and moved faster
+    // than it is read.
     Type m_type = Type::Null;
-    int64_t m_whole = 0;  ///< of a yes/no 0 or 1, a whole number, ten-thousandths of a currency
-    double m_real = 0;    ///< a number, or the days of a date
-    QString m_text;       ///< a text, or a decimal written out
-    jet::Bytes m_bytes;
+    /// Of a yes/no 0 or 1, a whole number, ten-thousandths of a currency; the bits of a real number, or of
+    /// the days of a date.
+    int64_t m_whole = 0;
+    QString m_text;  ///< a text, or a decimal written out
+    std::shared_ptr<const jet::Bytes> m_bytes;
 };
 
 /// A number written plainly, with a point before the decimals, or else as users of the current locale write

@@ -51,8 +51,30 @@ TEST(RowsAhead, ReadsMoreTheLongerRowsAreTakenInTurn) {
     size_t wanted = 0;
     for (int i = 0; i < 20; ++i)
         wanted = ahead.wanted(true);
-    EXPECT_EQ(wanted, 64u);
+    EXPECT_EQ(wanted, 256u);
     EXPECT_EQ(ahead.wanted(false), 1u);
+}
+
+TEST(RowsAhead, ReadsFewerWhereTheyGrowTooOld) {
+    RowsAhead ahead;
+    StoredRow row;
+    for (int i = 0; i < 4; ++i)
+        ahead.wanted(true);
+    fill(ahead, 1);
+    EXPECT_FALSE(ahead.take(11, 1, start + std::chrono::milliseconds(5), row));
+    EXPECT_EQ(ahead.wanted(true), 8u);
+    fill(ahead, 1);
+    EXPECT_TRUE(ahead.take(10, 1, start, row));
+    EXPECT_FALSE(ahead.take(13, 1, start, row));
+    EXPECT_EQ(ahead.wanted(true), 16u);
+    for (int i = 0; i < 10; ++i) {
+        fill(ahead, 1);
+        EXPECT_FALSE(ahead.take(11, 1, start + std::chrono::milliseconds(5), row));
+        ahead.wanted(true);
+    }
+    fill(ahead, 1);
+    EXPECT_FALSE(ahead.take(11, 1, start + std::chrono::milliseconds(5), row));
+    EXPECT_EQ(ahead.wanted(true), 1u);
 }
 
 TEST_F(RowsAheadTest, AWalkSeesWhatThisProgramChangesBeforeIt) {
