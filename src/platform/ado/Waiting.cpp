@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cassert>
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace ado {
@@ -42,13 +43,13 @@ Waiting::~Waiting() {
 }
 
 bool Waiting::goOn(std::chrono::milliseconds waited) {
+    assert(!hookRuns);  // it begins no statement
     const Clock::time_point now = Clock::now();
     if (m_givenUp || (m_end && now >= *m_end)) return false;
     if (!m_blocked) m_blocked = now - waited;
     const auto soFar = std::chrono::duration_cast<std::chrono::milliseconds>(now - *m_blocked);
-    hookRuns = true;
+    const QScopedValueRollback runs(hookRuns, true);
     m_givenUp = installed.goOn && !installed.goOn(soFar);
-    hookRuns = false;
     return !m_givenUp;
 }
 

@@ -2,6 +2,7 @@
 #include "platform/jet/LongValue.h"
 
 #include <algorithm>
+#include <cassert>
 #include <functional>
 #include <set>
 
@@ -166,6 +167,10 @@ void LongValuePages::free(std::span<const RowId> rows) {
         owned.set(id.page, false);
         GlobalMap(m_file).give(id.page);
     }
+    assert(std::all_of(rows.begin(), rows.end(), [&](RowId id) {  // V2
+        return !owned.contains(id.page) ||
+               longRows(*m_file.page(id.page), id.page).flags(id.slot) == data::deleted;
+    }));
 }
 
 }  // namespace jet

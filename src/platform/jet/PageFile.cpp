@@ -311,7 +311,7 @@ void PageFile::writeChanged() {
     lockPages();
     assert(m_journal.inForce());  // J1
     assert(m_file.isHeld(OsFile::Range::Writer) && m_file.isHeld(OsFile::Range::Author) &&
-           m_file.isHeld(OsFile::Range::Content));  // L1
+           m_file.isHeld(OsFile::Range::Content));  // L1, L3
     m_pagesWritten = true;
     // Pages that are neighbours are written together.
     std::vector<uint8_t> bytes;

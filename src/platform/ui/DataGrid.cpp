@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ui/DataGrid.h"
 
+#include <cassert>
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include "platform/ui/DataGridPaint.h"
 #include "platform/ui/ItemViewAccess.h"
@@ -73,6 +75,8 @@ void DataGrid::fill(ado::Snapshot& rows) {
     while (current < m_model->columnCount() && isColumnHidden(current))
         ++current;
     setCurrentIndex(m_model->index(0, current));
+    assert(Row() == (Rows() > 1 && current < m_model->columnCount() ? 1 : 0));
+    assert(!m_sorted && !isSorting());
     scrollToTop();
 }
 
@@ -93,13 +97,13 @@ void DataGrid::setColPosition(int column, int position) {
 }
 
 void DataGrid::applyWidths() {
-    m_applyingWidths = true;
+    assert(!m_applyingWidths && m_widths.size() >= static_cast<size_t>(m_model->columnCount()));
+    const QScopedValueRollback applying(m_applyingWidths, true);
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const int width = m_widths[static_cast<size_t>(m_model->sourceColumn(column))];
         setColumnHidden(column, width <= 0);
         if (width > 0) setColumnWidth(column, width);
     }
-    m_applyingWidths = false;
 }
 
 void DataGrid::applyFont() {

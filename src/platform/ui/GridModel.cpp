@@ -2,12 +2,27 @@
 #include "platform/ui/GridModel.h"
 
 #include <algorithm>
+#include <cassert>
 #include <map>
 #include <numeric>
 #include <QFont>
 #include <utility>
 
 namespace ui {
+
+namespace {
+
+/// For asserts: equal for the same numbers in any order, and hardly ever for others.
+[[maybe_unused]] uint64_t sumOf(const std::vector<uint32_t>& numbers) {
+    constexpr uint64_t odd = 0x9E3779B97F4A7C15;
+    return std::accumulate(numbers.begin(), numbers.end(), uint64_t{numbers.size()},
+                           [](uint64_t sum, uint32_t number) {
+                               const uint64_t mixed = (number + odd) * odd;
+                               return sum + (mixed ^ mixed >> 29) * odd;
+                           });
+}
+
+}  // namespace
 
 void GridModel::setSnapshot(ado::Snapshot rows) {
     beginResetModel();
@@ -47,6 +62,7 @@ void GridModel::removeGridRow(int row) {
     beginRemoveRows({}, row - 1, row - 1);
     std::erase(m_filled, m_rows.identity(static_cast<size_t>(row - 1)));
     m_rows.remove(static_cast<size_t>(row - 1));
+    assert(m_filled.empty() || m_filled.size() == m_rows.size());
     endRemoveRows();
 }
 
@@ -68,6 +84,7 @@ void GridModel::moveGridColumn(int from, int to) {
 }
 
 void GridModel::arrange(std::vector<uint32_t> identities) {
+    assert(sumOf(identities) == sumOf(m_rows.identities()));
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
     std::map<int, uint32_t> rowsBefore;

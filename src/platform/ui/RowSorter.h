@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -23,7 +24,10 @@ class RowSorter {
     /// Continues until `over`, which is called every few dozen rows; true when all is done.
     bool step(const std::function<bool()>& over);
     /// The row at each place, once all is done.
-    uint32_t row(uint32_t place) const { return m_entries[place].row; }
+    uint32_t row(uint32_t place) const {
+        assert(place < m_count && m_sorted == m_count && m_width >= m_count);
+        return m_entries[place].row;
+    }
 
   private:
     struct Entry {

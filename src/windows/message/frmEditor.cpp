@@ -80,6 +80,7 @@ void frmEditor::Carica() {
 }
 
 void frmEditor::MostraModale() {
+    assert(!attesa);
     QEventLoop finoAllaChiusura;
     attesa = &finoAllaChiusura;
     // The browser is of another kind than the other controls: a window that gets it while on the screen
@@ -119,6 +120,7 @@ void frmEditor::NuovoMessaggio() {
     prosegui([this] { Allegati().ClearList(); });
     estraneo = false;
     propri.clear();
+    assert(!IsModificato());
 }
 
 void frmEditor::ImpostaTitolo() {

@@ -73,6 +73,7 @@ void grd_AfterDataRefresh() {
 
 /// The cell changes first and the table second; nothing is read back.
 void grd_Click() {
+    assert(grd().Notice().isEmpty());
     if (grd().Row() < 1 || grd().Col() != colonnaSel) return;
     ado::Command comando;
     esigi(comando.setActiveConnection(connDB));
@@ -91,6 +92,7 @@ void grd_Click() {
 }
 
 void grd_DblClick() {
+    assert(grd().Notice().isEmpty());
     if (grd().Row() >= 1 && grd().Col() != colonnaSel) comandiDestinatario::Modifica();
 }
 
