@@ -7,6 +7,7 @@
 #include "modules/core/Fallimento.h"
 #include "modules/store/RecordsetDB.h"
 #include "modules/strumenti/Giro.h"
+#include "platform/ado/Connection.h"
 #include "support/SampleFolder.h"
 
 namespace cartelle_perdute_test {
@@ -60,6 +61,18 @@ TEST_F(CartellePerduteTest, NothingIsLostInASoundDatabase) {
     EXPECT_TRUE(perdute.voci.empty());
     EXPECT_EQ(perdute.cartelle, 0);
     EXPECT_EQ(perdute.destinatari, 0);
+}
+
+TEST_F(CartellePerduteTest, TableWithoutTheColumnOfTheGroupsIsAFailure) {
+    recipient("1");
+    ado::closeAll();
+    SampleFolder::renameInFile(folder.database(), "id_grp", "id_grx");
+    ContaPerCartella conta(connDB);
+    Result<bool> step = false;
+    while (step.ok() && !step.value())
+        step = conta.Avanza(std::chrono::milliseconds(1));
+    EXPECT_EQ(step.status().code(), ErrorCode::ItemNotFound);
+    EXPECT_TRUE(step.status().text().contains("id_grp")) << step.status().text().toStdString();
 }
 
 TEST_F(CartellePerduteTest, GroupsWithoutAParentComeUnderTheRootWithAllBelow) {

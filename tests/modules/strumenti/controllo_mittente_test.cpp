@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 
 #include "modules/strumenti/RecordChiave.h"
+#include "platform/oauth/TokenFile.h"
+#include "platform/system/Keyring.h"
 #include "platform/system/ProgramFolder.h"
 #include "support/NameServer.h"
 #include "support/Postfix.h"
@@ -75,6 +77,13 @@ class Controllo : public testing::Test {
             if (una.controllo == QString::fromUtf8(controllo)) return una;
         ADD_FAILURE() << controllo;
         return {};
+    }
+
+    /// Expects this text as the reason of a red line.
+    static void dice(const std::vector<RigaControllo>& righe, const char* controllo, const char* testo) {
+        const RigaControllo una = riga(righe, controllo);
+        EXPECT_EQ(una.semaforo, Semaforo::Rosso) << controllo;
+        EXPECT_TRUE(una.frase.contains(QString::fromUtf8(testo))) << una.frase.toStdString();
     }
 
     static void aspetta(const std::vector<RigaControllo>& righe, const char* controllo, Semaforo semaforo) {
@@ -188,6 +197,65 @@ TEST_F(Controllo, AccountWithoutAnAddressOrAServerIsReported) {
     righe = controlla(chi);
     aspetta(righe, "Server raggiunto", Semaforo::Rosso);
     EXPECT_TRUE(riga(righe, "Server raggiunto").frase.startsWith("Manca il nome del server."));
+}
+
+TEST_F(Controllo, ServerThatCannotBeAskedForIsToldBeforeAnyConnection) {
+    Account chi = account();
+    chi.txtServerSMTP = "mail server";
+    dice(controlla(chi), "Server raggiunto", "Il nome del server non è valido.");
+    chi = account();
+    for (const char* porta : {"0", "", "65536", "smtp"}) {
+        chi.txtServerPORT = porta;
+        dice(controlla(chi), "Server raggiunto", "La porta del server non è valida.");
+    }
+}
+
+TEST_F(Controllo, MarkerOfTheKeyringIsNeverSentAsAPassword) {
+    ScriptedServer server({{"DROP"}}, TestCertificates::get().good());
+    Account chi = account();
+    chi.txtServerPORT = QString::number(server.port());
+    chi.txtPassword = sys::keyring::newMarker();
+    dice(controlla(chi), "Accesso", "Il portachiavi non ha dato la password di questo account.");
+    EXPECT_EQ(server.ended(), 0);  // nobody came
+    chi.chkAutentick = "0";
+    aspetta(controlla(chi), "Accesso", Semaforo::Verde);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST_F(Controllo, TokenOfAConsentLogsIn) {
+    QFile fornitori(cartella.filePath("data/oauth/providers.json"));
+    QDir().mkpath(cartella.filePath("data/oauth"));
+    ASSERT_TRUE(fornitori.open(QIODevice::WriteOnly));
+    fornitori.write(R"({"prova": {"name": "Prova", "authorization_endpoint": "https://localhost:1/authorize",
+                        "token_endpoint": "https://localhost:1/token", "scopes": ["posta.invio"],
+                        "smtp_hosts": ["localhost"], "client_id": "programma"}})");
+    fornitori.close();
+    const QByteArray accesso = QByteArray(
+                                   "user=ada\x01"
+                                   "auth=Bearer accesso-7\x01\x01")
+                                   .toBase64();
+    ScriptedServer server({{"S: 220 ready", "C: EHLO *", "S: 250-ready", "S: 250 STARTTLS", "C: STARTTLS",
+                            "S: 220 go ahead", "TLS", "C: EHLO *", "S: 250-ready", "S: 250 AUTH XOAUTH2",
+                            "C: AUTH XOAUTH2 " + accesso, "S: 235 welcome", "C: QUIT"}},
+                          TestCertificates::get().good());
+    Account chi = account();
+    chi.txtServerPORT = QString::number(server.port());
+    chi.txtUsername = "ada";
+    chi.txtPassword = "OAuth2";
+    dice(controlla(chi), "Accesso", "Manca il consenso del fornitore");
+    EXPECT_EQ(server.ended(), 0);  // nobody came
+    const QString posto = oauth::tokenPath(cartella.filePath("data/oauth"), "prova", "ada");
+    const QDateTime fine = QDateTime::currentDateTimeUtc().addSecs(3600);
+    ASSERT_TRUE(oauth::writeToken(cartella.filePath("data/oauth"), posto, {"accesso-7", "", fine}).ok());
+    aspetta(controlla(chi), "Accesso", Semaforo::Verde);
+    EXPECT_EQ(server.remainder(), "");
+}
+
+TEST_F(Controllo, ProvidersFileThatCannotBeReadIsTheReason) {
+    QDir().mkpath(cartella.filePath("data/oauth/providers.json"));
+    Account chi = account();
+    chi.txtPassword = "OAuth2";
+    dice(controlla(chi), "Accesso", "providers.json");
 }
 
 TEST_F(Controllo, CancelledCheckReportsNothingMore) {

@@ -29,6 +29,16 @@ TEST(RigaMX, ServerWithAnAddressIsInOrder) {
     EXPECT_TRUE(dice(riga, "10 mx.example.it: 203.0.113.2"));
 }
 
+TEST(RigaMX, ServersAreListedInTheOrderTheyAreTried) {
+    const Zone zone = Zone()
+                          .mx("example.it", "riserva.example.it", 20)
+                          .mx("example.it", "mx.example.it", 5)
+                          .address("mx.example.it", "203.0.113.2")
+                          .address("riserva.example.it", "203.0.113.3");
+    const RigaControllo riga = rigaDi(RigaMX, mittente(), zone);
+    EXPECT_TRUE(dice(riga, "5 mx.example.it: 203.0.113.2\n20 riserva.example.it: 203.0.113.3"));
+}
+
 TEST(RigaMX, WhatKeepsRepliesFromComingIsReportedByItsWeight) {
     EXPECT_EQ(semaforo(RigaMX, Zone()), Semaforo::Rosso);
     EXPECT_EQ(semaforo(RigaMX, Zone().address("example.it", "203.0.113.2")), Semaforo::Giallo);
@@ -78,6 +88,51 @@ TEST(RigaSpf, MissingAndFaultyRecordsAreToBeFixed) {
     EXPECT_TRUE(dice(riga, "ipv4:1.2.3.4"));
 }
 
+TEST(RigaSpf, EachFaultOfARecordHasASentenceThatNamesItsTerm) {
+    const auto detto = [](const Zone& zone, const char* testo) {
+        const RigaControllo riga = rigaDi(RigaSpf, mittente(), zone);
+        EXPECT_EQ(riga.semaforo, Semaforo::Rosso) << testo;
+        dice(riga, testo);
+    };
+    const auto record = [](const QByteArray& terms) {
+        return conServer().txt("example.it", "v=spf1 " + terms);
+    };
+    detto(record("-all").txt("example.it", "v=spf1 ~all"), "example.it ha più di un record SPF");
+    detto(record(QByteArray("ip4:192.0.2.1 ").repeated(2000) + "-all"),
+          "Il record SPF di example.it è troppo lungo");
+    QByteArray molti;
+    Zone indirizzi = conServer();
+    for (int i = 1; i <= 11; ++i) {
+        const QByteArray nome = "a" + QByteArray::number(i) + ".example";
+        molti += "a:" + nome + ' ';
+        indirizzi.address(nome, "192.0.2.1");
+    }
+    detto(indirizzi.txt("example.it", "v=spf1 " + molti + "-all"),
+          "più di 10 ricerche nel DNS e non vale: togliere meccanismi, per esempio a:a11.example.");
+    detto(record("a:uno.example a:due.example a:tre.example -all"),
+          "più di 2 domini senza record e non vale: togliere quelli che non esistono più, per esempio "
+          "a:tre.example.");
+    Zone scambi = record("mx:molti.example -all");
+    for (int i = 1; i <= 11; ++i)
+        scambi.mx("molti.example", "mx" + QByteArray::number(i) + ".example");
+    detto(scambi, "\"mx:molti.example\" porta a più di 10 server");
+    detto(record("include:niente.example -all"),
+          "\"include:niente.example\" porta a un dominio senza record SPF");
+    detto(record("redirect=niente.example"),
+          "\"redirect=niente.example\" porta a un dominio senza record SPF");
+}
+
+TEST(RigaSpf, ResultOfEachAddressIsAWord) {
+    const auto detto = [](const char* terms, const char* testo) {
+        dice(rigaDi(RigaSpf, mittenteDiretto(), Zone().txt("example.it", QByteArray("v=spf1 ") + terms)),
+             testo);
+    };
+    detto("+all", "203.0.113.25: autorizzato");
+    detto("-all", "203.0.113.25: vietato");
+    detto("~all", "203.0.113.25: non autorizzato");
+    detto("?all", "203.0.113.25: né autorizzato né vietato");
+}
+
 TEST(RigaSpf, FaultyRecordShowsAlsoWhereTheServerIsUnknown) {
     EXPECT_EQ(semaforo(RigaSpf, Zone().txt("example.it", "v=spf1 a/99")), Semaforo::Rosso);
     EXPECT_EQ(semaforo(RigaSpf, Zone()), Semaforo::Rosso);
@@ -114,6 +169,11 @@ TEST(RigaSpf, TextOfTheDomainIsShownWithoutItsControlCharacters) {
     EXPECT_TRUE(dice(riga, "hello example.it"));
     EXPECT_FALSE(Mostrabile("a\x1b[31m\r\nb").contains(QChar(0x1b)));
     EXPECT_LE(Mostrabile(QByteArray(100000, 'x')).size(), 2001);
+}
+
+TEST(RigaNomeInverso, IPv6AddressHasItsNameToo) {
+    const Zone good = Zone().ptr("2001:db9::25", "pc.example.it").address("pc.example.it", "2001:db9::25");
+    EXPECT_EQ(semaforo(RigaNomeInverso, good, mittenteDiretto("2001:db9::25")), Semaforo::Verde);
 }
 
 TEST(RigaNomeInverso, NameAndAddressHaveToConfirmEachOther) {

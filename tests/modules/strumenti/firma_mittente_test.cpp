@@ -54,6 +54,11 @@ TEST(RigaDkim, NoKeyWantsAttentionAndAnUnusableOneIsToBeFixed) {
     EXPECT_EQ(rigaDi(RigaDkim, chi, Zone()).frase, "la chiave non va");
 }
 
+TEST(RigaDkim, LookUpThatFailedIsNoFaultOfTheRecord) {
+    const QByteArray nome = RecordDi("example.it", chiave()).nome.toLatin1();
+    EXPECT_EQ(dkim(Zone().fails(nome, dns::Type::Txt)), Semaforo::Giallo);
+}
+
 TEST(RigaDkim, RecordThatInvalidatesTheSignatureIsToBeFixed) {
     EXPECT_EQ(dkim(Zone()), Semaforo::Rosso);
     EXPECT_EQ(dkim(conRecord("v=DKIM1; p=")), Semaforo::Rosso);
@@ -100,6 +105,13 @@ TEST(RigaDmarc, FaultyOrMissingSpfDoesNotPassWhereverTheMailComesFrom) {
     EXPECT_EQ(dmarc(Zone(senza).txt("example.it", "v=spf1 a/99"), mittenteDiretto(nullptr)), Semaforo::Rosso);
     EXPECT_EQ(dmarc(Zone(senza).fails("example.it", dns::Type::Txt), mittenteDiretto(nullptr)),
               Semaforo::Giallo);
+}
+
+TEST(RigaDmarc, RecordThatOnlyWatchesSaysThatNothingPassesYet) {
+    const Zone zone = Zone().txt("_dmarc.example.it", "v=DMARC1; p=none").txt("example.it", "v=spf1 -all");
+    const RigaControllo riga = rigaDi(RigaDmarc, mittenteDiretto(), zone);
+    EXPECT_EQ(riga.semaforo, Semaforo::Giallo);
+    EXPECT_TRUE(riga.frase.contains("per ora non passano né SPF né DKIM")) << riga.frase.toStdString();
 }
 
 TEST(RigaDmarc, RecordsThatDoNotCountAreToBeFixed) {

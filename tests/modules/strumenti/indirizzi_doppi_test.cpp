@@ -6,6 +6,7 @@
 #include "modules/core/bGlobal.h"
 #include "modules/core/Fallimento.h"
 #include "modules/strumenti/Giro.h"
+#include "platform/ado/Connection.h"
 #include "support/SampleFolder.h"
 
 namespace indirizzi_doppi_test {
@@ -40,6 +41,17 @@ TEST_F(IndirizziDoppiTest, CaseAndBlanksAtTheEndsMakeNoDifference) {
     EXPECT_EQ(doppi[0].destinatari[0].id, first);
     EXPECT_EQ(doppi[0].destinatari[1].id, second);
     EXPECT_EQ(doppi[0].destinatari[1].gruppo, 1);
+}
+
+TEST_F(IndirizziDoppiTest, TableWithoutItsColumnsIsAFailure) {
+    add("anna@example.it");
+    ado::closeAll();
+    testing_support::SampleFolder::renameInFile(folder.database(), "id_grp", "id_grx");
+    IndirizziDoppi indirizzi(connDB);
+    Result<bool> step = false;
+    while (step.ok() && !step.value())
+        step = indirizzi.Avanza(std::chrono::milliseconds(1));
+    EXPECT_EQ(step.status().code(), ErrorCode::ItemNotFound);
 }
 
 TEST_F(IndirizziDoppiTest, OnlySelectedOnesCount) {

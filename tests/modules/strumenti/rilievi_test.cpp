@@ -121,6 +121,14 @@ TEST(RilieviHtml, imagesOfTheWebAreAHint) {
     EXPECT_TRUE(findings[0].testo.startsWith("3 immagini restano sul web"));
 }
 
+TEST(RilieviHtml, imagesOfAStyleSheetOnTheWebCountToo) {
+    const auto findings = RilieviHtml(
+        "<style>body { background: url(https://x.it/a.png) } p { background: url('//x.it/b.png') }</style>");
+    ASSERT_EQ(findings.size(), 1);
+    EXPECT_TRUE(findings[0].testo.startsWith("2 immagini restano sul web"))
+        << findings[0].testo.toStdString();
+}
+
 TEST(RilieviHtml, anAddressOfAnyLengthIsShownShort) {
     const auto findings = RilieviHtml("<a href=\"" + QString(5000, 'x') + "\">1</a>");
     ASSERT_EQ(findings.size(), 1);

@@ -21,8 +21,8 @@ class Zone {
         record(name, isIpv4 ? dns::Type::A : dns::Type::Aaaa).addresses.append(address);
         return *this;
     }
-    Zone& mx(const QByteArray& name, const QByteArray& host) {
-        record(name, dns::Type::Mx).exchangers.append({10, host});
+    Zone& mx(const QByteArray& name, const QByteArray& host, int preference = 10) {
+        record(name, dns::Type::Mx).exchangers.append({preference, host});
         return *this;
     }
     Zone& ptr(const char* address, const QByteArray& name) {
