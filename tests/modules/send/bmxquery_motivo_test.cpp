@@ -106,6 +106,16 @@ TEST_F(MXMotivo, FailuresBeforeAReplyHaveTheirsToo) {
     EXPECT_EQ(motivoDi(dominio), MotivoMX::SenzaDNS);
 }
 
+TEST(MotivoMX, EachHasASentenceOfItsOwn) {
+    QSet<QString> sentences;
+    const int reasons = int(MotivoMX::Vuota) + 1;
+    for (int i = 0; i < reasons; ++i)
+        sentences.insert(TestoMotivo(static_cast<MotivoMX>(i)));
+    EXPECT_EQ(sentences.size(), reasons);
+    for (const MotivoMX motivo : {MotivoMX::NonInterrogato, MotivoMX::Silenzio, MotivoMX::ErroreServer})
+        EXPECT_TRUE(TestoMotivo(motivo).contains("problema temporaneo")) << int(motivo);
+}
+
 TEST_F(MXMotivo, TemporaryOneOfAChildDomainStaysOnTheWayUp) {
     UdpResponder responder([](const LoopbackSocket& socket, const std::vector<Datagram>& received) {
         QByteArray reply = received.back().bytes.chopped(1);

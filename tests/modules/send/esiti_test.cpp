@@ -2,7 +2,12 @@
 // The reasons of outcomes in plain words, addresses that do not exist, and the book for spreadsheets.
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "modules/send/Esiti.h"
+#include "platform/system/ProgramFolder.h"
 
 namespace esiti_test {
 
@@ -129,6 +134,51 @@ TEST(Esiti, NoFieldIsAFormula) {
     EXPECT_TRUE(esiti::Csv({evil}).contains(";\"'=cmd@x.it\";"));
     EXPECT_TRUE(esiti::Csv({evil}).contains("\"'=HYPERLINK(\"\"http://x\"\")\""));
     EXPECT_TRUE(esiti::Tabella({evil}).contains("\t'=cmd@x.it\t"));
+}
+
+TEST(Esiti, EachOutcomeHasWordsOfItsOwn) {
+    QSet<QString> texts;
+    for (const OutcomeKind kind :
+         {OutcomeKind::Delivered, OutcomeKind::Refused, OutcomeKind::NoAnswer, OutcomeKind::NotSent})
+        texts.insert(TestoEsito(kind));
+    EXPECT_EQ(texts.size(), 4);
+    EXPECT_FALSE(texts.contains(QString()));
+}
+
+TEST(Esiti, BookThatCannotBeReadHasAReason) {
+    const QTemporaryDir folder;
+    const auto why = [](const QString& path) { return esiti::Leggi(path).status().text().toStdString(); };
+    EXPECT_EQ(why(folder.filePath("niente.txt")), "Il registro di questo invio non c'è più.");
+    QFile large(folder.filePath("grande.txt"));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(mail::outcomes::largestFile + 1));
+    EXPECT_EQ(why(large.fileName()), "Il registro di questo invio è troppo grande per essere letto.");
+    QDir(folder.path()).mkpath("cartella.txt");
+    EXPECT_TRUE(
+        why(folder.filePath("cartella.txt")).starts_with("Il registro di questo invio non si può leggere. "));
+}
+
+TEST(Esiti, SwitchThatCannotBeTurnedIsAFailure) {
+    const QTemporaryDir folder;
+    sys::setProgramFolder(folder.path());
+    QDir(folder.path()).mkpath("data/esiti");
+    ASSERT_TRUE(esiti::Accendi(false).ok());
+    EXPECT_FALSE(esiti::Acceso());
+    ASSERT_TRUE(esiti::Accendi(true).ok());
+    EXPECT_TRUE(esiti::Acceso());
+    QDir(folder.path()).mkpath("data/esiti/disattivato.txt");  // a folder is in its place
+    const Status on = esiti::Accendi(true);
+    EXPECT_EQ(on.code(), ErrorCode::PathAccess);
+    EXPECT_TRUE(on.text().contains("data/esiti/")) << on.text().toStdString();
+    EXPECT_FALSE(esiti::Accendi(false).ok());
+}
+
+TEST(Esiti, LinesOfAnotherDatabaseOrWithoutAnAddressSelectNobody) {
+    esiti::Riga foreign = row(refused(DeliveryStage::Recipient, 550, "5.1.1 x"));
+    foreign.delDatabase = false;
+    const esiti::Riga nameless = row(refused(DeliveryStage::Recipient, 550, "5.1.1 x"), QString());
+    const esiti::Cambiati changed = esiti::Seleziona({foreign, nameless}, false);
+    EXPECT_EQ(changed.nonTrovati, 2);
+    EXPECT_EQ(changed.cambiati + changed.giaCosi, 0);
 }
 
 }  // namespace esiti_test
