@@ -215,6 +215,30 @@ TEST_F(RecordsetTest, ATextLongerThanItsColumnIsNotPosted) {
     EXPECT_EQ(column("SELECT * FROM [tb_destinatari]", "prov"), "RA");
 }
 
+TEST_F(RecordsetTest, AChangeThatCannotBePostedKeepsTheRecordsetOnItsRow) {
+    addRecipient(1, "Acero", "a@x.it");
+    addRecipient(1, "Betulla", "b@x.it");
+    Recordset rows = open("SELECT * FROM [tb_destinatari] ORDER BY id;");
+    ASSERT_TRUE(rows.moveNext().ok());
+    ASSERT_TRUE(rows.setValue(u"prov", QStringLiteral("RAV")).ok());
+    EXPECT_EQ(rows.moveFirst().code(), ErrorCode::FieldTooSmall);
+    EXPECT_EQ(rows.addNew().code(), ErrorCode::FieldTooSmall);
+    EXPECT_EQ(text(rows, "rgs"), "Betulla");
+    ASSERT_TRUE(rows.setValue(u"prov", QStringLiteral("RA")).ok());
+    ASSERT_TRUE(rows.moveFirst().ok());
+    EXPECT_EQ(text(rows, "rgs"), "Acero");
+    EXPECT_EQ(column("SELECT * FROM [tb_destinatari] WHERE id = 2", "prov"), "RA");
+}
+
+TEST_F(RecordsetTest, AFieldOfANewRowIsEmptyUntilItIsSet) {
+    Recordset rows = open("SELECT * FROM [tb_destinatari];");
+    ASSERT_TRUE(rows.addNew().ok());
+    EXPECT_EQ(rows.value(u"sel").value(), Value(false));
+    EXPECT_TRUE(rows.value(u"email").value().isNull());
+    ASSERT_TRUE(rows.setValue(u"sel", Value(true)).ok());
+    EXPECT_EQ(rows.value(u"sel").value(), Value(true));
+}
+
 TEST_F(RecordsetTest, WhatDoesNotFitAColumnsTypeIsRefused) {
     addGroups({QStringLiteral("a")});
     Recordset rows = open("SELECT * FROM [tb_gruppi];");

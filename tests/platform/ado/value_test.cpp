@@ -24,6 +24,9 @@ Value date(double days) {
 Value money(int64_t tenThousandths) {
     return Value(jet::Value(jet::Currency{tenThousandths}));
 }
+Value decimal(const char* digits) {
+    return Value(jet::Value(jet::Decimal{digits}));
+}
 
 }  // namespace
 
@@ -86,6 +89,30 @@ TEST(Value, HalvesRoundToEven) {
     EXPECT_EQ(Value(1e300).toInteger().status().code(), ErrorCode::Overflow);
 }
 
+TEST(Value, MoneyDatesAndLongNumbersBecomeTheNearestWholeNumber) {
+    EXPECT_EQ(money(-35000).toInteger().value(), -4);
+    EXPECT_EQ(date(38346.75).toInteger().value(), 38347);
+    EXPECT_EQ(decimal("-12.5").toInteger().value(), -12);
+    EXPECT_EQ(decimal("99999999999999999999").toInteger().status().code(), ErrorCode::Overflow);
+    EXPECT_EQ(date(1e300).toInteger().status().code(), ErrorCode::Overflow);
+}
+
+TEST(Value, EveryNumberButZeroIsTrue) {
+    for (const Value& some : {Value(0.25), money(1), date(-0.5), decimal("0.1"), Value(QStringLiteral("-2"))})
+        EXPECT_TRUE(some.toBool().value()) << text(some, english);
+    for (const Value& none : {Value(0.0), money(0), date(0), decimal("0"), Value(QStringLiteral(" 0 "))})
+        EXPECT_FALSE(none.toBool().value()) << text(none, english);
+    EXPECT_EQ(Value(QStringLiteral("dodici")).toBool().status().code(), ErrorCode::TypeMismatch);
+}
+
+TEST(Value, EveryKindComesBackAsItWasRead) {
+    for (const jet::Value& read :
+         {jet::Value(), jet::Value(true), jet::Value(int64_t{7}), jet::Value(2.5), jet::Value(jet::Date{1.5}),
+          jet::Value(jet::Currency{-1}), jet::Value(std::string("a")), jet::Value(jet::Bytes{0, 255}),
+          jet::Value(jet::Decimal{"1234567890123456789.5"})})
+        EXPECT_EQ(Value(read).raw(), read);
+}
+
 TEST(Value, TextsAreReadAsNumbers) {
     EXPECT_EQ(Value(QStringLiteral(" 12 ")).toInteger().value(), 12);
     EXPECT_EQ(Value(QStringLiteral("dodici")).toInteger().status().code(), ErrorCode::TypeMismatch);
@@ -94,8 +121,11 @@ TEST(Value, TextsAreReadAsNumbers) {
     EXPECT_TRUE(Value(-1).toBool().value());
 }
 
-TEST(Value, BinaryDataHasNoText) {
-    EXPECT_EQ(Value(jet::Value(jet::Bytes{1, 2})).toText(italian).status().code(), ErrorCode::TypeMismatch);
+TEST(Value, BinaryDataIsNeitherTextNorNumber) {
+    const Value binary(jet::Value(jet::Bytes{1, 2}));
+    EXPECT_EQ(binary.toText(italian).status().code(), ErrorCode::TypeMismatch);
+    EXPECT_EQ(binary.toInteger().status().code(), ErrorCode::TypeMismatch);
+    EXPECT_EQ(binary.toBool().status().code(), ErrorCode::TypeMismatch);
 }
 
 }  // namespace value_test
