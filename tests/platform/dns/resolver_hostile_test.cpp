@@ -168,6 +168,19 @@ TEST(ResolverHostile, TooManyRecordsAreAFailure) {
     EXPECT_TRUE(dns::readReply(Type::A, reply(question, 101)).failed());
 }
 
+TEST(ResolverHostile, ReplyWithoutARecordOfTheTypeHasNone) {
+    const QByteArray question = QByteArray::fromHex("0000010000010000000000000375") + "no" +
+                                QByteArray::fromHex("076578616d706c650000010001");
+    for (const Type type : {Type::A, Type::Aaaa, Type::Mx, Type::Txt, Type::Ptr})
+        EXPECT_EQ(dns::readReply(type, reply(question, 0)).kind, Answer::Kind::NoRecords) << int(type);
+}
+
+TEST(ReverseName, HasTheOctetsOfIPv4AndTheHalfOctetsOfIPv6FromTheLast) {
+    EXPECT_EQ(dns::reverseName(QHostAddress("203.0.113.25")), "25.113.0.203.in-addr.arpa");
+    EXPECT_EQ(dns::reverseName(QHostAddress("2001:db8::567:89ab")),
+              "b.a.9.8.7.6.5.0.0.0.0.0.0.0.0.0.0.0.0.0.0.0.0.0.8.b.d.0.1.0.0.2.ip6.arpa");
+}
+
 TEST(ResolverHostile, NamesThatCannotBeAskedForAreNotThere) {
     const UdpResponder server(silence);
     EXPECT_EQ(ask(server, {endless, 1, endless}, {QByteArray(64, 'a') + ".example", Type::A}).kind,
