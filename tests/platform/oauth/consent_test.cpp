@@ -101,6 +101,18 @@ TEST_F(OAuthConsent, RefusedByTheUserIsReportedAndAsksForNoToken) {
     expectNothingWritten();
 }
 
+TEST_F(OAuthConsent, ErrorOfTheProvidersPageIsReportedInItsOwnWords) {
+    const QUrl address = consent.start(provider(), user).value();
+    QUrl redirect = server.consent(address);
+    redirect.setQuery("error=server_error&state=" + QUrlQuery(redirect).queryItemValue("state"));
+    browse(redirect);
+    ASSERT_TRUE(turnUntil([&] { return !ends.isEmpty(); }));
+    EXPECT_EQ(ends.first().code(), ErrorCode::NotSupported);
+    EXPECT_EQ(ends.first().text(), "Il fornitore ha rifiutato la richiesta: server_error");
+    EXPECT_TRUE(server.requests().isEmpty());
+    expectNothingWritten();
+}
+
 TEST_F(OAuthConsent, AnswerOfAnotherLoginIsNotTaken) {
     const QUrl first = server.consent(consent.start(provider(), user).value());
     const QUrl second = server.consent(consent.start(provider(), user).value());

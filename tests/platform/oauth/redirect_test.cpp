@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The request that a browser makes at the end of a consent, and the listener that waits for it.
+#include <algorithm>
 #include <QCoreApplication>
 
 #include "oauth_fixture.h"
@@ -117,6 +118,26 @@ TEST_F(OAuthListener, AnswerInPiecesBesideIdleConnectionsIsTaken) {
         QCoreApplication::processEvents();
     }
     EXPECT_TRUE(turnUntil([&] { return !answers.isEmpty(); }));
+    EXPECT_EQ(answers, QByteArrayList{"a|"});
+}
+
+TEST_F(OAuthListener, FloodOfConnectionsIsTurnedAwayAndTheAnswerStillComes) {
+    QList<QTcpSocket*> idle;
+    for (int i = 0; i < 20; ++i) {
+        idle.append(new QTcpSocket(&listener));
+        idle.last()->connectToHost(QHostAddress::LocalHost, listener.port());
+        ASSERT_TRUE(idle.last()->waitForConnected());
+    }
+    const auto isTurnedAway = [](const QTcpSocket* one) {
+        return one->state() == QAbstractSocket::UnconnectedState;
+    };
+    EXPECT_TRUE(turnUntil([&] { return std::count_if(idle.begin(), idle.end(), isTurnedAway) >= 4; }));
+    for (QTcpSocket* one : idle)
+        one->abort();
+    EXPECT_TRUE(turnUntil([&] {
+        bring("code=a&state=" + state);  // until the listener has seen them go
+        return !answers.isEmpty();
+    }));
     EXPECT_EQ(answers, QByteArrayList{"a|"});
 }
 

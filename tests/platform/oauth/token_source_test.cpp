@@ -88,6 +88,14 @@ TEST_F(OAuthTokenSource, HostOfNoProviderGetsNone) {
     EXPECT_TRUE(server.requests().isEmpty());
 }
 
+TEST_F(OAuthTokenSource, ProvidersFileThatCannotBeReadGivesNone) {
+    giveToken();
+    ASSERT_TRUE(QFile::remove(folder + "/providers.json"));
+    const auto access = get("localhost");
+    ASSERT_FALSE(access.ok());
+    EXPECT_TRUE(access.status().text().contains("providers.json")) << qPrintable(access.status().text());
+}
+
 TEST_F(OAuthTokenSource, TokenOfOneProviderDoesNotServeAnother) {
     giveToken();
     QByteArray both = server.providers();
