@@ -477,6 +477,70 @@ class TestDataGrid : public QObject {
         QCOMPARE(face->childAt(box->rect().center().x(), box->rect().center().y()), box);
     }
 
+    void assistiveProgramsFindEachCellsPlaceAndItsHeads() {
+        Window w;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w.grid);
+        QAccessibleTableInterface* table = face->tableInterface();
+        QAccessibleInterface* cell = table->cellAt(2, 3);
+        QCOMPARE(cell->parent(), face);
+        QCOMPARE(cell->role(), QAccessible::Cell);
+        QAccessibleTableCellInterface* place = cell->tableCellInterface();
+        QCOMPARE(place->table(), face);
+        QCOMPARE(place->rowIndex(), 2);
+        QCOMPARE(place->columnIndex(), 3);
+        QCOMPARE(place->rowExtent() * place->columnExtent(), 1);
+        QAccessibleInterface* head = place->columnHeaderCells().constFirst();
+        QCOMPARE(head->role(), QAccessible::ColumnHeader);
+        QCOMPARE(head->parent(), face);
+        QCOMPARE(face->child(face->indexOfChild(head)), head);
+        QVERIFY(!head->state().invisible);
+        QCOMPARE(head->rect().left(), cell->rect().left());
+        QVERIFY(head->rect().bottom() < cell->rect().top());
+        QAccessibleInterface* rowHead = place->rowHeaderCells().constFirst();
+        QCOMPARE(rowHead->role(), QAccessible::RowHeader);
+        QVERIFY(rowHead->state().invisible);  // the grid draws none
+        QCOMPARE(face->child(face->indexOfChild(rowHead)), rowHead);
+        QCOMPARE(face->indexOfChild(face), -1);
+    }
+
+    void assistiveProgramsFindTheSelectedRowAndSelectAnother() {
+        Window w;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w.grid);
+        QAccessibleTableInterface* table = face->tableInterface();
+        QVERIFY(table->selectRow(1));
+        QCOMPARE(w.grid->Row(), 2);
+        QCOMPARE(table->selectedRows(), QList<int>{1});
+        QCOMPARE(table->selectedRowCount(), 1);
+        QVERIFY(table->isRowSelected(1));
+        QVERIFY(!table->isRowSelected(0));
+        QVERIFY(table->selectedCells().contains(table->cellAt(1, 3)));
+        QCOMPARE(table->selectedCellCount(), static_cast<int>(table->selectedCells().size()));
+        QVERIFY(table->cellAt(1, 3)->state().selected);
+        QVERIFY(face->focusChild());
+        QCOMPARE(face->focusChild()->tableCellInterface()->rowIndex(), 1);
+        for (const int nowhere : {-1, 3})
+            QVERIFY(!table->selectRow(nowhere));
+        QVERIFY(!table->selectColumn(3));
+        QVERIFY(!table->unselectRow(1));
+        QCOMPARE(table->selectedRows(), QList<int>{1});
+        QVERIFY(table->selectedColumns().isEmpty());
+    }
+
+    void assistiveProgramsForgetRowsThatAreGoneAndKeepTheOthers() {
+        Window w;
+        QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(w.grid)->tableInterface();
+        const QAccessible::Id cell = QAccessible::uniqueId(table->cellAt(2, 3));
+        QAccessibleTableModelChangeEvent changed(w.grid, QAccessibleTableModelChangeEvent::DataChanged);
+        QAccessibleTableModelChangeEvent reset(w.grid, QAccessibleTableModelChangeEvent::ModelReset);
+        table->modelChange(&changed);
+        table->modelChange(&reset);
+        QVERIFY(QAccessible::accessibleInterface(cell));
+        QVERIFY(w.data.Refresh().ok());
+        table->modelChange(&reset);
+        QVERIFY(!QAccessible::accessibleInterface(cell));
+        QCOMPARE(table->cellAt(2, 3)->text(QAccessible::Name), "c@x.it");
+    }
+
     void assistiveProgramsToggleABoxOpenARowAndAskForItsMenu() {
         Window w;
         QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(w.grid)->tableInterface();

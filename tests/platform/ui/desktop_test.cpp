@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,15 +13,19 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "platform/ui/CountLabel.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/FileDialog.h"
+#include "platform/ui/LinkLabel.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
 #include "platform/ui/Unattended.h"
@@ -110,6 +115,48 @@ class TestUi : public QObject {
         ui::setUnattended(false);
         atNextBox([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
         QCOMPARE(MessageDialog::show("Continuare?", 68, "Attenzione"), 7);
+    }
+
+    void realQuestionAboutAListAnswersNoUnlessItIsToldYes_data() {
+        QTest::addColumn<QString>("remember");
+        QTest::addColumn<bool>("check");
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("return") << QString() << false << false << int(MessageDialog::No);
+        QTest::newRow("box and return") << "Sempre" << true << false << int(MessageDialog::No);
+        QTest::newRow("yes") << QString() << false << true << int(MessageDialog::Yes);
+        QTest::newRow("yes, box off") << "Sempre" << false << true << int(MessageDialog::Yes);
+        QTest::newRow("yes, box on") << "Sempre" << true << true << int(MessageDialog::YesAlways);
+    }
+    void realQuestionAboutAListAnswersNoUnlessItIsToldYes() {
+        QFETCH(QString, remember);
+        QFETCH(bool, check);
+        QFETCH(bool, yes);
+        QFETCH(int, answer);
+        ui::setUnattended(false);
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<ui::ListQuestion*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), "Immagini");
+            QCOMPARE(dialog->accessibleDescription(), "<b>Due</b>\nfile.");
+            auto* list = dialog->findChild<QTreeWidget*>("list");
+            QCOMPARE(list->topLevelItemCount(), 2);
+            QCOMPARE(list->topLevelItem(1)->text(0), "/b.png");
+            QCOMPARE(list->topLevelItem(1)->toolTip(1), "&lt;due&gt;");
+            auto* box = dialog->findChild<QCheckBox*>("chkRemember");
+            QCOMPARE(box != nullptr, !remember.isEmpty());
+            if (check) box->setChecked(true);
+            if (yes)
+                dialog->accept();
+            else
+                QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        const ui::ListQuestion::Content question{"Immagini",
+                                                 "<b>Due</b>\r\nfile.",
+                                                 {"File", "Perché"},
+                                                 {{"/a.png", "uno"}, {"/b.png", "<due>"}},
+                                                 remember};
+        QCOMPARE(MessageDialog::askAbout(question), answer);
     }
 
     void filterWithAndWithoutClosingBar() {
@@ -332,6 +379,40 @@ class TestUi : public QObject {
         QVERIFY(face->valueInterface());
         QCOMPARE(face->valueInterface()->currentValue().toDouble(), 5.0);
         QCOMPARE(face->valueInterface()->maximumValue().toDouble(), 20.0);
+        QCOMPARE(face->valueInterface()->minimumValue().toDouble(), 0.0);
+        QCOMPARE(face->valueInterface()->minimumStepSize().toDouble(), 1.0);
+        face->valueInterface()->setCurrentValue(9);  // the work alone moves it
+        QCOMPARE(counter.value(), 5.0);
+    }
+
+    void countIsReadAsItsPresentTextWithItsHint() {
+        ui::CountLabel label("3 destinatari");
+        label.hint.set([] { return QString("In tutte le cartelle"); });
+        label.setText("4 destinatari");
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&label);
+        QCOMPARE(face->role(), QAccessible::StaticText);
+        QCOMPARE(face->text(QAccessible::Name), "4 destinatari");
+        QCOMPARE(face->text(QAccessible::Description), "In tutte le cartelle");
+        QCOMPARE(face->text(QAccessible::Value), "");
+        QVERIFY(face->state().readOnly);
+    }
+
+    void linkIsPressedByAssistivePrograms() {
+        ui::LinkLabel link("Apri");
+        link.show();
+        link.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&link));
+        link.clearFocus();
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&link);
+        QVERIFY(face->state().linked);
+        QAccessibleActionInterface* actions = face->actionInterface();
+        QCOMPARE(actions->actionNames().constFirst(), QAccessibleActionInterface::pressAction());
+        const QSignalSpy activated(&link, &ui::LinkLabel::activated);
+        actions->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(link.hasFocus());
+        QCOMPARE(activated.size(), 0);
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(activated.size(), 1);
     }
 
     void everyIconIsCompiledInAndDraws() {

@@ -107,6 +107,32 @@ class TestEditorControls : public QObject {
         QVERIFY(list->child(red)->state().selected);
     }
 
+    void assistiveProgramsFindTheColourAtAPlaceAndTheOneWithTheKeyboard() {
+        ColorHexagon hexagon;
+        hexagon.show();
+        hexagon.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&hexagon));
+        hexagon.setFocus();
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&hexagon);
+        QAccessibleInterface* red = list->child(cellOf(hexagon, 0x0000ff));
+        const QPoint place = red->rect().center();
+        QCOMPARE(list->childAt(place.x(), place.y()), red);
+        const QPoint outside = hexagon.mapToGlobal(QPoint(-5, -5));
+        QVERIFY(!list->childAt(outside.x(), outside.y()));
+        QVERIFY(list->focusChild() != red);
+        QCOMPARE(red->actionInterface()->actionNames(),
+                 QStringList{QAccessibleActionInterface::pressAction()});
+        red->actionInterface()->doAction("Altro");
+        QVERIFY(!red->state().selected);
+        red->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(list->focusChild(), red);
+        QVERIFY(red->state().focused);
+        QCOMPARE(red->role(), QAccessible::ListItem);
+        QCOMPARE(red->childCount(), 0);
+        hexagon.clearFocus();
+        QVERIFY(!list->focusChild());
+    }
+
     void theSourceShowsEachTextWrappedFromItsStart() {
         SourceEdit edit;
         edit.resize(400, 200);
