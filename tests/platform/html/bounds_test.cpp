@@ -101,6 +101,14 @@ TEST(Bounds, LooseWritingIsNoDepth) {
     expectTaken(QString("<table><tr><td>x").repeated(100));
 }
 
+TEST(Bounds, WhatClosesAListOrADrawingAddsNoDepth) {
+    for (const char* unit :
+         {"<select><option>x<input>", "<select><option>x<textarea>y</textarea>", "<select><option>x<select>",
+          "<svg><g><g><p>x</p>", "<p><b>x</p></b>", "<p><b><b><b><b>x</p>"})
+        expectTaken(QString(unit).repeated(5000));
+    expectTaken("<table>" + QString("<tr><td><select><option>x").repeated(5000));
+}
+
 }  // namespace
 
 }  // namespace bounds_test
