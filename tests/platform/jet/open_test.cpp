@@ -5,9 +5,12 @@
 #include <unistd.h>
 
 #include <bit>
+#include <cerrno>
 #include <random>
+#include <set>
 
 #include "modules/store/NuovoDatabase.h"
+#include "platform/jet/DiskTrouble.h"
 #include "platform/jet/EmptyDatabase.h"
 #include "platform/jet/Header.h"
 #include "platform/jet/JetFixture.h"
@@ -56,6 +59,19 @@ class OpenTest : public JetTest {
         });
     }
 };
+
+TEST(DiskTrouble, EachKindHasWordsOfItsOwnAndAnyOtherItsNumber) {
+    std::set<std::string> words;
+    for (const int error : {ENOSPC, EDQUOT, EROFS, EACCES, EIO, EFBIG, ELOOP, EEXIST, EISDIR, ENOENT,
+                            ENAMETOOLONG, EMFILE, ENOMEM, ENOLCK, ENODEV, EBUSY})
+        words.insert(diskTrouble(error).sourceText());
+    EXPECT_EQ(words.size(), 16u);
+    for (const auto& [one, same] :
+         {std::pair(EACCES, EPERM), std::pair(ENOENT, ENOTDIR), std::pair(EMFILE, ENFILE),
+          std::pair(ENOLCK, EOPNOTSUPP), std::pair(ENODEV, ESTALE), std::pair(EBUSY, ETXTBSY)})
+        EXPECT_EQ(diskTrouble(one).sourceText(), diskTrouble(same).sourceText());
+    EXPECT_EQ(diskTrouble(EDOM).sourceText(), "errore di sistema " + std::to_string(EDOM));
+}
 
 TEST_F(OpenTest, MissingFileIsNotFound) {
     const auto outcome = Database::open(path());
