@@ -253,7 +253,7 @@ Result<Value> Recordset::Data::field(size_t column) {
     if (!onRow()) return noCurrentRecord();
     if (!rows->table()) return rows->values(current)[column];
     if (!row.present) return Status(ErrorCode::NoCurrentRecord, Words::tr("Il record è stato eliminato."));
-    parse();
+    if (parsed == 0) parse();
     return storedField(column);
 }
 
@@ -265,7 +265,7 @@ void Recordset::Data::parse() {
         for (size_t i = 0; i < fields.size(); ++i)
             fields[i] = others[rows->column(i)];
     }
-    parsed = fields.size();
+    parsed = pending() ? 0 : fields.size();
 }
 
 /// Once the row is parsed.

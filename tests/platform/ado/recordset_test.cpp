@@ -207,6 +207,19 @@ TEST_F(RecordsetTest, ChangesTheCurrentRowWhenItIsPosted) {
     EXPECT_EQ(column("SELECT * FROM tb_gruppi ORDER BY id", "nome"), "a|\u201cl'altro\u201d");
 }
 
+TEST_F(RecordsetTest, AChangedCellIsReadByNumberAlsoAfterAnUnchangedOne) {
+    addGroups({QStringLiteral("a")});
+    Recordset rows = open("SELECT * FROM [tb_gruppi];");
+    const int name = 2;
+    ASSERT_EQ(rows.value(name).value(), Value(QStringLiteral("a")));
+    ASSERT_TRUE(rows.setValue(u"nome", QStringLiteral("b")).ok());
+    EXPECT_EQ(rows.value(0).value(), Value(1));
+    EXPECT_EQ(rows.value(name).value(), Value(QStringLiteral("b")));
+    ASSERT_TRUE(rows.addNew().ok());
+    EXPECT_EQ(rows.value(0).value(), Value(2));
+    EXPECT_TRUE(rows.value(name).value().isNull());
+}
+
 TEST_F(RecordsetTest, ATextLongerThanItsColumnIsNotPosted) {
     run("INSERT INTO [tb_destinatari] (id_grp, prov) VALUES (1, 'RA')");
     Recordset rows = open("SELECT * FROM [tb_destinatari] WHERE id = 1 ;");
