@@ -151,6 +151,12 @@ TEST_F(ColumnTypesTest, StatementsWriteGuidsAndMoney) {
     EXPECT_EQ(failure("UPDATE [misti] SET chiave = 'nessuna'"), ErrorCode::TypeMismatch);
 }
 
+TEST_F(ColumnTypesTest, BinaryValueTooLongForItsColumnIsRefused) {
+    jettables::addTable(path.toStdString(), "stretti", {{"pezzi", jet::Type::Binary, 3}}, {});
+    EXPECT_EQ(failure("INSERT INTO [stretti] (pezzi) SELECT pezzi FROM [misti]"), ErrorCode::FieldTooSmall);
+    EXPECT_EQ(column("SELECT pezzi FROM [stretti]", "pezzi"), "");
+}
+
 TEST_F(ColumnTypesTest, TableThatUsesEveryNameOfARowsIdentityIsReadAll) {
     jettables::addTable(path.toStdString(), "nomi",
                         {{"rowid", jet::Type::Long}, {"oid", jet::Type::Long}, {"_rowid_", jet::Type::Long}},
