@@ -119,7 +119,7 @@ Result<ConnectionText> ConnectionText::parse(const QString& text) {
     static thread_local QString knownText;
     static thread_local ConnectionText known;
     if (!text.isEmpty() && text::sameText(text, knownText)) return known;
-    const Result<ConnectionText> result = readParts(text);
+    Result<ConnectionText> result = readParts(text);
     if (!result.ok()) return result;
     knownText = text;
     known = result.value();

@@ -40,7 +40,7 @@ QByteArray digestOfPath(const QString& path) {
     static thread_local QString knownPath;
     static thread_local QByteArray known;
     if (!known.isEmpty() && text::sameText(path, knownPath)) return known;
-    const QByteArray digest = sha256(QDir::cleanPath(QFileInfo(path).absoluteFilePath()).toUtf8());
+    QByteArray digest = sha256(QDir::cleanPath(QFileInfo(path).absoluteFilePath()).toUtf8());
     // What a relative one means changes with the working folder.
     if (!QDir::isAbsolutePath(path)) return digest;
     knownPath = path;
