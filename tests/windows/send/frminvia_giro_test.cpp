@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The walk over the selection: order, outcomes, personalisation, the route of each recipient, failures in
-// mid-run.
+// mid-run. Above 500 lines: all of it tests one tick, step by step, over one stage.
 #include <future>
 #include <optional>
 #include <QFile>
