@@ -101,7 +101,27 @@ class Window:
         wait_for(lambda: has(control, pyatspi.STATE_FOCUSED), f"{name!r} to have the keyboard")
 
     def gone(self):
-        wait_for(lambda: not is_shown(self.frame), f"{self.frame} to close")
+        wait_for(self._closed, f"{self.frame} to close", lambda: f"{shown_windows()}; in its fields: {self._texts()}")
+
+    def _closed(self):
+        """What the library remembers of the window stays where it has missed the news: everything is asked for again."""
+        for application in applications():
+            if application is not None:
+                application.clear_cache()
+                if any(one == self.frame and is_shown(one) for one in application):
+                    return False
+        return True
+
+    def _texts(self):
+        texts, controls = {}, [self.frame]
+        while controls:
+            control = controls.pop()
+            if control is None:
+                continue
+            if control.getRoleName() == "text" and is_shown(control):
+                texts[control.name] = control.queryText().getText(0, -1)
+            controls.extend(control)
+        return texts
 
 
 def choose_file(title, path):

@@ -32,7 +32,8 @@ def inside(size="1280x1000"):
         return
     own, server = os.pipe()
     with tempfile.TemporaryDirectory() as frame:
-        screen = subprocess.Popen(["Xvfb", "-displayfd", str(server), "-screen", "0", size + "x24", "-nolisten", "tcp",
+        # -r: a busy machine may release a key so late that it would be repeated
+        screen = subprocess.Popen(["Xvfb", "-r", "-displayfd", str(server), "-screen", "0", size + "x24", "-nolisten", "tcp",
                                    "-fbdir", frame], pass_fds=[server], stderr=subprocess.DEVNULL)
         os.close(server)
         # The bus of assistive programs puts its socket there; in the user's folder it would be named after the screen alone,
