@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mail/OutcomeFile.h"
 
+#include <unistd.h>
+#include <cerrno>
+#include <cstring>
 #include <utility>
 
 #include "platform/mail/OutcomeBook.h"
@@ -23,16 +26,17 @@ void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
         if (delivered.contains(*line.number)) return;
         if (line.kind == OutcomeKind::Delivered) delivered.insert(*line.number);
     }
-    if (!m_file.isOpen()) {
+    QByteArray lines;
+    if (!m_file.isOpen() || !m_head.database.same(database)) {
         m_head.database = database;
-        open();
-        if (!m_file.isOpen() || !write(m_head.bytes())) return;
-    } else if (!m_head.database.same(database)) {
-        m_head.database = database;
-        if (!write(m_head.bytes())) return;
+        lines = m_head.bytes();
     }
-    const qint64 begin = m_size;
-    if (write(line.bytes()) && line.kind != OutcomeKind::Delivered) m_lastFailure = begin;
+    if (!m_file.isOpen()) open();
+    if (!m_file.isOpen()) return;
+    if (line.kind != OutcomeKind::Delivered) m_lastFailure = m_size + lines.size();
+    lines += line.bytes();
+    m_size += lines.size();
+    write(lines);
 }
 
 void OutcomeFile::open() {
@@ -46,15 +50,20 @@ void OutcomeFile::open() {
     if (m_status.ok()) outcomes::removeOld(m_folder);
 }
 
-bool OutcomeFile::write(const QByteArray& line) {
-    if (m_file.write(line) == line.size() && m_file.flush()) {
-        m_size += line.size();
-        m_status = {};
-        return true;
+void OutcomeFile::write(const QByteArray& lines) {
+    m_status = {};
+    m_unwritten += lines;
+    while (!m_unwritten.isEmpty()) {
+        const ssize_t wrote =
+            ::write(m_file.handle(), m_unwritten.constData(), static_cast<size_t>(m_unwritten.size()));
+        if (wrote < 0 && errno == EINTR) continue;
+        if (wrote < 0) {
+            m_status = {ErrorCode::DeviceIo, Words::tr("Il file \"%1\" non si può scrivere: %2")
+                                                 .arg(m_path, QString::fromLocal8Bit(std::strerror(errno)))};
+            return;
+        }
+        m_unwritten.remove(0, wrote);
     }
-    m_status = {ErrorCode::DeviceIo,
-                Words::tr("Il file \"%1\" non si può scrivere: %2").arg(m_path, m_file.errorString())};
-    return false;
 }
 
 std::optional<OutcomeLine> OutcomeFile::lastFailure() const {

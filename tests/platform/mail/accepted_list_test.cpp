@@ -2,11 +2,10 @@
 // The list of accepted messages: in memory, in the file, between processes.
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
+#include <optional>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +13,7 @@
 
 #include "platform/mail/AcceptedList.h"
 #include "platform/mail/RunLock.h"
+#include "support/FullDisk.h"
 #include "support/Vectors.h"
 
 namespace accepted_list_test {
@@ -228,14 +228,9 @@ TEST_F(AcceptedListTest, AFullDiskLeavesTheRoomThatThereWas) {
     AcceptedList list = reserved(10);
     const qsizetype room = list.room();
     // A limit of the process simulates the full disk: reserving beyond it fails, too.
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto signal = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{static_cast<rlim_t>(QFileInfo(m_first).size()), before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    std::optional<FullDisk> full(static_cast<rlim_t>(QFileInfo(m_first).size()));
     const Status failed = list.reserve(m_database, 1000);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, signal);
+    full.reset();
     EXPECT_EQ(failed.code(), ErrorCode::DeviceIo);
     EXPECT_EQ(list.room(), room);
     list.add(m_database, 7, "a@x.it");

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The book of outcomes as the delivery control keeps it, against real sockets.
-#include <sys/resource.h>
-#include <csignal>
+#include <optional>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "platform/mail/OutcomeBook.h"
+#include "platform/mail/OutcomeFile.h"
 #include "platform/mail/smtp_run_fixture.h"
+#include "support/FullDisk.h"
 #include "support/SmtpSink.h"
 
 namespace outcome_book_test {
@@ -340,22 +341,40 @@ TEST_F(OutcomeBook, FolderThatCannotBeMadeHarmsNoDelivery) {
 TEST_F(OutcomeBook, LineThatFoundNoRoomIsCompletedLater) {
     client.tick(7);
     const QString path = outcomes::runs(folder).value(0).path;
-    struct rlimit before {};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit small = before;
-    small.rlim_cur = rlim_t(QFileInfo(path).size() + 40);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    std::optional<FullDisk> full(rlim_t(QFileInfo(path).size() + 40));
     EXPECT_TRUE(client.tick(8).done);
     EXPECT_FALSE(client.smtp.BookStatus().ok());
     const auto cut = outcomes::read(path);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
+    full.reset();
     EXPECT_TRUE(cut.value().cutOff);
     EXPECT_EQ(cut.value().rows.size(), 1);
     EXPECT_TRUE(client.tick(9).done);
     EXPECT_TRUE(client.smtp.BookStatus().ok());
     EXPECT_EQ(lines().size(), 3);
+}
+
+// Neither the first one, whose head found no room either, nor those that a buffer of 16 KB would not hold.
+TEST_F(OutcomeBook, FullDiskLosesNoLine) {
+    OutcomeLine line;
+    line.time = QDateTime::currentDateTimeUtc();
+    line.kind = OutcomeKind::Refused;
+    line.words = QString(OutcomeLine::longestText, 'x');
+    OutcomeFile book(folder, rossi, QStringLiteral("Offerta"));
+    std::optional<FullDisk> full(40);
+    for (line.number = 1; *line.number <= 40; ++*line.number) {
+        book.add(DatabaseFile::at(database), line);
+        EXPECT_FALSE(book.status().ok());
+    }
+    EXPECT_FALSE(book.lastFailure());
+    full.reset();
+    book.add(DatabaseFile::at(database), line);
+    EXPECT_TRUE(book.status().ok());
+    EXPECT_EQ(book.lastFailure(), line);
+    EXPECT_EQ(outcomes::runs(folder).value(0).head.database.path, database);
+    const auto all = lines();
+    ASSERT_EQ(all.size(), 41);
+    for (qint64 i = 0; i < all.size(); ++i)
+        EXPECT_EQ(all[i].number, i + 1);
 }
 
 TEST_F(OutcomeBook, LastFailureIsReadBack) {
