@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/oauth/Consent.h"
 
+#include <QCoreApplication>
+
 #include "platform/oauth/Pkce.h"
 #include "platform/oauth/TokenFile.h"
 #include "platform/text/Words.h"
@@ -26,7 +28,7 @@ Result<QUrl> Consent::start(const Provider& provider, const QString& user) {
     m_user = user;
     m_verifier = newSecret();
     const QByteArray state = newSecret();
-    m_listener = std::make_unique<RedirectListener>();
+    m_listener = std::make_unique<RedirectListener>(this);
     connect(m_listener.get(), &RedirectListener::answered, this, &Consent::onAnswer, Qt::QueuedConnection);
     if (const Status status = m_listener->listen(provider.redirectHost, state); !status.ok()) {
         cancel();
@@ -62,6 +64,7 @@ void Consent::cancel() {
     m_limit.stop();
     m_listener.reset();
     m_request.reset();
+    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);  // an answer that was received already
 }
 
 void Consent::onAnswer(const QByteArray& code, const QByteArray& error) {

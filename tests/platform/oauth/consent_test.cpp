@@ -172,6 +172,32 @@ TEST_F(OAuthConsent, CancelledOneEmitsNoSignalAtAnyStage) {
     expectNothingWritten();
 }
 
+TEST_F(OAuthConsent, AnswerThatWasReceivedBeforeTheCancelIsNotTaken) {
+    const QUrl redirect = server.consent(consent.start(provider(), user).value());
+    auto* listener = consent.findChild<oauth::RedirectListener*>();
+    ASSERT_NE(listener, nullptr);
+    bool received = false;
+    QObject::connect(listener, &oauth::RedirectListener::answered, [&] { received = true; });
+    QTcpSocket browser;
+    browser.connectToHost(QHostAddress::LocalHost, quint16(redirect.port()));
+    browser.write("GET " + redirect.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority) +
+                  " HTTP/1.1\r\nHost: x\r\n\r\n");
+    const QDeadlineTimer patience(20000);
+    while (!received && !patience.hasExpired())
+        QCoreApplication::processEvents();  // what the last turn received is reported in the next one
+    ASSERT_TRUE(received);
+    consent.cancel();
+    const auto next = consent.start(provider(), user);
+    ASSERT_TRUE(next.ok());
+    turnUntil([&, turns = 0]() mutable { return ++turns > 20; });
+    EXPECT_TRUE(consent.waiting());
+    EXPECT_TRUE(ends.isEmpty());
+    EXPECT_TRUE(server.requests().isEmpty());
+    browse(server.consent(next.value()));
+    ASSERT_TRUE(turnUntil([&] { return !ends.isEmpty(); }));
+    EXPECT_TRUE(ends.first().ok());
+}
+
 TEST_F(OAuthConsent, AnotherScopeIsRefused) {
     server.setScope("posta.lettura");
     EXPECT_TRUE(login().text().contains("non comprende l'invio"));
