@@ -33,9 +33,10 @@ void AggiornaEtichetta(QLabel* etichetta, double n) {
 /// next one. The row is read on a recordset that is closed before the delivery starts; a failure of any
 /// statement leaves what it would have set as it was and never ends the run.
 void frmInvia::tmr_Timer() {
+    if (nelGiro) return;  // a new run was started in it: this tick is its first
     Prosegui prosegui;
     const int indiceAccount = cmbAccount->currentData().toInt();
-    tmr->stop();  // the only guard against a second tick
+    tmr->stop();
     nelGiro = true;
     SMTP->BeginTick();
 

@@ -2,6 +2,7 @@
 // A stop in each state of a run, and what can happen before the pending tick.
 #include <QApplication>
 #include <QDialog>
+#include <QThread>
 
 #include "modules/message/MessaggioMss.h"
 #include "platform/ui/Unattended.h"
@@ -156,6 +157,27 @@ class TestFrmInviaFerma : public QObject {
         QCOMPARE(stage.counters(), counters);
         QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
         QVERIFY(!stage.timer().isActive());
+    }
+
+    // The machine stalls for longer than the pause in the very turn in which both clicks were taken.
+    void timerOfANewRunThatIsDueInTheSameTurnBeginsNoSecondTick() {
+        SendStage stage({"a@x.it", "b@x.it"});
+        stage.sink.treat("a@x.it", SmtpSink::Treatment::Hang);
+        QTimer another;  // is always due, so that the turn looks at the timers too
+        another.callOnTimeout([] { QThread::msleep(2); });
+        another.start(1);
+        QObject::connect(
+            &stage.sink, &SmtpSink::attempted, &stage.sink,
+            [&] {
+                stage.click("cmdFerma");
+                stage.start();
+                QThread::msleep(50);
+            },
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        QVERIFY(stage.run());
+        QCOMPARE(stage.sink.attempts(), (QStringList{"a@x.it", "b@x.it"}));
+        QCOMPARE(stage.counters(), (QList<double>{0, 1, 1}));
+        QCOMPARE(SampleFolder::selected(), QStringList{"a@x.it"});
     }
 
     void pendingTickThatEndsDuringTheQuestionOfANewRunLeavesItItsRoom() {
