@@ -42,10 +42,6 @@ Result<std::unique_ptr<Database>> Database::open(const std::string& path, const 
     });
 }
 
-const std::string& Database::path() const {
-    return m_engine->path;
-}
-
 Database::Seen Database::look(const std::string& path) const {
     switch (m_engine->file.look(path)) {
         case PageFile::Seen::Unchanged:

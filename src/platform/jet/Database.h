@@ -184,7 +184,6 @@ class Database {
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    const std::string& path() const;
     /// What is at `path` now: this file as it was when it was last locked, this file changed since,
     /// or another one or none. Takes no lock and reads nothing.
     enum class Seen { Unchanged, Changed, Other };
