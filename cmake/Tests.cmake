@@ -22,7 +22,7 @@ set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_st
                         test_mail_smtp_stages test_mail_smtp_idle test_mail_smtp_hostile test_mail_smtp_dialogue
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
                         test_jet_open test_import_imptxt_guasti
-                        test_contacts_outlook_file test_import_impdb_guasti test_send_frminvia_giro)
+                        test_contacts_outlook_file test_import_impdb_guasti)
 
 # vestrola_read_together(<target> SOURCES...): writes files that include these sources of the current folder, and adds them
 function(vestrola_read_together target)
