@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int domandeMassime = 1000;
-constexpr int attesaDns = 60000;
 
 QList<QHostAddress> indirizziPubblici() {
     QList<QHostAddress> pubblici;
@@ -45,8 +44,9 @@ QByteArray DominioDi(const Account& account) {
     return indirizzo.value().domain.toLower();
 }
 
-ControlloMittente::ControlloMittente(Ascolto chiAscolta) : ascolto(std::move(chiAscolta)) {
+ControlloMittente::ControlloMittente(Ascolto chiAscolta, int attesaDns) : ascolto(std::move(chiAscolta)) {
     limite.setSingleShot(true);
+    limite.setInterval(attesaDns);
     QObject::connect(&limite, &QTimer::timeout, &limite, [this] { Scade(); });
 }
 
@@ -79,7 +79,7 @@ void ControlloMittente::Avvia(const Account& account, const QString& password) {
             righe.push_back(riga);
     mancano = static_cast<int>(righe.size());
     resolver = std::make_unique<dns::Resolver>();
-    limite.start(attesaDns);
+    limite.start();
     if (!mittente.diretto)
         prova.Avvia(account, password, [this, primaDelServer](const ServerProvato& provato) {
             const auto nuove = RigheServer(provato, sys::clock().now());

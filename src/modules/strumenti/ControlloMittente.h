@@ -18,7 +18,8 @@ class ControlloMittente {
         std::function<void()> finito;  ///< every line is known
     };
 
-    explicit ControlloMittente(Ascolto ascolto);
+    /// `attesaDns`, in milliseconds, is for all answers of the DNS.
+    explicit ControlloMittente(Ascolto ascolto, int attesaDns = 60000);
 
     /// Starts again. `password` is from portachiavi::PasswordDi(). An account without a valid address has
     /// one line that says so.

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr int attesaPasso = 15000;
-constexpr int attesaIntera = 120000;
 
 mail::SmtpTimes tempi() {
     mail::SmtpTimes tempi;
@@ -43,8 +42,9 @@ mail::Route percorsoServer(const Account& account, const QString& password) {
 
 }  // namespace
 
-ProvaServer::ProvaServer() : sessione(registro) {
+ProvaServer::ProvaServer(int attesaMassima) : sessione(registro) {
     limite.setSingleShot(true);
+    limite.setInterval(attesaMassima);
     dopo.setSingleShot(true);
     QObject::connect(&sessione, &mail::SmtpSession::finished, &sessione,
                      [this](const mail::DeliveryOutcome& esito) {
@@ -63,7 +63,7 @@ void ProvaServer::Avvia(const Account& account, const QString& password, Fatto q
     Annulla();
     fatto = std::move(quando);
     percorso = percorsoServer(account, password);
-    limite.start(attesaIntera);
+    limite.start();
     const auto rinuncia = [this](const QString& perche, bool diAccesso) {
         esitoSubito = {false, 0, perche, diAccesso};
         dopo.start(0);

@@ -17,10 +17,11 @@ class ProvaServer {
   public:
     using Fatto = std::function<void(const ServerProvato& provato)>;
 
-    ProvaServer();
+    /// `attesaMassima` in milliseconds.
+    explicit ProvaServer(int attesaMassima = 120000);
 
     /// `password` is from portachiavi::PasswordDi(). `fatto` is called once, from the event loop, after
-    /// two minutes at the latest.
+    /// `attesaMassima` at the latest.
     void Avvia(const Account& account, const QString& password, Fatto fatto);
     /// `fatto` is not called any more.
     void Annulla();

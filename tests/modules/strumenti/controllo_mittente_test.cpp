@@ -4,10 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QUdpSocket>
 
 #include "modules/strumenti/RecordChiave.h"
 #include "platform/oauth/TokenFile.h"
@@ -64,9 +66,9 @@ class Controllo : public testing::Test {
         return chi;
     }
 
-    static std::vector<RigaControllo> controlla(const Account& chi) {
+    static std::vector<RigaControllo> controlla(const Account& chi, int attesaDns = 60000) {
         QEventLoop giro;
-        ControlloMittente controllo({[](int) {}, [&] { giro.quit(); }});
+        ControlloMittente controllo({[](int) {}, [&] { giro.quit(); }}, attesaDns);
         controllo.Avvia(chi, chi.txtPassword);
         if (controllo.InCorso()) giro.exec();
         return controllo.Righe();
@@ -256,6 +258,39 @@ TEST_F(Controllo, ProvidersFileThatCannotBeReadIsTheReason) {
     Account chi = account();
     chi.txtPassword = "OAuth2";
     dice(controlla(chi), "Accesso", "providers.json");
+}
+
+TEST_F(Controllo, ServerThatNeverAnswersIsWaitedForUntilTheLimit) {
+    ScriptedServer server({{"HOLD"}});
+    Account chi = account();
+    chi.txtServerPORT = QString::number(server.port());
+    QEventLoop giro;
+    std::optional<ServerProvato> provato;
+    ProvaServer prova(200);
+    prova.Avvia(chi, chi.txtPassword, [&](const ServerProvato& esito) {
+        provato = esito;
+        giro.quit();
+    });
+    EXPECT_FALSE(provato);
+    giro.exec();
+    EXPECT_EQ(provato->esito.text, "Tempo scaduto: il server non risponde.");
+    EXPECT_FALSE(provato->esito.delivered);
+    EXPECT_EQ(server.remainder(), "");  // the connection was closed
+}
+
+TEST_F(Controllo, NameServerThatNeverAnswersIsWaitedForUntilTheLimit) {
+    QUdpSocket muto;
+    ASSERT_TRUE(muto.bind(QHostAddress::LocalHost, 53));
+    Account chi = account();
+    chi.chkUsaSMTP = "0";
+    const auto righe = controlla(chi, 200);
+    EXPECT_TRUE(muto.hasPendingDatagrams());
+    EXPECT_EQ(righe.size(), 6U);
+    for (const RigaControllo& una : righe) {
+        if (una.controllo == "Firma DKIM") continue;  // without a key there is nothing to ask for
+        EXPECT_EQ(una.semaforo, Semaforo::Giallo) << qPrintable(una.controllo);
+        EXPECT_TRUE(una.frase.startsWith("Il DNS è troppo lento")) << qPrintable(una.frase);
+    }
 }
 
 TEST_F(Controllo, CancelledCheckReportsNothingMore) {
