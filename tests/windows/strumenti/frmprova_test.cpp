@@ -202,6 +202,13 @@ class TestFrmProva : public QObject {
         }
     }
 
+    void inputWidgetOfTheMessageIsNamedAsItsView() {
+        ProvaStage stage(threeRecipients());
+        const HtmlView& view = *stage.its<HtmlView>("HTML");
+        QVERIFY(QTest::qWaitFor([&] { return view.inputWidget() != nullptr; }, 30000));
+        QCOMPARE(view.inputWidget()->accessibleName(), "Messaggio in HTML");
+    }
+
     void mnemonicsAreDistinct() {
         ProvaStage stage(threeRecipients());
         QStringList letters;
