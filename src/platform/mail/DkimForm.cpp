@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mail/DkimForm.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <cstring>
 
 namespace mail {
@@ -29,56 +33,108 @@ QByteArray withSingleBlanks(QByteArrayView text) {
     return out;
 }
 
-bool hasSingleBlanks(QByteArrayView line) {
-    if (std::memchr(line.data(), '\t', size_t(line.size()))) return false;
-    const char* const end = line.data() + line.size();
-    for (const char* at = line.data();
-         (at = static_cast<const char*>(std::memchr(at, ' ', size_t(end - at)))) && at + 1 < end; at += 2) {
-        // of two blanks in a row this finds the first or, after a single one, none
-        if (at[1] == ' ') return false;
+/// Whether the octet cannot be in a relaxed body, `next` following it; a blank before a CR alone could.
+bool isOdd(char c, char next) {
+    return c == '\t' || (c == ' ' && (next == ' ' || next == '\r')) || (next == '\n' && c != '\r');
+}
+
+constexpr qsizetype groupSize = 16;
+using Group = signed char __attribute__((vector_size(groupSize)));
+
+Group groupAt(const char* octets) {
+    Group group;
+    std::memcpy(&group, octets, groupSize);
+    return group;
+}
+
+/// The number of octets before the first odd one, or before the last one.
+qsizetype evenLength(QByteArrayView lines) {
+    qsizetype at = 0;
+    for (; at + groupSize < lines.size(); at += groupSize) {
+        const Group here = groupAt(lines.data() + at), next = groupAt(lines.data() + at + 1);
+        const Group odd = (here == Group{} + '\t') |
+                          ((here == Group{} + ' ') & ((next == Group{} + ' ') | (next == Group{} + '\r'))) |
+                          ((next == Group{} + '\n') & (here != Group{} + '\r'));
+        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(odd);
+        if ((halves[0] | halves[1]) != 0) break;
     }
-    return true;
+    while (at + 1 < lines.size() && !isOdd(lines[at], lines[at + 1]))
+        ++at;
+    return at;
+}
+
+/// The length of the lines at the start that are in their relaxed form.
+qsizetype relaxedLength(QByteArrayView lines) {
+    if (lines.startsWith('\n')) return 0;
+    // The octet that follows may be the last one's line end.
+    const qsizetype even = std::min(evenLength(lines) + 1, lines.size());
+    return lines.first(even).lastIndexOf('\n') + 1;
 }
 
 }  // namespace
 
-QByteArray relaxedField(QByteArrayView field) {
-    const qsizetype colon = field.indexOf(':');
-    QByteArray value = field.sliced(colon + 1).toByteArray();
-    value.replace("\r\n", "");
-    return withoutBlanksAtEnd(field.first(colon)).toByteArray().toLower() + ':' +
-           withSingleBlanks(QByteArrayView(value).trimmed());
+void appendRelaxedField(QByteArray& out, QByteArrayView field) {
+    const qsizetype colon = field.indexOf(':'), before = out.size();
+    out.resize(before + field.size());
+    char* to = out.data() + before;
+    for (const char c : withoutBlanksAtEnd(field.first(colon)))
+        *to++ = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    *to++ = ':';
+    const char* const value = to;
+    bool afterBlank = false;
+    for (qsizetype at = colon + 1; at < field.size(); ++at) {
+        const char c = field[at];
+        if (c == '\r' && at + 1 < field.size() && field[at + 1] == '\n') {
+            ++at;
+        } else if (isWsp(c)) {
+            afterBlank = true;
+        } else {
+            if (afterBlank && to != value) *to++ = ' ';
+            afterBlank = false;
+            *to++ = c;
+        }
+    }
+    out.truncate(to - out.constData());
 }
 
 void RelaxedBody::add(QByteArrayView lines) {
-    // From `same` on the lines are in this form and were not passed on yet. Those after `shownEnd` are empty:
-    // they count where another line follows.
-    qsizetype same = 0, shownEnd = 0, emptyLines = 0;
-    const auto passOn = [&](qsizetype end) {
-        if (end > same) m_consumer(lines.sliced(same, end - same));
-    };
-    for (qsizetype from = 0, next = 0; from < lines.size(); from = next) {
-        const qsizetype end = lines.indexOf('\n', from);
-        next = end < 0 ? lines.size() : end + 1;
-        const bool ended = end > from && lines[end - 1] == '\r';
-        const QByteArrayView line = lines.sliced(from, (end < 0 ? next : end) - from - (ended ? 1 : 0));
-        const QByteArrayView shown = withoutBlanksAtEnd(line);
-        const bool empty = shown.isEmpty();
-        if (ended && m_emptyLines == 0 && shown.size() == line.size() && hasSingleBlanks(line)) {
-            emptyLines = empty ? emptyLines + 1 : 0;
-            if (!empty) shownEnd = next;
-            continue;
-        }
-        passOn(empty ? shownEnd : from);
-        if (empty) m_emptyLines += emptyLines + 1;
-        same = shownEnd = next;
-        emptyLines = 0;
-        if (empty) continue;
-        m_consumer(QByteArray("\r\n").repeated(m_emptyLines) + withSingleBlanks(shown) + "\r\n");
-        m_emptyLines = 0;
+    while (!lines.isEmpty()) {
+        const qsizetype relaxed = relaxedLength(lines);
+        if (relaxed > 0) addRelaxed(lines.first(relaxed));
+        lines = lines.sliced(relaxed > 0 ? relaxed : addLine(lines));
     }
-    passOn(shownEnd);
+}
+
+void RelaxedBody::addRelaxed(QByteArrayView lines) {
+    qsizetype end = lines.size(), emptyLines = 0;
+    for (; end == 2 || (end > 2 && lines[end - 3] == '\n'); end -= 2)
+        ++emptyLines;
+    if (end > 0) {
+        passOnEmptyLines();
+        m_consumer(lines.first(end));
+    }
     m_emptyLines += emptyLines;
+}
+
+/// The first line, in whatever form; returns its length.
+qsizetype RelaxedBody::addLine(QByteArrayView lines) {
+    const qsizetype lineFeed = lines.indexOf('\n');
+    const qsizetype next = lineFeed < 0 ? lines.size() : lineFeed + 1;
+    QByteArrayView line = lines.first(lineFeed < 0 ? next : lineFeed);
+    if (lineFeed >= 0 && line.endsWith('\r')) line.chop(1);
+    line = withoutBlanksAtEnd(line);
+    if (line.isEmpty()) {
+        ++m_emptyLines;
+    } else {
+        passOnEmptyLines();
+        m_consumer(withSingleBlanks(line) + "\r\n");
+    }
+    return next;
+}
+
+void RelaxedBody::passOnEmptyLines() {
+    if (m_emptyLines > 0) m_consumer(QByteArray("\r\n").repeated(m_emptyLines));
+    m_emptyLines = 0;
 }
 
 }  // namespace mail

@@ -7,10 +7,10 @@
 
 namespace mail {
 
-/// The relaxed form of a header field, which has a colon (RFC 6376 3.4.2), without a line end: the name in
-/// lower case, folded lines joined, each run of blanks and tabs one blank, none around the colon or at the
-/// end.
-QByteArray relaxedField(QByteArrayView field);
+/// Appends the relaxed form of a header field, which has a colon (RFC 6376 3.4.2), without a line end: the
+/// name in lower case, folded lines joined, each run of blanks and tabs one blank, none around the colon or
+/// at the end.
+void appendRelaxedField(QByteArray& out, QByteArrayView field);
 
 /// Brings a body into its relaxed form (RFC 6376 3.4.4): each run of blanks and tabs one blank, none at the
 /// end of a line, no empty lines at the end.
@@ -26,6 +26,10 @@ class RelaxedBody {
     void add(QByteArrayView lines);
 
   private:
+    void addRelaxed(QByteArrayView lines);
+    qsizetype addLine(QByteArrayView lines);
+    void passOnEmptyLines();
+
     Consumer m_consumer;
     qsizetype m_emptyLines = 0;  ///< not passed on yet
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <QStringBuilder>
 #include <string_view>
 #include <utility>
 
@@ -134,21 +135,23 @@ Status unusable(const QString& why) {
     return {ErrorCode::NotSupported, Words::tr("Messaggio non firmato (DKIM): %1.").arg(why)};
 }
 
-// Adds the signed header fields to the digest, and returns their names: those that are present, in
-// their order, and once more those that must not be added later. Each signed field is present at most
-// once.
-QByteArray addHeader(Digest& digest, QByteArrayView block) {
+// Appends the relaxed form of the signed header fields to `signedFields`, and returns their names: those that
+// are present, in their order, and once more those that must not be added later. Each signed field is present
+// at most once.
+QByteArray takeHeader(QByteArrayView block, QByteArray& signedFields) {
     QByteArray names;
+    names.reserve(512);
     for (qsizetype from = 0; from < block.size();) {
-        qsizetype end = block.indexOf("\r\n", from);
-        while (end + 2 < block.size() && (block[end + 2] == ' ' || block[end + 2] == '\t'))
-            end = block.indexOf("\r\n", end + 2);
-        const QByteArrayView field = block.sliced(from, end - from);
-        from = end + 2;
+        qsizetype end = block.indexOf('\n', from) + 1;
+        while (end < block.size() && (block[end] == ' ' || block[end] == '\t'))
+            end = block.indexOf('\n', end) + 1;
+        const QByteArrayView field = block.sliced(from, end - 2 - from);
+        from = end;
         const auto name = std::find_if(covered.begin(), covered.end(),
                                        [field](std::string_view wanted) { return isNamed(field, wanted); });
         if (name == covered.end()) continue;
-        digest.add(relaxedField(field) + "\r\n");
+        appendRelaxedField(signedFields, field);
+        signedFields += "\r\n";
         names.append(name->data(), qsizetype(name->size())).append(": ");
     }
     for (const std::string_view name : closed)
@@ -168,8 +171,11 @@ QByteArray bodyDigest(Digest& digest, std::vector<QByteArrayView> pieces, qsizet
 // Blanks, which mean nothing there, where a line may be folded
 QByteArray foldable(const QByteArray& base64) {
     QByteArray out;
-    for (qsizetype from = 0; from < base64.size(); from += signatureLine)
-        out += (from == 0 ? "" : " ") + base64.mid(from, signatureLine);
+    out.reserve(base64.size() + base64.size() / signatureLine);
+    for (qsizetype from = 0; from < base64.size(); from += signatureLine) {
+        if (from > 0) out += ' ';
+        out += QByteArrayView(base64).sliced(from, std::min(signatureLine, base64.size() - from));
+    }
     return out;
 }
 
@@ -239,14 +245,18 @@ Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& dom
     const auto pieces = message.pieces();
     const qsizetype body = pieces.front().indexOf("\r\n\r\n") + 4;
     const QByteArray bodyHash = bodyDigest(digest, pieces, body);
-    digest.begin();
-    const QByteArray names = addHeader(digest, pieces.front().first(body - 2));
+    QByteArray signedFields;
+    signedFields.reserve(body);
+    const QByteArray names = takeHeader(pieces.front().first(body - 2), signedFields);
     // With single blanks, so that it is in its relaxed form before it is folded
-    const QByteArray value = "v=1; a=rsa-sha256; c=relaxed/relaxed; d=" + domain.toLower() +
-                             "; s=" + m_state->selector +
-                             "; t=" + QByteArray::number(sys::clock().now().toSecsSinceEpoch()) +
-                             "; bh=" + bodyHash.toBase64() + "; h=" + names + "; b=";
-    digest.add("dkim-signature:" + value);
+    const QByteArray value = "v=1; a=rsa-sha256; c=relaxed/relaxed; d=" % domain.toLower() % "; s=" %
+                             m_state->selector % "; t=" %
+                             QByteArray::number(sys::clock().now().toSecsSinceEpoch()) % "; bh=" %
+                             bodyHash.toBase64() % "; h=" % names % "; b=";
+    digest.begin();
+    digest.add(signedFields);
+    digest.add("dkim-signature:");
+    digest.add(value);
     const QByteArray hash = digest.end();
     const QByteArray signature =
         hash.isEmpty() || bodyHash.isEmpty() ? QByteArray() : m_state->key.sign(hash);
