@@ -11,7 +11,7 @@
 void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prosegui& prosegui) {
     SMTP.FromAddress = mittente.txtEmail;
     SMTP.FromName = mittente.txtNomeVisual;
-    SMTP.HeloMode = mittente.cmbSaluto == QLatin1String("EHLO") ? 0 : 1;
+    SMTP.HeloMode = SalutaConHelo(mittente) ? 1 : 0;
     prosegui([&] { SMTP.OutPort = NumeroPorta(mittente.txtOutPort); });
     SMTP.InsideHosts = MxInterni();
     const QString dati = cartellaDati();
@@ -25,6 +25,15 @@ void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prose
 bool StradaDiretta(const Account& mittente) {
     const auto usaSMTP = text::numberFromText(mittente.chkUsaSMTP);
     return usaSMTP.ok() && usaSMTP.value() == 0;
+}
+
+bool SalutaConHelo(const Account& mittente) {
+    return mittente.cmbSaluto != QLatin1String("EHLO");
+}
+
+bool ChiedeAccesso(const Account& mittente) {
+    const auto autentica = text::numberFromText(mittente.chkAutentick);
+    return autentica.ok() && autentica.value() == 1;
 }
 
 void UsaServerMX(mail::DeliveryControl& SMTP, const QString& server, const QString& motivo) {
@@ -44,8 +53,7 @@ void UsaServerAccount(mail::DeliveryControl& SMTP, const Account& mittente, cons
     SMTP.PublicServersOnly = false;
     SMTP.ServerName = mittente.txtServerSMTP;
     prosegui([&] { SMTP.ServerPort = NumeroPorta(mittente.txtServerPORT); });
-    const auto autentica = text::numberFromText(mittente.chkAutentick);
-    SMTP.UseAuth = autentica.ok() && autentica.value() == 1;
+    SMTP.UseAuth = ChiedeAccesso(mittente);
     SMTP.UserName = SMTP.UseAuth ? mittente.txtUsername : QString();
     SMTP.UserPassword = SMTP.UseAuth ? password : QString();
 }

@@ -15,6 +15,10 @@ void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prose
 
 /// The account has no server: each message goes straight to its recipient's mail exchanger.
 bool StradaDiretta(const Account& mittente);
+/// The account's server is greeted by HELO.
+bool SalutaConHelo(const Account& mittente);
+/// The account logs in on its server.
+bool ChiedeAccesso(const Account& mittente);
 
 /// The direct route: to this mail exchanger, without a login. Where there is none the delivery fails, with
 /// `motivo`.

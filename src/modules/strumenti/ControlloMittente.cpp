@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "modules/core/bImpostazioni.h"
+#include "modules/send/Consegna.h"
 #include "platform/mail/AddrSpec.h"
 #include "platform/mail/DomainName.h"
 #include "platform/mail/InsideAddress.h"
@@ -27,7 +28,7 @@ DominioMittente mittenteDi(const Account& account) {
     mittente.dominio = DominioDi(account);
     const auto indirizzo = mail::parseAddrSpec(account.txtEmail);
     if (indirizzo.ok()) mittente.indirizzo = indirizzo.value().address();
-    mittente.diretto = account.chkUsaSMTP != "1";
+    mittente.diretto = StradaDiretta(account);
     QByteArray server = mail::asciiDomain(mail::connectableHost(account.txtServerSMTP)).toLower();
     if (server.endsWith('.')) server.chop(1);
     mittente.server = server;

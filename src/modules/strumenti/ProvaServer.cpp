@@ -5,6 +5,7 @@
 
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
+#include "modules/send/Consegna.h"
 #include "modules/send/Porta.h"
 #include "platform/mail/DomainName.h"
 #include "platform/system/Keyring.h"
@@ -27,11 +28,11 @@ mail::Route percorsoServer(const Account& account, const QString& password) {
     percorso.port = 0;
     prosegui([&] { percorso.port = NumeroPorta(account.txtServerPORT); });
     prosegui([&] { percorso.localPort = NumeroPorta(account.txtOutPort); });
-    percorso.greetWithHelo = account.cmbSaluto != "EHLO";
+    percorso.greetWithHelo = SalutaConHelo(account);
     percorso.certificateFolder = cartellaDati() + "certificati";
     percorso.tlsListFile = cartellaDati() + "tls.txt";
     percorso.clearListFile = cartellaDati() + "senza-tls.txt";
-    percorso.login = account.chkAutentick == "1";
+    percorso.login = ChiedeAccesso(account);
     if (percorso.login) {
         percorso.user = account.txtUsername;
         percorso.password = password;

@@ -106,7 +106,7 @@ RigaControllo rigaDimensione(const ServerProvato& provato) {
 std::vector<RigaControllo> RigheServerInAttesa() {
     std::vector<RigaControllo> righe;
     for (const char* titolo : titoliServer)
-        righe.push_back({QString::fromUtf8(titolo), Semaforo::Attesa, {}, {}});
+        righe.push_back({Words::tr(titolo), Semaforo::Attesa, {}, {}});
     return righe;
 }
 

@@ -14,6 +14,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
+#include "modules/send/Consegna.h"
 #include "platform/text/Words.h"
 #include "platform/ui/Announcer.h"
 #include "platform/ui/DialogFrame.h"
@@ -72,7 +73,7 @@ void frmControlloMittente::cmdControlla_Click() {
     const Account* const scelto = Scelto();
     if (!scelto || controllo.InCorso()) return;
     QString password;
-    if (scelto->chkUsaSMTP == "1" && scelto->chkAutentick == "1") {
+    if (!StradaDiretta(*scelto) && ChiedeAccesso(*scelto)) {
         ui::WaitNotice attesa(
             Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
         password = portachiavi::PasswordDi(*scelto, [&](auto passato) { return attesa.goOn(passato); });

@@ -166,6 +166,22 @@ TEST_F(Controllo, DirectRouteIsJudgedByThisMachine) {
     aspetta(righe, "Nome inverso di questo computer", Semaforo::Verde);
 }
 
+TEST_F(Controllo, SwitchesOfTheAccountAreReadAsARunReadsThem) {
+    Account chi = account();
+    chi.txtServerPORT = "1";
+    for (const char* server : {"1", "2", "-1"}) {
+        chi.chkUsaSMTP = server;
+        EXPECT_EQ(controlla(chi).size(), 10U) << server;
+    }
+    chi.chkUsaSMTP = "00";
+    EXPECT_EQ(controlla(chi).size(), 6U);
+    chi.chkUsaSMTP = "1";
+    chi.chkAutentick = "01";
+    aspetta(controlla(chi), "Accesso", Semaforo::Giallo);  // no server to try it with
+    chi.chkAutentick = "2";
+    aspetta(controlla(chi), "Accesso", Semaforo::Verde);
+}
+
 TEST_F(Controllo, EmptyDomainIsReportedLineByLine) {
     const NameServer nomi(NameServer::Program::Unbound, records());
     Account chi = account();

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QScopeGuard>
+
+#include "platform/text/Language.h"
 #include "support/TestCertificates.h"
 
 namespace righe_server_test {
@@ -87,6 +90,16 @@ TEST(RigheServer, RefusedLoginIsReportedInTheServersWords) {
     provato.esito = {false, 535, QStringLiteral("5.7.8 wrong"), true};
     EXPECT_EQ(semafori(provato, primaDellaFine(60))[Accesso], Semaforo::Rosso);
     EXPECT_TRUE(RigheServer(provato, primaDellaFine(60))[Accesso].frase.startsWith("535 5.7.8 wrong"));
+}
+
+TEST(RigheServer, LinesHaveTheirTitlesInTheLanguageInUseFromTheStart) {
+    text::setLanguage(QStringLiteral("en"));
+    const auto italiano = qScopeGuard([] { text::setLanguage(QStringLiteral("it")); });
+    const auto attese = RigheServerInAttesa(), note = RigheServer(buono(), primaDellaFine(60));
+    ASSERT_EQ(attese.size(), note.size());
+    for (std::size_t i = 0; i < note.size(); ++i)
+        EXPECT_EQ(attese[i].controllo.toStdString(), note[i].controllo.toStdString());
+    EXPECT_NE(attese[Raggiunto].controllo, "Server raggiunto");
 }
 
 TEST(RigheServer, SmallLimitWantsAttention) {
