@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bFunctions.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
@@ -15,9 +14,9 @@
 #include "platform/text/NumberText.h"
 #include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
-#include "platform/ui/WaitNotice.h"
 #include "windows/accounts/frmAccount.h"
 #include "windows/accounts/frmAccount_elenco.h"
+#include "windows/core/Portachiavi_attesa.h"
 
 namespace {
 
@@ -105,12 +104,8 @@ void AvvisaPerdite(const Account& valori) {
 }  // namespace
 
 std::optional<Account> frmAccount::Custodisci(bool nuovo) {
-    ui::WaitNotice attesa(
-        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
     const auto custodito =
-        portachiavi::Custodisci(LeggiControlli(), account, nuovo, chkPortachiavi->isChecked(),
-                                [&](auto passato) { return attesa.goOn(passato); });
-    attesa.over();
+        portachiavi::CustodisciConAttesa(LeggiControlli(), account, nuovo, chkPortachiavi->isChecked());
     if (custodito.ok()) return custodito.value();
     ui::MessageDialog::show(custodito.status().text(), ui::MessageDialog::Notice, bVAR::Attenzione);
     return std::nullopt;

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/lang/bVAR.h"
@@ -19,9 +18,9 @@
 #include "platform/ui/Announcer.h"
 #include "platform/ui/DialogFrame.h"
 #include "platform/ui/MessageDialog.h"
-#include "platform/ui/WaitNotice.h"
 #include "windows/core/bTheme.h"
 #include "windows/core/Evento.h"
+#include "windows/core/Portachiavi_attesa.h"
 #include "windows/strumenti/frmChiaveDkim.h"
 #include "windows/strumenti/SegnoSemaforo.h"
 
@@ -73,12 +72,7 @@ void frmControlloMittente::cmdControlla_Click() {
     const Account* const scelto = Scelto();
     if (!scelto || controllo.InCorso()) return;
     QString password;
-    if (!StradaDiretta(*scelto) && ChiedeAccesso(*scelto)) {
-        ui::WaitNotice attesa(
-            Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
-        password = portachiavi::PasswordDi(*scelto, [&](auto passato) { return attesa.goOn(passato); });
-        attesa.over();
-    }
+    if (!StradaDiretta(*scelto) && ChiedeAccesso(*scelto)) password = portachiavi::PasswordConAttesa(*scelto);
     grdRighe->setRowCount(0);
     controllo.Avvia(*scelto, password);
     RiempiRighe();

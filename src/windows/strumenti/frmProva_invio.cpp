@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bImpostazioni.h"
 #include "modules/core/Fallimento.h"
 #include "modules/send/Consegna.h"
@@ -16,9 +15,9 @@
 #include "platform/text/Blanks.h"
 #include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
-#include "platform/ui/WaitNotice.h"
 #include "windows/core/DomandaFile.h"
 #include "windows/core/Evento.h"
+#include "windows/core/Portachiavi_attesa.h"
 #include "windows/strumenti/frmProva.h"
 
 namespace {
@@ -91,11 +90,7 @@ void frmProva::cmdInviaProva_Click() {
     if (!ChiediFile()) return Racconta(*lblEsito, Words::tr("La prova non è stata inviata."));
 
     Prosegui prosegui;
-    ui::WaitNotice attesa(
-        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
-    const QString password =
-        portachiavi::PasswordDi(*mittente, [&](auto passato) { return attesa.goOn(passato); });
-    attesa.over();
+    const QString password = portachiavi::PasswordConAttesa(*mittente);
     ImpostaMittente(*prova, *mittente, prosegui);
     prova->TimeoutSecs = attesaServer;
     mail::MessageData& messaggio = *prova;
