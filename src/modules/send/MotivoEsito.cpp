@@ -157,7 +157,7 @@ QString TestoEsito(OutcomeKind esito) {
 }
 
 bool IndirizzoInesistente(const OutcomeLine& riga) {
-    static const QStringList stati{"5.1.1", "5.1.2", "5.1.3", "5.1.6", "5.1.10"};
     return riga.kind == OutcomeKind::Refused && riga.stage == DeliveryStage::Recipient &&
-           riga.code / 100 == 5 && stati.contains(riga.status);
+           riga.code / 100 == 5 && riga.status.startsWith("5.") &&
+           PerStato(riga.status, riga.stage) == MotivoEsito::Inesistente;
 }
