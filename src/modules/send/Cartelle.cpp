@@ -2,12 +2,13 @@
 #include "modules/send/Cartelle.h"
 
 #include <algorithm>
-#include <limits>
-#include <QHash>
+#include <cstdint>
+#include <map>
 #include <QList>
 #include <QStringList>
 
 #include "modules/core/Fallimento.h"
+#include "modules/store/AlberoCartelle.h"
 #include "modules/store/RecordsetDB.h"
 #include "platform/text/NumberText.h"
 #include "platform/text/Words.h"
@@ -15,28 +16,6 @@
 namespace {
 
 constexpr qsizetype alMassimo = 10;
-constexpr qint64 numeroRadice = 0;
-constexpr qint64 nessuno = std::numeric_limits<qint64>::min();
-
-ado::Recordset Apri(const QString& istruzione) {
-    ado::Recordset rs = RecordsetDB();
-    rs.setSource(istruzione);
-    esigi(rs.open());
-    return rs;
-}
-
-qint64 Numero(const ado::Recordset& rs, QStringView colonna) {
-    const ado::Value valore = esigi(rs.value(colonna));
-    return valore.isNull() ? nessuno : esigi(valore.toInteger());
-}
-
-/// Whether the chain of parents ends at the root, not at a missing group nor in a cycle.
-bool VieneDallaRadice(qint64 numero, const QHash<qint64, qint64>& superiori) {
-    qsizetype passi = 0;
-    while (numero != numeroRadice && superiori.contains(numero) && passi++ <= superiori.size())
-        numero = superiori[numero];
-    return numero == numeroRadice;
-}
 
 struct Gruppo {
     QString nome;
@@ -44,26 +23,28 @@ struct Gruppo {
 };
 
 QList<Gruppo> Conta() {
-    QHash<qint64, qint64> quanti;
-    ado::Recordset rs = Apri("SELECT [id_grp] FROM [tb_destinatari] WHERE [sel] = True;");
-    for (; !rs.isEof(); esigi(rs.moveNext()))
-        ++quanti[Numero(rs, u"id_grp")];
-    QHash<qint64, qint64> superiori;
-    QHash<qint64, QString> nomi{{numeroRadice, "Database Mailing"}};
-    rs = Apri("SELECT * FROM [tb_gruppi];");
+    ado::Recordset rs = RecordsetDB();
+    rs.setSource("SELECT [id_grp] FROM [tb_destinatari] WHERE [sel] = True;");
+    esigi(rs.open());
+    std::map<std::int32_t, qint64> quanti;
+    qint64 perduti = 0;
     for (; !rs.isEof(); esigi(rs.moveNext())) {
-        const qint64 numero = Numero(rs, u"id");
-        superiori[numero] = Numero(rs, u"id_up");
-        nomi[numero] = esigi(rs.value(u"nome")).toTextOrEmpty().simplified();
+        const ado::Value gruppo = esigi(rs.value(u"id_grp"));
+        if (gruppo.isNull())
+            ++perduti;
+        else
+            ++quanti[static_cast<std::int32_t>(esigi(gruppo.toInteger()))];
     }
+    const AlberoCartelle albero = AlberoCartelle::Leggi();
     QList<Gruppo> gruppi;
-    for (const qint64 numero : quanti.keys())
-        if (VieneDallaRadice(numero, superiori)) gruppi.append({nomi[numero], quanti.take(numero)});
+    for (const auto& [numero, suoi] : quanti) {
+        if (albero.Raggiunta(numero))
+            gruppi.append({albero.Nome(numero).simplified(), suoi});
+        else
+            perduti += suoi;
+    }
     std::ranges::sort(gruppi, {}, &Gruppo::nome);
     std::ranges::stable_sort(gruppi, std::ranges::greater(), &Gruppo::quanti);
-    qint64 perduti = 0;
-    for (const qint64 suoi : std::as_const(quanti))
-        perduti += suoi;
     if (perduti > 0) gruppi.append({Words::tr("cartelle perdute"), perduti});
     return gruppi;
 }

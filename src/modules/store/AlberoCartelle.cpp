@@ -71,16 +71,17 @@ QStringList AlberoCartelle::Chiavi(std::int32_t id) const {
     return chiavi;
 }
 
-QString AlberoCartelle::Percorso(std::int32_t id) const {
+QString AlberoCartelle::Nome(std::int32_t id) const {
     if (id == radice) return "Database Mailing";
     const Cartella* cartella = Trova(id);
-    if (!cartella) return {};
-    QString percorso = cartella->nome;
-    if (!Raggiunta(id)) return percorso;
-    for (id = cartella->padre; id != radice; id = cartella->padre) {
-        cartella = Trova(id);
-        percorso.prepend(cartella->nome + " / ");
-    }
+    return cartella ? cartella->nome : QString();
+}
+
+QString AlberoCartelle::Percorso(std::int32_t id) const {
+    QString percorso = Nome(id);
+    if (id == radice || !Raggiunta(id)) return percorso;
+    for (id = Trova(id)->padre; id != radice; id = Trova(id)->padre)
+        percorso.prepend(Nome(id) + " / ");
     return percorso;
 }
 

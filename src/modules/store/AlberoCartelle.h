@@ -31,10 +31,11 @@ class AlberoCartelle {
     const std::vector<std::int32_t>& Ordine() const { return ordine; }
     /// The root is reached.
     bool Raggiunta(std::int32_t id) const { return raggiunte.contains(id); }
+    /// "Database Mailing" for the root; "" for a group that is not there.
+    QString Nome(std::int32_t id) const;
     /// Keys of the nodes from the root to the group; empty for one that is not reached.
     QStringList Chiavi(std::int32_t id) const;
-    /// "Soci / Nuovi", "Database Mailing" for the root; the name alone for a lost one, "" for one that is not
-    /// there.
+    /// "Soci / Nuovi"; the name alone for the root and for a lost group, "" for one that is not there.
     QString Percorso(std::int32_t id) const;
 
     std::vector<Cartella> Perdute() const;
