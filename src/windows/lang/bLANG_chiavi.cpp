@@ -94,11 +94,15 @@ void aggiungiVariabili(Chiavi& chiavi) {
         };
 }
 
+void aggiungiDidascalia(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza,
+                        const QString& nome) {
+    chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = assegnazione(
+        istanza, [nome](ui::LateDialog& suo, const QString& testo) { impostaDidascalia(suo, nome, testo); });
+}
+
 void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
     for (const char* nome : finestra.didascalie)
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = assegnazione(
-            istanza,
-            [nome](ui::LateDialog& suo, const QString& testo) { impostaDidascalia(suo, nome, testo); });
+        aggiungiDidascalia(chiavi, finestra, istanza, nome);
     if (finestra.conTitolo)
         chiavi[QStringLiteral("%1.Caption").arg(finestra.nome)] = [istanza](const QString& testo) {
             istanza().setWindowTitle(testo);
@@ -107,12 +111,8 @@ void aggiungiFinestra(Chiavi& chiavi, const Finestra& finestra, const Istanza& i
 
 /// The keys that the windows of the imports have in common.
 void aggiungiCampi(Chiavi& chiavi, const Finestra& finestra, const Istanza& istanza) {
-    for (int i = 0; i < campi::quanti; ++i) {
-        const QString nome = QStringLiteral("lblcmp(%1)").arg(i);
-        chiavi[QStringLiteral("%1.%2.Caption").arg(finestra.nome, nome)] = assegnazione(
-            istanza,
-            [nome](ui::LateDialog& suo, const QString& testo) { impostaDidascalia(suo, nome, testo); });
-    }
+    for (int i = 0; i < campi::quanti; ++i)
+        aggiungiDidascalia(chiavi, finestra, istanza, QStringLiteral("lblcmp(%1)").arg(i));
     chiavi[QStringLiteral("%1.txtCartella.Text").arg(finestra.nome)] =
         assegnazione(istanza, [](ui::LateDialog& suo, const QString& testo) {
             suo.findChild<QLineEdit*>("txtCartella")->setText(testo);
