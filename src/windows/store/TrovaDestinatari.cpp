@@ -33,10 +33,9 @@ TrovaDestinatari::TrovaDestinatari(const Principale& finestra, ui::FindBar& barr
       principale(finestra),
       barra(barraTrova),
       inGriglia(finestra.grd.search()),
-      lavoro([this](const ui::SlicedWork::Slice& fetta) {
-          bool ancora = false;
-          evento([&] { ancora = Avanza(fetta); });
-          return ancora;
+      lavoro([this](const ui::SlicedWork::Slice&) {
+          evento([this] { Avanza(); });
+          return false;
       }),
       albero({}) {
     const auto guardato = [](auto passo) { return [passo] { evento(passo); }; };
@@ -91,34 +90,34 @@ void TrovaDestinatari::Cambiato() {
     Racconta();
 }
 
-bool TrovaDestinatari::Avanza(const ui::SlicedWork::Slice&) {
+/// Arms the next part itself, since what is told depends on whether there will be one.
+void TrovaDestinatari::Avanza() {
     constexpr int pausa = 200;
-    if (!ovunque) return false;
+    if (!ovunque) return;
     if (principale.ComandoInCorso()) {
         lavoro.restFor(pausa);
-        return false;
+        return;
     }
     const Result<bool> finita = ovunque->Avanza(std::chrono::milliseconds(ui::SlicedWork::milliseconds));
     if (finita.status().code() == ErrorCode::FileInUse) {
         ++respinte;
         if (Bloccata()) Racconta();
         lavoro.restFor(pausa);
-        return false;
+        return;
     }
     respinte = 0;
     if (!finita.ok()) {
         Rinuncia(finita.status().text());
-        return false;
+        return;
     }
     if (!finita.value()) {
         lavoro.start();
     } else if (Prosegui tenta; !tenta([this] { albero = AlberoCartelle::Leggi(); })) {
         Rinuncia(tenta.testo());
-        return false;
+        return;
     }
     Avvicina();
     Racconta();
-    return false;
 }
 
 void TrovaDestinatari::Rinuncia(const QString& motivo) {

@@ -43,7 +43,7 @@ class TrovaDestinatari : public QObject {
     bool NonLetta() const;
     int RigaDella(Meta quale) const;
     bool AllaCartella(bool indietro);
-    bool Avanza(const ui::SlicedWork::Slice& fetta);
+    void Avanza();
     void Rinuncia(const QString& motivo);
 
     void Racconta();
