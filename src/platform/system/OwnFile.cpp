@@ -145,6 +145,7 @@ Result<QByteArray> readGuardedFile(const QString& path, qint64 limit, Others oth
                      path, others == Others::Nothing ? "600" : "644"));
     return readUpTo(open.get(), limit);
 }
+
 FileLock::FileLock(FileLock&& other) noexcept
     : m_file(std::exchange(other.m_file, -1)), m_path(std::move(other.m_path)) {}
 

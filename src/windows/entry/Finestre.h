@@ -25,7 +25,7 @@ class LateDialog;
 namespace finestre {
 
 /// The first mention creates the window and runs its load. A load that fails leaves the window as far as it
-/// to.
+/// got.
 ::frmMain& Main();
 ::frmAccount& Account();
 ::frmInvia& Invia();
