@@ -17,6 +17,12 @@ Status rowGone() {
 
 }  // namespace
 
+JetTable::JetTable(jet::Database& database, const jet::Table& table)
+    : m_database(database), m_definition(table.definition()) {
+    for (const jet::Column& column : m_definition.columns)
+        m_names.push_back(QString::fromStdString(column.name));
+}
+
 Result<jet::Table*> JetTable::table() {
     if (!m_table) {
         const Result<jet::Table*> found = m_database.table(m_definition.name);

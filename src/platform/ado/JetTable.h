@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <QString>
 #include <span>
 #include <vector>
 
@@ -29,10 +30,11 @@ struct StoredRow {
 class JetTable {
   public:
     /// `table` belongs to `database`, which outlives this.
-    JetTable(jet::Database& database, const jet::Table& table)
-        : m_database(database), m_definition(table.definition()) {}
+    JetTable(jet::Database& database, const jet::Table& table);
 
     const jet::TableDefinition& definition() const { return m_definition; }
+    /// The names of its columns.
+    const std::vector<QString>& names() const { return m_names; }
 
     /// Takes the bytes of a row, to be seen through definition(), or that there is no such row (any more).
     Status read(jet::RowId id, StoredRow& row);
@@ -79,6 +81,7 @@ class JetTable {
 
     jet::Database& m_database;
     jet::TableDefinition m_definition;
+    std::vector<QString> m_names;
     jet::Table* m_table = nullptr;                    ///< null until it is needed
     std::vector<std::shared_ptr<RowOrder>> m_orders;  ///< the most recently used one last
     std::vector<std::shared_ptr<RowOrder>> m_before;  ///< as they were before a change from outside

@@ -125,6 +125,7 @@ Status Recordset::open() {
     m_data->session = session;
     m_data->rows = std::move(rows).value();
     m_data->columns.clear();
+    m_data->columns.reserve(m_data->rows->names().size());
     for (size_t i = 0; m_data->rows->table() && i < m_data->rows->names().size(); ++i)
         m_data->columns.push_back(&m_data->rows->table()->definition().columns[m_data->rows->column(i)]);
     Status status = m_data->goTo(0);
@@ -192,9 +193,12 @@ QString Recordset::fieldName(int index) const {
 
 std::optional<size_t> Recordset::Data::find(QStringView name) const {
     const auto& names = rows->names();
-    const auto found = std::find_if(names.begin(), names.end(), [&](const QString& n) {
-        return name.size() == n.size() && name.compare(n, Qt::CaseInsensitive) == 0;
-    });
+    // Comparing without regard to case costs ten times as much. A table has no two columns of the same name.
+    auto found = rows->table() ? std::find(names.begin(), names.end(), name) : names.end();
+    if (found == names.end())
+        found = std::find_if(names.begin(), names.end(), [&](const QString& n) {
+            return name.size() == n.size() && name.compare(n, Qt::CaseInsensitive) == 0;
+        });
     if (found == names.end()) return std::nullopt;
     return static_cast<size_t>(found - names.begin());
 }

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <numeric>
 
 #include "platform/ado/RawValue.h"
 
@@ -46,7 +47,7 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
     rows->m_literals = std::move(statement.values);
     const jet::TableDefinition& definition = table.value()->definition();
     if (const char* identity = identityName(definition);
-        identity && statement.list && rows->takeColumns(definition, *statement.list)) {
+        identity && statement.list && rows->takeColumns(*table.value(), *statement.list)) {
         rows->m_table = table.value();
         if (statement.plain) rows->m_wanted = orderOf(*statement.plain, definition);
         if (rows->m_wanted) {
@@ -66,17 +67,20 @@ Result<std::unique_ptr<Rows>> Rows::run(const std::shared_ptr<Session>& session,
 }
 
 /// False where the list names something that is no column.
-bool Rows::takeColumns(const jet::TableDefinition& definition, const StatementText::List& list) {
+bool Rows::takeColumns(const JetTable& table, const StatementText::List& list) {
     m_whole = list.columns.empty();
-    for (size_t i = 0; m_whole && i < definition.columns.size(); ++i)
-        m_columns.push_back(i);
+    if (m_whole) {
+        m_names = table.names();
+        m_columns.resize(m_names.size());
+        std::iota(m_columns.begin(), m_columns.end(), size_t{0});
+        return true;
+    }
     for (const std::string& name : list.columns) {
-        const std::optional<size_t> column = definition.find(name);
+        const std::optional<size_t> column = table.definition().find(name);
         if (!column) return false;
         m_columns.push_back(*column);
+        m_names.push_back(table.names()[*column]);
     }
-    for (const size_t column : m_columns)
-        m_names.push_back(QString::fromStdString(definition.columns[column].name));
     return true;
 }
 

@@ -55,7 +55,7 @@ class Rows {
   private:
     explicit Rows(std::shared_ptr<Session> session) : m_session(std::move(session)) {}
     Value valueOf(int column) const;
-    bool takeColumns(const jet::TableDefinition& definition, const StatementText::List& list);
+    bool takeColumns(const JetTable& table, const StatementText::List& list);
     Status step(size_t count);
     Status follow(size_t count);
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ado/SqlTokens.h"
 
-#include <algorithm>
-
 #include "platform/text/Words.h"
 
 namespace ado {
@@ -15,9 +13,6 @@ bool isDigit(char c) {
 bool isWordStart(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
            static_cast<unsigned char>(c) >= 0x80;
-}
-char capital(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
 /// Index after the closing quote of the text that begins at `at`, or npos. Doubled quotes stay inside.
@@ -37,12 +32,6 @@ size_t endOfMarked(std::string_view sql, size_t at, char mark) {
 }
 
 }  // namespace
-
-bool SqlToken::is(std::string_view word) const {
-    return text.size() == word.size() && (kind == Kind::Word || kind == Kind::Sign) &&
-           std::equal(text.begin(), text.end(), word.begin(),
-                      [](char mine, char theirs) { return capital(mine) == theirs; });
-}
 
 Result<std::vector<SqlToken>> splitSql(const QByteArray& bytes) {
     using Kind = SqlToken::Kind;

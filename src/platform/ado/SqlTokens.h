@@ -2,6 +2,7 @@
 // The tokenizer of statements.
 #pragma once
 
+#include <algorithm>
 #include <QByteArray>
 #include <string>
 #include <string_view>
@@ -20,7 +21,14 @@ struct SqlToken {
     qsizetype end = 0;
 
     /// Whether this is that word, in capitals, or sign.
-    bool is(std::string_view word) const;
+    bool is(std::string_view word) const {
+        const auto capital = [](char c) {
+            return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        };
+        return text.size() == word.size() && (kind == Kind::Word || kind == Kind::Sign) &&
+               std::equal(text.begin(), text.end(), word.begin(),
+                          [&](char mine, char theirs) { return capital(mine) == theirs; });
+    }
 };
 
 /// The pieces of a statement in UTF-8. Names may be in brackets, texts are in single quotes, dates
