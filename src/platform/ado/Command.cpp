@@ -2,6 +2,7 @@
 #include "platform/ado/Command.h"
 
 #include <optional>
+#include <utility>
 
 #include "platform/ado/Session.h"
 #include "platform/ado/Waiting.h"
@@ -42,15 +43,33 @@ class Deadline {
     int m_calls = 0;
 };
 
-/// Marks all rows at once, where the statement asks for that and the table allows it; the number of rows
-/// then.
-Result<std::optional<int64_t>> setEverywhere(JetTable& table, const StatementText& statement,
-                                             Deadline& deadline) {
-    const jet::TableDefinition& definition = table.definition();
-    const auto column = definition.find(statement.everywhere->column);
+/// Whether the statement marks one row by its number in the primary key, which needs no SQLite.
+bool marksOneRow(const jet::TableDefinition& table, const StatementText::Marking& marking) {
+    const auto column = table.find(marking.column);
+    const auto key = marking.key ? table.find(marking.key->column) : std::nullopt;
     // The words may be names as well.
+    return column && key && table.columns[*column].type == jet::Type::YesNo &&
+           key == table.longPrimaryKey() && std::in_range<int32_t>(marking.key->number) &&
+           !table.find("True") && !table.find("False");
+}
+
+/// Returns the number of rows.
+Result<qint64> markOneRow(JetTable& table, const StatementText::Marking& marking) {
+    const auto id = table.findByPrimaryKey(static_cast<int32_t>(marking.key->number));
+    if (!id.ok()) return id.status();
+    if (!id.value()) return qint64{0};
+    const std::pair<size_t, jet::Value> change(*table.definition().find(marking.column), marking.value);
+    Status status = table.update(*id.value(), {&change, 1});
+    return status.ok() ? Result<qint64>(1) : status;
+}
+
+/// Marks all rows at once, where the table allows it; the number of rows then.
+Result<std::optional<int64_t>> markAllRows(JetTable& table, const StatementText::Marking& marking,
+                                           Deadline& deadline) {
+    const jet::TableDefinition& definition = table.definition();
+    const auto column = definition.find(marking.column);
     if (!column || definition.find("True") || definition.find("False")) return std::optional<int64_t>();
-    return table.setYesNo(*column, statement.everywhere->value, [&] { return deadline.goOn(); });
+    return table.setYesNo(*column, marking.value, [&] { return deadline.goOn(); });
 }
 
 }  // namespace
@@ -73,21 +92,31 @@ Result<qint64> Command::execute() {
         if (!target.ok()) return target.status();
         if (!text.readFrom.isEmpty())
             if (const auto found = session.table(text.readFrom); !found.ok()) return found.status();
-        const Result<Prepared> prepared = session.prepare(text.sql, text.values);
-        if (!prepared.ok()) return prepared.status();
+        const bool one = text.marking && marksOneRow(target.value()->definition(), *text.marking);
+        Prepared prepared;
+        if (!one) {
+            Result<Prepared> made = session.prepare(text.sql, text.values);
+            if (!made.ok()) return made.status();
+            prepared = std::move(made).value();
+        }
         const bool changing = text.verb == StatementText::Verb::Update;
         if (Status refused = changing ? target.value()->updatable({}) : target.value()->writable();
             !refused.ok())
             return refused;
+        if (one) {
+            const Result<qint64> rows = markOneRow(*target.value(), *text.marking);
+            if (rows.ok()) changes = rows.value();
+            return rows.status();
+        }
         session.takeChanges();
         Deadline deadline(session.sqlite(), waiting);
-        if (text.everywhere) {
-            const auto rows = setEverywhere(*target.value(), text, deadline);
+        if (text.marking && !text.marking->key) {
+            const auto rows = markAllRows(*target.value(), *text.marking, deadline);
             if (!rows.ok()) return rows.status();
             changes = rows.value().value_or(0);
             if (rows.value()) return {};
         }
-        const int code = sqlite3_step(prepared.value().get());
+        const int code = sqlite3_step(prepared.get());
         changes = session.takeChanges();
         if (code == SQLITE_DONE) return {};
         if (deadline.passed()) return {ErrorCode::Timeout, Words::tr("Tempo scaduto.")};

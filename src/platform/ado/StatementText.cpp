@@ -7,6 +7,7 @@
 
 #include "platform/ado/DateText.h"
 #include "platform/ado/SqlTokens.h"
+#include "platform/text/SameText.h"
 #include "platform/text/Words.h"
 
 namespace ado {
@@ -205,13 +206,19 @@ Status readInsert(Reader& reader, StatementText& statement) {
     return readSelect(reader, statement.readFrom, nullptr) ? Status() : refused();
 }
 
-/// After the word SET.
-std::optional<StatementText::Everywhere> readEverywhere(Reader reader) {
-    QString column;
-    if (!reader.takeName(column) || !reader.take("=")) return std::nullopt;
-    const bool yes = reader.take("TRUE");
-    if ((!yes && !reader.take("FALSE")) || !reader.atEnd()) return std::nullopt;
-    return StatementText::Everywhere{column.toStdString(), yes};
+/// After the word UPDATE.
+std::optional<StatementText::Marking> readMarking(Reader reader) {
+    StatementText::Marking marking;
+    if (std::string table; !reader.takePlainName(table) || !reader.take("SET")) return std::nullopt;
+    if (!reader.takePlainName(marking.column) || !reader.take("=")) return std::nullopt;
+    marking.value = reader.take("TRUE");
+    if (!marking.value && !reader.take("FALSE")) return std::nullopt;
+    if (reader.take("WHERE")) {
+        StatementText::Marking::Key& key = marking.key.emplace();
+        if (!reader.takePlainName(key.column) || !reader.take("=") || !reader.takeWhole(key.number))
+            return std::nullopt;
+    }
+    return reader.atEnd() ? std::optional(std::move(marking)) : std::nullopt;
 }
 
 /// Every other kind of statement.
@@ -226,8 +233,8 @@ bool readStatement(Reader& reader, StatementText& statement) {
     }
     if (reader.take("UPDATE")) {
         statement.verb = Verb::Update;
+        statement.marking = readMarking(reader);
         if (!reader.takeName(statement.table) || !reader.take("SET")) return false;
-        statement.everywhere = readEverywhere(reader);
         return !reader.restHas({"SELECT", "FROM", "WITH", "RETURNING", "ORDER", "LIMIT"});
     }
     statement.verb = Verb::Delete;
@@ -296,6 +303,19 @@ Status takeLiterals(const Tokens& tokens, StatementText& statement) {
 }  // namespace
 
 Result<StatementText> StatementText::read(const QString& text) {
+    // The same rows are asked for again and again; what a command changes differs each time.
+    static thread_local QString knownText;
+    static thread_local StatementText known;
+    if (!text.isEmpty() && text::sameText(text, knownText)) return known;
+    Result<StatementText> statement = readAnew(text);
+    if (statement.ok() && statement.value().verb == Verb::Select) {
+        knownText = text;
+        known = statement.value();
+    }
+    return statement;
+}
+
+Result<StatementText> StatementText::readAnew(const QString& text) {
     if (text.size() > longestStatement) return refusedStatement(Words::tr("testo troppo lungo"));
     StatementText statement;
     statement.sql = text.toUtf8();

@@ -56,16 +56,25 @@ struct StatementText {
     };
     std::optional<Row> row;
 
-    /// `UPDATE table SET column = True` or False, on all rows.
-    struct Everywhere {
-        std::string column;  ///< in UTF-8
+    /// `UPDATE table SET column = True` or False, on all rows or on that with a number (`WHERE id = 7`),
+    /// where the names can be read in one way only.
+    struct Marking {
+        struct Key {
+            std::string column;
+            int64_t number = 0;
+        };
+        std::string column;
         bool value = false;
+        std::optional<Key> key;  ///< none: all rows
     };
-    std::optional<Everywhere> everywhere;
+    std::optional<Marking> marking;
 
     /// Fails with SyntaxError or NotSupported. Comments, parameters, more than one statement and texts beyond
     /// 64,000 characters are refused.
     static Result<StatementText> read(const QString& text);
+
+  private:
+    static Result<StatementText> readAnew(const QString& text);
 };
 
 }  // namespace ado

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <array>
+
 #include "support/HotJournal.h"
 #include "TestDatabase.h"
 
@@ -91,6 +93,37 @@ TEST_F(CommandTest, MarkingTheWholeListCountsAllRowsAndIsSeenByOpenOrders) {
     EXPECT_EQ(run("UPDATE [tb_destinatari] SET [SEL] = False"), 300);
     EXPECT_EQ(open(queue).recordCount(), 0);
     EXPECT_EQ(run("UPDATE [tb_destinatari] SET sel = False;"), 300);
+}
+
+// A condition more leaves the statement to SQLite.
+TEST_F(CommandTest, MarkingOneRowIsTheSameWithSqliteAndWithout) {
+    addRecipients(6, 1);
+    run("INSERT INTO [tb_gruppi] (id_up, nome) VALUES (3, 'x')");
+    for (const char* statement : {"UPDATE [tb_destinatari] SET [sel] = False WHERE [id] = 1",
+                                  "UPDATE tb_destinatari SET SEL = True WHERE ID = 1",
+                                  "UPDATE tb_destinatari SET sel = True WHERE id = 1",
+                                  "UPDATE tb_destinatari SET sel = False WHERE id = 99",
+                                  "UPDATE tb_destinatari SET sel = False WHERE id = 9999999999",
+                                  "UPDATE tb_destinatari SET sel = False WHERE id_grp = 1",
+                                  "UPDATE tb_destinatari SET id_grp = True WHERE id = 2",
+                                  "UPDATE tb_gruppi SET nome = False WHERE id = 1",
+                                  "UPDATE tb_destinatari SET manca = True WHERE id = 1",
+                                  "UPDATE tb_destinatari SET sel = True WHERE manca = 1",
+                                  "UPDATE manca SET sel = True WHERE id = 1"}) {
+        std::array<QStringList, 2> seen;
+        for (const char* more : {"", " AND 1 = 1"}) {
+            run("UPDATE tb_destinatari SET sel = True");
+            QStringList& now = seen[*more != 0];
+            const Result<qint64> rows = tryRun(QString(statement) + more);
+            now = {QString::number(rows.ok() ? rows.value() : -1), rows.status().text()};
+            for (const char* condition : {"sel = True", "sel = False AND id = 1", "id_grp = -1"})
+                now += QString::number(count(condition));
+            now += QString::fromStdString(column("SELECT * FROM tb_gruppi", "nome"));
+            now += QString::number(
+                open("SELECT * FROM tb_destinatari WHERE sel = True ORDER BY rgs").recordCount());
+        }
+        EXPECT_EQ(seen[0], seen[1]) << statement;
+    }
 }
 
 TEST_F(CommandTest, AWordThatIsNoYesNoColumnIsNotMarkedButRefusedOrConverted) {

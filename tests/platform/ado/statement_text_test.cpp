@@ -47,6 +47,44 @@ TEST(StatementText, FindsTheTableOfEachKindOfStatement) {
     }
 }
 
+TEST(StatementText, KnowsAMarkingOfAllRowsAndOfOne) {
+    const auto all = accepted("UPDATE [t] SET sel = True;").marking;
+    ASSERT_TRUE(all);
+    EXPECT_EQ(all->column, "sel");
+    EXPECT_TRUE(all->value);
+    EXPECT_FALSE(all->key);
+    const auto one = accepted("update t set [due parole] = false where [id] = 7 ;").marking;
+    ASSERT_TRUE(one && one->key);
+    EXPECT_EQ(one->column, "due parole");
+    EXPECT_FALSE(one->value);
+    EXPECT_EQ(one->key->column, "id");
+    EXPECT_EQ(one->key->number, 7);
+    for (const char* other :
+         {"UPDATE t SET a = 1 WHERE id = 7", "UPDATE t SET a = True, b = True WHERE id = 7",
+          "UPDATE t SET a = True WHERE id = -7", "UPDATE t SET a = True WHERE id = 7.0",
+          "UPDATE t SET a = True WHERE id = 7 AND b = 2", "UPDATE t SET a = True WHERE id > 7",
+          "UPDATE t SET \u00e0 = True WHERE id = 7", "UPDATE t SET a = True WHERE key = 7"})
+        EXPECT_FALSE(accepted(other).marking) << other;
+}
+
+// The text of a recordset's rows is remembered.
+TEST(StatementText, IsTheSameWhenItIsReadAgain) {
+    const QString text = QStringLiteral("SELECT * FROM t WHERE a = 5 ORDER BY b DESC");
+    const StatementText first = accepted("SELECT * FROM t WHERE a = 5 ORDER BY b DESC");
+    (void)accepted("UPDATE t SET a = 6 WHERE id = 1");
+    for (const auto& again :
+         {StatementText::read(text), StatementText::read(QString(text.data(), text.size()))}) {
+        ASSERT_TRUE(again.ok());
+        EXPECT_EQ(again.value().sql, first.sql);
+        EXPECT_EQ(again.value().values, first.values);
+        EXPECT_EQ(again.value().table, first.table);
+        ASSERT_TRUE(again.value().plain);
+        EXPECT_EQ(again.value().plain->number, 5);
+        EXPECT_FALSE(again.value().plain->order.front().ascending);
+    }
+    EXPECT_EQ(accepted("SELECT * FROM t WHERE a = 6").plain->number, 6);
+}
+
 TEST(StatementText, KnowsWhereRowsCanBeKeptByTheirIdentities) {
     for (const char* text : {"SELECT * FROM [t] ;", "SELECT * FROM t WHERE a = 5 ORDER BY b ASC, c DESC"}) {
         const auto list = accepted(text).list;
