@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/DataGridDrag.h"
+#include "platform/ui/DragContent.h"
 #include "platform/ui/ItemViewAccess.h"
 
 namespace ui {

@@ -5,8 +5,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "platform/ui/BodyLine.h"
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/DataGridColors.h"
 
 namespace ui {
 

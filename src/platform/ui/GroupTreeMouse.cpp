@@ -4,7 +4,7 @@
 #include <QDropEvent>
 #include <QMouseEvent>
 
-#include "platform/ui/DataGridDrag.h"
+#include "platform/ui/DragContent.h"
 #include "platform/ui/GroupTreeItem.h"
 #include "platform/ui/ItemViewAccess.h"
 

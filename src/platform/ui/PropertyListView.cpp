@@ -7,10 +7,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/ui/BodyLine.h"
 #include "platform/ui/ColorNumber.h"
 #include "platform/ui/ColorPopup.h"
 #include "platform/ui/Controls.h"
-#include "platform/ui/DataGridColors.h"
 #include "platform/ui/ItemViewAccess.h"
 #include "platform/ui/LineEdit.h"
 

@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "platform/ui/datagrid_support.h"
-#include "platform/ui/DataGridDrag.h"
 #include "platform/ui/Desktop.h"
+#include "platform/ui/DragContent.h"
 #include "platform/ui/GroupTree.h"
 #include "support/TestClass.h"
 

@@ -12,7 +12,7 @@
 #include "platform/ui/CommandBars.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/datagrid_support.h"
-#include "platform/ui/DataGridDrag.h"
+#include "platform/ui/DragContent.h"
 #include "platform/ui/FileDialog.h"
 #include "platform/ui/GroupTree.h"
 #include "platform/ui/MessageDialog.h"

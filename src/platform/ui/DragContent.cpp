@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/ui/DataGridDrag.h"
+#include "platform/ui/DragContent.h"
 
 #include <QCoreApplication>
 #include <QMimeData>
