@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "modules/core/bGlobal.h"
+#include "platform/ui/ColorNumber.h"
 #include "platform/ui/Contrast.h"
 
 namespace {
@@ -87,10 +88,6 @@ constexpr std::uint32_t valore(int rosso, int verde, int blu) {
     return static_cast<std::uint32_t>(rosso | (verde << 8) | (blu << 16));
 }
 
-QColor colore(std::uint32_t valore) {
-    return QColor(valore & 0xff, (valore >> 8) & 0xff, (valore >> 16) & 0xff);
-}
-
 void ImpostaTestiDisattivati(QPalette& tavolozza) {
     const QColor testo = misto(20, 0, 120);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -166,8 +163,7 @@ std::uint32_t TraduciColore(std::uint32_t valore) {
     if (valore < 0x03000000) return valore;
     const std::uint32_t numero = valore - deiColoriDiSistema;
     if (valore < deiColoriDiSistema || numero >= ruoliDiSistema.size()) return nessuno;
-    const QColor colore = QApplication::palette().color(ruoliDiSistema[numero]);
-    return ::valore(colore.red(), colore.green(), colore.blue());
+    return ui::numberOf(QApplication::palette().color(ruoliDiSistema[numero]));
 }
 
 std::uint32_t MescolaColori(std::uint32_t colore1, std::uint32_t colore2, int quota) {
@@ -212,13 +208,13 @@ QPalette tavolozzaTema() {
 }
 
 QColor coloreTema(int indice) {
-    return colore(coloriTema[indice]);
+    return ui::colorOf(coloriTema[indice]);
 }
 
 QColor misto(int sopra, int sotto, int quota) {
-    return colore(MescolaColori(coloriTema[sopra], coloriTema[sotto], quota));
+    return ui::colorOf(MescolaColori(coloriTema[sopra], coloriTema[sotto], quota));
 }
 
 QColor mistoSuBianco(int sopra, int quota) {
-    return colore(MescolaColori(coloriTema[sopra], valore(255, 255, 255), quota));
+    return ui::colorOf(MescolaColori(coloriTema[sopra], valore(255, 255, 255), quota));
 }
