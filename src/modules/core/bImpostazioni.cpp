@@ -11,3 +11,27 @@ QString PercorsoApp() {
 QString cartellaDati() {
     return PercorsoApp() + QStringLiteral("data/");
 }
+
+QString fileAccount() {
+    return cartellaDati() + QStringLiteral("Account.imp");
+}
+
+QString cartellaDkim() {
+    return cartellaDati() + QStringLiteral("dkim");
+}
+
+QString cartellaOAuth() {
+    return cartellaDati() + QStringLiteral("oauth");
+}
+
+QString cartellaCertificati() {
+    return cartellaDati() + QStringLiteral("certificati");
+}
+
+QString fileServerConTls() {
+    return cartellaDati() + QStringLiteral("tls.txt");
+}
+
+QString fileServerSenzaTls() {
+    return cartellaDati() + QStringLiteral("senza-tls.txt");
+}

@@ -8,3 +8,12 @@ QString PercorsoApp();
 
 /// The folder "data" of the program folder, ending in "/".
 QString cartellaDati();
+
+// What more than one routine names of the data folder.
+
+QString fileAccount();          ///< the sender accounts
+QString cartellaDkim();         ///< keys that sign
+QString cartellaOAuth();        ///< login providers, and the tokens that they gave
+QString cartellaCertificati();  ///< authorities that are trusted besides the system's
+QString fileServerConTls();     ///< servers that have offered TLS
+QString fileServerSenzaTls();   ///< servers that may get a password in the clear

@@ -14,12 +14,11 @@ void ImpostaMittente(mail::DeliveryControl& SMTP, const Account& mittente, Prose
     SMTP.HeloMode = SalutaConHelo(mittente) ? 1 : 0;
     prosegui([&] { SMTP.OutPort = NumeroPorta(mittente.txtOutPort); });
     SMTP.InsideHosts = MxInterni();
-    const QString dati = cartellaDati();
-    SMTP.CertificateFolder = dati + QStringLiteral("certificati");
-    SMTP.TlsListFile = dati + QStringLiteral("tls.txt");
-    SMTP.ClearListFile = dati + QStringLiteral("senza-tls.txt");
-    SMTP.DkimFolder = dati + QStringLiteral("dkim");
-    SMTP.OAuthFolder = dati + QStringLiteral("oauth");
+    SMTP.CertificateFolder = cartellaCertificati();
+    SMTP.TlsListFile = fileServerConTls();
+    SMTP.ClearListFile = fileServerSenzaTls();
+    SMTP.DkimFolder = cartellaDkim();
+    SMTP.OAuthFolder = cartellaOAuth();
 }
 
 bool StradaDiretta(const Account& mittente) {

@@ -33,7 +33,7 @@ DominioMittente mittenteDi(const Account& account) {
     if (server.endsWith('.')) server.chop(1);
     mittente.server = server;
     if (mittente.diretto) mittente.questoComputer = indirizziPubblici();
-    mittente.chiave = mail::readDkimKey(cartellaDati() + "dkim", mittente.dominio);
+    mittente.chiave = mail::readDkimKey(cartellaDkim(), mittente.dominio);
     return mittente;
 }
 

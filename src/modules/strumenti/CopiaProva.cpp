@@ -33,7 +33,7 @@ mail::MessageData DatiMessaggio(const ModelloProva& modello, const CopiaProva& c
     for (const AllegatoMss& allegato : modello.allegati)
         if (allegato.presente) dati.Attachments.Add(allegato.percorso, allegato.nome);
     dati.FilesToCarry = concessi;
-    dati.DkimFolder = cartellaDati() + QStringLiteral("dkim");
+    dati.DkimFolder = cartellaDkim();
     return dati;
 }
 

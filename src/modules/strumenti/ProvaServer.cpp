@@ -29,9 +29,9 @@ mail::Route percorsoServer(const Account& account, const QString& password) {
     prosegui([&] { percorso.port = NumeroPorta(account.txtServerPORT); });
     prosegui([&] { percorso.localPort = NumeroPorta(account.txtOutPort); });
     percorso.greetWithHelo = SalutaConHelo(account);
-    percorso.certificateFolder = cartellaDati() + "certificati";
-    percorso.tlsListFile = cartellaDati() + "tls.txt";
-    percorso.clearListFile = cartellaDati() + "senza-tls.txt";
+    percorso.certificateFolder = cartellaCertificati();
+    percorso.tlsListFile = fileServerConTls();
+    percorso.clearListFile = fileServerSenzaTls();
     percorso.login = ChiedeAccesso(account);
     if (percorso.login) {
         percorso.user = account.txtUsername;
@@ -79,7 +79,7 @@ void ProvaServer::Avvia(const Account& account, const QString& password, Fatto q
         percorso.login = false;
         rinuncia(Words::tr("Il portachiavi non ha dato la password di questo account."), true);
     } else if (percorso.bearer) {
-        gettoni.setFolders(cartellaDati() + "oauth", percorso.certificateFolder);
+        gettoni.setFolders(cartellaOAuth(), percorso.certificateFolder);
         gettoni.get(percorso.host, percorso.user, attesaPasso,
                     [this, rinuncia](const Result<oauth::Access>& accesso) {
                         if (!accesso.ok()) {

@@ -18,16 +18,8 @@
 #include "windows/accounts/frmAccount_elenco.h"
 #include "windows/core/Portachiavi_attesa.h"
 
-namespace {
-
-QString percorsoAccount() {
-    return cartellaDati() + "Account.imp";
-}
-
-}  // namespace
-
 void frmAccount::CaricaAccount() {
-    ::CaricaAccount(percorsoAccount(), account,
+    ::CaricaAccount(fileAccount(), account,
                     [this](const Account& uno, int) { vociCaricate += VoceAccount(uno); });
 }
 
@@ -75,7 +67,7 @@ namespace {
 /// Reports that nothing was written, where the file is another user's; else what the file has lost, before
 /// every recipient sees it. Of a password no character is shown.
 void AvvisaPerdite(const Account& valori) {
-    if (sys::belongsToAnother(percorsoAccount())) {
+    if (sys::belongsToAnother(fileAccount())) {
         ui::MessageDialog::show(
             Words::tr("Gli account non sono stati salvati:\r\nil file Account.imp appartiene a un altro "
                       "utente, che potrebbe leggere le password."),
@@ -118,7 +110,7 @@ void frmAccount::cmdNuovo_Click() {
     const auto custodito = Custodisci(true);
     if (!custodito) return;
     const Account& nuovo = *custodito;
-    const int numero = NuovoAccount(percorsoAccount(), account, nuovo);
+    const int numero = NuovoAccount(fileAccount(), account, nuovo);
     lstAccount->addItem(VoceAccount(nuovo));
     // A list that is shorter than the table has no such position: the choice stays as it is.
     if (numero < lstAccount->count()) {
@@ -137,8 +129,8 @@ void frmAccount::cmdModifica_Click() {
     const Account& valori = *custodito;
     const TabellaAccount prima = account;
     if (QListWidgetItem* voce = lstAccount->item(posizione)) voce->setText(VoceAccount(valori));
-    ModificaAccount(percorsoAccount(), account, lstAccount->count(), posizione, valori);
-    portachiavi::Ripulisci(prima, percorsoAccount(), lstAccount->count());
+    ModificaAccount(fileAccount(), account, lstAccount->count(), posizione, valori);
+    portachiavi::Ripulisci(prima, fileAccount(), lstAccount->count());
     txtPassword->setText(valori.txtPassword);
     AvvisaPerdite(valori);
 }
@@ -149,8 +141,8 @@ void frmAccount::EliminaAccount(int indice) {
     Prosegui prosegui;
     const TabellaAccount prima = account;
     const int voci = lstAccount->count();
-    ::EliminaAccount(percorsoAccount(), account, voci, indice);
-    portachiavi::Ripulisci(prima, percorsoAccount(), voci - 1);
+    ::EliminaAccount(fileAccount(), account, voci, indice);
+    portachiavi::Ripulisci(prima, fileAccount(), voci - 1);
     if (indice >= 0) lstAccount->RemoveItem(indice);
     const int rimaste = lstAccount->count();
     lstAccount->setListIndex(indice + 1 <= rimaste ? indice : rimaste - 1);

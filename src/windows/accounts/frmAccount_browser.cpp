@@ -20,10 +20,6 @@
 
 namespace {
 
-QString cartellaOAuth() {
-    return cartellaDati() + "oauth";
-}
-
 void avvisaAccesso(const QString& testo) {
     ui::MessageDialog::show(testo, ui::MessageDialog::Notice, bVAR::Attenzione);
 }
@@ -37,7 +33,7 @@ std::optional<oauth::Provider> fornitoreDi(const QString& server) {
 }  // namespace
 
 void frmAccount::CollegaBrowser() {
-    consenso = new oauth::Consent(cartellaOAuth(), cartellaDati() + "certificati", this);
+    consenso = new oauth::Consent(cartellaOAuth(), cartellaCertificati(), this);
     connect(consenso, &oauth::Consent::finished, this,
             [this](const Status& esito) { evento([&] { AccessoFinito(esito); }); });
     connect(lnkBrowser, &ui::LinkLabel::activated, this, [this] { evento([this] { lnkBrowser_Click(); }); });

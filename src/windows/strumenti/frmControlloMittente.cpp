@@ -47,7 +47,7 @@ void frmControlloMittente::CaricaDati() {
     cmbAccount->clear();
     Prosegui prosegui;
     const bool letto = prosegui([this] {
-        ::CaricaAccount(cartellaDati() + "Account.imp", account, [this](const Account& uno, int numero) {
+        ::CaricaAccount(fileAccount(), account, [this](const Account& uno, int numero) {
             cmbAccount->addItem(VoceAccount(uno), numero);
         });
     });
@@ -173,7 +173,7 @@ void frmControlloMittente::cmdChiave_Click() {
         avvisa(Words::tr("L'indirizzo email dell'account non è valido."));
         return;
     }
-    const QString cartella = cartellaDati() + "dkim";
+    const QString cartella = cartellaDkim();
     const QString nome = QString::fromLatin1(dominio);
     auto chiave = mail::readDkimKey(cartella, dominio);
     const bool nuova = !chiave.ok() && !mail::hasDkimFiles(cartella, dominio);

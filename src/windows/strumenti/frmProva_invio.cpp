@@ -32,7 +32,7 @@ void frmProva::CaricaAccount() {
     account.clear();
     Prosegui prosegui;
     prosegui([this] {
-        ::CaricaAccount(cartellaDati() + "Account.imp", account, [this](const Account& uno, int numero) {
+        ::CaricaAccount(fileAccount(), account, [this](const Account& uno, int numero) {
             cmbAccount->addItem(VoceAccount(uno), numero);
         });
     });
