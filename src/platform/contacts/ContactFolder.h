@@ -31,7 +31,6 @@ struct Contact {
 class ContactList {
   public:
     std::size_t size() const { return m_ends.size(); }
-    bool empty() const { return m_ends.empty(); }
     /// None for an entry that is no contact, such as a distribution list. `index` is below size().
     std::optional<Contact> operator[](std::size_t index) const;
 

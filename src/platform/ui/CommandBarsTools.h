@@ -20,9 +20,6 @@ class ComboTool : public QComboBox {
     const QString& Description() const { return m_description; }
     void setDescription(const QString& description);
     void AddItem(const QString& text) { addItem(text); }
-    int Count() const { return count(); }
-    /// Counted from 1; empty for one that does not exist.
-    QString Item(int index) const { return itemText(index - 1); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -85,7 +85,7 @@ TEST(HelperOutput, EntryAboveTheBoundEndsTheList) {
 TEST(HelperOutput, DeepNestingIsRubbish) {
     const auto folder = readWhole("{\"count\":3}\n" + QByteArray("{\"a\":").repeated(100000) + '\n');
     ASSERT_TRUE(folder);
-    EXPECT_TRUE(folder->items.empty());
+    EXPECT_EQ(folder->items.size(), 0U);
 }
 
 }  // namespace helper_output_test

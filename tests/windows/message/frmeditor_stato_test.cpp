@@ -189,13 +189,13 @@ class TestStato : public QObject {
 
     void theListsOfFontsAndSizes() {
         const ui::ComboTool& fonts = *bars().GetComboBox("cmbFontName");
-        QCOMPARE(fonts.Count(), QFontDatabase::families().size());
-        for (int i = 2; i <= fonts.Count(); ++i)
-            QVERIFY(QString::compare(fonts.Item(i - 1), fonts.Item(i), Qt::CaseInsensitive) <= 0);
+        QCOMPARE(fonts.count(), QFontDatabase::families().size());
+        for (int i = 1; i < fonts.count(); ++i)
+            QVERIFY(QString::compare(fonts.itemText(i - 1), fonts.itemText(i), Qt::CaseInsensitive) <= 0);
         const ui::ComboTool& sizes = *bars().GetComboBox("cmbFontSize");
-        QCOMPARE(sizes.Count(), 7);
-        QCOMPARE(sizes.Item(1), "1");
-        QCOMPARE(sizes.Item(7), "7");
+        QCOMPARE(sizes.count(), 7);
+        QCOMPARE(sizes.itemText(0), "1");
+        QCOMPARE(sizes.itemText(6), "7");
     }
 
     void theLoadChoosesTheFirstFontAndSizeAndTheLookOfTheSource() {
