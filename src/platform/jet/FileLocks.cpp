@@ -28,19 +28,15 @@ std::string foreignLockFile(const std::string& path) {
 
 void lockContent(OsFile& file, OsFile::Lock kind, const LockWait& wait) {
     if (kind == Lock::Exclusive) {
+        if (file.tryLock(kind, Range::Entrance)) return;  // as a rule: nobody reads
         if (!waitFor(wait, [&] { return file.tryLock(kind, Range::Gate); })) failInUse(file);
         assert(file.isHeld(Range::Gate));  // L4: those who read end, and none begins
         if (waitFor(wait, [&] { return file.tryLock(kind, Range::Content); })) return;
         file.tryLock(Lock::None, Range::Gate);
         failInUse(file);
     }
-    const bool locked = waitFor(wait, [&] {
-        if (!file.tryLock(kind, Range::Gate)) return false;
-        const bool got = file.tryLock(kind, Range::Content);
-        file.tryLock(Lock::None, Range::Gate);
-        return got;
-    });
-    if (!locked) failInUse(file);
+    if (!waitFor(wait, [&] { return file.tryLock(kind, Range::Entrance); })) failInUse(file);
+    file.tryLock(Lock::None, Range::Gate);
 }
 
 void lockWriter(OsFile& file, const LockWait& wait) {

@@ -72,6 +72,12 @@ struct flock requestFor(OsFile::Range range) {
             request.l_start = behind;
             request.l_len = 3;
             break;
+        case OsFile::Range::Entrance:
+            request.l_len = behind + 1;
+            break;
+        case OsFile::Range::Everything:
+            request.l_len = behind + 3;
+            break;
         default:
             request.l_start = behind + static_cast<off_t>(range) - 1;
             request.l_len = 1;

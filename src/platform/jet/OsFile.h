@@ -96,8 +96,9 @@ class OsFile {
     enum class Lock { None, Shared, Exclusive };
     /// What a lock covers: all content, however the file grows, or one of three bytes far beyond it. Gate:
     /// who locks the content has to pass it. Writer: held for a whole transaction. Author: held while the
-    /// journal is hot by the one who wrote it. Aside: these three together.
-    enum class Range { Content, Gate, Writer, Author, Aside };
+    /// journal is hot by the one who wrote it. Aside: these three together. Entrance: the content and the
+    /// gate. Everything: all four.
+    enum class Range { Content, Gate, Writer, Author, Aside, Entrance, Everything };
     /// Changes the advisory lock on a range at once; false when another holder forbids it. The lock belongs
     /// to this open file, so two in one process exclude each other as well.
     bool tryLock(Lock lock, Range range);

@@ -38,8 +38,12 @@ FileState PageFile::lockCurrent(Range range) {
 // Releases everything but what the readers of this file need.
 void PageFile::unlock() {
     if (!m_file.isOpen()) return;
-    m_file.tryLock(m_readers > 0 ? Lock::Shared : Lock::None, Range::Content);
-    m_file.tryLock(Lock::None, Range::Aside);
+    if (m_readers == 0) {
+        m_file.tryLock(Lock::None, Range::Everything);
+    } else {
+        m_file.tryLock(Lock::Shared, Range::Content);
+        m_file.tryLock(Lock::None, Range::Aside);
+    }
 }
 
 void PageFile::beginRead() {
