@@ -64,23 +64,24 @@ bool isRefusedCharacter(char32_t c) {
 }  // namespace
 
 Result<Mailbox> parseAddrSpec(const QString& text) {
-    const Status refusal(ErrorCode::TypeMismatch,
-                         Words::tr("L'indirizzo di posta elettronica non è valido."));
+    const auto refusal = [] {
+        return Status(ErrorCode::TypeMismatch, Words::tr("L'indirizzo di posta elettronica non è valido."));
+    };
     const QString plain = text::trimBlanks(text).toString();
     if (!plain.isValidUtf16() ||
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return isRefusedCharacter(c.unicode()); })) {
-        return refusal;
+        return refusal();
     }
     const qsizetype at = plain.lastIndexOf(u'@');
-    if (at < 0) return refusal;
+    if (at < 0) return refusal();
 
     Mailbox mailbox;
     mailbox.localPart = plain.left(at).toUtf8();
     mailbox.domain = asciiDomain(plain.mid(at + 1));
     mailbox.needsSmtputf8 = !isAscii(plain.left(at));
-    if (!isDotAtom(mailbox.localPart) && !isQuotedString(mailbox.localPart)) return refusal;
-    if (!isDomainName(mailbox.domain) && !isDomainLiteral(mailbox.domain)) return refusal;
-    if (mailbox.address().size() > maximumLength) return refusal;
+    if (!isDotAtom(mailbox.localPart) && !isQuotedString(mailbox.localPart)) return refusal();
+    if (!isDomainName(mailbox.domain) && !isDomainLiteral(mailbox.domain)) return refusal();
+    if (mailbox.address().size() > maximumLength) return refusal();
     return mailbox;
 }
 

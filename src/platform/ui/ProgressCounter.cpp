@@ -55,9 +55,9 @@ void ProgressCounter::setMaximum(double maximum) {
 
 void ProgressCounter::setValue(double value) {
     if (value == m_value) return;
-    const int before = barLength();
+    const int before = isVisible() ? barLength() : 0;
     m_value = value;
-    if (barLength() != before) repaint();
+    if (isVisible() && barLength() != before) repaint();
     constexpr qint64 secondsBetween = 5;
     if (value == 0 || !m_toldAt.isValid() || m_toldAt.secsTo(sys::clock().now()) >= secondsBetween) tell();
     Q_EMIT valueChanged(value);
