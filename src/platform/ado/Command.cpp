@@ -43,22 +43,24 @@ class Deadline {
     int m_calls = 0;
 };
 
-/// Whether the statement marks one row by its number in the primary key, which needs no SQLite.
-bool marksOneRow(const jet::TableDefinition& table, const StatementText::Marking& marking) {
+/// The column, where the statement marks one row by its number in the primary key, which needs no SQLite.
+std::optional<size_t> columnOfOneRow(const jet::TableDefinition& table,
+                                     const StatementText::Marking& marking) {
     const auto column = table.find(marking.column);
     const auto key = marking.key ? table.find(marking.key->column) : std::nullopt;
     // The words may be names as well.
-    return column && key && table.columns[*column].type == jet::Type::YesNo &&
-           key == table.longPrimaryKey() && std::in_range<int32_t>(marking.key->number) &&
-           !table.find("True") && !table.find("False");
+    const bool one = column && key && table.columns[*column].type == jet::Type::YesNo &&
+                     key == table.longPrimaryKey() && std::in_range<int32_t>(marking.key->number) &&
+                     !table.find("True") && !table.find("False");
+    return one ? column : std::nullopt;
 }
 
 /// Returns the number of rows.
-Result<qint64> markOneRow(JetTable& table, const StatementText::Marking& marking) {
+Result<qint64> markOneRow(JetTable& table, size_t column, const StatementText::Marking& marking) {
     const auto id = table.findByPrimaryKey(static_cast<int32_t>(marking.key->number));
     if (!id.ok()) return id.status();
     if (!id.value()) return qint64{0};
-    const std::pair<size_t, jet::Value> change(*table.definition().find(marking.column), marking.value);
+    const std::pair<size_t, jet::Value> change(column, marking.value);
     Status status = table.update(*id.value(), {&change, 1});
     return status.ok() ? Result<qint64>(1) : status;
 }
@@ -92,7 +94,8 @@ Result<qint64> Command::execute() {
         if (!target.ok()) return target.status();
         if (!text.readFrom.isEmpty())
             if (const auto found = session.table(text.readFrom); !found.ok()) return found.status();
-        const bool one = text.marking && marksOneRow(target.value()->definition(), *text.marking);
+        const auto one =
+            text.marking ? columnOfOneRow(target.value()->definition(), *text.marking) : std::nullopt;
         Prepared prepared;
         if (!one) {
             Result<Prepared> made = session.prepare(text.sql, text.values);
@@ -104,7 +107,7 @@ Result<qint64> Command::execute() {
             !refused.ok())
             return refused;
         if (one) {
-            const Result<qint64> rows = markOneRow(*target.value(), *text.marking);
+            const Result<qint64> rows = markOneRow(*target.value(), *one, *text.marking);
             if (rows.ok()) changes = rows.value();
             return rows.status();
         }
