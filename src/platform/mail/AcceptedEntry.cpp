@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#include "platform/mail/Sha256.h"
 #include "platform/text/SameText.h"
 
 namespace mail {
@@ -30,9 +31,11 @@ constexpr qsizetype sealAt = 96;
 constexpr char used = 1;
 
 QByteArray sha256(QByteArrayView octets) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(octets);
-    return hash.result();
+    static thread_local Sha256 kept;
+    kept.begin();
+    kept.add(octets);
+    const QByteArray digest = kept.end();
+    return digest.isEmpty() ? QCryptographicHash::hash(octets, QCryptographicHash::Sha256) : digest;
 }
 
 // The path of a run's database is the same for each of its messages.

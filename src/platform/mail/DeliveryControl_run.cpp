@@ -82,7 +82,9 @@ void DeliveryControl::BeginTick() {
 }
 
 void DeliveryControl::Marked(qint64 number) {
-    if (Accepted) Accepted->remove(DatabaseFile::at(Database), number);
+    if (!Accepted) return;
+    const bool current = m_current.number == number && m_current.database.path == Database;
+    Accepted->remove(current ? m_current.database : DatabaseFile::at(Database), number);
 }
 
 void DeliveryControl::Forget(const QString& database, const QList<qint64>& numbers) {

@@ -16,6 +16,7 @@
 #include "platform/mail/DomainName.h"
 #include "platform/mail/FileStamp.h"
 #include "platform/mail/HeaderText.h"
+#include "platform/mail/Sha256.h"
 #include "platform/system/Clock.h"
 #include "platform/system/OwnFile.h"
 #include "platform/text/Words.h"
@@ -48,41 +49,7 @@ constexpr std::array closed{"From"sv,
 struct FreeKey {
     void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
     void operator()(EVP_PKEY_CTX* context) const { EVP_PKEY_CTX_free(context); }
-    void operator()(EVP_MD* digest) const { EVP_MD_free(digest); }
-    void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
     void operator()(BIO* source) const { BIO_free(source); }
-};
-
-/// SHA-256, looked up once, when it is first needed: that loads the library's tables.
-class Digest {
-  public:
-    void begin() {
-        m_good = kind() && m_context && EVP_DigestInit_ex2(m_context.get(), kind(), nullptr) == 1;
-    }
-    void add(QByteArrayView octets) {
-        m_good = m_good && EVP_DigestUpdate(m_context.get(), octets.data(), size_t(octets.size())) == 1;
-    }
-    /// Empty where the library has failed.
-    QByteArray end() {
-        QByteArray value(EVP_MAX_MD_SIZE, Qt::Uninitialized);
-        unsigned size = 0;
-        m_good = m_good && EVP_DigestFinal_ex(m_context.get(), reinterpret_cast<unsigned char*>(value.data()),
-                                              &size) == 1;
-        value.resize(m_good ? qsizetype(size) : 0);
-        return value;
-    }
-    const EVP_MD* kind() {
-        if (!m_kind) {
-            m_kind.reset(EVP_MD_fetch(nullptr, "SHA256", nullptr));
-            m_context.reset(EVP_MD_CTX_new());
-        }
-        return m_kind.get();
-    }
-
-  private:
-    std::unique_ptr<EVP_MD, FreeKey> m_kind;
-    std::unique_ptr<EVP_MD_CTX, FreeKey> m_context;
-    bool m_good = false;
 };
 
 /// A private key, ready to sign digests of SHA-256 with PKCS #1 v1.5.
@@ -159,7 +126,7 @@ QByteArray takeHeader(QByteArrayView block, QByteArray& signedFields) {
     return names;
 }
 
-QByteArray bodyDigest(Digest& digest, std::vector<QByteArrayView> pieces, qsizetype header) {
+QByteArray bodyDigest(Sha256& digest, std::vector<QByteArrayView> pieces, qsizetype header) {
     pieces.front() = pieces.front().sliced(header);
     digest.begin();
     RelaxedBody body([&digest](QByteArrayView octets) { digest.add(octets); });
@@ -182,7 +149,7 @@ QByteArray foldable(const QByteArray& base64) {
 }  // namespace
 
 struct DkimSigner::State {
-    Digest digest;
+    Sha256 digest;
     RsaKey key;
     QString place;  ///< path of the key and the selector, without their suffixes
     FileStamp keyStamp, selectorStamp;
@@ -241,7 +208,7 @@ Result<QByteArray> DkimSigner::sign(const QString& folder, const QByteArray& dom
                                     const MessageText& message) {
     if (!m_state->find(folder, domain)) return QByteArray();
     if (!m_state->usable.ok()) return m_state->usable;
-    Digest& digest = m_state->digest;
+    Sha256& digest = m_state->digest;
     const auto pieces = message.pieces();
     const qsizetype body = pieces.front().indexOf("\r\n\r\n") + 4;
     const QByteArray bodyHash = bodyDigest(digest, pieces, body);
