@@ -33,7 +33,7 @@ void frmControlloMittente::CreaControlli() {
     // In tab order.
     lblAccount = ui::named(new QLabel(Words::tr("&Account mittente:"), this), "lblAccount");
     cmbAccount = ui::named(new QComboBox(this), "cmbAccount");
-    cmbAccount->setMinimumHeight(ui::fieldHeight);
+    cmbAccount->setMinimumSize(240, ui::fieldHeight);
     cmbAccount->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     cmbAccount->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cmdControlla = ui::commandButton(Words::tr("C&ontrolla"), "cmdControlla", this);
@@ -108,8 +108,10 @@ void frmControlloMittente::CollegaEventi() {
     alClick(cmdChiudi, this, &frmControlloMittente::cmdChiudi_Click);
     connect(grdRighe, &QTableWidget::currentCellChanged, this,
             [this] { evento([this] { MostraDettagli(); }); });
+    // Queued: while rows are being measured, a scroll bar that comes narrows the column, and the rows would
+    // keep the height that they had without it.
     connect(grdRighe->horizontalHeader(), &QHeaderView::sectionResized, grdRighe,
-            &QTableWidget::resizeRowsToContents);
+            &QTableWidget::resizeRowsToContents, Qt::QueuedConnection);
     connect(cmbAccount, &QComboBox::currentIndexChanged, this,
             [this] { evento([this] { AbilitaControlli(); }); });
 }

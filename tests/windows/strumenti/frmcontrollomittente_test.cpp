@@ -115,6 +115,21 @@ class TestFrmControlloMittente : public QObject {
                     .startsWith(lines->item(6, 2)->text()));
     }
 
+    void eachLineIsShownWhole() {
+        Stage stage;
+        QVERIFY(stage.check());
+        const QAbstractItemView& lines = *stage.lines();
+        for (int width = 700; width <= 1000; width += 4) {
+            stage.window.resize(width, 900);
+            QTest::qWait(5);
+            stage.window.resize(width, 380);  // and there is a scroll bar
+            QTest::qWait(5);
+            for (int row = 0; row < stage.lines()->rowCount(); ++row)
+                QVERIFY2(stage.lines()->rowHeight(row) >= lines.sizeHintForRow(row),
+                         qPrintable(QString("row %1 at %2").arg(row).arg(width)));
+        }
+    }
+
     void nameServerThatFailsIsReportedAsWhatItIs() {
         QUdpSocket failing;
         QVERIFY(failing.bind(QHostAddress::LocalHost, 53));
