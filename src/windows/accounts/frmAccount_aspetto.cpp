@@ -211,6 +211,7 @@ QGridLayout* frmAccount::DisponiModulo() {
     campo(lbl[10], txtUsername, nullptr);
     stacca(ui::controlSpacing);
     campo(lbl[11], txtPassword, nullptr);
+    stacca(ui::controlSpacing / 2);  // the box below paints a little over its place, and would hide the rim
     modulo->addWidget(chkPortachiavi, riga++, 1);
     modulo->addWidget(lnkBrowser, riga++, 1, Qt::AlignLeft);
     stacca(ui::controlSpacing);
