@@ -3,11 +3,13 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <QTreeView>
 
 #include "platform/ui/Contrast.h"
+#include "platform/ui/Controls.h"
 
 namespace ui {
 
@@ -115,7 +117,11 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         case CT_LineEdit:
             return wanted.expandedTo({0, 26});
         case CT_PushButton:
+            if (widget && qobject_cast<const QDialogButtonBox*>(widget->parentWidget()))
+                return wanted.expandedTo({qMax(buttonWidth, size.width() + 2 * buttonPadding), buttonHeight});
             return wanted.expandedTo({size.width() + 2 * buttonPadding, 0});
+        case CT_ItemViewItem:
+            return wanted.expandedTo({0, rowHeight});
         default:
             return wanted;
     }
@@ -125,6 +131,20 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (highContrast() && control == CC_ComboBox) drawRim(*option, *painter);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* choice = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (element != CE_ComboBoxLabel || !choice) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionComboBox shown = *choice;
+    const int icon = shown.currentIcon.isNull() ? 0 : shown.iconSize.width() + 4;
+    const int room = subControlRect(CC_ComboBox, choice, SC_ComboBoxEditField, widget).width() - 2 - icon;
+    shown.currentText = shown.fontMetrics.elidedText(shown.currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(element, &shown, painter, widget);
 }
 
 QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {

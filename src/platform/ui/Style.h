@@ -7,7 +7,7 @@
 namespace ui {
 
 /// Fusion with the few changes that the program's look needs: flat disabled texts, boxes whose buttons show
-/// words only, tool buttons, check boxes and fields that are easy to hit, a visible focus rim in the
+/// words only, tool buttons, check boxes, rows and fields that are easy to hit, a visible focus rim in the
 /// palette's highlight colour, and "*" for each character of a password. Where the desktop asks for high
 /// contrast, dark rims and no animation.
 class Style : public QProxyStyle {
@@ -22,6 +22,9 @@ class Style : public QProxyStyle {
                            const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    /// The chosen text of a list that is too narrow for it ends in "…".
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     /// Those of the arrows of bars that are too short, from the program's own theme: each bar asks for one,
     /// and the toolkit's would have the readers of all image formats loaded.
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
