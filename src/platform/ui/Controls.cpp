@@ -21,6 +21,15 @@ class Opening : public QObject {
     }
 };
 
+/// At least as wide as its caption, however narrow the window is: a least size that is set would replace what
+/// the caption asks for.
+class CommandButton : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({ui::buttonWidth, 0}); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 }  // namespace
 
 void ui::openAtLeast(QWidget& window, const QSize& size) {
@@ -43,9 +52,9 @@ void ui::bindLabel(QLabel* label, QWidget* control) {
 }
 
 QPushButton* ui::commandButton(const QString& caption, const QString& name, QWidget* parent) {
-    auto* button = named(new QPushButton(caption, parent), name);
+    auto* button = named<QPushButton>(new CommandButton(caption, parent), name);
     button->setAutoDefault(false);
-    button->setMinimumSize(buttonWidth, buttonHeight);
+    button->setMinimumHeight(buttonHeight);
     button->setAccessibleName(spokenCaption(caption));
     return button;
 }

@@ -16,6 +16,7 @@ namespace ui {
 inline constexpr int windowMargin = 12;   ///< between a window's edge and its content
 inline constexpr int controlSpacing = 8;  ///< between controls that belong together
 inline constexpr int fieldHeight = 26;    ///< least height of a text box or list
+inline constexpr int fieldWidth = 100;    ///< least width of a text box for words
 inline constexpr int rowHeight = 24;      ///< least height of a row of a list
 inline constexpr int buttonWidth = 100;   ///< least width of a command button
 inline constexpr int buttonHeight = 28;   ///< least height of a command button

@@ -15,7 +15,7 @@ namespace ui {
 
 QLineEdit* textField(const QString& name, QWidget* parent) {
     auto* field = named(new LineEdit(parent), name);
-    field->setMinimumHeight(fieldHeight);
+    field->setMinimumSize(scaledToFont(*field, fieldWidth), fieldHeight);
     return field;
 }
 

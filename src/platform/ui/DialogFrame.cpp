@@ -43,13 +43,25 @@ void scrollContent(QWidget& window) {
     window.setMinimumSize(0, 0);
 }
 
+/// The least height of a window whose texts are broken into lines depends on its width. Its layout only knows
+/// that of the width that it asks for, and would squeeze the rest.
+void makeRoomForLines(QWidget& window) {
+    QLayout* content = window.layout();
+    if (!content->hasHeightForWidth()) return;
+    const int needed = content->totalMinimumHeightForWidth(window.width());
+    const int least = qMin(needed, roomFor(window).height());
+    if (least != window.minimumHeight()) window.setMinimumHeight(least);
+}
+
 class InReach : public QObject {
   public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::Show || event->spontaneous()) return false;
         auto* window = static_cast<QWidget*>(watched);
+        const bool placed = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+        if (placed && !m_scrolled) makeRoomForLines(*window);
+        if (event->type() != QEvent::Show || event->spontaneous()) return false;
         const QSize room = roomFor(*window).size();
         const QSize needed = window->layout()->totalMinimumSize();
         if (!m_scrolled && (needed.width() > room.width() || needed.height() > room.height())) {

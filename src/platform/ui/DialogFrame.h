@@ -11,7 +11,8 @@ namespace ui {
 void withoutCloseButton(QWidget& window);
 
 /// The same, for a dialog with a layout that also has to stay in reach on a small screen: whatever size it
-/// asks for, it opens within the screen, and where its content needs more, the content gets scroll bars.
+/// asks for, it opens within the screen, and where its content needs more, the content gets scroll bars. It
+/// cannot be made so low that lines of its texts are cut.
 void setUpDialog(QWidget& dialog);
 
 /// Makes a window no larger than its screen and moves it back onto it.

@@ -20,7 +20,7 @@ RiquadroCartella::RiquadroCartella(const QString& nomeEtichetta, QWidget* parent
       txtCartella(ui::named(new ui::LineEdit("Nuova cartella", this), "txtCartella")) {
     opt[0]->setChecked(true);
     txtCartella->setEnabled(false);
-    txtCartella->setMinimumHeight(ui::fieldHeight);
+    txtCartella->setMinimumSize(ui::scaledToFont(*this, ui::fieldWidth), ui::fieldHeight);
     lbl->setBuddy(opt[0]);
     for (QRadioButton* opzione : opt) {
         opzione->setAccessibleName(ui::spokenCaption(opzione->text()));

@@ -2,6 +2,7 @@
 // Every window with a user's settings: the four colour schemes, a larger font, longer texts; the screen's
 // scale comes from outside (QT_SCALE_FACTOR). With VESTROLA_SHOTS set to a folder, pictures are left there.
 #include <QHeaderView>
+#include <QMainWindow>
 #include <QMenu>
 #include <QScopeGuard>
 #include <QTabBar>
@@ -91,6 +92,22 @@ class TestWindows : public QObject {
         windows.each([&](QWidget& window, const QString& name) {
             faults += faultsOfLayout(window);
             keepPicture(window, QString("%1_%2").arg(name, QTest::currentDataTag()).replace(' ', '_'));
+        });
+        none(faults);
+    }
+
+    void nothingIsCutOrCoveredAtTheSmallestSize_data() { languages(); }
+    void nothingIsCutOrCoveredAtTheSmallestSize() {
+        QFETCH(QByteArray, language);
+        Windows windows(false, language);
+        QStringList faults;
+        windows.each([&](QWidget& window, const QString& name) {
+            // Bars that have no room get an arrow, and tabs can be scrolled.
+            if (qobject_cast<QMainWindow*>(&window)) return;
+            window.resize(1, 1);
+            QTest::qWait(20);
+            faults += faultsOfLayout(window);
+            keepPicture(window, QString("%1_smallest_%2").arg(name, QTest::currentDataTag()));
         });
         none(faults);
     }
