@@ -82,6 +82,8 @@ void frmProva::UsaFile() {
         static_cast<void>(HTML->setDocumentHTML({}));
         lblAllegati->clear();
         txtDestinatario->clear();
+        for (QPushButton* pulsante : {cmdPrecedente, cmdSuccessivo, cmdCerca})
+            pulsante->setEnabled(false);
         Racconta(*lblStato, motivo);
     } else {
         lblStato->clear();

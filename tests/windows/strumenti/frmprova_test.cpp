@@ -98,6 +98,8 @@ class TestFrmProva : public QObject {
         QVERIFY(stage.ends.isEmpty());
         stage.press("cmdInviaProva");
         QCOMPARE(stage.text("lblEsito"), "Scegliere un messaggio prima di inviare la prova.");
+        for (const char* name : {"cmdPrecedente", "cmdSuccessivo", "cmdCerca"})
+            QVERIFY2(!stage.its<QPushButton>(name)->isEnabled(), name);
     }
 
     void aDamagedMessageIsReportedAndTheWindowLivesOn() {
