@@ -214,9 +214,10 @@ std::optional<StatementText::Marking> readMarking(Reader reader) {
     marking.value = reader.take("TRUE");
     if (!marking.value && !reader.take("FALSE")) return std::nullopt;
     if (reader.take("WHERE")) {
-        StatementText::Marking::Key& key = marking.key.emplace();
+        StatementText::Marking::Key key;
         if (!reader.takePlainName(key.column) || !reader.take("=") || !reader.takeWhole(key.number))
             return std::nullopt;
+        marking.key = std::move(key);
     }
     return reader.atEnd() ? std::optional(std::move(marking)) : std::nullopt;
 }
