@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTableView>
 #include <QTreeView>
 
 #include "platform/ui/Contrast.h"
@@ -121,7 +122,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
                 return wanted.expandedTo({qMax(buttonWidth, size.width() + 2 * buttonPadding), buttonHeight});
             return wanted.expandedTo({size.width() + 2 * buttonPadding, 0});
         case CT_ItemViewItem:
-            return wanted.expandedTo({0, rowHeight});
+            // A table sets its rows itself, and adds to what their cells ask for.
+            return qobject_cast<const QTableView*>(widget) ? wanted : wanted.expandedTo({0, rowHeight});
         default:
             return wanted;
     }
