@@ -3,7 +3,8 @@
 # still includes what it uses: tests/check_includes reads each without this.
 
 # what the compiler cache needs to recognise such a source
-target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
+                                                  "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 
 # vestrola_precompiled(<name> HEADERS ... LIBRARIES ...): a target whose precompiled header others reuse
 function(vestrola_precompiled name)

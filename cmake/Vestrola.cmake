@@ -6,16 +6,16 @@ add_library(vestrola_options INTERFACE)
 target_include_directories(vestrola_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(vestrola_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 target_compile_definitions(vestrola_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS)
-if(VESTROLA_COVERAGE OR NOT VESTROLA_TESTS)
-  # sources are included by another one here, which does not make a type of an unnamed namespace a fault
-  target_compile_options(vestrola_options INTERFACE -Wno-subobject-linkage)
-endif()
+# sources are included by another one, which does not make a type of an unnamed namespace a fault
+target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 if(VESTROLA_SANITIZE)
   set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
   set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
+  # the release build, by another compiler, is the one without a warning
   target_compile_options(vestrola_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
-                                                    -fno-omit-frame-pointer)
+                                                    -fno-omit-frame-pointer -w)
   target_link_options(vestrola_options INTERFACE -fsanitize=address,undefined)
+  target_compile_definitions(vestrola_options INTERFACE VESTROLA_SANITIZED)
 endif()
 if(VESTROLA_COVERAGE)
   set(CMAKE_CXX_FLAGS_DEBUG "-O1")

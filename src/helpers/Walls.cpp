@@ -119,7 +119,7 @@ Raised limitOnly() {
     limit(RLIMIT_FSIZE, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     Raised raised;
-#ifndef __SANITIZE_ADDRESS__
+#ifndef VESTROLA_SANITIZED
     raised.memory = limit(RLIMIT_AS, mostMemory);
 #endif
     return raised;

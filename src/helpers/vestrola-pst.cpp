@@ -127,7 +127,7 @@ void printEntries(pst_file& file, const pst_desc_tree* folder) {
 
 }  // namespace
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VESTROLA_SANITIZED
 // Looking for leaks takes a second thread, which the walls forbid.
 extern "C" const char* __asan_default_options() {
     return "detect_leaks=0";

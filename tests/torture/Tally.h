@@ -6,7 +6,7 @@
 #include <string>
 
 /// Whether this is a build under AddressSanitizer, whose memory is no measure of the program's.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(VESTROLA_SANITIZED)
 inline constexpr bool sanitized = true;
 #else
 inline constexpr bool sanitized = false;

@@ -16,7 +16,7 @@ const char* const queue =
     "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind "
     "ASC;";
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VESTROLA_SANITIZED
 constexpr int longList = 20000;  // everything takes ten times as long there
 #else
 constexpr int longList = 100000;

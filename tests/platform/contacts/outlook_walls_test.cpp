@@ -17,7 +17,7 @@ using contacts::readContactFolder;
 
 namespace {
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VESTROLA_SANITIZED
 constexpr bool sanitized = true;
 #else
 constexpr bool sanitized = false;
