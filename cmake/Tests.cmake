@@ -80,8 +80,7 @@ function(vestrola_tests program)
     target_link_libraries(${program} PRIVATE vestrola_test_main)
     target_precompile_headers(${program} REUSE_FROM precompiled_gtest)
   endif()
-  # a type of an unnamed namespace as a member is no fault in a source that another one includes
-  target_compile_options(${program} PRIVATE ${VESTROLA_TEST_OPTIONS} -Wno-subobject-linkage)
+  target_compile_options(${program} PRIVATE ${VESTROLA_TEST_OPTIONS})
   target_include_directories(${program} PRIVATE ${CMAKE_CURRENT_BINARY_DIR} ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${program} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
                                                 SHARED_DIR="${CMAKE_SOURCE_DIR}/../shared"
