@@ -11,9 +11,8 @@ target_compile_options(vestrola_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-
 if(VESTROLA_SANITIZE)
   set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
   set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
-  # the release build, by another compiler, is the one without a warning
   target_compile_options(vestrola_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
-                                                    -fno-omit-frame-pointer -w)
+                                                    -fno-omit-frame-pointer)
   target_link_options(vestrola_options INTERFACE -fsanitize=address,undefined)
   target_compile_definitions(vestrola_options INTERFACE VESTROLA_SANITIZED)
 endif()
