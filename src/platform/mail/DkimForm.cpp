@@ -2,10 +2,8 @@
 #include "platform/mail/DkimForm.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <cstdint>
-#include <cstring>
+
+#include "platform/mail/OctetGroup.h"
 
 namespace mail {
 namespace {
@@ -38,15 +36,6 @@ bool isOdd(char c, char next) {
     return c == '\t' || (c == ' ' && (next == ' ' || next == '\r')) || (next == '\n' && c != '\r');
 }
 
-constexpr qsizetype groupSize = 16;
-using Group = signed char __attribute__((vector_size(groupSize)));
-
-Group groupAt(const char* octets) {
-    Group group;
-    std::memcpy(&group, octets, groupSize);
-    return group;
-}
-
 /// The number of octets before the first odd one, or before the last one.
 qsizetype evenLength(QByteArrayView lines) {
     qsizetype at = 0;
@@ -55,7 +44,7 @@ qsizetype evenLength(QByteArrayView lines) {
         const Group odd = (here == Group{} + '\t') |
                           ((here == Group{} + ' ') & ((next == Group{} + ' ') | (next == Group{} + '\r'))) |
                           ((next == Group{} + '\n') & (here != Group{} + '\r'));
-        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(odd);
+        const auto halves = halvesOf(odd);
         if ((halves[0] | halves[1]) != 0) break;
     }
     while (at + 1 < lines.size() && !isOdd(lines[at], lines[at + 1]))

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/mail/OctetGroup.h"
+
 namespace mail {
 namespace {
 
@@ -29,18 +31,14 @@ Kind kindOf(char c) {
     return kinds[static_cast<unsigned char>(c)];
 }
 
-constexpr std::ptrdiff_t groupSize = 16;
-using Group = signed char __attribute__((vector_size(groupSize)));
-
 // Copies sixteen octets; returns how many of them come before the first that is outside the range from the
 // blank to "~" or is "=".
 std::ptrdiff_t copyGroup(char* to, const char* from) {
-    Group octets;
-    std::memcpy(&octets, from, groupSize);
+    const Group octets = groupAt(from);
     std::memcpy(to, &octets, groupSize);
     // Those with the highest bit are negative. Each octet of the result is all ones or zero.
     const Group others = (octets < Group{} + ' ') | (octets == Group{} + '\x7F') | (octets == Group{} + '=');
-    const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(others);
+    const auto halves = halvesOf(others);
     if ((halves[0] | halves[1]) == 0) return groupSize;
     constexpr auto before = [](std::uint64_t half) {
         return (std::endian::native == std::endian::big ? std::countl_zero(half) : std::countr_zero(half)) /
