@@ -8,6 +8,7 @@
 #include <QNetworkDatagram>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
 #include <QUdpSocket>
@@ -121,12 +122,12 @@ class TestFrmControlloMittente : public QObject {
         const QAbstractItemView& lines = *stage.lines();
         for (int width = 700; width <= 1000; width += 4) {
             stage.window.resize(width, 900);
-            QTest::qWait(5);
-            stage.window.resize(width, 380);  // and there is a scroll bar
-            QTest::qWait(5);
+            QTRY_VERIFY(!lines.verticalScrollBar()->isVisible());
+            stage.window.resize(width, 380);
+            QTRY_VERIFY(lines.verticalScrollBar()->isVisible());
             for (int row = 0; row < stage.lines()->rowCount(); ++row)
-                QVERIFY2(stage.lines()->rowHeight(row) >= lines.sizeHintForRow(row),
-                         qPrintable(QString("row %1 at %2").arg(row).arg(width)));
+                QTRY_VERIFY2(stage.lines()->rowHeight(row) >= lines.sizeHintForRow(row),
+                             qPrintable(QString("row %1 at %2").arg(row).arg(width)));
         }
     }
 
