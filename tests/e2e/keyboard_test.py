@@ -28,9 +28,18 @@ def type_file(title, path):
     """Answers the file dialog of that title with the keyboard."""
     chooser = Window("dialog", title)
     chooser.wait_focus("text", "Nome del file:")
-    type_text(path)
+    type_path(chooser, path)
     keys("Return")
     chooser.gone()
+
+
+def type_path(chooser, path):
+    """As a hand does, no letter before the last one is seen: keys that arrive together while the dialog's list of suggestions opens
+    or closes are lost on a busy machine."""
+    field = chooser.find("text", "Nome del file:")
+    for number, letter in enumerate(str(path), 1):
+        type_text(letter)
+        wait_for(lambda typed=str(path)[:number]: field.queryText().getText(0, -1) == typed, f"{letter!r} of {path} to be typed")
 
 
 def choose_text_file(path, *boxes):

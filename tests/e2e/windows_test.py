@@ -19,7 +19,7 @@ desktop.inside(SIZE)
 os.environ["QT_SCALE_FACTOR"] = SCALE
 import pyatspi  # noqa: E402  looks for the bus when it is imported
 from accessible import Window, extents, has, wait_for  # noqa: E402
-from keyboard_test import add_recipient, keys, make_group, tick, type_text  # noqa: E402
+from keyboard_test import add_recipient, keys, make_group, tick, type_path  # noqa: E402
 
 
 def property_of(window, name):
@@ -114,7 +114,7 @@ def check_file_dialog(stage, main_window, main):
     where = pyatspi.findDescendant(chooser.frame, lambda one: one.getRoleName() == "combo box" and "Documenti" in one.name)
     if not where:
         fail("the file dialog does not start in the documents")
-    type_text(stage.program_folder / "data" / "data.mdb")
+    type_path(chooser, stage.program_folder / "data" / "data.mdb")
     keys("Return")
     chooser.gone()
     wait_for(lambda: active() == main, "the main window to be active after the file dialog")
