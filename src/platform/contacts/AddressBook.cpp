@@ -34,7 +34,7 @@ QStringList cardFiles(const QString& folder) {
 std::vector<Card> readCardFile(const QString& path) {
     QFile file;
     if (!text::openForInput(file, path).ok()) return {};
-    const QByteArray bytes = file.read(largestFile + 1);
+    const QByteArray bytes = file.read(std::min(file.size(), largestFile) + 1);
     if (bytes.size() > largestFile) return {};
     return path.endsWith(QLatin1String(".ldif"), Qt::CaseInsensitive) ? readLdif(bytes) : readVCards(bytes);
 }

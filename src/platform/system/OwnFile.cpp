@@ -5,6 +5,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <algorithm>
 #include <cerrno>
 #include <QFile>
 #include <QFileInfo>
@@ -61,7 +62,8 @@ Result<QByteArray> readPart(int open, qint64 offset, qint64 size) {
     QFile file;
     if (!file.open(open, QIODevice::ReadOnly) || !file.seek(offset))
         return Status(ErrorCode::DeviceIo, file.errorString());
-    QByteArray bytes = file.read(size);
+    // read() makes room for all that it is asked for, and a bound is far above most files
+    QByteArray bytes = file.read(std::clamp<qint64>(file.size() - offset, 0, size));
     if (file.error() != QFileDevice::NoError) return Status(ErrorCode::DeviceIo, file.errorString());
     return bytes;
 }
