@@ -17,9 +17,9 @@ Variabile variabileDi(schema::Campo campo) {
 
 const std::array<Variabile, schema::numeroCampi>& VariabiliMessaggio() {
     static const auto variabili = [] {
-        std::array<Variabile, schema::numeroCampi> nuove;
-        std::ranges::transform(schema::ordineSegnaposto, nuove.begin(), variabileDi);
-        return nuove;
+        std::array<Variabile, schema::numeroCampi> elenco;
+        std::ranges::transform(schema::ordineSegnaposto, elenco.begin(), variabileDi);
+        return elenco;
     }();
     return variabili;
 }

@@ -12,7 +12,6 @@
 #include <tuple>
 #include <utility>
 
-#include "modules/accounts/Portachiavi.h"
 #include "modules/core/bFunctions.h"
 #include "modules/core/bGlobal.h"
 #include "modules/core/bImpostazioni.h"
@@ -34,7 +33,7 @@
 #include "platform/text/Words.h"
 #include "platform/ui/MessageDialog.h"
 #include "platform/ui/ProgressCounter.h"
-#include "platform/ui/WaitNotice.h"
+#include "windows/core/Portachiavi_attesa.h"
 #include "windows/send/Accettati_avviso.h"
 #include "windows/send/frmInvia.h"
 
@@ -71,9 +70,9 @@ void frmInvia::CaricaDati() {
 
 void frmInvia::CaricaAccount() {
     cmbAccount->clear();
-    const bool letto = ::CaricaAccount(
-        cartellaDati() + "Account.imp", account,
-        [this](const Account& uno, int numero) { cmbAccount->addItem(VoceAccount(uno), numero); });
+    const bool letto = ::CaricaAccount(fileAccount(), account, [this](const Account& uno, int numero) {
+        cmbAccount->addItem(VoceAccount(uno), numero);
+    });
     // The list chooses its first entry by itself; the one to choose is the account numbered 0.
     if (letto)
         cmbAccount->setCurrentIndex(cmbAccount->findText(VoceAccount(account.front()), Qt::MatchExactly));
@@ -212,7 +211,7 @@ bool frmInvia::PreparaElenco() {
 /// Reports a key that cannot sign before a whole run goes out without a signature.
 void frmInvia::AvvisaFirma() {
     const Account& mittente = account.at(cmbAccount->currentData().toInt());
-    const Status firma = mail::DkimSigner::usable(cartellaDati() + "dkim", mittente.txtEmail);
+    const Status firma = mail::DkimSigner::usable(cartellaDkim(), mittente.txtEmail);
     if (!firma.ok())
         MessageDialog::show(
             firma.text() + "\r\n" + Words::tr("I messaggi di questo invio partono senza firma."),
@@ -232,10 +231,7 @@ void frmInvia::Rilascia() {
 
 void frmInvia::ImpostaConsegna(Prosegui& prosegui, int indiceAccount) {
     const Account& mittente = account.at(indiceAccount);
-    ui::WaitNotice attesa(
-        Words::tr("In attesa del portachiavi… Esc per rinunciare"), [](const QString&) {}, nullptr);
-    passwordMittente = portachiavi::PasswordDi(mittente, [&](auto passato) { return attesa.goOn(passato); });
-    attesa.over();
+    passwordMittente = portachiavi::PasswordConAttesa(mittente);
     ImpostaMittente(*SMTP, mittente, prosegui);
     ImpostaTimeout(prosegui);
     SMTP->BodyFormat = 1;
