@@ -79,12 +79,18 @@ struct Windows {
         show(finestre::UltimaImportazione(), "frmUltimaImportazione");
     }
 
+    /// Works off what showing or resizing a window has left to do: layouts, and timers that run out at once.
+    static void settle() {
+        for (int round = 0; round < 4; ++round)
+            QCoreApplication::processEvents();
+    }
+
     /// Shows one window after the other and calls `look` with each.
     void each(const std::function<void(QWidget&, const QString&)>& look) {
         const auto show = [&](QWidget& window, const QString& name) {
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
-            QTest::qWait(20);
+            settle();
             look(window, name);
             window.hide();
         };
