@@ -7,6 +7,7 @@
 
 #include "modules/accounts/AccountFile.h"
 #include "modules/core/Fallimento.h"
+#include "support/MemoryFolder.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ bool read(const QString& path, TabellaAccount& table) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const QTemporaryDir folder;
+    static const QTemporaryDir folder(memoryFolderPattern());
     const QString path = folder.filePath(QStringLiteral("Account.imp"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) std::abort();

@@ -72,7 +72,7 @@ class List {
         demand(command.execute().ok());
     }
 
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{memoryFolderPattern()};
     int m_changes = 0;
 };
 

@@ -9,6 +9,7 @@
 
 #include "platform/mail/Composer.h"
 #include "platform/mail/wire_reader.h"
+#include "support/MemoryFolder.h"
 #include "support/WholeText.h"
 
 namespace {
@@ -28,7 +29,7 @@ struct Files {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) std::abort();
     }
-    QTemporaryDir folder;
+    QTemporaryDir folder{memoryFolderPattern()};
     const QString image = folder.filePath(QStringLiteral("logo.png"));
     const QString attachment = folder.filePath(QStringLiteral("dati"));
 };

@@ -8,9 +8,10 @@
 
 #include "modules/core/Fallimento.h"
 #include "modules/message/MessaggioMss.h"
+#include "support/MemoryFolder.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const QTemporaryDir folder;
+    static const QTemporaryDir folder(memoryFolderPattern());
     const QString path = folder.filePath(QStringLiteral("m.mss"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) std::abort();

@@ -12,6 +12,7 @@
 #include "modules/core/bImpostazioni.h"
 #include "modules/message/CopiaRecupero.h"
 #include "platform/system/ProgramFolder.h"
+#include "support/MemoryFolder.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ MessaggioRecuperato left(const MessaggioRecuperato& message) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const QTemporaryDir folder;
+    static const QTemporaryDir folder(memoryFolderPattern());
     sys::setProgramFolder(folder.path());
     if (!QDir(folder.path()).mkpath(QStringLiteral("data/recuperati"))) std::abort();
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
