@@ -15,8 +15,8 @@ namespace testing_support {
 
 namespace {
 
-constexpr int patienceMs = 30000;
-constexpr int sliceMs = 20;
+constexpr int postfixPatienceMs = 30000;
+constexpr int askAgainMs = 20;
 
 // %1: the temporary folder
 const char* const settings = R"(compatibility_level = 3.6
@@ -132,7 +132,7 @@ bool Postfix::run(const QString& program, const QStringList& arguments, const QB
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    const bool done = process.waitForFinished(patienceMs) && process.exitCode() == 0;
+    const bool done = process.waitForFinished(postfixPatienceMs) && process.exitCode() == 0;
     if (!done) m_problem = program + ' ' + arguments.join(' ') + ": " + process.errorString() + log();
     return done;
 }
@@ -148,7 +148,7 @@ QByteArray Postfix::log() const {
 
 QByteArrayList Postfix::mail(qsizetype count) const {
     const QDir box(path("mail/box/new"));
-    for (int waited = 0; waited < patienceMs; waited += sliceMs) {
+    for (int waited = 0; waited < postfixPatienceMs; waited += askAgainMs) {
         const QStringList names = QDir(box.path()).entryList(QDir::Files);
         if (names.size() >= count) {
             QByteArrayList messages;
@@ -158,7 +158,7 @@ QByteArrayList Postfix::mail(qsizetype count) const {
             }
             return messages;
         }
-        QThread::msleep(sliceMs);
+        QThread::msleep(askAgainMs);
     }
     return {};
 }

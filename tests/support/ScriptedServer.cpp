@@ -14,7 +14,7 @@ namespace testing_support {
 
 namespace {
 
-constexpr int patienceMs = 15000;
+constexpr int serverPatienceMs = 15000;
 constexpr int sliceMs = 20;
 
 /// Returns bare descriptors, so that the socket can be made where it is used.
@@ -48,7 +48,7 @@ ScriptedServer::~ScriptedServer() {
 }
 
 std::string ScriptedServer::remainder() {
-    if (!wait(patienceMs)) {
+    if (!wait(serverPatienceMs)) {
         requestInterruption();
         wait();
     }
@@ -137,7 +137,7 @@ void ScriptedServer::step(const QByteArray& line) {
         m_socket->setSslConfiguration(configuration);
         m_socket->startServerEncryption();
         // A client that refuses the certificate may do so when the handshake has ended on this side.
-        if (!m_socket->waitForEncrypted(patienceMs) && line == "TLS")
+        if (!m_socket->waitForEncrypted(serverPatienceMs) && line == "TLS")
             throw Unexpected{"no handshake: " + m_socket->errorString().toUtf8()};
         if (line == "TLSFAIL") waitForEnd();
     } else if (line == "WAIT") {
