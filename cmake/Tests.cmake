@@ -27,6 +27,11 @@ set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_st
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
                         test_jet_open test_import_imptxt_guasti
                         test_contacts_outlook_file test_import_impdb_guasti)
+# Those of them that compute all the time. Of ten tests at a time, two of these run: with more, the browser of a third would not
+# answer in the time that the program gives it.
+set(VESTROLA_BUSY_TESTS test_message_frmeditor_integro test_html_view_corpus test_jet_random test_ado_samples_write test_jet_room
+                        test_jet_index test_jet_samples test_jet_index_kind test_jet_journal test_ado_orders
+                        test_import_imptxt_guasti test_import_impdb_guasti)
 
 # vestrola_read_together(<target> SOURCES...): writes files that include these sources of the current folder, and adds them
 function(vestrola_read_together target)
@@ -111,6 +116,9 @@ function(vestrola_tests program)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
     if(name IN_LIST VESTROLA_LONG_TESTS)
       set_tests_properties(${name} PROPERTIES COST 100)
+    endif()
+    if(name IN_LIST VESTROLA_BUSY_TESTS)
+      set_tests_properties(${name} PROPERTIES PROCESSORS 4)
     endif()
     if(ARG_WINDOWS)
       set_tests_properties(${name} PROPERTIES ENVIRONMENT "${VESTROLA_WINDOW_ENVIRONMENT}")
