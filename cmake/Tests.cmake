@@ -27,8 +27,8 @@ set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_st
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
                         test_jet_open test_import_imptxt_guasti
                         test_contacts_outlook_file test_import_impdb_guasti)
-# Those of them that compute all the time. Of ten tests at a time, two of these run: with more, the browser of a third would not
-# answer in the time that the program gives it.
+# Those of them that compute all the time under sanitizers. Of ten tests at a time, two of these run there: with more, the browser of
+# a third would not answer in the time that the program gives it.
 set(VESTROLA_BUSY_TESTS test_message_frmeditor_integro test_html_view_corpus test_jet_random test_ado_samples_write test_jet_room
                         test_jet_index test_jet_samples test_jet_index_kind test_jet_journal test_ado_orders
                         test_import_imptxt_guasti test_import_impdb_guasti)
@@ -117,7 +117,7 @@ function(vestrola_tests program)
     if(name IN_LIST VESTROLA_LONG_TESTS)
       set_tests_properties(${name} PROPERTIES COST 100)
     endif()
-    if(name IN_LIST VESTROLA_BUSY_TESTS)
+    if(VESTROLA_SANITIZE AND name IN_LIST VESTROLA_BUSY_TESTS)
       set_tests_properties(${name} PROPERTIES PROCESSORS 4)
     endif()
     if(ARG_WINDOWS)
