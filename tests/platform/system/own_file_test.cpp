@@ -56,6 +56,15 @@ TEST_F(OwnFileTest, ReadingIsBounded) {
     EXPECT_FALSE(sys::readOwnFile(folder.filePath("tubo"), 3).ok());
 }
 
+TEST_F(OwnFileTest, AShortFileTakesNoRoomForItsBound) {
+    ASSERT_TRUE(sys::replaceOwnFile(path, "1234").ok());
+    const QByteArray bytes = sys::readOwnFile(path, 64 << 20).value();
+    EXPECT_EQ(bytes, "1234");
+    EXPECT_LT(bytes.capacity(), 1024);
+    EXPECT_EQ(sys::readOwnFilePart(path, 2, 64 << 20).value(), "34");
+    EXPECT_EQ(sys::readOwnFilePart(path, 9, 64 << 20).value(), "");
+}
+
 TEST_F(OwnFileTest, AFolderThatIsALinkIsRefusedWhereItIsAStrangers) {
     QDir(folder.path()).mkdir("vera");
     link(folder.filePath("vera"));
