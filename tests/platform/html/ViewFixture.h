@@ -57,12 +57,17 @@ inline void settle(const HtmlView& view) {
     view.evaluate(QStringLiteral("1"));  // the answer to the page's last message comes before this one's
 }
 
-/// Ends the process that contains the document, as a crash would.
-inline void killRenderer(const HtmlView& view) {
+/// The process that contains the document.
+inline pid_t rendererOf(const HtmlView& view) {
     const auto* page = view.findChild<QObject*>(QStringLiteral("page"));
     const qint64 process = page->property("renderProcessPid").toLongLong();
-    if (process <= 0) qFatal("no process to end");
-    ::kill(static_cast<pid_t>(process), SIGKILL);
+    if (process <= 0) qFatal("the view has no process");
+    return static_cast<pid_t>(process);
+}
+
+/// Ends that process, as a crash would.
+inline void killRenderer(const HtmlView& view) {
+    ::kill(rendererOf(view), SIGKILL);
 }
 
 /// Ends that process and waits until the view knows. The view may be live again afterwards: a new process can

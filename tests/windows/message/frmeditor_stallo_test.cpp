@@ -23,20 +23,15 @@ namespace {
 /// Stops the process that has the view's document for the object's lifetime.
 class Stall {
   public:
-    explicit Stall(const HtmlView& view)
-        : m_process(
-              view.findChild<QObject*>(QStringLiteral("page"))->property("renderProcessPid").toLongLong()) {
-        if (m_process <= 0) qFatal("no process to hold");
-        send(SIGSTOP);
-    }
+    explicit Stall(const HtmlView& view) : m_process(rendererOf(view)) { send(SIGSTOP); }
     ~Stall() { send(SIGCONT); }
     Stall(const Stall&) = delete;
     Stall& operator=(const Stall&) = delete;
 
   private:
-    void send(int signal) const { ::kill(static_cast<pid_t>(m_process), signal); }
+    void send(int signal) const { ::kill(m_process, signal); }
 
-    qint64 m_process;
+    const pid_t m_process;
 };
 
 }  // namespace
