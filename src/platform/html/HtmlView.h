@@ -27,7 +27,8 @@ class QPrinter;
 /// text that was last known; the undo list is empty then.
 ///
 /// A browser that does not answer in time is a failure of the call (Timeout): a query has no result,
-/// never an outdated one; a change may still happen when the browser continues. After such a failure the
+/// never an outdated one; a change may still happen when the browser continues. The time in which it waits
+/// for a processor, on a machine that is busy with other things, does not count. After such a failure the
 /// next calls but documentHTML() and responds() wait for a moment only, until the browser answers
 /// again. A browser that cannot be loaded is a failure too (FileNotFound), except for the text of the
 /// document.

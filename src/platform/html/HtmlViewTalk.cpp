@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <optional>
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
@@ -14,6 +16,7 @@
 #include "platform/html/Bounds.h"
 #include "platform/html/ClipboardContent.h"
 #include "platform/html/HtmlViewLive.h"
+#include "platform/system/ProcessorWait.h"
 #include "platform/text/Words.h"
 
 // The communication of a view with the editing scripts: questions with their answers, and the scripts' own
@@ -26,6 +29,8 @@ constexpr int millisecondsPerMegabyte = 10000;
 constexpr int stalledMilliseconds = 300;
 constexpr int strokesMilliseconds = 400;
 constexpr int hourglassMilliseconds = 150;
+constexpr int quickMilliseconds = 100;
+constexpr int shortestWaitMilliseconds = 20;
 
 // What comes from outside has the bounds of a body
 Status contentFits(const QJsonObject& content) {
@@ -174,16 +179,23 @@ bool HtmlView::Live::dropped(const QPoint& place, const QMimeData& data) {
     return true;
 }
 
+// On a machine that is busy with other things the browser needs longer: what it waits for a processor does
+// not count. Only a longer wait looks at that.
 bool HtmlView::Live::waitFor(const std::function<bool()>& done, int milliseconds) {
     if (done()) return true;
     const Hourglass hourglass;
     QElapsedTimer elapsed;
     elapsed.start();
+    std::optional<ProcessorWait> others;
     while (!done()) {
-        const qint64 left = milliseconds - elapsed.elapsed();
+        if (!others && elapsed.elapsed() >= quickMilliseconds && browser.widget != nullptr)
+            others.emplace(browser.process());
+        const qint64 left = milliseconds - elapsed.elapsed() + (others ? others->milliseconds() : 0);
         if (left <= 0) return false;
+        const int longest = others ? milliseconds : quickMilliseconds;
         QEventLoop loop;
-        QTimer::singleShot(static_cast<int>(left), &loop, &QEventLoop::quit);
+        QTimer::singleShot(std::clamp(static_cast<int>(left), shortestWaitMilliseconds, longest), &loop,
+                           &QEventLoop::quit);
         m_waiting.push_back(&loop);
         // The caller may itself be handling a queued event: those queued after it, the browser's among them,
         // would otherwise wait until something new comes.

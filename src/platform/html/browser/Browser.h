@@ -32,6 +32,8 @@ struct Browser {
     std::function<void(QPrinter&, std::function<void(bool)> done)> print;
     /// Font of text that names none, or none that is there. Applies to documents that are loaded later.
     std::function<void(const QString& family)> setStandardFont;
+    /// The process that has the document; 0 where there is none.
+    std::function<qint64()> process;
 };
 
 /// The plug-in's notifications. Always from the event loop, never during a call.

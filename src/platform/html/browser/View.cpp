@@ -79,6 +79,7 @@ extern "C" Q_DECL_EXPORT void createBrowser(QWidget* parent, const BrowserEvents
                          const std::function<void(const QByteArray&)>& done) {
         view->printToPdf(layout, ranges, done);
     };
+    browser.process = [view] { return view->document().renderProcessPid(); };
     browser.print = [view](QPrinter& printer, const std::function<void(bool)>& done) {
         QObject::connect(view, &QWebEngineView::printFinished, view, done, Qt::SingleShotConnection);
         view->print(&printer);
