@@ -27,8 +27,8 @@ set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_st
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
                         test_jet_open test_import_imptxt_guasti
                         test_contacts_outlook_file test_import_impdb_guasti)
-# Those of them that compute all the time under sanitizers. Of ten tests at a time, two of these run there: with more, the browser of
-# a third would not answer in the time that the program gives it.
+# Those of them that compute all the time under sanitizers. Of ten tests at a time, two of these run there: with more, the longest
+# would last longer than a test may.
 set(VESTROLA_BUSY_TESTS test_message_frmeditor_integro test_html_view_corpus test_jet_random test_ado_samples_write test_jet_room
                         test_jet_index test_jet_samples test_jet_index_kind test_jet_journal test_ado_orders
                         test_import_imptxt_guasti test_import_impdb_guasti)
