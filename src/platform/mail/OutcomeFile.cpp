@@ -27,16 +27,16 @@ void OutcomeFile::add(const DatabaseFile& database, const OutcomeLine& line) {
         if (line.kind == OutcomeKind::Delivered) delivered.insert(*line.number);
     }
     QByteArray lines;
-    if (!m_file.isOpen() || !m_head.database.same(database)) {
+    if (m_size == 0 || !m_head.database.same(database)) {
         m_head.database = database;
         lines = m_head.bytes();
     }
-    if (!m_file.isOpen()) open();
-    if (!m_file.isOpen()) return;
     if (line.kind != OutcomeKind::Delivered) m_lastFailure = m_size + lines.size();
     lines += line.bytes();
     m_size += lines.size();
-    write(lines);
+    m_unwritten += lines;
+    if (!m_file.isOpen()) open();
+    if (m_file.isOpen()) write();
 }
 
 void OutcomeFile::open() {
@@ -50,9 +50,8 @@ void OutcomeFile::open() {
     if (m_status.ok()) outcomes::removeOld(m_folder);
 }
 
-void OutcomeFile::write(const QByteArray& lines) {
+void OutcomeFile::write() {
     m_status = {};
-    m_unwritten += lines;
     while (!m_unwritten.isEmpty()) {
         const ssize_t wrote =
             ::write(m_file.handle(), m_unwritten.constData(), static_cast<size_t>(m_unwritten.size()));

@@ -34,14 +34,14 @@ class OutcomeFile {
 
   private:
     void open();
-    void write(const QByteArray& lines);
+    void write();
 
     const QString m_folder;
     OutcomeHead m_head;
     QString m_path;
     QFile m_file;  ///< written by its descriptor, without a buffer
     Status m_status;
-    QByteArray m_unwritten;                    ///< lines that found no room yet
+    QByteArray m_unwritten;                    ///< lines that are not in the file yet
     qint64 m_size = 0;                         ///< of the file, with what is unwritten
     QHash<QString, QSet<qint64>> m_delivered;  ///< numbers by the database's path
     std::optional<qint64> m_lastFailure;       ///< where its line begins

@@ -328,14 +328,20 @@ TEST_F(OutcomeBook, LastFiftyRunsAreKept) {
     EXPECT_EQ(files(), QStringList("nota.txt"));
 }
 
-TEST_F(OutcomeBook, FolderThatCannotBeMadeHarmsNoDelivery) {
+TEST_F(OutcomeBook, FolderThatCannotBeMadeHarmsNoDeliveryAndLosesNoLine) {
     ASSERT_TRUE(QFile(folder.chopped(1)).open(QFile::WriteOnly));
-    EXPECT_TRUE(client.tick(7).done);
-    EXPECT_FALSE(client.smtp.BookStatus().ok());
+    for (const qint64 number : {6, 7}) {
+        EXPECT_TRUE(client.tick(number).done);
+        EXPECT_FALSE(client.smtp.BookStatus().ok());
+    }
     EXPECT_TRUE(QFile::remove(folder.chopped(1)));
     EXPECT_TRUE(client.tick(8).done);
     EXPECT_TRUE(client.smtp.BookStatus().ok());
-    EXPECT_EQ(only().number, 8);
+    EXPECT_EQ(outcomes::runs(folder).value(0).head.database.path, database);
+    const auto all = lines();
+    ASSERT_EQ(all.size(), 3);
+    for (qint64 i = 0; i < all.size(); ++i)
+        EXPECT_EQ(all[i].number, i + 6);
 }
 
 TEST_F(OutcomeBook, LineThatFoundNoRoomIsCompletedLater) {
