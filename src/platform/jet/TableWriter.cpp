@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <cassert>
+#include <optional>
 
 #include "platform/jet/AutoNumber.h"
 #include "platform/jet/Engine.h"
@@ -141,6 +142,9 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         const Column* counter = autoNumberColumn(table);
         const bool numbered = counter && row.isNull(*counter);
         if (numbered) row.set(*counter, int64_t{nextAutoNumber(*m_state)});
+        const std::optional<int32_t> number = counter ? row.longValue(*counter) : std::nullopt;
+        if (counter && !number)  // another field has its place
+            failDamaged("un campo della tabella a pagina %1 non ha posto nelle righe"_tr, table.page);
         for (const Column& column : table.columns)
             requireAllowed(column, row);
         std::vector<Bytes> keys;
@@ -156,9 +160,8 @@ Result<RowId> Table::insert(std::span<const Value> values) {
         RowId id;
         apply(*m_state, [&] {
             storeLong(*m_state, row, longs);
-            if (counter && *row.longValue(*counter) > m_state->lastAutoNumber())
-                m_state->setAutoNumber(*row.longValue(*counter));
-            assert(!counter || *row.longValue(*counter) <= m_state->lastAutoNumber());  // D2
+            if (number && *number > m_state->lastAutoNumber()) m_state->setAutoNumber(*number);
+            assert(!number || *number <= m_state->lastAutoNumber());  // D2
             id = m_state->rows.insert(longs.empty() ? bytes : row.bytes());
             for (size_t i = 0; i < keys.size(); ++i)
                 insertEntry(*m_state, i, row, keys[i], id);

@@ -2,6 +2,7 @@
 // Auto-numbers of files whose counter is below the greatest number in use, as in some real ones.
 #include <limits>
 
+#include "platform/jet/Format.h"
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
 
@@ -119,6 +120,21 @@ TEST_F(AutoNumberTest, GreatestNumberThereIsEndsTheCounting) {
         EXPECT_FAILS(ErrorCode::Overflow, prova.insert(Row{std::string("nuova"), {}}));
     EXPECT_OK(database->commit());
     EXPECT_FAILS(ErrorCode::Overflow, prova.takeAutoNumber());
+}
+
+TEST_F(AutoNumberTest, RowIsRefusedWhereAnotherFieldHasTheNumbersPlace) {
+    create(path()).reset();
+    jettables::addTable(path(), "prova", {{"numero", Type::Long, 0, true}, {"testo", Type::Text, 20}}, {});
+    std::string bytes = bytesOf(path());
+    const size_t at = table(*open(path()), "prova").definition().page * pageSize;
+    bytes[at + definition::indexCounts + 15] = 0x06;  // not fixed: first of the variable ones
+    writeBytes(path(), bytes);
+    const DatabasePtr database = open(path());
+    EXPECT_OK(database->begin());
+    EXPECT_FAILS(ErrorCode::DamagedDatabase,
+                 table(*database, "prova").insert(Row{int64_t{5}, std::string("a")}));
+    EXPECT_OK(database->commit());
+    EXPECT_EQ(bytesOf(path()), bytes);
 }
 
 }  // namespace auto_number_test
