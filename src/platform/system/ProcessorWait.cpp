@@ -15,14 +15,16 @@ constexpr qint64 nanosecondsPerMillisecond = 1'000'000;
 }  // namespace
 
 ProcessorWait::ProcessorWait(qint64 process)
-    : m_threads(QStringLiteral("/proc/%1/task").arg(process)), m_before(waits()) {}
+    : m_threads(QStringLiteral("/proc/%1/task").arg(process)), m_before(waits()) {
+    m_elapsed.start();
+}
 
 qint64 ProcessorWait::milliseconds() const {
-    qint64 longest = 0;
+    qint64 sum = 0;
     const Waits now = waits();
     for (auto thread = now.cbegin(); thread != now.cend(); ++thread)
-        longest = std::max(longest, thread.value() - m_before.value(thread.key()));
-    return longest / nanosecondsPerMillisecond;
+        sum += thread.value() - m_before.value(thread.key());
+    return std::min(sum / nanosecondsPerMillisecond, m_elapsed.elapsed());
 }
 
 ProcessorWait::Waits ProcessorWait::waits() const {

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QString>
 
-/// How long a process could have run but had to wait for a processor, since this object was made: the longest
-/// such wait of any of its threads. A process that sleeps, computes or is stopped does not wait.
+/// How long a process could have run but had to wait for a processor, since this object was made: the waits
+/// of all its threads, as one often waits for another, but never more than the time that has passed. A
+/// process that sleeps, computes or is stopped does not wait.
 ///
 /// Source: /proc/PID/task/TID/schedstat, whose second number is the time spent on a run queue in nanoseconds.
 /// Where the kernel does not count it, or there is no such process, the wait is 0.
@@ -21,4 +23,5 @@ class ProcessorWait {
 
     QString m_threads;
     Waits m_before;
+    QElapsedTimer m_elapsed;
 };
