@@ -12,6 +12,9 @@ endif()
 # bytes of source that the compiler gets at once: enough for both cores to have something to do
 set(VESTROLA_TESTS_TOGETHER 60000)
 
+# What lasts longer hangs, however busy the machine is.
+set(VESTROLA_TEST_SECONDS 900)
+
 # The sanitizers find faults of the browser's own, which are none of ours.
 set(VESTROLA_SANITIZER_ENVIRONMENT
     "ASAN_OPTIONS=new_delete_type_mismatch=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
@@ -19,7 +22,7 @@ set(VESTROLA_SANITIZER_ENVIRONMENT
 set(VESTROLA_KEYRING_ENVIRONMENT
     "ASAN_OPTIONS=new_delete_type_mismatch=0:fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/browser.supp")
 set(VESTROLA_WINDOW_ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;${VESTROLA_SANITIZER_ENVIRONMENT}")
+    "QTEST_FUNCTION_TIMEOUT=${VESTROLA_TEST_SECONDS}000;QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1;${VESTROLA_SANITIZER_ENVIRONMENT}")
 
 # what takes more than a quarter of a minute: begins first, so that nothing waits for it at the end
 set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_stallo test_html_view_corpus
@@ -27,8 +30,8 @@ set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_st
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
                         test_jet_open test_import_imptxt_guasti
                         test_contacts_outlook_file test_import_impdb_guasti)
-# Those of them that compute all the time under sanitizers. Of ten tests at a time, two of these run there: with more, the longest
-# would last longer than a test may.
+# Those of them that compute all the time. Of ten tests at a time, two of these run: with more, the longest would last longer than a
+# test may.
 set(VESTROLA_BUSY_TESTS test_message_frmeditor_integro test_html_view_corpus test_jet_random test_ado_samples_write test_jet_room
                         test_jet_index test_jet_samples test_jet_index_kind test_jet_journal test_ado_orders
                         test_import_imptxt_guasti test_import_impdb_guasti)
@@ -113,11 +116,11 @@ function(vestrola_tests program)
     string(REGEX REPLACE "_test$" "" topic ${stem})
     set(name test_${folder}_${topic})
     add_test(NAME ${name} COMMAND ${program} ${stem})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${VESTROLA_TEST_SECONDS})
     if(name IN_LIST VESTROLA_LONG_TESTS)
       set_tests_properties(${name} PROPERTIES COST 100)
     endif()
-    if(VESTROLA_SANITIZE AND name IN_LIST VESTROLA_BUSY_TESTS)
+    if(name IN_LIST VESTROLA_BUSY_TESTS)
       set_tests_properties(${name} PROPERTIES PROCESSORS 4)
     endif()
     if(ARG_WINDOWS)
