@@ -2,6 +2,7 @@
 #pragma once
 
 #include <sched.h>
+#include <sys/resource.h>
 
 #include <atomic>
 #include <cerrno>
@@ -14,7 +15,7 @@
 #include <QString>
 
 /// One processor of the machine that a thread of the test keeps busy, for a while or until the object's end.
-/// A process that is put there gets one part in three hundred of it, and all of it afterwards.
+/// A process that is put there gets one part in seventy of it, and all of it afterwards.
 class BusyProcessor {
   public:
     explicit BusyProcessor(std::chrono::milliseconds duration = std::chrono::hours(1))
@@ -30,11 +31,10 @@ class BusyProcessor {
 
     /// Puts all threads of a process there.
     void take(qint64 process) const {
-        const sched_param none{};
         const QDir threads(QStringLiteral("/proc/%1/task").arg(process));
         for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
             move(thread.toInt());
-            demand(::sched_setscheduler(thread.toInt(), SCHED_IDLE, &none) == 0);
+            demand(::setpriority(PRIO_PROCESS, thread.toUInt(), 19) == 0);
         }
     }
 
