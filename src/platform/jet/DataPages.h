@@ -17,7 +17,7 @@ class DataPageView {
     size_t count() const { return m_count; }
     uint32_t owner() const { return load32(&m_page[data::owner]); }
     size_t freeBytes() const;
-    uint16_t flags(size_t slot) const { return rawSlot(slot) & ~data::offsetMask; }
+    uint16_t flags(size_t slot) const { return rawSlot(slot) & data::flagsMask; }
     /// The bytes of a slot, whatever its flags; a slot that is not there has none.
     std::span<const uint8_t> bytes(size_t slot) const;
     /// Whether a row of that length finds room with a slot of its own.

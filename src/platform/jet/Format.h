@@ -98,6 +98,7 @@ inline constexpr size_t slotCount = 12;
 inline constexpr size_t slots = 14;  // u16 each
 inline constexpr size_t maxSlots = 255;
 inline constexpr uint16_t offsetMask = 0x1FFF;
+inline constexpr uint16_t flagsMask = 0xC000;
 inline constexpr uint16_t notARow = 0x8000;  // alone: body of a moved row
 inline constexpr uint16_t pointer = 0x4000;  // alone: the row has moved, 4 bytes say where
 inline constexpr uint16_t deleted = 0xC000;

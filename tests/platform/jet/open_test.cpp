@@ -270,6 +270,21 @@ class DamageTest : public OpenTest {
     }
     ~DamageTest() override { setDiskHook({}); }
 
+    static uint8_t* raw(std::string& bytes, size_t at) {
+        return reinterpret_cast<uint8_t*>(bytes.data()) + at;
+    }
+    static size_t slotAt(RowId id) { return id.page * pageSize + data::slots + 2 * size_t{id.slot}; }
+    static size_t rowAt(std::string& bytes, RowId id) {
+        return id.page * pageSize + (load16(raw(bytes, slotAt(id))) & data::offsetMask);
+    }
+    // Of the first data page.
+    static RowId firstMovedRow(std::string& bytes) {
+        for (RowId id{23, 0}; id.slot < data::maxSlots; ++id.slot)
+            if ((load16(raw(bytes, slotAt(id))) & data::deleted) == data::pointer) return id;
+        ADD_FAILURE() << "no moved row in the sample";
+        return {};
+    }
+
     std::string sample() {
         DatabasePtr database = create(path("sample.mdb"));
         Table& recipients = table(*database);
@@ -384,22 +399,40 @@ TEST_F(DamageTest, DefinitionThatPointsToItselfIsDamaged) {
 
 TEST_F(DamageTest, MovedRowThatPointsToItselfIsDamaged) {
     std::string bytes = sample();
-    // The first moved row of the first data page: its pointer is turned to itself.
-    const size_t page = 23 * 4096;
-    for (size_t slot = 0; slot < 200; ++slot) {
-        const auto* raw = reinterpret_cast<const uint8_t*>(bytes.data()) + page + 14 + 2 * slot;
-        if ((load16(raw) & 0xC000) != 0x4000) continue;
-        const size_t at = page + (load16(raw) & 0x1FFF);
-        bytes[at] = static_cast<char>(slot);
-        bytes[at + 1] = 23;
-        bytes[at + 2] = bytes[at + 3] = 0;
-        writeBytes(path(), bytes);
-        DatabasePtr database = open(path());
-        EXPECT_FAILS(ErrorCode::DamagedDatabase,
-                     table(*database).scan([](RowId, const RowView&) { return true; }));
-        return;
-    }
-    FAIL() << "no moved row in the sample";
+    const RowId moved = firstMovedRow(bytes);
+    const size_t at = rowAt(bytes, moved);
+    bytes[at] = static_cast<char>(moved.slot);
+    bytes[at + 1] = static_cast<char>(moved.page);
+    bytes[at + 2] = bytes[at + 3] = 0;
+    writeBytes(path(), bytes);
+    DatabasePtr database = open(path());
+    EXPECT_FAILS(ErrorCode::DamagedDatabase,
+                 table(*database).scan([](RowId, const RowView&) { return true; }));
+}
+
+TEST_F(DamageTest, BitOfASlotThatMeansNothingChangesNothing) {
+    std::string bytes = sample();
+    const RowId moved = firstMovedRow(bytes);
+    const size_t at = rowAt(bytes, moved);
+    const RowId body{load24(raw(bytes, at + 1)), static_cast<uint8_t>(bytes[at])};
+    writeBytes(path(), bytes);
+    const auto rows = [&](Database& database) {
+        size_t count = 0;
+        EXPECT_OK(table(database).scan([&](RowId, const RowView&) { return ++count > 0; }));
+        return count;
+    };
+    const size_t all = rows(*open(path()));
+    for (const RowId id : {moved, body})
+        *raw(bytes, slotAt(id) + 1) |= 0x20;
+    writeBytes(path(), bytes);
+    DatabasePtr database = open(path());
+    EXPECT_EQ(rows(*database), all);
+    EXPECT_OK(database->begin());
+    EXPECT_OK(table(*database).erase(moved));
+    EXPECT_OK(database->commit());
+    EXPECT_EQ(rows(*database), all - 1);
+    database.reset();
+    EXPECT_EQ(checkJetFile(path()), std::vector<std::string>());
 }
 
 TEST_F(DamageTest, IndexThatGoesRoundInCirclesIsDamaged) {
