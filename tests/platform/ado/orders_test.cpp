@@ -6,6 +6,7 @@
 
 #include "platform/ado/StatementText.h"
 #include "platform/jet/GeneralOrder.h"
+#include "support/Repetitions.h"
 #include "TestDatabase.h"
 
 namespace orders_test {
@@ -16,11 +17,7 @@ const char* const queue =
     "SELECT * FROM [tb_destinatari] WHERE [sel] = True ORDER BY rgs ASC, email ASC, nom ASC, loc ASC, ind "
     "ASC;";
 
-#ifdef VESTROLA_SANITIZED
-constexpr int longList = 20000;  // everything takes ten times as long there
-#else
-constexpr int longList = 100000;
-#endif
+constexpr int longList = testing_support::repetitions(100000);
 
 /// Enough rows that an order of them is updated, not rebuilt, after a change from outside.
 constexpr int mendedList = 15000;
@@ -191,7 +188,7 @@ TEST_F(OrdersTest, ALongListIsRightWhateverTwoProgramsChange) {
     const char* groupListing = "SELECT * FROM tb_destinatari WHERE id_grp = 2 ORDER BY rgs ASC;";
     std::mt19937 random(17);
     const auto some = [&] { return static_cast<int32_t>(1 + random() % 300); };
-    for (int round = 0; round < 12; ++round) {
+    for (int round = 0; round < testing_support::repetitions(20); ++round) {
         if (round % 4 != 3)
             ids(groupListing);  // else a change from outside reaches the orders before it is noticed
         ASSERT_EQ(ids(queue), expected(1, -1)) << round;

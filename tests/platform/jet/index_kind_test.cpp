@@ -4,6 +4,7 @@
 
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
+#include "support/Repetitions.h"
 
 namespace index_kind_test {
 
@@ -114,7 +115,7 @@ TEST_F(AllTypesTest, ThousandsOfChangesKeepEveryIndexRight) {
     Rows model;
     for (int round = 0; round < 12; ++round) {
         EXPECT_OK(database->begin());
-        for (int i = 0; i < 250; ++i) {
+        for (int i = 0; i < testing_support::repetitions(250); ++i) {
             const int what = number(100);
             if (what < 60 || model.empty()) {
                 Row row = randomRow();

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "platform/jet/IndexPage.h"
+#include "support/Repetitions.h"
 
 namespace index_page_test {
 
@@ -125,7 +126,7 @@ TEST(AppendedEntry, HasToBeGreaterThanTheLastOne) {
 
 TEST(AppendedEntry, StaysInsideOfAPageThatNobodyWrote) {
     std::mt19937 random(11);
-    for (int round = 0; round < 20000; ++round) {
+    for (int round = 0; round < testing_support::repetitions(20000); ++round) {
         auto page = std::make_unique<jet::Page>();  // on the heap, where sanitizers see its ends
         for (auto& byte : *page)
             byte = static_cast<uint8_t>(random() % 4 ? 0 : random());

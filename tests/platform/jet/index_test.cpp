@@ -10,10 +10,14 @@
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/Key.h"
 #include "platform/jet/UsageMap.h"
+#include "support/Repetitions.h"
 
 namespace index_test {
 
 using namespace jet;
+
+constexpr int32_t manyKeys = testing_support::repetitions(100000);
+constexpr int32_t someKeys = manyKeys / 5;
 
 class IndexTest : public JetTest {
   protected:
@@ -53,50 +57,53 @@ class IndexTest : public JetTest {
     DatabasePtr database;
 };
 
-TEST_F(IndexTest, HundredThousandAscendingKeys) {
-    insertIds(numbers(1, 100001));
-    for (int32_t id : {1, 2, 500, 50000, 99999, 100000})
+TEST_F(IndexTest, ManyAscendingKeys) {
+    insertIds(numbers(1, manyKeys + 1));
+    for (int32_t id : {1, 2, 500, manyKeys / 2, manyKeys - 1, manyKeys})
         expectFound(id);
-    EXPECT_FALSE(table(*database, "tb_gruppi").findByPrimaryKey(100001).value().has_value());
+    EXPECT_FALSE(table(*database, "tb_gruppi").findByPrimaryKey(manyKeys + 1).value().has_value());
     EXPECT_FALSE(table(*database, "tb_gruppi").findByPrimaryKey(0).value().has_value());
     expectSound(path());
 }
 
-TEST_F(IndexTest, HundredThousandRandomKeys) {
+TEST_F(IndexTest, ManyRandomKeys) {
+    constexpr int32_t half = manyKeys / 2;
+    constexpr int32_t most = manyKeys * 3 / 5;
     std::mt19937 random(11);
-    std::vector<int32_t> ids = numbers(-50000, 50000);
+    std::vector<int32_t> ids = numbers(-half, half);
     std::shuffle(ids.begin(), ids.end(), random);
     insertIds(ids);
-    for (int32_t id : {-50000, -1, 0, 1, 49999})
+    for (int32_t id : {-half, -1, 0, 1, half - 1})
         expectFound(id);
     expectSound(path());
     std::shuffle(ids.begin(), ids.end(), random);
-    eraseIds({ids.begin(), ids.begin() + 60000});
+    eraseIds({ids.begin(), ids.begin() + most});
     expectSound(path());
-    expectFound(ids[60000]);
-    eraseIds({ids.begin() + 60000, ids.end()});
+    expectFound(ids[most]);
+    eraseIds({ids.begin() + most, ids.end()});
     expectSound(path());
     EXPECT_EQ(rootType(), LeafPage) << "the emptied index did not come back to one leaf";
     EXPECT_TRUE(rowsOf(table(*database, "tb_gruppi")).empty());
 }
 
 TEST_F(IndexTest, DescendingInsertion) {
-    std::vector<int32_t> ids = numbers(1, 20001);
+    std::vector<int32_t> ids = numbers(1, someKeys + 1);
     std::reverse(ids.begin(), ids.end());
     insertIds(ids);
     expectSound(path());
-    for (int32_t id : {1, 777, 20000})
+    for (int32_t id : {1, 777, someKeys})
         expectFound(id);
 }
 
 TEST_F(IndexTest, EmptiedLeavesAreGivenBackAndUsedAgain) {
-    insertIds(numbers(1, 20001));
-    eraseIds(numbers(1, 15001));
+    constexpr int32_t most = someKeys * 3 / 4;
+    insertIds(numbers(1, someKeys + 1));
+    eraseIds(numbers(1, most + 1));
     expectSound(path());
     const size_t before = bytesOf(path()).size();
-    eraseIds(numbers(15001, 20001));
+    eraseIds(numbers(most + 1, someKeys + 1));
     expectSound(path());
-    insertIds(numbers(30001, 32001));
+    insertIds(numbers(30001, 30001 + someKeys / 10));
     expectSound(path());
     EXPECT_EQ(bytesOf(path()).size(), before);
 }

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 
 #include "platform/jet/JournalFixture.h"
+#include "support/Repetitions.h"
 
 namespace journal_test {
 
@@ -15,7 +16,7 @@ TEST_F(JournalTest, FailureOfAnyStepLeavesTheStateBefore) {
         for (const size_t cachedPages : {size_t{8192}, size_t{12}}) {
             bool reachedEnd = false;
             int last = 0;
-            for (int k = 0; !reachedEnd; ++k) {
+            for (int k = 0; !reachedEnd; k += testing_support::stride) {
                 int step = 0;
                 bool harmless = false;
                 bool fileSynced = false;

@@ -7,6 +7,7 @@
 
 #include "platform/jet/JetFixture.h"
 #include "platform/jet/OutsideReaders.h"
+#include "support/Repetitions.h"
 
 namespace random_test {
 
@@ -14,7 +15,7 @@ using namespace jet;
 
 class RandomTest : public JetTest {
   protected:
-    static constexpr int changes = 5000;
+    static constexpr int changes = testing_support::repetitions(5000);
     static constexpr int perTransaction = 100;
 
     std::mt19937 random{20240229};
@@ -195,7 +196,7 @@ class RandomTest : public JetTest {
     }
     static int operations() {
         const char* wanted = std::getenv("VESTROLA_OPERATIONS");
-        return wanted ? std::atoi(wanted) : 20000;
+        return wanted ? std::atoi(wanted) : testing_support::repetitions(20000);
     }
 };
 

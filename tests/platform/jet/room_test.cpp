@@ -5,6 +5,7 @@
 #include "platform/jet/Format.h"
 #include "platform/jet/JetFixture.h"
 #include "support/JetTables.h"
+#include "support/Repetitions.h"
 
 namespace room_test {
 
@@ -96,7 +97,8 @@ class RowLengthTest : public RoomTest, public ::testing::WithParamInterface<Leng
     }
     // Enough rows for some hundred pages.
     static int count() {
-        return static_cast<int>(std::min<size_t>(4000, 800000 / ((GetParam().least + GetParam().most) / 2)));
+        const auto length = static_cast<int>(GetParam().least + GetParam().most) / 2;
+        return testing_support::repetitions(std::min(4000, 800000 / length));
     }
 };
 

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "platform/mail/QuotedPrintable.h"
+#include "support/Repetitions.h"
 
 namespace quoted_printable_test {
 
@@ -52,7 +53,7 @@ QByteArray quoted(const QByteArray& text) {
 TEST(QuotedPrintable, IsTheSameAsOctetByOctet) {
     // Long plain stretches, so that lines break within them, and each octet in between
     std::mt19937 random(7);
-    for (int round = 0; round < 30000; ++round) {
+    for (int round = 0; round < testing_support::repetitions(30000); ++round) {
         QByteArray text;
         for (auto stretches = random() % 8; stretches > 0; --stretches) {
             for (auto left = random() % 90; left > 0; --left)

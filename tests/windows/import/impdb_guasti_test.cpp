@@ -18,7 +18,8 @@ using namespace testing_support;
 
 namespace {
 
-constexpr int manyRecords = 20000;
+// more than two of the groups of 5000 rows that go to disk together
+constexpr int manyRecords = 12000;
 
 /// Opens a recipient database with many rows as the source: "n1@x.it", "n2@x.it", …
 void openLongSource(DbStage& stage) {

@@ -51,7 +51,7 @@ class TestIntegro : public QObject {
         QVERIFY(names.size() >= 30);
         for (const QString& name : names)
             QTest::newRow(qPrintable(name)) << contentOf(corpus.filePath(name));
-        QTest::newRow("catalogue of 2.5 MB") << largeNewsletter();
+        QTest::newRow("whole catalogue") << largeNewsletter();
     }
     void aNewsletterStaysAsItWasOpened() {
         QFETCH(QString, html);
@@ -65,14 +65,11 @@ class TestIntegro : public QObject {
         stage().start("cmdSalva");
         const QByteArray saved = stage().bytes("n.mss");
         QCOMPARE(QString::fromLatin1(bodyOf(saved)).count(":::"), html.count(":::"));
-        const int rounds = html.size() > 1'000'000 ? 1 : 2;
-        for (int round = 0; round < rounds; ++round) {
-            reopen("n.mss");
-            throughTheTabs();
-            QVERIFY(stage().design().documentHTML().value() == first);
-            stage().start("cmdSalva");
-            QVERIFY(stage().bytes("n.mss") == saved);
-        }
+        reopen("n.mss");
+        throughTheTabs();
+        QVERIFY(stage().design().documentHTML().value() == first);
+        stage().start("cmdSalva");
+        QVERIFY(stage().bytes("n.mss") == saved);
     }
 
     void whatTheCodePageDoesNotContainSurvivesAsAReference() {
