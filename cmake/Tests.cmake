@@ -10,7 +10,7 @@ if(VESTROLA_SANITIZE)
 endif()
 
 # bytes of source that the compiler gets at once: enough for both cores to have something to do
-set(VESTROLA_TESTS_TOGETHER 60000)
+set(VESTROLA_TESTS_TOGETHER 150000)
 
 # What lasts longer hangs, however busy the machine is.
 set(VESTROLA_TEST_SECONDS 900)
