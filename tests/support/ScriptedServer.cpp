@@ -144,6 +144,7 @@ void ScriptedServer::step(const QByteArray& line) {
         ++m_waits;
         waitForEnd();
     } else if (line == "HOLD") {
+        ++m_waits;
         pollfd watched{int(m_socket->socketDescriptor()), POLLRDHUP, 0};
         while (!isInterruptionRequested() && ::poll(&watched, 1, sliceMs) == 0) {
         }

@@ -51,7 +51,7 @@ class ScriptedServer : public QThread {
     /// Waits until every dialogue was played and returns the deviations from the script; empty: none.
     std::string remainder();
 
-    /// How often a dialogue has come to a WAIT or a GATE.
+    /// How often a dialogue has come to a WAIT, a HOLD or a GATE.
     int waits() const { return m_waits; }
 
     /// How many dialogues have ended, their connections closed by the server or by both.

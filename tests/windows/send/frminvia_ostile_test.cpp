@@ -74,10 +74,30 @@ class HostileStage {
         bool painted = false;
         EventWatch watch(stage.window.get(), QEvent::Paint, [&] { painted = true; });
         stage.window->update();
-        return QTest::qWaitFor([&] { return painted; }, 5000);
+        return QTest::qWaitFor([&] { return painted; }, 60000);
     }
 
     SendStage stage;
+};
+
+/// Stops the run as soon as the server waits for the client.
+class StopOnceItWaits {
+  public:
+    StopOnceItWaits(HostileStage& hostile, const ScriptedServer& server) {
+        QObject::connect(&m_watch, &QTimer::timeout, [&] {
+            if (server.waits() == 0) return;
+            m_watch.stop();
+            m_wasAlive = hostile.isAlive();
+            hostile.stage.click("cmdFerma");
+        });
+        m_watch.start(5);
+    }
+    /// Whether the window still painted itself then.
+    bool wasAlive() const { return m_wasAlive; }
+
+  private:
+    QTimer m_watch;
+    bool m_wasAlive = false;
 };
 
 QByteArrayList without(QByteArrayList lines, int last) {
@@ -143,17 +163,9 @@ class TestFrmInviaOstile : public QObject {
         SendStage& stage = hostile.stage;
         stage.pick();
         stage.start();
-        bool alive = false;
-        QTimer watch;
-        QObject::connect(&watch, &QTimer::timeout, [&] {
-            if (server.waits() == 0 || alive) return;
-            watch.stop();
-            alive = hostile.isAlive();
-            stage.click("cmdFerma");
-        });
-        watch.start(5);
+        const StopOnceItWaits stop(hostile, server);
         QVERIFY(stage.waitForEnd());
-        QVERIFY(alive);
+        QVERIFY(stop.wasAlive());
         QCOMPARE(stage.counters(), (QList<double>{double(1 - served), 1, double(served)}));
         stage.start();
         QVERIFY(stage.waitForEnd());
@@ -193,13 +205,9 @@ class TestFrmInviaOstile : public QObject {
         text.CorpoHTML = "<p>Buongiorno</p>";
         stage.pick(stage.folder.writeMessage("grande.mss", text));
         stage.start();
-        bool alive = false;
-        QTimer::singleShot(1500, [&] {
-            alive = hostile.isAlive();
-            stage.click("cmdFerma");
-        });
+        const StopOnceItWaits stop(hostile, server);
         QVERIFY(stage.waitForEnd());
-        QVERIFY(alive);
+        QVERIFY(stop.wasAlive());
         QCOMPARE(stage.counters(), (QList<double>{1, 1, 0}));
         stage.start();
         QVERIFY(stage.waitForEnd());
