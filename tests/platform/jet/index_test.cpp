@@ -146,7 +146,7 @@ TEST_F(IndexTest, KeyThatADamagedRootLeadsToTheWrongLeafIsInserted) {
 }
 
 TEST_F(IndexTest, RootPageNumberNeverChanges) {
-    insertIds(numbers(1, 30001));
+    insertIds(numbers(1, someKeys + 1));
     EXPECT_EQ(rootType(), NodePage);
     database = open(path());
     EXPECT_EQ(table(*database, "tb_gruppi").definition().indexes[0].rootPage, 18u);
