@@ -26,7 +26,7 @@ class NamesAsked : public QUdpSocket {
     QByteArrayList soFar() {
         const QByteArray last = "fine" + QByteArray::number(++m_calls) + ".example";
         QHostInfo::lookupHost(QString::fromLatin1(last), this, [](const QHostInfo&) {});
-        if (!QTest::qWaitFor([&] { return m_names.contains(last); }, 30000)) qFatal("no name is asked for");
+        if (!QTest::qWaitFor([&] { return m_names.contains(last); }, 60000)) qFatal("no name is asked for");
         QByteArrayList before = m_names.mid(0, m_names.indexOf(last));
         m_names.clear();
         return before;

@@ -76,7 +76,7 @@ void SendStage::start() {
 }
 
 bool SendStage::waitForEnd() {
-    return QTest::qWaitFor([this] { return enabled("cmdInvia") && !timer().isActive(); }, 30000);
+    return QTest::qWaitFor([this] { return enabled("cmdInvia") && !timer().isActive(); }, 60000);
 }
 
 bool SendStage::run() {

@@ -7,6 +7,12 @@
 
 #include "platform/text/Language.h"
 
+// A busy machine needs longer than the five seconds that Qt Test waits.
+#undef QTRY_VERIFY
+#define QTRY_VERIFY(expression) QTRY_VERIFY_WITH_TIMEOUT((expression), 60000)
+#undef QTRY_COMPARE
+#define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), 60000)
+
 namespace testing_support {
 
 /// Runs a class in an application of its own; arguments and result are those of QTest::qExec.

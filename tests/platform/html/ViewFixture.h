@@ -34,7 +34,7 @@ inline void settle(const HtmlView& view) {
         const QString count = QStringLiteral("globalThis.%1Events").arg(QLatin1String(event));
         const int before = view.evaluate(count + QStringLiteral(" || 0")).toInt();
         act();
-        if (!QTest::qWaitFor([&] { return view.evaluate(count).toInt() > before; }, 30000))
+        if (!QTest::qWaitFor([&] { return view.evaluate(count).toInt() > before; }, 60000))
             qFatal("no %s in the page", event);
     };
     happens("move", [&] {
@@ -76,7 +76,7 @@ inline void endBrowserOf(const HtmlView& view) {
     const QPointer<QObject> page = view.findChild<QObject*>(QStringLiteral("page"));
     const QVariant process = page->property("renderProcessPid");
     killRenderer(view);
-    if (!QTest::qWaitFor([&] { return !page || page->property("renderProcessPid") != process; }, 30000))
+    if (!QTest::qWaitFor([&] { return !page || page->property("renderProcessPid") != process; }, 60000))
         qFatal("the end of the process is not noticed");
     QCoreApplication::processEvents();  // an event reports it to the view
 }

@@ -66,7 +66,7 @@ class Spooler {
         m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
         m_process.start("/usr/sbin/cupsd", {"-f", "-c", folder.filePath("etc/cupsd.conf"), "-s",
                                             folder.filePath("etc/cups-files.conf")});
-        if (!QTest::qWaitFor([&] { return QFile::exists(socket); }, 30000)) qFatal("no spooler");
+        if (!QTest::qWaitFor([&] { return QFile::exists(socket); }, 60000)) qFatal("no spooler");
         qputenv("CUPS_SERVER", socket.toLocal8Bit());
         toolOutput("/usr/sbin/lpadmin", {"-p", "banco", "-E", "-v", "file:///dev/null", "-m", "raw"});
         toolOutput("/usr/sbin/lpadmin", {"-d", "banco"});

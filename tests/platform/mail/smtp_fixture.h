@@ -54,7 +54,9 @@ class Client {
     }
 
     void waitForOutcome() {
-        QTimer::singleShot(20000, &m_loop, &QEventLoop::quit);
+        QTimer limit;
+        QObject::connect(&limit, &QTimer::timeout, &m_loop, &QEventLoop::quit);
+        limit.start(patienceMs);
         if (heard.isEmpty()) m_loop.exec();
     }
 
@@ -68,7 +70,7 @@ class Client {
     /// Lets the event loop run until the condition is true, with a limit.
     template <class Condition>
     static bool turnUntil(Condition condition) {
-        const QDeadlineTimer patience(20000);
+        const QDeadlineTimer patience(patienceMs);
         while (!condition()) {
             if (patience.hasExpired()) return false;
             turn();
@@ -85,6 +87,7 @@ class Client {
         m_loop.quit();
     }
 
+    static constexpr int patienceMs = 120000;  // a busy machine is slow
     QEventLoop m_loop;
 };
 

@@ -56,7 +56,7 @@ class BrowserStage : public AccountStage {
     /// The address that the desktop was asked to open since the last call.
     QUrl opened() const {
         QFile noted(m_bin.filePath("aperta"));
-        if (!QTest::qWaitFor([&] { return noted.exists(); }, 20000)) qFatal("nothing was opened");
+        if (!QTest::qWaitFor([&] { return noted.exists(); }, 60000)) qFatal("nothing was opened");
         if (!noted.open(QIODevice::ReadOnly)) qFatal("cannot read the address");
         const QUrl address(QString::fromUtf8(noted.readAll()));
         noted.remove();
@@ -68,7 +68,7 @@ class BrowserStage : public AccountStage {
         browser.connectToHost(QHostAddress::LocalHost, quint16(address.port()));
         browser.write("GET " + address.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority) +
                       " HTTP/1.1\r\n\r\n");
-        if (!QTest::qWaitFor([&] { return browser.state() == QAbstractSocket::UnconnectedState; }, 20000))
+        if (!QTest::qWaitFor([&] { return browser.state() == QAbstractSocket::UnconnectedState; }, 60000))
             qFatal("the listener does not answer");
     }
     bool waiting() const { return link().text() == waitingText; }

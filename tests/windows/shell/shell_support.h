@@ -42,9 +42,9 @@ class Opener {
     }
     ~Opener() { qputenv("PATH", m_path); }
 
-    /// What was opened; empty when nothing was within ten seconds.
+    /// What was opened; empty when nothing was within a minute.
     QString opened() const {
-        return QTest::qWaitFor([this] { return QFile::exists(log()); }, 10000)
+        return QTest::qWaitFor([this] { return QFile::exists(log()); }, 60000)
                    ? QString::fromUtf8(readFile(log())).trimmed()
                    : QString();
     }

@@ -47,7 +47,7 @@ class TestFrmProva : public QObject {
         const auto search = [&](const QString& text) {
             stage.its<QLineEdit>("txtCerca")->setText(text);
             QTest::keyClick(stage.its<QLineEdit>("txtCerca"), Qt::Key_Return);
-            return QTest::qWaitFor([&] { return !stage.its<QTimer>("tmrRicerca")->isActive(); }, 10000);
+            return QTest::qWaitFor([&] { return !stage.its<QTimer>("tmrRicerca")->isActive(); }, 60000);
         };
         QVERIFY(search("GINO"));
         QCOMPARE(stage.line("txtOggetto"), "Gamma");
@@ -207,7 +207,7 @@ class TestFrmProva : public QObject {
     void inputWidgetOfTheMessageIsNamedAsItsView() {
         ProvaStage stage(threeRecipients());
         const HtmlView& view = *stage.its<HtmlView>("HTML");
-        QVERIFY(QTest::qWaitFor([&] { return view.inputWidget() != nullptr; }, 30000));
+        QVERIFY(QTest::qWaitFor([&] { return view.inputWidget() != nullptr; }, 60000));
         QCOMPARE(view.inputWidget()->accessibleName(), "Messaggio in HTML");
     }
 

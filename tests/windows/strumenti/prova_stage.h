@@ -50,7 +50,7 @@ class ProvaStage : public SendStage {
     }
     /// Waits until the values of all recipients are checked.
     bool counted() {
-        return QTest::qWaitFor([this] { return !its<QTimer>("tmrControllo")->isActive(); }, 10000);
+        return QTest::qWaitFor([this] { return !its<QTimer>("tmrControllo")->isActive(); }, 60000);
     }
     /// The findings as they are listed.
     QStringList findings() {
@@ -70,7 +70,7 @@ class ProvaStage : public SendStage {
     /// Sends the test copy and waits for its outcome.
     bool sendCopy() {
         press("cmdInviaProva");
-        return QTest::qWaitFor([this] { return its<QPushButton>("cmdInviaProva")->isEnabled(); }, 30000);
+        return QTest::qWaitFor([this] { return its<QPushButton>("cmdInviaProva")->isEnabled(); }, 60000);
     }
 
   private:
