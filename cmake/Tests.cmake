@@ -28,7 +28,7 @@ set(VESTROLA_WINDOW_ENVIRONMENT
 set(VESTROLA_LONG_TESTS test_message_frmeditor_integro test_message_frmeditor_stallo test_html_view_corpus
                         test_mail_smtp_stages test_mail_smtp_idle test_mail_smtp_hostile test_mail_smtp_dialogue
                         test_message_frmeditor_recupero test_jet_random test_ado_samples_write test_jet_room test_jet_index
-                        test_jet_open test_import_imptxt_guasti
+                        test_jet_damage test_import_imptxt_guasti
                         test_contacts_outlook_file test_import_impdb_guasti)
 # Those of them that compute all the time. Of ten tests at a time, two of these run: with more, the longest would last longer than a
 # test may.
